@@ -1,0 +1,89 @@
+# How every target of the tree is made: one standard, one set of warnings, one way to say what it sees.
+option(QUELLIN_PCH "Precompile the standard and Qt Core headers" ON)
+option(QUELLIN_WERROR "Treat warnings as errors" ON)
+option(QUELLIN_BENCH "Build the benchmarks" OFF)
+option(QUELLIN_FUZZ "Build the fuzz targets (clang)" OFF)
+set(QUELLIN_SANITIZE "" CACHE STRING "Sanitizers to build with, comma-separated: address,undefined or thread")
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+find_program(QUELLIN_CCACHE ccache)
+if(QUELLIN_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_NOHASHDIR=1 ${QUELLIN_CCACHE})
+endif()
+
+if(QUELLIN_SANITIZE)
+    add_compile_options(-fsanitize=${QUELLIN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${QUELLIN_SANITIZE})
+endif()
+
+# What all of our own code is compiled with; code that a tool generates gets it too.
+add_library(guide_options INTERFACE)
+target_compile_options(guide_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+                                               -Woverloaded-virtual -Wcast-qual -Wimplicit-fallthrough)
+if(QUELLIN_WERROR)
+    target_compile_options(guide_options INTERFACE -Werror)
+endif()
+if(QUELLIN_PCH AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # ccache can only reuse an object made with a precompiled header when the header's use stays visible.
+    target_compile_options(guide_options INTERFACE -fpch-preprocess)
+endif()
+target_compile_definitions(guide_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
+                                                   QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH)
+
+function(guide_precompile TARGET)
+    if(QUELLIN_PCH)
+        target_precompile_headers(${TARGET} PRIVATE <algorithm> <chrono> <functional> <memory> <mutex> <optional>
+                                  <string> <string_view> <unordered_map> <vector> <QByteArray> <QString>)
+    endif()
+endfunction()
+
+# guide_folder(NAME SOURCES … [LINKS …])
+#
+# The static library guide_NAME of the folder src/NAME. Its headers are included as "NAME/Header.h", and only a
+# target that links it can find them: each folder is reached through a link of its own under the build folder.
+function(guide_folder NAME)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    string(REPLACE "/" "_" TARGET_NAME ${NAME})
+    set(TARGET guide_${TARGET_NAME})
+    add_library(${TARGET} STATIC ${ARG_SOURCES})
+    guide_expose(${TARGET} ${NAME} PUBLIC)
+    target_link_libraries(${TARGET} PUBLIC ${ARG_LINKS} PRIVATE guide_options)
+    guide_precompile(${TARGET})
+endfunction()
+
+# Lets TARGET include the headers of src/FOLDER as "FOLDER/Header.h".
+function(guide_expose TARGET FOLDER SCOPE)
+    string(REGEX REPLACE "/.*" "" TOP ${FOLDER})
+    set(ROOT ${CMAKE_BINARY_DIR}/include/${TOP})
+    file(MAKE_DIRECTORY ${ROOT})
+    if(NOT EXISTS ${ROOT}/${TOP})
+        file(RELATIVE_PATH WAY ${ROOT} ${PROJECT_SOURCE_DIR}/src/${TOP})
+        file(CREATE_LINK ${WAY} ${ROOT}/${TOP} SYMBOLIC)
+    endif()
+    target_include_directories(${TARGET} ${SCOPE} ${ROOT})
+endfunction()
+
+# guide_tests(NAME SOURCES … [LINKS …] [LABELS …])
+#
+# One GoogleTest program a folder, guide_NAME_tests, each test known to ctest by its own name.
+# Tests run with an awkward zone and locale unless they set their own.
+function(guide_tests NAME)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;LABELS" ${ARGN})
+    set(TARGET guide_${NAME}_tests)
+    add_executable(${TARGET} ${ARG_SOURCES})
+    target_include_directories(${TARGET} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_compile_definitions(${TARGET} PRIVATE QUELLIN_TEST_DATA="${PROJECT_SOURCE_DIR}/tests"
+                                                 QUELLIN_SOURCE_DATA="${PROJECT_SOURCE_DIR}/data")
+    target_link_libraries(${TARGET} PRIVATE ${ARG_LINKS} guide_options GTest::gtest GTest::gtest_main)
+    guide_precompile(${TARGET})
+    include(GoogleTest)
+    gtest_discover_tests(${TARGET} DISCOVERY_TIMEOUT 120
+                         PROPERTIES TIMEOUT 120 LABELS "${ARG_LABELS}"
+                         ENVIRONMENT "TZ=Australia/Lord_Howe;LC_ALL=C.UTF-8;QT_QPA_PLATFORM=offscreen")
+endfunction()

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/ChannelDictionary.h"
+#include "core/TVChannel.h"
+#include "platform/DispatchQueue.h"
+#include "platform/Folders.h"
+#include "platform/KeyValueStore.h"
+
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+namespace guide {
+
+/// The user's selection of channels, in the user's order, kept in the documents folder and mirrored to the
+/// key-value store, with a record for each selected channel that the catalogue knows.
+///
+/// Readers get a snapshot and never wait for a write to the disk; a change is visible when setSelected returns and
+/// is written behind it, in order.
+class TVChannels {
+  public:
+    TVChannels(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues,
+               SharedChannelData channelData);
+    ~TVChannels();
+
+    /// The selected channels; empty when there are none or the file cannot be read. Any thread.
+    std::vector<ObjectId> selected() const;
+
+    /// Replaces the selection. An equal one writes nothing. Any thread.
+    void setSelected(std::vector<ObjectId> selected);
+
+    /// The record of a selected channel; null when it is not selected or not in the catalogue. Any thread.
+    std::shared_ptr<TVChannel> channelWithChannelId(const ObjectId& channel) const;
+
+    /// Blocks until what setSelected has put off is written: for the end of the program.
+    void finishWriting();
+
+  private:
+    struct State;
+    std::unique_ptr<State> m_state;
+};
+
+} // namespace guide

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/DispatchQueue.h"
+
+#include <QString>
+
+#include <cstdint>
+
+namespace guide {
+
+using BackgroundTaskId = std::uint64_t;
+inline constexpr BackgroundTaskId kBackgroundTaskInvalid = 0;
+
+/// Work that the device lets finish after the program has left the foreground. May be called from any thread.
+class BackgroundTasks {
+  public:
+    virtual ~BackgroundTasks() = default;
+    /// The handler is called once, on any thread, when the device will wait no longer. It has to end the task.
+    virtual BackgroundTaskId beginBackgroundTask(Block expirationHandler) = 0;
+    /// Ending an invalid or ended task does nothing.
+    virtual void endBackgroundTask(BackgroundTaskId task) = 0;
+};
+
+} // namespace guide

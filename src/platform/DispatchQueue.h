@@ -1,0 +1,100 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace guide {
+
+using Block = std::function<void()>;
+
+/// The service classes of work: what runs first when there is more work than workers.
+enum class QueuePriority { Background = 9, Default = 21, UserInitiated = 25 };
+
+enum class QueueKind { Serial, Concurrent };
+
+/// Keeps a queue suspended for as long as it lives. Move-only: each suspension is resumed exactly once, also when
+/// the block that holds the token is dropped without having run.
+class SuspensionToken {
+  public:
+    SuspensionToken() = default;
+    explicit SuspensionToken(Block resume) : m_resume(std::move(resume)) {}
+    SuspensionToken(SuspensionToken&& other) noexcept : m_resume(std::exchange(other.m_resume, nullptr)) {}
+    SuspensionToken& operator=(SuspensionToken&& other) noexcept {
+        if (this != &other) {
+            release();
+            m_resume = std::exchange(other.m_resume, nullptr);
+        }
+        return *this;
+    }
+    ~SuspensionToken() { release(); }
+
+    /// Resumes now rather than at destruction.
+    void release() {
+        if (Block resume = std::exchange(m_resume, nullptr)) {
+            resume();
+        }
+    }
+
+  private:
+    Block m_resume;
+};
+
+/// A queue of blocks. Blocks of a serial queue run one at a time in the order of submission; blocks of a concurrent
+/// queue run in parallel, but a barrier runs alone, after all that came before it and before all that comes after
+/// it (first come, first served). All operations may be called from any thread.
+class DispatchQueue {
+  public:
+    virtual ~DispatchQueue() = default;
+
+    virtual const std::string& label() const = 0;
+
+    virtual void async(Block block) = 0;
+    virtual void asyncAfter(std::chrono::milliseconds delay, Block block) = 0;
+
+    /// Runs the block on the caller's own thread when its turn comes, and returns when it has run. Never needs a
+    /// worker. Must not be called from a block of the same serial queue, nor for the main queue from elsewhere.
+    virtual void sync(const Block& block) = 0;
+
+    /// On a serial queue the same as async and sync.
+    virtual void asyncBarrier(Block block) = 0;
+    virtual void syncBarrier(const Block& block) = 0;
+
+    /// No block begins until every token has gone; a running one goes on. Suspensions nest.
+    [[nodiscard]] virtual SuspensionToken suspend() = 0;
+
+    /// Ends the process with a message when the caller does not run on this queue: a fault of our own, never one
+    /// that input can cause.
+    virtual void assertCurrent() const = 0;
+};
+
+/// A number of blocks to be waited for together.
+class DispatchGroup {
+  public:
+    DispatchGroup();
+
+    /// Submits the block to the queue as a member of this group.
+    void async(DispatchQueue& queue, Block block);
+
+    /// Blocks until every member has run (or has been dropped); false when the time was up first.
+    bool wait(std::optional<std::chrono::milliseconds> atMost = std::nullopt);
+
+  private:
+    struct State;
+    std::shared_ptr<State> m_state;
+};
+
+/// The queues of the process: the main one, the global concurrent one of each service class, and new ones.
+class DispatchQueues {
+  public:
+    virtual ~DispatchQueues() = default;
+    virtual DispatchQueue& mainQueue() = 0;
+    virtual DispatchQueue& globalQueue(QueuePriority priority) = 0;
+    virtual std::shared_ptr<DispatchQueue> makeQueue(std::string label, QueueKind kind,
+                                                     QueuePriority priority = QueuePriority::Default) = 0;
+};
+
+} // namespace guide

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/Moment.h"
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <optional>
+
+namespace guide {
+
+/// Puts the bytes at the path in one step: whoever looks finds the old file or the new one, whole, also when the
+/// process dies or the disk is full. The modification date becomes `modified`, or the system's time without one.
+/// False when it could not be done; the old file then stands as it was and nothing is left beside it.
+bool replaceFile(const QString& path, QByteArrayView content, std::optional<Moment> modified = std::nullopt);
+
+/// The file's modification date; nothing when it is missing or unreadable.
+std::optional<Moment> fileModificationDate(const QString& path);
+
+} // namespace guide

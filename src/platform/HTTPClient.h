@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+#include <chrono>
+#include <optional>
+#include <utility>
+
+namespace guide {
+
+/// What a request may take from the response cache.
+enum class CachePolicy {
+    ReturnCacheDataElseLoad = 2,
+    ReturnCacheDataDontLoad = 3,
+    ReloadIgnoringCache = 1,
+};
+
+struct HTTPRequest {
+    QUrl url;
+    QByteArray method = "GET";
+    QList<std::pair<QByteArray, QByteArray>> headers;
+    QByteArray body;
+    CachePolicy cachePolicy = CachePolicy::ReturnCacheDataElseLoad;
+    /// Ends the transfer when nothing came for so long.
+    std::chrono::milliseconds timeout{20'000};
+    /// Ends the transfer as a whole.
+    std::chrono::milliseconds resourceTimeout{60'000};
+};
+
+struct HTTPResponse {
+    int statusCode = 0;
+    QList<std::pair<QByteArray, QByteArray>> headers;
+
+    /// The value of the named header, compared without case; the last one where it stands twice.
+    std::optional<QByteArray> header(const QByteArray& name) const;
+};
+
+/// Why a transfer brought nothing. Texts for a person, or empty.
+struct TransferError {
+    QString description;
+    QString failureReason;
+    QString recoverySuggestion;
+    bool cancelled = false;
+};
+
+/// What one transfer brought: a response, a body (transfer encodings undone), an error, or a part of these.
+struct TransferResult {
+    std::optional<HTTPResponse> response;
+    QByteArray body;
+    std::optional<TransferError> error;
+};
+
+/// Blocking transfers for background queues; never to be called on the main thread. Only http and https are
+/// opened, redirects are not followed, cookies are kept for the process, and a body past the size bound ends as an
+/// error. Goes through the response cache as the request's policy says. May be called from any thread.
+class HTTPClient {
+  public:
+    virtual ~HTTPClient() = default;
+    virtual TransferResult perform(const HTTPRequest& request) = 0;
+    /// Forgets the cached response of the request's URL.
+    virtual void removeCachedResponse(const HTTPRequest& request) = 0;
+    /// Ends every running transfer with a cancelled error, and every later one at once: the way to shut down.
+    virtual void cancelAll() = 0;
+};
+
+} // namespace guide

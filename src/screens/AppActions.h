@@ -1,0 +1,25 @@
+#pragma once
+
+#include "core/ObjectId.h"
+#include "store/ShowItem.h"
+
+#include <QUrl>
+
+namespace guide {
+
+/// What a screen asks of the application. Main queue.
+class AppActions {
+  public:
+    virtual ~AppActions() = default;
+    virtual void checkAndUpdateAllChannels() = 0;
+    /// Marks the alarms as out of step, then synchronises them.
+    virtual void resynchronizeAlarms() = 0;
+    /// Opens a live stream.
+    virtual void playURL(const QUrl& url) = 0;
+
+    virtual bool imagesEnabled() const = 0;
+    virtual bool colorizedShows() const = 0;
+    virtual int showCount() const = 0;
+};
+
+} // namespace guide
