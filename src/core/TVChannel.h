@@ -29,16 +29,16 @@ class TVChannel {
     bool loading() const;
     void setLoading(bool loading);
 
-    /// When the channel's list was last stored: remembered, or else the modification date of its listing file.
-    /// Nothing when there is no such file.
+    /// When the channel's list was last stored: remembered, or else the modification date of its listing
+    /// file. Nothing when there is no such file.
     std::optional<Moment> timeLoaded() const;
     void setTimeLoaded(std::optional<Moment> timeLoaded);
 
     /// Forgets the load time and deletes the listing file, which makes the channel due.
     void unload();
 
-    /// Whether the list is missing or older than the interval. A list exactly as old as the interval is not due,
-    /// nor is a channel that is being loaded.
+    /// Whether the list is missing or older than the interval. A list exactly as old as the interval is not
+    /// due, nor is a channel that is being loaded.
     bool reloadNeeded(Moment now, std::chrono::seconds automaticUpdateInterval) const;
 
   private:

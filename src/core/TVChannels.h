@@ -17,8 +17,8 @@ namespace guide {
 /// The user's selection of channels, in the user's order, kept in the documents folder and mirrored to the
 /// key-value store, with a record for each selected channel that the catalogue knows.
 ///
-/// Readers get a snapshot and never wait for a write to the disk; a change is visible when setSelected returns and
-/// is written behind it, in order.
+/// Readers get a snapshot and never wait for a write to the disk; a change is visible when setSelected
+/// returns and is written behind it, in order.
 class TVChannels {
   public:
     TVChannels(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues,

@@ -7,8 +7,8 @@
 
 namespace guide {
 
-/// The channel icons by name, each brought to one size on first use: 50 by 36 points, letterboxed, at the main
-/// screen's scale. May be called from any thread.
+/// The channel icons by name, each brought to one size on first use: 50 by 36 points, letterboxed, at the
+/// main screen's scale. May be called from any thread.
 class TVStationIcons {
   public:
     /// `iconFolder` holds one image file an icon, named by the icon, with or without an image's extension.

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/DispatchQueue.h"
+#include "platform/HTTPClient.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace guide {
+
+/// Where alerts appear. Main queue.
+class AlertPresenter {
+  public:
+    virtual ~AlertPresenter() = default;
+    /// Shows an alert with the one action "OK"; the block is called, on the main queue, when it is pressed.
+    virtual void presentAlert(const QString& title, const QString& message, Block okPressed) = 0;
+    /// Ends the player, where one is open.
+    virtual void moviePlayerPlaybackDidFinish() = 0;
+};
+
+/// Tells the user that a server cannot be reached, at most once in 60 seconds. May be used from any thread.
+class RemoteHostAlert {
+  public:
+    /// The presenter and the queue outlive what is posted to the queue.
+    RemoteHostAlert(const Clock& clock, DispatchQueue& mainQueue, AlertPresenter& presenter);
+    ~RemoteHostAlert();
+
+    /// To be called for a transfer that ended in an error and brought no body. Does nothing unless more than
+    /// 60 seconds have passed since the time stamp, which it then sets.
+    void noRemoteHostAlert(const TransferError& error);
+
+    /// Sets the time stamp of the last alert to now: at each activation, so that a device that has just woken
+    /// up gets its connection back in peace.
+    void restartSilence();
+
+  private:
+    struct State;
+    std::shared_ptr<State> m_state;
+};
+
+} // namespace guide

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/DispatchQueue.h"
+
+#include <functional>
+#include <memory>
+
+namespace guide {
+
+/// Counts the running transfers and tells when there are any. May be called from any thread.
+class NetworkActivity {
+  public:
+    /// The indicator is called on the main queue, with true when the first transfer starts and with false
+    /// when the last one ends.
+    NetworkActivity(DispatchQueues& queues, std::function<void(bool visible)> indicator);
+    ~NetworkActivity();
+
+    void startNetworkActivity();
+    /// One without a start does nothing.
+    void stopNetworkActivity();
+
+  private:
+    struct State;
+    std::shared_ptr<State> m_state;
+};
+
+} // namespace guide

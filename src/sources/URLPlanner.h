@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/Moment.h"
+#include "sources/SourceHostTable.h"
+
+#include <QList>
+#include <QString>
+#include <QTimeZone>
+#include <QUrl>
+
+#include <functional>
+#include <optional>
+
+namespace guide {
+
+/// A uniformly random index below the bound. Called from whatever thread plans.
+using RandomIndex = std::function<unsigned(unsigned bound)>;
+
+/// Turns a source id into the URLs whose pages, read together, are its schedule. May be used from any thread
+/// as far as its random source may.
+class URLPlanner {
+  public:
+    URLPlanner(SourceHostTable hosts, RandomIndex random);
+
+    const SourceHostTable& hosts() const { return m_hosts; }
+
+    /// The URLs in the order of fetching, each once: the place of a day's page is its day. Equal lists mean
+    /// one fetch for all their channels. Nothing when the id is none or its host is not in the table. Days
+    /// are counted in steps of 86,400 seconds from `now`. The language takes no part. The device's zone dates
+    /// what belongs to a server without a zone.
+    std::optional<QList<QUrl>> urlsForSourceId(const QString& sourceId, Moment now, const QString& language,
+                                               const QTimeZone& deviceZone) const;
+
+  private:
+    SourceHostTable m_hosts;
+    RandomIndex m_random;
+};
+
+} // namespace guide
