@@ -7,9 +7,12 @@
 #include <QSet>
 #include <QUrl>
 
+#include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace guide {
@@ -28,22 +31,79 @@ struct ExtendedTVEntry {
 /// What a reader hands to the merge: for each channel its shows in the order of reading.
 using ParsedLists = std::unordered_map<ObjectId, std::vector<ExtendedTVEntry>>;
 
-/// One show of a list: the entry, and up to three parts more. Immutable and cheap to copy.
-struct ShowItem {
-    std::shared_ptr<const TVEntry> entry;
-    std::optional<TVListingsCategory> categories;
-    std::shared_ptr<const TVEntrySupplementalData> details;
+/// One show of a list: the entry, and up to three parts more. Immutable; a copy is one shared pointer. A
+/// default-made item has no parts and must not be asked for them.
+class ShowItem {
+  public:
+    ShowItem() = default;
+    explicit ShowItem(std::shared_ptr<const TVEntry> entry,
+                      std::optional<TVListingsCategory> categories = std::nullopt,
+                      std::shared_ptr<const TVEntrySupplementalData> details = nullptr,
+                      QSet<QUrl> pictures = {});
+    /// Takes over what a reader made.
+    explicit ShowItem(ExtendedTVEntry show);
+
+    explicit operator bool() const { return m_parts != nullptr; }
+
+    const std::shared_ptr<const TVEntry>& entry() const { return m_parts->entry; }
+    const std::optional<TVListingsCategory>& categories() const { return m_parts->categories; }
+    const std::shared_ptr<const TVEntrySupplementalData>& details() const { return m_parts->details; }
     /// Any member serves as the picture of a row.
-    std::shared_ptr<const QSet<QUrl>> pictures;
+    const QSet<QUrl>& pictures() const { return m_parts->pictures; }
 
     /// 1 to 4: how far the parts go.
-    int elementCount() const { return pictures ? 4 : details ? 3 : categories ? 2 : 1; }
+    int elementCount() const;
+
+    /// Whether both are the same item, not whether their parts are equal.
+    friend bool operator==(const ShowItem&, const ShowItem&) = default;
+
+  private:
+    struct Parts {
+        std::shared_ptr<const TVEntry> entry;
+        std::optional<TVListingsCategory> categories;
+        std::shared_ptr<const TVEntrySupplementalData> details;
+        QSet<QUrl> pictures;
+    };
+    std::shared_ptr<const Parts> m_parts;
 };
 
 using ShowItems = std::vector<ShowItem>;
 
-/// A list of shows in ascending start time. The vector never changes: a change replaces the list. Null is no list.
+/// A list of shows in ascending start time. The vector never changes: a change replaces the list. Null is no
+/// list.
 using ShowList = std::shared_ptr<const ShowItems>;
+
+/// A stretch of a list, which it keeps alive. Cheap to make and to copy, whatever its length.
+class ShowSpan {
+  public:
+    ShowSpan() = default;
+    /// The whole list; an empty span when it is null.
+    explicit ShowSpan(ShowList list)
+        : m_list(std::move(list))
+        , m_count(m_list ? m_list->size() : 0) {}
+    explicit ShowSpan(ShowItems items)
+        : ShowSpan(std::make_shared<const ShowItems>(std::move(items))) {}
+    /// `first` and `count` lie within the list.
+    ShowSpan(ShowList list, std::size_t first, std::size_t count)
+        : m_list(std::move(list))
+        , m_first(first)
+        , m_count(count) {}
+
+    const ShowItem* begin() const { return m_list ? m_list->data() + m_first : nullptr; }
+    const ShowItem* end() const { return begin() + m_count; }
+    std::size_t size() const { return m_count; }
+    bool empty() const { return m_count == 0; }
+    const ShowItem& operator[](std::size_t index) const { return begin()[index]; }
+
+    /// The first so many shows, or all when there are fewer.
+    ShowSpan prefix(std::size_t count) const { return {m_list, m_first, std::min(count, m_count)}; }
+    ShowItems items() const { return {begin(), end()}; }
+
+  private:
+    ShowList m_list;
+    std::size_t m_first = 0;
+    std::size_t m_count = 0;
+};
 
 /// One channel that a set of pages is read for.
 struct LoadItem {

@@ -14,13 +14,15 @@ namespace guide {
 
 /// One broadcast of one channel.
 ///
-/// The texts come in pairs: a source form with the suffix 1 (and `identificator`), which is stored, and a display
-/// form, which the setter of the source form derives by the alphabet and the language, and which setLanguage
-/// derives anew for all four. While it is being made, an entry belongs to one thread; once in a list it is shared
-/// as a pointer to const and never changes, but for two derived values that are written once.
+/// The texts come in pairs: a source form with the suffix 1 (and `identificator`), which is stored, and a
+/// display form, which the setter of the source form derives by the alphabet and the language, and which
+/// setLanguage derives anew for all four. While it is being made, an entry belongs to one thread; once in a
+/// list it is shared as a pointer to const and never changes, but for two derived values that are written
+/// once.
 class TVEntry {
   public:
-    explicit TVEntry(const Alphabet& alphabet) : m_alphabet(&alphabet) {}
+    explicit TVEntry(const Alphabet& alphabet)
+        : m_alphabet(&alphabet) {}
     /// A copy to be changed; the derived values are not taken along.
     TVEntry(const TVEntry& other);
     TVEntry& operator=(const TVEntry&) = delete;
@@ -68,8 +70,8 @@ class TVEntry {
     /// Made once and kept.
     std::optional<QString> fullInstantDetails() const;
 
-    /// The stable URL of this broadcast in the application's scheme; nothing without a title. Made once and kept:
-    /// a later call with another scheme answers the first one.
+    /// The stable URL of this broadcast in the application's scheme; nothing without a title. Made once and
+    /// kept: a later call with another scheme answers the first one.
     std::optional<QUrl> urlDigestWithScheme(const QString& scheme) const;
 
   private:

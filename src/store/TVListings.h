@@ -48,9 +48,9 @@ struct TVListingsEnvironment {
 using ShowCounts = std::unordered_map<ObjectId, unsigned>;
 using ShowsBlock = std::function<void(ShowItems)>;
 
-/// The one store of schedules: a list of shows for each channel, a file for each list, and every query over them.
-/// All operations may be called from any thread; none blocks, save where it says so. A query asked before the first
-/// read is done waits for it.
+/// The one store of schedules: a list of shows for each channel, a file for each list, and every query over
+/// them. All operations may be called from any thread; none blocks, save where it says so. A query asked
+/// before the first read is done waits for it.
 class TVListings {
   public:
     /// Starts to read the listing files of the selected channels in the background.
@@ -59,9 +59,10 @@ class TVListings {
 
     // ---- changes
 
-    /// Puts freshly read lists in the place of the stored ones: sorted, without double start times and closing
-    /// placeholders, with end times by the rule of the listing type, without what is over. A channel whose list is
-    /// empty or past keeps what it has. The load time of every stored channel is set when this returns.
+    /// Puts freshly read lists in the place of the stored ones: sorted, without double start times and
+    /// closing placeholders, with end times by the rule of the listing type, without what is over. A channel
+    /// whose list is empty or past keeps what it has. The load time of every stored channel is set when this
+    /// returns.
     MergeResult merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, unsigned type);
 
     void removeListingsForChannel(const ObjectId& channel);
@@ -69,8 +70,8 @@ class TVListings {
     void saveAllShows();
     void updateDetails(std::shared_ptr<const TVEntry> entry,
                        std::shared_ptr<const TVEntrySupplementalData> details, const QSet<QUrl>& pictures);
-    void updateIMDBForChannel(const ObjectId& channel, const QString& identificator, TVListingsCategory category,
-                              const QUrl& url, const QSet<QUrl>& pictureURLs);
+    void updateIMDBForChannel(const ObjectId& channel, const QString& identificator,
+                              TVListingsCategory category, const QUrl& url, const QSet<QUrl>& pictureURLs);
 
     // ---- files
 
@@ -79,20 +80,23 @@ class TVListings {
     bool isScheduledForSaving(const ObjectId& channel);
     /// Writes the lists that are scheduled, in the background.
     void commitFiles();
-    /// Waits until the store is at rest and every scheduled list is written, or the time is up; false in that case.
+    /// Waits until the store is at rest and every scheduled list is written, or the time is up; false in that
+    /// case.
     bool finishWriting(std::chrono::milliseconds atMost);
 
     // ---- queries
 
-    /// One list for each selected channel, in the selected order, also an empty one; at most showCount shows that
-    /// are not over.
-    void onAirShowsWithQueue(std::shared_ptr<DispatchQueue> queue,
-                             std::function<void(std::vector<ObjectId> selected, std::vector<ShowItems>)> block);
-    void onAirShows(MainBlock<std::vector<ObjectId>, std::vector<ShowItems>> mainBlock);
-    void cachedListForChannel(const ObjectId& channel, QueuePriority priority, MainBlock<ShowItems> mainBlock);
+    /// One list for each selected channel, in the selected order, also an empty one; at most showCount shows
+    /// that are not over.
+    void
+    onAirShowsWithQueue(std::shared_ptr<DispatchQueue> queue,
+                        std::function<void(std::vector<ObjectId> selected, std::vector<ShowSpan>)> block);
+    void onAirShows(MainBlock<std::vector<ObjectId>, std::vector<ShowSpan>> mainBlock);
+    void cachedListForChannel(const ObjectId& channel, QueuePriority priority, MainBlock<ShowSpan> mainBlock);
     void showCountForSelectedChannelsForQueue(std::shared_ptr<DispatchQueue> queue,
                                               std::function<void(ShowCounts)> block);
-    void showsWithCategory(TVListingsCategory category, QueuePriority priority, MainBlock<CompoundResult> mainBlock);
+    void showsWithCategory(TVListingsCategory category, QueuePriority priority,
+                           MainBlock<CompoundResult> mainBlock);
     void allShowsWithCategory(TVListingsCategory category, QueuePriority priority,
                               MainBlock<CompoundResult> mainBlock);
     /// Answers on the global user-initiated queue.
@@ -103,7 +107,8 @@ class TVListings {
     void favoritesScheduleWithBlock(ShowsBlock block);
     void favoritesScheduleWithPartialAllowed(
         bool partialAllowed, std::function<void(ShowItems, std::unordered_map<QString, ShowItem>)> URLBlock);
-    void showScheduleForTitle(const QString& title, QueuePriority priority, MainBlock<CompoundResult> mainBlock);
+    void showScheduleForTitle(const QString& title, QueuePriority priority,
+                              MainBlock<CompoundResult> mainBlock);
     void broadcastForTitle(const QString& title, bool previouslyShown, MainBlock<bool> mainBlock);
 
   private:
