@@ -1,0 +1,222 @@
+#include "platform/Utf8.h"
+
+#include <cstdint>
+#include <cstring>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
+using namespace Qt::StringLiterals;
+
+namespace guide {
+
+namespace {
+
+constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+
+// How many bytes at the start of the range are ASCII, in steps of a register: at least all but the last few.
+const unsigned char* afterAscii(const unsigned char* at, const unsigned char* end) {
+#ifdef __SSE2__
+    while (end - at >= 16) {
+        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+        if (const int high = _mm_movemask_epi8(block); high != 0) {
+            return at + __builtin_ctz(static_cast<unsigned>(high));
+        }
+        at += 16;
+    }
+#endif
+    while (end - at >= 8) {
+        std::uint64_t block;
+        std::memcpy(&block, at, sizeof block);
+        if ((block & kHighBits) != 0) {
+            break;
+        }
+        at += 8;
+    }
+    while (at < end && *at < 0x80) {
+        ++at;
+    }
+    return at;
+}
+
+bool isContinuation(unsigned char byte) {
+    return (byte & 0xc0) == 0x80;
+}
+
+// The character that begins at `at`, whose first byte is not ASCII. Moves behind it; 0 when it is malformed.
+char32_t takeMultibyte(const unsigned char*& at, const unsigned char* end) {
+    const unsigned char first = *at;
+    if (first < 0xe0) {
+        if (first < 0xc2 || end - at < 2 || !isContinuation(at[1])) {
+            return 0;
+        }
+        const char32_t character = (char32_t{first} & 0x1f) << 6 | (at[1] & 0x3f);
+        at += 2;
+        return character;
+    }
+    if (first < 0xf0) {
+        if (end - at < 3 || !isContinuation(at[1]) || !isContinuation(at[2])) {
+            return 0;
+        }
+        const char32_t character =
+            (char32_t{first} & 0x0f) << 12 | (char32_t{at[1]} & 0x3f) << 6 | (at[2] & 0x3f);
+        if (character < 0x800 || (character >= 0xd800 && character <= 0xdfff)) {
+            return 0;
+        }
+        at += 3;
+        return character;
+    }
+    if (first > 0xf4 || end - at < 4 || !isContinuation(at[1]) || !isContinuation(at[2]) ||
+        !isContinuation(at[3])) {
+        return 0;
+    }
+    const char32_t character = (char32_t{first} & 0x07) << 18 | (char32_t{at[1]} & 0x3f) << 12 |
+                               (char32_t{at[2]} & 0x3f) << 6 | (at[3] & 0x3f);
+    if (character < 0x10000 || character > 0x10ffff) {
+        return 0;
+    }
+    at += 4;
+    return character;
+}
+
+// Copies ASCII up to the first other byte and moves both ends along.
+void widenAscii(const unsigned char*& at, const unsigned char* end, char16_t*& out) {
+#ifdef __SSE2__
+    while (end - at >= 16) {
+        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+        const __m128i zero = _mm_setzero_si128();
+        // The room behind `out` is as large as what is left of the input, so both halves fit in any case.
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm_unpacklo_epi8(block, zero));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(out + 8), _mm_unpackhi_epi8(block, zero));
+        if (const int high = _mm_movemask_epi8(block); high != 0) {
+            const int ascii = __builtin_ctz(static_cast<unsigned>(high));
+            at += ascii;
+            out += ascii;
+            return;
+        }
+        at += 16;
+        out += 16;
+    }
+    if (end - at >= 8) {
+        const __m128i block = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(at));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm_unpacklo_epi8(block, _mm_setzero_si128()));
+        if (const int high = _mm_movemask_epi8(block); high != 0) {
+            const int ascii = __builtin_ctz(static_cast<unsigned>(high));
+            at += ascii;
+            out += ascii;
+            return;
+        }
+        at += 8;
+        out += 8;
+    }
+#endif
+    while (at < end && *at < 0x80) {
+        *out++ = *at++;
+    }
+}
+
+} // namespace
+
+bool isValidUtf8(QByteArrayView bytes) {
+    const auto* at = reinterpret_cast<const unsigned char*>(bytes.data());
+    const unsigned char* end = at + bytes.size();
+    for (;;) {
+        at = afterAscii(at, end);
+        if (at == end) {
+            return true;
+        }
+        do {
+            if (takeMultibyte(at, end) == 0) {
+                return false;
+            }
+        } while (at < end && *at >= 0x80);
+    }
+}
+
+bool readUtf8(QByteArrayView bytes, QString& text) {
+    if (bytes.isEmpty()) {
+        text = u""_s;
+        return true;
+    }
+    text = QString(bytes.size(), Qt::Uninitialized);
+    auto* const begin = reinterpret_cast<char16_t*>(text.data());
+    char16_t* out = begin;
+    const auto* at = reinterpret_cast<const unsigned char*>(bytes.data());
+    const unsigned char* end = at + bytes.size();
+    for (;;) {
+        widenAscii(at, end, out);
+        if (at == end) {
+            break;
+        }
+        const char32_t character = takeMultibyte(at, end);
+        if (character == 0) {
+            return false;
+        }
+        if (character < 0x10000) {
+            *out++ = static_cast<char16_t>(character);
+        } else {
+            *out++ = QChar::highSurrogate(character);
+            *out++ = QChar::lowSurrogate(character);
+        }
+    }
+    text.truncate(out - begin);
+    return true;
+}
+
+std::size_t utf8Length(QStringView text) {
+    const char16_t* at = text.utf16();
+    const char16_t* end = at + text.size();
+    std::size_t length = static_cast<std::size_t>(text.size());
+    for (; at < end; ++at) {
+        const char16_t unit = *at;
+        if (unit < 0x80) {
+            continue;
+        }
+        if (unit < 0x800) {
+            length += 1;
+        } else {
+            length += 2;
+            if (QChar::isHighSurrogate(unit) && end - at > 1 && QChar::isLowSurrogate(at[1])) {
+                ++at;
+            }
+        }
+    }
+    return length;
+}
+
+char* writeUtf8(QStringView text, char* out) {
+    const char16_t* at = text.utf16();
+    const char16_t* end = at + text.size();
+    const auto put = [&out](char32_t byte) { *out++ = static_cast<char>(byte); };
+    for (; at < end; ++at) {
+        char32_t character = *at;
+        if (character < 0x80) {
+            put(character);
+            continue;
+        }
+        if (character < 0x800) {
+            put(0xc0 | character >> 6);
+            put(0x80 | (character & 0x3f));
+            continue;
+        }
+        if (QChar::isSurrogate(character)) {
+            if (QChar::isHighSurrogate(character) && end - at > 1 && QChar::isLowSurrogate(at[1])) {
+                character = QChar::surrogateToUcs4(*at, at[1]);
+                ++at;
+                put(0xf0 | character >> 18);
+                put(0x80 | (character >> 12 & 0x3f));
+                put(0x80 | (character >> 6 & 0x3f));
+                put(0x80 | (character & 0x3f));
+                continue;
+            }
+            character = QChar::ReplacementCharacter;
+        }
+        put(0xe0 | character >> 12);
+        put(0x80 | (character >> 6 & 0x3f));
+        put(0x80 | (character & 0x3f));
+    }
+    return out;
+}
+
+} // namespace guide

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <cstddef>
+
+namespace guide {
+
+/// True when the bytes are well-formed UTF-8: no surrogates, no overlong forms, nothing past U+10FFFF. A NUL
+/// is a character like any other.
+bool isValidUtf8(QByteArrayView bytes);
+
+/// Reads UTF-8 into `text`, strictly; false when the bytes are not well-formed, and `text` is then
+/// unspecified.
+bool readUtf8(QByteArrayView bytes, QString& text);
+
+/// How many bytes the text takes as UTF-8; a lone surrogate counts as U+FFFD.
+std::size_t utf8Length(QStringView text);
+
+/// Writes exactly utf8Length(text) bytes at `out`, a lone surrogate as U+FFFD. Returns the end.
+char* writeUtf8(QStringView text, char* out);
+
+} // namespace guide
