@@ -149,6 +149,12 @@ bool readUtf8(QByteArrayView bytes, QString& text) {
         if (at == end) {
             break;
         }
+        // Letters with marks are two bytes in most of what we read.
+        if (*at >= 0xc2 && *at < 0xe0 && end - at >= 2 && isContinuation(at[1])) {
+            *out++ = static_cast<char16_t>((*at & 0x1f) << 6 | (at[1] & 0x3f));
+            at += 2;
+            continue;
+        }
         const char32_t character = takeMultibyte(at, end);
         if (character == 0) {
             return false;
