@@ -4,10 +4,12 @@
 #include "platform/Moment.h"
 #include "text/Alphabet.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QUrl>
 
 #include <atomic>
+#include <memory>
 #include <optional>
 
 namespace guide {
@@ -21,83 +23,93 @@ namespace guide {
 /// once.
 class TVEntry {
   public:
+    /// The alphabet outlives the entry.
     explicit TVEntry(const Alphabet& alphabet)
         : m_alphabet(&alphabet) {}
     /// A copy to be changed; the derived values are not taken along.
     TVEntry(const TVEntry& other);
     TVEntry& operator=(const TVEntry&) = delete;
+    ~TVEntry();
 
     const ObjectId& channel() const { return m_channel; }
-    void setChannel(const ObjectId& channel) { m_channel = channel; }
+    void setChannel(const ObjectId& channel);
 
     const std::optional<Moment>& dateTime() const { return m_dateTime; }
-    void setDateTime(std::optional<Moment> dateTime) { m_dateTime = dateTime; }
+    void setDateTime(std::optional<Moment> dateTime);
     const std::optional<Moment>& endDateTime() const { return m_endDateTime; }
     void setEndDateTime(std::optional<Moment> endDateTime) { m_endDateTime = endDateTime; }
 
     /// The source that supplied the show.
     const std::optional<QString>& sourceId() const { return m_sourceId; }
     void setSourceId(std::optional<QString> sourceId) { m_sourceId = std::move(sourceId); }
-    /// The detail page of the show at its source.
-    const std::optional<QUrl>& url() const { return m_url; }
-    void setUrl(std::optional<QUrl> url) { m_url = std::move(url); }
+    /// The detail page of the show at its source. Made of its text when it is asked for.
+    std::optional<QUrl> url() const;
+    void setUrl(const std::optional<QUrl>& url);
     bool previouslyShown() const { return m_previouslyShown; }
     void setPreviouslyShown(bool previouslyShown) { m_previouslyShown = previouslyShown; }
 
     /// The title as the source gave it, less every pair of a backslash and an n.
-    const std::optional<QString>& identificator() const { return m_identificator; }
-    void setIdentificator(const std::optional<QString>& identificator);
+    const std::optional<QString>& identificator() const { return m_source.title; }
+    void setIdentificator(std::optional<QString> identificator);
     /// For comparisons; made when it is asked for.
     QString lowercasedIdentificator() const;
 
-    const std::optional<QString>& instantDetails1() const { return m_instantDetails1; }
+    const std::optional<QString>& instantDetails1() const { return m_source.instantDetails; }
     void setInstantDetails1(std::optional<QString> instantDetails1);
-    const std::optional<QString>& subtitle1() const { return m_subtitle1; }
+    const std::optional<QString>& subtitle1() const { return m_source.subtitle; }
     void setSubtitle1(std::optional<QString> subtitle1);
-    const std::optional<QString>& instantDescription1() const { return m_instantDescription1; }
+    const std::optional<QString>& instantDescription1() const { return m_source.instantDescription; }
     void setInstantDescription1(std::optional<QString> instantDescription1);
 
     /// The display title: the subtitle for the one channel whose titles all say the same.
     const std::optional<QString>& title() const;
-    const std::optional<QString>& instantDetails() const { return m_instantDetails; }
-    const std::optional<QString>& subtitle() const { return m_subtitle; }
-    const std::optional<QString>& instantDescription() const { return m_instantDescription; }
+    const std::optional<QString>& instantDetails() const { return shown().instantDetails; }
+    const std::optional<QString>& subtitle() const { return shown().subtitle; }
+    const std::optional<QString>& instantDescription() const { return shown().instantDescription; }
 
     const std::optional<QString>& language() const { return m_language; }
     void setLanguage(std::optional<QString> language);
 
     /// The details, subtitle and description that are there, joined by ", "; nothing when there is none.
-    /// Made once and kept.
+    /// Joined once and kept.
     std::optional<QString> fullInstantDetails() const;
 
     /// The stable URL of this broadcast in the application's scheme; nothing without a title. Made once and
     /// kept: a later call with another scheme answers the first one.
     std::optional<QUrl> urlDigestWithScheme(const QString& scheme) const;
 
+    /// Whether the show ends after the moment; one without an end does not.
+    bool endsAfter(Moment now) const { return m_endDateTime && *m_endDateTime > now; }
+    /// Whether the show is over: it ended before the moment, or has no end.
+    bool overAt(Moment now) const { return !m_endDateTime || *m_endDateTime < now; }
+
   private:
-    std::optional<QString> displayed(const std::optional<QString>& text) const;
+    struct Texts {
+        std::optional<QString> title;
+        std::optional<QString> instantDetails;
+        std::optional<QString> subtitle;
+        std::optional<QString> instantDescription;
+    };
+
+    const Texts& shown() const { return m_display ? *m_display : m_source; }
+    void derive(std::optional<QString> Texts::* text);
+    void forgetDerived();
 
     const Alphabet* m_alphabet;
     ObjectId m_channel{ObjectId::Bytes{}};
+    bool m_previouslyShown = false;
     std::optional<Moment> m_dateTime;
     std::optional<Moment> m_endDateTime;
     std::optional<QString> m_sourceId;
-    std::optional<QUrl> m_url;
-    bool m_previouslyShown = false;
-
-    std::optional<QString> m_identificator;
-    std::optional<QString> m_instantDetails1;
-    std::optional<QString> m_subtitle1;
-    std::optional<QString> m_instantDescription1;
     std::optional<QString> m_language;
+    /// Encoded; null when it is unset.
+    QByteArray m_url;
+    Texts m_source;
+    /// Null where the display forms are the source forms.
+    std::unique_ptr<Texts> m_display;
 
-    std::optional<QString> m_title;
-    std::optional<QString> m_instantDetails;
-    std::optional<QString> m_subtitle;
-    std::optional<QString> m_instantDescription;
-
-    struct Derived;
-    mutable std::atomic<Derived*> m_derived{nullptr};
+    mutable std::atomic<const QString*> m_fullInstantDetails{nullptr};
+    mutable std::atomic<const QUrl*> m_urlDigest{nullptr};
 };
 
 } // namespace guide

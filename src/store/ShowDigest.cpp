@@ -1,0 +1,74 @@
+#include "store/ShowDigest.h"
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Moment kReferenceDate{std::chrono::seconds(978'307'200)};
+constexpr qsizetype kDigestDigits = 32;
+
+/// Whole seconds since the reference date, halves away from zero, as they fit into 32 bits.
+std::int32_t secondsSinceReferenceDate(const std::optional<Moment>& date) {
+    const std::int64_t milliseconds = date ? (*date - kReferenceDate).count() : 0;
+    const std::int64_t half = milliseconds < 0 ? -500 : 500;
+    return static_cast<std::int32_t>((milliseconds + half) / 1000);
+}
+
+bool beginsWithLetter(const QByteArray& digits) {
+    return digits.front() >= 'a';
+}
+
+} // namespace
+
+ShowDigest showDigest(const ObjectId& channel, const std::optional<Moment>& date,
+                      const QString& identificator) {
+    QByteArray buffer;
+    const QByteArray title = identificator.toUtf8();
+    buffer.reserve(16 + title.size());
+    buffer.append(reinterpret_cast<const char*>(channel.bytes().data()), 12);
+    const qint32 start = qToBigEndian(qint32{secondsSinceReferenceDate(date)});
+    buffer.append(reinterpret_cast<const char*>(&start), sizeof start);
+    buffer.append(title);
+    const QByteArray hash = QCryptographicHash::hash(buffer, QCryptographicHash::Md5);
+    ShowDigest digest{};
+    std::copy(hash.begin(), hash.end(), digest.begin());
+    return digest;
+}
+
+std::optional<QUrl> urlDigestFromChannel(const ObjectId& channel, const std::optional<Moment>& date,
+                                         const std::optional<QString>& identificator, const QString& scheme) {
+    if (!identificator) {
+        return std::nullopt;
+    }
+    const ShowDigest digest = showDigest(channel, date, *identificator);
+    QByteArray digits = QByteArray(reinterpret_cast<const char*>(digest.data()), digest.size()).toHex();
+    if (!beginsWithLetter(digits)) {
+        digits.prepend('c');
+    }
+    return QUrl(scheme + "://"_L1 + QLatin1StringView(digits));
+}
+
+std::optional<ShowDigest> digestOfUrl(const QUrl& url) {
+    const QByteArray host = url.host().toLatin1();
+    const bool prefixed = host.size() == kDigestDigits + 1 && host.front() == 'c';
+    const QByteArray digits = prefixed ? host.sliced(1) : host;
+    const auto isDigit = [](char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f'); };
+    if (digits.size() != kDigestDigits || beginsWithLetter(digits) == prefixed ||
+        !std::all_of(digits.begin(), digits.end(), isDigit)) {
+        return std::nullopt;
+    }
+    const QByteArray bytes = QByteArray::fromHex(digits);
+    ShowDigest digest{};
+    std::copy(bytes.begin(), bytes.end(), digest.begin());
+    return digest;
+}
+
+} // namespace guide
