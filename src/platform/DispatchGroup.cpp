@@ -1,4 +1,5 @@
 #include "platform/DispatchQueue.h"
+#include "platform/ThreadWaiting.h"
 
 #include <condition_variable>
 #include <mutex>
@@ -49,13 +50,9 @@ void DispatchGroup::async(DispatchQueue& queue, Block block) {
 }
 
 bool DispatchGroup::wait(std::optional<std::chrono::milliseconds> atMost) {
-    std::unique_lock guard(m_state->mutex);
-    const auto empty = [this] { return m_state->members == 0; };
-    if (!atMost) {
-        m_state->changed.wait(guard, empty);
-        return true;
-    }
-    return m_state->changed.wait_for(guard, *atMost, empty);
+    const std::shared_ptr<State> state = m_state;
+    std::unique_lock guard(state->mutex);
+    return ThreadWaiting::waitHere(guard, state->changed, atMost, [&state] { return state->members == 0; });
 }
 
 } // namespace guide

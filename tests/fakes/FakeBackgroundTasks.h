@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/BackgroundTasks.h"
+
+#include <map>
+#include <mutex>
+#include <utility>
+
+namespace guide {
+
+/// Counts background tasks, and expires them when the test says so.
+class FakeBackgroundTasks final : public BackgroundTasks {
+  public:
+    BackgroundTaskId beginBackgroundTask(Block expirationHandler) override {
+        const std::lock_guard guard(m_guard);
+        m_running.emplace(++m_last, std::move(expirationHandler));
+        return m_last;
+    }
+    void endBackgroundTask(BackgroundTaskId task) override {
+        Block handler;
+        const std::lock_guard guard(m_guard);
+        if (const auto found = m_running.find(task); found != m_running.end()) {
+            handler = std::move(found->second);
+            m_running.erase(found);
+        }
+    }
+
+    /// How many tasks were ever begun.
+    std::size_t begun() const {
+        const std::lock_guard guard(m_guard);
+        return static_cast<std::size_t>(m_last);
+    }
+    std::size_t running() const {
+        const std::lock_guard guard(m_guard);
+        return m_running.size();
+    }
+    /// Calls the handler of every running task, as a device does that waits no longer.
+    void expireAll() {
+        std::map<BackgroundTaskId, Block> expired;
+        {
+            const std::lock_guard guard(m_guard);
+            for (auto& [task, handler] : m_running) {
+                expired.emplace(task, std::exchange(handler, nullptr));
+            }
+        }
+        for (const auto& [task, handler] : expired) {
+            if (handler) {
+                handler();
+            }
+        }
+    }
+
+  private:
+    mutable std::mutex m_guard;
+    std::map<BackgroundTaskId, Block> m_running;
+    BackgroundTaskId m_last = kBackgroundTaskInvalid;
+};
+
+} // namespace guide

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "platform/HTTPClient.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <utility>
+#include <vector>
+
+namespace guide {
+
+/// Answers each request with what stands under its URL (again and again), else with the next of the queue,
+/// else with a refused connection. Keeps every request.
+class FakeHTTPClient final : public HTTPClient {
+  public:
+    TransferResult perform(const HTTPRequest& request) override {
+        std::function<void(const HTTPRequest&)> asked;
+        TransferResult answer = refused();
+        {
+            const std::lock_guard guard(m_guard);
+            m_requests.push_back(request);
+            asked = m_onRequest;
+            if (m_cancelled) {
+                answer.error->cancelled = true;
+            } else if (const auto found = m_byURL.find(request.url); found != m_byURL.end()) {
+                answer = found->second;
+            } else if (!m_queue.empty()) {
+                answer = std::move(m_queue.front());
+                m_queue.pop_front();
+            }
+        }
+        if (asked) {
+            asked(request);
+        }
+        return answer;
+    }
+    void removeCachedResponse(const HTTPRequest& request) override {
+        const std::lock_guard guard(m_guard);
+        m_forgotten.push_back(request.url);
+    }
+    void cancelAll() override {
+        const std::lock_guard guard(m_guard);
+        m_cancelled = true;
+    }
+
+    void answer(const QUrl& url, TransferResult result) {
+        const std::lock_guard guard(m_guard);
+        m_byURL.insert_or_assign(url, std::move(result));
+    }
+    void enqueue(TransferResult result) {
+        const std::lock_guard guard(m_guard);
+        m_queue.push_back(std::move(result));
+    }
+    /// Called inside each request, without a lock held.
+    void onRequest(std::function<void(const HTTPRequest&)> asked) {
+        const std::lock_guard guard(m_guard);
+        m_onRequest = std::move(asked);
+    }
+
+    std::vector<HTTPRequest> requests() const {
+        const std::lock_guard guard(m_guard);
+        return m_requests;
+    }
+    std::vector<QUrl> requestedURLs() const {
+        const std::lock_guard guard(m_guard);
+        std::vector<QUrl> urls;
+        urls.reserve(m_requests.size());
+        for (const HTTPRequest& request : m_requests) {
+            urls.push_back(request.url);
+        }
+        return urls;
+    }
+    /// URLs whose cached response was removed.
+    std::vector<QUrl> forgotten() const {
+        const std::lock_guard guard(m_guard);
+        return m_forgotten;
+    }
+
+    static TransferResult response(int statusCode, const QByteArray& body,
+                                   QList<std::pair<QByteArray, QByteArray>> headers = {}) {
+        TransferResult result;
+        result.response = HTTPResponse{statusCode, std::move(headers)};
+        result.body = body;
+        return result;
+    }
+    static TransferResult refused() {
+        TransferResult result;
+        result.error = TransferError{QStringLiteral("connection refused"), {}, {}, false};
+        return result;
+    }
+
+  private:
+    mutable std::mutex m_guard;
+    std::map<QUrl, TransferResult> m_byURL;
+    std::deque<TransferResult> m_queue;
+    std::function<void(const HTTPRequest&)> m_onRequest;
+    std::vector<HTTPRequest> m_requests;
+    std::vector<QUrl> m_forgotten;
+    bool m_cancelled = false;
+};
+
+} // namespace guide

@@ -1,0 +1,345 @@
+#pragma once
+
+#include "fakes/ManualClock.h"
+#include "platform/DispatchQueue.h"
+#include "platform/ThreadWaiting.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <deque>
+#include <gtest/gtest.h>
+#include <map>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace guide {
+
+class ManualQueue;
+
+/// What the queues of one ManualQueues share.
+struct ManualQueuesState {
+    struct Frame {
+        const ManualQueue* queue;
+        /// False for a sync, which goes on on its caller's thread.
+        bool ownThread;
+    };
+
+    explicit ManualQueuesState(ManualClock& ownClock)
+        : clock(ownClock) {}
+
+    ManualClock& clock;
+    const std::thread::id thread = std::this_thread::get_id();
+    std::vector<std::shared_ptr<ManualQueue>> queues;
+    std::multimap<Moment, std::pair<std::shared_ptr<ManualQueue>, Block>> timers;
+    /// The blocks that run now, innermost last.
+    std::vector<Frame> frames;
+    std::uint64_t submitted = 0;
+    bool ended = false;
+};
+
+class ManualQueue final : public DispatchQueue, public std::enable_shared_from_this<ManualQueue> {
+  public:
+    enum class Kind { Serial, Concurrent, Main };
+
+    ManualQueue(const std::shared_ptr<ManualQueuesState>& state, std::string label, Kind kind)
+        : m_state(state)
+        , m_label(std::move(label))
+        , m_kind(kind) {}
+
+    const std::string& label() const override { return m_label; }
+    void async(Block block) override { submit(std::move(block), false); }
+    void asyncBarrier(Block block) override { submit(std::move(block), true); }
+    void sync(const Block& block) override { runInline(block, false); }
+    void syncBarrier(const Block& block) override { runInline(block, true); }
+
+    void asyncAfter(std::chrono::milliseconds delay, Block block) override {
+        const auto state = checkedState();
+        if (!state || state->ended) {
+            return;
+        }
+        if (delay <= std::chrono::milliseconds::zero()) {
+            async(std::move(block));
+        } else {
+            state->timers.emplace(state->clock.now() + delay,
+                                  std::make_pair(shared_from_this(), std::move(block)));
+        }
+    }
+
+    SuspensionToken suspend() override {
+        ++m_suspensions;
+        return SuspensionToken([self = shared_from_this()] { --self->m_suspensions; });
+    }
+
+    void assertCurrent() const override {
+        if (!isCurrent()) {
+            ADD_FAILURE() << "not on the queue " << m_label;
+        }
+    }
+
+    bool suspended() const { return m_suspensions > 0; }
+    std::size_t pending() const { return m_pending.size(); }
+
+    // ---- for ManualQueues
+
+    bool canRun() const {
+        return !m_pending.empty() && m_suspensions == 0 && !m_exclusiveRunning &&
+               (m_readersRunning == 0 || !exclusive(m_pending.front().barrier));
+    }
+    bool isCurrent() const {
+        const auto state = m_state.lock();
+        if (!state) {
+            return true;
+        }
+        for (auto frame = state->frames.rbegin(); frame != state->frames.rend(); ++frame) {
+            if (frame->queue == this) {
+                return true;
+            }
+            if (frame->ownThread) {
+                return false;
+            }
+        }
+        // The body of a test stands for the main thread.
+        return m_kind == Kind::Main;
+    }
+    std::uint64_t frontOrder() const { return m_pending.front().order; }
+
+    void runFront() {
+        Item item = std::move(m_pending.front());
+        m_pending.pop_front();
+        run(item.block, exclusive(item.barrier), true);
+        item.block = nullptr;
+    }
+
+    std::deque<Block> takePending() {
+        std::deque<Block> blocks;
+        for (Item& item : m_pending) {
+            blocks.push_back(std::move(item.block));
+        }
+        m_pending.clear();
+        return blocks;
+    }
+
+  private:
+    struct Item {
+        Block block;
+        bool barrier;
+        std::uint64_t order;
+    };
+
+    std::shared_ptr<ManualQueuesState> checkedState() const {
+        auto state = m_state.lock();
+        if (state && state->thread != std::this_thread::get_id()) {
+            ADD_FAILURE() << "hand-cranked queue " << m_label << " used from a second thread";
+            std::abort();
+        }
+        return state;
+    }
+
+    bool exclusive(bool barrier) const { return barrier || m_kind != Kind::Concurrent; }
+
+    void submit(Block block, bool barrier) {
+        const auto state = checkedState();
+        if (state && !state->ended) {
+            m_pending.push_back({std::move(block), barrier, state->submitted++});
+        }
+    }
+
+    void runInline(const Block& block, bool barrier) {
+        const auto state = checkedState();
+        if (!state) {
+            return;
+        }
+        if (m_kind == Kind::Main) {
+            ADD_FAILURE() << "sync on the main queue";
+        }
+        if (m_suspensions > 0) {
+            ADD_FAILURE() << "sync on the suspended queue " << m_label << " would not return";
+        }
+        const bool nestedReader = !exclusive(barrier) && m_readersRunning > 0 && isCurrent();
+        // What a real queue would run before this block's turn.
+        for (std::size_t ahead = nestedReader ? 0 : m_pending.size(); ahead > 0 && canRun(); --ahead) {
+            runFront();
+        }
+        if (m_exclusiveRunning || (exclusive(barrier) && m_readersRunning > 0)) {
+            ADD_FAILURE() << "sync on " << m_label << " from one of its own blocks would not return";
+        }
+        run(block, exclusive(barrier), false);
+    }
+
+    void run(const Block& block, bool alone, bool ownThread) {
+        const auto state = m_state.lock();
+        if (!state) {
+            return;
+        }
+        const bool wasExclusive = std::exchange(m_exclusiveRunning, m_exclusiveRunning || alone);
+        m_readersRunning += alone ? 0 : 1;
+        state->frames.push_back({this, ownThread});
+        block();
+        state->frames.pop_back();
+        m_readersRunning -= alone ? 0 : 1;
+        m_exclusiveRunning = wasExclusive;
+    }
+
+    const std::weak_ptr<ManualQueuesState> m_state;
+    const std::string m_label;
+    const Kind m_kind;
+    std::deque<Item> m_pending;
+    int m_suspensions = 0;
+    int m_readersRunning = 0;
+    bool m_exclusiveRunning = false;
+};
+
+/// Queues that run nothing until the test cranks them, all on the test's own thread. Across queues, blocks
+/// run in the order of their submission, one at a time. asyncAfter submits when the manual clock has reached
+/// its moment. A sync runs what is pending on its queue and then its block, at once; where a real one would
+/// never return, it fails the test. A wait for a group cranks until the group is done.
+///
+/// Labels beside those given to makeQueue: "main", "global.background", "global.default",
+/// "global.user-initiated".
+class ManualQueues final : public DispatchQueues, private ThreadWaiting {
+  public:
+    explicit ManualQueues(ManualClock& clock)
+        : m_state(std::make_shared<ManualQueuesState>(clock)) {
+        m_main = add("main", ManualQueue::Kind::Main);
+        m_background = add("global.background", ManualQueue::Kind::Concurrent);
+        m_default = add("global.default", ManualQueue::Kind::Concurrent);
+        m_userInitiated = add("global.user-initiated", ManualQueue::Kind::Concurrent);
+        clock.onMove([state = std::weak_ptr(m_state)] {
+            if (const auto held = state.lock()) {
+                fireTimers(*held);
+            }
+        });
+        m_outerWaiting = ThreadWaiting::exchangeForThisThread(this);
+    }
+    ManualQueues(const ManualQueues&) = delete;
+    ManualQueues& operator=(const ManualQueues&) = delete;
+    ~ManualQueues() override {
+        ThreadWaiting::exchangeForThisThread(m_outerWaiting);
+        shutDown();
+    }
+
+    DispatchQueue& mainQueue() override { return *m_main; }
+    DispatchQueue& globalQueue(QueuePriority priority) override {
+        return priority == QueuePriority::Background ? *m_background
+               : priority == QueuePriority::Default  ? *m_default
+                                                     : *m_userInitiated;
+    }
+    std::shared_ptr<DispatchQueue> makeQueue(std::string label, QueueKind kind,
+                                             QueuePriority = QueuePriority::Default) override {
+        return add(std::move(label),
+                   kind == QueueKind::Serial ? ManualQueue::Kind::Serial : ManualQueue::Kind::Concurrent);
+    }
+
+    /// Runs the one block that was submitted first among those that may begin; false when there is none.
+    bool runOne() {
+        return runOneOf([](const ManualQueue&) { return true; });
+    }
+    /// Runs until nothing may begin; answers how many blocks ran.
+    std::size_t runAll() {
+        return runWhile([](const ManualQueue&) { return true; });
+    }
+    /// The same for the queues of this label alone.
+    std::size_t run(const std::string& label) {
+        return runWhile([&label](const ManualQueue& queue) { return queue.label() == label; });
+    }
+
+    /// Blocks that were submitted and have not begun, delayed ones not counted.
+    std::size_t pending() const {
+        return count([](const ManualQueue&) { return true; });
+    }
+    std::size_t pending(const std::string& label) const {
+        return count([&label](const ManualQueue& queue) { return queue.label() == label; });
+    }
+    /// Blocks of asyncAfter whose moment has not come.
+    std::size_t delayed() const { return m_state->timers.size(); }
+    bool suspended(const std::string& label) const {
+        return std::any_of(m_state->queues.begin(), m_state->queues.end(), [&label](const auto& queue) {
+            return queue->label() == label && queue->suspended();
+        });
+    }
+
+    /// Drops what has not begun, and from now on everything that is submitted.
+    void shutDown() {
+        m_state->ended = true;
+        const auto timers = std::exchange(m_state->timers, {});
+        std::deque<std::deque<Block>> blocks;
+        for (const auto& queue : m_state->queues) {
+            blocks.push_back(queue->takePending());
+        }
+    }
+
+  private:
+    std::shared_ptr<ManualQueue> add(std::string label, ManualQueue::Kind kind) {
+        return m_state->queues.emplace_back(std::make_shared<ManualQueue>(m_state, std::move(label), kind));
+    }
+
+    static void fireTimers(ManualQueuesState& state) {
+        while (!state.timers.empty() && state.timers.begin()->first <= state.clock.now()) {
+            auto timer = state.timers.extract(state.timers.begin());
+            timer.mapped().first->async(std::move(timer.mapped().second));
+        }
+    }
+
+    template <class Takes>
+    bool runOneOf(const Takes& takes) {
+        std::shared_ptr<ManualQueue> next;
+        for (const auto& queue : m_state->queues) {
+            if (takes(*queue) && queue->canRun() && (!next || queue->frontOrder() < next->frontOrder())) {
+                next = queue;
+            }
+        }
+        if (next) {
+            next->runFront();
+        }
+        return next != nullptr;
+    }
+    template <class Takes>
+    std::size_t runWhile(const Takes& takes) {
+        constexpr std::size_t kEndless = 1'000'000;
+        std::size_t ran = 0;
+        while (ran < kEndless && runOneOf(takes)) {
+            ++ran;
+        }
+        if (ran == kEndless) {
+            ADD_FAILURE() << "blocks submit blocks without end";
+        }
+        return ran;
+    }
+    template <class Takes>
+    std::size_t count(const Takes& takes) const {
+        std::size_t sum = 0;
+        for (const auto& queue : m_state->queues) {
+            sum += takes(*queue) ? queue->pending() : 0;
+        }
+        return sum;
+    }
+
+    bool wait(std::unique_lock<std::mutex>& guard, std::condition_variable&,
+              std::optional<std::chrono::milliseconds> atMost, const std::function<bool()>& done) override {
+        while (!done()) {
+            guard.unlock();
+            // A thread that waits runs nothing of its own.
+            const bool ran = runOneOf(
+                [this](const ManualQueue& queue) { return &queue != m_main.get() || !m_main->isCurrent(); });
+            guard.lock();
+            if (!ran && !done()) {
+                if (!atMost) {
+                    ADD_FAILURE() << "a wait that would not return";
+                }
+                return false;
+            }
+        }
+        return true;
+    }
+
+    const std::shared_ptr<ManualQueuesState> m_state;
+    std::shared_ptr<ManualQueue> m_main;
+    std::shared_ptr<ManualQueue> m_background;
+    std::shared_ptr<ManualQueue> m_default;
+    std::shared_ptr<ManualQueue> m_userInitiated;
+    ThreadWaiting* m_outerWaiting = nullptr;
+};
+
+} // namespace guide
