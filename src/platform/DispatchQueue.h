@@ -11,18 +11,21 @@ namespace guide {
 
 using Block = std::function<void()>;
 
-/// The service classes of work: what runs first when there is more work than workers.
+/// The service classes of work. Each has workers of its own, so that long work of one never keeps another
+/// waiting; background work leaves the processor to the others.
 enum class QueuePriority { Background = 9, Default = 21, UserInitiated = 25 };
 
 enum class QueueKind { Serial, Concurrent };
 
-/// Keeps a queue suspended for as long as it lives. Move-only: each suspension is resumed exactly once, also when
-/// the block that holds the token is dropped without having run.
+/// Keeps a queue suspended for as long as it lives. Move-only: each suspension is resumed exactly once, also
+/// when the block that holds the token is dropped without having run.
 class SuspensionToken {
   public:
     SuspensionToken() = default;
-    explicit SuspensionToken(Block resume) : m_resume(std::move(resume)) {}
-    SuspensionToken(SuspensionToken&& other) noexcept : m_resume(std::exchange(other.m_resume, nullptr)) {}
+    explicit SuspensionToken(Block resume)
+        : m_resume(std::move(resume)) {}
+    SuspensionToken(SuspensionToken&& other) noexcept
+        : m_resume(std::exchange(other.m_resume, nullptr)) {}
     SuspensionToken& operator=(SuspensionToken&& other) noexcept {
         if (this != &other) {
             release();
@@ -43,9 +46,9 @@ class SuspensionToken {
     Block m_resume;
 };
 
-/// A queue of blocks. Blocks of a serial queue run one at a time in the order of submission; blocks of a concurrent
-/// queue run in parallel, but a barrier runs alone, after all that came before it and before all that comes after
-/// it (first come, first served). All operations may be called from any thread.
+/// A queue of blocks. Blocks of a serial queue run one at a time in the order of submission; blocks of a
+/// concurrent queue run in parallel, but a barrier runs alone, after all that came before it and before all
+/// that comes after it (first come, first served). All operations may be called from any thread.
 class DispatchQueue {
   public:
     virtual ~DispatchQueue() = default;
@@ -55,8 +58,9 @@ class DispatchQueue {
     virtual void async(Block block) = 0;
     virtual void asyncAfter(std::chrono::milliseconds delay, Block block) = 0;
 
-    /// Runs the block on the caller's own thread when its turn comes, and returns when it has run. Never needs a
-    /// worker. Must not be called from a block of the same serial queue, nor for the main queue from elsewhere.
+    /// Runs the block on the caller's own thread when its turn comes, and returns when it has run. Never
+    /// needs a worker. A reader may read again from within; any other sync from a block of the same queue,
+    /// and every one on the main queue, would never return and ends the process with a message.
     virtual void sync(const Block& block) = 0;
 
     /// On a serial queue the same as async and sync.
@@ -66,12 +70,12 @@ class DispatchQueue {
     /// No block begins until every token has gone; a running one goes on. Suspensions nest.
     [[nodiscard]] virtual SuspensionToken suspend() = 0;
 
-    /// Ends the process with a message when the caller does not run on this queue: a fault of our own, never one
-    /// that input can cause.
+    /// Ends the process with a message when the caller does not run on this queue: a fault of our own, never
+    /// one that input can cause.
     virtual void assertCurrent() const = 0;
 };
 
-/// A number of blocks to be waited for together.
+/// A number of blocks to be waited for together. May be used from any thread.
 class DispatchGroup {
   public:
     DispatchGroup();

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "platform/QueueTimer.h"
+#include "platform/WorkerPool.h"
+
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <unordered_set>
+#include <vector>
+
+namespace guide {
+
+class ThreadedQueue;
+
+/// What the queues of one ThreadedQueues run on, and which of them are alive.
+class QueueHost {
+  public:
+    explicit QueueHost(WorkerPool::ThreadStart threadStart)
+        : pool(std::move(threadStart)) {}
+
+    void add(const std::shared_ptr<ThreadedQueue>& queue);
+    void remove(ThreadedQueue* queue);
+    /// Stops the timer, the queues and the pool, in this order.
+    void stop();
+
+    WorkerPool pool;
+    QueueTimer timer;
+
+  private:
+    std::mutex m_mutex;
+    std::unordered_set<ThreadedQueue*> m_queues;
+    bool m_stopped = false;
+};
+
+/// A queue on worker threads. Only its first pending block may begin, so that blocks begin first come, first
+/// served, and it asks the pool for a worker only when that block could.
+class ThreadedQueue final : public DispatchQueue,
+                            public Work,
+                            public std::enable_shared_from_this<ThreadedQueue> {
+  public:
+    ThreadedQueue(std::shared_ptr<QueueHost> host, std::string label, QueueKind kind, QueuePriority priority);
+    ~ThreadedQueue() override;
+
+    const std::string& label() const override { return m_label; }
+    void async(Block block) override;
+    void asyncAfter(std::chrono::milliseconds delay, Block block) override;
+    void sync(const Block& block) override;
+    void asyncBarrier(Block block) override;
+    void syncBarrier(const Block& block) override;
+    [[nodiscard]] SuspensionToken suspend() override;
+    void assertCurrent() const override;
+
+    void runOnWorker() override;
+
+    /// Drops the blocks that have not begun, and every later one. A sync gets its turn all the same, also on
+    /// a suspended queue, so that its caller can end.
+    void stop();
+
+  private:
+    /// The caller of a sync, on its own stack.
+    struct Waiter {
+        std::condition_variable changed;
+    };
+    struct Item {
+        Block block;
+        Waiter* waiter = nullptr;
+        bool alone = false;
+    };
+
+    void submit(Block block, bool alone);
+    void runHere(const Block& block, bool alone);
+    void resume();
+
+    // With the mutex held:
+    bool mayBegin(bool alone) const;
+    void begin(bool alone);
+    void end(bool alone);
+    void advance();
+
+    const std::shared_ptr<QueueHost> m_host;
+    const std::string m_label;
+    const QueueKind m_kind;
+    const QueuePriority m_priority;
+
+    std::mutex m_mutex;
+    std::deque<Item> m_pending;
+    std::size_t m_runningShared = 0;
+    bool m_runningAlone = false;
+    std::size_t m_suspensions = 0;
+    /// A worker has been asked for and has not come yet.
+    bool m_workerCalled = false;
+    bool m_stopped = false;
+};
+
+} // namespace guide

@@ -1,0 +1,124 @@
+#include "platform/MainBlock.h"
+#include "platform/linux/EventLoopQueues.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include <gtest/gtest.h>
+#include <thread>
+
+using namespace std::chrono_literals;
+
+namespace guide {
+namespace {
+
+struct MainInboxTest : testing::Test {
+    int wakeUps = 0;
+    std::string log;
+    const std::shared_ptr<MainInbox> inbox =
+        std::make_shared<MainInbox>([this] { ++wakeUps; }, MainInbox::Later());
+
+    Block note(char letter) {
+        return [this, letter] { log += letter; };
+    }
+};
+
+TEST_F(MainInboxTest, RunsWhatWasThereAndAsksAgainForTheRest) {
+    inbox->async([&] {
+        log += 'a';
+        inbox->async(note('c'));
+        // An event loop inside a block: neither the rest nor the block itself may run there.
+        inbox->runPending();
+    });
+    inbox->async(note('b'));
+    EXPECT_EQ(wakeUps, 1);
+    inbox->runPending();
+    EXPECT_EQ(log, "ab");
+    EXPECT_EQ(wakeUps, 2);
+    inbox->runPending();
+    EXPECT_EQ(log, "abc");
+    EXPECT_EQ(wakeUps, 2);
+    inbox->async(note('d'));
+    EXPECT_EQ(wakeUps, 3);
+}
+
+TEST_F(MainInboxTest, SuspensionHoldsTheRestBackAndItsEndAsksForIt) {
+    SuspensionToken token;
+    inbox->async([&] { token = inbox->suspend(); });
+    inbox->async(note('a'));
+    inbox->runPending();
+    inbox->runPending();
+    EXPECT_EQ(log, "");
+    EXPECT_EQ(wakeUps, 1);
+    token.release();
+    EXPECT_EQ(wakeUps, 2);
+    inbox->runPending();
+    EXPECT_EQ(log, "a");
+}
+
+TEST_F(MainInboxTest, ThrowingAwayDropsTheRestOfARunToo) {
+    inbox->async([&] { inbox->throwAway(); });
+    inbox->async(note('a'));
+    inbox->runPending();
+    inbox->async(note('b'));
+    inbox->runPending();
+    EXPECT_EQ(log, "");
+    EXPECT_EQ(wakeUps, 1);
+}
+
+TEST_F(MainInboxTest, AnAnswerIsGivenOnceToAnOwnerThatLives) {
+    auto screen = std::make_shared<std::string>();
+    const auto held = std::make_shared<int>();
+    const auto answer = [&] {
+        return MainBlock<int>(screen,
+                              [text = screen.get(), held](int value) { *text += std::to_string(value); });
+    };
+    MainBlock<int> block = answer();
+    MainBlock<int> copy = block;
+    block.post(*inbox, 1);
+    copy.post(*inbox, 2);
+    block.post(*inbox, 3);
+    inbox->runPending();
+    EXPECT_EQ(*screen, "1");
+    EXPECT_EQ(held.use_count(), 1) << "released when answered";
+
+    MainBlock<int> late = answer();
+    late.post(*inbox, 4);
+    screen.reset();
+    inbox->runPending();
+    EXPECT_EQ(held.use_count(), 1) << "released though never called";
+}
+
+TEST(EventLoopQueuesTest, WorkersReachTheMainThreadThroughTheEventLoop) {
+    int argc = 1;
+    std::string name = "test";
+    char* argv[] = {name.data(), nullptr};
+    const QCoreApplication application(argc, argv);
+    EventLoopQueues queues;
+    std::string log;
+    QEventLoop outer;
+    queues.globalQueue(QueuePriority::Background).async([&] {
+        queues.mainQueue().async([&] {
+            queues.mainQueue().assertCurrent();
+            log += 'a';
+            queues.mainQueue().async([&] {
+                log += 'c';
+                outer.quit();
+            });
+            QEventLoop inner;
+            inner.processEvents();
+            log += 'b';
+        });
+    });
+    outer.exec();
+    EXPECT_EQ(log, "abc");
+    queues.mainQueue().asyncAfter(1ms, [&] { outer.quit(); });
+    outer.exec();
+    queues.shutDown();
+    queues.mainQueue().async([&] { log += 'd'; });
+    QCoreApplication::processEvents();
+    EXPECT_EQ(log, "abc");
+}
+
+} // namespace
+} // namespace guide

@@ -1,0 +1,144 @@
+#include "platform/ThreadedQueues.h"
+
+#include <atomic>
+#include <gtest/gtest.h>
+#include <random>
+
+using namespace std::chrono_literals;
+
+namespace guide {
+namespace {
+
+/// A queue and plain values that only its blocks touch: what the queue promises, the sanitizer checks.
+struct Guarded {
+    std::shared_ptr<DispatchQueue> queue;
+    bool serial;
+    long written = 0;
+    std::atomic<int> readers = 0;
+    std::atomic<int> writers = 0;
+
+    void write() {
+        EXPECT_EQ(++writers, 1);
+        EXPECT_EQ(readers, 0);
+        ++written;
+        --writers;
+    }
+    void read() {
+        ++readers;
+        EXPECT_EQ(writers, 0);
+        EXPECT_GE(written, 0);
+        --readers;
+    }
+};
+
+/// Each thread's own numbers, the same in every run.
+class Dice {
+  public:
+    explicit Dice(unsigned seed)
+        : m_numbers(seed) {}
+    unsigned operator()(unsigned sides) { return static_cast<unsigned>(m_numbers() % sides); }
+
+  private:
+    std::minstd_rand m_numbers;
+};
+
+TEST(QueueStressTest, PromisesHoldUnderLoadAndAtTheEnd) {
+    constexpr int kRounds = 3;
+    constexpr unsigned kThreads = 4;
+    constexpr int kSteps = 1500;
+    for (unsigned round = 0; round < kRounds; ++round) {
+        ThreadedQueues queues([] {});
+        std::vector<std::unique_ptr<Guarded>> all;
+        for (unsigned i = 0; i < 4; ++i) {
+            const bool serial = i % 2 == 0;
+            all.push_back(std::make_unique<Guarded>());
+            all.back()->serial = serial;
+            all.back()->queue = queues.makeQueue(
+                "queue " + std::to_string(i), serial ? QueueKind::Serial : QueueKind::Concurrent,
+                i < 2 ? QueuePriority::Background : QueuePriority::UserInitiated);
+        }
+        std::atomic<long> writes = 0;
+        const auto step = [&](Dice& dice) {
+            const unsigned index = dice(4);
+            Guarded& guarded = *all[index];
+            const auto write = [&guarded, &writes] {
+                guarded.write();
+                ++writes;
+            };
+            const auto read = [&guarded] { guarded.serial ? guarded.write() : guarded.read(); };
+            switch (dice(9)) {
+            case 0:
+                guarded.queue->sync(read);
+                break;
+            case 1:
+                guarded.queue->syncBarrier(write);
+                break;
+            case 2:
+                guarded.queue->asyncBarrier(write);
+                break;
+            case 3:
+                guarded.queue->asyncAfter(std::chrono::milliseconds(dice(3)), read);
+                break;
+            case 4: {
+                const auto token = guarded.queue->suspend();
+                guarded.queue->asyncBarrier(write);
+                break;
+            }
+            case 5: {
+                DispatchGroup group;
+                group.async(*guarded.queue, read);
+                group.async(queues.globalQueue(QueuePriority::Default), [] {});
+                EXPECT_TRUE(group.wait());
+                break;
+            }
+            case 6:
+                // From a queue to one further on, as a check waits for its parse.
+                guarded.queue->async([&all, &writes, index] {
+                    for (std::size_t next = index + 1; next < all.size(); ++next) {
+                        all[next]->queue->syncBarrier([&] {
+                            all[next]->write();
+                            ++writes;
+                        });
+                    }
+                });
+                break;
+            case 7: {
+                // A suspension that ends wherever its block ends.
+                auto token = std::make_shared<SuspensionToken>(guarded.queue->suspend());
+                queues.globalQueue(QueuePriority::Background).async([token = std::move(token)] {});
+                break;
+            }
+            default:
+                guarded.queue->async(read);
+            }
+        };
+        std::vector<std::thread> threads;
+        for (unsigned t = 0; t < kThreads; ++t) {
+            threads.emplace_back([&, t] {
+                Dice dice(1 + round * kThreads + t);
+                for (int i = 0; i < kSteps; ++i) {
+                    step(dice);
+                }
+            });
+        }
+        if (round == 0) {
+            // The first round runs to its end; in the others the queues are shut down under load.
+            for (std::thread& thread : threads) {
+                thread.join();
+            }
+            for (const auto& guarded : all) {
+                guarded->queue->syncBarrier([] {});
+            }
+        }
+        queues.shutDown();
+        for (std::thread& thread : threads) {
+            if (thread.joinable()) {
+                thread.join();
+            }
+        }
+        EXPECT_GT(writes, 0);
+    }
+}
+
+} // namespace
+} // namespace guide
