@@ -10,8 +10,8 @@ namespace guide {
 
 enum class UserInterfaceIdiom { Phone = 0, Tablet = 1 };
 
-/// Facts of the device. May be called from any thread; zone and locale may change while the program runs, which
-/// arrives as a significant change of time.
+/// Facts of the device. May be called from any thread; zone and locale may change while the program runs,
+/// which arrives as a significant change of time.
 class Device {
   public:
     virtual ~Device() = default;

@@ -4,7 +4,8 @@
 
 namespace guide {
 
-/// The folders of one profile, absolute and without a closing slash. All but `bundle` exist and can be written.
+/// The folders of one profile, absolute and without a closing slash. All but `bundle` exist and can be
+/// written.
 struct Folders {
     /// Listing files and the catalogue archive: what can be made anew.
     QString caches;

@@ -54,8 +54,8 @@ struct TransferResult {
 };
 
 /// Blocking transfers for background queues; never to be called on the main thread. Only http and https are
-/// opened, redirects are not followed, cookies are kept for the process, and a body past the size bound ends as an
-/// error. Goes through the response cache as the request's policy says. May be called from any thread.
+/// opened, redirects are not followed, cookies are kept for the process, and a body past the size bound ends
+/// as an error. Goes through the response cache as the request's policy says. May be called from any thread.
 class HTTPClient {
   public:
     virtual ~HTTPClient() = default;

@@ -7,8 +7,8 @@
 
 namespace guide {
 
-/// Small values that follow the user between devices. A value is a boolean, an integer, a double, a string, bytes,
-/// a date or an array of these. May be called from any thread.
+/// Small values that follow the user between devices. A value is a boolean, an integer, a double, a string,
+/// bytes, a date or an array of these. May be called from any thread.
 class KeyValueStore {
   public:
     virtual ~KeyValueStore() = default;

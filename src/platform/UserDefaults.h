@@ -7,8 +7,8 @@
 
 namespace guide {
 
-/// The user's settings by key. A key that is absent, or whose value is not of the asked kind, gives nothing; the
-/// caller knows its default. May be called from any thread.
+/// The user's settings by key. A key that is absent, or whose value is not of the asked kind, gives nothing;
+/// the caller knows its default. May be called from any thread.
 class UserDefaults {
   public:
     virtual ~UserDefaults() = default;
