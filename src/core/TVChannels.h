@@ -21,6 +21,7 @@ namespace guide {
 /// returns and is written behind it, in order.
 class TVChannels {
   public:
+    /// The key-value store outlives this object.
     TVChannels(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues,
                SharedChannelData channelData);
     ~TVChannels();
@@ -34,12 +35,13 @@ class TVChannels {
     /// The record of a selected channel; null when it is not selected or not in the catalogue. Any thread.
     std::shared_ptr<TVChannel> channelWithChannelId(const ObjectId& channel) const;
 
-    /// Blocks until what setSelected has put off is written: for the end of the program.
-    void finishWriting();
+    /// Blocks until what setSelected has put off is written, and tries once more what could not be: for the
+    /// end of the program. False when the disk would not take it.
+    bool finishWriting();
 
   private:
     struct State;
-    std::unique_ptr<State> m_state;
+    std::shared_ptr<State> m_state;
 };
 
 } // namespace guide

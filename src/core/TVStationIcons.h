@@ -15,6 +15,9 @@ class TVStationIcons {
     TVStationIcons(const QString& iconFolder, double screenScale);
     ~TVStationIcons();
 
+    /// Whether the folder holds a file for the icon, without a look into it.
+    bool hasIconFile(const QString& name);
+
     /// A null image when the name is empty or no such icon can be read.
     QImage iconNamed(const QString& name);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sources/URLPlanner.h"
+#include "sources/RandomIndex.h"
 
 #include <QByteArray>
 

@@ -42,8 +42,13 @@ class SourceHostTable {
     std::optional<QString> baseOfStem(const QString& key, const QString& label,
                                       const QString& scheme = QStringLiteral("https")) const;
 
+    /// Whether the id is the Prima Max site's: the value of "PrimaMaxSourceId", with or without its scheme.
+    bool isPrimaMaxSourceId(const QString& sourceId) const;
+
   private:
     struct Told;
+    std::optional<QString> presentValue(const QString& key) const;
+
     QHash<QString, QString> m_values;
     std::shared_ptr<Told> m_told;
 };

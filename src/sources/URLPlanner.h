@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Moment.h"
+#include "sources/RandomIndex.h"
 #include "sources/SourceHostTable.h"
 
 #include <QList>
@@ -8,13 +9,10 @@
 #include <QTimeZone>
 #include <QUrl>
 
-#include <functional>
+#include <array>
 #include <optional>
 
 namespace guide {
-
-/// A uniformly random index below the bound. Called from whatever thread plans.
-using RandomIndex = std::function<unsigned(unsigned bound)>;
 
 /// Turns a source id into the URLs whose pages, read together, are its schedule. May be used from any thread
 /// as far as its random source may.
@@ -32,8 +30,24 @@ class URLPlanner {
                                                const QTimeZone& deviceZone) const;
 
   private:
+    /// The families whose list depends on the table alone.
+    enum FixedFamily {
+        NFeed,
+        SFeed,
+        TVPCFeed,
+        Mediaset,
+        MediasetPay,
+        DigiSport,
+        ComedyCentral,
+        FixedFamilyCount
+    };
+
+    std::optional<QList<QUrl>> fixedList(FixedFamily family) const;
+
     SourceHostTable m_hosts;
     RandomIndex m_random;
+    /// Made once, so that the channels of a family share one list.
+    std::array<std::optional<QList<QUrl>>, FixedFamilyCount> m_fixed;
 };
 
 } // namespace guide

@@ -1,0 +1,66 @@
+#include "core/TVChannel.h"
+
+#include "core/ListingsFile.h"
+#include "platform/FileReplacement.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QFile>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+TVChannel::TVChannel(const ObjectId& channelId, const QString& title, const QString& language,
+                     const QString& iconFileName, bool hasStreamURL, const QString& cachesFolder)
+    : m_identificator(channelId)
+    , m_title(title)
+    , m_language(language)
+    , m_iconFileName(iconFileName)
+    , m_hasStreamURL(hasStreamURL)
+    , m_listingsPath(cachesFolder + u'/' + listingsFileFromChannelIdentificator(channelId)) {}
+
+bool TVChannel::loading() const {
+    const std::lock_guard lock(m_guard);
+    return m_loading;
+}
+
+void TVChannel::setLoading(bool loading) {
+    const std::lock_guard lock(m_guard);
+    m_loading = loading;
+}
+
+std::optional<Moment> TVChannel::timeLoaded() const {
+    const std::lock_guard lock(m_guard);
+    if (!m_timeLoadedCache) {
+        m_timeLoadedCache = fileModificationDate(m_listingsPath);
+    }
+    return m_timeLoadedCache;
+}
+
+void TVChannel::setTimeLoaded(std::optional<Moment> timeLoaded) {
+    const std::lock_guard lock(m_guard);
+    m_timeLoadedCache = timeLoaded;
+}
+
+void TVChannel::unload() {
+    const std::lock_guard lock(m_guard);
+    m_timeLoadedCache.reset();
+    QFile::remove(m_listingsPath);
+}
+
+bool TVChannel::reloadNeeded(Moment now, std::chrono::seconds automaticUpdateInterval) const {
+    const bool isLoading = loading();
+    const std::optional<Moment> loaded = timeLoaded();
+    qDebug().noquote().nospace() << "channel=" << m_title << " loading=" << isLoading << " timeLoaded="
+                                 << (loaded ? QDateTime::fromMSecsSinceEpoch(
+                                                  loaded->time_since_epoch().count(), Qt::UTC)
+                                                  .toString(Qt::ISODate)
+                                            : u"nothing"_s);
+    if (isLoading) {
+        return false;
+    }
+    return !loaded || now - automaticUpdateInterval > *loaded;
+}
+
+} // namespace guide

@@ -1,0 +1,186 @@
+#include "core/TVChannels.h"
+
+#include "platform/Archive.h"
+#include "platform/FileReplacement.h"
+
+#include <QCborArray>
+#include <QDebug>
+#include <QFile>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using ChannelMap = std::unordered_map<ObjectId, std::shared_ptr<TVChannel>>;
+
+QCborArray encodedSelection(const std::vector<ObjectId>& selected) {
+    QCborArray array;
+    for (const ObjectId& id : selected) {
+        array.append(id.data());
+    }
+    return array;
+}
+
+std::vector<ObjectId> readSelection(const QString& path) {
+    QFile file(path);
+    const std::optional<QCborValue> root =
+        file.open(QIODevice::ReadOnly) ? unarchivedRoot(file.readAll()) : std::nullopt;
+    if (!root || !root->isArray()) {
+        qInfo("TVChannels: selectedChannels returned nil");
+        return {};
+    }
+    const QCborArray array = root->toArray();
+    qInfo().noquote().nospace() << "TVChannels: channelArray.count=" << array.size();
+    std::vector<ObjectId> selected;
+    selected.reserve(static_cast<std::size_t>(array.size()));
+    for (const QCborValue& value : array) {
+        if (value.isByteArray()) {
+            selected.emplace_back(value.toByteArray());
+        }
+    }
+    return selected;
+}
+
+} // namespace
+
+struct TVChannels::State {
+    /// What readers see: the selection and the records that go with it, never changed once it is published.
+    struct Snapshot {
+        std::vector<ObjectId> selected;
+        ChannelMap channels;
+    };
+    using SharedSnapshot = std::shared_ptr<const Snapshot>;
+
+    QString path;
+    QString cachesFolder;
+    KeyValueStore& keyValueStore;
+    SharedChannelData channelData;
+    std::shared_ptr<DispatchQueue> writer;
+
+    std::mutex guard;
+    SharedSnapshot current; // guarded; null until the first read
+    bool unwritten = false; // guarded
+
+    SharedSnapshot makeSnapshot(std::vector<ObjectId> selected, const Snapshot* previous) const {
+        auto snapshot = std::make_shared<Snapshot>();
+        snapshot->channels.reserve(selected.size());
+        for (const ObjectId& id : selected) {
+            if (std::shared_ptr<TVChannel> channel = recordOf(id, previous)) {
+                snapshot->channels.emplace(id, std::move(channel));
+            }
+        }
+        snapshot->selected = std::move(selected);
+        return snapshot;
+    }
+
+    std::shared_ptr<TVChannel> recordOf(const ObjectId& id, const Snapshot* previous) const {
+        if (previous) {
+            const auto known = previous->channels.find(id);
+            if (known != previous->channels.end()) {
+                return known->second;
+            }
+        }
+        const auto row = channelData->find(id);
+        if (row == channelData->end()) {
+            return nullptr;
+        }
+        const std::optional<QString> title = channelValue(row->second, u"Title"_s);
+        const std::optional<QString> language = channelValue(row->second, u"Language"_s);
+        const std::optional<QString> icon = channelValue(row->second, u"Icon"_s);
+        if (!title || !language || !icon) {
+            return nullptr;
+        }
+        qDebug().noquote().nospace() << "channelID=" << id.hex() << " put...";
+        auto channel = std::make_shared<TVChannel>(id, *title, *language, *icon,
+                                                   row->second.contains(u"Stream"_s), cachesFolder);
+        qDebug().noquote().nospace() << "channelID=" << id.hex() << " did put.";
+        return channel;
+    }
+
+    // The guard is held while the file is read, so that it is read once.
+    SharedSnapshot snapshot() {
+        const std::lock_guard lock(guard);
+        if (!current) {
+            current = makeSnapshot(readSelection(path), nullptr);
+        }
+        return current;
+    }
+
+    // On the writer queue. Writes the newest selection, so that of several changes in a row one is written.
+    bool write() {
+        SharedSnapshot newest;
+        {
+            const std::lock_guard lock(guard);
+            if (!unwritten) {
+                return true;
+            }
+            newest = current;
+        }
+        const QCborArray array = encodedSelection(newest->selected);
+        if (!replaceFile(path, archivedData(array))) {
+            qWarning().noquote() << "TVChannels: cannot write" << path;
+            return false;
+        }
+        keyValueStore.setValue(u"SelectedChannels"_s, array);
+        const std::lock_guard lock(guard);
+        unwritten = current != newest;
+        return true;
+    }
+};
+
+TVChannels::TVChannels(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues,
+                       SharedChannelData channelData)
+    : m_state(new State{.path = folders.documents + u"/selectedChannels.plist"_s,
+                        .cachesFolder = folders.caches,
+                        .keyValueStore = keyValueStore,
+                        .channelData = std::move(channelData),
+                        .writer = queues.makeQueue("selected", QueueKind::Serial, QueuePriority::Default),
+                        .guard = {},
+                        .current = nullptr}) {}
+
+TVChannels::~TVChannels() {
+    finishWriting();
+    // A block that is still on the queue finds nothing to do.
+    const std::lock_guard lock(m_state->guard);
+    m_state->unwritten = false;
+}
+
+std::vector<ObjectId> TVChannels::selected() const {
+    return m_state->snapshot()->selected;
+}
+
+void TVChannels::setSelected(std::vector<ObjectId> selected) {
+    qInfo().noquote().nospace() << "TVChannels: newSelectedCount=" << selected.size();
+    {
+        const std::lock_guard lock(m_state->guard);
+        const State::SharedSnapshot previous = m_state->current;
+        if (previous && previous->selected == selected) {
+            return;
+        }
+        m_state->current = m_state->makeSnapshot(std::move(selected), previous.get());
+        m_state->unwritten = true;
+    }
+    m_state->writer->asyncBarrier([state = m_state] { state->write(); });
+}
+
+std::shared_ptr<TVChannel> TVChannels::channelWithChannelId(const ObjectId& channel) const {
+    const State::SharedSnapshot snapshot = m_state->snapshot();
+    const auto found = snapshot->channels.find(channel);
+    return found == snapshot->channels.end() ? nullptr : found->second;
+}
+
+bool TVChannels::finishWriting() {
+    {
+        const std::lock_guard lock(m_state->guard);
+        if (!m_state->unwritten) {
+            return true;
+        }
+    }
+    bool written = false;
+    m_state->writer->sync([this, &written] { written = m_state->write(); });
+    return written;
+}
+
+} // namespace guide

@@ -1,0 +1,149 @@
+#include "core/TVStationIcons.h"
+
+#include <QDirIterator>
+#include <QHash>
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <mutex>
+#include <optional>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double kIconWidth = 50;
+constexpr double kIconHeight = 36;
+
+bool isImageExtension(QStringView extension) {
+    static constexpr std::array kExtensions{"png"_L1, "webp"_L1, "jpg"_L1, "jpeg"_L1, "gif"_L1, "svg"_L1};
+    return std::ranges::any_of(kExtensions, [extension](QLatin1StringView known) {
+        return extension.compare(known, Qt::CaseInsensitive) == 0;
+    });
+}
+
+// From the names under which an icon can be asked for to its file.
+QHash<QString, QString> iconFilesOf(const QString& folder) {
+    QHash<QString, QString> files;
+    QHash<QString, QString> byStem;
+    QDirIterator walk(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        const QString path = walk.next();
+        const QString name = path.mid(folder.size() + 1);
+        files.insert(name, path);
+        const qsizetype dot = name.lastIndexOf(u'.');
+        if (dot > 0 && isImageExtension(QStringView(name).mid(dot + 1))) {
+            QString& chosen = byStem[name.left(dot)];
+            if (chosen.isEmpty() || path < chosen) {
+                chosen = path;
+            }
+        }
+    }
+    for (auto stem = byStem.cbegin(); stem != byStem.cend(); ++stem) {
+        if (!files.contains(stem.key())) {
+            files.insert(stem.key(), stem.value());
+        }
+    }
+    return files;
+}
+
+} // namespace
+
+struct TVStationIcons::State {
+    QString folder;
+    double screenScale = 1;
+
+    std::mutex guard;
+    QHash<QString, QImage> icons;                 // guarded
+    std::optional<QHash<QString, QString>> files; // guarded; the folder's content, read on first use
+
+    // With the guard held.
+    QString pathOf(const QString& name) {
+        if (!files) {
+            files = iconFilesOf(folder);
+        }
+        return files->value(name);
+    }
+};
+
+TVStationIcons::TVStationIcons(const QString& iconFolder, double screenScale)
+    : m_state(std::make_unique<State>()) {
+    m_state->folder = QDir::cleanPath(iconFolder);
+    m_state->screenScale = screenScale;
+}
+
+TVStationIcons::~TVStationIcons() = default;
+
+bool TVStationIcons::hasIconFile(const QString& name) {
+    const std::lock_guard lock(m_state->guard);
+    return !name.isEmpty() && !m_state->pathOf(name).isEmpty();
+}
+
+QImage TVStationIcons::iconNamed(const QString& name) {
+    if (name.isEmpty()) {
+        return {};
+    }
+    QString path;
+    {
+        const std::lock_guard lock(m_state->guard);
+        const auto known = m_state->icons.constFind(name);
+        if (known != m_state->icons.cend()) {
+            return *known;
+        }
+        path = m_state->pathOf(name);
+    }
+    if (path.isEmpty()) {
+        return {};
+    }
+    // Two threads may do this at once for one name; their images are equal.
+    const QImage icon = toIcon(QImage(path), m_state->screenScale);
+    if (!icon.isNull()) {
+        const std::lock_guard lock(m_state->guard);
+        m_state->icons.insert(name, icon);
+    }
+    return icon;
+}
+
+void TVStationIcons::dropIcons() {
+    const std::lock_guard lock(m_state->guard);
+    m_state->icons = {};
+}
+
+QImage TVStationIcons::toIcon(const QImage& image, double screenScale) {
+    if (image.isNull()) {
+        return {};
+    }
+    const QSize standard(std::max(1, static_cast<int>(std::lround(kIconWidth * screenScale))),
+                         std::max(1, static_cast<int>(std::lround(kIconHeight * screenScale))));
+    if (image.size() == standard) {
+        QImage icon = image;
+        icon.setDevicePixelRatio(screenScale);
+        return icon;
+    }
+    double width = standard.width();
+    double height = image.height() * width / image.width();
+    if (height > standard.height()) {
+        height = standard.height();
+        width = image.width() * height / image.height();
+    }
+    const QSize fitted(std::max(1, static_cast<int>(std::lround(width))),
+                       std::max(1, static_cast<int>(std::lround(height))));
+
+    QImage icon(standard, QImage::Format_ARGB32_Premultiplied);
+    icon.fill(Qt::transparent);
+    QImage scaled = image.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                        .scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(1);
+    QPainter painter(&icon);
+    painter.drawImage((standard.width() - fitted.width()) / 2, (standard.height() - fitted.height()) / 2,
+                      scaled);
+    painter.end();
+    icon.setDevicePixelRatio(screenScale);
+    return icon;
+}
+
+} // namespace guide

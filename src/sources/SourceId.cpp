@@ -1,0 +1,87 @@
+#include "sources/SourceId.h"
+
+#include <array>
+#include <limits>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+unsigned listingsTypeForSourceId(const QString& sourceId, const SourceHostTable& hosts) {
+    if (sourceId.endsWith(".tv"_L1)) {
+        return kListingsXMLTV;
+    }
+    if (sourceId.startsWith(u'_')) {
+        return kListingsPalinsesto;
+    }
+    if (sourceId.startsWith("barrandov."_L1)) {
+        return kListingsBarrandov;
+    }
+    if (sourceId.startsWith("dsk."_L1)) {
+        return kListingsDigiSport;
+    }
+    if (sourceId.startsWith("joj."_L1)) {
+        return kListingsJojCinema;
+    }
+    if (sourceId.startsWith("-hbo."_L1)) {
+        return kListingsHBO;
+    }
+    if (hosts.isPrimaMaxSourceId(sourceId)) {
+        return kListingsPrimaMax;
+    }
+    if (sourceId.startsWith("cz.nova."_L1)) {
+        return kListingsNova;
+    }
+    if (sourceId.startsWith("dolce-sport."_L1)) {
+        return kListingsDolceSport;
+    }
+    if (sourceId.startsWith("cinestar."_L1)) {
+        return kListingsCinestar;
+    }
+    if (sourceIdUsedByPortNetwork(sourceId)) {
+        return kListingsPortNetwork;
+    }
+    if (sourceId == "cc.romania"_L1) {
+        return kListingsComedyCentral;
+    }
+    return kListingsXMLTV;
+}
+
+bool sourceIdUsedByPortNetwork(QStringView sourceId) {
+    constexpr qsizetype kMostDigits = std::numeric_limits<std::int32_t>::digits10 + 1;
+    if (sourceId.isEmpty() || sourceId.size() > kMostDigits || (sourceId.size() > 1 && sourceId[0] == u'0')) {
+        return false;
+    }
+    std::int64_t number = 0;
+    for (const QChar digit : sourceId) {
+        if (digit < u'0' || digit > u'9') {
+            return false;
+        }
+        number = number * 10 + (digit.unicode() - u'0');
+    }
+    return number <= std::numeric_limits<std::int32_t>::max();
+}
+
+std::optional<QTimeZone> timeZoneForServer(QStringView serverName) {
+    struct Row {
+        QLatin1StringView ending;
+        QTimeZone zone;
+    };
+    static const std::array<Row, 7> kZones{{
+        {"ro"_L1, QTimeZone("Europe/Bucharest")},
+        {"sk"_L1, QTimeZone("Europe/Bratislava")},
+        {"hu"_L1, QTimeZone("Europe/Budapest")},
+        {"hr"_L1, QTimeZone("Europe/Zagreb")},
+        {"rs"_L1, QTimeZone("Europe/Belgrade")},
+        {"cz"_L1, QTimeZone("Europe/Prague")},
+        {"ba"_L1, QTimeZone("Europe/Sarajevo")},
+    }};
+    for (const Row& row : kZones) {
+        if (serverName.endsWith(row.ending)) {
+            return row.zone;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace guide

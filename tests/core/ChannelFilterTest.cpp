@@ -1,0 +1,111 @@
+#include "core/ChannelFilter.h"
+
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace guide {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QString kA = u"58f4ded60befe78cb336a80a"_s;
+const QString kB = u"58f4ded60befe78cb336a80b"_s;
+const QString kC = u"58f4ded60befe78cb336a80c"_s;
+
+SupportedChannelTypes installedTypes() {
+    return SupportedChannelTypes::fromFile(
+        QStringLiteral(QUELLIN_SOURCE_DATA "/supported-channel-types.json"));
+}
+
+ChannelDictionary channel(const QString& location, const QString& title, const QString& language,
+                          const QString& icon) {
+    return {{u"Location"_s, location}, {u"Title"_s, title}, {u"Language"_s, language}, {u"Icon"_s, icon}};
+}
+
+QString titlesOf(const std::vector<ChannelDictionary>& channels) {
+    QStringList titles;
+    for (const ChannelDictionary& each : channels) {
+        titles.append(each.value(u"Title"_s));
+    }
+    return titles.join(u' ');
+}
+
+TEST(ChannelFilterTest, DropsWhatCannotBeShown) {
+    ChannelDictionary noLocation = channel(kA, u"x"_s, u"cs"_s, u"Czech/a"_s);
+    noLocation.remove(u"Location"_s);
+    ChannelDictionary noTitle = channel(kA, u"x"_s, u"cs"_s, u"Czech/a"_s);
+    noTitle.remove(u"Title"_s);
+    struct Row {
+        const char* name;
+        ChannelDictionary channel;
+        bool kept;
+    };
+    const Row rows[] = {
+        {"home pair", channel(kA, u"x"_s, u"cs"_s, u"Czech/a"_s), true},
+        {"last pair", channel(kA, u"x"_s, u"sk"_s, u"Slovak/a"_s), true},
+        {"two languages", channel(kA, u"x"_s, u"cs/sk"_s, u"Other/a"_s), true},
+        {"language of another pair", channel(kA, u"x"_s, u"en"_s, u"Czech/a"_s), false},
+        {"region in another case", channel(kA, u"x"_s, u"cs"_s, u"czech/a"_s), false},
+        {"icon name with a slash", channel(kA, u"x"_s, u"cs"_s, u"Czech/sub/a"_s), true},
+        {"icon without a slash", channel(kA, u"x"_s, u"cs"_s, u"Czech"_s), false},
+        {"icon that begins with a slash", channel(kA, u"x"_s, u"cs"_s, u"/a"_s), false},
+        {"icon that ends with a slash", channel(kA, u"x"_s, u"cs"_s, u"Czech/"_s), false},
+        {"no icon image", channel(kA, u"x"_s, u"cs"_s, u"Czech/absent"_s), false},
+        {"empty title", channel(kA, QString(), u"cs"_s, u"Czech/a"_s), false},
+        {"no title", noTitle, false},
+        {"no location", noLocation, false},
+    };
+    const auto hasIcon = [](const QString& name) { return name == u"a"_s || name == u"sub/a"_s; };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(filteredChannels({row.channel}, installedTypes(), hasIcon).size(), row.kept ? 1u : 0u);
+    }
+    EXPECT_TRUE(filteredChannels({rows[0].channel}, SupportedChannelTypes(), hasIcon).empty());
+}
+
+TEST(ChannelFilterTest, KeepsTheBetterVersionOfAChannel) {
+    const auto czech = [](const QString& id, const QString& title) {
+        return channel(id, title, u"cs"_s, u"Czech/a"_s);
+    };
+    const auto other = [](const QString& id, const QString& title, const QString& language = u"cs"_s) {
+        return channel(id, title, language, u"Other/a"_s);
+    };
+    struct Row {
+        const char* name;
+        std::vector<ChannelDictionary> channels;
+        QString titles;
+    };
+    const Row rows[] = {
+        {"home first", {czech(kA, u"home"_s), other(kA, u"other"_s)}, u"home"_s},
+        {"home last goes to the end",
+         {other(kA, u"other"_s), czech(kB, u"b"_s), czech(kA, u"home"_s), czech(kC, u"c"_s)},
+         u"b home c"_s},
+        {"equal versions", {other(kA, u"first"_s), other(kA, u"second"_s)}, u"first"_s},
+        {"score 0 never replaces",
+         {other(kA, u"first"_s, u"en"_s), other(kA, u"second"_s, u"fr"_s)},
+         u"first"_s},
+        {"improved twice",
+         {other(kA, u"en"_s, u"en"_s), other(kA, u"cs"_s), czech(kA, u"home"_s), czech(kA, u"again"_s)},
+         u"home"_s},
+        {"the same identity in other letters",
+         {czech(kA, u"first"_s), czech(kA.toUpper(), u"second"_s)},
+         u"first"_s},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const auto result =
+            filteredChannels(row.channels, installedTypes(), [](const QString&) { return true; });
+        EXPECT_EQ(titlesOf(result), row.titles);
+    }
+}
+
+TEST(ChannelFilterTest, AVersionWithoutIconReplacesNothing) {
+    const auto result = filteredChannels(
+        {channel(kA, u"kept"_s, u"cs"_s, u"Other/a"_s), channel(kA, u"bare"_s, u"cs"_s, u"Czech/b"_s)},
+        installedTypes(), [](const QString& name) { return name == u"a"_s; });
+    EXPECT_EQ(titlesOf(result), u"kept"_s);
+}
+
+} // namespace
+} // namespace guide

@@ -1,0 +1,85 @@
+#include "core/RemoteHostAlert.h"
+
+#include "fakes/ManualClock.h"
+#include "fakes/ManualQueues.h"
+
+#include <gtest/gtest.h>
+
+namespace guide {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+class Presenter final : public AlertPresenter {
+  public:
+    void presentAlert(const QString& title, const QString& message, Block okPressed) override {
+        alerts.emplace_back(title, message);
+        press = std::move(okPressed);
+    }
+    void moviePlayerPlaybackDidFinish() override { ++playersEnded; }
+
+    std::vector<std::pair<QString, QString>> alerts;
+    Block press;
+    int playersEnded = 0;
+};
+
+class RemoteHostAlertTest : public testing::Test {
+  protected:
+    std::size_t alertsAfterFailure(const TransferError& error = {}) {
+        alert->noRemoteHostAlert(error);
+        queues.run("main");
+        return presenter.alerts.size();
+    }
+
+    ManualClock clock;
+    ManualQueues queues{clock};
+    Presenter presenter;
+    std::unique_ptr<RemoteHostAlert> alert =
+        std::make_unique<RemoteHostAlert>(clock, queues.mainQueue(), presenter);
+};
+
+TEST_F(RemoteHostAlertTest, TellsOnceInMoreThanSixtySeconds) {
+    EXPECT_EQ(alertsAfterFailure(), 1u);
+    clock.advance(60s);
+    EXPECT_EQ(alertsAfterFailure(), 1u);
+    clock.advance(1s);
+    EXPECT_EQ(alertsAfterFailure(), 2u);
+
+    clock.advance(50s);
+    presenter.press();
+    EXPECT_EQ(presenter.playersEnded, 1);
+    clock.advance(60s);
+    EXPECT_EQ(alertsAfterFailure(), 2u) << "the minute runs from the press";
+    clock.advance(1s);
+    EXPECT_EQ(alertsAfterFailure(), 3u);
+
+    clock.advance(100s);
+    alert->restartSilence();
+    clock.advance(60s);
+    EXPECT_EQ(alertsAfterFailure(), 3u);
+
+    clock.advance(-24h);
+    EXPECT_EQ(alertsAfterFailure(), 4u) << "a clock that was set back";
+}
+
+TEST_F(RemoteHostAlertTest, FallsBackTextByText) {
+    alertsAfterFailure();
+    clock.advance(2min);
+    alertsAfterFailure(
+        {.description = u"d"_s, .failureReason = u"No route"_s, .recoverySuggestion = u"Move"_s});
+    ASSERT_EQ(presenter.alerts.size(), 2u);
+    EXPECT_EQ(presenter.alerts[0], std::pair(u"Unable to establish connection to remote server"_s,
+                                             u"Check your Internet connection."_s));
+    EXPECT_EQ(presenter.alerts[1], std::pair(u"No route"_s, u"Move"_s));
+}
+
+TEST_F(RemoteHostAlertTest, ShowsNothingAfterItsEnd) {
+    alert->noRemoteHostAlert({});
+    alert.reset();
+    queues.run("main");
+    EXPECT_TRUE(presenter.alerts.empty());
+}
+
+} // namespace
+} // namespace guide

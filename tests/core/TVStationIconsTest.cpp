@@ -1,0 +1,93 @@
+#include "core/TVStationIcons.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace guide {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QImage filled(int width, int height, Qt::GlobalColor color = Qt::red) {
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(color);
+    return image;
+}
+
+TEST(TVStationIconsTest, ReachesOneSizeByLetterboxing) {
+    struct Row {
+        const char* name;
+        QSize size;
+        double scale;
+        QRect painted; // in pixels of the result
+    };
+    const Row rows[] = {
+        {"wide", {400, 72}, 1, {0, 14, 50, 9}},
+        {"tall", {36, 144}, 1, {21, 0, 9, 36}},
+        {"small is enlarged", {25, 18}, 1, {0, 0, 50, 36}},
+        {"three pixels a point", {30, 30}, 3, {21, 0, 108, 108}},
+        {"a hair", {1, 4000}, 1, {25, 0, 1, 36}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const QImage icon = TVStationIcons::toIcon(filled(row.size.width(), row.size.height()), row.scale);
+        ASSERT_EQ(icon.size(), QSize(50, 36) * row.scale);
+        EXPECT_EQ(icon.devicePixelRatio(), row.scale);
+        QRect painted;
+        for (int y = 0; y < icon.height(); ++y) {
+            for (int x = 0; x < icon.width(); ++x) {
+                if (icon.pixelColor(x, y).alpha() > 127) {
+                    painted |= QRect(x, y, 1, 1);
+                }
+            }
+        }
+        EXPECT_NEAR(painted.x(), row.painted.x(), 1);
+        EXPECT_NEAR(painted.y(), row.painted.y(), 1);
+        EXPECT_EQ(painted.size(), row.painted.size());
+    }
+}
+
+TEST(TVStationIconsTest, KeepsABitmapOfTheRightSize) {
+    QImage image = filled(100, 72);
+    image.setPixel(7, 7, qRgb(1, 2, 3));
+    const QImage icon = TVStationIcons::toIcon(image, 2);
+    EXPECT_EQ(icon.devicePixelRatio(), 2);
+    EXPECT_EQ(icon.pixel(7, 7), qRgb(1, 2, 3));
+    EXPECT_TRUE(TVStationIcons::toIcon(QImage(), 2).isNull());
+}
+
+TEST(TVStationIconsTest, FindsIconsByName) {
+    QTemporaryDir folder;
+    QDir(folder.path()).mkdir(u"icons"_s);
+    const QString icons = folder.filePath(u"icons"_s);
+    ASSERT_TRUE(filled(10, 10).save(icons + u"/one.png"_s));
+    ASSERT_TRUE(filled(10, 10).save(icons + u"/two"_s, "png"));
+    ASSERT_TRUE(filled(10, 10).save(icons + u"/cz.three.png"_s));
+    ASSERT_TRUE(filled(10, 10).save(folder.filePath(u"outside.png"_s)));
+    QFile broken(icons + u"/broken.png"_s);
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write("no image") > 0);
+    broken.close();
+
+    TVStationIcons stationIcons(icons, 1);
+    EXPECT_FALSE(stationIcons.iconNamed(u"one"_s).isNull());
+    EXPECT_FALSE(stationIcons.iconNamed(u"one.png"_s).isNull());
+    EXPECT_FALSE(stationIcons.iconNamed(u"two"_s).isNull());
+    EXPECT_FALSE(stationIcons.iconNamed(u"cz.three"_s).isNull());
+    EXPECT_TRUE(stationIcons.iconNamed(u"cz"_s).isNull());
+    EXPECT_TRUE(stationIcons.iconNamed(QString()).isNull());
+    EXPECT_TRUE(stationIcons.iconNamed(u"../outside"_s).isNull());
+    EXPECT_TRUE(stationIcons.iconNamed(u"broken"_s).isNull());
+    EXPECT_TRUE(stationIcons.hasIconFile(u"broken"_s));
+    EXPECT_FALSE(stationIcons.hasIconFile(u"none"_s));
+
+    ASSERT_TRUE(QFile::remove(icons + u"/one.png"_s));
+    EXPECT_FALSE(stationIcons.iconNamed(u"one"_s).isNull()) << "kept";
+    stationIcons.dropIcons();
+    EXPECT_TRUE(stationIcons.iconNamed(u"one"_s).isNull()) << "read anew";
+}
+
+} // namespace
+} // namespace guide

@@ -1,0 +1,34 @@
+#include "sources/NetworkActivity.h"
+
+#include "fakes/ManualQueues.h"
+
+#include <gtest/gtest.h>
+
+namespace guide {
+namespace {
+
+TEST(NetworkActivityTest, IndicatorFollowsTheFirstAndTheLastTransfer) {
+    ManualClock clock;
+    ManualQueues queues(clock);
+    std::vector<bool> told;
+    NetworkActivity activity(queues, [&](bool visible) {
+        queues.mainQueue().assertCurrent();
+        told.push_back(visible);
+    });
+    activity.stopNetworkActivity();
+    activity.startNetworkActivity();
+    activity.startNetworkActivity();
+    activity.stopNetworkActivity();
+    queues.runAll();
+    EXPECT_EQ(told, std::vector{true});
+    activity.stopNetworkActivity();
+    queues.runAll();
+    EXPECT_EQ(told, (std::vector{true, false}));
+    activity.stopNetworkActivity();
+    activity.startNetworkActivity();
+    queues.runAll();
+    EXPECT_EQ(told, (std::vector{true, false, true})) << "a stop without a start does not count";
+}
+
+} // namespace
+} // namespace guide

@@ -1,0 +1,106 @@
+#include "sources/SourceHostTable.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace guide {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+int warnings = 0;
+
+/// Counts the log lines of the test that holds one.
+class CountedWarnings {
+  public:
+    CountedWarnings() {
+        warnings = 0;
+        m_previous = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString&) {
+            warnings += type == QtWarningMsg ? 1 : 0;
+        });
+    }
+    ~CountedWarnings() { qInstallMessageHandler(m_previous); }
+
+  private:
+    QtMessageHandler m_previous;
+};
+
+TEST(SourceHostTableTest, SchemeIsKeptOrWritten) {
+    const SourceHostTable hosts = *SourceHostTable::fromJson(R"({
+        "bare": "a.example", "port": "127.0.0.1:8080/", "http": "http://a.example", "path": " https://a.example/x/ ",
+        "letters": "httpbin.example", "number": 5, "empty": "", "scheme": "http://"})");
+    struct Row {
+        QString key;
+        std::optional<QString> base;
+        std::optional<QString> name;
+        std::optional<QString> stem;
+    };
+    const Row rows[] = {
+        {u"bare"_s, u"https://a.example"_s, u"a.example"_s, u"https://a.example.hr"_s},
+        {u"port"_s, u"https://127.0.0.1:8080"_s, u"127.0.0.1:8080"_s, u"https://127.0.0.1.hr:8080"_s},
+        {u"http"_s, u"http://a.example"_s, u"a.example"_s, u"http://a.example.hr"_s},
+        {u"path"_s, u"https://a.example/x"_s, u"a.example/x"_s, u"https://a.example.hr/x"_s},
+        {u"letters"_s, u"https://httpbin.example"_s, u"httpbin.example"_s, u"https://httpbin.example.hr"_s},
+        {u"number"_s, {}, {}, {}},
+        {u"empty"_s, {}, {}, {}},
+        {u"scheme"_s, {}, {}, {}},
+        {u"missing"_s, {}, {}, {}},
+    };
+    const CountedWarnings counted;
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.key.toStdString());
+        EXPECT_EQ(hosts.base(row.key), row.base);
+        EXPECT_EQ(hosts.name(row.key), row.name);
+        EXPECT_EQ(hosts.baseOfStem(row.key, u"hr"_s), row.stem);
+    }
+    EXPECT_EQ(hosts.base(u"bare"_s, u"http"_s), u"http://a.example"_s);
+    EXPECT_EQ(hosts.base(u"path"_s, u"http"_s), u"https://a.example/x"_s);
+    EXPECT_EQ(warnings, 4) << "one for each key";
+    const SourceHostTable marked = *SourceHostTable::fromJson(R"({"a": "x-%@.example:81"})");
+    EXPECT_EQ(marked.baseOfStem(u"a"_s, u"net"_s), u"https://x-net.example:81"_s);
+}
+
+TEST(SourceHostTableTest, OverrideReplacesKeyByKey) {
+    const auto write = [](const QString& path, const QByteArray& content) {
+        QFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    };
+    QTemporaryDir bundle;
+    QTemporaryDir configuration;
+    const CountedWarnings counted;
+    ASSERT_TRUE(
+        write(bundle.filePath(u"hosts.json"_s), R"({"A": "a.example", "B": "b.example", "C": "c.example"})"));
+    EXPECT_EQ(SourceHostTable::installed(bundle.path(), configuration.path()).value(u"A"_s), u"a.example"_s);
+    EXPECT_EQ(warnings, 0) << "an override is a choice";
+
+    ASSERT_TRUE(write(configuration.filePath(u"hosts.json"_s), R"({"A": "own.example", "B": ""})"));
+    const SourceHostTable table = SourceHostTable::installed(bundle.path(), configuration.path());
+    EXPECT_EQ(table.value(u"A"_s), u"own.example"_s);
+    EXPECT_EQ(table.base(u"B"_s), std::nullopt) << "switched off";
+    EXPECT_EQ(table.value(u"C"_s), u"c.example"_s);
+
+    ASSERT_TRUE(write(configuration.filePath(u"hosts.json"_s), R"({"A": )"));
+    EXPECT_EQ(SourceHostTable::installed(bundle.path(), configuration.path()).value(u"A"_s), u"a.example"_s);
+}
+
+TEST(SourceHostTableTest, InstalledTableNamesReservedHostsOnly) {
+    const SourceHostTable table =
+        *SourceHostTable::fromFile(QStringLiteral(QUELLIN_SOURCE_DATA "/hosts.json"));
+    for (const QString& key :
+         {u"RytecMirrorA"_s,     u"RytecMirrorB"_s,      u"NFeedHost"_s,        u"SFeedHost"_s,
+          u"TVPCFeedHost"_s,     u"DolceSportHost"_s,    u"MediasetHost"_s,     u"MediasetPayHost"_s,
+          u"BarrandovHost"_s,    u"DigiSportHost"_s,     u"JojCinemaHost"_s,    u"HBOHost.hu"_s,
+          u"HBODetailHost.hu"_s, u"PrimaMaxSourceId"_s,  u"NovaHost"_s,         u"BNetHost"_s,
+          u"BNetDomain"_s,       u"ComedyCentralHost"_s, u"CinestarHostStem"_s, u"MojTVHostStem"_s,
+          u"PortHost"_s,         u"TVProfilHost"_s,      u"HRTHost"_s,          u"IMDbHost"_s,
+          u"FeedImageBase"_s,    u"FeedSiteHost"_s}) {
+        EXPECT_TRUE(table.value(key).section(u'/', 2, 2).endsWith(u".example"_s) ||
+                    table.value(key).endsWith(u".example"_s))
+            << key.toStdString();
+    }
+}
+
+} // namespace
+} // namespace guide

@@ -1,0 +1,230 @@
+#include "sources/URLPlanner.h"
+
+#include <QDateTime>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace guide {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr const char* kHosts = R"({
+    "RytecMirrorA": "https://ra.example", "RytecMirrorB": "https://rb.example/epg_data",
+    "NFeedHost": "n.example", "SFeedHost": "http://s.example", "TVPCFeedHost": "tvpc.example",
+    "DolceSportHost": "dolce.example", "MediasetHost": "free.example", "MediasetPayHost": "pay.example",
+    "BarrandovHost": "bar.example", "DigiSportHost": "digi.example", "JojCinemaHost": "joj.example",
+    "HBOHost.hu": "www.hbo.hu:8080", "HBOHost.ba": "hbo.ba", "HBOHost.de": "hbo.de",
+    "PrimaMaxSourceId": "max.example", "NovaHost": "nova.example",
+    "BNetHost": "epg.bnet.example", "BNetDomain": "bnet.example", "ComedyCentralHost": "cc.example",
+    "CinestarHostStem": "cine.example", "MojTVHostStem": "http://moj-%@.example:81",
+    "PortHost": "port.example", "TVProfilHost": "http://profil.example:82"
+})";
+
+// In the night in which central Europe's summer time ends, and that in which it begins: half an hour into the
+// day.
+const QString kAutumn = u"2026-10-24T22:30:00Z"_s;
+const QString kSpring = u"2026-03-27T23:30:00Z"_s;
+// New Year in central Europe, the last day of the old year in Greenwich.
+const QString kNewYear = u"2026-12-31T23:30:00Z"_s;
+
+class URLPlannerTest : public testing::Test {
+  protected:
+    /// The URLs as they are asked for, "nothing" where nothing is planned.
+    QStringList plan(const QString& sourceId, const QString& now = kNewYear,
+                     const QString& language = u"cs"_s) {
+        const auto moment =
+            Moment(std::chrono::milliseconds(QDateTime::fromString(now, Qt::ISODate).toMSecsSinceEpoch()));
+        const auto urls =
+            planner.urlsForSourceId(sourceId, moment, language, QTimeZone("Pacific/Kiritimati"));
+        if (!urls) {
+            return {u"nothing"_s};
+        }
+        QStringList texts;
+        for (const QUrl& url : *urls) {
+            texts.append(QString::fromLatin1(url.toEncoded()));
+        }
+        return texts;
+    }
+
+    std::vector<unsigned> picks; // taken from the end; 0 when there is none
+    URLPlanner planner{*SourceHostTable::fromJson(kHosts), [this](unsigned bound) {
+                           const unsigned pick = picks.empty() ? 0 : picks.back();
+                           if (!picks.empty()) {
+                               picks.pop_back();
+                           }
+                           return pick % bound;
+                       }};
+};
+
+TEST_F(URLPlannerTest, FamiliesWithoutDates) {
+    struct Row {
+        QString sourceId;
+        QStringList urls;
+    };
+    const QStringList nothing{u"nothing"_s};
+    const Row rows[] = {
+        {u"r.cz-sk.CT1.cz"_s, {u"https://ra.example/ryteccz-sk.xz"_s}},
+        {u"r..x"_s, {u"https://ra.example/rytec.xz"_s}},
+        {u"r.foo"_s, nothing},
+        {u"n.x"_s, {u"https://n.example/epg.xml"_s}},
+        {u"s.x"_s, {u"http://s.example/losmij/epg.xml.gz"_s}},
+        {u"tvpc."_s, {u"https://tvpc.example/xmltv.xml"_s}},
+        {u"dolce-sport.dolce-sport-1"_s, {u"https://dolce.example/program/dolce-sport-1"_s}},
+        {u"_BOING"_s, {u"https://free.example/dati/palinsesto/palinsesto.xml"_s}},
+        {u"_CRTN2"_s, {u"https://pay.example/export/palinsesto.xml"_s}},
+        {u"_c5"_s, {u"https://pay.example/export/palinsesto.xml"_s}},
+        {u"http://x.example/a b/%C3%A1%20.xml?q=1"_s, {u"http://x.example/a%20b/%C3%A1%20.xml?q=1"_s}},
+        {u"https://x.example/y.tv"_s, {u"https://x.example/y.tv"_s}},
+        {u"http://"_s, nothing},
+        {u"httpd"_s, nothing},
+        {u"http://x.example:port/"_s, nothing},
+        {u"dsk.any"_s, {u"https://digi.example/program/"_s}},
+        {u"cc.romania"_s,
+         {u"https://cc.example/program-tv"_s, u"https://cc.example/program-tv?page=1"_s,
+          u"https://cc.example/program-tv?page=2"_s, u"https://cc.example/program-tv?page=3"_s,
+          u"https://cc.example/program-tv?page=4"_s, u"https://cc.example/program-tv?page=5"_s,
+          u"https://cc.example/program-tv?page=6"_s}},
+        {u"cinestar.hr.12"_s,
+         {u"https://cine.example.hr/raspored/"_s, u"https://cine.example.hr/raspored/?dan=2"_s,
+          u"https://cine.example.hr/raspored/?dan=3"_s, u"https://cine.example.hr/raspored/?dan=4"_s,
+          u"https://cine.example.hr/raspored/?dan=5"_s, u"https://cine.example.hr/raspored/?dan=6"_s,
+          u"https://cine.example.hr/raspored/?dan=7"_s}},
+        {u"cinestar.h"_s, nothing},
+        {u"-hbo.h"_s, nothing},
+        {u"-hbo.xx.1"_s, nothing},
+        {u"hrt-1"_s, {u"http://profil.example:82/xmltv/data/hrt-1/weekly_hrt-1_profil.example:82.xml"_s}},
+        {u"042"_s, {u"http://profil.example:82/xmltv/data/042/weekly_042_profil.example:82.xml"_s}},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(plan(row.sourceId), row.urls) << row.sourceId.toStdString();
+        EXPECT_EQ(plan(row.sourceId, kSpring, u"fr"_s), row.urls) << "at any time, in any language";
+    }
+    picks = {1};
+    EXPECT_EQ(plan(u"r.fr.TF1"_s), QStringList{u"https://rb.example/epg_data/rytecfr.xz"_s});
+}
+
+TEST_F(URLPlannerTest, DaysAreStepsOfHoursInTheServersZone) {
+    struct Row {
+        const char* name;
+        QString sourceId;
+        QString now;
+        QString before; // what stands around the dates
+        QStringList dates;
+        QString behind;
+    };
+    const Row rows[] = {
+        {"a day of 25 hours comes twice and is asked for once",
+         u"joj.x"_s,
+         kAutumn,
+         u"https://joj.example/cz/cz-program/?day="_s,
+         {u"24-10-2026"_s, u"25-10-2026"_s, u"26-10-2026"_s, u"27-10-2026"_s, u"28-10-2026"_s,
+          u"29-10-2026"_s},
+         {}},
+        {"no leading zeros",
+         u"joj."_s,
+         kNewYear,
+         u"https://joj.example/cz/cz-program/?day="_s,
+         {u"31-12-2026"_s, u"1-1-2027"_s, u"2-1-2027"_s, u"3-1-2027"_s, u"4-1-2027"_s, u"5-1-2027"_s,
+          u"6-1-2027"_s},
+         {}},
+        {"the hour moves with the clock, the day does not",
+         u"cz.nova.Nova"_s,
+         kSpring,
+         u"https://nova.example/program/?epg_date="_s,
+         {u"2026-03-27"_s, u"2026-03-28"_s, u"2026-03-29"_s, u"2026-03-30"_s, u"2026-03-31"_s,
+          u"2026-04-01"_s, u"2026-04-02"_s, u"2026-04-03"_s, u"2026-04-04"_s},
+         {}},
+        {"the whole id",
+         u"rtl.tv"_s,
+         kNewYear,
+         u"http://epg.bnet.example/export/xmltv/rtl.tv.bnet.example_"_s,
+         {u"2026-12-31"_s, u"2027-01-01"_s, u"2027-01-02"_s, u"2027-01-03"_s, u"2027-01-04"_s,
+          u"2027-01-05"_s, u"2027-01-06"_s},
+         u".xml"_s},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        QStringList expected;
+        for (const QString& date : row.dates) {
+            expected.append(row.before + date + row.behind);
+        }
+        EXPECT_EQ(plan(row.sourceId, row.now), expected);
+    }
+    EXPECT_EQ(plan(u"barrandov.TV"_s),
+              (QStringList{u"https://bar.example/program/#onair"_s,
+                           u"https://bar.example/program/?day=2027-01-02#on-air"_s}));
+    EXPECT_EQ(plan(u"max.example"_s), (QStringList{u"https://max.example/tv-program"_s,
+                                                   u"https://max.example/tv-program/2027-01-02"_s,
+                                                   u"https://max.example/tv-program/2027-01-03"_s,
+                                                   u"https://max.example/tv-program/2027-01-04"_s}));
+}
+
+TEST_F(URLPlannerTest, HBOAsksForThreeWeeksInTheCountrysWay) {
+    struct Row {
+        QString sourceId;
+        QString first;
+        QString last;
+    };
+    const Row rows[] = {
+        {u"-hbo.hu.1"_s, u"https://www.hbo.hu:8080/tvmusor/12/31"_s,
+         u"https://www.hbo.hu:8080/tvmusor/01/22"_s},
+        {u"-hbo.ba.1"_s, u"https://hbo.ba/raspored/12/31"_s, u"https://hbo.ba/raspored/01/22"_s},
+        // 13:30 on 1 January on the device's island; no zone is known for the country.
+        {u"-hbo.de.1"_s, u"https://hbo.de/program/12/31"_s, u"https://hbo.de/program/01/22"_s},
+    };
+    for (const Row& row : rows) {
+        const QStringList urls = plan(row.sourceId);
+        ASSERT_EQ(urls.size(), 23) << row.sourceId.toStdString();
+        EXPECT_EQ(urls.first(), row.first);
+        EXPECT_EQ(urls.last(), row.last);
+    }
+    EXPECT_EQ(plan(u"-hbo.de"_s, u"2026-06-10T10:00:00Z"_s).at(1), u"https://hbo.de/program/06/11"_s);
+    EXPECT_EQ(plan(u"-hbo.ba"_s, u"2026-06-10T10:00:00Z"_s).at(1), u"https://hbo.ba/raspored/06/10"_s);
+}
+
+TEST_F(URLPlannerTest, PortNetworkAsksForOneWindow) {
+    const QString before = u"https://port.example/tvapi?channel_id=tvchannel-"_s;
+    EXPECT_EQ(plan(u"12345"_s),
+              QStringList{before + u"12345&i_datetime_from=2027-01-01&i_datetime_to=2027-01-08"_s});
+    EXPECT_EQ(plan(u"10124"_s),
+              QStringList{before + u"10124&i_datetime_from=2027-01-01&i_datetime_to=2027-01-05"_s});
+    for (const QString& id : {u"41"_s, u"60050"_s}) {
+        EXPECT_TRUE(plan(id).first().endsWith(u"2027-01-05"_s)) << id.toStdString();
+    }
+    EXPECT_EQ(plan(u"0"_s, kAutumn),
+              QStringList{before + u"0&i_datetime_from=2026-10-25&i_datetime_to=2026-10-31"_s})
+        << "604,800 seconds, an hour less than the week has";
+}
+
+TEST_F(URLPlannerTest, MojTVPicksAHostForEachDay) {
+    picks = {1, 0};
+    const QStringList urls = plan(u"=7"_s);
+    ASSERT_EQ(urls.size(), 11);
+    EXPECT_EQ(urls[0], u"http://moj-net.example:81/xmltv/service.ashx?kanal_id=7&date=1.1.2027."_s);
+    EXPECT_EQ(urls[1], u"http://moj-hr.example:81/xmltv/service.ashx?kanal_id=7&date=2.1.2027."_s);
+    EXPECT_EQ(urls[10], u"http://moj-net.example:81/xmltv/service.ashx?kanal_id=7&date=11.1.2027."_s);
+}
+
+TEST_F(URLPlannerTest, ChannelsOfAFeedShareOneList) {
+    const Moment now{};
+    const auto any = planner.urlsForSourceId(u"dsk.any"_s, now, {}, QTimeZone::utc());
+    const auto other = planner.urlsForSourceId(u"dsk.other"_s, now, {}, QTimeZone::utc());
+    EXPECT_EQ(any->constData(), other->constData()) << "the very same";
+    EXPECT_EQ(plan(u"-hbo.hu.1"_s), plan(u"-hbo.hu.2"_s));
+}
+
+TEST_F(URLPlannerTest, AFamilyWithoutHostPlansNothing) {
+    URLPlanner bare(*SourceHostTable::fromJson(R"({"NFeedHost": "", "RytecMirrorA": "a.example"})"),
+                    [](unsigned) { return 0u; });
+    for (const QString& id :
+         {u"r.a.b"_s, u"n.x"_s, u"s.x"_s, u"tvpc.x"_s, u"dolce-sport.x"_s, u"_C5"_s, u"_X"_s,
+          u"barrandov.x"_s, u"dsk.x"_s, u"joj.x"_s, u"-hbo.hu.1"_s, u"cz.nova.x"_s, u"a.tv"_s,
+          u"cc.romania"_s, u"cinestar.hr.1"_s, u"=1"_s, u"1"_s, u"x"_s, u""_s}) {
+        EXPECT_FALSE(bare.urlsForSourceId(id, Moment{}, {}, QTimeZone::utc())) << id.toStdString();
+    }
+}
+
+} // namespace
+} // namespace guide
