@@ -1,0 +1,59 @@
+#include "platform/linux/LinuxBackgroundTasks.h"
+
+#include "platform/ThreadedQueues.h"
+#include "platform/linux/LinuxClock.h"
+
+#include <future>
+#include <gtest/gtest.h>
+#include <thread>
+
+using namespace std::chrono_literals;
+
+namespace guide {
+namespace {
+
+TEST(LinuxBackgroundTasksTest, TheEndWaitsForTasksThatEndOnTheMainQueue) {
+    ThreadedQueues queues([] {});
+    LinuxBackgroundTasks tasks(queues);
+    const BackgroundTaskId first = tasks.beginBackgroundTask(nullptr);
+    const BackgroundTaskId second = tasks.beginBackgroundTask(nullptr);
+    EXPECT_NE(first, second);
+    tasks.endBackgroundTask(first);
+    tasks.endBackgroundTask(first);
+    tasks.endBackgroundTask(kBackgroundTaskInvalid);
+    EXPECT_FALSE(tasks.waitUntilIdle(1ms)) << "the second one still runs";
+    EXPECT_FALSE(tasks.waitUntilIdle(1ms, [] {}));
+    queues.globalQueue(QueuePriority::Background).async([&] {
+        queues.mainQueue().async([&] { tasks.endBackgroundTask(second); });
+    });
+    EXPECT_TRUE(tasks.waitUntilIdle(10s, [&] { queues.runMainQueue(); }));
+}
+
+TEST(LinuxBackgroundTasksTest, ExpiresWhatRunsForTooLongOnce) {
+    ThreadedQueues queues([] {});
+    LinuxBackgroundTasks tasks(queues, 5ms);
+    std::promise<void> expired;
+    bool endedInTime = true;
+    tasks.endBackgroundTask(tasks.beginBackgroundTask([&] { endedInTime = false; }));
+    BackgroundTaskId task = kBackgroundTaskInvalid;
+    task = tasks.beginBackgroundTask([&] { expired.set_value(); });
+    expired.get_future().wait();
+    EXPECT_FALSE(tasks.waitUntilIdle(0ms)) << "only its owner ends a task";
+    tasks.endBackgroundTask(task);
+    EXPECT_TRUE(tasks.waitUntilIdle(10s));
+    EXPECT_TRUE(endedInTime);
+}
+
+TEST(LinuxClockTest, StartsWhereItIsToldAndRunsOn) {
+    const Moment start = std::chrono::sys_days(std::chrono::year(2025) / 6 / 30) + 20h;
+    const LinuxClock clock(start);
+    EXPECT_LT(clock.now() - start, 10s);
+    const Moment before = clock.now();
+    std::this_thread::sleep_for(5ms);
+    EXPECT_GE(clock.now() - before, 4ms);
+    const auto system = std::chrono::system_clock::now();
+    EXPECT_LT(std::chrono::abs(LinuxClock().now() - system), 10s);
+}
+
+} // namespace
+} // namespace guide
