@@ -1,11 +1,16 @@
 #pragma once
 
+#include "core/ChannelDictionary.h"
+#include "core/TVStationIcons.h"
 #include "store/ShowItem.h"
 
 #include <QHash>
 #include <QImage>
+#include <QLocale>
 #include <QString>
+#include <QTimeZone>
 
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -20,5 +25,10 @@ struct CompoundResult {
     /// By section title, in input order.
     QHash<QString, ShowItems> sections;
 };
+
+/// Groups the shows by their day in the zone, written in the locale's long form. A show of a channel that is
+/// not in the catalogue or has no icon is left out; each icon is asked for once.
+CompoundResult compoundListings(std::span<const ShowItem> shows, const ChannelData& channels,
+                                TVStationIcons& icons, const QLocale& locale, const QTimeZone& zone);
 
 } // namespace guide

@@ -23,4 +23,16 @@ struct MergeResult {
     std::unordered_map<ObjectId, MergeOutcome> outcomes;
 };
 
+struct MergedList {
+    /// Null unless the outcome is Stored.
+    ShowList list;
+    MergeOutcome outcome = MergeOutcome::Empty;
+};
+
+/// Makes a list to be stored of one that a reader made: in stable order of start, without shows that have
+/// none, without a closing placeholder and later shows of an equal start, with end times by the next show's
+/// start for listing types from 2 up, without what ended by `now`, with the language set.
+MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& language, Moment now,
+                      unsigned type);
+
 } // namespace guide

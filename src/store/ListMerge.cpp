@@ -1,0 +1,72 @@
+#include "store/ListMerge.h"
+
+#include <algorithm>
+#include <array>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// From this listing type up the readers know only when a show begins.
+constexpr unsigned kFirstTypeWithoutEnds = 2;
+constexpr std::chrono::seconds kLengthOfLastShow{7200};
+
+/// What sources call an empty slot.
+bool isPlaceholder(const std::optional<QString>& title) {
+    static const std::array kPlaceholders = {u"No information"_s, u"Nincs információ"_s,
+                                             u"Není informace"_s, u"Nie je informácia"_s,
+                                             u"Nema sadržaja"_s,  u"Nema podataka"_s};
+    return title && std::find(kPlaceholders.begin(), kPlaceholders.end(), *title) != kPlaceholders.end();
+}
+
+Moment startOf(const ExtendedTVEntry& show) {
+    return *show.basic->dateTime();
+}
+
+void setEnds(std::vector<ExtendedTVEntry>& shows) {
+    for (std::size_t i = 0; i < shows.size(); ++i) {
+        shows[i].basic->setEndDateTime(i + 1 < shows.size() ? startOf(shows[i + 1])
+                                                            : startOf(shows[i]) + kLengthOfLastShow);
+    }
+}
+
+} // namespace
+
+MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& language, Moment now,
+                      unsigned type) {
+    std::erase_if(parsed, [](const ExtendedTVEntry& show) { return !show.basic || !show.basic->dateTime(); });
+    std::stable_sort(parsed.begin(), parsed.end(), [](const ExtendedTVEntry& a, const ExtendedTVEntry& b) {
+        return startOf(a) < startOf(b);
+    });
+    if (!parsed.empty() && isPlaceholder(parsed.back().basic->identificator())) {
+        parsed.pop_back();
+    }
+    parsed.erase(std::unique(parsed.begin(), parsed.end(),
+                             [](const ExtendedTVEntry& a, const ExtendedTVEntry& b) {
+                                 return startOf(a) == startOf(b);
+                             }),
+                 parsed.end());
+    if (type >= kFirstTypeWithoutEnds) {
+        setEnds(parsed);
+    }
+    if (parsed.empty()) {
+        return {nullptr, MergeOutcome::Empty};
+    }
+    const auto first = std::find_if(parsed.begin(), parsed.end(), [now](const ExtendedTVEntry& show) {
+        return show.basic->endsAfter(now);
+    });
+    if (first == parsed.end()) {
+        return {nullptr, MergeOutcome::OnlyPast};
+    }
+    ShowItems items;
+    items.reserve(static_cast<std::size_t>(parsed.end() - first));
+    for (auto show = first; show != parsed.end(); ++show) {
+        show->basic->setLanguage(language);
+        items.emplace_back(std::move(*show));
+    }
+    return {std::make_shared<const ShowItems>(std::move(items)), MergeOutcome::Stored};
+}
+
+} // namespace guide
