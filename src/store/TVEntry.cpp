@@ -37,7 +37,7 @@ TVEntry::TVEntry(const TVEntry& other)
     , m_endDateTime(other.m_endDateTime)
     , m_sourceId(other.m_sourceId)
     , m_language(other.m_language)
-    , m_url(other.m_url)
+    , m_encodedUrl(other.m_encodedUrl)
     , m_source(other.m_source)
     , m_display(other.m_display ? std::make_unique<Texts>(*other.m_display) : nullptr) {}
 
@@ -65,11 +65,11 @@ void TVEntry::setDateTime(std::optional<Moment> dateTime) {
 }
 
 std::optional<QUrl> TVEntry::url() const {
-    return m_url.isNull() ? std::nullopt : std::optional(QUrl::fromEncoded(m_url));
+    return m_encodedUrl ? std::optional(QUrl(*m_encodedUrl)) : std::nullopt;
 }
 
 void TVEntry::setUrl(const std::optional<QUrl>& url) {
-    m_url = !url ? QByteArray() : url->isEmpty() ? QByteArray("") : url->toEncoded();
+    m_encodedUrl = url ? std::optional(url->toString(QUrl::FullyEncoded)) : std::nullopt;
 }
 
 void TVEntry::derive(std::optional<QString> Texts::* text) {

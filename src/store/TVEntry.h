@@ -4,7 +4,6 @@
 #include "platform/Moment.h"
 #include "text/Alphabet.h"
 
-#include <QByteArray>
 #include <QString>
 #include <QUrl>
 
@@ -42,9 +41,12 @@ class TVEntry {
     /// The source that supplied the show.
     const std::optional<QString>& sourceId() const { return m_sourceId; }
     void setSourceId(std::optional<QString> sourceId) { m_sourceId = std::move(sourceId); }
-    /// The detail page of the show at its source. Made of its text when it is asked for.
+    /// The detail page of the show at its source. It is kept as its encoded text, which costs less in a long
+    /// list.
     std::optional<QUrl> url() const;
     void setUrl(const std::optional<QUrl>& url);
+    const std::optional<QString>& encodedUrl() const { return m_encodedUrl; }
+    void setEncodedUrl(std::optional<QString> url) { m_encodedUrl = std::move(url); }
     bool previouslyShown() const { return m_previouslyShown; }
     void setPreviouslyShown(bool previouslyShown) { m_previouslyShown = previouslyShown; }
 
@@ -102,8 +104,7 @@ class TVEntry {
     std::optional<Moment> m_endDateTime;
     std::optional<QString> m_sourceId;
     std::optional<QString> m_language;
-    /// Encoded; null when it is unset.
-    QByteArray m_url;
+    std::optional<QString> m_encodedUrl;
     Texts m_source;
     /// Null where the display forms are the source forms.
     std::unique_ptr<Texts> m_display;

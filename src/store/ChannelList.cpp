@@ -1,0 +1,65 @@
+#include "store/ChannelList.h"
+
+#include <algorithm>
+
+namespace guide {
+
+ChannelList::ChannelList(ShowList shows)
+    : m_shows(std::move(shows)) {
+    m_times.reserve(m_shows->size());
+    Moment latestEnd = Moment::min();
+    for (const ShowItem& show : *m_shows) {
+        const Moment end = show.entry()->endDateTime().value_or(Moment::min());
+        latestEnd = std::max(latestEnd, end);
+        m_times.push_back({*show.entry()->dateTime(), end, latestEnd});
+    }
+}
+
+std::size_t ChannelList::firstNotOver(Moment now) const {
+    // A list begins with what ran when it was stored, so the answer is near the front.
+    constexpr std::size_t kNear = 4;
+    const std::size_t near = std::min(kNear, m_times.size());
+    for (std::size_t i = 0; i < near; ++i) {
+        if (m_times[i].latestEnd >= now) {
+            return i;
+        }
+    }
+    const auto first =
+        std::partition_point(m_times.begin() + static_cast<std::ptrdiff_t>(near), m_times.end(),
+                             [now](const Times& times) { return times.latestEnd < now; });
+    return static_cast<std::size_t>(first - m_times.begin());
+}
+
+ShowSpan ChannelList::notOver(Moment now, std::size_t limit) const {
+    const std::size_t first = firstNotOver(now);
+    std::size_t end = first;
+    while (end < m_times.size() && end - first < limit && m_times[end].end >= now) {
+        ++end;
+    }
+    if (end - first == limit || end == m_times.size()) {
+        return {m_shows, first, end - first};
+    }
+    // A show that is over stands between others.
+    ShowItems shows;
+    for (std::size_t i = first; i < m_times.size() && shows.size() < limit; ++i) {
+        if (m_times[i].end >= now) {
+            shows.push_back((*m_shows)[i]);
+        }
+    }
+    return ShowSpan(std::move(shows));
+}
+
+std::size_t ChannelList::countNotOver(Moment now, std::size_t limit) const {
+    std::size_t count = 0;
+    for (std::size_t i = firstNotOver(now); i < m_times.size() && count < limit; ++i) {
+        count += m_times[i].end >= now ? 1 : 0;
+    }
+    return count;
+}
+
+const SearchText& ChannelList::searchText() const {
+    std::call_once(m_searchTextOnce, [this] { m_searchText = std::make_unique<const SearchText>(*m_shows); });
+    return *m_searchText;
+}
+
+} // namespace guide

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "store/SearchText.h"
+#include "store/ShowItem.h"
+
+#include <limits>
+#include <memory>
+#include <mutex>
+#include <unordered_map>
+#include <vector>
+
+namespace guide {
+
+/// The stored list of one channel, with what queries need of it close together. Immutable; any thread.
+class ChannelList {
+  public:
+    static constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
+
+    /// A list of shows that all have a start, in its order.
+    explicit ChannelList(ShowList shows);
+
+    const ShowList& shows() const { return m_shows; }
+    std::size_t size() const { return m_times.size(); }
+    const ShowItem& operator[](std::size_t index) const { return (*m_shows)[index]; }
+    Moment startOf(std::size_t index) const { return m_times[index].start; }
+    Moment endOf(std::size_t index) const { return m_times[index].end; }
+
+    /// The shows that are not over at the moment, in order, at most so many.
+    ShowSpan notOver(Moment now, std::size_t limit = kNoLimit) const;
+    std::size_t countNotOver(Moment now, std::size_t limit) const;
+
+    /// The texts of all its shows, for searches. Made at the first call.
+    const SearchText& searchText() const;
+
+  private:
+    struct Times {
+        Moment start;
+        Moment end;
+        /// The latest end of the shows up to this one: never falls, while ends may.
+        Moment latestEnd;
+    };
+
+    std::size_t firstNotOver(Moment now) const;
+
+    ShowList m_shows;
+    std::vector<Times> m_times;
+    mutable std::once_flag m_searchTextOnce;
+    mutable std::unique_ptr<const SearchText> m_searchText;
+};
+
+/// The store's contents at one time.
+using ChannelLists = std::unordered_map<ObjectId, std::shared_ptr<const ChannelList>>;
+
+} // namespace guide

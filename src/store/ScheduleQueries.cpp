@@ -1,0 +1,119 @@
+#include "store/ScheduleQueries.h"
+
+#include "store/LocalTime.h"
+#include "store/ShowDigest.h"
+
+#include <algorithm>
+
+namespace guide {
+
+namespace {
+
+constexpr int kEveningHour = 19;
+
+template <class Test>
+ShowItems matchingShows(const AllShows& all, Test test) {
+    ShowItems result;
+    for (const ShowItem* show : all.shows()) {
+        if (test(*show)) {
+            result.push_back(*show);
+            if (result.size() == kMostShows) {
+                break;
+            }
+        }
+    }
+    return result;
+}
+
+bool hasFavoriteTitle(const ShowItem& show, const FavoriteQuestions& favorites) {
+    const std::optional<QString>& title = show.entry()->title();
+    return title && favorites.containsFavoriteNamed(*title);
+}
+
+} // namespace
+
+ShowItems showsWithCategory(const AllShows& all, TVListingsCategory category, Moment now) {
+    return matchingShows(all, [&](const ShowItem& show) {
+        const TVListingsCategory mask = show.categories().value_or(0);
+        return (mask & category) != 0 && ((mask ^ category) & TVListingsCategorySeries) == 0 &&
+               show.entry()->endsAfter(now);
+    });
+}
+
+ShowItems allShowsWithCategory(const AllShows& all, TVListingsCategory category, Moment now,
+                               const QTimeZone& zone) {
+    LocalTime localTime(zone);
+    const bool eveningOnly = category == TVListingsCategoryEveningShows;
+    return matchingShows(all, [&](const ShowItem& show) {
+        return !show.entry()->overAt(now) &&
+               (!eveningOnly || localTime.hourAt(*show.entry()->dateTime()) >= kEveningHour);
+    });
+}
+
+ShowItems showsNotEnded(const ShowList& list, Moment now) {
+    ShowItems result;
+    if (list) {
+        std::copy_if(list->begin(), list->end(), std::back_inserter(result),
+                     [now](const ShowItem& show) { return show.entry()->endsAfter(now); });
+    }
+    return result;
+}
+
+ShowItems favoritesSchedule(const AllShows& all, const FavoriteQuestions& favorites, Moment now) {
+    return matchingShows(all, [&](const ShowItem& show) {
+        return show.entry()->endsAfter(now) && hasFavoriteTitle(show, favorites);
+    });
+}
+
+FavoritesToCome favoritesToCome(const AllShows& all, const FavoriteQuestions& favorites,
+                                const QString& scheme, Moment now) {
+    FavoritesToCome result;
+    result.shows = matchingShows(all, [&](const ShowItem& show) {
+        return show.entry()->dateTime() > now && hasFavoriteTitle(show, favorites);
+    });
+    for (const ShowItem& show : result.shows) {
+        if (const std::optional<QUrl> url = show.entry()->urlDigestWithScheme(scheme)) {
+            result.byURL.insert_or_assign(url->toString(), show);
+        }
+    }
+    return result;
+}
+
+ShowItems showScheduleForTitle(const AllShows& all, const QString& title, Moment now) {
+    return matchingShows(all, [&](const ShowItem& show) {
+        return show.entry()->title() == title && !show.entry()->overAt(now);
+    });
+}
+
+bool isBroadcast(const AllShows& all, const QString& identificator, bool previouslyShown, Moment now) {
+    const auto& shows = all.shows();
+    return std::any_of(shows.begin(), shows.end(), [&](const ShowItem* show) {
+        return show->entry()->previouslyShown() == previouslyShown && !show->entry()->overAt(now) &&
+               show->entry()->identificator() == identificator;
+    });
+}
+
+std::optional<ShowItem> showWithURL(const AllShows& all, const QUrl& url, const QString& scheme) {
+    const std::optional<ShowDigest> digest = digestOfUrl(url);
+    if (!digest) {
+        return std::nullopt;
+    }
+    // Digests are compared as bytes: URLs kept for every show would fill the memory.
+    for (const ShowItem* show : all.shows()) {
+        const TVEntry& entry = *show->entry();
+        if (entry.identificator() &&
+            showDigest(entry.channel(), entry.dateTime(), *entry.identificator()) == *digest &&
+            entry.urlDigestWithScheme(scheme) == url) {
+            return *show;
+        }
+    }
+    return std::nullopt;
+}
+
+std::size_t firstNotEnded(std::span<const ShowItem> list, Moment now) {
+    const auto first = std::find_if(list.begin(), list.end(),
+                                    [now](const ShowItem& show) { return show.entry()->endsAfter(now); });
+    return static_cast<std::size_t>(first - list.begin());
+}
+
+} // namespace guide

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "store/AllShows.h"
+#include "store/ShowItem.h"
+#include "store/ShowQuestions.h"
+
+#include <QString>
+#include <QTimeZone>
+#include <QUrl>
+
+#include <optional>
+#include <span>
+#include <unordered_map>
+
+namespace guide {
+
+/// The most shows that a query over all shows answers.
+inline constexpr std::size_t kMostShows = 2000;
+
+/// Shows that share a bit with the mask, have not ended, and are series if and only if the mask asks for
+/// series.
+ShowItems showsWithCategory(const AllShows& all, TVListingsCategory category, Moment now);
+
+/// Shows that are not over; for the selector "Evening Shows" those that start at 19 o'clock or later.
+ShowItems allShowsWithCategory(const AllShows& all, TVListingsCategory category, Moment now,
+                               const QTimeZone& zone);
+
+/// The shows of the list that have not ended, however many; none of a null list.
+ShowItems showsNotEnded(const ShowList& list, Moment now);
+
+/// Shows with a favourite title that have not ended.
+ShowItems favoritesSchedule(const AllShows& all, const FavoriteQuestions& favorites, Moment now);
+
+struct FavoritesToCome {
+    ShowItems shows;
+    /// By the text of the show's digest URL.
+    std::unordered_map<QString, ShowItem> byURL;
+};
+/// Shows with a favourite title that have not begun.
+FavoritesToCome favoritesToCome(const AllShows& all, const FavoriteQuestions& favorites,
+                                const QString& scheme, Moment now);
+
+/// Shows of exactly this title that are not over.
+ShowItems showScheduleForTitle(const AllShows& all, const QString& title, Moment now);
+
+/// Whether a show with this source title, a repeat or not, is not over.
+bool isBroadcast(const AllShows& all, const QString& identificator, bool previouslyShown, Moment now);
+
+/// The first show whose digest URL this is.
+std::optional<ShowItem> showWithURL(const AllShows& all, const QUrl& url, const QString& scheme);
+
+/// The index of the first show that ends after the moment; the number of shows when none does.
+std::size_t firstNotEnded(std::span<const ShowItem> list, Moment now);
+
+} // namespace guide

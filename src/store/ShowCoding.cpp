@@ -1,0 +1,220 @@
+#include "store/ShowCoding.h"
+
+#include "platform/KeyedArchiver.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace guide {
+
+namespace {
+
+void encode(KeyedArchiver& archiver, const TVEntry& entry) {
+    archiver.beginRecord();
+    archiver.encode("channel", entry.channel().bytes());
+    archiver.encode("realChannelId", entry.sourceId());
+    archiver.encode("lang", entry.language());
+    archiver.encode("dateTime", entry.dateTime());
+    archiver.encode("endDateTime", entry.endDateTime());
+    archiver.encode("title", entry.identificator());
+    archiver.encode("instantDetails", entry.instantDetails1());
+    archiver.encode("subtitle", entry.subtitle1());
+    archiver.encode("instantDescription", entry.instantDescription1());
+    archiver.encode("url", entry.encodedUrl());
+    archiver.encode("previouslyShown", entry.previouslyShown());
+    archiver.endRecord();
+}
+
+void encode(KeyedArchiver& archiver, const TVEntrySupplementalData& details) {
+    archiver.beginRecord();
+    archiver.encode("description", details.description);
+    archiver.encode("episodeDescription", details.episodeDescription);
+    archiver.encode("details", details.details);
+    archiver.encode("directedBy", details.directedBy);
+    archiver.encode("roles", details.roles);
+    archiver.encode("imdbURL", details.imdbURL);
+    archiver.encode("trailerURL", details.trailerURL);
+    archiver.encode("lang", details.language);
+    archiver.endRecord();
+}
+
+/// Reads the shows of one archive; remembers the texts that every show of a list repeats.
+class ShowDecoder {
+  public:
+    ShowDecoder(KeyedUnarchiver& unarchiver, const Alphabet& alphabet)
+        : m_unarchiver(unarchiver)
+        , m_alphabet(alphabet) {}
+
+    /// Reads one show, whole; nothing when it has no title or no start, or when the reading failed.
+    std::optional<ShowItem> decode() {
+        constexpr std::size_t kMostParts = 4;
+        const std::size_t count = m_unarchiver.array();
+        std::shared_ptr<const TVEntry> entry;
+        std::optional<TVListingsCategory> categories;
+        std::shared_ptr<const TVEntrySupplementalData> details;
+        QSet<QUrl> pictures;
+        if (count > 0) {
+            entry = decodeEntry();
+        }
+        if (count > 1) {
+            m_unarchiver.decode(categories);
+        }
+        if (count > 2) {
+            details = decodeDetails();
+        }
+        if (count > 3) {
+            pictures = decodePictures();
+        }
+        for (std::size_t i = kMostParts; i < count && !m_unarchiver.failed(); ++i) {
+            m_unarchiver.skip();
+        }
+        if (!entry || m_unarchiver.failed()) {
+            return std::nullopt;
+        }
+        return ShowItem(std::move(entry), categories, std::move(details), std::move(pictures));
+    }
+
+  private:
+    std::shared_ptr<const TVEntry> decodeEntry() {
+        ObjectId::Bytes channel{};
+        std::optional<QString> sourceId;
+        std::optional<QString> language;
+        std::optional<Moment> dateTime;
+        std::optional<Moment> endDateTime;
+        std::optional<QString> title;
+        std::optional<QString> instantDetails;
+        std::optional<QString> subtitle;
+        std::optional<QString> instantDescription;
+        std::optional<QString> url;
+        bool previouslyShown = false;
+
+        const auto readChannel = [&](KeyedUnarchiver& unarchiver) {
+            if (unarchiver.kind() == KeyedUnarchiver::Kind::Text) {
+                // The old form of the file.
+                QString hex;
+                unarchiver.decode(hex);
+                channel = ObjectId::fromHex(hex).bytes();
+            } else {
+                unarchiver.decode(channel);
+            }
+        };
+        const auto readSourceId = [&](KeyedUnarchiver& unarchiver) {
+            unarchiver.decode(m_sourceId);
+            sourceId = m_sourceId.text;
+        };
+        const auto readLanguage = [&](KeyedUnarchiver& unarchiver) {
+            unarchiver.decode(m_language);
+            language = m_language.text;
+        };
+        m_unarchiver.record(field("channel", readChannel), field("realChannelId", readSourceId),
+                            field("lang", readLanguage), field("dateTime", dateTime),
+                            field("endDateTime", endDateTime), field("title", title),
+                            field("instantDetails", instantDetails), field("subtitle", subtitle),
+                            field("instantDescription", instantDescription), field("url", url),
+                            field("previouslyShown", previouslyShown));
+        if (!title || !dateTime || m_unarchiver.failed()) {
+            return nullptr;
+        }
+        auto entry = std::make_shared<TVEntry>(m_alphabet);
+        entry->setChannel(ObjectId(channel));
+        entry->setSourceId(std::move(sourceId));
+        entry->setLanguage(std::move(language));
+        entry->setDateTime(dateTime);
+        entry->setEndDateTime(endDateTime);
+        entry->setIdentificator(std::move(title));
+        entry->setInstantDetails1(std::move(instantDetails));
+        entry->setSubtitle1(std::move(subtitle));
+        entry->setInstantDescription1(std::move(instantDescription));
+        entry->setEncodedUrl(std::move(url));
+        entry->setPreviouslyShown(previouslyShown);
+        return entry;
+    }
+
+    std::shared_ptr<const TVEntrySupplementalData> decodeDetails() {
+        auto details = std::make_shared<TVEntrySupplementalData>();
+        const auto readLanguage = [&](KeyedUnarchiver& unarchiver) {
+            unarchiver.decode(m_language);
+            details->language = m_language.text;
+        };
+        m_unarchiver.record(field("description", details->description),
+                            field("episodeDescription", details->episodeDescription),
+                            field("details", details->details), field("directedBy", details->directedBy),
+                            field("roles", details->roles), field("imdbURL", details->imdbURL),
+                            field("trailerURL", details->trailerURL), field("lang", readLanguage));
+        return details;
+    }
+
+    QSet<QUrl> decodePictures() {
+        QSet<QUrl> pictures;
+        const std::size_t count = m_unarchiver.array();
+        for (std::size_t i = 0; i < count && !m_unarchiver.failed(); ++i) {
+            QUrl picture;
+            m_unarchiver.decode(picture);
+            pictures.insert(picture);
+        }
+        return pictures;
+    }
+
+    KeyedUnarchiver& m_unarchiver;
+    const Alphabet& m_alphabet;
+    RepeatedText m_sourceId;
+    RepeatedText m_language;
+};
+
+} // namespace
+
+QByteArray archivedShows(std::span<const ShowItem> shows) {
+    KeyedArchiver archiver;
+    archiver.beginArray(shows.size());
+    for (const ShowItem& show : shows) {
+        const int elements = show.elementCount();
+        archiver.beginArray(static_cast<std::size_t>(elements));
+        encode(archiver, *show.entry());
+        if (elements > 1) {
+            archiver.append(*show.categories());
+        }
+        if (elements > 2) {
+            encode(archiver, *show.details());
+        }
+        if (elements > 3) {
+            archiver.beginArray(static_cast<std::size_t>(show.pictures().size()));
+            for (const QUrl& picture : show.pictures()) {
+                archiver.append(picture);
+            }
+        }
+    }
+    return std::move(archiver).finish();
+}
+
+std::optional<ShowItems> unarchivedShows(QByteArrayView archive, const Alphabet& alphabet) {
+    KeyedUnarchiver unarchiver(archive);
+    ShowDecoder decoder(unarchiver, alphabet);
+    ShowItems shows;
+    const std::size_t count = unarchiver.array();
+    for (std::size_t i = 0; i < count && !unarchiver.failed(); ++i) {
+        if (std::optional<ShowItem> show = decoder.decode()) {
+            shows.push_back(*std::move(show));
+        }
+    }
+    if (!unarchiver.finished()) {
+        return std::nullopt;
+    }
+    const auto earlier = [](const ShowItem& a, const ShowItem& b) {
+        return a.entry()->dateTime() < b.entry()->dateTime();
+    };
+    if (!std::is_sorted(shows.begin(), shows.end(), earlier)) {
+        std::stable_sort(shows.begin(), shows.end(), earlier);
+    }
+    return shows;
+}
+
+std::optional<ShowItems> unarchivedShowsOfFile(const QString& path, const Alphabet& alphabet) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return std::nullopt;
+    }
+    return unarchivedShows(file.readAll(), alphabet);
+}
+
+} // namespace guide
