@@ -23,7 +23,7 @@
 
 namespace guide {
 
-/// What the store is made of and asks; all of it outlives the store.
+/// What the store is made of and asks; all of it outlives the last block of the store's queues.
 struct TVListingsEnvironment {
     const Clock& clock;
     const Device& device;
@@ -65,23 +65,32 @@ class TVListings {
     /// returns.
     MergeResult merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, unsigned type);
 
+    /// Forgets the list; its file stays.
     void removeListingsForChannel(const ObjectId& channel);
-    void updatePopularList();
+    /// Makes the list of all shows anew; the second also starts the refresh of the most watched shows.
     void saveAllShows();
+    void updatePopularList();
+
+    /// Gives one show of a stored list other details, and pictures when there are any. Does nothing when the
+    /// list holds this very entry no more.
     void updateDetails(std::shared_ptr<const TVEntry> entry,
                        std::shared_ptr<const TVEntrySupplementalData> details, const QSet<QUrl>& pictures);
+    /// Sets the IMDb page, and the pictures when there are any, on every show of the channel with exactly
+    /// this mask and title.
     void updateIMDBForChannel(const ObjectId& channel, const QString& identificator,
                               TVListingsCategory category, const QUrl& url, const QSet<QUrl>& pictureURLs);
 
     // ---- files
 
+    /// Sets the channel's load time to now at once, and schedules its list; in the background it is written
+    /// soon.
     void addToSaveSchedule(const ObjectId& channel);
     /// Blocks on the file queue.
     bool isScheduledForSaving(const ObjectId& channel);
-    /// Writes the lists that are scheduled, in the background.
+    /// Writes the lists that are scheduled, in the background. What could not be written stays scheduled.
     void commitFiles();
-    /// Waits until the store is at rest and every scheduled list is written, or the time is up; false in that
-    /// case.
+    /// Blocks until every change and query that was asked for is done and every scheduled list is written, or
+    /// the time is up: then no further file is begun. True when nothing is left to be written.
     bool finishWriting(std::chrono::milliseconds atMost);
 
     // ---- queries
@@ -92,24 +101,37 @@ class TVListings {
     onAirShowsWithQueue(std::shared_ptr<DispatchQueue> queue,
                         std::function<void(std::vector<ObjectId> selected, std::vector<ShowSpan>)> block);
     void onAirShows(MainBlock<std::vector<ObjectId>, std::vector<ShowSpan>> mainBlock);
+    /// The shows of the channel that are not over.
     void cachedListForChannel(const ObjectId& channel, QueuePriority priority, MainBlock<ShowSpan> mainBlock);
+    /// For each selected channel how many shows are not over, counted up to showCount.
     void showCountForSelectedChannelsForQueue(std::shared_ptr<DispatchQueue> queue,
                                               std::function<void(ShowCounts)> block);
+    /// Shows that share a bit with the mask, series only where the mask asks for them.
     void showsWithCategory(TVListingsCategory category, QueuePriority priority,
                            MainBlock<CompoundResult> mainBlock);
+    /// The shows of a selector: the most watched, those of the evening, or all.
     void allShowsWithCategory(TVListingsCategory category, QueuePriority priority,
                               MainBlock<CompoundResult> mainBlock);
-    /// Answers on the global user-initiated queue.
+    /// Shows with the pattern in one of their texts, without regard to case and diacritics. Answers on the
+    /// global user-initiated queue.
     void showsContainingPattern(const QString& pattern, ShowsBlock highPriorityBlock);
+    /// The show with this digest URL. The block is not called when there is none.
     void showWithURL(const QUrl& url, MainBlock<ShowItem> mainBlock);
     void favoritesScheduleWithPriority(QueuePriority priority, MainBlock<CompoundResult> mainBlock);
     /// Answers on the access queue: the block must not wait for the store.
     void favoritesScheduleWithBlock(ShowsBlock block);
+    /// Favourites that have not begun, and the same by the text of their digest URL. With the first argument
+    /// false, nothing is looked for where there are no favourites. Answers on the access queue, as above.
     void favoritesScheduleWithPartialAllowed(
         bool partialAllowed, std::function<void(ShowItems, std::unordered_map<QString, ShowItem>)> URLBlock);
     void showScheduleForTitle(const QString& title, QueuePriority priority,
                               MainBlock<CompoundResult> mainBlock);
+    /// Whether a show of this source title, a repeat or not, is running or to come.
     void broadcastForTitle(const QString& title, bool previouslyShown, MainBlock<bool> mainBlock);
+
+    /// Groups shows by their day, off the main queue.
+    void compoundListingsWithShows(ShowItems shows, QueuePriority priority,
+                                   MainBlock<CompoundResult> mainBlock);
 
   private:
     struct State;

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "core/TVChannels.h"
+#include "platform/BackgroundTasks.h"
+#include "platform/Clock.h"
+#include "platform/DispatchQueue.h"
+#include "platform/Folders.h"
+#include "store/ChannelList.h"
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <unordered_set>
+
+namespace guide {
+
+/// Which lists have changed since their files were written, and the writing of the files, on a serial
+/// background queue. What it is made of outlives its last block. Any thread.
+class SaveSchedule : public std::enable_shared_from_this<SaveSchedule> {
+  public:
+    SaveSchedule(DispatchQueues& queues, const Clock& clock, const Folders& folders,
+                 BackgroundTasks& backgroundTasks, const TVChannels& channels);
+
+    DispatchQueue& queue() { return *m_queue; }
+
+    /// Schedules the lists, in the background.
+    void add(std::vector<ObjectId> channels);
+    /// Blocks on the queue.
+    bool contains(const ObjectId& channel);
+    bool empty();
+
+    /// Writes the files of the scheduled lists, under a background task. On the queue. A list without shows
+    /// that have not ended leaves its file alone. A list that could not be written stays scheduled.
+    void write(const ChannelLists& lists);
+
+    /// While it is set, a writing ends behind the file that it is at, and the other lists stay scheduled.
+    void setAbandoned(bool abandoned) { m_abandoned.store(abandoned, std::memory_order_relaxed); }
+
+  private:
+    enum class Written { Done, Failed };
+    Written writeList(const ObjectId& channel, const ChannelList& list, Moment now) const;
+
+    DispatchQueues& m_queues;
+    const Clock& m_clock;
+    const QString m_cachesFolder;
+    BackgroundTasks& m_backgroundTasks;
+    const TVChannels& m_channels;
+    const std::shared_ptr<DispatchQueue> m_queue;
+    std::unordered_set<ObjectId> m_scheduled; // on the queue
+    std::atomic<bool> m_abandoned{false};
+};
+
+} // namespace guide

@@ -1,0 +1,277 @@
+#include "store/TVListings.h"
+
+#include "core/ListingsFile.h"
+#include "store/ScheduleQueries.h"
+#include "store/ShowCoding.h"
+#include "store/ShowUpdates.h"
+#include "store/TVListingsState.h"
+
+#include <map>
+#include <unordered_set>
+
+namespace guide {
+
+namespace {
+
+QString listingsPath(const Folders& folders, const ObjectId& channel) {
+    return folders.caches + u'/' + listingsFileFromChannelIdentificator(channel);
+}
+
+std::shared_ptr<const ChannelList> channelList(ShowItems shows) {
+    return std::make_shared<const ChannelList>(std::make_shared<const ShowItems>(std::move(shows)));
+}
+
+void eraseFirst(ShowItems& shows, std::size_t count) {
+    shows.erase(shows.begin(), shows.begin() + static_cast<std::ptrdiff_t>(count));
+}
+
+} // namespace
+
+TVListings::State::State(TVListingsEnvironment ownEnvironment)
+    : environment(std::move(ownEnvironment))
+    , access(environment.queues.makeQueue("vorel.listings.access", QueueKind::Concurrent))
+    , saveSchedule(std::make_shared<SaveSchedule>(environment.queues, environment.clock, environment.folders,
+                                                  environment.backgroundTasks, environment.channels)) {}
+
+void TVListings::State::change(std::function<void(State&)> block) {
+    access->asyncBarrier([self = shared_from_this(), block = std::move(block)] { block(*self); });
+}
+
+void TVListings::State::query(std::function<void(State&)> block) {
+    underway.async(*access, [self = shared_from_this(), block = std::move(block)] { block(*self); });
+}
+
+void TVListings::State::queryAllShows(QueuePriority priority,
+                                      std::function<void(State&, const AllShows&)> block) {
+    // The block is moved on, never copied: what it holds for the main queue must not be let go of here.
+    query([priority, block = std::move(block)](State& state) mutable {
+        state.underway.async(state.environment.queues.globalQueue(priority),
+                             [self = state.shared_from_this(), all = state.allShows,
+                              block = std::move(block)] { block(*self, *all); });
+    });
+}
+
+void TVListings::State::startFirstRead() {
+    std::vector<ObjectId> channels = environment.channels.selected();
+    channels.push_back(ObjectId::popular());
+    change([channels = std::move(channels)](State& state) {
+        std::vector<std::shared_ptr<const ChannelList>> read(channels.size());
+        DispatchGroup reads;
+        for (std::size_t i = 0; i < channels.size(); ++i) {
+            reads.async(
+                state.environment.queues.globalQueue(QueuePriority::UserInitiated),
+                [&state, &channel = channels[i], &list = read[i]] { list = state.readList(channel); });
+        }
+        reads.wait();
+        for (std::size_t i = 0; i < channels.size(); ++i) {
+            if (read[i]) {
+                state.lists.insert_or_assign(channels[i], std::move(read[i]));
+            } else if (channels[i] != ObjectId::popular()) {
+                state.unload(channels[i]);
+            }
+        }
+        state.saveAllShows(false);
+    });
+}
+
+std::shared_ptr<const ChannelList> TVListings::State::readList(const ObjectId& channel) const {
+    std::optional<ShowItems> shows =
+        unarchivedShowsOfFile(listingsPath(environment.folders, channel), environment.alphabet);
+    if (!shows) {
+        return nullptr;
+    }
+    eraseFirst(*shows, firstNotEnded(*shows, environment.clock.now()));
+    return shows->empty() ? nullptr : channelList(*std::move(shows));
+}
+
+std::shared_ptr<const ChannelList> TVListings::State::listOfFile(const ObjectId& channel, Moment now) const {
+    std::optional<ShowItems> shows =
+        unarchivedShowsOfFile(listingsPath(environment.folders, channel), environment.alphabet);
+    if (!shows) {
+        return nullptr;
+    }
+    if (const std::size_t first = firstNotEnded(*shows, now); first < shows->size()) {
+        eraseFirst(*shows, first);
+    }
+    return channelList(*std::move(shows));
+}
+
+void TVListings::State::saveAllShows(bool updatePopular) {
+    // Of shows that start together, the one on the channel that the user put first comes first.
+    AllShows::Lists ordered;
+    std::unordered_set<ObjectId> placed{ObjectId::popular()};
+    for (const ObjectId& channel : environment.channels.selected()) {
+        if (const auto list = lists.find(channel); list != lists.end() && placed.insert(channel).second) {
+            ordered.push_back(list->second);
+        }
+    }
+    std::map<ObjectId, std::shared_ptr<const ChannelList>> others;
+    for (const auto& [channel, list] : lists) {
+        if (!placed.contains(channel)) {
+            others.emplace(channel, list);
+        }
+    }
+    for (auto& [channel, list] : others) {
+        ordered.push_back(std::move(list));
+    }
+    allShows = std::make_shared<const AllShows>(std::move(ordered), environment.clock.now());
+    if (updatePopular) {
+        environment.popularShows.refresh();
+    }
+}
+
+void TVListings::State::replaceList(const ObjectId& channel, ShowItems shows) {
+    lists.insert_or_assign(channel, channelList(std::move(shows)));
+    saveAllShows(false);
+    setTimeLoaded(channel);
+    scheduleSaving({channel});
+}
+
+void TVListings::State::unload(const ObjectId& channel) const {
+    if (const auto record = environment.channels.channelWithChannelId(channel)) {
+        record->unload();
+    }
+}
+
+void TVListings::State::setTimeLoaded(const ObjectId& channel) const {
+    if (channel == ObjectId::popular()) {
+        return;
+    }
+    if (const auto record = environment.channels.channelWithChannelId(channel)) {
+        record->setTimeLoaded(environment.clock.now());
+    }
+}
+
+void TVListings::State::scheduleSaving(std::vector<ObjectId> channels) {
+    saveSchedule->add(std::move(channels));
+    environment.queues.mainQueue().async([self = shared_from_this()] {
+        if (self->environment.applicationState.applicationState() == ApplicationState::Background) {
+            self->commitFiles();
+        }
+    });
+}
+
+void TVListings::State::commitFiles() {
+    saveSchedule->setAbandoned(false);
+    query([](State& state) {
+        // What is scheduled on the file queue by now is in the lists that are handed to it.
+        state.underway.async(
+            state.saveSchedule->queue(),
+            [self = state.shared_from_this(), lists = state.lists] { self->saveSchedule->write(lists); });
+    });
+}
+
+TVListings::TVListings(TVListingsEnvironment environment)
+    : m_state(std::make_shared<State>(std::move(environment))) {
+    m_state->environment.queues.mainQueue().async(
+        [&alarms = m_state->environment.alarms] { alarms.syncAlarms(); });
+    m_state->startFirstRead();
+}
+
+TVListings::~TVListings() = default;
+
+MergeResult TVListings::merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
+                              unsigned type) {
+    MergeResult result;
+    ChannelLists made;
+    for (const LoadItem& item : items) {
+        if (result.outcomes.contains(item.channel)) {
+            continue;
+        }
+        auto shows = parsed.extract(item.channel);
+        MergedList merged = mergedList(shows ? std::move(shows.mapped()) : std::vector<ExtendedTVEntry>(),
+                                       item.language, now, type);
+        result.outcomes.emplace(item.channel, merged.outcome);
+        if (merged.list) {
+            made.emplace(item.channel, std::make_shared<const ChannelList>(merged.list));
+            result.lists.emplace(item.channel, std::move(merged.list));
+            m_state->setTimeLoaded(item.channel);
+        }
+    }
+    if (made.empty()) {
+        return result;
+    }
+    m_state->change([made = std::move(made)](State& state) {
+        std::vector<ObjectId> channels;
+        for (const auto& [channel, list] : made) {
+            state.lists.insert_or_assign(channel, list);
+            channels.push_back(channel);
+        }
+        state.scheduleSaving(std::move(channels));
+    });
+    m_state->environment.alarms.setSynchronized(false);
+    m_state->environment.queues.mainQueue().async([state = m_state] {
+        if (state->environment.applicationState.applicationState() == ApplicationState::Background) {
+            state->environment.userDefaults.synchronize();
+        }
+        state->environment.alarms.syncAlarms();
+    });
+    return result;
+}
+
+void TVListings::removeListingsForChannel(const ObjectId& channel) {
+    m_state->change([channel](State& state) {
+        state.lists.erase(channel);
+        state.saveAllShows(true);
+    });
+}
+
+void TVListings::saveAllShows() {
+    m_state->change([](State& state) { state.saveAllShows(false); });
+}
+
+void TVListings::updatePopularList() {
+    m_state->change([](State& state) { state.saveAllShows(true); });
+}
+
+void TVListings::updateDetails(std::shared_ptr<const TVEntry> entry,
+                               std::shared_ptr<const TVEntrySupplementalData> details,
+                               const QSet<QUrl>& pictures) {
+    m_state->change([entry = std::move(entry), details = std::move(details), pictures](State& state) {
+        const auto list = state.lists.find(entry->channel());
+        if (list == state.lists.end()) {
+            return;
+        }
+        if (auto updated = listWithDetails(*list->second->shows(), *entry, details, pictures)) {
+            state.replaceList(entry->channel(), *std::move(updated));
+        }
+    });
+}
+
+void TVListings::updateIMDBForChannel(const ObjectId& channel, const QString& identificator,
+                                      TVListingsCategory category, const QUrl& url,
+                                      const QSet<QUrl>& pictureURLs) {
+    m_state->change([channel, identificator, category, url, pictureURLs](State& state) {
+        const auto list = state.lists.find(channel);
+        if (list == state.lists.end()) {
+            return;
+        }
+        if (auto updated = listWithIMDB(*list->second->shows(), identificator, category, url, pictureURLs)) {
+            state.replaceList(channel, *std::move(updated));
+        }
+    });
+}
+
+void TVListings::addToSaveSchedule(const ObjectId& channel) {
+    m_state->setTimeLoaded(channel);
+    m_state->scheduleSaving({channel});
+}
+
+bool TVListings::isScheduledForSaving(const ObjectId& channel) {
+    return m_state->saveSchedule->contains(channel);
+}
+
+void TVListings::commitFiles() {
+    m_state->commitFiles();
+}
+
+bool TVListings::finishWriting(std::chrono::milliseconds atMost) {
+    m_state->commitFiles();
+    if (!m_state->underway.wait(atMost)) {
+        m_state->saveSchedule->setAbandoned(true);
+        return false;
+    }
+    return m_state->saveSchedule->empty();
+}
+
+} // namespace guide

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "store/AllShows.h"
+#include "store/ChannelList.h"
+#include "store/SaveSchedule.h"
+#include "store/TVListings.h"
+
+namespace guide {
+
+/// What the blocks of one store share. The members below the queue belong to it: blocks read them, barriers
+/// write them.
+struct TVListings::State : std::enable_shared_from_this<State> {
+    explicit State(TVListingsEnvironment environment);
+
+    // ---- from any thread
+
+    /// Reads the listing files of the selected channels, in one barrier that waits for all of them.
+    void startFirstRead();
+    /// Submits a change as a barrier.
+    void change(std::function<void(State&)> block);
+    /// Runs the block on the access queue, beside other queries.
+    void query(std::function<void(State&)> block);
+    /// Runs the block on the global queue of the priority, with all shows as a query on the access queue
+    /// found them.
+    void queryAllShows(QueuePriority priority, std::function<void(State&, const AllShows&)> block);
+    /// Schedules the lists, and writes them when the program is in the background.
+    void scheduleSaving(std::vector<ObjectId> channels);
+    void commitFiles();
+    /// Answers the shows that `find` finds among all, grouped by day. `find` runs on the global queue.
+    void answerCompound(QueuePriority priority, MainBlock<CompoundResult> mainBlock,
+                        std::function<ShowItems(const State&, const AllShows&)> find);
+    CompoundResult compound(const ShowItems& shows) const;
+    DispatchQueue& mainQueue() const { return environment.queues.mainQueue(); }
+    void setTimeLoaded(const ObjectId& channel) const;
+    /// The list of the channel's file without what has ended; null when there is none.
+    std::shared_ptr<const ChannelList> readList(const ObjectId& channel) const;
+
+    // ---- on the access queue
+
+    void saveAllShows(bool updatePopular);
+    void replaceList(const ObjectId& channel, ShowItems shows);
+    void unload(const ObjectId& channel) const;
+    std::vector<ShowSpan> onAirShows(const std::vector<ObjectId>& channels, int limit) const;
+    /// For a channel that is not stored: the list of its file, without what has ended where that leaves any;
+    /// null when there is no file.
+    std::shared_ptr<const ChannelList> listOfFile(const ObjectId& channel, Moment now) const;
+
+    TVListingsEnvironment environment;
+    const std::shared_ptr<DispatchQueue> access;
+    const std::shared_ptr<SaveSchedule> saveSchedule;
+    /// All that is under way but the changes.
+    DispatchGroup underway;
+
+    ChannelLists lists;
+    std::shared_ptr<const AllShows> allShows = std::make_shared<const AllShows>();
+};
+
+} // namespace guide
