@@ -20,8 +20,8 @@ QString catalogueArchivePath(const QString& cachesFolder);
 std::optional<std::vector<ChannelDictionary>> channelsOfPropertyList(const QString& path);
 
 /// The filtered channels: those of the archive when it is newer than the property list and whole, else those
-/// of the property list, which are then written to the archive. Blocks on files; a failure leaves an empty
-/// catalogue and a log line.
+/// of the property list, which are then written to the archive. Where the list cannot be read, an archive of
+/// any age. Blocks on files; when all fails there are no channels, and the log says why.
 std::vector<ChannelDictionary> catalogueChannels(const QString& propertyListPath, const QString& archivePath,
                                                  const SupportedChannelTypes& types, const HasIcon& hasIcon);
 

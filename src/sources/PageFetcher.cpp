@@ -1,0 +1,99 @@
+#include "sources/PageFetcher.h"
+
+#include "sources/PageText.h"
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kAttempts = 2;
+constexpr std::chrono::milliseconds kPause{1'000};
+constexpr std::chrono::milliseconds kResourceTimeout{60'000};
+
+bool isGoodStatus(int status) {
+    return status >= 200 && status < 300;
+}
+
+/// Where the answer sends us; nothing when it does not, or not to a web server.
+std::optional<QUrl> redirection(const QUrl& from, const std::optional<HTTPResponse>& response) {
+    const std::optional<QByteArray> location = response ? response->header("Location") : std::nullopt;
+    if (!location) {
+        return std::nullopt;
+    }
+    const QUrl target = from.resolved(QUrl::fromEncoded(location->trimmed(), QUrl::TolerantMode));
+    const bool isWeb = target.scheme() == "http"_L1 || target.scheme() == "https"_L1;
+    return isWeb && target.isValid() && !target.host().isEmpty() ? std::optional(target) : std::nullopt;
+}
+
+} // namespace
+
+HTTPRequest pageRequest(const QUrl& url, const HTTPUserAgent& userAgent, std::chrono::milliseconds timeout) {
+    HTTPRequest request;
+    request.url = url;
+    request.headers = {{"User-Agent", userAgent.value()}, {"Accept-Encoding", "gzip,deflate"}};
+    request.cachePolicy = CachePolicy::ReturnCacheDataElseLoad;
+    request.timeout = timeout;
+    request.resourceTimeout = kResourceTimeout;
+    return request;
+}
+
+PageFetcher::PageFetcher(PageFetcherEnvironment environment)
+    : m_environment(std::move(environment)) {}
+
+NetPage PageFetcher::netPageForRequest(HTTPRequest request, bool /*userIsWaitingFor*/) const {
+    NetPage answer;
+    TransferResult transfer;
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        m_environment.networkActivity.startNetworkActivity();
+        transfer = m_environment.client.perform(request);
+        m_environment.networkActivity.stopNetworkActivity();
+
+        answer.status = transfer.response ? transfer.response->statusCode : 0;
+        if (transfer.error && transfer.error->cancelled) {
+            answer.reason = PageReason::Cancelled;
+            return answer;
+        }
+        if (transfer.error) {
+            answer.reason = PageReason::Transfer;
+            if (transfer.body.isEmpty() && m_environment.noRemoteHostAlert) {
+                m_environment.noRemoteHostAlert(*transfer.error);
+            }
+            // A page that broke off would put half a schedule in the place of a whole one.
+            transfer.body.clear();
+        } else if (!isGoodStatus(answer.status)) {
+            answer.reason = PageReason::Status;
+            transfer.body.clear();
+        } else {
+            answer.reason = transfer.body.isEmpty() ? PageReason::Empty : PageReason::None;
+        }
+        if (!transfer.body.isEmpty()) {
+            break;
+        }
+        if (attempt == 0) {
+            if (answer.reason == PageReason::Empty) {
+                // Else the cache would answer the second time.
+                m_environment.client.removeCachedResponse(request);
+            }
+            if (const std::optional<QUrl> target = redirection(request.url, transfer.response)) {
+                request.url = *target;
+            }
+        }
+        if (!m_environment.wait(kPause)) {
+            answer.reason = PageReason::Cancelled;
+            return answer;
+        }
+    }
+    if (transfer.body.isEmpty()) {
+        m_environment.client.removeCachedResponse(request);
+        return answer;
+    }
+    PageText text = pageText(std::move(transfer.body), transfer.response->header("Content-Type"),
+                             m_environment.physicalMemory);
+    answer.page = std::move(text.text);
+    answer.reason = text.reason;
+    return answer;
+}
+
+} // namespace guide

@@ -1,0 +1,164 @@
+#include "core/TVChannels.h"
+
+#include "core/ListingsFile.h"
+#include "fakes/ManualClock.h"
+#include "fakes/ManualQueues.h"
+#include "fakes/MemoryKeyValueStore.h"
+#include "platform/Archive.h"
+#include "platform/FileReplacement.h"
+
+#include <QCborArray>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace guide {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+const ObjectId kA = ObjectId::fromHex(u"58f4ded60befe78cb336a80a"_s);
+const ObjectId kB = ObjectId::fromHex(u"58f4ded60befe78cb336a80b"_s);
+const ObjectId kC = ObjectId::fromHex(u"58f4ded60befe78cb336a80c"_s);
+const ObjectId kUnknown = ObjectId::fromHex(u"58f4ded60befe78cb336a8ff"_s);
+
+SharedChannelData catalogue() {
+    auto data = std::make_shared<ChannelData>();
+    for (const ObjectId& id : {kA, kB}) {
+        data->emplace(id, ChannelDictionary{{u"Location"_s, id.hex()},
+                                            {u"Title"_s, u"Channel"_s},
+                                            {u"Language"_s, u"cs"_s},
+                                            {u"Icon"_s, u"Czech/a"_s}});
+    }
+    data->at(kB).insert(u"Stream"_s, QString());
+    data->emplace(kC, ChannelDictionary{{u"Title"_s, u"No icon"_s}, {u"Language"_s, u"cs"_s}});
+    return data;
+}
+
+class TVChannelsTest : public testing::Test {
+  protected:
+    TVChannels makeChannels() { return {folders, keyValueStore, queues, catalogue()}; }
+    QString path() const { return folders.documents + u"/selectedChannels.plist"_s; }
+
+    QTemporaryDir folder;
+    Folders folders{folder.path(), folder.path(), {}, {}, {}, {}};
+    ManualClock clock;
+    ManualQueues queues{clock};
+    MemoryKeyValueStore keyValueStore;
+};
+
+TEST_F(TVChannelsTest, SelectionOutlivesTheProcessInItsOrder) {
+    {
+        TVChannels channels = makeChannels();
+        EXPECT_TRUE(channels.selected().empty());
+        channels.setSelected({kB, kUnknown, kA});
+        EXPECT_EQ(channels.selected(), (std::vector{kB, kUnknown, kA}));
+        EXPECT_FALSE(QFile::exists(path())) << "written behind the caller";
+        queues.runAll();
+    }
+    EXPECT_EQ(makeChannels().selected(), (std::vector{kB, kUnknown, kA}));
+    EXPECT_EQ(keyValueStore.valueForKey(u"SelectedChannels"_s),
+              QCborValue(QCborArray{kB.data(), kUnknown.data(), kA.data()}));
+}
+
+TEST_F(TVChannelsTest, AnEqualSelectionWritesNothing) {
+    TVChannels channels = makeChannels();
+    channels.setSelected({kA});
+    queues.runAll();
+    ASSERT_TRUE(QFile::remove(path()));
+    channels.setSelected({kA});
+    queues.runAll();
+    EXPECT_FALSE(QFile::exists(path()));
+    EXPECT_EQ(keyValueStore.writeCount(), 1);
+
+    channels.setSelected({kB});
+    channels.setSelected({});
+    queues.runAll();
+    EXPECT_EQ(keyValueStore.valueForKey(u"SelectedChannels"_s), QCborValue(QCborArray{}));
+}
+
+TEST_F(TVChannelsTest, AFailedWriteIsNotMirroredAndIsTriedAgain) {
+    TVChannels channels = makeChannels();
+    ASSERT_TRUE(QDir().mkdir(path()) && QDir(path()).mkdir(u"in the way"_s));
+    channels.setSelected({kA});
+    queues.runAll();
+    EXPECT_FALSE(channels.finishWriting());
+    EXPECT_EQ(keyValueStore.writeCount(), 0);
+    EXPECT_EQ(channels.selected(), std::vector{kA});
+
+    ASSERT_TRUE(QDir(path()).removeRecursively());
+    EXPECT_TRUE(channels.finishWriting());
+    EXPECT_EQ(makeChannels().selected(), std::vector{kA});
+    EXPECT_EQ(keyValueStore.writeCount(), 1);
+}
+
+TEST_F(TVChannelsTest, WhatCannotBeReadIsNoSelection) {
+    const QByteArray whole = archivedData(QCborArray{kA.data(), QByteArray(11, 'x'), 5, kB.data()});
+    struct Row {
+        const char* name;
+        QByteArray file;
+        std::vector<ObjectId> selected;
+    };
+    const Row rows[] = {
+        {"other values", whole, {kA, ObjectId(QByteArray(12, '\0')), kB}},
+        {"cut short", whole.left(whole.size() - 3), {}},
+        {"no archive", "<plist/>", {}},
+        {"empty", "", {}},
+        {"no array", archivedData(QCborValue(7)), {}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        ASSERT_TRUE(replaceFile(path(), row.file));
+        EXPECT_EQ(makeChannels().selected(), row.selected);
+    }
+}
+
+TEST_F(TVChannelsTest, RecordsFollowTheSelection) {
+    TVChannels channels = makeChannels();
+    channels.setSelected({kA, kB, kC, kUnknown});
+    const std::shared_ptr<TVChannel> a = channels.channelWithChannelId(kA);
+    ASSERT_TRUE(a);
+    EXPECT_FALSE(a->hasStreamURL());
+    EXPECT_TRUE(channels.channelWithChannelId(kB)->hasStreamURL()) << "an empty one counts";
+    EXPECT_FALSE(channels.channelWithChannelId(kC)) << "a row without an icon";
+    EXPECT_FALSE(channels.channelWithChannelId(kUnknown));
+
+    channels.setSelected({kB, kA});
+    EXPECT_EQ(channels.channelWithChannelId(kA), a);
+    channels.setSelected({kB});
+    EXPECT_FALSE(channels.channelWithChannelId(kA));
+    channels.setSelected({kB, kA});
+    EXPECT_NE(channels.channelWithChannelId(kA), a);
+    queues.runAll();
+
+    EXPECT_TRUE(makeChannels().channelWithChannelId(kA)) << "the first question, before selected";
+}
+
+TEST_F(TVChannelsTest, AChannelIsDueByItsAge) {
+    TVChannel channel(kA, u"t"_s, u"cs"_s, u"Czech/a"_s, false, folders.caches);
+    const Moment now = clock.now();
+    EXPECT_TRUE(channel.reloadNeeded(now, 24h)) << "no file";
+
+    const QString file = folders.caches + u'/' + listingsFileFromChannelIdentificator(kA);
+    ASSERT_TRUE(replaceFile(file, "list", now - 24h));
+    EXPECT_FALSE(channel.reloadNeeded(now, 24h));
+    EXPECT_TRUE(channel.reloadNeeded(now + 1s, 24h));
+    channel.setLoading(true);
+    EXPECT_FALSE(channel.reloadNeeded(now + 1s, 24h));
+    channel.setLoading(false);
+
+    ASSERT_TRUE(QFile::remove(file));
+    EXPECT_FALSE(channel.reloadNeeded(now, 24h)) << "the date is remembered";
+    ASSERT_TRUE(replaceFile(file, "list", now));
+    channel.unload();
+    EXPECT_FALSE(QFile::exists(file));
+    EXPECT_TRUE(channel.reloadNeeded(now, 24h));
+    channel.setTimeLoaded(now - 23h);
+    EXPECT_FALSE(channel.reloadNeeded(now, 24h));
+}
+
+} // namespace
+} // namespace guide
