@@ -46,7 +46,8 @@ struct TransferError {
     bool cancelled = false;
 };
 
-/// What one transfer brought: a response, a body (transfer encodings undone), an error, or a part of these.
+/// What one transfer brought: a response and its body (content encodings undone); or an error, with the
+/// response as far as one came, and an empty body: half a page is none.
 struct TransferResult {
     std::optional<HTTPResponse> response;
     QByteArray body;

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/HTTPClient.h"
+#include "platform/ResponseCache.h"
+#include "platform/linux/CurlTransfer.h"
+
+#include <atomic>
+#include <mutex>
+#include <vector>
+
+namespace guide {
+
+struct CurlHTTPClientOptions {
+    /// A longer body is an error, before and after content decoding. Bytes.
+    qint64 maximumBodySize = qint64{512} << 20;
+    /// Where connections really go: "HOST:PORT:CONNECT-HOST:CONNECT-PORT", an empty host or port standing for
+    /// any.
+    std::vector<QByteArray> connectTo;
+};
+
+/// Transfers by libcurl: proxies as the environment names them, certificates checked against the system's
+/// authorities, kept connections used again. GlobalLibraries has to live longer, and so has the cache.
+class CurlHTTPClient final : public HTTPClient {
+  public:
+    explicit CurlHTTPClient(ResponseCache& cache, const CurlHTTPClientOptions& options = {});
+    ~CurlHTTPClient() override;
+
+    TransferResult perform(const HTTPRequest& request) override;
+    void removeCachedResponse(const HTTPRequest& request) override;
+    void cancelAll() override;
+
+  private:
+    class Lane;
+
+    TransferResult transfer(const HTTPRequest& request);
+
+    ResponseCache& m_cache;
+    CurlShare m_share;
+    const CurlTransferSettings m_settings;
+    std::atomic<bool> m_cancelled{false};
+
+    std::mutex m_mutex;
+    /// Each drives one transfer at a time and keeps its connections for the next one.
+    std::vector<CurlMulti> m_idle;
+    std::vector<CURLM*> m_running;
+};
+
+} // namespace guide

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/HTTPClient.h"
+#include "platform/linux/CurlHandles.h"
+
+#include <QByteArray>
+
+#include <atomic>
+#include <chrono>
+#include <optional>
+#include <vector>
+
+namespace guide {
+
+/// What all transfers of one client have in common.
+struct CurlTransferSettings {
+    CURLSH* share = nullptr;
+    qint64 maximumBodySize = 0;
+    std::vector<QByteArray> connectTo;
+};
+
+/// One transfer, on the caller's thread. The wake-up function of the multi handle ends its wait, and with the
+/// cancelled flag set the transfer.
+class CurlTransfer {
+  public:
+    CurlTransfer(const HTTPRequest& request, const CurlTransferSettings& settings);
+    CurlTransfer(const CurlTransfer&) = delete;
+    CurlTransfer& operator=(const CurlTransfer&) = delete;
+
+    TransferResult run(CURLM* multi, const std::atomic<bool>& cancelled);
+
+  private:
+    using SteadyTime = std::chrono::steady_clock::time_point;
+    enum class Outcome { Done, Cancelled, Inactive, OutOfTime, Broken };
+
+    bool prepare();
+    bool prepareHeaders();
+    void prepareMethod();
+    Outcome drive(CURLM* multi, const std::atomic<bool>& cancelled);
+    bool isDone(CURLM* multi);
+    TransferResult result(Outcome outcome);
+    QString describe(Outcome outcome) const;
+
+    static std::size_t onHeader(char* data, std::size_t size, std::size_t count, void* self);
+    static std::size_t onBody(char* data, std::size_t size, std::size_t count, void* self);
+    static int onProgress(void* self, curl_off_t downloadTotal, curl_off_t downloaded, curl_off_t uploadTotal,
+                          curl_off_t uploaded);
+    void takeHeader(const QByteArray& line);
+    bool takeBody(const char* data, std::size_t size);
+
+    const HTTPRequest& m_request;
+    const CurlTransferSettings& m_settings;
+    CurlEasy m_easy;
+    CurlList m_headers;
+    CurlList m_connectTo;
+    char m_errorText[CURL_ERROR_SIZE] = {};
+    CURLcode m_code = CURLE_OK;
+
+    HTTPResponse m_response;
+    QByteArray m_body;
+    bool m_tooLarge = false;
+    SteadyTime m_lastActivity;
+    curl_off_t m_moved = 0;
+};
+
+} // namespace guide

@@ -1,0 +1,22 @@
+#include "platform/linux/GlobalLibraries.h"
+
+#include <QtGlobal>
+
+#include <curl/curl.h>
+#include <libxml/parser.h>
+
+namespace guide {
+
+GlobalLibraries::GlobalLibraries() {
+    if (curl_global_init(CURL_GLOBAL_DEFAULT) != CURLE_OK) {
+        qFatal("the transfer library cannot be set up");
+    }
+    xmlInitParser();
+}
+
+GlobalLibraries::~GlobalLibraries() {
+    xmlCleanupParser();
+    curl_global_cleanup();
+}
+
+} // namespace guide

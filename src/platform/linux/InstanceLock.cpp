@@ -1,0 +1,145 @@
+#include "platform/linux/InstanceLock.h"
+
+#include "platform/linux/LocalSocket.h"
+
+#include <QCryptographicHash>
+#include <QDebug>
+#include <QFile>
+
+#include <atomic>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <unistd.h>
+#include <utility>
+
+namespace guide {
+
+namespace {
+
+constexpr qsizetype kLongestRequest = 64 * 1024;
+constexpr std::chrono::milliseconds kPatience{3000};
+constexpr std::chrono::milliseconds kRetryInterval{20};
+constexpr std::chrono::milliseconds kReadTime{1000};
+constexpr char kTaken[] = "taken";
+
+QByteArray socketName(const QByteArray& lockFolder) {
+    return "instance-" + QCryptographicHash::hash(lockFolder, QCryptographicHash::Sha256).toHex().left(16) +
+           ".socket";
+}
+
+} // namespace
+
+struct InstanceLock::Listener {
+    std::shared_ptr<DispatchQueue> queue;
+    RequestHandler handler;
+    std::atomic<bool> ended{false};
+};
+
+InstanceLock::InstanceLock(const QString& lockFolder, const QString& socketFolder,
+                           const QByteArray& request) {
+    const QByteArray folder = QFile::encodeName(lockFolder);
+    m_socketPath = QFile::encodeName(socketFolder) + '/' + socketName(folder);
+    m_lock =
+        FileDescriptor(::open((folder + "/instance.lock").constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
+    if (!m_lock) {
+        return;
+    }
+    const auto end = std::chrono::steady_clock::now() + kPatience;
+    do {
+        if (lock()) {
+            m_outcome = Outcome::First;
+            openSocket();
+            return;
+        }
+        const auto left =
+            std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
+        if (handOver(request, left)) {
+            m_outcome = Outcome::HandedOver;
+            return;
+        }
+        std::this_thread::sleep_for(kRetryInterval);
+    } while (std::chrono::steady_clock::now() < end);
+}
+
+InstanceLock::~InstanceLock() {
+    if (m_listener) {
+        m_listener->ended.store(true);
+        ::eventfd_write(m_stop.get(), 1);
+        m_thread.join();
+    }
+    if (m_socket) {
+        ::unlink(m_socketPath.constData());
+    }
+}
+
+// The kernel drops the lock with the process, however that ends. The file stays: one that comes and goes
+// could be locked twice.
+bool InstanceLock::lock() {
+    return ::flock(m_lock.get(), LOCK_EX | LOCK_NB) == 0;
+}
+
+// The lock file says where the socket is: another session may have another folder for sockets.
+void InstanceLock::openSocket() {
+    m_socket = listeningSocket(m_socketPath);
+    const bool noted = m_socket && ::ftruncate(m_lock.get(), 0) == 0 &&
+                       ::pwrite(m_lock.get(), m_socketPath.constData(),
+                                static_cast<std::size_t>(m_socketPath.size()), 0) == m_socketPath.size();
+    if (!noted) {
+        qWarning("no socket for requests at %s", m_socketPath.constData());
+    }
+}
+
+bool InstanceLock::handOver(const QByteArray& request, std::chrono::milliseconds time) const {
+    char path[4096];
+    const ssize_t length = ::pread(m_lock.get(), path, sizeof path, 0);
+    if (length <= 0) {
+        return false;
+    }
+    const FileDescriptor connection = connectedSocket(QByteArray(path, length));
+    QByteArray line = request.left(kLongestRequest);
+    line.replace('\n', ' ');
+    return connection && isOwnUsers(connection) && writeLine(connection, line) &&
+           readLine(connection, sizeof kTaken, time) == QByteArray(kTaken);
+}
+
+void InstanceLock::listen(std::shared_ptr<DispatchQueue> queue, RequestHandler handler) {
+    if (!m_socket || m_listener) {
+        return;
+    }
+    m_listener = std::make_shared<Listener>();
+    m_listener->queue = std::move(queue);
+    m_listener->handler = std::move(handler);
+    m_stop = FileDescriptor(::eventfd(0, EFD_CLOEXEC));
+    m_thread = std::thread([this, listener = m_listener] { serve(m_socket, m_stop.get(), listener); });
+}
+
+void InstanceLock::serve(const FileDescriptor& socket, int stop, const std::shared_ptr<Listener>& listener) {
+    for (;;) {
+        pollfd watched[] = {{socket.get(), POLLIN, 0}, {stop, POLLIN, 0}};
+        if (::poll(watched, 2, -1) < 0) {
+            continue;
+        }
+        if (watched[1].revents != 0) {
+            return;
+        }
+        const FileDescriptor connection(::accept4(socket.get(), nullptr, nullptr, SOCK_CLOEXEC));
+        if (!connection || !isOwnUsers(connection)) {
+            continue;
+        }
+        std::optional<QByteArray> request = readLine(connection, kLongestRequest, kReadTime, stop);
+        if (!request) {
+            continue;
+        }
+        writeLine(connection, kTaken);
+        listener->queue->async([listener, taken = *std::move(request)] {
+            if (!listener->ended.load()) {
+                listener->handler(taken);
+            }
+        });
+    }
+}
+
+} // namespace guide

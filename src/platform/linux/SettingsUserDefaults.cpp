@@ -1,0 +1,172 @@
+#include "platform/linux/SettingsUserDefaults.h"
+
+#include <QLocale>
+#include <QSettings>
+
+#include <cmath>
+#include <mutex>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::milliseconds kWriteDelay{500};
+
+} // namespace
+
+// The values as text, as the file has them: a value read back is then of the same kinds as one just set.
+class SettingsUserDefaults::File {
+  public:
+    explicit File(const QString& path)
+        : m_path(path) {
+        const QSettings settings(m_path, QSettings::IniFormat);
+        const QStringList keys = settings.allKeys();
+        for (const QString& key : keys) {
+            const QVariant value = settings.value(key);
+            if (value.typeId() == QMetaType::QString) {
+                m_values.insert(key, value.toString());
+            }
+        }
+    }
+
+    std::optional<QString> value(const QString& key) const {
+        const std::lock_guard lock(m_mutex);
+        const auto found = m_values.constFind(key);
+        return found == m_values.constEnd() ? std::nullopt : std::optional(*found);
+    }
+
+    // True when something changed and no write is on its way yet.
+    bool set(const QString& key, std::optional<QString> value) {
+        const std::lock_guard lock(m_mutex);
+        const auto found = m_values.constFind(key);
+        if (value ? found != m_values.constEnd() && *found == *value : found == m_values.constEnd()) {
+            return false;
+        }
+        if (value) {
+            m_values.insert(key, *value);
+        } else {
+            m_values.remove(key);
+        }
+        m_changed.insert(key, std::move(value));
+        return !std::exchange(m_writeScheduled, true);
+    }
+
+    bool write() {
+        // One writer at a time; readers and setters do not wait for the disk.
+        const std::lock_guard writing(m_writing);
+        QHash<QString, std::optional<QString>> changed;
+        {
+            const std::lock_guard lock(m_mutex);
+            m_writeScheduled = false;
+            changed.swap(m_changed);
+        }
+        if (changed.isEmpty() || store(changed)) {
+            return true;
+        }
+        // Still to be written, except where a newer value has come.
+        const std::lock_guard lock(m_mutex);
+        for (auto entry = changed.cbegin(); entry != changed.cend(); ++entry) {
+            if (!m_changed.contains(entry.key())) {
+                m_changed.insert(entry.key(), entry.value());
+            }
+        }
+        return false;
+    }
+
+  private:
+    bool store(const QHash<QString, std::optional<QString>>& changed) const {
+        QSettings settings(m_path, QSettings::IniFormat);
+        for (auto entry = changed.cbegin(); entry != changed.cend(); ++entry) {
+            if (entry.value()) {
+                settings.setValue(entry.key(), *entry.value());
+            } else {
+                settings.remove(entry.key());
+            }
+        }
+        settings.sync();
+        // A file that could not be read whole is still written.
+        return settings.status() != QSettings::AccessError;
+    }
+
+    const QString m_path;
+    mutable std::mutex m_mutex;
+    QHash<QString, QString> m_values;
+    QHash<QString, std::optional<QString>> m_changed;
+    bool m_writeScheduled = false;
+    std::mutex m_writing;
+};
+
+SettingsUserDefaults::SettingsUserDefaults(const QString& path, std::shared_ptr<DispatchQueue> writeQueue)
+    : m_file(std::make_shared<File>(path))
+    , m_writeQueue(std::move(writeQueue)) {}
+
+SettingsUserDefaults::~SettingsUserDefaults() {
+    m_file->write();
+}
+
+std::optional<bool> SettingsUserDefaults::boolForKey(const QString& key) const {
+    const std::optional<QString> value = m_file->value(key);
+    if (value == u"true"_s || value == u"1"_s) {
+        return true;
+    }
+    if (value == u"false"_s || value == u"0"_s) {
+        return false;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::int64_t> SettingsUserDefaults::integerForKey(const QString& key) const {
+    bool read = false;
+    const std::optional<QString> value = m_file->value(key);
+    const qlonglong number = value ? value->toLongLong(&read) : 0;
+    return read ? std::optional<std::int64_t>(number) : std::nullopt;
+}
+
+std::optional<double> SettingsUserDefaults::doubleForKey(const QString& key) const {
+    bool read = false;
+    const std::optional<QString> value = m_file->value(key);
+    const double number = value ? value->toDouble(&read) : 0;
+    return read && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
+std::optional<QString> SettingsUserDefaults::stringForKey(const QString& key) const {
+    return m_file->value(key);
+}
+
+void SettingsUserDefaults::setBool(const QString& key, bool value) {
+    set(key, value ? u"true"_s : u"false"_s);
+}
+
+void SettingsUserDefaults::setInteger(const QString& key, std::int64_t value) {
+    set(key, QString::number(value));
+}
+
+void SettingsUserDefaults::setDouble(const QString& key, double value) {
+    set(key, QString::number(value, 'g', QLocale::FloatingPointShortest));
+}
+
+void SettingsUserDefaults::setString(const QString& key, const QString& value) {
+    set(key, value);
+}
+
+void SettingsUserDefaults::removeKey(const QString& key) {
+    set(key, std::nullopt);
+}
+
+bool SettingsUserDefaults::synchronize() {
+    return m_file->write();
+}
+
+void SettingsUserDefaults::set(const QString& key, std::optional<QString> value) {
+    if (m_file->set(key, std::move(value)) && m_writeQueue) {
+        m_writeQueue->asyncAfter(kWriteDelay, [file = std::weak_ptr(m_file)] {
+            if (const std::shared_ptr<File> alive = file.lock()) {
+                alive->write();
+            }
+        });
+    }
+}
+
+} // namespace guide
