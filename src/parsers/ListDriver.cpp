@@ -1,0 +1,63 @@
+#include "parsers/ListDriver.h"
+
+#include "parsers/ListReader.h"
+#include "parsers/ParsersLog.h"
+#include "parsers/XMLTVListReader.h"
+#include "sources/SourceId.h"
+
+#include <algorithm>
+#include <array>
+#include <exception>
+
+namespace guide {
+
+namespace {
+
+struct TypeReader {
+    ListingsType type;
+    /// Null for a format that cannot be read yet.
+    ListReader reader;
+};
+
+constexpr std::array kReaders{
+    TypeReader{kListingsPortNetwork, nullptr}, TypeReader{kListingsXMLTV, readXMLTVLists},
+    TypeReader{kListingsPalinsesto, nullptr},  TypeReader{kListingsBarrandov, nullptr},
+    TypeReader{kListingsDigiSport, nullptr},   TypeReader{kListingsJojCinema, nullptr},
+    TypeReader{kListingsPrimaMax, nullptr},    TypeReader{kListingsHBO, nullptr},
+    TypeReader{kListingsNova, nullptr},        TypeReader{kListingsDolceSport, nullptr},
+    TypeReader{kListingsCinestar, nullptr},    TypeReader{kListingsComedyCentral, nullptr},
+};
+
+} // namespace
+
+ListDriver::ListDriver(ListDriverEnvironment environment)
+    : m_environment(std::move(environment)) {}
+
+MergeResult ListDriver::netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
+                                Moment now, unsigned type) const {
+    return m_environment.merge(items, read(items, pages, now, type), now, type);
+}
+
+ParsedLists ListDriver::read(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
+                             Moment now, unsigned type) const {
+    ParsedLists lists;
+    const auto entry = std::find_if(kReaders.begin(), kReaders.end(),
+                                    [type](const TypeReader& candidate) { return candidate.type == type; });
+    if (entry == kReaders.end()) {
+        return lists;
+    }
+    if (!entry->reader) {
+        qCInfo(parsersLog, "no reader for listing type %u", type);
+        return lists;
+    }
+    lists.reserve(items.size());
+    try {
+        entry->reader({items, pages, now, m_environment.clock, m_environment.alphabet, m_environment.hosts},
+                      lists);
+    } catch (const std::exception& exception) {
+        qCWarning(parsersLog, "exception %s", exception.what());
+    }
+    return lists;
+}
+
+} // namespace guide

@@ -1,0 +1,98 @@
+#include "parsers/ShowJSON.h"
+
+#include <QDateTime>
+#include <QJsonArray>
+#include <QTimeZone>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QJsonValue json(const std::optional<QString>& text) {
+    return text ? QJsonValue(*text) : QJsonValue(QJsonValue::Null);
+}
+
+QJsonValue json(const std::optional<QUrl>& url) {
+    return url ? QJsonValue(url->toString(QUrl::FullyEncoded)) : QJsonValue(QJsonValue::Null);
+}
+
+QJsonValue json(const std::optional<Moment>& moment) {
+    return moment ? QJsonValue(isoMoment(*moment)) : QJsonValue(QJsonValue::Null);
+}
+
+QJsonObject detailsJSON(const TVEntrySupplementalData& details) {
+    return {
+        {u"description"_s, json(details.description)},
+        {u"episodeDescription"_s, json(details.episodeDescription)},
+        {u"details"_s, json(details.details)},
+        {u"directedBy"_s, json(details.directedBy)},
+        {u"roles"_s, json(details.roles)},
+        {u"imdbURL"_s, json(details.imdbURL)},
+        {u"trailerURL"_s, json(details.trailerURL)},
+    };
+}
+
+QJsonArray picturesJSON(const QSet<QUrl>& pictures) {
+    QStringList texts;
+    for (const QUrl& picture : pictures) {
+        texts.append(picture.toString(QUrl::FullyEncoded));
+    }
+    texts.sort();
+    return QJsonArray::fromStringList(texts);
+}
+
+} // namespace
+
+QString isoMoment(Moment moment) {
+    const auto sinceEpoch = moment.time_since_epoch().count();
+    const QDateTime time = QDateTime::fromMSecsSinceEpoch(sinceEpoch, Qt::UTC);
+    return time.toString(sinceEpoch % 1000 != 0 ? Qt::ISODateWithMs : Qt::ISODate);
+}
+
+QJsonObject showJSON(const ShowItem& item) {
+    const TVEntry& entry = *item.entry();
+    QJsonObject show{
+        {u"channel"_s, entry.channel().hex()},
+        {u"sourceId"_s, json(entry.sourceId())},
+        {u"language"_s, json(entry.language())},
+        {u"title"_s, json(entry.title())},
+        {u"identificator"_s, json(entry.identificator())},
+        {u"start"_s, json(entry.dateTime())},
+        {u"end"_s, json(entry.endDateTime())},
+        {u"subtitle"_s, json(entry.subtitle1())},
+        {u"instantDetails"_s, json(entry.instantDetails1())},
+        {u"instantDescription"_s, json(entry.instantDescription1())},
+        {u"previouslyShown"_s, entry.previouslyShown()},
+        {u"url"_s, json(entry.url())},
+        {u"categories"_s, QJsonValue::Null},
+        {u"details"_s, QJsonValue::Null},
+        {u"pictures"_s, QJsonValue::Null},
+    };
+    const int parts = item.elementCount();
+    if (parts > 1) {
+        show[u"categories"_s] = static_cast<qint64>(*item.categories());
+    }
+    if (parts > 2) {
+        show[u"details"_s] = detailsJSON(*item.details());
+    }
+    if (parts > 3) {
+        show[u"pictures"_s] = picturesJSON(item.pictures());
+    }
+    return show;
+}
+
+QJsonObject listsJSON(const MergeResult& merged) {
+    QJsonObject channels;
+    for (const auto& [channel, list] : merged.lists) {
+        QJsonArray shows;
+        for (const ShowItem& item : *list) {
+            shows.append(showJSON(item));
+        }
+        channels[channel.hex()] = shows;
+    }
+    return {{u"channels"_s, channels}};
+}
+
+} // namespace guide
