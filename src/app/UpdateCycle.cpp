@@ -1,0 +1,229 @@
+#include "app/UpdateCycle.h"
+
+#include "sources/SourceId.h"
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <atomic>
+#include <mutex>
+
+namespace guide {
+
+struct UpdateCycle::State {
+    explicit State(UpdateCycleEnvironment ownEnvironment)
+        : environment(std::move(ownEnvironment)) {}
+
+    const UpdateCycleEnvironment environment;
+    std::atomic<bool> cancelled = false;
+};
+
+namespace {
+
+/// The background task of one check.
+class ListingsUpdateTask : public std::enable_shared_from_this<ListingsUpdateTask> {
+  public:
+    ListingsUpdateTask(DispatchQueues& queues, BackgroundTasks& tasks)
+        : m_queues(queues)
+        , m_tasks(tasks) {}
+
+    void begin() {
+        // Held until the identity is known, for the device may be quick to expire the task.
+        const std::lock_guard guard(m_mutex);
+        m_task = m_tasks.beginBackgroundTask([self = shared_from_this()] { self->endOnMainQueue(); });
+    }
+
+    void endOnMainQueue() {
+        m_queues.mainQueue().async([self = shared_from_this()] {
+            BackgroundTaskId task = kBackgroundTaskInvalid;
+            {
+                const std::lock_guard guard(self->m_mutex);
+                task = std::exchange(self->m_task, kBackgroundTaskInvalid);
+            }
+            if (task != kBackgroundTaskInvalid) {
+                self->m_tasks.endBackgroundTask(task);
+            }
+        });
+    }
+
+  private:
+    DispatchQueues& m_queues;
+    BackgroundTasks& m_tasks;
+    std::mutex m_mutex;
+    BackgroundTaskId m_task = kBackgroundTaskInvalid;
+};
+
+/// Marks the channels of a load as loading for as long as it is read, however the reading ends.
+class LoadingMark {
+  public:
+    LoadingMark(const TVChannels& channels, const std::vector<LoadItem>& items) {
+        m_marked.reserve(items.size());
+        for (const LoadItem& item : items) {
+            if (auto channel = channels.channelWithChannelId(item.channel)) {
+                channel->setLoading(true);
+                m_marked.push_back(std::move(channel));
+            }
+        }
+    }
+    LoadingMark(const LoadingMark&) = delete;
+    LoadingMark& operator=(const LoadingMark&) = delete;
+    ~LoadingMark() {
+        for (const auto& channel : m_marked) {
+            channel->setLoading(false);
+        }
+    }
+
+  private:
+    std::vector<std::shared_ptr<TVChannel>> m_marked;
+};
+
+} // namespace
+
+/// One run over the selected channels, on the check queue.
+class UpdateCycle::Check {
+  public:
+    explicit Check(State& state)
+        : m_state(state)
+        , m_with(state.environment) {}
+
+    void run(const ShowCounts& counts) {
+        const auto task = std::make_shared<ListingsUpdateTask>(m_with.queues, m_with.backgroundTasks);
+        task->begin();
+        for (const UpdateStep& step : planSteps(plannedChannels(counts))) {
+            if (m_state.cancelled) {
+                break;
+            }
+            load(step);
+        }
+        task->endOnMainQueue();
+        if (m_anythingParsed && !m_state.cancelled) {
+            m_with.loadQueue->sync([this] { m_with.listings.updatePopularList(); });
+        }
+    }
+
+  private:
+    unsigned showCount() const { return static_cast<unsigned>(std::max(0, m_with.showCount())); }
+
+    bool reloadNeeded(const TVChannel& channel) const {
+        return channel.reloadNeeded(m_with.clock.now(), m_with.settings.automaticUpdateInterval());
+    }
+
+    std::vector<std::pair<ObjectId, std::vector<PlannedSource>>> plannedChannels(const ShowCounts& counts) {
+        std::vector<std::pair<ObjectId, std::vector<PlannedSource>>> planned;
+        for (const ObjectId& id : m_with.channels.selected()) {
+            const std::shared_ptr<TVChannel> channel = m_with.channels.channelWithChannelId(id);
+            if (!channel || m_state.cancelled) {
+                continue;
+            }
+            ChannelCondition condition;
+            if (const auto count = counts.find(id); count != counts.end()) {
+                condition.showCount = count->second;
+            }
+            condition.loading = channel->loading();
+            condition.reloadNeeded = reloadNeeded(*channel);
+            const ChannelDecision decision = decideChannel(condition, showCount());
+            if (decision.unload) {
+                channel->unload();
+            }
+            const auto row = m_with.channelData->find(id);
+            if (!decision.plan || row == m_with.channelData->end()) {
+                continue;
+            }
+            m_with.loadQueue->sync([&] {
+                const Moment now = m_with.clock.now();
+                const QTimeZone zone = m_with.device.timeZone();
+                planned.emplace_back(
+                    id, planSources(row->second, [&](const QString& sourceId, const QString& language) {
+                        return m_with.planner.urlsForSourceId(sourceId, now, language, zone);
+                    }));
+            });
+        }
+        return planned;
+    }
+
+    void load(const UpdateStep& step) {
+        const std::vector<LoadItem> items =
+            loadItems(step, [this](const ObjectId& id) -> std::optional<QString> {
+                const std::shared_ptr<TVChannel> channel = m_with.channels.channelWithChannelId(id);
+                return channel && reloadNeeded(*channel) ? std::optional(channel->language()) : std::nullopt;
+            });
+        if (items.empty()) {
+            return;
+        }
+        const std::vector<QByteArray> pages = fetch(step.urls);
+        // Pages that the end of the program cut off must not take the place of a whole list.
+        if (!pages.empty() && !m_state.cancelled) {
+            m_with.loadQueue->sync([&] { parse(items, pages); });
+        }
+    }
+
+    /// The pages up to the first that does not come; empty ones count.
+    std::vector<QByteArray> fetch(const QList<QUrl>& urls) {
+        std::vector<QByteArray> pages;
+        pages.reserve(static_cast<std::size_t>(urls.size()));
+        for (const QUrl& url : urls) {
+            if (m_state.cancelled) {
+                break;
+            }
+            NetPage answer = m_with.fetcher.netPageForRequest(pageRequest(url, m_with.userAgent), false);
+            if (!answer.page) {
+                if (answer.reason == PageReason::Cancelled) {
+                    m_state.cancelled = true;
+                }
+                break;
+            }
+            pages.push_back(std::move(*answer.page));
+        }
+        return pages;
+    }
+
+    void parse(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages) {
+        MergeResult result;
+        try {
+            const unsigned type = listingsTypeForSourceId(items.front().sourceId, m_with.planner.hosts());
+            const LoadingMark mark(m_with.channels, items);
+            result = m_with.netList(items, pages, m_with.clock.now(), type);
+        } catch (...) {
+            qWarning("listings parsing exception!!!");
+            return;
+        }
+        if (result.lists.empty()) {
+            return;
+        }
+        m_anythingParsed = true;
+        m_with.listings.saveAllShows();
+        m_with.queues.mainQueue().async([&applicationState = m_with.applicationState,
+                                         offerTop = m_with.offerTop,
+                                         top = topLists(items, result, showCount())] {
+            if (applicationState.applicationState() != ApplicationState::Background) {
+                offerTop(top);
+            }
+        });
+    }
+
+    State& m_state;
+    const UpdateCycleEnvironment& m_with;
+    bool m_anythingParsed = false;
+};
+
+UpdateCycle::UpdateCycle(UpdateCycleEnvironment environment)
+    : m_state(std::make_shared<State>(std::move(environment))) {}
+
+void UpdateCycle::checkAndUpdateAllChannels() {
+    const UpdateCycleEnvironment& with = m_state->environment;
+    with.listings.showCountForSelectedChannelsForQueue(with.checkQueue,
+                                                       [state = m_state](const ShowCounts& counts) {
+                                                           if (!state->cancelled) {
+                                                               Check(*state).run(counts);
+                                                           }
+                                                       });
+}
+
+bool UpdateCycle::finish(std::chrono::milliseconds atMost) {
+    m_state->cancelled = true;
+    DispatchGroup running;
+    running.async(*m_state->environment.checkQueue, [] {});
+    return running.wait(atMost);
+}
+
+} // namespace guide

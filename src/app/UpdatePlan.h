@@ -1,0 +1,86 @@
+#pragma once
+
+#include "core/ChannelDictionary.h"
+#include "core/ObjectId.h"
+#include "store/ListMerge.h"
+#include "store/ShowItem.h"
+
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+#include <functional>
+#include <optional>
+#include <utility>
+#include <vector>
+
+// What a check of the channels decides, as functions from what it knows to what it does. Nothing here reads a
+// clock, a disk or a network.
+
+namespace guide {
+
+/// What a check knows of a selected channel.
+struct ChannelCondition {
+    /// Shows in the store that are not over; nothing when the store has not counted the channel.
+    std::optional<unsigned> showCount;
+    bool loading = false;
+    /// By the age of its list.
+    bool reloadNeeded = false;
+};
+
+struct ChannelDecision {
+    /// The list runs short: it is to be loaded again, whatever its age.
+    bool unload = false;
+    /// URLs are to be planned for the channel.
+    bool plan = false;
+};
+
+ChannelDecision decideChannel(const ChannelCondition& condition, unsigned wantedShows);
+
+/// A source of a channel that can be asked.
+struct PlannedSource {
+    /// 1 for the first choice.
+    unsigned number = 0;
+    QString sourceId;
+    QList<QUrl> urls;
+};
+
+/// The URLs of a source, in the order of fetching; nothing when it cannot be asked.
+using URLsForSource =
+    std::function<std::optional<QList<QUrl>>(const QString& sourceId, const QString& language)>;
+
+/// The sources of a row of the catalogue, up to the first number that is missing, without those that have no
+/// URLs.
+std::vector<PlannedSource> planSources(const ChannelDictionary& channel, const URLsForSource& urlsForSource);
+
+/// One list of URLs, whose pages are fetched once, with everyone that it serves.
+struct UpdateStep {
+    struct Served {
+        ObjectId channel;
+        QString sourceId;
+
+        friend bool operator==(const Served&, const Served&) = default;
+    };
+    QList<QUrl> urls;
+    /// In the order of the channels.
+    std::vector<Served> served;
+};
+
+/// All the first sources before any second one; within one number in the order of the channels. A list that
+/// serves several channels, or one channel under several numbers, stands once, at its first place.
+std::vector<UpdateStep>
+planSteps(const std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>& channels);
+
+/// What is left of a step when its turn comes. `languageOfDueChannel` answers nothing for a channel that is
+/// not due any more, because an earlier step has loaded it.
+std::vector<LoadItem>
+loadItems(const UpdateStep& step,
+          const std::function<std::optional<QString>(const ObjectId&)>& languageOfDueChannel);
+
+/// The first shows of each channel that a load has brought.
+using TopLists = std::vector<std::pair<ObjectId, ShowSpan>>;
+
+/// In the order of the load items, at most so many shows a channel.
+TopLists topLists(const std::vector<LoadItem>& items, const MergeResult& result, unsigned showCount);
+
+} // namespace guide

@@ -1,0 +1,194 @@
+#include "app/UpdateCycle.h"
+
+#include "app/UpdateWorld.h"
+#include "fakes/ManualQueues.h"
+#include "platform/ThreadedQueues.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace guide {
+namespace {
+
+const QString kShared = u"http://n.test/epg.xml"_s;
+const QString kSecond = u"http://s.test/losmij/epg.xml.gz"_s;
+
+struct UpdateCycleTest : testing::Test {
+    ManualClock clock;
+    ManualQueues queues{clock};
+
+    void check(UpdateWorld& world) {
+        world.cycle.checkAndUpdateAllChannels();
+        queues.runAll();
+    }
+    std::string onAir(UpdateWorld& world) {
+        std::string text;
+        world.askOnAir(text);
+        queues.runAll();
+        return text;
+    }
+};
+
+TEST_F(UpdateCycleTest, ChannelsOfOneFeedAreLoadedByOneRequestAndShown) {
+    UpdateWorld world(queues, clock, {{1, {u"n.one"_s, u"s.one"_s}}, {2, {u"n.two"_s, u"s.two"_s}}});
+    world.answer(kShared, "1 6\n2 2");
+    check(world);
+    EXPECT_EQ(world.requests(), QStringList{kShared});
+    ASSERT_EQ(world.parses.size(), 1U);
+    EXPECT_EQ(world.parses[0].items, "1 n.one sk, 2 n.two sk");
+    EXPECT_TRUE(world.parses[0].allLoading);
+    EXPECT_EQ(world.offered, "1:4 2:2 ") << "cut to what the list wants";
+    EXPECT_EQ(world.popular.refreshed, 1);
+    EXPECT_EQ(world.tasks.begun(), 1U);
+    EXPECT_EQ(world.tasks.running(), 0U);
+
+    world.clearLog();
+    check(world);
+    EXPECT_EQ(world.requests(), QStringList{kShared}) << "the second one has less than the list wants";
+    EXPECT_EQ(world.parses.at(0).items, "2 n.two sk");
+}
+
+TEST_F(UpdateCycleTest, ALaterSourceIsAskedOnlyForWhatTheEarlierOnesDidNotBring) {
+    UpdateWorld world(queues, clock,
+                      {{1, {u"http://one.test/"_s, u"s.one"_s, u"http://third.test/"_s}},
+                       {2, {u"n.two"_s, u"s.two"_s}},
+                       {3, {u"n.three"_s, u"s.three"_s}}});
+    world.answer(kShared, "2 6"); // nothing for 3, and nothing at all for 1
+    world.answer(kSecond, "1 5\n2 5\n3 5");
+    check(world);
+    EXPECT_EQ(world.requests(), (QStringList{u"http://one.test/"_s, kShared, kSecond}));
+    ASSERT_EQ(world.parses.size(), 2U);
+    EXPECT_EQ(world.parses[1].items, "1 s.one sk, 3 s.three sk");
+    EXPECT_EQ(world.offered, "2:4 1:4 3:4 ");
+}
+
+TEST_F(UpdateCycleTest, AListIsDueByItsAge) {
+    UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
+    world.defaults.setInteger(u"data_update"_s, 3600);
+    world.answer(kShared, "1 30");
+    check(world);
+    clock.advance(3600s);
+    check(world);
+    EXPECT_EQ(world.parses.size(), 1U);
+    clock.advance(1s);
+    check(world);
+    EXPECT_EQ(world.parses.size(), 2U);
+}
+
+TEST_F(UpdateCycleTest, AShortListIsAskedForAtEachCheckAndKeptWhenNothingComes) {
+    UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
+    world.answer(kShared, "1 3");
+    check(world);
+    world.clearLog();
+    world.answerNothing(kShared);
+    check(world);
+    EXPECT_EQ(world.requests(), QStringList{kShared});
+    EXPECT_TRUE(world.parses.empty());
+    EXPECT_EQ(world.tasks.running(), 0U);
+    EXPECT_EQ(onAir(world), "1:3 ");
+}
+
+TEST_F(UpdateCycleTest, PagesUpToTheFirstThatFailsAreParsedAndEmptyOnesCount) {
+    UpdateWorld world(queues, clock, {{1, {u"joj.one"_s}}});
+    const auto urls = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), {}, world.device.timeZone());
+    ASSERT_EQ(urls->size(), 7);
+    world.answer(urls->at(0).toString(), "1 5");
+    world.answerEmptyFile(urls->at(1).toString());
+    world.answer(urls->at(2).toString(), "third");
+    world.answer(urls->at(4).toString(), "fifth");
+    check(world);
+    ASSERT_EQ(world.parses.size(), 1U);
+    EXPECT_EQ(world.parses[0].pages, (std::vector<QByteArray>{"1 5", "", "third"}));
+    EXPECT_EQ(world.parses[0].type, kListingsJojCinema);
+    EXPECT_EQ(onAir(world), "1:4 ");
+
+    // A first page that fails leaves nothing to parse; one that is empty is a page.
+    world.clearLog();
+    clock.advance(30 * 24h);
+    check(world);
+    EXPECT_TRUE(world.parses.empty());
+    const auto later = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), {}, world.device.timeZone());
+    world.answerEmptyFile(later->at(0).toString());
+    check(world);
+    ASSERT_EQ(world.parses.size(), 1U);
+    EXPECT_EQ(world.parses[0].pages, std::vector<QByteArray>{QByteArray()});
+    EXPECT_EQ(world.offered, "");
+}
+
+TEST_F(UpdateCycleTest, AReaderThatThrowsLosesItsOwnListAlone) {
+    UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}, {2, {u"s.two"_s}}});
+    world.answer(kShared, "throw");
+    world.answer(kSecond, "2 5");
+    check(world);
+    EXPECT_EQ(world.offered, "2:4 ");
+    world.answer(kShared, "1 5");
+    check(world);
+    EXPECT_EQ(world.offered, "2:4 1:4 ") << "the channel is not taken for one that is being loaded";
+}
+
+TEST_F(UpdateCycleTest, InTheBackgroundListsAreStoredAndScreensLeftAlone) {
+    UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
+    world.answer(kShared, "1 5");
+    world.state.state = ApplicationState::Background;
+    check(world);
+    EXPECT_EQ(world.offered, "");
+    EXPECT_EQ(onAir(world), "1:4 ");
+}
+
+TEST_F(UpdateCycleTest, AnExpiredTaskIsEndedOnceAndTheCheckGoesOn) {
+    UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
+    world.answer(kShared, "1 5");
+    world.client.onRequest([&](const HTTPRequest&) {
+        world.tasks.expireAll();
+        queues.run("main");
+        EXPECT_EQ(world.tasks.running(), 0U);
+    });
+    check(world);
+    EXPECT_EQ(onAir(world), "1:4 ");
+    EXPECT_EQ(world.tasks.running(), 0U);
+}
+
+TEST_F(UpdateCycleTest, AnEndInTheMiddleOfAListKeepsTheStoredOne) {
+    UpdateWorld world(queues, clock, {{1, {u"joj.one"_s}}, {2, {u"s.two"_s}}});
+    const auto urls = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), {}, world.device.timeZone());
+    world.answer(urls->at(0).toString(), "1 5");
+    world.client.onRequest([&](const HTTPRequest&) { world.client.cancelAll(); });
+    check(world);
+    EXPECT_EQ(world.requests().size(), 2);
+    EXPECT_TRUE(world.parses.empty());
+    EXPECT_EQ(world.tasks.running(), 0U);
+    EXPECT_TRUE(world.cycle.finish(1s));
+    world.clearLog();
+    check(world);
+    EXPECT_EQ(world.tasks.begun(), 1U) << "no check begins after the end";
+}
+
+TEST(UpdateCycleThreadsTest, ASuspendedLoadQueueHoldsTheCheckBack) {
+    ManualClock clock;
+    ThreadedQueues queues([] {});
+    {
+        UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
+        world.answer(kShared, "1 5");
+        SuspensionToken screen = world.loadQueue->suspend();
+        world.cycle.checkAndUpdateAllChannels();
+        DispatchGroup check;
+        check.async(*world.checkQueue, [] {});
+        check.wait(50ms);
+        queues.runMainQueue();
+        EXPECT_TRUE(world.requests().isEmpty());
+        screen.release();
+        while (world.offered.empty()) {
+            queues.runMainQueue();
+            std::this_thread::yield();
+        }
+        EXPECT_EQ(world.offered, "1:4 ");
+        EXPECT_TRUE(world.cycle.finish(10s));
+        EXPECT_TRUE(world.listings->finishWriting(10s));
+        queues.shutDown();
+    }
+}
+
+} // namespace
+} // namespace guide

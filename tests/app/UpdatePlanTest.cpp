@@ -1,0 +1,148 @@
+#include "app/UpdatePlan.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace guide {
+namespace {
+
+ObjectId channel(unsigned char number) {
+    ObjectId::Bytes bytes{};
+    bytes.back() = number;
+    return ObjectId(bytes);
+}
+
+TEST(UpdatePlanTest, DecidesWhatIsDue) {
+    struct Row {
+        const char* name;
+        ChannelCondition condition;
+        bool unload;
+        bool plan;
+    };
+    const Row rows[] = {
+        {"fresh and enough", {4, false, false}, false, false},
+        {"fresh and more than enough", {40, false, false}, false, false},
+        {"old", {4, false, true}, false, true},
+        {"fresh but short", {3, false, false}, true, true},
+        {"loaded a minute ago and empty", {0, false, false}, true, true},
+        {"old and being loaded", {4, true, true}, false, false},
+        {"short and being loaded", {0, true, false}, true, false},
+        {"not counted", {std::nullopt, false, false}, true, true},
+        {"not counted and being loaded", {std::nullopt, true, false}, true, true},
+    };
+    for (const Row& row : rows) {
+        const ChannelDecision decision = decideChannel(row.condition, 4);
+        EXPECT_EQ(decision.unload, row.unload) << row.name;
+        EXPECT_EQ(decision.plan, row.plan) << row.name;
+    }
+}
+
+TEST(UpdatePlanTest, TakesTheSourcesUpToTheFirstGap) {
+    const ChannelDictionary row{{u"Language"_s, u"sk"_s},    {u"Location1"_s, u"a"_s},
+                                {u"Location2"_s, u"none"_s}, {u"Location3"_s, u"c"_s},
+                                {u"Location4"_s, u""_s},     {u"Location6"_s, u"late"_s},
+                                {u"Location8"_s, u"no"_s},   {u"Location"_s, u"0"_s}};
+    QStringList asked;
+    const auto sources = planSources(row, [&](const QString& sourceId, const QString& language) {
+        asked << sourceId + u'/' + language;
+        return sourceId == u"none" || sourceId.isEmpty()
+                   ? std::nullopt
+                   : std::optional(QList{QUrl(u"http://"_s + sourceId)});
+    });
+    EXPECT_EQ(asked, (QStringList{u"a/sk"_s, u"none/sk"_s, u"c/sk"_s, u"/sk"_s}));
+    ASSERT_EQ(sources.size(), 2U);
+    EXPECT_EQ(sources[0].number, 1U);
+    EXPECT_EQ(sources[1].number, 3U);
+    EXPECT_EQ(sources[1].sourceId, u"c"_s);
+    EXPECT_EQ(sources[1].urls, QList{QUrl(u"http://c"_s)});
+}
+
+/// "feed:1a 2a | page:1b" for a feed that serves the channels 1 and 2 under the source a, before a page.
+std::string described(const std::vector<UpdateStep>& steps) {
+    std::string text;
+    for (const UpdateStep& step : steps) {
+        QStringList hosts;
+        for (const QUrl& url : step.urls) {
+            hosts << url.host();
+        }
+        text += (text.empty() ? "" : " | ") + hosts.join(u'+').toStdString() + ":";
+        for (const UpdateStep::Served& served : step.served) {
+            text += (text.back() == ':' ? "" : " ") + std::to_string(served.channel.bytes().back()) +
+                    served.sourceId.toStdString();
+        }
+    }
+    return text;
+}
+
+TEST(UpdatePlanTest, OrdersTheListsBySourceNumberAndSharesEqualOnes) {
+    const auto source = [](unsigned number, const char* id, std::initializer_list<const char*> hosts) {
+        PlannedSource planned{number, QString::fromLatin1(id), {}};
+        for (const char* host : hosts) {
+            planned.urls << QUrl(u"http://"_s + QString::fromLatin1(host));
+        }
+        return planned;
+    };
+    using Channels = std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>;
+    struct Row {
+        const char* name;
+        Channels channels;
+        const char* expected;
+    };
+    const Row rows[] = {
+        {"nothing due", {}, ""},
+        {"first sources before second ones",
+         {{channel(1), {source(1, "a", {"x"}), source(2, "b", {"y"})}},
+          {channel(2), {source(1, "c", {"z"})}}},
+         "x:1a | z:2c | y:1b"},
+        {"one fetch for all that share a list",
+         {{channel(1), {source(1, "a", {"x", "y"})}}, {channel(2), {source(1, "b", {"x", "y"})}}},
+         "x+y:1a 2b"},
+        {"another order is another list",
+         {{channel(1), {source(1, "a", {"x", "y"})}}, {channel(2), {source(1, "b", {"y", "x"})}}},
+         "x+y:1a | y+x:2b"},
+        {"a list stands where its lowest number puts it",
+         {{channel(1), {source(1, "a", {"x"}), source(2, "b", {"y"})}},
+          {channel(2), {source(1, "c", {"z"})}},
+          {channel(3), {source(1, "d", {"y"})}}},
+         "x:1a | z:2c | y:1b 3d"},
+        {"a source that a channel names twice counts once",
+         {{channel(1), {source(1, "a", {"x"}), source(2, "a", {"x"}), source(3, "b", {"x"})}},
+          {channel(2), {source(1, "a", {"x"})}}},
+         "x:1a 1b 2a"},
+        {"numbers may have gaps",
+         {{channel(1), {source(5, "a", {"x"})}}, {channel(2), {source(3, "b", {"y"})}}},
+         "y:2b | x:1a"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(described(planSteps(row.channels)), row.expected) << row.name;
+    }
+}
+
+TEST(UpdatePlanTest, KeepsWhatIsStillDueWhenTheTurnComes) {
+    const UpdateStep step{{}, {{channel(1), u"a"_s}, {channel(2), u"b"_s}, {channel(3), u"c"_s}}};
+    const auto items = loadItems(
+        step, [](const ObjectId& id) { return id == channel(2) ? std::nullopt : std::optional(u"cs"_s); });
+    ASSERT_EQ(items.size(), 2U);
+    EXPECT_EQ(items[0].channel, channel(1));
+    EXPECT_EQ(items[1].channel, channel(3));
+    EXPECT_EQ(items[1].sourceId, u"c"_s);
+    EXPECT_EQ(items[1].language, u"cs"_s);
+}
+
+TEST(UpdatePlanTest, CutsTheTopOfEachList) {
+    const auto list = [](std::size_t count) { return std::make_shared<const ShowItems>(count); };
+    MergeResult result;
+    result.lists = {{channel(1), list(7)}, {channel(2), list(2)}};
+    const std::vector<LoadItem> items{
+        {channel(2), {}, {}}, {channel(3), {}, {}}, {channel(1), {}, {}}, {channel(2), {}, {}}};
+    const TopLists top = topLists(items, result, 4);
+    ASSERT_EQ(top.size(), 2U);
+    EXPECT_EQ(top[0].first, channel(2));
+    EXPECT_EQ(top[0].second.size(), 2U);
+    EXPECT_EQ(top[1].first, channel(1));
+    EXPECT_EQ(top[1].second.size(), 4U);
+}
+
+} // namespace
+} // namespace guide
