@@ -57,7 +57,6 @@ struct TVChannels::State {
     QString cachesFolder;
     KeyValueStore& keyValueStore;
     SharedChannelData channelData;
-    std::shared_ptr<DispatchQueue> writer;
 
     std::mutex guard;
     SharedSnapshot current; // guarded; null until the first read
@@ -132,11 +131,11 @@ struct TVChannels::State {
 
 TVChannels::TVChannels(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues,
                        SharedChannelData channelData)
-    : m_state(new State{.path = folders.documents + u"/selectedChannels.plist"_s,
+    : m_writer(queues.makeQueue("selected", QueueKind::Serial, QueuePriority::Default))
+    , m_state(new State{.path = folders.documents + u"/selectedChannels.plist"_s,
                         .cachesFolder = folders.caches,
                         .keyValueStore = keyValueStore,
                         .channelData = std::move(channelData),
-                        .writer = queues.makeQueue("selected", QueueKind::Serial, QueuePriority::Default),
                         .guard = {},
                         .current = nullptr}) {}
 
@@ -162,7 +161,7 @@ void TVChannels::setSelected(std::vector<ObjectId> selected) {
         m_state->current = m_state->makeSnapshot(std::move(selected), previous.get());
         m_state->unwritten = true;
     }
-    m_state->writer->asyncBarrier([state = m_state] { state->write(); });
+    m_writer->asyncBarrier([state = m_state] { state->write(); });
 }
 
 std::shared_ptr<TVChannel> TVChannels::channelWithChannelId(const ObjectId& channel) const {
@@ -178,9 +177,10 @@ bool TVChannels::finishWriting() {
             return true;
         }
     }
-    bool written = false;
-    m_state->writer->sync([this, &written] { written = m_state->write(); });
-    return written;
+    std::optional<bool> written;
+    m_writer->sync([this, &written] { written = m_state->write(); });
+    // Where the queues have been shut down nobody else writes, and the block has been dropped.
+    return written ? *written : m_state->write();
 }
 
 } // namespace guide

@@ -41,6 +41,7 @@ class TVChannels {
 
   private:
     struct State;
+    std::shared_ptr<DispatchQueue> m_writer;
     std::shared_ptr<State> m_state;
 };
 

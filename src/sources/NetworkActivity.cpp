@@ -5,10 +5,9 @@
 namespace guide {
 
 struct NetworkActivity::State {
-    std::shared_ptr<DispatchQueue> queue;
     DispatchQueue& mainQueue;
     std::function<void(bool)> indicator; // main queue
-    std::uint32_t count = 0;             // on `queue` alone
+    std::uint32_t count = 0;             // on the serial queue alone
 
     static void tell(const std::shared_ptr<State>& state, bool visible) {
         state->mainQueue.async([weakState = std::weak_ptr(state), visible] {
@@ -20,13 +19,13 @@ struct NetworkActivity::State {
 };
 
 NetworkActivity::NetworkActivity(DispatchQueues& queues, std::function<void(bool visible)> indicator)
-    : m_state(new State{queues.makeQueue("vorel.tv.networkActivity", QueueKind::Serial), queues.mainQueue(),
-                        std::move(indicator)}) {}
+    : m_queue(queues.makeQueue("vorel.tv.networkActivity", QueueKind::Serial))
+    , m_state(new State{queues.mainQueue(), std::move(indicator)}) {}
 
 NetworkActivity::~NetworkActivity() = default;
 
 void NetworkActivity::startNetworkActivity() {
-    m_state->queue->async([state = m_state] {
+    m_queue->async([state = m_state] {
         if (state->count == 0) {
             State::tell(state, true);
         }
@@ -35,7 +34,7 @@ void NetworkActivity::startNetworkActivity() {
 }
 
 void NetworkActivity::stopNetworkActivity() {
-    m_state->queue->async([state = m_state] {
+    m_queue->async([state = m_state] {
         if (state->count == 1) {
             State::tell(state, false);
         }

@@ -21,6 +21,7 @@ class NetworkActivity {
 
   private:
     struct State;
+    std::shared_ptr<DispatchQueue> m_queue;
     std::shared_ptr<State> m_state;
 };
 

@@ -6,13 +6,16 @@
 #include "fakes/MemoryKeyValueStore.h"
 #include "platform/Archive.h"
 #include "platform/FileReplacement.h"
+#include "platform/ThreadedQueues.h"
 
 #include <QCborArray>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <atomic>
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace guide {
 namespace {
@@ -158,6 +161,37 @@ TEST_F(TVChannelsTest, AChannelIsDueByItsAge) {
     EXPECT_TRUE(channel.reloadNeeded(now, 24h));
     channel.setTimeLoaded(now - 23h);
     EXPECT_FALSE(channel.reloadNeeded(now, 24h));
+}
+
+TEST(TVChannelsThreadsTest, ReadersAndWritersOfManyThreads) {
+    const QTemporaryDir folder;
+    const Folders folders{folder.path(), folder.path(), {}, {}, {}, {}};
+    MemoryKeyValueStore keyValueStore;
+    ThreadedQueues threads([] {});
+    {
+        TVChannels channels(folders, keyValueStore, threads, catalogue());
+        std::atomic<bool> ended = false;
+        std::thread reader([&] {
+            while (!ended) {
+                const std::vector<ObjectId> selected = channels.selected();
+                EXPECT_TRUE(selected.empty() || selected.front() == kA);
+                if (const auto channel = channels.channelWithChannelId(kB)) {
+                    channel->setLoading(!channel->loading());
+                }
+            }
+        });
+        for (int round = 0; round < 200; ++round) {
+            channels.setSelected({kA});
+            channels.setSelected({kA, kB});
+        }
+        ended = true;
+        reader.join();
+    }
+    threads.shutDown();
+    TVChannels channels(folders, keyValueStore, threads, catalogue());
+    EXPECT_EQ(channels.selected(), (std::vector{kA, kB}));
+    channels.setSelected({kB});
+    EXPECT_TRUE(channels.finishWriting()) << "also when the queues have ended";
 }
 
 } // namespace

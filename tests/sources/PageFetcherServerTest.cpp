@@ -1,0 +1,152 @@
+#include "fakes/ManualQueues.h"
+#include "fakes/ScriptedServer.h"
+#include "platform/linux/CurlHTTPClient.h"
+#include "platform/linux/GlobalLibraries.h"
+#include "sources/Packing.h"
+#include "sources/PageFetcher.h"
+
+#include <gtest/gtest.h>
+
+namespace guide {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+/// The fetcher over real transfers from a server that misbehaves.
+class PageFetcherServerTest : public testing::Test {
+  protected:
+    NetPage fetch(const QUrl& url) {
+        return fetcher.netPageForRequest(pageRequest(url, userAgent, 300ms), false);
+    }
+
+    GlobalLibraries libraries;
+    ManualClock clock;
+    ManualQueues queues{clock};
+    NetworkActivity activity{queues, [](bool) {}};
+    ResponseCache cache{clock, 1 << 20, [] { return 24h; }};
+    CurlHTTPClient client{cache, {.maximumBodySize = 4 << 20, .connectTo = {}}};
+    HTTPUserAgent userAgent{[](unsigned) { return 1u; }};
+    int alerts = 0;
+    PageFetcher fetcher{{.client = client,
+                         .networkActivity = activity,
+                         .physicalMemory = std::uint64_t{128} << 20,
+                         .wait = [](std::chrono::milliseconds) { return true; },
+                         .noRemoteHostAlert = [this](const TransferError&) { ++alerts; }}};
+    ScriptedServer server;
+};
+
+TEST_F(PageFetcherServerTest, WhateverTheServerDoesGivesAPageOrAReason) {
+    const QByteArray feed = "<tv>" + QByteArray("<programme channel=\"č\"/>").repeated(100) + "</tv>";
+    const QByteArray gzip = gzipped(feed);
+    const QByteArray xz = xzPacked(feed);
+    QByteArray damagedGzip = gzip;
+    damagedGzip[damagedGzip.size() - 6] = char(damagedGzip[damagedGzip.size() - 6] ^ 0x55); // in the checksum
+    QByteArray damagedXz = xz;
+    damagedXz[damagedXz.size() / 2] = char(damagedXz[damagedXz.size() / 2] ^ 0x55);
+    const QByteArray bomb = gzipped(QByteArray(40 << 20, 'x'));
+    const auto type = [](const QByteArray& value) { return QList<QByteArray>{"Content-Type: " + value}; };
+    const ScriptedReply cut = ScriptedReply::raw(
+        ScriptedReply::head(200, {"Content-Length: 1000"}) + feed.left(500), ScriptedReply::End::Cut);
+    const ScriptedReply stalled = ScriptedReply::raw(
+        ScriptedReply::head(200, {"Content-Length: 1000"}) + feed.left(500), ScriptedReply::End::Stall);
+    ScriptedReply slow = ScriptedReply::raw(ScriptedReply::head(200));
+    for (qsizetype at = 0; at < feed.size(); at += 500) {
+        slow.then(feed.mid(at, 500), 100ms);
+    }
+    struct Row {
+        const char* name;
+        std::vector<ScriptedReply> replies;
+        std::optional<QByteArray> page;
+        PageReason reason = PageReason::None;
+        int alerts = 0;
+    };
+    const Row rows[] = {
+        {"plain", {ScriptedReply::ok(feed)}, feed},
+        {"gzip", {ScriptedReply::ok(gzip, type("application/x-gzip"))}, feed},
+        {"xz", {ScriptedReply::ok(xz, type("application/x-xz"))}, feed},
+        {"gzip by another name", {ScriptedReply::ok(gzip, type("application/gzip"))}, feed},
+        {"packed on the way", {ScriptedReply::ok(gzip, {"Content-Encoding: gzip"})}, feed},
+        {"slow", {slow}, feed},
+        {"error pages",
+         {ScriptedReply::answer(404, feed), ScriptedReply::answer(500, feed)},
+         {},
+         PageReason::Status},
+        {"error, then good", {ScriptedReply::answer(503, feed), ScriptedReply::ok(feed)}, feed},
+        {"redirect", {ScriptedReply::redirect("moved"), ScriptedReply::ok(feed)}, feed},
+        {"redirects", {ScriptedReply::redirect("/a"), ScriptedReply::redirect("/b")}, {}, PageReason::Status},
+        {"empty", {ScriptedReply::ok({}), ScriptedReply::ok({})}, {}, PageReason::Empty},
+        {"empty, then good", {ScriptedReply::ok({}), ScriptedReply::ok(feed)}, feed},
+        {"cut", {cut, cut}, {}, PageReason::Transfer, 2},
+        {"cut, then good", {cut, ScriptedReply::ok(feed)}, feed, PageReason::None, 1},
+        {"stalled", {stalled, stalled}, {}, PageReason::Transfer, 2},
+        {"not a word", {}, {}, PageReason::Transfer, 2},
+        {"garbage",
+         {ScriptedReply::raw("no HTTP at all\r\n\r\n"), ScriptedReply::raw("x")},
+         {},
+         PageReason::Transfer,
+         2},
+        {"wrong charset",
+         {ScriptedReply::ok("\xe8\xe9", type("text/xml; charset=utf-8"))},
+         {},
+         PageReason::Encoding},
+        {"another charset", {ScriptedReply::ok("\xe8", type("text/xml; charset=windows-1250"))}, "č"},
+        {"damaged gzip",
+         {ScriptedReply::ok(damagedGzip, type("application/x-gzip"))},
+         {},
+         PageReason::Compression},
+        {"damaged xz", {ScriptedReply::ok(damagedXz, type("application/x-xz"))}, {}, PageReason::Compression},
+        {"gzip bomb", {ScriptedReply::ok(bomb, type("application/x-gzip"))}, {}, PageReason::Compression},
+        {"bomb on the way",
+         {ScriptedReply::ok(bomb, {"Content-Encoding: gzip"}),
+          ScriptedReply::ok(bomb, {"Content-Encoding: gzip"})},
+         {},
+         PageReason::Transfer,
+         2},
+        {"a page for a person",
+         {ScriptedReply::ok("<html>&nbsp;</html>", type("text/html"))},
+         "<html>&nbsp;</html>"},
+    };
+    int number = 0;
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        alerts = 0;
+        const std::size_t asked = server.requests().size();
+        for (const ScriptedReply& reply : row.replies) {
+            server.reply(reply);
+        }
+        const NetPage page = fetch(server.url(u"/feed%1"_s.arg(++number)));
+        EXPECT_EQ(page.page, row.page);
+        EXPECT_EQ(page.reason, row.reason);
+        EXPECT_EQ(alerts, row.alerts);
+        EXPECT_EQ(server.requests().size() - asked, row.replies.empty() ? 2 : row.replies.size());
+    }
+    EXPECT_EQ(server.requests().front().header("User-Agent"), userAgent.value());
+    EXPECT_EQ(server.requests().front().header("Accept-Encoding"), "gzip,deflate");
+}
+
+TEST_F(PageFetcherServerTest, AnXzBombIsCutToItsBound) {
+    const QByteArray bomb = xzPacked(QByteArray(40 << 20, 'x'));
+    server.reply(ScriptedReply::ok(bomb, {"Content-Type: application/x-xz"}));
+    EXPECT_EQ(fetch(server.url()).page, QByteArray(23 * bomb.size(), 'x'));
+}
+
+TEST_F(PageFetcherServerTest, GoodPagesAreKeptAndOthersAreNot) {
+    server.serve("/good", ScriptedReply::ok("page"));
+    EXPECT_EQ(fetch(server.url(u"/good"_s)).page, "page");
+    EXPECT_EQ(fetch(server.url(u"/good#part"_s)).page, "page");
+    EXPECT_EQ(server.requests().size(), 1u);
+
+    server.serve("/bad", ScriptedReply::answer(404, "sorry"));
+    EXPECT_EQ(fetch(server.url(u"/bad"_s)).status, 404);
+    server.serve("/bad", ScriptedReply::ok("page"));
+    EXPECT_EQ(fetch(server.url(u"/bad"_s)).page, "page");
+}
+
+TEST_F(PageFetcherServerTest, NoServerAtAll) {
+    EXPECT_EQ(fetch(QUrl(u"http://127.0.0.1:1/"_s)).reason, PageReason::Transfer);
+    EXPECT_EQ(alerts, 2);
+}
+
+} // namespace
+} // namespace guide
