@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QUrl>
+#include "core/ObjectId.h"
+#include "store/ShowItem.h"
 
-#include <chrono>
+#include <QUrl>
 
 namespace guide {
 
@@ -18,8 +19,7 @@ class AppActions {
 
     virtual bool imagesEnabled() const = 0;
     virtual bool colorizedShows() const = 0;
-    /// How old a list may grow before it is loaded again.
-    virtual std::chrono::seconds automaticUpdateInterval() const = 0;
+    virtual int showCount() const = 0;
 };
 
 } // namespace guide

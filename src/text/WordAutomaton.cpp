@@ -1,0 +1,140 @@
+#include "text/WordAutomaton.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace guide {
+
+namespace {
+
+/// The trie of the words, with the links of the automaton.
+struct Node {
+    std::vector<std::uint32_t> next;
+    std::uint32_t fallback = 0;
+    /// The words that end here, longest first.
+    std::vector<std::uint16_t> words;
+};
+
+QString folded(const FoldTable& table, const QString& word) {
+    QString result;
+    for (qsizetype i = 0; i < word.size();) {
+        table.append(takeCodePoint(word, i), result);
+    }
+    return result;
+}
+
+} // namespace
+
+WordAutomaton::WordAutomaton(const std::vector<QString>& words, FoldMode mode)
+    : m_table(&FoldTable::of(mode))
+    , m_classes(std::make_unique<std::array<std::uint8_t, 0x10000>>()) {
+    std::vector<QString> foldedWords;
+    foldedWords.reserve(words.size());
+    for (const QString& word : words) {
+        foldedWords.push_back(folded(*m_table, word));
+        m_lengths.push_back(static_cast<int>(foldedWords.back().size()));
+        for (const QChar unit : foldedWords.back()) {
+            m_alphabet.push_back(unit.unicode());
+        }
+    }
+    std::ranges::sort(m_alphabet);
+    m_alphabet.erase(std::unique(m_alphabet.begin(), m_alphabet.end()), m_alphabet.end());
+    Q_ASSERT(m_alphabet.size() < kDropped);
+    m_classCount = static_cast<std::uint32_t>(m_alphabet.size()) + 1;
+    for (std::uint32_t unit = 0; unit < 0x10000; ++unit) {
+        const char16_t foldedUnit = (*m_table)[static_cast<char16_t>(unit)];
+        (*m_classes)[unit] = foldedUnit == FoldTable::kDropped   ? kDropped
+                             : foldedUnit == FoldTable::kSeveral ? kSeveral
+                                                                 : foldedClass(foldedUnit);
+    }
+
+    std::vector<Node> nodes(1);
+    nodes[0].next.assign(m_classCount, 0);
+    for (std::size_t word = 0; word < foldedWords.size(); ++word) {
+        if (foldedWords[word].isEmpty()) {
+            continue;
+        }
+        std::uint32_t node = 0;
+        for (const QChar unit : foldedWords[word]) {
+            const std::uint8_t unitClass = foldedClass(unit.unicode());
+            if (nodes[node].next[unitClass] == 0) {
+                nodes[node].next[unitClass] = static_cast<std::uint32_t>(nodes.size());
+                nodes.emplace_back().next.assign(m_classCount, 0);
+            }
+            node = nodes[node].next[unitClass];
+        }
+        nodes[node].words.push_back(static_cast<std::uint16_t>(word));
+    }
+
+    // Breadth first, so that a node's fallback is complete before the node is.
+    std::vector<std::uint32_t> order{0};
+    for (std::size_t at = 0; at < order.size(); ++at) {
+        const std::uint32_t node = order[at];
+        for (std::uint32_t unitClass = 0; unitClass < m_classCount; ++unitClass) {
+            const std::uint32_t child = nodes[node].next[unitClass];
+            const std::uint32_t beside = node == 0 ? 0 : nodes[nodes[node].fallback].next[unitClass];
+            if (child == 0) {
+                nodes[node].next[unitClass] = beside;
+                continue;
+            }
+            nodes[child].fallback = beside;
+            const auto& inherited = nodes[beside].words;
+            nodes[child].words.insert(nodes[child].words.end(), inherited.begin(), inherited.end());
+            order.push_back(child);
+        }
+    }
+    Q_ASSERT(nodes.size() <= 0x10000);
+
+    std::stable_partition(order.begin(), order.end(),
+                          [&](std::uint32_t node) { return nodes[node].words.empty(); });
+    std::vector<std::uint16_t> place(nodes.size());
+    for (std::size_t at = 0; at < order.size(); ++at) {
+        place[order[at]] = static_cast<std::uint16_t>(at);
+    }
+    m_next.resize(nodes.size() * m_classCount);
+    m_firstAccepting = static_cast<std::uint32_t>(nodes.size());
+    for (std::size_t at = 0; at < order.size(); ++at) {
+        const Node& node = nodes[order[at]];
+        std::ranges::transform(node.next, m_next.begin() + static_cast<std::ptrdiff_t>(at * m_classCount),
+                               [&](std::uint32_t next) { return place[next]; });
+        if (!node.words.empty()) {
+            m_firstAccepting = std::min(m_firstAccepting, static_cast<std::uint32_t>(at));
+            m_acceptedFrom.push_back(static_cast<std::uint32_t>(m_accepted.size()));
+            m_accepted.insert(m_accepted.end(), node.words.begin(), node.words.end());
+        }
+    }
+    m_acceptedFrom.push_back(static_cast<std::uint32_t>(m_accepted.size()));
+}
+
+std::uint8_t WordAutomaton::foldedClass(char16_t unit) const {
+    const auto found = std::ranges::lower_bound(m_alphabet, unit);
+    return found != m_alphabet.end() && *found == unit
+               ? static_cast<std::uint8_t>(found - m_alphabet.begin() + 1)
+               : std::uint8_t(0);
+}
+
+qsizetype WordAutomaton::beginOf(QStringView text, int word, qsizetype end) const {
+    qsizetype position = end;
+    QString several;
+    for (int left = foldedLength(word); left > 0;) {
+        const QChar unit = text[--position];
+        const char16_t foldedUnit = (*m_table)[unit.unicode()];
+        if (foldedUnit == FoldTable::kDropped) {
+            continue;
+        }
+        if (foldedUnit != FoldTable::kSeveral) {
+            --left;
+            continue;
+        }
+        if (unit.isLowSurrogate() && position > 0 && text[position - 1].isHighSurrogate()) {
+            --position;
+        }
+        several.clear();
+        qsizetype behind = position;
+        m_table->append(takeCodePoint(text, behind), several);
+        left -= static_cast<int>(several.size());
+    }
+    return position;
+}
+
+} // namespace guide

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "text/FoldTable.h"
+
+#include <QString>
+#include <QStringView>
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace guide {
+
+/// Finds all words of a list in a text in one pass (Aho and Corasick's automaton, as a dense table). Folding
+/// is part of the walk: the text is read as it stands, so positions are those of the original characters.
+///
+/// Made once; used by any number of threads.
+class WordAutomaton {
+  public:
+    /// Word i is reported by its index. A word that folds to nothing is never found.
+    WordAutomaton(const std::vector<QString>& words, FoldMode mode);
+
+    /// Calls `found(word, end)` for every occurrence, in the order of their ends and, of one end, the longest
+    /// first. `end` is the position behind the last unit that took part, before any marks that belong to it.
+    template <class Found>
+    void walk(QStringView text, Found&& found) const {
+        const std::uint16_t* const next = m_next.data();
+        const std::uint8_t* const classes = m_classes->data();
+        const char16_t* const units = text.utf16();
+        const qsizetype size = text.size();
+        std::uint32_t state = 0;
+        for (qsizetype i = 0; i < size; ++i) {
+            const std::uint8_t unitClass = classes[units[i]];
+            if (unitClass >= kDropped) {
+                if (unitClass == kSeveral) {
+                    state = walkSeveral(text, i, state, found);
+                }
+                continue;
+            }
+            state = next[state * m_classCount + unitClass];
+            if (state >= m_firstAccepting) {
+                report(state, i + 1, found);
+            }
+        }
+    }
+
+    /// The length of the word in folded units.
+    int foldedLength(int word) const { return m_lengths[static_cast<std::size_t>(word)]; }
+    /// Where an occurrence begins whose end walk has told.
+    qsizetype beginOf(QStringView text, int word, qsizetype end) const;
+    const FoldTable& table() const { return *m_table; }
+
+  private:
+    static constexpr std::uint8_t kDropped = 0xFE;
+    static constexpr std::uint8_t kSeveral = 0xFF;
+
+    template <class Found>
+    void report(std::uint32_t state, qsizetype end, Found&& found) const {
+        const std::uint32_t accepting = state - m_firstAccepting;
+        for (std::uint32_t i = m_acceptedFrom[accepting]; i < m_acceptedFrom[accepting + 1]; ++i) {
+            found(static_cast<int>(m_accepted[i]), end);
+        }
+    }
+
+    /// A character that folds to several units, or a pair of surrogates. `position` moves to its last unit.
+    template <class Found>
+    std::uint32_t walkSeveral(QStringView text, qsizetype& position, std::uint32_t state,
+                              Found&& found) const {
+        qsizetype behind = position;
+        QString folded;
+        m_table->append(takeCodePoint(text, behind), folded);
+        for (const QChar unit : folded) {
+            const std::uint8_t unitClass = foldedClass(unit.unicode());
+            state = m_next[state * m_classCount + unitClass];
+            if (state >= m_firstAccepting) {
+                report(state, behind, found);
+            }
+        }
+        position = behind - 1;
+        return state;
+    }
+
+    std::uint8_t foldedClass(char16_t unit) const;
+
+    const FoldTable* m_table;
+    /// The class of each unit of a text, folding included; 0 is what no word has.
+    std::unique_ptr<std::array<std::uint8_t, 0x10000>> m_classes;
+    /// The units that words have, in ascending order: class c is that of m_alphabet[c - 1].
+    std::u16string m_alphabet;
+    std::uint32_t m_classCount = 1;
+    /// State by class. Accepting states come last.
+    std::vector<std::uint16_t> m_next;
+    std::uint32_t m_firstAccepting = 0;
+    std::vector<std::uint32_t> m_acceptedFrom;
+    std::vector<std::uint16_t> m_accepted;
+    std::vector<int> m_lengths;
+};
+
+} // namespace guide
