@@ -1,9 +1,8 @@
 #pragma once
 
-#include "core/ObjectId.h"
-#include "store/ShowItem.h"
-
 #include <QUrl>
+
+#include <chrono>
 
 namespace guide {
 
@@ -19,7 +18,8 @@ class AppActions {
 
     virtual bool imagesEnabled() const = 0;
     virtual bool colorizedShows() const = 0;
-    virtual int showCount() const = 0;
+    /// How old a list may grow before it is loaded again.
+    virtual std::chrono::seconds automaticUpdateInterval() const = 0;
 };
 
 } // namespace guide

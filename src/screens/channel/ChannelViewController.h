@@ -1,0 +1,60 @@
+#pragma once
+
+#include "screens/shell/ListingsScreen.h"
+#include "screens/shell/ScreenEnvironment.h"
+
+#include <QUrl>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace guide {
+
+/// The whole remaining schedule of one channel, a section for each day.
+class ChannelViewController final : public ListingsScreen {
+  public:
+    /// `entries` is the list that the opener has in hand.
+    ChannelViewController(std::shared_ptr<const ScreenEnvironment> environment, const QString& title,
+                          const ShowSpan& entries, const QString& channelIconName, const ObjectId& channel);
+
+    const ObjectId& channel() const { return m_channel; }
+
+    /// The update cycle has new data: takes it over, unless the channel is still being loaded or due.
+    void reloadChannelData();
+
+    void applicationDidBecomeActive() override { reloadChannelData(); }
+    void offerTopShows(const TopShows&) override { reloadChannelData(); }
+    void reloadData() override { reloadChannelData(); }
+    void recolor() override;
+    void notificationsSynched() override;
+
+  protected:
+    void viewDidLoad() override;
+    void viewWillAppear() override;
+    void viewDidDisappear() override;
+    void didPullToRefresh() override { refresh(); }
+
+  private:
+    struct Group {
+        QString day;
+        ShowItems shows;
+    };
+
+    void initializeContentWithEntriesArray(const ShowSpan& entries);
+    void reloadTable();
+    Row rowOfShow(const ShowItem& show, Moment now) const;
+    void refresh();
+    void refreshActive();
+    void refreshDone();
+    void setButtons(BarButton first);
+
+    const std::shared_ptr<const ScreenEnvironment> m_environment;
+    const QString m_channelTitle;
+    const QString m_channelIconName;
+    const ObjectId m_channel;
+    std::optional<QUrl> m_streamURL;
+    std::vector<Group> m_groups;
+};
+
+} // namespace guide

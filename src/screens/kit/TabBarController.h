@@ -1,0 +1,87 @@
+#pragma once
+
+#include "screens/kit/Alert.h"
+#include "screens/kit/NavigationController.h"
+
+#include <QString>
+
+#include <deque>
+#include <memory>
+#include <vector>
+
+namespace guide {
+
+/// The picture on a tab.
+enum class Symbol { AllShows, Currently, Categories, Search, Schedule, SelectedChannels };
+
+struct TabBarItem {
+    QString title;
+    Symbol symbol = Symbol::Currently;
+    bool enabled = true;
+    /// Empty for none.
+    QString badgeValue;
+};
+
+class TabBarObserver {
+  public:
+    virtual ~TabBarObserver() = default;
+    /// A tab was enabled or disabled, or its badge changed.
+    virtual void tabBarItemChanged(int index) = 0;
+    virtual void selectedTabChanged() = 0;
+    /// Another alert, or none, is to be shown.
+    virtual void alertChanged() = 0;
+};
+
+/// The root of the screens: tabs, each a stack of screens, and the alerts before them. Main queue.
+class TabBarController {
+  public:
+    struct Tab {
+        TabBarItem item;
+        std::unique_ptr<NavigationController> navigationController;
+    };
+
+    TabBarController() = default;
+    TabBarController(const TabBarController&) = delete;
+    TabBarController& operator=(const TabBarController&) = delete;
+
+    /// All tabs are added before the window is shown.
+    void addTab(TabBarItem item, std::shared_ptr<ViewController> root);
+    const std::vector<Tab>& tabs() const { return m_tabs; }
+
+    void setObserver(TabBarObserver* observer) { m_observer = observer; }
+
+    int selectedIndex() const { return m_selectedIndex; }
+    NavigationController& selectedNavigationController() const;
+    /// Also selects a tab that is disabled; an index past the tabs is ignored.
+    void setSelectedIndex(int index);
+    /// What a tap on a tab does: nothing on a disabled one; on the selected one its stack goes back to its
+    /// root.
+    void tapTab(int index);
+
+    void setTabEnabled(int index, bool enabled);
+    /// Empty for no badge.
+    void setBadgeValue(int index, const QString& badgeValue);
+
+    void enableTabs();
+    /// Selects the last tab and disables the others: while no channel is selected.
+    void disableTabs();
+
+    /// The window is there: the selected tab's screen loads and appears.
+    void makeVisible();
+
+    /// Shows the alert, behind those that are already waiting.
+    void presentAlert(Alert alert);
+    /// Null when there is none.
+    const Alert* presentedAlert() const;
+    /// Takes the alert away and runs the action of that number.
+    void answerAlert(std::size_t action);
+
+  private:
+    std::vector<Tab> m_tabs;
+    int m_selectedIndex = 0;
+    bool m_visible = false;
+    std::deque<Alert> m_alerts;
+    TabBarObserver* m_observer = nullptr;
+};
+
+} // namespace guide

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "screens/shell/ListingsScreen.h"
+#include "screens/shell/ScreenEnvironment.h"
+
+#include <QHash>
+#include <QImage>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace guide {
+
+/// What is on now: a section for each selected channel, with the channel's own row first and its current and
+/// next shows below.
+class RootViewController final : public ListingsScreen {
+  public:
+    explicit RootViewController(std::shared_ptr<const ScreenEnvironment> environment);
+
+    /// Rebuilds all sections from a query; the load queue is suspended until they stand. Does nothing before
+    /// the screen is loaded.
+    void selectedChannelsChanged();
+    /// A fresh list of one channel: only the rows that say something else change. Ignored when the list is
+    /// empty or the channel has no section.
+    void reloadChannel(const ObjectId& channel, const ShowSpan& entries);
+    /// A picture for the shows of that title on the channel; a null image for shows known to have none.
+    void setShowImage(const QImage& image, const ObjectId& channel, const QString& showIdentifier);
+
+    void applicationDidBecomeActive() override;
+    void offerTopShows(const TopShows& top) override;
+    void recolor() override;
+    void notificationsSynched() override;
+    void selectionCleanedUp() override;
+    void setModifiedSelectedChannels(bool modified) override { m_modifiedSelectedChannels = modified; }
+
+  protected:
+    void viewDidLoad() override;
+    void viewWillAppear() override;
+    void viewDidAppear() override;
+    void viewDidDisappear() override;
+    void didSelectRow(IndexPath path) override;
+    void didTapAccessory(IndexPath path) override;
+    void rowWillBeDisplayed(IndexPath path) override;
+
+  private:
+    /// One section: a channel and its shows.
+    struct Channel {
+        ObjectId identificator;
+        QString title;
+        QString iconName;
+        QImage icon;
+        ShowItems entries;
+    };
+    using Images = QHash<QString, QImage>;
+
+    Channel channelNamed(const ObjectId& identificator) const;
+    void setChannels(const std::vector<ObjectId>& selected, const std::vector<ShowSpan>& entries);
+    std::optional<int> sectionOfChannel(const ObjectId& channel) const;
+    std::optional<QImage> showImage(const ObjectId& channel, const QString& showIdentifier) const;
+    std::optional<QUrl> streamURL(const ObjectId& channel) const;
+
+    std::vector<Row> rowsOf(const Channel& channel) const;
+    Row channelRow(const Channel& channel) const;
+    Row rowOfShow(const ShowItem& show, Moment now) const;
+    void reloadTable();
+
+    void selectedChannel(const Channel& channel);
+    void startDetailPass(const ObjectId& channel);
+    void detailsLoaded(const ObjectId& channel, ShowItems shows, const std::vector<QImage>& images);
+
+    const std::shared_ptr<const ScreenEnvironment> m_environment;
+    std::vector<Channel> m_channels;
+    std::unordered_map<ObjectId, Images> m_showImages;
+    std::unordered_set<ObjectId> m_channelsWithLoadedShowDetails;
+    bool m_modifiedSelectedChannels = false;
+    /// Counts the queries, so that a late answer does not replace a newer one.
+    std::uint64_t m_asked = 0;
+    std::uint64_t m_shown = 0;
+};
+
+} // namespace guide

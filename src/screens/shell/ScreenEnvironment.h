@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/ChannelDictionary.h"
+#include "core/TVChannels.h"
+#include "core/TVStationIcons.h"
+#include "platform/Clock.h"
+#include "platform/Device.h"
+#include "platform/DispatchQueue.h"
+#include "platform/LifeCycle.h"
+#include "screens/AppActions.h"
+#include "screens/ShowPictures.h"
+#include "store/ShowQuestions.h"
+#include "store/TVListings.h"
+#include "text/Alphabet.h"
+
+namespace guide {
+
+/// What every screen is made of and asks; all of it outlives the screens.
+struct ScreenEnvironment {
+    const Clock& clock;
+    const Device& device;
+    DispatchQueue& mainQueue;
+    /// Where lists are read; suspended while the first screen rebuilds.
+    DispatchQueue& loadQueue;
+    const ApplicationStateSource& applicationState;
+    TVListings& listings;
+    TVChannels& channels;
+    TVStationIcons& icons;
+    SharedChannelData channelData;
+    const Alphabet& alphabet;
+    const FavoriteQuestions& favorites;
+    const AlarmQuestions& alarms;
+    const PopularShows& popularShows;
+    ShowPictures& pictures;
+    AppActions& app;
+};
+
+} // namespace guide
