@@ -2,9 +2,13 @@
 
 #include "platform/Utf8.h"
 
+#include <algorithm>
 #include <array>
 #include <memory>
+#include <string_view>
 #include <unicode/ucnv.h>
+
+using namespace Qt::StringLiterals;
 
 namespace guide {
 
@@ -16,6 +20,33 @@ struct ConverterDeleter {
 using Converter = std::unique_ptr<UConverter, ConverterDeleter>;
 
 constexpr qsizetype kLongestName = 60;
+
+// ISO-8859-16, which the library lacks: its upper half from 0xA0. Everything below stands for itself.
+constexpr std::u16string_view kLatin10 =
+    u"\u00a0ĄąŁ€„Š§š©Ș«Ź\u00adźŻ°±ČłŽ”¶·žčș»ŒœŸżÀÁÂĂÄĆÆÇÈÉÊËÌÍÎÏĐŃÒÓÔŐÖŚŰÙÚÛÜĘȚß"
+    u"àáâăäćæçèéêëìíîïđńòóôőöśűùúûüęțÿ";
+static_assert(kLatin10.size() == 0x60);
+
+bool isLatin10(const QString& name) {
+    static const std::array<QLatin1StringView, 5> kNames{"iso885916"_L1, "latin10"_L1, "l10"_L1,
+                                                         "isoir226"_L1, "csiso885916"_L1};
+    QString plain;
+    for (const QChar character : name) {
+        if (character.isLetterOrNumber()) {
+            plain += character.toLower();
+        }
+    }
+    return std::find(kNames.begin(), kNames.end(), plain) != kNames.end();
+}
+
+QByteArray fromLatin10(const QByteArray& bytes) {
+    QString text(bytes.size(), Qt::Uninitialized);
+    for (qsizetype index = 0; index < bytes.size(); ++index) {
+        const auto byte = static_cast<unsigned char>(bytes[index]);
+        text[index] = byte < 0xa0 ? QChar(char16_t{byte}) : QChar(kLatin10[byte - 0xa0U]);
+    }
+    return text.toUtf8();
+}
 
 // A comma opens the converter's own options, which are no part of a name; an empty name would be the system's
 // set.
@@ -81,6 +112,9 @@ std::optional<QByteArray> utf8FromUtf8(QByteArray bytes) {
 }
 
 std::optional<QByteArray> utf8FromCharacterSet(QByteArray bytes, const QString& ianaName) {
+    if (isLatin10(ianaName)) {
+        return fromLatin10(bytes);
+    }
     const Converter source = openConverter(ianaName);
     if (!source) {
         return std::nullopt;

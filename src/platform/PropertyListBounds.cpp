@@ -26,11 +26,11 @@ class BinaryList {
             return false;
         }
         const std::uint64_t trailer = m_size - kTrailerSize;
-        m_offsetSize = number(trailer + 6, 1);
-        m_referenceSize = number(trailer + 7, 1);
-        m_objectCount = number(trailer + 8, 8);
-        const std::uint64_t root = number(trailer + 16, 8);
-        m_table = number(trailer + 24, 8);
+        m_offsetSize = numberAt(trailer + 6, 1);
+        m_referenceSize = numberAt(trailer + 7, 1);
+        m_objectCount = numberAt(trailer + 8, 8);
+        const std::uint64_t root = numberAt(trailer + 16, 8);
+        m_table = numberAt(trailer + 24, 8);
         if (m_offsetSize < 1 || m_offsetSize > 8 || m_referenceSize < 1 || m_referenceSize > 8 ||
             m_table > trailer || m_objectCount > (trailer - m_table) / m_offsetSize) {
             return false;
@@ -39,10 +39,17 @@ class BinaryList {
     }
 
   private:
-    // The references of one array or dictionary that are still to be followed.
+    // The references of one array or dictionary that are still to be followed; those to keys come first.
     struct Level {
         std::uint64_t nextReference;
         std::uint64_t left;
+        std::uint64_t keysLeft;
+    };
+
+    struct Object {
+        std::uint64_t kind;
+        std::uint64_t count;
+        std::uint64_t content;
     };
 
     bool walk(std::uint64_t root) {
@@ -67,48 +74,86 @@ class BinaryList {
                 levels.pop_back();
                 continue;
             }
-            const std::uint64_t object = number(level.nextReference, m_referenceSize);
+            const std::uint64_t object = numberAt(level.nextReference, m_referenceSize);
             level.nextReference += m_referenceSize;
             --level.left;
-            if (!enter(object)) {
+            if (level.keysLeft > 0) {
+                --level.keysLeft;
+                if (!isKey(object)) {
+                    return false;
+                }
+            } else if (!enter(object)) {
                 return false;
             }
         }
         return true;
     }
 
-    // Where an object's references stand and how many they are (none for a plain value); nothing when it is
-    // damaged.
-    std::optional<Level> references(std::uint64_t object) const {
-        if (object >= m_objectCount) {
+    std::optional<Object> object(std::uint64_t number) const {
+        if (number >= m_objectCount) {
             return std::nullopt;
         }
-        std::uint64_t at = number(m_table + object * m_offsetSize, m_offsetSize);
+        std::uint64_t at = numberAt(m_table + number * m_offsetSize, m_offsetSize);
         if (at >= m_size - kTrailerSize) {
             return std::nullopt;
         }
-        const std::uint64_t marker = number(at, 1);
-        const std::uint64_t kind = marker >> 4;
-        if (kind < 0xa) {
-            return Level{0, 0};
-        }
+        const std::uint64_t marker = numberAt(at, 1);
         std::uint64_t count = marker & 0xf;
         ++at;
         if (count == 0xf) {
             // A long count is an integer object of its own, its size a power of two.
-            const std::uint64_t size = std::uint64_t{1} << (number(at, 1) & 0x3);
-            count = number(at + 1, size);
+            const std::uint64_t size = std::uint64_t{1} << (numberAt(at, 1) & 0x3);
+            count = numberAt(at + 1, size);
             at += 1 + size;
         }
-        const std::uint64_t perElement = kind == 0xd ? 2 : 1;
-        if (count > m_size || at + count * perElement * m_referenceSize > m_size - kTrailerSize) {
+        if (count > m_size) {
             return std::nullopt;
         }
-        return Level{at, count * perElement};
+        return Object{marker >> 4, count, at};
+    }
+
+    bool holds(std::uint64_t at, std::uint64_t size) const {
+        return at <= m_size - kTrailerSize && size <= m_size - kTrailerSize - at;
+    }
+
+    // Where an object's references stand and how many they are (none for a plain value); nothing when it is
+    // damaged.
+    std::optional<Level> references(std::uint64_t number) const {
+        const std::optional<Object> found = object(number);
+        if (!found) {
+            return std::nullopt;
+        }
+        if (found->kind < 0xa) {
+            return Level{0, 0, 0};
+        }
+        const bool isDictionary = found->kind == 0xd;
+        const std::uint64_t count = isDictionary ? found->count * 2 : found->count;
+        if (!holds(found->content, count * m_referenceSize)) {
+            return std::nullopt;
+        }
+        return Level{found->content, count, isDictionary ? found->count : 0};
+    }
+
+    // A key is a text; the library ends the process over one that holds a NUL.
+    bool isKey(std::uint64_t number) const {
+        const std::optional<Object> found = object(number);
+        if (!found || (found->kind != 0x5 && found->kind != 0x6)) {
+            return false;
+        }
+        const std::uint64_t unitSize = found->kind == 0x5 ? 1 : 2;
+        if (!holds(found->content, found->count * unitSize)) {
+            return false;
+        }
+        for (std::uint64_t unit = 0; unit < found->count; ++unit) {
+            if (numberAt(found->content + unit * unitSize, unitSize) == 0) {
+                return false;
+            }
+        }
+        return true;
     }
 
     // Big-endian; 0 where it would lie outside.
-    std::uint64_t number(std::uint64_t at, std::uint64_t size) const {
+    std::uint64_t numberAt(std::uint64_t at, std::uint64_t size) const {
         if (at > m_size || size > m_size - at) {
             return 0;
         }
@@ -141,6 +186,9 @@ bool binaryPropertyListIsBounded(QByteArrayView data) {
 }
 
 bool xmlPropertyListIsBounded(QByteArrayView data) {
+    if (data.contains('\0')) {
+        return false;
+    }
     int depth = 0;
     int values = 0;
     for (qsizetype at = data.indexOf('<'); at >= 0; at = data.indexOf('<', at + 1)) {

@@ -1,0 +1,111 @@
+#include "platform/PropertyList.h"
+
+#include <QDateTime>
+
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <plist/plist.h>
+
+using namespace Qt::StringLiterals;
+
+namespace guide {
+namespace {
+
+QByteArray xmlList(const QByteArray& content) {
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST "
+           "1.0//EN\" "
+           "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n<plist version=\"1.0\">" +
+           content + "</plist>";
+}
+
+QByteArray binaryList(const QByteArray& xml) {
+    plist_t root = nullptr;
+    plist_from_xml(xml.constData(), static_cast<std::uint32_t>(xml.size()), &root);
+    char* bytes = nullptr;
+    std::uint32_t size = 0;
+    plist_to_bin(root, &bytes, &size);
+    const QByteArray binary(bytes, static_cast<qsizetype>(size));
+    plist_free(root);
+    std::free(bytes); // NOLINT: the library's memory comes from malloc
+    return binary;
+}
+
+const QByteArray kEveryKind =
+    "<dict><key>Channels</key><array><dict><key>Title</key><string>Č&amp;T 📺</string></dict></array>"
+    "<key>empty</key><string></string><key>yes</key><true/><key>no</key><false/>"
+    "<key>number</key><integer>-42</integer><key>real</key><real>1.5</real>"
+    "<key>date</key><date>2025-12-31T18:30:00Z</date><key>data</key><data>AAEC</data></dict>";
+
+TEST(PropertyListTest, ReadsEveryKindFromBothForms) {
+    const QVariantMap expected{
+        {u"Channels"_s, QVariantList{QVariantMap{{u"Title"_s, u"Č&T 📺"_s}}}},
+        {u"empty"_s, u""_s},
+        {u"yes"_s, true},
+        {u"no"_s, false},
+        {u"number"_s, qlonglong{-42}},
+        {u"real"_s, 1.5},
+        {u"date"_s, QDateTime(QDate(2025, 12, 31), QTime(18, 30), Qt::UTC)},
+        {u"data"_s, QByteArray("\0\1\2", 3)},
+    };
+    const QByteArray xml = xmlList(kEveryKind);
+    EXPECT_EQ(propertyListFromData(xml), QVariant(expected));
+    EXPECT_EQ(propertyListFromData(binaryList(xml)), QVariant(expected));
+}
+
+TEST(PropertyListTest, DamageGivesNothing) {
+    const QByteArray xml = xmlList(kEveryKind);
+    const std::vector<std::pair<const char*, QByteArray>> cases{
+        {"nothing", ""},
+        {"text", "Channels"},
+        {"page", "<html><body>Not found</body></html>"},
+        {"cut XML", xml.left(xml.size() / 2)},
+        {"cut binary", binaryList(xml).chopped(40)},
+        {"binary header alone", "bplist00"},
+        {"NUL in a key", xmlList("<dict><key>a&#0;b</key><true/></dict>")},
+        {"not UTF-8", xmlList("<string>\xe9</string>")},
+    };
+    for (const auto& [name, data] : cases) {
+        EXPECT_FALSE(propertyListFromData(data)) << name;
+    }
+}
+
+TEST(PropertyListTest, DamageNeverCrashes) {
+    for (const QByteArray& whole : {xmlList(kEveryKind), binaryList(xmlList(kEveryKind))}) {
+        for (qsizetype at = 0; at < whole.size(); ++at) {
+            propertyListFromData(whole.left(at));
+            for (const char mask : {'\x01', '\x10', '\x80'}) {
+                QByteArray damaged = whole;
+                damaged[at] = static_cast<char>(damaged.at(at) ^ mask);
+                propertyListFromData(damaged);
+            }
+        }
+    }
+}
+
+TEST(PropertyListTest, EndlessTreesAreRefused) {
+    const auto nested = [](int depth) {
+        return xmlList(QByteArray("<array>").repeated(depth) + "<true/>" +
+                       QByteArray("</array>").repeated(depth));
+    };
+    EXPECT_TRUE(propertyListFromData(nested(60)));
+    EXPECT_TRUE(propertyListFromData(binaryList(nested(60))));
+    EXPECT_FALSE(propertyListFromData(nested(100'000)));
+    EXPECT_FALSE(propertyListFromData(binaryList(nested(1'000))));
+
+    // Each object is an array of the next one twice: forty of them stand for 2^40 values.
+    QByteArray bomb = "bplist00";
+    QByteArray offsets;
+    constexpr char kObjects = 40;
+    for (char object = 0; object < kObjects; ++object) {
+        offsets += static_cast<char>(bomb.size());
+        const char next = static_cast<char>(object + 1);
+        bomb += object + 1 < kObjects ? QByteArray("\xa2") + next + next : QByteArray("\x09");
+    }
+    const char table = static_cast<char>(bomb.size());
+    bomb += offsets + QByteArray(6, '\0') + '\1' + '\1' + QByteArray(7, '\0') + kObjects +
+            QByteArray(8, '\0') + QByteArray(7, '\0') + table;
+    EXPECT_FALSE(propertyListFromData(bomb));
+}
+
+} // namespace
+} // namespace guide

@@ -1,0 +1,72 @@
+#include "platform/Utf8.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace guide {
+namespace {
+
+TEST(Utf8Test, AcceptsExactlyWellFormedBytesAtEveryOffset) {
+    struct Case {
+        const char* name;
+        QByteArray bytes;
+        bool valid;
+    };
+    const std::vector<Case> cases{
+        {"two bytes", "\xc4\x8d", true},
+        {"three bytes", "\xe2\x80\x93", true},
+        {"four bytes", "\xf0\x9f\x93\xba", true},
+        {"the last character", "\xf4\x8f\xbf\xbf", true},
+        {"a noncharacter", "\xef\xbf\xbf", true},
+        {"NUL", QByteArray("\0", 1), true},
+        {"byte order mark", "\xef\xbb\xbf", true},
+        {"continuation alone", "\x80", false},
+        {"overlong slash", "\xc0\xaf", false},
+        {"overlong in two", "\xc1\xbf", false},
+        {"overlong in three", "\xe0\x9f\xbf", false},
+        {"overlong in four", "\xf0\x8f\xbf\xbf", false},
+        {"high surrogate", "\xed\xa0\x80", false},
+        {"low surrogate", "\xed\xbf\xbf", false},
+        {"past the last", "\xf4\x90\x80\x80", false},
+        {"no such byte", "\xf5\x80\x80\x80", false},
+        {"cut after one", "\xc4", false},
+        {"cut after two", "\xe2\x80", false},
+        {"cut after three", "\xf0\x9f\x93", false},
+        {"broken by ASCII", "\xe2\x80 x", false},
+        {"Latin-1", "\xe9t\xe9", false},
+    };
+    for (const Case& each : cases) {
+        for (const qsizetype before : {0, 1, 7, 8, 15, 16, 17, 40}) {
+            for (const qsizetype after : {0, 1, 20}) {
+                const QByteArray bytes = QByteArray(before, 'a') + each.bytes + QByteArray(after, 'z');
+                QString text;
+                EXPECT_EQ(isValidUtf8(bytes), each.valid) << each.name << before << ' ' << after;
+                EXPECT_EQ(readUtf8(bytes, text), each.valid) << each.name << before << ' ' << after;
+                if (each.valid) {
+                    EXPECT_EQ(text, QString::fromUtf8("." + bytes).mid(1))
+                        << each.name << before << ' ' << after;
+                }
+            }
+        }
+    }
+}
+
+TEST(Utf8Test, WritesLoneSurrogatesAsTheReplacementCharacter) {
+    const auto written = [](const QString& text) {
+        QByteArray bytes(static_cast<qsizetype>(utf8Length(text)), 'x');
+        EXPECT_EQ(writeUtf8(text, bytes.data()), bytes.data() + bytes.size());
+        return bytes;
+    };
+    const QChar high(0xd83d);
+    const QChar low(0xdcfa);
+    EXPECT_EQ(written(u"ač–📺"_s), u"ač–📺"_s.toUtf8());
+    EXPECT_EQ(written(u"a"_s + high), "a\xef\xbf\xbd");
+    EXPECT_EQ(written(high + u"b"_s), "\xef\xbf\xbd"
+                                      "b");
+    EXPECT_EQ(written(u"a"_s + low + high), "a\xef\xbf\xbd\xef\xbf\xbd");
+    EXPECT_EQ(written(QString(high) + high + low), "\xef\xbf\xbd\xf0\x9f\x93\xba");
+}
+
+} // namespace
+} // namespace guide
