@@ -30,7 +30,7 @@ QString FolderKeyValueStore::fileName(const QString& key) {
         const QByteArray digest = QCryptographicHash::hash(utf8, QCryptographicHash::Sha256).toHex();
         name = name.left(kLongestName - kDigestDigits - 1) + '~' + digest.left(kDigestDigits);
     }
-    return QString::fromLatin1(name) + kSuffix;
+    return (name.isEmpty() ? u"~"_s : QString::fromLatin1(name)) + kSuffix;
 }
 
 std::optional<QCborValue> FolderKeyValueStore::valueForKey(const QString& key) const {

@@ -23,7 +23,7 @@ class FolderKeyValueStore final : public KeyValueStore {
     void removeKey(const QString& key) override;
 
     /// The file of a key: letters, digits, "-" and "_" as they are, any other byte of its UTF-8 as "%" and
-    /// two digits; long names are cut and end in a digest.
+    /// two digits; long names are cut and end in "~" and a digest, the empty one is "~".
     static QString fileName(const QString& key);
 
   private:

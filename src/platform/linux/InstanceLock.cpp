@@ -133,12 +133,12 @@ void InstanceLock::serve(const FileDescriptor& socket, int stop, const std::shar
         if (!request) {
             continue;
         }
-        writeLine(connection, kTaken);
         listener->queue->async([listener, taken = *std::move(request)] {
             if (!listener->ended.load()) {
                 listener->handler(taken);
             }
         });
+        writeLine(connection, kTaken);
     }
 }
 

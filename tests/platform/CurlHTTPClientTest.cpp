@@ -1,0 +1,296 @@
+#include "platform/linux/CurlHTTPClient.h"
+
+#include "fakes/ManualClock.h"
+#include "fakes/ScriptedServer.h"
+#include "platform/linux/GlobalLibraries.h"
+
+#include <future>
+#include <gtest/gtest.h>
+#include <zlib.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace guide {
+namespace {
+
+using End = ScriptedReply::End;
+
+constexpr qint64 kBodyLimit = 100'000;
+
+QByteArray gzipped(QByteArray content) {
+    z_stream stream{};
+    deflateInit2(&stream, 6, Z_DEFLATED, 31, 8, Z_DEFAULT_STRATEGY);
+    QByteArray packed(static_cast<qsizetype>(deflateBound(&stream, static_cast<uLong>(content.size()))),
+                      '\0');
+    stream.next_in = reinterpret_cast<Bytef*>(content.data());
+    stream.avail_in = static_cast<uInt>(content.size());
+    stream.next_out = reinterpret_cast<Bytef*>(packed.data());
+    stream.avail_out = static_cast<uInt>(packed.size());
+    deflate(&stream, Z_FINISH);
+    packed.truncate(static_cast<qsizetype>(stream.total_out));
+    deflateEnd(&stream);
+    return packed;
+}
+
+class CurlHTTPClientTest : public testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        // Proxies of the machine have no business here.
+        for (const char* variable : {"http_proxy", "all_proxy", "ALL_PROXY"}) {
+            qunsetenv(variable);
+        }
+        libraries = std::make_unique<GlobalLibraries>();
+    }
+    static void TearDownTestSuite() { libraries.reset(); }
+
+    HTTPRequest request(const QString& path = u"/"_s) const {
+        HTTPRequest request;
+        request.url = server.url(path);
+        request.cachePolicy = CachePolicy::ReloadIgnoringCache;
+        return request;
+    }
+    TransferResult get(const QString& path = u"/"_s) { return client.perform(request(path)); }
+
+    static std::unique_ptr<GlobalLibraries> libraries;
+    ScriptedServer server;
+    ManualClock clock;
+    ResponseCache cache{clock, 1'000'000, [] { return 1h; }};
+    CurlHTTPClient client{cache,
+                          {kBodyLimit, {"feeds.example:80:127.0.0.1:" + QByteArray::number(server.port())}}};
+};
+std::unique_ptr<GlobalLibraries> CurlHTTPClientTest::libraries;
+
+TEST_F(CurlHTTPClientTest, BringsResponsesAsTheyCome) {
+    struct Case {
+        const char* name;
+        ScriptedReply reply;
+        int status;
+        QByteArray body;
+    };
+    const std::vector<Case> cases{
+        {"found", ScriptedReply::ok("page", {"X-Kind: test"}), 200, "page"},
+        {"not found, with a body", ScriptedReply::answer(404, "sorry", {"X-Kind: test"}), 404, "sorry"},
+        {"a redirect is not followed",
+         ScriptedReply::answer(301, "", {"X-Kind: test", "Location: /elsewhere"}), 301, ""},
+        {"a body until the end", ScriptedReply::raw(ScriptedReply::head(200, {"X-Kind: test"}) + "page"), 200,
+         "page"},
+        {"chunks",
+         ScriptedReply::raw(ScriptedReply::head(200, {"X-Kind: test", "Transfer-Encoding: chunked"}) +
+                            "2\r\npa\r\n2\r\nge\r\n0\r\n\r\n"),
+         200, "page"},
+        {"an interim response before",
+         ScriptedReply::raw("HTTP/1.1 103 Early\r\nX-Kind: early\r\n\r\n" +
+                            ScriptedReply::head(200, {"x-kind:  test ", "Content-Length: 4"}) + "page"),
+         200, "page"},
+    };
+    for (const Case& each : cases) {
+        server.reply(each.reply);
+        const TransferResult result = get();
+        ASSERT_TRUE(result.response) << each.name;
+        EXPECT_FALSE(result.error) << each.name;
+        EXPECT_EQ(result.response->statusCode, each.status) << each.name;
+        EXPECT_EQ(result.response->header("X-Kind"), QByteArray("test")) << each.name;
+        EXPECT_EQ(result.body, each.body) << each.name;
+    }
+    EXPECT_EQ(server.requests().size(), cases.size());
+}
+
+TEST_F(CurlHTTPClientTest, HalfATransferIsAnErrorWithoutABody) {
+    const QByteArray promised = ScriptedReply::head(200, {"Content-Length: 100"});
+    struct Case {
+        const char* name;
+        ScriptedReply reply;
+        bool response;
+    };
+    const std::vector<Case> cases{
+        {"closed without a word", ScriptedReply{}, false},
+        {"reset without a word", ScriptedReply::raw("", End::Cut), false},
+        {"no HTTP", ScriptedReply::raw("SSH-2.0-Server\r\n\r\n"), false},
+        {"closed within the body", ScriptedReply::raw(promised + "half"), true},
+        {"closed within a chunk",
+         ScriptedReply::raw(ScriptedReply::head(200, {"Transfer-Encoding: chunked"}) + "10\r\nhalf"), true},
+        {"longer than announced to be allowed",
+         ScriptedReply::raw(ScriptedReply::head(200, {"Content-Length: 100001"}) + "x", End::Stall), true},
+        {"longer than allowed",
+         ScriptedReply::raw(ScriptedReply::head(200) + QByteArray(kBodyLimit + 1, 'x')), true},
+        {"stalls", ScriptedReply::raw(promised + "half", End::Stall), true},
+        {"stalls before the head", ScriptedReply::raw("HTTP/1.1 2", End::Stall), false},
+    };
+    for (const Case& each : cases) {
+        server.reply(each.reply);
+        HTTPRequest asked = request();
+        asked.timeout = 60ms;
+        const TransferResult result = client.perform(asked);
+        EXPECT_EQ(result.response.has_value(), each.response) << each.name;
+        EXPECT_TRUE(result.body.isEmpty()) << each.name;
+        ASSERT_TRUE(result.error) << each.name;
+        EXPECT_FALSE(result.error->description.isEmpty() || result.error->cancelled) << each.name;
+    }
+    server.reply(ScriptedReply::ok(QByteArray(kBodyLimit, 'x')));
+    EXPECT_EQ(get().body.size(), kBodyLimit);
+}
+
+TEST_F(CurlHTTPClientTest, TimeOutsAreForSilenceAndForTheWhole) {
+    ScriptedReply slow = ScriptedReply::raw(ScriptedReply::head(200, {"Content-Length: 4"}));
+    slow.then("p", 40ms).then("a", 40ms).then("g", 40ms).then("e", 40ms);
+    HTTPRequest patient = request();
+    patient.timeout = 120ms;
+    server.reply(slow);
+    EXPECT_EQ(client.perform(patient).body, "page") << "each wait is shorter than the time-out";
+
+    HTTPRequest hurried = patient;
+    hurried.resourceTimeout = 100ms;
+    server.reply(slow);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(client.perform(hurried).error);
+    const auto taken = std::chrono::steady_clock::now() - start;
+    EXPECT_GE(taken, 100ms);
+    EXPECT_LT(taken, 1s);
+}
+
+TEST_F(CurlHTTPClientTest, NobodyThere) {
+    HTTPRequest asked = request();
+    {
+        const ScriptedServer gone;
+        asked.url = gone.url();
+    }
+    const TransferResult refused = client.perform(asked);
+    EXPECT_TRUE(refused.error && !refused.error->description.isEmpty() && !refused.response);
+
+    for (const QString& url : {u"file:///etc/hostname"_s, u"ftp://127.0.0.1/"_s, u"data:text/plain,x"_s,
+                               u"/page"_s, u""_s, u"http://"_s}) {
+        asked.url = QUrl(url);
+        EXPECT_TRUE(client.perform(asked).error) << url.toStdString();
+    }
+}
+
+TEST_F(CurlHTTPClientTest, SendsWhatTheRequestSays) {
+    server.reply(ScriptedReply::ok(""));
+    server.reply(ScriptedReply::ok(""));
+    server.reply(ScriptedReply::ok(""));
+    HTTPRequest asked;
+    asked.cachePolicy = CachePolicy::ReloadIgnoringCache;
+    asked.url = QUrl(u"http://feeds.example/č ?q=1#part"_s);
+    asked.headers = {{"User-Agent", "Guide"}, {"X-Empty", ""}, {"Accept-Encoding", "gzip,deflate"}};
+    EXPECT_FALSE(client.perform(asked).error);
+    asked.method = "PROPFIND";
+    asked.body = QByteArray("a\0b", 3);
+    EXPECT_FALSE(client.perform(asked).error);
+    asked.method = "HEAD";
+    asked.body.clear();
+    EXPECT_FALSE(client.perform(asked).error);
+
+    const std::vector<ScriptedServer::Request> requests = server.requests();
+    ASSERT_EQ(requests.size(), 3U);
+    EXPECT_EQ(requests[0].target, "/%C4%8D%20?q=1");
+    EXPECT_EQ(requests[0].header("Host"), "feeds.example");
+    EXPECT_EQ(requests[0].header("User-Agent"), "Guide");
+    EXPECT_EQ(requests[0].header("Accept-Encoding"), "gzip,deflate");
+    EXPECT_FALSE(requests[0].header("X-Empty").isNull());
+    EXPECT_EQ(requests[1].method, "PROPFIND");
+    EXPECT_EQ(requests[1].body, QByteArray("a\0b", 3));
+    EXPECT_TRUE(requests[1].header("Content-Type").isNull() && requests[1].header("Expect").isNull());
+    EXPECT_EQ(requests[2].method, "HEAD");
+
+    asked.headers = {{"X-Injected", "a\r\nHost: other"}};
+    EXPECT_TRUE(client.perform(asked).error);
+    EXPECT_EQ(server.requests().size(), 3U);
+}
+
+TEST_F(CurlHTTPClientTest, ContentEncodingsThatWereAskedForAreUndone) {
+    const QByteArray page = QByteArray("text ").repeated(1000);
+    HTTPRequest asked = request();
+    asked.headers = {{"accept-encoding", "gzip,deflate"}};
+    server.reply(ScriptedReply::ok(gzipped(page), {"Content-Encoding: gzip"}));
+    EXPECT_EQ(client.perform(asked).body, page);
+    server.reply(ScriptedReply::ok(gzipped(QByteArray(kBodyLimit + 1, 'b')), {"Content-Encoding: gzip"}));
+    EXPECT_TRUE(client.perform(asked).error) << "the bound holds for what is unpacked";
+    server.reply(ScriptedReply::ok("no gzip", {"Content-Encoding: gzip"}));
+    EXPECT_TRUE(client.perform(asked).error);
+    server.reply(ScriptedReply::ok(gzipped(page), {"Content-Type: application/x-gzip"}));
+    EXPECT_EQ(client.perform(asked).body, gzipped(page)) << "a packed file is not packed for the way";
+}
+
+TEST_F(CurlHTTPClientTest, CookiesAreKeptForTheProcess) {
+    server.reply(ScriptedReply::ok("", {"Set-Cookie: consent=yes; Path=/"}));
+    server.reply(ScriptedReply::ok(""));
+    server.reply(ScriptedReply::ok(""));
+    get(u"/first"_s);
+    std::async(std::launch::async, [this] { get(u"/second"_s); }).wait();
+    CurlHTTPClient other(cache);
+    other.perform(request());
+    const std::vector<ScriptedServer::Request> requests = server.requests();
+    ASSERT_EQ(requests.size(), 3U);
+    EXPECT_EQ(requests[1].header("Cookie"), "consent=yes");
+    EXPECT_TRUE(requests[2].header("Cookie").isNull());
+}
+
+TEST_F(CurlHTTPClientTest, GoesThroughTheCacheAsThePolicySays) {
+    HTTPRequest asked = request();
+    const auto bodyBy = [&](CachePolicy policy) {
+        asked.cachePolicy = policy;
+        return client.perform(asked).body;
+    };
+    server.reply(ScriptedReply::ok("one"));
+    EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataDontLoad), "");
+    EXPECT_TRUE(client.perform(asked).error);
+    EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataElseLoad), "one");
+    EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataElseLoad), "one");
+    EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataDontLoad), "one");
+    server.reply(ScriptedReply::ok("two"));
+    EXPECT_EQ(bodyBy(CachePolicy::ReloadIgnoringCache), "two");
+    EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataElseLoad), "two");
+    server.reply(ScriptedReply::answer(500, "broken"));
+    EXPECT_EQ(bodyBy(CachePolicy::ReloadIgnoringCache), "broken");
+    EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataElseLoad), "two");
+    client.removeCachedResponse(asked);
+    server.reply(ScriptedReply::ok("three"));
+    EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataElseLoad), "three");
+    EXPECT_EQ(server.requests().size(), 4U);
+}
+
+TEST_F(CurlHTTPClientTest, CancellingEndsWhatRunsAndWhatComes) {
+    std::vector<std::future<TransferResult>> running;
+    for (int transfer = 0; transfer < 3; ++transfer) {
+        server.reply(ScriptedReply::raw(ScriptedReply::head(200), End::Stall));
+        running.push_back(std::async(std::launch::async, [this] { return get(); }));
+    }
+    ASSERT_TRUE(server.waitForRequests(3));
+    const auto start = std::chrono::steady_clock::now();
+    client.cancelAll();
+    for (std::future<TransferResult>& transfer : running) {
+        const TransferResult result = transfer.get();
+        EXPECT_TRUE(result.error && result.error->cancelled);
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 200ms);
+    const TransferResult later = get();
+    EXPECT_TRUE(later.error && later.error->cancelled);
+    EXPECT_EQ(server.requests().size(), 3U);
+}
+
+TEST_F(CurlHTTPClientTest, ManyThreadsAtOnce) {
+    for (int page = 0; page < 8; ++page) {
+        server.serve("/" + QByteArray::number(page),
+                     ScriptedReply::ok("page " + QByteArray::number(page),
+                                       {"Set-Cookie: c" + QByteArray::number(page) + "=1"}));
+    }
+    std::vector<std::future<void>> threads;
+    for (int thread = 0; thread < 4; ++thread) {
+        threads.push_back(std::async(std::launch::async, [this, thread] {
+            for (int round = 0; round < 12; ++round) {
+                const int page = (thread + round) % 8;
+                HTTPRequest asked = request(u"/%1"_s.arg(page));
+                asked.cachePolicy =
+                    round % 2 == 0 ? CachePolicy::ReloadIgnoringCache : CachePolicy::ReturnCacheDataElseLoad;
+                EXPECT_EQ(client.perform(asked).body, "page " + QByteArray::number(page));
+            }
+        }));
+    }
+    for (std::future<void>& thread : threads) {
+        thread.wait();
+    }
+}
+
+} // namespace
+} // namespace guide

@@ -1,0 +1,107 @@
+#include "platform/linux/InstanceLock.h"
+
+#include "platform/ThreadedQueues.h"
+#include "platform/linux/LocalSocket.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <future>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace guide {
+namespace {
+
+using Outcome = InstanceLock::Outcome;
+
+class InstanceLockTest : public testing::Test {
+  protected:
+    std::unique_ptr<InstanceLock> start(const QByteArray& request = "raise") const {
+        return std::make_unique<InstanceLock>(folder.path(), sockets.path(), request);
+    }
+
+    const QTemporaryDir folder;
+    // Longer than a socket's address may be.
+    const QTemporaryDir sockets{QDir::tempPath() + u'/' + QString(120, u's') + u"XXXXXX"_s};
+    ThreadedQueues queues{[] {}};
+    const std::shared_ptr<DispatchQueue> queue = queues.makeQueue("requests", QueueKind::Serial);
+};
+
+TEST_F(InstanceLockTest, TheSecondHandsItsRequestToTheFirst) {
+    std::unique_ptr<InstanceLock> first = start();
+    ASSERT_EQ(first->outcome(), Outcome::First);
+    // Comes before the first one listens, and waits for it.
+    std::future<Outcome> early = std::async(std::launch::async, [this] { return start("early")->outcome(); });
+    std::vector<QByteArray> requests;
+    first->listen(queue, [&](const QByteArray& request) { requests.push_back(request); });
+    EXPECT_EQ(early.get(), Outcome::HandedOver);
+    EXPECT_EQ(start("open guide://abc\nč")->outcome(), Outcome::HandedOver);
+    EXPECT_EQ(start("")->outcome(), Outcome::HandedOver);
+    queue->sync([] {});
+    EXPECT_EQ(requests, (std::vector<QByteArray>{"early", "open guide://abc č", ""}));
+
+    // Other folders are another guide's, also with the same folder for sockets.
+    const QTemporaryDir otherFolder;
+    EXPECT_EQ(InstanceLock(otherFolder.path(), sockets.path(), "raise").outcome(), Outcome::First);
+    EXPECT_EQ(start()->outcome(), Outcome::HandedOver);
+}
+
+TEST_F(InstanceLockTest, TheNextOneIsFirstWhenTheFirstHasGone) {
+    start().reset();
+    std::unique_ptr<InstanceLock> ending = start();
+    ASSERT_EQ(ending->outcome(), Outcome::First);
+    std::future<Outcome> next = std::async(std::launch::async, [this] { return start()->outcome(); });
+    std::this_thread::sleep_for(30ms);
+    ending.reset();
+    EXPECT_EQ(next.get(), Outcome::First) << "what ends without answering is waited for";
+}
+
+TEST_F(InstanceLockTest, ADeadProcessHoldsNothing) {
+    const QByteArray path = QFile::encodeName(sockets.path()) + "/instance-dead.socket";
+    {
+        const FileDescriptor dead = listeningSocket(path);
+    }
+    QFile lock(folder.filePath(u"instance.lock"_s));
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    lock.write(path);
+    lock.close();
+    std::unique_ptr<InstanceLock> first = start();
+    EXPECT_EQ(first->outcome(), Outcome::First);
+    first->listen(queue, [](const QByteArray&) {});
+    EXPECT_EQ(start()->outcome(), Outcome::HandedOver);
+}
+
+TEST_F(InstanceLockTest, ChattersAndSilentCallersDoNotBlockTheNext) {
+    std::unique_ptr<InstanceLock> first = start();
+    std::vector<QByteArray> requests;
+    first->listen(queue, [&](const QByteArray& request) { requests.push_back(request); });
+    QFile lock(folder.filePath(u"instance.lock"_s));
+    ASSERT_TRUE(lock.open(QIODevice::ReadOnly));
+    const QByteArray path = lock.readAll();
+    {
+        const FileDescriptor chatter = connectedSocket(path);
+        ASSERT_TRUE(chatter);
+        writeLine(chatter, QByteArray(200'000, 'x'));
+        const FileDescriptor leaving = connectedSocket(path);
+    }
+    EXPECT_EQ(start("after")->outcome(), Outcome::HandedOver);
+    queue->sync([] {});
+    EXPECT_EQ(requests, std::vector<QByteArray>{"after"});
+    const FileDescriptor silent = connectedSocket(path);
+    const auto begun = std::chrono::steady_clock::now();
+    first.reset();
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, 500ms);
+}
+
+TEST_F(InstanceLockTest, FoldersThatAreNotThere) {
+    EXPECT_EQ(InstanceLock(folder.filePath(u"absent"_s), sockets.path(), "raise").outcome(),
+              Outcome::Unavailable);
+    EXPECT_EQ(InstanceLock(folder.path(), sockets.filePath(u"absent"_s), "raise").outcome(), Outcome::First);
+}
+
+} // namespace
+} // namespace guide
