@@ -47,9 +47,11 @@ std::optional<std::vector<ChannelDictionary>> channelsOfArchive(const QString& p
         return std::nullopt;
     }
     std::vector<ChannelDictionary> channels;
-    for (const QCborValue& row : rows.toArray()) {
+    const QCborArray array = rows.toArray();
+    for (const auto& row : array) {
+        const QCborMap values = row.toMap();
         ChannelDictionary channel;
-        for (const auto& [key, value] : row.toMap()) {
+        for (const auto& [key, value] : values) {
             if (key.isString() && value.isString()) {
                 channel.insert(key.toString(), value.toString());
             }
@@ -73,7 +75,8 @@ std::optional<std::vector<ChannelDictionary>> channelsOfPropertyList(const QStri
         return std::nullopt;
     }
     std::vector<ChannelDictionary> channels;
-    for (const QVariant& row : rows.toList()) {
+    const QVariantList list = rows.toList();
+    for (const QVariant& row : list) {
         const QVariantMap values = row.toMap();
         ChannelDictionary channel;
         for (auto entry = values.cbegin(); entry != values.cend(); ++entry) {

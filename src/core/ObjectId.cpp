@@ -44,11 +44,12 @@ ObjectId::ObjectId(QByteArrayView data) {
 }
 
 ObjectId ObjectId::fromHex(const QString& hex) {
+    constexpr qsizetype kDigits = 24;
     Bytes bytes{};
-    if (hex.size() == static_cast<qsizetype>(2 * bytes.size())) {
-        for (std::size_t i = 0; i < bytes.size(); ++i) {
-            const auto place = static_cast<qsizetype>(2 * i);
-            bytes[i] = scannedPair(hex[place], hex[place + 1]);
+    if (hex.size() == kDigits) {
+        auto byte = bytes.begin();
+        for (qsizetype place = 0; place < kDigits; place += 2) {
+            *byte++ = scannedPair(hex[place], hex[place + 1]);
         }
     }
     return ObjectId(bytes);

@@ -16,7 +16,8 @@ std::optional<SupportedChannelTypes> SupportedChannelTypes::fromJson(const QByte
         return std::nullopt;
     }
     std::vector<SupportedChannelTypesPair> pairs;
-    for (const QJsonValue& value : document.array()) {
+    const QJsonArray array = document.array();
+    for (const auto& value : array) {
         SupportedChannelTypesPair pair{value["language"_L1].toString(), value["region"_L1].toString()};
         if (pair.language.isEmpty() || pair.region.isEmpty()) {
             return std::nullopt;

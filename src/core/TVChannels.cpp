@@ -35,7 +35,7 @@ std::vector<ObjectId> readSelection(const QString& path) {
     qInfo().noquote().nospace() << "TVChannels: channelArray.count=" << array.size();
     std::vector<ObjectId> selected;
     selected.reserve(static_cast<std::size_t>(array.size()));
-    for (const QCborValue& value : array) {
+    for (const auto& value : array) {
         if (value.isByteArray()) {
             selected.emplace_back(value.toByteArray());
         }
