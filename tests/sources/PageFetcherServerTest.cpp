@@ -5,6 +5,7 @@
 #include "sources/Packing.h"
 #include "sources/PageFetcher.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace guide {
@@ -28,10 +29,15 @@ class PageFetcherServerTest : public testing::Test {
     CurlHTTPClient client{cache, {.maximumBodySize = 4 << 20, .connectTo = {}}};
     HTTPUserAgent userAgent{[](unsigned) { return 1u; }};
     int alerts = 0;
+    std::chrono::milliseconds waited{0};
     PageFetcher fetcher{{.client = client,
                          .networkActivity = activity,
                          .physicalMemory = std::uint64_t{128} << 20,
-                         .wait = [](std::chrono::milliseconds) { return true; },
+                         .wait =
+                             [this](std::chrono::milliseconds span) {
+                                 waited += span;
+                                 return true;
+                             },
                          .noRemoteHostAlert = [this](const TransferError&) { ++alerts; }}};
     ScriptedServer server;
 };
@@ -73,6 +79,11 @@ TEST_F(PageFetcherServerTest, WhateverTheServerDoesGivesAPageOrAReason) {
          {},
          PageReason::Status},
         {"error, then good", {ScriptedReply::answer(503, feed), ScriptedReply::ok(feed)}, feed},
+        {"the last good status", {ScriptedReply::answer(299, feed)}, feed},
+        {"the first bad one",
+         {ScriptedReply::answer(300, feed), ScriptedReply::answer(300, feed)},
+         {},
+         PageReason::Status},
         {"redirect", {ScriptedReply::redirect("moved"), ScriptedReply::ok(feed)}, feed},
         {"redirects", {ScriptedReply::redirect("/a"), ScriptedReply::redirect("/b")}, {}, PageReason::Status},
         {"empty", {ScriptedReply::ok({}), ScriptedReply::ok({})}, {}, PageReason::Empty},
@@ -111,6 +122,7 @@ TEST_F(PageFetcherServerTest, WhateverTheServerDoesGivesAPageOrAReason) {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         alerts = 0;
+        waited = 0s;
         const std::size_t asked = server.requests().size();
         for (const ScriptedReply& reply : row.replies) {
             server.reply(reply);
@@ -119,7 +131,10 @@ TEST_F(PageFetcherServerTest, WhateverTheServerDoesGivesAPageOrAReason) {
         EXPECT_EQ(page.page, row.page);
         EXPECT_EQ(page.reason, row.reason);
         EXPECT_EQ(alerts, row.alerts);
-        EXPECT_EQ(server.requests().size() - asked, row.replies.empty() ? 2 : row.replies.size());
+        const std::size_t attempts = std::max<std::size_t>(row.replies.size(), row.alerts);
+        const bool spent = !row.page && attempts == 2;
+        EXPECT_EQ(waited, (spent ? 2 : attempts - 1) * 1s) << "a pause behind each empty attempt";
+        EXPECT_EQ(server.requests().size() - asked, attempts);
     }
     EXPECT_EQ(server.requests().front().header("User-Agent"), userAgent.value());
     EXPECT_EQ(server.requests().front().header("Accept-Encoding"), "gzip,deflate");

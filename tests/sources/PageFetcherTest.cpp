@@ -30,82 +30,15 @@ class PageFetcherTest : public testing::Test {
     NetworkActivity activity{queues, [this](bool) { ++indicatorChanges; }};
     FakeHTTPClient client;
     HTTPUserAgent userAgent{[](unsigned) { return 12u; }};
-    std::vector<std::chrono::milliseconds> waits;
     bool shuttingDown = false;
     std::vector<TransferError> alerts;
     PageFetcher fetcher{
         {.client = client,
          .networkActivity = activity,
          .physicalMemory = 1 << 30,
-         .wait =
-             [this](std::chrono::milliseconds span) {
-                 waits.push_back(span);
-                 return !shuttingDown;
-             },
+         .wait = [this](std::chrono::milliseconds) { return !shuttingDown; },
          .noRemoteHostAlert = [this](const TransferError& error) { alerts.push_back(error); }}};
 };
-
-TEST_F(PageFetcherTest, AsksAsEveryCallerDoes) {
-    client.enqueue(answer(200, "page"));
-    EXPECT_EQ(fetch().page, "page");
-    const HTTPRequest request = client.requests().at(0);
-    EXPECT_EQ(request.headers,
-              (QList<std::pair<QByteArray, QByteArray>>{
-                  {"User-Agent", "Opera/9.80 (X11; FreeBSD 11.1-RELEASE-p1 amd64) Presto/2.12.388 "
-                                 "Version/12.16"},
-                  {"Accept-Encoding", "gzip,deflate"}}));
-    EXPECT_EQ(request.timeout, 20s);
-    EXPECT_EQ(request.resourceTimeout, 60s);
-    EXPECT_TRUE(waits.empty());
-    queues.runAll();
-    EXPECT_EQ(indicatorChanges, 2);
-}
-
-TEST_F(PageFetcherTest, TwoAttemptsAreMade) {
-    TransferResult cut = answer(200, "<tv><programme>");
-    cut.error = TransferError{};
-    struct Row {
-        const char* name;
-        std::vector<TransferResult> answers;
-        std::optional<QByteArray> page;
-        PageReason reason;
-        int status;
-        std::size_t attempts;
-        std::size_t alerts;
-    };
-    const TransferResult refused = FakeHTTPClient::refused();
-    const Row rows[] = {
-        {"good at once", {answer(200, "page")}, "page", PageReason::None, 200, 1, 0},
-        {"the last good status", {answer(299, "page")}, "page", PageReason::None, 299, 1, 0},
-        {"good at last", {refused, answer(200, "page")}, "page", PageReason::None, 200, 2, 1},
-        {"no server", {refused, refused}, {}, PageReason::Transfer, 0, 2, 2},
-        {"error pages", {answer(404, "sorry"), answer(503, "sorry")}, {}, PageReason::Status, 503, 2, 0},
-        {"a status that is no end", {answer(199, "x"), answer(300, "x")}, {}, PageReason::Status, 300, 2, 0},
-        {"empty", {answer(200, ""), answer(204, "")}, {}, PageReason::Empty, 204, 2, 0},
-        {"cut in the middle", {cut, cut}, {}, PageReason::Transfer, 200, 2, 0},
-        {"cut, then whole", {cut, answer(200, "page")}, "page", PageReason::None, 200, 2, 0},
-        {"no text", {answer(200, "\xff")}, {}, PageReason::Encoding, 200, 1, 0},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        alerts.clear();
-        waits.clear();
-        const std::size_t asked = client.requests().size();
-        const std::size_t forgotten = client.forgotten().size();
-        for (const TransferResult& each : row.answers) {
-            client.enqueue(each);
-        }
-        const NetPage page = fetch();
-        EXPECT_EQ(page.page, row.page);
-        EXPECT_EQ(page.reason, row.reason);
-        EXPECT_EQ(page.status, row.status);
-        EXPECT_EQ(client.requests().size() - asked, row.attempts);
-        EXPECT_EQ(alerts.size(), row.alerts);
-        const bool spent = !row.page && row.attempts == 2;
-        EXPECT_EQ(waits, std::vector(spent ? 2 : row.attempts - 1, std::chrono::milliseconds(1s)));
-        EXPECT_EQ(client.forgotten().size() > forgotten, spent) << "a page that never came is not kept";
-    }
-}
 
 TEST_F(PageFetcherTest, OneRedirectIsFollowedByHand) {
     struct Row {
