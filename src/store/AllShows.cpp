@@ -1,6 +1,8 @@
 #include "store/AllShows.h"
 
 #include <algorithm>
+#include <span>
+#include <tuple>
 
 namespace guide {
 
@@ -15,15 +17,34 @@ bool earlier(const StartedShow& a, const StartedShow& b) {
     return a.start < b.start;
 }
 
-/// Where a search stands in one list: at a show that holds the pattern.
+/// A show that holds the pattern: its start, and the numbers of its list and its place there.
 struct Hit {
     Moment start;
     std::size_t list;
     std::size_t index;
 };
 
-bool laterHit(const Hit& a, const Hit& b) {
-    return a.start != b.start ? a.start > b.start : a.list > b.list;
+bool earlierHit(const Hit& a, const Hit& b) {
+    return std::tie(a.start, a.list, a.index) < std::tie(b.start, b.list, b.index);
+}
+
+/// How far a search has come in one list: at its next show that holds the pattern.
+struct SearchCursor {
+    std::size_t list;
+    std::size_t next;
+};
+
+constexpr std::chrono::hours kFirstSearchSpan{1};
+constexpr std::chrono::hours kLongestSearchSpan{24 * 365 * 100};
+
+/// By how much to widen a search that has found so many of the shows that it may find.
+double searchSpanGrowth(std::size_t found, std::size_t limit) {
+    constexpr double kLeast = 1.2;
+    constexpr double kMost = 4;
+    constexpr double kMargin = 1.1;
+    return found == 0
+               ? kMost
+               : std::clamp(kMargin * static_cast<double>(limit) / static_cast<double>(found), kLeast, kMost);
 }
 
 } // namespace
@@ -75,29 +96,39 @@ const std::vector<const ShowItem*>& AllShows::shows() const {
 }
 
 ShowItems AllShows::showsContaining(const QByteArray& searchPattern, Moment now, std::size_t limit) const {
+    std::vector<SearchCursor> cursors;
+    for (std::size_t i = 0; i < m_lists.size(); ++i) {
+        const std::size_t first = m_lists[i]->searchText().find(searchPattern, 0);
+        if (first < m_lists[i]->size()) {
+            cursors.push_back({i, first});
+        }
+    }
+    // The lists are searched one after the other, each up to the same moment, which moves on until there are
+    // shows enough: each text is read once, and of a frequent pattern little more than what is answered.
     std::vector<Hit> hits;
-    // Moves on to the next show of the list that holds the pattern, if there is one.
-    const auto push = [&](std::size_t listIndex, std::size_t from) {
-        const ChannelList& list = *m_lists[listIndex];
-        for (std::size_t i = list.searchText().find(searchPattern, from); i < list.size();
-             i = list.searchText().find(searchPattern, i + 1)) {
-            if (list.endOf(i) >= now && holds(list, i)) {
-                hits.push_back({list.startOf(i), listIndex, i});
-                std::push_heap(hits.begin(), hits.end(), laterHit);
-                return;
+    std::chrono::milliseconds span = kFirstSearchSpan;
+    while (!cursors.empty() && hits.size() < limit) {
+        const Moment upTo = span < kLongestSearchSpan ? now + span : Moment::max();
+        for (SearchCursor& cursor : cursors) {
+            const ChannelList& list = *m_lists[cursor.list];
+            while (cursor.next < list.size() && list.startOf(cursor.next) <= upTo) {
+                if (list.endOf(cursor.next) >= now && holds(list, cursor.next)) {
+                    hits.push_back({list.startOf(cursor.next), cursor.list, cursor.next});
+                }
+                cursor.next = list.searchText().find(searchPattern, cursor.next + 1);
             }
         }
-    };
-    for (std::size_t i = 0; i < m_lists.size(); ++i) {
-        push(i, 0);
+        std::erase_if(cursors, [this](const SearchCursor& cursor) {
+            return cursor.next >= m_lists[cursor.list]->size();
+        });
+        span = std::chrono::duration_cast<std::chrono::milliseconds>(span *
+                                                                     searchSpanGrowth(hits.size(), limit));
     }
+    std::sort(hits.begin(), hits.end(), earlierHit);
     ShowItems found;
-    while (!hits.empty() && found.size() < limit) {
-        std::pop_heap(hits.begin(), hits.end(), laterHit);
-        const Hit hit = hits.back();
-        hits.pop_back();
+    found.reserve(std::min(hits.size(), limit));
+    for (const Hit& hit : std::span(hits).first(std::min(hits.size(), limit))) {
         found.push_back((*m_lists[hit.list])[hit.index]);
-        push(hit.list, hit.index + 1);
     }
     return found;
 }

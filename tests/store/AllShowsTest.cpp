@@ -1,0 +1,153 @@
+#include "store/AllShows.h"
+
+#include "TestShows.h"
+#include "text/FoldedText.h"
+
+#include <algorithm>
+#include <random>
+
+namespace guide::test {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr Moment kNow{std::chrono::hours(1000)};
+
+std::shared_ptr<const ChannelList> listOf(ShowItems shows) {
+    return std::make_shared<const ChannelList>(std::make_shared<const ShowItems>(std::move(shows)));
+}
+
+/// Lists with many equal starts, shows that are over, and texts in every field.
+AllShows::Lists randomLists(std::mt19937& random, int channels) {
+    const QStringList words = {u"Žena"_s, u"zena"_s, u"Z\u030cENA"_s, u"Straße"_s, u"İı"_s,     u"a"_s,
+                               u"aa"_s,   u"Аа"_s,   u"a-b"_s,        u""_s,       u"\u0301"_s, u"na ž"_s};
+    const auto pick = [&](int below) { return static_cast<int>(random() % static_cast<unsigned>(below)); };
+    const auto text = [&]() -> std::optional<QString> {
+        if (pick(3) == 0) {
+            return std::nullopt;
+        }
+        QStringList picked;
+        for (int i = pick(3); i >= 0; --i) {
+            picked += words[pick(static_cast<int>(words.size()))];
+        }
+        return picked.join(u' ');
+    };
+    AllShows::Lists lists;
+    for (int i = 0; i < channels; ++i) {
+        ShowItems shows;
+        Moment start = kNow - std::chrono::hours(pick(4));
+        for (int count = pick(12); count > 0; --count) {
+            auto entry = extended({start, start + std::chrono::minutes(pick(120)), {}, 0, channel(i)}).basic;
+            entry->setIdentificator(text());
+            entry->setInstantDescription1(text());
+            entry->setInstantDetails1(text());
+            entry->setSubtitle1(text());
+            auto details = std::make_shared<TVEntrySupplementalData>();
+            for (auto field :
+                 {&TVEntrySupplementalData::description, &TVEntrySupplementalData::episodeDescription,
+                  &TVEntrySupplementalData::details, &TVEntrySupplementalData::directedBy,
+                  &TVEntrySupplementalData::roles}) {
+                (*details).*field = pick(4) == 0 ? text() : std::nullopt;
+            }
+            shows.push_back(pick(2) == 0 ? ShowItem(entry, 0) : ShowItem(entry, 0, details));
+            start += std::chrono::minutes(30 * (1 + pick(3)));
+        }
+        lists.push_back(listOf(std::move(shows)));
+    }
+    return lists;
+}
+
+ShowItems sortedPlainly(const AllShows::Lists& lists, Moment endingAfter) {
+    ShowItems shows;
+    for (const auto& list : lists) {
+        std::copy_if(list->shows()->begin(), list->shows()->end(), std::back_inserter(shows),
+                     [&](const ShowItem& show) { return show.entry()->endsAfter(endingAfter); });
+    }
+    std::stable_sort(shows.begin(), shows.end(), [](const ShowItem& a, const ShowItem& b) {
+        return a.entry()->dateTime() < b.entry()->dateTime();
+    });
+    return shows;
+}
+
+ShowItems searchedPlainly(const ShowItems& all, const QString& pattern, Moment now, std::size_t limit) {
+    const QString folded = foldedText(pattern);
+    const auto holds = [&](const std::optional<QString>& text) {
+        return !folded.isEmpty() && text && foldedText(*text).contains(folded);
+    };
+    ShowItems found;
+    for (const ShowItem& show : all) {
+        const TVEntry& entry = *show.entry();
+        const TVEntrySupplementalData none;
+        const TVEntrySupplementalData& details = show.details() ? *show.details() : none;
+        if (found.size() < limit && entry.endDateTime() >= now &&
+            (holds(entry.title()) || holds(entry.instantDescription()) || holds(entry.instantDetails()) ||
+             holds(entry.subtitle()) || holds(details.description) || holds(details.episodeDescription) ||
+             holds(details.details) || holds(details.directedBy) || holds(details.roles))) {
+            found.push_back(show);
+        }
+    }
+    return found;
+}
+
+TEST(AllShowsTest, MergesAndSearchesLikeAPlainWalk) {
+    std::mt19937 random(20251231);
+    for (const int channels : {0, 1, 2, 3, 8, 61}) {
+        SCOPED_TRACE(channels);
+        const AllShows::Lists lists = randomLists(random, channels);
+        const AllShows all(lists, kNow);
+        const ShowItems expected = sortedPlainly(lists, kNow);
+        ShowItems merged;
+        for (const ShowItem* show : all.shows()) {
+            merged.push_back(*show);
+        }
+        EXPECT_EQ(merged, expected);
+
+        const Moment now = kNow + std::chrono::minutes(20);
+        for (const QString& pattern :
+             {u"zena"_s, u"ŽENA"_s, u"z\u030cena"_s, u"ss"_s, u"ß"_s, u"ı"_s, u"i"_s, u"a"_s, u"aa"_s, u"а"_s,
+              u"a a"_s, u"-"_s, u" "_s, u"na z"_s, u"absent"_s, u""_s, u"\u0301"_s, QString(QChar(0xff)),
+              QString(QChar(0))}) {
+            for (const std::size_t limit : {1000u, 3u, 0u}) {
+                EXPECT_EQ(all.showsContaining(searchPattern(pattern), now, limit),
+                          searchedPlainly(expected, pattern, now, limit))
+                    << pattern.toStdString() << ' ' << limit;
+            }
+        }
+    }
+}
+
+TEST(ChannelListTest, AnswersWhatIsNotOver) {
+    const auto hour = [](int hours) { return kNow + std::chrono::hours(hours); };
+    struct Row {
+        const char* name;
+        std::vector<std::pair<int, int>> shows; // start and end
+        Titles notOver;
+    };
+    const Row rows[] = {
+        {"empty", {}, {}},
+        {"none over", {{0, 1}, {1, 2}}, {"0", "1"}},
+        {"ends now", {{-2, -1}, {-1, 0}, {0, 1}}, {"1", "2"}},
+        {"all over", {{-9, -1}, {-8, -2}, {-7, -3}}, {}},
+        {"a long one in front", {{-9, 1}, {-8, -2}, {-7, -3}, {0, 1}, {1, 2}}, {"0", "3", "4"}},
+        {"one over in the middle", {{-9, -8}, {-8, 5}, {1, 2}, {1, -3}, {3, 4}}, {"1", "2", "4"}},
+        {"many over", {{-9, -8}, {-8, -7}, {-7, -6}, {-6, -5}, {-5, -4}, {-4, -3}, {-3, -2}, {-2, 1}}, {"7"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        ShowItems shows;
+        for (const auto& [start, end] : row.shows) {
+            shows.push_back(item({hour(start), hour(end), QString::number(shows.size())}));
+        }
+        const auto list = listOf(std::move(shows));
+        EXPECT_EQ(titles(list->notOver(kNow)), row.notOver);
+        for (std::size_t limit = 0; limit <= row.notOver.size() + 1; ++limit) {
+            Titles expected = row.notOver;
+            expected.resize(std::min(limit, expected.size()));
+            EXPECT_EQ(titles(list->notOver(kNow, limit)), expected) << limit;
+            EXPECT_EQ(list->countNotOver(kNow, limit), expected.size()) << limit;
+        }
+    }
+}
+
+} // namespace
+} // namespace guide::test

@@ -1,0 +1,156 @@
+#include "store/ScheduleQueries.h"
+
+#include "TestShows.h"
+#include "store/CompoundListings.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <set>
+
+namespace guide::test {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr Moment kNow{std::chrono::hours(1000)};
+
+Moment hour(int hours) {
+    return kNow + std::chrono::hours(hours);
+}
+
+AllShows allOf(const std::vector<TestShow>& shows) {
+    ShowItems items;
+    for (const TestShow& show : shows) {
+        items.push_back(item(show));
+    }
+    const auto list =
+        std::make_shared<const ChannelList>(std::make_shared<const ShowItems>(std::move(items)));
+    return AllShows({list}, Moment::min());
+}
+
+class Favorites final : public FavoriteQuestions {
+  public:
+    explicit Favorites(std::set<QString> names)
+        : m_names(std::move(names)) {}
+    bool containsFavoriteNamed(const QString& title) const override { return m_names.contains(title); }
+    bool hasFavorites() const override { return !m_names.empty(); }
+
+  private:
+    const std::set<QString> m_names;
+};
+
+TEST(ScheduleQueriesTest, CategoriesKeepSeriesApart) {
+    const AllShows all = allOf({{hour(-2), hour(-1), u"over"_s, 0x1000},
+                                {hour(-1), hour(0), u"ends now"_s, 0x1000},
+                                {hour(0), hour(1), u"drama"_s, 0x1000},
+                                {hour(1), hour(2), u"series"_s, 0x1002},
+                                {hour(2), hour(3), u"bare series"_s, 0x2},
+                                {hour(3), hour(4), u"none"_s, 0},
+                                {hour(4), hour(5), u"one element"_s, {}}});
+    struct Row {
+        TVListingsCategory mask;
+        Titles expected;
+    };
+    const Row rows[] = {
+        {0x1000, {"drama"}}, {0x1002, {"series", "bare series"}},    {0x2, {"series", "bare series"}},
+        {0x1, {}},           {TVListingsCategoryAllFilm, {"drama"}}, {0, {}}};
+    for (const Row& row : rows) {
+        EXPECT_EQ(titles(showsWithCategory(all, row.mask, kNow)), row.expected) << row.mask;
+    }
+    EXPECT_EQ(titles(allShowsWithCategory(all, TVListingsCategoryAllShows, kNow, QTimeZone::utc())),
+              (Titles{"ends now", "drama", "series", "bare series", "none", "one element"}));
+}
+
+TEST(ScheduleQueriesTest, EveningBeginsAtNineteenOnTheWallClock) {
+    // Clocks go back by half an hour here, at 15:00 UTC on 4 April 2026.
+    const QTimeZone zone("Australia/Lord_Howe");
+    const Moment end = moment("2030-01-01T00:00:00Z");
+    const AllShows all = allOf({{moment("2026-04-04T07:59:59Z"), end, u"summer 18:59"_s},
+                                {moment("2026-04-04T08:00:00Z"), end, u"summer 19:00"_s},
+                                {moment("2026-04-04T12:59:00Z"), end, u"summer 23:59"_s},
+                                {moment("2026-04-04T13:00:00Z"), end, u"summer 0:00"_s},
+                                {moment("2026-04-05T08:29:00Z"), end, u"winter 18:59"_s},
+                                {moment("2026-04-05T08:30:00Z"), end, u"winter 19:00"_s}});
+    EXPECT_EQ(titles(allShowsWithCategory(all, TVListingsCategoryEveningShows, kNow, zone)),
+              (Titles{"summer 19:00", "summer 23:59", "winter 19:00"}));
+}
+
+TEST(ScheduleQueriesTest, EndsAndOversAreToldApart) {
+    const AllShows all = allOf({{hour(-2), hour(-1), u"A"_s},
+                                {hour(-1), hour(0), u"A"_s},
+                                {hour(0), hour(1), u"A"_s},
+                                {hour(0), hour(1), u"a"_s},
+                                {hour(1), hour(2), u"A"_s}});
+    EXPECT_EQ(showScheduleForTitle(all, u"A"_s, kNow).size(), 3u);
+    const Favorites favorites({u"A"_s});
+    EXPECT_EQ(favoritesSchedule(all, favorites, kNow).size(), 2u);
+    const FavoritesToCome toCome = favoritesToCome(all, favorites, u"guide"_s, kNow);
+    ASSERT_EQ(toCome.shows.size(), 1u) << "what begins now has begun";
+    EXPECT_EQ(toCome.shows[0].entry()->dateTime(), hour(1));
+    ASSERT_EQ(toCome.byURL.size(), 1u);
+    EXPECT_EQ(toCome.byURL.at(toCome.shows[0].entry()->urlDigestWithScheme(u"guide"_s)->toString()),
+              toCome.shows[0]);
+    EXPECT_TRUE(favoritesSchedule(all, Favorites({}), kNow).empty());
+    EXPECT_TRUE(isBroadcast(all, u"a"_s, false, kNow));
+    EXPECT_FALSE(isBroadcast(all, u"a"_s, true, kNow));
+    EXPECT_FALSE(isBroadcast(all, u"a"_s, false, hour(2)));
+    EXPECT_EQ(showsNotEnded(nullptr, kNow).size(), 0u);
+    EXPECT_EQ(firstNotEnded(showScheduleForTitle(all, u"A"_s, kNow), kNow), 1u);
+}
+
+TEST(ScheduleQueriesTest, StopsAtTheCap) {
+    std::vector<TestShow> many(kMostShows + 5, TestShow{hour(0), hour(1), u"A"_s, 1});
+    const AllShows all = allOf(many);
+    EXPECT_EQ(showsWithCategory(all, 1, kNow).size(), kMostShows);
+    EXPECT_EQ(showScheduleForTitle(all, u"A"_s, kNow).size(), kMostShows);
+    EXPECT_EQ(showsNotEnded(std::make_shared<const ShowItems>(many.size(), item(many[0])), kNow).size(),
+              many.size());
+}
+
+TEST(ScheduleQueriesTest, FindsTheShowOfAURL) {
+    const AllShows all =
+        allOf({{hour(-2), hour(-1), u"A"_s}, {hour(0), hour(1), u"A"_s}, {hour(0), hour(1), u"B"_s}});
+    for (const ShowItem* show : all.shows()) {
+        const QUrl url = *TVEntry(*show->entry()).urlDigestWithScheme(u"guide"_s);
+        EXPECT_EQ(showWithURL(all, url, u"guide"_s), *show);
+    }
+    const QUrl url = *TVEntry(*all.shows()[0]->entry()).urlDigestWithScheme(u"guide"_s);
+    for (const QString& other : {url.toString() + u"/x"_s, u"other"_s + url.toString().mid(5),
+                                 url.toString() + u'0', u"guide://"_s}) {
+        EXPECT_FALSE(showWithURL(all, QUrl(other), u"guide"_s)) << other.toStdString();
+    }
+}
+
+TEST(CompoundListingsTest, GroupsByDayAndLeavesOutWhatHasNoIcon) {
+    QTemporaryDir icons;
+    QImage image(8, 8, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    ASSERT_TRUE(image.save(icons.filePath(u"one.png"_s)));
+    TVStationIcons stationIcons(icons.path(), 1);
+    const ChannelData channels{{channel(1), {{u"Icon"_s, u"x/one.png"_s}}},
+                               {channel(2), {{u"Icon"_s, u"one.png"_s}}},
+                               {channel(3), {{u"Title"_s, u"Three"_s}}},
+                               {channel(4), {{u"Icon"_s, u"x/absent.png"_s}}}};
+    const auto show = [](const char* start, int onChannel) {
+        return item({moment(start), {}, QString::fromLatin1(start), 0, channel(onChannel)});
+    };
+    // The day of Lord Howe begins at 13:00 UTC in summer.
+    const ShowItems shows{show("2025-12-30T12:59:00Z", 4), show("2025-12-31T12:59:00Z", 1),
+                          show("2025-12-31T13:00:00Z", 1), show("2025-12-31T13:30:00Z", 2),
+                          show("2025-12-31T13:30:00Z", 3), show("2025-12-31T13:30:00Z", 5),
+                          show("2025-12-31T12:00:00Z", 1)};
+    const CompoundResult result = compoundListings(shows, channels, stationIcons, QLocale(QLocale::Slovenian),
+                                                   QTimeZone("Australia/Lord_Howe"));
+    const QString first = u"sreda, 31. december 2025"_s;
+    const QString second = u"četrtek, 1. januar 2026"_s;
+    ASSERT_EQ(result.sectionTitles, (std::vector<QString>{first, second}));
+    EXPECT_EQ(titles(result.sections[first]), (Titles{"2025-12-31T12:59:00Z", "2025-12-31T12:00:00Z"}));
+    EXPECT_EQ(titles(result.sections[second]), (Titles{"2025-12-31T13:00:00Z"}));
+    ASSERT_EQ(result.channelIcons.size(), 1u);
+    EXPECT_EQ(result.channelIcons.at(channel(1)).size(), QSize(50, 36));
+    EXPECT_EQ(result.channelIconNames.at(channel(1)), u"one.png"_s);
+}
+
+} // namespace
+} // namespace guide::test

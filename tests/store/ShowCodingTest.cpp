@@ -1,0 +1,134 @@
+#include "store/ShowCoding.h"
+
+#include "TestShows.h"
+#include "platform/KeyedArchiver.h"
+
+namespace guide::test {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr Moment kStart{std::chrono::milliseconds(1'767'205'800'123)};
+
+ShowItems everyForm() {
+    auto full = std::make_shared<TVEntry>(latinAlphabet());
+    full->setChannel(channel(7));
+    full->setSourceId(u"CT1.cz"_s);
+    full->setLanguage(u"mk"_s);
+    full->setDateTime(kStart);
+    full->setEndDateTime(kStart + std::chrono::hours(1));
+    full->setIdentificator(u"Vesti \U0001F600"_s);
+    full->setInstantDetails1(u""_s);
+    full->setSubtitle1(u"Část 1"_s);
+    full->setInstantDescription1(u"He comes."_s);
+    full->setUrl(QUrl(u"http://example.org/š?q=a b"_s));
+    full->setPreviouslyShown(true);
+    auto details = std::make_shared<TVEntrySupplementalData>();
+    details->description = u"d"_s;
+    details->episodeDescription = u"e"_s;
+    details->details = u"f"_s;
+    details->directedBy = u"g"_s;
+    details->roles = u"h"_s;
+    details->imdbURL = QUrl(u"https://i/1"_s);
+    details->trailerURL = QUrl(u"https://i/2"_s);
+    details->language = u"sk"_s;
+    const auto bare = [](int at) { return extended({kStart + std::chrono::hours(at), {}, u""_s}).basic; };
+    return {ShowItem(bare(-3)), ShowItem(bare(-2), 0xffffffff),
+            ShowItem(bare(-1), 0, std::make_shared<const TVEntrySupplementalData>()),
+            ShowItem(full, 0x11, details, {QUrl(u"http://p/1"_s), QUrl(u"http://p/2?a=ž"_s)})};
+}
+
+void expectEqual(const ShowItem& a, const ShowItem& b) {
+    EXPECT_EQ(a.elementCount(), b.elementCount());
+    EXPECT_EQ(a.categories(), b.categories());
+    EXPECT_EQ(a.pictures(), b.pictures());
+    ASSERT_EQ(a.details() != nullptr, b.details() != nullptr);
+    if (a.details()) {
+        EXPECT_EQ(*a.details(), *b.details());
+    }
+    const TVEntry& left = *a.entry();
+    const TVEntry& right = *b.entry();
+    EXPECT_EQ(left.channel(), right.channel());
+    EXPECT_EQ(left.sourceId(), right.sourceId());
+    EXPECT_EQ(left.language(), right.language());
+    EXPECT_EQ(left.dateTime(), right.dateTime());
+    EXPECT_EQ(left.endDateTime(), right.endDateTime());
+    EXPECT_EQ(left.identificator(), right.identificator());
+    EXPECT_EQ(left.title(), right.title());
+    EXPECT_EQ(left.instantDetails1(), right.instantDetails1());
+    EXPECT_EQ(left.subtitle1(), right.subtitle1());
+    EXPECT_EQ(left.instantDescription1(), right.instantDescription1());
+    EXPECT_EQ(left.url(), right.url());
+    EXPECT_EQ(left.previouslyShown(), right.previouslyShown());
+}
+
+TEST(ShowCodingTest, EveryFormOfShowComesBack) {
+    const ShowItems shows = everyForm();
+    const auto read = unarchivedShows(archivedShows(shows), latinAlphabet());
+    ASSERT_TRUE(read);
+    ASSERT_EQ(read->size(), shows.size());
+    for (std::size_t i = 0; i < shows.size(); ++i) {
+        SCOPED_TRACE(i);
+        expectEqual((*read)[i], shows[i]);
+    }
+    EXPECT_TRUE(unarchivedShows(archivedShows({}), latinAlphabet())->empty());
+}
+
+TEST(ShowCodingTest, NoPartOfAnArchiveIsTakenForOne) {
+    const QByteArray archive = archivedShows(everyForm());
+    for (qsizetype length = 0; length < archive.size(); ++length) {
+        ASSERT_FALSE(unarchivedShows(archive.first(length), latinAlphabet())) << length;
+    }
+    for (qsizetype at = 0; at < archive.size(); ++at) {
+        QByteArray damaged = archive;
+        damaged[at] = static_cast<char>(damaged[at] ^ 0x20);
+        ASSERT_FALSE(unarchivedShows(damaged, latinAlphabet())) << at;
+    }
+    EXPECT_FALSE(unarchivedShows(archive + '\0', latinAlphabet()));
+}
+
+TEST(ShowCodingTest, OldAndIncompleteShowsAreRead) {
+    KeyedArchiver archiver;
+    const auto show = [&](auto&& fields) {
+        archiver.beginArray(1);
+        archiver.beginRecord();
+        fields();
+        archiver.endRecord();
+    };
+    archiver.beginArray(5);
+    show([&] {
+        archiver.encode("title", u"later"_s);
+        archiver.encode("channel", channel(0xabc).hex());
+        archiver.encode("dateTime", kStart);
+    });
+    show([&] { archiver.encode("dateTime", kStart); });
+    show([&] { archiver.encode("title", u"no start"_s); });
+    show([&] {
+        archiver.encode("title", u"earlier"_s);
+        archiver.encode("lang", u"cs"_s);
+        archiver.encode("unknown", u"?"_s);
+        archiver.encode("dateTime", kStart - std::chrono::hours(1));
+    });
+    archiver.beginArray(6);
+    archiver.beginRecord();
+    archiver.encode("title", u"of tomorrow"_s);
+    archiver.encode("dateTime", kStart + std::chrono::hours(1));
+    archiver.endRecord();
+    archiver.append(3);
+    archiver.beginRecord();
+    archiver.encode("roles", u"X"_s);
+    archiver.endRecord();
+    archiver.beginArray(0);
+    archiver.append(u"more"_s);
+    archiver.append(9);
+    const auto read = unarchivedShows(std::move(archiver).finish(), latinAlphabet());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(titles(*read), (Titles{"earlier", "later", "of tomorrow"}));
+    EXPECT_EQ((*read)[1].entry()->channel(), channel(0xabc));
+    EXPECT_EQ((*read)[1].entry()->language(), std::nullopt) << "taken over from the show before";
+    EXPECT_EQ((*read)[2].elementCount(), 3);
+    EXPECT_EQ((*read)[2].categories(), 3u);
+}
+
+} // namespace
+} // namespace guide::test

@@ -1,0 +1,158 @@
+#include "StoreWorld.h"
+#include "fakes/ManualClock.h"
+#include "platform/ThreadedQueues.h"
+
+#include <condition_variable>
+#include <thread>
+
+namespace guide::test {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// Real queues whose main queue is run by the test's own thread.
+class Queues {
+  public:
+    Queues()
+        : m_queues([this] {
+            const std::lock_guard guard(m_guard);
+            m_woken = true;
+            m_wake.notify_one();
+        }) {}
+
+    ThreadedQueues& queues() { return m_queues; }
+
+    template <class Done>
+    void runUntil(Done done) {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+        while (!done()) {
+            ASSERT_LT(std::chrono::steady_clock::now(), deadline);
+            {
+                std::unique_lock guard(m_guard);
+                m_wake.wait_for(guard, std::chrono::milliseconds(20), [this] { return m_woken; });
+                m_woken = false;
+            }
+            m_queues.runMainQueue();
+        }
+    }
+
+  private:
+    std::mutex m_guard;
+    std::condition_variable m_wake;
+    bool m_woken = false;
+    ThreadedQueues m_queues;
+};
+
+std::vector<ExtendedTVEntry> listNumbered(int number, const ObjectId& onChannel, Moment from) {
+    std::vector<ExtendedTVEntry> shows;
+    for (int i = 0; i < 30; ++i) {
+        const Moment start = from + std::chrono::minutes(i);
+        shows.push_back(
+            extended({start, start + std::chrono::hours(1), QString::number(number), 1, onChannel}));
+    }
+    return shows;
+}
+
+/// A list that is seen is always one whole list.
+template <class Shows>
+void expectOneList(const Shows& shows) {
+    for (const ShowItem& show : shows) {
+        ASSERT_EQ(show.entry()->identificator(), shows.begin()->entry()->identificator());
+    }
+}
+
+TEST(TVListingsStressTest, ChangesQueriesAndFilesMeetOnRealQueues) {
+    constexpr int kRounds = 40;
+    const ManualClock clock;
+    QTemporaryDir folder;
+    Queues main;
+    StoreWorld world(clock, main.queues(), folder.path());
+    world.writeFile(channel(1), {{clock.now(), clock.now() + std::chrono::hours(1), u"0"_s}});
+    std::atomic<int> answers = 0;
+    std::atomic<int> asked = 0;
+    {
+        TVListings listings(world.environment);
+        const std::shared_ptr<DispatchQueue> own = main.queues().makeQueue("check", QueueKind::Serial);
+        std::thread changes([&] {
+            for (int round = 1; round <= kRounds; ++round) {
+                ParsedLists parsed;
+                std::vector<LoadItem> items;
+                for (int number = 1; number <= 3; ++number) {
+                    parsed[channel(number)] = listNumbered(round, channel(number), clock.now());
+                    items.push_back({channel(number), u"x"_s, u"cs"_s});
+                }
+                const MergeResult merged = listings.merge(items, std::move(parsed), clock.now(), 1);
+                listings.saveAllShows();
+                listings.updateDetails(merged.lists.at(channel(1))->front().entry(),
+                                       std::make_shared<const TVEntrySupplementalData>(), {});
+                if (round % 4 == 0) {
+                    listings.commitFiles();
+                }
+                if (round % 8 == 0) {
+                    listings.removeListingsForChannel(channel(2));
+                    listings.isScheduledForSaving(channel(2));
+                }
+            }
+        });
+        for (int round = 0; round < kRounds; ++round) {
+            asked += 8;
+            listings.onAirShowsWithQueue(own, [&](const auto& selected, const std::vector<ShowSpan>& shows) {
+                EXPECT_EQ(selected.size(), shows.size());
+                std::for_each(shows.begin(), shows.end(), [](const ShowSpan& span) { expectOneList(span); });
+                ++answers;
+            });
+            listings.onAirShows({[&](const auto&, const auto&) { ++answers; }});
+            listings.cachedListForChannel(channel(1), QueuePriority::Default, {[&](const ShowSpan& shows) {
+                                              expectOneList(shows);
+                                              ++answers;
+                                          }});
+            listings.showCountForSelectedChannelsForQueue(own, [&](const ShowCounts&) { ++answers; });
+            listings.showsContainingPattern(QString::number(round % 10), [&](const ShowItems& shows) {
+                for (const ShowItem& show : shows) {
+                    show.entry()->urlDigestWithScheme(u"guide"_s);
+                    show.entry()->fullInstantDetails();
+                }
+                ++answers;
+            });
+            listings.showsWithCategory(1, QueuePriority::Background,
+                                       {[&](const CompoundResult&) { ++answers; }});
+            listings.favoritesScheduleWithBlock([&](const ShowItems&) { ++answers; });
+            listings.broadcastForTitle(u"7"_s, false, {[&](bool) { ++answers; }});
+            main.queues().runMainQueue();
+        }
+        changes.join();
+        main.runUntil([&] { return answers == asked; });
+        EXPECT_TRUE(listings.finishWriting(std::chrono::seconds(30)));
+    }
+    for (int number : {1, 3}) {
+        const auto stored = world.fileTitles(channel(number));
+        ASSERT_TRUE(stored);
+        EXPECT_EQ(*stored, Titles(30, std::to_string(kRounds)));
+    }
+    main.queues().shutDown();
+}
+
+TEST(TVListingsStressTest, FinishingIsBoundedInTime) {
+    const ManualClock clock;
+    QTemporaryDir folder;
+    Queues main;
+    StoreWorld world(clock, main.queues(), folder.path());
+    TVListings listings(world.environment);
+    std::atomic<bool> release = false;
+    listings.favoritesScheduleWithBlock([&](const ShowItems&) {
+        while (!release) {
+            std::this_thread::yield();
+        }
+    });
+    ParsedLists parsed;
+    parsed[channel(1)] = listNumbered(1, channel(1), clock.now());
+    listings.merge({{channel(1), u"x"_s, u"cs"_s}}, std::move(parsed), clock.now(), 1);
+    EXPECT_FALSE(listings.finishWriting(std::chrono::milliseconds(30)));
+    release = true;
+    main.runUntil([&] { return listings.finishWriting(std::chrono::seconds(10)); });
+    EXPECT_EQ(world.fileTitles(channel(1)), Titles(30, "1"));
+    main.queues().shutDown();
+}
+
+} // namespace
+} // namespace guide::test

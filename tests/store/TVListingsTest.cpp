@@ -1,0 +1,315 @@
+#include "store/TVListings.h"
+
+#include "StoreWorld.h"
+#include "fakes/ManualClock.h"
+#include "fakes/ManualQueues.h"
+
+namespace guide::test {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr const char* kAccess = "vorel.listings.access";
+constexpr const char* kFiles = "vorel.listings.file.io";
+
+class TVListingsTest : public ::testing::Test {
+  protected:
+    Moment hour(int hours) const { return start + std::chrono::hours(hours); }
+
+    /// A store that has read its files.
+    TVListings& made() {
+        listings = std::make_unique<TVListings>(world.environment);
+        queues.runAll();
+        return *listings;
+    }
+
+    static ParsedLists parsed(const std::vector<TestShow>& shows) {
+        ParsedLists lists;
+        for (const TestShow& show : shows) {
+            lists[show.onChannel].push_back(extended(show));
+        }
+        return lists;
+    }
+    MergeResult merge(const std::vector<TestShow>& shows, unsigned type = 1) {
+        const std::vector<LoadItem> items{{channel(1), u"one"_s, u"cs"_s}, {channel(2), u"two"_s, u"sk"_s}};
+        return listings->merge(items, parsed(shows), clock.now(), type);
+    }
+
+    std::vector<Titles> onAir() {
+        std::vector<Titles> answer;
+        listings->onAirShows({[&](const std::vector<ObjectId>& selected, const std::vector<ShowSpan>& shows) {
+            EXPECT_EQ(selected, world.channels.selected());
+            for (const ShowSpan& span : shows) {
+                answer.push_back(titles(span));
+            }
+        }});
+        queues.runAll();
+        return answer;
+    }
+    Titles cachedList(int number) {
+        Titles answer{"no answer"};
+        listings->cachedListForChannel(channel(number), QueuePriority::Default,
+                                       {[&](const ShowSpan& shows) { answer = titles(shows); }});
+        queues.runAll();
+        return answer;
+    }
+    Titles found(const QString& pattern) {
+        Titles answer{"no answer"};
+        listings->showsContainingPattern(pattern, [&](const ShowItems& shows) { answer = titles(shows); });
+        queues.runAll();
+        return answer;
+    }
+
+    ManualClock clock;
+    ManualQueues queues{clock};
+    QTemporaryDir folder;
+    const Moment start = clock.now();
+    StoreWorld world{clock, queues, folder.path()};
+    std::unique_ptr<TVListings> listings;
+};
+
+TEST_F(TVListingsTest, FirstReadCutsWhatEndedAndForgetsEmptyChannels) {
+    world.writeFile(channel(1), {{hour(-2), hour(-1), u"old"_s},
+                                 {hour(-1), hour(1), u"A"_s},
+                                 {hour(-1), hour(0), u"ended behind"_s},
+                                 {hour(1), hour(2), u"B"_s}});
+    world.writeFile(channel(2), {{hour(-1), hour(0), u"ends now"_s}});
+    world.writeFile(ObjectId::popular(), {{hour(-1), hour(0), u"P"_s}});
+    world.channels.channelWithChannelId(channel(2))->setTimeLoaded(start);
+    EXPECT_TRUE(replaceFile(world.path(channel(3)), "damaged"));
+    made();
+    EXPECT_EQ(cachedList(1), (Titles{"A", "ended behind", "B"}));
+    EXPECT_EQ(cachedList(2), Titles{});
+    EXPECT_FALSE(QFile::exists(world.path(channel(2))));
+    EXPECT_EQ(world.channels.channelWithChannelId(channel(2))->timeLoaded(), std::nullopt);
+    EXPECT_FALSE(QFile::exists(world.path(channel(3))));
+    EXPECT_TRUE(QFile::exists(world.path(ObjectId::popular())));
+    EXPECT_EQ(found(u"b"_s), Titles{"B"}) << "of all shows only what has not ended";
+    EXPECT_EQ(world.alarms.syncs, 1);
+}
+
+TEST_F(TVListingsTest, QueriesWaitForTheFirstRead) {
+    world.writeFile(channel(1), {{hour(0), hour(1), u"A"_s}});
+    listings = std::make_unique<TVListings>(world.environment);
+    EXPECT_EQ(onAir(), (std::vector<Titles>{{"A"}, {}, {}}));
+}
+
+TEST_F(TVListingsTest, MergeStoresSchedulesAndTellsTheAlarms) {
+    made();
+    clock.advance(std::chrono::minutes(5));
+    const MergeResult result = merge({{hour(2), hour(3), u"B"_s},
+                                      {hour(0), hour(1), u"A"_s},
+                                      {hour(-2), hour(-1), u"old"_s, 0, channel(2)},
+                                      {hour(0), hour(1), u"not asked for"_s, 0, channel(3)}});
+    EXPECT_EQ(result.outcomes, (decltype(result.outcomes){{channel(1), MergeOutcome::Stored},
+                                                          {channel(2), MergeOutcome::OnlyPast}}));
+    ASSERT_EQ(result.lists.size(), 1u);
+    EXPECT_EQ(titles(*result.lists.at(channel(1))), (Titles{"A", "B"}));
+    EXPECT_EQ(result.lists.at(channel(1))->front().entry()->language(), u"cs"_s);
+    // At once, before any queue has run.
+    EXPECT_EQ(world.channels.channelWithChannelId(channel(1))->timeLoaded(), clock.now());
+    EXPECT_EQ(world.channels.channelWithChannelId(channel(2))->timeLoaded(), std::nullopt);
+    EXPECT_FALSE(world.alarms.isSynchronized);
+
+    queues.runAll();
+    EXPECT_EQ(world.alarms.syncs, 2);
+    EXPECT_TRUE(listings->isScheduledForSaving(channel(1)));
+    EXPECT_FALSE(listings->isScheduledForSaving(channel(2)));
+    EXPECT_EQ(onAir(), (std::vector<Titles>{{"A", "B"}, {}, {}}));
+    EXPECT_EQ(world.fileTitles(channel(1)), std::nullopt) << "written in the foreground";
+    EXPECT_EQ(found(u"b"_s), Titles{}) << "all shows are made anew when the caller says so";
+    listings->saveAllShows();
+    EXPECT_EQ(found(u"b"_s), Titles{"B"});
+
+    merge({{hour(0), hour(1), u"C"_s}});
+    EXPECT_EQ(merge({}).outcomes.at(channel(1)), MergeOutcome::Empty);
+    EXPECT_EQ(merge({{hour(-2), hour(-1), u"D"_s}}).outcomes.at(channel(1)), MergeOutcome::OnlyPast);
+    EXPECT_EQ(cachedList(1), Titles{"C"});
+    EXPECT_EQ(world.alarms.syncs, 3);
+}
+
+TEST_F(TVListingsTest, FilesAreWrittenOnCommitAndDatedByTheLoad) {
+    world.writeFile(channel(2), {{hour(0), hour(1), u"old file"_s}});
+    made();
+    merge(
+        {{hour(0), hour(1), u"A"_s}, {hour(1), hour(3), u"B"_s}, {hour(0), hour(1), u"C"_s, 0, channel(2)}});
+    queues.runAll();
+    clock.advance(std::chrono::hours(1));
+    listings->commitFiles();
+    EXPECT_EQ(queues.run(kAccess), 1u);
+    EXPECT_EQ(queues.run(kFiles), 1u);
+    EXPECT_EQ(world.tasks.running(), 1u);
+    queues.runAll();
+    EXPECT_EQ(world.tasks.running(), 0u);
+    EXPECT_EQ(world.fileTitles(channel(1)), Titles{"B"}) << "what ended is cut";
+    EXPECT_EQ(fileModificationDate(world.path(channel(1))), start);
+    EXPECT_EQ(world.fileTitles(channel(2)), Titles{"old file"}) << "an empty list writes nothing";
+    EXPECT_FALSE(listings->isScheduledForSaving(channel(1)));
+    EXPECT_FALSE(listings->isScheduledForSaving(channel(2)));
+    listings->commitFiles();
+    queues.runAll();
+    EXPECT_EQ(world.tasks.begun(), 2u);
+    EXPECT_EQ(world.tasks.running(), 0u);
+}
+
+TEST_F(TVListingsTest, InTheBackgroundEveryScheduleIsWrittenSoon) {
+    made();
+    world.state.state = ApplicationState::Background;
+    merge({{hour(0), hour(1), u"A"_s}});
+    queues.runAll();
+    EXPECT_EQ(world.fileTitles(channel(1)), Titles{"A"});
+    EXPECT_FALSE(listings->isScheduledForSaving(channel(1)));
+}
+
+TEST_F(TVListingsTest, CommitBetweenMergeAndStoreLosesNothing) {
+    made();
+    listings->commitFiles();
+    queues.run(kAccess); // the commit has taken the lists of before
+    merge({{hour(0), hour(1), u"A"_s}});
+    queues.runAll();
+    EXPECT_TRUE(listings->isScheduledForSaving(channel(1)));
+    EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
+    EXPECT_EQ(world.fileTitles(channel(1)), Titles{"A"});
+}
+
+TEST_F(TVListingsTest, AWriteThatFailedStaysScheduled) {
+    made();
+    merge({{hour(0), hour(1), u"A"_s}, {hour(0), hour(1), u"C"_s, 0, channel(2)}});
+    QDir().mkdir(world.path(channel(1))); // no file can be put in its place
+    EXPECT_FALSE(listings->finishWriting(std::chrono::milliseconds(0)));
+    EXPECT_TRUE(listings->isScheduledForSaving(channel(1)));
+    EXPECT_FALSE(listings->isScheduledForSaving(channel(2)));
+    QDir().rmdir(world.path(channel(1)));
+    EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
+    EXPECT_EQ(world.fileTitles(channel(1)), Titles{"A"});
+}
+
+TEST_F(TVListingsTest, WritingGivesUpTheTaskWhenTheDeviceWaitsNoLonger) {
+    made();
+    listings->commitFiles();
+    queues.run(kAccess);
+    queues.run(kFiles);
+    world.tasks.expireAll();
+    queues.runAll();
+    EXPECT_EQ(world.tasks.running(), 0u);
+}
+
+TEST_F(TVListingsTest, OnAirReadsTheFileOfAChannelThatIsNotStored) {
+    made();
+    world.writeFile(channel(4), {{hour(-1), hour(0), u"old"_s},
+                                 {hour(0), hour(1), u"A"_s},
+                                 {hour(1), hour(2), u"B"_s},
+                                 {hour(2), hour(3), u"C"_s}});
+    world.channels.setSelected({channel(4), channel(1)});
+    EXPECT_EQ(onAir(), (std::vector<Titles>{{"A", "B"}, {}}));
+    EXPECT_EQ(cachedList(4), Titles{});
+    world.writeFile(channel(4), {{hour(-2), hour(-1), u"older"_s}, {hour(-1), hour(0), u"ends now"_s}});
+    EXPECT_EQ(onAir(), (std::vector<Titles>{{"ends now"}, {}}));
+}
+
+TEST_F(TVListingsTest, CountsWhatIsNotOverUpToTheScreensWish) {
+    made();
+    merge({{hour(-1), hour(0), u"old"_s},
+           {hour(0), hour(1), u"A"_s},
+           {hour(1), hour(2), u"B"_s},
+           {hour(2), hour(3), u"C"_s},
+           {hour(0), hour(1), u"D"_s, 0, channel(2)}});
+    ShowCounts counts;
+    std::shared_ptr<DispatchQueue> queue = queues.makeQueue("check", QueueKind::Serial);
+    listings->showCountForSelectedChannelsForQueue(queue, [&](const ShowCounts& answer) {
+        queue->assertCurrent();
+        counts = answer;
+    });
+    queues.runAll();
+    EXPECT_EQ(counts, (ShowCounts{{channel(1), 2}, {channel(2), 1}, {channel(3), 0}}));
+}
+
+TEST_F(TVListingsTest, AllShowsPutTheUsersFirstChannelFirst) {
+    made();
+    merge({{hour(0), hour(1), u"A1"_s}, {hour(0), hour(1), u"A2"_s, 0, channel(2)}});
+    world.channels.setSelected({channel(2), channel(1)});
+    listings->saveAllShows();
+    EXPECT_EQ(found(u"a"_s), (Titles{"A2", "A1"}));
+    clock.set(hour(1));
+    EXPECT_EQ(found(u"a"_s).size(), 2u) << "what ends now is not over";
+    listings->saveAllShows();
+    EXPECT_EQ(found(u"a"_s), Titles{}) << "but it has ended";
+}
+
+TEST_F(TVListingsTest, RemovedListsLeaveTheirFiles) {
+    world.writeFile(channel(1), {{hour(0), hour(1), u"A"_s}});
+    made();
+    listings->removeListingsForChannel(channel(1));
+    EXPECT_EQ(cachedList(1), Titles{});
+    EXPECT_EQ(found(u"a"_s), Titles{});
+    EXPECT_TRUE(QFile::exists(world.path(channel(1))));
+    EXPECT_EQ(world.popular.refreshes, 1);
+    listings->updatePopularList();
+    queues.runAll();
+    EXPECT_EQ(world.popular.refreshes, 2);
+}
+
+TEST_F(TVListingsTest, UpdatedShowsAreFoundWrittenAndLeaveOldListsAlone) {
+    made();
+    const ShowList old =
+        merge({{hour(0), hour(1), u"A"_s}, {hour(1), hour(2), u"B"_s, 1}}).lists.at(channel(1));
+    listings->commitFiles();
+    queues.runAll();
+    auto details = std::make_shared<TVEntrySupplementalData>();
+    details->roles = u"Žanda"_s;
+    clock.advance(std::chrono::minutes(1));
+    listings->updateDetails((*old)[0].entry(), details, {});
+    EXPECT_EQ(found(u"zanda"_s), Titles{"A"});
+    EXPECT_TRUE(listings->isScheduledForSaving(channel(1)));
+    EXPECT_EQ(world.channels.channelWithChannelId(channel(1))->timeLoaded(), clock.now());
+    EXPECT_EQ((*old)[0].elementCount(), 2);
+    listings->updateIMDBForChannel(channel(1), u"B"_s, 1, QUrl(u"https://i/1"_s), {QUrl(u"https://p/1"_s)});
+    EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
+    const auto read = unarchivedShowsOfFile(world.path(channel(1)), latinAlphabet());
+    ASSERT_TRUE(read);
+    EXPECT_EQ((*read)[0].details()->roles, u"Žanda"_s);
+    EXPECT_EQ((*read)[1].details()->imdbURL, QUrl(u"https://i/1"_s));
+    EXPECT_EQ((*read)[1].elementCount(), 4);
+
+    const auto gone = merge({{hour(0), hour(1), u"A"_s}}).lists.at(channel(1));
+    listings->commitFiles();
+    queues.runAll();
+    listings->updateDetails((*old)[0].entry(), details, {});
+    listings->updateIMDBForChannel(channel(3), u"B"_s, 1, QUrl(), {});
+    queues.runAll();
+    EXPECT_FALSE(listings->isScheduledForSaving(channel(1))) << "the entry is of a list that was replaced";
+}
+
+TEST_F(TVListingsTest, AnswersRunWhereTheySay) {
+    made();
+    merge({{hour(0), hour(1), u"A"_s}});
+    listings->saveAllShows();
+    queues.runAll();
+    world.popular.list = std::make_shared<const ShowItems>(ShowItems{item({hour(0), hour(1), u"P"_s})});
+    int answers = 0;
+    const auto onMain = [&](const auto&...) {
+        queues.mainQueue().assertCurrent();
+        ++answers;
+    };
+    listings->showsContainingPattern(u"a"_s, [&](const ShowItems&) {
+        queues.globalQueue(QueuePriority::UserInitiated).assertCurrent();
+        ++answers;
+    });
+    listings->favoritesScheduleWithBlock([&](const ShowItems&) { ++answers; });
+    listings->favoritesScheduleWithPartialAllowed(true, [&](const ShowItems&, const auto&) { ++answers; });
+    listings->showsWithCategory(1, QueuePriority::Background, {onMain});
+    listings->allShowsWithCategory(TVListingsCategoryMostWatched, QueuePriority::Background, {onMain});
+    listings->favoritesScheduleWithPriority(QueuePriority::Background, {onMain});
+    listings->showScheduleForTitle(u"A"_s, QueuePriority::Background, {onMain});
+    listings->broadcastForTitle(u"A"_s, false, {onMain});
+    const auto url = TVEntry(*item({hour(0), hour(1), u"A"_s}).entry()).urlDigestWithScheme(u"guide"_s);
+    listings->showWithURL(*url, {onMain});
+    const auto held = std::make_shared<int>();
+    listings->showWithURL(QUrl(u"guide://absent"_s), {[&answers, held](const ShowItem&) { answers = -100; }});
+    queues.runAll();
+    EXPECT_EQ(answers, 9);
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+} // namespace
+} // namespace guide::test
