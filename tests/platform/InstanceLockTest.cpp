@@ -48,6 +48,7 @@ TEST_F(InstanceLockTest, TheSecondHandsItsRequestToTheFirst) {
     const QTemporaryDir otherFolder;
     EXPECT_EQ(InstanceLock(otherFolder.path(), sockets.path(), "raise").outcome(), Outcome::First);
     EXPECT_EQ(start()->outcome(), Outcome::HandedOver);
+    queue->sync([] {});
 }
 
 TEST_F(InstanceLockTest, TheNextOneIsFirstWhenTheFirstHasGone) {
