@@ -1,6 +1,9 @@
 #include "platform/Utf8.h"
 
+#include <QStringDecoder>
+
 #include <gtest/gtest.h>
+#include <random>
 
 using namespace Qt::StringLiterals;
 
@@ -37,8 +40,8 @@ TEST(Utf8Test, AcceptsExactlyWellFormedBytesAtEveryOffset) {
         {"Latin-1", "\xe9t\xe9", false},
     };
     for (const Case& each : cases) {
-        for (const qsizetype before : {0, 1, 7, 8, 15, 16, 17, 40}) {
-            for (const qsizetype after : {0, 1, 20}) {
+        for (const qsizetype before : {0, 1, 7, 8, 15, 16, 17, 40, 60, 61, 62, 63, 64, 127}) {
+            for (const qsizetype after : {0, 1, 20, 80}) {
                 const QByteArray bytes = QByteArray(before, 'a') + each.bytes + QByteArray(after, 'z');
                 QString text;
                 EXPECT_EQ(isValidUtf8(bytes), each.valid) << each.name << before << ' ' << after;
@@ -50,6 +53,28 @@ TEST(Utf8Test, AcceptsExactlyWellFormedBytesAtEveryOffset) {
             }
         }
     }
+}
+
+TEST(Utf8Test, AgreesWithQtOnDamagedText) {
+    const QByteArray whole =
+        u"Večerní zprávy – živě 📺 Вечер 日本 abcdefghijklmnopqrstuvwxyz"_s.toUtf8().repeated(4);
+    std::mt19937 random(3);
+    int valid = 0;
+    for (int round = 0; round < 20'000; ++round) {
+        QByteArray bytes =
+            whole.mid(static_cast<qsizetype>(random() % 40), static_cast<qsizetype>(random() % 200));
+        for (unsigned change = random() % 3; change > 0 && !bytes.isEmpty(); --change) {
+            bytes[static_cast<qsizetype>(random()) % bytes.size()] = static_cast<char>(random());
+        }
+        QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+        const QString byQt = decoder.decode(bytes);
+        QString ours;
+        ASSERT_EQ(isValidUtf8(bytes), !decoder.hasError()) << bytes.toHex().constData();
+        ASSERT_EQ(readUtf8(bytes, ours), !decoder.hasError()) << bytes.toHex().constData();
+        valid += decoder.hasError() ? 0 : 1;
+    }
+    EXPECT_GT(valid, 1000);
+    EXPECT_LT(valid, 19'000);
 }
 
 TEST(Utf8Test, WritesLoneSurrogatesAsTheReplacementCharacter) {
