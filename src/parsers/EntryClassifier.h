@@ -5,7 +5,8 @@
 
 namespace guide {
 
-/// The categories that an entry's own texts and source id tell, for readers of sources that do not say what a show is.
+/// The categories that an entry's own texts and source id tell, for readers of sources that do not say what a
+/// show is.
 TVListingsCategory classifyEntry(const TVEntry& entry);
 
 } // namespace guide

@@ -4,13 +4,42 @@
 #include "store/ShowItem.h"
 #include "text/Alphabet.h"
 
+#include <QLocale>
 #include <QString>
 
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <utility>
 
 namespace guide {
+
+/// What is known of texts of a feed, by their bytes. Forgets everything when it has grown to its bound.
+template <class Value>
+class FeedMemo {
+  public:
+    /// Null for a text that is not known.
+    const Value* find(std::string_view text) const {
+        const auto place = m_values.find(text);
+        return place == m_values.end() ? nullptr : &place->second;
+    }
+    /// The reference holds until the next addition.
+    const Value& add(std::string_view text, Value value) {
+        if (m_values.size() >= kMost) {
+            m_values.clear();
+        }
+        return m_values.insert_or_assign(std::string(text), std::move(value)).first->second;
+    }
+
+  private:
+    static constexpr std::size_t kMost = 16'384;
+
+    struct Hash : std::hash<std::string_view> {
+        using is_transparent = void;
+    };
+    std::unordered_map<std::string, Value, Hash, std::equal_to<>> m_values;
+};
 
 /// A text that is gathered piece by piece, as UTF-8; unset until the first piece.
 class FeedText {
@@ -52,6 +81,7 @@ struct FeedShow {
     bool iconIsImage = false;
     bool previouslyShown = false;
     TVListingsCategory categories = 0;
+    /// The feed's id of the channel.
     std::string sourceId;
     std::optional<Moment> dateTime;
     Moment endDateTime;
@@ -64,18 +94,37 @@ struct FeedShow {
 struct FeedShowOptions {
     /// Outlives the shows.
     const Alphabet& alphabet;
+    /// The device's, for titles that come in capitals.
+    QLocale locale = {};
     /// What the name of an image is appended to; without it such a name gives no picture.
     QString imageBase = {};
     /// The feed's own site, which signs its descriptions; may be empty.
     QString siteHost = {};
 };
 
-/// Whether the feed says with this title that it knows nothing of the slot.
-bool isPlaceholder(const QString& title);
+/// Makes the shows of one feed: takes their texts apart, cleans them and finds their categories. What many
+/// shows of a feed say alike is worked on once, and their texts share memory.
+class FeedShowMaker {
+  public:
+    explicit FeedShowMaker(FeedShowOptions options);
+    ~FeedShowMaker();
 
-/// The show with its texts taken apart and cleaned, and its categories. `title` is that of `show`, which has
-/// one; `category` is all that the feed's own category elements say.
-ExtendedTVEntry finishedShow(const FeedShow& show, const QString& title,
-                             const std::optional<QString>& category, const FeedShowOptions& options);
+    /// `show` has a title; `category` is all that the category elements say. The entry has neither channel
+    /// nor source id. Nothing when the title says that the feed knows nothing of the slot.
+    std::optional<ExtendedTVEntry> make(const FeedShow& show, const FeedText& category);
+
+  private:
+    struct TitleParts;
+
+    const TitleParts& titleParts(std::string_view title);
+    TVListingsCategory categories(std::string_view categoryText);
+    QSet<QUrl> pictures(const FeedShow& show);
+
+    const FeedShowOptions m_options;
+    FeedMemo<TitleParts> m_titles;
+    FeedMemo<TVListingsCategory> m_categories;
+    FeedMemo<QSet<QUrl>> m_icons;
+    FeedMemo<QSet<QUrl>> m_images;
+};
 
 } // namespace guide

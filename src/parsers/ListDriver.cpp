@@ -52,7 +52,8 @@ ParsedLists ListDriver::read(const std::vector<LoadItem>& items, const std::vect
     }
     lists.reserve(items.size());
     try {
-        entry->reader({items, pages, now, m_environment.clock, m_environment.alphabet, m_environment.hosts},
+        entry->reader({items, pages, now, m_environment.clock, m_environment.alphabet, m_environment.hosts,
+                       m_environment.locale},
                       lists);
     } catch (const std::exception& exception) {
         qCWarning(parsersLog, "exception %s", exception.what());

@@ -8,6 +8,7 @@
 #include "text/Alphabet.h"
 
 #include <QByteArray>
+#include <QLocale>
 
 #include <functional>
 #include <vector>
@@ -23,6 +24,8 @@ struct ListDriverEnvironment {
     std::function<MergeResult(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
                               unsigned type)>
         merge;
+    /// The device's.
+    QLocale locale = {};
 };
 
 /// The one door through which fetched pages become shows. Keeps nothing between two calls.

@@ -7,6 +7,7 @@
 #include "text/Alphabet.h"
 
 #include <QByteArray>
+#include <QLocale>
 
 #include <vector>
 
@@ -23,6 +24,8 @@ struct ListReaderInput {
     const Clock& clock;
     const Alphabet& alphabet;
     const SourceHostTable& hosts;
+    /// The device's.
+    QLocale locale;
 };
 
 /// Adds the shows that the pages hold to the lists of the items' channels, in the order of reading. What it

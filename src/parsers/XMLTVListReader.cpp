@@ -54,6 +54,7 @@ void readXMLTVLists(const ListReaderInput& input, ParsedLists& lists) {
                                       [](const LoadItem& item) { return item.sourceId.endsWith(".tv"_L1); });
     const auto imageBase = useImage ? input.hosts.base(u"FeedImageBase"_s) : std::nullopt;
     const XMLTVOptions options{.shows = {.alphabet = input.alphabet,
+                                         .locale = input.locale,
                                          .imageBase = imageBase ? *imageBase + "/images/"_L1 : QString(),
                                          .siteHost = input.hosts.name(u"FeedSiteHost"_s).value_or(QString())},
                                .now = input.clock.now(),

@@ -52,9 +52,9 @@ class XMLTVToEntries : private XMLTVEvents {
     void startProgramme(const XMLTVAttributes& attributes);
     /// False when the show is a placeholder, and the element's end is to pass as if it had not come.
     bool finishShow();
-    std::vector<ExtendedTVEntry>& entriesOf(const std::string& sourceId);
 
     const XMLTVOptions m_options;
+    FeedShowMaker m_maker;
     const WantedChannels m_wanted;
     /// The only wanted channel.
     const std::optional<std::string> m_single;

@@ -1,0 +1,145 @@
+#include "parsers/ListDriver.h"
+
+#include "fakes/ManualClock.h"
+#include "parsers/XMLTVListReader.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace guide {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const Moment kNow = std::chrono::sys_days{std::chrono::year{2026} / 11 / 21};
+
+ObjectId channel(int number) {
+    return ObjectId::fromHex(u"58f4ded60befe78cb336a80"_s + QString::number(number, 16));
+}
+
+std::vector<LoadItem> items(const std::vector<QString>& sourceIds) {
+    std::vector<LoadItem> list;
+    for (const QString& sourceId : sourceIds) {
+        list.push_back({channel(static_cast<int>(list.size())), sourceId, u"hr"_s});
+    }
+    return list;
+}
+
+std::string show(const char* feedChannel, const char* title, const char* content = "") {
+    return std::string(R"(<programme start="20261121140000 Z" stop="20261121150000 Z" channel=")") +
+           feedChannel + "\"><title>" + title + "</title>" + content + "</programme>";
+}
+
+QByteArray feed(const std::string& programmes) {
+    return QByteArray::fromStdString("<tv>" + programmes + "</tv>");
+}
+
+class ListDriverTest : public ::testing::Test {
+  protected:
+    /// "0: title title; 1: …", by the number of the channel.
+    std::string titles(const std::vector<QString>& sourceIds, const std::vector<QByteArray>& pages,
+                       unsigned type = 1) {
+        const ParsedLists lists = m_driver.read(items(sourceIds), pages, kNow, type);
+        std::string text;
+        for (int number = 0; number < static_cast<int>(sourceIds.size()); ++number) {
+            const auto list = lists.find(channel(number));
+            if (list == lists.end()) {
+                continue;
+            }
+            text += (text.empty() ? "" : "; ") + std::to_string(number) + ":";
+            for (const ExtendedTVEntry& entry : list->second) {
+                EXPECT_EQ(entry.basic->channel(), channel(number));
+                text += " " + entry.basic->identificator()->toStdString() + "@" +
+                        entry.basic->sourceId()->toStdString();
+                for (const QUrl& picture : entry.pictures) {
+                    text += "+" + picture.toString().toStdString();
+                }
+            }
+        }
+        return text;
+    }
+
+    ManualClock m_clock{kNow};
+    Alphabet m_alphabet;
+    SourceHostTable m_hosts =
+        *SourceHostTable::fromJson(R"({"FeedImageBase": "img.example", "FeedSiteHost": "site.example"})");
+    std::size_t m_mergedChannels = 0;
+    int m_merges = 0;
+    ListDriver m_driver{{.clock = m_clock,
+                         .alphabet = m_alphabet,
+                         .hosts = m_hosts,
+                         .merge = [this](const std::vector<LoadItem>&, ParsedLists parsed, Moment, unsigned) {
+                             m_mergedChannels = parsed.size();
+                             ++m_merges;
+                             return MergeResult{};
+                         }}};
+};
+
+TEST_F(ListDriverTest, FindsTheFeedsOwnIdsInSourceIds) {
+    struct Row {
+        QString sourceId;
+        std::vector<QString> wanted;
+    };
+    const std::vector<Row> rows{
+        {u"r.ba.Sarajevo.ba"_s, {u"Sarajevo.ba"_s}},
+        {u"r..x"_s, {u"x"_s}},
+        {u"r.x"_s, {u""_s}},
+        {u"tvpc.12.a"_s, {u"12.a"_s}},
+        {u"s.a.b"_s, {u"a.b"_s}},
+        {u"n.c"_s, {u"c"_s}},
+        {u"hbo.tv"_s, {}},
+        {u"=12"_s, {}},
+        {u"https://h/a.xml"_s, {}},
+        {u"tvp.x"_s, {}},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(wantedFeedChannels(items({row.sourceId})), row.wanted) << row.sourceId.toStdString();
+    }
+}
+
+TEST_F(ListDriverTest, GivesEachChannelItsShows) {
+    const std::vector<QByteArray> pages{feed(show("a", "A") + show("b", "B") + show("c", "C"))};
+    EXPECT_EQ(titles({u"r.x.a"_s, u"r.x.c"_s}, pages), "0: A@a; 1: C@c");
+    EXPECT_EQ(titles({u"n.b"_s}, pages), "0: B@b");
+    EXPECT_EQ(titles({u"s.a"_s, u"s.a"_s}, pages), "1: A@a") << "the last item that wants a channel has it";
+    EXPECT_EQ(titles({u"x.tv"_s, u"y.tv"_s}, pages), "0: A@a B@b C@c")
+        << "nothing is filtered in a file of one channel";
+    EXPECT_EQ(titles({u"r.x.d"_s}, pages), "");
+    EXPECT_EQ(titles({u"r.x"_s}, pages), "");
+    EXPECT_EQ(titles({}, pages), "");
+}
+
+TEST_F(ListDriverTest, GrowsOneListOverPages) {
+    EXPECT_EQ(titles({u"x.tv"_s},
+                     {feed(show("a", "A")), QByteArray(), QByteArray("<html>no feed"),
+                      feed(show("a", "B")) + '\0' + "no more", feed(show("a", "C")).replace("</tv>", "")}),
+              "0: A@a B@a C@a");
+}
+
+TEST_F(ListDriverTest, TakesImagesOfTheFamilyThatHasThem) {
+    const std::vector<QByteArray> pages{feed(show("a", "A", "<image>1.png</image>"))};
+    EXPECT_EQ(titles({u"x.tv"_s}, pages), "0: A@a+https://img.example/images/1.png");
+    EXPECT_EQ(titles({u"s.a"_s}, pages), "0: A@a");
+    EXPECT_EQ(titles({u"s.a"_s, u"x.tv"_s}, pages), "0: A@a+https://img.example/images/1.png");
+}
+
+TEST_F(ListDriverTest, DropsWhatIsOverByTheClock) {
+    m_clock.set(kNow + std::chrono::hours{15});
+    EXPECT_EQ(titles({u"x.tv"_s}, {feed(show("a", "A"))}), "");
+}
+
+TEST_F(ListDriverTest, MergesWhateverWasRead) {
+    const std::vector<QByteArray> pages{feed(show("a", "A"))};
+    for (const auto& [type, channels] :
+         std::vector<std::pair<unsigned, std::size_t>>{{1, 1}, {0, 0}, {11, 0}, {12, 0}}) {
+        m_merges = 0;
+        m_driver.netList(items({u"s.a"_s}), pages, kNow, type);
+        EXPECT_EQ(m_merges, 1) << type;
+        EXPECT_EQ(m_mergedChannels, channels) << type;
+    }
+}
+
+} // namespace
+
+} // namespace guide
