@@ -118,8 +118,8 @@ class Inflater {
     }
 
     bool nextMember() {
-        const auto left = static_cast<qsizetype>(m_left + m_stream.avail_in);
-        const QByteArrayView rest = m_data.last(left);
+        const std::uint64_t left = m_left + m_stream.avail_in;
+        const QByteArrayView rest = m_data.last(static_cast<qsizetype>(left));
         return hasGzipSignature(rest) && inflateReset(&m_stream) == Z_OK;
     }
 

@@ -159,7 +159,7 @@ class BinaryList {
         }
         std::uint64_t value = 0;
         for (std::uint64_t index = 0; index < size; ++index) {
-            value = value << 8 | static_cast<std::uint8_t>(m_data[static_cast<qsizetype>(at + index)]);
+            value = value << 8 | static_cast<std::uint8_t>(m_data.data()[at + index]);
         }
         return value;
     }

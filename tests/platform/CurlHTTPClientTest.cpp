@@ -252,6 +252,7 @@ TEST_F(CurlHTTPClientTest, GoesThroughTheCacheAsThePolicySays) {
 
 TEST_F(CurlHTTPClientTest, CancellingEndsWhatRunsAndWhatComes) {
     std::vector<std::future<TransferResult>> running;
+    running.reserve(3);
     for (int transfer = 0; transfer < 3; ++transfer) {
         server.reply(ScriptedReply::raw(ScriptedReply::head(200), End::Stall));
         running.push_back(std::async(std::launch::async, [this] { return get(); }));
@@ -276,6 +277,7 @@ TEST_F(CurlHTTPClientTest, ManyThreadsAtOnce) {
                                        {"Set-Cookie: c" + QByteArray::number(page) + "=1"}));
     }
     std::vector<std::future<void>> threads;
+    threads.reserve(4);
     for (int thread = 0; thread < 4; ++thread) {
         threads.push_back(std::async(std::launch::async, [this, thread] {
             for (int round = 0; round < 12; ++round) {

@@ -185,7 +185,8 @@ class Tree {
     QCborValue write(KeyedArchiver& out, int depth) {
         switch (below(depth > 0 ? 7 : 5)) {
         case 0: {
-            const auto number = static_cast<qint64>(m_random() << below(64));
+            const std::uint64_t bits = m_random() << below(64);
+            const auto number = static_cast<qint64>(bits);
             out.append(std::int64_t{number});
             return number;
         }

@@ -54,7 +54,7 @@ std::optional<QJsonValue> toJson(const QCborValue& value, int depth) {
         }
         QJsonArray array;
         const QCborArray values = value.toArray();
-        for (const QCborValue& element : values) {
+        for (const auto& element : values) {
             const std::optional<QJsonValue> read = toJson(element, depth + 1);
             if (!read) {
                 return std::nullopt;
@@ -97,10 +97,8 @@ std::optional<QCborValue> fromJson(const QJsonValue& json, int depth) {
         return QCborValue(json.toBool());
     case QJsonValue::String:
         return QCborValue(json.toString());
-    case QJsonValue::Double: {
-        const QCborValue number = QCborValue::fromJsonValue(json);
-        return number;
-    }
+    case QJsonValue::Double:
+        return QCborValue::fromJsonValue(json);
     case QJsonValue::Object:
         return fromObject(json.toObject());
     case QJsonValue::Array: {
@@ -109,7 +107,7 @@ std::optional<QCborValue> fromJson(const QJsonValue& json, int depth) {
         }
         QCborArray array;
         const QJsonArray values = json.toArray();
-        for (const QJsonValue& element : values) {
+        for (const auto& element : values) {
             const std::optional<QCborValue> read = fromJson(element, depth + 1);
             if (!read) {
                 return std::nullopt;

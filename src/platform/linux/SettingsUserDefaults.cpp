@@ -38,7 +38,7 @@ class SettingsUserDefaults::File {
     }
 
     // True when something changed and no write is on its way yet.
-    bool set(const QString& key, std::optional<QString> value) {
+    bool set(const QString& key, const std::optional<QString>& value) {
         const std::lock_guard lock(m_mutex);
         const auto found = m_values.constFind(key);
         if (value ? found != m_values.constEnd() && *found == *value : found == m_values.constEnd()) {
@@ -49,7 +49,7 @@ class SettingsUserDefaults::File {
         } else {
             m_values.remove(key);
         }
-        m_changed.insert(key, std::move(value));
+        m_changed.insert(key, value);
         return !std::exchange(m_writeScheduled, true);
     }
 
@@ -159,8 +159,8 @@ bool SettingsUserDefaults::synchronize() {
     return m_file->write();
 }
 
-void SettingsUserDefaults::set(const QString& key, std::optional<QString> value) {
-    if (m_file->set(key, std::move(value)) && m_writeQueue) {
+void SettingsUserDefaults::set(const QString& key, const std::optional<QString>& value) {
+    if (m_file->set(key, value) && m_writeQueue) {
         m_writeQueue->asyncAfter(kWriteDelay, [file = std::weak_ptr(m_file)] {
             if (const std::shared_ptr<File> alive = file.lock()) {
                 alive->write();

@@ -33,7 +33,7 @@ class SettingsUserDefaults final : public UserDefaults {
   private:
     class File;
 
-    void set(const QString& key, std::optional<QString> value);
+    void set(const QString& key, const std::optional<QString>& value);
 
     const std::shared_ptr<File> m_file;
     const std::shared_ptr<DispatchQueue> m_writeQueue;
