@@ -17,15 +17,15 @@ enum class ColorScheme { Light, Dark };
 struct GuideWindowOptions {
     UserInterfaceIdiom form = UserInterfaceIdiom::Phone;
     /// The system's scheme where unset.
-    std::optional<ColorScheme> scheme;
+    std::optional<ColorScheme> scheme = std::nullopt;
     /// 390 by 844 for a phone and 1024 by 768 for a tablet where unset.
-    std::optional<QSize> size;
+    std::optional<QSize> size = std::nullopt;
     /// False where the system asks for less motion, and for pictures.
     bool motion = true;
     /// Called when the window becomes visible and when it no longer is (minimised, hidden, closed).
-    std::function<void(bool visible)> visibilityChanged;
+    std::function<void(bool visible)> visibilityChanged = {};
     /// Called when the person closes the window.
-    std::function<void()> closed;
+    std::function<void()> closed = {};
 };
 
 /// The window that draws the screens. Lives on the main thread, after the QGuiApplication and before the

@@ -43,7 +43,7 @@ class ChannelViewController final : public ListingsScreen {
 
     void initializeContentWithEntriesArray(const ShowSpan& entries);
     void reloadTable();
-    Row rowOfShow(const ShowItem& show, Moment now) const;
+    bool dueForReload(const TVChannel& record) const;
     void refresh();
     void refreshActive();
     void refreshDone();

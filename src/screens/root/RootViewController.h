@@ -5,7 +5,10 @@
 
 #include <QHash>
 #include <QImage>
+#include <QSet>
+#include <QUrl>
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -56,25 +59,35 @@ class RootViewController final : public ListingsScreen {
         ShowItems entries;
     };
     using Images = QHash<QString, QImage>;
+    /// The pictures of one channel's shows, by identificator. A null image: looked for, and there is none.
+    struct Pictures {
+        Images images;
+        /// What is being loaded, or has been.
+        QSet<QString> asked;
+    };
+    static constexpr std::chrono::milliseconds kPictureDelay{200};
 
     Channel channelNamed(const ObjectId& identificator) const;
     void setChannels(const std::vector<ObjectId>& selected, const std::vector<ShowSpan>& entries);
     std::optional<int> sectionOfChannel(const ObjectId& channel) const;
-    std::optional<QImage> showImage(const ObjectId& channel, const QString& showIdentifier) const;
-    std::optional<QUrl> streamURL(const ObjectId& channel) const;
+    bool applicationActive() const;
 
     std::vector<Row> rowsOf(const Channel& channel) const;
     Row channelRow(const Channel& channel) const;
-    Row rowOfShow(const ShowItem& show, Moment now) const;
     void reloadTable();
 
     void selectedChannel(const Channel& channel);
+
+    static QString identificatorOf(const ShowItem& show);
+    std::optional<QImage> showImage(const ObjectId& channel, const QString& showIdentifier) const;
+    void loadPicture(const QUrl& url, const ObjectId& channel, const QString& showIdentifier);
     void startDetailPass(const ObjectId& channel);
-    void detailsLoaded(const ObjectId& channel, ShowItems shows, const std::vector<QImage>& images);
+    void detailsLoaded(const ObjectId& channel, const ShowItems& asked, const ShowItems& completed,
+                       const std::vector<QImage>& images);
 
     const std::shared_ptr<const ScreenEnvironment> m_environment;
     std::vector<Channel> m_channels;
-    std::unordered_map<ObjectId, Images> m_showImages;
+    std::unordered_map<ObjectId, Pictures> m_pictures;
     std::unordered_set<ObjectId> m_channelsWithLoadedShowDetails;
     bool m_modifiedSelectedChannels = false;
     /// Counts the queries, so that a late answer does not replace a newer one.

@@ -1,0 +1,115 @@
+#include "screens/kit/TabBarController.h"
+
+#include <functional>
+#include <utility>
+
+namespace guide {
+
+void TabBarController::addTab(TabBarItem item, std::shared_ptr<ViewController> root) {
+    m_tabs.push_back({std::move(item), std::make_unique<NavigationController>(std::move(root))});
+}
+
+NavigationController& TabBarController::selectedNavigationController() const {
+    return *m_tabs[static_cast<std::size_t>(m_selectedIndex)].navigationController;
+}
+
+void TabBarController::setSelectedIndex(int index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= m_tabs.size() || index == m_selectedIndex) {
+        return;
+    }
+    NavigationController& left = selectedNavigationController();
+    m_selectedIndex = index;
+    if (m_observer) {
+        m_observer->selectedTabChanged();
+    }
+    if (m_visible) {
+        left.setVisible(false);
+        selectedNavigationController().setVisible(true);
+    }
+}
+
+void TabBarController::tapTab(int index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= m_tabs.size() ||
+        !m_tabs[static_cast<std::size_t>(index)].item.enabled) {
+        return;
+    }
+    if (index == m_selectedIndex) {
+        selectedNavigationController().popToRoot();
+    } else {
+        setSelectedIndex(index);
+    }
+}
+
+void TabBarController::setTabEnabled(int index, bool enabled) {
+    if (index < 0 || static_cast<std::size_t>(index) >= m_tabs.size()) {
+        return;
+    }
+    bool& now = m_tabs[static_cast<std::size_t>(index)].item.enabled;
+    if (now != enabled) {
+        now = enabled;
+        if (m_observer) {
+            m_observer->tabBarItemChanged(index);
+        }
+    }
+}
+
+void TabBarController::setBadgeValue(int index, const QString& badgeValue) {
+    if (index < 0 || static_cast<std::size_t>(index) >= m_tabs.size()) {
+        return;
+    }
+    QString& now = m_tabs[static_cast<std::size_t>(index)].item.badgeValue;
+    if (now != badgeValue) {
+        now = badgeValue;
+        if (m_observer) {
+            m_observer->tabBarItemChanged(index);
+        }
+    }
+}
+
+void TabBarController::enableTabs() {
+    for (int index = 0; index < static_cast<int>(m_tabs.size()); ++index) {
+        setTabEnabled(index, true);
+    }
+}
+
+void TabBarController::disableTabs() {
+    const int last = static_cast<int>(m_tabs.size()) - 1;
+    setSelectedIndex(last);
+    for (int index = 0; index < last; ++index) {
+        setTabEnabled(index, false);
+    }
+}
+
+void TabBarController::makeVisible() {
+    if (!m_visible && !m_tabs.empty()) {
+        m_visible = true;
+        selectedNavigationController().setVisible(true);
+    }
+}
+
+void TabBarController::presentAlert(Alert alert) {
+    m_alerts.push_back(std::move(alert));
+    if (m_alerts.size() == 1 && m_observer) {
+        m_observer->alertChanged();
+    }
+}
+
+const Alert* TabBarController::presentedAlert() const {
+    return m_alerts.empty() ? nullptr : &m_alerts.front();
+}
+
+void TabBarController::answerAlert(std::size_t action) {
+    if (m_alerts.empty() || action >= m_alerts.front().actions.size()) {
+        return;
+    }
+    const std::function<void()> chosen = std::move(m_alerts.front().actions[action].action);
+    m_alerts.pop_front();
+    if (m_observer) {
+        m_observer->alertChanged();
+    }
+    if (chosen) {
+        chosen();
+    }
+}
+
+} // namespace guide

@@ -1,0 +1,54 @@
+#include "screens/shell/GuideTabs.h"
+
+#include "screens/Localized.h"
+#include "screens/root/RootViewController.h"
+#include "screens/shell/EmptyViewController.h"
+
+#include <utility>
+
+namespace guide {
+
+namespace {
+
+void addComingTab(TabBarController& tabs, const QString& title, Symbol symbol, const QString& message) {
+    tabs.addTab({title, symbol, true, {}}, std::make_shared<EmptyViewController>(
+                                               title, EmptyNote{Localized::tr("Nothing here yet"), message}));
+}
+
+} // namespace
+
+std::unique_ptr<TabBarController> makeGuideTabs(std::shared_ptr<const ScreenEnvironment> environment) {
+    auto tabs = std::make_unique<TabBarController>();
+    if (environment->device.userInterfaceIdiom() == UserInterfaceIdiom::Tablet) {
+        addComingTab(*tabs, Localized::tr("All Shows"), Symbol::AllShows,
+                     Localized::tr("All shows of all your channels come with a later version. What is on now "
+                                   "stands under Currently."));
+    }
+    tabs->addTab({Localized::tr("Currently"), Symbol::Currently, true, {}},
+                 std::make_shared<RootViewController>(std::move(environment)));
+    addComingTab(*tabs, Localized::tr("Categories"), Symbol::Categories,
+                 Localized::tr("Films, series, sport and the other kinds of shows come with a later version. "
+                               "What is on now stands under Currently."));
+    addComingTab(
+        *tabs, Localized::tr("Search"), Symbol::Search,
+        Localized::tr("Searching comes with a later version. What is on now stands under Currently."));
+    addComingTab(
+        *tabs, Localized::tr("Schedule"), Symbol::Schedule,
+        Localized::tr("The schedule of your alarms and favourites comes with a later version. What is "
+                      "on now stands under Currently."));
+    addComingTab(
+        *tabs, Localized::tr("Selected Channels"), Symbol::SelectedChannels,
+        Localized::tr("Choosing channels here comes with a later version. Until then, start the guide "
+                      "with --select and a file of channels."));
+    return tabs;
+}
+
+int currentlyTabIndex(UserInterfaceIdiom idiom) {
+    return idiom == UserInterfaceIdiom::Tablet ? 1 : 0;
+}
+
+int scheduleTabIndex(UserInterfaceIdiom idiom) {
+    return idiom == UserInterfaceIdiom::Tablet ? 4 : 3;
+}
+
+} // namespace guide

@@ -1,0 +1,104 @@
+#include "ui/Shell.h"
+
+#include "screens/Localized.h"
+
+#include <QVariantMap>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+Shell::Shell(TabBarController& tabBarController, UserInterfaceIdiom form, Theme& theme, QObject* parent)
+    : QAbstractListModel(parent)
+    , m_tabBarController(tabBarController)
+    , m_form(form) {
+    for (const TabBarController::Tab& tab : m_tabBarController.tabs()) {
+        m_stacks.push_back(new PageStack(*tab.navigationController, theme, this));
+    }
+    m_tabBarController.setObserver(this);
+}
+
+Shell::~Shell() {
+    m_tabBarController.setObserver(nullptr);
+}
+
+int Shell::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_stacks.size());
+}
+
+QVariant Shell::data(const QModelIndex& index, int role) const {
+    const auto number = static_cast<std::size_t>(index.row());
+    if (!index.isValid() || number >= m_stacks.size()) {
+        return {};
+    }
+    const TabBarItem& item = m_tabBarController.tabs()[number].item;
+    switch (role) {
+    case TitleRole:
+        return item.title;
+    case SymbolRole:
+        return static_cast<int>(item.symbol);
+    case EnabledRole:
+        return item.enabled;
+    case BadgeRole:
+        return item.badgeValue;
+    case StackRole:
+        return QVariant::fromValue(m_stacks[number]);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> Shell::roleNames() const {
+    return {{TitleRole, "title"},
+            {SymbolRole, "symbol"},
+            {EnabledRole, "tabEnabled"},
+            {BadgeRole, "badge"},
+            {StackRole, "stack"}};
+}
+
+QString Shell::alertTitle() const {
+    const Alert* alert = m_tabBarController.presentedAlert();
+    return alert ? alert->title : QString();
+}
+
+QString Shell::alertMessage() const {
+    const Alert* alert = m_tabBarController.presentedAlert();
+    return alert ? alert->message : QString();
+}
+
+QVariantList Shell::alertActions() const {
+    QVariantList actions;
+    if (const Alert* alert = m_tabBarController.presentedAlert()) {
+        for (const AlertAction& action : alert->actions) {
+            actions << QVariantMap{{u"title"_s, action.title}, {u"style"_s, static_cast<int>(action.style)}};
+        }
+    }
+    return actions;
+}
+
+QString Shell::backText() const {
+    return Localized::tr("Back");
+}
+
+void Shell::answerAlert(int action) {
+    m_tabBarController.answerAlert(static_cast<std::size_t>(action));
+}
+
+void Shell::escapeAlert() {
+    const Alert* alert = m_tabBarController.presentedAlert();
+    if (!alert) {
+        return;
+    }
+    for (std::size_t index = 0; index < alert->actions.size(); ++index) {
+        if (alert->actions[index].style == AlertAction::Style::Cancel || alert->actions.size() == 1) {
+            m_tabBarController.answerAlert(index);
+            return;
+        }
+    }
+}
+
+void Shell::tabBarItemChanged(int index) {
+    Q_EMIT dataChanged(this->index(index), this->index(index));
+}
+
+} // namespace guide

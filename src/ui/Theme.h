@@ -1,0 +1,112 @@
+#pragma once
+
+#include "ui/GuideWindow.h"
+#include "ui/Palette.h"
+
+#include <QColor>
+#include <QFont>
+#include <QList>
+#include <QObject>
+#include <QQmlEngine>
+
+#include <optional>
+
+namespace guide {
+
+/// The look of one window, for QML: colours of the scheme, fonts at the system's text size, lengths.
+class Theme : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+    Q_PROPERTY(bool dark READ dark NOTIFY colorsChanged)
+    /// By the number of a colour role.
+    Q_PROPERTY(QList<QColor> roles READ roles NOTIFY colorsChanged)
+    Q_PROPERTY(QColor label READ label NOTIFY colorsChanged)
+    Q_PROPERTY(QColor secondaryLabel READ secondaryLabel NOTIFY colorsChanged)
+    Q_PROPERTY(QColor background READ background NOTIFY colorsChanged)
+    Q_PROPERTY(QColor groupedBackground READ groupedBackground NOTIFY colorsChanged)
+    Q_PROPERTY(QColor tint READ tint NOTIFY colorsChanged)
+    Q_PROPERTY(QColor running READ running NOTIFY colorsChanged)
+    Q_PROPERTY(QColor alarm READ alarm NOTIFY colorsChanged)
+    Q_PROPERTY(QColor heading READ heading NOTIFY colorsChanged)
+    Q_PROPERTY(QColor separator READ separator NOTIFY colorsChanged)
+    Q_PROPERTY(QColor pressed READ pressed NOTIFY colorsChanged)
+    Q_PROPERTY(QColor tintedFill READ tintedFill NOTIFY colorsChanged)
+    Q_PROPERTY(QColor onTint READ onTint NOTIFY colorsChanged)
+    Q_PROPERTY(QColor onAlarm READ onAlarm NOTIFY colorsChanged)
+    Q_PROPERTY(QColor dim READ dim NOTIFY colorsChanged)
+
+    /// The system's text size over the ordinary one.
+    Q_PROPERTY(double textScale READ textScale NOTIFY fontsChanged)
+    Q_PROPERTY(QFont timeFont READ timeFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont raisedTimeFont READ raisedTimeFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont titleFont READ titleFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont detailsFont READ detailsFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont channelTitleFont READ channelTitleFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont headingFont READ headingFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont barTitleFont READ barTitleFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont buttonFont READ buttonFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont tabFont READ tabFont NOTIFY fontsChanged)
+
+    /// Milliseconds of a push, a pop or a change of rows; 0 where less motion is asked for.
+    Q_PROPERTY(int motion READ motion NOTIFY motionChanged)
+    Q_PROPERTY(bool moves READ moves NOTIFY motionChanged)
+
+  public:
+    explicit Theme(QObject* parent = nullptr);
+
+    bool dark() const { return m_scheme == ColorScheme::Dark; }
+    QList<QColor> roles() const;
+    QColor label() const { return palette().label; }
+    QColor secondaryLabel() const { return palette().secondaryLabel; }
+    QColor background() const { return palette().background; }
+    QColor groupedBackground() const { return palette().groupedBackground; }
+    QColor tint() const { return palette().tint; }
+    QColor running() const { return palette().running; }
+    QColor alarm() const { return palette().alarm; }
+    QColor heading() const { return palette().heading; }
+    QColor separator() const { return palette().separator; }
+    QColor pressed() const { return palette().pressed; }
+    QColor tintedFill() const { return palette().tintedFill; }
+    QColor onTint() const { return palette().onTint; }
+    QColor onAlarm() const { return palette().onAlarm; }
+    QColor dim() const { return palette().dim; }
+
+    double textScale() const { return m_textScale; }
+    QFont timeFont() const { return font(23, QFont::DemiBold); }
+    QFont raisedTimeFont() const { return font(11, QFont::Normal); }
+    QFont titleFont() const { return font(18, QFont::Bold); }
+    QFont detailsFont() const { return font(13, QFont::Normal); }
+    QFont channelTitleFont() const { return font(20, QFont::Bold); }
+    QFont headingFont() const { return font(15, QFont::Bold); }
+    QFont barTitleFont() const { return font(22, QFont::Bold); }
+    QFont buttonFont() const { return font(15, QFont::DemiBold); }
+    QFont tabFont() const { return font(11, QFont::DemiBold); }
+
+    int motion() const { return m_moves ? 200 : 0; }
+    bool moves() const { return m_moves; }
+
+    /// The system's scheme where unset.
+    void setScheme(std::optional<ColorScheme> scheme);
+    void setMoves(bool moves);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  Q_SIGNALS:
+    void colorsChanged();
+    void fontsChanged();
+    void motionChanged();
+
+  private:
+    const Palette& palette() const { return paletteOf(m_scheme); }
+    QFont font(double points, QFont::Weight weight) const;
+    void followSystem();
+
+    std::optional<ColorScheme> m_forcedScheme;
+    ColorScheme m_scheme = ColorScheme::Light;
+    double m_textScale = 1;
+    bool m_moves = true;
+};
+
+} // namespace guide

@@ -1,0 +1,33 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quellin
+
+// A button that a symbol stands for.
+T.AbstractButton {
+    id: button
+
+    required property int symbol
+
+    implicitWidth: 44
+    implicitHeight: 44
+    focusPolicy: Qt.TabFocus
+
+    Accessible.name: text
+
+    background: Rectangle {
+        radius: height / 2
+        color: button.pressed ? Theme.pressed : "transparent"
+        border.width: button.visualFocus ? 2 : 0
+        border.color: Theme.tint
+    }
+
+    contentItem: Item {
+        Glyph {
+            anchors.centerIn: parent
+            width: 24
+            height: 24
+            symbol: button.symbol
+            color: Theme.tint
+        }
+    }
+}

@@ -1,0 +1,45 @@
+import QtQuick
+import Quellin
+
+// The tabs of a phone, at the bottom.
+Rectangle {
+    id: bar
+
+    required property Shell shell
+
+    implicitHeight: row.implicitHeight
+    color: Theme.groupedBackground
+
+    Accessible.role: Accessible.PageTabList
+
+    Row {
+        id: row
+
+        width: Math.min(parent.width - 8, 720)
+        anchors.horizontalCenter: parent.horizontalCenter
+
+        Repeater {
+            id: tabs
+
+            model: bar.shell
+
+            TabButton {
+                required property int index
+                required property string title
+                required property bool tabEnabled
+
+                width: row.width / Math.max(1, tabs.count)
+                text: title
+                enabled: tabEnabled
+                current: index === bar.shell.selectedIndex
+                onClicked: bar.shell.tapTab(index)
+            }
+        }
+    }
+
+    Rectangle {
+        width: parent.width
+        height: 1
+        color: Theme.separator
+    }
+}

@@ -1,0 +1,210 @@
+#pragma once
+
+#include "fakes/FakeApplicationState.h"
+#include "fakes/FakeBackgroundTasks.h"
+#include "fakes/FakeDevice.h"
+#include "fakes/ManualClock.h"
+#include "fakes/ManualQueues.h"
+#include "fakes/MemoryKeyValueStore.h"
+#include "fakes/MemoryUserDefaults.h"
+#include "screens/shell/GuideTabs.h"
+#include "screens/shell/ScreenBroadcast.h"
+#include "screens/shell/ScreenEnvironment.h"
+
+#include <QSet>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <map>
+
+namespace guide::test {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+struct WorldFavorites final : FavoriteQuestions {
+    bool containsFavoriteNamed(const QString& title) const override { return titles.contains(title); }
+    bool hasFavorites() const override { return !titles.isEmpty(); }
+    QSet<QString> titles;
+};
+
+struct WorldAlarms final : AlarmQuestions, AlarmSynchronisation {
+    int alarmedEntry(const TVEntry& entry) const override {
+        return entry.title() && titles.contains(*entry.title()) ? 0 : -1;
+    }
+    int eventCount() const override { return static_cast<int>(titles.size()); }
+    void setSynchronized(bool) override {}
+    void syncAlarms() override {}
+    QSet<QString> titles;
+};
+
+struct WorldPopularShows final : PopularShows {
+    ShowList popularShows() const override { return nullptr; }
+    bool contains(const ShowItem& item) const override {
+        return item.entry()->title() && titles.contains(*item.entry()->title());
+    }
+    void refresh() override {}
+    QSet<QString> titles;
+};
+
+struct WorldApp final : AppActions {
+    void checkAndUpdateAllChannels() override { done << u"check"_s; }
+    void resynchronizeAlarms() override { done << u"alarms"_s; }
+    void playURL(const QUrl& url) override { done << u"play "_s + QString::fromLatin1(url.toEncoded()); }
+    bool imagesEnabled() const override { return images; }
+    bool colorizedShows() const override { return colorized; }
+    std::chrono::seconds automaticUpdateInterval() const override { return 24h; }
+
+    /// What was asked of the application, in order.
+    QStringList done;
+    bool images = true;
+    bool colorized = true;
+};
+
+/// Keeps what it was asked for, so that a test can answer.
+struct WorldPictures final : ShowPictures {
+    void asyncLoadOfShowImageAtURL(const QUrl& url, MainBlock<QImage> mainBlock) override {
+        pictures.emplace(url.toString(), std::move(mainBlock));
+    }
+    void loadDetailsOfShows(ShowItems shows, MainBlock<ShowItems, std::vector<QImage>> mainBlock) override {
+        details.emplace_back(std::move(shows), std::move(mainBlock));
+    }
+    std::map<QString, MainBlock<QImage>> pictures;
+    std::vector<std::pair<ShowItems, MainBlock<ShowItems, std::vector<QImage>>>> details;
+};
+
+struct WorldShow {
+    /// Minutes from the clock's start.
+    int from = 0;
+    int until = 0;
+    QString title;
+    QString details = {};
+    QSet<QUrl> pictures = {};
+};
+
+/// The screens of a guide on hand-cranked queues, over a real store in a folder of its own.
+class ScreenWorld {
+  public:
+    explicit ScreenWorld(UserInterfaceIdiom idiom = UserInterfaceIdiom::Phone,
+                         const QString& iconFolder = QString()) {
+        device.idiom = idiom;
+        m_iconFolder = iconFolder;
+    }
+    ~ScreenWorld() {
+        tabs.reset();
+        queues.runAll();
+    }
+
+    static ObjectId channelId(int number) {
+        return ObjectId::fromHex(u"%1"_s.arg(number, 24, 16, QLatin1Char('0')));
+    }
+
+    /// To be called before start().
+    ObjectId addChannel(const QString& title, bool select = true, const ChannelDictionary& more = {}) {
+        const ObjectId id = channelId(static_cast<int>(m_catalogue.size()) + 1);
+        ChannelDictionary row{{u"Title"_s, title}, {u"Language"_s, u"cs"_s}, {u"Icon"_s, u"x/"_s + title}};
+        for (auto entry = more.cbegin(); entry != more.cend(); ++entry) {
+            row.insert(entry.key(), entry.value());
+        }
+        m_catalogue.emplace(id, row);
+        if (select) {
+            m_selected.push_back(id);
+        }
+        return id;
+    }
+
+    void start() {
+        const QString path = folder.path();
+        folders = {path, path, path, path, path, path};
+        const auto catalogue = std::make_shared<const ChannelData>(m_catalogue);
+        icons = std::make_unique<TVStationIcons>(m_iconFolder.isEmpty() ? path : m_iconFolder, 2);
+        channels = std::make_unique<TVChannels>(folders, keyValueStore, queues, catalogue);
+        channels->setSelected(m_selected);
+        listings = std::make_unique<TVListings>(TVListingsEnvironment{
+            clock, device, folders, queues, tasks, state, userDefaults, *channels, *icons, catalogue,
+            alphabet, favorites, popular, alarms, u"guide"_s, [this] { return showCount; }});
+        environment = std::make_shared<const ScreenEnvironment>(
+            ScreenEnvironment{clock, device, queues.mainQueue(), *loadQueue, state, *listings, *channels,
+                              *icons, catalogue, alphabet, favorites, alarms, popular, pictures, app});
+        tabs = makeGuideTabs(environment);
+        broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
+        queues.runAll();
+    }
+
+    ExtendedTVEntry entry(const ObjectId& channel, const WorldShow& show) const {
+        auto basic = std::make_shared<TVEntry>(alphabet);
+        basic->setChannel(channel);
+        basic->setDateTime(begin + std::chrono::minutes(show.from));
+        basic->setEndDateTime(begin + std::chrono::minutes(show.until));
+        basic->setIdentificator(show.title);
+        if (!show.details.isEmpty()) {
+            basic->setInstantDetails1(show.details);
+        }
+        auto extra = show.pictures.isEmpty() ? nullptr : std::make_shared<TVEntrySupplementalData>();
+        return {std::move(basic), 0, std::move(extra), show.pictures};
+    }
+    ShowSpan list(const ObjectId& channel, const std::vector<WorldShow>& shows) const {
+        ShowItems items;
+        for (const WorldShow& show : shows) {
+            items.emplace_back(entry(channel, show));
+        }
+        return ShowSpan(std::move(items));
+    }
+    /// What the update cycle does with a freshly read list, up to the screens.
+    void load(const ObjectId& channel, const std::vector<WorldShow>& shows) {
+        ParsedLists parsed;
+        for (const WorldShow& show : shows) {
+            parsed[channel].push_back(entry(channel, show));
+        }
+        const MergeResult merged =
+            listings->merge({{channel, u"source"_s, u"cs"_s}}, std::move(parsed), clock.now(), 1);
+        queues.runAll();
+        TopShows top;
+        for (const auto& [id, stored] : merged.lists) {
+            top.emplace(id, ShowSpan(stored).prefix(static_cast<std::size_t>(showCount)));
+        }
+        broadcast->offerTopShows(top);
+        queues.runAll();
+    }
+
+    /// Everything appears and settles.
+    void show() {
+        tabs->makeVisible();
+        queues.runAll();
+    }
+
+    ViewController& top() const { return *tabs->selectedNavigationController().topViewController(); }
+
+    const QTemporaryDir folder;
+    ManualClock clock;
+    const Moment begin = clock.now();
+    ManualQueues queues{clock};
+    FakeDevice device;
+    FakeApplicationState state;
+    FakeBackgroundTasks tasks;
+    MemoryUserDefaults userDefaults;
+    MemoryKeyValueStore keyValueStore;
+    Alphabet alphabet;
+    WorldFavorites favorites;
+    WorldAlarms alarms;
+    WorldPopularShows popular;
+    WorldPictures pictures;
+    WorldApp app;
+    int showCount = 4;
+    Folders folders;
+    std::shared_ptr<DispatchQueue> loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial);
+    std::unique_ptr<TVStationIcons> icons;
+    std::unique_ptr<TVChannels> channels;
+    std::unique_ptr<TVListings> listings;
+    std::shared_ptr<const ScreenEnvironment> environment;
+    std::unique_ptr<TabBarController> tabs;
+    std::unique_ptr<ScreenBroadcast> broadcast;
+
+  private:
+    QString m_iconFolder;
+    ChannelData m_catalogue;
+    std::vector<ObjectId> m_selected;
+};
+
+} // namespace guide::test
