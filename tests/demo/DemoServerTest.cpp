@@ -123,6 +123,10 @@ struct Wrong {
     bool (*right)(const Fetched&);
 };
 
+void PrintTo(const Wrong& wrong, std::ostream* out) {
+    *out << wrong.name;
+}
+
 class Misbehaving : public DemoServerTest, public testing::WithParamInterface<Wrong> {};
 
 TEST_P(Misbehaving, GoesWrongAsItWasTold) {

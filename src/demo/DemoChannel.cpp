@@ -1,0 +1,134 @@
+#include "demo/DemoChannel.h"
+
+#include <algorithm>
+#include <array>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Row {
+    QStringView key;
+    QStringView title;
+    QStringView language;
+    QStringView region;
+    Character character;
+    /// Separated by blanks, as the sources are.
+    QStringView spoken;
+    const char* zone;
+    QStringView films;
+    QStringView sources;
+};
+
+constexpr QStringView kAllFilms = u"comedy drama crime adventure romance thriller comedy";
+constexpr QStringView kEveryFilm =
+    u"comedy drama crime adventure romance thriller scifi fantasy horror western drama comedy";
+constexpr QStringView kOldFilms = u"comedy romance crime adventure western drama";
+
+// The source ids of a row say which feed it is in; the feed's own channel id is the key and ".demo".
+constexpr std::array kRows = {
+    Row{u"vyhled", u"Výhled", u"cs", u"Czech", Character::General, u"cs", "Europe/Prague", kAllFilms,
+        u"r.domov.vyhled.demo n.vyhled.demo"},
+    Row{u"minuta", u"Minuta", u"cs", u"Czech", Character::News, u"cs", "Europe/Prague", u"",
+        u"r.domov.minuta.demo %1/feeds/minuta.xml"},
+    Row{u"platno", u"Plátno", u"cs", u"Czech", Character::Film, u"cs", "Europe/Prague", kEveryFilm,
+        u"n.platno.demo"},
+    Row{u"pametnik", u"Pamětník", u"cs", u"Czech", Character::OldFilm, u"cs", "Europe/Prague", kOldFilms,
+        u"n.pametnik.demo"},
+    Row{u"polocas", u"Poločas", u"cs", u"Czech", Character::Sport, u"cs", "Europe/Prague", u"", u"polocas"},
+    Row{u"knoflik", u"Knoflík", u"cs", u"Czech", Character::Children, u"cs", "Europe/Prague", u"",
+        u"r.domov.knoflik.demo"},
+    Row{u"ozvena", u"Ozvěna", u"cs", u"Czech", Character::Music, u"cs", "Europe/Prague", u"", u"ozvena.tv"},
+    Row{u"polednik", u"Poledník", u"cs", u"Czech", Character::Documentary, u"cs", "Europe/Prague", u"",
+        u"polednik.tv"},
+    Row{u"pokracovani", u"Pokračování", u"cs", u"Czech", Character::Series, u"cs", "Europe/Prague", u"",
+        u"r.domov.pokracovani.demo"},
+    Row{u"stopa", u"Stopa", u"cs", u"Other", Character::Crime, u"cs", "Europe/Prague",
+        u"crime thriller crime", u"n.stopa.demo"},
+    Row{u"zahradka", u"Zahrádka", u"cs", u"Other", Character::Hobby, u"cs", "Europe/Prague", u"",
+        u"n.zahradka.demo"},
+    Row{u"dvojhlas", u"Dvojhlas", u"cs/sk", u"Other", Character::General, u"cs sk", "Europe/Bratislava",
+        kAllFilms, u"s.dvojhlas.demo"},
+    Row{u"hokejka", u"Hokejka", u"cs/sk", u"Other", Character::Sport, u"sk cs", "Europe/Bratislava", u"",
+        u"s.hokejka.demo"},
+    Row{u"vatra", u"Vatra", u"sk", u"Slovak", Character::General, u"sk", "Europe/Bratislava", kAllFilms,
+        u"s.vatra.demo"},
+    Row{u"hodina", u"Hodina", u"sk", u"Slovak", Character::News, u"sk", "Europe/Bratislava", u"",
+        u"s.hodina.demo"},
+    Row{u"premietaren", u"Premietáreň", u"sk", u"Slovak", Character::Film, u"sk", "Europe/Bratislava",
+        kEveryFilm, u"s.premietaren.demo"},
+    Row{u"haluzka", u"Halúzka", u"sk", u"Slovak", Character::Children, u"sk", "Europe/Bratislava", u"",
+        u"s.haluzka.demo"},
+    Row{u"harbour", u"Harbour", u"en", u"Other", Character::GeneralWest, u"en", "Europe/London", kAllFilms,
+        u"r.islands.harbour.demo"},
+    Row{u"lantern", u"Lantern", u"en", u"Other", Character::Film, u"en", "Europe/London", kEveryFilm,
+        u"r.islands.lantern.demo"},
+    Row{u"wayfarer", u"Wayfarer", u"en", u"Other", Character::Documentary, u"en", "Europe/London", u"",
+        u"r.islands.wayfarer.demo"},
+    Row{u"belvedere", u"Belvédère", u"fr", u"Other", Character::GeneralWest, u"fr", "Europe/Paris", kAllFilms,
+        u"tvpc.belvedere.demo"},
+    Row{u"projecteur", u"Projecteur", u"fr", u"Other", Character::Film, u"fr", "Europe/Paris", kEveryFilm,
+        u"tvpc.projecteur.demo"},
+    Row{u"erguvan", u"Erguvan", u"tr", u"Other", Character::GeneralEast, u"tr", "Europe/Istanbul", kAllFilms,
+        u"tvpc.erguvan.demo"},
+    Row{u"perde", u"Perde", u"tr", u"Other", Character::Film, u"tr", "Europe/Istanbul", kEveryFilm,
+        u"tvpc.perde.demo"},
+    Row{u"okolitsa", u"Околица", u"ru", u"Other", Character::GeneralEast, u"ru", "Europe/Moscow", kAllFilms,
+        u"%1/feeds/okolitsa.xml.gz"},
+    Row{u"kinovar", u"Киноварь", u"ru", u"Other", Character::Film, u"ru", "Europe/Moscow", kEveryFilm,
+        u"%1/feeds/kinovar.xml"},
+};
+
+constexpr std::array<QStringView, 12> kSelected = {u"vyhled",  u"minuta",    u"platno",   u"knoflik",
+                                                   u"polocas", u"vatra",     u"dvojhlas", u"polednik",
+                                                   u"harbour", u"belvedere", u"erguvan",  u"okolitsa"};
+
+QStringList words(QStringView text) {
+    return text.toString().split(u' ', Qt::SkipEmptyParts);
+}
+
+DemoChannel channelOf(const Row& row, int number) {
+    DemoChannel channel{.key = row.key.toString(),
+                        .title = row.title.toString(),
+                        .location = u"9b1d3f5a7c2e4608%1"_s.arg(number, 8, 16, QChar(u'0')),
+                        .language = row.language.toString(),
+                        .region = row.region.toString(),
+                        .character = row.character,
+                        .spoken = words(row.spoken),
+                        .zone = row.zone,
+                        .films = {},
+                        .sources = words(row.sources),
+                        .feedId = row.key.toString() + u".demo"_s,
+                        .number = number};
+    for (const QString& film : words(row.films)) {
+        channel.films.append(u"film_"_s + film);
+    }
+    return channel;
+}
+
+} // namespace
+
+const std::vector<DemoChannel>& demoChannels() {
+    static const std::vector<DemoChannel> channels = [] {
+        std::vector<DemoChannel> made;
+        for (const Row& row : kRows) {
+            made.push_back(channelOf(row, int(made.size()) + 1));
+        }
+        return made;
+    }();
+    return channels;
+}
+
+QStringList demoSelection() {
+    QStringList selection;
+    for (const QStringView key : kSelected) {
+        const auto it = std::find_if(demoChannels().begin(), demoChannels().end(),
+                                     [key](const DemoChannel& channel) { return channel.key == key; });
+        selection.append(it->location);
+    }
+    return selection;
+}
+
+} // namespace guide

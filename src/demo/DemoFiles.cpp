@@ -1,0 +1,69 @@
+#include "demo/DemoFiles.h"
+
+#include "demo/DemoChannel.h"
+#include "demo/DemoFeed.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QXmlStreamWriter>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void writePair(QXmlStreamWriter& xml, const QString& key, const QString& value) {
+    xml.writeTextElement(u"key"_s, key);
+    xml.writeTextElement(u"string"_s, value);
+}
+
+void writeChannel(QXmlStreamWriter& xml, const DemoChannel& channel, const QString& base) {
+    xml.writeStartElement(u"dict"_s);
+    writePair(xml, u"Location"_s, channel.location);
+    writePair(xml, u"Title"_s, channel.title);
+    writePair(xml, u"Language"_s, channel.language);
+    writePair(xml, u"Icon"_s, channel.region + u'/' + channel.key);
+    for (qsizetype i = 0; i < channel.sources.size(); ++i) {
+        writePair(xml, u"Location%1"_s.arg(i + 1), QString(channel.sources[i]).replace("%1"_L1, base));
+    }
+    xml.writeEndElement();
+}
+
+} // namespace
+
+QByteArray demoCatalogue(const QString& base) {
+    QByteArray bytes;
+    QXmlStreamWriter xml(&bytes);
+    xml.setAutoFormatting(true);
+    xml.writeStartDocument();
+    xml.writeStartElement(u"plist"_s);
+    xml.writeAttribute(u"version"_s, u"1.0"_s);
+    xml.writeStartElement(u"dict"_s);
+    xml.writeTextElement(u"key"_s, u"Channels"_s);
+    xml.writeStartElement(u"array"_s);
+    for (const DemoChannel& channel : demoChannels()) {
+        writeChannel(xml, channel, base);
+    }
+    xml.writeEndDocument();
+    return bytes;
+}
+
+QByteArray demoHosts(const QString& base) {
+    const QJsonObject hosts{{u"RytecMirrorA"_s, base},
+                            {u"RytecMirrorB"_s, base + u"/epg_data"_s},
+                            {u"NFeedHost"_s, base},
+                            {u"SFeedHost"_s, base},
+                            {u"TVPCFeedHost"_s, base},
+                            {u"BNetHost"_s, base},
+                            {u"BNetDomain"_s, QString::fromLatin1(kDayFileDomain)},
+                            {u"TVProfilHost"_s, base}};
+    return QJsonDocument(hosts).toJson();
+}
+
+QByteArray demoSelectionFile() {
+    return QJsonDocument(QJsonArray::fromStringList(demoSelection())).toJson();
+}
+
+} // namespace guide

@@ -1,0 +1,147 @@
+#include "demo/DemoWorld.h"
+
+#include "core/ChannelCatalogue.h"
+#include "demo/Client.h"
+#include "demo/DemoChannel.h"
+#include "demo/ScheduleGenerator.h"
+#include "demo/Unpacking.h"
+#include "platform/CharacterSets.h"
+#include "sources/URLPlanner.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTimeZone>
+
+#include <gtest/gtest.h>
+#include <libxml/parser.h>
+#include <libxml/tree.h>
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace guide {
+
+namespace {
+
+using tests::Fetched;
+using tests::fetched;
+
+// Six in the evening in Prague, two hours later in Moscow.
+constexpr Moment kNow{std::chrono::sys_days(std::chrono::year(2026) / 11 / 21) + std::chrono::hours(17)};
+
+struct XMLFree {
+    void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
+};
+
+QString attribute(xmlNode* node, const char* name) {
+    xmlChar* const value = xmlGetProp(node, reinterpret_cast<const xmlChar*>(name));
+    const QString text = QString::fromUtf8(reinterpret_cast<const char*>(value));
+    xmlFree(value);
+    return text;
+}
+
+/// The page as the fetcher would unpack it; only what is well-formed XML has programmes.
+std::map<QString, int> programmeCounts(const Fetched& got) {
+    QByteArray page = got.body;
+    if (got.contentType == "application/x-xz") {
+        const tests::Unpacked unpacked = tests::unxz(page, 100'000'000);
+        EXPECT_TRUE(unpacked.whole);
+        // The guide gives an xz page no more room than that.
+        EXPECT_LE(unpacked.size, std::uint64_t(page.size()) * 23);
+        page = unpacked.begin;
+    } else if (got.contentType == "application/x-gzip") {
+        const tests::Unpacked unpacked = tests::ungzipped(page, 100'000'000);
+        EXPECT_TRUE(unpacked.whole);
+        page = unpacked.begin;
+    }
+    const std::unique_ptr<xmlDoc, XMLFree> document(
+        xmlReadMemory(page.constData(), int(page.size()), "feed", nullptr, XML_PARSE_NONET));
+    std::map<QString, int> counts;
+    if (!document) {
+        ADD_FAILURE() << "not well-formed";
+        return counts;
+    }
+    for (xmlNode* node = xmlDocGetRootElement(document.get())->children; node != nullptr; node = node->next) {
+        if (node->type == XML_ELEMENT_NODE &&
+            xmlStrEqual(node->name, reinterpret_cast<const xmlChar*>("programme"))) {
+            ++counts[attribute(node, "channel")];
+        }
+    }
+    return counts;
+}
+
+class DemoWorldTest : public testing::Test {
+  protected:
+    void SetUp() override { ASSERT_TRUE(world); }
+
+    QTemporaryDir folder;
+    std::unique_ptr<DemoWorld> world = DemoWorld::create(folder.path() + u"/new/demo"_s, kNow);
+};
+
+// The guide's own reader and planner find every channel's feeds, and each has the channel's whole schedule.
+TEST_F(DemoWorldTest, EverySourceOfEveryChannelLeadsToItsSchedule) {
+    const auto rows = channelsOfPropertyList(world->cataloguePath());
+    ASSERT_TRUE(rows);
+    ASSERT_EQ(rows->size(), demoChannels().size());
+    const auto hosts = SourceHostTable::fromFile(world->hostsPath());
+    ASSERT_TRUE(hosts);
+    unsigned mirror = 0;
+    const URLPlanner planner(*hosts, [&mirror](unsigned bound) { return mirror++ % bound; });
+
+    for (std::size_t i = 0; i < rows->size(); ++i) {
+        const DemoChannel& channel = demoChannels()[i];
+        const QDate firstDay = broadcastDay(kNow, channel.zone).addDays(-1);
+        const auto all = schedule(channel, firstDay, 8);
+        int sources = 0;
+        for (const QString& key : {u"Location1"_s, u"Location2"_s}) {
+            const auto source = channelValue((*rows)[i], key);
+            if (!source) {
+                continue;
+            }
+            ++sources;
+            const auto urls = planner.urlsForSourceId(*source, kNow, channel.language, QTimeZone::utc());
+            ASSERT_TRUE(urls) << qUtf8Printable(*source);
+            int count = 0;
+            for (const QUrl& url : *urls) {
+                const Fetched got = fetched(url.toString(QUrl::FullyEncoded));
+                EXPECT_EQ(got.status, 200) << qUtf8Printable(url.toString());
+                count += programmeCounts(got)[channel.feedId];
+            }
+            // Day files are planned for seven calendar days of the eight from six to six.
+            if (urls->size() == 1) {
+                EXPECT_EQ(count, int(all.size())) << qUtf8Printable(*source);
+            } else {
+                EXPECT_EQ(urls->size(), 7);
+                EXPECT_GT(count, int(all.size()) * 3 / 4);
+                EXPECT_LT(count, int(all.size()));
+            }
+        }
+        EXPECT_GE(sources, 1);
+    }
+}
+
+TEST_F(DemoWorldTest, CatalogueCountsAsNewerThanWhatAnEarlierRunKept) {
+    const QDateTime later = QDateTime::fromMSecsSinceEpoch(kNow.time_since_epoch().count()).addDays(30);
+    EXPECT_GT(QFileInfo(world->cataloguePath()).lastModified(), later);
+    EXPECT_GT(QFileInfo(world->cataloguePath()).lastModified(), QDateTime::currentDateTime().addDays(30));
+}
+
+TEST_F(DemoWorldTest, RussianBytesAreWhatTheirHeaderSays) {
+    const Fetched got = fetched(world->server().base() + u"/feeds/kinovar.xml"_s);
+    EXPECT_EQ(got.contentType, "text/xml; charset=windows-1251");
+    const auto page = utf8FromCharacterSet(got.body, u"WINDOWS-1251"_s);
+    ASSERT_TRUE(page);
+    EXPECT_TRUE(QString::fromUtf8(*page).contains(u"Киноварь"_s));
+}
+
+TEST(DemoWorld, AFolderThatCannotBeWrittenGivesNoWorld) {
+    EXPECT_FALSE(DemoWorld::create(u"/proc/nowhere"_s, kNow));
+}
+
+} // namespace
+
+} // namespace guide
