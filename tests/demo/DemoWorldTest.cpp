@@ -124,6 +124,41 @@ TEST_F(DemoWorldTest, EverySourceOfEveryChannelLeadsToItsSchedule) {
     }
 }
 
+TEST_F(DemoWorldTest, SelectsTwelveOfItsChannelsEachWithAnIcon) {
+    const auto rows = channelsOfPropertyList(world->cataloguePath());
+    ASSERT_TRUE(rows);
+    const auto types =
+        SupportedChannelTypes::fromFile(QStringLiteral(QUELLIN_SOURCE_DATA "/supported-channel-types.json"));
+    const QDir icons(QStringLiteral(QUELLIN_SOURCE_DATA "/icons"));
+    const auto kept = filteredChannels(
+        *rows, types, [&icons](const QString& name) { return icons.exists(name + u".png"_s); });
+    ASSERT_EQ(kept.size(), rows->size());
+    QSet<QString> known;
+    QSet<QString> languages;
+    for (const ChannelDictionary& row : kept) {
+        known.insert(*channelValue(row, u"Location"_s));
+        languages.insert(*channelValue(row, u"Language"_s));
+    }
+    EXPECT_GE(known.size(), 24);
+    EXPECT_EQ(languages, QSet<QString>({u"cs"_s, u"cs/sk"_s, u"sk"_s, u"en"_s, u"fr"_s, u"tr"_s, u"ru"_s}));
+
+    QFile file(world->selectionPath());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonArray selection = QJsonDocument::fromJson(file.readAll()).array();
+    QSet<QString> selected;
+    for (const QJsonValue& id : selection) {
+        EXPECT_TRUE(known.contains(id.toString()));
+        selected.insert(id.toString());
+    }
+    EXPECT_EQ(selected.size(), 12);
+}
+
+TEST(ShippedCatalogue, IsValidAndEmpty) {
+    const auto rows = channelsOfPropertyList(QStringLiteral(QUELLIN_SOURCE_DATA "/Data.plist"));
+    ASSERT_TRUE(rows);
+    EXPECT_TRUE(rows->empty());
+}
+
 TEST_F(DemoWorldTest, CatalogueCountsAsNewerThanWhatAnEarlierRunKept) {
     const QDateTime later = QDateTime::fromMSecsSinceEpoch(kNow.time_since_epoch().count()).addDays(30);
     EXPECT_GT(QFileInfo(world->cataloguePath()).lastModified(), later);
