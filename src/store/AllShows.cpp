@@ -1,73 +1,45 @@
 #include "store/AllShows.h"
 
 #include <algorithm>
-#include <span>
+#include <limits>
 #include <tuple>
+#include <unordered_map>
 
 namespace guide {
 
 namespace {
 
-struct StartedShow {
-    Moment start;
-    const ShowItem* show;
-};
+constexpr std::uint32_t kGone = std::numeric_limits<std::uint32_t>::max();
 
-bool earlier(const StartedShow& a, const StartedShow& b) {
-    return a.start < b.start;
+bool earlier(const AllShows::Show& a, const AllShows::Show& b) {
+    return std::tie(a.start, a.list) < std::tie(b.start, b.list);
 }
 
-/// A show that holds the pattern: its start, and the numbers of its list and its place there.
-struct Hit {
-    Moment start;
-    std::size_t list;
-    std::size_t index;
-};
-
-bool earlierHit(const Hit& a, const Hit& b) {
-    return std::tie(a.start, a.list, a.index) < std::tie(b.start, b.list, b.index);
-}
-
-/// How far a search has come in one list: at its next show that holds the pattern.
-struct SearchCursor {
-    std::size_t list;
-    std::size_t next;
-};
-
-constexpr std::chrono::hours kFirstSearchSpan{1};
-constexpr std::chrono::hours kLongestSearchSpan{24 * 365 * 100};
-
-/// By how much to widen a search that has found so many of the shows that it may find.
-double searchSpanGrowth(std::size_t found, std::size_t limit) {
-    constexpr double kLeast = 1.2;
-    constexpr double kMost = 4;
-    constexpr double kMargin = 1.1;
-    return found == 0
-               ? kMost
-               : std::clamp(kMargin * static_cast<double>(limit) / static_cast<double>(found), kLeast, kMost);
-}
-
-} // namespace
-
-std::vector<const ShowItem*> AllShows::merged() const {
-    std::size_t count = 0;
-    for (const auto& list : m_lists) {
-        count += list->size();
+/// What became of the lists of a former state: their numbers in the new one, or kGone.
+std::vector<std::uint32_t> newNumbers(const AllShows::Lists& former, const AllShows::Lists& lists) {
+    std::unordered_map<const ChannelList*, std::uint32_t> numbers;
+    for (std::uint32_t i = 0; i < lists.size(); ++i) {
+        numbers.emplace(lists[i].get(), i);
     }
-    std::vector<StartedShow> shows;
-    shows.reserve(count);
-    // Each list is a sorted run; neighbouring runs are merged until one is left.
-    std::vector<std::size_t> borders{0};
-    for (const auto& list : m_lists) {
-        for (std::size_t i = 0; i < list->size(); ++i) {
-            if (holds(*list, i)) {
-                shows.push_back({list->startOf(i), &(*list)[i]});
-            }
-        }
-        borders.push_back(shows.size());
+    std::vector<std::uint32_t> result;
+    result.reserve(former.size());
+    for (const auto& list : former) {
+        const auto number = numbers.find(list.get());
+        result.push_back(number == numbers.end() ? kGone : number->second);
     }
-    std::vector<StartedShow> other(shows.size());
-    const auto at = [](std::vector<StartedShow>& of, std::size_t index) {
+    return result;
+}
+
+/// Whether the lists that are left stand in the same order as before.
+bool orderKept(std::vector<std::uint32_t> newNumbers) {
+    std::erase(newNumbers, kGone);
+    return std::is_sorted(newNumbers.begin(), newNumbers.end());
+}
+
+/// Merges neighbouring sorted runs until one is left. `borders` are the indices between runs, with both ends.
+void mergeRuns(std::vector<AllShows::Show>& shows, std::vector<std::size_t> borders) {
+    std::vector<AllShows::Show> other(borders.size() > 2 ? shows.size() : 0);
+    const auto at = [](std::vector<AllShows::Show>& of, std::size_t index) {
         return of.begin() + static_cast<std::ptrdiff_t>(index);
     };
     while (borders.size() > 2) {
@@ -82,55 +54,156 @@ std::vector<const ShowItem*> AllShows::merged() const {
         shows.swap(other);
         borders = std::move(mergedBorders);
     }
-    std::vector<const ShowItem*> result;
-    result.reserve(shows.size());
-    for (const StartedShow& show : shows) {
-        result.push_back(show.show);
-    }
-    return result;
 }
 
-const std::vector<const ShowItem*>& AllShows::shows() const {
-    std::call_once(m_showsOnce, [this] { m_shows = merged(); });
+} // namespace
+
+AllShows::AllShows(Lists lists, Moment endingAfter, const std::shared_ptr<const AllShows>& previous)
+    : m_lists(std::move(lists))
+    , m_endingAfter(endingAfter)
+    , m_base(previous ? previous->lastMade(previous) : nullptr) {}
+
+std::shared_ptr<const AllShows> AllShows::lastMade(std::shared_ptr<const AllShows> self) const {
+    const std::lock_guard guard(m_guard);
+    return m_showsMade ? std::move(self) : m_base;
+}
+
+const std::vector<AllShows::Show>& AllShows::shows() const {
+    std::call_once(m_makingShows, [this] {
+        std::shared_ptr<const AllShows> base;
+        {
+            const std::lock_guard guard(m_guard);
+            base = m_base;
+        }
+        make(base.get());
+        const std::lock_guard guard(m_guard);
+        m_showsMade = true;
+        m_textMade = m_text != nullptr;
+        m_base.reset();
+    });
     return m_shows;
 }
 
-ShowItems AllShows::showsContaining(const QByteArray& searchPattern, Moment now, std::size_t limit) const {
-    std::vector<SearchCursor> cursors;
-    for (std::size_t i = 0; i < m_lists.size(); ++i) {
-        const std::size_t first = m_lists[i]->searchText().find(searchPattern, 0);
-        if (first < m_lists[i]->size()) {
-            cursors.push_back({i, first});
+const SearchText& AllShows::searchText() const {
+    shows();
+    std::call_once(m_makingText, [this] {
+        if (m_text) {
+            return;
         }
-    }
-    // The lists are searched one after the other, each up to the same moment, which moves on until there are
-    // shows enough: each text is read once, and of a frequent pattern little more than what is answered.
-    std::vector<Hit> hits;
-    std::chrono::milliseconds span = kFirstSearchSpan;
-    while (!cursors.empty() && hits.size() < limit) {
-        const Moment upTo = span < kLongestSearchSpan ? now + span : Moment::max();
-        for (SearchCursor& cursor : cursors) {
-            const ChannelList& list = *m_lists[cursor.list];
-            while (cursor.next < list.size() && list.startOf(cursor.next) <= upTo) {
-                if (list.endOf(cursor.next) >= now && holds(list, cursor.next)) {
-                    hits.push_back({list.startOf(cursor.next), cursor.list, cursor.next});
-                }
-                cursor.next = list.searchText().find(searchPattern, cursor.next + 1);
+        auto text = std::make_unique<SearchText>();
+        text->reserve(m_shows.size(), 0);
+        for (const Show& show : m_shows) {
+            text->append(*show.item);
+        }
+        m_text = std::move(text);
+        const std::lock_guard guard(m_guard);
+        m_textMade = true;
+    });
+    return *m_text;
+}
+
+const SearchText* AllShows::searchTextIfMade() const {
+    const std::lock_guard guard(m_guard);
+    return m_textMade ? m_text.get() : nullptr;
+}
+
+std::vector<AllShows::Show> AllShows::mergedShows(const std::vector<bool>& ofLists) const {
+    std::vector<Show> shows;
+    std::vector<std::size_t> borders{0};
+    for (std::uint32_t number = 0; number < m_lists.size(); ++number) {
+        if (!ofLists[number]) {
+            continue;
+        }
+        const ChannelList& list = *m_lists[number];
+        for (std::size_t i = 0; i < list.size(); ++i) {
+            if (list.endOf(i) > m_endingAfter) {
+                shows.push_back({list.startOf(i), list.endOf(i), &list[i], number});
             }
         }
-        std::erase_if(cursors, [this](const SearchCursor& cursor) {
-            return cursor.next >= m_lists[cursor.list]->size();
-        });
-        span = std::chrono::duration_cast<std::chrono::milliseconds>(span *
-                                                                     searchSpanGrowth(hits.size(), limit));
+        borders.push_back(shows.size());
     }
-    std::sort(hits.begin(), hits.end(), earlierHit);
-    ShowItems found;
-    found.reserve(std::min(hits.size(), limit));
-    for (const Hit& hit : std::span(hits).first(std::min(hits.size(), limit))) {
-        found.push_back((*m_lists[hit.list])[hit.index]);
+    mergeRuns(shows, std::move(borders));
+    return shows;
+}
+
+void AllShows::make(const AllShows* base) const {
+    std::vector<std::uint32_t> numbers =
+        base ? newNumbers(base->m_lists, m_lists) : std::vector<std::uint32_t>();
+    if (!orderKept(numbers)) {
+        base = nullptr;
+        numbers.clear();
     }
-    return found;
+    std::vector<bool> added(m_lists.size(), true);
+    for (const std::uint32_t number : numbers) {
+        if (number != kGone) {
+            added[number] = false;
+        }
+    }
+    if (base) {
+        mergeWithBase(*base, numbers, mergedShows(added));
+    } else {
+        m_shows = mergedShows(added);
+    }
+}
+
+void AllShows::mergeWithBase(const AllShows& base, const std::vector<std::uint32_t>& numbers,
+                             const std::vector<Show>& added) const {
+    const std::vector<Show>& former = base.m_shows;
+    const SearchText* const formerText = base.searchTextIfMade();
+    auto text = formerText ? std::make_unique<SearchText>() : nullptr;
+    m_shows.reserve(former.size() + added.size());
+    if (text) {
+        text->reserve(former.size() + added.size(), formerText->bytes() + formerText->bytes() / 16);
+    }
+    // The texts of former shows that stay neighbours are taken over in one piece.
+    std::size_t piece = 0;
+    const auto endPiece = [&](std::size_t end) {
+        if (text) {
+            text->append(*formerText, piece, end - piece);
+        }
+        piece = end;
+    };
+    auto next = added.begin();
+    const auto append = [&](const Show& show) {
+        m_shows.push_back(show);
+        if (text) {
+            text->append(*show.item);
+        }
+    };
+    for (std::size_t i = 0; i < former.size(); ++i) {
+        Show show = former[i];
+        show.list = numbers[show.list];
+        if (show.list == kGone || show.end <= m_endingAfter) {
+            endPiece(i);
+            ++piece;
+            continue;
+        }
+        for (; next != added.end() && earlier(*next, show); ++next) {
+            endPiece(i);
+            append(*next);
+        }
+        m_shows.push_back(show);
+    }
+    endPiece(former.size());
+    std::for_each(next, added.end(), append);
+    m_text = std::move(text);
+}
+
+ShowItems AllShows::showsContaining(const QByteArray& searchPattern, Moment now, std::size_t limit) const {
+    const SearchText& text = searchText();
+    std::vector<const ShowItem*> found;
+    for (std::size_t i = text.find(searchPattern, 0); i < m_shows.size() && found.size() < limit;
+         i = text.find(searchPattern, i + 1)) {
+        if (m_shows[i].end >= now) {
+            found.push_back(m_shows[i].item);
+        }
+    }
+    ShowItems shows;
+    shows.reserve(found.size());
+    for (const ShowItem* show : found) {
+        shows.push_back(*show);
+    }
+    return shows;
 }
 
 } // namespace guide

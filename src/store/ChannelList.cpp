@@ -57,9 +57,4 @@ std::size_t ChannelList::countNotOver(Moment now, std::size_t limit) const {
     return count;
 }
 
-const SearchText& ChannelList::searchText() const {
-    std::call_once(m_searchTextOnce, [this] { m_searchText = std::make_unique<const SearchText>(*m_shows); });
-    return *m_searchText;
-}
-
 } // namespace guide

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "store/SearchText.h"
 #include "store/ShowItem.h"
 
 #include <limits>
 #include <memory>
-#include <mutex>
 #include <unordered_map>
 #include <vector>
 
@@ -29,9 +27,6 @@ class ChannelList {
     ShowSpan notOver(Moment now, std::size_t limit = kNoLimit) const;
     std::size_t countNotOver(Moment now, std::size_t limit) const;
 
-    /// The texts of all its shows, for searches. Made at the first call.
-    const SearchText& searchText() const;
-
   private:
     struct Times {
         Moment start;
@@ -44,8 +39,6 @@ class ChannelList {
 
     ShowList m_shows;
     std::vector<Times> m_times;
-    mutable std::once_flag m_searchTextOnce;
-    mutable std::unique_ptr<const SearchText> m_searchText;
 };
 
 /// The store's contents at one time.

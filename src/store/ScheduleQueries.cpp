@@ -14,9 +14,9 @@ constexpr int kEveningHour = 19;
 template <class Test>
 ShowItems matchingShows(const AllShows& all, Test test) {
     ShowItems result;
-    for (const ShowItem* show : all.shows()) {
-        if (test(*show)) {
-            result.push_back(*show);
+    for (const AllShows::Show& show : all.shows()) {
+        if (test(*show.item)) {
+            result.push_back(*show.item);
             if (result.size() == kMostShows) {
                 break;
             }
@@ -87,9 +87,10 @@ ShowItems showScheduleForTitle(const AllShows& all, const QString& title, Moment
 
 bool isBroadcast(const AllShows& all, const QString& identificator, bool previouslyShown, Moment now) {
     const auto& shows = all.shows();
-    return std::any_of(shows.begin(), shows.end(), [&](const ShowItem* show) {
-        return show->entry()->previouslyShown() == previouslyShown && !show->entry()->overAt(now) &&
-               show->entry()->identificator() == identificator;
+    return std::any_of(shows.begin(), shows.end(), [&](const AllShows::Show& show) {
+        const TVEntry& entry = *show.item->entry();
+        return entry.previouslyShown() == previouslyShown && !entry.overAt(now) &&
+               entry.identificator() == identificator;
     });
 }
 
@@ -99,12 +100,12 @@ std::optional<ShowItem> showWithURL(const AllShows& all, const QUrl& url, const 
         return std::nullopt;
     }
     // Digests are compared as bytes: URLs kept for every show would fill the memory.
-    for (const ShowItem* show : all.shows()) {
-        const TVEntry& entry = *show->entry();
+    for (const AllShows::Show& show : all.shows()) {
+        const TVEntry& entry = *show.item->entry();
         if (entry.identificator() &&
             showDigest(entry.channel(), entry.dateTime(), *entry.identificator()) == *digest &&
             entry.urlDigestWithScheme(scheme) == url) {
-            return *show;
+            return *show.item;
         }
     }
     return std::nullopt;

@@ -13,16 +13,6 @@ namespace {
 /// Stands behind each text; no UTF-8 holds it.
 constexpr char kTextEnd = '\xff';
 
-void appendFolded(std::vector<char>& out, const std::optional<QString>& text) {
-    if (!text || text->isEmpty()) {
-        return;
-    }
-    const QString folded = foldedText(*text);
-    const std::size_t begin = out.size();
-    out.resize(begin + utf8Length(folded) + 1);
-    *writeUtf8(folded, out.data() + begin) = kTextEnd;
-}
-
 } // namespace
 
 QByteArray searchPattern(const QString& pattern) {
@@ -32,41 +22,72 @@ QByteArray searchPattern(const QString& pattern) {
     return bytes;
 }
 
-SearchText::SearchText(const ShowItems& shows) {
-    m_offsets.reserve(shows.size() + 1);
-    m_offsets.push_back(0);
-    for (const ShowItem& show : shows) {
-        const TVEntry& entry = *show.entry();
-        appendFolded(m_text, entry.title());
-        appendFolded(m_text, entry.instantDescription());
-        appendFolded(m_text, entry.instantDetails());
-        appendFolded(m_text, entry.subtitle());
-        if (const TVEntrySupplementalData* details = show.details().get()) {
-            appendFolded(m_text, details->description);
-            appendFolded(m_text, details->episodeDescription);
-            appendFolded(m_text, details->details);
-            appendFolded(m_text, details->directedBy);
-            appendFolded(m_text, details->roles);
-        }
-        m_offsets.push_back(m_text.size());
+void SearchText::reserve(std::size_t shows, std::size_t bytes) {
+    m_ends.reserve(shows);
+    m_text.reserve(static_cast<qsizetype>(bytes));
+}
+
+void SearchText::append(const std::optional<QString>& text) {
+    if (!text || text->isEmpty()) {
+        return;
     }
-    m_text.shrink_to_fit();
+    const QString folded = foldedText(*text);
+    const qsizetype begin = m_text.size();
+    m_text.resize(begin + static_cast<qsizetype>(utf8Length(folded)) + 1);
+    *writeUtf8(folded, m_text.data() + begin) = kTextEnd;
+}
+
+void SearchText::append(const ShowItem& show) {
+    const TVEntry& entry = *show.entry();
+    append(entry.title());
+    append(entry.instantDescription());
+    append(entry.instantDetails());
+    append(entry.subtitle());
+    if (const TVEntrySupplementalData* details = show.details().get()) {
+        append(details->description);
+        append(details->episodeDescription);
+        append(details->details);
+        append(details->directedBy);
+        append(details->roles);
+    }
+    m_ends.push_back(bytes());
+}
+
+void SearchText::append(const SearchText& other, std::size_t first, std::size_t count) {
+    if (count == 0) {
+        return;
+    }
+    const std::size_t from = other.begin(first);
+    const std::size_t to = bytes();
+    m_text.append(other.m_text.constData() + from,
+                  static_cast<qsizetype>(other.m_ends[first + count - 1] - from));
+    const auto ends = other.m_ends.begin() + static_cast<std::ptrdiff_t>(first);
+    std::transform(ends, ends + static_cast<std::ptrdiff_t>(count), std::back_inserter(m_ends),
+                   [from, to](std::size_t end) { return end - from + to; });
 }
 
 std::size_t SearchText::find(const QByteArray& searchPattern, std::size_t from) const {
-    const std::size_t shows = m_offsets.size() - 1;
-    if (searchPattern.isEmpty() || from >= shows || m_offsets[from] == m_text.size()) {
-        return shows;
+    if (searchPattern.isEmpty() || from >= size()) {
+        return size();
     }
-    const void* found = ::memmem(m_text.data() + m_offsets[from], m_text.size() - m_offsets[from],
-                                 searchPattern.constData(), static_cast<std::size_t>(searchPattern.size()));
+    const char* const text = m_text.constData();
+    const std::size_t start = begin(from);
+    const void* found = ::memmem(text + start, bytes() - start, searchPattern.constData(),
+                                 static_cast<std::size_t>(searchPattern.size()));
     if (found == nullptr) {
-        return shows;
+        return size();
     }
-    const auto at = static_cast<std::size_t>(static_cast<const char*>(found) - m_text.data());
-    const auto behind =
-        std::upper_bound(m_offsets.begin() + static_cast<std::ptrdiff_t>(from), m_offsets.end(), at);
-    return static_cast<std::size_t>(behind - m_offsets.begin()) - 1;
+    // The show is looked for in steps that double: of a frequent pattern it is near.
+    const auto at = static_cast<std::size_t>(static_cast<const char*>(found) - text);
+    std::size_t low = from;
+    std::size_t step = 1;
+    while (low + step < size() && m_ends[low + step - 1] <= at) {
+        low += step;
+        step *= 2;
+    }
+    const auto first = m_ends.begin() + static_cast<std::ptrdiff_t>(low);
+    const auto last = m_ends.begin() + static_cast<std::ptrdiff_t>(std::min(low + step, size()));
+    return static_cast<std::size_t>(std::upper_bound(first, last, at) - m_ends.begin());
 }
 
 } // namespace guide

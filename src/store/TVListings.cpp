@@ -114,7 +114,7 @@ void TVListings::State::saveAllShows(bool updatePopular) {
     for (auto& [channel, list] : others) {
         ordered.push_back(std::move(list));
     }
-    allShows = std::make_shared<const AllShows>(std::move(ordered), environment.clock.now());
+    allShows = std::make_shared<const AllShows>(std::move(ordered), environment.clock.now(), allShows);
     if (updatePopular) {
         environment.popularShows.refresh();
     }

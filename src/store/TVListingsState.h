@@ -52,7 +52,8 @@ struct TVListings::State : std::enable_shared_from_this<State> {
     DispatchGroup underway;
 
     ChannelLists lists;
-    std::shared_ptr<const AllShows> allShows = std::make_shared<const AllShows>();
+    std::shared_ptr<const AllShows> allShows =
+        std::make_shared<const AllShows>(AllShows::Lists(), Moment::min());
 };
 
 } // namespace guide

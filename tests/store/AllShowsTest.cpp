@@ -89,31 +89,87 @@ ShowItems searchedPlainly(const ShowItems& all, const QString& pattern, Moment n
     return found;
 }
 
+/// Expects the shows and what searches find to be those of a plain walk.
+void expectLikeAPlainWalk(const AllShows& all, const AllShows::Lists& lists, Moment endingAfter,
+                          bool search) {
+    const ShowItems expected = sortedPlainly(lists, endingAfter);
+    ShowItems merged;
+    for (const AllShows::Show& show : all.shows()) {
+        merged.push_back(*show.item);
+    }
+    EXPECT_EQ(merged, expected);
+    if (!search) {
+        return;
+    }
+    const Moment now = endingAfter + std::chrono::minutes(20);
+    for (const QString& pattern : {u"zena"_s, u"ŽENA"_s, u"z\u030cena"_s, u"ss"_s, u"ß"_s, u"ı"_s, u"i"_s,
+                                   u"a"_s, u"aa"_s, u"а"_s, u"a a"_s, u"-"_s, u" "_s, u"na z"_s, u"absent"_s,
+                                   u""_s, u"\u0301"_s, QString(QChar(0xff)), QString(QChar(0))}) {
+        for (const std::size_t limit : {1000u, 3u, 0u}) {
+            EXPECT_EQ(all.showsContaining(searchPattern(pattern), now, limit),
+                      searchedPlainly(expected, pattern, now, limit))
+                << pattern.toStdString() << ' ' << limit;
+        }
+    }
+}
+
 TEST(AllShowsTest, MergesAndSearchesLikeAPlainWalk) {
     std::mt19937 random(20251231);
     for (const int channels : {0, 1, 2, 3, 8, 61}) {
         SCOPED_TRACE(channels);
         const AllShows::Lists lists = randomLists(random, channels);
-        const AllShows all(lists, kNow);
-        const ShowItems expected = sortedPlainly(lists, kNow);
-        ShowItems merged;
-        for (const ShowItem* show : all.shows()) {
-            merged.push_back(*show);
-        }
-        EXPECT_EQ(merged, expected);
+        expectLikeAPlainWalk(AllShows(lists, kNow), lists, kNow, true);
+    }
+}
 
-        const Moment now = kNow + std::chrono::minutes(20);
-        for (const QString& pattern :
-             {u"zena"_s, u"ŽENA"_s, u"z\u030cena"_s, u"ss"_s, u"ß"_s, u"ı"_s, u"i"_s, u"a"_s, u"aa"_s, u"а"_s,
-              u"a a"_s, u"-"_s, u" "_s, u"na z"_s, u"absent"_s, u""_s, u"\u0301"_s, QString(QChar(0xff)),
-              QString(QChar(0))}) {
-            for (const std::size_t limit : {1000u, 3u, 0u}) {
-                EXPECT_EQ(all.showsContaining(searchPattern(pattern), now, limit),
-                          searchedPlainly(expected, pattern, now, limit))
-                    << pattern.toStdString() << ' ' << limit;
+TEST(AllShowsTest, AChangedStateIsMadeOfTheOneBefore) {
+    std::mt19937 random(20260101);
+    const auto pick = [&](std::size_t below) { return random() % below; };
+    AllShows::Lists lists = randomLists(random, 6);
+    Moment endingAfter = kNow - std::chrono::hours(1);
+    auto all = std::make_shared<const AllShows>(lists, endingAfter);
+    for (int step = 0; step < 300; ++step) {
+        SCOPED_TRACE(step);
+        switch (pick(5)) {
+        case 0:
+            lists.push_back(randomLists(random, 1).front());
+            break;
+        case 1:
+            lists.insert(lists.begin(), randomLists(random, 1).front());
+            break;
+        case 2:
+            if (lists.size() > 3) {
+                lists.erase(lists.begin() + static_cast<std::ptrdiff_t>(pick(lists.size())));
             }
+            break;
+        case 3:
+            std::swap(lists[pick(lists.size())], lists[pick(lists.size())]);
+            break;
+        default:
+            lists[pick(lists.size())] = randomLists(random, 1).front();
+        }
+        endingAfter += std::chrono::minutes(step % 7 == 0 ? 1 : 0);
+        all = std::make_shared<const AllShows>(lists, endingAfter, all);
+        // A state is asked for its shows, for a search, or for nothing.
+        if (const auto asked = pick(3); asked > 0) {
+            expectLikeAPlainWalk(*all, lists, endingAfter, asked == 2);
         }
     }
+}
+
+TEST(AllShowsTest, StatesThatNobodyAskedAreNotKept) {
+    std::mt19937 random(1);
+    const AllShows::Lists lists = randomLists(random, 3);
+    auto all = std::make_shared<const AllShows>(lists, kNow);
+    all->shows();
+    const std::weak_ptr<const AllShows> made = all;
+    all = std::make_shared<const AllShows>(lists, kNow, all);
+    const std::weak_ptr<const AllShows> unasked = all;
+    all = std::make_shared<const AllShows>(lists, kNow, all);
+    EXPECT_TRUE(unasked.expired());
+    EXPECT_FALSE(made.expired());
+    all->shows();
+    EXPECT_TRUE(made.expired());
 }
 
 TEST(ChannelListTest, AnswersWhatIsNotOver) {

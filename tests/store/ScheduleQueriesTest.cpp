@@ -111,11 +111,11 @@ TEST(ScheduleQueriesTest, StopsAtTheCap) {
 TEST(ScheduleQueriesTest, FindsTheShowOfAURL) {
     const AllShows all =
         allOf({{hour(-2), hour(-1), u"A"_s}, {hour(0), hour(1), u"A"_s}, {hour(0), hour(1), u"B"_s}});
-    for (const ShowItem* show : all.shows()) {
-        const QUrl url = *TVEntry(*show->entry()).urlDigestWithScheme(u"guide"_s);
-        EXPECT_EQ(showWithURL(all, url, u"guide"_s), *show);
+    for (const AllShows::Show& show : all.shows()) {
+        const QUrl url = *TVEntry(*show.item->entry()).urlDigestWithScheme(u"guide"_s);
+        EXPECT_EQ(showWithURL(all, url, u"guide"_s), *show.item);
     }
-    const QUrl url = *TVEntry(*all.shows()[0]->entry()).urlDigestWithScheme(u"guide"_s);
+    const QUrl url = *TVEntry(*all.shows()[0].item->entry()).urlDigestWithScheme(u"guide"_s);
     for (const QString& other : {url.toString() + u"/x"_s, u"other"_s + url.toString().mid(5),
                                  url.toString() + u'0', u"guide://"_s}) {
         EXPECT_FALSE(showWithURL(all, QUrl(other), u"guide"_s)) << other.toStdString();
