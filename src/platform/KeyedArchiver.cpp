@@ -24,11 +24,12 @@ constexpr std::uint8_t kSimple = 0xe0;
 constexpr std::uint64_t kFalse = 20;
 constexpr std::uint64_t kTrue = 21;
 
-constexpr std::size_t kFirstCapacity = 16 * 1024;
+constexpr std::size_t kFirstCapacity = 64 * 1024;
+constexpr std::size_t kLongestHead = 9;
 
 // The head of a value: its kind, and its number in the fewest bytes.
 struct EncodedHead {
-    std::array<char, 9> bytes;
+    std::array<char, kLongestHead> bytes;
     std::size_t size;
 };
 
@@ -87,9 +88,19 @@ void KeyedArchiver::appendBytes(const void* bytes, std::size_t count) {
 }
 
 void KeyedArchiver::append(QStringView text) {
-    const std::size_t count = utf8Length(text);
-    appendHead(kText, count);
-    writeUtf8(text, room(count));
+    // The head for a text of ASCII is kept free before the text; where another one is due, the text moves
+    // along.
+    const auto units = static_cast<std::size_t>(text.size());
+    const std::size_t expected = encodedHead(kText, units).size;
+    const std::size_t start = m_size;
+    char* const free = room(kLongestHead + units * 3) + expected;
+    const auto count = static_cast<std::size_t>(writeUtf8(text, free) - free);
+    const EncodedHead head = encodedHead(kText, count);
+    if (head.size != expected) {
+        std::memmove(free + (head.size - expected), free, count);
+    }
+    std::memcpy(m_begin + start, head.bytes.data(), head.size);
+    m_size = start + head.size + count;
 }
 
 void KeyedArchiver::append(const QUrl& url) {

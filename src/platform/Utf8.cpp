@@ -51,6 +51,30 @@ void widenAscii(const unsigned char*& at, const unsigned char* end, char16_t*& o
     }
 }
 
+// Copies ASCII up to the first other unit and moves both ends along.
+void narrowAscii(const char16_t*& at, const char16_t* end, char*& out) {
+#ifdef __SSE2__
+    const __m128i other = _mm_set1_epi16(static_cast<short>(0xff80));
+    while (end - at >= 8) {
+        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+        // Where it is not ASCII all, the bytes behind are written over.
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(out), _mm_packus_epi16(block, block));
+        const __m128i ascii = _mm_cmpeq_epi16(_mm_and_si128(block, other), _mm_setzero_si128());
+        if (const int mask = _mm_movemask_epi8(ascii); mask != 0xffff) {
+            const int count = __builtin_ctz(~static_cast<unsigned>(mask)) / 2;
+            at += count;
+            out += count;
+            return;
+        }
+        at += 8;
+        out += 8;
+    }
+#endif
+    while (at < end && *at < 0x80) {
+        *out++ = static_cast<char>(*at++);
+    }
+}
+
 } // namespace
 
 bool readUtf8(QByteArrayView bytes, QString& text) {
@@ -89,46 +113,24 @@ bool readUtf8(QByteArrayView bytes, QString& text) {
     return true;
 }
 
-std::size_t utf8Length(QStringView text) {
-    const char16_t* at = text.utf16();
-    const char16_t* end = at + text.size();
-    std::size_t length = static_cast<std::size_t>(text.size());
-    for (; at < end; ++at) {
-        const char16_t unit = *at;
-        if (unit < 0x80) {
-            continue;
-        }
-        if (unit < 0x800) {
-            length += 1;
-        } else {
-            length += 2;
-            if (QChar::isHighSurrogate(unit) && end - at > 1 && QChar::isLowSurrogate(at[1])) {
-                ++at;
-            }
-        }
-    }
-    return length;
-}
-
 char* writeUtf8(QStringView text, char* out) {
     const char16_t* at = text.utf16();
     const char16_t* end = at + text.size();
     const auto put = [&out](char32_t byte) { *out++ = static_cast<char>(byte); };
-    for (; at < end; ++at) {
-        char32_t character = *at;
-        if (character < 0x80) {
-            put(character);
-            continue;
+    while (at < end) {
+        narrowAscii(at, end, out);
+        if (at == end) {
+            break;
         }
+        char32_t character = *at++;
         if (character < 0x800) {
             put(0xc0 | character >> 6);
             put(0x80 | (character & 0x3f));
             continue;
         }
         if (QChar::isSurrogate(character)) {
-            if (QChar::isHighSurrogate(character) && end - at > 1 && QChar::isLowSurrogate(at[1])) {
-                character = QChar::surrogateToUcs4(*at, at[1]);
-                ++at;
+            if (QChar::isHighSurrogate(character) && at < end && QChar::isLowSurrogate(*at)) {
+                character = QChar::surrogateToUcs4(static_cast<char16_t>(character), *at++);
                 put(0xf0 | character >> 18);
                 put(0x80 | (character >> 12 & 0x3f));
                 put(0x80 | (character >> 6 & 0x3f));

@@ -3,8 +3,6 @@
 #include <QByteArrayView>
 #include <QString>
 
-#include <cstddef>
-
 namespace guide {
 
 /// True when the bytes are well-formed UTF-8: no surrogates, no overlong forms, nothing past U+10FFFF. A NUL
@@ -15,10 +13,8 @@ bool isValidUtf8(QByteArrayView bytes);
 /// unspecified.
 bool readUtf8(QByteArrayView bytes, QString& text);
 
-/// How many bytes the text takes as UTF-8; a lone surrogate counts as U+FFFD.
-std::size_t utf8Length(QStringView text);
-
-/// Writes exactly utf8Length(text) bytes at `out`, a lone surrogate as U+FFFD. Returns the end.
+/// Writes the text as UTF-8 at `out`, where three bytes for each unit of the text have to be free; a lone
+/// surrogate as U+FFFD. Returns the end.
 char* writeUtf8(QStringView text, char* out);
 
 } // namespace guide
