@@ -1,3 +1,4 @@
+#include "fakes/ManualQueues.h"
 #include "platform/FileReplacement.h"
 #include "platform/linux/FolderKeyValueStore.h"
 #include "platform/linux/LinuxFolders.h"
@@ -139,6 +140,27 @@ TEST(SettingsUserDefaultsTest, AFailedWriteStaysToBeWritten) {
     ASSERT_TRUE(QFile::remove(folder.filePath(u"inside"_s)));
     EXPECT_TRUE(defaults.synchronize());
     EXPECT_EQ(SettingsUserDefaults(path).integerForKey(u"currently_show_count"_s), 3);
+}
+
+TEST(SettingsUserDefaultsTest, ChangesAreWrittenSoonAndOnce) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"settings.ini"_s);
+    ManualClock clock;
+    ManualQueues queues(clock);
+    const auto queue = queues.makeQueue("settings", QueueKind::Serial);
+    {
+        SettingsUserDefaults defaults(path, queue);
+        defaults.setInteger(u"currently_show_count"_s, 3);
+        defaults.setInteger(u"currently_show_count"_s, 4);
+        EXPECT_FALSE(QFile::exists(path));
+        clock.advance(std::chrono::seconds(1));
+        EXPECT_EQ(queues.runAll(), 1U);
+        EXPECT_EQ(SettingsUserDefaults(path).integerForKey(u"currently_show_count"_s), 4);
+        defaults.setInteger(u"currently_show_count"_s, 5);
+    }
+    EXPECT_EQ(SettingsUserDefaults(path).integerForKey(u"currently_show_count"_s), 5) << "written at the end";
+    clock.advance(std::chrono::seconds(1));
+    queues.runAll();
 }
 
 class FolderKeyValueStoreTest : public testing::Test {
