@@ -1,0 +1,200 @@
+// From the bytes of a feed to the driver's lists, against unpacking alone and against the bare parser.
+//
+// QUELLIN_FEED names a feed of one's own (plain, .gz or .xz) to be measured in the place of the generated
+// one.
+
+#include "GeneratedFeed.h"
+#include "parsers/ListDriver.h"
+#include "parsers/ProgrammeSkipScan.h"
+#include "parsers/XMLTVToEntries.h"
+#include "platform/Decompression.h"
+#include "sources/PageText.h"
+
+#include <QFile>
+#include <QLoggingCategory>
+
+#include <benchmark/benchmark.h>
+#include <libxml/parser.h>
+#include <memory>
+#include <string>
+#include <zlib.h>
+
+namespace guide {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr std::uint64_t kMemory = std::uint64_t{8} << 30;
+constexpr std::size_t kFewChannels = 12;
+constexpr double kMostOfUnpacking = 1.6;
+constexpr double kMostOfParsing = 2.4;
+
+class FixedClock final : public Clock {
+  public:
+    explicit FixedClock(Moment now)
+        : m_now(now) {}
+    Moment now() const override { return m_now; }
+
+  private:
+    Moment m_now;
+};
+
+QByteArray readFeed(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("%s: %s", qUtf8Printable(path), qUtf8Printable(file.errorString()));
+    }
+    PageText page = pageText(file.readAll(), std::nullopt, kMemory);
+    if (!page.text) {
+        qFatal("%s is no text", qUtf8Printable(path));
+    }
+    return *std::move(page.text);
+}
+
+QByteArray gzipped(const QByteArray& plain) {
+    z_stream stream{};
+    constexpr int kGzipWindowBits = 31;
+    constexpr int kMemoryLevel = 8;
+    deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, kGzipWindowBits, kMemoryLevel,
+                 Z_DEFAULT_STRATEGY);
+    QByteArray packed(static_cast<qsizetype>(deflateBound(&stream, static_cast<uLong>(plain.size()))),
+                      Qt::Uninitialized);
+    std::string input = plain.toStdString();
+    stream.next_in = reinterpret_cast<Bytef*>(input.data());
+    stream.avail_in = static_cast<uInt>(input.size());
+    stream.next_out = reinterpret_cast<Bytef*>(packed.data());
+    stream.avail_out = static_cast<uInt>(packed.size());
+    deflate(&stream, Z_FINISH);
+    packed.truncate(static_cast<qsizetype>(stream.total_out));
+    deflateEnd(&stream);
+    return packed;
+}
+
+/// The feed that is measured, and what its lists have to hold.
+struct Subject {
+    QByteArray plain;
+    QByteArray packed;
+    /// Every channel that has shows, and how many.
+    std::vector<QString> channels;
+    std::vector<std::size_t> counts;
+    FixedClock clock{Moment{}};
+    Alphabet alphabet;
+    SourceHostTable hosts;
+    ListDriver driver{{.clock = clock, .alphabet = alphabet, .hosts = hosts, .merge = nullptr}};
+
+    Subject() {
+        QLoggingCategory::setFilterRules(u"guide.*=false"_s);
+        const QString path = qEnvironmentVariable("QUELLIN_FEED");
+        plain = path.isEmpty() ? bench::generatedFeed({}) : readFeed(path);
+        packed = gzipped(plain);
+        XMLTVToEntries reader(plain, {}, {.shows = {.alphabet = alphabet}, .now = clock.now()});
+        for (const FeedChannelEntries& channel : reader.entries()) {
+            channels.push_back(channel.sourceId);
+            counts.push_back(channel.entries.size());
+        }
+    }
+
+    std::vector<LoadItem> items(std::size_t count) const {
+        std::vector<LoadItem> items;
+        const std::size_t step = std::max<std::size_t>(channels.size() / count, 1);
+        for (std::size_t i = 0; i < channels.size() && items.size() < count; i += step) {
+            ObjectId::Bytes id{};
+            id[10] = static_cast<std::uint8_t>(i >> 8);
+            id[11] = static_cast<std::uint8_t>(i);
+            items.push_back({ObjectId(id), u"s."_s + channels[i], u"cs"_s});
+        }
+        return items;
+    }
+
+    bool isComplete(const std::vector<LoadItem>& items, const ParsedLists& lists) const {
+        return std::all_of(items.begin(), items.end(), [&](const LoadItem& item) {
+            const auto list = lists.find(item.channel);
+            const std::size_t index = item.channel.bytes()[10] * std::size_t{256} + item.channel.bytes()[11];
+            return list != lists.end() && list->second.size() == counts[index];
+        });
+    }
+};
+
+const Subject& subject() {
+    static const Subject subject;
+    return subject;
+}
+
+constexpr unsigned kXMLTV = 1;
+
+void fewChannelsOfPackedFeed(benchmark::State& state) {
+    const Subject& feed = subject();
+    const std::vector<LoadItem> items = feed.items(kFewChannels);
+    for ([[maybe_unused]] auto pass : state) {
+        PageText page = pageText(feed.packed, std::nullopt, kMemory);
+        const ParsedLists lists = feed.driver.read(items, {*std::move(page.text)}, Moment{}, kXMLTV);
+        if (!feed.isComplete(items, lists)) {
+            state.SkipWithError("shows are missing");
+        }
+    }
+    state.counters["atMost"] = kMostOfUnpacking;
+}
+
+void unpackingAlone(benchmark::State& state) {
+    const Subject& feed = subject();
+    const auto size = static_cast<std::size_t>(feed.plain.size());
+    for ([[maybe_unused]] auto pass : state) {
+        const std::unique_ptr<char[]> plain(new char[size]);
+        z_stream stream{};
+        constexpr int kGzipWindowBits = 31;
+        inflateInit2(&stream, kGzipWindowBits);
+        stream.next_in =
+            const_cast<Bytef*>(reinterpret_cast<const Bytef*>(feed.packed.constData())); // NOLINT: zlib reads
+        stream.avail_in = static_cast<uInt>(feed.packed.size());
+        stream.next_out = reinterpret_cast<Bytef*>(plain.get());
+        stream.avail_out = static_cast<uInt>(size);
+        if (inflate(&stream, Z_FINISH) != Z_STREAM_END || stream.total_out != size) {
+            state.SkipWithError("the feed does not unpack");
+        }
+        inflateEnd(&stream);
+        benchmark::DoNotOptimize(plain.get());
+    }
+}
+
+void allChannelsOfPlainFeed(benchmark::State& state) {
+    const Subject& feed = subject();
+    const std::vector<LoadItem> items = feed.items(feed.channels.size());
+    for ([[maybe_unused]] auto pass : state) {
+        const ParsedLists lists = feed.driver.read(items, {feed.plain}, Moment{}, kXMLTV);
+        if (!feed.isComplete(items, lists)) {
+            state.SkipWithError("shows are missing");
+        }
+        state.PauseTiming();
+        {
+            const ParsedLists gone = std::move(const_cast<ParsedLists&>(lists));
+        }
+        state.ResumeTiming();
+    }
+    state.counters["atMost"] = kMostOfParsing;
+}
+
+void parsingAlone(benchmark::State& state) {
+    const Subject& feed = subject();
+    xmlSAXHandler handler{};
+    handler.initialized = XML_SAX2_MAGIC;
+    handler.startElementNs = [](void*, const xmlChar*, const xmlChar*, const xmlChar*, int, const xmlChar**,
+                                int, int, const xmlChar**) {};
+    handler.endElementNs = [](void*, const xmlChar*, const xmlChar*, const xmlChar*) {};
+    handler.characters = [](void*, const xmlChar*, int) {};
+    for ([[maybe_unused]] auto pass : state) {
+        if (xmlSAXUserParseMemory(&handler, nullptr, feed.plain.constData(),
+                                  static_cast<int>(feed.plain.size())) != 0) {
+            state.SkipWithError("the feed does not parse");
+        }
+    }
+}
+
+BENCHMARK(fewChannelsOfPackedFeed)->Name("feed, 12 channels, packed/guide")->Unit(benchmark::kMillisecond);
+BENCHMARK(unpackingAlone)->Name("feed, 12 channels, packed/floor")->Unit(benchmark::kMillisecond);
+BENCHMARK(allChannelsOfPlainFeed)->Name("feed, all channels, plain/guide")->Unit(benchmark::kMillisecond);
+BENCHMARK(parsingAlone)->Name("feed, all channels, plain/floor")->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+} // namespace guide
