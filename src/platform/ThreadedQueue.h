@@ -16,8 +16,8 @@ class ThreadedQueue;
 /// What the queues of one ThreadedQueues run on, and which of them are alive.
 class QueueHost {
   public:
-    explicit QueueHost(WorkerPool::ThreadStart threadStart)
-        : pool(std::move(threadStart)) {}
+    explicit QueueHost(const WorkerPool::ThreadStart& threadStart)
+        : pool(threadStart) {}
 
     void add(const std::shared_ptr<ThreadedQueue>& queue);
     void remove(ThreadedQueue* queue);

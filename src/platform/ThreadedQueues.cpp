@@ -16,8 +16,8 @@ std::shared_ptr<DispatchQueue> addQueue(const std::shared_ptr<QueueHost>& host, 
 
 } // namespace
 
-ThreadedQueues::ThreadedQueues(Block wakeMainThread, WorkerPool::ThreadStart threadStart)
-    : m_host(std::make_shared<QueueHost>(std::move(threadStart)))
+ThreadedQueues::ThreadedQueues(Block wakeMainThread, const WorkerPool::ThreadStart& threadStart)
+    : m_host(std::make_shared<QueueHost>(threadStart))
     , m_main(std::make_shared<MainInbox>(std::move(wakeMainThread),
                                          [host = m_host](std::chrono::milliseconds delay,
                                                          std::shared_ptr<DispatchQueue> queue, Block block) {

@@ -15,7 +15,7 @@ class ThreadedQueues final : public DispatchQueues {
   public:
     /// The first is called on any thread when the main thread has to call runMainQueue; the second first on
     /// every new worker thread.
-    explicit ThreadedQueues(Block wakeMainThread, WorkerPool::ThreadStart threadStart = nullptr);
+    explicit ThreadedQueues(Block wakeMainThread, const WorkerPool::ThreadStart& threadStart = nullptr);
     ThreadedQueues(const ThreadedQueues&) = delete;
     ThreadedQueues& operator=(const ThreadedQueues&) = delete;
     ~ThreadedQueues() override;

@@ -141,7 +141,7 @@ class WorkerPool::ServiceClass final : public ThreadWaiting {
 
 thread_local const WorkerPool::ServiceClass* WorkerPool::ServiceClass::t_class = nullptr;
 
-WorkerPool::WorkerPool(ThreadStart threadStart, unsigned atWork, unsigned cap)
+WorkerPool::WorkerPool(const ThreadStart& threadStart, unsigned atWork, unsigned cap)
     : m_classes{std::make_unique<ServiceClass>(QueuePriority::Background, threadStart, atWork, cap),
                 std::make_unique<ServiceClass>(QueuePriority::Default, threadStart, atWork, cap),
                 std::make_unique<ServiceClass>(QueuePriority::UserInitiated, threadStart, atWork, cap)} {}

@@ -25,7 +25,7 @@ class WorkerPool {
 
     /// How many workers of one class work at the same time, waiting ones not counted; and how many there are
     /// at most.
-    explicit WorkerPool(ThreadStart threadStart, unsigned atWork = defaultAtWork(), unsigned cap = 64);
+    explicit WorkerPool(const ThreadStart& threadStart, unsigned atWork = defaultAtWork(), unsigned cap = 64);
     WorkerPool(const WorkerPool&) = delete;
     WorkerPool& operator=(const WorkerPool&) = delete;
     ~WorkerPool();

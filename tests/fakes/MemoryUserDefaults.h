@@ -50,9 +50,9 @@ class MemoryUserDefaults final : public UserDefaults {
         const T* held = std::get_if<T>(&*found);
         return held != nullptr ? std::optional<T>(*held) : std::nullopt;
     }
-    void store(const QString& key, Value value) {
+    void store(const QString& key, const Value& value) {
         const std::lock_guard guard(m_guard);
-        m_values.insert(key, std::move(value));
+        m_values.insert(key, value);
     }
 
     mutable std::mutex m_guard;

@@ -113,6 +113,7 @@ TEST(QueueStressTest, PromisesHoldUnderLoadAndAtTheEnd) {
             }
         };
         std::vector<std::thread> threads;
+        threads.reserve(kThreads);
         for (unsigned t = 0; t < kThreads; ++t) {
             threads.emplace_back([&, t] {
                 Dice dice(1 + round * kThreads + t);
