@@ -132,6 +132,13 @@ const CategoryTable& subtitleTable() {
     return kTable;
 }
 
+const CategoryTable& makersTable() {
+    static const CategoryTable kTable({
+        {TVListingsCategoryDocumentaries, {u"Discovery", u"Geo", u"Viasat"}},
+    });
+    return kTable;
+}
+
 const CategoryTable& descriptionTable() {
     static const CategoryTable kTable({
         {TVListingsCategoryMovies | TVListingsCategoryDramas, {u"dramska serija", u"Drama"}},
@@ -214,10 +221,10 @@ SubtitleCategories mapSubtitleWords(const std::optional<QString>& subtitle,
         const std::uint64_t rows = subtitleTable().rowsFoundIn(*subtitle);
         result = {subtitleTable().categoriesOf(rows), rows != 0};
     }
-    const auto names = [&](QLatin1StringView maker) { return title && title->contains(maker); };
-    if (names("Discovery"_L1) || names("Geo"_L1) || names("Viasat"_L1)) {
-        result.categories |= TVListingsCategoryDocumentaries;
-        result.recognised = true;
+    if (title) {
+        const std::uint64_t rows = makersTable().rowsFoundIn(*title);
+        result.categories |= makersTable().categoriesOf(rows);
+        result.recognised = result.recognised || rows != 0;
     }
     return result;
 }

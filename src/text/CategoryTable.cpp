@@ -1,15 +1,27 @@
 #include "text/CategoryTable.h"
 
 #include <algorithm>
-#include <array>
+#include <bit>
 
 namespace guide {
 
 namespace {
 
-/// Whether the text may hold something that composes: marks stand above the Latin letters.
+/// Whether the unit may be one that composes with what stands before it. Of the letters and signs of our
+/// texts only marks are.
+bool mayCompose(char16_t unit) {
+    return (unit >= 0x300 && unit < 0x370) || (unit >= 0x483 && unit < 0x48A) ||
+           (unit >= 0x590 && (unit < 0x2000 || unit > 0x2116));
+}
+
 bool mayCompose(QStringView text) {
-    return std::any_of(text.begin(), text.end(), [](QChar unit) { return unit.unicode() >= 0x300; });
+    // Nearly all texts end here, many units at a time.
+    char16_t bits = 0;
+    for (const QChar unit : text) {
+        bits = static_cast<char16_t>(bits | unit.unicode());
+    }
+    return bits >= 0x300 &&
+           std::any_of(text.begin(), text.end(), [](QChar unit) { return mayCompose(unit.unicode()); });
 }
 
 } // namespace
@@ -39,11 +51,16 @@ CategoryTable::CategoryTable(const std::vector<CategoryRow>& rows) {
 }
 
 std::uint64_t CategoryTable::rowsFoundIn(const QString& text) const {
-    const QString composed = mayCompose(text) ? text.normalized(QString::NormalizationForm_C) : text;
+    QString composed;
+    QStringView searched = text;
+    if (mayCompose(text)) {
+        composed = text.normalized(QString::NormalizationForm_C);
+        searched = composed;
+    }
     std::uint64_t rows = 0;
     for (const Search& search : m_searches) {
-        search.automaton.walk(composed, [&](int key, qsizetype) {
-            rows |= std::uint64_t(1) << search.rowOfKey[static_cast<std::size_t>(key)];
+        search.automaton.walk(searched, [&](const WordAutomaton::Occurrence& key) {
+            rows |= std::uint64_t(1) << search.rowOfKey[static_cast<std::size_t>(key.word)];
         });
     }
     return rows;
@@ -51,10 +68,8 @@ std::uint64_t CategoryTable::rowsFoundIn(const QString& text) const {
 
 TVListingsCategory CategoryTable::categoriesOf(std::uint64_t rows) const {
     TVListingsCategory categories = 0;
-    for (std::size_t row = 0; row < m_adds.size(); ++row) {
-        if (rows >> row & 1) {
-            categories |= m_adds[row];
-        }
+    for (std::uint64_t left = rows; left != 0; left &= left - 1) {
+        categories |= m_adds[static_cast<std::size_t>(std::countr_zero(left))];
     }
     return categories;
 }

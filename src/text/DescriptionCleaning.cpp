@@ -10,42 +10,61 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto kCredit = "Regia - "_L1;
-
-void trimCarriageReturns(QString& text) {
-    qsizetype begin = 0;
-    qsizetype end = text.size();
-    while (begin < end && text[begin] == u'\r') {
-        ++begin;
-    }
-    while (end > begin && text[end - 1] == u'\r') {
-        --end;
-    }
-    text = text.mid(begin, end - begin);
-}
-
-void removeAttributions(QString& text, const QString& siteHost) {
-    if (!text.contains("http://"_L1)) {
-        return;
-    }
-    text.remove(u"(više na http://"_s + siteHost + u')');
-    text.remove(u"(more at http://"_s + siteHost + u')');
-}
-
+/// A text that is looked for by a sign of its own that few texts have.
 struct Marker {
+    QStringView text;
+    QChar sign;
+};
+
+constexpr std::array kCast{Marker{u"Uloge: ", u':'}, Marker{u"Cu: ", u':'}};
+constexpr std::array kDirectors{Marker{u"Scenarist i redatelj: ", u':'}, Marker{u"Redatelj: ", u':'},
+                                Marker{u"Režija: ", u':'}};
+constexpr Marker kCredit{u"Regia - ", u'-'};
+
+/// Where the text has the marker; negative when it has none.
+qsizetype find(QStringView text, const Marker& marker, qsizetype from = 0) {
+    const qsizetype before = marker.text.indexOf(marker.sign);
+    for (qsizetype at = text.indexOf(marker.sign, from + before); at >= 0;
+         at = text.indexOf(marker.sign, at + 1)) {
+        if (text.sliced(at - before).startsWith(marker.text)) {
+            return at - before;
+        }
+    }
+    return -1;
+}
+
+struct Found {
     qsizetype start;
     qsizetype end;
 };
 
 /// The first of the markers, in their order, that the text has.
 template <std::size_t Count>
-std::optional<Marker> firstMarker(const QString& text, const std::array<QStringView, Count>& markers) {
-    for (const QStringView marker : markers) {
-        if (const qsizetype start = text.indexOf(marker); start >= 0) {
-            return Marker{start, start + marker.size()};
+std::optional<Found> findFirst(QStringView text, const std::array<Marker, Count>& markers) {
+    for (const Marker& marker : markers) {
+        if (const qsizetype start = find(text, marker); start >= 0) {
+            return Found{start, start + marker.text.size()};
         }
     }
     return std::nullopt;
+}
+
+void trimCarriageReturns(QString& text) {
+    while (text.endsWith(u'\r')) {
+        text.chop(1);
+    }
+    qsizetype begin = 0;
+    while (begin < text.size() && text[begin] == u'\r') {
+        ++begin;
+    }
+    text.remove(0, begin);
+}
+
+void removeAttributions(QString& text, const QString& siteHost) {
+    if (find(text, {u"http://", u':'}) >= 0) {
+        text.remove(u"(više na http://"_s + siteHost + u')');
+        text.remove(u"(more at http://"_s + siteHost + u')');
+    }
 }
 
 QString restOfLine(const QString& text, qsizetype from) {
@@ -54,19 +73,17 @@ QString restOfLine(const QString& text, qsizetype from) {
 }
 
 /// Credits of the form "Uloge: … Redatelj: …", from `cast` on.
-void takeLabelledCredits(CleanedDescription& show, const QString& text, const Marker& cast) {
+void takeLabelledCredits(CleanedDescription& show, QString& text, const Found& cast) {
     qsizetype credits = cast.start;
     if (!show.roles) {
         show.roles = restOfLine(text, cast.end);
     }
     show.roles = withoutLabelTails(*show.roles);
-    static constexpr std::array<QStringView, 3> kDirectors{u"Scenarist i redatelj: ", u"Redatelj: ",
-                                                           u"Režija: "};
-    if (const auto director = firstMarker(text, kDirectors)) {
+    if (const auto director = findFirst(text, kDirectors)) {
         credits = std::min(credits, director->start);
         show.directedBy = withoutLabelTails(restOfLine(text, director->end));
     }
-    show.description = text.left(credits);
+    text.truncate(credits);
 }
 
 void appendName(QString& names, QStringView name) {
@@ -76,41 +93,51 @@ void appendName(QString& names, QStringView name) {
     names += name;
 }
 
-/// Credits of the form "Regia - …, actor, actor", from the first one on.
-void takeListedCredits(CleanedDescription& show, const QString& text) {
-    qsizetype credits = text.size();
-    for (const QLatin1StringView marker : {"\nRegia - "_L1, ", Regia - "_L1, " Regia - "_L1}) {
-        if (const qsizetype start = text.indexOf(marker); start >= 0) {
-            credits = std::min(credits, start);
+/// Where credits of the form "Regia - …" begin: a line end, a comma and a blank, or a blank before them
+/// belongs to them.
+std::optional<qsizetype> listedCreditsIn(QStringView text, qsizetype credit) {
+    for (; credit >= 0; credit = find(text, kCredit, credit + 1)) {
+        const QStringView before = text.first(credit);
+        if (before.endsWith(u'\n')) {
+            return credit - 1;
+        }
+        if (before.endsWith(u' ')) {
+            return before.endsWith(u", ") ? credit - 2 : credit - 1;
         }
     }
-    if (credits == text.size()) {
-        show.description = text;
+    return std::nullopt;
+}
+
+/// Credits of the form "Regia - …, actor, actor", from the first one on.
+void takeListedCredits(CleanedDescription& show, QString& text) {
+    const qsizetype first = find(text, kCredit);
+    const auto credits = listedCreditsIn(text, first);
+    if (!credits) {
         return;
     }
     QString directors;
     QString actors;
     const QStringView all(text);
-    for (qsizetype position = text.indexOf(kCredit); position <= all.size();) {
+    for (qsizetype position = first; position <= all.size();) {
         const auto* separator = std::find_if(all.begin() + position, all.end(),
                                              [](QChar unit) { return unit == u',' || unit == u'\n'; });
         const qsizetype end = separator - all.begin();
         const qsizetype start = position < end && all[position] == u' ' ? position + 1 : position;
         const QStringView piece = all.sliced(start, end - start);
-        if (const qsizetype credit = piece.indexOf(kCredit); credit >= 0) {
-            appendName(directors, piece.sliced(credit + kCredit.size()));
+        if (const qsizetype credit = find(piece, kCredit); credit >= 0) {
+            appendName(directors, piece.sliced(credit + kCredit.text.size()));
         } else {
             appendName(actors, piece);
         }
         position = end + 1;
     }
-    show.description = text.left(credits);
     if (!directors.isEmpty()) {
         show.directedBy = directors;
     }
     if (!actors.isEmpty()) {
         show.roles = actors;
     }
+    text.truncate(*credits);
 }
 
 /// A blank line, and a line end behind a full stop, stay as one line end; every other line end becomes a
@@ -133,13 +160,12 @@ CleanedDescription cleanDescription(CleanedDescription show, const QString& site
     QString text = *std::move(show.description);
     trimCarriageReturns(text);
     removeAttributions(text, siteHost);
-    static constexpr std::array<QStringView, 2> kCast{u"Uloge: ", u"Cu: "};
-    if (const auto cast = firstMarker(text, kCast)) {
+    if (const auto cast = findFirst(text, kCast)) {
         takeLabelledCredits(show, text, *cast);
     } else {
         takeListedCredits(show, text);
     }
-    QString& description = *show.description;
+    QString& description = show.description.emplace(std::move(text));
     mendLineEnds(description);
     if (description.startsWith("; "_L1)) {
         description.remove(0, 2);

@@ -1,5 +1,7 @@
 #include "text/FoldTable.h"
 
+#include <algorithm>
+
 namespace guide {
 
 namespace {
@@ -12,16 +14,16 @@ bool ignoresDiacritics(FoldMode mode) {
     return mode == FoldMode::Diacritics || mode == FoldMode::CaseAndDiacritics;
 }
 
-void appendCodePoint(char32_t character, QString& to) {
+} // namespace
+
+void FoldedCharacter::append(char32_t character) {
     if (QChar::requiresSurrogates(character)) {
-        to += QChar(QChar::highSurrogate(character));
-        to += QChar(QChar::lowSurrogate(character));
+        m_units[static_cast<std::size_t>(m_size++)] = QChar::highSurrogate(character);
+        m_units[static_cast<std::size_t>(m_size++)] = QChar::lowSurrogate(character);
     } else {
-        to += QChar(static_cast<char16_t>(character));
+        m_units[static_cast<std::size_t>(m_size++)] = static_cast<char16_t>(character);
     }
 }
-
-} // namespace
 
 char32_t takeCodePoint(QStringView text, qsizetype& position) {
     const QChar first = text[position++];
@@ -34,7 +36,6 @@ char32_t takeCodePoint(QStringView text, qsizetype& position) {
 FoldTable::FoldTable(FoldMode mode)
     : m_mode(mode)
     , m_units(std::make_unique<std::array<char16_t, 0x10000>>()) {
-    QString folded;
     for (char32_t unit = 0; unit < 0x10000; ++unit) {
         char16_t& entry = (*m_units)[unit];
         if (unit < 0x80) {
@@ -46,9 +47,8 @@ FoldTable::FoldTable(FoldMode mode)
             entry = kSeveral;
             continue;
         }
-        folded.clear();
-        append(unit, folded);
-        entry = folded.isEmpty() ? kDropped : folded.size() > 1 ? kSeveral : folded[0].unicode();
+        const FoldedCharacter folded = fold(unit);
+        entry = folded.size() == 0 ? kDropped : folded.size() > 1 ? kSeveral : *folded.begin();
     }
 }
 
@@ -73,28 +73,53 @@ const FoldTable& FoldTable::of(FoldMode mode) {
     return kTable;
 }
 
-void FoldTable::append(char32_t character, QString& to) const {
-    if (!ignoresDiacritics(m_mode)) {
-        appendCodePoint(ignoresCase(m_mode) ? QChar::toCaseFolded(character) : character, to);
-        return;
-    }
-    if (QChar::isMark(character)) {
-        return;
-    }
-    const auto appendBase = [&](char32_t base) {
-        if (!QChar::isMark(base)) {
-            appendCodePoint(ignoresCase(m_mode) ? QChar::toCaseFolded(base) : base, to);
-        }
+FoldedCharacter FoldTable::fold(char32_t character) const {
+    FoldedCharacter folded;
+    const auto append = [&](char32_t part) {
+        folded.append(ignoresCase(m_mode) ? QChar::toCaseFolded(part) : part);
     };
-    if (QChar::decompositionTag(character) != QChar::Canonical) {
-        appendBase(character);
-        return;
+    if (!ignoresDiacritics(m_mode)) {
+        append(character);
+    } else if (QChar::decompositionTag(character) != QChar::Canonical) {
+        if (!QChar::isMark(character)) {
+            append(character);
+        }
+    } else {
+        // A canonical decomposition is already taken all the way down.
+        const QString parts = QChar::decomposition(character);
+        for (qsizetype i = 0; i < parts.size();) {
+            if (const char32_t part = takeCodePoint(parts, i); !QChar::isMark(part)) {
+                append(part);
+            }
+        }
     }
-    // A canonical decomposition is already taken all the way down.
-    const QString parts = QChar::decomposition(character);
-    for (qsizetype i = 0; i < parts.size();) {
-        appendBase(takeCodePoint(parts, i));
+    return folded;
+}
+
+QString FoldTable::folded(QStringView text) const {
+    QString folded(text.size(), Qt::Uninitialized);
+    QChar* to = folded.data();
+    for (qsizetype i = 0; i < text.size();) {
+        const char16_t unit = (*this)[text[i].unicode()];
+        if (unit != kSeveral) {
+            *to = QChar(unit);
+            to += unit != kDropped;
+            ++i;
+            continue;
+        }
+        qsizetype behind = i;
+        const FoldedCharacter several = fold(takeCodePoint(text, behind));
+        const qsizetype written = to - folded.constData();
+        // The rest of the text still has to fit.
+        if (folded.size() - written < several.size() + text.size() - behind) {
+            folded.resize(written + several.size() + 3 * (text.size() - behind));
+            to = folded.data() + written;
+        }
+        to = std::copy(several.begin(), several.end(), to);
+        i = behind;
     }
+    folded.truncate(to - folded.constData());
+    return folded;
 }
 
 } // namespace guide

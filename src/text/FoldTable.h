@@ -17,6 +17,21 @@ enum class FoldMode {
     CaseAndDiacritics,
 };
 
+/// What one character folds to: at most a few units, none for a mark that does not count.
+class FoldedCharacter {
+  public:
+    const char16_t* begin() const { return m_units.data(); }
+    const char16_t* end() const { return m_units.data() + m_size; }
+    qsizetype size() const { return m_size; }
+
+    void append(char32_t character);
+
+  private:
+    /// Four characters are what a canonical decomposition comes to.
+    std::array<char16_t, 8> m_units;
+    qsizetype m_size = 0;
+};
+
 /// How one code unit of the basic plane folds in a mode. Marks vanish where diacritics do not count, letters
 /// that do not decompose (đ, ł, ß, ı) stay, and a few (Hangul) become several units.
 class FoldTable {
@@ -31,11 +46,13 @@ class FoldTable {
     FoldMode mode() const { return m_mode; }
 
     /// The folded unit; kDropped or kSeveral where there is none or more than one. Surrogates fold to
-    /// kSeveral: pairs go through append.
+    /// kSeveral: pairs go through fold.
     char16_t operator[](char16_t unit) const { return (*m_units)[unit]; }
 
-    /// Appends what the character folds to, by Unicode.
-    void append(char32_t character, QString& to) const;
+    /// What the character folds to, by Unicode.
+    FoldedCharacter fold(char32_t character) const;
+
+    QString folded(QStringView text) const;
 
   private:
     explicit FoldTable(FoldMode mode);

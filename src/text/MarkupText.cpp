@@ -125,6 +125,10 @@ bool isPunctuation(QChar unit) {
 QString decodeMarkup(const QString& text) {
     QString decoded = text;
     const ProtectedSpan span = unwrapSection(decoded);
+    if (!decoded.contains(u'&')) {
+        decoded.truncate(kMostUnits);
+        return decoded;
+    }
     struct Named {
         QLatin1StringView key;
         char16_t unit;

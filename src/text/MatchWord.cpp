@@ -2,11 +2,14 @@
 
 #include "text/FoldTable.h"
 
-#include <vector>
-
 namespace guide {
 
 namespace {
+
+bool isLetter(char32_t character) {
+    return character < 0x80 ? (character | 0x20) >= U'a' && (character | 0x20) <= U'z'
+                            : QChar::isLetter(character);
+}
 
 /// Whether the character that ends at the position is a letter, marks taken as part of what they are on.
 bool letterEndsAt(QStringView text, qsizetype position) {
@@ -17,53 +20,52 @@ bool letterEndsAt(QStringView text, qsizetype position) {
             --position;
             character = QChar::surrogateToUcs4(text[position], text[position + 1]);
         }
-        if (!QChar::isMark(character)) {
-            return QChar::isLetter(character);
+        if (character < 0x80 || !QChar::isMark(character)) {
+            return isLetter(character);
         }
     }
     return false;
 }
 
-} // namespace
-
-bool standsAsWord(QStringView text, qsizetype begin, qsizetype end) {
-    if (letterEndsAt(text, begin)) {
-        return false;
-    }
-    while (end < text.size()) {
-        qsizetype behind = end;
-        const char32_t character = takeCodePoint(text, behind);
-        if (!QChar::isMark(character)) {
-            return character < 0x80 && !QChar::isLetter(character);
+/// Whether the text ends at the position or goes on with an ASCII character that is no letter.
+bool wordEndsAt(QStringView text, qsizetype position) {
+    while (position < text.size()) {
+        const char32_t character = takeCodePoint(text, position);
+        if (character < 0x80) {
+            return !isLetter(character);
         }
-        end = behind;
+        if (!QChar::isMark(character)) {
+            return false;
+        }
     }
     return true;
 }
 
+} // namespace
+
+bool standsAsWord(QStringView text, qsizetype begin, qsizetype end) {
+    return wordEndsAt(text, end) && !letterEndsAt(text, begin);
+}
+
 bool matchWord(QStringView text, QStringView word) {
     const FoldTable& table = FoldTable::of(FoldMode::CaseAndDiacritics);
-    QString wanted;
-    for (qsizetype i = 0; i < word.size();) {
-        table.append(takeCodePoint(word, i), wanted);
-    }
-    if (wanted.isEmpty()) {
+    const QString wanted = table.folded(word);
+    const qsizetype at = wanted.isEmpty() ? -1 : table.folded(text).indexOf(wanted);
+    if (at < 0) {
         return false;
     }
-    // The folded text, and for each of its units where the character stands that it comes from.
-    QString folded;
-    std::vector<qsizetype> begins;
-    std::vector<qsizetype> ends;
-    folded.reserve(text.size());
-    for (qsizetype i = 0; i < text.size();) {
-        const qsizetype begin = i;
-        table.append(takeCodePoint(text, i), folded);
-        begins.resize(static_cast<std::size_t>(folded.size()), begin);
-        ends.resize(static_cast<std::size_t>(folded.size()), i);
+    // Back to the characters that the first and the last unit of the match come from.
+    qsizetype begin = 0;
+    qsizetype end = 0;
+    for (qsizetype units = 0; units < at + wanted.size();) {
+        const qsizetype character = end;
+        const qsizetype before = units;
+        units += table.fold(takeCodePoint(text, end)).size();
+        if (before <= at && at < units) {
+            begin = character;
+        }
     }
-    const qsizetype at = folded.indexOf(wanted);
-    return at >= 0 && standsAsWord(text, begins[static_cast<std::size_t>(at)],
-                                   ends[static_cast<std::size_t>(at + wanted.size() - 1)]);
+    return standsAsWord(text, begin, end);
 }
 
 } // namespace guide

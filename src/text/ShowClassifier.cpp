@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <bitset>
-#include <initializer_list>
+#include <cstdint>
 #include <map>
 #include <vector>
 
@@ -15,51 +15,58 @@ namespace guide {
 
 namespace {
 
-constexpr std::size_t kMostWords = 384;
-using WordSet = std::bitset<kMostWords>;
+/// What one pass over a text found, as a set of clues. A group of the word lists is a clue, by its place in
+/// their order; the words that count on their own come behind.
+using Clues = std::uint64_t;
 
-/// What one pass over a text found.
-struct FoundWords {
-    /// That stand as a word, as matchWord says.
-    WordSet matched;
-    /// That occur at all.
-    WordSet seen;
+constexpr int kMostGroups = 32;
+
+enum Clue {
+    kOnCondition =
+        kMostGroups, // one clue for each group that has a conditional word, and one for its "unless"
+    kFallenLeaves = kOnCondition + 8,
+    kPets,
+    kSouthPark,
+    kReportage,
+    kTale,
+    kFilmShort,
+    kSeriesShort,
 };
 
-/// The words of all groups and of the later steps in one automaton, and the groups as sets of words.
+constexpr bool has(Clues clues, int clue) {
+    return (clues >> clue & 1) != 0;
+}
+
+/// The words of all groups and of the later steps in one automaton, each with what it is a clue of.
 class Vocabulary {
   public:
-    struct Group {
-        TVListingsCategory adds = 0;
-        TVListingsCategory clears = 0;
-        WordSet words;
-        std::optional<std::size_t> substring;
-        std::optional<std::size_t> conditional;
-        std::size_t unless = 0;
-    };
-
     Vocabulary() {
+        int conditions = kOnCondition;
         for (const ClassifierGroup& group : classifierGroups()) {
-            Group& made = m_groups.emplace_back(Group{group.adds, group.clears, {}, {}, {}, 0});
+            const int place = static_cast<int>(m_groups.size());
+            Group& made = m_groups.emplace_back(Group{group.adds, group.clears, 0, 0});
             for (const char16_t* word : group.words) {
-                made.words.set(indexOf(word));
+                add(word, place);
             }
             if (group.substring) {
-                made.substring = indexOf(group.substring);
+                meaningOf(group.substring).ifSeen |= Clues(1) << place;
             }
             if (group.conditional) {
-                made.conditional = indexOf(group.conditional);
-                made.unless = indexOf(group.unless);
+                made.conditional = conditions++;
+                made.unless = conditions++;
+                add(group.conditional, made.conditional);
+                add(group.unless, made.unless);
             }
         }
-        fallenLeaves = indexOf(u"kad lišće pada");
-        pets = indexOf(u"kućni ljubimci");
-        southPark = indexOf(u"south park");
-        reportage = indexOf(u"reportaža");
-        tale = indexOf(u"priča");
-        film = indexOf(u"f.");
-        series = indexOf(u"s.");
-        seriesWithComma = indexOf(u"s,");
+        Q_ASSERT(m_groups.size() <= kMostGroups && conditions <= kFallenLeaves);
+        add(u"kad lišće pada", kFallenLeaves);
+        add(u"kućni ljubimci", kPets);
+        add(u"south park", kSouthPark);
+        add(u"reportaža", kReportage);
+        add(u"priča", kTale);
+        add(u"f.", kFilmShort);
+        add(u"s.", kSeriesShort);
+        add(u"s,", kSeriesShort);
         Q_ASSERT(m_words.size() <= kMostWords);
         m_automaton.emplace(m_words, FoldMode::CaseAndDiacritics);
     }
@@ -69,45 +76,67 @@ class Vocabulary {
         return kVocabulary;
     }
 
-    const std::vector<Group>& groups() const { return m_groups; }
-
-    FoundWords find(QStringView text) const {
-        FoundWords found;
-        m_automaton->walk(text, [&](int word, qsizetype end) {
-            const auto index = static_cast<std::size_t>(word);
+    Clues find(QStringView text) const {
+        Clues clues = 0;
+        std::bitset<kMostWords> seen;
+        m_automaton->walk(text, [&](const WordAutomaton::Occurrence& occurrence) {
+            const auto word = static_cast<std::size_t>(occurrence.word);
             // Only the first occurrence of a word is looked at.
-            if (found.seen.test(index)) {
+            if (seen.test(word)) {
                 return;
             }
-            found.seen.set(index);
-            if (standsAsWord(text, m_automaton->beginOf(text, word, end), end)) {
-                found.matched.set(index);
+            seen.set(word);
+            const Meaning& meaning = m_meanings[word];
+            clues |= meaning.ifSeen;
+            if ((meaning.ifMatched & ~clues) != 0 &&
+                standsAsWord(text, m_automaton->beginOf(text, occurrence), occurrence.end)) {
+                clues |= meaning.ifMatched;
             }
         });
-        return found;
+        return clues;
     }
 
-    std::size_t fallenLeaves = 0;
-    std::size_t pets = 0;
-    std::size_t southPark = 0;
-    std::size_t reportage = 0;
-    std::size_t tale = 0;
-    std::size_t film = 0;
-    std::size_t series = 0;
-    std::size_t seriesWithComma = 0;
+    /// Adds what the groups add whose words a text has, in their order.
+    TVListingsCategory withGroups(TVListingsCategory categories, Clues clues) const {
+        for (std::size_t place = 0; place < m_groups.size(); ++place) {
+            const Group& group = m_groups[place];
+            if (has(clues, static_cast<int>(place)) ||
+                (group.conditional != 0 && has(clues, group.conditional) && !has(clues, group.unless))) {
+                categories = (categories & ~group.clears) | group.adds;
+            }
+        }
+        return categories;
+    }
 
   private:
-    std::size_t indexOf(const char16_t* word) {
-        const auto [place, isNew] = m_indices.try_emplace(QString::fromUtf16(word), m_words.size());
+    static constexpr std::size_t kMostWords = 384;
+
+    struct Group {
+        TVListingsCategory adds;
+        TVListingsCategory clears;
+        /// Clues, or 0.
+        int conditional;
+        int unless;
+    };
+    struct Meaning {
+        Clues ifMatched = 0;
+        Clues ifSeen = 0;
+    };
+
+    Meaning& meaningOf(const char16_t* word) {
+        const auto [place, isNew] = m_places.try_emplace(QString::fromUtf16(word), m_words.size());
         if (isNew) {
             m_words.push_back(place->first);
+            m_meanings.emplace_back();
         }
-        return place->second;
+        return m_meanings[place->second];
     }
+    void add(const char16_t* word, int clue) { meaningOf(word).ifMatched |= Clues(1) << clue; }
 
     std::vector<Group> m_groups;
+    std::map<QString, std::size_t> m_places;
     std::vector<QString> m_words;
-    std::map<QString, std::size_t> m_indices;
+    std::vector<Meaning> m_meanings;
     std::optional<WordAutomaton> m_automaton;
 };
 
@@ -193,74 +222,56 @@ constexpr std::array kExclusions{
     Exclusion{kSports | kEntertainment, 0, kEntertainment},
 };
 
-void addGroups(const Vocabulary& vocabulary, const FoundWords& found, TVListingsCategory& categories) {
-    for (const Vocabulary::Group& group : vocabulary.groups()) {
-        if ((group.words & found.matched).any() || (group.substring && found.seen.test(*group.substring)) ||
-            (group.conditional && found.matched.test(*group.conditional) &&
-             !found.matched.test(group.unless))) {
-            categories = (categories & ~group.clears) | group.adds;
-        }
-    }
-}
-
-/// The last resort: abbreviations of a film or a series.
-TVListingsCategory abbreviated(const Vocabulary& vocabulary, std::initializer_list<const FoundWords*> texts,
-                               const FoundWords& identificator) {
-    for (const FoundWords* text : texts) {
-        if (text != &identificator && text->matched.test(vocabulary.film)) {
-            return TVListingsCategoryMovies;
-        }
-        if (text->matched.test(vocabulary.series) || text->matched.test(vocabulary.seriesWithComma)) {
-            return TVListingsCategorySeries;
-        }
-    }
-    return 0;
-}
-
 } // namespace
 
 TVListingsCategory classifyEntry(const std::optional<QString>& sourceId, const ClassifiedTexts& texts) {
     const Vocabulary& vocabulary = Vocabulary::instance();
     TVListingsCategory categories = sourceId ? categoriesOfSource(*sourceId) : 0;
 
-    const auto find = [&](const std::optional<QString>& text) {
-        return text && !text->isEmpty() ? vocabulary.find(*text) : FoundWords{};
-    };
-    const FoundWords details = find(texts.instantDetails1);
-    const FoundWords title = find(texts.identificator);
-    const FoundWords description = find(texts.instantDescription1);
-    const auto inOrder = {&details, &title, &description};
-    if ((details.seen | title.seen | description.seen).none()) {
+    constexpr std::size_t kTitle = 1;
+    const std::array<Clues, 3> clues{vocabulary.find(texts.instantDetails1),
+                                     vocabulary.find(texts.identificator),
+                                     vocabulary.find(texts.instantDescription1)};
+    if ((clues[0] | clues[1] | clues[2]) == 0) {
         return categories;
     }
-    for (const FoundWords* text : inOrder) {
-        if (text->seen.any()) {
-            addGroups(vocabulary, *text, categories);
+    for (const Clues text : clues) {
+        if (text != 0) {
+            categories = vocabulary.withGroups(categories, text);
         }
     }
 
-    if (title.matched.test(vocabulary.fallenLeaves)) {
+    if (has(clues[kTitle], kFallenLeaves)) {
         categories = (categories & ~kAllFilm) | kSeries;
     }
-    if (title.matched.test(vocabulary.pets)) {
+    if (has(clues[kTitle], kPets)) {
         categories &= ~kAllFilm;
     }
-    const bool filmOrChildren = categories & (kAllFilm | kForChildren);
-    for (const FoundWords* text : inOrder) {
-        if (filmOrChildren && text->matched.test(vocabulary.southPark)) {
-            categories &= ~kForChildren;
-        }
-        if (filmOrChildren && text->matched.test(vocabulary.reportage)) {
-            categories &= ~kAllFilm;
+    if (categories & (kAllFilm | kForChildren)) {
+        for (const Clues text : clues) {
+            if (has(text, kSouthPark)) {
+                categories &= ~kForChildren;
+            }
+            if (has(text, kReportage)) {
+                categories &= ~kAllFilm;
+            }
         }
     }
     if (!(categories & (kAllFilm | kSeries))) {
-        for (const FoundWords* text : inOrder) {
-            if (text->matched.test(vocabulary.tale)) {
-                categories |= kForChildren;
+        if (has(clues[0] | clues[1] | clues[2], kTale)) {
+            categories |= kForChildren;
+        }
+        // The last resort: abbreviations of a film or a series.
+        for (std::size_t i = 0; i < clues.size(); ++i) {
+            if (i != kTitle && has(clues[i], kFilmShort)) {
+                categories |= TVListingsCategoryMovies;
+                break;
+            }
+            if (has(clues[i], kSeriesShort)) {
+                categories |= kSeries;
+                break;
             }
         }
-        categories |= abbreviated(vocabulary, inOrder, title);
     }
     for (const Exclusion& exclusion : kExclusions) {
         if ((categories & exclusion.all) == exclusion.all &&

@@ -8,11 +8,18 @@
 
 namespace guide {
 
-/// The texts that a show is classified by; unset and empty ones are skipped.
+/// The texts that a show is classified by; unset and empty ones are skipped. Made for the call: it does not
+/// keep the texts.
 struct ClassifiedTexts {
-    std::optional<QString> instantDetails1;
-    std::optional<QString> identificator;
-    std::optional<QString> instantDescription1;
+    ClassifiedTexts(const std::optional<QString>& details, const std::optional<QString>& title,
+                    const std::optional<QString>& description)
+        : instantDetails1(details ? QStringView(*details) : QStringView())
+        , identificator(title ? QStringView(*title) : QStringView())
+        , instantDescription1(description ? QStringView(*description) : QStringView()) {}
+
+    QStringView instantDetails1;
+    QStringView identificator;
+    QStringView instantDescription1;
 };
 
 /// The categories that word lists in many languages, the number of the source and a pass of exclusions give a

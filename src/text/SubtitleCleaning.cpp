@@ -76,7 +76,8 @@ FinishedSubtitle finishSubtitle(const std::optional<QString>& subtitle, bool rec
     qCDebug(textLog, "s1=%s s2=%s subtitle1=%s p1=%d p2=%d", qUtf8Printable(*subtitle),
             working.toUtf8().constData(), firstForm.toUtf8().constData(), opening, closing);
     const bool unwrapped = opening == closing && !working.contains(u'(') && !working.contains(u')');
-    QString finished = (unwrapped ? working : firstForm).toString();
+    const QStringView form = unwrapped ? working : firstForm;
+    QString finished = form.size() == subtitle->size() ? *subtitle : form.toString();
     if (recognised) {
         return {std::nullopt, std::move(finished)};
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 namespace guide {
@@ -24,54 +25,99 @@ struct Replacement {
     std::u16string_view to;
 };
 
-/// In this order, each everywhere in the text before the next.
+/// They go before the letters. No key begins inside another one but "zh" in "dzh", so one pass from the front
+/// equals a pass for each key. Keys that begin alike stand together.
 constexpr std::array kReplacements{
-    Replacement{u"dzh", u"\u045F"},          Replacement{u"Dzh", u"\u040F"},
-    Replacement{u"lj", u"\u0459"},           Replacement{u"Lj", u"\u0409"},
-    Replacement{u"nj", u"\u045A"},           Replacement{u"Nj", u"\u040A"},
-    Replacement{u"d\u017E", u"\u045F"},      Replacement{u"D\u017E", u"\u040F"},
-    Replacement{u"gj", u"\u0453"},           Replacement{u"Gj", u"\u0403"},
-    Replacement{u"zh", u"\u0436"},           Replacement{u"Zh", u"\u0416"},
-    Replacement{u"kj", u"\u045C"},           Replacement{u"Kj", u"\u040C"},
-    Replacement{u"ch", u"\u0447"},           Replacement{u"Ch", u"\u0427"},
-    Replacement{u"sh", u"\u0448"},           Replacement{u"Sh", u"\u0428"},
-    Replacement{u"l\u0302", u"\u0459"},      Replacement{u"L\u0302", u"\u0409"},
-    Replacement{u"n\u0302", u"\u045A"},      Replacement{u"N\u0302", u"\u040A"},
-    Replacement{u"d\u0302", u"\u045F"},      Replacement{u"D\u0302", u"\u040F"},
-    Replacement{u"\u017A", u"\u0437\u0301"}, Replacement{u"\u0179", u"\u0417\u0301"},
-    Replacement{u"\u015B", u"\u0107"},       Replacement{u"\u015A", u"\u0106"},
+    Replacement{u"dzh", u"\u045F"},
+    Replacement{u"d\u017E", u"\u045F"},
+    Replacement{u"d\u0302", u"\u045F"},
+    Replacement{u"Dzh", u"\u040F"},
+    Replacement{u"D\u017E", u"\u040F"},
+    Replacement{u"D\u0302", u"\u040F"},
+    Replacement{u"lj", u"\u0459"},
+    Replacement{u"l\u0302", u"\u0459"},
+    Replacement{u"Lj", u"\u0409"},
+    Replacement{u"L\u0302", u"\u0409"},
+    Replacement{u"nj", u"\u045A"},
+    Replacement{u"n\u0302", u"\u045A"},
+    Replacement{u"Nj", u"\u040A"},
+    Replacement{u"N\u0302", u"\u040A"},
+    Replacement{u"gj", u"\u0453"},
+    Replacement{u"Gj", u"\u0403"},
+    Replacement{u"zh", u"\u0436"},
+    Replacement{u"Zh", u"\u0416"},
+    Replacement{u"kj", u"\u045C"},
+    Replacement{u"Kj", u"\u040C"},
+    Replacement{u"ch", u"\u0447"},
+    Replacement{u"Ch", u"\u0427"},
+    Replacement{u"sh", u"\u0448"},
+    Replacement{u"Sh", u"\u0428"},
+    Replacement{u"\u017A", u"\u0437\u0301"},
+    Replacement{u"\u0179", u"\u0417\u0301"},
+    // They go to "ć" and "Ć", which the alphabet then has a letter for.
+    Replacement{u"\u015B", u"\u045B"},
+    Replacement{u"\u015A", u"\u040B"},
+    // Goes last of all, but nothing before it touches it.
+    Replacement{u"J\u030C", u"\u0408"},
 };
 
-QString toQString(std::u16string_view text) {
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-}
+/// What a unit becomes on its own, and the keys that begin with it. Nothing above these pages is touched: the
+/// last Latin letter of the alphabet lies below U+1F00.
+struct UnitTable {
+    static constexpr std::size_t kUnits = 0x1F00;
 
-/// What each unit of the first pages becomes: the last Latin letter of the alphabet lies below U+1F00.
-const std::array<char16_t, 0x1F00>& letters() {
-    static const auto kLetters = [] {
-        std::array<char16_t, 0x1F00> table{};
-        for (std::size_t unit = 0; unit < table.size(); ++unit) {
-            table[unit] = static_cast<char16_t>(unit);
+    UnitTable() {
+        for (std::size_t unit = 0; unit < kUnits; ++unit) {
+            letters[unit] = static_cast<char16_t>(unit);
         }
         for (std::size_t i = 0; i < kLatin.size(); ++i) {
-            table[kLatin[i]] = kCyrillic[i];
+            letters[kLatin[i]] = kCyrillic[i];
         }
-        return table;
-    }();
-    return kLetters;
+        for (std::size_t i = kReplacements.size(); i-- > 0;) {
+            firstKeys[kReplacements[i].from.front()] = static_cast<std::uint8_t>(i + 1);
+        }
+    }
+
+    std::array<char16_t, kUnits> letters;
+    /// One more than the place of the first key that begins with the unit, or 0.
+    std::array<std::uint8_t, kUnits> firstKeys{};
+};
+
+/// The first key that the rest of a text begins with, from a place among those that begin with its first
+/// unit.
+const Replacement* replacementAt(std::u16string_view rest, std::size_t firstKey) {
+    for (std::size_t i = firstKey; i < kReplacements.size(); ++i) {
+        if (kReplacements[i].from.front() != rest.front()) {
+            break;
+        }
+        if (rest.starts_with(kReplacements[i].from)) {
+            return &kReplacements[i];
+        }
+    }
+    return nullptr;
 }
 
-QString transliterated(QString text) {
-    for (const Replacement& replacement : kReplacements) {
-        text.replace(toQString(replacement.from), toQString(replacement.to));
-    }
-    const auto& table = letters();
-    for (QChar& unit : text) {
-        if (unit.unicode() < table.size()) {
-            unit = QChar(table[unit.unicode()]);
+QString transliterated(const QString& text) {
+    static const UnitTable kTable;
+    const std::u16string_view view(QStringView(text).utf16(), static_cast<std::size_t>(text.size()));
+    // One unit at most becomes two.
+    QString result(text.size() * 2, Qt::Uninitialized);
+    QChar* to = result.data();
+    for (std::size_t i = 0; i < view.size();) {
+        const char16_t unit = view[i];
+        const std::size_t firstKey = unit < UnitTable::kUnits ? kTable.firstKeys[unit] : 0;
+        const Replacement* const replacement =
+            firstKey == 0 ? nullptr : replacementAt(view.substr(i), firstKey - 1);
+        if (replacement != nullptr) {
+            to = std::copy(replacement->to.begin(), replacement->to.end(), to);
+            i += replacement->from.size();
+        } else {
+            *to++ = QChar(unit < UnitTable::kUnits ? kTable.letters[unit] : unit);
+            ++i;
         }
     }
-    return text.replace(u"J\u030C"_s, u"\u0408"_s);
+    result.truncate(to - result.constData());
+    return result;
 }
 
 bool isWrittenInCyrillic(const QString& language, const Alphabet& alphabet) {

@@ -1,7 +1,6 @@
 #include "text/WordAutomaton.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace guide {
 
@@ -12,16 +11,8 @@ struct Node {
     std::vector<std::uint32_t> next;
     std::uint32_t fallback = 0;
     /// The words that end here, longest first.
-    std::vector<std::uint16_t> words;
+    std::vector<int> words;
 };
-
-QString folded(const FoldTable& table, const QString& word) {
-    QString result;
-    for (qsizetype i = 0; i < word.size();) {
-        table.append(takeCodePoint(word, i), result);
-    }
-    return result;
-}
 
 } // namespace
 
@@ -31,8 +22,8 @@ WordAutomaton::WordAutomaton(const std::vector<QString>& words, FoldMode mode)
     std::vector<QString> foldedWords;
     foldedWords.reserve(words.size());
     for (const QString& word : words) {
-        foldedWords.push_back(folded(*m_table, word));
-        m_lengths.push_back(static_cast<int>(foldedWords.back().size()));
+        foldedWords.push_back(m_table->folded(word));
+        m_lengths.push_back(foldedWords.back().size());
         for (const QChar unit : foldedWords.back()) {
             m_alphabet.push_back(unit.unicode());
         }
@@ -63,7 +54,7 @@ WordAutomaton::WordAutomaton(const std::vector<QString>& words, FoldMode mode)
             }
             node = nodes[node].next[unitClass];
         }
-        nodes[node].words.push_back(static_cast<std::uint16_t>(word));
+        nodes[node].words.push_back(static_cast<int>(word));
     }
 
     // Breadth first, so that a node's fallback is complete before the node is.
@@ -83,22 +74,21 @@ WordAutomaton::WordAutomaton(const std::vector<QString>& words, FoldMode mode)
             order.push_back(child);
         }
     }
-    Q_ASSERT(nodes.size() <= 0x10000);
-
     std::stable_partition(order.begin(), order.end(),
                           [&](std::uint32_t node) { return nodes[node].words.empty(); });
-    std::vector<std::uint16_t> place(nodes.size());
+    std::vector<std::uint32_t> rows(nodes.size());
     for (std::size_t at = 0; at < order.size(); ++at) {
-        place[order[at]] = static_cast<std::uint16_t>(at);
+        rows[order[at]] = static_cast<std::uint32_t>(at) * m_classCount;
     }
-    m_next.resize(nodes.size() * m_classCount);
-    m_firstAccepting = static_cast<std::uint32_t>(nodes.size());
-    for (std::size_t at = 0; at < order.size(); ++at) {
-        const Node& node = nodes[order[at]];
-        std::ranges::transform(node.next, m_next.begin() + static_cast<std::ptrdiff_t>(at * m_classCount),
-                               [&](std::uint32_t next) { return place[next]; });
+    m_next.reserve(nodes.size() * m_classCount);
+    m_firstAccepting = static_cast<std::uint32_t>(nodes.size()) * m_classCount;
+    for (const std::uint32_t place : order) {
+        const Node& node = nodes[place];
+        for (const std::uint32_t next : node.next) {
+            m_next.push_back(rows[next]);
+        }
         if (!node.words.empty()) {
-            m_firstAccepting = std::min(m_firstAccepting, static_cast<std::uint32_t>(at));
+            m_firstAccepting = std::min(m_firstAccepting, rows[place]);
             m_acceptedFrom.push_back(static_cast<std::uint32_t>(m_accepted.size()));
             m_accepted.insert(m_accepted.end(), node.words.begin(), node.words.end());
         }
@@ -113,10 +103,9 @@ std::uint8_t WordAutomaton::foldedClass(char16_t unit) const {
                : std::uint8_t(0);
 }
 
-qsizetype WordAutomaton::beginOf(QStringView text, int word, qsizetype end) const {
-    qsizetype position = end;
-    QString several;
-    for (int left = foldedLength(word); left > 0;) {
+qsizetype WordAutomaton::beginAmongMarks(QStringView text, const Occurrence& occurrence) const {
+    qsizetype position = occurrence.end;
+    for (qsizetype left = m_lengths[static_cast<std::size_t>(occurrence.word)]; left > 0;) {
         const QChar unit = text[--position];
         const char16_t foldedUnit = (*m_table)[unit.unicode()];
         if (foldedUnit == FoldTable::kDropped) {
@@ -129,10 +118,8 @@ qsizetype WordAutomaton::beginOf(QStringView text, int word, qsizetype end) cons
         if (unit.isLowSurrogate() && position > 0 && text[position - 1].isHighSurrogate()) {
             --position;
         }
-        several.clear();
         qsizetype behind = position;
-        m_table->append(takeCodePoint(text, behind), several);
-        left -= static_cast<int>(several.size());
+        left -= m_table->fold(takeCodePoint(text, behind)).size();
     }
     return position;
 }

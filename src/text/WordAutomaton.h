@@ -8,7 +8,6 @@
 #include <array>
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <vector>
 
 namespace guide {
@@ -22,45 +21,57 @@ class WordAutomaton {
     /// Word i is reported by its index. A word that folds to nothing is never found.
     WordAutomaton(const std::vector<QString>& words, FoldMode mode);
 
-    /// Calls `found(word, end)` for every occurrence, in the order of their ends and, of one end, the longest
-    /// first. `end` is the position behind the last unit that took part, before any marks that belong to it.
+    /// An occurrence of a word. `end` is the position behind the last unit that took part, before any marks
+    /// that belong to it.
+    struct Occurrence {
+        int word;
+        qsizetype end;
+        /// From here up to the end each unit of the text is one folded unit.
+        qsizetype plainFrom;
+    };
+
+    /// Calls `found(occurrence)` for every one, in the order of their ends and, of one end, the longest
+    /// first.
     template <class Found>
     void walk(QStringView text, Found&& found) const {
-        const std::uint16_t* const next = m_next.data();
+        const std::uint32_t* const next = m_next.data();
         const std::uint8_t* const classes = m_classes->data();
+        const std::uint32_t firstAccepting = m_firstAccepting;
         const char16_t* const units = text.utf16();
         const qsizetype size = text.size();
         std::uint32_t state = 0;
+        qsizetype plainFrom = 0;
         for (qsizetype i = 0; i < size; ++i) {
             const std::uint8_t unitClass = classes[units[i]];
-            if (unitClass >= kDropped) {
+            if (unitClass >= kDropped) [[unlikely]] {
                 if (unitClass == kSeveral) {
                     state = walkSeveral(text, i, state, found);
                 }
+                plainFrom = i + 1;
                 continue;
             }
-            state = next[state * m_classCount + unitClass];
-            if (state >= m_firstAccepting) {
-                report(state, i + 1, found);
+            state = next[state + unitClass];
+            if (state >= firstAccepting) [[unlikely]] {
+                report(state, i + 1, plainFrom, found);
             }
         }
     }
 
-    /// The length of the word in folded units.
-    int foldedLength(int word) const { return m_lengths[static_cast<std::size_t>(word)]; }
-    /// Where an occurrence begins whose end walk has told.
-    qsizetype beginOf(QStringView text, int word, qsizetype end) const;
-    const FoldTable& table() const { return *m_table; }
+    /// Where an occurrence that walk has told begins.
+    qsizetype beginOf(QStringView text, const Occurrence& occurrence) const {
+        const qsizetype begin = occurrence.end - m_lengths[static_cast<std::size_t>(occurrence.word)];
+        return begin >= occurrence.plainFrom ? begin : beginAmongMarks(text, occurrence);
+    }
 
   private:
     static constexpr std::uint8_t kDropped = 0xFE;
     static constexpr std::uint8_t kSeveral = 0xFF;
 
     template <class Found>
-    void report(std::uint32_t state, qsizetype end, Found&& found) const {
-        const std::uint32_t accepting = state - m_firstAccepting;
+    void report(std::uint32_t state, qsizetype end, qsizetype plainFrom, Found&& found) const {
+        const std::uint32_t accepting = (state - m_firstAccepting) / m_classCount;
         for (std::uint32_t i = m_acceptedFrom[accepting]; i < m_acceptedFrom[accepting + 1]; ++i) {
-            found(static_cast<int>(m_accepted[i]), end);
+            found(Occurrence{m_accepted[i], end, plainFrom});
         }
     }
 
@@ -69,19 +80,18 @@ class WordAutomaton {
     std::uint32_t walkSeveral(QStringView text, qsizetype& position, std::uint32_t state,
                               Found&& found) const {
         qsizetype behind = position;
-        QString folded;
-        m_table->append(takeCodePoint(text, behind), folded);
-        for (const QChar unit : folded) {
-            const std::uint8_t unitClass = foldedClass(unit.unicode());
-            state = m_next[state * m_classCount + unitClass];
+        const FoldedCharacter folded = m_table->fold(takeCodePoint(text, behind));
+        for (const char16_t unit : folded) {
+            state = m_next[state + foldedClass(unit)];
             if (state >= m_firstAccepting) {
-                report(state, behind, found);
+                report(state, behind, behind, found);
             }
         }
         position = behind - 1;
         return state;
     }
 
+    qsizetype beginAmongMarks(QStringView text, const Occurrence& occurrence) const;
     std::uint8_t foldedClass(char16_t unit) const;
 
     const FoldTable* m_table;
@@ -90,12 +100,13 @@ class WordAutomaton {
     /// The units that words have, in ascending order: class c is that of m_alphabet[c - 1].
     std::u16string m_alphabet;
     std::uint32_t m_classCount = 1;
-    /// State by class. Accepting states come last.
-    std::vector<std::uint16_t> m_next;
+    /// State by class; a state is the place of its row here. Accepting states come last.
+    std::vector<std::uint32_t> m_next;
     std::uint32_t m_firstAccepting = 0;
     std::vector<std::uint32_t> m_acceptedFrom;
-    std::vector<std::uint16_t> m_accepted;
-    std::vector<int> m_lengths;
+    std::vector<int> m_accepted;
+    /// In folded units.
+    std::vector<qsizetype> m_lengths;
 };
 
 } // namespace guide
