@@ -13,12 +13,15 @@ namespace {
 /// Stands behind each text; no UTF-8 holds it.
 constexpr char kTextEnd = '\xff';
 
+/// The most that a unit of a text takes as UTF-8.
+constexpr qsizetype kBytesPerUnit = 3;
+
 } // namespace
 
 QByteArray searchPattern(const QString& pattern) {
     const QString folded = foldedText(pattern);
-    QByteArray bytes(static_cast<qsizetype>(utf8Length(folded)), Qt::Uninitialized);
-    writeUtf8(folded, bytes.data());
+    QByteArray bytes(folded.size() * kBytesPerUnit, Qt::Uninitialized);
+    bytes.truncate(writeUtf8(folded, bytes.data()) - bytes.constData());
     return bytes;
 }
 
@@ -33,8 +36,10 @@ void SearchText::append(const std::optional<QString>& text) {
     }
     const QString folded = foldedText(*text);
     const qsizetype begin = m_text.size();
-    m_text.resize(begin + static_cast<qsizetype>(utf8Length(folded)) + 1);
-    *writeUtf8(folded, m_text.data() + begin) = kTextEnd;
+    m_text.resize(begin + folded.size() * kBytesPerUnit + 1);
+    char* end = writeUtf8(folded, m_text.data() + begin);
+    *end++ = kTextEnd;
+    m_text.truncate(end - m_text.constData());
 }
 
 void SearchText::append(const ShowItem& show) {
