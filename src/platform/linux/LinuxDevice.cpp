@@ -37,7 +37,9 @@ QTimeZone LinuxDevice::timeZone() const {
 }
 
 QLocale LinuxDevice::locale() const {
-    return QLocale::system();
+    const QLocale system = QLocale::system();
+    // The locale of no language writes times and dates as no person does.
+    return system.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedKingdom) : system;
 }
 
 QSizeF LinuxDevice::screenSize() const {

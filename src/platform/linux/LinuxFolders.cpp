@@ -78,8 +78,15 @@ QString bundleFolder() {
 
 } // namespace
 
-std::optional<Folders> linuxFolders(const LinuxFolderOptions& options) {
+Folders namedLinuxFolders(const LinuxFolderOptions& options) {
     Folders folders = options.profile.isEmpty() ? desktopFolders() : profileFolders(options.profile);
+    folders.bundle =
+        options.bundle.isEmpty() ? bundleFolder() : QDir::cleanPath(QDir(options.bundle).absolutePath());
+    return folders;
+}
+
+std::optional<Folders> linuxFolders(const LinuxFolderOptions& options) {
+    Folders folders = namedLinuxFolders(options);
     for (const QString& folder :
          {folders.caches, folders.documents, folders.configuration, folders.runtime, folders.keyValueStore}) {
         if (!makeFolder(folder)) {
@@ -87,8 +94,6 @@ std::optional<Folders> linuxFolders(const LinuxFolderOptions& options) {
             return std::nullopt;
         }
     }
-    folders.bundle =
-        options.bundle.isEmpty() ? bundleFolder() : QDir::cleanPath(QDir(options.bundle).absolutePath());
     return folders;
 }
 

@@ -19,4 +19,7 @@ struct LinuxFolderOptions {
 /// when one cannot be made or written. The bundle is only named, and empty when it is found nowhere.
 std::optional<Folders> linuxFolders(const LinuxFolderOptions& options);
 
+/// The same folders, only named: nothing is made or looked at but the bundle.
+Folders namedLinuxFolders(const LinuxFolderOptions& options);
+
 } // namespace guide

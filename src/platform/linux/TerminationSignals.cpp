@@ -1,0 +1,59 @@
+#include "platform/linux/TerminationSignals.h"
+
+#include <QSocketNotifier>
+
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+#include <utility>
+
+namespace guide {
+
+namespace {
+
+constexpr int kSignals[] = {SIGTERM, SIGINT, SIGHUP};
+
+// A signal handler can reach nothing but what lives for ever.
+int theSignalPipe[2] = {-1, -1};
+
+void onSignal(int signal) {
+    const int savedError = errno;
+    const char byte = 1;
+    // A full pipe has a signal in it already.
+    [[maybe_unused]] const auto written = ::write(theSignalPipe[1], &byte, 1);
+    std::signal(signal, SIG_DFL);
+    errno = savedError;
+}
+
+} // namespace
+
+TerminationSignals::TerminationSignals(std::function<void()> requested)
+    : m_requested(std::move(requested)) {
+    if (::pipe2(theSignalPipe, O_CLOEXEC | O_NONBLOCK) != 0) {
+        qWarning("Signals end the program at once: there is no pipe for them");
+        return;
+    }
+    m_notifier = new QSocketNotifier(theSignalPipe[0], QSocketNotifier::Read, this);
+    connect(m_notifier, &QSocketNotifier::activated, this, [this] {
+        m_notifier->setEnabled(false);
+        m_requested();
+    });
+    for (const int signal : kSignals) {
+        std::signal(signal, onSignal);
+    }
+}
+
+TerminationSignals::~TerminationSignals() {
+    for (const int signal : kSignals) {
+        std::signal(signal, SIG_DFL);
+    }
+    delete std::exchange(m_notifier, nullptr);
+    for (int& end : theSignalPipe) {
+        if (end >= 0) {
+            ::close(std::exchange(end, -1));
+        }
+    }
+}
+
+} // namespace guide
