@@ -91,3 +91,9 @@ function(guide_tests NAME)
                          PROPERTIES TIMEOUT 120 LABELS "${ARG_LABELS}"
                          ENVIRONMENT "TZ=Australia/Lord_Howe;LC_ALL=C.UTF-8;QT_QPA_PLATFORM=offscreen")
 endfunction()
+
+# Lets a program that runs from the build tree find the data of the source tree beside itself.
+function(guide_bundle_beside TARGET)
+    get_target_property(FOLDER ${TARGET} BINARY_DIR)
+    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/data ${FOLDER}/data SYMBOLIC)
+endfunction()

@@ -18,7 +18,8 @@ struct CommandShape {
     int mostOperands = 0;
 };
 
-/// A command line taken apart. An operand may begin with a dash: only a word that begins with two is an option.
+/// A command line taken apart. An operand may begin with a dash: only a word that begins with two is an
+/// option.
 struct Arguments {
     QStringList operands;
     /// The values of each option in the order given, by its name without the dashes; a flag has no values.

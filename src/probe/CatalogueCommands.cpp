@@ -1,0 +1,62 @@
+#include "core/ChannelCatalogue.h"
+#include "core/ChannelFilter.h"
+#include "core/SupportedChannelTypes.h"
+#include "core/TVStationIcons.h"
+#include "probe/Command.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QSet>
+
+namespace guide::probe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The names under which a folder holds icons: each file's name, with and without its extension.
+QSet<QString> iconNames(const QString& folder) {
+    QSet<QString> names;
+    for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files)) {
+        names.insert(file.fileName());
+        names.insert(file.completeBaseName());
+    }
+    return names;
+}
+
+Outcome filter(Context& context) {
+    const QString& path = context.arguments.operands[0];
+    const auto channels = channelsOfPropertyList(path);
+    if (!channels) {
+        return Failure{u"%1 cannot be read as a catalogue"_s.arg(path)};
+    }
+    HasIcon hasIcon = [](const QString&) { return true; };
+    if (const auto folder = context.arguments.value(u"icons"_s)) {
+        if (!QDir(*folder).exists()) {
+            return Failure{u"%1 is no folder"_s.arg(*folder)};
+        }
+        hasIcon = [names = iconNames(*folder)](const QString& name) { return names.contains(name); };
+    }
+    const auto types =
+        SupportedChannelTypes::fromFile(context.bundleFolder + "/supported-channel-types.json"_L1);
+    QJsonArray list;
+    for (const ChannelDictionary& channel : filteredChannels(*channels, types, hasIcon)) {
+        QJsonObject row;
+        for (const auto& [key, value] : channel.asKeyValueRange()) {
+            row.insert(key, jsonText(value));
+        }
+        list.append(row);
+    }
+    return QJsonObject{{u"channels"_s, list}};
+}
+
+} // namespace
+
+std::vector<Command> catalogueCommands() {
+    return {{u"filter"_s,
+             {u"DATA_PLIST [--icons FOLDER]"_s, {u"icons"_s}, {}, 1, 1},
+             u"the channels of a catalogue that the guide would show"_s,
+             filter}};
+}
+
+} // namespace guide::probe

@@ -1,0 +1,52 @@
+#include "probe/Command.h"
+
+#include "parsers/ShowJSON.h"
+
+#include <QDateTime>
+
+namespace guide::probe {
+
+using namespace Qt::StringLiterals;
+
+const std::vector<Command>& allCommands() {
+    static const std::vector<Command> kCommands = [] {
+        std::vector<Command> all;
+        for (auto&& some : {sourceCommands(), listingsCommands(), textCommands(), catalogueCommands()}) {
+            all.insert(all.end(), some.begin(), some.end());
+        }
+        return all;
+    }();
+    return kCommands;
+}
+
+QJsonValue jsonText(const std::optional<QString>& text) {
+    if (!text) {
+        return QJsonValue::Null;
+    }
+    QString whole = *text;
+    for (qsizetype i = 0; i < whole.size(); ++i) {
+        if (!whole[i].isSurrogate()) {
+            continue;
+        }
+        if (whole[i].isHighSurrogate() && i + 1 < whole.size() && whole[i + 1].isLowSurrogate()) {
+            ++i;
+        } else {
+            whole[i] = QChar::ReplacementCharacter;
+        }
+    }
+    return whole;
+}
+
+QJsonValue jsonMoment(const std::optional<Moment>& moment) {
+    return moment ? QJsonValue(isoMoment(*moment)) : QJsonValue(QJsonValue::Null);
+}
+
+std::optional<Moment> momentFromText(const QString& text) {
+    const QDateTime moment = QDateTime::fromString(text, Qt::ISODateWithMs);
+    if (!moment.isValid()) {
+        return std::nullopt;
+    }
+    return Moment(std::chrono::milliseconds(moment.toMSecsSinceEpoch()));
+}
+
+} // namespace guide::probe

@@ -1,0 +1,206 @@
+#include "parsers/ListDriver.h"
+#include "parsers/ShowJSON.h"
+#include "platform/Clock.h"
+#include "platform/Decompression.h"
+#include "platform/ResponseCache.h"
+#include "platform/linux/CurlHTTPClient.h"
+#include "platform/linux/EventLoopQueues.h"
+#include "probe/Command.h"
+#include "sources/HTTPUserAgent.h"
+#include "sources/NetworkActivity.h"
+#include "sources/PageFetcher.h"
+#include "sources/PageText.h"
+#include "sources/SourceId.h"
+#include "sources/URLPlanner.h"
+#include "store/ListMerge.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QRandomGenerator>
+
+#include <thread>
+
+namespace guide::probe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A clock that stands at the moment that counts as now.
+class StandingClock final : public Clock {
+  public:
+    explicit StandingClock(Moment now)
+        : m_now(now) {}
+    Moment now() const override { return m_now; }
+
+  private:
+    Moment m_now;
+};
+
+/// What the merge would store of the lists that a reader made.
+MergeResult merged(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, unsigned type) {
+    MergeResult result;
+    for (const LoadItem& item : items) {
+        MergedList list = mergedList(std::move(parsed[item.channel]), item.language, now, type);
+        if (list.list) {
+            result.lists[item.channel] = list.list;
+        }
+        result.outcomes[item.channel] = list.outcome;
+    }
+    return result;
+}
+
+MergeResult readPages(const Context& context, const std::vector<LoadItem>& items,
+                      const std::vector<QByteArray>& pages, unsigned type) {
+    const StandingClock clock(context.now);
+    const Alphabet alphabet;
+    return ListDriver({clock, alphabet, context.hosts, merged}).netList(items, pages, context.now, type);
+}
+
+/// CHANNEL,SOURCE_ID,LANGUAGE: the source id may hold commas.
+std::optional<LoadItem> loadItem(const QString& text) {
+    const qsizetype first = text.indexOf(u',');
+    const qsizetype last = text.lastIndexOf(u',');
+    if (first < 0 || first == last) {
+        return std::nullopt;
+    }
+    return LoadItem{ObjectId::fromHex(text.left(first)), text.mid(first + 1, last - first - 1),
+                    text.mid(last + 1)};
+}
+
+std::variant<QByteArray, Failure> pageFromFile(const QString& path, const Context& context) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return Failure{u"%1 cannot be read: %2"_s.arg(path, file.errorString())};
+    }
+    std::optional<QByteArray> page = file.readAll();
+    const DecompressionLimits limits{context.device.physicalMemory()};
+    if (path.endsWith(".gz"_L1)) {
+        page = dataWithCompressedData(*page, limits);
+    } else if (path.endsWith(".xz"_L1)) {
+        page = dataWithXzData(*page, limits);
+    }
+    if (!page) {
+        return Failure{u"%1 cannot be unpacked"_s.arg(path)};
+    }
+    return *std::move(page);
+}
+
+Outcome parse(Context& context) {
+    const Arguments& arguments = context.arguments;
+    bool isNumber = false;
+    const unsigned type = arguments.value(u"type"_s).value_or(QString()).toUInt(&isNumber);
+    if (!isNumber) {
+        return Failure{u"--type wants the number of a listing type"_s, true};
+    }
+    std::vector<LoadItem> items;
+    for (const QString& text : arguments.options.value(u"item"_s)) {
+        const auto item = loadItem(text);
+        if (!item) {
+            return Failure{u"--item wants CHANNEL,SOURCE_ID,LANGUAGE, not \"%1\""_s.arg(text), true};
+        }
+        items.push_back(*item);
+    }
+    if (items.empty()) {
+        return Failure{u"--item is missing"_s, true};
+    }
+    std::vector<QByteArray> pages;
+    for (const QString& path : arguments.operands) {
+        auto page = pageFromFile(path, context);
+        if (const auto* failure = std::get_if<Failure>(&page)) {
+            return *failure;
+        }
+        pages.push_back(std::get<QByteArray>(std::move(page)));
+    }
+    return listsJSON(readPages(context, items, pages, type));
+}
+
+/// Fetches the pages of the URLs as a check does, up to the first that does not come. `why` says why it did
+/// not.
+std::vector<QByteArray> fetchPages(const Context& context, const QList<QUrl>& urls, QString& why) {
+    const StandingClock clock(context.now);
+    ResponseCache cache(clock, 0, [] { return std::chrono::milliseconds(0); });
+    CurlHTTPClient client(cache);
+    EventLoopQueues queues;
+    NetworkActivity activity(queues, [](bool) {});
+    const HTTPUserAgent userAgent([](unsigned bound) { return QRandomGenerator::global()->bounded(bound); });
+    const PageFetcher fetcher(
+        {.client = client,
+         .networkActivity = activity,
+         .physicalMemory = context.device.physicalMemory(),
+         .wait =
+             [](std::chrono::milliseconds time) {
+                 std::this_thread::sleep_for(time);
+                 return true;
+             },
+         .noRemoteHostAlert = [&](const TransferError& error) { why = error.description; }});
+    std::vector<QByteArray> pages;
+    for (const QUrl& url : urls) {
+        NetPage page = fetcher.netPageForRequest(pageRequest(url, userAgent), true);
+        if (!page.page) {
+            const QString reason = why.isEmpty() ? u"status %1"_s.arg(page.status) : why;
+            why = u"%1: %2"_s.arg(url.toString(), reason);
+            break;
+        }
+        pages.push_back(*std::move(page.page));
+    }
+    return pages;
+}
+
+Outcome check(Context& context) {
+    const QString& sourceId = context.arguments.operands[0];
+    const QString language = context.arguments.value(u"language"_s).value_or(QString());
+    const URLPlanner planner(context.hosts,
+                             [](unsigned bound) { return QRandomGenerator::global()->bounded(bound); });
+    const auto urls = planner.urlsForSourceId(sourceId, context.now, language, context.device.timeZone());
+    QJsonObject report{{u"urls"_s, QJsonValue::Null},
+                       {u"fetched"_s, 0},
+                       {u"shows"_s, 0},
+                       {u"first"_s, QJsonValue::Null},
+                       {u"last"_s, QJsonValue::Null}};
+    if (!urls) {
+        return report;
+    }
+    QJsonArray planned;
+    for (const QUrl& url : *urls) {
+        planned.append(QString::fromLatin1(url.toEncoded()));
+    }
+    report[u"urls"_s] = planned;
+    QString why;
+    const std::vector<QByteArray> pages = fetchPages(context, *urls, why);
+    if (pages.empty()) {
+        return Failure{u"nothing came of %1"_s.arg(why)};
+    }
+    report[u"fetched"_s] = qint64(pages.size());
+    const LoadItem item{ObjectId(ObjectId::Bytes{}), sourceId, language};
+    const MergeResult result =
+        readPages(context, {item}, pages, listingsTypeForSourceId(sourceId, context.hosts));
+    const auto list = result.lists.find(item.channel);
+    if (list != result.lists.end() && !list->second->empty()) {
+        report[u"shows"_s] = qint64(list->second->size());
+        report[u"first"_s] = jsonMoment(list->second->front().entry()->dateTime());
+        report[u"last"_s] = jsonMoment(list->second->back().entry()->dateTime());
+    }
+    return report;
+}
+
+} // namespace
+
+std::vector<Command> listingsCommands() {
+    return {
+        {u"parse"_s,
+         {u"--type N --item CHANNEL,SOURCE_ID,LANGUAGE [--item ...] PAGE..."_s,
+          {u"type"_s, u"item"_s},
+          {},
+          1,
+          -1},
+         u"the lists that the guide would store of these pages"_s,
+         parse},
+        {u"check"_s,
+         {u"SOURCE_ID [--language L]"_s, {u"language"_s}, {}, 1, 1},
+         u"what the network has for a source now"_s,
+         check},
+    };
+}
+
+} // namespace guide::probe

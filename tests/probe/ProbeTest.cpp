@@ -1,0 +1,150 @@
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct Answer {
+    int status = -1;
+    QJsonObject json;
+    QByteArray output;
+    QByteArray errors;
+};
+
+Answer probe(const QStringList& words, const QByteArray& input = {}) {
+    QProcess process;
+    process.start(QStringLiteral(QUELLIN_PROBE), words);
+    process.write(input);
+    process.closeWriteChannel();
+    Answer answer;
+    if (process.waitForFinished(20'000) && process.exitStatus() == QProcess::NormalExit) {
+        answer.status = process.exitCode();
+    }
+    answer.output = process.readAllStandardOutput();
+    answer.errors = process.readAllStandardError();
+    answer.json = QJsonDocument::fromJson(answer.output).object();
+    return answer;
+}
+
+QJsonObject object(const char* json) {
+    return QJsonDocument::fromJson(json).object();
+}
+
+TEST(Probe, AnswersEachCommandWithOneObject) {
+    const struct {
+        QStringList words;
+        QByteArray input;
+        const char* expected;
+    } cases[] = {
+        {{u"type"_s, u"-hbo.hu.1"_s}, {}, R"({"sourceId": "-hbo.hu.1", "type": 7, "portNetwork": false})"},
+        {{u"type"_s, u"42"_s}, {}, R"({"sourceId": "42", "type": 0, "portNetwork": true})"},
+        {{u"zone"_s, u"example.cz"_s}, {}, R"({"zone": "Europe/Prague"})"},
+        {{u"zone"_s, u"x"_s}, {}, R"({"zone": null})"},
+        {{u"plan"_s, u"r.foo"_s}, {}, R"({"urls": null})"},
+        {{u"plan"_s, u"https://feeds.example/a.xml"_s}, {}, R"({"urls": ["https://feeds.example/a.xml"]})"},
+        {{u"classify"_s, u"--details"_s, u"Film, komedija"_s},
+         {},
+         R"({"categories": 257, "names": ["Movies", "Comedies"]})"},
+        {{u"match-word"_s, u"film"_s}, "filmovi\n", R"({"match": false})"},
+        {{u"text"_s, u"decodeMarkup"_s}, "&#165;", R"({"result": "A;"})"},
+        {{u"text"_s, u"showTitle"_s}, "DNEVNIK, 1. DIO", R"({"result": "Dnevnik"})"},
+        {{u"text"_s, u"hasProductionNote"_s}, "Film, drama (USA/1999)", R"({"result": true})"},
+        {{u"text"_s, u"finishSubtitle"_s, u"--recognised"_s},
+         "(Naslov)",
+         R"({"subtitle1": null, "instantDetails1": "Naslov"})"},
+        {{u"text"_s, u"applySubtitleBracket"_s},
+         "[film] Naslov",
+         R"({"result": "Naslov", "matched": "[film]"})"},
+        {{u"text"_s, u"cleanDescription"_s},
+         "Tekst. Regia - Ana, Regia - Ivo, Marko, Pero",
+         R"({"result": "Tekst.", "roles": "Marko, Pero", "directedBy": "Ana, Ivo"})"},
+        {{u"text"_s, u"latin2Cyrillic"_s, u"--language"_s, u"mk"_s},
+         "Njujork",
+         R"({"result": "Њуjoрк"})"},
+        {{u"text"_s, u"xmltvDate"_s}, "20240101120000 +0130", R"({"result": "2024-01-01T10:30:00Z"})"},
+        {{u"text"_s, u"xmltvDate"_s}, "2024010112", R"({"result": null})"},
+        {{u"words"_s, u"bracket"_s}, "[Action, komedija]", R"({"categories": 257, "recognised": null})"},
+        {{u"words"_s, u"subtitle"_s, u"--title"_s, u"Geo"_s}, "", R"({"categories": 4, "recognised": true})"},
+        {{u"category-text"_s, u"-1"_s}, {}, R"({"text": "Evening Shows"})"},
+        {{u"category-text"_s, u"0x1ff01"_s}, {}, R"({"text": "Feature Films"})"},
+        {{u"object-id"_s, u"000000000000000000000000"_s},
+         {},
+         R"({"hex": "000000000000000000000000", "hash": "9795860139169989765"})"},
+        {{u"minutes"_s, u"-7"_s}, {}, R"({"normalized": -1})"},
+        {{u"silent"_s, u"--from"_s, u"00:00"_s, u"--to"_s, u"07:00"_s, u"--at"_s, u"06:59"_s},
+         {},
+         R"({"allowed": false})"},
+        {{u"time-format"_s, u"h:mm\u202Fa"_s}, {}, R"({"format": "hh:mma"})"},
+    };
+    for (const auto& each : cases) {
+        const Answer answer = probe(each.words, each.input);
+        const std::string name = each.words.join(u' ').toStdString();
+        EXPECT_EQ(answer.status, 0) << name << answer.errors.toStdString();
+        EXPECT_EQ(answer.json, object(each.expected)) << name << ": " << answer.output.toStdString();
+    }
+}
+
+TEST(Probe, TellsUnusableArgumentsFromWhatCannotBeDone) {
+    const struct {
+        QStringList words;
+        int status;
+    } cases[] = {
+        {{}, 2},
+        {{u"types"_s}, 2},
+        {{u"type"_s}, 2},
+        {{u"type"_s, u"a"_s, u"b"_s}, 2},
+        {{u"type"_s, u"a"_s, u"--zones"_s}, 2},
+        {{u"minutes"_s, u"soon"_s}, 2},
+        {{u"text"_s, u"whisper"_s}, 2},
+        {{u"type"_s, u"a"_s, u"--zone"_s, u"Nowhere/Else"_s}, 2},
+        {{u"parse"_s, u"--type"_s, u"1"_s, u"--item"_s, u"a,b"_s, u"p"_s}, 2},
+        {{u"parse"_s, u"--type"_s, u"1"_s, u"--item"_s, u"a,b,c"_s, u"/nowhere"_s}, 1},
+        {{u"type"_s, u"a"_s, u"--hosts"_s, u"/nowhere"_s}, 1},
+        {{u"filter"_s, u"/nowhere"_s}, 1},
+    };
+    for (const auto& each : cases) {
+        const Answer answer = probe(each.words);
+        const std::string name = each.words.join(u' ').toStdString();
+        EXPECT_EQ(answer.status, each.status) << name;
+        EXPECT_TRUE(answer.output.isEmpty()) << name;
+        EXPECT_FALSE(answer.errors.isEmpty()) << name;
+    }
+    EXPECT_EQ(probe({u"plan"_s, u"--help"_s}).status, 0);
+}
+
+TEST(Probe, ParsesAFeedForTwoChannels) {
+    const QTemporaryDir folder;
+    QFile page(folder.filePath(u"feed.xml"_s));
+    ASSERT_TRUE(page.open(QIODevice::WriteOnly));
+    page.write(R"(<tv>
+<programme start="20261121180000 +0000" stop="20261121185500 +0000" channel="a,b.cz"><title>Zprávy, 3. díl</title></programme>
+<programme start="20261121170000 +0000" stop="20261121180000 +0000" channel="a,b.cz"><title>Včera</title></programme>
+<programme start="20261121180000 +0000" stop="20261121190000 +0000" channel="c.cz"><title>Jinde</title></programme>
+</tv>)");
+    page.close();
+    const Answer answer = probe({u"parse"_s, u"--now"_s, u"2026-11-21T18:10:00Z"_s, u"--type"_s, u"1"_s,
+                                 u"--item"_s, u"58f4ded60befe78cb336a80c,r.CZ.a,b.cz,cs"_s, u"--item"_s,
+                                 u"58f4ded60befe78cb336a80d,r.CZ.nobody,cs"_s, page.fileName()});
+    ASSERT_EQ(answer.status, 0) << answer.errors.toStdString();
+    const QJsonObject channels = answer.json[u"channels"_s].toObject();
+    ASSERT_EQ(channels.keys(), QStringList{u"58f4ded60befe78cb336a80c"_s}) << "nobody's list is left out";
+    const QJsonArray shows = channels.begin()->toArray();
+    ASSERT_EQ(shows.size(), 1);
+    const QJsonObject show = shows[0].toObject();
+    EXPECT_EQ(show[u"title"_s], u"Zprávy"_s);
+    EXPECT_EQ(show[u"instantDescription"_s], u"3. díl"_s);
+    EXPECT_EQ(show[u"start"_s], u"2026-11-21T18:00:00Z"_s);
+    EXPECT_EQ(show[u"sourceId"_s], u"a,b.cz"_s);
+    EXPECT_EQ(show[u"language"_s], u"cs"_s);
+    EXPECT_TRUE(show[u"pictures"_s].isNull());
+    EXPECT_TRUE(show[u"details"_s].isObject());
+}
+
+} // namespace
