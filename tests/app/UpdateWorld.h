@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/AbsentParts.h"
 #include "app/UpdateCycle.h"
 #include "core/TVStationIcons.h"
 #include "fakes/FakeApplicationState.h"
@@ -19,22 +20,12 @@
 
 namespace guide {
 
-struct NoFavorites final : FavoriteQuestions {
-    bool containsFavoriteNamed(const QString&) const override { return false; }
-    bool hasFavorites() const override { return false; }
-};
-
 struct CountedPopularShows final : PopularShows {
     ShowList popularShows() const override { return nullptr; }
     bool contains(const ShowItem&) const override { return false; }
     void refresh() override { ++refreshed; }
 
     std::atomic<int> refreshed = 0;
-};
-
-struct NoAlarms final : AlarmSynchronisation {
-    void setSynchronized(bool) override {}
-    void syncAlarms() override {}
 };
 
 /// Everything that the cycle works with on top of a faked device, with a reader of its own: a page says in

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "app/Promotion.h"
+#include "platform/AudioSession.h"
+#include "platform/BackgroundTasks.h"
+#include "platform/Clock.h"
+#include "platform/Device.h"
+#include "platform/DispatchQueue.h"
+#include "platform/Folders.h"
+#include "platform/HTTPClient.h"
+#include "platform/KeyValueStore.h"
+#include "platform/LifeCycle.h"
+#include "platform/ResponseCache.h"
+#include "platform/UserDefaults.h"
+#include "sources/SourceHostTable.h"
+#include "sources/URLPlanner.h"
+
+#include <QString>
+#include <QUrl>
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <optional>
+
+namespace guide {
+
+/// The device and the data that the application is started on. What is referred to outlives the application.
+struct ApplicationEnvironment {
+    const Clock& clock;
+    const Device& device;
+    Folders folders;
+    DispatchQueues& queues;
+    UserDefaults& userDefaults;
+    KeyValueStore& keyValueStore;
+    BackgroundTasks& backgroundTasks;
+    const ApplicationStateSource& applicationState;
+    HTTPClient& httpClient;
+    ResponseCache& responseCache;
+    /// What the response cache holds in ordinary times, in bytes.
+    std::size_t responseCacheCapacity = 0;
+    AudioSession& audioSession;
+    Promotion& promotion;
+
+    SourceHostTable hosts;
+    RandomIndex random;
+    /// The catalogue's property list, and where its icons are.
+    QString cataloguePath;
+    QString iconFolder;
+    /// A selection for a profile that has none yet.
+    std::optional<QString> firstSelectionPath;
+    /// The application's URL scheme; empty when it has none.
+    QString scheme;
+
+    /// Bounds the pauses between two attempts of a transfer.
+    std::chrono::milliseconds longestPause = std::chrono::hours(1);
+
+    /// Told on the main queue whether anything is being transferred. May be empty.
+    std::function<void(bool visible)> networkActivityIndicator;
+    /// Told on the main queue how many alarms are pending. May be empty.
+    std::function<void(int count)> applicationIconBadgeNumber;
+    /// Opens an http or https URL with what the person uses for it. Main queue. May be empty.
+    std::function<void(const QUrl& url)> openExternally;
+};
+
+} // namespace guide

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+
+namespace guide {
+
+/// Pauses of background work that the end of the program cuts short. Any thread.
+class InterruptibleWait {
+  public:
+    /// Blocks for the time; false, at once, when interrupted.
+    bool wait(std::chrono::milliseconds time) {
+        std::unique_lock guard(m_mutex);
+        return !m_changed.wait_for(guard, time, [this] { return m_interrupted; });
+    }
+
+    /// Ends every running and every later pause.
+    void interrupt() {
+        const std::lock_guard guard(m_mutex);
+        m_interrupted = true;
+        m_changed.notify_all();
+    }
+
+  private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    bool m_interrupted = false;
+};
+
+} // namespace guide

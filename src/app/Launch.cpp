@@ -1,0 +1,199 @@
+// The launch of the application, step by step.
+
+#include "app/FirstSelection.h"
+#include "app/QuellinGuideAppDelegate.h"
+#include "app/SelectionCleanup.h"
+#include "core/ChannelCatalogue.h"
+#include "core/SupportedChannelTypes.h"
+#include "screens/shell/GuideTabs.h"
+
+#include <algorithm>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+void QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBarController&)>& showWindow) {
+    // Beside what plays, until the launch is over.
+    m_environment.audioSession.setCategory(AudioSessionCategory::Ambient, true);
+    m_environment.promotion.startMeasurementAndAds();
+    detectAlphabet();
+    readSettings();
+    makeSources();
+    // Before the catalogue, whose filter looks at every icon.
+    m_icons = std::make_unique<TVStationIcons>(m_environment.iconFolder, m_environment.device.screenScale());
+    makeCatalogue();
+    makeSelection();
+    // After the launch, when the store exists.
+    onMainQueue(&QuellinGuideAppDelegate::cleanUpSelection);
+    // Begins to read the listing files.
+    makeListings();
+    makeUpdateCycle();
+    makeScreens();
+    showWindow(*m_tabBarController);
+    m_environment.audioSession.setCategory(AudioSessionCategory::Playback, false);
+    m_environment.audioSession.setActive(true);
+    setup();
+    updateBadge();
+    m_environment.promotion.configureConsent();
+}
+
+void QuellinGuideAppDelegate::makeSources() {
+    DispatchQueues& queues = m_environment.queues;
+    m_remoteHostAlert = std::make_unique<RemoteHostAlert>(m_environment.clock, queues.mainQueue(),
+                                                          static_cast<AlertPresenter&>(*this));
+    m_networkActivity = std::make_unique<NetworkActivity>(
+        queues,
+        m_environment.networkActivityIndicator ? m_environment.networkActivityIndicator : [](bool) {});
+    m_loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial, QueuePriority::Background);
+    m_loadSchedulesQueue =
+        queues.makeQueue("vorel.tv.loadSchedulesQueue", QueueKind::Serial, QueuePriority::Default);
+    m_checkAndUpdateAllChannelsQueue =
+        queues.makeQueue("vorel.tv.checkAndUpdateAllChannels", QueueKind::Serial, QueuePriority::Background);
+    m_userAgent = std::make_unique<HTTPUserAgent>(m_environment.random);
+    m_planner = std::make_unique<URLPlanner>(m_environment.hosts, m_environment.random);
+    m_fetcher = std::make_unique<PageFetcher>(PageFetcherEnvironment{
+        .client = m_environment.httpClient,
+        .networkActivity = *m_networkActivity,
+        .physicalMemory = m_environment.device.physicalMemory(),
+        .wait =
+            [this](std::chrono::milliseconds time) {
+                return m_pauses.wait(std::min(time, m_environment.longestPause));
+            },
+        .noRemoteHostAlert =
+            [this](const TransferError& error) { m_remoteHostAlert->noRemoteHostAlert(error); },
+    });
+}
+
+void QuellinGuideAppDelegate::makeCatalogue() {
+    const auto types =
+        SupportedChannelTypes::fromFile(m_environment.folders.bundle + "/supported-channel-types.json"_L1);
+    m_channelData = makeChannelData(
+        catalogueChannels(m_environment.cataloguePath, catalogueArchivePath(m_environment.folders.caches),
+                          types, [this](const QString& name) { return !m_icons->iconNamed(name).isNull(); }));
+}
+
+void QuellinGuideAppDelegate::makeSelection() {
+    m_channels = std::make_unique<TVChannels>(m_environment.folders, m_environment.keyValueStore,
+                                              m_environment.queues, m_channelData);
+    if (!m_environment.firstSelectionPath || !m_channels->selected().empty()) {
+        return;
+    }
+    if (auto selected = selectionFromFile(*m_environment.firstSelectionPath)) {
+        m_channels->setSelected(*std::move(selected));
+    }
+}
+
+void QuellinGuideAppDelegate::makeListings() {
+    m_listings = std::make_unique<TVListings>(TVListingsEnvironment{
+        .clock = m_environment.clock,
+        .device = m_environment.device,
+        .folders = m_environment.folders,
+        .queues = m_environment.queues,
+        .backgroundTasks = m_environment.backgroundTasks,
+        .applicationState = m_environment.applicationState,
+        .userDefaults = m_environment.userDefaults,
+        .channels = *m_channels,
+        .icons = *m_icons,
+        .channelData = m_channelData,
+        .alphabet = m_alphabet,
+        .favorites = m_favorites,
+        .popularShows = m_popularShows,
+        .alarms = m_alarms,
+        .scheme = m_environment.scheme,
+        .showCount = [this] { return m_showCount.load(); },
+    });
+}
+
+void QuellinGuideAppDelegate::makeUpdateCycle() {
+    m_listDriver = std::make_unique<ListDriver>(ListDriverEnvironment{
+        .clock = m_environment.clock,
+        .alphabet = m_alphabet,
+        .hosts = m_environment.hosts,
+        .merge = [this](const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
+                        unsigned type) { return m_listings->merge(items, std::move(parsed), now, type); },
+    });
+    m_updateCycle = std::make_unique<UpdateCycle>(UpdateCycleEnvironment{
+        .clock = m_environment.clock,
+        .device = m_environment.device,
+        .queues = m_environment.queues,
+        .checkQueue = m_checkAndUpdateAllChannelsQueue,
+        .loadQueue = m_loadQueue,
+        .backgroundTasks = m_environment.backgroundTasks,
+        .applicationState = m_environment.applicationState,
+        .channels = *m_channels,
+        .channelData = m_channelData,
+        .settings = m_settings,
+        .planner = *m_planner,
+        .fetcher = *m_fetcher,
+        .userAgent = *m_userAgent,
+        .listings = *m_listings,
+        .netList = [this](const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
+                          Moment now,
+                          unsigned type) { return m_listDriver->netList(items, pages, now, type); },
+        .showCount = [this] { return m_showCount.load(); },
+        .offerTop =
+            [this](const TopLists& top) {
+                if (m_screens) {
+                    m_screens->offerTopShows(TopShows(top.begin(), top.end()));
+                }
+            },
+    });
+}
+
+void QuellinGuideAppDelegate::makeScreens() {
+    m_tabBarController = makeGuideTabs(std::make_shared<const ScreenEnvironment>(ScreenEnvironment{
+        .clock = m_environment.clock,
+        .device = m_environment.device,
+        .mainQueue = m_environment.queues.mainQueue(),
+        .loadQueue = *m_loadQueue,
+        .applicationState = m_environment.applicationState,
+        .listings = *m_listings,
+        .channels = *m_channels,
+        .icons = *m_icons,
+        .channelData = m_channelData,
+        .alphabet = m_alphabet,
+        .favorites = m_favorites,
+        .alarms = m_alarms,
+        .popularShows = m_popularShows,
+        .pictures = m_pictures,
+        .app = *this,
+    }));
+    m_screens = std::make_unique<ScreenBroadcast>(*m_tabBarController, m_environment.applicationState);
+}
+
+void QuellinGuideAppDelegate::setup() {
+    m_colorizedShows = m_settings.colorizedShows();
+    const UserInterfaceIdiom idiom = m_environment.device.userInterfaceIdiom();
+    if (idiom == UserInterfaceIdiom::Tablet) {
+        m_tabBarController->setTabEnabled(0, true);
+    }
+    if (m_channels->selected().empty()) {
+        m_tabBarController->disableTabs();
+    } else if (!std::exchange(m_startTabChosen, true)) {
+        m_tabBarController->setSelectedIndex(currentlyTabIndex(idiom));
+    }
+}
+
+void QuellinGuideAppDelegate::cleanUpSelection() {
+    // A catalogue that could not be read says nothing about the channels.
+    if (m_channelData->empty()) {
+        return;
+    }
+    const SelectionCleanup plan = planSelectionCleanup(m_channels->selected(), *m_channelData);
+    if (plan.removed.empty()) {
+        return;
+    }
+    m_alarms.setSynchronized(false);
+    m_channels->setSelected(plan.kept);
+    for (const ObjectId& channel : plan.removed) {
+        m_listings->removeListingsForChannel(channel);
+    }
+    if (plan.kept.empty()) {
+        m_tabBarController->disableTabs();
+    }
+    onMainQueue(&QuellinGuideAppDelegate::tellSelectionCleanedUp);
+    m_alarms.syncAlarms();
+}
+
+} // namespace guide

@@ -1,0 +1,46 @@
+// What the application does at the device's events.
+
+#include "app/QuellinGuideAppDelegate.h"
+
+namespace guide {
+
+void QuellinGuideAppDelegate::applicationDidBecomeActive() {
+    m_remoteHostAlert->restartSilence();
+    detectAlphabet();
+    readSettings();
+    m_environment.promotion.prepareInterstitialWhenDue();
+    m_cloud.cloudDidChangeExternally();
+    m_screens->applicationDidBecomeActive();
+    m_alarms.syncAlarms();
+    checkAndUpdateAllChannels();
+}
+
+void QuellinGuideAppDelegate::applicationSignificantTimeChange() {
+    applicationDidBecomeActive();
+}
+
+void QuellinGuideAppDelegate::applicationDidEnterBackground() {
+    m_alarms.commit();
+    m_environment.userDefaults.synchronize();
+    m_listings->commitFiles();
+}
+
+void QuellinGuideAppDelegate::applicationWillTerminate() {
+    m_alarms.commit();
+    m_environment.userDefaults.synchronize();
+    // A load that has ended since the transition to the background would be lost otherwise.
+    m_listings->commitFiles();
+}
+
+void QuellinGuideAppDelegate::applicationDidReceiveMemoryWarning() {
+    m_alarms.commit();
+    if (m_environment.applicationState.applicationState() == ApplicationState::Background) {
+        m_environment.userDefaults.synchronize();
+    }
+    m_listings->commitFiles();
+    m_icons->dropIcons();
+    m_environment.responseCache.setMemoryCapacity(0);
+    m_environment.responseCache.setMemoryCapacity(m_environment.responseCacheCapacity);
+}
+
+} // namespace guide

@@ -1,0 +1,90 @@
+#include "app/PictureTour.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include <algorithm>
+#include <utility>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kLookEvery = 100;
+constexpr int kMostLooks = 300;
+/// Time for the drawing to follow, also by the software renderer.
+constexpr int kSettle = 400;
+
+} // namespace
+
+PictureTour::PictureTour(TabBarController& tabs, GuideWindow& window, QString folder, QString prefix,
+                         std::function<void(bool complete)> done)
+    : m_tabs(tabs)
+    , m_window(window)
+    , m_folder(std::move(folder))
+    , m_prefix(std::move(prefix))
+    , m_done(std::move(done)) {}
+
+void PictureTour::start() {
+    if (!QDir().mkpath(m_folder)) {
+        qWarning("The folder %s cannot be made", qPrintable(m_folder));
+        m_done(false);
+        return;
+    }
+    m_timer.callOnTimeout([this] { step(); });
+    m_timer.start(kLookEvery);
+}
+
+bool PictureTour::channelsLoaded() const {
+    const auto& sections = m_tabs.selectedNavigationController().topViewController()->table().sections();
+    return !sections.empty() &&
+           std::ranges::none_of(sections, [](const Section& section) { return section.rows.size() < 2; });
+}
+
+void PictureTour::step() {
+    if (!channelsLoaded() && ++m_looks < kMostLooks) {
+        return;
+    }
+    m_timer.stop();
+    then(kSettle, &PictureTour::drawCurrently);
+}
+
+void PictureTour::then(int milliseconds, void (PictureTour::*next)()) {
+    QTimer::singleShot(milliseconds, &m_timer, [this, next] { (this->*next)(); });
+}
+
+bool PictureTour::saveBoth(const QString& name) {
+    bool saved = true;
+    for (const auto& [scheme, word] :
+         {std::pair(ColorScheme::Light, u"light"_s), std::pair(ColorScheme::Dark, u"dark"_s)}) {
+        m_window.setColorScheme(scheme);
+        saved = m_window.savePicture(u"%1/%2-%3-%4.png"_s.arg(m_folder, m_prefix, name, word)) && saved;
+    }
+    return saved;
+}
+
+void PictureTour::drawCurrently() {
+    m_complete = saveBoth(u"currently"_s);
+    NavigationController& navigation = m_tabs.selectedNavigationController();
+    if (navigation.topViewController()->table().rowCount(0) < 2) {
+        qWarning("No channel has shows: there is no schedule to draw");
+        m_done(false);
+        return;
+    }
+    navigation.topViewController()->tapRow({0, 0});
+    then(kSettle, &PictureTour::drawChannel);
+}
+
+void PictureTour::drawChannel() {
+    if (m_tabs.selectedNavigationController().viewControllers().size() < 2) {
+        qWarning("The schedule of the first channel did not open");
+        m_done(false);
+        return;
+    }
+    m_complete = saveBoth(u"channel"_s) && m_complete;
+    m_done(m_complete);
+}
+
+} // namespace guide

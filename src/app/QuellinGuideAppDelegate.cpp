@@ -1,0 +1,91 @@
+#include "app/QuellinGuideAppDelegate.h"
+
+#include "screens/Localized.h"
+#include "screens/shell/GuideTabs.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+#include <utility>
+
+namespace guide {
+
+QuellinGuideAppDelegate::QuellinGuideAppDelegate(ApplicationEnvironment environment)
+    : m_environment(std::move(environment))
+    , m_settings(m_environment.userDefaults) {}
+
+QuellinGuideAppDelegate::~QuellinGuideAppDelegate() = default;
+
+void QuellinGuideAppDelegate::checkAndUpdateAllChannels() {
+    m_updateCycle->checkAndUpdateAllChannels();
+}
+
+void QuellinGuideAppDelegate::updateBadge() {
+    const int count = m_alarms.eventCount();
+    if (m_environment.applicationIconBadgeNumber) {
+        m_environment.applicationIconBadgeNumber(count);
+    }
+    m_tabBarController->setBadgeValue(scheduleTabIndex(m_environment.device.userInterfaceIdiom()),
+                                      count == 0 ? QString() : QString::number(count));
+}
+
+void QuellinGuideAppDelegate::resynchronizeAlarms() {
+    m_alarms.setSynchronized(false);
+    m_alarms.syncAlarms();
+}
+
+void QuellinGuideAppDelegate::playURL(const QUrl& url) {
+    const bool isWeb =
+        url.scheme() == QLatin1StringView("https") || url.scheme() == QLatin1StringView("http");
+    if (isWeb && m_environment.openExternally) {
+        m_environment.openExternally(url);
+    }
+}
+
+void QuellinGuideAppDelegate::presentAlert(const QString& title, const QString& message, Block okPressed) {
+    if (m_tabBarController) {
+        m_tabBarController->presentAlert(
+            {title, message, {{Localized::tr("OK"), AlertAction::Style::Default, std::move(okPressed)}}});
+    }
+}
+
+void QuellinGuideAppDelegate::detectAlphabet() {
+    const Device& device = m_environment.device;
+    const auto now = QDateTime::fromMSecsSinceEpoch(m_environment.clock.now().time_since_epoch().count(),
+                                                    device.timeZone());
+    m_alphabet.detectAlphabet(device.locale().toString(now.date(), QLocale::LongFormat));
+}
+
+void QuellinGuideAppDelegate::readSettings() {
+    m_imagesEnabled = m_settings.imagesEnabled();
+    m_showBgImages = m_settings.showBgImages();
+    m_showCount = m_settings.showCount();
+}
+
+void QuellinGuideAppDelegate::onMainQueue(void (QuellinGuideAppDelegate::*step)()) {
+    m_environment.queues.mainQueue().async([this, step, alive = std::weak_ptr(m_alive)] {
+        if (!alive.expired() && m_screens) {
+            (this->*step)();
+        }
+    });
+}
+
+bool QuellinGuideAppDelegate::shutDown(std::chrono::milliseconds atMost) {
+    const auto end = std::chrono::steady_clock::now() + atMost;
+    const auto left = [&] {
+        return std::max(std::chrono::milliseconds(0), std::chrono::duration_cast<std::chrono::milliseconds>(
+                                                          end - std::chrono::steady_clock::now()));
+    };
+    m_screens.reset();
+    m_tabBarController.reset();
+    m_environment.httpClient.cancelAll();
+    m_pauses.interrupt();
+    const bool checkEnded = !m_updateCycle || m_updateCycle->finish(left());
+    const bool written = !m_listings || m_listings->finishWriting(left());
+    if (m_channels) {
+        m_channels->finishWriting();
+    }
+    return m_environment.userDefaults.synchronize() && checkEnded && written;
+}
+
+} // namespace guide

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "app/AbsentParts.h"
+#include "app/ApplicationEnvironment.h"
+#include "app/InterruptibleWait.h"
+#include "app/UpdateCycle.h"
+#include "core/ChannelDictionary.h"
+#include "core/RemoteHostAlert.h"
+#include "core/Settings.h"
+#include "core/TVChannels.h"
+#include "core/TVStationIcons.h"
+#include "parsers/ListDriver.h"
+#include "screens/AppActions.h"
+#include "screens/ShowPictures.h"
+#include "screens/kit/TabBarController.h"
+#include "screens/shell/ScreenBroadcast.h"
+#include "screens/shell/ScreenEnvironment.h"
+#include "sources/HTTPUserAgent.h"
+#include "sources/NetworkActivity.h"
+#include "sources/PageFetcher.h"
+#include "sources/URLPlanner.h"
+#include "store/TVListings.h"
+#include "text/Alphabet.h"
+
+#include <atomic>
+#include <chrono>
+#include <memory>
+
+namespace guide {
+
+/// The root of ownership: makes the catalogue, the store, the update cycle and the screens, wires them to one
+/// another and carries the device's events on. Main queue.
+class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActions, private AlertPresenter {
+  public:
+    explicit QuellinGuideAppDelegate(ApplicationEnvironment environment);
+    QuellinGuideAppDelegate(const QuellinGuideAppDelegate&) = delete;
+    QuellinGuideAppDelegate& operator=(const QuellinGuideAppDelegate&) = delete;
+    ~QuellinGuideAppDelegate() override;
+
+    /// Everything between the start of the process and the first frame, in its order. `showWindow` is called
+    /// when the screens can be shown.
+    void didFinishLaunching(const std::function<void(TabBarController&)>& showWindow);
+
+    TabBarController& tabBarController() { return *m_tabBarController; }
+    TVListings& listings() { return *m_listings; }
+    TVChannels& channels() { return *m_channels; }
+    const SharedChannelData& channelData() const { return m_channelData; }
+
+    void applicationDidBecomeActive() override;
+    void applicationDidEnterBackground() override;
+    void applicationWillTerminate() override;
+    void applicationDidReceiveMemoryWarning() override;
+    void applicationSignificantTimeChange() override;
+
+    void checkAndUpdateAllChannels() override;
+    /// The number of pending alarms, on the application and on its tab.
+    void updateBadge();
+
+    /// Ends everything in its order: screens, transfers and pauses, the check, the lists' files. The queues
+    /// are still running, and the owner ends them next. False when the files were not written in time.
+    bool shutDown(std::chrono::milliseconds atMost);
+
+  private:
+    // AppActions
+    void resynchronizeAlarms() override;
+    void playURL(const QUrl& url) override;
+    bool imagesEnabled() const override { return m_imagesEnabled; }
+    bool colorizedShows() const override { return m_colorizedShows; }
+    std::chrono::seconds automaticUpdateInterval() const override {
+        return m_settings.automaticUpdateInterval();
+    }
+
+    // AlertPresenter
+    void presentAlert(const QString& title, const QString& message, Block okPressed) override;
+    void moviePlayerPlaybackDidFinish() override {}
+
+    // The steps of the launch.
+    void makeSources();
+    void makeCatalogue();
+    void makeSelection();
+    void makeListings();
+    void makeUpdateCycle();
+    void makeScreens();
+    void setup();
+    void cleanUpSelection();
+    void tellSelectionCleanedUp() { m_screens->selectionCleanedUp(); }
+
+    void detectAlphabet();
+    void readSettings();
+    void onMainQueue(void (QuellinGuideAppDelegate::*step)());
+
+    const ApplicationEnvironment m_environment;
+    Settings m_settings;
+    Alphabet m_alphabet;
+    InterruptibleWait m_pauses;
+    /// Blocks on the main queue hold it weakly: those that come after the end do nothing.
+    const std::shared_ptr<const void> m_alive = std::make_shared<char>();
+
+    bool m_imagesEnabled = true;
+    bool m_showBgImages = true;
+    bool m_colorizedShows = false;
+    bool m_startTabChosen = false;
+    /// Read by checks and queries on their own queues.
+    std::atomic<int> m_showCount{4};
+
+    NoFavorites m_favorites;
+    NoAlarms m_alarms;
+    NoPopularShows m_popularShows;
+    NoShowPictures m_pictures;
+    NoCloudValues m_cloud;
+
+    std::unique_ptr<RemoteHostAlert> m_remoteHostAlert;
+    std::unique_ptr<NetworkActivity> m_networkActivity;
+    std::unique_ptr<HTTPUserAgent> m_userAgent;
+    std::unique_ptr<URLPlanner> m_planner;
+    std::unique_ptr<PageFetcher> m_fetcher;
+    std::shared_ptr<DispatchQueue> m_loadQueue;
+    std::shared_ptr<DispatchQueue> m_loadSchedulesQueue;
+    std::shared_ptr<DispatchQueue> m_checkAndUpdateAllChannelsQueue;
+
+    std::unique_ptr<TVStationIcons> m_icons;
+    SharedChannelData m_channelData;
+    std::unique_ptr<TVChannels> m_channels;
+    std::unique_ptr<TVListings> m_listings;
+    std::unique_ptr<ListDriver> m_listDriver;
+    std::unique_ptr<UpdateCycle> m_updateCycle;
+    std::unique_ptr<TabBarController> m_tabBarController;
+    std::unique_ptr<ScreenBroadcast> m_screens;
+};
+
+} // namespace guide

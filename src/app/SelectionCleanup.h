@@ -1,0 +1,18 @@
+#pragma once
+
+#include "core/ChannelDictionary.h"
+
+#include <vector>
+
+namespace guide {
+
+/// What a new catalogue leaves of the selection.
+struct SelectionCleanup {
+    /// The selection without the channels that the catalogue no longer lists, in its order.
+    std::vector<ObjectId> kept;
+    std::vector<ObjectId> removed;
+};
+
+SelectionCleanup planSelectionCleanup(const std::vector<ObjectId>& selected, const ChannelData& catalogue);
+
+} // namespace guide

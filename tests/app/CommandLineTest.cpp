@@ -1,0 +1,63 @@
+#include "app/CommandLine.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+namespace guide {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+LaunchOptions accepted(const QStringList& words) {
+    auto parsed = parseCommandLine(words);
+    if (const auto* text = std::get_if<CommandLineText>(&parsed)) {
+        ADD_FAILURE() << qPrintable(text->text);
+        return {};
+    }
+    return std::get<LaunchOptions>(parsed);
+}
+
+TEST(CommandLine, TakesBothWaysToGiveAValue) {
+    const auto options =
+        accepted({u"--catalogue=a.plist"_s, u"--hosts"_s, u"/etc/h.json"_s, u"--form"_s, u"tablet"_s,
+                  u"--now"_s, u"2025-12-31T20:30:00+01:00"_s, u"guide://c0ffee"_s});
+    EXPECT_EQ(options.catalogue, QDir::current().absoluteFilePath(u"a.plist"_s));
+    EXPECT_EQ(options.hosts, u"/etc/h.json"_s);
+    EXPECT_EQ(options.form, UserInterfaceIdiom::Tablet);
+    EXPECT_EQ(options.now, Moment(std::chrono::seconds(1767209400)));
+    EXPECT_EQ(options.url, u"guide://c0ffee"_s);
+    EXPECT_TRUE(options.impliesOwnProfile());
+}
+
+TEST(CommandLine, KeepsToThePersonsOwnProfileUntilSomethingIsTried) {
+    EXPECT_FALSE(accepted({}).impliesOwnProfile());
+    EXPECT_FALSE(accepted({u"--form"_s, u"phone"_s, u"--screenshots"_s, u"p"_s}).impliesOwnProfile());
+    EXPECT_TRUE(accepted({u"--demo"_s}).impliesOwnProfile());
+}
+
+TEST(CommandLine, RefusesWhatItCannotUse) {
+    const struct {
+        const char* name;
+        QStringList words;
+    } cases[] = {
+        {"unknown option", {u"--demos"_s}},
+        {"value missing at the end", {u"--hosts"_s}},
+        {"value empty", {u"--hosts="_s}},
+        {"no time", {u"--now"_s, u"tonight"_s}},
+        {"no form", {u"--form"_s, u"watch"_s}},
+        {"two URLs", {u"guide://a"_s, u"guide://b"_s}},
+        {"a demo with a catalogue", {u"--demo"_s, u"--catalogue"_s, u"c"_s}},
+    };
+    for (const auto& each : cases) {
+        const auto parsed = parseCommandLine(each.words);
+        const auto* text = std::get_if<CommandLineText>(&parsed);
+        ASSERT_TRUE(text) << each.name;
+        EXPECT_EQ(text->exitStatus, 2) << each.name;
+    }
+    const auto help = parseCommandLine({u"--demo"_s, u"--help"_s});
+    EXPECT_EQ(std::get<CommandLineText>(help).exitStatus, 0);
+}
+
+} // namespace
+} // namespace guide

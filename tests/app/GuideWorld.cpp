@@ -1,0 +1,182 @@
+#include "app/GuideWorld.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+void write(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
+    file.write(bytes);
+}
+
+QString stamp(Moment moment) {
+    return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC)
+        .toString(u"yyyyMMddHHmmss' +0000'"_s);
+}
+
+} // namespace
+
+ObjectId GuideWorld::channel(const QString& key) {
+    return ObjectId::fromHex(key == "first"_L1 ? u"58f4ded60befe78cb3360001"_s
+                                               : u"58f4ded60befe78cb3360002"_s);
+}
+
+QByteArray GuideWorld::feedPath(const QString& key, int source) {
+    return u"/%1-%2.xml"_s.arg(key).arg(source).toLatin1();
+}
+
+GuideWorld::GuideWorld() {
+    // A small device, so that a bomb need not be large.
+    device.memory = std::uint64_t(128) << 20;
+    const QString root = m_folder.path();
+    folders = {root + u"/caches"_s,  root + u"/documents"_s,  root + u"/configuration"_s,
+               root + u"/runtime"_s, root + u"/key-values"_s, QStringLiteral(QUELLIN_SOURCE_DATA)};
+    for (const QString& folder :
+         {folders.caches, folders.documents, folders.configuration, folders.runtime, root + u"/icons"_s}) {
+        QDir().mkpath(folder);
+    }
+    QImage icon(50, 36, QImage::Format_ARGB32);
+    icon.fill(Qt::darkCyan);
+    icon.save(root + u"/icons/plain.png"_s);
+
+    QString channels;
+    QStringList selection;
+    for (const QString& key : {u"first"_s, u"second"_s}) {
+        selection.append(u"\"%1\""_s.arg(channel(key).hex()));
+        channels +=
+            u"<dict><key>Location</key><string>%1</string><key>Title</key><string>The %2</string>"
+            "<key>Language</key><string>en</string><key>Icon</key><string>Other/plain</string>"
+            "<key>Location1</key><string>%3%4</string><key>Location2</key><string>%3%5</string></dict>"_s.arg(
+                channel(key).hex(), key, server->base(), QString::fromLatin1(feedPath(key, 1)),
+                QString::fromLatin1(feedPath(key, 2)));
+    }
+    write(
+        root + u"/Data.plist"_s,
+        u"<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>Channels</key><array>%1</array></dict></plist>"_s
+            .arg(channels)
+            .toUtf8());
+    write(root + u"/selection.json"_s, u"[%1]"_s.arg(selection.join(u',')).toUtf8());
+}
+
+GuideWorld::~GuideWorld() {
+    end();
+}
+
+QByteArray GuideWorld::feed(const QString& title, int count) const {
+    QString document = u"<tv>"_s;
+    for (int i = 0; i < count; ++i) {
+        const Moment start = clock.now() + i * 1h;
+        document +=
+            u"<programme start=\"%1\" stop=\"%2\" channel=\"c\"><title>%3 %4</title></programme>"_s.arg(
+                stamp(start), stamp(start + 1h), title, QString::number(i));
+    }
+    return (document + u"</tv>"_s).toUtf8();
+}
+
+void GuideWorld::serve(const QString& key, int source, const QByteArray& feed) {
+    server->serve(feedPath(key, source), ServedResponse{200, "text/xml; charset=utf-8", feed});
+}
+
+void GuideWorld::wake() {
+    const std::lock_guard guard(m_mutex);
+    m_awake = true;
+    m_woken.notify_all();
+}
+
+void GuideWorld::start() {
+    m_queues = std::make_unique<ThreadedQueues>([this] { wake(); });
+    m_tasks = std::make_unique<FakeBackgroundTasks>();
+    m_cache = std::make_unique<ResponseCache>(
+        clock, std::size_t(1) << 24, [this] { return Settings(userDefaults).automaticUpdateInterval(); });
+    m_curl = std::make_unique<CurlHTTPClient>(*m_cache);
+    m_client = std::make_unique<ImpatientHTTPClient>(*m_curl);
+    const QString root = m_folder.path();
+    guide = std::make_unique<QuellinGuideAppDelegate>(ApplicationEnvironment{
+        .clock = clock,
+        .device = device,
+        .folders = folders,
+        .queues = *m_queues,
+        .userDefaults = userDefaults,
+        .keyValueStore = keyValueStore,
+        .backgroundTasks = *m_tasks,
+        .applicationState = state,
+        .httpClient = *m_client,
+        .responseCache = *m_cache,
+        .responseCacheCapacity = std::size_t(1) << 24,
+        .audioSession = m_audio,
+        .promotion = m_promotion,
+        .hosts = SourceHostTable(),
+        .random = [](unsigned) { return 0U; },
+        .cataloguePath = root + u"/Data.plist"_s,
+        .iconFolder = root + u"/icons"_s,
+        .firstSelectionPath = root + u"/selection.json"_s,
+        .scheme = u"guide"_s,
+        .longestPause = 5ms,
+        .networkActivityIndicator = {},
+        .applicationIconBadgeNumber = {},
+        .openExternally = {},
+    });
+    guide->didFinishLaunching([](TabBarController& tabs) { tabs.makeVisible(); });
+}
+
+void GuideWorld::end() {
+    if (!guide) {
+        return;
+    }
+    guide->applicationWillTerminate();
+    EXPECT_TRUE(guide->shutDown(10s));
+    m_queues->shutDown();
+    guide.reset();
+    m_client.reset();
+    m_curl.reset();
+    m_cache.reset();
+    m_queues.reset();
+}
+
+bool GuideWorld::runUntil(const std::function<bool()>& condition) {
+    const auto deadline = std::chrono::steady_clock::now() + 10s;
+    for (;;) {
+        m_queues->runMainQueue();
+        if (condition()) {
+            return true;
+        }
+        std::unique_lock guard(m_mutex);
+        if (!m_woken.wait_until(guard, deadline, [this] { return m_awake; })) {
+            return false;
+        }
+        m_awake = false;
+    }
+}
+
+bool GuideWorld::check() {
+    const std::size_t begun = m_tasks->begun();
+    guide->checkAndUpdateAllChannels();
+    // A check begins one background task and ends it, on the main queue, as its last step.
+    return runUntil([&] { return m_tasks->begun() > begun && m_tasks->running() == 0; });
+}
+
+QStringList GuideWorld::titles(const QString& key) {
+    QStringList titles;
+    bool answered = false;
+    guide->listings().cachedListForChannel(channel(key), QueuePriority::Default,
+                                           MainBlock<ShowSpan>([&](const ShowSpan& shows) {
+                                               for (const ShowItem& show : shows) {
+                                                   titles.append(show.entry()->title().value_or(QString()));
+                                               }
+                                               answered = true;
+                                           }));
+    EXPECT_TRUE(runUntil([&] { return answered; }));
+    return titles;
+}
+
+} // namespace guide

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "app/QuellinGuideAppDelegate.h"
+#include "demo/DemoServer.h"
+#include "fakes/FakeApplicationState.h"
+#include "fakes/FakeBackgroundTasks.h"
+#include "fakes/FakeDevice.h"
+#include "fakes/MemoryKeyValueStore.h"
+#include "fakes/MemoryUserDefaults.h"
+#include "platform/ThreadedQueues.h"
+#include "platform/linux/CurlHTTPClient.h"
+#include "platform/linux/LinuxAudioSession.h"
+
+#include <QString>
+#include <QTemporaryDir>
+
+#include <atomic>
+#include <condition_variable>
+#include <functional>
+#include <mutex>
+
+namespace guide {
+
+/// A clock that other threads may read while the test moves it.
+class SharedClock final : public Clock {
+  public:
+    Moment now() const override { return Moment(std::chrono::milliseconds(m_now.load())); }
+    void advance(std::chrono::milliseconds span) { m_now += span.count(); }
+
+  private:
+    std::atomic<std::int64_t> m_now{1'798'700'000'000};
+};
+
+/// Real transfers by a client that loses its patience soon.
+class ImpatientHTTPClient final : public HTTPClient {
+  public:
+    explicit ImpatientHTTPClient(HTTPClient& client)
+        : m_client(client) {}
+
+    TransferResult perform(const HTTPRequest& request) override {
+        HTTPRequest hasty = request;
+        hasty.timeout = std::chrono::milliseconds(250);
+        hasty.resourceTimeout = std::chrono::milliseconds(1500);
+        return m_client.perform(hasty);
+    }
+    void removeCachedResponse(const HTTPRequest& request) override { m_client.removeCachedResponse(request); }
+    void cancelAll() override { m_client.cancelAll(); }
+
+  private:
+    HTTPClient& m_client;
+};
+
+/// The whole guide without its window: real queues, real transfers from a server on loopback, real files;
+/// only the clock, the settings and the facts of the device are the test's. The test's thread is the main
+/// thread.
+class GuideWorld {
+  public:
+    /// Two channels, "first" and "second", each with the sources /KEY-1.xml and /KEY-2.xml.
+    GuideWorld();
+    ~GuideWorld();
+
+    static ObjectId channel(const QString& key);
+    static QByteArray feedPath(const QString& key, int source);
+
+    /// A feed with so many hour-long shows from now on, of this title with a number behind it.
+    QByteArray feed(const QString& title, int count) const;
+    void serve(const QString& key, int source, const QByteArray& feed);
+
+    /// Starts the guide in this world's folders; at most one at a time.
+    void start();
+    /// Ends it as the program's end does.
+    void end();
+
+    /// Runs the main queue until the condition holds; false when ten seconds were not enough.
+    bool runUntil(const std::function<bool()>& condition);
+    /// Runs a check, and what it hands to the main queue, to its end.
+    bool check();
+    /// The titles that the store has of a channel now.
+    QStringList titles(const QString& key);
+
+    SharedClock clock;
+    FakeDevice device;
+    MemoryUserDefaults userDefaults;
+    MemoryKeyValueStore keyValueStore;
+    FakeApplicationState state;
+    std::unique_ptr<DemoServer> server = DemoServer::start();
+    std::unique_ptr<QuellinGuideAppDelegate> guide;
+    Folders folders;
+
+  private:
+    void wake();
+
+    QTemporaryDir m_folder;
+    std::mutex m_mutex;
+    std::condition_variable m_woken;
+    bool m_awake = false;
+    std::unique_ptr<FakeBackgroundTasks> m_tasks;
+    LinuxAudioSession m_audio;
+    AbsentPromotion m_promotion;
+    std::unique_ptr<ThreadedQueues> m_queues;
+    std::unique_ptr<ResponseCache> m_cache;
+    std::unique_ptr<CurlHTTPClient> m_curl;
+    std::unique_ptr<ImpatientHTTPClient> m_client;
+};
+
+} // namespace guide
