@@ -15,7 +15,8 @@ inline constexpr BackgroundTaskId kBackgroundTaskInvalid = 0;
 class BackgroundTasks {
   public:
     virtual ~BackgroundTasks() = default;
-    /// The handler is called once, on any thread, when the device will wait no longer. It has to end the task.
+    /// The handler is called once, on any thread, when the device will wait no longer. It has to end the
+    /// task.
     virtual BackgroundTaskId beginBackgroundTask(Block expirationHandler) = 0;
     /// Ending an invalid or ended task does nothing.
     virtual void endBackgroundTask(BackgroundTaskId task) = 0;

@@ -11,8 +11,8 @@ class ApplicationStateSource {
     virtual ApplicationState applicationState() const = 0;
 };
 
-/// Receives the device's events, on the main queue. "Active" is the window visible again, not focused; midnight, a
-/// change of zone and waking from sleep are significant changes of time.
+/// Receives the device's events, on the main queue. "Active" is the window visible again, not focused;
+/// midnight, a change of zone and waking from sleep are significant changes of time.
 class LifeCycleObserver {
   public:
     virtual ~LifeCycleObserver() = default;
