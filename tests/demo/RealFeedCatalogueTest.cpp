@@ -1,0 +1,100 @@
+// The script that makes a guide of a feed file, checked by the guide's own readers.
+#include "core/ChannelCatalogue.h"
+#include "demo/Packing.h"
+#include "demo/ScheduleGenerator.h"
+#include "demo/XMLTVWriter.h"
+#include "sources/URLPlanner.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimeZone>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace guide {
+
+namespace {
+
+QByteArray feed() {
+    std::vector<FeedChannel> channels;
+    for (const DemoChannel& channel : demoChannels()) {
+        channels.push_back(
+            {channel.feedId, channel.title, channel.zone, schedule(channel, QDate(2026, 11, 20), 2)});
+    }
+    return xmltvDocument(channels, {});
+}
+
+QByteArray read(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+struct Packed {
+    const char* name;
+    QByteArray (*pack)(const QByteArray& bytes);
+};
+
+void PrintTo(const Packed& packed, std::ostream* out) {
+    *out << packed.name;
+}
+
+class RealFeedCatalogue : public testing::TestWithParam<Packed> {};
+
+TEST_P(RealFeedCatalogue, LeadsTheGuideToTheFeed) {
+    const QTemporaryDir folder;
+    const QString source = folder.filePath(u"any-name"_s);
+    const QByteArray packed = GetParam().pack(feed());
+    QFile file(source);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(packed) == packed.size());
+    file.close();
+    const QDir made(folder.filePath(u"made"_s));
+    QProcess script;
+    script.start(u"python3"_s,
+                 {u"-B"_s, QStringLiteral(QUELLIN_SOURCE_DATA "/../tools/real_feed_catalogue.py"), source,
+                  made.path(), u"--language"_s, u"sk"_s, u"--port"_s, u"8123"_s});
+    ASSERT_TRUE(script.waitForFinished());
+    ASSERT_EQ(script.exitCode(), 0) << script.readAllStandardError().constData();
+    EXPECT_TRUE(script.readAllStandardOutput().contains("--now 2026-11-2"));
+
+    const auto rows = channelsOfPropertyList(made.filePath(u"Data.plist"_s));
+    const auto hosts = SourceHostTable::fromFile(made.filePath(u"hosts.json"_s));
+    ASSERT_TRUE(rows && hosts);
+    const auto types =
+        SupportedChannelTypes::fromFile(QStringLiteral(QUELLIN_SOURCE_DATA "/supported-channel-types.json"));
+    const auto kept = filteredChannels(*rows, types, [&made](const QString& name) {
+        return QImage(made.filePath(u"icons/"_s + name + u".png"_s)).size() == QSize(150, 108);
+    });
+    ASSERT_EQ(kept.size(), demoChannels().size());
+    const URLPlanner planner(*hosts, [](unsigned) { return 0U; });
+    QStringList identities;
+    for (const ChannelDictionary& row : kept) {
+        identities.append(*channelValue(row, u"Location"_s));
+        const auto urls =
+            planner.urlsForSourceId(*channelValue(row, u"Location1"_s), Moment(), {}, QTimeZone::utc());
+        ASSERT_TRUE(urls);
+        ASSERT_EQ(urls->size(), 1);
+        EXPECT_EQ(urls->front().port(), 8123);
+        EXPECT_EQ(read(made.path() + urls->front().path()), packed);
+    }
+    const QJsonArray selection = QJsonDocument::fromJson(read(made.filePath(u"selection.json"_s))).array();
+    EXPECT_EQ(selection.size(), 12);
+    for (const QJsonValue& selected : selection) {
+        EXPECT_TRUE(identities.contains(selected.toString()));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, RealFeedCatalogue,
+                         testing::Values(Packed{"Plain", [](const QByteArray& bytes) { return bytes; }},
+                                         Packed{"Gzip", gzipped}, Packed{"Xz", xzPacked}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+} // namespace
+
+} // namespace guide
