@@ -113,6 +113,7 @@ DemoChannel channelOf(const Row& row, int number) {
 const std::vector<DemoChannel>& demoChannels() {
     static const std::vector<DemoChannel> channels = [] {
         std::vector<DemoChannel> made;
+        made.reserve(kRows.size());
         for (const Row& row : kRows) {
             made.push_back(channelOf(row, int(made.size()) + 1));
         }

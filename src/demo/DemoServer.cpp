@@ -55,7 +55,7 @@ std::optional<QByteArray> readHead(Connection& connection) {
             return std::nullopt;
         }
     }
-    const QByteArray head = bytes.first(end);
+    QByteArray head = bytes.first(end);
     const std::optional<ServedRequest> request = parsedRequestHead(head);
     const qsizetype announced = request ? request->header("Content-Length").value_or("0").toLongLong() : 0;
     if (announced < 0 || announced > kLongestBody) {

@@ -31,6 +31,7 @@ film_comedy=
   Starosti {home:obec.2} @ {smich}
   Tchyně na splátky @ {smich}
   Kapr v obýváku @ {smich}
+  Podivuhodná příhoda pana přednosty na cestě z nádraží domů a zpátky @ {smich}
   Bábovka pro ministra @ {smich}
   Děda má nápad @ {smich}
   Rozvod se slevou @ {smich}

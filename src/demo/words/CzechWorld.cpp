@@ -7,6 +7,7 @@ doc=
   Poslední {remeslo} @ {remeslnici}
   Tajemství {vec} @ {odborne}
   Jak se staví tunel @ {odborne}
+  Sto sedmdesát tři schodů k nejmenší rozhledně střední Evropy @ {odborne}
   Mosty Evropy @ {odborne}
   Vlaky na konec světa @ {odborne}
   Umění chleba @ {odborne}

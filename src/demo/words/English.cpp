@@ -130,6 +130,7 @@ film_comedy=
   The Wrong Trousseau @ {laugh}
   My Uncle the {t:trade.2} @ {laugh}
   Bring Your Own Ladder @ {laugh}
+  The Remarkable Misadventures of a Piano Tuner Between Two Railway Stations @ {laugh}
 laugh=
   A {t:trade} wins a cruise for two and discovers that the other ticket belongs to his former wife.
   The village of {home:place} needs one honest man for the council. It settles for a {t:trade}.

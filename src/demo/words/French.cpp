@@ -107,6 +107,7 @@ film_comedy=
   Mariage {home:place.2} @ {rire}
   Une chèvre au salon @ {rire}
   Ma belle-mère à crédit @ {rire}
+  L'extraordinaire affaire du chef de gare qui voulait voir passer la mer @ {rire}
   Trois cousins et une cabane @ {rire}
   Qui a peur {t:trade.2} @ {rire}
   Un ministre à l'heure du goûter @ {rire}

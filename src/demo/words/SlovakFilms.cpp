@@ -148,6 +148,7 @@ film_comedy=
   Svadba {home:obec.2} @ {smiech}
   Svokra na splátky @ {smiech}
   Kapor v obývačke @ {smiech}
+  Podivuhodná príhoda pána prednostu na ceste zo stanice domov a späť @ {smiech}
   Dedko má nápad @ {smiech}
   Traja bratranci a jedna chalupa @ {smiech}
   Halušky pre ministra @ {smiech}

@@ -120,6 +120,7 @@ film_comedy=
   Kaynana Taksitle @ {gulmece}
   Üç Kuzen Bir Keçi @ {gulmece}
   Dedemin Bir Fikri Var @ {gulmece}
+  Çarşamba Günü Kaybolup Perşembe Günü Bulunan Postacının Olağanüstü Hikâyesi @ {gulmece}
   Bakana Baklava @ {gulmece}
 gulmece=
   Bir daha yalan söylemeyeceğine söz verdi. Kahvaltıya kadar dayanabildi.
