@@ -13,8 +13,8 @@ using Days = std::chrono::days;
 
 } // namespace
 
-LocalTime::LocalTime(QTimeZone zone)
-    : m_zone(std::move(zone)) {}
+LocalTime::LocalTime(const QTimeZone& zone)
+    : m_zone(zone) {}
 
 std::chrono::seconds LocalTime::localSecondsAt(Moment moment) {
     const std::int64_t quarter = std::chrono::floor<Quarter>(moment).time_since_epoch().count();

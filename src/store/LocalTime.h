@@ -13,7 +13,7 @@ namespace guide {
 /// hour, the step on which all zones change. For one thread.
 class LocalTime {
   public:
-    explicit LocalTime(QTimeZone zone);
+    explicit LocalTime(const QTimeZone& zone);
 
     QDate dateAt(Moment moment);
     /// 0 to 23.

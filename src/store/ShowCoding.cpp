@@ -2,6 +2,7 @@
 
 #include "platform/KeyedArchiver.h"
 
+#include <QDebug>
 #include <QFile>
 
 #include <algorithm>
@@ -214,7 +215,11 @@ std::optional<ShowItems> unarchivedShowsOfFile(const QString& path, const Alphab
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return std::nullopt;
     }
-    return unarchivedShows(file.readAll(), alphabet);
+    std::optional<ShowItems> shows = unarchivedShows(file.readAll(), alphabet);
+    if (!shows) {
+        qWarning().noquote() << "TVListings: no list of shows in" << path;
+    }
+    return shows;
 }
 
 } // namespace guide
