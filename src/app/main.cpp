@@ -24,6 +24,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QRandomGenerator>
@@ -81,6 +82,13 @@ std::optional<SourceHostTable> hostTable(const std::optional<QString>& path, con
 int refuse(const char* why) {
     std::fprintf(stderr, "quellin-guide: %s\n", why);
     return 1;
+}
+
+/// The icons of a catalogue stand beside it, in "icons"; those of a catalogue without such a folder come with
+/// the program.
+QString iconFolder(const std::optional<QString>& cataloguePath, const Folders& folders) {
+    const QString beside = QFileInfo(cataloguePath.value_or(QString())).absolutePath() + "/icons"_L1;
+    return cataloguePath && QFileInfo(beside).isDir() ? beside : folders.bundle + "/icons"_L1;
 }
 
 int run(LaunchOptions options) {
@@ -165,7 +173,7 @@ int run(LaunchOptions options) {
         .hosts = *hosts,
         .random = [](unsigned bound) { return QRandomGenerator::system()->bounded(bound); },
         .cataloguePath = options.catalogue.value_or(folders->bundle + "/Data.plist"_L1),
-        .iconFolder = folders->bundle + "/icons"_L1,
+        .iconFolder = iconFolder(options.catalogue, *folders),
         .firstSelectionPath = options.select,
         .scheme = kScheme,
         .networkActivityIndicator = {},
