@@ -2,7 +2,6 @@
 option(QUELLIN_PCH "Precompile the standard and Qt Core headers" ON)
 option(QUELLIN_WERROR "Treat warnings as errors" ON)
 option(QUELLIN_BENCH "Build the benchmarks" OFF)
-option(QUELLIN_FUZZ "Build the fuzz targets (clang)" OFF)
 set(QUELLIN_SANITIZE "" CACHE STRING "Sanitizers to build with, comma-separated: address,undefined or thread")
 
 set(CMAKE_CXX_STANDARD 20)
