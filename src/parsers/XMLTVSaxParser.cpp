@@ -111,7 +111,8 @@ class Parse {
             return;
         }
         for (std::size_t i = 0; i < kElementNames.size(); ++i) {
-            m_names[i] = xmlDictLookup(m_context->dict, BAD_CAST kElementNames[i].name, -1);
+            m_names[i] =
+                xmlDictLookup(m_context->dict, reinterpret_cast<const xmlChar*>(kElementNames[i].name), -1);
         }
         // Without XML_PARSE_HUGE the library bounds names, depth and what entities expand to. Without
         // XML_PARSE_NOENT and its kin it opens nothing that the document points to.
@@ -125,7 +126,8 @@ class Parse {
         }
         m_bound = std::strlen(document) + kEntityAllowance;
         // The input stands on the page itself: nothing is copied.
-        xmlParserInputPtr input = xmlNewStringInputStream(m_context.get(), BAD_CAST document);
+        xmlParserInputPtr input =
+            xmlNewStringInputStream(m_context.get(), reinterpret_cast<const xmlChar*>(document));
         if (!input) {
             return;
         }
