@@ -10,12 +10,13 @@ namespace guide {
 
 using namespace Qt::StringLiterals;
 
-Page::Page(std::shared_ptr<ViewController> viewController, const ViewController* below, Theme& theme,
-           QObject* parent)
+Page::Page(std::shared_ptr<ViewController> viewController, const ViewController* below, Symbol symbol,
+           Theme& theme, QObject* parent)
     : QObject(parent)
     , m_viewController(std::move(viewController))
     , m_backTitle(below ? below->title() : QString())
     , m_canGoBack(below != nullptr)
+    , m_symbol(symbol)
     , m_rows(m_viewController, nullptr) {
     const auto measure = [this, &theme] { m_rows.measureTimes(theme.timeFont(), theme.raisedTimeFont()); };
     measure();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/kit/TabBarController.h"
 #include "ui/TableModel.h"
 #include "ui/Theme.h"
 
@@ -25,6 +26,8 @@ class Page : public QObject, private ViewControllerObserver {
     Q_PROPERTY(QVariantList buttons READ buttons NOTIFY buttonsUpdated)
     Q_PROPERTY(bool canRefresh READ canRefresh CONSTANT)
     Q_PROPERTY(bool refreshing READ refreshing NOTIFY refreshingUpdated)
+    /// The symbol of its tab.
+    Q_PROPERTY(int symbol READ symbol CONSTANT)
     Q_PROPERTY(guide::TableModel* rows READ rows CONSTANT)
 
   public:
@@ -32,8 +35,8 @@ class Page : public QObject, private ViewControllerObserver {
     Q_ENUM(ButtonKind)
 
     /// `below` is the screen that it covers; null for the root.
-    Page(std::shared_ptr<ViewController> viewController, const ViewController* below, Theme& theme,
-         QObject* parent);
+    Page(std::shared_ptr<ViewController> viewController, const ViewController* below, Symbol symbol,
+         Theme& theme, QObject* parent);
     ~Page() override;
 
     QString title() const { return m_viewController->title(); }
@@ -42,6 +45,7 @@ class Page : public QObject, private ViewControllerObserver {
     QVariantList buttons() const;
     bool canRefresh() const { return m_viewController->hasRefreshControl(); }
     bool refreshing() const { return m_viewController->refreshing(); }
+    int symbol() const { return static_cast<int>(m_symbol); }
     TableModel* rows() { return &m_rows; }
 
     Q_INVOKABLE void goBack();
@@ -63,6 +67,7 @@ class Page : public QObject, private ViewControllerObserver {
     const std::shared_ptr<ViewController> m_viewController;
     const QString m_backTitle;
     const bool m_canGoBack;
+    const Symbol m_symbol;
     TableModel m_rows;
 };
 

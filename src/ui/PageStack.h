@@ -16,7 +16,7 @@ class PageStack : public QObject, private NavigationObserver {
     Q_PROPERTY(guide::Page* root READ root CONSTANT)
 
   public:
-    PageStack(NavigationController& navigationController, Theme& theme, QObject* parent);
+    PageStack(NavigationController& navigationController, Symbol symbol, Theme& theme, QObject* parent);
     ~PageStack() override;
 
     Page* root() const { return m_root; }
@@ -31,6 +31,7 @@ class PageStack : public QObject, private NavigationObserver {
     void popped(int count) override { Q_EMIT pagesPopped(count); }
 
     NavigationController& m_navigationController;
+    const Symbol m_symbol;
     Theme& m_theme;
     Page* m_root;
 };

@@ -13,7 +13,7 @@ Shell::Shell(TabBarController& tabBarController, UserInterfaceIdiom form, Theme&
     , m_tabBarController(tabBarController)
     , m_form(form) {
     for (const TabBarController::Tab& tab : m_tabBarController.tabs()) {
-        m_stacks.push_back(new PageStack(*tab.navigationController, theme, this));
+        m_stacks.push_back(new PageStack(*tab.navigationController, tab.item.symbol, theme, this));
     }
     m_tabBarController.setObserver(this);
 }

@@ -150,6 +150,14 @@ QString TableModel::emptyMessage() const {
     return note ? note->message : QString();
 }
 
+void TableModel::keepPlace(int index) {
+    m_place = index < 0 ? QModelIndex() : this->index(index);
+}
+
+int TableModel::place() const {
+    return m_place.isValid() ? m_place.row() : -1;
+}
+
 void TableModel::tap(int index) {
     m_viewController->tapRow(pathOf(index));
 }
@@ -183,6 +191,7 @@ IndexPath TableModel::pathOf(int index) const {
 // ---- changes
 
 void TableModel::tableReloaded() {
+    Q_EMIT aboutToChange();
     const std::vector<Section>& sections = m_viewController->table().sections();
     // What was there stays where it is and is drawn anew; only ends of sections and whole sections come and
     // go.
@@ -209,29 +218,36 @@ void TableModel::tableReloaded() {
         changed(0, m_total - 1);
     }
     measure();
+    Q_EMIT hasChanged();
 }
 
 void TableModel::rowsInserted(int section, int first, int count) {
+    Q_EMIT aboutToChange();
     const int at = flatIndex(section, first);
     insertFlat(at, count, section);
     if (first > 0) {
         changed(at - 1, at - 1, {LastInSectionRole});
     }
     measure();
+    Q_EMIT hasChanged();
 }
 
 void TableModel::rowsRemoved(int section, int first, int count) {
+    Q_EMIT aboutToChange();
     const int at = flatIndex(section, first);
     removeFlat(at, count, section);
     if (first > 0) {
         changed(at - 1, at - 1, {LastInSectionRole});
     }
+    Q_EMIT hasChanged();
 }
 
 void TableModel::rowsReloaded(int section, int first, int count) {
+    Q_EMIT aboutToChange();
     const int at = flatIndex(section, first);
     changed(at, at + count - 1);
     measure();
+    Q_EMIT hasChanged();
 }
 
 void TableModel::rowSelectionChanged() {

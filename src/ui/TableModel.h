@@ -67,12 +67,19 @@ class TableModel : public QAbstractListModel, private TableObserver {
     /// The fonts of the time column, anew after a change of the system's text size.
     void measureTimes(const QFont& startFont, const QFont& endFont);
 
+    /// The row to come back to after a change, and where it is then; -1 once it has gone.
+    Q_INVOKABLE void keepPlace(int index);
+    Q_INVOKABLE int place() const;
+
     Q_INVOKABLE void tap(int index);
     Q_INVOKABLE void tapAccessory(int index);
     /// The row has come into sight, or says something else while it is.
     Q_INVOKABLE void shown(int index);
 
   Q_SIGNALS:
+    /// Around all that one change of the table brings.
+    void aboutToChange();
+    void hasChanged();
     void timeColumnChanged();
     void emptyTextsChanged();
 
@@ -96,6 +103,7 @@ class TableModel : public QAbstractListModel, private TableObserver {
     /// The rows of each section as the list knows them.
     std::vector<int> m_counts;
     int m_total = 0;
+    QPersistentModelIndex m_place;
     int m_revision = 0;
     QFont m_startFont;
     QFont m_endFont;

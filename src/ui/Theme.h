@@ -46,6 +46,7 @@ class Theme : public QObject {
     Q_PROPERTY(QFont channelTitleFont READ channelTitleFont NOTIFY fontsChanged)
     Q_PROPERTY(QFont headingFont READ headingFont NOTIFY fontsChanged)
     Q_PROPERTY(QFont barTitleFont READ barTitleFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont bodyFont READ bodyFont NOTIFY fontsChanged)
     Q_PROPERTY(QFont buttonFont READ buttonFont NOTIFY fontsChanged)
     Q_PROPERTY(QFont tabFont READ tabFont NOTIFY fontsChanged)
 
@@ -81,8 +82,10 @@ class Theme : public QObject {
     QFont channelTitleFont() const { return font(20, QFont::Bold); }
     QFont headingFont() const { return font(15, QFont::Bold); }
     QFont barTitleFont() const { return font(22, QFont::Bold); }
+    QFont bodyFont() const { return font(15, QFont::Normal); }
     QFont buttonFont() const { return font(15, QFont::DemiBold); }
-    QFont tabFont() const { return font(11, QFont::DemiBold); }
+    /// Grows less than the rest: all tabs have to stay side by side.
+    QFont tabFont() const;
 
     int motion() const { return m_moves ? 200 : 0; }
     bool moves() const { return m_moves; }

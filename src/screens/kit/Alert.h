@@ -13,7 +13,7 @@ struct AlertAction {
     QString title;
     Style style = Style::Default;
     /// Main queue; may be null.
-    std::function<void()> action;
+    std::function<void()> action = {};
 };
 
 /// A question or a message that wants an answer before anything else goes on.

@@ -19,7 +19,7 @@ struct TabBarItem {
     Symbol symbol = Symbol::Currently;
     bool enabled = true;
     /// Empty for none.
-    QString badgeValue;
+    QString badgeValue = {};
 };
 
 class TabBarObserver {

@@ -36,10 +36,9 @@ std::unique_ptr<TabBarController> makeGuideTabs(std::shared_ptr<const ScreenEnvi
         *tabs, Localized::tr("Schedule"), Symbol::Schedule,
         Localized::tr("The schedule of your alarms and favourites comes with a later version. What is "
                       "on now stands under Currently."));
-    addComingTab(
-        *tabs, Localized::tr("Selected Channels"), Symbol::SelectedChannels,
-        Localized::tr("Choosing channels here comes with a later version. Until then, start the guide "
-                      "with --select and a file of channels."));
+    addComingTab(*tabs, Localized::tr("Selected Channels"), Symbol::SelectedChannels,
+                 Localized::tr("Choosing channels here comes with a later version. Until then the guide "
+                               "takes them from a file when it starts."));
     return tabs;
 }
 

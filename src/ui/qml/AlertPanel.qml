@@ -35,7 +35,7 @@ FocusScope {
         width: Math.min(parent.width - 64, 360)
         height: content.implicitHeight + 40
         radius: 20
-        color: Theme.background
+        color: Theme.dark ? Theme.groupedBackground : Theme.background
         focus: true
 
         Accessible.role: Accessible.AlertMessage
@@ -67,7 +67,7 @@ FocusScope {
                 text: alert.shell.alertMessage
                 textFormat: Text.PlainText
                 color: Theme.secondaryLabel
-                font: Theme.buttonFont
+                font: Theme.bodyFont
                 wrapMode: Text.Wrap
                 lineHeight: 1.15
             }

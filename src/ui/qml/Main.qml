@@ -12,7 +12,7 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        color: main.shell.tablet ? Theme.groupedBackground : Theme.background
+        color: Theme.background
     }
 
     Item {

@@ -9,6 +9,7 @@ Item {
     property bool selected: false
     property bool focused: false
     property color color: Theme.background
+    property int radius: 0
     property string spoken: ""
 
     signal tapped()
@@ -22,6 +23,7 @@ Item {
 
     Rectangle {
         anchors.fill: parent
+        radius: surface.radius
         color: (surface.selectable && tap.pressed) || surface.selected ? Theme.pressed : surface.color
     }
 

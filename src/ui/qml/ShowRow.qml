@@ -23,7 +23,7 @@ RowSurface {
     readonly property bool stacked: timeColumn > width * 0.4
     readonly property double textLeft: stacked ? 16 : 16 + timeColumn + 12
 
-    implicitHeight: Math.max(56, texts.y + texts.height + 14)
+    implicitHeight: Math.max(56, texts.y + texts.height + (lastInSection ? 20 : 14))
 
     Text {
         id: start

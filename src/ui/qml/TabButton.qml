@@ -12,7 +12,9 @@ T.AbstractButton {
 
     focusPolicy: Qt.TabFocus
     opacity: enabled ? 1 : 0.38
-    implicitHeight: content.implicitHeight + 16
+    topPadding: 8
+    bottomPadding: 8
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
 
     Accessible.role: Accessible.PageTab
     Accessible.name: badge === "" ? text : text + ", " + badge

@@ -24,11 +24,13 @@ C.StackView {
         target: view.stack
 
         function onPagePushed(page) {
-            view.push(pageComponent, { "page": page }).forceActiveFocus()
+            view.push(pageComponent, { "page": page },
+                      Theme.moves ? C.StackView.PushTransition : C.StackView.Immediate).forceActiveFocus()
         }
 
         function onPagesPopped(count) {
-            view.pop(view.get(view.depth - 1 - count))
+            view.pop(view.get(view.depth - 1 - count),
+                     Theme.moves ? C.StackView.PopTransition : C.StackView.Immediate)
             view.currentItem.forceActiveFocus()
         }
     }

@@ -10,16 +10,18 @@ FocusScope {
 
     readonly property int columnWidth: Math.min(width, 720)
 
-    Rectangle {
-        anchors.fill: parent
-        color: screen.width > screen.columnWidth ? Theme.groupedBackground : Theme.background
-    }
+    // Where the column does not fill the window, its bands are rounded.
+    readonly property int bandRadius: width > columnWidth ? 12 : 0
 
     Rectangle {
+        anchors.fill: parent
+        color: Theme.background
+    }
+
+    Item {
         width: screen.columnWidth
         height: parent.height
         anchors.horizontalCenter: parent.horizontalCenter
-        color: Theme.background
 
         NavigationBar {
             id: bar
@@ -31,6 +33,8 @@ FocusScope {
 
         ListView {
             id: list
+
+            objectName: "rows"
 
             anchors {
                 top: bar.bottom
@@ -55,13 +59,39 @@ FocusScope {
             section.property: "sectionTitle"
             section.labelPositioning: ViewSection.InlineLabels | ViewSection.CurrentLabelAtStart
             section.delegate: SectionHeader {
+                radius: screen.bandRadius
                 width: ListView.view.width
             }
 
             delegate: TableRow {
                 width: ListView.view.width
                 page: screen.page
+                bandRadius: screen.bandRadius
                 timeColumn: screen.page.rows.timeColumn
+            }
+
+            // What is in sight stays where it is, whatever changes above it.
+            property double placeOffset: 0
+
+            Connections {
+                target: screen.page.rows
+
+                function onAboutToChange() {
+                    const atTop = list.indexAt(8, list.contentY + 1)
+                    const index = atTop >= 0 ? atTop : list.indexAt(8, list.contentY + list.height / 2)
+                    const item = list.itemAtIndex(index)
+                    screen.page.rows.keepPlace(item ? index : -1)
+                    list.placeOffset = item ? item.y - list.contentY : 0
+                }
+
+                function onHasChanged() {
+                    list.forceLayout()
+                    const item = list.itemAtIndex(screen.page.rows.place())
+                    if (item && !list.moving) {
+                        list.contentY = item.y - list.placeOffset
+                        list.returnToBounds()
+                    }
+                }
             }
 
             Keys.onReturnPressed: screen.page.rows.tap(currentIndex)
@@ -90,6 +120,7 @@ FocusScope {
             visible: list.count === 0 && screen.page.rows.emptyTitle !== ""
             title: screen.page.rows.emptyTitle
             message: screen.page.rows.emptyMessage
+            symbol: screen.page.symbol
         }
     }
 

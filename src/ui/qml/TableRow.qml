@@ -7,6 +7,7 @@ Loader {
 
     required property Page page
     required property double timeColumn
+    required property int bandRadius
 
     required property int index
     required property int kind
@@ -41,6 +42,7 @@ Loader {
         id: channelRow
 
         ChannelRow {
+            radius: cell.bandRadius
             title: cell.title
             titleColor: Theme.roles[cell.titleColor]
             details: cell.details

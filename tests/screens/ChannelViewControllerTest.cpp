@@ -1,0 +1,143 @@
+#include "screens/channel/ChannelViewController.h"
+
+#include "ScreenWorld.h"
+
+namespace guide::test {
+
+namespace {
+
+class ChannelViewControllerTest : public testing::Test {
+  protected:
+    void begin(const ChannelDictionary& more = {}) {
+        world.device.deviceLocale = QLocale(QLocale::English, QLocale::UnitedKingdom);
+        // 31 December, 18:30 UTC, is 1 January, 05:30, here.
+        world.device.zone = QTimeZone("Australia/Lord_Howe");
+        channel = world.addChannel(u"Jedna"_s, true, more);
+        world.start();
+    }
+    std::shared_ptr<ChannelViewController> open(const std::vector<WorldShow>& shows) {
+        auto screen = std::make_shared<ChannelViewController>(world.environment, u"Jedna"_s,
+                                                              world.list(channel, shows), u"icon"_s, channel);
+        world.show();
+        world.tabs->selectedNavigationController().push(screen);
+        return screen;
+    }
+    static std::vector<BarButton::Kind> buttons(const ViewController& screen) {
+        std::vector<BarButton::Kind> kinds;
+        for (const BarButton& button : screen.rightBarButtons()) {
+            kinds.push_back(button.kind);
+        }
+        return kinds;
+    }
+    static QStringList content(const ViewController& screen) {
+        QStringList lines;
+        for (const Section& section : screen.table().sections()) {
+            lines << u"# "_s + section.title;
+            for (const Row& row : section.rows) {
+                lines << row.text.plain();
+            }
+        }
+        return lines;
+    }
+
+    using Kinds = std::vector<BarButton::Kind>;
+    static constexpr auto kRefresh = BarButton::Kind::Refresh;
+    static constexpr auto kActivity = BarButton::Kind::Activity;
+    static constexpr auto kPlay = BarButton::Kind::Play;
+
+    ScreenWorld world;
+    ObjectId channel = ScreenWorld::channelId(1);
+};
+
+TEST_F(ChannelViewControllerTest, GroupsByTheDayOfTheStart) {
+    begin();
+    const auto screen = open({{0, 60, u"Morning"_s, u"A long text"_s},
+                              {17 * 60, 19 * 60, u"Across midnight"_s},
+                              {19 * 60, 20 * 60, u"After it"_s}});
+    EXPECT_EQ(screen->title(), u"Jedna"_s);
+    EXPECT_EQ(content(*screen),
+              QStringList({u"# Thursday, 1 January 2026"_s, u"05:30 Morning"_s, u"22:30 Across midnight"_s,
+                           u"# Friday, 2 January 2026"_s, u"00:30 After it"_s}));
+    EXPECT_TRUE(screen->table().row({0, 0})->allDetails);
+    EXPECT_EQ(screen->table().row({0, 0})->progress, 0.0);
+    world.clock.advance(60min);
+    screen->notificationsSynched();
+    EXPECT_FALSE(screen->table().row({0, 0})->progress) << "a show that ends now runs no more here";
+}
+
+TEST_F(ChannelViewControllerTest, RefreshUnloadsTheChannelAndAsksForACheck) {
+    begin({{u"Stream"_s, u"http://x/live"_s}});
+    world.load(channel, {{0, 60, u"Old"_s}});
+    const auto screen = open({{0, 60, u"Old"_s}});
+    EXPECT_EQ(buttons(*screen), Kinds({kRefresh, kPlay}));
+    screen->pressBarButton(1);
+    screen->pressBarButton(0);
+    EXPECT_EQ(world.app.done, QStringList({u"play http://x/live"_s, u"check"_s}));
+    EXPECT_EQ(buttons(*screen), Kinds({kActivity, kPlay}));
+
+    world.broadcast->reloadData();
+    world.queues.runAll();
+    EXPECT_EQ(buttons(*screen), Kinds({kActivity, kPlay})) << "the channel is still due";
+    world.load(channel, {{0, 60, u"New"_s}, {60, 90, u"And more"_s}});
+    EXPECT_EQ(buttons(*screen), Kinds({kRefresh, kPlay}));
+    EXPECT_TRUE(content(*screen).last().endsWith(u"And more"_s));
+}
+
+TEST_F(ChannelViewControllerTest, OpensAsRefreshingWhileTheChannelIsLoadingOrDue) {
+    begin();
+    EXPECT_EQ(buttons(*open({{0, 60, u"A"_s}})), Kinds{kActivity}) << "never loaded";
+    world.load(channel, {{0, 60, u"A"_s}});
+    world.channels->channelWithChannelId(channel)->setLoading(true);
+    const auto screen = open({{0, 60, u"A"_s}});
+    EXPECT_EQ(buttons(*screen), Kinds{kActivity});
+    screen->reloadChannelData();
+    world.queues.runAll();
+    EXPECT_EQ(buttons(*screen), Kinds{kActivity});
+    world.channels->channelWithChannelId(channel)->setLoading(false);
+    screen->reloadChannelData();
+    world.queues.runAll();
+    EXPECT_EQ(buttons(*screen), Kinds{kRefresh});
+}
+
+TEST_F(ChannelViewControllerTest, AChannelThatIsNoLongerSelectedKeepsTheIndicator) {
+    begin();
+    world.load(channel, {{0, 60, u"A"_s}});
+    const auto screen = open({{0, 60, u"A"_s}});
+    world.channels->setSelected({});
+    screen->pullToRefresh();
+    screen->reloadChannelData();
+    world.queues.runAll();
+    EXPECT_EQ(buttons(*screen), Kinds{kActivity});
+    EXPECT_TRUE(screen->refreshing());
+    EXPECT_TRUE(world.app.done.isEmpty());
+}
+
+TEST_F(ChannelViewControllerTest, AScheduleThatRunsOutSaysSo) {
+    begin();
+    world.load(channel, {{0, 60, u"A"_s}});
+    const auto screen = open({{0, 60, u"A"_s}});
+    world.clock.advance(61min);
+    screen->reloadChannelData();
+    world.queues.runAll();
+    EXPECT_TRUE(screen->table().sections().empty());
+    EXPECT_TRUE(screen->table().emptyNote());
+}
+
+TEST_F(ChannelViewControllerTest, RecolorsAtTheNextTurn) {
+    begin();
+    const auto screen = open({{0, 60, u"A"_s}});
+    EXPECT_EQ(screen->table().row({0, 0})->text.runs[0].color, ColorRole::Running);
+    world.app.colorized = false;
+    world.broadcast->recolor();
+    EXPECT_EQ(screen->table().row({0, 0})->text.runs[0].color, ColorRole::Running);
+    world.queues.runAll();
+    EXPECT_EQ(screen->table().row({0, 0})->text.runs[0].color, ColorRole::SecondaryLabel);
+    world.alarms.titles = {u"A"_s};
+    world.broadcast->favoritesUpdated();
+    EXPECT_EQ(screen->table().row({0, 0})->text.runs[0].color, ColorRole::Alarm);
+    EXPECT_EQ(screen->table().row({0, 0})->spokenState, u"On now, Alarm set"_s);
+}
+
+} // namespace
+
+} // namespace guide::test

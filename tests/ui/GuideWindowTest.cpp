@@ -1,0 +1,243 @@
+#include "ui/GuideWindow.h"
+
+#include "GalleryShows.h"
+#include "screens/root/RootViewController.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+namespace guide::test {
+
+namespace {
+
+QStringList* warnings = nullptr;
+
+void collectWarnings(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (warnings && type != QtDebugMsg && type != QtInfoMsg) {
+        *warnings << QString::fromLatin1(context.category) + u": "_s + text;
+    }
+}
+
+class GuideWindowTest : public testing::TestWithParam<UserInterfaceIdiom> {
+  protected:
+    GuideWindowTest() {
+        warnings = &m_warnings;
+        m_outerHandler = qInstallMessageHandler(collectWarnings);
+    }
+    ~GuideWindowTest() override {
+        window.reset();
+        qInstallMessageHandler(m_outerHandler);
+        warnings = nullptr;
+        EXPECT_TRUE(m_warnings.isEmpty()) << m_warnings.join(u'\n').toStdString();
+    }
+
+    void open() {
+        fillWithEvening(world);
+        if (GetParam() == UserInterfaceIdiom::Tablet) {
+            world.tabs->setSelectedIndex(currentlyTabIndex(GetParam()));
+        }
+        window = std::make_unique<GuideWindow>(
+            *world.tabs,
+            GuideWindowOptions{.form = GetParam(),
+                               .motion = false,
+                               .visibilityChanged = [this](bool visible) { visibility << visible; },
+                               .closed = [this] { closed = true; }});
+        ASSERT_TRUE(window->loaded());
+        window->show();
+        quickWindow = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().constFirst());
+        ASSERT_TRUE(quickWindow);
+        world.queues.runAll();
+        settle();
+    }
+    void settle() const {
+        for (int turn = 0; turn < 20; ++turn) {
+            QCoreApplication::processEvents();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            quickWindow->grabWindow();
+        }
+    }
+    /// Items in sight with the property, top to bottom.
+    QList<QQuickItem*> itemsWith(const char* property) const {
+        QList<QQuickItem*> found;
+        QList<QQuickItem*> open{quickWindow->contentItem()};
+        while (!open.isEmpty()) {
+            QQuickItem* item = open.takeFirst();
+            if (item->isVisible()) {
+                if (item->metaObject()->indexOfProperty(property) >= 0) {
+                    found << item;
+                }
+                open << item->childItems();
+            }
+        }
+        return found;
+    }
+    QQuickItem* rows() const {
+        QQuickItem* last = nullptr;
+        for (QQuickItem* item : itemsWith("currentIndex")) {
+            last = item->objectName() == u"rows"_s ? item : last;
+        }
+        return last;
+    }
+    int totalRows() const {
+        int total = 0;
+        for (const Section& section : world.top().table().sections()) {
+            total += static_cast<int>(section.rows.size());
+        }
+        return total;
+    }
+    /// The title of the row at the list's top edge.
+    QString titleAtTop() const {
+        QQuickItem* item = nullptr;
+        const double y = rows()->property("contentY").toDouble() + 1;
+        QMetaObject::invokeMethod(rows(), "itemAt", Q_RETURN_ARG(QQuickItem*, item), Q_ARG(double, 10.0),
+                                  Q_ARG(double, y));
+        return item ? item->property("title").toString() : QString();
+    }
+
+    ScreenWorld world{GetParam()};
+    std::unique_ptr<GuideWindow> window;
+    QQuickWindow* quickWindow = nullptr;
+    QList<bool> visibility;
+    bool closed = false;
+
+  private:
+    QStringList m_warnings;
+    QtMessageHandler m_outerHandler = nullptr;
+};
+
+TEST_P(GuideWindowTest, DrawsTheRowsAndTheTabs) {
+    open();
+    ASSERT_TRUE(rows());
+    EXPECT_EQ(rows()->property("count").toInt(), totalRows());
+    EXPECT_GT(totalRows(), 20);
+    EXPECT_LE(rows()->width(), 720);
+    EXPECT_EQ(itemsWith("badge").size(), GetParam() == UserInterfaceIdiom::Tablet ? 6 : 5);
+    for (QQuickItem* tab : itemsWith("badge")) {
+        EXPECT_GE(tab->height(), 44);
+        EXPECT_GE(tab->width(), 44);
+    }
+    for (QQuickItem* row : itemsWith("selectable")) {
+        EXPECT_GE(row->height(), 56);
+    }
+    EXPECT_EQ(visibility, QList<bool>{true});
+}
+
+TEST_P(GuideWindowTest, ThePlaceInTheListStays) {
+    open();
+    auto& root = dynamic_cast<RootViewController&>(world.top());
+    rows()->setProperty("contentY", 700);
+    settle();
+    const QString before = titleAtTop();
+    ASSERT_FALSE(before.isEmpty());
+    root.notificationsSynched();
+    settle();
+    EXPECT_EQ(titleAtTop(), before) << "after all rows were drawn anew";
+    const ObjectId first = ScreenWorld::channelId(1);
+    world.load(first, {{0, 65, u"Only one left"_s}});
+    settle();
+    EXPECT_EQ(titleAtTop(), before) << "after rows above were removed";
+    world.load(first, {{0, 65, u"A"_s}, {65, 70, u"B"_s}, {70, 75, u"C"_s}});
+    settle();
+    EXPECT_EQ(titleAtTop(), before) << "after rows above were inserted";
+    EXPECT_EQ(rows()->property("count").toInt(), totalRows());
+}
+
+TEST_P(GuideWindowTest, TheKeyboardOpensAChannelAndLeadsBack) {
+    open();
+    rows()->forceActiveFocus(Qt::TabFocusReason);
+    QTest::keyClick(quickWindow, Qt::Key_Down);
+    EXPECT_EQ(rows()->property("currentIndex").toInt(), 0);
+    QTest::keyClick(quickWindow, Qt::Key_Return);
+    world.queues.runAll();
+    settle();
+    ASSERT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 2U);
+    EXPECT_EQ(rows()->property("count").toInt(), totalRows());
+    QStringList days;
+    for (const QQuickItem* header : itemsWith("section")) {
+        days << header->property("section").toString();
+    }
+    EXPECT_TRUE(days.contains(u"středa 31. prosince 2025"_s)) << days.join(u'|').toStdString();
+
+    QTest::keyClick(quickWindow, Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 1U);
+    EXPECT_EQ(rows()->property("count").toInt(), totalRows());
+}
+
+TEST_P(GuideWindowTest, DayHeadersFollowTheirRows) {
+    open();
+    world.top().tapRow({0, 0});
+    world.queues.runAll();
+    settle();
+    // In the morning nothing of the first day is left.
+    world.clock.set(world.begin + 12h);
+    world.broadcast->reloadData();
+    world.queues.runAll();
+    settle();
+    QStringList days;
+    for (const QQuickItem* header : itemsWith("section")) {
+        days << header->property("section").toString();
+    }
+    EXPECT_FALSE(days.contains(u"středa 31. prosince 2025"_s)) << days.join(u'|').toStdString();
+    EXPECT_TRUE(days.contains(u"čtvrtek 1. ledna 2026"_s)) << days.join(u'|').toStdString();
+}
+
+TEST_P(GuideWindowTest, AnAlertIsAnsweredByKeyboard) {
+    open();
+    int pressed = 0;
+    world.tabs->presentAlert(
+        {u"Alert"_s, u"Text"_s, {{u"OK"_s, AlertAction::Style::Default, [&] { ++pressed; }}}});
+    settle();
+    QTest::keyClick(quickWindow, Qt::Key_Escape);
+    EXPECT_EQ(pressed, 1);
+    EXPECT_EQ(world.tabs->presentedAlert(), nullptr);
+}
+
+TEST_P(GuideWindowTest, FollowsTheSystemsSchemeUnlessForced) {
+    open();
+    const auto dark = [this] { return quickWindow->color().lightness() < 128; };
+    const QPalette system = QGuiApplication::palette();
+    QPalette night;
+    night.setColor(QPalette::Window, Qt::black);
+    night.setColor(QPalette::WindowText, Qt::white);
+    QGuiApplication::setPalette(night);
+    settle();
+    EXPECT_TRUE(dark());
+    window->setColorScheme(ColorScheme::Light);
+    EXPECT_FALSE(dark());
+    window->setColorScheme(std::nullopt);
+    EXPECT_TRUE(dark());
+    QGuiApplication::setPalette(system);
+    settle();
+}
+
+TEST_P(GuideWindowTest, TellsOfItsVisibilityAndItsEnd) {
+    open();
+    quickWindow->hide();
+    quickWindow->show();
+    quickWindow->close();
+    EXPECT_EQ(visibility, QList<bool>({true, false, true, false}));
+    EXPECT_TRUE(closed);
+    quickWindow->show();
+}
+
+TEST_P(GuideWindowTest, SavesPictures) {
+    open();
+    const QString path = world.folder.filePath(u"picture.png"_s);
+    ASSERT_TRUE(window->savePicture(path));
+    EXPECT_EQ(QImage(path).size(), quickWindow->size());
+    EXPECT_FALSE(window->savePicture(world.folder.filePath(u"no/such/folder.png"_s)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Forms, GuideWindowTest,
+                         testing::Values(UserInterfaceIdiom::Phone, UserInterfaceIdiom::Tablet),
+                         [](const auto& form) {
+                             return std::string(form.param == UserInterfaceIdiom::Phone ? "Phone" : "Tablet");
+                         });
+
+} // namespace
+
+} // namespace guide::test
