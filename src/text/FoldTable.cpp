@@ -75,25 +75,31 @@ const FoldTable& FoldTable::of(FoldMode mode) {
 
 FoldedCharacter FoldTable::fold(char32_t character) const {
     FoldedCharacter folded;
-    const auto append = [&](char32_t part) {
-        folded.append(ignoresCase(m_mode) ? QChar::toCaseFolded(part) : part);
-    };
-    if (!ignoresDiacritics(m_mode)) {
-        append(character);
-    } else if (QChar::decompositionTag(character) != QChar::Canonical) {
-        if (!QChar::isMark(character)) {
-            append(character);
-        }
+    if (ignoresDiacritics(m_mode)) {
+        appendBases(character, folded);
     } else {
-        // A canonical decomposition is already taken all the way down.
-        const QString parts = QChar::decomposition(character);
-        for (qsizetype i = 0; i < parts.size();) {
-            if (const char32_t part = takeCodePoint(parts, i); !QChar::isMark(part)) {
-                append(part);
-            }
-        }
+        append(character, folded);
     }
     return folded;
+}
+
+void FoldTable::append(char32_t character, FoldedCharacter& to) const {
+    to.append(ignoresCase(m_mode) ? QChar::toCaseFolded(character) : character);
+}
+
+void FoldTable::appendBases(char32_t character, FoldedCharacter& to) const {
+    if (QChar::isMark(character)) {
+        return;
+    }
+    if (QChar::decompositionTag(character) != QChar::Canonical) {
+        append(character, to);
+        return;
+    }
+    // The first part may decompose again.
+    const QString parts = QChar::decomposition(character);
+    for (qsizetype i = 0; i < parts.size();) {
+        appendBases(takeCodePoint(parts, i), to);
+    }
 }
 
 QString FoldTable::folded(QStringView text) const {

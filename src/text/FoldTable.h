@@ -27,7 +27,7 @@ class FoldedCharacter {
     void append(char32_t character);
 
   private:
-    /// Four characters are what a canonical decomposition comes to.
+    /// A canonical decomposition comes to four characters.
     std::array<char16_t, 8> m_units;
     qsizetype m_size = 0;
 };
@@ -36,14 +36,12 @@ class FoldedCharacter {
 /// that do not decompose (đ, ł, ß, ı) stay, and a few (Hangul) become several units.
 class FoldTable {
   public:
-    /// Values that stand for no unit of their own.
-    static constexpr char16_t kDropped = 0xFFFF;
-    static constexpr char16_t kSeveral = 0xFFFE;
+    /// Surrogates, which nothing folds to on its own.
+    static constexpr char16_t kDropped = 0xD800;
+    static constexpr char16_t kSeveral = 0xDC00;
 
     /// The table of a mode, made on first use and kept for the process.
     static const FoldTable& of(FoldMode mode);
-
-    FoldMode mode() const { return m_mode; }
 
     /// The folded unit; kDropped or kSeveral where there is none or more than one. Surrogates fold to
     /// kSeveral: pairs go through fold.
@@ -56,6 +54,9 @@ class FoldTable {
 
   private:
     explicit FoldTable(FoldMode mode);
+
+    void append(char32_t character, FoldedCharacter& to) const;
+    void appendBases(char32_t character, FoldedCharacter& to) const;
 
     FoldMode m_mode;
     std::unique_ptr<std::array<char16_t, 0x10000>> m_units;

@@ -1,0 +1,218 @@
+#include "text/FeedTextCleaning.h"
+
+#include <gtest/gtest.h>
+
+namespace guide {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+using Text = std::optional<QString>;
+
+TEST(TitleCleaningTest, TakesTitlesApart) {
+    const struct {
+        QString title;
+        QString shown;
+        Text description;
+    } rows[] = {
+        {u"Naslov"_s, u"Naslov"_s, {}},
+        {u""_s, u""_s, {}},
+        {u"Gem, set, meč, epizoda 3"_s, u"Gem, set, meč"_s, u"epizoda 3"_s},
+        {u"Gem, set, meč"_s, u"Gem, set, meč"_s, u"set, meč"_s},
+        {u"Gem, set, meč x"_s, u"Gem, set, meč"_s, u"set, meč x"_s},
+        {u"2,4 djeteta"_s, u"2,4 djeteta"_s, {}},
+        {u"DNEVNIK, 1. DIO"_s, u"Dnevnik"_s, u"1. DIO"_s},
+        {u"123"_s, u"123"_s, {}},
+        {u"Film (USA, 1999), drama"_s, u"Film"_s, u"USA, 1999), drama"_s},
+        {u"Film(USA), drama"_s, u"Film(USA)"_s, u"drama"_s},
+        {u"Film\u00A0(USA) i (HR), drama"_s, u"Film"_s, u"USA) i (HR), drama"_s},
+        {u"Film [a] b [c], drama"_s, u"Film "_s, u"] b [c], drama"_s},
+        {u"Naslov, 2. dio (R)"_s, u"Naslov"_s, u"2. dio (R)"_s},
+        {u"Naslov,2. dio"_s, u"Naslov"_s, {}},
+        {u"(a\nb) [c\nd]"_s, u"(a\nb) [c\nd]"_s, {}},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(showTitle(row.title, QLocale(u"hr_HR"_s)), row.shown) << row.title.toStdString();
+        EXPECT_EQ(showInstantDescription(row.title), row.description) << row.title.toStdString();
+    }
+}
+
+TEST(TitleCleaningTest, CapitalisesByTheLocale) {
+    const struct {
+        QString title;
+        QString locale;
+        QString shown;
+    } rows[] = {
+        {u"VIJESTI IZ KULTURE"_s, u"hr_HR"_s, u"Vijesti Iz Kulture"_s},
+        {u"ŠPORT 24"_s, u"C"_s, u"Šport 24"_s},
+        {u"İYİ GÜNLER IŞIK"_s, u"tr_TR"_s, u"İyi Günler Işık"_s},
+        {u"IŞIK"_s, u"en_US"_s, u"Işik"_s},
+        {u"DON'T LOOK UP"_s, u"en_US"_s, u"Don't Look Up"_s},
+        {u"НОВОСТИ-2"_s, u"ru_RU"_s, u"Новости-2"_s},
+        {u"TVs"_s, u"en_US"_s, u"TVs"_s},
+        {u"新聞"_s, u"en_US"_s, u"新聞"_s},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(showTitle(row.title, QLocale(row.locale)), row.shown) << row.title.toStdString();
+    }
+}
+
+TEST(TitleCleaningTest, ReadsNotesAndRepeatMarks) {
+    const struct {
+        QString title;
+        bool note;
+        bool repeat;
+    } rows[] = {
+        {u"Film, drama (USA/1999)"_s, true, false},
+        {u"Film (USA/1999)"_s, false, false},
+        {u"Film, )/("_s, true, false},
+        {u"Film, drama (USA)"_s, false, false},
+        {u"Film (R)"_s, false, true},
+        {u"Film [Repris]"_s, false, true},
+        {u"Film (r) [repris]"_s, false, false},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(hasProductionNote(row.title), row.note) << row.title.toStdString();
+        EXPECT_EQ(isRepeatMarked(row.title), row.repeat) << row.title.toStdString();
+    }
+}
+
+TEST(SubtitleCleaningTest, TakesBracketsOut) {
+    const struct {
+        QString subtitle;
+        QString left;
+        QString matched;
+    } rows[] = {
+        {u"[film] Naslov"_s, u"Naslov"_s, u"[film]"_s},
+        {u"[a] . Naslov"_s, u"Naslov"_s, u"[a]"_s},
+        {u"[a],  Naslov"_s, u" Naslov"_s, u"[a]"_s},
+        {u"[a]. (Naslov)"_s, u"Naslov"_s, u"[a]"_s},
+        {u"[a]. (, Naslov)"_s, u"Naslov"_s, u"[a]"_s},
+        {u"Naslov [a] b [c]"_s, u"Naslov "_s, u"[a] b [c]"_s},
+        {u"[a\n[b] c"_s, u"[a\n c"_s, u"[b]"_s},
+        {u"[a]"_s, u""_s, u"[a]"_s},
+        {u"a] [b"_s, u"a] [b"_s, u""_s},
+    };
+    for (const auto& row : rows) {
+        QString subtitle = row.subtitle;
+        const auto range = bracketRange(subtitle);
+        EXPECT_EQ(range ? applySubtitleBracket(subtitle, range->start, range->size) : QString(), row.matched)
+            << row.subtitle.toStdString();
+        EXPECT_EQ(subtitle, row.left) << row.subtitle.toStdString();
+    }
+}
+
+TEST(SubtitleCleaningTest, Finishes) {
+    const struct {
+        Text subtitle;
+        bool recognised;
+        Text subtitle1;
+        Text instantDetails1;
+    } rows[] = {
+        {{}, false, {}, {}},
+        {{}, true, {}, {}},
+        {u"Naslov"_s, false, u"Naslov"_s, {}},
+        {u" Naslov\u00A0"_s, false, u"Naslov"_s, {}},
+        {u"(Naslov)"_s, false, u"Naslov"_s, {}},
+        {u"( ((Naslov)) )"_s, false, u"( ((Naslov)) )"_s, {}},
+        {u"((Naslov))"_s, false, u"Naslov"_s, {}},
+        {u"(Naslov"_s, false, u"(Naslov"_s, {}},
+        {u"Naslov)"_s, false, u"Naslov)"_s, {}},
+        {u"(a) (b)"_s, false, u"(a) (b)"_s, {}},
+        {u"x"_s, false, {}, {}},
+        {u"7"_s, false, u"7"_s, {}},
+        {u"٧"_s, false, {}, {}},
+        {u"(x)"_s, false, {}, {}},
+        {u"(x"_s, false, u"(x"_s, {}},
+        {u" \u2003\n"_s, false, {}, {}},
+        {u"(komedija)"_s, true, {}, u"komedija"_s},
+        {u"x"_s, true, {}, u""_s},
+    };
+    for (const auto& row : rows) {
+        const FinishedSubtitle finished = finishSubtitle(row.subtitle, row.recognised);
+        EXPECT_EQ(finished.subtitle1, row.subtitle1) << row.subtitle.value_or(u"unset"_s).toStdString();
+        EXPECT_EQ(finished.instantDetails1, row.instantDetails1)
+            << row.subtitle.value_or(u"unset"_s).toStdString();
+    }
+}
+
+TEST(DescriptionCleaningTest, TakesCreditsAndAttributionsOut) {
+    const struct {
+        const char* name;
+        QString text;
+        Text knownRoles;
+        Text description;
+        Text roles;
+        Text directedBy;
+    } rows[] = {
+        {"empty", u""_s, {}, u""_s, {}, {}},
+        {"only carriage returns", u"\r\r"_s, {}, u""_s, {}, {}},
+        {"a full stop is added", u"Opis"_s, {}, u"Opis."_s, {}, {}},
+        {"also behind another sign", u"Opis!"_s, {}, u"Opis!."_s, {}, {}},
+        {"line ends", u"\rA.\nB\nC\n\nD\rE\n\n\nF\r"_s, {}, u"A.\nB C\nD\nE\n F."_s, {}, {}},
+        {"a semicolon in front", u"; ; A"_s, {}, u"; A."_s, {}, {}},
+        {"attributions",
+         u"A (više na http://epg.example)(more at http://epg.example)B"_s,
+         {},
+         u"A B."_s,
+         {},
+         {}},
+        {"attributions that stay",
+         u"(više na https://epg.example) (more at http://other.example)"_s,
+         {},
+         u"(više na https://epg.example) (more at http://other.example)."_s,
+         {},
+         {}},
+        {"labelled credits",
+         u"Opis filma. Uloge: A, B\nRedatelj: C\nKraj"_s,
+         {},
+         u"Opis filma. ."_s,
+         u"A, B"_s,
+         u"C"_s},
+        {"cast up to the next label",
+         u"Opis.\nUloge: A, B Redatelj: C Glazba: D"_s,
+         {},
+         u"Opis.\n."_s,
+         u"A, B"_s,
+         u"C"_s},
+        {"known cast stays", u"Uloge: A\nX"_s, u"Z Redatelj: Y"_s, u""_s, u"Z"_s, {}},
+        {"the director first", u"Režija: C\nUloge: A"_s, {}, u""_s, u"A"_s, u"C"_s},
+        {"the longer director's label",
+         u"Redatelj: C\nScenarist i redatelj: D\nUloge: A"_s,
+         {},
+         u"Redatelj: C ."_s,
+         u"A"_s,
+         u"D"_s},
+        {"Romanian cast", u"Text. Cu: A, B"_s, {}, u"Text. ."_s, u"A, B"_s, {}},
+        {"a director without a cast", u"Opis. Redatelj: C"_s, {}, u"Opis. Redatelj: C."_s, {}, {}},
+        {"both kinds of credits", u"T. Uloge: A\nB Regia - C"_s, {}, u"T. ."_s, u"A"_s, {}},
+        {"listed credits",
+         u"Tekst. Regia - Ana, Regia - Ivo, Marko, Pero"_s,
+         {},
+         u"Tekst."_s,
+         u"Marko, Pero"_s,
+         u"Ana, Ivo"_s},
+        {"listed credits behind a comma", u"Tekst, Regia - Ana\nMarko,"_s, u"Z"_s, u"Tekst."_s, u"Marko, "_s,
+         u"Ana"_s},
+        {"listed credits on a line", u"Tekst.\nRegia - Ana"_s, {}, u"Tekst."_s, {}, u"Ana"_s},
+        {"no credits", u"TeleRegia - Ana, Marko"_s, {}, u"TeleRegia - Ana, Marko."_s, {}, {}},
+        {"credits read from the first of their kind",
+         u"TeleRegia - Ana, x Regia - Ivo"_s,
+         {},
+         u"TeleRegia - Ana, x."_s,
+         {},
+         u"Ana, Ivo"_s},
+    };
+    for (const auto& row : rows) {
+        const CleanedDescription cleaned = cleanDescription({row.text, row.knownRoles, {}}, u"epg.example"_s);
+        EXPECT_EQ(cleaned.description, row.description) << row.name;
+        EXPECT_EQ(cleaned.roles, row.roles) << row.name;
+        EXPECT_EQ(cleaned.directedBy, row.directedBy) << row.name;
+    }
+    const CleanedDescription unset = cleanDescription({{}, u"Z"_s, u"Y"_s}, u"epg.example"_s);
+    EXPECT_EQ(unset.description, Text());
+    EXPECT_EQ(unset.roles, u"Z"_s);
+}
+
+} // namespace
+} // namespace guide

@@ -1,0 +1,59 @@
+#include "text/FoldTable.h"
+
+#include "text/FoldedText.h"
+
+#include <QList>
+
+#include <gtest/gtest.h>
+
+namespace guide {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QString fromCodePoint(char32_t character) {
+    return QString::fromUcs4(&character, 1);
+}
+
+TEST(FoldTableTest, FoldsEveryCharacterLikeItsDecompositionWithoutMarks) {
+    for (const FoldMode mode : {FoldMode::Diacritics, FoldMode::CaseAndDiacritics}) {
+        for (char32_t character = 0; character <= 0x10FFFF; ++character) {
+            if (QChar::isSurrogate(character)) {
+                continue;
+            }
+            QString wanted;
+            const QString text = fromCodePoint(character);
+            for (const char32_t part : text.normalized(QString::NormalizationForm_D).toUcs4()) {
+                if (!QChar::isMark(part)) {
+                    wanted += fromCodePoint(mode == FoldMode::Diacritics ? part : QChar::toCaseFolded(part));
+                }
+            }
+            ASSERT_EQ(FoldTable::of(mode).folded(text), wanted) << std::hex << uint(character);
+        }
+    }
+}
+
+TEST(FoldTableTest, FoldsTexts) {
+    const struct {
+        const char* name;
+        QString text;
+        QString folded;
+    } rows[] = {
+        {"composed", u"ŽLUŤOUČKÝ Kůň"_s, u"zlutoucky kun"_s},
+        {"decomposed", u"Z\u030Clut\u030C"_s, u"zlut"_s},
+        {"letters that do not decompose", u"Đłßı"_s, u"đłßı"_s},
+        {"a dotted capital I", u"İ"_s, u"i"_s},
+        {"a mark alone", u"\u0301"_s, u""_s},
+        {"lone surrogates", QString(QChar(0xD83D)) + u'A' + QChar(0xDE00),
+         QString(QChar(0xD83D)) + u'a' + QChar(0xDE00)},
+        {"characters that become longer, in the middle", u"É각😀각Ö𐐀É"_s,
+         u"e"_s + u"각"_s.normalized(QString::NormalizationForm_D) + u"😀"_s +
+             u"각"_s.normalized(QString::NormalizationForm_D) + u"o𐐨e"_s},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(foldedText(row.text), row.folded) << row.name;
+    }
+}
+
+} // namespace
+} // namespace guide
