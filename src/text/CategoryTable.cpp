@@ -1,6 +1,5 @@
 #include "text/CategoryTable.h"
 
-#include <algorithm>
 #include <bit>
 
 namespace guide {
@@ -9,19 +8,21 @@ namespace {
 
 /// Whether the unit may be one that composes with what stands before it. Of the letters and signs of our
 /// texts only marks are.
-bool mayCompose(char16_t unit) {
-    return (unit >= 0x300 && unit < 0x370) || (unit >= 0x483 && unit < 0x48A) ||
-           (unit >= 0x590 && (unit < 0x2000 || unit > 0x2116));
+unsigned mayCompose(char16_t unit) {
+    const auto isWithin = [unit](char16_t first, char16_t behind) {
+        return static_cast<unsigned>(unit >= first) & static_cast<unsigned>(unit < behind);
+    };
+    return isWithin(0x300, 0x370) | isWithin(0x483, 0x48A) | isWithin(0x590, 0x2000) |
+           static_cast<unsigned>(unit > 0x2116);
 }
 
 bool mayCompose(QStringView text) {
-    // Nearly all texts end here, many units at a time.
-    char16_t bits = 0;
+    // Without a branch, which makes it a matter of many units at a time.
+    unsigned found = 0;
     for (const QChar unit : text) {
-        bits = static_cast<char16_t>(bits | unit.unicode());
+        found |= mayCompose(unit.unicode());
     }
-    return bits >= 0x300 &&
-           std::any_of(text.begin(), text.end(), [](QChar unit) { return mayCompose(unit.unicode()); });
+    return found != 0;
 }
 
 } // namespace
@@ -59,8 +60,8 @@ std::uint64_t CategoryTable::rowsFoundIn(const QString& text) const {
     }
     std::uint64_t rows = 0;
     for (const Search& search : m_searches) {
-        search.automaton.walk(searched, [&](const WordAutomaton::Occurrence& key) {
-            rows |= std::uint64_t(1) << search.rowOfKey[static_cast<std::size_t>(key.word)];
+        search.automaton.findWords(searched, [&](int key) {
+            rows |= std::uint64_t(1) << search.rowOfKey[static_cast<std::size_t>(key)];
         });
     }
     return rows;

@@ -140,15 +140,27 @@ void takeListedCredits(CleanedDescription& show, QString& text) {
     text.truncate(*credits);
 }
 
-/// A blank line, and a line end behind a full stop, stay as one line end; every other line end becomes a
-/// blank.
+/// A blank line, and a line end behind a full stop, stay as one line end, and so does a carriage return;
+/// every other line end becomes a blank.
 void mendLineEnds(QString& text) {
-    if (text.contains(u'\n')) {
-        text.replace("\n\n"_L1, "\r"_L1);
-        text.replace(".\n"_L1, ".\r"_L1);
-        text.replace(u'\n', u' ');
+    if (!text.contains(u'\n') && !text.contains(u'\r')) {
+        return;
     }
-    text.replace(u'\r', u'\n');
+    QChar* const begin = text.data();
+    const QChar* const end = begin + text.size();
+    QChar* to = begin;
+    for (const QChar* from = begin; from < end; ++from) {
+        QChar unit = *from;
+        if (unit == u'\r') {
+            unit = u'\n';
+        } else if (unit == u'\n' && from + 1 < end && from[1] == u'\n') {
+            ++from;
+        } else if (unit == u'\n' && (to == begin || to[-1] != u'.')) {
+            unit = u' ';
+        }
+        *to++ = unit;
+    }
+    text.truncate(to - begin);
 }
 
 } // namespace
@@ -171,6 +183,8 @@ CleanedDescription cleanDescription(CleanedDescription show, const QString& site
         description.remove(0, 2);
     }
     if (!description.isEmpty() && !description.endsWith(u'.')) {
+        // Growing by itself it would take room for as much again.
+        description.reserve(description.size() + 1);
         description += u'.';
     }
     return show;

@@ -24,6 +24,7 @@ WordAutomaton::WordAutomaton(const std::vector<QString>& words, FoldMode mode)
     for (const QString& word : words) {
         foldedWords.push_back(m_table->folded(word));
         m_lengths.push_back(foldedWords.back().size());
+        m_longest = std::max(m_longest, m_lengths.back());
         for (const QChar unit : foldedWords.back()) {
             m_alphabet.push_back(unit.unicode());
         }
@@ -34,6 +35,10 @@ WordAutomaton::WordAutomaton(const std::vector<QString>& words, FoldMode mode)
     m_classCount = static_cast<std::uint32_t>(m_alphabet.size()) + 1;
     for (std::uint32_t unit = 0; unit < 0x10000; ++unit) {
         const char16_t foldedUnit = (*m_table)[static_cast<char16_t>(unit)];
+        if (mode == FoldMode::None) {
+            (*m_classes)[unit] = foldedClass(static_cast<char16_t>(unit));
+            continue;
+        }
         (*m_classes)[unit] = foldedUnit == FoldTable::kDropped   ? kDropped
                              : foldedUnit == FoldTable::kSeveral ? kSeveral
                                                                  : foldedClass(foldedUnit);

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringView>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -53,6 +54,47 @@ class WordAutomaton {
             state = next[state + unitClass];
             if (state >= firstAccepting) [[unlikely]] {
                 report(state, i + 1, plainFrom, found);
+            }
+        }
+    }
+
+    /// Calls `found(word)` for every word that occurs, in no order and perhaps several times. Each step of a
+    /// walk waits for the one before it, so a long text is walked in four places at once where nothing is
+    /// folded.
+    template <class Found>
+    void findWords(QStringView text, Found&& found) const {
+        constexpr qsizetype kPlaces = 4;
+        const auto foundHere = [&](const Occurrence& occurrence) { found(occurrence.word); };
+        if (m_table->mode() != FoldMode::None || text.size() < 2 * kPlaces * m_longest) {
+            walk(text, foundHere);
+            return;
+        }
+        const std::uint32_t* const next = m_next.data();
+        const std::uint8_t* const classes = m_classes->data();
+        const std::uint32_t firstAccepting = m_firstAccepting;
+        // The stretches overlap by all but a unit of the longest word.
+        const qsizetype overlap = m_longest - 1;
+        const qsizetype length = (text.size() + (kPlaces - 1) * overlap + kPlaces - 1) / kPlaces;
+        const char16_t* const first = text.utf16();
+        const char16_t* const second = first + (length - overlap);
+        const char16_t* const third = second + (length - overlap);
+        const char16_t* const last = first + (text.size() - length);
+        // Four names and no array, which the compiler would keep in memory.
+        std::uint32_t a = 0;
+        std::uint32_t b = 0;
+        std::uint32_t c = 0;
+        std::uint32_t d = 0;
+        for (qsizetype i = 0; i < length; ++i) {
+            a = next[a + classes[first[i]]];
+            b = next[b + classes[second[i]]];
+            c = next[c + classes[third[i]]];
+            d = next[d + classes[last[i]]];
+            if (std::max(std::max(a, b), std::max(c, d)) >= firstAccepting) [[unlikely]] {
+                for (const std::uint32_t state : {a, b, c, d}) {
+                    if (state >= firstAccepting) {
+                        report(state, i, i, foundHere);
+                    }
+                }
             }
         }
     }
@@ -107,6 +149,7 @@ class WordAutomaton {
     std::vector<int> m_accepted;
     /// In folded units.
     std::vector<qsizetype> m_lengths;
+    qsizetype m_longest = 1;
 };
 
 } // namespace guide

@@ -210,6 +210,17 @@ TEST(XMLTVToEntries, TakesImagesOnlyOfFeedsThatNameThemSo) {
     EXPECT_TRUE(read(programmes, {}, withoutBase)[0].entries[0].pictures.isEmpty());
 }
 
+TEST(XMLTVToEntries, FindsTheWordsOfALongDescriptionWhereverTheyStand) {
+    const std::string filler(300, 'x');
+    for (std::size_t place = 0; place <= filler.size(); ++place) {
+        std::string description = filler;
+        description.insert(place, "Sci-Fi");
+        const auto channels = read(show("a", "A</title><desc>" + description + "</desc><title>"), {});
+        EXPECT_EQ(channels[0].entries[0].categories, TVListingsCategoryMovies | TVListingsCategorySF)
+            << place;
+    }
+}
+
 /// Work that grows with the square of a text would take minutes here.
 TEST(XMLTVToEntries, TakesLongTextsInItsStride) {
     const auto repeated = [](const char* text, int times) {
