@@ -43,6 +43,8 @@ class FoldTable {
     /// The table of a mode, made on first use and kept for the process.
     static const FoldTable& of(FoldMode mode);
 
+    FoldMode mode() const { return m_mode; }
+
     /// The folded unit; kDropped or kSeveral where there is none or more than one. Surrogates fold to
     /// kSeveral: pairs go through fold.
     char16_t operator[](char16_t unit) const { return (*m_units)[unit]; }
