@@ -18,6 +18,7 @@ struct Node {
 
 WordAutomaton::WordAutomaton(const std::vector<QString>& words, FoldMode mode)
     : m_table(&FoldTable::of(mode))
+    , m_isPlain(mode == FoldMode::None)
     , m_classes(std::make_unique<std::array<std::uint8_t, 0x10000>>()) {
     std::vector<QString> foldedWords;
     foldedWords.reserve(words.size());
@@ -35,7 +36,7 @@ WordAutomaton::WordAutomaton(const std::vector<QString>& words, FoldMode mode)
     m_classCount = static_cast<std::uint32_t>(m_alphabet.size()) + 1;
     for (std::uint32_t unit = 0; unit < 0x10000; ++unit) {
         const char16_t foldedUnit = (*m_table)[static_cast<char16_t>(unit)];
-        if (mode == FoldMode::None) {
+        if (m_isPlain) {
             (*m_classes)[unit] = foldedClass(static_cast<char16_t>(unit));
             continue;
         }

@@ -65,7 +65,7 @@ class WordAutomaton {
     void findWords(QStringView text, Found&& found) const {
         constexpr qsizetype kPlaces = 4;
         const auto foundHere = [&](const Occurrence& occurrence) { found(occurrence.word); };
-        if (m_table->mode() != FoldMode::None || text.size() < 2 * kPlaces * m_longest) {
+        if (!m_isPlain || text.size() < 2 * kPlaces * m_longest) {
             walk(text, foundHere);
             return;
         }
@@ -137,6 +137,8 @@ class WordAutomaton {
     std::uint8_t foldedClass(char16_t unit) const;
 
     const FoldTable* m_table;
+    /// Nothing is folded: each unit of a text has a class of its own.
+    bool m_isPlain;
     /// The class of each unit of a text, folding included; 0 is what no word has.
     std::unique_ptr<std::array<std::uint8_t, 0x10000>> m_classes;
     /// The units that words have, in ascending order: class c is that of m_alphabet[c - 1].
