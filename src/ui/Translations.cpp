@@ -9,7 +9,9 @@ using namespace Qt::StringLiterals;
 
 void installTranslations(const QLocale& locale) {
     auto* translator = new QTranslator(QCoreApplication::instance());
-    if (translator->load(locale, u"quellin"_s, u"_"_s, u":/translations"_s)) {
+    // By the one language: whoever has set English first is not given a later choice.
+    const QString name = u"quellin_"_s + QLocale::languageToCode(locale.language());
+    if (translator->load(name, u":/translations"_s)) {
         QCoreApplication::installTranslator(translator);
     } else {
         delete translator;

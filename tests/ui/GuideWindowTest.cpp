@@ -1,6 +1,7 @@
 #include "ui/GuideWindow.h"
 
 #include "GalleryShows.h"
+#include "screens/Localized.h"
 #include "screens/root/RootViewController.h"
 
 #include <QGuiApplication>
@@ -8,6 +9,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
+#include <QTranslator>
 
 namespace guide::test {
 
@@ -230,6 +232,21 @@ TEST_P(GuideWindowTest, SavesPictures) {
     ASSERT_TRUE(window->savePicture(path));
     EXPECT_EQ(QImage(path).size(), quickWindow->size());
     EXPECT_FALSE(window->savePicture(world.folder.filePath(u"no/such/folder.png"_s)));
+}
+
+TEST(TranslationsTest, TheDevicesLanguageOrEnglish) {
+    struct Case {
+        QLocale locale;
+        QString text;
+    };
+    const std::vector<Case> cases{{QLocale(QLocale::Czech, QLocale::Czechia), u"Právě běží"_s},
+                                  {QLocale(QLocale::Slovak, QLocale::Slovakia), u"Práve beží"_s},
+                                  {QLocale(QLocale::Hungarian, QLocale::Hungary), u"Currently"_s}};
+    for (const Case& each : cases) {
+        installTranslations(each.locale);
+        EXPECT_EQ(Localized::tr("Currently"), each.text);
+        qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, GuideWindowTest,

@@ -1,0 +1,122 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="cs">
+<context>
+    <name>Guide</name>
+    <message>
+        <source>No shows to come</source>
+        <translation>Žádné další pořady</translation>
+    </message>
+    <message>
+        <source>The schedule of this channel has run out. Refresh to look for a newer one.</source>
+        <translation>Program tohoto kanálu skončil. Obnovením vyhledáte novější.</translation>
+    </message>
+    <message>
+        <source>Refreshing</source>
+        <translation>Obnovuje se</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Obnovit</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Přehrát</translation>
+    </message>
+    <message>
+        <source>Currently</source>
+        <translation>Právě běží</translation>
+    </message>
+    <message>
+        <source>No channels yet</source>
+        <translation>Zatím žádné kanály</translation>
+    </message>
+    <message>
+        <source>What is on now appears here once you have chosen channels under Selected Channels.</source>
+        <translation>Co právě běží, uvidíte zde, jakmile si zvolíte kanály na kartě Vybrané kanály.</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Načítá se</translation>
+    </message>
+    <message>
+        <source>Updated </source>
+        <translation>Aktualizováno </translation>
+    </message>
+    <message>
+        <source>Nothing here yet</source>
+        <translation>Zatím tu nic není</translation>
+    </message>
+    <message>
+        <source>All Shows</source>
+        <translation>Všechny pořady</translation>
+    </message>
+    <message>
+        <source>All shows of all your channels come with a later version. What is on now stands under Currently.</source>
+        <translation>Všechny pořady všech vašich kanálů přinese některá z dalších verzí. Co právě běží, najdete na kartě Právě běží.</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Films, series, sport and the other kinds of shows come with a later version. What is on now stands under Currently.</source>
+        <translation>Filmy, seriály, sport a další druhy pořadů přinese některá z dalších verzí. Co právě běží, najdete na kartě Právě běží.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Hledat</translation>
+    </message>
+    <message>
+        <source>Searching comes with a later version. What is on now stands under Currently.</source>
+        <translation>Hledání přinese některá z dalších verzí. Co právě běží, najdete na kartě Právě běží.</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Plán</translation>
+    </message>
+    <message>
+        <source>The schedule of your alarms and favourites comes with a later version. What is on now stands under Currently.</source>
+        <translation>Plán vašich upozornění a oblíbených pořadů přinese některá z dalších verzí. Co právě běží, najdete na kartě Právě běží.</translation>
+    </message>
+    <message>
+        <source>Selected Channels</source>
+        <translation>Vybrané kanály</translation>
+    </message>
+    <message>
+        <source>Choosing channels here comes with a later version. Until then the guide takes them from a file when it starts.</source>
+        <translation>Výběr kanálů přinese některá z dalších verzí. Do té doby si je průvodce bere při spuštění ze souboru.</translation>
+    </message>
+    <message>
+        <source>On now</source>
+        <translation>Právě běží</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Oblíbené</translation>
+    </message>
+    <message>
+        <source>Alarm set</source>
+        <translation>Upozornění nastaveno</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zpět</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteHostAlert</name>
+    <message>
+        <source>Unable to establish connection to remote server</source>
+        <translation>Nelze navázat spojení se vzdáleným serverem</translation>
+    </message>
+    <message>
+        <source>Check your Internet connection.</source>
+        <translation>Zkontrolujte připojení k internetu.</translation>
+    </message>
+</context>
+</TS>

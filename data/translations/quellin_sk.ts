@@ -1,0 +1,122 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sk">
+<context>
+    <name>Guide</name>
+    <message>
+        <source>No shows to come</source>
+        <translation>Žiadne ďalšie relácie</translation>
+    </message>
+    <message>
+        <source>The schedule of this channel has run out. Refresh to look for a newer one.</source>
+        <translation>Program tohto kanála sa skončil. Obnovením vyhľadáte novší.</translation>
+    </message>
+    <message>
+        <source>Refreshing</source>
+        <translation>Obnovuje sa</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Obnoviť</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Prehrať</translation>
+    </message>
+    <message>
+        <source>Currently</source>
+        <translation>Práve beží</translation>
+    </message>
+    <message>
+        <source>No channels yet</source>
+        <translation>Zatiaľ žiadne kanály</translation>
+    </message>
+    <message>
+        <source>What is on now appears here once you have chosen channels under Selected Channels.</source>
+        <translation>Čo práve beží, uvidíte tu, keď si zvolíte kanály na karte Vybrané kanály.</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Načítava sa</translation>
+    </message>
+    <message>
+        <source>Updated </source>
+        <translation>Aktualizované </translation>
+    </message>
+    <message>
+        <source>Nothing here yet</source>
+        <translation>Zatiaľ tu nič nie je</translation>
+    </message>
+    <message>
+        <source>All Shows</source>
+        <translation>Všetky relácie</translation>
+    </message>
+    <message>
+        <source>All shows of all your channels come with a later version. What is on now stands under Currently.</source>
+        <translation>Všetky relácie všetkých vašich kanálov prinesie niektorá z ďalších verzií. Čo práve beží, nájdete na karte Práve beží.</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategórie</translation>
+    </message>
+    <message>
+        <source>Films, series, sport and the other kinds of shows come with a later version. What is on now stands under Currently.</source>
+        <translation>Filmy, seriály, šport a ďalšie druhy relácií prinesie niektorá z ďalších verzií. Čo práve beží, nájdete na karte Práve beží.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Hľadať</translation>
+    </message>
+    <message>
+        <source>Searching comes with a later version. What is on now stands under Currently.</source>
+        <translation>Hľadanie prinesie niektorá z ďalších verzií. Čo práve beží, nájdete na karte Práve beží.</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Plán</translation>
+    </message>
+    <message>
+        <source>The schedule of your alarms and favourites comes with a later version. What is on now stands under Currently.</source>
+        <translation>Plán vašich upozornení a obľúbených relácií prinesie niektorá z ďalších verzií. Čo práve beží, nájdete na karte Práve beží.</translation>
+    </message>
+    <message>
+        <source>Selected Channels</source>
+        <translation>Vybrané kanály</translation>
+    </message>
+    <message>
+        <source>Choosing channels here comes with a later version. Until then the guide takes them from a file when it starts.</source>
+        <translation>Výber kanálov prinesie niektorá z ďalších verzií. Dovtedy si ich sprievodca berie pri spustení zo súboru.</translation>
+    </message>
+    <message>
+        <source>On now</source>
+        <translation>Práve beží</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Obľúbené</translation>
+    </message>
+    <message>
+        <source>Alarm set</source>
+        <translation>Upozornenie nastavené</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Späť</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteHostAlert</name>
+    <message>
+        <source>Unable to establish connection to remote server</source>
+        <translation>Nedá sa nadviazať spojenie so vzdialeným serverom</translation>
+    </message>
+    <message>
+        <source>Check your Internet connection.</source>
+        <translation>Skontrolujte pripojenie na internet.</translation>
+    </message>
+</context>
+</TS>
