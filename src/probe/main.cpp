@@ -57,7 +57,7 @@ QString standardInput() {
 
 /// The context that the common options ask for.
 std::variant<Context, Failure> contextFor(const Arguments& arguments) {
-    Moment now(std::chrono::milliseconds(QDateTime::currentMSecsSinceEpoch()));
+    Moment now{std::chrono::milliseconds(QDateTime::currentMSecsSinceEpoch())};
     if (const auto text = arguments.value(u"now"_s)) {
         const auto moment = momentFromText(*text);
         if (!moment) {
