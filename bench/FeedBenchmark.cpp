@@ -45,7 +45,7 @@ QByteArray readFeed(const QString& path) {
     if (!file.open(QIODevice::ReadOnly)) {
         qFatal("%s: %s", qUtf8Printable(path), qUtf8Printable(file.errorString()));
     }
-    PageText page = pageText(file.readAll(), std::nullopt, kMemory);
+    PageText page = pageText(file.readAll(), HTTPResponse(), kMemory);
     if (!page.text) {
         qFatal("%s is no text", qUtf8Printable(path));
     }
@@ -127,7 +127,7 @@ void fewChannelsOfPackedFeed(benchmark::State& state) {
     const Subject& feed = subject();
     const std::vector<LoadItem> items = feed.items(kFewChannels);
     for ([[maybe_unused]] auto pass : state) {
-        PageText page = pageText(feed.packed, std::nullopt, kMemory);
+        PageText page = pageText(feed.packed, HTTPResponse(), kMemory);
         const ParsedLists lists = feed.driver.read(items, {*std::move(page.text)}, Moment{}, kXMLTV);
         if (!feed.isComplete(items, lists)) {
             state.SkipWithError("shows are missing");

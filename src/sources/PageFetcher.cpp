@@ -89,8 +89,7 @@ NetPage PageFetcher::netPageForRequest(HTTPRequest request, bool /*userIsWaiting
         m_environment.client.removeCachedResponse(request);
         return answer;
     }
-    PageText text = pageText(std::move(transfer.body), transfer.response->header("Content-Type"),
-                             m_environment.physicalMemory);
+    PageText text = pageText(std::move(transfer.body), *transfer.response, m_environment.physicalMemory);
     answer.page = std::move(text.text);
     answer.reason = text.reason;
     return answer;

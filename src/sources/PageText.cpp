@@ -44,14 +44,17 @@ std::optional<QString> declaredCharset(const QByteArray& contentType) {
 
 } // namespace
 
-PageText pageText(QByteArray body, const std::optional<QByteArray>& contentType,
-                  std::uint64_t physicalMemory) {
+PageText pageText(QByteArray body, const HTTPResponse& response, std::uint64_t physicalMemory) {
     const DecompressionLimits limits{physicalMemory};
-    const QByteArray type = contentType.value_or(QByteArray());
+    const QByteArray type = response.header("Content-Type").value_or(QByteArray());
     if (type == "application/x-xz") {
         return unpacked(dataWithXzData(body, limits));
     }
     if (type == "application/x-gzip") {
+        // Some servers say of a gzip file that the transfer packed it, and the transfer has unpacked it then.
+        if (response.header("Content-Encoding") && !hasGzipSignature(body)) {
+            return textOf(utf8FromUtf8(std::move(body)));
+        }
         return unpacked(dataWithCompressedData(body, limits));
     }
     if (const std::optional<QString> charset = declaredCharset(type)) {

@@ -1,12 +1,12 @@
 #include "platform/linux/CurlHTTPClient.h"
 
 #include "fakes/ManualClock.h"
+#include "fakes/Packing.h"
 #include "fakes/ScriptedServer.h"
 #include "platform/linux/GlobalLibraries.h"
 
 #include <future>
 #include <gtest/gtest.h>
-#include <zlib.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -17,21 +17,6 @@ namespace {
 using End = ScriptedReply::End;
 
 constexpr qint64 kBodyLimit = 100'000;
-
-QByteArray gzipped(QByteArray content) {
-    z_stream stream{};
-    deflateInit2(&stream, 6, Z_DEFLATED, 31, 8, Z_DEFAULT_STRATEGY);
-    QByteArray packed(static_cast<qsizetype>(deflateBound(&stream, static_cast<uLong>(content.size()))),
-                      '\0');
-    stream.next_in = reinterpret_cast<Bytef*>(content.data());
-    stream.avail_in = static_cast<uInt>(content.size());
-    stream.next_out = reinterpret_cast<Bytef*>(packed.data());
-    stream.avail_out = static_cast<uInt>(packed.size());
-    deflate(&stream, Z_FINISH);
-    packed.truncate(static_cast<qsizetype>(stream.total_out));
-    deflateEnd(&stream);
-    return packed;
-}
 
 class CurlHTTPClientTest : public testing::Test {
   protected:

@@ -1,8 +1,8 @@
 #include "fakes/ManualQueues.h"
+#include "fakes/Packing.h"
 #include "fakes/ScriptedServer.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/GlobalLibraries.h"
-#include "sources/Packing.h"
 #include "sources/PageFetcher.h"
 
 #include <algorithm>
@@ -45,13 +45,7 @@ class PageFetcherServerTest : public testing::Test {
 TEST_F(PageFetcherServerTest, WhateverTheServerDoesGivesAPageOrAReason) {
     const QByteArray feed = "<tv>" + QByteArray("<programme channel=\"č\"/>").repeated(100) + "</tv>";
     const QByteArray gzip = gzipped(feed);
-    const QByteArray xz = xzPacked(feed);
-    QByteArray damagedGzip = gzip;
-    damagedGzip[damagedGzip.size() - 6] = char(damagedGzip[damagedGzip.size() - 6] ^ 0x55); // in the checksum
-    QByteArray damagedXz = xz;
-    damagedXz[damagedXz.size() / 2] = char(damagedXz[damagedXz.size() / 2] ^ 0x55);
     const QByteArray bomb = gzipped(QByteArray(40 << 20, 'x'));
-    const auto type = [](const QByteArray& value) { return QList<QByteArray>{"Content-Type: " + value}; };
     const ScriptedReply cut = ScriptedReply::raw(
         ScriptedReply::head(200, {"Content-Length: 1000"}) + feed.left(500), ScriptedReply::End::Cut);
     const ScriptedReply stalled = ScriptedReply::raw(
@@ -69,9 +63,13 @@ TEST_F(PageFetcherServerTest, WhateverTheServerDoesGivesAPageOrAReason) {
     };
     const Row rows[] = {
         {"plain", {ScriptedReply::ok(feed)}, feed},
-        {"gzip", {ScriptedReply::ok(gzip, type("application/x-gzip"))}, feed},
-        {"xz", {ScriptedReply::ok(xz, type("application/x-xz"))}, feed},
-        {"gzip by another name", {ScriptedReply::ok(gzip, type("application/gzip"))}, feed},
+        {"packed, and said to be packed on the way",
+         {ScriptedReply::ok(gzip, {"Content-Type: application/x-gzip", "Content-Encoding: gzip"})},
+         feed},
+        {"damaged",
+         {ScriptedReply::ok("no xz", {"Content-Type: application/x-xz"})},
+         {},
+         PageReason::Compression},
         {"packed on the way", {ScriptedReply::ok(gzip, {"Content-Encoding: gzip"})}, feed},
         {"slow", {slow}, feed},
         {"error pages",
@@ -97,26 +95,12 @@ TEST_F(PageFetcherServerTest, WhateverTheServerDoesGivesAPageOrAReason) {
          {},
          PageReason::Transfer,
          2},
-        {"wrong charset",
-         {ScriptedReply::ok("\xe8\xe9", type("text/xml; charset=utf-8"))},
-         {},
-         PageReason::Encoding},
-        {"another charset", {ScriptedReply::ok("\xe8", type("text/xml; charset=windows-1250"))}, "č"},
-        {"damaged gzip",
-         {ScriptedReply::ok(damagedGzip, type("application/x-gzip"))},
-         {},
-         PageReason::Compression},
-        {"damaged xz", {ScriptedReply::ok(damagedXz, type("application/x-xz"))}, {}, PageReason::Compression},
-        {"gzip bomb", {ScriptedReply::ok(bomb, type("application/x-gzip"))}, {}, PageReason::Compression},
         {"bomb on the way",
          {ScriptedReply::ok(bomb, {"Content-Encoding: gzip"}),
           ScriptedReply::ok(bomb, {"Content-Encoding: gzip"})},
          {},
          PageReason::Transfer,
          2},
-        {"a page for a person",
-         {ScriptedReply::ok("<html>&nbsp;</html>", type("text/html"))},
-         "<html>&nbsp;</html>"},
     };
     int number = 0;
     for (const Row& row : rows) {
@@ -138,12 +122,6 @@ TEST_F(PageFetcherServerTest, WhateverTheServerDoesGivesAPageOrAReason) {
     }
     EXPECT_EQ(server.requests().front().header("User-Agent"), userAgent.value());
     EXPECT_EQ(server.requests().front().header("Accept-Encoding"), "gzip,deflate");
-}
-
-TEST_F(PageFetcherServerTest, AnXzBombIsCutToItsBound) {
-    const QByteArray bomb = xzPacked(QByteArray(40 << 20, 'x'));
-    server.reply(ScriptedReply::ok(bomb, {"Content-Type: application/x-xz"}));
-    EXPECT_EQ(fetch(server.url()).page, QByteArray(23 * bomb.size(), 'x'));
 }
 
 TEST_F(PageFetcherServerTest, GoodPagesAreKeptAndOthersAreNot) {
