@@ -10,10 +10,12 @@ or .xz; it is copied to where the guide looks for the feed of a family.
 
 The guide serves the pairs of language and region that its data/supported-channel-types.json lists. The rows of the
 catalogue get the pair of --language: "sk" is Slovak, "cs" Czech, "en", "fr", "tr" and "ru" are Other. Without the option
-the feed's own language marks decide. A feed in a language that has no pair (Hungarian, say) goes under "en", Other: the
-language of a row chooses the alphabet of its texts and where the channel is listed, and no text is changed by it.
+the mark that most titles of the feed have decides. A feed in a language that has no pair (Hungarian, say) goes under
+"en", Other: the language of a row chooses the alphabet of its texts and where the channel is listed, and no text is
+changed by it.
 """
 import argparse
+import codecs
 import datetime
 import gzip
 import hashlib
@@ -194,7 +196,17 @@ def icon(name):
 def place_feed(path, folder):
     """Copies the feed to where its family looks for it. Answers the beginning of its source ids."""
     with opened(path) as file:
-        size = sum(len(piece) for piece in iter(lambda: file.read(1 << 20), b""))
+        size, decoder = 0, codecs.getincrementaldecoder("utf-8")()
+        try:
+            for piece in iter(lambda: file.read(1 << 20), b""):
+                size += len(piece)
+                decoder.decode(piece)
+            decoder.decode(b"", final=True)
+        except UnicodeDecodeError:
+            # The guide reads files as UTF-8, whatever they say of themselves.
+            with opened(path) as whole:
+                ElementTree.parse(whole).write(folder / "epg.xml", encoding="utf-8", xml_declaration=True)
+            return "n."
     with path.open("rb") as file:
         head = file.read(6)
     if head == b"\xfd7zXZ\x00" and size < path.stat().st_size * XZ_ROOM:
@@ -254,7 +266,7 @@ def main():
     if not channels or at is None:
         return f"{options.feed}: no channel has a show with a start and a stop that could be shown"
 
-    marks = [language for language, _ in feed.languages.most_common() if language in REGIONS]
+    marks = [language for language, _ in feed.languages.most_common(1) if language in REGIONS]
     language = options.language or (marks[0] if marks else "en")
     icons = options.folder / "icons"
     icons.mkdir(parents=True, exist_ok=True)
