@@ -195,6 +195,10 @@ TEST_F(CurlHTTPClientTest, ContentEncodingsThatWereAskedForAreUndone) {
     EXPECT_TRUE(client.perform(asked).error);
     server.reply(ScriptedReply::ok(gzipped(page), {"Content-Type: application/x-gzip"}));
     EXPECT_EQ(client.perform(asked).body, gzipped(page)) << "a packed file is not packed for the way";
+    for (int request = 0; request < 2; ++request) {
+        server.reply(ScriptedReply::ok("as it is", {"Content-Encoding: xz"}));
+    }
+    EXPECT_EQ(client.perform(asked).body, "as it is") << "what nobody can undo is what the file is";
 }
 
 TEST_F(CurlHTTPClientTest, CookiesAreKeptForTheProcess) {

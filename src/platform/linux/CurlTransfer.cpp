@@ -1,5 +1,7 @@
 #include "platform/linux/CurlTransfer.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <utility>
 
@@ -28,6 +30,14 @@ bool append(CurlList& list, const QByteArray& line) {
     return true;
 }
 
+// Whether the library knows how to undo all of them.
+bool areKnownEncodings(const QByteArray& encodings) {
+    static const QSet<QByteArray> kKnown{"identity", "none", "gzip", "x-gzip", "deflate", "br", "zstd"};
+    const QList<QByteArray> names = encodings.toLower().split(',');
+    return std::all_of(names.cbegin(), names.cend(),
+                       [](const QByteArray& name) { return kKnown.contains(name.trimmed()); });
+}
+
 } // namespace
 
 CurlTransfer::CurlTransfer(const HTTPRequest& request, const CurlTransferSettings& settings)
@@ -36,11 +46,17 @@ CurlTransfer::CurlTransfer(const HTTPRequest& request, const CurlTransferSetting
     , m_easy(curl_easy_init()) {}
 
 TransferResult CurlTransfer::run(CURLM* multi, const std::atomic<bool>& cancelled) {
-    if (!m_easy || multi == nullptr || !prepare() || curl_multi_add_handle(multi, m_easy.get()) != CURLM_OK) {
+    if (!m_easy || multi == nullptr || !prepare()) {
         return result(Outcome::Broken);
     }
-    const Outcome outcome = drive(multi, cancelled);
-    curl_multi_remove_handle(multi, m_easy.get());
+    Outcome outcome = drive(multi, cancelled);
+    if (outcome == Outcome::Done && m_code == CURLE_BAD_CONTENT_ENCODING && m_request.method == "GET" &&
+        !areKnownEncodings(m_response.header("Content-Encoding").value_or("none"))) {
+        // The library gives up on an encoding that it does not know. Often it only says what the file is: an
+        // xz file, say. So the body is asked for once more, to be taken as it comes.
+        curl_easy_setopt(m_easy.get(), CURLOPT_HTTP_CONTENT_DECODING, 0L);
+        outcome = drive(multi, cancelled);
+    }
     return result(outcome);
 }
 
@@ -115,6 +131,15 @@ void CurlTransfer::prepareMethod() {
 }
 
 CurlTransfer::Outcome CurlTransfer::drive(CURLM* multi, const std::atomic<bool>& cancelled) {
+    if (curl_multi_add_handle(multi, m_easy.get()) != CURLM_OK) {
+        return Outcome::Broken;
+    }
+    const Outcome outcome = awaitEnd(multi, cancelled);
+    curl_multi_remove_handle(multi, m_easy.get());
+    return outcome;
+}
+
+CurlTransfer::Outcome CurlTransfer::awaitEnd(CURLM* multi, const std::atomic<bool>& cancelled) {
     const SteadyTime start = std::chrono::steady_clock::now();
     m_lastActivity = start;
     for (;;) {

@@ -37,6 +37,7 @@ class CurlTransfer {
     bool prepareHeaders();
     void prepareMethod();
     Outcome drive(CURLM* multi, const std::atomic<bool>& cancelled);
+    Outcome awaitEnd(CURLM* multi, const std::atomic<bool>& cancelled);
     bool isDone(CURLM* multi);
     TransferResult result(Outcome outcome);
     QString describe(Outcome outcome) const;
