@@ -136,10 +136,5 @@ TEST_F(PageFetcherServerTest, GoodPagesAreKeptAndOthersAreNot) {
     EXPECT_EQ(fetch(server.url(u"/bad"_s)).page, "page");
 }
 
-TEST_F(PageFetcherServerTest, NoServerAtAll) {
-    EXPECT_EQ(fetch(QUrl(u"http://127.0.0.1:1/"_s)).reason, PageReason::Transfer);
-    EXPECT_EQ(alerts, 2);
-}
-
 } // namespace
 } // namespace guide
