@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::uint32_t kXzPreset = 6;
 constexpr uInt kChunk = 1U << 20;
-constexpr std::uint64_t kXzBlock = std::uint64_t(16) << 20;
+constexpr std::uint64_t kXzBlock = std::uint64_t(1) << 20;
 
 const Bytef* zBytes(const QByteArray& bytes) {
     return reinterpret_cast<const Bytef*>(bytes.constData());
