@@ -122,8 +122,8 @@ class UpdateCycle::Check {
             condition.loading = channel->loading();
             condition.reloadNeeded = reloadNeeded(*channel);
             const ChannelDecision decision = decideChannel(condition, showCount());
-            if (decision.unload) {
-                channel->unload();
+            if (decision.requireReload) {
+                channel->requireReload();
             }
             const auto row = m_with.channelData->find(id);
             if (!decision.plan || row == m_with.channelData->end()) {

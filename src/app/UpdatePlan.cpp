@@ -18,8 +18,8 @@ constexpr unsigned kMostSources = 7;
 
 ChannelDecision decideChannel(const ChannelCondition& condition, unsigned wantedShows) {
     ChannelDecision decision;
-    decision.unload = condition.showCount.value_or(0) < wantedShows;
-    const bool due = !condition.loading && (decision.unload || condition.reloadNeeded);
+    decision.requireReload = condition.showCount.value_or(0) < wantedShows;
+    const bool due = !condition.loading && (decision.requireReload || condition.reloadNeeded);
     decision.plan = due || !condition.showCount;
     return decision;
 }

@@ -30,7 +30,7 @@ struct ChannelCondition {
 
 struct ChannelDecision {
     /// The list runs short: it is to be loaded again, whatever its age.
-    bool unload = false;
+    bool requireReload = false;
     /// URLs are to be planned for the channel.
     bool plan = false;
 };

@@ -32,7 +32,7 @@ void TVChannel::setLoading(bool loading) {
 
 std::optional<Moment> TVChannel::timeLoaded() const {
     const std::lock_guard lock(m_guard);
-    if (!m_timeLoadedCache) {
+    if (!m_timeLoadedCache && !m_reloadRequired) {
         m_timeLoadedCache = fileModificationDate(m_listingsPath);
     }
     return m_timeLoadedCache;
@@ -41,6 +41,13 @@ std::optional<Moment> TVChannel::timeLoaded() const {
 void TVChannel::setTimeLoaded(std::optional<Moment> timeLoaded) {
     const std::lock_guard lock(m_guard);
     m_timeLoadedCache = timeLoaded;
+    m_reloadRequired = false;
+}
+
+void TVChannel::requireReload() {
+    const std::lock_guard lock(m_guard);
+    m_timeLoadedCache.reset();
+    m_reloadRequired = true;
 }
 
 void TVChannel::unload() {

@@ -30,11 +30,16 @@ class TVChannel {
     void setLoading(bool loading);
 
     /// When the channel's list was last stored: remembered, or else the modification date of its listing
-    /// file. Nothing when there is no such file.
+    /// file. Nothing when there is no such file, or while a reload is required.
     std::optional<Moment> timeLoaded() const;
     void setTimeLoaded(std::optional<Moment> timeLoaded);
 
-    /// Forgets the load time and deletes the listing file, which makes the channel due.
+    /// Makes the channel due, whatever the age of its list, until a load time is set. The listing file stays
+    /// until another list replaces it: a reload may bring nothing.
+    void requireReload();
+
+    /// Forgets the load time and deletes the listing file, which makes the channel due. For a file that holds
+    /// nothing any more.
     void unload();
 
     /// Whether the list is missing or older than the interval. A list exactly as old as the interval is not
@@ -51,6 +56,7 @@ class TVChannel {
 
     mutable std::mutex m_guard;
     mutable std::optional<Moment> m_timeLoadedCache;
+    bool m_reloadRequired = false;
     bool m_loading = false;
 };
 

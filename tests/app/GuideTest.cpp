@@ -90,6 +90,30 @@ TEST(Guide, KeepsItsListsWhateverTheServerDoes) {
     }
 }
 
+TEST(Guide, AFailedReloadTakesNothingFromTheNextStart) {
+    GuideWorld world;
+    world.serve(u"first"_s, 1, world.feed(u"Last"_s, 2));
+    world.serve(u"second"_s, 1, world.feed(u"Many"_s, 12));
+    world.start();
+    world.guide->applicationDidBecomeActive();
+    ASSERT_TRUE(world.check());
+    world.end();
+
+    // The first list runs short, the second is to be loaded anew, and nobody has either of them.
+    world.server->misbehaveEverywhere({Misbehaviour::Kind::Status, 503});
+    world.start();
+    world.guide->channels().channelWithChannelId(GuideWorld::channel(u"second"_s))->requireReload();
+    world.server->forgetRequests();
+    ASSERT_TRUE(world.check());
+    EXPECT_EQ(world.server->requestCount(GuideWorld::feedPath(u"first"_s, 2)), 2);
+    EXPECT_EQ(world.server->requestCount(GuideWorld::feedPath(u"second"_s, 2)), 2);
+    world.end();
+
+    world.start();
+    EXPECT_EQ(world.titles(u"first"_s), (QStringList{u"Last 0"_s, u"Last 1"_s}));
+    EXPECT_EQ(world.titles(u"second"_s).size(), 12);
+}
+
 TEST(Guide, TellsOnceAMinuteThatNoServerAnswers) {
     GuideWorld world;
     world.start();

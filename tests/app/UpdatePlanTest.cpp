@@ -17,7 +17,7 @@ TEST(UpdatePlanTest, DecidesWhatIsDue) {
     struct Row {
         const char* name;
         ChannelCondition condition;
-        bool unload;
+        bool requireReload;
         bool plan;
     };
     const Row rows[] = {
@@ -33,7 +33,7 @@ TEST(UpdatePlanTest, DecidesWhatIsDue) {
     };
     for (const Row& row : rows) {
         const ChannelDecision decision = decideChannel(row.condition, 4);
-        EXPECT_EQ(decision.unload, row.unload) << row.name;
+        EXPECT_EQ(decision.requireReload, row.requireReload) << row.name;
         EXPECT_EQ(decision.plan, row.plan) << row.name;
     }
 }

@@ -2,6 +2,7 @@
 
 #include "app/AbsentParts.h"
 #include "app/UpdateCycle.h"
+#include "core/ListingsFile.h"
 #include "core/TVStationIcons.h"
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeBackgroundTasks.h"
@@ -51,6 +52,10 @@ class UpdateWorld {
         ObjectId::Bytes bytes{};
         bytes.back() = number;
         return ObjectId(bytes);
+    }
+
+    QString listingsFile(unsigned char number) const {
+        return folders.caches + u'/' + listingsFileFromChannelIdentificator(channel(number));
     }
 
     void answer(const QString& url, const QByteArray& page) {

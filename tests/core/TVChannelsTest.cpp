@@ -156,6 +156,12 @@ TEST_F(TVChannelsTest, AChannelIsDueByItsAge) {
     ASSERT_TRUE(QFile::remove(file));
     EXPECT_FALSE(channel.reloadNeeded(now, 24h)) << "the date is remembered";
     ASSERT_TRUE(replaceFile(file, "list", now));
+    channel.requireReload();
+    EXPECT_TRUE(QFile::exists(file));
+    EXPECT_TRUE(channel.reloadNeeded(now, 24h)) << "the date of the file does not count";
+    EXPECT_FALSE(channel.timeLoaded());
+    channel.setTimeLoaded(now);
+    EXPECT_FALSE(channel.reloadNeeded(now, 24h));
     channel.unload();
     EXPECT_FALSE(QFile::exists(file));
     EXPECT_TRUE(channel.reloadNeeded(now, 24h));

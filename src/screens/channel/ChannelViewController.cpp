@@ -119,7 +119,7 @@ void ChannelViewController::reloadTable() {
 void ChannelViewController::refresh() {
     refreshActive();
     if (const auto record = m_environment->channels.channelWithChannelId(m_channel)) {
-        record->unload();
+        record->requireReload();
         m_environment->app.checkAndUpdateAllChannels();
     }
 }
