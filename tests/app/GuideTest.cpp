@@ -136,6 +136,17 @@ TEST(Guide, TellsOnceAMinuteThatNoServerAnswers) {
     EXPECT_NE(tabs.presentedAlert(), nullptr);
 }
 
+TEST(Guide, EndsAtOnceWhileAScreenHoldsALoadBack) {
+    GuideWorld world;
+    world.start();
+    world.guide->applicationDidBecomeActive();
+    // The screen's answer lies on the main queue, which runs no more.
+    world.waitForCheck();
+    const auto begun = std::chrono::steady_clock::now();
+    world.end();
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, 5s);
+}
+
 TEST(Guide, ForgetsAChannelThatTheCatalogueHasLost) {
     GuideWorld world;
     world.start();

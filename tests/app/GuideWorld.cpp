@@ -5,6 +5,7 @@
 #include <QImage>
 
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace guide {
 
@@ -155,6 +156,12 @@ bool GuideWorld::runUntil(const std::function<bool()>& condition) {
             return false;
         }
         m_awake = false;
+    }
+}
+
+void GuideWorld::waitForCheck() const {
+    while (m_tasks->begun() == 0) {
+        std::this_thread::yield();
     }
 }
 

@@ -75,6 +75,8 @@ class GuideWorld {
     bool runUntil(const std::function<bool()>& condition);
     /// Runs a check, and what it hands to the main queue, to its end.
     bool check();
+    /// Waits until a check has begun, without running the main queue.
+    void waitForCheck() const;
     /// The titles that the store has of a channel now.
     QStringList titles(const QString& key);
 

@@ -74,18 +74,18 @@ void RootViewController::selectedChannelsChanged() {
     if (!viewLoaded()) {
         return;
     }
-    // No list is read in until the sections stand, so that none can meet half of them. The block holds the
-    // token: however it ends, the queue goes on.
-    auto suspension = std::make_shared<SuspensionToken>(m_environment->loadQueue.suspend());
+    // No list is read in until the sections stand, so that none can meet half of them. The token is the
+    // screen's: an answer that is still under way when the screen goes must not hold the queue.
     const std::uint64_t asked = ++m_asked;
+    m_suspensions.emplace(asked, m_environment->loadQueue.suspend());
     m_environment->listings.onAirShows(
-        {weak_from_this(), [this, asked, suspension](const std::vector<ObjectId>& selected,
-                                                     const std::vector<ShowSpan>& entries) {
+        {weak_from_this(),
+         [this, asked](const std::vector<ObjectId>& selected, const std::vector<ShowSpan>& entries) {
              if (asked > m_shown) {
                  m_shown = asked;
                  setChannels(selected, entries);
              }
-             suspension->release();
+             m_suspensions.erase(asked);
          }});
 }
 

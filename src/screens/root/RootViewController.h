@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/DispatchQueue.h"
 #include "screens/shell/ListingsScreen.h"
 #include "screens/shell/ScreenEnvironment.h"
 
@@ -93,6 +94,8 @@ class RootViewController final : public ListingsScreen {
     /// Counts the queries, so that a late answer does not replace a newer one.
     std::uint64_t m_asked = 0;
     std::uint64_t m_shown = 0;
+    /// Of the queries that have no answer yet: hold the load queue.
+    std::unordered_map<std::uint64_t, SuspensionToken> m_suspensions;
 };
 
 } // namespace guide
