@@ -112,6 +112,8 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
         .hosts = m_environment.hosts,
         .merge = [this](const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
                         unsigned type) { return m_listings->merge(items, std::move(parsed), now, type); },
+        .locale = m_environment.device.locale(),
+        .timeZone = [this] { return m_environment.device.timeZone(); },
     });
     m_updateCycle = std::make_unique<UpdateCycle>(UpdateCycleEnvironment{
         .clock = m_environment.clock,

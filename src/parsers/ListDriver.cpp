@@ -39,7 +39,8 @@ MergeResult ListDriver::netList(const std::vector<LoadItem>& items, const std::v
 }
 
 ParsedLists ListDriver::read(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
-                             Moment now, unsigned type) const {
+                             Moment now, unsigned type, MarkerTrace* trace) const {
+    MarkerTrace unasked;
     ParsedLists lists;
     const auto entry = std::find_if(kReaders.begin(), kReaders.end(),
                                     [type](const TypeReader& candidate) { return candidate.type == type; });
@@ -53,7 +54,9 @@ ParsedLists ListDriver::read(const std::vector<LoadItem>& items, const std::vect
     lists.reserve(items.size());
     try {
         entry->reader({items, pages, now, m_environment.clock, m_environment.alphabet, m_environment.hosts,
-                       m_environment.locale},
+                       m_environment.locale,
+                       m_environment.timeZone ? m_environment.timeZone() : QTimeZone::systemTimeZone(),
+                       trace ? *trace : unasked},
                       lists);
     } catch (const std::exception& exception) {
         qCWarning(parsersLog, "exception %s", exception.what());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "parsers/MarkerWalk.h"
 #include "platform/Clock.h"
 #include "platform/Moment.h"
 #include "sources/SourceHostTable.h"
@@ -9,6 +10,7 @@
 
 #include <QByteArray>
 #include <QLocale>
+#include <QTimeZone>
 
 #include <functional>
 #include <vector>
@@ -26,6 +28,8 @@ struct ListDriverEnvironment {
         merge;
     /// The device's.
     QLocale locale = {};
+    /// The device's, asked at each call. Empty is the system's.
+    std::function<QTimeZone()> timeZone = {};
 };
 
 /// The one door through which fetched pages become shows. Keeps nothing between two calls.
@@ -39,9 +43,10 @@ class ListDriver {
     MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
                         unsigned type) const;
 
-    /// The reading alone: what netList hands to the merge.
+    /// The reading alone: what netList hands to the merge. `trace`, where there is one, learns what the
+    /// reader looked for in vain.
     ParsedLists read(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
-                     unsigned type) const;
+                     unsigned type, MarkerTrace* trace = nullptr) const;
 
   private:
     ListDriverEnvironment m_environment;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "parsers/MarkerWalk.h"
 #include "platform/Clock.h"
 #include "platform/Moment.h"
 #include "sources/SourceHostTable.h"
@@ -8,6 +9,7 @@
 
 #include <QByteArray>
 #include <QLocale>
+#include <QTimeZone>
 
 #include <vector>
 
@@ -26,6 +28,9 @@ struct ListReaderInput {
     const SourceHostTable& hosts;
     /// The device's.
     QLocale locale;
+    QTimeZone deviceZone;
+    /// Told of what is looked for in vain.
+    MarkerTrace& trace;
 };
 
 /// Adds the shows that the pages hold to the lists of the items' channels, in the order of reading. What it

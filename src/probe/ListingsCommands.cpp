@@ -54,7 +54,13 @@ MergeResult readPages(const Context& context, const std::vector<LoadItem>& items
                       const std::vector<QByteArray>& pages, unsigned type) {
     const StandingClock clock(context.now);
     const Alphabet alphabet;
-    return ListDriver({clock, alphabet, context.hosts, merged}).netList(items, pages, context.now, type);
+    const ListDriver driver({.clock = clock,
+                             .alphabet = alphabet,
+                             .hosts = context.hosts,
+                             .merge = merged,
+                             .locale = context.device.locale(),
+                             .timeZone = [&context] { return context.device.timeZone(); }});
+    return driver.netList(items, pages, context.now, type);
 }
 
 /// CHANNEL,SOURCE_ID,LANGUAGE: the source id may hold commas.
