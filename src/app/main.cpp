@@ -231,6 +231,8 @@ int run(LaunchOptions options) {
     }
     const int status = QGuiApplication::exec();
 
+    // Whoever is started from here on is the next guide, not a request to this one.
+    instance.stopListening();
     if (state.setVisible(false)) {
         delegate.applicationDidEnterBackground();
     }

@@ -55,6 +55,8 @@ TEST_F(InstanceLockTest, TheNextOneIsFirstWhenTheFirstHasGone) {
     start().reset();
     std::unique_ptr<InstanceLock> ending = start();
     ASSERT_EQ(ending->outcome(), Outcome::First);
+    ending->listen(queue, [](const QByteArray&) { ADD_FAILURE() << "taken by one that is ending"; });
+    ending->stopListening();
     std::future<Outcome> next = std::async(std::launch::async, [this] { return start()->outcome(); });
     std::this_thread::sleep_for(30ms);
     ending.reset();

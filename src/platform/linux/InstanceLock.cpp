@@ -65,13 +65,19 @@ InstanceLock::InstanceLock(const QString& lockFolder, const QString& socketFolde
 }
 
 InstanceLock::~InstanceLock() {
+    stopListening();
+}
+
+void InstanceLock::stopListening() {
     if (m_listener) {
         m_listener->ended.store(true);
         ::eventfd_write(m_stop.get(), 1);
         m_thread.join();
+        m_listener.reset();
     }
     if (m_socket) {
         ::unlink(m_socketPath.constData());
+        m_socket = FileDescriptor();
     }
 }
 

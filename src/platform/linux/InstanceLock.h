@@ -44,6 +44,10 @@ class InstanceLock {
     /// more, if the end comes on that queue.
     void listen(std::shared_ptr<DispatchQueue> queue, RequestHandler handler);
 
+    /// For the first one that is about to end: takes no request any more. Who comes now waits for the end,
+    /// and is the first one then. On the queue of the requests.
+    void stopListening();
+
   private:
     struct Listener;
 
