@@ -99,7 +99,15 @@ bool GuideWindow::loaded() const {
 
 void GuideWindow::show() {
     m_parts->tabBarController().makeVisible();
-    m_parts->show();
+    if (!m_parts->isVisible()) {
+        m_parts->show();
+        return;
+    }
+    if (m_parts->visibility() == QWindow::Minimized) {
+        m_parts->showNormal();
+    }
+    m_parts->raise();
+    m_parts->requestActivate();
 }
 
 bool GuideWindow::visible() const {

@@ -39,6 +39,7 @@ class GuideWindow {
 
     /// False when the drawing could not be loaded; the reasons stand in the log.
     bool loaded() const;
+    /// Also brings a window that is there already before the others.
     void show();
     bool visible() const;
 

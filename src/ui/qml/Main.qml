@@ -15,61 +15,72 @@ FocusScope {
         color: Theme.background
     }
 
-    Item {
-        id: pages
+    FocusScope {
+        id: content
 
-        anchors {
-            left: main.shell.tablet ? rail.right : parent.left
-            right: parent.right
-            top: parent.top
-            bottom: main.shell.tablet ? parent.bottom : bar.top
-        }
+        anchors.fill: parent
+        focus: true
+        // An alert comes first: nothing behind it answers.
+        enabled: !main.shell.alertShown
+        onEnabledChanged: if (enabled)
+            forceActiveFocus()
 
-        Repeater {
-            model: main.shell
+        Item {
+            id: pages
 
-            Loader {
-                id: tab
+            anchors {
+                left: main.shell.tablet ? rail.right : parent.left
+                right: parent.right
+                top: parent.top
+                bottom: main.shell.tablet ? parent.bottom : bar.top
+            }
 
-                required property int index
-                required property PageStack stack
-                readonly property bool current: index === main.shell.selectedIndex
+            Repeater {
+                model: main.shell
 
-                anchors.fill: parent
-                active: current || item !== null
-                visible: current
-                focus: current
+                Loader {
+                    id: tab
 
-                sourceComponent: TabPages {
-                    stack: tab.stack
-                    focus: true
+                    required property int index
+                    required property PageStack stack
+                    readonly property bool current: index === main.shell.selectedIndex
+
+                    anchors.fill: parent
+                    active: current || item !== null
+                    visible: current
+                    focus: current
+
+                    sourceComponent: TabPages {
+                        stack: tab.stack
+                        focus: true
+                    }
                 }
             }
         }
-    }
 
-    TabBar {
-        id: bar
+        TabBar {
+            id: bar
 
-        anchors {
-            left: parent.left
-            right: parent.right
-            bottom: parent.bottom
+            anchors {
+                left: parent.left
+                right: parent.right
+                bottom: parent.bottom
+            }
+            visible: !main.shell.tablet
+            shell: main.shell
         }
-        visible: !main.shell.tablet
-        shell: main.shell
-    }
 
-    TabRail {
-        id: rail
+        TabRail {
+            id: rail
 
-        anchors {
-            left: parent.left
-            top: parent.top
-            bottom: parent.bottom
+            anchors {
+                left: parent.left
+                top: parent.top
+                bottom: parent.bottom
+            }
+            visible: main.shell.tablet
+            shell: main.shell
         }
-        visible: main.shell.tablet
-        shell: main.shell
     }
 
     AlertPanel {

@@ -38,6 +38,11 @@ Item {
         z: 1
     }
 
+    HoverHandler {
+        enabled: surface.selectable
+        cursorShape: Qt.PointingHandCursor
+    }
+
     TapHandler {
         id: tap
 

@@ -30,7 +30,7 @@ Rectangle {
 
                 width: row.width / Math.max(1, tabs.count)
                 text: title
-                enabled: tabEnabled
+                available: tabEnabled
                 current: index === bar.shell.selectedIndex
                 onClicked: bar.shell.tapTab(index)
             }

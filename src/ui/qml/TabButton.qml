@@ -9,9 +9,11 @@ T.AbstractButton {
     required property int symbol
     required property string badge
     required property bool current
+    required property bool available
 
     focusPolicy: Qt.TabFocus
-    opacity: enabled ? 1 : 0.38
+    opacity: available ? 1 : 0.38
+    enabled: available
     topPadding: 8
     bottomPadding: 8
     implicitHeight: implicitContentHeight + topPadding + bottomPadding

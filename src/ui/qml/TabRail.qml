@@ -27,7 +27,7 @@ Rectangle {
 
                 width: rail.width
                 text: title
-                enabled: tabEnabled
+                available: tabEnabled
                 current: index === rail.shell.selectedIndex
                 onClicked: rail.shell.tapTab(index)
             }

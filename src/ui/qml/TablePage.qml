@@ -8,6 +8,8 @@ FocusScope {
 
     required property Page page
 
+    focus: true
+
     readonly property int columnWidth: Math.min(width, 720)
 
     // Where the column does not fill the window, its bands are rounded.
@@ -103,6 +105,12 @@ FocusScope {
 
             C.ScrollBar.vertical: C.ScrollBar {
                 policy: C.ScrollBar.AsNeeded
+                contentItem: Rectangle {
+                    implicitWidth: 4
+                    radius: 2
+                    color: Theme.secondaryLabel
+                    opacity: parent.active ? 0.6 : 0
+                }
             }
 
             PullIndicator {
