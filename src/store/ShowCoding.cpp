@@ -193,6 +193,7 @@ std::optional<ShowItems> unarchivedShows(QByteArrayView archive, const Alphabet&
     ShowDecoder decoder(unarchiver, alphabet);
     ShowItems shows;
     const std::size_t count = unarchiver.array();
+    shows.reserve(count);
     for (std::size_t i = 0; i < count && !unarchiver.failed(); ++i) {
         if (std::optional<ShowItem> show = decoder.decode()) {
             shows.push_back(*std::move(show));

@@ -73,11 +73,16 @@ void TVEntry::setUrl(const std::optional<QUrl>& url) {
 }
 
 void TVEntry::derive(std::optional<QString> Texts::* text) {
+    static const QString kNoLanguage;
     forgetDerived();
-    std::optional<QString> shown =
-        latin2Cyrillic(m_source.*text, m_language.value_or(QString()), *m_alphabet);
+    const std::optional<QString>& source = m_source.*text;
+    std::optional<QString> shown;
+    if (source) {
+        shown = latin2Cyrillic(*source, m_language ? *m_language : kNoLanguage, *m_alphabet);
+    }
     if (!m_display) {
-        if (shown == m_source.*text) {
+        // A text that is not converted comes back as the very one.
+        if (!source || shown->constData() == source->constData() || *shown == *source) {
             return;
         }
         m_display = std::make_unique<Texts>(m_source);
