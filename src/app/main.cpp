@@ -1,6 +1,7 @@
 // quellin-guide: puts the program together for Linux.
 
 #include "app/CommandLine.h"
+#include "app/MemoryWarning.h"
 #include "app/PictureTour.h"
 #include "app/QuellinGuideAppDelegate.h"
 #include "app/SignificantTime.h"
@@ -43,7 +44,7 @@ namespace {
 
 constexpr std::chrono::seconds kTimeToEnd{10};
 constexpr std::size_t kMostResponseCache = std::size_t(256) << 20;
-constexpr int kLookAtClocksEvery = 20'000;
+constexpr int kLookAtDeviceEvery = 20'000;
 constexpr auto kScheme = "quellin-guide"_L1;
 
 /// Whether the window is to be seen, as the screens and the store ask on any thread.
@@ -71,6 +72,12 @@ SignificantTime::Look lookAtClocks(const Clock& clock, const Device& device) {
     const QTimeZone zone = device.timeZone();
     return {now, QDateTime::fromMSecsSinceEpoch(now.time_since_epoch().count(), zone).date(), zone.id(),
             reading(CLOCK_BOOTTIME), reading(CLOCK_MONOTONIC)};
+}
+
+/// What the kernel says of the machine's memory; nothing where there is no such file.
+QByteArray memoryInformation() {
+    QFile file(u"/proc/meminfo"_s);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// The host table: that of the option, or the installed one. Nothing when the option's cannot be read.
@@ -211,14 +218,19 @@ int run(LaunchOptions options) {
                     [&](const QByteArray&) { window->show(); });
 
     SignificantTime time(lookAtClocks(clock, device));
-    QTimer clocks;
-    clocks.callOnTimeout([&] {
+    MemoryWarning memory;
+    QTimer looks;
+    looks.callOnTimeout([&] {
+        if (const auto available = availableMemory(memoryInformation());
+            available && memory.due(*available)) {
+            delegate.applicationDidReceiveMemoryWarning();
+        }
         if (time.changed(lookAtClocks(clock, device)) &&
             state.applicationState() == ApplicationState::Active) {
             delegate.applicationSignificantTimeChange();
         }
     });
-    clocks.start(kLookAtClocksEvery);
+    looks.start(kLookAtDeviceEvery);
     const TerminationSignals signals([] { QCoreApplication::quit(); });
 
     std::optional<PictureTour> tour;

@@ -1,4 +1,5 @@
 #include "app/GuideWorld.h"
+#include "core/ListingsFile.h"
 
 #include <QDir>
 
@@ -112,6 +113,20 @@ TEST(Guide, AFailedReloadTakesNothingFromTheNextStart) {
     world.start();
     EXPECT_EQ(world.titles(u"first"_s), (QStringList{u"Last 0"_s, u"Last 1"_s}));
     EXPECT_EQ(world.titles(u"second"_s).size(), 12);
+}
+
+TEST(Guide, WritesItsListsWhenMemoryIsShort) {
+    GuideWorld world;
+    world.serve(u"first"_s, 1, world.feed(u"Morning"_s, 6));
+    world.start();
+    world.guide->applicationDidBecomeActive();
+    ASSERT_TRUE(world.check());
+    const QString file =
+        world.folders.caches + u'/' + listingsFileFromChannelIdentificator(GuideWorld::channel(u"first"_s));
+    EXPECT_FALSE(QFile::exists(file));
+    world.guide->applicationDidReceiveMemoryWarning();
+    EXPECT_TRUE(world.runUntil([&] { return QFile::exists(file); }));
+    EXPECT_EQ(world.titles(u"first"_s).size(), 6);
 }
 
 TEST(Guide, TellsOnceAMinuteThatNoServerAnswers) {
