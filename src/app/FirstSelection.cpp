@@ -31,7 +31,7 @@ std::optional<std::vector<ObjectId>> selectionFromFile(const QString& path) {
         return std::nullopt;
     }
     std::vector<ObjectId> selected;
-    for (const QJsonValue& value : document.array()) {
+    for (const QJsonValue value : document.array()) {
         const QString hex = value.toString();
         if (!isIdentity(hex)) {
             qWarning("The selection %s names a channel by something else than 24 hexadecimal digits: \"%s\"",

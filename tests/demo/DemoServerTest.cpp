@@ -87,6 +87,7 @@ TEST_F(DemoServerTest, AnswersManyClientsAtOnce) {
         });
     }
     std::vector<std::thread> clients;
+    clients.reserve(12);
     std::atomic<int> good = 0;
     for (int client = 0; client < 12; ++client) {
         clients.emplace_back([this, client, &good] {

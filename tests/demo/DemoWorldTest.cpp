@@ -146,7 +146,7 @@ TEST_F(DemoWorldTest, SelectsTwelveOfItsChannelsEachWithAnIcon) {
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QJsonArray selection = QJsonDocument::fromJson(file.readAll()).array();
     QSet<QString> selected;
-    for (const QJsonValue& id : selection) {
+    for (const QJsonValue id : selection) {
         EXPECT_TRUE(known.contains(id.toString()));
         selected.insert(id.toString());
     }

@@ -16,6 +16,7 @@ Moment hour(int hours) {
 
 std::vector<ExtendedTVEntry> parsed(const std::vector<TestShow>& shows) {
     std::vector<ExtendedTVEntry> result;
+    result.reserve(shows.size());
     for (const TestShow& show : shows) {
         result.push_back(extended(show));
     }

@@ -156,6 +156,7 @@ TEST(TVEntryTest, DerivedValuesAreOneForAllThreads) {
         const TVEntry& shared = *entry;
         std::vector<QUrl> urls(4);
         std::vector<std::thread> threads;
+        threads.reserve(urls.size());
         for (std::size_t i = 0; i < urls.size(); ++i) {
             threads.emplace_back([&shared, &url = urls[i], i] {
                 url = *shared.urlDigestWithScheme(QString(QChar(u'a' + static_cast<char16_t>(i))));

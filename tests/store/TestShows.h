@@ -50,6 +50,7 @@ inline ShowItem item(const TestShow& show) {
 template <class Shows>
 std::vector<std::string> titles(const Shows& shows) {
     std::vector<std::string> result;
+    result.reserve(shows.size());
     for (const ShowItem& show : shows) {
         result.push_back(show.entry()->identificator().value_or(QString()).toStdString());
     }

@@ -25,11 +25,11 @@ void collectWarnings(QtMsgType type, const QMessageLogContext& context, const QS
 
 class GuideWindowTest : public testing::TestWithParam<UserInterfaceIdiom> {
   protected:
-    GuideWindowTest() {
+    void SetUp() override {
         warnings = &m_warnings;
         m_outerHandler = qInstallMessageHandler(collectWarnings);
     }
-    ~GuideWindowTest() override {
+    void TearDown() override {
         window.reset();
         qInstallMessageHandler(m_outerHandler);
         warnings = nullptr;
