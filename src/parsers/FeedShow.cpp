@@ -175,8 +175,7 @@ const FeedShowMaker::TitleParts& FeedShowMaker::titleParts(std::string_view titl
     parts.instantDescription = showInstantDescription(parts.title);
     parts.isRepeated = isRepeatMarked(parts.title);
     parts.hasProductionNote = hasProductionNote(parts.title);
-    if (parts.title.contains("Sezonul"_L1) || parts.title.contains("Episodul"_L1) ||
-        parts.hasProductionNote) {
+    if (parts.title.contains("Sezonul"_L1) || parts.title.contains("Episodul"_L1)) {
         parts.categories |= TVListingsCategorySeries;
     }
     if (parts.instantDescription) {
