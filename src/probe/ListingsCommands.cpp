@@ -37,19 +37,6 @@ class StandingClock final : public Clock {
     Moment m_now;
 };
 
-/// What the merge would store of the lists that a reader made.
-MergeResult merged(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, unsigned type) {
-    MergeResult result;
-    for (const LoadItem& item : items) {
-        MergedList list = mergedList(std::move(parsed[item.channel]), item.language, now, type);
-        if (list.list) {
-            result.lists[item.channel] = list.list;
-        }
-        result.outcomes[item.channel] = list.outcome;
-    }
-    return result;
-}
-
 MergeResult readPages(const Context& context, const std::vector<LoadItem>& items,
                       const std::vector<QByteArray>& pages, unsigned type) {
     const StandingClock clock(context.now);
@@ -57,7 +44,7 @@ MergeResult readPages(const Context& context, const std::vector<LoadItem>& items
     const ListDriver driver({.clock = clock,
                              .alphabet = alphabet,
                              .hosts = context.hosts,
-                             .merge = merged,
+                             .merge = mergedLists,
                              .locale = context.device.locale(),
                              .timeZone = [&context] { return context.device.timeZone(); }});
     return driver.netList(items, pages, context.now, type);

@@ -69,4 +69,21 @@ MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& langua
     return {std::make_shared<const ShowItems>(std::move(items)), MergeOutcome::Stored};
 }
 
+MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, unsigned type) {
+    MergeResult result;
+    for (const LoadItem& item : items) {
+        if (result.outcomes.contains(item.channel)) {
+            continue;
+        }
+        auto shows = parsed.extract(item.channel);
+        MergedList merged = mergedList(shows ? std::move(shows.mapped()) : std::vector<ExtendedTVEntry>(),
+                                       item.language, now, type);
+        result.outcomes.emplace(item.channel, merged.outcome);
+        if (merged.list) {
+            result.lists.emplace(item.channel, std::move(merged.list));
+        }
+    }
+    return result;
+}
+
 } // namespace guide

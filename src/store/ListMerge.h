@@ -35,4 +35,7 @@ struct MergedList {
 MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& language, Moment now,
                       unsigned type);
 
+/// Does so for every load item; of items of one channel the first counts.
+MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, unsigned type);
+
 } // namespace guide

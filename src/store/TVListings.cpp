@@ -172,21 +172,11 @@ TVListings::~TVListings() = default;
 
 MergeResult TVListings::merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
                               unsigned type) {
-    MergeResult result;
+    MergeResult result = mergedLists(items, std::move(parsed), now, type);
     ChannelLists made;
-    for (const LoadItem& item : items) {
-        if (result.outcomes.contains(item.channel)) {
-            continue;
-        }
-        auto shows = parsed.extract(item.channel);
-        MergedList merged = mergedList(shows ? std::move(shows.mapped()) : std::vector<ExtendedTVEntry>(),
-                                       item.language, now, type);
-        result.outcomes.emplace(item.channel, merged.outcome);
-        if (merged.list) {
-            made.emplace(item.channel, std::make_shared<const ChannelList>(merged.list));
-            result.lists.emplace(item.channel, std::move(merged.list));
-            m_state->setTimeLoaded(item.channel);
-        }
+    for (const auto& [channel, list] : result.lists) {
+        made.emplace(channel, std::make_shared<const ChannelList>(list));
+        m_state->setTimeLoaded(channel);
     }
     if (made.empty()) {
         return result;

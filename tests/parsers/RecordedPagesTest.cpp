@@ -33,17 +33,6 @@ LoadItem loadItem(const QString& text) {
             text.sliced(last + 1)};
 }
 
-MergeResult merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, unsigned type) {
-    MergeResult result;
-    for (const LoadItem& item : items) {
-        MergedList merged = mergedList(std::move(parsed[item.channel]), item.language, now, type);
-        if (merged.list) {
-            result.lists[item.channel] = std::move(merged.list);
-        }
-    }
-    return result;
-}
-
 SourceHostTable recordedHosts() {
     const auto hosts = SourceHostTable::fromFile(QStringLiteral(QUELLIN_TEST_DATA "/recorded/hosts.json"));
     EXPECT_TRUE(hosts);
@@ -80,7 +69,7 @@ struct RecordedCall {
         const ListDriver driver({.clock = clock,
                                  .alphabet = alphabet,
                                  .hosts = hosts,
-                                 .merge = merge,
+                                 .merge = mergedLists,
                                  .locale = QLocale(QLocale::Czech, QLocale::CzechRepublic),
                                  .timeZone = [this] { return zone; }});
         return listsJSON(
