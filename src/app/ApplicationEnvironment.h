@@ -44,8 +44,9 @@ struct ApplicationEnvironment {
 
     SourceHostTable hosts;
     RandomIndex random;
-    /// The catalogue's property list, and where its icons are.
+    /// The catalogue's property list, where what the filter leaves of it is kept, and where its icons are.
     QString cataloguePath;
+    QString catalogueArchivePath;
     QString iconFolder;
     /// A selection for a profile that has none yet.
     std::optional<QString> firstSelectionPath;

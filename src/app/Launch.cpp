@@ -69,8 +69,8 @@ void QuellinGuideAppDelegate::makeCatalogue() {
     const auto types =
         SupportedChannelTypes::fromFile(m_environment.folders.bundle + "/supported-channel-types.json"_L1);
     m_channelData = makeChannelData(
-        catalogueChannels(m_environment.cataloguePath, catalogueArchivePath(m_environment.folders.caches),
-                          types, [this](const QString& name) { return !m_icons->iconNamed(name).isNull(); }));
+        catalogueChannels(m_environment.cataloguePath, m_environment.catalogueArchivePath, types,
+                          [this](const QString& name) { return !m_icons->iconNamed(name).isNull(); }));
 }
 
 void QuellinGuideAppDelegate::makeSelection() {

@@ -139,9 +139,10 @@ int run(LaunchOptions options) {
         options.hosts = demo->hostsPath();
         options.select = demo->selectionPath();
     }
+    // A catalogue that was asked for is read whatever its date is, and its archive is none for later starts.
+    const QString archivePath = catalogueArchivePath(options.catalogue ? folders->runtime : folders->caches);
     if (options.catalogue) {
-        // Whatever its date is: it was asked for.
-        QFile::remove(catalogueArchivePath(folders->caches));
+        QFile::remove(archivePath);
     }
     const auto hosts = hostTable(options.hosts, *folders);
     if (!hosts) {
@@ -180,6 +181,7 @@ int run(LaunchOptions options) {
         .hosts = *hosts,
         .random = [](unsigned bound) { return QRandomGenerator::system()->bounded(bound); },
         .cataloguePath = options.catalogue.value_or(folders->bundle + "/Data.plist"_L1),
+        .catalogueArchivePath = archivePath,
         .iconFolder = iconFolder(options.catalogue, *folders),
         .firstSelectionPath = options.select,
         .scheme = kScheme,

@@ -1,5 +1,7 @@
 #include "app/GuideWorld.h"
 
+#include "core/ChannelCatalogue.h"
+
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -119,6 +121,7 @@ void GuideWorld::start() {
         .hosts = SourceHostTable(),
         .random = [](unsigned) { return 0U; },
         .cataloguePath = root + u"/Data.plist"_s,
+        .catalogueArchivePath = catalogueArchivePath(folders.caches),
         .iconFolder = root + u"/icons"_s,
         .firstSelectionPath = root + u"/selection.json"_s,
         .scheme = u"guide"_s,
