@@ -43,7 +43,8 @@ QJsonValue jsonMoment(const std::optional<Moment>& moment) {
 
 std::optional<Moment> momentFromText(const QString& text) {
     const QDateTime moment = QDateTime::fromString(text, Qt::ISODateWithMs);
-    if (!moment.isValid()) {
+    // Without a zone it would be another moment on each device.
+    if (!moment.isValid() || moment.timeSpec() == Qt::LocalTime) {
         return std::nullopt;
     }
     return Moment(std::chrono::milliseconds(moment.toMSecsSinceEpoch()));

@@ -102,6 +102,7 @@ TEST(Probe, TellsUnusableArgumentsFromWhatCannotBeDone) {
         {{u"minutes"_s, u"soon"_s}, 2},
         {{u"text"_s, u"whisper"_s}, 2},
         {{u"type"_s, u"a"_s, u"--zone"_s, u"Nowhere/Else"_s}, 2},
+        {{u"type"_s, u"a"_s, u"--now"_s, u"2026-11-21T10:00:00"_s}, 2},
         {{u"parse"_s, u"--type"_s, u"1"_s, u"--item"_s, u"a,b"_s, u"p"_s}, 2},
         {{u"parse"_s, u"--type"_s, u"1"_s, u"--item"_s, u"a,b,c"_s, u"/nowhere"_s}, 1},
         {{u"type"_s, u"a"_s, u"--hosts"_s, u"/nowhere"_s}, 1},
