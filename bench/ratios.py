@@ -6,10 +6,12 @@ usage: ratios.py FOLDER [FILTER]
 FOLDER holds the benchmark programs (`guide_*_benchmark`). A row is a pair of benchmarks, "ROW/guide" and "ROW/floor";
 the first carries the counter `atMost`, the ratio that it may reach. Medians of CPU time are compared, or of wall time
 where the name says real_time. A benchmark that found its result wrong ends as an error here, whatever its time.
+The other programs (`guide_*_measure`) print a row of their own as one JSON object, with both sides.
 Exits with 1 when a result was wrong, a row has no pair or a ratio is above its bound.
 """
 import json
 import pathlib
+import re
 import subprocess
 import sys
 
@@ -42,6 +44,15 @@ def split(name: str) -> tuple[str, str, str] | None:
     return None
 
 
+def measured_row(program: pathlib.Path) -> tuple[str, dict[str, dict]]:
+    ran = subprocess.run([str(program)], capture_output=True, text=True, check=False)
+    if ran.returncode != 0:
+        sys.exit(f"{program.name} ended with {ran.returncode}:\n{ran.stderr}")
+    row = json.loads(ran.stdout)
+    guide = {"time": row["guide"], "time_unit": row["unit"], "atMost": row["atMost"]}
+    return row["row"], {"guide": guide, "floor": {"time": row["floor"], "time_unit": row["unit"]}}
+
+
 def main() -> int:
     if len(sys.argv) not in (2, 3):
         sys.exit(__doc__)
@@ -62,6 +73,10 @@ def main() -> int:
                 row, side, rest = parts
                 result["time"] = result["real_time" if "real_time" in rest else "cpu_time"]
                 rows.setdefault(row, {})[side] = result
+    for program in sorted(path for path in folder.glob("guide_*_measure") if path.is_file()):
+        if re.search(pattern, program.name):
+            row, sides = measured_row(program)
+            rows[row] = sides
     print(f"{'row':48} {'guide':>14} {'floor':>14} {'ratio':>7} {'at most':>8}")
     for row, sides in rows.items():
         if set(sides) != {"guide", "floor"}:

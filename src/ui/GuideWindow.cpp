@@ -1,5 +1,6 @@
 #include "ui/GuideWindow.h"
 
+#include "ui/FrameLog.h"
 #include "ui/Shell.h"
 #include "ui/Theme.h"
 
@@ -10,6 +11,7 @@
 #include <QQuickView>
 #include <QVariantMap>
 
+#include <algorithm>
 #include <utility>
 
 // Written by the build from the QML module's types.
@@ -24,6 +26,13 @@ namespace {
 constexpr QSize kPhoneSize(390, 844);
 constexpr QSize kTabletSize(1024, 768);
 constexpr QSize kSmallestSize(320, 400);
+
+/// Whether every section of the screen in front has a row behind its head.
+bool isFilled(const TabBarController& tabs) {
+    const auto& sections = tabs.selectedNavigationController().topViewController()->table().sections();
+    return !sections.empty() &&
+           std::ranges::all_of(sections, [](const Section& section) { return section.rows.size() > 1; });
+}
 
 } // namespace
 
@@ -42,6 +51,7 @@ class GuideWindow::Parts : public QQuickView {
         m_theme->setMoves(m_options.motion);
         m_shell = std::make_unique<Shell>(m_tabBarController, m_options.form, *m_theme, nullptr);
 
+        m_frameLog.emplace(*this, [this] { return isFilled(m_tabBarController); });
         setTitle(QCoreApplication::applicationName());
         setResizeMode(QQuickView::SizeRootObjectToView);
         setMinimumSize(kSmallestSize);
@@ -85,6 +95,7 @@ class GuideWindow::Parts : public QQuickView {
     const GuideWindowOptions m_options;
     Theme* m_theme = nullptr;
     std::unique_ptr<Shell> m_shell;
+    std::optional<FrameLog> m_frameLog;
     bool m_toldVisible = false;
 };
 
