@@ -1,5 +1,6 @@
 #include "parsers/ListDriver.h"
 
+#include "parsers/HBOListReader.h"
 #include "parsers/ListReader.h"
 #include "parsers/ParsersLog.h"
 #include "parsers/XMLTVListReader.h"
@@ -23,7 +24,7 @@ constexpr std::array kReaders{
     TypeReader{kListingsPortNetwork, nullptr}, TypeReader{kListingsXMLTV, readXMLTVLists},
     TypeReader{kListingsPalinsesto, nullptr},  TypeReader{kListingsBarrandov, nullptr},
     TypeReader{kListingsDigiSport, nullptr},   TypeReader{kListingsJojCinema, nullptr},
-    TypeReader{kListingsPrimaMax, nullptr},    TypeReader{kListingsHBO, nullptr},
+    TypeReader{kListingsPrimaMax, nullptr},    TypeReader{kListingsHBO, readHBOLists},
     TypeReader{kListingsNova, nullptr},        TypeReader{kListingsDolceSport, nullptr},
     TypeReader{kListingsCinestar, nullptr},    TypeReader{kListingsComedyCentral, nullptr},
 };
@@ -49,6 +50,9 @@ ParsedLists ListDriver::read(const std::vector<LoadItem>& items, const std::vect
     }
     if (!entry->reader) {
         qCInfo(parsersLog, "no reader for listing type %u", type);
+        return lists;
+    }
+    if (items.empty() || pages.empty()) {
         return lists;
     }
     lists.reserve(items.size());

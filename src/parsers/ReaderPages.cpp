@@ -1,0 +1,30 @@
+#include "parsers/ReaderPages.h"
+
+namespace guide {
+
+QByteArray joinedPages(const std::vector<QByteArray>& pages) {
+    if (pages.size() == 1) {
+        return pages.front();
+    }
+    qsizetype size = 0;
+    for (const QByteArray& page : pages) {
+        size += page.size();
+    }
+    QByteArray text;
+    text.reserve(size);
+    for (const QByteArray& page : pages) {
+        text += page;
+    }
+    return text;
+}
+
+std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, const QString& title,
+                                  Moment start) {
+    auto entry = std::make_shared<TVEntry>(input.alphabet);
+    entry->setIdentificator(title);
+    entry->setDateTime(start);
+    entry->setChannel(item.channel);
+    return entry;
+}
+
+} // namespace guide

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "parsers/ListReader.h"
+
+#include <memory>
+
+namespace guide {
+
+/// The pages in a row. A single page is shared, not copied.
+QByteArray joinedPages(const std::vector<QByteArray>& pages);
+
+inline std::string_view pageText(const QByteArray& page) {
+    return {page.constData(), static_cast<std::size_t>(page.size())};
+}
+
+/// A show of the item's channel at that moment. `sourceId` is left to the format.
+std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, const QString& title,
+                                  Moment start);
+
+} // namespace guide
