@@ -92,6 +92,7 @@ struct DemoServer::State {
 
     std::mutex mutex;
     std::map<QByteArray, Responder> responders;
+    std::map<QByteArray, Responder> prefixes;
     std::map<QByteArray, Misbehaviour> misbehaviours;
     Misbehaviour everywhere;
     /// How often each path has been served wrongly, for Misbehaviour::times.
@@ -110,6 +111,7 @@ struct DemoServer::State {
     SpoiledAnswer answer(const ServedRequest& request);
     void log(const ServedRequest& request);
     std::pair<Responder, Misbehaviour> claims(const QByteArray& path);
+    Responder responderFor(const QByteArray& path) const;
 };
 
 void DemoServer::State::log(const ServedRequest& request) {
@@ -122,15 +124,24 @@ void DemoServer::State::log(const ServedRequest& request) {
     ++total;
 }
 
+Responder DemoServer::State::responderFor(const QByteArray& path) const {
+    if (const auto exact = responders.find(path); exact != responders.end()) {
+        return exact->second;
+    }
+    // Of two that fit, the longer one sorts behind.
+    const auto below = std::find_if(prefixes.rbegin(), prefixes.rend(),
+                                    [&path](const auto& entry) { return path.startsWith(entry.first); });
+    return below == prefixes.rend() ? Responder() : below->second;
+}
+
 /// Who answers the path, and how. A place that a redirect leads to has the answer of the path that it stands
 /// for.
 std::pair<Responder, Misbehaviour> DemoServer::State::claims(const QByteArray& path) {
     const std::lock_guard guard(mutex);
     QByteArray original = path;
-    while (!responders.contains(original) && original.startsWith(kMoved + '/')) {
+    while (!responderFor(original) && original.startsWith(kMoved + '/')) {
         original = original.sliced(kMoved.size());
     }
-    const auto responder = responders.find(original);
     const auto own = misbehaviours.find(original);
     Misbehaviour how = own == misbehaviours.end() ? everywhere : own->second;
     const bool moved = original.size() != path.size();
@@ -140,7 +151,7 @@ std::pair<Responder, Misbehaviour> DemoServer::State::claims(const QByteArray& p
     if (how.kind != Misbehaviour::Kind::None && how.times > 0 && ++spoiledCounts[original] > how.times) {
         how = {};
     }
-    return {responder == responders.end() ? Responder() : responder->second, how};
+    return {responderFor(original), how};
 }
 
 SpoiledAnswer DemoServer::State::answer(const ServedRequest& request) {
@@ -270,6 +281,11 @@ void DemoServer::serve(const QByteArray& path, Responder responder) {
 
 void DemoServer::serve(const QByteArray& path, const ServedResponse& response) {
     serve(path, [response](const ServedRequest&) { return response; });
+}
+
+void DemoServer::serveBelow(const QByteArray& prefix, Responder responder) {
+    const std::lock_guard guard(m_state->mutex);
+    m_state->prefixes[prefix] = std::move(responder);
 }
 
 void DemoServer::remove(const QByteArray& path) {

@@ -58,6 +58,8 @@ class DemoServer {
     /// Answers the path (with its query) from now on; 404 for all others.
     void serve(const QByteArray& path, Responder responder);
     void serve(const QByteArray& path, const ServedResponse& response);
+    /// Answers every path that begins so and that nobody else answers; of several the longest.
+    void serveBelow(const QByteArray& prefix, Responder responder);
     void remove(const QByteArray& path);
 
     /// Serves the path wrongly from now on, also one that nobody serves. Replaces what was said before.
