@@ -131,7 +131,7 @@ int run(LaunchOptions options) {
     LinuxDevice device(options.form.value_or(UserInterfaceIdiom::Phone));
     std::unique_ptr<DemoWorld> demo;
     if (options.demo) {
-        demo = DemoWorld::create(*options.profile + "/demo"_L1, clock.now());
+        demo = DemoWorld::create(*options.profile + "/demo"_L1, clock);
         if (!demo) {
             return refuse("the demo cannot be set up");
         }

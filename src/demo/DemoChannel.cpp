@@ -28,6 +28,7 @@ constexpr QStringView kEveryFilm =
 constexpr QStringView kOldFilms = u"comedy romance crime adventure western drama";
 
 // The source ids of a row say which feed it is in; the feed's own channel id is the key and ".demo".
+// "%1" stands for the server's base, "%2" for its host and port.
 constexpr std::array kRows = {
     Row{u"vyhled", u"Výhled", u"cs", u"Czech", Character::General, u"cs", "Europe/Prague", kAllFilms,
         u"r.domov.vyhled.demo n.vyhled.demo"},
@@ -79,6 +80,31 @@ constexpr std::array kRows = {
         u"%1/feeds/okolitsa.xml.gz"},
     Row{u"kinovar", u"Киноварь", u"ru", u"Other", Character::Film, u"ru", "Europe/Moscow", kEveryFilm,
         u"%1/feeds/kinovar.xml"},
+    Row{u"brana", u"Brána", u"cs", u"Czech", Character::Series, u"cs", "Europe/Prague", u"",
+        u"barrandov.Brána"},
+    Row{u"zarivka", u"Zářivka", u"cs", u"Czech", Character::General, u"cs", "Europe/Prague", kAllFilms,
+        u"cz.nova.Zářivka"},
+    Row{u"hvezdarna", u"Hvězdárna", u"cs", u"Czech", Character::Documentary, u"cs", "Europe/Prague", u"",
+        u"cz.nova.Hvězdárna"},
+    Row{u"premiera", u"Premiéra", u"cs", u"Other", Character::Film, u"cs", "Europe/Prague", kEveryFilm,
+        u"%2/max"},
+    Row{u"tribuna", u"Tribuna", u"cs", u"Other", Character::Sport, u"cs", "Europe/Bucharest", u"",
+        u"dolce-sport.tribuna"},
+    Row{u"usmev", u"Úsměv", u"cs", u"Other", Character::Series, u"cs", "Europe/Bucharest", u"",
+        u"cc.romania"},
+    Row{u"trojskok", u"Trojskok", u"sk", u"Slovak", Character::Sport, u"sk", "Europe/Bratislava", u"",
+        u"dsk.Trojskok"},
+    Row{u"kinosal", u"Kinosál", u"cs/sk", u"Other", Character::Film, u"cs sk", "Europe/Bratislava",
+        kEveryFilm, u"joj.kinosal"},
+    Row{u"polnoc", u"Polnoc", u"sk", u"Slovak", Character::Film, u"sk", "Europe/Bratislava", kEveryFilm,
+        u"-hbo.sk.1"},
+    Row{u"pobrezie", u"Pobrežie", u"sk", u"Slovak", Character::Documentary, u"sk", "Europe/Budapest", u"",
+        u"10021"},
+    Row{u"anchor", u"Anchor", u"en", u"Other", Character::Film, u"en", "Europe/Zagreb", kEveryFilm,
+        u"cinestar.hr.12"},
+    Row{u"terrace", u"Terrace", u"en", u"Other", Character::Documentary, u"en", "Europe/Rome", u"", u"_R4"},
+    Row{u"passerelle", u"Passerelle", u"fr", u"Other", Character::GeneralWest, u"fr", "Europe/Rome",
+        kAllFilms, u"_PA"},
 };
 
 constexpr std::array<QStringView, 12> kSelected = {u"vyhled",  u"minuta",    u"platno",   u"knoflik",
@@ -120,6 +146,10 @@ const std::vector<DemoChannel>& demoChannels() {
         return made;
     }();
     return channels;
+}
+
+QString sourceOnServer(const QString& source, const QString& base) {
+    return QString(source).replace("%1"_L1, base).replace("%2"_L1, base.section(u"//"_s, 1));
 }
 
 QStringList demoSelection() {

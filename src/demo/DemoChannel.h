@@ -25,7 +25,7 @@ struct DemoChannel {
     QByteArray zone;
     /// The grammar rules of its films, most frequent ones twice.
     QStringList films;
-    /// Its source ids in order of preference. "%1" stands for the server's base.
+    /// Its source ids in order of preference, as sourceOnServer takes them.
     QStringList sources;
     /// How its feed names it.
     QString feedId;
@@ -35,6 +35,9 @@ struct DemoChannel {
 
 /// All channels of the demo, in the order of the catalogue.
 const std::vector<DemoChannel>& demoChannels();
+
+/// The source id with the server's base, or its host and port, in their places.
+QString sourceOnServer(const QString& source, const QString& base);
 
 /// The identities that the demo selects first, in order.
 QStringList demoSelection();

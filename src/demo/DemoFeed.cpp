@@ -2,6 +2,7 @@
 
 #include "demo/Packing.h"
 #include "demo/ScheduleGenerator.h"
+#include "demo/Town.h"
 
 #include <QDateTime>
 #include <QTimeZone>
@@ -134,6 +135,9 @@ std::vector<PlacedFeed> demoFeeds(Moment now, const QByteArray& authority) {
     std::vector<PlacedFeed> placed;
     for (const DemoChannel& channel : demoChannels()) {
         for (const QString& source : channel.sources) {
+            if (Town::has(source)) {
+                continue;
+            }
             if (source.endsWith(".tv"_L1)) {
                 placeDayFiles(source, channel, now, placed);
                 continue;

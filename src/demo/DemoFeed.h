@@ -45,7 +45,8 @@ struct PlacedFeed {
     std::shared_ptr<DemoFeed> feed;
 };
 
-/// Every feed that a source id of the demo's channels leads to. `authority` is the server's host and port.
+/// Every feed that a source id of the demo's channels leads to; the town's sites are not among them.
+/// `authority` is the server's host and port.
 std::vector<PlacedFeed> demoFeeds(Moment now, const QByteArray& authority);
 
 /// What the host table says behind the name of a day file, in the place of a domain.

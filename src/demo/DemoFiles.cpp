@@ -2,6 +2,7 @@
 
 #include "demo/DemoChannel.h"
 #include "demo/DemoFeed.h"
+#include "demo/Town.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -26,7 +27,7 @@ void writeChannel(QXmlStreamWriter& xml, const DemoChannel& channel, const QStri
     writePair(xml, u"Language"_s, channel.language);
     writePair(xml, u"Icon"_s, channel.region + u'/' + channel.key);
     for (qsizetype i = 0; i < channel.sources.size(); ++i) {
-        writePair(xml, u"Location%1"_s.arg(i + 1), QString(channel.sources[i]).replace("%1"_L1, base));
+        writePair(xml, u"Location%1"_s.arg(i + 1), sourceOnServer(channel.sources[i], base));
     }
     xml.writeEndElement();
 }
@@ -51,14 +52,17 @@ QByteArray demoCatalogue(const QString& base) {
 }
 
 QByteArray demoHosts(const QString& base) {
-    const QJsonObject hosts{{u"RytecMirrorA"_s, base},
-                            {u"RytecMirrorB"_s, base + u"/epg_data"_s},
-                            {u"NFeedHost"_s, base},
-                            {u"SFeedHost"_s, base},
-                            {u"TVPCFeedHost"_s, base},
-                            {u"BNetHost"_s, base},
-                            {u"BNetDomain"_s, QString::fromLatin1(kDayFileDomain)},
-                            {u"TVProfilHost"_s, base}};
+    QJsonObject hosts{{u"RytecMirrorA"_s, base},
+                      {u"RytecMirrorB"_s, base + u"/epg_data"_s},
+                      {u"NFeedHost"_s, base},
+                      {u"SFeedHost"_s, base},
+                      {u"TVPCFeedHost"_s, base},
+                      {u"BNetHost"_s, base},
+                      {u"BNetDomain"_s, QString::fromLatin1(kDayFileDomain)},
+                      {u"TVProfilHost"_s, base}};
+    for (const auto& [key, host] : Town::hosts(base)) {
+        hosts.insert(key, host);
+    }
     return QJsonDocument(hosts).toJson();
 }
 

@@ -2,6 +2,8 @@
 
 #include "demo/DemoFeed.h"
 #include "demo/DemoFiles.h"
+#include "demo/ScheduleGenerator.h"
+#include "demo/Town.h"
 #include "platform/FileReplacement.h"
 
 #include <QDir>
@@ -22,6 +24,35 @@ Moment newerThanAnyArchive(Moment now) {
     return std::max(now, system) + std::chrono::days(365);
 }
 
+/// What begins between the two moments.
+std::vector<Programme> programmesBetween(const DemoChannel& channel, Moment from, Moment until) {
+    const QDate first = broadcastDay(from, channel.zone);
+    const QDate last = broadcastDay(until, channel.zone);
+    std::vector<Programme> programmes = schedule(channel, first, int(first.daysTo(last)) + 1);
+    std::erase_if(programmes, [from, until](const Programme& programme) {
+        return programme.start < from || programme.start >= until;
+    });
+    return programmes;
+}
+
+std::vector<SiteChannel> siteChannels(const Clock& clock) {
+    std::vector<SiteChannel> channels;
+    for (const DemoChannel& channel : demoChannels()) {
+        for (const QString& source : channel.sources) {
+            // Of such a page the guide keeps the last day alone, so there is but today.
+            const bool todayAlone = source.startsWith("dsk."_L1);
+            const SiteClock wall(channel.zone.constData());
+            channels.push_back(
+                {source, channel.title, [&channel, &clock, todayAlone, wall](Moment from, Moment until) {
+                     return todayAlone && wall.date(from) > wall.date(clock.now())
+                                ? std::vector<Programme>()
+                                : programmesBetween(channel, from, until);
+                 }});
+        }
+    }
+    return channels;
+}
+
 } // namespace
 
 struct DemoWorld::State {
@@ -34,7 +65,8 @@ DemoWorld::DemoWorld(std::unique_ptr<State> state)
 
 DemoWorld::~DemoWorld() = default;
 
-std::unique_ptr<DemoWorld> DemoWorld::create(const QString& folder, Moment now) {
+std::unique_ptr<DemoWorld> DemoWorld::create(const QString& folder, const Clock& clock) {
+    const Moment now = clock.now();
     auto state = std::make_unique<State>();
     state->folder = QDir(folder).absolutePath();
     state->server = DemoServer::start();
@@ -49,6 +81,7 @@ std::unique_ptr<DemoWorld> DemoWorld::create(const QString& folder, Moment now) 
                                  [feed = placed.feed](const ServedRequest&) { return feed->response(); });
         }
     }
+    Town::open(*state->server, siteChannels(clock), [&clock] { return clock.now(); });
     std::unique_ptr<DemoWorld> world(new DemoWorld(std::move(state)));
     if (!QDir().mkpath(folder) ||
         !replaceFile(world->cataloguePath(), demoCatalogue(base), newerThanAnyArchive(now)) ||

@@ -438,20 +438,24 @@ void kinovar(Brush& b) {
 } // namespace
 
 const std::vector<ChannelIcon>& channelIcons() {
-    static const std::vector<ChannelIcon> icons = {
-        {"vyhled", vyhled},           {"minuta", minuta},
-        {"platno", platno},           {"pametnik", pametnik},
-        {"polocas", polocas},         {"knoflik", knoflik},
-        {"ozvena", ozvena},           {"polednik", polednik},
-        {"pokracovani", pokracovani}, {"stopa", stopa},
-        {"zahradka", zahradka},       {"dvojhlas", dvojhlas},
-        {"hokejka", hokejka},         {"vatra", vatra},
-        {"hodina", hodina},           {"premietaren", premietaren},
-        {"haluzka", haluzka},         {"harbour", harbour},
-        {"lantern", lantern},         {"wayfarer", wayfarer},
-        {"belvedere", belvedere},     {"projecteur", projecteur},
-        {"erguvan", erguvan},         {"perde", perde},
-        {"okolitsa", okolitsa},       {"kinovar", kinovar},
-    };
+    static const std::vector<ChannelIcon> icons = [] {
+        std::vector<ChannelIcon> all = {
+            {"vyhled", vyhled},           {"minuta", minuta},
+            {"platno", platno},           {"pametnik", pametnik},
+            {"polocas", polocas},         {"knoflik", knoflik},
+            {"ozvena", ozvena},           {"polednik", polednik},
+            {"pokracovani", pokracovani}, {"stopa", stopa},
+            {"zahradka", zahradka},       {"dvojhlas", dvojhlas},
+            {"hokejka", hokejka},         {"vatra", vatra},
+            {"hodina", hodina},           {"premietaren", premietaren},
+            {"haluzka", haluzka},         {"harbour", harbour},
+            {"lantern", lantern},         {"wayfarer", wayfarer},
+            {"belvedere", belvedere},     {"projecteur", projecteur},
+            {"erguvan", erguvan},         {"perde", perde},
+            {"okolitsa", okolitsa},       {"kinovar", kinovar},
+        };
+        all.insert(all.end(), townIcons().begin(), townIcons().end());
+        return all;
+    }();
     return icons;
 }
