@@ -1,8 +1,14 @@
 #include "parsers/ListDriver.h"
 
+#include "parsers/ComedyCentralListReader.h"
+#include "parsers/DigiSportListReader.h"
+#include "parsers/DolceSportListReader.h"
 #include "parsers/HBOListReader.h"
+#include "parsers/JojCinemaListReader.h"
 #include "parsers/ListReader.h"
+#include "parsers/NovaListReader.h"
 #include "parsers/ParsersLog.h"
+#include "parsers/PortNetworkListReader.h"
 #include "parsers/XMLTVListReader.h"
 #include "sources/SourceId.h"
 
@@ -21,12 +27,18 @@ struct TypeReader {
 };
 
 constexpr std::array kReaders{
-    TypeReader{kListingsPortNetwork, nullptr}, TypeReader{kListingsXMLTV, readXMLTVLists},
-    TypeReader{kListingsPalinsesto, nullptr},  TypeReader{kListingsBarrandov, nullptr},
-    TypeReader{kListingsDigiSport, nullptr},   TypeReader{kListingsJojCinema, nullptr},
-    TypeReader{kListingsPrimaMax, nullptr},    TypeReader{kListingsHBO, readHBOLists},
-    TypeReader{kListingsNova, nullptr},        TypeReader{kListingsDolceSport, nullptr},
-    TypeReader{kListingsCinestar, nullptr},    TypeReader{kListingsComedyCentral, nullptr},
+    TypeReader{kListingsPortNetwork, readPortNetworkLists},
+    TypeReader{kListingsXMLTV, readXMLTVLists},
+    TypeReader{kListingsPalinsesto, nullptr},
+    TypeReader{kListingsBarrandov, nullptr},
+    TypeReader{kListingsDigiSport, readDigiSportLists},
+    TypeReader{kListingsJojCinema, readJojCinemaLists},
+    TypeReader{kListingsPrimaMax, nullptr},
+    TypeReader{kListingsHBO, readHBOLists},
+    TypeReader{kListingsNova, readNovaLists},
+    TypeReader{kListingsDolceSport, readDolceSportLists},
+    TypeReader{kListingsCinestar, nullptr},
+    TypeReader{kListingsComedyCentral, readComedyCentralLists},
 };
 
 } // namespace

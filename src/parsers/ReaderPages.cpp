@@ -18,12 +18,17 @@ QByteArray joinedPages(const std::vector<QByteArray>& pages) {
     return text;
 }
 
-std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, const QString& title,
-                                  Moment start) {
+std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, Moment start) {
     auto entry = std::make_shared<TVEntry>(input.alphabet);
-    entry->setIdentificator(title);
     entry->setDateTime(start);
     entry->setChannel(item.channel);
+    return entry;
+}
+
+std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, const QString& title,
+                                  Moment start) {
+    auto entry = newEntry(input, item, start);
+    entry->setIdentificator(title);
     return entry;
 }
 

@@ -13,7 +13,9 @@ inline std::string_view pageText(const QByteArray& page) {
     return {page.constData(), static_cast<std::size_t>(page.size())};
 }
 
-/// A show of the item's channel at that moment. `sourceId` is left to the format.
+/// A show of the item's channel at that moment; title and source id are left to the format.
+std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, Moment start);
+/// The same with a title.
 std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, const QString& title,
                                   Moment start);
 

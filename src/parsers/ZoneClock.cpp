@@ -37,9 +37,9 @@ ZoneClock::ZoneClock(const QTimeZone& zone)
     : m_zone(zone)
     , m_localTime(zone) {}
 
-seconds ZoneClock::offsetAt(sys_seconds moment) const {
+seconds ZoneClock::offsetAt(Moment moment) const {
     return seconds(
-        m_zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC)));
+        m_zone.offsetFromUtc(QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC)));
 }
 
 std::optional<Moment> ZoneClock::momentAt(const QDate& date, seconds time) {

@@ -23,6 +23,8 @@ class ZoneClock {
     explicit ZoneClock(const QTimeZone& zone);
 
     QDate dateAt(Moment moment) { return m_localTime.dateAt(moment); }
+    /// What the clock is ahead of UTC.
+    std::chrono::seconds offsetAt(Moment moment) const;
 
     /// The moment at which the clock shows the time on that date; `time` may reach beyond the day. A time
     /// that a change of the clock leaves out lies as far behind the change as it would have, and of a time
@@ -30,8 +32,6 @@ class ZoneClock {
     std::optional<Moment> momentAt(const QDate& date, std::chrono::seconds time);
 
   private:
-    std::chrono::seconds offsetAt(std::chrono::sys_seconds moment) const;
-
     QTimeZone m_zone;
     LocalTime m_localTime;
     /// The offsets well before and well after the day asked for last.

@@ -1,0 +1,105 @@
+#include "parsers/JojCinemaListReader.h"
+
+#include "parsers/EntryClassifier.h"
+#include "parsers/ReaderPages.h"
+#include "parsers/ZoneClock.h"
+
+namespace guide {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int kDays = 7;
+constexpr std::string_view kTime = "class=\"time\">";
+
+std::string dayText(const QDate& date) {
+    return std::to_string(date.day()) + '-' + std::to_string(date.month()) + '-' +
+           std::to_string(date.year());
+}
+
+class DayReader {
+  public:
+    DayReader(const ListReaderInput& input, std::vector<ExtendedTVEntry>& list, ZoneClock& bratislava)
+        : m_input(input)
+        , m_item(input.items.front())
+        , m_list(list)
+        , m_clock(bratislava)
+        , m_site(input.hosts.base(u"JojCinemaHost"_s, u"http"_s)) {}
+
+    /// `dateAfter` is the next day's, for what follows midnight.
+    void read(MarkerWalk day, QDate date, const QDate& dateAfter) {
+        std::string_view previous;
+        while (day.pass(kTime)) {
+            const std::string_view time = day.characters(5);
+            const MarkerWalk item = day.part(day.position(), day.findOrLimit(kTime));
+            // Once the times have turned, the rest of the page lies on the next date.
+            if (!previous.empty() && previous >= time) {
+                date = dateAfter;
+            } else {
+                previous = time;
+            }
+            if (const auto clockTime = timeOfDay(time)) {
+                if (const auto start = m_clock.momentAt(date, *clockTime)) {
+                    addShow(item, *start);
+                }
+            }
+            day.moveTo(item.limit());
+        }
+    }
+
+  private:
+    void addShow(MarkerWalk item, Moment start) {
+        const MarkerWalk whole = item;
+        const auto path = item.take("<a href=\"", "\" title=\"");
+        if (!path || !item.pass("\" title=\"")) {
+            return;
+        }
+        const auto title = item.takeUpTo("\"");
+        if (!title) {
+            return;
+        }
+        auto entry = newEntry(m_input, m_item, pageString(*title), start);
+        entry->setSourceId(m_item.sourceId);
+        if (m_site) {
+            entry->setUrl(QUrl(*m_site + pageString(*path)));
+        }
+        const TVListingsCategory categories = classifyEntry(*entry);
+        ExtendedTVEntry show{std::move(entry), categories, nullptr, {}};
+        MarkerWalk picture = whole;
+        if (const auto source = picture.take("<img src=\"", "\""); source && m_site) {
+            show.extra = std::make_shared<TVEntrySupplementalData>();
+            show.pictures.insert(QUrl(*m_site + pageString(*source)));
+        }
+        m_list.push_back(std::move(show));
+    }
+
+    const ListReaderInput& m_input;
+    const LoadItem& m_item;
+    std::vector<ExtendedTVEntry>& m_list;
+    ZoneClock& m_clock;
+    const std::optional<QString> m_site;
+};
+
+} // namespace
+
+void readJojCinemaLists(const ListReaderInput& input, ParsedLists& lists) {
+    ZoneClock bratislava(QTimeZone("Europe/Bratislava"));
+    const QByteArray text = joinedPages(input.pages);
+    const MarkerWalk page(pageText(text), input.trace);
+    DayReader reader(input, lists[input.items.front().channel], bratislava);
+
+    Moment day = input.now - std::chrono::hours(24);
+    for (int i = 0; i < kDays; ++i, day += std::chrono::hours(24)) {
+        const QDate date = bratislava.dateAt(day);
+        MarkerWalk walk = page;
+        // The days come in order: one that is missing ends the walk.
+        if (!walk.pass("day=" + dayText(date) + "\" class=\"active\"") || !walk.pass(" class=\"item\"")) {
+            return;
+        }
+        reader.read(walk.part(walk.position(), walk.findOrLimit(" href=\"?day=")), date,
+                    bratislava.dateAt(day + std::chrono::hours(24)));
+    }
+}
+
+} // namespace guide
