@@ -67,6 +67,7 @@ int make(const QString& path) {
 int load(const QString& path) {
     QLoggingCategory::setFilterRules(u"guide.*=false"_s);
     std::vector<LoadItem> items;
+    items.reserve(kFewChannels);
     for (int i = 0; i < kFewChannels; ++i) {
         ObjectId::Bytes id{};
         id[11] = static_cast<std::uint8_t>(i + 1);

@@ -7,8 +7,8 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
-#include <vector>
 
 namespace guide::bench {
 namespace {
@@ -16,7 +16,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr double kAtMost = 1.5;
-constexpr int kStarts = 9;
+constexpr std::size_t kStarts = 9;
 constexpr int kPatience = 60'000;
 
 [[noreturn]] void fail(const QString& why) {
@@ -71,12 +71,12 @@ int measure() {
     }
     const QStringList catalogue{u"--catalogue"_s, full + u"/demo/Data.plist"_s, u"--hosts"_s,
                                 full + u"/demo/hosts.json"_s};
-    std::vector<double> guide;
-    std::vector<double> floor;
+    std::array<double, kStarts> guide{};
+    std::array<double, kStarts> floor{};
     QByteArray renderer;
-    for (int i = 0; i < kStarts; ++i) {
-        guide.push_back(timeTo("filled frame", QStringList{u"--profile"_s, full} + catalogue, renderer));
-        floor.push_back(timeTo("first frame", QStringList{u"--profile"_s, empty} + catalogue, renderer));
+    for (std::size_t i = 0; i < kStarts; ++i) {
+        guide[i] = timeTo("filled frame", QStringList{u"--profile"_s, full} + catalogue, renderer);
+        floor[i] = timeTo("first frame", QStringList{u"--profile"_s, empty} + catalogue, renderer);
     }
     std::sort(guide.begin(), guide.end());
     std::sort(floor.begin(), floor.end());

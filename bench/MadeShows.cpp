@@ -15,6 +15,7 @@ ObjectId channelNumbered(int number) {
 
 std::vector<ExtendedTVEntry> madeShows(int channel, Words& words) {
     std::vector<ExtendedTVEntry> shows;
+    shows.reserve(kShowsOfAList);
     Moment start = kNow - std::chrono::minutes(channel % 20);
     for (int i = 0; i < kShowsOfAList; ++i) {
         auto entry = std::make_shared<TVEntry>(alphabet());
@@ -45,6 +46,7 @@ std::vector<ExtendedTVEntry> madeShows(int channel, Words& words) {
 
 ShowItems itemsOf(std::vector<ExtendedTVEntry> shows) {
     ShowItems items;
+    items.reserve(shows.size());
     for (ExtendedTVEntry& show : shows) {
         items.emplace_back(std::move(show));
     }

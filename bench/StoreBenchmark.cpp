@@ -52,6 +52,7 @@ struct World {
                       userDefaults, channels, icons,      nullptr,         alphabet(), favorites,
                       popular,      alarms,   u"guide"_s, [] { return 4; }} {
         std::vector<ObjectId> selected;
+        selected.reserve(static_cast<std::size_t>(channelCount));
         for (int channel = 0; channel < channelCount; ++channel) {
             selected.push_back(channelNumbered(channel));
         }
@@ -104,6 +105,7 @@ struct World {
 std::vector<QByteArray> madeArchives(int count) {
     Words words(3);
     std::vector<QByteArray> archives;
+    archives.reserve(static_cast<std::size_t>(count));
     for (int channel = 0; channel < count; ++channel) {
         archives.push_back(archivedShows(itemsOf(madeShows(channel, words))));
     }
@@ -144,6 +146,7 @@ void readGuide(benchmark::State& state) {
 void readFloor(benchmark::State& state) {
     QTemporaryDir folder;
     std::vector<QByteArray> paths;
+    paths.reserve(kFiles);
     for (int i = 0; i < kFiles; ++i) {
         const QString path = folder.filePath(QString::number(i));
         replaceFile(path, archives()[static_cast<std::size_t>(i)]);
@@ -152,6 +155,7 @@ void readFloor(benchmark::State& state) {
     std::size_t shows = 0;
     for (auto _ : state) {
         std::vector<std::vector<FloorShow>> lists;
+        lists.reserve(paths.size());
         for (const QByteArray& path : paths) {
             lists.push_back(floorShows(path));
         }
@@ -175,6 +179,7 @@ void onAirGuide(benchmark::State& state) {
     TVListings listings(world.environment);
     Words words(4);
     std::vector<LoadItem> items;
+    items.reserve(kChannels);
     ParsedLists parsed;
     for (int channel = 0; channel < kChannels; ++channel) {
         items.push_back({channelNumbered(channel), u"x"_s, u"cs"_s});
@@ -195,6 +200,7 @@ void onAirGuide(benchmark::State& state) {
 
 void onAirFloor(benchmark::State& state) {
     std::vector<ShowItems> lists;
+    lists.reserve(300);
     Words words(4);
     for (int channel = 0; channel < 300; ++channel) {
         lists.push_back(itemsOf(madeShows(channel, words)));
@@ -214,6 +220,7 @@ void writeGuide(benchmark::State& state) {
     World world(kFiles, folder.path());
     TVListings listings(world.environment);
     std::vector<LoadItem> items;
+    items.reserve(kFiles);
     ParsedLists parsed;
     Words words(3);
     for (int channel = 0; channel < kFiles; ++channel) {
@@ -253,6 +260,7 @@ void writeGuide(benchmark::State& state) {
 void writeFloor(benchmark::State& state) {
     QTemporaryDir folder;
     std::vector<QByteArray> paths;
+    paths.reserve(kFiles);
     for (int i = 0; i < kFiles; ++i) {
         paths.push_back(folder.filePath(QString::number(i)).toUtf8());
     }

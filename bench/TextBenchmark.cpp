@@ -87,6 +87,7 @@ const std::vector<Show>& shows() {
     static const auto kAll = [] {
         ShowWriter writer;
         std::vector<Show> all;
+        all.reserve(kShows);
         for (int i = 0; i < kShows; ++i) {
             all.push_back(writer.show());
         }

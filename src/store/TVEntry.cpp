@@ -120,7 +120,8 @@ void TVEntry::setInstantDescription1(std::optional<QString> instantDescription1)
 void TVEntry::setLanguage(std::optional<QString> language) {
     m_language = std::move(language);
     m_display.reset();
-    for (auto text : {&Texts::title, &Texts::instantDetails, &Texts::subtitle, &Texts::instantDescription}) {
+    setIdentificator(std::move(m_source.title));
+    for (auto text : {&Texts::instantDetails, &Texts::subtitle, &Texts::instantDescription}) {
         derive(text);
     }
 }

@@ -85,7 +85,7 @@ TEST_P(RealFeedCatalogue, LeadsTheGuideToTheFeed) {
     }
     const QJsonArray selection = QJsonDocument::fromJson(read(made.filePath(u"selection.json"_s))).array();
     EXPECT_EQ(selection.size(), 12);
-    for (const QJsonValue& selected : selection) {
+    for (const QJsonValue selected : selection) {
         EXPECT_TRUE(identities.contains(selected.toString()));
     }
 }

@@ -20,6 +20,7 @@ ObjectId channel(int number) {
 
 std::vector<LoadItem> items(const std::vector<QString>& sourceIds) {
     std::vector<LoadItem> list;
+    list.reserve(sourceIds.size());
     for (const QString& sourceId : sourceIds) {
         list.push_back({channel(static_cast<int>(list.size())), sourceId, u"hr"_s});
     }
@@ -66,14 +67,15 @@ class ListDriverTest : public ::testing::Test {
         *SourceHostTable::fromJson(R"({"FeedImageBase": "img.example", "FeedSiteHost": "site.example"})");
     std::size_t m_mergedChannels = 0;
     int m_merges = 0;
-    ListDriver m_driver{{.clock = m_clock,
-                         .alphabet = m_alphabet,
-                         .hosts = m_hosts,
-                         .merge = [this](const std::vector<LoadItem>&, ParsedLists parsed, Moment, unsigned) {
-                             m_mergedChannels = parsed.size();
-                             ++m_merges;
-                             return MergeResult{};
-                         }}};
+    ListDriver m_driver{
+        {.clock = m_clock,
+         .alphabet = m_alphabet,
+         .hosts = m_hosts,
+         .merge = [this](const std::vector<LoadItem>&, const ParsedLists& parsed, Moment, unsigned) {
+             m_mergedChannels = parsed.size();
+             ++m_merges;
+             return MergeResult{};
+         }}};
 };
 
 TEST_F(ListDriverTest, FindsTheFeedsOwnIdsInSourceIds) {

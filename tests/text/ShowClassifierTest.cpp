@@ -101,7 +101,7 @@ TEST(ShowClassifierTest, AgreesWithPlainSearches) {
     GeneratedText between({u" "_s, u", "_s, u". "_s, u"-"_s, u"…"_s, u""_s, u"a"_s, u"đ"_s, u"\u0301"_s,
                            u"😀"_s, u"각"_s, u"1"_s});
     const auto word = [&] {
-        const QString plain = generated.piece();
+        QString plain = generated.piece();
         switch (generated.below(6)) {
         case 0:
             return plain.toUpper();
