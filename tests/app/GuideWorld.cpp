@@ -29,9 +29,12 @@ QString stamp(Moment moment) {
 
 } // namespace
 
+ObjectId GuideWorld::channel(int number) {
+    return ObjectId::fromHex(u"58f4ded60befe78cb336%1"_s.arg(number, 4, 10, QChar(u'0')));
+}
+
 ObjectId GuideWorld::channel(const QString& key) {
-    return ObjectId::fromHex(key == "first"_L1 ? u"58f4ded60befe78cb3360001"_s
-                                               : u"58f4ded60befe78cb3360002"_s);
+    return channel(key == "first"_L1 ? 1 : 2);
 }
 
 QByteArray GuideWorld::feedPath(const QString& key, int source) {
@@ -39,6 +42,23 @@ QByteArray GuideWorld::feedPath(const QString& key, int source) {
 }
 
 GuideWorld::GuideWorld() {
+    std::vector<QStringList> sources;
+    for (const QString& key : {u"first"_s, u"second"_s}) {
+        sources.push_back({server->base() + QString::fromLatin1(feedPath(key, 1)),
+                           server->base() + QString::fromLatin1(feedPath(key, 2))});
+    }
+    furnish(sources);
+}
+
+GuideWorld::GuideWorld(const QStringList& sources) {
+    std::vector<QStringList> single;
+    for (const QString& source : sources) {
+        single.push_back({QString(source).replace("%1"_L1, server->base().section(u"//"_s, 1))});
+    }
+    furnish(single);
+}
+
+void GuideWorld::furnish(const std::vector<QStringList>& sources) {
     // A small device, so that a bomb need not be large.
     device.memory = std::uint64_t(128) << 20;
     const QString root = m_folder.path();
@@ -54,14 +74,17 @@ GuideWorld::GuideWorld() {
 
     QString channels;
     QStringList selection;
-    for (const QString& key : {u"first"_s, u"second"_s}) {
-        selection.append(u"\"%1\""_s.arg(channel(key).hex()));
-        channels +=
-            u"<dict><key>Location</key><string>%1</string><key>Title</key><string>The %2</string>"
-            "<key>Language</key><string>en</string><key>Icon</key><string>Other/plain</string>"
-            "<key>Location1</key><string>%3%4</string><key>Location2</key><string>%3%5</string></dict>"_s.arg(
-                channel(key).hex(), key, server->base(), QString::fromLatin1(feedPath(key, 1)),
-                QString::fromLatin1(feedPath(key, 2)));
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        const QString identity = channel(int(i) + 1).hex();
+        selection.append(u"\"%1\""_s.arg(identity));
+        channels += u"<dict><key>Location</key><string>%1</string><key>Title</key><string>Channel %2</string>"
+                    "<key>Language</key><string>en</string><key>Icon</key><string>Other/plain</string>"_s.arg(
+                        identity, QString::number(i + 1));
+        for (qsizetype j = 0; j < sources[i].size(); ++j) {
+            channels +=
+                u"<key>Location%1</key><string>%2</string>"_s.arg(QString::number(j + 1), sources[i][j]);
+        }
+        channels += u"</dict>"_s;
     }
     write(
         root + u"/Data.plist"_s,
@@ -102,7 +125,7 @@ void GuideWorld::start() {
     m_cache = std::make_unique<ResponseCache>(
         clock, std::size_t(1) << 24, [this] { return Settings(userDefaults).automaticUpdateInterval(); });
     m_curl = std::make_unique<CurlHTTPClient>(*m_cache);
-    m_client = std::make_unique<ImpatientHTTPClient>(*m_curl);
+    m_client = std::make_unique<ImpatientHTTPClient>(*m_curl, patience);
     const QString root = m_folder.path();
     guide = std::make_unique<QuellinGuideAppDelegate>(ApplicationEnvironment{
         .clock = clock,
@@ -118,7 +141,7 @@ void GuideWorld::start() {
         .responseCacheCapacity = std::size_t(1) << 24,
         .audioSession = m_audio,
         .promotion = m_promotion,
-        .hosts = SourceHostTable(),
+        .hosts = hosts,
         .random = [](unsigned) { return 0U; },
         .cataloguePath = root + u"/Data.plist"_s,
         .catalogueArchivePath = catalogueArchivePath(folders.caches),
@@ -175,17 +198,26 @@ bool GuideWorld::check() {
     return runUntil([&] { return m_tasks->begun() > begun && m_tasks->running() == 0; });
 }
 
+std::vector<std::pair<Moment, QString>> GuideWorld::shows(const ObjectId& channel) {
+    std::vector<std::pair<Moment, QString>> found;
+    bool answered = false;
+    guide->listings().cachedListForChannel(
+        channel, QueuePriority::Default, MainBlock<ShowSpan>([&](const ShowSpan& shows) {
+            for (const ShowItem& show : shows) {
+                found.emplace_back(show.entry()->dateTime().value_or(Moment()),
+                                   show.entry()->title().value_or(QString()));
+            }
+            answered = true;
+        }));
+    EXPECT_TRUE(runUntil([&] { return answered; }));
+    return found;
+}
+
 QStringList GuideWorld::titles(const QString& key) {
     QStringList titles;
-    bool answered = false;
-    guide->listings().cachedListForChannel(channel(key), QueuePriority::Default,
-                                           MainBlock<ShowSpan>([&](const ShowSpan& shows) {
-                                               for (const ShowItem& show : shows) {
-                                                   titles.append(show.entry()->title().value_or(QString()));
-                                               }
-                                               answered = true;
-                                           }));
-    EXPECT_TRUE(runUntil([&] { return answered; }));
+    for (const auto& [start, title] : shows(channel(key))) {
+        titles.append(title);
+    }
     return titles;
 }
 

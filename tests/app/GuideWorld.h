@@ -34,13 +34,14 @@ class SharedClock final : public Clock {
 /// Real transfers by a client that loses its patience soon.
 class ImpatientHTTPClient final : public HTTPClient {
   public:
-    explicit ImpatientHTTPClient(HTTPClient& client)
-        : m_client(client) {}
+    ImpatientHTTPClient(HTTPClient& client, std::chrono::milliseconds patience)
+        : m_client(client)
+        , m_patience(patience) {}
 
     TransferResult perform(const HTTPRequest& request) override {
         HTTPRequest hasty = request;
-        hasty.timeout = std::chrono::milliseconds(250);
-        hasty.resourceTimeout = std::chrono::milliseconds(1500);
+        hasty.timeout = m_patience;
+        hasty.resourceTimeout = m_patience * 6;
         return m_client.perform(hasty);
     }
     void removeCachedResponse(const HTTPRequest& request) override { m_client.removeCachedResponse(request); }
@@ -48,6 +49,7 @@ class ImpatientHTTPClient final : public HTTPClient {
 
   private:
     HTTPClient& m_client;
+    const std::chrono::milliseconds m_patience;
 };
 
 /// The whole guide without its window: real queues, real transfers from a server on loopback, real files;
@@ -57,8 +59,13 @@ class GuideWorld {
   public:
     /// Two channels, "first" and "second", each with the sources /KEY-1.xml and /KEY-2.xml.
     GuideWorld();
+    /// A channel for each of the source ids, in which "%1" stands for the server's host and port. All are
+    /// selected; channels are counted from 1.
+    explicit GuideWorld(const QStringList& sources);
     ~GuideWorld();
 
+    static ObjectId channel(int number);
+    /// "first" is 1, "second" is 2.
     static ObjectId channel(const QString& key);
     static QByteArray feedPath(const QString& key, int source);
 
@@ -79,6 +86,8 @@ class GuideWorld {
     void waitForCheck() const;
     /// The titles that the store has of a channel now.
     QStringList titles(const QString& key);
+    /// All that the store has of a channel now, with the starts.
+    std::vector<std::pair<Moment, QString>> shows(const ObjectId& channel);
 
     SharedClock clock;
     FakeDevice device;
@@ -88,8 +97,12 @@ class GuideWorld {
     std::unique_ptr<DemoServer> server = DemoServer::start();
     std::unique_ptr<QuellinGuideAppDelegate> guide;
     Folders folders;
+    SourceHostTable hosts;
+    /// How long a transfer may be silent.
+    std::chrono::milliseconds patience{250};
 
   private:
+    void furnish(const std::vector<QStringList>& sources);
     void wake();
 
     QTemporaryDir m_folder;
