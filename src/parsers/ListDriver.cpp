@@ -7,6 +7,7 @@
 #include "parsers/JojCinemaListReader.h"
 #include "parsers/ListReader.h"
 #include "parsers/NovaListReader.h"
+#include "parsers/PalinsestoListReader.h"
 #include "parsers/ParsersLog.h"
 #include "parsers/PortNetworkListReader.h"
 #include "parsers/XMLTVListReader.h"
@@ -29,7 +30,7 @@ struct TypeReader {
 constexpr std::array kReaders{
     TypeReader{kListingsPortNetwork, readPortNetworkLists},
     TypeReader{kListingsXMLTV, readXMLTVLists},
-    TypeReader{kListingsPalinsesto, nullptr},
+    TypeReader{kListingsPalinsesto, readPalinsestoLists},
     TypeReader{kListingsBarrandov, nullptr},
     TypeReader{kListingsDigiSport, readDigiSportLists},
     TypeReader{kListingsJojCinema, readJojCinemaLists},

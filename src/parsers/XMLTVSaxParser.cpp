@@ -1,254 +1,41 @@
 #include "parsers/XMLTVSaxParser.h"
 
-#include <algorithm>
 #include <array>
-#include <cstring>
-#include <libxml/SAX2.h>
-#include <libxml/parser.h>
-#include <libxml/parserInternals.h>
-#include <memory>
-#include <mutex>
 
 namespace guide {
 
 namespace {
 
-#if LIBXML_VERSION >= 21200
-using ErrorPointer = const xmlError*;
-#else
-using ErrorPointer = xmlErrorPtr;
-#endif
+/// In the order of XMLTVElement, behind Other.
+constexpr std::array kElementNames{"programme",   "title",    "sub-title", "desc", "actor",
+                                   "director",    "category", "image",     "icon", "previously-shown",
+                                   "episode-num", "seriesid"};
 
-struct ElementName {
-    const char* name;
-    XMLTVElement element;
-};
-
-constexpr std::array kElementNames{
-    ElementName{"programme", XMLTVElement::Programme},
-    ElementName{"title", XMLTVElement::Title},
-    ElementName{"sub-title", XMLTVElement::SubTitle},
-    ElementName{"desc", XMLTVElement::Desc},
-    ElementName{"actor", XMLTVElement::Actor},
-    ElementName{"director", XMLTVElement::Director},
-    ElementName{"category", XMLTVElement::Category},
-    ElementName{"image", XMLTVElement::Image},
-    ElementName{"icon", XMLTVElement::Icon},
-    ElementName{"previously-shown", XMLTVElement::PreviouslyShown},
-    ElementName{"episode-num", XMLTVElement::EpisodeNum},
-    ElementName{"seriesid", XMLTVElement::SeriesId},
-};
-
-/// How much a document's own entities may add to what it says.
-constexpr std::size_t kEntityAllowance = 10'000'000;
-constexpr std::size_t kLeastElementSize = std::string_view("<a/>").size();
-/// The library bounds what general entities expand to, but not how often parameter entities are read again.
-constexpr int kMostParameterReferences = 1'000;
-
-struct FreeContext {
-    void operator()(xmlParserCtxtPtr context) const {
-        if (context->myDoc) {
-            xmlFreeDoc(context->myDoc);
-            context->myDoc = nullptr;
-        }
-        xmlFreeParserCtxt(context);
-    }
-};
-using Context = std::unique_ptr<xmlParserCtxt, FreeContext>;
-
-struct FreeText {
-    void operator()(xmlChar* text) const { xmlFree(text); }
-};
-
-std::string_view view(const xmlChar* text, std::size_t size) {
-    return {reinterpret_cast<const char*>(text), size};
-}
-
-/// The attributes as the parser hands them over: name, prefix, namespace, value and its end, five pointers
-/// each.
-class Attributes final : public XMLTVAttributes {
+class Events final : public XMLEvents {
   public:
-    Attributes(xmlParserCtxtPtr context, int count, const xmlChar** attributes)
-        : m_context(context)
-        , m_count(count)
-        , m_attributes(attributes) {}
+    explicit Events(XMLTVEvents& events)
+        : m_events(events) {}
 
-    std::optional<std::string_view> value(std::string_view name) const override {
-        for (int i = 0; i < m_count; ++i) {
-            const xmlChar** attribute = m_attributes + 5 * i;
-            if (attribute[1] || reinterpret_cast<const char*>(attribute[0]) != name) {
-                continue;
-            }
-            const auto size = static_cast<std::size_t>(attribute[4] - attribute[3]);
-            if (!std::memchr(attribute[3], '&', size)) {
-                return view(attribute[3], size);
-            }
-            // An event parser leaves ampersands, and references to entities of the document's own, as
-            // references.
-            m_resolved.reset(xmlStringLenDecodeEntities(m_context, attribute[3], static_cast<int>(size),
-                                                        XML_SUBSTITUTE_REF, 0, 0, 0));
-            return m_resolved ? view(m_resolved.get(), std::strlen(reinterpret_cast<char*>(m_resolved.get())))
-                              : std::string_view{};
-        }
-        return std::nullopt;
+    void started(std::size_t element, const XMLAttributes& attributes) override {
+        m_events.started(named(element), attributes);
     }
+    void text(std::string_view piece) override { m_events.text(piece); }
+    void ended(std::size_t element) override { m_events.ended(named(element)); }
 
   private:
-    xmlParserCtxtPtr m_context;
-    int m_count;
-    const xmlChar** m_attributes;
-    mutable std::unique_ptr<xmlChar, FreeText> m_resolved;
-};
-
-/// One parse. The document's entities are kept by the library's own tree functions, which is all that they
-/// are used for; everything else goes to the events.
-class Parse {
-  public:
-    explicit Parse(XMLTVEvents& events)
-        : m_events(events)
-        , m_context(xmlNewParserCtxt()) {
-        if (!m_context) {
-            return;
-        }
-        for (std::size_t i = 0; i < kElementNames.size(); ++i) {
-            m_names[i] =
-                xmlDictLookup(m_context->dict, reinterpret_cast<const xmlChar*>(kElementNames[i].name), -1);
-        }
-        // Without XML_PARSE_HUGE the library bounds names, depth and what entities expand to. Without
-        // XML_PARSE_NOENT and its kin it opens nothing that the document points to.
-        xmlCtxtUseOptions(m_context.get(), XML_PARSE_NONET | XML_PARSE_IGNORE_ENC | XML_PARSE_NOWARNING);
-        *m_context->sax = handler();
-    }
-
-    void run(const char* document) {
-        if (!m_context) {
-            return;
-        }
-        m_bound = std::strlen(document) + kEntityAllowance;
-        // The input stands on the page itself: nothing is copied.
-        xmlParserInputPtr input =
-            xmlNewStringInputStream(m_context.get(), reinterpret_cast<const xmlChar*>(document));
-        if (!input) {
-            return;
-        }
-        inputPush(m_context.get(), input);
-        m_context->userData = this;
-        xmlParseDocument(m_context.get());
-        m_context->userData = nullptr;
-    }
-
-  private:
-    static Parse& self(void* user) { return *static_cast<Parse*>(user); }
-
-    static xmlSAXHandler handler() {
-        xmlSAXHandler sax{};
-        sax.initialized = XML_SAX2_MAGIC;
-        sax.startElementNs = started;
-        sax.endElementNs = ended;
-        // Blank text is text: one function for both keeps the library from telling them apart.
-        sax.characters = text;
-        sax.ignorableWhitespace = text;
-        sax.cdataBlock = text;
-        sax.serror = failed;
-        sax.startDocument = [](void* user) { xmlSAX2StartDocument(self(user).m_context.get()); };
-        sax.internalSubset = [](void* user, const xmlChar* name, const xmlChar* externalId,
-                                const xmlChar* systemId) {
-            xmlSAX2InternalSubset(self(user).m_context.get(), name, externalId, systemId);
-        };
-        sax.entityDecl = [](void* user, const xmlChar* name, int type, const xmlChar* publicId,
-                            const xmlChar* systemId, xmlChar* content) {
-            xmlSAX2EntityDecl(self(user).m_context.get(), name, type, publicId, systemId, content);
-        };
-        sax.getEntity = [](void* user, const xmlChar* name) {
-            Parse& parse = self(user);
-            return parse.m_stopped ? nullptr : xmlSAX2GetEntity(parse.m_context.get(), name);
-        };
-        sax.getParameterEntity = [](void* user, const xmlChar* name) {
-            Parse& parse = self(user);
-            if (++parse.m_parameterReferences > kMostParameterReferences) {
-                parse.stop();
-            }
-            return parse.m_stopped ? nullptr : xmlSAX2GetParameterEntity(parse.m_context.get(), name);
-        };
-        return sax;
-    }
-
-    XMLTVElement element(const xmlChar* name, const xmlChar* prefix) const {
-        if (!prefix) {
-            // The parser takes every name from its dictionary, where equal names are one pointer.
-            for (std::size_t i = 0; i < m_names.size(); ++i) {
-                if (m_names[i] == name) {
-                    return kElementNames[i].element;
-                }
-            }
-        }
-        return XMLTVElement::Other;
-    }
-
-    static void started(void* user, const xmlChar* name, const xmlChar* prefix, const xmlChar*, int,
-                        const xmlChar**, int attributeCount, int, const xmlChar** attributes) {
-        Parse& parse = self(user);
-        if (parse.spend(kLeastElementSize)) {
-            parse.m_events.started(parse.element(name, prefix),
-                                   Attributes{parse.m_context.get(), attributeCount, attributes});
-        }
-    }
-
-    static void ended(void* user, const xmlChar* name, const xmlChar* prefix, const xmlChar*) {
-        Parse& parse = self(user);
-        if (!parse.m_stopped) {
-            parse.m_events.ended(parse.element(name, prefix));
-        }
-    }
-
-    static void text(void* user, const xmlChar* piece, int size) {
-        Parse& parse = self(user);
-        const auto bytes = static_cast<std::size_t>(std::max(size, 0));
-        if (bytes > 0 && parse.spend(bytes)) {
-            parse.m_events.text(view(piece, bytes));
-        }
-    }
-
-    static void failed(void* user, ErrorPointer error) {
-        if (error->level == XML_ERR_FATAL) {
-            self(user).stop();
-        }
-    }
-
-    /// Counts what is handed over: a document without entities cannot say more than it holds. False once
-    /// stopped.
-    bool spend(std::size_t bytes) {
-        m_handedOver += bytes;
-        if (m_handedOver > m_bound) {
-            stop();
-        }
-        return !m_stopped;
-    }
-
-    void stop() {
-        m_stopped = true;
-        // Inside a parameter entity the library still reads the input that stopping would free; it is stopped
-        // at the next occasion then, and says nothing until there.
-        if (m_context->inputNr <= 1) {
-            xmlStopParser(m_context.get());
-        }
-    }
+    /// The number of an unknown element is one less than that of the first known one.
+    static XMLTVElement named(std::size_t element) { return static_cast<XMLTVElement>(element + 1); }
 
     XMLTVEvents& m_events;
-    Context m_context;
-    std::array<const xmlChar*, kElementNames.size()> m_names{};
-    std::size_t m_bound = 0;
-    std::size_t m_handedOver = 0;
-    int m_parameterReferences = 0;
-    bool m_stopped = false;
 };
+static_assert(kOtherXMLElement + 1 == static_cast<std::size_t>(XMLTVElement::Other));
+static_assert(kElementNames.size() == static_cast<std::size_t>(XMLTVElement::SeriesId));
 
 } // namespace
 
 void parseXMLTV(const QByteArray& document, XMLTVEvents& events) {
-    static std::once_flag initialised;
-    std::call_once(initialised, xmlInitParser);
-    Parse(events).run(document.constData());
+    Events named(events);
+    parseXML(document, kElementNames, named);
 }
 
 } // namespace guide

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QByteArray>
+#include "parsers/XMLSaxParser.h"
 
-#include <optional>
 #include <string_view>
 
 namespace guide {
@@ -24,14 +23,7 @@ enum class XMLTVElement {
     SeriesId,
 };
 
-/// The attributes of an element that has just started; lives as long as the call that hands it over.
-class XMLTVAttributes {
-  public:
-    virtual ~XMLTVAttributes() = default;
-    /// The value of an attribute without a prefix, as UTF-8, references resolved. The view lives until the
-    /// next value is asked for.
-    virtual std::optional<std::string_view> value(std::string_view name) const = 0;
-};
+using XMLTVAttributes = XMLAttributes;
 
 /// What a document says, in its order.
 class XMLTVEvents {
@@ -43,11 +35,7 @@ class XMLTVEvents {
     virtual void ended(XMLTVElement element) = 0;
 };
 
-/// Parses a whole document, up to its first zero byte, and returns when it ends or at the first fatal error.
-///
-/// The document is UTF-8 whatever it says of itself. Nothing outside it is ever read, and what its own
-/// entities expand to is bounded. `document` ends in a zero byte, as every QByteArray does that owns its
-/// bytes.
+/// Parses a whole feed, as parseXML does.
 void parseXMLTV(const QByteArray& document, XMLTVEvents& events);
 
 } // namespace guide
