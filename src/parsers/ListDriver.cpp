@@ -1,5 +1,6 @@
 #include "parsers/ListDriver.h"
 
+#include "parsers/BarrandovListReader.h"
 #include "parsers/ComedyCentralListReader.h"
 #include "parsers/DigiSportListReader.h"
 #include "parsers/DolceSportListReader.h"
@@ -31,7 +32,7 @@ constexpr std::array kReaders{
     TypeReader{kListingsPortNetwork, readPortNetworkLists},
     TypeReader{kListingsXMLTV, readXMLTVLists},
     TypeReader{kListingsPalinsesto, readPalinsestoLists},
-    TypeReader{kListingsBarrandov, nullptr},
+    TypeReader{kListingsBarrandov, readBarrandovLists},
     TypeReader{kListingsDigiSport, readDigiSportLists},
     TypeReader{kListingsJojCinema, readJojCinemaLists},
     TypeReader{kListingsPrimaMax, nullptr},
