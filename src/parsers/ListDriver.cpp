@@ -1,6 +1,7 @@
 #include "parsers/ListDriver.h"
 
 #include "parsers/BarrandovListReader.h"
+#include "parsers/CinestarListReader.h"
 #include "parsers/ComedyCentralListReader.h"
 #include "parsers/DigiSportListReader.h"
 #include "parsers/DolceSportListReader.h"
@@ -39,7 +40,7 @@ constexpr std::array kReaders{
     TypeReader{kListingsHBO, readHBOLists},
     TypeReader{kListingsNova, readNovaLists},
     TypeReader{kListingsDolceSport, readDolceSportLists},
-    TypeReader{kListingsCinestar, nullptr},
+    TypeReader{kListingsCinestar, readCinestarLists},
     TypeReader{kListingsComedyCentral, readComedyCentralLists},
 };
 

@@ -115,4 +115,29 @@ std::optional<std::size_t> MarkerPlaces::next(std::size_t from) const {
     return place == m_places.end() ? std::nullopt : std::optional(*place);
 }
 
+MarkedFields::MarkedFields(std::string_view text, std::string_view from, std::string_view upTo)
+    : m_text(text)
+    , m_closingSize(upTo.size()) {
+    std::size_t end = 0;
+    const MarkerPlaces openings(text, from);
+    for (const std::size_t opening : openings.all()) {
+        const std::size_t start = opening + from.size();
+        if (end < start) {
+            end = search(text, start, text.size(), upTo);
+        }
+        m_places.push_back({opening, start, end});
+    }
+}
+
+std::optional<MarkedFields::Field> MarkedFields::next(std::size_t from, std::size_t limit) const {
+    const auto place = std::lower_bound(
+        m_places.begin(), m_places.end(), from,
+        [](const Place& candidate, std::size_t position) { return candidate.opening < position; });
+    if (place == m_places.end() || std::min(limit, m_text.size()) < m_closingSize ||
+        place->end > std::min(limit, m_text.size()) - m_closingSize) {
+        return std::nullopt;
+    }
+    return Field{m_text.substr(place->start, place->end - place->start), place->end};
+}
+
 } // namespace guide

@@ -90,6 +90,34 @@ class MarkerPlaces {
     std::vector<std::size_t> m_places;
 };
 
+/// What stands between two markers, wherever in a text it does: for fields that are looked for from many
+/// places, as MarkerPlaces, where also the closing marker may be missing.
+class MarkedFields {
+  public:
+    struct Field {
+        std::string_view text;
+        /// Where the closing marker starts.
+        std::size_t end;
+    };
+
+    MarkedFields(std::string_view text, std::string_view from, std::string_view upTo);
+
+    /// The field of the first opening marker at or behind `from`; nothing when there is none, or when the
+    /// field does not close before the limit.
+    std::optional<Field> next(std::size_t from, std::size_t limit = MarkerWalk::npos) const;
+
+  private:
+    struct Place {
+        std::size_t opening;
+        std::size_t start;
+        std::size_t end;
+    };
+
+    std::string_view m_text;
+    std::size_t m_closingSize;
+    std::vector<Place> m_places;
+};
+
 inline QString pageString(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }

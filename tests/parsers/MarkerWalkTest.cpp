@@ -46,6 +46,21 @@ TEST(MarkerPlaces, AnswersFromAnyPlace) {
     EXPECT_FALSE(places.next(5));
 }
 
+TEST(MarkedFields, AreFoundFromAnywhere) {
+    const std::string text = "<a>1</a> <a><a>2</a> <a>open";
+    const MarkedFields fields(text, "<a>", "</a>");
+    const auto first = fields.next(0);
+    ASSERT_TRUE(first);
+    EXPECT_EQ(first->text, "1");
+    EXPECT_EQ(first->end, 4U);
+    EXPECT_EQ(fields.next(1)->text, "<a>2") << "the first opening marker counts";
+    EXPECT_EQ(fields.next(10)->text, "2");
+    EXPECT_TRUE(fields.next(0, 8));
+    EXPECT_FALSE(fields.next(0, 7)) << "the closing marker has to end before the limit";
+    EXPECT_FALSE(fields.next(13));
+    EXPECT_FALSE(fields.next(100));
+}
+
 } // namespace
 
 } // namespace guide
