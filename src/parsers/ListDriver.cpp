@@ -12,6 +12,7 @@
 #include "parsers/PalinsestoListReader.h"
 #include "parsers/ParsersLog.h"
 #include "parsers/PortNetworkListReader.h"
+#include "parsers/PrimaMaxListReader.h"
 #include "parsers/XMLTVListReader.h"
 #include "sources/SourceId.h"
 
@@ -36,7 +37,7 @@ constexpr std::array kReaders{
     TypeReader{kListingsBarrandov, readBarrandovLists},
     TypeReader{kListingsDigiSport, readDigiSportLists},
     TypeReader{kListingsJojCinema, readJojCinemaLists},
-    TypeReader{kListingsPrimaMax, nullptr},
+    TypeReader{kListingsPrimaMax, readPrimaMaxLists},
     TypeReader{kListingsHBO, readHBOLists},
     TypeReader{kListingsNova, readNovaLists},
     TypeReader{kListingsDolceSport, readDolceSportLists},

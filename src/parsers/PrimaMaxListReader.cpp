@@ -1,0 +1,202 @@
+#include "parsers/PrimaMaxListReader.h"
+
+#include "parsers/EntryClassifier.h"
+#include "parsers/ParsersLog.h"
+#include "parsers/ReaderPages.h"
+#include "parsers/ZoneClock.h"
+#include "text/MarkupText.h"
+
+#include <algorithm>
+
+namespace guide {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int kMostDays = 14;
+constexpr std::chrono::hours kDay(24);
+constexpr std::string_view kTab = "class=\"tab tab-active\"";
+constexpr std::string_view kRow = "<div class=\"row\">";
+constexpr std::string_view kTime = "<time>";
+
+/// The text inside the tags around it.
+std::string_view withoutTags(std::string_view text) {
+    if (text.ends_with('>')) {
+        text = text.substr(0, std::min(text.rfind('<'), text.size()));
+    }
+    const std::size_t tag = text.rfind('>');
+    return tag == std::string_view::npos || tag + 1 == text.size() ? text : text.substr(tag + 1);
+}
+
+QString trimmed(std::string_view text) {
+    return trimmedListingText(pageString(text)).value_or(QString());
+}
+
+/// Moves the episode, which stands in parentheses at the end of a title, to the details.
+void splitEpisode(QString& title, TVEntry& entry) {
+    const qsizetype open = title.lastIndexOf(" ("_L1);
+    if (open >= 0 && title.indexOf(u')') == title.size() - 1) {
+        entry.setInstantDetails1("ep. "_L1 + title.sliced(open + 2, title.size() - open - 3));
+        title.truncate(open);
+    }
+}
+
+enum class Part { Fact, Ignored, Roles, Director };
+
+struct Separator {
+    QString text;
+    Part part;
+    qsizetype position = -1;
+};
+
+/// The separators that the block has, each at its first place, in the order of their places.
+std::vector<Separator> separatorsOf(const QString& block) {
+    std::vector<Separator> separators{{u".. "_s, Part::Fact},
+                                      {u"… "_s, Part::Ignored},
+                                      {u" Dále Hrají "_s, Part::Roles},
+                                      {u" Režie "_s, Part::Director}};
+    for (Separator& separator : separators) {
+        separator.position = block.indexOf(separator.text, 0, Qt::CaseInsensitive);
+        if (separator.position < 0 && separator.part == Part::Roles) {
+            separator = {u" Hrají "_s, Part::Ignored};
+            separator.position = block.indexOf(separator.text, 0, Qt::CaseInsensitive);
+        }
+    }
+    std::erase_if(separators, [](const Separator& separator) { return separator.position < 0; });
+    std::sort(separators.begin(), separators.end(),
+              [](const Separator& a, const Separator& b) { return a.position < b.position; });
+    return separators;
+}
+
+/// Takes the one text of a show apart.
+void readBlock(const QString& block, TVEntry& entry, TVEntrySupplementalData& details) {
+    const std::vector<Separator> separators = separatorsOf(block);
+    for (std::size_t i = 0; i < separators.size(); ++i) {
+        const qsizetype start = separators[i].position + separators[i].text.size();
+        const qsizetype end = i + 1 < separators.size() ? separators[i + 1].position : block.size();
+        if (start >= end) {
+            continue;
+        }
+        const QString text = block.sliced(start, end - start);
+        switch (separators[i].part) {
+        case Part::Fact:
+            entry.setInstantDetails1(entry.instantDetails1() ? *entry.instantDetails1() + ", "_L1 + text
+                                                             : text);
+            break;
+        case Part::Roles:
+            details.roles = text;
+            break;
+        case Part::Director:
+            details.directedBy = text;
+            break;
+        case Part::Ignored:
+            break;
+        }
+    }
+    QString description = separators.empty() ? block : block.first(separators.front().position);
+    if (!description.isEmpty() && !description.endsWith(u'.')) {
+        description += u'.';
+    }
+    details.description = description;
+}
+
+class DayReader {
+  public:
+    DayReader(const ListReaderInput& input, std::string_view text, std::vector<ExtendedTVEntry>& list)
+        : m_input(input)
+        , m_item(input.items.front())
+        , m_list(list)
+        , m_rows(text, kRow)
+        , m_titles(text, "<h3 class=\"broadcast-title broadcast-title-xs\">", "</h3>")
+        , m_blocks(text, "<p class=\"m-top broadcast-description\">", "<")
+        , m_pictures(text, "<img src=\"", "\"") {}
+
+    QDate dateAt(Moment moment) { return m_prague.dateAt(moment); }
+
+    /// `dateAfter` is the next day's, for what follows midnight.
+    void read(MarkerWalk day, QDate date, const QDate& dateAfter) {
+        std::string_view previous;
+        while (!day.atEnd()) {
+            const auto nextRow = m_rows.next(day.position());
+            MarkerWalk row = day.part(day.position(), nextRow ? *nextRow + kRow.size() : day.limit());
+            const std::size_t start = row.position();
+            if (!row.pass(kTime)) {
+                return;
+            }
+            const std::string_view time = row.characters(5);
+            day.moveTo(row.position());
+            day.moveTo(day.findOrLimit(kTime));
+            if (!previous.empty() && previous >= time) {
+                date = dateAfter;
+            } else {
+                previous = time;
+            }
+            const auto clockTime = timeOfDay(time);
+            if (const auto moment = clockTime ? m_prague.momentAt(date, *clockTime) : std::nullopt) {
+                addShow(start, row.limit(), *moment);
+            }
+        }
+    }
+
+  private:
+    /// Of the row from `begin` to `end`.
+    void addShow(std::size_t begin, std::size_t end, Moment start) {
+        const auto name = m_titles.next(begin, end);
+        const auto block = name ? m_blocks.next(begin, end) : std::nullopt;
+        if (!block) {
+            return;
+        }
+        ExtendedTVEntry show;
+        show.basic = newEntry(m_input, m_item, start);
+        show.extra = std::make_shared<TVEntrySupplementalData>();
+        QString title = trimmed(withoutTags(name->text));
+        splitEpisode(title, *show.basic);
+        if (title.isEmpty()) {
+            return;
+        }
+        show.basic->setIdentificator(title);
+        readBlock(trimmed(block->text), *show.basic, *show.extra);
+        if (const auto picture = m_pictures.next(begin, end)) {
+            show.pictures.insert(QUrl(pageString(picture->text)));
+        }
+        show.basic->setSourceId(m_item.sourceId);
+        show.categories = classifyEntry(*show.basic);
+        m_list.push_back(std::move(show));
+    }
+
+    const ListReaderInput& m_input;
+    const LoadItem& m_item;
+    std::vector<ExtendedTVEntry>& m_list;
+    const MarkerPlaces m_rows;
+    const MarkedFields m_titles;
+    const MarkedFields m_blocks;
+    const MarkedFields m_pictures;
+    ZoneClock m_prague{QTimeZone("Europe/Prague")};
+};
+
+} // namespace
+
+void readPrimaMaxLists(const ListReaderInput& input, ParsedLists& lists) {
+    const QByteArray text = joinedPages(input.pages);
+    MarkerWalk walk(pageText(text), input.trace);
+    DayReader reader(input, pageText(text), lists[input.items.front().channel]);
+
+    Moment day = input.now;
+    for (int i = 0; i < kMostDays; ++i, day += kDay) {
+        const QDate date = reader.dateAt(day);
+        if (!walk.pass(kTab)) {
+            qCInfo(parsersLog, "dayKey %s not found", qPrintable(date.toString(Qt::ISODate)));
+            return;
+        }
+        if (!walk.pass(kRow)) {
+            qCInfo(parsersLog, "class item not found");
+            return;
+        }
+        const std::size_t end = walk.findOrLimit(kTab);
+        reader.read(walk.part(walk.position(), end), date, reader.dateAt(day + kDay));
+        walk.moveTo(end);
+    }
+}
+
+} // namespace guide
