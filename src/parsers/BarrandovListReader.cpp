@@ -26,29 +26,6 @@ QString slugOf(const QString& name) {
     return name.section(u' ', name.startsWith("Barrandov "_L1) ? 1 : 0).section(u' ', 0, 0).toLower();
 }
 
-/// A field of a window: a window has no end, so a field is the first behind the window's start. Found once
-/// for the whole page.
-class Field {
-  public:
-    Field(std::string_view text, std::string_view marker, const MarkerPlaces& ends)
-        : m_text(text)
-        , m_size(marker.size())
-        , m_starts(text, marker)
-        , m_ends(ends) {}
-
-    std::optional<std::string_view> behind(std::size_t place) const {
-        const auto start = m_starts.next(place);
-        const auto end = start ? m_ends.next(*start + m_size) : std::nullopt;
-        return end ? std::optional(m_text.substr(*start + m_size, *end - *start - m_size)) : std::nullopt;
-    }
-
-  private:
-    std::string_view m_text;
-    std::size_t m_size;
-    MarkerPlaces m_starts;
-    const MarkerPlaces& m_ends;
-};
-
 /// The windows of a page by their ids, of which a link may give the beginning alone.
 class Windows {
   public:
@@ -115,6 +92,11 @@ class PageReader {
     }
 
   private:
+    static std::optional<std::string_view> fieldBehind(const MarkedFields& fields, std::size_t place) {
+        const auto field = fields.next(place);
+        return field ? std::optional(field->text) : std::nullopt;
+    }
+
     /// "dd.MM.yyyy HH:mm".
     std::optional<Moment> momentOf(std::string_view text) {
         const std::size_t blank = text.find(' ');
@@ -127,21 +109,21 @@ class PageReader {
     }
 
     void addShow(const LoadItem& item, std::size_t window, std::vector<ExtendedTVEntry>& list) {
-        const auto date = m_date.behind(window);
+        const auto date = fieldBehind(m_date, window);
         const auto start = date ? momentOf(*date) : std::nullopt;
-        const auto title = start ? m_title.behind(window) : std::nullopt;
+        const auto title = start ? fieldBehind(m_title, window) : std::nullopt;
         if (!title) {
             return;
         }
         ExtendedTVEntry show;
         show.basic = newEntry(m_input, item, pageString(*title), *start);
         show.basic->setSourceId(item.sourceId);
-        const auto repeat = m_repeat.behind(window);
+        const auto repeat = fieldBehind(m_repeat, window);
         show.basic->setPreviouslyShown(repeat && *repeat != "NE");
         show.categories = classifyEntry(*show.basic);
-        const auto perex = m_perex.behind(window);
-        const auto about = m_about.behind(window);
-        const auto picture = m_site ? m_picture.behind(window) : std::nullopt;
+        const auto perex = fieldBehind(m_perex, window);
+        const auto about = fieldBehind(m_about, window);
+        const auto picture = m_site ? fieldBehind(m_picture, window) : std::nullopt;
         if (perex || about || picture) {
             show.extra = std::make_shared<TVEntrySupplementalData>();
         }
@@ -164,16 +146,13 @@ class PageReader {
     const std::optional<QString> m_site;
     ZoneClock m_prague{QTimeZone("Europe/Prague")};
 
-    const MarkerPlaces m_rowEnds{m_text, "</li"};
-    const MarkerPlaces m_quotes{m_text, "\""};
-    const MarkerPlaces m_headEnds{m_text, "</h2>"};
-    const MarkerPlaces m_paragraphEnds{m_text, "</p>"};
-    const Field m_date{m_text, "<li><strong>Datum vysílání:</strong> ", m_rowEnds};
-    const Field m_repeat{m_text, "<li><strong>Repríza:</strong> ", m_rowEnds};
-    const Field m_picture{m_text, "<img src=\"", m_quotes};
-    const Field m_title{m_text, "<h2 class=\"show-detail__title\">", m_headEnds};
-    const Field m_perex{m_text, "<p class=\"show-detail__perex\">", m_paragraphEnds};
-    const Field m_about{m_text, "<p class=\"show-detail__about\">", m_paragraphEnds};
+    // A window has no end: a field is the first behind the window's start.
+    const MarkedFields m_date{m_text, "<li><strong>Datum vysílání:</strong> ", "</li"};
+    const MarkedFields m_repeat{m_text, "<li><strong>Repríza:</strong> ", "</li"};
+    const MarkedFields m_picture{m_text, "<img src=\"", "\""};
+    const MarkedFields m_title{m_text, "<h2 class=\"show-detail__title\">", "</h2>"};
+    const MarkedFields m_perex{m_text, "<p class=\"show-detail__perex\">", "</p>"};
+    const MarkedFields m_about{m_text, "<p class=\"show-detail__about\">", "</p>"};
 };
 
 } // namespace

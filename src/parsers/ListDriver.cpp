@@ -26,7 +26,6 @@ namespace {
 
 struct TypeReader {
     ListingsType type;
-    /// Null for a format that cannot be read yet.
     ListReader reader;
 };
 
@@ -62,10 +61,6 @@ ParsedLists ListDriver::read(const std::vector<LoadItem>& items, const std::vect
     const auto entry = std::find_if(kReaders.begin(), kReaders.end(),
                                     [type](const TypeReader& candidate) { return candidate.type == type; });
     if (entry == kReaders.end()) {
-        return lists;
-    }
-    if (!entry->reader) {
-        qCInfo(parsersLog, "no reader for listing type %u", type);
         return lists;
     }
     if (items.empty() || pages.empty()) {
