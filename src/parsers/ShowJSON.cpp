@@ -83,6 +83,12 @@ QJsonObject showJSON(const ShowItem& item) {
     return show;
 }
 
+QJsonObject showDetailsJSON(const ShowItem& item) {
+    return {{u"categories"_s, static_cast<qint64>(item.categories().value_or(0))},
+            {u"details"_s, detailsJSON(*item.details())},
+            {u"pictures"_s, picturesJSON(item.pictures())}};
+}
+
 QJsonObject listsJSON(const MergeResult& merged) {
     QJsonObject channels;
     for (const auto& [channel, list] : merged.lists) {

@@ -16,6 +16,9 @@ QString isoMoment(Moment moment);
 /// and the pictures in the order of their text. `item` has parts.
 QJsonObject showJSON(const ShowItem& item);
 
+/// The "categories", "details" and "pictures" of a show with details, no pictures as an empty list.
+QJsonObject showDetailsJSON(const ShowItem& item);
+
 /// The lists by channel, under "channels".
 QJsonObject listsJSON(const MergeResult& merged);
 
