@@ -50,6 +50,7 @@ std::vector<Command> sourceCommands();
 std::vector<Command> textCommands();
 std::vector<Command> catalogueCommands();
 std::vector<Command> listingsCommands();
+std::vector<Command> detailCommands();
 
 /// An unset text as null; a lone surrogate becomes the replacement character.
 QJsonValue jsonText(const std::optional<QString>& text);

@@ -1,24 +1,15 @@
 #include "parsers/ListDriver.h"
 #include "parsers/ShowJSON.h"
-#include "platform/Clock.h"
-#include "platform/Decompression.h"
-#include "platform/ResponseCache.h"
-#include "platform/linux/CurlHTTPClient.h"
-#include "platform/linux/EventLoopQueues.h"
 #include "probe/Command.h"
-#include "sources/HTTPUserAgent.h"
-#include "sources/NetworkActivity.h"
+#include "probe/ProbePages.h"
+#include "probe/StandingClock.h"
 #include "sources/PageFetcher.h"
-#include "sources/PageText.h"
 #include "sources/SourceId.h"
 #include "sources/URLPlanner.h"
 #include "store/ListMerge.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QRandomGenerator>
-
-#include <thread>
 
 namespace guide::probe {
 
@@ -26,19 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A clock that stands at the moment that counts as now.
-class StandingClock final : public Clock {
-  public:
-    explicit StandingClock(Moment now)
-        : m_now(now) {}
-    Moment now() const override { return m_now; }
-
-  private:
-    Moment m_now;
-};
-
 MergeResult readPages(const Context& context, const std::vector<LoadItem>& items,
-                      const std::vector<QByteArray>& pages, unsigned type) {
+                      const std::vector<QByteArray>& pages, unsigned type, MarkerTrace& trace) {
     const StandingClock clock(context.now);
     const Alphabet alphabet;
     const ListDriver driver({.clock = clock,
@@ -47,7 +27,7 @@ MergeResult readPages(const Context& context, const std::vector<LoadItem>& items
                              .merge = mergedLists,
                              .locale = context.device.locale(),
                              .timeZone = [&context] { return context.device.timeZone(); }});
-    return driver.netList(items, pages, context.now, type);
+    return mergedLists(items, driver.read(items, pages, context.now, type, &trace), context.now, type);
 }
 
 /// CHANNEL,SOURCE_ID,LANGUAGE: the source id may hold commas.
@@ -59,24 +39,6 @@ std::optional<LoadItem> loadItem(const QString& text) {
     }
     return LoadItem{ObjectId::fromHex(text.left(first)), text.mid(first + 1, last - first - 1),
                     text.mid(last + 1)};
-}
-
-std::variant<QByteArray, Failure> pageFromFile(const QString& path, const Context& context) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return Failure{u"%1 cannot be read: %2"_s.arg(path, file.errorString())};
-    }
-    std::optional<QByteArray> page = file.readAll();
-    const DecompressionLimits limits{context.device.physicalMemory()};
-    if (path.endsWith(".gz"_L1)) {
-        page = dataWithCompressedData(*page, limits);
-    } else if (path.endsWith(".xz"_L1)) {
-        page = dataWithXzData(*page, limits);
-    }
-    if (!page) {
-        return Failure{u"%1 cannot be unpacked"_s.arg(path)};
-    }
-    return *std::move(page);
 }
 
 Outcome parse(Context& context) {
@@ -97,46 +59,29 @@ Outcome parse(Context& context) {
     if (items.empty()) {
         return Failure{u"--item is missing"_s, true};
     }
-    std::vector<QByteArray> pages;
-    for (const QString& path : arguments.operands) {
-        auto page = pageFromFile(path, context);
-        if (const auto* failure = std::get_if<Failure>(&page)) {
-            return *failure;
-        }
-        pages.push_back(std::get<QByteArray>(std::move(page)));
+    auto pages = pagesFromFiles(arguments.operands, context);
+    if (const auto* failure = std::get_if<Failure>(&pages)) {
+        return *failure;
     }
-    return listsJSON(readPages(context, items, pages, type));
+    MarkerTrace trace;
+    return listsJSON(readPages(context, items, std::get<0>(pages), type, trace));
 }
 
 /// Fetches the pages of the URLs as a check does, up to the first that does not come. `why` says why it did
 /// not.
 std::vector<QByteArray> fetchPages(const Context& context, const QList<QUrl>& urls, QString& why) {
-    const StandingClock clock(context.now);
-    ResponseCache cache(clock, 0, [] { return std::chrono::milliseconds(0); });
-    CurlHTTPClient client(cache);
-    EventLoopQueues queues;
-    NetworkActivity activity(queues, [](bool) {});
-    const HTTPUserAgent userAgent([](unsigned bound) { return QRandomGenerator::global()->bounded(bound); });
-    const PageFetcher fetcher(
-        {.client = client,
-         .networkActivity = activity,
-         .physicalMemory = context.device.physicalMemory(),
-         .wait =
-             [](std::chrono::milliseconds time) {
-                 std::this_thread::sleep_for(time);
-                 return true;
-             },
-         .noRemoteHostAlert = [&](const TransferError& error) { why = error.description; }});
     std::vector<QByteArray> pages;
-    for (const QUrl& url : urls) {
-        NetPage page = fetcher.netPageForRequest(pageRequest(url, userAgent), true);
-        if (!page.page) {
-            const QString reason = why.isEmpty() ? u"status %1"_s.arg(page.status) : why;
-            why = u"%1: %2"_s.arg(url.toString(), reason);
-            break;
+    withNetwork(context, why, [&](const PageFetcher& fetcher, const HTTPUserAgent& userAgent) {
+        for (const QUrl& url : urls) {
+            NetPage page = fetcher.netPageForRequest(pageRequest(url, userAgent), true);
+            if (!page.page) {
+                const QString reason = why.isEmpty() ? u"status %1"_s.arg(page.status) : why;
+                why = u"%1: %2"_s.arg(url.toString(), reason);
+                break;
+            }
+            pages.push_back(*std::move(page.page));
         }
-        pages.push_back(*std::move(page.page));
-    }
+    });
     return pages;
 }
 
@@ -150,7 +95,8 @@ Outcome check(Context& context) {
                        {u"fetched"_s, 0},
                        {u"shows"_s, 0},
                        {u"first"_s, QJsonValue::Null},
-                       {u"last"_s, QJsonValue::Null}};
+                       {u"last"_s, QJsonValue::Null},
+                       {u"lastMissed"_s, QJsonValue::Null}};
     if (!urls) {
         return report;
     }
@@ -166,13 +112,16 @@ Outcome check(Context& context) {
     }
     report[u"fetched"_s] = qint64(pages.size());
     const LoadItem item{ObjectId(ObjectId::Bytes{}), sourceId, language};
+    MarkerTrace trace;
     const MergeResult result =
-        readPages(context, {item}, pages, listingsTypeForSourceId(sourceId, context.hosts));
+        readPages(context, {item}, pages, listingsTypeForSourceId(sourceId, context.hosts), trace);
     const auto list = result.lists.find(item.channel);
     if (list != result.lists.end() && !list->second->empty()) {
         report[u"shows"_s] = qint64(list->second->size());
         report[u"first"_s] = jsonMoment(list->second->front().entry()->dateTime());
         report[u"last"_s] = jsonMoment(list->second->back().entry()->dateTime());
+    } else if (!trace.lastMissed().empty()) {
+        report[u"lastMissed"_s] = QString::fromStdString(trace.lastMissed());
     }
     return report;
 }
