@@ -48,6 +48,7 @@ std::vector<Family> families() {
         // Each tab takes the place of the one before it, and the schedule ends in the eighth.
         {"Digi Sport", {u"dsk.Digi Šport 1"_s, u"dsk.Digi Šport 2"_s}, "Europe/Bratislava", 7, 3, 8, 3},
         {"JOJ Cinema", {u"joj.cinema"_s}, "Europe/Bratislava", -1, 6, 6, 6},
+        {"Prima Max", {u"%1/max"_s}, "Europe/Prague", 0, 0, 4, 6},
         {"HBO", {u"-hbo.hu.1"_s, u"-hbo.hu.2"_s}, "Europe/Budapest", -1, 6, 8, 3},
         {"Nova", {u"cz.nova.Nova"_s, u"cz.nova.Nova Cinema"_s}, "Europe/Prague", -1, 6, 8, 3},
         {"Dolce Sport", {u"dolce-sport.dolce-1"_s}, "Europe/Bucharest", 0, 8, 7, 8, true},
