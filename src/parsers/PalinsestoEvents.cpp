@@ -187,12 +187,13 @@ class Rows final : public XMLEvents {
             return;
         }
         const std::optional<QString> sourceId = m_rows.back().basic->sourceId();
-        Moment running = *m_rows.back().basic->dateTime();
-        // The day turns once, at the first show of the small hours.
+        const Moment running = *m_rows.back().basic->dateTime();
+        QDate date = m_rome.dateAt(running);
+        // The day turns once, at the first show of the small hours; to the next date, also where a change of
+        // the clock makes the day shorter.
         if (*time < hours(6) && hourAt(running) >= 6) {
-            running += hours(24);
+            date = date.addDays(1);
         }
-        const QDate date = m_rome.dateAt(running);
         TVEntry& entry = addRow();
         entry.setSourceId(sourceId);
         entry.setDateTime(m_rome.momentAt(date, *time));

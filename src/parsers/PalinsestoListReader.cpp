@@ -19,14 +19,21 @@ class Sections {
     Sections(std::string_view text, MarkerTrace& trace)
         : m_text(text) {
         MarkerWalk walk(text, trace);
+        std::optional<std::size_t> end;
         while (walk.pass(kId) && !walk.atEnd()) {
             const std::size_t code = walk.position();
-            MarkerWalk tag = walk;
-            const auto end = walk.find(kSectionEnd);
-            if (!end || !tag.pass(">") || tag.position() > *end) {
+            if (!end || *end < code) {
+                end = walk.find(kSectionEnd);
+            }
+            const std::size_t inside = end ? tagEnd(code, *end) : 0;
+            if (inside == 0) {
                 break;
             }
-            m_sections.push_back({code, tag.position(), *end});
+            if (text[inside - 2] == '/') {
+                walk.moveTo(inside); // a channel without a section
+                continue;
+            }
+            m_sections.push_back({code, inside, *end});
             walk.moveTo(*end);
         }
     }
@@ -54,6 +61,22 @@ class Sections {
         std::size_t inside;
         std::size_t end;
     };
+
+    /// Behind the tag in one of whose values the position stands; 0 when it does not end before the limit.
+    std::size_t tagEnd(std::size_t position, std::size_t limit) const {
+        char quote = '"';
+        for (; position < limit; ++position) {
+            const char character = m_text[position];
+            if (quote != '\0') {
+                quote = character == quote ? '\0' : quote;
+            } else if (character == '>') {
+                return position + 1;
+            } else if (character == '"' || character == '\'') {
+                quote = character;
+            }
+        }
+        return 0;
+    }
 
     void append(QByteArray& document, std::size_t from, std::size_t to) const {
         document.append(m_text.data() + from, static_cast<qsizetype>(to - from));
