@@ -22,6 +22,7 @@ constexpr std::string_view kTime = "<time>";
 
 /// The text inside the tags around it.
 std::string_view withoutTags(std::string_view text) {
+    text = text.substr(0, text.find_last_not_of(" \t\r\n") + 1);
     if (text.ends_with('>')) {
         text = text.substr(0, std::min(text.rfind('<'), text.size()));
     }

@@ -41,7 +41,7 @@ class ImpatientHTTPClient final : public HTTPClient {
     TransferResult perform(const HTTPRequest& request) override {
         HTTPRequest hasty = request;
         hasty.timeout = m_patience;
-        hasty.resourceTimeout = m_patience * 6;
+        hasty.resourceTimeout = m_patience * 2;
         return m_client.perform(hasty);
     }
     void removeCachedResponse(const HTTPRequest& request) override { m_client.removeCachedResponse(request); }
@@ -99,7 +99,7 @@ class GuideWorld {
     Folders folders;
     SourceHostTable hosts;
     /// How long a transfer may be silent.
-    std::chrono::milliseconds patience{250};
+    std::chrono::milliseconds patience{750};
 
   private:
     void furnish(const std::vector<QStringList>& sources);
