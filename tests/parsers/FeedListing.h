@@ -4,7 +4,9 @@
 #include "parsers/XMLTVToEntries.h"
 
 #include <QJsonDocument>
+#include <QXmlStreamReader>
 
+#include <algorithm>
 #include <map>
 #include <string>
 #include <vector>
@@ -26,6 +28,24 @@ inline FeedListing listing(const QByteArray& feed, const std::vector<QString>& c
         }
     }
     return lists;
+}
+
+inline bool isWellFormed(const QByteArray& document) {
+    QXmlStreamReader reader(document);
+    while (!reader.atEnd()) {
+        reader.readNext();
+    }
+    return !reader.hasError();
+}
+
+/// Whether each list of the one is the beginning of the same list of the other.
+inline bool isPrefix(const FeedListing& whole, const FeedListing& ours) {
+    return std::all_of(whole.begin(), whole.end(), [&ours](const auto& channel) {
+        const auto& [id, list] = channel;
+        const auto found = ours.find(id);
+        return found != ours.end() && found->second.size() >= list.size() &&
+               std::equal(list.begin(), list.end(), found->second.begin());
+    });
 }
 
 } // namespace guide::test

@@ -2,8 +2,6 @@
 
 #include "parsers/FeedListing.h"
 
-#include <QXmlStreamReader>
-
 #include <array>
 #include <gtest/gtest.h>
 #include <random>
@@ -13,6 +11,8 @@ namespace guide {
 namespace {
 
 using test::FeedListing;
+using test::isPrefix;
+using test::isWellFormed;
 
 const Alphabet kAlphabet;
 const Moment kNow = std::chrono::sys_days{std::chrono::year{2026} / 11 / 21};
@@ -134,23 +134,6 @@ const std::array<Piece, 4> kGaps{
 
 std::string foot(const Piece& head) {
     return head.name == std::string_view("nested") ? "</group></title></tv>" : "</tv>";
-}
-
-bool isWellFormed(const QByteArray& document) {
-    QXmlStreamReader reader(document);
-    while (!reader.atEnd()) {
-        reader.readNext();
-    }
-    return !reader.hasError();
-}
-
-bool isPrefix(const FeedListing& whole, const FeedListing& ours) {
-    return std::all_of(whole.begin(), whole.end(), [&ours](const auto& channel) {
-        const auto& [id, list] = channel;
-        const auto found = ours.find(id);
-        return found != ours.end() && found->second.size() >= list.size() &&
-               std::equal(list.begin(), list.end(), found->second.begin());
-    });
 }
 
 const std::array<std::vector<QString>, 3> kWanted{

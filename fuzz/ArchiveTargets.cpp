@@ -1,0 +1,79 @@
+#include "FuzzInput.h"
+#include "FuzzTarget.h"
+#include "parsers/RecordedCall.h"
+#include "platform/Archive.h"
+#include "platform/ArchiveContainer.h"
+#include "platform/PropertyList.h"
+#include "store/ShowCoding.h"
+
+namespace guide::fuzz {
+
+namespace {
+
+/// An archive as it was found, or a list's file with a seal that fits, so that what lies behind it is
+/// reached.
+void readArchive(QByteArrayView bytes) {
+    static const Alphabet alphabet;
+    const FuzzInput input(bytes);
+    QByteArray archive = input.whole();
+    if (input.choice(2) == 1) {
+        archive.prepend(QByteArray(kArchiveHeaderSize, '\0'));
+        sealArchive(archive);
+    } else {
+        unarchivedRoot(archive);
+    }
+    const auto shows = unarchivedShows(archive, alphabet);
+    if (!shows) {
+        return;
+    }
+    for (const ShowItem& show : *shows) {
+        require(show.entry()->identificator() && show.entry()->dateTime(), "a show has a title and a start");
+    }
+    const auto again = unarchivedShows(archivedShows(*shows), alphabet);
+    require(again && again->size() == shows->size(), "a list that was read can be kept");
+}
+
+void readPropertyList(QByteArrayView bytes) {
+    propertyListFromData(FuzzInput(bytes).whole());
+}
+
+std::vector<QByteArray> archives() {
+    std::vector<QByteArray> seeds;
+    for (const char* format : {"xmltv", "hbo"}) {
+        for (const QString& stem : test::recordedStems(QString::fromLatin1(format))) {
+            const test::RecordedCall call(stem);
+            for (const auto& [channel, list] : call.lists(call.pages()).lists) {
+                const QByteArray archive = archivedShows(*list);
+                seeds.push_back(fuzzInput({archive}, 0));
+                seeds.push_back(fuzzInput({archive.sliced(kArchiveHeaderSize)}, 1));
+            }
+        }
+    }
+    return seeds;
+}
+
+} // namespace
+
+std::vector<FuzzTarget> archiveTargets() {
+    return {
+        {.name = "archive", .run = readArchive, .seeds = archives, .literals = {"store/ShowCoding.cpp"}},
+        {.name = "property-list",
+         .run = readPropertyList,
+         .seeds =
+             [] {
+                 const QByteArray xml =
+                     "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>Channels</key><array><dict>"
+                     "<key>Title</key><string>Č&amp;T</string><key>n</key><integer>-42</integer>"
+                     "<key>r</key><real>1.5</real><key>d</key><date>2025-12-31T18:30:00Z</date>"
+                     "<key>b</key><data>AAEC</data><true/></dict></array></dict></plist>";
+                 const QByteArray binary = QByteArray::fromHex("62706c6973743030d101025161a1035162080b0d0f000"
+                                                               "0000000000101000000000000000400000000000000"
+                                                               "00000000000000000011");
+                 return std::vector<QByteArray>{fuzzInput({xml}), fuzzInput({binary})};
+             },
+         .literals = {"platform/PropertyList.cpp", "platform/PropertyListBounds.cpp"},
+         .mostMemoryPerByte = 400},
+    };
+}
+
+} // namespace guide::fuzz

@@ -1,0 +1,140 @@
+#include "FuzzInput.h"
+#include "FuzzTarget.h"
+#include "parsers/DetailScraper.h"
+#include "parsers/IMDbLookup.h"
+#include "parsers/RecordedCall.h"
+#include "parsers/RecordedShows.h"
+#include "store/ShowCoding.h"
+
+#include <array>
+
+namespace guide::fuzz {
+
+namespace {
+
+/// A show page and the two pages behind it.
+constexpr std::size_t kMostPages = 3;
+
+struct Family {
+    const char* sourceId;
+    const char* url;
+    /// In tests/recorded-details/.
+    const char* page;
+};
+
+constexpr std::array kFamilies{
+    Family{"-hbo.ro.1", "https://h.example/x", "hbo.html"},
+    Family{"cc.romania", "https://cc.example/x", "comedycentral.html"},
+    Family{"cinestar.hr.1", "https://c.example/x", "cinestar.html"},
+    Family{"joj.cinema", "https://j.example/x", "joj.html"},
+    Family{"_1", "https://p.example/x", "palinsesto.html"},
+    Family{"42", "https://port.example/f?i_perf_id=99&z=1", "port.html"},
+    Family{"10000", "https://tv.example/f", "hr.html"},
+};
+
+/// Gives one page after the other, whatever is asked for.
+class PagesInTurn {
+  public:
+    explicit PagesInTurn(std::vector<QByteArray> pages)
+        : m_pages(std::move(pages)) {}
+
+    PageSource source() {
+        return [this](const QUrl& url) -> std::optional<QByteArray> {
+            require(url.isValid() && url.scheme().startsWith(QStringLiteral("http")),
+                    "what is fetched has an address of the web");
+            require(++m_asked <= kMostPages, "a show takes three fetches at most");
+            return m_asked <= m_pages.size() ? std::optional(m_pages[m_asked - 1]) : std::nullopt;
+        };
+    }
+
+  private:
+    std::vector<QByteArray> m_pages;
+    std::size_t m_asked = 0;
+};
+
+void scrapeDetails(QByteArrayView bytes) {
+    static const Alphabet alphabet;
+    const FuzzInput input(bytes);
+    const Family& family = kFamilies[input.choice(kFamilies.size())];
+    PagesInTurn pages(input.textParts(kMostPages));
+    const auto entry = std::make_shared<TVEntry>(alphabet);
+    entry->setSourceId(QString::fromLatin1(family.sourceId));
+    entry->setUrl(QUrl(QString::fromLatin1(family.url)));
+    entry->setIdentificator(QStringLiteral("Title"));
+    entry->setDateTime(Moment(std::chrono::hours(1)));
+    const DetailScraper scraper(
+        {.pages = pages.source(), .hosts = test::recordedHosts(), .update = {}, .locale = QLocale::c()});
+    const auto show = scraper.netDescriptionFor(entry);
+    if (!show) {
+        return;
+    }
+    for (const QUrl& picture : show->pictures()) {
+        require(picture.isValid() && !picture.host().isEmpty(), "a picture has an address of the web");
+    }
+    const auto read = unarchivedShows(archivedShows(std::array{*show}), alphabet);
+    require(read && read->size() == 1, "a show with details can be kept");
+}
+
+void findRecordings(QByteArrayView bytes) {
+    const FuzzInput input(bytes);
+    PagesInTurn pages(input.textParts(2));
+    recordedShowsWithTitle(QStringLiteral("Dnevnik"), test::recordedHosts(), pages.source());
+}
+
+void findFilm(QByteArrayView bytes) {
+    static const QUrl search(QStringLiteral("https://imdb.example/find?q=x"));
+    const FuzzInput input(bytes);
+    const IMDbAnswer answer = imdbAnswer(input.whole(), search, input.choice(2) == 1);
+    if (answer.imdbURL) {
+        require(answer.imdbURL->host() == search.host(), "a film's page is on the site that was searched");
+    }
+}
+
+} // namespace
+
+std::vector<FuzzTarget> detailTargets() {
+    return {
+        {.name = "details",
+         .run = scrapeDetails,
+         .seeds =
+             [] {
+                 const QByteArray bottom =
+                     R"(<a href="/pls/me/media.popup_top?i_area_id=17&amp;i_object_id=4711&amp;i_n=3">)";
+                 const QByteArray top =
+                     R"({baseUrl:"http:\/\/video.example\/",x:1,hd_available:true,hd_url:"t\/4711.mp4"})"
+                     R"(<img class="object_picture" src="/pic/4711_3.jpg">)";
+                 std::vector<QByteArray> seeds;
+                 for (std::size_t i = 0; i < kFamilies.size(); ++i) {
+                     const QByteArray page =
+                         test::recordedContent(QStringLiteral(QUELLIN_TEST_DATA "/recorded-details/") +
+                                               QString::fromLatin1(kFamilies[i].page));
+                     seeds.push_back(fuzzInput({page, bottom, top}, i));
+                 }
+                 return seeds;
+             },
+         .literals = {"parsers/HBODetails.cpp", "parsers/ComedyCentralDetails.cpp",
+                      "parsers/CinestarDetails.cpp", "parsers/JojCinemaDetails.cpp",
+                      "parsers/PalinsestoDetails.cpp", "parsers/PortDetails.cpp", "parsers/PortPopups.cpp",
+                      "parsers/PlainText.cpp"}},
+        {.name = "recorded-shows",
+         .run = findRecordings,
+         .seeds =
+             [] {
+                 return std::vector<QByteArray>{fuzzInput(
+                     {R"(<a href="/enz/a/">Jutro</a><li><a class="x" href="/enz/dnevnik/">Dnevnik</a>)",
+                      R"(<select id="d"><option value="1">Ned</option><option value="2">Pon</option></select>)"})};
+             },
+         .literals = {"parsers/RecordedShows.cpp"}},
+        {.name = "imdb",
+         .run = findFilm,
+         .seeds =
+             [] {
+                 return std::vector<QByteArray>{fuzzInput(
+                     {R"(<tr><td class="primary_photo"> <a href="/title/tt1/" ><img src="https://x/a._V1_UX32_CR0,0,32,44_AL_.jpg"></a>A (TV Series)</tr>)"},
+                     1)};
+             },
+         .literals = {"parsers/IMDbLookup.cpp"}},
+    };
+}
+
+} // namespace guide::fuzz

@@ -1,0 +1,98 @@
+#include "FuzzInput.h"
+#include "FuzzTarget.h"
+#include "parsers/RecordedCall.h"
+#include "store/ShowCoding.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace guide::fuzz {
+
+namespace {
+
+/// More pages than any source plans.
+constexpr std::size_t kMostPages = 16;
+
+struct Format {
+    const char* folder;
+    std::vector<std::string> literals;
+};
+
+using Calls = std::vector<test::RecordedCall>;
+
+/// A list as the store takes it, and keeps it through its file.
+void requireGoodList(const ShowList& list) {
+    require(list && !list->empty(), "a stored list has shows");
+    const auto start = [](const ShowItem& show) { return show.entry()->dateTime(); };
+    for (const ShowItem& show : *list) {
+        require(start(show).has_value(), "a stored show has a start");
+    }
+    require(std::is_sorted(list->begin(), list->end(),
+                           [&](const ShowItem& a, const ShowItem& b) { return start(a) < start(b); }),
+            "a stored list is in the order of its starts");
+    const auto read = unarchivedShows(archivedShows(*list), Alphabet());
+    require(read.has_value(), "the file of a list can be read");
+    const auto titled = std::count_if(list->begin(), list->end(), [](const ShowItem& show) {
+        return show.entry()->identificator().has_value();
+    });
+    require(std::ssize(*read) == titled, "the file of a list has its shows");
+}
+
+/// Any pages, for the channels and at the moment of one of the recorded calls.
+void readPages(const Calls& calls, QByteArrayView bytes) {
+    const FuzzInput input(bytes);
+    const test::RecordedCall& call = calls[input.choice(calls.size())];
+    const MergeResult merged = call.lists(input.textParts(kMostPages));
+    require(merged.outcomes.size() == std::min(merged.outcomes.size(), call.items().size()),
+            "outcomes are of channels");
+    for (const auto& [channel, outcome] : merged.outcomes) {
+        require((outcome == MergeOutcome::Stored) == merged.lists.contains(channel),
+                "what is stored has a list");
+    }
+    for (const auto& [channel, list] : merged.lists) {
+        requireGoodList(list);
+    }
+}
+
+FuzzTarget readerTarget(const Format& format) {
+    const auto calls = std::make_shared<Calls>();
+    for (const QString& stem : test::recordedStems(QString::fromLatin1(format.folder))) {
+        calls->emplace_back(stem);
+    }
+    require(!calls->empty(), "every format has recorded pages");
+    return {.name = format.folder,
+            .run = [calls](QByteArrayView bytes) { readPages(*calls, bytes); },
+            .seeds =
+                [calls] {
+                    std::vector<QByteArray> seeds;
+                    for (std::size_t i = 0; i < calls->size(); ++i) {
+                        seeds.push_back(fuzzInput((*calls)[i].pages(), i));
+                    }
+                    return seeds;
+                },
+            .literals = format.literals};
+}
+
+} // namespace
+
+std::vector<FuzzTarget> readerTargets() {
+    const std::vector<Format> formats{
+        {"port-network", {"parsers/PortNetworkListReader.cpp"}},
+        {"xmltv", {"parsers/XMLTVSaxParser.cpp", "parsers/XMLTVToEntries.cpp", "parsers/FeedShow.cpp"}},
+        {"palinsesto", {"parsers/PalinsestoListReader.cpp", "parsers/PalinsestoEvents.cpp"}},
+        {"barrandov", {"parsers/BarrandovListReader.cpp"}},
+        {"digi-sport", {"parsers/DigiSportListReader.cpp"}},
+        {"joj-cinema", {"parsers/JojCinemaListReader.cpp"}},
+        {"prima-max", {"parsers/PrimaMaxListReader.cpp"}},
+        {"hbo", {"parsers/HBOListReader.cpp"}},
+        {"nova", {"parsers/NovaListReader.cpp"}},
+        {"dolce-sport", {"parsers/DolceSportListReader.cpp"}},
+        {"cinestar", {"parsers/CinestarListReader.cpp"}},
+        {"comedy-central", {"parsers/ComedyCentralListReader.cpp"}},
+    };
+    std::vector<FuzzTarget> targets;
+    std::transform(formats.begin(), formats.end(), std::back_inserter(targets), readerTarget);
+    return targets;
+}
+
+} // namespace guide::fuzz

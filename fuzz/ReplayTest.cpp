@@ -1,0 +1,70 @@
+#include "FuzzTarget.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+#include <random>
+
+namespace guide::fuzz {
+
+namespace {
+
+/// Runs the input; a failure ends the process, and the trace tells which input it was.
+void run(const FuzzTarget& target, const QByteArray& input, const std::string& what) {
+    const testing::ScopedTrace trace(__FILE__, __LINE__, target.name + ": " + what);
+    target.run(input);
+}
+
+/// A few bytes of one seed changed, cut or doubled.
+QByteArray changed(QByteArray input, std::mt19937& random) {
+    for (unsigned changes = 1 + random() % 4; changes > 0 && !input.isEmpty(); --changes) {
+        const auto at = static_cast<qsizetype>(random() % static_cast<unsigned>(input.size()));
+        const auto length = std::min<qsizetype>(input.size() - at, static_cast<qsizetype>(random() % 64));
+        switch (random() % 4) {
+        case 0:
+            input[at] = static_cast<char>(random());
+            break;
+        case 1:
+            input.remove(at, length);
+            break;
+        case 2:
+            input.insert(at, input.mid(at, length));
+            break;
+        default:
+            input.truncate(at);
+        }
+    }
+    return input;
+}
+
+TEST(Fuzz, SeedsAndWhatIsLikeThemDoNoHarm) {
+    constexpr int kChangesOfASeed = 40;
+    std::mt19937 random(20261121);
+    for (const FuzzTarget& target : fuzzTargets()) {
+        const std::vector<QByteArray> seeds = target.seeds();
+        EXPECT_FALSE(seeds.empty()) << target.name;
+        for (std::size_t i = 0; i < seeds.size(); ++i) {
+            run(target, seeds[i], "seed " + std::to_string(i));
+            for (int change = 0; change < kChangesOfASeed; ++change) {
+                run(target, changed(seeds[i], random), "a change of seed " + std::to_string(i));
+            }
+        }
+        run(target, {}, "nothing");
+    }
+}
+
+TEST(Fuzz, FormerFindsStayMended) {
+    for (const FuzzTarget& target : fuzzTargets()) {
+        const QDir finds(QStringLiteral(QUELLIN_FUZZ_REGRESSIONS "/") + QString::fromStdString(target.name));
+        for (const QString& name : finds.entryList(QDir::Files, QDir::Name)) {
+            QFile file(finds.filePath(name));
+            ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+            run(target, file.readAll(), name.toStdString());
+        }
+    }
+}
+
+} // namespace
+
+} // namespace guide::fuzz

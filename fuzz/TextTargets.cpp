@@ -1,0 +1,142 @@
+#include "FuzzInput.h"
+#include "FuzzTarget.h"
+#include "platform/Utf8.h"
+#include "text/Capitalisation.h"
+#include "text/CategoryMapping.h"
+#include "text/FeedTextCleaning.h"
+#include "text/FoldedText.h"
+#include "text/MarkupText.h"
+#include "text/MatchWord.h"
+#include "text/NaiveClassifier.h"
+#include "text/ShowClassifier.h"
+#include "text/TextPatterns.h"
+#include "text/Transliteration.h"
+
+#include <array>
+#include <cstring>
+
+namespace guide::fuzz {
+
+namespace {
+
+/// Above this the plain searches take too long.
+constexpr qsizetype kMostForNaive = 300;
+
+/// Texts of UTF-8, or any code units at all, lone surrogates among them.
+std::vector<QString> texts(const FuzzInput& input, std::size_t most) {
+    std::vector<QString> texts;
+    if (input.choice(4) == 3) {
+        const QByteArray bytes = input.whole();
+        QString text(bytes.size() / 2, u'\0');
+        std::memcpy(text.data(), bytes.constData(), static_cast<std::size_t>(text.size()) * 2);
+        texts.push_back(text);
+    } else {
+        for (const QByteArray& part : input.textParts(most)) {
+            texts.push_back(QString::fromUtf8(part));
+        }
+    }
+    texts.resize(most);
+    return texts;
+}
+
+void cleanTexts(QByteArrayView bytes) {
+    const std::vector<QString> given = texts(FuzzInput(bytes), 4);
+    const QLocale locale(QLocale::Turkish);
+    for (const QString& text : given) {
+        const QString title = showTitle(text, locale);
+        require(title.size() <= 3 * text.size(), "a title is no longer than what it is made of");
+        showInstantDescription(text);
+        hasProductionNote(text);
+        isRepeatMarked(text);
+        sentenceCase(capitalizedWords(text, locale), locale);
+    }
+    QString subtitle = given[0];
+    if (const auto range = bracketRange(subtitle)) {
+        require(range->start >= 0 && range->start + range->size <= subtitle.size(),
+                "a bracket lies within the text");
+        const QString bracket = applySubtitleBracket(subtitle, range->start, range->size);
+        require(bracket.size() == range->size, "a bracket is taken whole");
+    }
+    finishSubtitle(subtitle, given[1].size() % 2 == 1);
+    const CleanedDescription cleaned =
+        cleanDescription({.description = given[1],
+                          .roles = given[2].isEmpty() ? std::nullopt : std::optional(given[2]),
+                          .directedBy = std::nullopt},
+                         QStringLiteral("guide.example"));
+    require(cleaned.description->size() <= given[1].size() + 1, "a description gains a full stop at most");
+}
+
+void decodeTexts(QByteArrayView bytes) {
+    for (const QString& text : texts(FuzzInput(bytes), 2)) {
+        require(decodeMarkup(text).size() <= 10'000, "a fragment is bounded");
+        if (const auto trimmed = trimmedListingText(text)) {
+            require(!trimmed->isEmpty() && trimmed->size() <= text.size(), "a trimmed text is not empty");
+        }
+        withoutParentheses(text);
+        withoutBrackets(text);
+        withoutLabelTails(text);
+        const Alphabet alphabet(true);
+        for (const char* language : {"mk", "sr", "ru", "cs"}) {
+            latin2Cyrillic(text, QString::fromLatin1(language), alphabet);
+        }
+    }
+}
+
+void findWords(QByteArrayView bytes) {
+    const std::vector<QString> given = texts(FuzzInput(bytes), 3);
+    const QString folded = foldedText(given[0]);
+    require(foldedText(folded) == folded, "what is folded stays as it is");
+    require(foldedText(given[0].normalized(QString::NormalizationForm_D)) == folded,
+            "decomposed and composed texts fold alike");
+    mapCategoryAttribute(given[0]);
+    mapBracketCategories(given[0]);
+    mapSubtitleWords(given[0], given[1]);
+    mapDescriptionWords(given[2]);
+    mapInstantDescriptionWords(given[2]);
+    mapCategoryText(given[0]);
+    const auto found = classifyEntry(QStringLiteral("41"), {given[0], given[1], given[2]});
+    require((found & TVListingsCategorySeries) == 0 || (found & TVListingsCategoryAllFilm) == 0,
+            "no series beside a film");
+    if (given[0].size() + given[1].size() + given[2].size() <= kMostForNaive) {
+        require(found == naiveCategories(QStringLiteral("41"), given[0], given[1], given[2]),
+                "the categories are those of plain searches");
+        if (given[1].size() < given[0].size()) {
+            require(matchWord(given[0], given[1]) == naiveMatchWord(NaiveFold(given[0]), given[1]),
+                    "a word is found as by a plain search");
+        }
+    }
+}
+
+} // namespace
+
+std::vector<FuzzTarget> textTargets() {
+    const std::vector<QByteArray> feedTexts{
+        fuzzInput({"Ztraceni (USA/1999) [AD], S02E03 - Ostrov", "[Krimiserie] Návrat. (2)",
+                   "Režie: J. Novák. Hrají: A. Bílá, B. Černý.\r\n\r\nhttp://guide.example/", "A. Bílá"}),
+        fuzzInput({"DNEVNIK, r.", ". (Serija)", "Glumci: X, Y (Z).", ""}, 1)};
+    const std::vector<QByteArray> markup{
+        fuzzInput({"<![CDATA[ a & b ]]> &amp;#268;&quot &#x10C; &lt;p&gt;", "  -- Kućni  ljubimci "}),
+        fuzzInput({"Njegoš i Džep, ljubav", "shch yu"}, 1)};
+    const std::vector<QByteArray> words{
+        fuzzInput({"Kad lišće pada", "kućni ljubimci", "reportaža o filmu, s. f. South Park"}),
+        fuzzInput({"Fu\xcc\x88\xc3\x9f"
+                   "ball e\xcc\x81",
+                   "fussball", "priča za djecu, dječja serija"},
+                  2)};
+    return {
+        {.name = "text-cleaning",
+         .run = cleanTexts,
+         .seeds = [feedTexts] { return feedTexts; },
+         .literals = {"text/TitleCleaning.cpp", "text/SubtitleCleaning.cpp", "text/DescriptionCleaning.cpp"}},
+        {.name = "markup-text",
+         .run = decodeTexts,
+         .seeds = [markup] { return markup; },
+         .literals = {"text/MarkupText.cpp", "text/Transliteration.cpp"}},
+        {.name = "text-words",
+         .run = findWords,
+         .seeds = [words] { return words; },
+         .literals = {"text/ShowClassifierWords.cpp", "text/CategoryMapping.cpp"}},
+    };
+}
+
+} // namespace guide::fuzz
