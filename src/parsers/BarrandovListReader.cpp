@@ -4,6 +4,7 @@
 #include "parsers/EntryClassifier.h"
 #include "parsers/ReaderPages.h"
 #include "parsers/ZoneClock.h"
+#include "sources/WebURL.h"
 
 #include <algorithm>
 #include <map>
@@ -123,8 +124,10 @@ class PageReader {
         show.categories = classifyEntry(*show.basic);
         const auto perex = fieldBehind(m_perex, window);
         const auto about = fieldBehind(m_about, window);
-        const auto picture = m_site ? fieldBehind(m_picture, window) : std::nullopt;
-        if (perex || about || picture) {
+        const auto source = m_site ? fieldBehind(m_picture, window) : std::nullopt;
+        const QUrl picture = source ? QUrl(*m_site + pageString(*source)) : QUrl();
+        const bool isPictured = isWebURL(picture);
+        if (perex || about || isPictured) {
             show.extra = std::make_shared<TVEntrySupplementalData>();
         }
         if (perex) {
@@ -133,8 +136,8 @@ class PageReader {
         if (about) {
             show.extra->description = pageString(*about);
         }
-        if (picture) {
-            show.pictures.insert(QUrl(*m_site + pageString(*picture)));
+        if (isPictured) {
+            show.pictures.insert(picture);
         }
         list.push_back(std::move(show));
     }

@@ -1,5 +1,6 @@
 #include "parsers/DetailPage.h"
 
+#include "sources/WebURL.h"
 #include "text/MarkupText.h"
 
 namespace guide {
@@ -24,8 +25,7 @@ std::optional<QUrl> decodedLink(const std::optional<std::string_view>& lifted, c
         return std::nullopt;
     }
     const QUrl whole = link.isRelative() ? base.resolved(link) : link;
-    const bool ofTheWeb = whole.scheme() == "http"_L1 || whole.scheme() == "https"_L1;
-    return ofTheWeb && !whole.host().isEmpty() ? std::optional(whole) : std::nullopt;
+    return isWebURL(whole) ? std::optional(whole) : std::nullopt;
 }
 
 void addPicture(ShowDetails& show, const std::optional<QUrl>& picture) {

@@ -3,6 +3,7 @@
 #include "parsers/MarkerWalk.h"
 #include "parsers/ParsersLog.h"
 #include "parsers/ReaderPages.h"
+#include "sources/WebURL.h"
 
 #include <QStringDecoder>
 
@@ -40,7 +41,7 @@ std::optional<QUrl> searchFor(const QString& text, const SourceHostTable& hosts)
                                "/find?ref_=nv_sr_fn&q=" + QUrl::toPercentEncoding(text, "!$&'()*+,;=:@/?") +
                                "&s=tt";
     const QUrl url = QUrl::fromEncoded(encoded, QUrl::StrictMode);
-    if (!url.isValid() || url.host().isEmpty()) {
+    if (!isWebURL(url)) {
         qCInfo(parsersLog, "imdbLink: cannot convert urlString=%s to URL", encoded.constData());
         return std::nullopt;
     }
@@ -66,7 +67,7 @@ std::optional<QUrl> wholePicture(std::string_view link) {
         text.remove(start + scaling.size(), end - start - scaling.size());
     }
     const QUrl url(text);
-    if (!url.isValid() || (url.scheme() != "http"_L1 && url.scheme() != "https"_L1) || url.host().isEmpty()) {
+    if (!isWebURL(url)) {
         qCDebug(parsersLog).noquote() << "pictureURLString=" << text;
         return std::nullopt;
     }

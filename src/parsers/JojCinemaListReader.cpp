@@ -3,6 +3,7 @@
 #include "parsers/EntryClassifier.h"
 #include "parsers/ReaderPages.h"
 #include "parsers/ZoneClock.h"
+#include "sources/WebURL.h"
 
 namespace guide {
 
@@ -66,10 +67,11 @@ class DayReader {
         }
         const TVListingsCategory categories = classifyEntry(*entry);
         ExtendedTVEntry show{std::move(entry), categories, nullptr, {}};
-        MarkerWalk picture = whole;
-        if (const auto source = picture.take("<img src=\"", "\""); source && m_site) {
+        const auto source = MarkerWalk(whole).take("<img src=\"", "\"");
+        const QUrl picture = source && m_site ? QUrl(*m_site + pageString(*source)) : QUrl();
+        if (isWebURL(picture)) {
             show.extra = std::make_shared<TVEntrySupplementalData>();
-            show.pictures.insert(QUrl(*m_site + pageString(*source)));
+            show.pictures.insert(picture);
         }
         m_list.push_back(std::move(show));
     }

@@ -80,8 +80,9 @@ std::optional<Moment> timestampMoment(std::string_view text) {
 
 class Rows final : public XMLEvents {
   public:
-    Rows(const Alphabet& alphabet, const QLocale& locale)
-        : m_alphabet(alphabet)
+    Rows(const PalinsestoCodes& wanted, const Alphabet& alphabet, const QLocale& locale)
+        : m_wanted(wanted)
+        , m_alphabet(alphabet)
         , m_locale(locale)
         , m_rome(QTimeZone("Europe/Rome")) {}
 
@@ -128,7 +129,7 @@ class Rows final : public XMLEvents {
             }
             m_open = kOtherXMLElement;
         }
-        m_inUnusableShow = m_inUnusableShow && element != Prg;
+        m_inUnusableShow = m_inUnusableShow && element != Prg && element != Programma;
         m_text.reset();
     }
 
@@ -143,13 +144,17 @@ class Rows final : public XMLEvents {
     }
 
     void startProgramma(const XMLAttributes& attributes) {
-        const QString code = attribute(attributes, "idref");
-        const auto local = timestampMoment(attributes.value("timestamp").value_or(std::string_view()));
-        if (code.isEmpty() || !local) {
+        // The service lists all its channels, and few of them are wanted.
+        const auto code = m_wanted.find(attributes.value("idref").value_or(std::string_view()));
+        const auto local = code == m_wanted.end() || code->empty()
+                               ? std::nullopt
+                               : timestampMoment(attributes.value("timestamp").value_or(std::string_view()));
+        m_inUnusableShow = !local;
+        if (m_inUnusableShow) {
             return;
         }
         TVEntry& entry = addRow();
-        entry.setSourceId(u'_' + code);
+        entry.setSourceId(u'_' + pageString(*code));
         // Rome's offset is the one at that moment taken as UTC.
         entry.setDateTime(*local - m_rome.offsetAt(*local));
         if (const auto title = attributes.value("titolo")) {
@@ -161,10 +166,10 @@ class Rows final : public XMLEvents {
     void startGiorno(const XMLAttributes& attributes) {
         std::string data(attributes.value("data").value_or(std::string_view()));
         std::replace(data.begin(), data.end(), '/', '-');
-        if (const auto date = yearMonthDay(data)) {
-            // At noon no change of the clock can move it to another date.
-            addRow().setDateTime(m_rome.momentAt(*date, hours(12)));
-        }
+        // At noon no change of the clock can move it to another date. What follows a day that is none has no
+        // date, and not the one of the day before.
+        const auto date = yearMonthDay(data);
+        addRow().setDateTime(date ? m_rome.momentAt(*date, hours(12)) : std::nullopt);
     }
 
     void startCanale(const XMLAttributes& attributes) {
@@ -242,6 +247,7 @@ class Rows final : public XMLEvents {
         }
     }
 
+    const PalinsestoCodes& m_wanted;
     const Alphabet& m_alphabet;
     const QLocale m_locale;
     ZoneClock m_rome;
@@ -255,8 +261,9 @@ class Rows final : public XMLEvents {
 } // namespace
 
 std::optional<std::vector<ExtendedTVEntry>> palinsestoRows(const QByteArray& document,
+                                                           const PalinsestoCodes& wanted,
                                                            const Alphabet& alphabet, const QLocale& locale) {
-    Rows rows(alphabet, locale);
+    Rows rows(wanted, alphabet, locale);
     if (!parseXML(document, kElementNames, rows)) {
         return std::nullopt;
     }

@@ -86,6 +86,11 @@ class Sections {
     std::vector<Section> m_sections;
 };
 
+/// Source ids look like "_I1".
+std::string codeOf(const LoadItem& item) {
+    return item.sourceId.mid(1).toStdString();
+}
+
 /// Takes the rows of the item's channel, as shows of it.
 void addShows(const std::vector<ExtendedTVEntry>& rows, const LoadItem& item,
               std::vector<ExtendedTVEntry>& list) {
@@ -110,14 +115,18 @@ void addShows(const std::vector<ExtendedTVEntry>& rows, const LoadItem& item,
 void readPalinsestoLists(const ListReaderInput& input, ParsedLists& lists) {
     const QByteArray text = joinedPages(input.pages);
     const Sections sections(pageText(text), input.trace);
-    const auto rowsOf = [&input](const QByteArray& document) {
-        return palinsestoRows(document, input.alphabet, input.locale);
+    const auto rowsOf = [&input](const QByteArray& document, const PalinsestoCodes& wanted) {
+        return palinsestoRows(document, wanted, input.alphabet, input.locale);
     };
-    // A document without sections is the same for all.
-    const auto common = sections.empty() ? rowsOf(text) : std::nullopt;
+    PalinsestoCodes all;
     for (const LoadItem& item : input.items) {
-        const auto own =
-            sections.empty() ? std::nullopt : rowsOf(sections.documentOf(item.sourceId.mid(1).toStdString()));
+        all.insert(codeOf(item));
+    }
+    // A document without sections is the same for all.
+    const auto common = sections.empty() ? rowsOf(text, all) : std::nullopt;
+    for (const LoadItem& item : input.items) {
+        const std::string code = codeOf(item);
+        const auto own = sections.empty() ? std::nullopt : rowsOf(sections.documentOf(code), {code});
         if (const auto& rows = sections.empty() ? common : own) {
             std::vector<ExtendedTVEntry> list;
             addShows(*rows, item, list);

@@ -4,6 +4,7 @@
 #include "parsers/ParsersLog.h"
 #include "parsers/ReaderPages.h"
 #include "parsers/ZoneClock.h"
+#include "sources/WebURL.h"
 #include "text/MarkupText.h"
 
 #include <algorithm>
@@ -158,8 +159,9 @@ class DayReader {
         }
         show.basic->setIdentificator(title);
         readBlock(trimmed(block->text), *show.basic, *show.extra);
-        if (const auto picture = m_pictures.next(begin, end)) {
-            show.pictures.insert(QUrl(pageString(picture->text)));
+        const auto source = m_pictures.next(begin, end);
+        if (const QUrl picture = source ? QUrl(pageString(source->text)) : QUrl(); isWebURL(picture)) {
+            show.pictures.insert(picture);
         }
         show.basic->setSourceId(m_item.sourceId);
         show.categories = classifyEntry(*show.basic);
@@ -190,13 +192,14 @@ void readPrimaMaxLists(const ListReaderInput& input, ParsedLists& lists) {
             qCInfo(parsersLog, "dayKey %s not found", qPrintable(date.toString(Qt::ISODate)));
             return;
         }
-        if (!walk.pass(kRow)) {
+        MarkerWalk tab = walk.part(walk.position(), walk.findOrLimit(kTab));
+        walk.moveTo(tab.limit());
+        // A day without rows leaves the next day's to the next day.
+        if (tab.pass(kRow)) {
+            reader.read(tab, date, reader.dateAt(day + kDay));
+        } else {
             qCInfo(parsersLog, "class item not found");
-            return;
         }
-        const std::size_t end = walk.findOrLimit(kTab);
-        reader.read(walk.part(walk.position(), end), date, reader.dateAt(day + kDay));
-        walk.moveTo(end);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "sources/PageFetcher.h"
 
 #include "sources/PageText.h"
+#include "sources/WebURL.h"
 
 namespace guide {
 
@@ -23,8 +24,7 @@ std::optional<QUrl> redirection(const QUrl& from, const std::optional<HTTPRespon
         return std::nullopt;
     }
     const QUrl target = from.resolved(QUrl::fromEncoded(location->trimmed(), QUrl::TolerantMode));
-    const bool isWeb = target.scheme() == "http"_L1 || target.scheme() == "https"_L1;
-    return isWeb && target.isValid() && !target.host().isEmpty() ? std::optional(target) : std::nullopt;
+    return isWebURL(target) ? std::optional(target) : std::nullopt;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "sources/URLPlanner.h"
 
 #include "sources/SourceId.h"
+#include "sources/WebURL.h"
 
 #include <QDate>
 #include <QDateTime>
@@ -52,8 +53,7 @@ class Plan {
   public:
     void add(const QString& text) {
         const QUrl url(text, QUrl::TolerantMode);
-        if (!url.isValid() || url.host().isEmpty() ||
-            (url.scheme() != "http"_L1 && url.scheme() != "https"_L1)) {
+        if (!isWebURL(url)) {
             m_possible = false;
         } else if (!m_urls.contains(url)) {
             m_urls.append(url);
