@@ -14,9 +14,10 @@ using namespace Qt::StringLiterals;
 constexpr int kDays = 7;
 constexpr std::string_view kTime = "class=\"time\">";
 
-std::string dayText(const QDate& date) {
-    return std::to_string(date.day()) + '-' + std::to_string(date.month()) + '-' +
-           std::to_string(date.year());
+/// Of the page of that day.
+std::string activeDay(const QDate& date) {
+    return "day=" + std::to_string(date.day()) + '-' + std::to_string(date.month()) + '-' +
+           std::to_string(date.year()) + "\" class=\"active\"";
 }
 
 class DayReader {
@@ -94,13 +95,18 @@ void readJojCinemaLists(const ListReaderInput& input, ParsedLists& lists) {
     Moment day = input.now - std::chrono::hours(24);
     for (int i = 0; i < kDays; ++i, day += std::chrono::hours(24)) {
         const QDate date = bratislava.dateAt(day);
+        const QDate dateAfter = bratislava.dateAt(day + std::chrono::hours(24));
         MarkerWalk walk = page;
         // The days come in order: one that is missing ends the walk.
-        if (!walk.pass("day=" + dayText(date) + "\" class=\"active\"") || !walk.pass(" class=\"item\"")) {
+        if (!walk.pass(activeDay(date))) {
             return;
         }
-        reader.read(walk.part(walk.position(), walk.findOrLimit(" href=\"?day=")), date,
-                    bratislava.dateAt(day + std::chrono::hours(24)));
+        // A day without shows leaves the next day's to the next day.
+        const std::size_t nextDay = walk.findOrLimit(activeDay(dateAfter));
+        walk = walk.part(walk.position(), nextDay);
+        if (walk.pass(" class=\"item\"")) {
+            reader.read(walk.part(walk.position(), walk.findOrLimit(" href=\"?day=")), date, dateAfter);
+        }
     }
 }
 
