@@ -4,6 +4,8 @@
 // one.
 
 #include "GeneratedFeed.h"
+#include "fakes/ManualClock.h"
+#include "fakes/Packing.h"
 #include "parsers/ListDriver.h"
 #include "parsers/ProgrammeSkipScan.h"
 #include "parsers/XMLTVToEntries.h"
@@ -17,7 +19,6 @@
 #include <libxml/parser.h>
 #include <memory>
 #include <string>
-#include <zlib.h>
 
 namespace guide {
 
@@ -29,16 +30,6 @@ constexpr std::uint64_t kMemory = std::uint64_t{8} << 30;
 constexpr std::size_t kFewChannels = 12;
 constexpr double kMostOfUnpacking = 1.6;
 constexpr double kMostOfParsing = 2.4;
-
-class FixedClock final : public Clock {
-  public:
-    explicit FixedClock(Moment now)
-        : m_now(now) {}
-    Moment now() const override { return m_now; }
-
-  private:
-    Moment m_now;
-};
 
 QByteArray readFeed(const QString& path) {
     QFile file(path);
@@ -52,25 +43,6 @@ QByteArray readFeed(const QString& path) {
     return *std::move(page.text);
 }
 
-QByteArray gzipped(const QByteArray& plain) {
-    z_stream stream{};
-    constexpr int kGzipWindowBits = 31;
-    constexpr int kMemoryLevel = 8;
-    deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, kGzipWindowBits, kMemoryLevel,
-                 Z_DEFAULT_STRATEGY);
-    QByteArray packed(static_cast<qsizetype>(deflateBound(&stream, static_cast<uLong>(plain.size()))),
-                      Qt::Uninitialized);
-    std::string input = plain.toStdString();
-    stream.next_in = reinterpret_cast<Bytef*>(input.data());
-    stream.avail_in = static_cast<uInt>(input.size());
-    stream.next_out = reinterpret_cast<Bytef*>(packed.data());
-    stream.avail_out = static_cast<uInt>(packed.size());
-    deflate(&stream, Z_FINISH);
-    packed.truncate(static_cast<qsizetype>(stream.total_out));
-    deflateEnd(&stream);
-    return packed;
-}
-
 /// The feed that is measured, and what its lists have to hold.
 struct Subject {
     QByteArray plain;
@@ -78,7 +50,7 @@ struct Subject {
     /// Every channel that has shows, and how many.
     std::vector<QString> channels;
     std::vector<std::size_t> counts;
-    FixedClock clock{Moment{}};
+    ManualClock clock{Moment{}};
     Alphabet alphabet;
     SourceHostTable hosts;
     ListDriver driver{{.clock = clock, .alphabet = alphabet, .hosts = hosts, .merge = nullptr}};

@@ -65,6 +65,7 @@ FuzzTarget readerTarget(const Format& format) {
             .seeds =
                 [calls] {
                     std::vector<QByteArray> seeds;
+                    seeds.reserve(calls->size());
                     for (std::size_t i = 0; i < calls->size(); ++i) {
                         seeds.push_back(fuzzInput((*calls)[i].pages(), i));
                     }

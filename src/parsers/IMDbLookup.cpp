@@ -3,9 +3,8 @@
 #include "parsers/MarkerWalk.h"
 #include "parsers/ParsersLog.h"
 #include "parsers/ReaderPages.h"
+#include "platform/Utf8.h"
 #include "sources/WebURL.h"
-
-#include <QStringDecoder>
 
 namespace guide {
 
@@ -40,18 +39,12 @@ std::optional<QUrl> searchFor(const QString& text, const SourceHostTable& hosts)
     const QByteArray encoded = base->toUtf8() +
                                "/find?ref_=nv_sr_fn&q=" + QUrl::toPercentEncoding(text, "!$&'()*+,;=:@/?") +
                                "&s=tt";
-    const QUrl url = QUrl::fromEncoded(encoded, QUrl::StrictMode);
+    QUrl url = QUrl::fromEncoded(encoded, QUrl::StrictMode);
     if (!isWebURL(url)) {
         qCInfo(parsersLog, "imdbLink: cannot convert urlString=%s to URL", encoded.constData());
         return std::nullopt;
     }
     return url;
-}
-
-bool isUtf8(const QByteArray& page) {
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString decoded = decoder(page);
-    return !decoder.hasError() && !decoded.isEmpty();
 }
 
 /// The address without the part of the name that asks for a scaled picture.
@@ -66,7 +59,7 @@ std::optional<QUrl> wholePicture(std::string_view link) {
     if (start >= 0 && end > start + scaling.size()) {
         text.remove(start + scaling.size(), end - start - scaling.size());
     }
-    const QUrl url(text);
+    QUrl url(text);
     if (!isWebURL(url)) {
         qCDebug(parsersLog).noquote() << "pictureURLString=" << text;
         return std::nullopt;
@@ -106,7 +99,7 @@ IMDbAnswer imdbAnswer(const QByteArray& page, const QUrl& search, bool isSeries)
     MarkerTrace unasked;
     MarkerWalk walk(pageText(page), unasked);
     IMDbAnswer answer;
-    if (!isUtf8(page) || !walk.moveTo("class=\"primary_photo\"> <a href=\"/title/")) {
+    if (!isValidUtf8(page) || !walk.moveTo("class=\"primary_photo\"> <a href=\"/title/")) {
         return answer;
     }
     const std::size_t rowStart = walk.position();
