@@ -16,7 +16,8 @@ constexpr std::chrono::hours kDayTurn(3);
 
 struct SportChannel {
     const LoadItem* item;
-    /// Of its logo, in all tabs.
+    std::string logo;
+    /// In all tabs.
     MarkerPlaces logos;
 };
 
@@ -69,8 +70,9 @@ void readDigiSportLists(const ListReaderInput& input, ParsedLists& lists) {
 
     std::vector<SportChannel> channels;
     for (const LoadItem& item : input.items) {
-        const std::string logo = "alt=\"" + item.sourceId.mid(kPrefixLength).toStdString() + '"';
-        channels.push_back({&item, MarkerPlaces(pageText(text), logo)});
+        std::string logo = "alt=\"" + item.sourceId.mid(kPrefixLength).toStdString() + '"';
+        MarkerPlaces logos(pageText(text), logo);
+        channels.push_back({&item, std::move(logo), std::move(logos)});
     }
     for (int t = 0; t < kTabs; ++t) {
         MarkerWalk tab = page;
@@ -79,8 +81,12 @@ void readDigiSportLists(const ListReaderInput& input, ParsedLists& lists) {
         }
         for (const SportChannel& channel : channels) {
             const auto logo = channel.logos.next(tab.position());
+            if (!logo) {
+                input.trace.miss(channel.logo);
+                continue;
+            }
             // The address of the next logo closes the channel's block.
-            const auto end = logo ? page.part(*logo).find("http") : std::nullopt;
+            const auto end = page.part(*logo).find("http");
             if (!end) {
                 continue;
             }

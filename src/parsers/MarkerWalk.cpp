@@ -21,6 +21,24 @@ bool startsCharacter(char byte) {
 
 } // namespace
 
+void MarkerTrace::miss(std::string_view marker) {
+    m_lastMissed.assign(marker);
+    if (m_missed.size() < kMostMarkers &&
+        std::find(m_missed.begin(), m_missed.end(), marker) == m_missed.end()) {
+        m_missed.emplace_back(marker);
+    }
+}
+
+const std::string& MarkerTrace::changed(const std::vector<QByteArray>& pages) const {
+    const auto isNowhere = [&pages](const std::string& marker) {
+        return std::none_of(pages.begin(), pages.end(), [&marker](const QByteArray& page) {
+            return page.contains(QByteArrayView(marker));
+        });
+    };
+    const auto nowhere = std::find_if(m_missed.begin(), m_missed.end(), isNowhere);
+    return nowhere == m_missed.end() ? m_lastMissed : *nowhere;
+}
+
 MarkerWalk MarkerWalk::part(std::size_t from, std::size_t limit) const {
     MarkerWalk walk = *this;
     walk.m_limit = std::min(limit, m_limit);
@@ -115,9 +133,12 @@ std::optional<std::size_t> MarkerPlaces::next(std::size_t from) const {
     return place == m_places.end() ? std::nullopt : std::optional(*place);
 }
 
-MarkedFields::MarkedFields(std::string_view text, std::string_view from, std::string_view upTo)
+MarkedFields::MarkedFields(std::string_view text, std::string_view from, std::string_view upTo,
+                           MarkerTrace* trace)
     : m_text(text)
-    , m_closingSize(upTo.size()) {
+    , m_from(from)
+    , m_upTo(upTo)
+    , m_trace(trace) {
     std::size_t end = 0;
     const MarkerPlaces openings(text, from);
     for (const std::size_t opening : openings.all()) {
@@ -133,8 +154,11 @@ std::optional<MarkedFields::Field> MarkedFields::next(std::size_t from, std::siz
     const auto place = std::lower_bound(
         m_places.begin(), m_places.end(), from,
         [](const Place& candidate, std::size_t position) { return candidate.opening < position; });
-    if (place == m_places.end() || std::min(limit, m_text.size()) < m_closingSize ||
-        place->end > std::min(limit, m_text.size()) - m_closingSize) {
+    const std::size_t last = std::min(limit, m_text.size());
+    if (place == m_places.end() || last < m_upTo.size() || place->end > last - m_upTo.size()) {
+        if (m_trace) {
+            m_trace->miss(place == m_places.end() || place->start > last ? m_from : m_upTo);
+        }
         return std::nullopt;
     }
     return Field{m_text.substr(place->start, place->end - place->start), place->end};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <algorithm>
@@ -11,16 +12,24 @@
 
 namespace guide {
 
-/// What a reader looked for in vain, for whoever has to find out what a broadcaster changed. The last marker
-/// that was missed is the one that ended the reading.
+/// What a reader looked for in vain, for whoever has to find out what a broadcaster changed. Most of it is no
+/// fault: a search that comes to the end of a page's shows is one of them.
 class MarkerTrace {
   public:
-    void miss(std::string_view marker) { m_lastMissed.assign(marker); }
-    /// Empty when everything was found.
+    void miss(std::string_view marker);
+    /// The marker that was missed last; empty when everything was found.
     const std::string& lastMissed() const { return m_lastMissed; }
+    /// The first of the missed markers that none of the pages has anywhere, since that is the one that a
+    /// reader could not do without; where each is somewhere, the one that was missed last.
+    const std::string& changed(const std::vector<QByteArray>& pages) const;
 
   private:
+    /// A reader has few markers; those that name a day or a channel are not to pile up.
+    static constexpr std::size_t kMostMarkers = 64;
+
     std::string m_lastMissed;
+    /// Each once, in the order of the first misses.
+    std::vector<std::string> m_missed;
 };
 
 /// A walk over the text of a page from one literal marker to the next. Markers are compared byte by byte, in
@@ -91,7 +100,7 @@ class MarkerPlaces {
 };
 
 /// What stands between two markers, wherever in a text it does: for fields that are looked for from many
-/// places, as MarkerPlaces, where also the closing marker may be missing.
+/// places, as MarkerPlaces, where also the closing marker may be missing. The markers outlive the fields.
 class MarkedFields {
   public:
     struct Field {
@@ -100,7 +109,9 @@ class MarkedFields {
         std::size_t end;
     };
 
-    MarkedFields(std::string_view text, std::string_view from, std::string_view upTo);
+    /// `trace` is told of every field that is missed; without one the format can do without the field.
+    MarkedFields(std::string_view text, std::string_view from, std::string_view upTo,
+                 MarkerTrace* trace = nullptr);
 
     /// The field of the first opening marker at or behind `from`; nothing when there is none, or when the
     /// field does not close before the limit.
@@ -114,7 +125,9 @@ class MarkedFields {
     };
 
     std::string_view m_text;
-    std::size_t m_closingSize;
+    std::string_view m_from;
+    std::string_view m_upTo;
+    MarkerTrace* m_trace;
     std::vector<Place> m_places;
 };
 

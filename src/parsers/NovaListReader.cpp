@@ -5,6 +5,7 @@
 #include "parsers/ZoneClock.h"
 
 #include <array>
+#include <set>
 
 namespace guide {
 
@@ -79,6 +80,7 @@ void readItem(const ListReaderInput& input, const LoadItem& loadItem, const Mark
 
 void readNovaLists(const ListReaderInput& input, ParsedLists& lists) {
     ZoneClock prague(QTimeZone("Europe/Prague"));
+    std::set<const LoadItem*> listed;
     for (const QByteArray& page : input.pages) {
         MarkerWalk walk(pageText(page), input.trace);
         while (walk.pass(kLogo)) {
@@ -89,6 +91,7 @@ void readNovaLists(const ListReaderInput& input, ParsedLists& lists) {
             if (!loadItem) {
                 continue;
             }
+            listed.insert(loadItem);
             while (block.pass("<li class=\"channels-content-show\"")) {
                 const auto end = block.find("</li>");
                 if (!end) {
@@ -97,6 +100,12 @@ void readNovaLists(const ListReaderInput& input, ParsedLists& lists) {
                 readItem(input, *loadItem, block.part(block.position(), *end), prague, lists);
                 block.moveTo(*end);
             }
+        }
+    }
+    for (const LoadItem& item : input.items) {
+        // The site may call its channels something else now.
+        if (!listed.contains(&item)) {
+            input.trace.miss(std::string(kLogo) + item.sourceId.mid(kPrefixLength).toStdString() + '<');
         }
     }
 }

@@ -16,9 +16,10 @@ constexpr std::size_t kCodeLength = 2;
 /// A document's sections of channels, so that each channel's own can be had without the others'.
 class Sections {
   public:
-    Sections(std::string_view text, MarkerTrace& trace)
+    explicit Sections(std::string_view text)
         : m_text(text) {
-        MarkerWalk walk(text, trace);
+        MarkerTrace unasked;
+        MarkerWalk walk(text, unasked);
         std::optional<std::size_t> end;
         while (walk.pass(kId) && !walk.atEnd()) {
             const std::size_t code = walk.position();
@@ -114,7 +115,7 @@ void addShows(const std::vector<ExtendedTVEntry>& rows, const LoadItem& item,
 
 void readPalinsestoLists(const ListReaderInput& input, ParsedLists& lists) {
     const QByteArray text = joinedPages(input.pages);
-    const Sections sections(pageText(text), input.trace);
+    const Sections sections(pageText(text));
     const auto rowsOf = [&input](const QByteArray& document, const PalinsestoCodes& wanted) {
         return palinsestoRows(document, wanted, input.alphabet, input.locale);
     };
@@ -130,6 +131,9 @@ void readPalinsestoLists(const ListReaderInput& input, ParsedLists& lists) {
         if (const auto& rows = sections.empty() ? common : own) {
             std::vector<ExtendedTVEntry> list;
             addShows(*rows, item, list);
+            if (list.empty()) {
+                input.trace.miss(std::string(sections.empty() ? "idref=\"" : kId) + code + '"');
+            }
             lists[item.channel] = std::move(list);
         }
     }

@@ -85,6 +85,7 @@ class ProgrammeReader {
     void read(const QJsonObject& programme) {
         const QJsonValue title = programme[u"title"];
         if (!title.isString()) {
+            m_input.trace.miss("\"title\"");
             return;
         }
         QString name = title.toString();
@@ -95,6 +96,9 @@ class ProgrammeReader {
             name = u"No information"_s;
         }
         const auto start = momentOf(programme[u"start_datetime"]);
+        if (!start) {
+            m_input.trace.miss("\"start_datetime\"");
+        }
         if (!start || (!m_list.empty() && m_list.back().basic->dateTime() == start)) {
             return;
         }
@@ -142,7 +146,13 @@ void readPortNetworkLists(const ListReaderInput& input, ParsedLists& lists) {
     const QJsonObject days = document.object();
     for (const QJsonValue day : days) {
         const QJsonValue channel = day[u"channels"].toArray().first();
+        if (!channel.isObject()) {
+            input.trace.miss("\"channels\"");
+        }
         const QJsonArray programmes = channel[u"programs"].toArray();
+        if (programmes.isEmpty()) {
+            input.trace.miss("\"programs\"");
+        }
         for (const QJsonValue programme : programmes) {
             if (programme.isObject()) {
                 reader.read(programme.toObject());

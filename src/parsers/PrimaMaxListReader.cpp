@@ -110,8 +110,8 @@ class DayReader {
         , m_item(input.items.front())
         , m_list(list)
         , m_rows(text, kRow)
-        , m_titles(text, "<h3 class=\"broadcast-title broadcast-title-xs\">", "</h3>")
-        , m_blocks(text, "<p class=\"m-top broadcast-description\">", "<")
+        , m_titles(text, "<h3 class=\"broadcast-title broadcast-title-xs\">", "</h3>", &input.trace)
+        , m_blocks(text, "<p class=\"m-top broadcast-description\">", "<", &input.trace)
         , m_pictures(text, "<img src=\"", "\"") {}
 
     QDate dateAt(Moment moment) { return m_prague.dateAt(moment); }

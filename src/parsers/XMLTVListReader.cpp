@@ -76,6 +76,9 @@ void readXMLTVLists(const ListReaderInput& input, ParsedLists& lists) {
             std::move(feedChannel.entries.begin(), feedChannel.entries.end(), std::back_inserter(list));
         }
     }
+    if (lists.empty()) {
+        input.trace.miss(wanted.empty() ? "<programme" : "channel=\"" + wanted.front().toStdString() + '"');
+    }
 }
 
 } // namespace guide

@@ -84,7 +84,7 @@ class RecordedCall {
     }
 
     /// What the driver makes of the pages, its own or any others.
-    MergeResult lists(const std::vector<QByteArray>& pages) const {
+    MergeResult lists(const std::vector<QByteArray>& pages, MarkerTrace* trace = nullptr) const {
         const ManualClock clock(m_now);
         const Alphabet alphabet;
         const ListDriver driver({.clock = clock,
@@ -93,7 +93,7 @@ class RecordedCall {
                                  .merge = mergedLists,
                                  .locale = QLocale(QLocale::Czech, QLocale::CzechRepublic),
                                  .timeZone = [this] { return m_zone; }});
-        return driver.netList(m_items, pages, m_now, m_type);
+        return mergedLists(m_items, driver.read(m_items, pages, m_now, m_type, trace), m_now, m_type);
     }
 
   private:
