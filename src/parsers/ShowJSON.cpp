@@ -10,10 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QJsonValue json(const std::optional<QString>& text) {
-    return text ? QJsonValue(*text) : QJsonValue(QJsonValue::Null);
-}
-
 QJsonValue json(const std::optional<QUrl>& url) {
     return url ? QJsonValue(url->toString(QUrl::FullyEncoded)) : QJsonValue(QJsonValue::Null);
 }
@@ -24,11 +20,11 @@ QJsonValue json(const std::optional<Moment>& moment) {
 
 QJsonObject detailsJSON(const TVEntrySupplementalData& details) {
     return {
-        {u"description"_s, json(details.description)},
-        {u"episodeDescription"_s, json(details.episodeDescription)},
-        {u"details"_s, json(details.details)},
-        {u"directedBy"_s, json(details.directedBy)},
-        {u"roles"_s, json(details.roles)},
+        {u"description"_s, jsonText(details.description)},
+        {u"episodeDescription"_s, jsonText(details.episodeDescription)},
+        {u"details"_s, jsonText(details.details)},
+        {u"directedBy"_s, jsonText(details.directedBy)},
+        {u"roles"_s, jsonText(details.roles)},
         {u"imdbURL"_s, json(details.imdbURL)},
         {u"trailerURL"_s, json(details.trailerURL)},
     };
@@ -45,6 +41,24 @@ QJsonArray picturesJSON(const QSet<QUrl>& pictures) {
 
 } // namespace
 
+QJsonValue jsonText(const std::optional<QString>& text) {
+    if (!text) {
+        return QJsonValue::Null;
+    }
+    QString whole = *text;
+    for (qsizetype i = 0; i < whole.size(); ++i) {
+        if (!whole[i].isSurrogate()) {
+            continue;
+        }
+        if (whole[i].isHighSurrogate() && i + 1 < whole.size() && whole[i + 1].isLowSurrogate()) {
+            ++i;
+        } else {
+            whole[i] = QChar::ReplacementCharacter;
+        }
+    }
+    return whole;
+}
+
 QString isoMoment(Moment moment) {
     const auto sinceEpoch = moment.time_since_epoch().count();
     const QDateTime time = QDateTime::fromMSecsSinceEpoch(sinceEpoch, Qt::UTC);
@@ -55,15 +69,15 @@ QJsonObject showJSON(const ShowItem& item) {
     const TVEntry& entry = *item.entry();
     QJsonObject show{
         {u"channel"_s, entry.channel().hex()},
-        {u"sourceId"_s, json(entry.sourceId())},
-        {u"language"_s, json(entry.language())},
-        {u"title"_s, json(entry.title())},
-        {u"identificator"_s, json(entry.identificator())},
+        {u"sourceId"_s, jsonText(entry.sourceId())},
+        {u"language"_s, jsonText(entry.language())},
+        {u"title"_s, jsonText(entry.title())},
+        {u"identificator"_s, jsonText(entry.identificator())},
         {u"start"_s, json(entry.dateTime())},
         {u"end"_s, json(entry.endDateTime())},
-        {u"subtitle"_s, json(entry.subtitle1())},
-        {u"instantDetails"_s, json(entry.instantDetails1())},
-        {u"instantDescription"_s, json(entry.instantDescription1())},
+        {u"subtitle"_s, jsonText(entry.subtitle1())},
+        {u"instantDetails"_s, jsonText(entry.instantDetails1())},
+        {u"instantDescription"_s, jsonText(entry.instantDescription1())},
         {u"previouslyShown"_s, entry.previouslyShown()},
         {u"url"_s, json(entry.url())},
         {u"categories"_s, QJsonValue::Null},

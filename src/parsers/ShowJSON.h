@@ -9,6 +9,9 @@
 
 namespace guide {
 
+/// An unset text as null; a lone surrogate becomes the replacement character.
+QJsonValue jsonText(const std::optional<QString>& text);
+
 /// A moment in UTC, "2026-11-21T10:00:00Z", with milliseconds only where there are any.
 QString isoMoment(Moment moment);
 

@@ -2,6 +2,7 @@
 #include "core/ChannelFilter.h"
 #include "core/SupportedChannelTypes.h"
 #include "core/TVStationIcons.h"
+#include "parsers/ShowJSON.h"
 #include "probe/Command.h"
 
 #include <QDir>

@@ -20,24 +20,6 @@ const std::vector<Command>& allCommands() {
     return kCommands;
 }
 
-QJsonValue jsonText(const std::optional<QString>& text) {
-    if (!text) {
-        return QJsonValue::Null;
-    }
-    QString whole = *text;
-    for (qsizetype i = 0; i < whole.size(); ++i) {
-        if (!whole[i].isSurrogate()) {
-            continue;
-        }
-        if (whole[i].isHighSurrogate() && i + 1 < whole.size() && whole[i + 1].isLowSurrogate()) {
-            ++i;
-        } else {
-            whole[i] = QChar::ReplacementCharacter;
-        }
-    }
-    return whole;
-}
-
 QJsonValue jsonMoment(const std::optional<Moment>& moment) {
     return moment ? QJsonValue(isoMoment(*moment)) : QJsonValue(QJsonValue::Null);
 }

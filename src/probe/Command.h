@@ -52,9 +52,6 @@ std::vector<Command> catalogueCommands();
 std::vector<Command> listingsCommands();
 std::vector<Command> detailCommands();
 
-/// An unset text as null; a lone surrogate becomes the replacement character.
-QJsonValue jsonText(const std::optional<QString>& text);
-
 /// "2026-11-21T10:00:00Z", with milliseconds only where there are any; null for nothing.
 QJsonValue jsonMoment(const std::optional<Moment>& moment);
 

@@ -95,8 +95,7 @@ Outcome check(Context& context) {
                        {u"fetched"_s, 0},
                        {u"shows"_s, 0},
                        {u"first"_s, QJsonValue::Null},
-                       {u"last"_s, QJsonValue::Null},
-                       {u"lastMissed"_s, QJsonValue::Null}};
+                       {u"last"_s, QJsonValue::Null}};
     if (!urls) {
         return report;
     }
@@ -110,6 +109,9 @@ Outcome check(Context& context) {
     if (pages.empty()) {
         return Failure{u"nothing came of %1"_s.arg(why)};
     }
+    if (!why.isEmpty()) {
+        qWarning("%s", qUtf8Printable(why));
+    }
     report[u"fetched"_s] = qint64(pages.size());
     const LoadItem item{ObjectId(ObjectId::Bytes{}), sourceId, language};
     MarkerTrace trace;
@@ -120,8 +122,8 @@ Outcome check(Context& context) {
         report[u"shows"_s] = qint64(list->second->size());
         report[u"first"_s] = jsonMoment(list->second->front().entry()->dateTime());
         report[u"last"_s] = jsonMoment(list->second->back().entry()->dateTime());
-    } else if (!trace.lastMissed().empty()) {
-        report[u"lastMissed"_s] = QString::fromStdString(trace.lastMissed());
+    } else if (const std::string& marker = trace.changed(pages); !marker.empty()) {
+        report[u"lastMissed"_s] = QString::fromStdString(marker);
     }
     return report;
 }

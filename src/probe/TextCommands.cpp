@@ -1,3 +1,4 @@
+#include "parsers/ShowJSON.h"
 #include "parsers/XMLTVDate.h"
 #include "probe/Command.h"
 #include "text/CategoryMapping.h"

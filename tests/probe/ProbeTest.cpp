@@ -1,41 +1,17 @@
-#include <QFile>
+#include "probe/RunProbe.h"
+
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+namespace guide {
 
 namespace {
 
 using namespace Qt::StringLiterals;
-
-struct Answer {
-    int status = -1;
-    QJsonObject json;
-    QByteArray output;
-    QByteArray errors;
-};
-
-Answer probe(const QStringList& words, const QByteArray& input = {}) {
-    QProcess process;
-    process.start(QStringLiteral(QUELLIN_PROBE), words);
-    process.write(input);
-    process.closeWriteChannel();
-    Answer answer;
-    if (process.waitForFinished(20'000) && process.exitStatus() == QProcess::NormalExit) {
-        answer.status = process.exitCode();
-    }
-    answer.output = process.readAllStandardOutput();
-    answer.errors = process.readAllStandardError();
-    answer.json = QJsonDocument::fromJson(answer.output).object();
-    return answer;
-}
-
-QJsonObject object(const char* json) {
-    return QJsonDocument::fromJson(json).object();
-}
+using test::Answer;
+using test::object;
+using test::probe;
 
 TEST(Probe, AnswersEachCommandWithOneObject) {
     const struct {
@@ -119,18 +95,15 @@ TEST(Probe, TellsUnusableArgumentsFromWhatCannotBeDone) {
 }
 
 TEST(Probe, ParsesAFeedForTwoChannels) {
-    const QTemporaryDir folder;
-    QFile page(folder.filePath(u"feed.xml"_s));
-    ASSERT_TRUE(page.open(QIODevice::WriteOnly));
-    page.write(R"(<tv>
+    const test::ProbeFiles files;
+    const QString page = files.write(u"feed.xml"_s, R"(<tv>
 <programme start="20261121180000 +0000" stop="20261121185500 +0000" channel="a,b.cz"><title>Zprávy, 3. díl</title></programme>
 <programme start="20261121170000 +0000" stop="20261121180000 +0000" channel="a,b.cz"><title>Včera</title></programme>
 <programme start="20261121180000 +0000" stop="20261121190000 +0000" channel="c.cz"><title>Jinde</title></programme>
 </tv>)");
-    page.close();
     const Answer answer = probe({u"parse"_s, u"--now"_s, u"2026-11-21T18:10:00Z"_s, u"--type"_s, u"1"_s,
                                  u"--item"_s, u"58f4ded60befe78cb336a80c,r.CZ.a,b.cz,cs"_s, u"--item"_s,
-                                 u"58f4ded60befe78cb336a80d,r.CZ.nobody,cs"_s, page.fileName()});
+                                 u"58f4ded60befe78cb336a80d,r.CZ.nobody,cs"_s, page});
     ASSERT_EQ(answer.status, 0) << answer.errors.toStdString();
     const QJsonObject channels = answer.json[u"channels"_s].toObject();
     ASSERT_EQ(channels.keys(), QStringList{u"58f4ded60befe78cb336a80c"_s}) << "nobody's list is left out";
@@ -147,3 +120,5 @@ TEST(Probe, ParsesAFeedForTwoChannels) {
 }
 
 } // namespace
+
+} // namespace guide
