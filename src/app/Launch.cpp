@@ -115,6 +115,8 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
         .locale = m_environment.device.locale(),
         .timeZone = [this] { return m_environment.device.timeZone(); },
     });
+    m_sourceHealth =
+        std::make_unique<SourceHealthRecords>(m_environment.folders.caches + u"/source-health.json"_s);
     m_updateCycle = std::make_unique<UpdateCycle>(UpdateCycleEnvironment{
         .clock = m_environment.clock,
         .device = m_environment.device,
@@ -130,6 +132,7 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
         .fetcher = *m_fetcher,
         .userAgent = *m_userAgent,
         .listings = *m_listings,
+        .sourceHealth = *m_sourceHealth,
         .netList = [this](const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
                           Moment now,
                           unsigned type) { return m_listDriver->netList(items, pages, now, type); },

@@ -18,6 +18,7 @@
 #include "sources/HTTPUserAgent.h"
 #include "sources/NetworkActivity.h"
 #include "sources/PageFetcher.h"
+#include "sources/SourceHealthRecords.h"
 #include "sources/URLPlanner.h"
 #include "store/TVListings.h"
 #include "text/Alphabet.h"
@@ -45,6 +46,8 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActio
     TVListings& listings() { return *m_listings; }
     TVChannels& channels() { return *m_channels; }
     const SharedChannelData& channelData() const { return m_channelData; }
+    /// What the last load of each selected channel did.
+    const SourceHealthRecords& sourceHealth() const { return *m_sourceHealth; }
 
     void applicationDidBecomeActive() override;
     void applicationDidEnterBackground() override;
@@ -123,6 +126,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActio
     std::unique_ptr<TVChannels> m_channels;
     std::unique_ptr<TVListings> m_listings;
     std::unique_ptr<ListDriver> m_listDriver;
+    std::unique_ptr<SourceHealthRecords> m_sourceHealth;
     std::unique_ptr<UpdateCycle> m_updateCycle;
     std::unique_ptr<TabBarController> m_tabBarController;
     std::unique_ptr<ScreenBroadcast> m_screens;

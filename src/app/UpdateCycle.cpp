@@ -1,5 +1,6 @@
 #include "app/UpdateCycle.h"
 
+#include "app/ChannelLoad.h"
 #include "sources/SourceId.h"
 
 #include <QtGlobal>
@@ -7,6 +8,7 @@
 #include <algorithm>
 #include <atomic>
 #include <mutex>
+#include <unordered_map>
 
 namespace guide {
 
@@ -89,12 +91,17 @@ class UpdateCycle::Check {
     void run(const ShowCounts& counts) {
         const auto task = std::make_shared<ListingsUpdateTask>(m_with.queues, m_with.backgroundTasks);
         task->begin();
-        for (const UpdateStep& step : planSteps(plannedChannels(counts))) {
+        const auto planned = plannedChannels(counts);
+        for (const auto& [channel, sources] : planned) {
+            m_loads.emplace(channel, ChannelLoad(sources));
+        }
+        for (const UpdateStep& step : planSteps(planned)) {
             if (m_state.cancelled) {
                 break;
             }
             load(step);
         }
+        recordHealth();
         task->endOnMainQueue();
         if (m_anythingParsed && !m_state.cancelled) {
             m_with.loadQueue->sync([this] { m_with.listings.updatePopularList(); });
@@ -150,15 +157,23 @@ class UpdateCycle::Check {
         if (items.empty()) {
             return;
         }
-        const std::vector<QByteArray> pages = fetch(step.urls);
+        NetPage missing;
+        const std::vector<QByteArray> pages = fetch(step.urls, missing);
         // Pages that the end of the program cut off must not take the place of a whole list.
-        if (!pages.empty() && !m_state.cancelled) {
-            m_with.loadQueue->sync([&] { parse(items, pages); });
+        if (m_state.cancelled) {
+            return;
         }
+        if (pages.empty()) {
+            for (const LoadItem& item : items) {
+                m_loads.at(item.channel).noPage(item.sourceId, missing);
+            }
+            return;
+        }
+        m_with.loadQueue->sync([&] { parse(items, pages); });
     }
 
-    /// The pages up to the first that does not come; empty ones count.
-    std::vector<QByteArray> fetch(const QList<QUrl>& urls) {
+    /// The pages up to the first that does not come, the answer of which is `missing`; empty ones count.
+    std::vector<QByteArray> fetch(const QList<QUrl>& urls, NetPage& missing) {
         std::vector<QByteArray> pages;
         pages.reserve(static_cast<std::size_t>(urls.size()));
         for (const QUrl& url : urls) {
@@ -170,6 +185,7 @@ class UpdateCycle::Check {
                 if (answer.reason == PageReason::Cancelled) {
                     m_state.cancelled = true;
                 }
+                missing = std::move(answer);
                 break;
             }
             pages.push_back(std::move(*answer.page));
@@ -185,8 +201,8 @@ class UpdateCycle::Check {
             result = m_with.netList(items, pages, m_with.clock.now(), type);
         } catch (...) {
             qWarning("listings parsing exception!!!");
-            return;
         }
+        noteWhatWasRead(items, pages.size(), result);
         if (result.lists.empty()) {
             return;
         }
@@ -201,8 +217,32 @@ class UpdateCycle::Check {
         });
     }
 
+    void noteWhatWasRead(const std::vector<LoadItem>& items, std::size_t pages, const MergeResult& result) {
+        const Moment now = m_with.clock.now();
+        for (const LoadItem& item : items) {
+            const auto outcome = result.outcomes.find(item.channel);
+            const auto list = result.lists.find(item.channel);
+            m_loads.at(item.channel)
+                .read(item.sourceId, pages,
+                      outcome == result.outcomes.end() ? MergeOutcome::Empty : outcome->second,
+                      list == result.lists.end() ? nullptr : list->second, now);
+        }
+    }
+
+    void recordHealth() {
+        m_with.sourceHealth.read();
+        const Moment now = m_with.clock.now();
+        for (const auto& [channel, channelLoad] : m_loads) {
+            if (auto health = channelLoad.health(now)) {
+                m_with.sourceHealth.record(channel, *std::move(health));
+            }
+        }
+        m_with.sourceHealth.write(m_with.channels.selected());
+    }
+
     State& m_state;
     const UpdateCycleEnvironment& m_with;
+    std::unordered_map<ObjectId, ChannelLoad> m_loads;
     bool m_anythingParsed = false;
 };
 

@@ -10,6 +10,7 @@
 #include "platform/LifeCycle.h"
 #include "sources/HTTPUserAgent.h"
 #include "sources/PageFetcher.h"
+#include "sources/SourceHealthRecords.h"
 #include "sources/URLPlanner.h"
 #include "store/TVListings.h"
 
@@ -41,6 +42,8 @@ struct UpdateCycleEnvironment {
     const PageFetcher& fetcher;
     const HTTPUserAgent& userAgent;
     TVListings& listings;
+    /// Told what each load did; read and written by checks.
+    SourceHealthRecords& sourceHealth;
     /// Reads pages, in the order of their URLs, and merges what they hold into the store. May throw.
     std::function<MergeResult(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
                               Moment now, unsigned type)>

@@ -32,9 +32,7 @@ std::vector<PlannedSource> planSources(const ChannelDictionary& channel, const U
         if (!sourceId) {
             break;
         }
-        if (auto urls = urlsForSource(*sourceId, language); urls && !urls->isEmpty()) {
-            sources.push_back({number, *sourceId, std::move(*urls)});
-        }
+        sources.push_back({number, *sourceId, urlsForSource(*sourceId, language).value_or(QList<QUrl>())});
     }
     return sources;
 }
@@ -51,6 +49,9 @@ planSteps(const std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>& ch
     std::size_t found = 0;
     for (const auto& [channel, sources] : channels) {
         for (const PlannedSource& source : sources) {
+            if (source.urls.isEmpty()) {
+                continue;
+            }
             ++found;
             const auto known = places.constFind(source.urls);
             if (known == places.cend()) {

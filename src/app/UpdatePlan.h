@@ -37,11 +37,12 @@ struct ChannelDecision {
 
 ChannelDecision decideChannel(const ChannelCondition& condition, unsigned wantedShows);
 
-/// A source of a channel that can be asked.
+/// A source of a channel.
 struct PlannedSource {
     /// 1 for the first choice.
     unsigned number = 0;
     QString sourceId;
+    /// None when it cannot be asked.
     QList<QUrl> urls;
 };
 
@@ -49,8 +50,7 @@ struct PlannedSource {
 using URLsForSource =
     std::function<std::optional<QList<QUrl>>(const QString& sourceId, const QString& language)>;
 
-/// The sources of a row of the catalogue, up to the first number that is missing, without those that have no
-/// URLs.
+/// The sources of a row of the catalogue, up to the first number that is missing.
 std::vector<PlannedSource> planSources(const ChannelDictionary& channel, const URLsForSource& urlsForSource);
 
 /// One list of URLs, whose pages are fetched once, with everyone that it serves.
@@ -66,8 +66,9 @@ struct UpdateStep {
     std::vector<Served> served;
 };
 
-/// All the first sources before any second one; within one number in the order of the channels. A list that
-/// serves several channels, or one channel under several numbers, stands once, at its first place.
+/// All the first sources before any second one; within one number in the order of the channels. Sources that
+/// cannot be asked are stepped over. A list that serves several channels, or one channel under several
+/// numbers, stands once, at its first place.
 std::vector<UpdateStep>
 planSteps(const std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>& channels);
 

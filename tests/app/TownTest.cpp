@@ -186,6 +186,11 @@ TEST_P(TownTest, EverySiteLeadsToTheSameSchedule) {
                 << family.name << ' ' << source.toStdString() << ": found "
                 << (differs.first == found.end() ? "nothing" : *differs.first) << ", expected "
                 << (differs.second == expected.end() ? "nothing" : *differs.second);
+            const auto health = world.guide->sourceHealth().healthFor(GuideWorld::channel(number));
+            ASSERT_TRUE(health && health->used) << family.name;
+            EXPECT_EQ(health->used->sourceId, QString(source).replace("%1"_L1, authority));
+            EXPECT_EQ(health->used->shows, int(found.size()));
+            EXPECT_TRUE(health->passedOver.empty());
         }
     }
     world.end();

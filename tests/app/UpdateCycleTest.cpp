@@ -170,6 +170,66 @@ TEST_F(UpdateCycleTest, AnEndInTheMiddleOfAListKeepsTheStoredOne) {
     EXPECT_EQ(world.tasks.begun(), 1U) << "no check begins after the end";
 }
 
+TEST_F(UpdateCycleTest, WhatEachLoadDidIsKnownOfEverySource) {
+    const QString third = u"http://third.test/"_s;
+    UpdateWorld world(queues, clock,
+                      {{1, {u"cc.romania"_s, u"n.one"_s, u"s.one"_s, third}}, // the first one has no host
+                       {2, {u"n.two"_s, u"s.two"_s}},
+                       {3, {u"n.three"_s, third}},
+                       {4, {third, u"s.four"_s}}});
+    world.answer(kShared, "2 6\n1 5 -48");
+    world.answer(kSecond, "1 5\n4 0");
+    world.answerStatus(third, 404);
+    check(world);
+    const auto health = [&](unsigned char channel) {
+        return world.sourceHealth.healthFor(UpdateWorld::channel(channel)).value_or(SourceHealth());
+    };
+    const auto used = [&](const QString& sourceId, int shows) {
+        return UsedSource{sourceId, clock.now(), 1, shows, clock.now() + 60min * shows - 10min};
+    };
+    const PassedOverSource missing{third, PassedOverReason::NoPage, 404, PageReason::Status};
+    using Sources = std::vector<PassedOverSource>;
+    EXPECT_EQ(health(1), (SourceHealth{clock.now(), used(u"s.one"_s, 5),
+                                       Sources{{u"cc.romania"_s, PassedOverReason::NoPlan},
+                                               {u"n.one"_s, PassedOverReason::OnlyPastShows}}}));
+    EXPECT_EQ(health(2), (SourceHealth{clock.now(), used(u"n.two"_s, 6), {}}));
+    EXPECT_EQ(health(3), (SourceHealth{clock.now(), std::nullopt,
+                                       Sources{{u"n.three"_s, PassedOverReason::NoShows}, missing}}));
+    EXPECT_EQ(health(4), (SourceHealth{clock.now(), std::nullopt,
+                                       Sources{missing, {u"s.four"_s, PassedOverReason::NoShows}}}));
+
+    // A load that brings nothing tells so, and of the source that the shows are still from.
+    const Moment before = clock.now();
+    const SourceHealth earlier = health(2);
+    clock.advance(30 * 24h);
+    world.answerNothing(kShared);
+    world.answer(kSecond, "throw");
+    check(world);
+    EXPECT_EQ(health(2),
+              (SourceHealth{clock.now(), earlier.used,
+                            Sources{{u"n.two"_s, PassedOverReason::NoPage, 0, PageReason::Transfer},
+                                    {u"s.two"_s, PassedOverReason::NoShows}}}));
+    EXPECT_FALSE(health(2).hasLoaded());
+    EXPECT_EQ(health(2).used->at, before);
+
+    // The file knows the same, of the selected channels.
+    world.channels.setSelected({UpdateWorld::channel(2), UpdateWorld::channel(3)});
+    check(world);
+    SourceHealthRecords read(world.folders.caches + u"/source-health.json"_s);
+    read.read();
+    EXPECT_EQ(read.all(), world.sourceHealth.all());
+    EXPECT_EQ(read.all().size(), 2U);
+}
+
+TEST_F(UpdateCycleTest, AnEndInTheMiddleIsNoFaultOfTheSource) {
+    UpdateWorld world(queues, clock, {{1, {u"n.one"_s, u"s.one"_s}}, {2, {u"s.two"_s}}});
+    world.answerNothing(kShared);
+    world.answer(kSecond, "1 5\n2 5");
+    world.client.onRequest([&](const HTTPRequest&) { world.client.cancelAll(); });
+    check(world);
+    EXPECT_TRUE(world.sourceHealth.all().empty());
+}
+
 TEST(UpdateCycleThreadsTest, ASuspendedLoadQueueHoldsTheCheckBack) {
     ManualClock clock;
     ThreadedQueues queues([] {});

@@ -51,11 +51,11 @@ TEST(UpdatePlanTest, TakesTheSourcesUpToTheFirstGap) {
                    : std::optional(QList{QUrl(u"http://"_s + sourceId)});
     });
     EXPECT_EQ(asked, (QStringList{u"a/sk"_s, u"none/sk"_s, u"c/sk"_s, u"/sk"_s}));
-    ASSERT_EQ(sources.size(), 2U);
-    EXPECT_EQ(sources[0].number, 1U);
-    EXPECT_EQ(sources[1].number, 3U);
-    EXPECT_EQ(sources[1].sourceId, u"c"_s);
-    EXPECT_EQ(sources[1].urls, QList{QUrl(u"http://c"_s)});
+    ASSERT_EQ(sources.size(), 4U);
+    EXPECT_TRUE(sources[1].urls.isEmpty());
+    EXPECT_EQ(sources[2].number, 3U);
+    EXPECT_EQ(sources[2].sourceId, u"c"_s);
+    EXPECT_EQ(sources[2].urls, QList{QUrl(u"http://c"_s)});
 }
 
 /// "feed:1a 2a | page:1b" for a feed that serves the channels 1 and 2 under the source a, before a page.

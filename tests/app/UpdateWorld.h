@@ -30,7 +30,8 @@ struct CountedPopularShows final : PopularShows {
 };
 
 /// Everything that the cycle works with on top of a faked device, with a reader of its own: a page says in
-/// each line a channel and how many shows of an hour it has, the first one running. A page "throw" throws.
+/// each line a channel, how many shows of an hour it has, the first one running, and by how many hours they
+/// are moved. A page "throw" throws.
 class UpdateWorld {
   public:
     using Selection = std::vector<std::pair<unsigned char, QStringList>>;
@@ -60,6 +61,9 @@ class UpdateWorld {
 
     void answer(const QString& url, const QByteArray& page) {
         client.answer(QUrl(url), FakeHTTPClient::response(200, page));
+    }
+    void answerStatus(const QString& url, int status) {
+        client.answer(QUrl(url), FakeHTTPClient::response(status, "<html>"));
     }
     void answerNothing(const QString& url) { client.answer(QUrl(url), FakeHTTPClient::refused()); }
     /// A packed file of no bytes: the one page that is empty and yet a page.
@@ -166,11 +170,13 @@ class UpdateWorld {
                 for (const QByteArray& line : page.split('\n')) {
                     const QList<QByteArray> words = line.split(' ');
                     for (int i = 0; words[0].toUInt() == number && i < words.value(1).toInt(); ++i) {
+                        const Moment start =
+                            now + std::chrono::minutes(60 * (i + words.value(2).toInt()) - 10);
                         auto entry = std::make_shared<TVEntry>(alphabet);
                         entry->setChannel(item.channel);
                         entry->setIdentificator(QString::number(i));
-                        entry->setDateTime(now + std::chrono::minutes(60 * i - 10));
-                        entry->setEndDateTime(now + std::chrono::minutes(60 * i + 50));
+                        entry->setDateTime(start);
+                        entry->setEndDateTime(start + std::chrono::hours(1));
                         lists[item.channel].push_back({std::move(entry), {}, nullptr, {}});
                     }
                 }
@@ -222,13 +228,15 @@ class UpdateWorld {
     std::shared_ptr<DispatchQueue> loadQueue =
         queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial, QueuePriority::Background);
 
+    SourceHealthRecords sourceHealth{folders.caches + QStringLiteral("/source-health.json")};
+
     std::vector<Parse> parses;
     /// "channel:shows " for each list that the screens were offered.
     std::string offered;
 
     UpdateCycle cycle{UpdateCycleEnvironment{
         clock, device, queues, checkQueue, loadQueue, tasks, state, channels, catalogue, settings, planner,
-        fetcher, userAgent, *listings,
+        fetcher, userAgent, *listings, sourceHealth,
         [this](const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
                unsigned type) { return netList(items, pages, now, type); },
         [] { return 4; }, [this](const TopLists& top) { offer(top); }}};
