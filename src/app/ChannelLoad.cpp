@@ -23,11 +23,12 @@ void ChannelLoad::read(const QString& sourceId, std::size_t pages, MergeOutcome 
         return;
     }
     if (outcome == MergeOutcome::Stored && list && !list->empty()) {
+        const TVEntry& last = *list->back().entry();
         m_used = UsedSource{.sourceId = sourceId,
                             .at = at,
                             .pages = static_cast<int>(pages),
                             .shows = static_cast<int>(list->size()),
-                            .reachesUntil = list->back().entry()->endDateTime()};
+                            .reachesUntil = last.endDateTime() ? last.endDateTime() : last.dateTime()};
         return;
     }
     passOver({.sourceId = sourceId,

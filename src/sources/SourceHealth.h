@@ -41,7 +41,7 @@ struct UsedSource {
     int pages = 0;
     /// Shows that were stored.
     int shows = 0;
-    /// The end of the last one; nothing when it does not say.
+    /// The end of the last one, or its start where it has no end.
     std::optional<Moment> reachesUntil;
 
     friend bool operator==(const UsedSource&, const UsedSource&) = default;
