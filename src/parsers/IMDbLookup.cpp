@@ -89,6 +89,7 @@ IMDbSearches imdbSearches(const std::optional<QString>& title, const std::option
         if (!url) {
             return searches;
         }
+        qCDebug(parsersLog, "title=%s imdb: url1=%s", qUtf8Printable(text), url->toEncoded().constData());
         searches.urls.push_back(*url);
     }
     searches.started = true;
@@ -134,7 +135,16 @@ bool imdbLinkWithClosure(const ExtendedTVEntry& show, const IMDbLookupEnvironmen
         environment.queues.globalQueue(QueuePriority::Background)
             .async([request, index, isSeries, closure, &client = environment.client] {
                 const TransferResult result = client.perform(request);
-                closure(index, result.error ? IMDbAnswer{} : imdbAnswer(result.body, request.url, isSeries));
+                const IMDbAnswer answer =
+                    result.error ? IMDbAnswer{} : imdbAnswer(result.body, request.url, isSeries);
+                const auto text = [](const std::optional<QUrl>& url) {
+                    return url ? url->toEncoded() : QByteArrayLiteral("nothing");
+                };
+                qCDebug(parsersLog, "IMDB url=%s error=%s imdbURL=%s pictureURL=%s",
+                        request.url.toEncoded().constData(),
+                        result.error ? qUtf8Printable(result.error->description) : "",
+                        text(answer.imdbURL).constData(), text(answer.pictureURL).constData());
+                closure(index, answer);
             });
     }
     return searches.started;

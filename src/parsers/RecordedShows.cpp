@@ -54,8 +54,10 @@ std::optional<QMap<QString, QString>> options(const QByteArray& page) {
         if (!label) {
             return notFound("<");
         }
-        qCDebug(parsersLog).noquote() << "pastShow:" << pageString(*label) << "=" << pageString(*value);
-        recorded.insert(pageString(*label), pageString(*value));
+        const QString name = pageString(*label);
+        const QString known = pageString(*value);
+        qCDebug(parsersLog, "pastShow: [%s] = %s", qUtf8Printable(name), qUtf8Printable(known));
+        recorded.insert(name, known);
     }
     return recorded;
 }

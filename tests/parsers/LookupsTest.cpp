@@ -1,3 +1,5 @@
+#include "fakes/FakeHTTPClient.h"
+#include "fakes/ManualQueues.h"
 #include "parsers/IMDbLookup.h"
 #include "parsers/RecordedShows.h"
 
@@ -92,6 +94,38 @@ TEST(IMDbLookup, ReadsTheFirstRow) {
     for (const auto& each : cases) {
         EXPECT_EQ(imdbAnswer(each.page, search, each.isSeries), each.expected) << each.name;
     }
+}
+
+TEST(IMDbLookup, AnswersEverySearchAlsoWhenNothingComes) {
+    ManualClock clock;
+    ManualQueues queues(clock);
+    FakeHTTPClient client;
+    const HTTPUserAgent userAgent([](unsigned) { return 3U; });
+    const auto hosts = SourceHostTable::fromJson(R"({"IMDbHost": "imdb.example"})");
+    const Alphabet alphabet;
+    ExtendedTVEntry show;
+    show.basic = std::make_shared<TVEntry>(alphabet);
+    show.basic->setIdentificator(u"Čas"_s);
+    show.basic->setSubtitle1(u"Dvoje"_s);
+    show.categories = TVListingsCategoryMovies;
+    client.answer(QUrl(u"https://imdb.example/find?ref_=nv_sr_fn&q=Dvoje&s=tt"_s),
+                  FakeHTTPClient::response(
+                      200, R"(class="primary_photo"> <a href="/title/tt2/" ><img src="nopicture"></tr>)"));
+
+    std::vector<std::pair<unsigned, IMDbAnswer>> answers;
+    const IMDbLookupEnvironment environment{client, userAgent, *hosts, queues};
+    EXPECT_TRUE(imdbLinkWithClosure(show, environment, [&](unsigned index, const IMDbAnswer& answer) {
+        answers.emplace_back(index, answer);
+    }));
+    EXPECT_TRUE(answers.empty()) << "nobody waits for a transfer";
+    queues.runAll();
+
+    const std::vector<std::pair<unsigned, IMDbAnswer>> expected{
+        {0, {}}, {1, {QUrl(u"https://imdb.example/title/tt2/"_s), std::nullopt}}};
+    EXPECT_EQ(answers, expected);
+    ASSERT_EQ(client.requests().size(), 2U) << "no second attempt";
+    EXPECT_EQ(client.requests()[0].timeout, std::chrono::seconds(60));
+    EXPECT_EQ(client.requests()[0].headers[0].second, userAgent.value());
 }
 
 } // namespace
