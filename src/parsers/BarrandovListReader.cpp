@@ -151,7 +151,7 @@ class PageReader {
 
     // A window has no end: a field is the first behind the window's start.
     const MarkedFields m_date{m_text, "<li><strong>Datum vysílání:</strong> ", "</li", &m_input.trace};
-    const MarkedFields m_repeat{m_text, "<li><strong>Repríza:</strong> ", "</li"};
+    const MarkedFields m_repeat{m_text, "<li><strong>Repríza:</strong> ", "</li>"};
     const MarkedFields m_picture{m_text, "<img src=\"", "\""};
     const MarkedFields m_title{m_text, "<h2 class=\"show-detail__title\">", "</h2>", &m_input.trace};
     const MarkedFields m_perex{m_text, "<p class=\"show-detail__perex\">", "</p>"};

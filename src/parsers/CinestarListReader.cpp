@@ -95,7 +95,7 @@ std::optional<std::size_t> todaysPage(const ListReaderInput& input) {
 
 /// The zone of the site, by the language of its first page.
 QTimeZone siteZone(const ListReaderInput& input) {
-    MarkerWalk page(pageText(input.pages.front()), input.trace);
+    MarkerWalk page(pageText(input.pages.at(0)), input.trace);
     const auto language = page.take(" lang=\"", "\"");
     if (!language) {
         return input.deviceZone;

@@ -2,6 +2,7 @@
 
 #include "parsers/ReaderPages.h"
 
+#include <charconv>
 #include <cmath>
 
 namespace guide {
@@ -13,11 +14,12 @@ using namespace Qt::StringLiterals;
 /// Moments beyond these seconds are no broadcasts, and would not fit into milliseconds at last.
 constexpr double kMostSeconds = 1e11;
 
+/// The number that the text begins with, seconds since 1970.
 std::optional<Moment> momentOf(std::string_view text) {
-    bool read = false;
-    const double seconds =
-        QByteArray(text.data(), static_cast<qsizetype>(text.size())).trimmed().toDouble(&read);
-    if (!read || !(std::abs(seconds) < kMostSeconds)) {
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n+"), text.size()));
+    double seconds = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), seconds);
+    if (read.ec != std::errc() || !(std::abs(seconds) < kMostSeconds)) {
         return std::nullopt;
     }
     return Moment(std::chrono::milliseconds(std::llround(seconds * 1000)));

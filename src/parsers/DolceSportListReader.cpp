@@ -53,7 +53,7 @@ std::optional<QString> textBehind(MarkerWalk item, std::string_view marker) {
 void readDolceSportLists(const ListReaderInput& input, ParsedLists& lists) {
     const LoadItem& loadItem = input.items.front();
     ZoneClock bucharest(QTimeZone("Europe/Bucharest"));
-    const auto sections = tabs(MarkerWalk(pageText(input.pages.front()), input.trace));
+    const auto sections = tabs(MarkerWalk(pageText(input.pages.at(0)), input.trace));
     if (!sections) {
         return;
     }

@@ -63,7 +63,7 @@ ParsedLists ListDriver::read(const std::vector<LoadItem>& items, const std::vect
     if (entry == kReaders.end()) {
         return lists;
     }
-    if (items.empty() || pages.empty()) {
+    if (items.empty()) {
         return lists;
     }
     lists.reserve(items.size());

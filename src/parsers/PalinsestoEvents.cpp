@@ -165,6 +165,9 @@ class Rows final : public XMLEvents {
 
     void startGiorno(const XMLAttributes& attributes) {
         std::string data(attributes.value("data").value_or(std::string_view()));
+        if (data.size() != 10) {
+            return;
+        }
         std::replace(data.begin(), data.end(), '/', '-');
         // At noon no change of the clock can move it to another date. What follows a day that is none has no
         // date, and not the one of the day before.
@@ -193,12 +196,9 @@ class Rows final : public XMLEvents {
         }
         const std::optional<QString> sourceId = m_rows.back().basic->sourceId();
         const Moment running = *m_rows.back().basic->dateTime();
-        QDate date = m_rome.dateAt(running);
-        // The day turns once, at the first show of the small hours; to the next date, also where a change of
-        // the clock makes the day shorter.
-        if (*time < hours(6) && hourAt(running) >= 6) {
-            date = date.addDays(1);
-        }
+        // The day turns once, at the first show of the small hours, by 24 hours like every step of days.
+        const bool turns = *time < hours(6) && hourAt(running) >= 6;
+        const QDate date = m_rome.dateAt(turns ? running + hours(24) : running);
         TVEntry& entry = addRow();
         entry.setSourceId(sourceId);
         entry.setDateTime(m_rome.momentAt(date, *time));

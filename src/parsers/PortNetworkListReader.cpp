@@ -136,7 +136,7 @@ class ProgrammeReader {
 } // namespace
 
 void readPortNetworkLists(const ListReaderInput& input, ParsedLists& lists) {
-    const QJsonDocument document = QJsonDocument::fromJson(input.pages.front());
+    const QJsonDocument document = QJsonDocument::fromJson(input.pages.at(0));
     if (!document.isObject()) {
         input.trace.miss("{");
         return;

@@ -23,16 +23,19 @@ constexpr std::string_view kTime = "<time>";
 
 /// The text inside the tags around it.
 std::string_view withoutTags(std::string_view text) {
-    text = text.substr(0, text.find_last_not_of(" \t\r\n") + 1);
-    if (text.ends_with('>')) {
-        text = text.substr(0, std::min(text.rfind('<'), text.size()));
+    const auto withoutBlanks = [](std::string_view padded) {
+        return padded.substr(0, padded.find_last_not_of(" \t\r\n") + 1);
+    };
+    text = withoutBlanks(text);
+    while (text.ends_with('>')) {
+        text = withoutBlanks(text.substr(0, std::min(text.rfind('<'), text.size() - 1)));
     }
     const std::size_t tag = text.rfind('>');
     return tag == std::string_view::npos || tag + 1 == text.size() ? text : text.substr(tag + 1);
 }
 
-QString trimmed(std::string_view text) {
-    return trimmedListingText(pageString(text)).value_or(QString());
+std::optional<QString> trimmed(std::string_view text) {
+    return trimmedListingText(pageString(text));
 }
 
 /// Moves the episode, which stands in parentheses at the end of a title, to the details.
@@ -152,13 +155,15 @@ class DayReader {
         ExtendedTVEntry show;
         show.basic = newEntry(m_input, m_item, start);
         show.extra = std::make_shared<TVEntrySupplementalData>();
-        QString title = trimmed(withoutTags(name->text));
+        QString title = trimmed(withoutTags(name->text)).value_or(QString());
         splitEpisode(title, *show.basic);
         if (title.isEmpty()) {
             return;
         }
         show.basic->setIdentificator(title);
-        readBlock(trimmed(block->text), *show.basic, *show.extra);
+        if (const auto text = trimmed(block->text)) {
+            readBlock(*text, *show.basic, *show.extra);
+        }
         const auto source = m_pictures.next(begin, end);
         if (const QUrl picture = source ? QUrl(pageString(source->text)) : QUrl(); isWebURL(picture)) {
             show.pictures.insert(picture);
@@ -192,13 +197,16 @@ void readPrimaMaxLists(const ListReaderInput& input, ParsedLists& lists) {
             qCInfo(parsersLog, "dayKey %s not found", qPrintable(date.toString(Qt::ISODate)));
             return;
         }
+        if (!walk.find(kRow)) {
+            qCInfo(parsersLog, "class item not found");
+            return;
+        }
+        // A day without rows leaves the next day's to the next day.
         MarkerWalk tab = walk.part(walk.position(), walk.findOrLimit(kTab));
         walk.moveTo(tab.limit());
-        // A day without rows leaves the next day's to the next day.
-        if (tab.pass(kRow)) {
+        if (tab.contains(kRow)) {
+            tab.pass(kRow);
             reader.read(tab, date, reader.dateAt(day + kDay));
-        } else {
-            qCInfo(parsersLog, "class item not found");
         }
     }
 }

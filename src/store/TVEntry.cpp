@@ -69,7 +69,8 @@ std::optional<QUrl> TVEntry::url() const {
 }
 
 void TVEntry::setUrl(const std::optional<QUrl>& url) {
-    m_encodedUrl = url ? std::optional(url->toString(QUrl::FullyEncoded)) : std::nullopt;
+    m_encodedUrl = url && url->isValid() && !url->isEmpty() ? std::optional(url->toString(QUrl::FullyEncoded))
+                                                            : std::nullopt;
 }
 
 void TVEntry::derive(std::optional<QString> Texts::* text) {

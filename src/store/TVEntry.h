@@ -44,6 +44,7 @@ class TVEntry {
     /// The detail page of the show at its source. It is kept as its encoded text, which costs less in a long
     /// list.
     std::optional<QUrl> url() const;
+    /// An address that is empty or invalid is none.
     void setUrl(const std::optional<QUrl>& url);
     const std::optional<QString>& encodedUrl() const { return m_encodedUrl; }
     void setEncodedUrl(std::optional<QString> url) { m_encodedUrl = std::move(url); }

@@ -2,6 +2,7 @@
 
 #include "fakes/ManualClock.h"
 #include "parsers/XMLTVListReader.h"
+#include "sources/SourceId.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -117,6 +118,15 @@ TEST_F(ListDriverTest, GrowsOneListOverPages) {
                      {feed(show("a", "A")), QByteArray(), QByteArray("<html>no feed"),
                       feed(show("a", "B")) + '\0' + "no more", feed(show("a", "C")).replace("</tv>", "")}),
               "0: A@a B@a C@a");
+}
+
+TEST_F(ListDriverTest, HandsOverNothingWhenThereIsNoPage) {
+    // No format may take its first page for granted.
+    for (unsigned type = kListingsPortNetwork; type <= kListingsComedyCentral + 1; ++type) {
+        const int merges = m_merges;
+        m_driver.netList(items({u"x.tv"_s}), {}, kNow, type);
+        EXPECT_EQ(m_merges, merges + 1) << type;
+    }
 }
 
 TEST_F(ListDriverTest, TakesImagesOfTheFamilyThatHasThem) {
