@@ -17,8 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-MergeResult readPages(const Context& context, const std::vector<LoadItem>& items,
-                      const std::vector<QByteArray>& pages, unsigned type, MarkerTrace& trace) {
+ParsedLists readPages(const Context& context, const std::vector<LoadItem>& items,
+                      const std::vector<QByteArray>& pages, unsigned type, MarkerTrace* trace = nullptr) {
     const StandingClock clock(context.now);
     const Alphabet alphabet;
     const ListDriver driver({.clock = clock,
@@ -27,7 +27,7 @@ MergeResult readPages(const Context& context, const std::vector<LoadItem>& items
                              .merge = mergedLists,
                              .locale = context.device.locale(),
                              .timeZone = [&context] { return context.device.timeZone(); }});
-    return mergedLists(items, driver.read(items, pages, context.now, type, &trace), context.now, type);
+    return driver.read(items, pages, context.now, type, trace);
 }
 
 /// CHANNEL,SOURCE_ID,LANGUAGE: the source id may hold commas.
@@ -63,8 +63,8 @@ Outcome parse(Context& context) {
     if (const auto* failure = std::get_if<Failure>(&pages)) {
         return *failure;
     }
-    MarkerTrace trace;
-    return listsJSON(readPages(context, items, std::get<0>(pages), type, trace));
+    return listsJSON(
+        mergedLists(items, readPages(context, items, std::get<0>(pages), type), context.now, type));
 }
 
 /// Fetches the pages of the URLs as a check does, up to the first that does not come. `why` says why it did
@@ -114,15 +114,18 @@ Outcome check(Context& context) {
     }
     report[u"fetched"_s] = qint64(pages.size());
     const LoadItem item{ObjectId(ObjectId::Bytes{}), sourceId, language};
+    const unsigned type = listingsTypeForSourceId(sourceId, context.hosts);
     MarkerTrace trace;
-    const MergeResult result =
-        readPages(context, {item}, pages, listingsTypeForSourceId(sourceId, context.hosts), trace);
+    ParsedLists read = readPages(context, {item}, pages, type, &trace);
+    const bool isAnyRead = !read[item.channel].empty();
+    const MergeResult result = mergedLists({item}, std::move(read), context.now, type);
     const auto list = result.lists.find(item.channel);
     if (list != result.lists.end() && !list->second->empty()) {
         report[u"shows"_s] = qint64(list->second->size());
         report[u"first"_s] = jsonMoment(list->second->front().entry()->dateTime());
         report[u"last"_s] = jsonMoment(list->second->back().entry()->dateTime());
-    } else if (const std::string& marker = trace.changed(pages); !marker.empty()) {
+    } else if (const std::string& marker = trace.changed(pages); !isAnyRead && !marker.empty()) {
+        // Shows that are over were read, and need no mending.
         report[u"lastMissed"_s] = QString::fromStdString(marker);
     }
     return report;

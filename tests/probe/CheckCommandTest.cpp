@@ -81,6 +81,17 @@ TEST_F(CheckCommand, TellsWhichMarkerAPageHasNoLonger) {
         << answer.output.toStdString();
 }
 
+TEST_F(CheckCommand, MissesNothingInShowsThatAreOver) {
+    for (int day = -1; day <= 7; ++day) {
+        give(recordedPage(u"evening.html"_s));
+    }
+    const Answer answer = check();
+    EXPECT_EQ(answer.status, 0) << answer.errors.toStdString();
+    EXPECT_EQ(answer.json[u"fetched"_s], 9);
+    EXPECT_EQ(answer.json[u"shows"_s], 0);
+    EXPECT_FALSE(answer.json.contains(u"lastMissed"_s)) << answer.output.toStdString();
+}
+
 TEST_F(CheckCommand, ReadsThePagesBeforeTheFirstThatDoesNotCome) {
     give("<html>");
     give(recordedPage(u"2027-03-27.html"_s));
