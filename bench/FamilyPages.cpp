@@ -75,7 +75,9 @@ SiteChannel siteChannel(const QString& sourceId, std::size_t number, std::chrono
                 const auto sinceEpoch = std::chrono::ceil<std::chrono::seconds>(from).time_since_epoch();
                 auto index = static_cast<std::size_t>((sinceEpoch + step - 1s) / step);
                 for (Moment start{index * step}; start < until; start += step) {
-                    programmes.push_back(pool[(index++ + number * 997) % pool.size()]);
+                    programmes.push_back(pool[(index + number * 997) % pool.size()]);
+                    // Titles come again and again, descriptions seldom.
+                    programmes.back().description += u' ' + pool[index++ * 7919 % pool.size()].title;
                     programmes.back().start = start;
                     programmes.back().stop = start + step;
                 }

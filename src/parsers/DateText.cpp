@@ -1,8 +1,5 @@
 #include "parsers/DateText.h"
 
-#include <algorithm>
-#include <charconv>
-
 namespace guide {
 
 namespace {
@@ -19,13 +16,17 @@ std::optional<QDate> validDate(std::optional<int> year, std::optional<int> month
 } // namespace
 
 std::optional<int> decimalNumber(std::string_view text) {
-    const bool digits = !text.empty() && text.size() <= kMostDigits &&
-                        std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-    int number = 0;
-    if (digits) {
-        std::from_chars(text.data(), text.data() + text.size(), number);
+    if (text.empty() || text.size() > kMostDigits) {
+        return std::nullopt;
     }
-    return digits ? std::optional(number) : std::nullopt;
+    int number = 0;
+    for (const char digit : text) {
+        if (digit < '0' || digit > '9') {
+            return std::nullopt;
+        }
+        number = number * 10 + (digit - '0');
+    }
+    return number;
 }
 
 std::optional<QDate> yearMonthDay(std::string_view text, char separator) {

@@ -3,6 +3,8 @@
 #include "parsers/DateText.h"
 #include "parsers/EntryClassifier.h"
 #include "parsers/MarkerWalk.h"
+#include "parsers/XMLSaxParser.h"
+#include "parsers/ZoneClock.h"
 #include "text/Capitalisation.h"
 
 #include <algorithm>
@@ -80,10 +82,10 @@ std::optional<Moment> timestampMoment(std::string_view text) {
 
 class Rows final : public XMLEvents {
   public:
-    Rows(const PalinsestoCodes& wanted, const Alphabet& alphabet, const QLocale& locale)
+    Rows(const PalinsestoCodes& wanted, const Alphabet& alphabet, PalinsestoTexts& texts)
         : m_wanted(wanted)
         , m_alphabet(alphabet)
-        , m_locale(locale)
+        , m_texts(texts)
         , m_rome(QTimeZone("Europe/Rome")) {}
 
     std::vector<ExtendedTVEntry> take() { return std::move(m_rows); }
@@ -125,7 +127,7 @@ class Rows final : public XMLEvents {
     void ended(std::size_t element) override {
         if (element == m_open && element != kOtherXMLElement) {
             if (m_text && *m_text != "--") {
-                setText(element, pageString(*m_text));
+                setText(element, *m_text);
             }
             m_open = kOtherXMLElement;
         }
@@ -146,7 +148,7 @@ class Rows final : public XMLEvents {
     void startProgramma(const XMLAttributes& attributes) {
         // The service lists all its channels, and few of them are wanted.
         const auto code = m_wanted.find(attributes.value("idref").value_or(std::string_view()));
-        const auto local = code == m_wanted.end() || code->empty()
+        const auto local = code == m_wanted.end() || code->first.empty()
                                ? std::nullopt
                                : timestampMoment(attributes.value("timestamp").value_or(std::string_view()));
         m_inUnusableShow = !local;
@@ -154,11 +156,11 @@ class Rows final : public XMLEvents {
             return;
         }
         TVEntry& entry = addRow();
-        entry.setSourceId(u'_' + pageString(*code));
+        entry.setSourceId(code->second);
         // Rome's offset is the one at that moment taken as UTC.
         entry.setDateTime(*local - m_rome.offsetAt(*local));
         if (const auto title = attributes.value("titolo")) {
-            entry.setIdentificator(sentenceCase(pageString(*title), m_locale));
+            entry.setIdentificator(m_texts.sentenceCase(*title));
         }
         m_rows.back().categories = classifyEntry(entry);
     }
@@ -214,33 +216,34 @@ class Rows final : public XMLEvents {
         return static_cast<int>((local - std::chrono::floor<std::chrono::days>(local)) / hours(1));
     }
 
-    void setText(std::size_t element, const QString& text) {
+    void setText(std::size_t element, std::string_view text) {
         TVEntry& entry = *m_rows.back().basic;
         switch (element) {
         case Titolo:
-            entry.setIdentificator(capitalizedWords(text, m_locale));
+            entry.setIdentificator(m_texts.capitalizedWords(text));
             break;
         case LinkScheda:
-            entry.setUrl(QUrl(text));
+            entry.setUrl(QUrl(pageString(text)));
             break;
         case Descrizione:
             entry.setInstantDescription1(
-                capitalizedWords(text.endsWith(" - "_L1) ? text.chopped(3) : text, m_locale));
+                m_texts.capitalizedWords(text.substr(0, text.size() - (text.ends_with(" - ") ? 3 : 0))));
             break;
         case Paese: {
             // The country stands before the year.
-            const QString country = capitalizedWords(text, m_locale);
+            const QString country = m_texts.capitalizedWords(text);
             const auto& details = entry.instantDetails1();
             entry.setInstantDetails1(details ? country + ", "_L1 + *details : country);
             break;
         }
         case Anno: {
+            const QString year = pageString(text);
             const auto& details = entry.instantDetails1();
-            entry.setInstantDetails1(!details ? text : text.isEmpty() ? *details : *details + ", "_L1 + text);
+            entry.setInstantDetails1(!details ? year : text.empty() ? *details : *details + ", "_L1 + year);
             break;
         }
         case Tipologia:
-            m_rows.back().categories = categoryOf(text, entry.sourceId().value_or(QString()));
+            m_rows.back().categories = categoryOf(pageString(text), entry.sourceId().value_or(QString()));
             break;
         default:
             break;
@@ -249,7 +252,7 @@ class Rows final : public XMLEvents {
 
     const PalinsestoCodes& m_wanted;
     const Alphabet& m_alphabet;
-    const QLocale m_locale;
+    PalinsestoTexts& m_texts;
     ZoneClock m_rome;
     std::vector<ExtendedTVEntry> m_rows;
     /// The text element that is being read.
@@ -260,10 +263,35 @@ class Rows final : public XMLEvents {
 
 } // namespace
 
+QString PalinsestoTexts::capitalizedWords(std::string_view text) {
+    // Titles come again and again, descriptions seldom.
+    constexpr std::size_t kLongestTitle = 40;
+    const bool isTitle = text.size() <= kLongestTitle;
+    if (const QString* known = isTitle ? m_texts.find(text) : nullptr) {
+        return *known;
+    }
+    // A blank ends a word whatever stands around it, and the case of one word is no other's affair.
+    QString result;
+    result.reserve(static_cast<qsizetype>(text.size()));
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = std::min(text.find(' ', start), text.size() - 1) + 1;
+        const std::string_view word = text.substr(start, end - start);
+        const QString* known = m_words.find(word);
+        result += known ? *known : m_words.add(word, guide::capitalizedWords(pageString(word), m_locale));
+        start = end;
+    }
+    return isTitle ? m_texts.add(text, std::move(result)) : result;
+}
+
+QString PalinsestoTexts::sentenceCase(std::string_view text) {
+    const QString* known = m_sentences.find(text);
+    return known ? *known : m_sentences.add(text, guide::sentenceCase(pageString(text), m_locale));
+}
+
 std::optional<std::vector<ExtendedTVEntry>> palinsestoRows(const QByteArray& document,
                                                            const PalinsestoCodes& wanted,
-                                                           const Alphabet& alphabet, const QLocale& locale) {
-    Rows rows(wanted, alphabet, locale);
+                                                           const Alphabet& alphabet, PalinsestoTexts& texts) {
+    Rows rows(wanted, alphabet, texts);
     if (!parseXML(document, kElementNames, rows)) {
         return std::nullopt;
     }

@@ -3,6 +3,10 @@
 #include "parsers/PalinsestoEvents.h"
 #include "parsers/ReaderPages.h"
 
+#include <QHash>
+
+#include <map>
+
 namespace guide {
 
 namespace {
@@ -92,22 +96,46 @@ std::string codeOf(const LoadItem& item) {
     return item.sourceId.mid(1).toStdString();
 }
 
-/// Takes the rows of the item's channel, as shows of it.
-void addShows(const std::vector<ExtendedTVEntry>& rows, const LoadItem& item,
-              std::vector<ExtendedTVEntry>& list) {
-    for (const ExtendedTVEntry& row : rows) {
-        if (!row.basic->identificator() || row.basic->sourceId() != item.sourceId) {
+using Items = std::vector<const LoadItem*>;
+
+/// The row as a show of the item.
+ExtendedTVEntry showOf(const LoadItem& item, std::shared_ptr<TVEntry> entry,
+                       std::optional<TVListingsCategory> categories) {
+    entry->setChannel(item.channel);
+    const QString description = entry->instantDescription1().value_or(QString());
+    if (entry->identificator() == "Nessuna Informazione"_L1 && !description.isEmpty()) {
+        entry->setIdentificator(description);
+        entry->setInstantDescription1(std::nullopt);
+    }
+    return {std::move(entry), categories, nullptr, {}};
+}
+
+/// Hands each row that is a show to the items of its source id, and makes their lists new.
+void handOut(std::vector<ExtendedTVEntry> rows, const Items& items, ParsedLists& lists) {
+    struct Taker {
+        const LoadItem* item;
+        std::vector<ExtendedTVEntry>* list;
+    };
+    QHash<QString, std::vector<Taker>> takers;
+    for (const LoadItem* item : items) {
+        std::vector<ExtendedTVEntry>& list = lists[item->channel];
+        list.clear();
+        takers[item->sourceId].push_back({item, &list});
+    }
+    for (ExtendedTVEntry& row : rows) {
+        if (!row.basic->identificator() || !row.basic->sourceId()) {
             continue;
         }
-        // A copy: two channels may be filed under one code.
-        auto entry = std::make_shared<TVEntry>(*row.basic);
-        entry->setChannel(item.channel);
-        const QString description = entry->instantDescription1().value_or(QString());
-        if (entry->identificator() == "Nessuna Informazione"_L1 && !description.isEmpty()) {
-            entry->setIdentificator(description);
-            entry->setInstantDescription1(std::nullopt);
+        const auto own = takers.constFind(*row.basic->sourceId());
+        if (own == takers.cend()) {
+            continue;
         }
-        list.push_back({std::move(entry), row.categories, nullptr, {}});
+        // Two channels may be filed under one code.
+        for (std::size_t i = 1; i < own->size(); ++i) {
+            const Taker& other = (*own)[i];
+            other.list->push_back(showOf(*other.item, std::make_shared<TVEntry>(*row.basic), row.categories));
+        }
+        own->front().list->push_back(showOf(*own->front().item, std::move(row.basic), row.categories));
     }
 }
 
@@ -116,26 +144,35 @@ void addShows(const std::vector<ExtendedTVEntry>& rows, const LoadItem& item,
 void readPalinsestoLists(const ListReaderInput& input, ParsedLists& lists) {
     const QByteArray text = joinedPages(input.pages);
     const Sections sections(pageText(text));
-    const auto rowsOf = [&input](const QByteArray& document, const PalinsestoCodes& wanted) {
-        return palinsestoRows(document, wanted, input.alphabet, input.locale);
-    };
-    PalinsestoCodes all;
-    for (const LoadItem& item : input.items) {
-        all.insert(codeOf(item));
-    }
-    // A document without sections is the same for all.
-    const auto common = sections.empty() ? rowsOf(text, all) : std::nullopt;
+    PalinsestoTexts texts(input.locale);
+    PalinsestoCodes codes;
+    std::map<std::string, Items> itemsOfCodes;
+    Items all;
     for (const LoadItem& item : input.items) {
         const std::string code = codeOf(item);
-        const auto own = sections.empty() ? std::nullopt : rowsOf(sections.documentOf(code), {code});
-        if (const auto& rows = sections.empty() ? common : own) {
-            std::vector<ExtendedTVEntry> list;
-            addShows(*rows, item, list);
-            if (list.empty()) {
-                input.trace.miss(std::string(sections.empty() ? "idref=\"" : kId) + code + '"');
-            }
-            lists[item.channel] = std::move(list);
+        codes.emplace(code, u'_' + QString::fromStdString(code));
+        itemsOfCodes[code].push_back(&item);
+        all.push_back(&item);
+    }
+    const auto read = [&](const QByteArray& document, const PalinsestoCodes& wanted, const Items& items) {
+        auto rows = palinsestoRows(document, wanted, input.alphabet, texts);
+        if (!rows) {
+            return;
         }
+        handOut(*std::move(rows), items, lists);
+        for (const LoadItem* item : items) {
+            if (lists[item->channel].empty()) {
+                input.trace.miss(std::string(sections.empty() ? "idref=\"" : kId) + codeOf(*item) + '"');
+            }
+        }
+    };
+    // A document without sections is the same for all.
+    if (sections.empty()) {
+        read(text, codes, all);
+        return;
+    }
+    for (const auto& [code, items] : itemsOfCodes) {
+        read(sections.documentOf(code), {*codes.find(code)}, items);
     }
 }
 

@@ -37,35 +37,42 @@ bool contains(const Values& values, const Value& value) {
     return std::find(values.begin(), values.end(), value) != values.end();
 }
 
-/// "yyyy-MM-ddTHH:mm:ss" and the offset from UTC: "Z", or a sign, hours and minutes with a colon or without.
-std::optional<Moment> momentOf(const QJsonValue& value) {
-    const std::string text = value.toString().toStdString();
-    if (text.size() < 20 || text[10] != 'T') {
+/// "Z", or a sign, hours and minutes with a colon or without.
+std::optional<std::chrono::minutes> offsetOf(std::string_view text) {
+    if (text == "Z") {
+        return std::chrono::minutes(0);
+    }
+    const bool hasColon = text.size() == 6 && text[3] == ':';
+    if ((text.size() != 5 && !hasColon) || (text[0] != '+' && text[0] != '-')) {
         return std::nullopt;
     }
-    const std::string_view view = text;
+    const auto hours = decimalNumber(text.substr(1, 2));
+    const auto minutes = decimalNumber(text.substr(text.size() - 2));
+    if (!hours || !minutes || *minutes > 59) {
+        return std::nullopt;
+    }
+    const std::chrono::minutes offset = std::chrono::hours(*hours) + std::chrono::minutes(*minutes);
+    return text[0] == '-' ? -offset : offset;
+}
+
+/// "yyyy-MM-ddTHH:mm:ss" and the offset from UTC.
+std::optional<Moment> momentOf(const QJsonValue& value) {
+    constexpr qsizetype kLongest = 25;
+    const QString text = value.toString();
+    if (text.size() < 20 || text.size() > kLongest || text[10] != u'T') {
+        return std::nullopt;
+    }
+    std::array<char, kLongest> latin{};
+    std::transform(text.begin(), text.end(), latin.begin(), [](QChar c) { return c.toLatin1(); });
+    const std::string_view view(latin.data(), static_cast<std::size_t>(text.size()));
     const auto date = yearMonthDay(view.substr(0, 10));
     const auto time = timeWithSeconds(view.substr(11, 8));
-    std::string zone(view.substr(19));
-    std::erase(zone, ':');
-    std::chrono::minutes offset(0);
-    if (zone != "Z") {
-        const auto hours =
-            zone.size() == 5 ? decimalNumber(std::string_view(zone).substr(1, 2)) : std::nullopt;
-        const auto minutes = hours ? decimalNumber(std::string_view(zone).substr(3, 2)) : std::nullopt;
-        if (!minutes || *minutes > 59 || (zone[0] != '+' && zone[0] != '-')) {
-            return std::nullopt;
-        }
-        offset = std::chrono::hours(*hours) + std::chrono::minutes(*minutes);
-        if (zone[0] == '-') {
-            offset = -offset;
-        }
-    }
-    if (!date || !time) {
+    const auto offset = offsetOf(view.substr(19));
+    if (!date || !time || !offset) {
         return std::nullopt;
     }
     constexpr qint64 kJulianDayOf1970 = 2'440'588;
-    return std::chrono::sys_days(std::chrono::days(date->toJulianDay() - kJulianDayOf1970)) + *time - offset;
+    return std::chrono::sys_days(std::chrono::days(date->toJulianDay() - kJulianDayOf1970)) + *time - *offset;
 }
 
 QString withoutParentheses(const QString& text) {

@@ -1,7 +1,5 @@
 #include "parsers/ZoneClock.h"
 
-#include <QDateTime>
-
 namespace guide {
 
 namespace {
@@ -34,13 +32,7 @@ std::optional<minutes> timeOfDay(std::string_view text) {
 }
 
 ZoneClock::ZoneClock(const QTimeZone& zone)
-    : m_zone(zone)
-    , m_localTime(zone) {}
-
-seconds ZoneClock::offsetAt(Moment moment) const {
-    return seconds(
-        m_zone.offsetFromUtc(QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC)));
-}
+    : m_localTime(zone) {}
 
 std::optional<Moment> ZoneClock::momentAt(const QDate& date, seconds time) {
     if (!date.isValid()) {

@@ -16,15 +16,15 @@ namespace guide {
 /// anything else.
 std::optional<std::chrono::minutes> timeOfDay(std::string_view text);
 
-/// The clock on the wall of a schedule's zone: which moment it means by a date and a time. Quick for times of
-/// one day, which ask the zone but once. For one thread.
+/// The clock on the wall of a schedule's zone: which moment it means by a date and a time. Quick for times
+/// between two changes of the clock. For one thread.
 class ZoneClock {
   public:
     explicit ZoneClock(const QTimeZone& zone);
 
     QDate dateAt(Moment moment) { return m_localTime.dateAt(moment); }
     /// What the clock is ahead of UTC.
-    std::chrono::seconds offsetAt(Moment moment) const;
+    std::chrono::seconds offsetAt(Moment moment) { return m_localTime.offsetAt(moment); }
 
     /// The moment at which the clock shows the time on that date; `time` may reach beyond the day. A time
     /// that a change of the clock leaves out lies as far behind the change as it would have, and of a time
@@ -32,7 +32,6 @@ class ZoneClock {
     std::optional<Moment> momentAt(const QDate& date, std::chrono::seconds time);
 
   private:
-    QTimeZone m_zone;
     LocalTime m_localTime;
     /// The offsets well before and well after the day asked for last.
     QDate m_day;

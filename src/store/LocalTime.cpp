@@ -8,7 +8,6 @@ namespace {
 
 constexpr qint64 kJulianDayOf1970 = 2'440'588;
 
-using Quarter = std::chrono::duration<std::int64_t, std::ratio<900>>;
 using Days = std::chrono::days;
 
 } // namespace
@@ -16,14 +15,24 @@ using Days = std::chrono::days;
 LocalTime::LocalTime(const QTimeZone& zone)
     : m_zone(zone) {}
 
-std::chrono::seconds LocalTime::localSecondsAt(Moment moment) {
-    const std::int64_t quarter = std::chrono::floor<Quarter>(moment).time_since_epoch().count();
-    if (quarter != m_quarter) {
-        m_quarter = quarter;
+std::chrono::seconds LocalTime::offsetAt(Moment moment) {
+    if (moment < m_from || moment >= m_until) {
+        const auto momentOf = [](const QDateTime& time) {
+            return Moment(std::chrono::milliseconds(time.toMSecsSinceEpoch()));
+        };
         const QDateTime time = QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC);
+        const auto from = m_zone.previousTransition(time.addMSecs(1));
+        const auto until = m_zone.nextTransition(time);
+        // Where the zone tells of no change, nothing is known of the moments around.
+        m_from = from.atUtc.isValid() ? momentOf(from.atUtc) : moment;
+        m_until = until.atUtc.isValid() ? momentOf(until.atUtc) : moment + std::chrono::milliseconds(1);
         m_offset = std::chrono::seconds(m_zone.offsetFromUtc(time));
     }
-    return std::chrono::floor<std::chrono::seconds>(moment).time_since_epoch() + m_offset;
+    return m_offset;
+}
+
+std::chrono::seconds LocalTime::localSecondsAt(Moment moment) {
+    return std::chrono::floor<std::chrono::seconds>(moment).time_since_epoch() + offsetAt(moment);
 }
 
 QDate LocalTime::dateAt(Moment moment) {

@@ -5,12 +5,10 @@
 #include <QDate>
 #include <QTimeZone>
 
-#include <limits>
-
 namespace guide {
 
-/// The wall clock of one zone. Quick for moments that come in order: a zone is asked once for a quarter of an
-/// hour, the step on which all zones change. For one thread.
+/// The wall clock of one zone. Quick for moments that lie near to each other: the zone is asked once for all
+/// of them between two changes of its clock. For one thread.
 class LocalTime {
   public:
     explicit LocalTime(const QTimeZone& zone);
@@ -18,12 +16,16 @@ class LocalTime {
     QDate dateAt(Moment moment);
     /// 0 to 23.
     int hourAt(Moment moment);
+    /// What the clock is ahead of UTC.
+    std::chrono::seconds offsetAt(Moment moment);
 
   private:
     std::chrono::seconds localSecondsAt(Moment moment);
 
     QTimeZone m_zone;
-    std::int64_t m_quarter = std::numeric_limits<std::int64_t>::min();
+    /// The moments at which the clock is ahead by the offset.
+    Moment m_from = Moment::max();
+    Moment m_until = Moment::min();
     std::chrono::seconds m_offset{0};
 };
 

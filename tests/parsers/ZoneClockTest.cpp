@@ -2,6 +2,8 @@
 
 #include "parsers/ShowJSON.h"
 
+#include <QDateTime>
+
 #include <gtest/gtest.h>
 
 namespace guide {
@@ -36,6 +38,24 @@ TEST(ZoneClock, DecidesTheTimesOfAClockChange) {
     };
     for (const auto& row : rows) {
         EXPECT_EQ(utc(prague, row.date, row.time), row.expected) << row.name;
+    }
+}
+
+TEST(ZoneClock, KnowsTheOffsetOnEitherSideOfEveryChange) {
+    for (const char* name : {"Europe/Prague", "Europe/Bucharest", "Africa/Casablanca", "UTC", "Etc/GMT+5"}) {
+        const QTimeZone zone(name);
+        ZoneClock clock(zone);
+        const Moment start = std::chrono::sys_days{std::chrono::year{2035} / 1 / 1};
+        // Forwards, and back and forth; into the years that have no table of their own.
+        for (int i = 0; i < 4 * 365 * 24; ++i) {
+            const Moment moment = start + std::chrono::hours(i % 7 == 0 ? i / 2 : i);
+            for (const Moment near : {moment - 1ms, moment}) {
+                const QDateTime time =
+                    QDateTime::fromMSecsSinceEpoch(near.time_since_epoch().count(), Qt::UTC);
+                ASSERT_EQ(clock.offsetAt(near).count(), zone.offsetFromUtc(time))
+                    << name << ' ' << isoMoment(near).toStdString();
+            }
+        }
     }
 }
 
