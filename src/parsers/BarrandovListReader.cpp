@@ -111,20 +111,20 @@ class PageReader {
 
     void addShow(const LoadItem& item, std::size_t window, std::vector<ExtendedTVEntry>& list) {
         const auto date = fieldBehind(m_date, window);
-        const auto start = date ? momentOf(*date) : std::nullopt;
-        const auto title = start ? fieldBehind(m_title, window) : std::nullopt;
-        if (!title) {
+        const auto title = fieldBehind(m_title, window);
+        const auto repeat = fieldBehind(m_repeat, window);
+        const auto perex = fieldBehind(m_perex, window);
+        const auto about = fieldBehind(m_about, window);
+        const auto source = m_site ? fieldBehind(m_picture, window) : std::nullopt;
+        const auto start = date && title ? momentOf(*date) : std::nullopt;
+        if (!start) {
             return;
         }
         ExtendedTVEntry show;
         show.basic = newEntry(m_input, item, pageString(*title), *start);
         show.basic->setSourceId(item.sourceId);
-        const auto repeat = fieldBehind(m_repeat, window);
         show.basic->setPreviouslyShown(repeat && *repeat != "NE");
         show.categories = classifyEntry(*show.basic);
-        const auto perex = fieldBehind(m_perex, window);
-        const auto about = fieldBehind(m_about, window);
-        const auto source = m_site ? fieldBehind(m_picture, window) : std::nullopt;
         const QUrl picture = source ? QUrl(*m_site + pageString(*source)) : QUrl();
         const bool isPictured = isWebURL(picture);
         if (perex || about || isPictured) {

@@ -82,13 +82,14 @@ void readComedyCentralLists(const ListReaderInput& input, ParsedLists& lists) {
             if (!title) {
                 break;
             }
+            const auto path = links.next(walk.position());
             const auto start = momentOf(*time);
             if (!start) {
                 continue;
             }
             auto entry = newEntry(input, item, pageString(*title), *start);
             entry->setSourceId(item.sourceId);
-            if (const auto path = links.next(walk.position()); site && path && !path->empty()) {
+            if (site && path && !path->empty()) {
                 entry->setUrl(QUrl(*site + pageString(*path)));
             }
             lists[item.channel].push_back({std::move(entry), TVListingsCategory{0}, nullptr, {}});

@@ -42,10 +42,13 @@ std::optional<std::vector<MarkerWalk>> tabs(const MarkerWalk& page) {
     return found;
 }
 
-/// The text behind the marker up to the next tag, trimmed.
-std::optional<QString> textBehind(MarkerWalk item, std::string_view marker) {
-    const auto text = item.take(marker, "<");
-    return text ? std::optional(trimmedListingText(pageString(*text)).value_or(QString())) : std::nullopt;
+/// The text behind the marker up to the next tag.
+std::optional<std::string_view> textBehind(MarkerWalk item, std::string_view marker) {
+    return item.take(marker, "<");
+}
+
+QString trimmed(std::string_view text) {
+    return trimmedListingText(pageString(text)).value_or(QString());
 }
 
 } // namespace
@@ -71,22 +74,27 @@ void readDolceSportLists(const ListReaderInput& input, ParsedLists& lists) {
             const MarkerWalk item = section.part(section.position(), *end);
             section.moveTo(*end);
 
-            const auto time = textBehind(item, " class=\"time\">");
+            const auto timeText = textBehind(item, " class=\"time\">");
+            const auto nameText = timeText ? textBehind(item, " class=\"name\">") : std::nullopt;
+            if (!nameText) {
+                continue;
+            }
+            const std::string time = trimmed(*timeText).toStdString();
             // The day of broadcasts turns at 08:00; "07:59" sorts before "0800", and "08:00" behind it.
-            const bool small = time && *time < "0800"_L1;
-            const auto clockTime = time ? timeOfDay(time->toStdString()) : std::nullopt;
+            const bool small = time < "0800";
+            const auto clockTime = timeOfDay(time);
             const auto start =
                 clockTime ? bucharest.momentAt(bucharest.dateAt(small ? day + std::chrono::hours(24) : day),
                                                *clockTime)
                           : std::nullopt;
-            const auto name = start ? textBehind(item, " class=\"name\">") : std::nullopt;
-            if (!name) {
+            if (!start) {
                 continue;
             }
-            const TVListingsCategory category = *name == "TELESHOPPING"_L1 ? 0 : TVListingsCategorySports;
+            const QString name = trimmed(*nameText);
+            const TVListingsCategory category = name == "TELESHOPPING"_L1 ? 0 : TVListingsCategorySports;
             auto entry = newEntry(input, loadItem, *start);
-            if (!name->isEmpty()) {
-                entry->setIdentificator(sentenceCase(*name, input.locale));
+            if (!name.isEmpty()) {
+                entry->setIdentificator(sentenceCase(name, input.locale));
             }
             lists[loadItem.channel].push_back({std::move(entry), category, nullptr, {}});
         }

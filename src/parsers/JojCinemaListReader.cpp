@@ -41,34 +41,31 @@ class DayReader {
             } else {
                 previous = time;
             }
-            if (const auto clockTime = timeOfDay(time)) {
-                if (const auto start = m_clock.momentAt(date, *clockTime)) {
-                    addShow(item, *start);
-                }
-            }
+            addShow(item, date, time);
             day.moveTo(item.limit());
         }
     }
 
   private:
-    void addShow(MarkerWalk item, Moment start) {
-        const MarkerWalk whole = item;
+    void addShow(MarkerWalk item, const QDate& date, std::string_view time) {
+        const auto source = MarkerWalk(item).take("<img src=\"", "\"");
         const auto path = item.take("<a href=\"", "\" title=\"");
         if (!path || !item.pass("\" title=\"")) {
             return;
         }
         const auto title = item.takeUpTo("\"");
-        if (!title) {
+        const auto clockTime = title ? timeOfDay(time) : std::nullopt;
+        const auto start = clockTime ? m_clock.momentAt(date, *clockTime) : std::nullopt;
+        if (!start) {
             return;
         }
-        auto entry = newEntry(m_input, m_item, pageString(*title), start);
+        auto entry = newEntry(m_input, m_item, pageString(*title), *start);
         entry->setSourceId(m_item.sourceId);
         if (m_site) {
             entry->setUrl(QUrl(*m_site + pageString(*path)));
         }
         const TVListingsCategory categories = classifyEntry(*entry);
         ExtendedTVEntry show{std::move(entry), categories, nullptr, {}};
-        const auto source = MarkerWalk(whole).take("<img src=\"", "\"");
         const QUrl picture = source && m_site ? QUrl(*m_site + pageString(*source)) : QUrl();
         if (isWebURL(picture)) {
             show.extra = std::make_shared<TVEntrySupplementalData>();

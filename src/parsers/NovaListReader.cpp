@@ -56,15 +56,14 @@ void readItem(const ListReaderInput& input, const LoadItem& loadItem, const Mark
               ZoneClock& prague, ParsedLists& lists) {
     const auto begin = attributeText(item, "data-begin=\"");
     const auto title = begin ? attributeText(item, "<span class=\"title\">") : std::nullopt;
-    const auto start = title ? momentOf(*begin, prague) : std::nullopt;
-    if (!start) {
-        return;
-    }
     const auto end = attributeText(item, "data-end=\"");
     const auto description = attributeText(item, "<span class=\"description\">");
     const auto words = std::find_if(kCategories.begin(), kCategories.end(),
                                     [&item](const CategoryWords& row) { return item.contains(row.words); });
-
+    const auto start = title ? momentOf(*begin, prague) : std::nullopt;
+    if (!start) {
+        return;
+    }
     ExtendedTVEntry show;
     show.basic = newEntry(input, loadItem, pageString(*title), *start);
     show.basic->setEndDateTime(end ? momentOf(*end, prague) : std::nullopt);

@@ -137,23 +137,23 @@ class DayReader {
             } else {
                 previous = time;
             }
-            const auto clockTime = timeOfDay(time);
-            if (const auto moment = clockTime ? m_prague.momentAt(date, *clockTime) : std::nullopt) {
-                addShow(start, row.limit(), *moment);
-            }
+            addShow(start, row.limit(), date, time);
         }
     }
 
   private:
     /// Of the row from `begin` to `end`.
-    void addShow(std::size_t begin, std::size_t end, Moment start) {
+    void addShow(std::size_t begin, std::size_t end, const QDate& date, std::string_view time) {
         const auto name = m_titles.next(begin, end);
-        const auto block = name ? m_blocks.next(begin, end) : std::nullopt;
-        if (!block) {
+        const auto block = m_blocks.next(begin, end);
+        const auto source = m_pictures.next(begin, end);
+        const auto clockTime = name && block ? timeOfDay(time) : std::nullopt;
+        const auto start = clockTime ? m_prague.momentAt(date, *clockTime) : std::nullopt;
+        if (!start) {
             return;
         }
         ExtendedTVEntry show;
-        show.basic = newEntry(m_input, m_item, start);
+        show.basic = newEntry(m_input, m_item, *start);
         show.extra = std::make_shared<TVEntrySupplementalData>();
         QString title = trimmed(withoutTags(name->text)).value_or(QString());
         splitEpisode(title, *show.basic);
@@ -164,7 +164,6 @@ class DayReader {
         if (const auto text = trimmed(block->text)) {
             readBlock(*text, *show.basic, *show.extra);
         }
-        const auto source = m_pictures.next(begin, end);
         if (const QUrl picture = source ? QUrl(pageString(source->text)) : QUrl(); isWebURL(picture)) {
             show.pictures.insert(picture);
         }

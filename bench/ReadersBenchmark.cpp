@@ -1,0 +1,337 @@
+// The readers of pages, each on two megabytes of its own format. What walks a page without lifting anything
+// is the reader itself, on the page with its times made unreadable: it finds every field and makes nothing of
+// them.
+
+#include "FamilyPages.h"
+#include "MadeShows.h"
+#include "parsers/ZoneClock.h"
+#include "text/Capitalisation.h"
+#include "text/MarkupText.h"
+#include "text/ShowClassifier.h"
+
+#include <QDateTime>
+
+#include <benchmark/benchmark.h>
+#include <cstring>
+#include <functional>
+
+namespace guide::bench {
+namespace {
+
+constexpr std::size_t kSize = 2'000'000;
+
+/// How a format writes its fields, and what its reader does with them beside finding them.
+struct Format {
+    const char* name;
+    FamilyPages (*make)(std::size_t size);
+    /// What stands before a time.
+    std::string_view time;
+    /// Every marker that the reader looks for, the changing ones as one of them.
+    std::vector<std::string> markers;
+    /// Of the schedule; none where moments are numbers.
+    const char* zone = nullptr;
+    bool classifies = false;
+    /// Which texts the reader trims.
+    bool trimsTimes = false;
+    bool trimsTitles = false;
+    bool trimsDescriptions = false;
+    bool casesTitles = false;
+};
+
+const std::vector<Format>& formats() {
+    static const std::vector<Format> all{
+        {.name = "Barrandov",
+         .make = barrandovPages,
+         .time = "<li><strong>Datum vysílání:</strong> ",
+         .markers =
+             {"<h3 class=\"program-channel__title program-channel__title--",
+              "<h3 class=\"program-channel__title program-channel__title--krimi\">Barrandov Krimi</h3>",
+              "<a href=\"#modal", "\"", "<div class=\"remodal\" data-remodal-id=\"modal",
+              "<li><strong>Datum vysílání:</strong> ", "<li><strong>Repríza:</strong> ", "</li",
+              "<img src=\"", "<h2 class=\"show-detail__title\">", "</h2>", "<p class=\"show-detail__perex\">",
+              "<p class=\"show-detail__about\">", "</p>"},
+         .zone = "Europe/Prague",
+         .classifies = true},
+        {.name = "Digi Sport",
+         .make = digiSportPages,
+         .time = "<span><strong>",
+         .markers = {"id=\"tabs-7\"", "alt=\"Digi Sport 1\"", "http", "<span><strong>", "<strong>", "<",
+                     "<br />"},
+         .zone = "Europe/Bratislava",
+         .classifies = true},
+        {.name = "JOJ Cinema",
+         .make = jojCinemaPages,
+         .time = "class=\"time\">",
+         .markers = {"day=18-11-2026\" class=\"active\"", " class=\"item\"", "class=\"time\">", "<a href=\"",
+                     "\" title=\"", "\"", "<img src=\"", " href=\"?day="},
+         .zone = "Europe/Bratislava",
+         .classifies = true},
+        {.name = "Prima Max",
+         .make = primaMaxPages,
+         .time = "<time>",
+         .markers = {"class=\"tab tab-active\"", "<div class=\"row\">", "<time>",
+                     "<h3 class=\"broadcast-title broadcast-title-xs\">", "</h3>",
+                     "<p class=\"m-top broadcast-description\">", "<", "<img src=\"", "\""},
+         .zone = "Europe/Prague",
+         .classifies = true,
+         .trimsTitles = true,
+         .trimsDescriptions = true},
+        {.name = "HBO",
+         .make = hboPages,
+         .time = "class=\"time\">",
+         .markers = {"<html", "</html>", "<div class=\"channel\">", "logo_index_3", "<a href=\"", "\"",
+                     "class=\"time\">", "past", "<", "class=\"title\">"},
+         .zone = "Europe/Budapest",
+         .classifies = true},
+        {.name = "Nova",
+         .make = novaPages,
+         .time = "data-begin=\"",
+         .markers = {"class=\"channels-logo\">", "<", "<li class=\"channels-content-show\"", "</li>",
+                     "data-begin=\"", "data-end=\"", "\"", "<span class=\"title\">",
+                     "<span class=\"description\">", "- seriál", "- zprávy", "- zábava", "- film",
+                     "- dokument", "- sport"},
+         .zone = "Europe/Prague"},
+        {.name = "Dolce Sport",
+         .make = dolceSportPages,
+         .time = " class=\"time\"> ",
+         .markers = {"data-ls-for=\"", "\"", "id=\"ziua-3", "<li class=\"list-group-item\">", "</li",
+                     " class=\"time\">", " class=\"name\">", "<"},
+         .zone = "Europe/Bucharest",
+         .trimsTimes = true,
+         .trimsTitles = true,
+         .casesTitles = true},
+        {.name = "Cinestar",
+         .make = cinestarPages,
+         .time = " class=\"hour",
+         .markers = {" lang=\"", "\"date", "18.11.", "kanal-C", "kanal-C3'", "zanr", "href=\"", "\"",
+                     "fit-text'> ", "<", " class=\"hour", "<h4 class='title'>"},
+         .zone = "Europe/Zagreb",
+         .trimsTimes = true},
+        {.name = "Comedy Central",
+         .make = comedyCentralPages,
+         .time = "data-time=\"",
+         .markers = {"data-time=\"", "\"", "<h3>", "<", " href=\"/"}},
+    };
+    return all;
+}
+
+/// The pages with each time's first digit made a letter, in which the reader finds everything and nothing to
+/// lift.
+std::vector<QByteArray> withoutTimes(const Format& format, std::vector<QByteArray> pages) {
+    const QByteArray marker(format.time.data(), static_cast<qsizetype>(format.time.size()));
+    for (QByteArray& page : pages) {
+        for (qsizetype at = page.indexOf(marker); at >= 0; at = page.indexOf(marker, at + 1)) {
+            qsizetype digit = at + marker.size();
+            while (digit < page.size() && (page[digit] < '0' || page[digit] > '9')) {
+                ++digit;
+            }
+            if (digit < page.size()) {
+                page[digit] = 'x';
+            }
+        }
+    }
+    return pages;
+}
+
+/// All that a reader makes of its pages, taken apart: what it lifted, and what it asked.
+struct Pieces {
+    struct Texts {
+        std::optional<QString> sourceId, details, title, description;
+    };
+    std::vector<Texts> classified;
+    std::vector<std::pair<QDate, std::chrono::seconds>> times;
+    std::vector<QByteArray> plain;
+    std::vector<QByteArray> trimmed;
+    std::vector<QByteArray> cased;
+    std::vector<QByteArray> links;
+
+    Pieces(const Format& format, const ParsedLists& lists) {
+        const QTimeZone zone(format.zone ? format.zone : "UTC");
+        for (const auto& [channel, list] : lists) {
+            for (const ExtendedTVEntry& show : list) {
+                add(format, show, zone);
+            }
+        }
+    }
+
+  private:
+    void add(const Format& format, const ExtendedTVEntry& show, const QTimeZone& zone) {
+        const TVEntry& entry = *show.basic;
+        if (format.classifies) {
+            classified.push_back({entry.sourceId(), entry.instantDetails1(), entry.identificator(),
+                                  entry.instantDescription1()});
+        }
+        for (const auto& moment : {entry.dateTime(), entry.endDateTime()}) {
+            if (moment) {
+                const QDateTime time =
+                    QDateTime::fromMSecsSinceEpoch(moment->time_since_epoch().count(), zone);
+                times.emplace_back(time.date(),
+                                   std::chrono::milliseconds(time.time().msecsSinceStartOfDay()) /
+                                       std::chrono::seconds(1) * std::chrono::seconds(1));
+                if (format.trimsTimes) {
+                    trimmed.push_back(' ' + time.toString(u"HH:mm"_s).toUtf8() + ' ');
+                }
+            }
+        }
+        if (!format.zone) {
+            times.clear();
+        }
+        addText(format.casesTitles ? cased : format.trimsTitles ? trimmed : plain, entry.identificator());
+        for (const auto& text : {entry.instantDetails1(), entry.subtitle1(), entry.instantDescription1()}) {
+            addText(plain, text);
+        }
+        if (show.extra) {
+            addText(format.trimsDescriptions ? trimmed : plain, show.extra->description);
+            for (const auto& text : {show.extra->details, show.extra->roles, show.extra->directedBy}) {
+                addText(plain, text);
+            }
+        }
+        addText(links, entry.encodedUrl());
+        for (const QUrl& picture : show.pictures) {
+            addText(links, picture.toString());
+        }
+    }
+
+    static void addText(std::vector<QByteArray>& texts, const std::optional<QString>& text) {
+        if (text) {
+            texts.push_back(text->toUtf8());
+        }
+    }
+};
+
+/// What is measured of a format; made once.
+struct Subject {
+    const Format& format;
+    FamilyPages whole;
+    std::vector<QByteArray> unreadable;
+    Pieces pieces;
+
+    explicit Subject(const Format& given)
+        : format(given)
+        , whole(given.make(kSize))
+        , unreadable(withoutTimes(given, whole.pages))
+        , pieces(given, whole.read()) {}
+};
+
+const Subject& subject(std::size_t number) {
+    static std::vector<std::unique_ptr<Subject>> made(formats().size());
+    if (!made[number]) {
+        made[number] = std::make_unique<Subject>(formats()[number]);
+    }
+    return *made[number];
+}
+
+bool walk(const Subject& of) {
+    return showCount(of.whole.read(of.unreadable)) == 0;
+}
+
+void walkGuide(benchmark::State& state, std::size_t number) {
+    const Subject& of = subject(number);
+    for ([[maybe_unused]] auto pass : state) {
+        if (!walk(of)) {
+            state.SkipWithError("a show without a time");
+        }
+    }
+    state.counters["atMost"] = 2;
+}
+
+/// One pass over the pages for each marker.
+void walkFloor(benchmark::State& state, std::size_t number) {
+    const Subject& of = subject(number);
+    for ([[maybe_unused]] auto pass : state) {
+        for (const std::string& marker : of.format.markers) {
+            std::size_t count = 0;
+            for (const QByteArray& page : of.unreadable) {
+                const char* const end = page.constData() + page.size();
+                const char* at = page.constData();
+                while (const void* place =
+                           memmem(at, static_cast<std::size_t>(end - at), marker.data(), marker.size())) {
+                    at = static_cast<const char*>(place) + marker.size();
+                    ++count;
+                }
+            }
+            if (count == 0) {
+                state.SkipWithError(("nowhere " + marker).c_str());
+            }
+        }
+    }
+}
+
+void readerGuide(benchmark::State& state, std::size_t number) {
+    const Subject& of = subject(number);
+    for ([[maybe_unused]] auto pass : state) {
+        ParsedLists lists = of.whole.read();
+        state.PauseTiming();
+        if (showCount(lists) != of.whole.shows) {
+            state.SkipWithError(
+                (std::to_string(showCount(lists)) + " shows of " + std::to_string(of.whole.shows)).c_str());
+        }
+        lists.clear();
+        state.ResumeTiming();
+    }
+    state.counters["atMost"] = 1.5;
+}
+
+void readerFloor(benchmark::State& state, std::size_t number) {
+    const Subject& of = subject(number);
+    const Pieces& pieces = of.pieces;
+    const QLocale locale(QLocale::Czech, QLocale::CzechRepublic);
+    std::vector<QString> texts;
+    for ([[maybe_unused]] auto pass : state) {
+        if (!walk(of)) {
+            state.SkipWithError("a show without a time");
+        }
+        for (const QByteArray& text : pieces.plain) {
+            texts.push_back(QString::fromUtf8(text));
+        }
+        for (const QByteArray& text : pieces.trimmed) {
+            texts.push_back(trimmedListingText(QString::fromUtf8(text)).value_or(QString()));
+        }
+        for (const QByteArray& text : pieces.cased) {
+            texts.push_back(
+                sentenceCase(trimmedListingText(QString::fromUtf8(text)).value_or(QString()), locale));
+        }
+        for (const QByteArray& text : pieces.links) {
+            texts.push_back(QUrl(QString::fromUtf8(text)).toString(QUrl::FullyEncoded));
+        }
+        if (!pieces.times.empty()) {
+            ZoneClock clock{QTimeZone(of.format.zone)};
+            for (const auto& [date, time] : pieces.times) {
+                benchmark::DoNotOptimize(clock.momentAt(date, time));
+            }
+        }
+        for (const Pieces::Texts& show : pieces.classified) {
+            benchmark::DoNotOptimize(
+                classifyEntry(show.sourceId, {show.details, show.title, show.description}));
+        }
+        state.PauseTiming();
+        if (texts.size() < of.whole.shows) {
+            state.SkipWithError("too few texts");
+        }
+        texts.clear();
+        state.ResumeTiming();
+    }
+}
+
+using Benchmark = void (*)(benchmark::State& state, std::size_t number);
+
+void add(const std::string& row, const char* side, Benchmark measured, std::size_t number) {
+    benchmark::RegisterBenchmark((row + '/' + side).c_str(),
+                                 [measured, number](benchmark::State& state) { measured(state, number); })
+        ->Unit(benchmark::kMillisecond)
+        ->MinTime(0.2);
+}
+
+const bool added = [] {
+    for (std::size_t i = 0; i < formats().size(); ++i) {
+        const std::string name = formats()[i].name;
+        add("walk, " + name, "guide", walkGuide, i);
+        add("walk, " + name, "floor", walkFloor, i);
+        add("reader, " + name, "guide", readerGuide, i);
+        add("reader, " + name, "floor", readerFloor, i);
+    }
+    return true;
+}();
+
+} // namespace
+} // namespace guide::bench
