@@ -14,57 +14,50 @@ constexpr std::chrono::hours kDay(24);
 /// What starts earlier belongs to the day before.
 constexpr std::chrono::hours kDayTurn(3);
 
+/// A show as the page says it.
+struct Row {
+    std::chrono::minutes time;
+    std::string_view title;
+    std::string_view description;
+};
+
 struct SportChannel {
     const LoadItem* item;
     std::string logo;
     /// In all tabs.
     MarkerPlaces logos;
+    /// Of the last tab that has any, and its moment.
+    std::vector<Row> rows;
+    Moment day;
 };
 
-class TabReader {
-  public:
-    TabReader(const ListReaderInput& input, ZoneClock& bratislava)
-        : m_input(input)
-        , m_clock(bratislava) {}
-
-    std::vector<ExtendedTVEntry> read(MarkerWalk block, const LoadItem& item, Moment day) {
-        std::vector<ExtendedTVEntry> list;
-        while (block.pass("<span><strong>")) {
-            const auto time = timeOfDay(block.characters(5));
-            const auto title = block.take("<strong>", "<");
-            const auto description = title ? block.take("<br />", "<") : std::nullopt;
-            if (!description) {
-                break;
-            }
-            if (!time) {
-                continue;
-            }
-            auto entry = newEntry(m_input, item, pageString(*title), start(day, *time));
-            entry->setInstantDescription1(pageString(*description));
-            entry->setSourceId(item.sourceId);
-            const TVListingsCategory categories = classifyEntry(*entry);
-            list.push_back({std::move(entry), categories, nullptr, {}});
+std::vector<Row> rowsOf(MarkerWalk block) {
+    std::vector<Row> rows;
+    while (block.pass("<span><strong>")) {
+        const auto time = timeOfDay(block.characters(5));
+        const auto title = block.take("<strong>", "<");
+        const auto description = title ? block.take("<br />", "<") : std::nullopt;
+        if (!description) {
+            break;
         }
-        return list;
+        if (time) {
+            rows.push_back({*time, *title, *description});
+        }
     }
+    return rows;
+}
 
-  private:
-    /// The offset from UTC is the one of the tab's moment, whatever the clock shows at the time.
-    Moment start(Moment day, std::chrono::minutes time) {
-        const Moment moment = time < kDayTurn ? day + kDay : day;
-        const std::chrono::seconds offset = m_clock.offsetAt(moment);
-        return std::chrono::floor<std::chrono::days>(moment + offset) + time - offset;
-    }
-
-    const ListReaderInput& m_input;
-    ZoneClock& m_clock;
-};
+/// The offset from UTC is the one of the tab's moment, whatever the clock shows at the time.
+Moment startOf(const Row& row, Moment day, ZoneClock& clock) {
+    const Moment moment = row.time < kDayTurn ? day + kDay : day;
+    const std::chrono::seconds offset = clock.offsetAt(moment);
+    return std::chrono::floor<std::chrono::days>(moment + offset) + row.time - offset;
+}
 
 } // namespace
 
 void readDigiSportLists(const ListReaderInput& input, ParsedLists& lists) {
     ZoneClock bratislava(QTimeZone("Europe/Bratislava"));
-    TabReader reader(input, bratislava);
     const QByteArray text = joinedPages(input.pages);
     const MarkerWalk page(pageText(text), input.trace);
 
@@ -72,14 +65,14 @@ void readDigiSportLists(const ListReaderInput& input, ParsedLists& lists) {
     for (const LoadItem& item : input.items) {
         std::string logo = "alt=\"" + item.sourceId.mid(kPrefixLength).toStdString() + '"';
         MarkerPlaces logos(pageText(text), logo);
-        channels.push_back({&item, std::move(logo), std::move(logos)});
+        channels.push_back({&item, std::move(logo), std::move(logos), {}, {}});
     }
     for (int t = 0; t < kTabs; ++t) {
         MarkerWalk tab = page;
         if (!tab.pass("id=\"tabs-" + std::to_string(t) + '"')) {
             continue;
         }
-        for (const SportChannel& channel : channels) {
+        for (SportChannel& channel : channels) {
             const auto logo = channel.logos.next(tab.position());
             if (!logo) {
                 input.trace.miss(channel.logo);
@@ -90,10 +83,24 @@ void readDigiSportLists(const ListReaderInput& input, ParsedLists& lists) {
             if (!end) {
                 continue;
             }
-            auto list = reader.read(page.part(*logo, *end), *channel.item, input.now + kDay * t);
-            if (!list.empty()) {
-                lists[channel.item->channel] = std::move(list);
+            if (auto rows = rowsOf(page.part(*logo, *end)); !rows.empty()) {
+                channel.rows = std::move(rows);
+                channel.day = input.now + kDay * t;
             }
+        }
+    }
+    for (const SportChannel& channel : channels) {
+        std::vector<ExtendedTVEntry> list;
+        for (const Row& row : channel.rows) {
+            auto entry =
+                newEntry(input, *channel.item, pageString(row.title), startOf(row, channel.day, bratislava));
+            entry->setInstantDescription1(pageString(row.description));
+            entry->setSourceId(channel.item->sourceId);
+            const TVListingsCategory categories = classifyEntry(*entry);
+            list.push_back({std::move(entry), categories, nullptr, {}});
+        }
+        if (!list.empty()) {
+            lists[channel.item->channel] = std::move(list);
         }
     }
 }

@@ -50,24 +50,52 @@ void splitEpisode(QString& title, TVEntry& entry) {
 enum class Part { Fact, Ignored, Roles, Director };
 
 struct Separator {
-    QString text;
+    QStringView text;
     Part part;
     qsizetype position = -1;
+
+    /// Takes the place when the separator stands there, in whatever case, for the first time.
+    void lookAt(const QString& block, qsizetype place) {
+        if (position < 0 && QStringView(block).sliced(place).startsWith(text, Qt::CaseInsensitive)) {
+            position = place;
+        }
+    }
 };
 
 /// The separators that the block has, each at its first place, in the order of their places.
 std::vector<Separator> separatorsOf(const QString& block) {
-    std::vector<Separator> separators{{u".. "_s, Part::Fact},
-                                      {u"… "_s, Part::Ignored},
-                                      {u" Dále Hrají "_s, Part::Roles},
-                                      {u" Režie "_s, Part::Director}};
-    for (Separator& separator : separators) {
-        separator.position = block.indexOf(separator.text, 0, Qt::CaseInsensitive);
-        if (separator.position < 0 && separator.part == Part::Roles) {
-            separator = {u" Hrají "_s, Part::Ignored};
-            separator.position = block.indexOf(separator.text, 0, Qt::CaseInsensitive);
+    Separator fact{u".. ", Part::Fact};
+    Separator ignored{u"… ", Part::Ignored};
+    Separator roles{u" Dále Hrají ", Part::Roles};
+    Separator actors{u" Hrají ", Part::Ignored};
+    Separator director{u" Režie ", Part::Director};
+    for (qsizetype at = 0; at + 1 < block.size(); ++at) {
+        const char16_t unit = block[at].unicode();
+        if (unit == u'.') {
+            fact.lookAt(block, at);
+        } else if (unit == u'…') {
+            ignored.lookAt(block, at);
+        } else if (unit == u' ') {
+            // Nearly every word is told apart by its first letter.
+            switch (block[at + 1].unicode()) {
+            case u'D':
+            case u'd':
+                roles.lookAt(block, at);
+                break;
+            case u'H':
+            case u'h':
+                actors.lookAt(block, at);
+                break;
+            case u'R':
+            case u'r':
+                director.lookAt(block, at);
+                break;
+            default:
+                break;
+            }
         }
     }
+    std::vector<Separator> separators{fact, ignored, roles.position < 0 ? actors : roles, director};
     std::erase_if(separators, [](const Separator& separator) { return separator.position < 0; });
     std::sort(separators.begin(), separators.end(),
               [](const Separator& a, const Separator& b) { return a.position < b.position; });
