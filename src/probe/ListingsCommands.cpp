@@ -17,10 +17,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-ParsedLists readPages(const Context& context, const std::vector<LoadItem>& items,
+/// What the reader of the type makes of the pages. The shows refer to the alphabet.
+ParsedLists readPages(const Context& context, const Alphabet& alphabet, const std::vector<LoadItem>& items,
                       const std::vector<QByteArray>& pages, unsigned type, MarkerTrace* trace = nullptr) {
     const StandingClock clock(context.now);
-    const Alphabet alphabet;
     const ListDriver driver({.clock = clock,
                              .alphabet = alphabet,
                              .hosts = context.hosts,
@@ -63,8 +63,9 @@ Outcome parse(Context& context) {
     if (const auto* failure = std::get_if<Failure>(&pages)) {
         return *failure;
     }
-    return listsJSON(
-        mergedLists(items, readPages(context, items, std::get<0>(pages), type), context.now, type));
+    const Alphabet alphabet;
+    ParsedLists read = readPages(context, alphabet, items, std::get<0>(pages), type);
+    return listsJSON(mergedLists(items, std::move(read), context.now, type));
 }
 
 /// Fetches the pages of the URLs as a check does, up to the first that does not come. `why` says why it did
@@ -116,7 +117,8 @@ Outcome check(Context& context) {
     const LoadItem item{ObjectId(ObjectId::Bytes{}), sourceId, language};
     const unsigned type = listingsTypeForSourceId(sourceId, context.hosts);
     MarkerTrace trace;
-    ParsedLists read = readPages(context, {item}, pages, type, &trace);
+    const Alphabet alphabet;
+    ParsedLists read = readPages(context, alphabet, {item}, pages, type, &trace);
     const bool isAnyRead = !read[item.channel].empty();
     const MergeResult result = mergedLists({item}, std::move(read), context.now, type);
     const auto list = result.lists.find(item.channel);

@@ -86,7 +86,8 @@ class RecordedCall {
     /// What the driver makes of the pages, its own or any others.
     MergeResult lists(const std::vector<QByteArray>& pages, MarkerTrace* trace = nullptr) const {
         const ManualClock clock(m_now);
-        const Alphabet alphabet;
+        // The shows refer to it.
+        static const Alphabet alphabet;
         const ListDriver driver({.clock = clock,
                                  .alphabet = alphabet,
                                  .hosts = recordedHosts(),
