@@ -2,8 +2,7 @@
 // is the reader itself, on the page with its times made unreadable: it finds every field and makes nothing of
 // them.
 
-#include "FamilyPages.h"
-#include "MadeShows.h"
+#include "PageFormats.h"
 #include "parsers/ZoneClock.h"
 #include "text/Capitalisation.h"
 #include "text/MarkupText.h"
@@ -13,111 +12,18 @@
 
 #include <benchmark/benchmark.h>
 #include <cstring>
-#include <functional>
+#include <memory>
 
 namespace guide::bench {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 constexpr std::size_t kSize = 2'000'000;
-
-/// How a format writes its fields, and what its reader does with them beside finding them.
-struct Format {
-    const char* name;
-    FamilyPages (*make)(std::size_t size);
-    /// What stands before a time.
-    std::string_view time;
-    /// Every marker that the reader looks for, the changing ones as one of them.
-    std::vector<std::string> markers;
-    /// Of the schedule; none where moments are numbers.
-    const char* zone = nullptr;
-    bool classifies = false;
-    /// Which texts the reader trims.
-    bool trimsTimes = false;
-    bool trimsTitles = false;
-    bool trimsDescriptions = false;
-    bool casesTitles = false;
-};
-
-const std::vector<Format>& formats() {
-    static const std::vector<Format> all{
-        {.name = "Barrandov",
-         .make = barrandovPages,
-         .time = "<li><strong>Datum vysílání:</strong> ",
-         .markers =
-             {"<h3 class=\"program-channel__title program-channel__title--",
-              "<h3 class=\"program-channel__title program-channel__title--krimi\">Barrandov Krimi</h3>",
-              "<a href=\"#modal", "\"", "<div class=\"remodal\" data-remodal-id=\"modal",
-              "<li><strong>Datum vysílání:</strong> ", "<li><strong>Repríza:</strong> ", "</li",
-              "<img src=\"", "<h2 class=\"show-detail__title\">", "</h2>", "<p class=\"show-detail__perex\">",
-              "<p class=\"show-detail__about\">", "</p>"},
-         .zone = "Europe/Prague",
-         .classifies = true},
-        {.name = "Digi Sport",
-         .make = digiSportPages,
-         .time = "<span><strong>",
-         .markers = {"id=\"tabs-7\"", "alt=\"Digi Sport 1\"", "http", "<span><strong>", "<strong>", "<",
-                     "<br />"},
-         .zone = "Europe/Bratislava",
-         .classifies = true},
-        {.name = "JOJ Cinema",
-         .make = jojCinemaPages,
-         .time = "class=\"time\">",
-         .markers = {"day=18-11-2026\" class=\"active\"", " class=\"item\"", "class=\"time\">", "<a href=\"",
-                     "\" title=\"", "\"", "<img src=\"", " href=\"?day="},
-         .zone = "Europe/Bratislava",
-         .classifies = true},
-        {.name = "Prima Max",
-         .make = primaMaxPages,
-         .time = "<time>",
-         .markers = {"class=\"tab tab-active\"", "<div class=\"row\">", "<time>",
-                     "<h3 class=\"broadcast-title broadcast-title-xs\">", "</h3>",
-                     "<p class=\"m-top broadcast-description\">", "<", "<img src=\"", "\""},
-         .zone = "Europe/Prague",
-         .classifies = true,
-         .trimsTitles = true,
-         .trimsDescriptions = true},
-        {.name = "HBO",
-         .make = hboPages,
-         .time = "class=\"time\">",
-         .markers = {"<html", "</html>", "<div class=\"channel\">", "logo_index_3", "<a href=\"", "\"",
-                     "class=\"time\">", "past", "<", "class=\"title\">"},
-         .zone = "Europe/Budapest",
-         .classifies = true},
-        {.name = "Nova",
-         .make = novaPages,
-         .time = "data-begin=\"",
-         .markers = {"class=\"channels-logo\">", "<", "<li class=\"channels-content-show\"", "</li>",
-                     "data-begin=\"", "data-end=\"", "\"", "<span class=\"title\">",
-                     "<span class=\"description\">", "- seriál", "- zprávy", "- zábava", "- film",
-                     "- dokument", "- sport"},
-         .zone = "Europe/Prague"},
-        {.name = "Dolce Sport",
-         .make = dolceSportPages,
-         .time = " class=\"time\"> ",
-         .markers = {"data-ls-for=\"", "\"", "id=\"ziua-3", "<li class=\"list-group-item\">", "</li",
-                     " class=\"time\">", " class=\"name\">", "<"},
-         .zone = "Europe/Bucharest",
-         .trimsTimes = true,
-         .trimsTitles = true,
-         .casesTitles = true},
-        {.name = "Cinestar",
-         .make = cinestarPages,
-         .time = " class=\"hour",
-         .markers = {" lang=\"", "\"date", "18.11.", "kanal-C", "kanal-C3'", "zanr", "href=\"", "\"",
-                     "fit-text'> ", "<", " class=\"hour", "<h4 class='title'>"},
-         .zone = "Europe/Zagreb",
-         .trimsTimes = true},
-        {.name = "Comedy Central",
-         .make = comedyCentralPages,
-         .time = "data-time=\"",
-         .markers = {"data-time=\"", "\"", "<h3>", "<", " href=\"/"}},
-    };
-    return all;
-}
 
 /// The pages with each time's first digit made a letter, in which the reader finds everything and nothing to
 /// lift.
-std::vector<QByteArray> withoutTimes(const Format& format, std::vector<QByteArray> pages) {
+std::vector<QByteArray> withoutTimes(const PageFormat& format, std::vector<QByteArray> pages) {
     const QByteArray marker(format.time.data(), static_cast<qsizetype>(format.time.size()));
     for (QByteArray& page : pages) {
         for (qsizetype at = page.indexOf(marker); at >= 0; at = page.indexOf(marker, at + 1)) {
@@ -145,7 +51,7 @@ struct Pieces {
     std::vector<QByteArray> cased;
     std::vector<QByteArray> links;
 
-    Pieces(const Format& format, const ParsedLists& lists) {
+    Pieces(const PageFormat& format, const ParsedLists& lists) {
         const QTimeZone zone(format.zone ? format.zone : "UTC");
         for (const auto& [channel, list] : lists) {
             for (const ExtendedTVEntry& show : list) {
@@ -155,7 +61,7 @@ struct Pieces {
     }
 
   private:
-    void add(const Format& format, const ExtendedTVEntry& show, const QTimeZone& zone) {
+    void add(const PageFormat& format, const ExtendedTVEntry& show, const QTimeZone& zone) {
         const TVEntry& entry = *show.basic;
         if (format.classifies) {
             classified.push_back({entry.sourceId(), entry.instantDetails1(), entry.identificator(),
@@ -201,12 +107,12 @@ struct Pieces {
 
 /// What is measured of a format; made once.
 struct Subject {
-    const Format& format;
+    const PageFormat& format;
     FamilyPages whole;
     std::vector<QByteArray> unreadable;
     Pieces pieces;
 
-    explicit Subject(const Format& given)
+    explicit Subject(const PageFormat& given)
         : format(given)
         , whole(given.make(kSize))
         , unreadable(withoutTimes(given, whole.pages))
@@ -214,9 +120,9 @@ struct Subject {
 };
 
 const Subject& subject(std::size_t number) {
-    static std::vector<std::unique_ptr<Subject>> made(formats().size());
+    static std::vector<std::unique_ptr<Subject>> made(pageFormats().size());
     if (!made[number]) {
-        made[number] = std::make_unique<Subject>(formats()[number]);
+        made[number] = std::make_unique<Subject>(pageFormats()[number]);
     }
     return *made[number];
 }
@@ -323,8 +229,8 @@ void add(const std::string& row, const char* side, Benchmark measured, std::size
 }
 
 const bool added = [] {
-    for (std::size_t i = 0; i < formats().size(); ++i) {
-        const std::string name = formats()[i].name;
+    for (std::size_t i = 0; i < pageFormats().size(); ++i) {
+        const std::string name = pageFormats()[i].name;
         add("walk, " + name, "guide", walkGuide, i);
         add("walk, " + name, "floor", walkFloor, i);
         add("reader, " + name, "guide", readerGuide, i);

@@ -1,0 +1,247 @@
+// What no page may do to its reader: take it much longer a byte than other pages of its family, or longer
+// than twice the time when there is twice as much that is opened and never closed.
+
+#include "PageFormats.h"
+#include "parsers/RecordedCall.h"
+
+#include <QLoggingCategory>
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <ctime>
+#include <memory>
+
+namespace guide::bench {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// Seconds of CPU that the call takes, of several tries the quickest.
+template <class Call>
+double quickest(const Call& call) {
+    constexpr int kTries = 9;
+    double least = 0;
+    for (int i = 0; i < kTries; ++i) {
+        const std::clock_t start = std::clock();
+        call();
+        const double time = double(std::clock() - start) / CLOCKS_PER_SEC;
+        least = i == 0 ? time : std::min(least, time);
+    }
+    return least;
+}
+
+std::size_t storedCount(const MergeResult& merged) {
+    std::size_t count = 0;
+    for (const auto& [channel, list] : merged.lists) {
+        count += list->size();
+    }
+    return count;
+}
+
+/// A page as the family's reader gets it.
+struct Page {
+    std::shared_ptr<const test::RecordedCall> call;
+    QString name;
+    QByteArray text;
+
+    /// Less counts as much, so that what a call costs without any page is not taken for the page's.
+    double bytes() const { return double(std::max<qsizetype>(text.size(), 4096)); }
+    std::size_t read() const { return storedCount(call->lists({text})); }
+    /// Reads as often as makes a megabyte.
+    std::size_t readMegabyte() const {
+        std::size_t shows = 0;
+        for (double read = 0; read < 1e6; read += bytes()) {
+            shows += this->read();
+        }
+        return shows;
+    }
+};
+
+/// Every recorded page of a family, and what a fuzzer found.
+std::vector<Page> pagesOf(const QString& family) {
+    // Between the pages of a find; behind them stands one byte more.
+    constexpr char kSeparator = '\x1e';
+    std::vector<Page> pages;
+    std::shared_ptr<const test::RecordedCall> call;
+    for (const QString& stem : test::recordedStems(family)) {
+        call = std::make_shared<const test::RecordedCall>(stem);
+        const std::vector<QByteArray> texts = call->pages();
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            pages.push_back({call, call->pageNames()[i], texts[i]});
+        }
+    }
+    const QDir finds(QStringLiteral(QUELLIN_FUZZ_REGRESSIONS "/") + family);
+    for (const QString& find : finds.entryList(QDir::Files, QDir::Name)) {
+        for (const QByteArray& text :
+             test::recordedContent(finds.filePath(find)).chopped(1).split(kSeparator)) {
+            pages.push_back({call, find, QString::fromUtf8(text).toUtf8()});
+        }
+    }
+    return pages;
+}
+
+/// The pages of a family by the time that they take a byte.
+const std::vector<Page>& pagesByTime(const QString& family) {
+    static std::map<QString, std::vector<Page>> known;
+    std::vector<Page>& pages = known[family];
+    if (pages.empty()) {
+        std::vector<std::pair<double, Page>> timed;
+        for (Page& page : pagesOf(family)) {
+            const double time = quickest([&page] { page.readMegabyte(); });
+            timed.emplace_back(time, std::move(page));
+        }
+        std::sort(timed.begin(), timed.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+        for (auto& [time, page] : timed) {
+            pages.push_back(std::move(page));
+        }
+    }
+    return pages;
+}
+
+void readRecorded(benchmark::State& state, const Page& page) {
+    const std::size_t shows = page.readMegabyte();
+    for ([[maybe_unused]] auto pass : state) {
+        if (page.readMegabyte() != shows) {
+            state.SkipWithError("other shows than before");
+        }
+    }
+    state.SetLabel(page.name.toStdString());
+}
+
+void slowestRecorded(benchmark::State& state, const QString& family) {
+    readRecorded(state, pagesByTime(family).back());
+    state.counters["atMost"] = 20;
+}
+
+void medianRecorded(benchmark::State& state, const QString& family) {
+    const std::vector<Page>& pages = pagesByTime(family);
+    readRecorded(state, pages[pages.size() / 2]);
+}
+
+/// A format whose pages are flooded with a marker.
+struct Flooded {
+    std::string name;
+    FamilyPages (*make)(std::size_t size);
+    std::vector<std::string> markers;
+};
+
+/// One channel and its show.
+FamilyPages feedPages(std::size_t) {
+    return {kListingsXMLTV,
+            {{ObjectId(ObjectId::Bytes{1}), u"s.one"_s, u"cs"_s}},
+            {"<tv><channel id=\"one\"><display-name>One</display-name></channel>"
+             "<programme channel=\"one\" start=\"20261118200000 +0100\" stop=\"20261118210000 +0100\">"
+             "<title lang=\"cs\">Two</title><sub-title>[three] (4)</sub-title><desc>five: &amp;</desc>"
+             "<category>film</category><credits><actor>six</actor></credits></programme></tv>"},
+            1};
+}
+
+std::vector<Flooded> floodedFormats() {
+    std::vector<Flooded> all{
+        {"XMLTV",
+         feedPages,
+         {"<programme channel=\"one\" start=\"20261118200000 +0100\" stop=\"20261118210000 +0100\">",
+          "<title lang=\"cs\">", "<sub-title>", "<desc>", "<category>", "<actor>", "[", "(", "&amp;"}},
+        {"Port network",
+         portNetworkPages,
+         {"{\"2026-11-18\":", "{\"title\":", "[", "\"", "{\"programs\":[{"}},
+        {"Palinsesto",
+         sectionedPalinsesto,
+         {"<giorno ", "<canale id=\"", "<prg ", "<titolo>", "<descrizione>", "\""}},
+        {"Palinsesto, flat", flatPalinsesto, {"<programma ", "<programma idref=\"", " id=\"", "\""}},
+    };
+    for (const PageFormat& format : pageFormats()) {
+        all.push_back({format.name, format.make, format.markers});
+    }
+    return all;
+}
+
+/// The family's pages up to the first such marker, from where on there is nothing but the marker.
+std::vector<QByteArray> flood(const FamilyPages& family, const std::string& marker, qsizetype count) {
+    const QByteArray text = QByteArray::fromStdString(marker);
+    std::vector<QByteArray> pages;
+    for (const QByteArray& page : family.pages) {
+        const qsizetype place = page.indexOf(text);
+        pages.push_back(place < 0 ? page : page.first(place) + text.repeated(count));
+        if (place >= 0) {
+            return pages;
+        }
+    }
+    return {text.repeated(count)};
+}
+
+constexpr qsizetype kHalf = 10'000;
+
+/// The pages of a format that take the longest of twice the markers, with half and with all of them.
+struct Flood {
+    FamilyPages family;
+    std::string marker;
+    std::vector<QByteArray> half;
+    std::vector<QByteArray> whole;
+};
+
+const Flood& worstFlood(const Flooded& format) {
+    static std::map<std::string, Flood> known;
+    const auto place = known.find(format.name);
+    if (place != known.end()) {
+        return place->second;
+    }
+    Flood worst{format.make(10'000), {}, {}, {}};
+    double worstGrowth = 0;
+    for (const std::string& marker : format.markers) {
+        std::vector<QByteArray> half = flood(worst.family, marker, kHalf);
+        std::vector<QByteArray> whole = flood(worst.family, marker, 2 * kHalf);
+        // What takes no time does not grow.
+        const double growth =
+            quickest([&] { worst.family.read(whole); }) / (quickest([&] { worst.family.read(half); }) + 1e-5);
+        if (growth > worstGrowth) {
+            worstGrowth = growth;
+            worst.marker = marker;
+            worst.half = std::move(half);
+            worst.whole = std::move(whole);
+        }
+    }
+    return known.emplace(format.name, std::move(worst)).first->second;
+}
+
+void readFlood(benchmark::State& state, const Flood& flood, const std::vector<QByteArray>& pages) {
+    const std::size_t shows = showCount(flood.family.read(pages));
+    if (shows > 2 * kHalf + flood.family.shows) {
+        state.SkipWithError("more shows than markers");
+    }
+    for ([[maybe_unused]] auto pass : state) {
+        if (showCount(flood.family.read(pages)) != shows) {
+            state.SkipWithError("other shows than before");
+        }
+    }
+    state.SetLabel(flood.marker);
+}
+
+void add(const std::string& name, const std::function<void(benchmark::State&)>& measured) {
+    benchmark::RegisterBenchmark(name.c_str(), measured)->Unit(benchmark::kMillisecond)->MinTime(0.1);
+}
+
+const bool added = [] {
+    QLoggingCategory::setFilterRules(u"guide.*=false"_s);
+    for (const QString& family : test::recordedFolder().entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const std::string row = "1 MB of a recorded page, " + family.toStdString();
+        add(row + "/guide", [family](benchmark::State& state) { slowestRecorded(state, family); });
+        add(row + "/floor", [family](benchmark::State& state) { medianRecorded(state, family); });
+    }
+    for (const Flooded& format : floodedFormats()) {
+        const std::string row = "unclosed markers, " + format.name;
+        add(row + "/guide", [format](benchmark::State& state) {
+            const Flood& flood = worstFlood(format);
+            readFlood(state, flood, flood.whole);
+            state.counters["atMost"] = 2.5;
+        });
+        add(row + "/floor", [format](benchmark::State& state) {
+            const Flood& flood = worstFlood(format);
+            readFlood(state, flood, flood.half);
+        });
+    }
+    return true;
+}();
+
+} // namespace
+} // namespace guide::bench
