@@ -6,7 +6,6 @@
 #include "parsers/XMLTVDate.h"
 
 #include <QDateTime>
-#include <QXmlStreamReader>
 
 namespace guide::fuzz {
 
