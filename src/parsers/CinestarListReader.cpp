@@ -1,5 +1,6 @@
 #include "parsers/CinestarListReader.h"
 
+#include "parsers/DateText.h"
 #include "parsers/ReaderPages.h"
 #include "parsers/ZoneClock.h"
 #include "text/MarkupText.h"
@@ -13,7 +14,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr std::size_t kMostPages = 7;
+/// A page a day; a site that gives fewer ends the reading behind its last one.
+constexpr std::size_t kPages = 7;
 constexpr qsizetype kCodePlace = 12; // behind "cinestar.xx."
 constexpr std::chrono::hours kDay(24);
 constexpr std::string_view kGenre = "zanr";
@@ -71,21 +73,26 @@ bool passHourTag(MarkerWalk& block) {
     return false;
 }
 
-/// The third character is whatever stands between hour and minute.
-std::optional<std::chrono::minutes> cardTime(std::string text) {
-    text.resize(std::min<std::size_t>(text.size(), 5));
-    if (text.size() == 5) {
-        text[2] = ':';
+/// Whatever stands between hour and minute. Sites count on past midnight at times: the hours go up to 47.
+std::optional<std::chrono::minutes> cardTime(std::string_view text) {
+    const std::size_t digits = text.find_first_not_of("0123456789") == 1 ? 1 : 2;
+    if (text.size() < digits + 2) {
+        return std::nullopt;
     }
-    return timeOfDay(text);
+    const auto hour = decimalNumber(text.substr(0, digits));
+    const auto minute = decimalNumber(text.substr(digits + 1, 2));
+    if (!hour || !minute || *hour > 47 || *minute > 59) {
+        return std::nullopt;
+    }
+    return std::chrono::hours(*hour) + std::chrono::minutes(*minute);
 }
 
 /// The page that shows today; nothing when none does.
 std::optional<std::size_t> todaysPage(const ListReaderInput& input) {
     const QDate today = ZoneClock(input.deviceZone).dateAt(input.now);
     const std::string written = today.toString(u"dd.MM."_s).toStdString();
-    for (std::size_t p = 0; p < std::min(input.pages.size(), kMostPages); ++p) {
-        MarkerWalk page(pageText(input.pages[p]), input.trace);
+    for (std::size_t p = 0; p < kPages; ++p) {
+        MarkerWalk page(pageText(input.pages.at(p)), input.trace);
         if (passDate(page) && page.find(written)) {
             return p;
         }
@@ -139,7 +146,8 @@ class PageReader {
                 date += kDay;
             }
             previous = card->time;
-            const auto start = m_clock.momentAt(m_clock.dateAt(date), *time);
+            const auto days = std::chrono::floor<std::chrono::days>(*time);
+            const auto start = m_clock.momentAt(m_clock.dateAt(date).addDays(days.count()), *time - days);
             if (!start) {
                 continue;
             }
@@ -218,9 +226,9 @@ void readCinestarLists(const ListReaderInput& input, ParsedLists& lists) {
         return;
     }
     ZoneClock clock(siteZone(input));
-    for (std::size_t j = 0; j < std::min(input.pages.size(), kMostPages); ++j) {
+    for (std::size_t j = 0; j < kPages; ++j) {
         const Moment day = input.now + kDay * (static_cast<int>(j) - static_cast<int>(*today));
-        PageReader page(input, pageText(input.pages[j]), day, clock);
+        PageReader page(input, pageText(input.pages.at(j)), day, clock);
         for (const LoadItem& item : input.items) {
             page.read(item, lists);
         }
