@@ -28,7 +28,11 @@ std::string_view withoutTags(std::string_view text) {
     };
     text = withoutBlanks(text);
     while (text.ends_with('>')) {
-        text = withoutBlanks(text.substr(0, std::min(text.rfind('<'), text.size() - 1)));
+        const std::size_t opening = text.rfind('<');
+        if (opening == std::string_view::npos) {
+            return text.substr(0, text.find_last_not_of("> \t\r\n") + 1);
+        }
+        text = withoutBlanks(text.substr(0, opening));
     }
     const std::size_t tag = text.rfind('>');
     return tag == std::string_view::npos || tag + 1 == text.size() ? text : text.substr(tag + 1);
