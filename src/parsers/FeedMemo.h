@@ -29,8 +29,11 @@ class FeedMemo {
   private:
     static constexpr std::size_t kMost = 16'384;
 
-    struct Hash : std::hash<std::string_view> {
+    /// Not noexcept, so that the library takes it for slow and keeps each key's hash: a chain is then walked
+    /// without hashing every text on the way anew.
+    struct Hash {
         using is_transparent = void;
+        std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
     };
     std::unordered_map<std::string, Value, Hash, std::equal_to<>> m_values;
 };
