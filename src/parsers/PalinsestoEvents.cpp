@@ -266,11 +266,21 @@ class Rows final : public XMLEvents {
 QString PalinsestoTexts::capitalizedWords(std::string_view text) {
     // Titles come again and again, descriptions seldom.
     constexpr std::size_t kLongestTitle = 40;
-    if (text.size() > kLongestTitle) {
-        return guide::capitalizedWords(pageString(text), m_locale);
+    const bool isTitle = text.size() <= kLongestTitle;
+    if (const QString* known = isTitle ? m_texts.find(text) : nullptr) {
+        return *known;
     }
-    const QString* known = m_titles.find(text);
-    return known ? *known : m_titles.add(text, guide::capitalizedWords(pageString(text), m_locale));
+    // A blank ends a word whatever stands around it, and the case of one word is no other's affair.
+    QString result;
+    result.reserve(static_cast<qsizetype>(text.size()));
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = std::min(text.find(' ', start), text.size() - 1) + 1;
+        const std::string_view word = text.substr(start, end - start);
+        const QString* known = m_words.find(word);
+        result += known ? *known : m_words.add(word, guide::capitalizedWords(pageString(word), m_locale));
+        start = end;
+    }
+    return isTitle ? m_texts.add(text, std::move(result)) : result;
 }
 
 QString PalinsestoTexts::sentenceCase(std::string_view text) {

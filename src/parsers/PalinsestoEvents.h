@@ -31,7 +31,9 @@ class PalinsestoTexts {
 
   private:
     QLocale m_locale;
-    FeedMemo<QString> m_titles;
+    FeedMemo<QString> m_texts;
+    /// The words of the texts, each with the blank behind it.
+    FeedMemo<QString> m_words;
     FeedMemo<QString> m_sentences;
 };
 
