@@ -107,34 +107,40 @@ void findWords(QByteArrayView bytes) {
     }
 }
 
+std::vector<QByteArray> feedTexts() {
+    return {fuzzInput({"Ztraceni (USA/1999) [AD], S02E03 - Ostrov", "[Krimiserie] Návrat. (2)",
+                       "Režie: J. Novák. Hrají: A. Bílá, B. Černý.\r\n\r\nhttp://guide.example/", "A. Bílá"}),
+            fuzzInput({"DNEVNIK, r.", ". (Serija)", "Glumci: X, Y (Z).", ""}, 1)};
+}
+
+std::vector<QByteArray> markup() {
+    return {fuzzInput({"<![CDATA[ a & b ]]> &amp;#268;&quot &#x10C; &lt;p&gt;", "  -- Kućni  ljubimci "}),
+            fuzzInput({"Njegoš i Džep, ljubav", "shch yu"}, 1)};
+}
+
+std::vector<QByteArray> words() {
+    return {fuzzInput({"Kad lišće pada", "kućni ljubimci", "reportaža o filmu, s. f. South Park"}),
+            fuzzInput({"Fu\xcc\x88\xc3\x9f"
+                       "ball e\xcc\x81",
+                       "fussball", "priča za djecu, dječja serija"},
+                      2)};
+}
+
 } // namespace
 
 std::vector<FuzzTarget> textTargets() {
-    const std::vector<QByteArray> feedTexts{
-        fuzzInput({"Ztraceni (USA/1999) [AD], S02E03 - Ostrov", "[Krimiserie] Návrat. (2)",
-                   "Režie: J. Novák. Hrají: A. Bílá, B. Černý.\r\n\r\nhttp://guide.example/", "A. Bílá"}),
-        fuzzInput({"DNEVNIK, r.", ". (Serija)", "Glumci: X, Y (Z).", ""}, 1)};
-    const std::vector<QByteArray> markup{
-        fuzzInput({"<![CDATA[ a & b ]]> &amp;#268;&quot &#x10C; &lt;p&gt;", "  -- Kućni  ljubimci "}),
-        fuzzInput({"Njegoš i Džep, ljubav", "shch yu"}, 1)};
-    const std::vector<QByteArray> words{
-        fuzzInput({"Kad lišće pada", "kućni ljubimci", "reportaža o filmu, s. f. South Park"}),
-        fuzzInput({"Fu\xcc\x88\xc3\x9f"
-                   "ball e\xcc\x81",
-                   "fussball", "priča za djecu, dječja serija"},
-                  2)};
     return {
         {.name = "text-cleaning",
          .run = cleanTexts,
-         .seeds = [feedTexts] { return feedTexts; },
+         .seeds = feedTexts,
          .literals = {"text/TitleCleaning.cpp", "text/SubtitleCleaning.cpp", "text/DescriptionCleaning.cpp"}},
         {.name = "markup-text",
          .run = decodeTexts,
-         .seeds = [markup] { return markup; },
+         .seeds = markup,
          .literals = {"text/MarkupText.cpp", "text/Transliteration.cpp"}},
         {.name = "text-words",
          .run = findWords,
-         .seeds = [words] { return words; },
+         .seeds = words,
          .literals = {"text/ShowClassifierWords.cpp", "text/CategoryMapping.cpp"}},
     };
 }
