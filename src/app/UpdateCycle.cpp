@@ -91,6 +91,7 @@ class UpdateCycle::Check {
     void run(const ShowCounts& counts) {
         const auto task = std::make_shared<ListingsUpdateTask>(m_with.queues, m_with.backgroundTasks);
         task->begin();
+        m_with.sourceHealth.read();
         const auto planned = plannedChannels(counts);
         for (const auto& [channel, sources] : planned) {
             m_loads.emplace(channel, ChannelLoad(sources));
@@ -230,7 +231,6 @@ class UpdateCycle::Check {
     }
 
     void recordHealth() {
-        m_with.sourceHealth.read();
         const Moment now = m_with.clock.now();
         for (const auto& [channel, channelLoad] : m_loads) {
             if (auto health = channelLoad.health(now)) {

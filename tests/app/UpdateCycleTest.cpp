@@ -225,9 +225,16 @@ TEST_F(UpdateCycleTest, AnEndInTheMiddleIsNoFaultOfTheSource) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s, u"s.one"_s}}, {2, {u"s.two"_s}}});
     world.answerNothing(kShared);
     world.answer(kSecond, "1 5\n2 5");
-    world.client.onRequest([&](const HTTPRequest&) { world.client.cancelAll(); });
+    const ObjectId one = UpdateWorld::channel(1);
+    SourceHealthRecords earlier(world.folders.caches + u"/source-health.json"_s);
+    earlier.record(one, {clock.now(), UsedSource{u"s.one"_s, clock.now(), 1, 5, std::nullopt}, {}});
+    earlier.write({one});
+    world.client.onRequest([&](const HTTPRequest&) {
+        EXPECT_EQ(world.sourceHealth.all(), earlier.all()) << "known before the first page is in";
+        world.client.cancelAll();
+    });
     check(world);
-    EXPECT_TRUE(world.sourceHealth.all().empty());
+    EXPECT_EQ(world.sourceHealth.all(), earlier.all());
 }
 
 TEST(UpdateCycleThreadsTest, ASuspendedLoadQueueHoldsTheCheckBack) {
