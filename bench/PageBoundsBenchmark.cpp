@@ -1,7 +1,9 @@
 // What no page may do to its reader: take it much longer a byte than other pages of its family, or longer
 // than twice the time when there is twice as much that is opened and never closed.
 
+#include "MadeShows.h"
 #include "PageFormats.h"
+#include "parsers/DetailScraper.h"
 #include "parsers/RecordedCall.h"
 
 #include <QLoggingCategory>
@@ -9,6 +11,8 @@
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <ctime>
+#include <functional>
+#include <map>
 #include <memory>
 
 namespace guide::bench {
@@ -121,12 +125,46 @@ void medianRecorded(benchmark::State& state, const QString& family) {
 /// A format whose pages are flooded with a marker.
 struct Flooded {
     std::string name;
-    FamilyPages (*make)(std::size_t size);
+    /// Good pages, which lead to the markers.
+    std::vector<QByteArray> pages;
     std::vector<std::string> markers;
+    /// What is found in the pages: how many shows, or how long the texts are.
+    std::function<std::size_t(const std::vector<QByteArray>& pages)> read;
 };
 
+Flooded floodedFamily(std::string name, FamilyPages family, std::vector<std::string> markers) {
+    std::vector<QByteArray> pages = family.pages;
+    return {std::move(name), std::move(pages), std::move(markers),
+            [family = std::move(family)](const auto& others) { return showCount(family.read(others)); }};
+}
+
+/// A page of one show, scraped for its details; the same page comes for all that it points to.
+Flooded floodedDetails(const char* page, const char* sourceId, const char* url,
+                       std::vector<std::string> markers) {
+    auto entry = std::make_shared<TVEntry>(alphabet());
+    entry->setSourceId(QString::fromLatin1(sourceId));
+    entry->setUrl(QUrl(QString::fromLatin1(url)));
+    const auto read = [entry](const std::vector<QByteArray>& pages) -> std::size_t {
+        const DetailScraper scraper({.pages = [&pages](const QUrl&) { return std::optional(pages.front()); },
+                                     .hosts = test::recordedHosts(),
+                                     .update = {},
+                                     .locale = QLocale(QLocale::Italian)});
+        const auto show = scraper.netDescriptionFor(entry);
+        std::size_t length = show->pictures().size();
+        for (const auto& text :
+             {show->details()->description, show->details()->episodeDescription, show->details()->details,
+              show->details()->directedBy, show->details()->roles}) {
+            length += static_cast<std::size_t>(text.value_or(QString()).size());
+        }
+        return length;
+    };
+    const QByteArray text = test::recordedContent(QStringLiteral(QUELLIN_TEST_DATA "/recorded-details/") +
+                                                  QLatin1StringView(page));
+    return {std::string("details, ") + page, {text}, std::move(markers), read};
+}
+
 /// One channel and its show.
-FamilyPages feedPages(std::size_t) {
+FamilyPages feedPages() {
     return {kListingsXMLTV,
             {{ObjectId(ObjectId::Bytes{1}), u"s.one"_s, u"cs"_s}},
             {"<tv><channel id=\"one\"><display-name>One</display-name></channel>"
@@ -136,31 +174,58 @@ FamilyPages feedPages(std::size_t) {
             1};
 }
 
-std::vector<Flooded> floodedFormats() {
-    std::vector<Flooded> all{
-        {"XMLTV",
-         feedPages,
-         {"<programme channel=\"one\" start=\"20261118200000 +0100\" stop=\"20261118210000 +0100\">",
-          "<title lang=\"cs\">", "<sub-title>", "<desc>", "<category>", "<actor>", "[", "(", "&amp;"}},
-        {"Port network",
-         portNetworkPages,
-         {"{\"2026-11-18\":", "{\"title\":", "[", "\"", "{\"programs\":[{"}},
-        {"Palinsesto",
-         sectionedPalinsesto,
-         {"<giorno ", "<canale id=\"", "<prg ", "<titolo>", "<descrizione>", "\""}},
-        {"Palinsesto, flat", flatPalinsesto, {"<programma ", "<programma idref=\"", " id=\"", "\""}},
-    };
-    for (const PageFormat& format : pageFormats()) {
-        all.push_back({format.name, format.make, format.markers});
-    }
+constexpr std::size_t kGoodPages = 10'000;
+
+const std::vector<Flooded>& floodedFormats() {
+    static const std::vector<Flooded> all = [] {
+        std::vector<Flooded> formats{
+            floodedFamily("XMLTV", feedPages(),
+                          {"<programme channel=\"one\" start=\"20261118200000 +0100\" "
+                           "stop=\"20261118210000 +0100\">",
+                           "<title lang=\"cs\">", "<sub-title>", "<desc>", "<category>", "<actor>", "[", "(",
+                           "&amp;"}),
+            floodedFamily("Port network", portNetworkPages(kGoodPages),
+                          {"{\"2026-11-18\":", "{\"title\":", "[", "\"", "{\"programs\":[{"}),
+            floodedFamily("Palinsesto", sectionedPalinsesto(kGoodPages),
+                          {"<giorno ", "<canale id=\"", "<prg ", "<titolo>", "<descrizione>", "\""}),
+            floodedFamily("Palinsesto, flat", flatPalinsesto(kGoodPages),
+                          {"<programma ", "<programma idref=\"", " id=\"", "\""}),
+            floodedDetails(
+                "hbo.html", "-hbo.ro.1", "https://h.example/x",
+                {"<div class=\"rich-snippet\"><script type=\"application/ld+json\">", "{\"image\":["}),
+            floodedDetails("comedycentral.html", "cc.romania", "https://cc.example/x",
+                           {":image\" content=\"", " class=\"subject-copy\">", "<p>"}),
+            floodedDetails("cinestar.html", "cinestar.hr.1", "https://c.example/x",
+                           {"\"value\">", "<div class=\"country\">", "<div class=\"actors\">", "<p>", "</p>",
+                            "<div class=\"entry-content col-xs-11 col-md-10 col-lg-8\">"}),
+            floodedDetails("joj.html", "joj.cinema", "https://j.example/x",
+                           {" class=\"perex\">", "<p>", "<br>", "<br>Hrají: ", "<br>Režie: "}),
+            floodedDetails("palinsesto.html", "_1", "https://p.example/x",
+                           {"<div class=\"textParagrafo\">", "Regia: ", " - Cast: ", "<meta content=\"http",
+                            "\" property=\"og:image\">"}),
+            floodedDetails("port.html", "42", "https://port.example/f?i_perf_id=99&z=1",
+                           {"url(", "/title/tt", "/title/tt1", ">IMDb<", " href=\"", "itemprop=\"name\">",
+                            "<!-- actors -->", "<span itemprop=\"name\">", "<span>", "<!-- summary -->",
+                            "<div>", "<label>rendező:</label>", "i_object_id=", "i_is_picture=2",
+                            "<strong>A műsor"}),
+            floodedDetails("hr.html", "10000", "https://tv.example/f",
+                           {"<strong>Opis filma:", ">redatelj:", ">uloge:", "<!-- summary -->", "<div>",
+                            "<span class=\"txt\"> ", "</a></span>", "\""}),
+        };
+        for (const PageFormat& format : pageFormats()) {
+            formats.push_back(floodedFamily(format.name, format.make(kGoodPages), format.markers));
+        }
+        return formats;
+    }();
     return all;
 }
 
-/// The family's pages up to the first such marker, from where on there is nothing but the marker.
-std::vector<QByteArray> flood(const FamilyPages& family, const std::string& marker, qsizetype count) {
+/// The pages up to the first such marker, from where on there is nothing but the marker.
+std::vector<QByteArray> flood(const std::vector<QByteArray>& good, const std::string& marker,
+                              qsizetype count) {
     const QByteArray text = QByteArray::fromStdString(marker);
     std::vector<QByteArray> pages;
-    for (const QByteArray& page : family.pages) {
+    for (const QByteArray& page : good) {
         const qsizetype place = page.indexOf(text);
         pages.push_back(place < 0 ? page : page.first(place) + text.repeated(count));
         if (place >= 0) {
@@ -174,7 +239,6 @@ constexpr qsizetype kHalf = 10'000;
 
 /// The pages of a format that take the longest of twice the markers, with half and with all of them.
 struct Flood {
-    FamilyPages family;
     std::string marker;
     std::vector<QByteArray> half;
     std::vector<QByteArray> whole;
@@ -186,35 +250,31 @@ const Flood& worstFlood(const Flooded& format) {
     if (place != known.end()) {
         return place->second;
     }
-    Flood worst{format.make(10'000), {}, {}, {}};
+    Flood worst;
     double worstGrowth = 0;
     for (const std::string& marker : format.markers) {
-        std::vector<QByteArray> half = flood(worst.family, marker, kHalf);
-        std::vector<QByteArray> whole = flood(worst.family, marker, 2 * kHalf);
+        std::vector<QByteArray> half = flood(format.pages, marker, kHalf);
+        std::vector<QByteArray> whole = flood(format.pages, marker, 2 * kHalf);
         // What takes no time does not grow.
         const double growth =
-            quickest([&] { worst.family.read(whole); }) / (quickest([&] { worst.family.read(half); }) + 1e-5);
+            quickest([&] { format.read(whole); }) / (quickest([&] { format.read(half); }) + 1e-5);
         if (growth > worstGrowth) {
             worstGrowth = growth;
-            worst.marker = marker;
-            worst.half = std::move(half);
-            worst.whole = std::move(whole);
+            worst = {marker, std::move(half), std::move(whole)};
         }
     }
     return known.emplace(format.name, std::move(worst)).first->second;
 }
 
-void readFlood(benchmark::State& state, const Flood& flood, const std::vector<QByteArray>& pages) {
-    const std::size_t shows = showCount(flood.family.read(pages));
-    if (shows > 2 * kHalf + flood.family.shows) {
-        state.SkipWithError("more shows than markers");
-    }
+void readFlood(benchmark::State& state, const Flooded& format, const std::vector<QByteArray>& pages,
+               const std::string& marker) {
+    const std::size_t found = format.read(pages);
     for ([[maybe_unused]] auto pass : state) {
-        if (showCount(flood.family.read(pages)) != shows) {
-            state.SkipWithError("other shows than before");
+        if (format.read(pages) != found) {
+            state.SkipWithError("something else than before");
         }
     }
-    state.SetLabel(flood.marker);
+    state.SetLabel(marker);
 }
 
 void add(const std::string& name, const std::function<void(benchmark::State&)>& measured) {
@@ -230,14 +290,14 @@ const bool added = [] {
     }
     for (const Flooded& format : floodedFormats()) {
         const std::string row = "unclosed markers, " + format.name;
-        add(row + "/guide", [format](benchmark::State& state) {
+        add(row + "/guide", [&format](benchmark::State& state) {
             const Flood& flood = worstFlood(format);
-            readFlood(state, flood, flood.whole);
+            readFlood(state, format, flood.whole, flood.marker);
             state.counters["atMost"] = 2.5;
         });
-        add(row + "/floor", [format](benchmark::State& state) {
+        add(row + "/floor", [&format](benchmark::State& state) {
             const Flood& flood = worstFlood(format);
-            readFlood(state, flood, flood.half);
+            readFlood(state, format, flood.half, flood.marker);
         });
     }
     return true;
