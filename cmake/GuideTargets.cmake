@@ -79,7 +79,7 @@ endfunction()
 # guide_tests(NAME SOURCES … [LINKS …] [LABELS …])
 #
 # One GoogleTest program a folder, guide_NAME_tests, each test known to ctest by its own name.
-# Tests run with an awkward zone and locale unless they set their own.
+# Tests run in an awkward zone and locale unless they set their own (tests/TestEnvironment.h).
 function(guide_tests NAME)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;LABELS" ${ARGN})
     set(TARGET guide_${NAME}_tests)
@@ -87,12 +87,14 @@ function(guide_tests NAME)
     target_include_directories(${TARGET} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_compile_definitions(${TARGET} PRIVATE QUELLIN_TEST_DATA="${PROJECT_SOURCE_DIR}/tests"
                                                  QUELLIN_SOURCE_DATA="${PROJECT_SOURCE_DIR}/data")
-    target_link_libraries(${TARGET} PRIVATE ${ARG_LINKS} guide_options GTest::gtest GTest::gtest_main)
+    target_link_libraries(${TARGET} PRIVATE ${ARG_LINKS} guide_options guide_test_main GTest::gtest)
     guide_precompile(${TARGET})
+    set(PROPERTIES TIMEOUT 120)
+    if(ARG_LABELS)
+        list(APPEND PROPERTIES LABELS ${ARG_LABELS})
+    endif()
     include(GoogleTest)
-    gtest_discover_tests(${TARGET} DISCOVERY_TIMEOUT 120
-                         PROPERTIES TIMEOUT 120 LABELS "${ARG_LABELS}"
-                         ENVIRONMENT "TZ=Australia/Lord_Howe;LC_ALL=C.UTF-8;QT_QPA_PLATFORM=offscreen")
+    gtest_discover_tests(${TARGET} DISCOVERY_TIMEOUT 120 PROPERTIES ${PROPERTIES})
 endfunction()
 
 # Lets a program that runs from the build tree find the data of the source tree beside itself.

@@ -1,0 +1,10 @@
+// Of every test program that has none of its own.
+#include "TestEnvironment.h"
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    guide::test::useTestEnvironment();
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
