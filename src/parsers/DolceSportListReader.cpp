@@ -36,6 +36,7 @@ std::optional<std::vector<MarkerWalk>> tabs(const MarkerWalk& page) {
     }
     starts[kDays] = page.limit();
     std::vector<MarkerWalk> found;
+    found.reserve(kDays);
     for (std::size_t k = 0; k < kDays; ++k) {
         found.push_back(page.part(starts[k], starts[k + 1]));
     }
