@@ -199,7 +199,7 @@ class Rows final : public XMLEvents {
         const std::optional<QString> sourceId = m_rows.back().basic->sourceId();
         const Moment running = *m_rows.back().basic->dateTime();
         // The day turns once, at the first show of the small hours, by 24 hours like every step of days.
-        const bool turns = *time < hours(6) && hourAt(running) >= 6;
+        const bool turns = *time < hours(6) && m_rome.hourAt(running) >= 6;
         const QDate date = m_rome.dateAt(turns ? running + hours(24) : running);
         TVEntry& entry = addRow();
         entry.setSourceId(sourceId);
@@ -209,11 +209,6 @@ class Rows final : public XMLEvents {
             entry.setEndDateTime(m_rome.momentAt(date, *endTime));
         }
         entry.setPreviouslyShown(attributes.value("primaTv") == "No");
-    }
-
-    int hourAt(Moment moment) {
-        const Moment local = moment + m_rome.offsetAt(moment);
-        return static_cast<int>((local - std::chrono::floor<std::chrono::days>(local)) / hours(1));
     }
 
     void setText(std::size_t element, std::string_view text) {

@@ -71,8 +71,7 @@ std::optional<Moment> momentOf(const QJsonValue& value) {
     if (!date || !time || !offset) {
         return std::nullopt;
     }
-    constexpr qint64 kJulianDayOf1970 = 2'440'588;
-    return std::chrono::sys_days(std::chrono::days(date->toJulianDay() - kJulianDayOf1970)) + *time - *offset;
+    return utcDay(*date) + *time - *offset;
 }
 
 QString withoutParentheses(const QString& text) {

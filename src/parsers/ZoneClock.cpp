@@ -9,8 +9,6 @@ using std::chrono::minutes;
 using std::chrono::seconds;
 using std::chrono::sys_seconds;
 
-constexpr qint64 kJulianDayOf1970 = 2'440'588;
-
 bool isDigit(char character) {
     return character >= '0' && character <= '9';
 }
@@ -38,7 +36,7 @@ std::optional<Moment> ZoneClock::momentAt(const QDate& date, seconds time) {
     if (!date.isValid()) {
         return std::nullopt;
     }
-    const sys_seconds midnight{days(date.toJulianDay() - kJulianDayOf1970)};
+    const sys_seconds midnight = utcDay(date);
     if (date != m_day) {
         m_day = date;
         m_before = offsetAt(midnight - days(1));

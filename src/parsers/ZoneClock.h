@@ -23,6 +23,8 @@ class ZoneClock {
     explicit ZoneClock(const QTimeZone& zone);
 
     QDate dateAt(Moment moment) { return m_localTime.dateAt(moment); }
+    /// 0 to 23.
+    int hourAt(Moment moment) { return m_localTime.hourAt(moment); }
     /// What the clock is ahead of UTC.
     std::chrono::seconds offsetAt(Moment moment) { return m_localTime.offsetAt(moment); }
 

@@ -6,8 +6,6 @@ namespace guide {
 
 namespace {
 
-constexpr qint64 kJulianDayOf1970 = 2'440'588;
-
 using Days = std::chrono::days;
 
 } // namespace

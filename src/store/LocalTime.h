@@ -7,6 +7,13 @@
 
 namespace guide {
 
+inline constexpr qint64 kJulianDayOf1970 = 2'440'588;
+
+/// Where the date begins in UTC.
+inline std::chrono::sys_days utcDay(const QDate& date) {
+    return std::chrono::sys_days(std::chrono::days(date.toJulianDay() - kJulianDayOf1970));
+}
+
 /// The wall clock of one zone. Quick for moments that lie near to each other: the zone is asked once for all
 /// of them between two changes of its clock. For one thread.
 class LocalTime {
