@@ -24,10 +24,10 @@ TEST_F(ThreadedQueuesTest, SyncRunsOnTheCallersThreadAfterWhatCameBefore) {
     serial->async([&] {
         log += 'a';
         EXPECT_NE(std::this_thread::get_id(), caller);
-        serial->async([&] { log += 'd'; });
     });
     serial->async([&] { log += 'b'; });
     serial->sync([&] {
+        serial->async([&] { log += 'd'; });
         log += 'c';
         EXPECT_EQ(std::this_thread::get_id(), caller);
         serial->assertCurrent();
