@@ -32,6 +32,11 @@ constexpr std::array kFamilies{
     Family{"10000", "https://tv.example/f", "hr.html"},
 };
 
+QByteArray recordedPage(const char* name) {
+    return test::recordedContent(QStringLiteral(QUELLIN_TEST_DATA "/recorded-details/") +
+                                 QString::fromLatin1(name));
+}
+
 /// Gives one page after the other, whatever is asked for.
 class PagesInTurn {
   public:
@@ -90,6 +95,23 @@ void findFilm(QByteArrayView bytes) {
     }
 }
 
+void searchFilms(QByteArrayView bytes) {
+    const FuzzInput input(bytes);
+    const std::vector<QByteArray> texts = input.textParts(2);
+    const QString title = QString::fromUtf8(texts[0]);
+    const auto subtitle = texts.size() > 1 ? std::optional(QString::fromUtf8(texts[1])) : std::nullopt;
+    const TVListingsCategory categories = input.choice(2) == 1 ? TVListingsCategorySeries : 0;
+    const IMDbSearches searches = imdbSearches(title, subtitle, categories, test::recordedHosts());
+    require(searches.urls.size() <= 2, "a title and a subtitle are looked for");
+    require(searches.urls.empty() || categories != 0, "only films and series are looked for");
+    if (searches.started) {
+        const QByteArray query = searches.urls[0].query(QUrl::FullyEncoded).toLatin1();
+        require(QByteArray::fromPercentEncoding(query.mid(query.indexOf("q=") + 2)) ==
+                    title.toUtf8() + "&s=tt",
+                "the search asks for the whole title");
+    }
+}
+
 } // namespace
 
 std::vector<FuzzTarget> detailTargets() {
@@ -98,17 +120,12 @@ std::vector<FuzzTarget> detailTargets() {
          .run = scrapeDetails,
          .seeds =
              [] {
-                 const QByteArray bottom =
-                     R"(<a href="/pls/me/media.popup_top?i_area_id=17&amp;i_object_id=4711&amp;i_n=3">)";
-                 const QByteArray top =
-                     R"({baseUrl:"http:\/\/video.example\/",x:1,hd_available:true,hd_url:"t\/4711.mp4"})"
-                     R"(<img class="object_picture" src="/pic/4711_3.jpg">)";
                  std::vector<QByteArray> seeds;
                  for (std::size_t i = 0; i < kFamilies.size(); ++i) {
-                     const QByteArray page =
-                         test::recordedContent(QStringLiteral(QUELLIN_TEST_DATA "/recorded-details/") +
-                                               QString::fromLatin1(kFamilies[i].page));
-                     seeds.push_back(fuzzInput({page, bottom, top}, i));
+                     seeds.push_back(
+                         fuzzInput({recordedPage(kFamilies[i].page), recordedPage("port-bottom.html"),
+                                    recordedPage("port-top.html")},
+                                   i));
                  }
                  return seeds;
              },
@@ -125,6 +142,15 @@ std::vector<FuzzTarget> detailTargets() {
                       R"(<select id="d"><option value="1">Ned</option><option value="2">Pon</option></select>)"})};
              },
          .literals = {"parsers/RecordedShows.cpp"}},
+        {.name = "imdb-search",
+         .run = searchFilms,
+         .seeds =
+             [] {
+                 return std::vector<QByteArray>{
+                     fuzzInput({"Žandarm & 100 % #1", "Le Gendarme à New York"}, 1),
+                     fuzzInput({"Film", "A+B"}, 1)};
+             },
+         .literals = {"parsers/IMDbLookup.cpp"}},
         {.name = "imdb",
          .run = findFilm,
          .seeds =

@@ -62,11 +62,6 @@ QJsonObject told(const char* sourceId, const char* url, const QByteArrayList& pa
 }
 
 TEST(DetailScraper, ReadsThePagesOfEachFamily) {
-    const QByteArray bottom =
-        R"(<a href="/pls/me/media.popup_top?i_area_id=17&amp;i_object_id=4711&amp;i_is_picture=2&amp;i_n=3">)";
-    const QByteArray top =
-        R"({baseUrl:"http:\/\/video.example\/",x:1,hd_available:true,hd_url:"t\/4711.mp4"}
-           <img class="object_picture" src="/pic/4711_3.jpg">)";
     const struct {
         const char* name;
         const char* sourceId;
@@ -123,7 +118,7 @@ TEST(DetailScraper, ReadsThePagesOfEachFamily) {
         {"Port with popups",
          "42",
          "https://port.example/f?i_perf_id=99&z=1",
-         {recordedPage("port.html"), bottom, top},
+         {recordedPage("port.html"), recordedPage("port-bottom.html"), recordedPage("port-top.html")},
          R"({"categories": 0, "description": "Egy sorozat.", "episodeDescription": "Sötétben & esőben.",
              "details": "magyar krimi, 1999", "directedBy": "Kovács Éva\nNagy Pál",
              "roles": "Tóth Ödön (Ferenc)\nKis Anna\n", "imdbURL": "http://www.imdb.com/title/tt0095016/?x=1&y=2",
