@@ -18,6 +18,8 @@ struct UpdateCycle::State {
 
     const UpdateCycleEnvironment environment;
     std::atomic<bool> cancelled = false;
+    /// A check has been asked for and has not begun.
+    std::atomic<bool> waiting = false;
 };
 
 namespace {
@@ -250,13 +252,20 @@ UpdateCycle::UpdateCycle(UpdateCycleEnvironment environment)
     : m_state(std::make_shared<State>(std::move(environment))) {}
 
 void UpdateCycle::checkAndUpdateAllChannels() {
-    const UpdateCycleEnvironment& with = m_state->environment;
-    with.listings.showCountForSelectedChannelsForQueue(with.checkQueue,
-                                                       [state = m_state](const ShowCounts& counts) {
-                                                           if (!state->cancelled) {
-                                                               Check(*state).run(counts);
-                                                           }
-                                                       });
+    if (m_state->waiting.exchange(true)) {
+        return;
+    }
+    // The shows are counted behind the running check: what that one loads would be loaded again otherwise.
+    m_state->environment.checkQueue->async([state = m_state] {
+        const UpdateCycleEnvironment& with = state->environment;
+        with.listings.showCountForSelectedChannelsForQueue(with.checkQueue,
+                                                           [state](const ShowCounts& counts) {
+                                                               state->waiting = false;
+                                                               if (!state->cancelled) {
+                                                                   Check(*state).run(counts);
+                                                               }
+                                                           });
+    });
 }
 
 bool UpdateCycle::finish(std::chrono::milliseconds atMost) {

@@ -61,7 +61,8 @@ class UpdateCycle {
   public:
     explicit UpdateCycle(UpdateCycleEnvironment environment);
 
-    /// Starts a check, which waits for the running one. Any thread.
+    /// Starts a check, which waits for the running one; one that is still waiting serves every caller. Any
+    /// thread.
     void checkAndUpdateAllChannels();
 
     /// Ends the running check before its next step, and makes every later one do nothing; then waits until it

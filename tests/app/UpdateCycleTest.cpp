@@ -133,6 +133,20 @@ TEST_F(UpdateCycleTest, AReaderThatThrowsLosesItsOwnListAlone) {
     EXPECT_EQ(world.offered, "2:4 1:4 ") << "the channel is not taken for one that is being loaded";
 }
 
+TEST_F(UpdateCycleTest, WhatARunningCheckLoadsIsNotLoadedAgainByTheNext) {
+    UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
+    world.answer(kShared, "1 6");
+    world.client.onRequest([&](const HTTPRequest&) {
+        for (int i = 0; world.parses.empty() && i < 3; ++i) {
+            world.cycle.checkAndUpdateAllChannels();
+        }
+    });
+    world.cycle.checkAndUpdateAllChannels();
+    check(world);
+    EXPECT_EQ(world.parses.size(), 1U);
+    EXPECT_EQ(world.tasks.begun(), 2U);
+}
+
 TEST_F(UpdateCycleTest, InTheBackgroundListsAreStoredAndScreensLeftAlone) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
     world.answer(kShared, "1 5");
