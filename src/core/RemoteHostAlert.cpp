@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <mutex>
+#include <utility>
 
 namespace guide {
 
@@ -18,7 +19,8 @@ struct RemoteHostAlert::State {
     DispatchQueue& mainQueue;
     AlertPresenter& presenter;
     std::mutex guard;
-    std::chrono::sys_seconds lastAlert{};
+    std::chrono::sys_seconds lastAlert{}; // guarded
+    bool presented = false;               // main queue
 
     std::chrono::sys_seconds now() const { return std::chrono::floor<std::chrono::seconds>(clock.now()); }
 
@@ -41,7 +43,7 @@ struct RemoteHostAlert::State {
 };
 
 RemoteHostAlert::RemoteHostAlert(const Clock& clock, DispatchQueue& mainQueue, AlertPresenter& presenter)
-    : m_state(new State{clock, mainQueue, presenter, {}, {}}) {}
+    : m_state(new State{clock, mainQueue, presenter, {}}) {}
 
 RemoteHostAlert::~RemoteHostAlert() = default;
 
@@ -51,7 +53,8 @@ void RemoteHostAlert::noRemoteHostAlert(const TransferError& error) {
     }
     m_state->mainQueue.async([weakState = std::weak_ptr(m_state), error] {
         const std::shared_ptr<State> state = weakState.lock();
-        if (!state) {
+        // One that nobody has answered yet says it already.
+        if (!state || std::exchange(state->presented, true)) {
             return;
         }
         const QString title = !error.failureReason.isEmpty()
@@ -64,6 +67,7 @@ void RemoteHostAlert::noRemoteHostAlert(const TransferError& error) {
                 : QCoreApplication::translate("RemoteHostAlert", "Check your Internet connection.");
         state->presenter.presentAlert(title, message, [weakState] {
             if (const std::shared_ptr<State> pressed = weakState.lock()) {
+                pressed->presented = false;
                 pressed->stamp();
                 pressed->presenter.moviePlayerPlaybackDidFinish();
             }

@@ -20,7 +20,8 @@ class AlertPresenter {
     virtual void moviePlayerPlaybackDidFinish() = 0;
 };
 
-/// Tells the user that a server cannot be reached, at most once in 60 seconds. May be used from any thread.
+/// Tells the user that a server cannot be reached, at most once in 60 seconds and by one alert at a time. May
+/// be used from any thread.
 class RemoteHostAlert {
   public:
     /// The presenter and the queue outlive what is posted to the queue.
@@ -28,7 +29,8 @@ class RemoteHostAlert {
     ~RemoteHostAlert();
 
     /// To be called for a transfer that ended in an error and brought no body. Does nothing unless more than
-    /// 60 seconds have passed since the time stamp, which it then sets.
+    /// 60 seconds have passed since the time stamp, which it then sets, or while the last alert is
+    /// unanswered.
     void noRemoteHostAlert(const TransferError& error);
 
     /// Sets the time stamp of the last alert to now: at each activation, so that a device that has just woken

@@ -44,27 +44,29 @@ TEST_F(RemoteHostAlertTest, TellsOnceInMoreThanSixtySeconds) {
     clock.advance(60s);
     EXPECT_EQ(alertsAfterFailure(), 1u);
     clock.advance(1s);
-    EXPECT_EQ(alertsAfterFailure(), 2u);
+    EXPECT_EQ(alertsAfterFailure(), 1u) << "the first one is still there to be read";
 
-    clock.advance(50s);
+    clock.advance(100s);
     presenter.press();
     EXPECT_EQ(presenter.playersEnded, 1);
     clock.advance(60s);
-    EXPECT_EQ(alertsAfterFailure(), 2u) << "the minute runs from the press";
+    EXPECT_EQ(alertsAfterFailure(), 1u) << "the minute runs from the press";
     clock.advance(1s);
-    EXPECT_EQ(alertsAfterFailure(), 3u);
+    EXPECT_EQ(alertsAfterFailure(), 2u);
+    presenter.press();
 
     clock.advance(100s);
     alert->restartSilence();
     clock.advance(60s);
-    EXPECT_EQ(alertsAfterFailure(), 3u);
+    EXPECT_EQ(alertsAfterFailure(), 2u);
 
     clock.advance(-24h);
-    EXPECT_EQ(alertsAfterFailure(), 4u) << "a clock that was set back";
+    EXPECT_EQ(alertsAfterFailure(), 3u) << "a clock that was set back";
 }
 
 TEST_F(RemoteHostAlertTest, FallsBackTextByText) {
     alertsAfterFailure();
+    presenter.press();
     clock.advance(2min);
     alertsAfterFailure(
         {.description = u"d"_s, .failureReason = u"No route"_s, .recoverySuggestion = u"Move"_s});
