@@ -26,14 +26,19 @@ bool isImageExtension(QStringView extension) {
     });
 }
 
-// From the names under which an icon can be asked for to its file.
+// Archives of other systems unpack to names whose marks stand apart from their letters.
+QString composed(const QString& name) {
+    return name.normalized(QString::NormalizationForm_C);
+}
+
+// From the names under which an icon can be asked for, composed, to its file.
 QHash<QString, QString> iconFilesOf(const QString& folder) {
     QHash<QString, QString> files;
     QHash<QString, QString> byStem;
     QDirIterator walk(folder, QDir::Files, QDirIterator::Subdirectories);
     while (walk.hasNext()) {
         const QString path = walk.next();
-        const QString name = path.mid(folder.size() + 1);
+        const QString name = composed(path.mid(folder.size() + 1));
         files.insert(name, path);
         const qsizetype dot = name.lastIndexOf(u'.');
         if (dot > 0 && isImageExtension(QStringView(name).mid(dot + 1))) {
@@ -66,7 +71,7 @@ struct TVStationIcons::State {
         if (!files) {
             files = iconFilesOf(folder);
         }
-        return files->value(name);
+        return files->value(composed(name));
     }
 };
 

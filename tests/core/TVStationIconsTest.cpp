@@ -66,6 +66,7 @@ TEST(TVStationIconsTest, FindsIconsByName) {
     ASSERT_TRUE(filled(10, 10).save(icons + u"/one.png"_s));
     ASSERT_TRUE(filled(10, 10).save(icons + u"/two"_s, "png"));
     ASSERT_TRUE(filled(10, 10).save(icons + u"/cz.three.png"_s));
+    ASSERT_TRUE(filled(10, 10).save(icons + u"/s\u030cport.png"_s));
     ASSERT_TRUE(filled(10, 10).save(folder.filePath(u"outside.png"_s)));
     QFile broken(icons + u"/broken.png"_s);
     ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write("no image") > 0);
@@ -76,6 +77,8 @@ TEST(TVStationIconsTest, FindsIconsByName) {
     EXPECT_FALSE(stationIcons.iconNamed(u"one.png"_s).isNull());
     EXPECT_FALSE(stationIcons.iconNamed(u"two"_s).isNull());
     EXPECT_FALSE(stationIcons.iconNamed(u"cz.three"_s).isNull());
+    EXPECT_FALSE(stationIcons.iconNamed(u"šport"_s).isNull());
+    EXPECT_FALSE(stationIcons.iconNamed(u"s\u030cport"_s).isNull());
     EXPECT_TRUE(stationIcons.iconNamed(u"cz"_s).isNull());
     EXPECT_TRUE(stationIcons.iconNamed(QString()).isNull());
     EXPECT_TRUE(stationIcons.iconNamed(u"../outside"_s).isNull());
