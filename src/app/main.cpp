@@ -129,6 +129,8 @@ int run(LaunchOptions options) {
 
     const LinuxClock clock(options.now);
     LinuxDevice device(options.form.value_or(UserInterfaceIdiom::Phone));
+    // Icons are made for the finest screen that the window can be moved to.
+    device.setScreen(device.screenSize(), qGuiApp->devicePixelRatio());
     std::unique_ptr<DemoWorld> demo;
     if (options.demo) {
         demo = DemoWorld::create(*options.profile + "/demo"_L1, clock);
