@@ -1,6 +1,7 @@
 #include "app/UpdateCycle.h"
 
 #include "app/ChannelLoad.h"
+#include "sources/SourceDay.h"
 #include "sources/SourceId.h"
 
 #include <QtGlobal>
@@ -94,15 +95,13 @@ class UpdateCycle::Check {
         const auto task = std::make_shared<ListingsUpdateTask>(m_with.queues, m_with.backgroundTasks);
         task->begin();
         m_with.sourceHealth.read();
-        const auto planned = plannedChannels(counts);
-        for (const auto& [channel, sources] : planned) {
-            m_loads.emplace(channel, ChannelLoad(sources));
-        }
-        for (const UpdateStep& step : planSteps(planned)) {
-            if (m_state.cancelled) {
-                break;
-            }
-            load(step);
+        std::vector<ObjectId> wanted = wantedChannels(counts);
+        while (!loadFromSources(wanted)) {
+            // A day has begun: the rest is planned anew, for pages of the day before would be misdated.
+            std::erase_if(wanted, [this](const ObjectId& id) {
+                const std::shared_ptr<TVChannel> channel = m_with.channels.channelWithChannelId(id);
+                return !channel || !reloadNeeded(*channel);
+            });
         }
         recordHealth();
         task->endOnMainQueue();
@@ -112,17 +111,20 @@ class UpdateCycle::Check {
     }
 
   private:
+    using PlannedChannels = std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>;
+
     unsigned showCount() const { return static_cast<unsigned>(std::max(0, m_with.showCount())); }
 
     bool reloadNeeded(const TVChannel& channel) const {
         return channel.reloadNeeded(m_with.clock.now(), m_with.settings.automaticUpdateInterval());
     }
 
-    std::vector<std::pair<ObjectId, std::vector<PlannedSource>>> plannedChannels(const ShowCounts& counts) {
-        std::vector<std::pair<ObjectId, std::vector<PlannedSource>>> planned;
+    /// The selected channels that are to be planned.
+    std::vector<ObjectId> wantedChannels(const ShowCounts& counts) const {
+        std::vector<ObjectId> wanted;
         for (const ObjectId& id : m_with.channels.selected()) {
             const std::shared_ptr<TVChannel> channel = m_with.channels.channelWithChannelId(id);
-            if (!channel || m_state.cancelled) {
+            if (!channel) {
                 continue;
             }
             ChannelCondition condition;
@@ -135,8 +137,18 @@ class UpdateCycle::Check {
             if (decision.requireReload) {
                 channel->requireReload();
             }
+            if (decision.plan) {
+                wanted.push_back(id);
+            }
+        }
+        return wanted;
+    }
+
+    PlannedChannels plannedChannels(const std::vector<ObjectId>& wanted) {
+        PlannedChannels planned;
+        for (const ObjectId& id : wanted) {
             const auto row = m_with.channelData->find(id);
-            if (!decision.plan || row == m_with.channelData->end()) {
+            if (row == m_with.channelData->end() || m_state.cancelled) {
                 continue;
             }
             m_with.loadQueue->sync([&] {
@@ -147,43 +159,75 @@ class UpdateCycle::Check {
                         return m_with.planner.urlsForSourceId(sourceId, now, language, zone);
                     }));
             });
+            m_loads.emplace(id, ChannelLoad(planned.back().second));
         }
         return planned;
     }
 
-    void load(const UpdateStep& step) {
+    /// False when a day began on the way, and something is left that it makes a difference to.
+    bool loadFromSources(const std::vector<ObjectId>& wanted) {
+        m_day = dayBegan();
+        for (const UpdateStep& step : planSteps(plannedChannels(wanted))) {
+            if (m_state.cancelled) {
+                break;
+            }
+            if (!load(step)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    Moment dayBegan() const { return sourceDayBegan(m_with.clock.now(), m_with.device.timeZone()); }
+
+    bool load(const UpdateStep& step) {
         const std::vector<LoadItem> items =
             loadItems(step, [this](const ObjectId& id) -> std::optional<QString> {
                 const std::shared_ptr<TVChannel> channel = m_with.channels.channelWithChannelId(id);
                 return channel && reloadNeeded(*channel) ? std::optional(channel->language()) : std::nullopt;
             });
         if (items.empty()) {
-            return;
+            return true;
+        }
+        const unsigned type = listingsTypeForSourceId(items.front().sourceId, m_with.planner.hosts());
+        // Many of the other pages leave it to their place what day they are of, or speak of today.
+        const bool isDated = type == kListingsXMLTV;
+        if (!isDated && dayBegan() != m_day) {
+            return false;
         }
         NetPage missing;
-        const std::vector<QByteArray> pages = fetch(step.urls, missing);
+        const std::vector<QByteArray> pages = fetch(step.urls, isDated ? Moment::min() : m_day, missing);
         // Pages that the end of the program cut off must not take the place of a whole list.
         if (m_state.cancelled) {
-            return;
+            return true;
         }
         if (pages.empty()) {
             for (const LoadItem& item : items) {
                 m_loads.at(item.channel).noPage(item.sourceId, missing);
             }
-            return;
+            return true;
         }
-        m_with.loadQueue->sync([&] { parse(items, pages); });
+        bool isOfToday = true;
+        m_with.loadQueue->sync([&] {
+            isOfToday = isDated || dayBegan() == m_day;
+            if (isOfToday) {
+                parse(items, pages, type);
+            }
+        });
+        return isOfToday;
     }
 
     /// The pages up to the first that does not come, the answer of which is `missing`; empty ones count.
-    std::vector<QByteArray> fetch(const QList<QUrl>& urls, NetPage& missing) {
+    std::vector<QByteArray> fetch(const QList<QUrl>& urls, Moment cachedSince, NetPage& missing) {
         std::vector<QByteArray> pages;
         pages.reserve(static_cast<std::size_t>(urls.size()));
         for (const QUrl& url : urls) {
             if (m_state.cancelled) {
                 break;
             }
-            NetPage answer = m_with.fetcher.netPageForRequest(pageRequest(url, m_with.userAgent), false);
+            HTTPRequest request = pageRequest(url, m_with.userAgent);
+            request.cachedSince = cachedSince;
+            NetPage answer = m_with.fetcher.netPageForRequest(std::move(request), false);
             if (!answer.page) {
                 if (answer.reason == PageReason::Cancelled) {
                     m_state.cancelled = true;
@@ -196,10 +240,9 @@ class UpdateCycle::Check {
         return pages;
     }
 
-    void parse(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages) {
+    void parse(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, unsigned type) {
         MergeResult result;
         try {
-            const unsigned type = listingsTypeForSourceId(items.front().sourceId, m_with.planner.hosts());
             const LoadingMark mark(m_with.channels, items);
             result = m_with.netList(items, pages, m_with.clock.now(), type);
         } catch (...) {
@@ -245,6 +288,8 @@ class UpdateCycle::Check {
     State& m_state;
     const UpdateCycleEnvironment& m_with;
     std::unordered_map<ObjectId, ChannelLoad> m_loads;
+    /// When the day began that the plan is of.
+    Moment m_day = Moment::min();
     bool m_anythingParsed = false;
 };
 

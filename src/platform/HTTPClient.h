@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Moment.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -24,6 +26,8 @@ struct HTTPRequest {
     QList<std::pair<QByteArray, QByteArray>> headers;
     QByteArray body;
     CachePolicy cachePolicy = CachePolicy::ReturnCacheDataElseLoad;
+    /// A cached response from before counts as absent.
+    Moment cachedSince = Moment::min();
     /// Ends the transfer when nothing came for so long.
     std::chrono::milliseconds timeout{20'000};
     /// Ends the transfer as a whole.

@@ -50,7 +50,7 @@ std::optional<TransferResult> ResponseCache::cachedResponse(const HTTPRequest& r
     }
     const Entries::iterator entry = found->second;
     // A clock that was set back far would otherwise keep the entry for as long.
-    if (std::chrono::abs(now - entry->stored) > maximumAge) {
+    if (std::chrono::abs(now - entry->stored) > maximumAge || entry->stored < request.cachedSince) {
         erase(entry);
         return std::nullopt;
     }

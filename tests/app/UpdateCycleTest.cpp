@@ -122,6 +122,40 @@ TEST_F(UpdateCycleTest, PagesUpToTheFirstThatFailsAreParsedAndEmptyOnesCount) {
     EXPECT_EQ(world.offered, "");
 }
 
+TEST_F(UpdateCycleTest, ACheckOverMidnightPlansDayPagesAnew) {
+    const Moment midnight = std::chrono::sys_days(std::chrono::year(2026) / 3 / 28) + 23h; // in Bratislava
+    clock.set(midnight - 1min);
+    UpdateWorld world(queues, clock, {{1, {u"joj.one"_s}}, {2, {u"n.two"_s}}});
+    world.answer(kShared, "2 6");
+    const auto planned = [&] {
+        return *world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), {}, world.device.timeZone());
+    };
+    const QList<QUrl> before = planned();
+    for (const QUrl& url : before) {
+        world.answer(url.toString(), "1 2");
+    }
+    world.client.onRequest([&](const HTTPRequest& request) {
+        if (request.url == before[6]) {
+            clock.set(midnight + 1min);
+            for (const QUrl& url : planned()) {
+                world.answer(url.toString(), "1 7");
+            }
+        }
+    });
+    check(world);
+    const QList<QUrl> urls = before + planned() + QList<QUrl>{QUrl(kShared)};
+    const std::vector<HTTPRequest> requests = world.client.requests();
+    ASSERT_EQ(requests.size(), static_cast<std::size_t>(urls.size()));
+    for (std::size_t i = 0; i < requests.size(); ++i) {
+        EXPECT_EQ(requests[i].url, urls[static_cast<qsizetype>(i)]) << i;
+    }
+    ASSERT_EQ(world.parses.size(), 2U);
+    EXPECT_EQ(world.parses[0].pages, std::vector<QByteArray>(7, "1 7"));
+    // What a page calls today is that only until midnight; a file of dates may be older.
+    EXPECT_EQ(requests[7].cachedSince, midnight);
+    EXPECT_EQ(requests[14].cachedSince, Moment::min());
+}
+
 TEST_F(UpdateCycleTest, AReaderThatThrowsLosesItsOwnListAlone) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}, {2, {u"s.two"_s}}});
     world.answer(kShared, "throw");

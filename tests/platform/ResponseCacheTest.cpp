@@ -78,6 +78,13 @@ TEST_F(ResponseCacheTest, OldAnswersCountAsAbsent) {
     maximumAge = 24h;
     EXPECT_FALSE(cache.cachedResponse(requestFor(u"a"_s))) << "dropped by now";
 
+    HTTPRequest fresh = requestFor(u"b"_s);
+    cache.store(fresh, answer(200));
+    fresh.cachedSince = clock.now();
+    EXPECT_TRUE(cache.cachedResponse(fresh));
+    fresh.cachedSince += 1ms;
+    EXPECT_FALSE(cache.cachedResponse(fresh));
+
     cache.store(requestFor(u"b"_s), answer(200));
     clock.advance(-48h);
     EXPECT_FALSE(cache.cachedResponse(requestFor(u"b"_s))) << "from the future";
