@@ -39,6 +39,13 @@ QCborValue archiveRoot(const std::vector<ChannelDictionary>& channels) {
     return QCborMap{{channelsKey(), rows}};
 }
 
+// Just newer than the list that it is made of: an update of the program brings a list that is newer than that
+// one, but often older than the day on which this archive is written. Dates of file systems can be coarse.
+std::optional<Moment> dateOfArchive(const std::optional<Moment>& supplied) {
+    constexpr std::chrono::seconds kCoarsestDate{2};
+    return supplied ? std::optional(*supplied + kCoarsestDate) : std::nullopt;
+}
+
 std::optional<std::vector<ChannelDictionary>> channelsOfArchive(const QString& path) {
     const std::optional<QByteArray> content = contentOf(path);
     const std::optional<QCborValue> root = content ? unarchivedRoot(*content) : std::nullopt;
@@ -102,7 +109,8 @@ std::vector<ChannelDictionary> catalogueChannels(const QString& propertyListPath
     if (const std::optional<std::vector<ChannelDictionary>> all = channelsOfPropertyList(propertyListPath)) {
         std::vector<ChannelDictionary> channels = filteredChannels(*all, types, hasIcon);
         // Kept only where there is something: what found no icon at all deserves another look.
-        if (!channels.empty() && !replaceFile(archivePath, archivedData(archiveRoot(channels)))) {
+        if (!channels.empty() &&
+            !replaceFile(archivePath, archivedData(archiveRoot(channels)), dateOfArchive(supplied))) {
             qWarning().noquote() << "ChannelCatalogue: cannot write" << archivePath;
         }
         return channels;

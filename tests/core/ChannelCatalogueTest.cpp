@@ -55,6 +55,8 @@ TEST_F(ChannelCatalogueTest, TheArchiveIsTakenWhenItIsNewer) {
     const Moment archived = *fileModificationDate(archive);
     supply("Dvě", archived);
     EXPECT_EQ(load(), u"Dvě"_s) << "as old as the archive";
+    supply("Dva", kSupplied + 24h);
+    EXPECT_EQ(load(), u"Dva"_s) << "made long before the archive was written, but after its own list";
     supply("Tři", *fileModificationDate(archive) + 1s);
     EXPECT_EQ(load(), u"Tři"_s);
 }
