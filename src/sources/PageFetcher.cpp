@@ -3,6 +3,8 @@
 #include "sources/PageText.h"
 #include "sources/WebURL.h"
 
+#include <QDebug>
+
 namespace guide {
 
 using namespace Qt::StringLiterals;
@@ -25,6 +27,30 @@ std::optional<QUrl> redirection(const QUrl& from, const std::optional<HTTPRespon
     }
     const QUrl target = from.resolved(QUrl::fromEncoded(location->trimmed(), QUrl::TolerantMode));
     return isWebURL(target) ? std::optional(target) : std::nullopt;
+}
+
+QString whyThereIsNone(const NetPage& answer, const TransferResult& transfer) {
+    switch (answer.reason) {
+    case PageReason::Transfer:
+        return transfer.error ? transfer.error->description : QString();
+    case PageReason::Status:
+        return u"status %1"_s.arg(answer.status);
+    case PageReason::Empty:
+        return u"it is empty"_s;
+    case PageReason::Compression:
+        return u"it cannot be unpacked"_s;
+    case PageReason::Encoding:
+        return u"it is no text in its encoding"_s;
+    case PageReason::None:
+    case PageReason::Cancelled:
+        break;
+    }
+    return {};
+}
+
+void logMissing(const QUrl& url, const NetPage& answer, const TransferResult& transfer) {
+    qInfo().noquote().nospace() << "netPageForRequest: no page from " << url.toDisplayString() << ": "
+                                << whyThereIsNone(answer, transfer);
 }
 
 } // namespace
@@ -87,11 +113,15 @@ NetPage PageFetcher::netPageForRequest(HTTPRequest request, bool /*userIsWaiting
     }
     if (transfer.body.isEmpty()) {
         m_environment.client.removeCachedResponse(request);
+        logMissing(request.url, answer, transfer);
         return answer;
     }
     PageText text = pageText(std::move(transfer.body), *transfer.response, m_environment.physicalMemory);
     answer.page = std::move(text.text);
     answer.reason = text.reason;
+    if (!answer.page) {
+        logMissing(request.url, answer, transfer);
+    }
     return answer;
 }
 
