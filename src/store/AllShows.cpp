@@ -129,7 +129,8 @@ std::vector<AllShows::Show> AllShows::mergedShows(const std::vector<bool>& ofLis
 void AllShows::make(const AllShows* base) const {
     std::vector<std::uint32_t> numbers =
         base ? newNumbers(base->m_lists, m_lists) : std::vector<std::uint32_t>();
-    if (!orderKept(numbers)) {
+    // A clock that was set back brings shows back that the base has no more.
+    if (base && (base->m_endingAfter > m_endingAfter || !orderKept(numbers))) {
         base = nullptr;
         numbers.clear();
     }

@@ -148,7 +148,8 @@ TEST(AllShowsTest, AChangedStateIsMadeOfTheOneBefore) {
         default:
             lists[pick(lists.size())] = randomLists(random, 1).front();
         }
-        endingAfter += std::chrono::minutes(step % 7 == 0 ? 1 : 0);
+        // Now and then the clock is set back.
+        endingAfter += std::chrono::minutes(step % 50 == 49 ? -30 : step % 7 == 0 ? 5 : 0);
         all = std::make_shared<const AllShows>(lists, endingAfter, all);
         // A state is asked for its shows, for a search, or for nothing.
         if (const auto asked = pick(3); asked > 0) {
