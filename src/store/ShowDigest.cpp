@@ -1,5 +1,7 @@
 #include "store/ShowDigest.h"
 
+#include "platform/Utf8.h"
+
 #include <QByteArray>
 #include <QCryptographicHash>
 #include <QtEndian>
@@ -14,6 +16,8 @@ namespace {
 
 constexpr Moment kReferenceDate{std::chrono::seconds(978'307'200)};
 constexpr qsizetype kDigestDigits = 32;
+/// Behind the channel and the start.
+constexpr qsizetype kTitleAt = 12 + 4;
 
 /// Whole seconds since the reference date, halves away from zero, as they fit into 32 bits.
 std::int32_t secondsSinceReferenceDate(const std::optional<Moment>& date) {
@@ -30,13 +34,12 @@ bool beginsWithLetter(const QByteArray& digits) {
 
 ShowDigest showDigest(const ObjectId& channel, const std::optional<Moment>& date,
                       const QString& identificator) {
-    QByteArray buffer;
-    const QByteArray title = identificator.toUtf8();
-    buffer.reserve(16 + title.size());
-    buffer.append(reinterpret_cast<const char*>(channel.bytes().data()), 12);
-    const qint32 start = qToBigEndian(qint32{secondsSinceReferenceDate(date)});
-    buffer.append(reinterpret_cast<const char*>(&start), sizeof start);
-    buffer.append(title);
+    constexpr qsizetype kMostBytesPerUnit = 3;
+    QByteArray buffer(kTitleAt + kMostBytesPerUnit * identificator.size(), Qt::Uninitialized);
+    char* at = std::copy(channel.bytes().begin(), channel.bytes().end(), buffer.data());
+    qToBigEndian(qint32{secondsSinceReferenceDate(date)}, at);
+    // Written as listing files write it, so that a show that is read back has the digest that it had.
+    buffer.truncate(writeUtf8(identificator, buffer.data() + kTitleAt) - buffer.constData());
     const QByteArray hash = QCryptographicHash::hash(buffer, QCryptographicHash::Md5);
     ShowDigest digest{};
     std::copy(hash.begin(), hash.end(), digest.begin());

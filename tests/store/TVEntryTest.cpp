@@ -37,6 +37,9 @@ TEST(TVEntryTest, DigestIsTakenOfChannelStartAndTitle) {
                   QUrl(u"guide://"_s + QLatin1StringView(host)));
     }
     EXPECT_EQ(urlDigestFromChannel(channel(1), Moment{}, std::nullopt, u"guide"_s), std::nullopt);
+    EXPECT_EQ(showDigest(channel(1), Moment{}, u"A"_s + QChar(0xd800)),
+              showDigest(channel(1), Moment{}, u"A\ufffd"_s))
+        << "what half a character becomes in a listing file";
 }
 
 TEST(TVEntryTest, DigestIsReadBackFromItsURL) {
