@@ -184,6 +184,10 @@ MergeResult TVListings::merge(const std::vector<LoadItem>& items, ParsedLists pa
     m_state->change([made = std::move(made)](State& state) {
         std::vector<ObjectId> channels;
         for (const auto& [channel, list] : made) {
+            // Its pages may have been under way when the user gave the channel up.
+            if (!state.environment.channels.channelWithChannelId(channel)) {
+                continue;
+            }
             state.lists.insert_or_assign(channel, list);
             channels.push_back(channel);
         }

@@ -236,6 +236,17 @@ TEST_F(TVListingsTest, AllShowsPutTheUsersFirstChannelFirst) {
     EXPECT_EQ(found(u"a"_s), Titles{}) << "but it has ended";
 }
 
+TEST_F(TVListingsTest, AListThatComesAfterItsChannelWasGivenUpIsNotStored) {
+    made();
+    world.channels.setSelected({channel(2)});
+    listings->removeListingsForChannel(channel(1));
+    merge({{hour(0), hour(1), u"A1"_s}, {hour(0), hour(1), u"A2"_s, 0, channel(2)}});
+    listings->saveAllShows();
+    EXPECT_EQ(found(u"a"_s), Titles{"A2"});
+    EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
+    EXPECT_FALSE(QFile::exists(world.path(channel(1))));
+}
+
 TEST_F(TVListingsTest, RemovedListsLeaveTheirFiles) {
     world.writeFile(channel(1), {{hour(0), hour(1), u"A"_s}});
     made();
