@@ -34,17 +34,18 @@ class WritingTask {
 } // namespace
 
 SaveSchedule::SaveSchedule(DispatchQueues& queues, const Clock& clock, const Folders& folders,
-                           BackgroundTasks& backgroundTasks, const TVChannels& channels)
+                           BackgroundTasks& backgroundTasks)
     : m_queues(queues)
     , m_clock(clock)
     , m_cachesFolder(folders.caches)
     , m_backgroundTasks(backgroundTasks)
-    , m_channels(channels)
     , m_queue(queues.makeQueue("vorel.listings.file.io", QueueKind::Serial, QueuePriority::Background)) {}
 
 void SaveSchedule::add(std::vector<ObjectId> channels) {
-    m_queue->async([self = shared_from_this(), channels = std::move(channels)] {
-        self->m_scheduled.insert(channels.begin(), channels.end());
+    m_queue->async([self = shared_from_this(), channels = std::move(channels), loaded = m_clock.now()] {
+        for (const ObjectId& channel : channels) {
+            self->m_scheduled.insert_or_assign(channel, loaded);
+        }
     });
 }
 
@@ -60,16 +61,13 @@ bool SaveSchedule::empty() {
     return empty;
 }
 
-SaveSchedule::Written SaveSchedule::writeList(const ObjectId& channel, const ChannelList& list,
+SaveSchedule::Written SaveSchedule::writeList(const ObjectId& channel, const ChannelList& list, Moment loaded,
                                               Moment now) const {
     std::span<const ShowItem> shows(*list.shows());
     shows = shows.subspan(firstNotEnded(shows, now));
     if (shows.empty()) {
         return Written::Done;
     }
-    // The file's date is the load time of the list, which a later start reads from it.
-    const std::shared_ptr<TVChannel> record = m_channels.channelWithChannelId(channel);
-    const Moment loaded = record ? record->timeLoaded().value_or(now) : now;
     const QString path = m_cachesFolder + u'/' + listingsFileFromChannelIdentificator(channel);
     if (!replaceFile(path, archivedShows(shows), loaded)) {
         qWarning().noquote() << "TVListings: could not write" << path;
@@ -81,12 +79,13 @@ SaveSchedule::Written SaveSchedule::writeList(const ObjectId& channel, const Cha
 void SaveSchedule::write(const ChannelLists& lists) {
     const WritingTask task(m_backgroundTasks, m_queues.mainQueue());
     const Moment now = m_clock.now();
-    std::erase_if(m_scheduled, [&](const ObjectId& channel) {
+    std::erase_if(m_scheduled, [&](const auto& scheduled) {
         if (m_abandoned.load(std::memory_order_relaxed)) {
             return false;
         }
+        const auto& [channel, loaded] = scheduled;
         const auto list = lists.find(channel);
-        return list == lists.end() || writeList(channel, *list->second, now) == Written::Done;
+        return list == lists.end() || writeList(channel, *list->second, loaded, now) == Written::Done;
     });
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/TVChannels.h"
+#include "core/ObjectId.h"
 #include "platform/BackgroundTasks.h"
 #include "platform/Clock.h"
 #include "platform/DispatchQueue.h"
@@ -10,7 +10,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
-#include <unordered_set>
+#include <unordered_map>
 
 namespace guide {
 
@@ -19,11 +19,11 @@ namespace guide {
 class SaveSchedule : public std::enable_shared_from_this<SaveSchedule> {
   public:
     SaveSchedule(DispatchQueues& queues, const Clock& clock, const Folders& folders,
-                 BackgroundTasks& backgroundTasks, const TVChannels& channels);
+                 BackgroundTasks& backgroundTasks);
 
     DispatchQueue& queue() { return *m_queue; }
 
-    /// Schedules the lists, in the background.
+    /// Schedules the lists, in the background. Their files will bear the date of this moment.
     void add(std::vector<ObjectId> channels);
     /// Blocks on the queue.
     bool contains(const ObjectId& channel);
@@ -38,15 +38,15 @@ class SaveSchedule : public std::enable_shared_from_this<SaveSchedule> {
 
   private:
     enum class Written { Done, Failed };
-    Written writeList(const ObjectId& channel, const ChannelList& list, Moment now) const;
+    Written writeList(const ObjectId& channel, const ChannelList& list, Moment loaded, Moment now) const;
 
     DispatchQueues& m_queues;
     const Clock& m_clock;
     const QString m_cachesFolder;
     BackgroundTasks& m_backgroundTasks;
-    const TVChannels& m_channels;
     const std::shared_ptr<DispatchQueue> m_queue;
-    std::unordered_set<ObjectId> m_scheduled; // on the queue
+    /// When each list was loaded: a later start reads it from the file's date. On the queue.
+    std::unordered_map<ObjectId, Moment> m_scheduled;
     std::atomic<bool> m_abandoned{false};
 };
 

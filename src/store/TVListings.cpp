@@ -31,7 +31,7 @@ TVListings::State::State(TVListingsEnvironment ownEnvironment)
     : environment(std::move(ownEnvironment))
     , access(environment.queues.makeQueue("vorel.listings.access", QueueKind::Concurrent))
     , saveSchedule(std::make_shared<SaveSchedule>(environment.queues, environment.clock, environment.folders,
-                                                  environment.backgroundTasks, environment.channels)) {}
+                                                  environment.backgroundTasks)) {}
 
 void TVListings::State::change(std::function<void(State&)> block) {
     access->asyncBarrier([self = shared_from_this(), block = std::move(block)] { block(*self); });

@@ -135,6 +135,7 @@ TEST_F(TVListingsTest, FilesAreWrittenOnCommitAndDatedByTheLoad) {
         {{hour(0), hour(1), u"A"_s}, {hour(1), hour(3), u"B"_s}, {hour(0), hour(1), u"C"_s, 0, channel(2)}});
     queues.runAll();
     clock.advance(std::chrono::hours(1));
+    world.channels.channelWithChannelId(channel(1))->requireReload(); // which brought nothing
     listings->commitFiles();
     EXPECT_EQ(queues.run(kAccess), 1u);
     EXPECT_EQ(queues.run(kFiles), 1u);
