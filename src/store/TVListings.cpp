@@ -21,10 +21,6 @@ std::shared_ptr<const ChannelList> channelList(ShowItems shows) {
     return std::make_shared<const ChannelList>(std::make_shared<const ShowItems>(std::move(shows)));
 }
 
-void eraseFirst(ShowItems& shows, std::size_t count) {
-    shows.erase(shows.begin(), shows.begin() + static_cast<std::ptrdiff_t>(count));
-}
-
 } // namespace
 
 TVListings::State::State(TVListingsEnvironment ownEnvironment)
@@ -80,20 +76,9 @@ std::shared_ptr<const ChannelList> TVListings::State::readList(const ObjectId& c
     if (!shows) {
         return nullptr;
     }
-    eraseFirst(*shows, firstNotEnded(*shows, environment.clock.now()));
+    const std::size_t ended = firstNotEnded(*shows, environment.clock.now());
+    shows->erase(shows->begin(), shows->begin() + static_cast<std::ptrdiff_t>(ended));
     return shows->empty() ? nullptr : channelList(*std::move(shows));
-}
-
-std::shared_ptr<const ChannelList> TVListings::State::listOfFile(const ObjectId& channel, Moment now) const {
-    std::optional<ShowItems> shows =
-        unarchivedShowsOfFile(listingsPath(environment.folders, channel), environment.alphabet);
-    if (!shows) {
-        return nullptr;
-    }
-    if (const std::size_t first = firstNotEnded(*shows, now); first < shows->size()) {
-        eraseFirst(*shows, first);
-    }
-    return channelList(*std::move(shows));
 }
 
 void TVListings::State::saveAllShows(bool updatePopular) {

@@ -61,8 +61,8 @@ class TVListings {
 
     /// Puts freshly read lists in the place of the stored ones: sorted, without double start times and
     /// closing placeholders, with end times by the rule of the listing type, without what is over. A channel
-    /// whose list is empty or past keeps what it has. The load time of every stored channel is set when this
-    /// returns.
+    /// whose list is empty or past keeps what it has, one that is selected no more gets nothing. The load
+    /// time of every stored channel is set when this returns.
     MergeResult merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, unsigned type);
 
     /// Forgets the list; its file stays.

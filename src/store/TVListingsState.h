@@ -41,9 +41,6 @@ struct TVListings::State : std::enable_shared_from_this<State> {
     void replaceList(const ObjectId& channel, ShowItems shows);
     void unload(const ObjectId& channel) const;
     std::vector<ShowSpan> onAirShows(const std::vector<ObjectId>& channels, int limit) const;
-    /// For a channel that is not stored: the list of its file, without what has ended where that leaves any;
-    /// null when there is no file.
-    std::shared_ptr<const ChannelList> listOfFile(const ObjectId& channel, Moment now) const;
 
     TVListingsEnvironment environment;
     const std::shared_ptr<DispatchQueue> access;
