@@ -1,6 +1,7 @@
 #include "probe/Command.h"
 
 #include "parsers/ShowJSON.h"
+#include "text/Alphabet.h"
 
 #include <QDateTime>
 
@@ -18,6 +19,14 @@ const std::vector<Command>& allCommands() {
         return all;
     }();
     return kCommands;
+}
+
+bool writesCyrillic(const Context& context) {
+    const auto today =
+        QDateTime::fromMSecsSinceEpoch(context.now.time_since_epoch().count(), context.device.timeZone());
+    Alphabet alphabet;
+    alphabet.detectAlphabet(context.device.locale().toString(today.date(), QLocale::LongFormat));
+    return alphabet.useCyrillic();
 }
 
 QJsonValue jsonMoment(const std::optional<Moment>& moment) {

@@ -43,6 +43,9 @@ struct Command {
     std::function<Outcome(Context&)> run;
 };
 
+/// Whether the device of the context writes its dates, and so all that it shows, in Cyrillic.
+bool writesCyrillic(const Context& context);
+
 /// Every command, in the order of the help text.
 const std::vector<Command>& allCommands();
 

@@ -63,7 +63,7 @@ Outcome parse(Context& context) {
     if (const auto* failure = std::get_if<Failure>(&pages)) {
         return *failure;
     }
-    const Alphabet alphabet;
+    const Alphabet alphabet(writesCyrillic(context));
     ParsedLists read = readPages(context, alphabet, items, std::get<0>(pages), type);
     return listsJSON(mergedLists(items, std::move(read), context.now, type));
 }

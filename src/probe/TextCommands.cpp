@@ -10,7 +10,6 @@
 #include "text/ShowClassifier.h"
 #include "text/Transliteration.h"
 
-#include <QDateTime>
 #include <QJsonArray>
 #include <QMap>
 
@@ -63,12 +62,9 @@ QJsonObject finished(const Context& context, const QString& text) {
 }
 
 QJsonObject transliterated(const Context& context, const QString& text) {
-    Alphabet alphabet(context.arguments.has(u"cyrillic"_s));
-    if (context.arguments.has(u"locale"_s)) {
-        const auto today =
-            QDateTime::fromMSecsSinceEpoch(context.now.time_since_epoch().count(), context.device.timeZone());
-        alphabet.detectAlphabet(context.device.locale().toString(today.date(), QLocale::LongFormat));
-    }
+    // The system's own locale does not count here: what is not asked for is Latin.
+    const Alphabet alphabet(context.arguments.has(u"cyrillic"_s) ||
+                            (context.arguments.has(u"locale"_s) && writesCyrillic(context)));
     return result(latin2Cyrillic(text, context.arguments.value(u"language"_s).value_or(QString()), alphabet));
 }
 

@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QJsonDocument>
+#include <QStringDecoder>
 
 #include <algorithm>
 #include <cstdio>
@@ -52,7 +53,8 @@ QString standardInput() {
     if (bytes.endsWith('\n')) {
         bytes.chop(1);
     }
-    return QString::fromUtf8(bytes);
+    // A byte order mark is part of the text.
+    return QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom)(bytes);
 }
 
 /// The context that the common options ask for.
