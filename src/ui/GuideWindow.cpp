@@ -1,5 +1,6 @@
 #include "ui/GuideWindow.h"
 
+#include "ui/DesktopMotion.h"
 #include "ui/FrameLog.h"
 #include "ui/Shell.h"
 #include "ui/Theme.h"
@@ -49,6 +50,9 @@ class GuideWindow::Parts : public QQuickView {
         }
         m_theme->setScheme(m_options.scheme);
         m_theme->setMoves(m_options.motion);
+        if (m_options.motion) {
+            followDesktopMotion();
+        }
         m_shell = std::make_unique<Shell>(m_tabBarController, m_options.form, *m_theme, nullptr);
 
         m_frameLog.emplace(*this, [this] { return isFilled(m_tabBarController); });
@@ -85,6 +89,13 @@ class GuideWindow::Parts : public QQuickView {
     }
 
   private:
+    void followDesktopMotion() {
+        m_desktopMotion = DesktopMotion::ofSession();
+        if (m_desktopMotion) {
+            connect(m_desktopMotion.get(), &DesktopMotion::changed, this,
+                    [this] { m_theme->setMoves(m_desktopMotion->moves()); });
+        }
+    }
     void tellVisibility() {
         if (std::exchange(m_toldVisible, seen()) != seen() && m_options.visibilityChanged) {
             m_options.visibilityChanged(seen());
@@ -95,6 +106,7 @@ class GuideWindow::Parts : public QQuickView {
     const GuideWindowOptions m_options;
     Theme* m_theme = nullptr;
     std::unique_ptr<Shell> m_shell;
+    std::unique_ptr<DesktopMotion> m_desktopMotion;
     std::optional<FrameLog> m_frameLog;
     bool m_toldVisible = false;
 };

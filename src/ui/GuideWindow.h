@@ -20,7 +20,7 @@ struct GuideWindowOptions {
     std::optional<ColorScheme> scheme = std::nullopt;
     /// 390 by 844 for a phone and 1024 by 768 for a tablet where unset.
     std::optional<QSize> size = std::nullopt;
-    /// False where the system asks for less motion, and for pictures.
+    /// Whether things may move, as long as the desktop does not ask for less; false for pictures.
     bool motion = true;
     /// Called when the window becomes visible and when it no longer is (minimised, hidden, closed).
     std::function<void(bool visible)> visibilityChanged = {};
