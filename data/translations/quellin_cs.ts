@@ -84,6 +84,10 @@
         <translation>Vybrané kanály</translation>
     </message>
     <message>
+        <source>Channels</source>
+        <translation>Kanály</translation>
+    </message>
+    <message>
         <source>Choosing channels here comes with a later version. Until then the guide takes them from a file when it starts.</source>
         <translation>Výběr kanálů přinese některá z dalších verzí. Do té doby si je průvodce bere při spuštění ze souboru.</translation>
     </message>

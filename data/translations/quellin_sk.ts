@@ -84,6 +84,10 @@
         <translation>Vybrané kanály</translation>
     </message>
     <message>
+        <source>Channels</source>
+        <translation>Kanály</translation>
+    </message>
+    <message>
         <source>Choosing channels here comes with a later version. Until then the guide takes them from a file when it starts.</source>
         <translation>Výber kanálov prinesie niektorá z ďalších verzií. Dovtedy si ich sprievodca berie pri spustení zo súboru.</translation>
     </message>

@@ -2,11 +2,24 @@
 
 #include "screens/Localized.h"
 
+#include <QFontMetricsF>
+#include <QStringList>
 #include <QVariantMap>
+
+#include <algorithm>
+#include <cmath>
 
 namespace guide {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// In pixels; a title that does not fit even in the smallest is cut short.
+constexpr double kTabFont = 11;
+constexpr double kSmallestTabFont = 9;
+
+} // namespace
 
 Shell::Shell(TabBarController& tabBarController, UserInterfaceIdiom form, Theme& theme, QObject* parent)
     : QAbstractListModel(parent)
@@ -34,7 +47,7 @@ QVariant Shell::data(const QModelIndex& index, int role) const {
     const TabBarItem& item = m_tabBarController.tabs()[number].item;
     switch (role) {
     case TitleRole:
-        return item.title;
+        return tabTitle(item);
     case SymbolRole:
         return static_cast<int>(item.symbol);
     case EnabledRole:
@@ -54,6 +67,25 @@ QHash<int, QByteArray> Shell::roleNames() const {
             {EnabledRole, "tabEnabled"},
             {BadgeRole, "badge"},
             {StackRole, "stack"}};
+}
+
+QString Shell::tabTitle(const TabBarItem& item) const {
+    return tablet() || item.shortTitle.isEmpty() ? item.title : item.shortTitle;
+}
+
+QFont Shell::tabFont(double width, double textScale) const {
+    // Texts grow as their fonts do, so that one measurement tells what fits.
+    constexpr double kMeasured = 100;
+    const QFontMetricsF metrics(themeFont(kMeasured, QFont::DemiBold));
+    double widest = 1;
+    for (const TabBarController::Tab& tab : m_tabBarController.tabs()) {
+        const QString title = tabTitle(tab.item);
+        for (const QString& line : tablet() ? title.split(u' ') : QStringList{title}) {
+            widest = std::max(widest, metrics.horizontalAdvance(line));
+        }
+    }
+    const double most = std::floor(kMeasured * width / widest);
+    return themeFont(std::max(kSmallestTabFont, std::min(kTabFont * textScale, most)), QFont::DemiBold);
 }
 
 QString Shell::alertTitle() const {

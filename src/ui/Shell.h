@@ -5,6 +5,7 @@
 #include "ui/PageStack.h"
 
 #include <QAbstractListModel>
+#include <QFont>
 #include <QQmlEngine>
 #include <QVariantList>
 
@@ -49,6 +50,10 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     QVariantList alertActions() const;
     QString backText() const;
 
+    /// The font of the tabs: of the system's text size, or the largest one in which every title stands in a
+    /// tab of that width, on one line at the bottom and in no more lines than it has words at the side.
+    Q_INVOKABLE QFont tabFont(double width, double textScale) const;
+
     Q_INVOKABLE void tapTab(int index) { m_tabBarController.tapTab(index); }
     Q_INVOKABLE void answerAlert(int action);
     /// The answer that changes nothing: the cancelling one, or the only one.
@@ -59,6 +64,7 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     void alertUpdated();
 
   private:
+    QString tabTitle(const TabBarItem& item) const;
     void tabBarItemChanged(int index) override;
     void selectedTabChanged() override { Q_EMIT selectedIndexChanged(); }
     void alertChanged() override { Q_EMIT alertUpdated(); }

@@ -16,15 +16,6 @@ namespace {
 // The system's ordinary text, in pixels: what counts as a text scale of 1.
 constexpr double kOrdinaryPixels = 13.5;
 constexpr double kLargestScale = 2.5;
-constexpr double kLargestTabScale = 1.1;
-
-QFont scaledFont(double pixels, QFont::Weight weight) {
-    QFont font;
-    font.setFamilies({u"Noto Sans"_s, u"Noto Color Emoji"_s});
-    font.setPixelSize(qRound(pixels));
-    font.setWeight(weight);
-    return font;
-}
 
 ColorScheme systemScheme() {
     const QPalette system = QGuiApplication::palette();
@@ -39,6 +30,14 @@ double systemTextScale() {
 }
 
 } // namespace
+
+QFont themeFont(double pixels, QFont::Weight weight) {
+    QFont font;
+    font.setFamilies({u"Noto Sans"_s, u"Noto Color Emoji"_s});
+    font.setPixelSize(qRound(pixels));
+    font.setWeight(weight);
+    return font;
+}
 
 Theme::Theme(QObject* parent)
     : QObject(parent) {
@@ -87,11 +86,7 @@ void Theme::followSystem() {
 }
 
 QFont Theme::font(double points, QFont::Weight weight) const {
-    return scaledFont(points * m_textScale, weight);
-}
-
-QFont Theme::tabFont() const {
-    return scaledFont(11 * std::min(m_textScale, kLargestTabScale), QFont::DemiBold);
+    return themeFont(points * m_textScale, weight);
 }
 
 } // namespace guide

@@ -13,6 +13,9 @@
 
 namespace guide {
 
+/// A font of the guide, in pixels.
+QFont themeFont(double pixels, QFont::Weight weight);
+
 /// The look of one window, for QML: colours of the scheme, fonts at the system's text size, lengths.
 class Theme : public QObject {
     Q_OBJECT
@@ -48,7 +51,6 @@ class Theme : public QObject {
     Q_PROPERTY(QFont barTitleFont READ barTitleFont NOTIFY fontsChanged)
     Q_PROPERTY(QFont bodyFont READ bodyFont NOTIFY fontsChanged)
     Q_PROPERTY(QFont buttonFont READ buttonFont NOTIFY fontsChanged)
-    Q_PROPERTY(QFont tabFont READ tabFont NOTIFY fontsChanged)
 
     /// Milliseconds of a push, a pop or a change of rows; 0 where less motion is asked for.
     Q_PROPERTY(int motion READ motion NOTIFY motionChanged)
@@ -84,8 +86,6 @@ class Theme : public QObject {
     QFont barTitleFont() const { return font(22, QFont::Bold); }
     QFont bodyFont() const { return font(15, QFont::Normal); }
     QFont buttonFont() const { return font(15, QFont::DemiBold); }
-    /// Grows less than the rest: all tabs have to stay side by side.
-    QFont tabFont() const;
 
     int motion() const { return m_moves ? 200 : 0; }
     bool moves() const { return m_moves; }

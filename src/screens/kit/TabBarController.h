@@ -20,6 +20,8 @@ struct TabBarItem {
     bool enabled = true;
     /// Empty for none.
     QString badgeValue = {};
+    /// What stands on the tab where tabs are narrow; empty for the title.
+    QString shortTitle = {};
 };
 
 class TabBarObserver {

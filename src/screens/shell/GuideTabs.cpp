@@ -10,9 +10,11 @@ namespace guide {
 
 namespace {
 
-void addComingTab(TabBarController& tabs, const QString& title, Symbol symbol, const QString& message) {
-    tabs.addTab({title, symbol, true, {}}, std::make_shared<EmptyViewController>(
-                                               title, EmptyNote{Localized::tr("Nothing here yet"), message}));
+void addComingTab(TabBarController& tabs, const QString& title, Symbol symbol, const QString& message,
+                  const QString& shortTitle = {}) {
+    tabs.addTab(
+        {title, symbol, true, {}, shortTitle},
+        std::make_shared<EmptyViewController>(title, EmptyNote{Localized::tr("Nothing here yet"), message}));
 }
 
 } // namespace
@@ -38,7 +40,8 @@ std::unique_ptr<TabBarController> makeGuideTabs(std::shared_ptr<const ScreenEnvi
                       "on now stands under Currently."));
     addComingTab(*tabs, Localized::tr("Selected Channels"), Symbol::SelectedChannels,
                  Localized::tr("Choosing channels here comes with a later version. Until then the guide "
-                               "takes them from a file when it starts."));
+                               "takes them from a file when it starts."),
+                 Localized::tr("Channels"));
     return tabs;
 }
 

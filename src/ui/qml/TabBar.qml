@@ -15,6 +15,9 @@ Rectangle {
     Row {
         id: row
 
+        readonly property double tabWidth: width / Math.max(1, tabs.count)
+        readonly property font tabFont: bar.shell.tabFont(tabWidth - 4, Theme.textScale)
+
         width: Math.min(parent.width - 8, 720)
         anchors.horizontalCenter: parent.horizontalCenter
 
@@ -28,7 +31,8 @@ Rectangle {
                 required property string title
                 required property bool tabEnabled
 
-                width: row.width / Math.max(1, tabs.count)
+                width: row.tabWidth
+                font: row.tabFont
                 text: title
                 available: tabEnabled
                 current: index === bar.shell.selectedIndex

@@ -78,7 +78,7 @@ T.AbstractButton {
                         text: button.badge
                         textFormat: Text.PlainText
                         color: Theme.onAlarm
-                        font: Theme.tabFont
+                        font: button.font
                     }
                 }
             }
@@ -90,7 +90,7 @@ T.AbstractButton {
                 text: button.text
                 textFormat: Text.PlainText
                 color: button.current ? Theme.tint : Theme.secondaryLabel
-                font: Theme.tabFont
+                font: button.font
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
                 maximumLineCount: 2

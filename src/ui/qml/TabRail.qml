@@ -7,6 +7,8 @@ Rectangle {
 
     required property Shell shell
 
+    readonly property font tabFont: shell.tabFont(implicitWidth - 8, Theme.textScale)
+
     implicitWidth: Math.round(96 * Math.min(Theme.textScale, 1.5))
     color: Theme.groupedBackground
 
@@ -26,6 +28,7 @@ Rectangle {
                 required property bool tabEnabled
 
                 width: rail.width
+                font: rail.tabFont
                 text: title
                 available: tabEnabled
                 current: index === rail.shell.selectedIndex
