@@ -1,8 +1,13 @@
 #pragma once
 
+#include "screens/kit/ViewController.h"
+#include "store/TVEntry.h"
+
 #include <QUrl>
 
 #include <chrono>
+#include <memory>
+#include <vector>
 
 namespace guide {
 
@@ -15,6 +20,13 @@ class AppActions {
     virtual void resynchronizeAlarms() = 0;
     /// Opens a live stream.
     virtual void playURL(const QUrl& url) = 0;
+    /// What a swipe on the row of the show offers; the actions may outlive the row. Nothing, unless the
+    /// application has something to offer.
+    virtual std::vector<SwipeAction>
+    swipeActionsConfigurationForEntry(const std::shared_ptr<const TVEntry>& /*entry*/,
+                                      const std::shared_ptr<ViewController>& /*viewController*/) {
+        return {};
+    }
 
     virtual bool imagesEnabled() const = 0;
     virtual bool colorizedShows() const = 0;

@@ -5,6 +5,7 @@
 #include <QFontMetricsF>
 #include <QImage>
 #include <QStringList>
+#include <QVariantMap>
 
 #include <algorithm>
 #include <cmath>
@@ -164,6 +165,25 @@ void TableModel::tap(int index) {
 
 void TableModel::tapAccessory(int index) {
     m_viewController->tapAccessory(pathOf(index));
+}
+
+QVariantList TableModel::swipeActions(int index) {
+    m_swipeActions = m_viewController->swipeActions(pathOf(index));
+    QVariantList actions;
+    for (const SwipeAction& action : m_swipeActions) {
+        actions << QVariantMap{{u"title"_s, action.title},
+                               {u"name"_s, action.name.isEmpty() ? action.title : action.name},
+                               {u"color"_s, static_cast<int>(action.color)}};
+    }
+    return actions;
+}
+
+void TableModel::performSwipeAction(int action) {
+    const auto chosen = static_cast<std::size_t>(action);
+    // A copy: the action may change the rows, and with them what is offered.
+    if (const auto perform = chosen < m_swipeActions.size() ? m_swipeActions[chosen].action : nullptr) {
+        perform();
+    }
 }
 
 void TableModel::shown(int index) {

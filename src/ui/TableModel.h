@@ -5,6 +5,7 @@
 #include <QAbstractListModel>
 #include <QFont>
 #include <QQmlEngine>
+#include <QVariantList>
 
 #include <memory>
 #include <vector>
@@ -73,6 +74,10 @@ class TableModel : public QAbstractListModel, private TableObserver {
 
     Q_INVOKABLE void tap(int index);
     Q_INVOKABLE void tapAccessory(int index);
+    /// What a swipe on the row offers, each with `title`, `name` and `color`; performed by its number, until
+    /// the next ones are asked for.
+    Q_INVOKABLE QVariantList swipeActions(int index);
+    Q_INVOKABLE void performSwipeAction(int action);
     /// The row has come into sight, or says something else while it is.
     Q_INVOKABLE void shown(int index);
 
@@ -104,6 +109,7 @@ class TableModel : public QAbstractListModel, private TableObserver {
     std::vector<int> m_counts;
     int m_total = 0;
     QPersistentModelIndex m_place;
+    std::vector<SwipeAction> m_swipeActions;
     int m_revision = 0;
     QFont m_startFont;
     QFont m_endFont;

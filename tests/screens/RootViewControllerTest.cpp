@@ -45,6 +45,7 @@ TEST_F(RootViewControllerTest, ShowsASectionForEachSelectedChannelInOrder) {
     const ObjectId one = world.addChannel(u"Jedna"_s);
     const ObjectId two = world.addChannel(u"Dva"_s, true, {{u"Stream"_s, u"http://x/a b.m3u8"_s}});
     world.addChannel(u"Tri"_s);
+    world.addChannel(u"Only live"_s, true, {{u"Stream"_s, u"http://x/only"_s}});
     world.addChannel(u"Unselected"_s, false);
     world.showCount = 2;
     world.start();
@@ -52,7 +53,7 @@ TEST_F(RootViewControllerTest, ShowsASectionForEachSelectedChannelInOrder) {
     world.load(two, {{-5, 5, u"Other"_s}});
     world.show();
 
-    ASSERT_EQ(table().sections().size(), 3U);
+    ASSERT_EQ(table().sections().size(), 4U);
     EXPECT_EQ(root().title(), u"Currently"_s);
     EXPECT_EQ(texts(0), QStringList({u"Jedna"_s, u"07:00pm Now"_s, u"08:00pm Next"_s}));
     EXPECT_EQ(texts(1), QStringList({u"Dva"_s, u"07:25pm Other"_s}));
@@ -70,6 +71,10 @@ TEST_F(RootViewControllerTest, ShowsASectionForEachSelectedChannelInOrder) {
 
     root().tapAccessory({1, 0});
     EXPECT_EQ(world.app.done, QStringList{u"play http://x/a%20b.m3u8"_s});
+
+    root().tapRow({3, 0});
+    EXPECT_FALSE(table().selectedRow());
+    EXPECT_EQ(world.app.done.value(1), u"play http://x/only"_s) << "no shows, but a stream";
 }
 
 TEST_F(RootViewControllerTest, AChannelThatTheCatalogueDoesNotKnow) {

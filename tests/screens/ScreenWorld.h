@@ -52,12 +52,21 @@ struct WorldApp final : AppActions {
     void checkAndUpdateAllChannels() override { done << u"check"_s; }
     void resynchronizeAlarms() override { done << u"alarms"_s; }
     void playURL(const QUrl& url) override { done << u"play "_s + QString::fromLatin1(url.toEncoded()); }
+    std::vector<SwipeAction>
+    swipeActionsConfigurationForEntry(const std::shared_ptr<const TVEntry>& entry,
+                                      const std::shared_ptr<ViewController>&) override {
+        return swipeActions(*entry);
+    }
     bool imagesEnabled() const override { return images; }
     bool colorizedShows() const override { return colorized; }
     std::chrono::seconds automaticUpdateInterval() const override { return 24h; }
 
     /// What was asked of the application, in order.
     QStringList done;
+    /// What a swipe on a show's row offers.
+    std::function<std::vector<SwipeAction>(const TVEntry&)> swipeActions = [](const TVEntry&) {
+        return std::vector<SwipeAction>();
+    };
     bool images = true;
     bool colorized = true;
 };

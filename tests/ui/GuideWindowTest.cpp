@@ -62,9 +62,9 @@ class GuideWindowTest : public testing::TestWithParam<UserInterfaceIdiom> {
         }
     }
     /// Items in sight with the property, top to bottom.
-    QList<QQuickItem*> itemsWith(const char* property) const {
+    QList<QQuickItem*> itemsWith(const char* property, QQuickItem* within = nullptr) const {
         QList<QQuickItem*> found;
-        QList<QQuickItem*> open{quickWindow->contentItem()};
+        QList<QQuickItem*> open{within ? within : quickWindow->contentItem()};
         while (!open.isEmpty()) {
             QQuickItem* item = open.takeFirst();
             if (item->isVisible()) {
@@ -82,6 +82,18 @@ class GuideWindowTest : public testing::TestWithParam<UserInterfaceIdiom> {
             last = item->objectName() == u"rows"_s ? item : last;
         }
         return last;
+    }
+    /// A press there, a move in small steps, a look at what is seen, and the release.
+    void drag(const QPoint& from, const QPoint& by, const std::function<void()>& look = [] {}) const {
+        constexpr int kSteps = 16;
+        QTest::mousePress(quickWindow, Qt::LeftButton, {}, from);
+        for (int step = 1; step <= kSteps; ++step) {
+            QTest::mouseMove(quickWindow, from + by * step / kSteps);
+        }
+        settle();
+        look();
+        QTest::mouseRelease(quickWindow, Qt::LeftButton, {}, from + by);
+        settle();
     }
     int totalRows() const {
         int total = 0;
@@ -169,6 +181,108 @@ TEST_P(GuideWindowTest, TheKeyboardOpensAChannelAndLeadsBack) {
     EXPECT_EQ(rows()->property("count").toInt(), totalRows());
 }
 
+TEST_P(GuideWindowTest, APullAtTheTopRefreshesAChannel) {
+    open();
+    world.top().tapRow({0, 0});
+    world.queues.runAll();
+    settle();
+    ASSERT_TRUE(world.top().hasRefreshControl());
+    ASSERT_FALSE(world.top().refreshing());
+    const QPoint top = rows()->mapToScene(QPointF(rows()->width() / 2, 60)).toPoint();
+    drag(top, {0, 90});
+    EXPECT_FALSE(world.top().refreshing()) << "not far enough";
+    drag(top, {0, 400}, [this] {
+        QQuickItem* sign = itemsWith("turning").value(0);
+        ASSERT_TRUE(sign);
+        const double y = sign->mapToItem(rows(), QPointF()).y();
+        EXPECT_GE(y, 0);
+        EXPECT_LE(y + sign->height(), -rows()->property("verticalOvershoot").toDouble())
+            << "above the first row";
+    });
+    EXPECT_TRUE(world.top().refreshing());
+    EXPECT_EQ(world.app.done, QStringList{u"check"_s});
+}
+
+TEST_P(GuideWindowTest, ASwipeUncoversWhatCanBeDoneWithAShow) {
+    open();
+    QStringList done;
+    world.app.swipeActions = [&done](const TVEntry& entry) {
+        return std::vector<SwipeAction>{
+            {u"⏰"_s, u"Set alarm"_s, ColorRole::Tint, [&done, title = *entry.title()] { done << title; }},
+            {u"⭐"_s, u"Favourite"_s, ColorRole::Favourite, [&done] { done << u"favourite"_s; }}};
+    };
+    const auto row = [this](int index) {
+        QQuickItem* item = nullptr;
+        QMetaObject::invokeMethod(rows(), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, item), Q_ARG(int, index));
+        return item;
+    };
+    const auto middle = [](const QQuickItem* item) {
+        return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+    };
+    const auto offered = [&] {
+        QList<QQuickItem*> found = itemsWith("visualFocus");
+        found.removeIf([](QQuickItem* item) {
+            return !QStringList{u"⏰"_s, u"⭐"_s}.contains(item->property("text").toString());
+        });
+        return found;
+    };
+    drag(middle(row(0)), {-200, 0});
+    EXPECT_TRUE(offered().isEmpty()) << "a channel's own row has nothing to offer";
+    drag(middle(row(1)), {-200, 40});
+    ASSERT_EQ(offered().size(), 2);
+    EXPECT_EQ(rows()->property("contentY").toDouble(), rows()->property("originY").toDouble());
+    drag(middle(row(2)), {-200, 0});
+    EXPECT_EQ(offered().size(), 2) << "one row at a time";
+    const QString title = row(2)->property("title").toString();
+    const auto atEdge = [](const QQuickItem* one, const QQuickItem* other) {
+        return one->mapToScene({}).x() < other->mapToScene({}).x();
+    };
+    const QList<QQuickItem*> both = offered();
+    QTest::mouseClick(quickWindow, Qt::LeftButton, {}, middle(*std::ranges::max_element(both, atEdge)));
+    settle();
+    EXPECT_EQ(done, QStringList{title}) << "the first one stands at the edge";
+    EXPECT_TRUE(offered().isEmpty());
+
+    rows()->forceActiveFocus(Qt::TabFocusReason);
+    rows()->setProperty("currentIndex", 1);
+    QTest::keyClick(quickWindow, Qt::Key_Menu);
+    settle();
+    QTest::keyClick(quickWindow, Qt::Key_Tab);
+    QTest::keyClick(quickWindow, Qt::Key_Return);
+    settle();
+    EXPECT_EQ(done.last(), u"favourite"_s);
+    EXPECT_TRUE(rows()->hasActiveFocus());
+
+    drag(middle(row(1)), {-200, 0});
+    ASSERT_EQ(offered().size(), 2);
+    world.broadcast->notificationsSynched();
+    settle();
+    EXPECT_TRUE(offered().isEmpty()) << "the row says something else now";
+}
+
+TEST_P(GuideWindowTest, TabTitlesStandOnTheirLinesAtAnyTextSize) {
+    const QFont system = QGuiApplication::font();
+    for (const int pixels : {13, 20, 34}) {
+        QFont larger = system;
+        larger.setPixelSize(pixels);
+        QGuiApplication::setFont(larger);
+        if (!window) {
+            open();
+        }
+        settle();
+        for (QQuickItem* tab : itemsWith("badge")) {
+            SCOPED_TRACE(tab->property("text").toString().toStdString() + " at " + std::to_string(pixels));
+            for (const QQuickItem* label : itemsWith("lineCount", tab)) {
+                EXPECT_FALSE(label->property("truncated").toBool());
+                EXPECT_LE(label->property("lineCount").toInt(),
+                          GetParam() == UserInterfaceIdiom::Phone ? 1 : 2);
+            }
+        }
+    }
+    QGuiApplication::setFont(system);
+    settle();
+}
+
 TEST_P(GuideWindowTest, DayHeadersFollowTheirRows) {
     open();
     world.top().tapRow({0, 0});
@@ -195,6 +309,16 @@ TEST_P(GuideWindowTest, AnAlertIsAnsweredByKeyboard) {
     settle();
     QTest::keyClick(quickWindow, Qt::Key_Escape);
     EXPECT_EQ(pressed, 1);
+    EXPECT_EQ(world.tabs->presentedAlert(), nullptr);
+
+    world.tabs->presentAlert({u"Alert"_s,
+                              u"Text"_s,
+                              {{u"OK"_s, AlertAction::Style::Default, [&] { ++pressed; }},
+                               {u"Cancel"_s, AlertAction::Style::Cancel, nullptr}}});
+    settle();
+    QTest::keyClick(quickWindow, Qt::Key_Tab);
+    QTest::keyClick(quickWindow, Qt::Key_Return);
+    EXPECT_EQ(pressed, 2);
     EXPECT_EQ(world.tabs->presentedAlert(), nullptr);
 }
 

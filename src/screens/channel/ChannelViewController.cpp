@@ -44,6 +44,12 @@ void ChannelViewController::viewDidDisappear() {
     table().deselectRow();
 }
 
+std::vector<SwipeAction> ChannelViewController::swipeActionsForRow(IndexPath path) {
+    const ShowItems& shows = m_groups[static_cast<std::size_t>(path.section)].shows;
+    return m_environment->app.swipeActionsConfigurationForEntry(
+        shows[static_cast<std::size_t>(path.row)].entry(), shared_from_this());
+}
+
 void ChannelViewController::notificationsSynched() {
     if (viewLoaded()) {
         reloadTable();

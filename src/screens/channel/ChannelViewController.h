@@ -33,6 +33,7 @@ class ChannelViewController final : public ListingsScreen {
     void viewDidLoad() override;
     void viewWillAppear() override;
     void viewDidDisappear() override;
+    std::vector<SwipeAction> swipeActionsForRow(IndexPath path) override;
     void didPullToRefresh() override { refresh(); }
 
   private:

@@ -5,17 +5,6 @@
 
 namespace guide {
 
-bool operator==(const Row& one, const Row& other) {
-    const auto sameTitle = [](const SwipeAction& a, const SwipeAction& b) { return a.title == b.title; };
-    return one.kind == other.kind && one.text == other.text && one.endTime == other.endTime &&
-           one.details == other.details && one.allDetails == other.allDetails &&
-           one.progress == other.progress && one.accessory == other.accessory &&
-           one.selectable == other.selectable && one.spokenState == other.spokenState &&
-           std::equal(one.swipeActions.begin(), one.swipeActions.end(), other.swipeActions.begin(),
-                      other.swipeActions.end(), sameTitle) &&
-           one.icon == other.icon && one.picture == other.picture;
-}
-
 int Table::rowCount(int section) const {
     const auto index = static_cast<std::size_t>(section);
     return section >= 0 && index < m_sections.size() ? static_cast<int>(m_sections[index].rows.size()) : 0;

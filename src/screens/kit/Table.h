@@ -30,10 +30,13 @@ enum class RowKind {
 /// What stands at a row's trailing edge.
 enum class Accessory { None, Disclosure, Play, Spinner };
 
-/// What a swipe from the trailing edge offers.
+/// One of the things that a swipe from a row's trailing edge offers.
 struct SwipeAction {
     QString title;
+    /// The title in words, for a title that is a sign.
+    QString name;
     ColorRole color = ColorRole::Tint;
+    /// Main queue.
     std::function<void()> action;
 };
 
@@ -57,10 +60,8 @@ struct Row {
     bool selectable = false;
     /// What the colours tell, in words, for whoever does not see them.
     QString spokenState;
-    std::vector<SwipeAction> swipeActions;
 
-    /// Whether both say the same; of swipe actions only the titles count.
-    friend bool operator==(const Row& one, const Row& other);
+    friend bool operator==(const Row&, const Row&) = default;
 };
 
 struct Section {

@@ -10,6 +10,8 @@ void ViewController::tapRow(IndexPath path) {
     if (row && row->selectable) {
         m_table.selectRow(path);
         didSelectRow(path);
+    } else if (row && row->accessory == Accessory::Play) {
+        didTapAccessory(path);
     }
 }
 
@@ -17,6 +19,10 @@ void ViewController::tapAccessory(IndexPath path) {
     if (m_table.row(path)) {
         didTapAccessory(path);
     }
+}
+
+std::vector<SwipeAction> ViewController::swipeActions(IndexPath path) {
+    return m_table.row(path) ? swipeActionsForRow(path) : std::vector<SwipeAction>();
 }
 
 void ViewController::pressBarButton(std::size_t index) {

@@ -46,9 +46,12 @@ class ViewController : public std::enable_shared_from_this<ViewController> {
 
     // ---- what the person does
 
-    /// Selects the row and opens what is behind it; nothing for a row that cannot be selected.
+    /// Selects the row and opens what is behind it. A row that cannot be selected answers as its play button
+    /// does, where it has one.
     void tapRow(IndexPath path);
     void tapAccessory(IndexPath path);
+    /// What a swipe from the row's trailing edge offers, from that edge inwards; empty for nothing.
+    std::vector<SwipeAction> swipeActions(IndexPath path);
     void pressBarButton(std::size_t index);
     void pullToRefresh();
     /// The row has come into sight.
@@ -68,6 +71,7 @@ class ViewController : public std::enable_shared_from_this<ViewController> {
     virtual void viewDidDisappear() {}
     virtual void didSelectRow(IndexPath) {}
     virtual void didTapAccessory(IndexPath) {}
+    virtual std::vector<SwipeAction> swipeActionsForRow(IndexPath) { return {}; }
     virtual void didPullToRefresh() {}
     virtual void rowWillBeDisplayed(IndexPath) {}
 

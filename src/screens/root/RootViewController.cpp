@@ -219,6 +219,15 @@ void RootViewController::didTapAccessory(IndexPath path) {
     }
 }
 
+std::vector<SwipeAction> RootViewController::swipeActionsForRow(IndexPath path) {
+    if (path.row == 0) {
+        return {};
+    }
+    const ShowItems& shows = m_channels[static_cast<std::size_t>(path.section)].entries;
+    return m_environment->app.swipeActionsConfigurationForEntry(
+        shows[static_cast<std::size_t>(path.row - 1)].entry(), shared_from_this());
+}
+
 void RootViewController::selectedChannel(const Channel& channel) {
     m_environment->listings.cachedListForChannel(
         channel.identificator, QueuePriority::UserInitiated,

@@ -46,6 +46,7 @@ class RootViewController final : public ListingsScreen {
     void viewWillAppear() override;
     void viewDidAppear() override;
     void viewDidDisappear() override;
+    std::vector<SwipeAction> swipeActionsForRow(IndexPath path) override;
     void didSelectRow(IndexPath path) override;
     void didTapAccessory(IndexPath path) override;
     void rowWillBeDisplayed(IndexPath path) override;

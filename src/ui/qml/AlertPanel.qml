@@ -91,8 +91,8 @@ FocusScope {
                         implicitHeight: Math.max(44, label.implicitHeight + 16)
                         text: modelData.title
                         onClicked: alert.shell.answerAlert(index)
-                        Keys.onReturnPressed: click()
-                        Keys.onEnterPressed: click()
+                        Keys.onReturnPressed: alert.shell.answerAlert(index)
+                        Keys.onEnterPressed: alert.shell.answerAlert(index)
 
                         Accessible.name: text
 

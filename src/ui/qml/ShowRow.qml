@@ -20,7 +20,7 @@ RowSurface {
     required property bool lastInSection
 
     // With very large text the times stand above the title rather than beside it.
-    readonly property bool stacked: timeColumn > width * 0.4
+    readonly property bool stacked: timeColumn > width / 3
     readonly property double textLeft: stacked ? 16 : 16 + timeColumn + 12
 
     implicitHeight: Math.max(56, texts.y + texts.height + (lastInSection ? 20 : 14))
@@ -52,7 +52,7 @@ RowSurface {
         id: texts
 
         x: row.textLeft
-        y: row.stacked ? start.y + start.height : 14
+        y: row.stacked ? 12 + start.height : 14
         width: row.width - x - (row.hasPicture ? thumbnail.width + 12 : 0) - (row.disclosure ? 28 : 0) - 16
         spacing: 2
 

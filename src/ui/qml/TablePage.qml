@@ -66,11 +66,32 @@ FocusScope {
             }
 
             delegate: TableRow {
+                id: row
+
                 width: ListView.view.width
                 page: screen.page
                 bandRadius: screen.bandRadius
                 timeColumn: screen.page.rows.timeColumn
+                onSwipedChanged: {
+                    if (swiped) {
+                        list.closeSwiped()
+                        list.swipedRow = row
+                    } else if (list.swipedRow === row) {
+                        list.swipedRow = null
+                    }
+                }
             }
+
+            // The one row that is pushed aside.
+            property TableRow swipedRow: null
+
+            function closeSwiped() {
+                if (swipedRow)
+                    swipedRow.cover()
+            }
+
+            onMovementStarted: closeSwiped()
+            onCurrentIndexChanged: closeSwiped()
 
             // What is in sight stays where it is, whatever changes above it.
             property double placeOffset: 0
@@ -99,6 +120,11 @@ FocusScope {
             Keys.onReturnPressed: screen.page.rows.tap(currentIndex)
             Keys.onEnterPressed: screen.page.rows.tap(currentIndex)
             Keys.onSpacePressed: screen.page.rows.tap(currentIndex)
+
+            Keys.onMenuPressed: if (currentItem)
+                currentItem.uncover()
+            Keys.onLeftPressed: if (currentItem)
+                currentItem.uncover()
 
             onDragEnded: if (verticalOvershoot < -pull.height)
                 screen.page.pull()

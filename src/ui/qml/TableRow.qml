@@ -1,8 +1,8 @@
 import QtQuick
 import Quellin
 
-// One row of a table, of whatever kind.
-Loader {
+// One row of a table, of whatever kind. Pushed aside, it uncovers what can be done with it.
+Item {
     id: cell
 
     required property Page page
@@ -33,10 +33,101 @@ Loader {
 
     readonly property bool focused: ListView.isCurrentItem && ListView.view.activeFocus
 
-    sourceComponent: kind === TableModel.ChannelKind ? channelRow : showRow
+    // Whether the row stays aside; what it uncovers is asked for when it is pushed.
+    property bool swiped: false
+    property var actions: []
+    readonly property double actionWidth: Math.round(72 * Math.min(Theme.textScale, 1.5))
+    readonly property double aside: swiped ? -actions.length * actionWidth : 0
+
+    function uncover() {
+        actions = page.rows.swipeActions(index)
+        swiped = actions.length > 0
+        if (swiped)
+            panel.forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    function cover() {
+        if (panel.activeFocus)
+            ListView.view.forceActiveFocus()
+        swiped = false
+    }
+
+    implicitHeight: content.height
 
     Component.onCompleted: page.rows.shown(index)
-    onRevisionChanged: page.rows.shown(index)
+    onRevisionChanged: {
+        cover()
+        page.rows.shown(index)
+    }
+
+    Loader {
+        id: panel
+
+        anchors {
+            top: parent.top
+            bottom: parent.bottom
+            right: parent.right
+        }
+        active: cell.actions.length > 0
+        sourceComponent: SwipeActions {
+            actions: cell.actions
+            actionWidth: cell.actionWidth
+            onGivenUp: cell.cover()
+            onChosen: action => {
+                cell.cover()
+                cell.page.rows.performSwipeAction(action)
+            }
+        }
+    }
+
+    Loader {
+        id: content
+
+        x: push.active ? push.reached : cell.aside
+        width: parent.width
+        sourceComponent: cell.kind === TableModel.ChannelKind ? channelRow : showRow
+        onXChanged: if (x === 0 && !push.active && !cell.swiped)
+            cell.actions = []
+
+        Behavior on x {
+            enabled: Theme.moves && !push.active
+            NumberAnimation { duration: Theme.motion; easing.type: Easing.OutCubic }
+        }
+    }
+
+    DragHandler {
+        id: push
+
+        property double begin: 0
+        property double reached: 0
+
+        target: null
+        yAxis.enabled: false
+        // A list that could take the finger over would do so at the first step up or down.
+        grabPermissions: PointerHandler.CanTakeOverFromAnything
+        onActiveChanged: {
+            if (!active) {
+                cell.swiped = reached < -cell.actions.length * cell.actionWidth / 2
+                return
+            }
+            if (!cell.swiped)
+                cell.actions = cell.page.rows.swipeActions(cell.index)
+            begin = cell.aside
+            reached = begin
+        }
+        onActiveTranslationChanged: if (active)
+            reached = Math.max(-cell.actions.length * cell.actionWidth, Math.min(0, begin + activeTranslation.x))
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: cell.uncover()
+    }
+
+    TapHandler {
+        enabled: cell.swiped
+        onTapped: cell.cover()
+    }
 
     Component {
         id: channelRow
@@ -50,7 +141,7 @@ Loader {
             accessory: cell.accessory
             accessoryName: cell.accessoryName
             enabled: cell.selectable || cell.accessory === TableModel.PlayAccessory
-            selectable: cell.selectable
+            selectable: (cell.selectable || cell.accessory === TableModel.PlayAccessory) && !cell.swiped
             selected: cell.selected
             focused: cell.focused
             spoken: cell.spoken
@@ -75,7 +166,7 @@ Loader {
             hasPicture: cell.hasPicture
             progress: cell.progress
             disclosure: cell.accessory === TableModel.DisclosureAccessory
-            selectable: cell.selectable
+            selectable: cell.selectable && !cell.swiped
             selected: cell.selected
             focused: cell.focused
             lastInSection: cell.lastInSection
