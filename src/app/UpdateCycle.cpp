@@ -181,11 +181,10 @@ class UpdateCycle::Check {
     Moment dayBegan() const { return sourceDayBegan(m_with.clock.now(), m_with.device.timeZone()); }
 
     bool load(const UpdateStep& step) {
-        const std::vector<LoadItem> items =
-            loadItems(step, [this](const ObjectId& id) -> std::optional<QString> {
-                const std::shared_ptr<TVChannel> channel = m_with.channels.channelWithChannelId(id);
-                return channel && reloadNeeded(*channel) ? std::optional(channel->language()) : std::nullopt;
-            });
+        std::vector<LoadItem> items = loadItems(step, [this](const ObjectId& id) -> std::optional<QString> {
+            const std::shared_ptr<TVChannel> channel = m_with.channels.channelWithChannelId(id);
+            return channel && reloadNeeded(*channel) ? std::optional(channel->language()) : std::nullopt;
+        });
         if (items.empty()) {
             return true;
         }
@@ -210,7 +209,11 @@ class UpdateCycle::Check {
         bool isOfToday = true;
         m_with.loadQueue->sync([&] {
             isOfToday = isDated || dayBegan() == m_day;
-            if (isOfToday) {
+            // The list of a channel that was deselected meanwhile would stay in the store.
+            std::erase_if(items, [this](const LoadItem& item) {
+                return !m_with.channels.channelWithChannelId(item.channel);
+            });
+            if (isOfToday && !items.empty()) {
                 parse(items, pages, type);
             }
         });

@@ -181,6 +181,21 @@ TEST_F(UpdateCycleTest, WhatARunningCheckLoadsIsNotLoadedAgainByTheNext) {
     EXPECT_EQ(world.tasks.begun(), 2U);
 }
 
+TEST_F(UpdateCycleTest, AChannelThatIsDeselectedMeanwhileIsNotStored) {
+    UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}, {2, {u"n.two"_s}}, {3, {u"s.three"_s}}});
+    world.answer(kShared, "1 5\n2 5");
+    world.answer(kSecond, "3 5");
+    world.client.onRequest([&](const HTTPRequest& request) {
+        world.channels.setSelected(request.url == QUrl(kShared)
+                                       ? std::vector{UpdateWorld::channel(2), UpdateWorld::channel(3)}
+                                       : std::vector{UpdateWorld::channel(2)});
+    });
+    check(world);
+    ASSERT_EQ(world.parses.size(), 1U);
+    EXPECT_EQ(world.parses[0].items, "2 n.two sk");
+    EXPECT_EQ(world.offered, "2:4 ");
+}
+
 TEST_F(UpdateCycleTest, InTheBackgroundListsAreStoredAndScreensLeftAlone) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
     world.answer(kShared, "1 5");
