@@ -115,6 +115,16 @@ TEST(SettingsUserDefaultsTest, ValuesSurviveWithTheirKinds) {
     EXPECT_TRUE(SettingsUserDefaults(path).stringForKey(u"selectedCalendar"_s));
 }
 
+TEST(SettingsUserDefaultsTest, ReadsWhatAPersonWrites) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"settings.ini"_s);
+    ASSERT_TRUE(replaceFile(path, "[General]\nshow_img=No\nbg_img = TRUE\nodd=perhaps\nempty=\n"));
+    const SettingsUserDefaults defaults(path);
+    EXPECT_EQ(defaults.boolForKey(u"show_img"_s), false);
+    EXPECT_EQ(defaults.boolForKey(u"bg_img"_s), true);
+    EXPECT_FALSE(defaults.boolForKey(u"odd"_s) || defaults.boolForKey(u"empty"_s));
+}
+
 TEST(SettingsUserDefaultsTest, WritesChangedKeysOnly) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"settings.ini"_s);

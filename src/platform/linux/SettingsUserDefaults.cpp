@@ -3,6 +3,8 @@
 #include <QLocale>
 #include <QSettings>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <mutex>
 
@@ -107,14 +109,17 @@ SettingsUserDefaults::~SettingsUserDefaults() {
 }
 
 std::optional<bool> SettingsUserDefaults::boolForKey(const QString& key) const {
-    const std::optional<QString> value = m_file->value(key);
-    if (value == u"true"_s || value == u"1"_s) {
+    // Some of these are set by hand alone.
+    static constexpr std::array kYes{"true"_L1, "1"_L1, "yes"_L1, "on"_L1};
+    static constexpr std::array kNo{"false"_L1, "0"_L1, "no"_L1, "off"_L1};
+    const QString value = m_file->value(key).value_or(QString());
+    const auto isValue = [&value](QLatin1StringView word) {
+        return value.compare(word, Qt::CaseInsensitive) == 0;
+    };
+    if (std::ranges::any_of(kYes, isValue)) {
         return true;
     }
-    if (value == u"false"_s || value == u"0"_s) {
-        return false;
-    }
-    return std::nullopt;
+    return std::ranges::any_of(kNo, isValue) ? std::optional(false) : std::nullopt;
 }
 
 std::optional<std::int64_t> SettingsUserDefaults::integerForKey(const QString& key) const {
