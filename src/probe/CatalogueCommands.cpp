@@ -7,23 +7,14 @@
 
 #include <QDir>
 #include <QJsonArray>
-#include <QSet>
+
+#include <memory>
 
 namespace guide::probe {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The names under which a folder holds icons: each file's name, with and without its extension.
-QSet<QString> iconNames(const QString& folder) {
-    QSet<QString> names;
-    for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files)) {
-        names.insert(file.fileName());
-        names.insert(file.completeBaseName());
-    }
-    return names;
-}
 
 Outcome filter(Context& context) {
     const QString& path = context.arguments.operands[0];
@@ -36,7 +27,9 @@ Outcome filter(Context& context) {
         if (!QDir(*folder).exists()) {
             return Failure{u"%1 is no folder"_s.arg(*folder)};
         }
-        hasIcon = [names = iconNames(*folder)](const QString& name) { return names.contains(name); };
+        hasIcon = [icons = std::make_shared<TVStationIcons>(*folder, 1)](const QString& name) {
+            return icons->hasIconFile(name);
+        };
     }
     const auto types =
         SupportedChannelTypes::fromFile(context.bundleFolder + "/supported-channel-types.json"_L1);

@@ -1,5 +1,6 @@
 #include "probe/RunProbe.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
 
 #include <gtest/gtest.h>
@@ -117,6 +118,35 @@ TEST(Probe, ParsesAFeedForTwoChannels) {
     EXPECT_EQ(show[u"language"_s], u"cs"_s);
     EXPECT_TRUE(show[u"pictures"_s].isNull());
     EXPECT_TRUE(show[u"details"_s].isObject());
+}
+
+TEST(Probe, FiltersACatalogueByTheIconsThatTheGuideWouldFind) {
+    const test::ProbeFiles files;
+    const auto channel = [](const char* location, const char* icon) {
+        return QByteArray("<dict><key>Location</key><string>") + location +
+               "</string><key>Title</key><string>T</string><key>Language</key><string>cs</string>"
+               "<key>Icon</key><string>Czech/" +
+               icon + "</string></dict>";
+    };
+    const QString catalogue = files.write(
+        u"Data.plist"_s, "<plist version=\"1.0\"><dict><key>Channels</key><array>" +
+                             channel("58f4ded60befe78cb336a801", "nova") +
+                             channel("58f4ded60befe78cb336a802", "šlágr") +
+                             channel("58f4ded60befe78cb336a803", "kino.1") +
+                             channel("58f4ded60befe78cb336a804", "notes") + "</array></dict></plist>");
+    const QString icons = QFileInfo(files.write(u"nova.PNG"_s, "")).path(); // the folder of all the files
+    files.write(u"šlágr.png"_s.normalized(QString::NormalizationForm_D), "");
+    files.write(u"kino.1"_s, "");
+    files.write(u"notes.txt"_s, "");
+    const auto locations = [](const Answer& answer) {
+        QString last;
+        for (const auto& row : answer.json[u"channels"_s].toArray()) {
+            last += row[u"Location"_s].toString().last(1);
+        }
+        return last;
+    };
+    EXPECT_EQ(locations(probe({u"filter"_s, catalogue})), u"1234"_s);
+    EXPECT_EQ(locations(probe({u"filter"_s, catalogue, u"--icons"_s, icons})), u"123"_s);
 }
 
 TEST(Probe, ShowsTitlesInTheAlphabetOfTheDevice) {
