@@ -74,9 +74,12 @@ TEST(Guide, KeepsItsListsWhateverTheServerDoes) {
     for (const auto& each : cases) {
         world.userDefaults.setInteger(u"data_update"_s, 3600);
         world.clock.advance(3601s);
-        world.server->misbehave(GuideWorld::feedPath(u"first"_s, 1), each.how);
-        world.server->misbehave(GuideWorld::feedPath(u"first"_s, 2), each.how);
-        world.server->misbehave(GuideWorld::feedPath(u"second"_s, 1), each.how);
+        const QByteArrayList paths{GuideWorld::feedPath(u"first"_s, 1), GuideWorld::feedPath(u"first"_s, 2),
+                                   GuideWorld::feedPath(u"second"_s, 1)};
+        for (const QByteArray& path : paths) {
+            world.server->misbehave(path, each.how);
+        }
+        world.hopelessPaths = each.how.kind == Kind::Stall ? paths : QByteArrayList();
         world.serve(u"second"_s, 2, world.feed(u"Other"_s, 12 * 24));
         ASSERT_TRUE(world.check()) << each.name;
         EXPECT_TRUE(world.titles(u"first"_s).value(0).startsWith(u"Kept"_s)) << each.name;

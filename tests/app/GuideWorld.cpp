@@ -125,7 +125,7 @@ void GuideWorld::start() {
     m_cache = std::make_unique<ResponseCache>(
         clock, std::size_t(1) << 24, [this] { return Settings(userDefaults).automaticUpdateInterval(); });
     m_curl = std::make_unique<CurlHTTPClient>(*m_cache);
-    m_client = std::make_unique<ImpatientHTTPClient>(*m_curl, patience);
+    m_client = std::make_unique<ImpatientHTTPClient>(*m_curl, hopelessPaths);
     const QString root = m_folder.path();
     guide = std::make_unique<QuellinGuideAppDelegate>(ApplicationEnvironment{
         .clock = clock,
@@ -171,7 +171,7 @@ void GuideWorld::end() {
 }
 
 bool GuideWorld::runUntil(const std::function<bool()>& condition) {
-    const auto deadline = std::chrono::steady_clock::now() + 10s;
+    const auto deadline = std::chrono::steady_clock::now() + 60s;
     for (;;) {
         m_queues->runMainQueue();
         if (condition()) {

@@ -31,25 +31,30 @@ class SharedClock final : public Clock {
     std::atomic<std::int64_t> m_now{1'798'700'000'000};
 };
 
-/// Real transfers by a client that loses its patience soon.
+/// Real transfers that soon give up on the paths of which no answer is expected, and never on others.
 class ImpatientHTTPClient final : public HTTPClient {
   public:
-    ImpatientHTTPClient(HTTPClient& client, std::chrono::milliseconds patience)
+    /// The paths change only while nothing is transferred.
+    ImpatientHTTPClient(HTTPClient& client, const QByteArrayList& hopelessPaths)
         : m_client(client)
-        , m_patience(patience) {}
+        , m_hopelessPaths(hopelessPaths) {}
 
     TransferResult perform(const HTTPRequest& request) override {
         HTTPRequest hasty = request;
-        hasty.timeout = m_patience;
-        hasty.resourceTimeout = m_patience * 2;
+        hasty.timeout = m_hopelessPaths.contains(request.url.path().toLatin1())
+                            ? std::chrono::milliseconds(750)
+                            : kPatience;
+        hasty.resourceTimeout = hasty.timeout * 2;
         return m_client.perform(hasty);
     }
     void removeCachedResponse(const HTTPRequest& request) override { m_client.removeCachedResponse(request); }
     void cancelAll() override { m_client.cancelAll(); }
 
   private:
+    static constexpr std::chrono::milliseconds kPatience{30'000};
+
     HTTPClient& m_client;
-    const std::chrono::milliseconds m_patience;
+    const QByteArrayList& m_hopelessPaths;
 };
 
 /// The whole guide without its window: real queues, real transfers from a server on loopback, real files;
@@ -98,8 +103,8 @@ class GuideWorld {
     std::unique_ptr<QuellinGuideAppDelegate> guide;
     Folders folders;
     SourceHostTable hosts;
-    /// How long a transfer may be silent.
-    std::chrono::milliseconds patience{750};
+    /// Paths whose transfers may be given up soon.
+    QByteArrayList hopelessPaths;
 
   private:
     void furnish(const std::vector<QStringList>& sources);

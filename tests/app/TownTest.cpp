@@ -142,7 +142,6 @@ TEST_P(TownTest, EverySiteLeadsToTheSameSchedule) {
     GuideWorld world(sources);
     world.clock.advance(now - world.clock.now());
     world.device.zone = QTimeZone("Europe/Prague");
-    world.patience = 5s;
     QJsonObject hosts;
     for (const auto& [key, host] : Town::hosts(world.server->base())) {
         hosts.insert(key, host);

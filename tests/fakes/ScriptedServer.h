@@ -159,7 +159,7 @@ class ScriptedServer {
     /// Blocks until so many requests have come; false when they have not within five seconds.
     bool waitForRequests(std::size_t count) const {
         std::unique_lock lock(m_mutex);
-        return m_changed.wait_for(lock, std::chrono::seconds(5), [&] { return m_requests.size() >= count; });
+        return m_changed.wait_for(lock, std::chrono::seconds(60), [&] { return m_requests.size() >= count; });
     }
 
   private:

@@ -26,7 +26,7 @@ inline Answer probe(const QStringList& words, const QByteArray& input = {}) {
     process.write(input);
     process.closeWriteChannel();
     Answer answer;
-    if (process.waitForFinished(20'000) && process.exitStatus() == QProcess::NormalExit) {
+    if (process.waitForFinished(60'000) && process.exitStatus() == QProcess::NormalExit) {
         answer.status = process.exitCode();
     }
     answer.output = process.readAllStandardOutput();
