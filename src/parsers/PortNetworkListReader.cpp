@@ -3,6 +3,7 @@
 #include "parsers/DateText.h"
 #include "parsers/EntryClassifier.h"
 #include "parsers/ReaderPages.h"
+#include "store/ListMerge.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -17,12 +18,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// An empty slot, in the words of each country's service.
-constexpr std::array<QStringView, 6> kPlaceholders{
-    u"No information",    u"Nincs információ", u"Není informace",
-    u"Nie je informácia", u"Nema sadržaja",    u"Nema podataka",
-};
-/// Those that are shown in English inside a schedule.
+/// The placeholders that are shown in English inside a schedule.
 constexpr std::array<QStringView, 4> kRenamed{
     u"Nincs információ",
     u"Nie je informácia",
@@ -95,7 +91,7 @@ class ProgrammeReader {
             return;
         }
         QString name = title.toString();
-        if (m_list.empty() && contains(kPlaceholders, QStringView(name))) {
+        if (m_list.empty() && isEmptySlotTitle(name)) {
             return;
         }
         if (contains(kRenamed, QStringView(name))) {

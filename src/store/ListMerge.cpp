@@ -5,21 +5,11 @@
 
 namespace guide {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// From this listing type up the readers know only when a show begins.
 constexpr unsigned kFirstTypeWithoutEnds = 2;
 constexpr std::chrono::seconds kLengthOfLastShow{7200};
-
-/// What sources call an empty slot.
-bool isPlaceholder(const std::optional<QString>& title) {
-    static const std::array kPlaceholders = {u"No information"_s, u"Nincs információ"_s,
-                                             u"Není informace"_s, u"Nie je informácia"_s,
-                                             u"Nema sadržaja"_s,  u"Nema podataka"_s};
-    return title && std::find(kPlaceholders.begin(), kPlaceholders.end(), *title) != kPlaceholders.end();
-}
 
 Moment startOf(const ExtendedTVEntry& show) {
     return *show.basic->dateTime();
@@ -34,13 +24,21 @@ void setEnds(std::vector<ExtendedTVEntry>& shows) {
 
 } // namespace
 
+bool isEmptySlotTitle(QStringView title) {
+    static constexpr std::array<QStringView, 6> kPlaceholders{
+        u"No information",    u"Nincs információ", u"Není informace",
+        u"Nie je informácia", u"Nema sadržaja",    u"Nema podataka",
+    };
+    return std::find(kPlaceholders.begin(), kPlaceholders.end(), title) != kPlaceholders.end();
+}
+
 MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& language, Moment now,
                       unsigned type) {
     std::erase_if(parsed, [](const ExtendedTVEntry& show) { return !show.basic || !show.basic->dateTime(); });
     std::stable_sort(parsed.begin(), parsed.end(), [](const ExtendedTVEntry& a, const ExtendedTVEntry& b) {
         return startOf(a) < startOf(b);
     });
-    if (!parsed.empty() && isPlaceholder(parsed.back().basic->identificator())) {
+    if (!parsed.empty() && isEmptySlotTitle(parsed.back().basic->identificator().value_or(QString()))) {
         parsed.pop_back();
     }
     parsed.erase(std::unique(parsed.begin(), parsed.end(),

@@ -23,6 +23,9 @@ struct MergeResult {
     std::unordered_map<ObjectId, MergeOutcome> outcomes;
 };
 
+/// Whether the title is what a source calls an empty slot.
+bool isEmptySlotTitle(QStringView title);
+
 struct MergedList {
     /// Null unless the outcome is Stored.
     ShowList list;
