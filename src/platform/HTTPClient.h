@@ -32,6 +32,8 @@ struct HTTPRequest {
     std::chrono::milliseconds timeout{20'000};
     /// Ends the transfer as a whole.
     std::chrono::milliseconds resourceTimeout{60'000};
+    /// While the device has no network, waits for one, as a part of the whole, instead of failing at once.
+    bool waitsForConnectivity = false;
 };
 
 struct HTTPResponse {

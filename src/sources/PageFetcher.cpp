@@ -62,6 +62,7 @@ HTTPRequest pageRequest(const QUrl& url, const HTTPUserAgent& userAgent, std::ch
     request.cachePolicy = CachePolicy::ReturnCacheDataElseLoad;
     request.timeout = timeout;
     request.resourceTimeout = kResourceTimeout;
+    request.waitsForConnectivity = true;
     return request;
 }
 

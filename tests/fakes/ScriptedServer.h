@@ -99,11 +99,15 @@ class ScriptedServer {
         }
     };
 
-    ScriptedServer() {
+    /// At the port, or at any that is free.
+    explicit ScriptedServer(std::uint16_t port = 0) {
         m_listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
         sockaddr_in address{};
         address.sin_family = AF_INET;
         address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        address.sin_port = htons(port);
+        const int again = 1;
+        ::setsockopt(m_listener, SOL_SOCKET, SO_REUSEADDR, &again, sizeof again);
         socklen_t size = sizeof address;
         if (m_listener < 0 || ::bind(m_listener, reinterpret_cast<sockaddr*>(&address), size) != 0 ||
             ::listen(m_listener, 64) != 0 ||

@@ -150,6 +150,81 @@ TEST_F(CurlHTTPClientTest, NobodyThere) {
     }
 }
 
+TEST_F(CurlHTTPClientTest, WaitsForANetworkWhereThereIsNone) {
+    std::uint16_t port = 0;
+    {
+        const ScriptedServer gone;
+        port = gone.port();
+    }
+    std::atomic<int> looks = 0;
+    std::unique_ptr<ScriptedServer> back;
+    std::function<bool()> hasNetwork;
+    CurlHTTPClient offline(cache, {kBodyLimit, {"far.example:80:127.0.0.1:" + QByteArray::number(port)}, [&] {
+                                       ++looks;
+                                       return hasNetwork();
+                                   }});
+    HTTPRequest asked = request();
+    asked.url = QUrl(u"http://far.example/"_s);
+    hasNetwork = [] { return false; };
+    EXPECT_TRUE(offline.perform(asked).error);
+    EXPECT_EQ(looks, 0) << "nobody asked to wait";
+
+    asked.waitsForConnectivity = true;
+    asked.resourceTimeout = 50ms;
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(offline.perform(asked).error);
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 50ms);
+
+    asked.resourceTimeout = 10s;
+    hasNetwork = [&] {
+        if (looks > 1 && !back) {
+            back = std::make_unique<ScriptedServer>(port);
+            back->reply(ScriptedReply::ok("here"));
+        }
+        return back != nullptr;
+    };
+    looks = 0;
+    EXPECT_EQ(offline.perform(asked).body, "here");
+    back.reset();
+    hasNetwork = [] { return true; };
+    EXPECT_TRUE(offline.perform(asked).error) << "the server is away, the network is not";
+
+    hasNetwork = [] { return false; };
+    looks = 0;
+    auto waiting = std::async(std::launch::async, [&] { return offline.perform(asked); });
+    while (looks == 0) {
+        std::this_thread::yield();
+    }
+    offline.cancelAll();
+    EXPECT_TRUE(waiting.get().error->cancelled);
+}
+
+TEST(NetworkRoutesTest, AWayToEverywhereIsANetwork) {
+    const QByteArray head =
+        "Iface\tDestination\tGateway\tFlags\tRefCnt\tUse\tMetric\tMask\tMTU\tWindow\tIRTT\n";
+    const QByteArray zeros(32, '0');
+    const struct {
+        const char* name;
+        QByteArray routes;
+        QByteArray ipv6Routes;
+        bool network;
+    } rows[] = {
+        {"nothing", "", "", false},
+        {"at home", head + "eth0\t00000000\t010200C0\t0003\t0\t0\t0\t00000000\t0\t0\t0\n", "", true},
+        {"only other programs' networks",
+         head + "docker0\t000011AC\t00000000\t0001\t0\t0\t0\t0000FFFF\t0\t0\t0\n", "", false},
+        {"IPv6 alone", head,
+         zeros + " 00 " + zeros +
+             " 00 fd000000000000000000000000000001 00000400 00000003 00000000 00000003     eth0\n",
+         true},
+        {"IPv6 that is refused", head,
+         zeros + " 00 " + zeros + " 00 " + zeros + " ffffffff 00000001 00000000 00200200       lo\n", false},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(hasDefaultRoute(row.routes, row.ipv6Routes), row.network) << row.name;
+    }
+}
+
 TEST_F(CurlHTTPClientTest, SendsWhatTheRequestSays) {
     server.reply(ScriptedReply::ok(""));
     server.reply(ScriptedReply::ok(""));

@@ -10,11 +10,22 @@ namespace {
 
 constexpr std::size_t kIdleLanes = 6;
 constexpr long kConnectionsOfLane = 4;
+constexpr std::chrono::milliseconds kLookForNetworkEvery{500};
 
 TransferResult failed(const QString& description, bool cancelled = false) {
     TransferResult result;
     result.error = TransferError{description, {}, {}, cancelled};
     return result;
+}
+
+TransferResult cancelledTransfer() {
+    return failed(u"the transfer was cancelled"_s, true);
+}
+
+// Which no network is needed for.
+bool isThisMachine(const QUrl& url) {
+    const QString host = url.host();
+    return host == "localhost"_L1 || host.startsWith("127."_L1) || host == "::1"_L1;
 }
 
 } // namespace
@@ -57,13 +68,14 @@ class CurlHTTPClient::Lane {
 
 CurlHTTPClient::CurlHTTPClient(ResponseCache& cache, const CurlHTTPClientOptions& options)
     : m_cache(cache)
-    , m_settings{m_share.handle(), options.maximumBodySize, options.connectTo} {}
+    , m_settings{m_share.handle(), options.maximumBodySize, options.connectTo}
+    , m_hasNetwork(options.hasNetwork) {}
 
 CurlHTTPClient::~CurlHTTPClient() = default;
 
 TransferResult CurlHTTPClient::perform(const HTTPRequest& request) {
     if (m_cancelled.load()) {
-        return failed(u"the transfer was cancelled"_s, true);
+        return cancelledTransfer();
     }
     if (request.cachePolicy != CachePolicy::ReloadIgnoringCache) {
         if (std::optional<TransferResult> cached = m_cache.cachedResponse(request)) {
@@ -86,7 +98,39 @@ TransferResult CurlHTTPClient::transfer(const HTTPRequest& request) {
     if (lane.multi() == nullptr) {
         return failed(u"the transfer was cancelled"_s, m_cancelled.load());
     }
-    return CurlTransfer(request, m_settings).run(lane.multi(), m_cancelled);
+    const auto until = std::chrono::steady_clock::now() + request.resourceTimeout;
+    HTTPRequest asked = request;
+    for (;;) {
+        CurlTransfer transfer(asked, m_settings);
+        TransferResult result = transfer.run(lane.multi(), m_cancelled);
+        if (!request.waitsForConnectivity || !transfer.foundNoWay() || isThisMachine(request.url) ||
+            m_hasNetwork()) {
+            return result;
+        }
+        if (!awaitNetwork(until)) {
+            return m_cancelled.load() ? cancelledTransfer() : result;
+        }
+        asked.resourceTimeout =
+            std::chrono::ceil<std::chrono::milliseconds>(until - std::chrono::steady_clock::now());
+    }
+}
+
+// False when the time was up, or the end of the program came first.
+bool CurlHTTPClient::awaitNetwork(std::chrono::steady_clock::time_point until) {
+    qInfo("waiting for a network");
+    std::unique_lock lock(m_mutex);
+    for (;;) {
+        const auto now = std::chrono::steady_clock::now();
+        if (now >= until || m_cancelling.wait_until(lock, std::min(until, now + kLookForNetworkEvery),
+                                                    [this] { return m_cancelled.load(); })) {
+            return false;
+        }
+        lock.unlock();
+        if (m_hasNetwork()) {
+            return true;
+        }
+        lock.lock();
+    }
 }
 
 void CurlHTTPClient::removeCachedResponse(const HTTPRequest& request) {
@@ -96,6 +140,7 @@ void CurlHTTPClient::removeCachedResponse(const HTTPRequest& request) {
 void CurlHTTPClient::cancelAll() {
     const std::lock_guard lock(m_mutex);
     m_cancelled.store(true);
+    m_cancelling.notify_all();
     for (CURLM* multi : m_running) {
         curl_multi_wakeup(multi);
     }

@@ -3,8 +3,12 @@
 #include "platform/HTTPClient.h"
 #include "platform/ResponseCache.h"
 #include "platform/linux/CurlTransfer.h"
+#include "platform/linux/NetworkRoutes.h"
 
 #include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <functional>
 #include <mutex>
 #include <vector>
 
@@ -16,6 +20,8 @@ struct CurlHTTPClientOptions {
     /// Where connections really go: "HOST:PORT:CONNECT-HOST:CONNECT-PORT", an empty host or port standing for
     /// any.
     std::vector<QByteArray> connectTo;
+    /// Whether the device has a network, asked on the threads of transfers that found no way.
+    std::function<bool()> hasNetwork = guide::hasNetwork;
 };
 
 /// Transfers by libcurl: proxies as the environment names them, certificates checked against the system's
@@ -33,13 +39,16 @@ class CurlHTTPClient final : public HTTPClient {
     class Lane;
 
     TransferResult transfer(const HTTPRequest& request);
+    bool awaitNetwork(std::chrono::steady_clock::time_point until);
 
     ResponseCache& m_cache;
     CurlShare m_share;
     const CurlTransferSettings m_settings;
+    const std::function<bool()> m_hasNetwork;
     std::atomic<bool> m_cancelled{false};
 
     std::mutex m_mutex;
+    std::condition_variable m_cancelling;
     /// Each drives one transfer at a time and keeps its connections for the next one.
     std::vector<CurlMulti> m_idle;
     std::vector<CURLM*> m_running;

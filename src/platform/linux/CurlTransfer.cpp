@@ -60,6 +60,11 @@ TransferResult CurlTransfer::run(CURLM* multi, const std::atomic<bool>& cancelle
     return result(outcome);
 }
 
+bool CurlTransfer::foundNoWay() const {
+    return m_code == CURLE_COULDNT_RESOLVE_HOST || m_code == CURLE_COULDNT_RESOLVE_PROXY ||
+           m_code == CURLE_COULDNT_CONNECT;
+}
+
 bool CurlTransfer::prepare() {
     CURL* easy = m_easy.get();
     const QByteArray url = m_request.url.toEncoded(QUrl::RemoveFragment);

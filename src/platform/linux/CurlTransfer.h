@@ -29,6 +29,9 @@ class CurlTransfer {
 
     TransferResult run(CURLM* multi, const std::atomic<bool>& cancelled);
 
+    /// Whether the transfer that has run found no way to the server.
+    bool foundNoWay() const;
+
   private:
     using SteadyTime = std::chrono::steady_clock::time_point;
     enum class Outcome { Done, Cancelled, Inactive, OutOfTime, Broken };
