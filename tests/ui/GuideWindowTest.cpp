@@ -83,16 +83,27 @@ class GuideWindowTest : public testing::TestWithParam<UserInterfaceIdiom> {
         }
         return last;
     }
-    /// A press there, a move in small steps, a look at what is seen, and the release.
-    void drag(const QPoint& from, const QPoint& by, const std::function<void()>& look = [] {}) const {
-        constexpr int kSteps = 16;
-        QTest::mousePress(quickWindow, Qt::LeftButton, {}, from);
+    /// A press there, a move in small steps, a look at what is seen, and the release; by finger or by mouse.
+    void drag(
+        const QPoint& from, const QPoint& by, bool byFinger,
+        const std::function<void()>& look = [] {}) const {
+        constexpr int kSteps = 8;
+        static QPointingDevice* const screen = QTest::createTouchDevice();
+        const auto frame = [this] {
+            QCoreApplication::processEvents();
+            quickWindow->grabWindow();
+        };
+        byFinger ? (void)QTest::touchEvent(quickWindow, screen).press(0, from, quickWindow)
+                 : QTest::mousePress(quickWindow, Qt::LeftButton, {}, from);
         for (int step = 1; step <= kSteps; ++step) {
-            QTest::mouseMove(quickWindow, from + by * step / kSteps);
+            const QPoint at = from + by * step / kSteps;
+            byFinger ? (void)QTest::touchEvent(quickWindow, screen).move(0, at, quickWindow)
+                     : QTest::mouseMove(quickWindow, at);
+            frame();
         }
-        settle();
         look();
-        QTest::mouseRelease(quickWindow, Qt::LeftButton, {}, from + by);
+        byFinger ? (void)QTest::touchEvent(quickWindow, screen).release(0, from + by, quickWindow)
+                 : QTest::mouseRelease(quickWindow, Qt::LeftButton, {}, from + by);
         settle();
     }
     int totalRows() const {
@@ -188,19 +199,31 @@ TEST_P(GuideWindowTest, APullAtTheTopRefreshesAChannel) {
     settle();
     ASSERT_TRUE(world.top().hasRefreshControl());
     ASSERT_FALSE(world.top().refreshing());
-    const QPoint top = rows()->mapToScene(QPointF(rows()->width() / 2, 60)).toPoint();
-    drag(top, {0, 90});
-    EXPECT_FALSE(world.top().refreshing()) << "not far enough";
-    drag(top, {0, 400}, [this] {
-        QQuickItem* sign = itemsWith("turning").value(0);
-        ASSERT_TRUE(sign);
-        const double y = sign->mapToItem(rows(), QPointF()).y();
-        EXPECT_GE(y, 0);
-        EXPECT_LE(y + sign->height(), -rows()->property("verticalOvershoot").toDouble())
-            << "above the first row";
-    });
-    EXPECT_TRUE(world.top().refreshing());
-    EXPECT_EQ(world.app.done, QStringList{u"check"_s});
+    QStringList checks;
+    for (const bool byFinger : {false, true}) {
+        SCOPED_TRACE(byFinger ? "finger" : "mouse");
+        const QPoint top = rows()->mapToScene(QPointF(rows()->width() / 2, 60)).toPoint();
+        drag(top, {0, 90}, byFinger);
+        EXPECT_FALSE(world.top().refreshing()) << "not far enough";
+        drag(top, {-180, 160}, byFinger);
+        EXPECT_FALSE(world.top().refreshing()) << "aside";
+        drag(top, {0, 400}, byFinger, [this] {
+            const QQuickItem* sign = nullptr;
+            for (QQuickItem* item : itemsWith("objectName")) {
+                sign = item->objectName() == u"pullSign"_s ? item : sign;
+            }
+            ASSERT_TRUE(sign);
+            const double y = sign->mapToItem(rows(), QPointF()).y();
+            EXPECT_EQ(y + sign->height(), 0) << "right above the first row";
+            EXPECT_GT(sign->mapToItem(sign->parentItem(), QPointF()).y(), 0);
+        });
+        EXPECT_TRUE(world.top().refreshing());
+        EXPECT_EQ(world.app.done, checks << u"check"_s);
+        EXPECT_EQ(rows()->mapToScene({}).y(), rows()->parentItem()->mapToScene(rows()->position()).y());
+        world.load(ScreenWorld::channelId(1), {{0, 600, u"Fresh"_s}, {600, 9000, u"And long"_s}});
+        settle();
+        EXPECT_FALSE(world.top().refreshing());
+    }
 }
 
 TEST_P(GuideWindowTest, ASwipeUncoversWhatCanBeDoneWithAShow) {
@@ -226,22 +249,25 @@ TEST_P(GuideWindowTest, ASwipeUncoversWhatCanBeDoneWithAShow) {
         });
         return found;
     };
-    drag(middle(row(0)), {-200, 0});
-    EXPECT_TRUE(offered().isEmpty()) << "a channel's own row has nothing to offer";
-    drag(middle(row(1)), {-200, 40});
-    ASSERT_EQ(offered().size(), 2);
-    EXPECT_EQ(rows()->property("contentY").toDouble(), rows()->property("originY").toDouble());
-    drag(middle(row(2)), {-200, 0});
-    EXPECT_EQ(offered().size(), 2) << "one row at a time";
-    const QString title = row(2)->property("title").toString();
-    const auto atEdge = [](const QQuickItem* one, const QQuickItem* other) {
-        return one->mapToScene({}).x() < other->mapToScene({}).x();
-    };
-    const QList<QQuickItem*> both = offered();
-    QTest::mouseClick(quickWindow, Qt::LeftButton, {}, middle(*std::ranges::max_element(both, atEdge)));
-    settle();
-    EXPECT_EQ(done, QStringList{title}) << "the first one stands at the edge";
-    EXPECT_TRUE(offered().isEmpty());
+    for (const bool byFinger : {false, true}) {
+        SCOPED_TRACE(byFinger ? "finger" : "mouse");
+        drag(middle(row(0)), {-200, 0}, byFinger);
+        EXPECT_TRUE(offered().isEmpty()) << "a channel's own row has nothing to offer";
+        drag(middle(row(1)), {-200, 40}, byFinger);
+        ASSERT_EQ(offered().size(), 2);
+        EXPECT_EQ(rows()->property("contentY").toDouble(), rows()->property("originY").toDouble());
+        drag(middle(row(2)), {-200, 0}, byFinger);
+        EXPECT_EQ(offered().size(), 2) << "one row at a time";
+        const QString title = row(2)->property("title").toString();
+        const auto atEdge = [](const QQuickItem* one, const QQuickItem* other) {
+            return one->mapToScene({}).x() < other->mapToScene({}).x();
+        };
+        const QList<QQuickItem*> both = offered();
+        drag(middle(*std::ranges::max_element(both, atEdge)), {}, byFinger);
+        EXPECT_EQ(done, QStringList{title}) << "the first one stands at the edge";
+        EXPECT_TRUE(offered().isEmpty());
+        done.clear();
+    }
 
     rows()->forceActiveFocus(Qt::TabFocusReason);
     rows()->setProperty("currentIndex", 1);
@@ -250,10 +276,10 @@ TEST_P(GuideWindowTest, ASwipeUncoversWhatCanBeDoneWithAShow) {
     QTest::keyClick(quickWindow, Qt::Key_Tab);
     QTest::keyClick(quickWindow, Qt::Key_Return);
     settle();
-    EXPECT_EQ(done.last(), u"favourite"_s);
+    EXPECT_EQ(done, QStringList{u"favourite"_s});
     EXPECT_TRUE(rows()->hasActiveFocus());
 
-    drag(middle(row(1)), {-200, 0});
+    drag(middle(row(1)), {-200, 0}, true);
     ASSERT_EQ(offered().size(), 2);
     world.broadcast->notificationsSynched();
     settle();

@@ -45,6 +45,8 @@ Item {
         textFormat: Text.PlainText
         color: Theme.label
         font: Theme.barTitleFont
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 22
         elide: Text.ElideRight
 
         Accessible.role: Accessible.Heading

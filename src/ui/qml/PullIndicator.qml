@@ -1,25 +1,74 @@
 import QtQuick
 import Quellin
 
-// What comes into sight above a list that is pulled down to be refreshed.
+// Lies over a list that is refreshed by a pull at its top: follows the finger, which the list keeps, and shows a sign
+// in the room that the list makes. The list's own way beyond its bounds would be cut short whenever a row leaves it.
 Item {
-    id: indicator
+    id: pull
 
+    property bool atTop: false
     property bool turning: false
+    // How far the list is to give way.
+    property double reached: 0
 
-    height: 64
+    signal pulled()
 
-    Spinner {
-        anchors.centerIn: parent
-        visible: indicator.turning
+    clip: true
+
+    PointHandler {
+        id: finger
+
+        // Where the list came to its top.
+        property double begin: 0
+
+        onActiveChanged: {
+            if (active) {
+                begin = point.position.y
+                return
+            }
+            const far = pull.reached > sign.height
+            pull.reached = 0
+            if (far)
+                pull.pulled()
+        }
+        onPointChanged: {
+            if (!active)
+                return
+            if (!pull.atTop)
+                begin = point.position.y
+            const down = point.position.y - begin - Application.styleHints.startDragDistance
+            const aside = Math.abs(point.position.x - point.pressPosition.x)
+            pull.reached = down > aside ? down / 2 : 0
+        }
     }
 
-    Glyph {
-        anchors.centerIn: parent
-        width: 22
-        height: 22
-        visible: !indicator.turning
-        symbol: Glyph.Refresh
-        color: Theme.secondaryLabel
+    Behavior on reached {
+        enabled: Theme.moves && !finger.active
+        NumberAnimation { duration: Theme.motion; easing.type: Easing.OutCubic }
+    }
+
+    Item {
+        id: sign
+
+        objectName: "pullSign"
+
+        width: parent.width
+        height: 64
+        y: pull.reached - height
+        visible: pull.reached > 0
+
+        Spinner {
+            anchors.centerIn: parent
+            visible: pull.turning
+        }
+
+        Glyph {
+            anchors.centerIn: parent
+            width: 22
+            height: 22
+            visible: !pull.turning
+            symbol: Glyph.Refresh
+            color: Theme.secondaryLabel
+        }
     }
 }

@@ -17,15 +17,17 @@ Rectangle {
         id: label
 
         anchors {
-            left: parent.left
-            right: parent.right
-            margins: 16
-            verticalCenter: parent.verticalCenter
+            fill: parent
+            leftMargin: 16
+            rightMargin: 16
         }
+        verticalAlignment: Text.AlignVCenter
         text: header.section
         textFormat: Text.PlainText
         color: Theme.heading
         font: Theme.headingFont
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 15
         elide: Text.ElideRight
     }
 }

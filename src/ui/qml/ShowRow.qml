@@ -74,10 +74,20 @@ RowSurface {
                 elide: Text.ElideRight
             }
 
+            // The mark stands behind the last word.
+            Connections {
+                enabled: row.mark !== ""
+                target: titleText
+
+                function onLineLaidOut(line) {
+                    heart.x = Math.min(line.implicitWidth, titleText.width) + 4
+                    heart.y = line.y
+                }
+            }
+
             Text {
                 id: heart
 
-                x: titleText.contentWidth + 4
                 visible: text !== ""
                 text: row.mark
                 font: Theme.raisedTimeFont

@@ -51,7 +51,8 @@ FocusScope {
             currentIndex: -1
             keyNavigationEnabled: true
             highlightMoveDuration: Theme.motion
-            boundsBehavior: screen.page.canRefresh ? Flickable.DragAndOvershootBounds : Flickable.StopAtBounds
+            boundsBehavior: Flickable.StopAtBounds
+            transform: Translate { y: pull.reached }
             cacheBuffer: 480
             bottomMargin: 16
 
@@ -126,9 +127,6 @@ FocusScope {
             Keys.onLeftPressed: if (currentItem)
                 currentItem.uncover()
 
-            onDragEnded: if (verticalOvershoot < -pull.height)
-                screen.page.pull()
-
             C.ScrollBar.vertical: C.ScrollBar {
                 policy: C.ScrollBar.AsNeeded
                 contentItem: Rectangle {
@@ -138,15 +136,16 @@ FocusScope {
                     opacity: parent.active ? 0.6 : 0
                 }
             }
+        }
 
-            PullIndicator {
-                id: pull
+        PullIndicator {
+            id: pull
 
-                width: parent.width
-                y: -list.verticalOvershoot - height
-                visible: screen.page.canRefresh && list.verticalOvershoot < 0
-                turning: screen.page.refreshing
-            }
+            anchors.fill: list
+            visible: screen.page.canRefresh
+            atTop: list.atYBeginning
+            turning: screen.page.refreshing
+            onPulled: screen.page.pull()
         }
 
         EmptyNote {
