@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 #include <memory>
 #include <mutex>
+#include <string>
+#include <utility>
 
 namespace guide {
 
@@ -20,6 +23,7 @@ using ErrorPointer = xmlErrorPtr;
 
 /// How much a document's own entities may add to what it says.
 constexpr std::size_t kEntityAllowance = 10'000'000;
+constexpr std::size_t kNowhere = std::string_view::npos - 1;
 constexpr std::size_t kLeastElementSize = std::string_view("<a/>").size();
 /// The library bounds what general entities expand to, but not how often parameter entities are read again.
 constexpr int kMostParameterReferences = 1'000;
@@ -103,7 +107,8 @@ class Parse {
         if (!m_context) {
             return false;
         }
-        m_bound = std::strlen(document) + kEntityAllowance;
+        m_document = document;
+        m_bound = m_document.size() + kEntityAllowance;
         // The input stands on the page itself: nothing is copied.
         xmlParserInputPtr input =
             xmlNewStringInputStream(m_context.get(), reinterpret_cast<const xmlChar*>(document));
@@ -113,6 +118,7 @@ class Parse {
         inputPush(m_context.get(), input);
         m_context->userData = this;
         xmlParseDocument(m_context.get());
+        flushText();
         m_context->userData = nullptr;
         return m_context->wellFormed && !m_stopped;
     }
@@ -128,7 +134,7 @@ class Parse {
         // Blank text is text: one function for both keeps the library from telling them apart.
         sax.characters = text;
         sax.ignorableWhitespace = text;
-        sax.cdataBlock = text;
+        sax.cdataBlock = section;
         sax.serror = failed;
         sax.startDocument = [](void* user) { xmlSAX2StartDocument(self(user).m_context.get()); };
         sax.internalSubset = [](void* user, const xmlChar* name, const xmlChar* externalId,
@@ -168,6 +174,7 @@ class Parse {
     static void started(void* user, const xmlChar* name, const xmlChar* prefix, const xmlChar*, int,
                         const xmlChar**, int attributeCount, int, const xmlChar** attributes) {
         Parse& parse = self(user);
+        parse.flushText();
         if (parse.spend(kLeastElementSize)) {
             parse.m_events.started(parse.element(name, prefix),
                                    Attributes{parse.m_context.get(), attributeCount, attributes});
@@ -176,6 +183,7 @@ class Parse {
 
     static void ended(void* user, const xmlChar* name, const xmlChar* prefix, const xmlChar*) {
         Parse& parse = self(user);
+        parse.flushText();
         if (!parse.m_stopped) {
             parse.m_events.ended(parse.element(name, prefix));
         }
@@ -185,12 +193,102 @@ class Parse {
         Parse& parse = self(user);
         const auto bytes = static_cast<std::size_t>(std::max(size, 0));
         if (bytes > 0 && parse.spend(bytes)) {
+            parse.addText(view(piece, bytes));
+        }
+    }
+
+    static void section(void* user, const xmlChar* piece, int size) {
+        Parse& parse = self(user);
+        const auto bytes = static_cast<std::size_t>(std::max(size, 0));
+        parse.flushText();
+        if (bytes > 0 && parse.spend(bytes)) {
             parse.m_events.text(view(piece, bytes));
         }
     }
 
+    /// The library ends a piece at the first letter beyond ASCII, every few hundred bytes behind it, and at
+    /// the line ends of some systems. What stands together in the document is put together again.
+    void addText(std::string_view piece) {
+        const auto place = placeOf(piece);
+        const bool continues =
+            place && (place->start == m_textEnd || (place->start == m_textEnd + 1 && endsLine(place->start)));
+        if (!continues) {
+            flushText();
+        }
+        if (!place) {
+            m_events.text(piece);
+            return;
+        }
+        const bool isPlain = place->size == piece.size();
+        if (isPlain && !continues) {
+            m_text = *place;
+        } else if (isPlain && place->start == m_textEnd && m_joined.empty()) {
+            m_text.size += piece.size();
+        } else {
+            m_joined.append(textOf(std::exchange(m_text, {}))).append(piece);
+        }
+        m_textEnd = place->start + place->size;
+    }
+
+    void flushText() {
+        m_textEnd = kNowhere;
+        const std::string_view text = m_joined.empty() ? textOf(std::exchange(m_text, {})) : m_joined;
+        if (!text.empty() && !m_stopped) {
+            m_events.text(text);
+        }
+        m_joined.clear();
+    }
+
+    struct Span {
+        std::size_t start = 0;
+        std::size_t size = 0;
+    };
+
+    std::string_view textOf(Span span) const { return m_document.substr(span.start, span.size); }
+
+    /// A place in the document.
+    std::optional<std::size_t> offset(const void* at) const {
+        const auto* place = static_cast<const char*>(at);
+        const char* begin = m_document.data();
+        const bool isInside =
+            !std::less<>()(place, begin) && !std::less<>()(begin + m_document.size(), place);
+        return isInside ? std::optional(static_cast<std::size_t>(place - begin)) : std::nullopt;
+    }
+
+    /// Where the document says what has just been read: there, or in front of what is read next, where it may
+    /// have carriage returns too. Nothing for what it says by references.
+    std::optional<Span> placeOf(std::string_view piece) const {
+        if (const auto start = offset(piece.data())) {
+            return Span{*start, piece.size()};
+        }
+        const auto next = offset(m_context->input->cur);
+        if (!next) {
+            return std::nullopt;
+        }
+        const std::size_t end = *next;
+        if (m_document.substr(0, end).ends_with(piece)) {
+            return Span{end - piece.size(), piece.size()};
+        }
+        std::size_t start = end;
+        for (auto byte = piece.rbegin(); byte != piece.rend(); ++byte) {
+            const bool isOld = *byte == '\n' && endsLine(start);
+            if (!isOld && (start == 0 || m_document[start - 1] != *byte)) {
+                return std::nullopt;
+            }
+            --start;
+            if (*byte == '\n' && !isOld && endsLine(start)) {
+                --start;
+            }
+        }
+        return Span{start, end - start};
+    }
+
+    /// Whether a carriage return stands before the place.
+    bool endsLine(std::size_t place) const { return place > 0 && m_document[place - 1] == '\r'; }
+
     static void failed(void* user, ErrorPointer error) {
         if (error->level == XML_ERR_FATAL) {
+            self(user).flushText();
             self(user).stop();
         }
     }
@@ -217,6 +315,13 @@ class Parse {
     XMLEvents& m_events;
     Context m_context;
     std::vector<const xmlChar*> m_names;
+    std::string_view m_document;
+    /// Text that is still to be handed over: where it stands in the document, or itself where carriage
+    /// returns stand between.
+    Span m_text;
+    std::string m_joined;
+    /// Where it ends in the document.
+    std::size_t m_textEnd = kNowhere;
     std::size_t m_bound = 0;
     std::size_t m_handedOver = 0;
     int m_parameterReferences = 0;

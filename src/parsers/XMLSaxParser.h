@@ -27,7 +27,7 @@ class XMLEvents {
   public:
     virtual ~XMLEvents() = default;
     virtual void started(std::size_t element, const XMLAttributes& attributes) = 0;
-    /// A piece of text, as UTF-8 and never empty. Where pieces end is the parser's own affair.
+    /// A piece of text, as UTF-8 and never empty: up to the next tag, reference, section or comment.
     virtual void text(std::string_view piece) = 0;
     virtual void ended(std::size_t element) = 0;
 };

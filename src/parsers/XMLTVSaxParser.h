@@ -30,7 +30,7 @@ class XMLTVEvents {
   public:
     virtual ~XMLTVEvents() = default;
     virtual void started(XMLTVElement element, const XMLTVAttributes& attributes) = 0;
-    /// A piece of text, as UTF-8 and never empty. Where pieces end is the parser's own affair.
+    /// A piece of text, as UTF-8 and never empty: up to the next tag, reference, section or comment.
     virtual void text(std::string_view piece) = 0;
     virtual void ended(XMLTVElement element) = 0;
 };

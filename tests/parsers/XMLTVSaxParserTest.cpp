@@ -18,6 +18,8 @@ class Transcript : public XMLTVEvents {
     }
 
     const std::string& said() const { return m_said; }
+    /// The texts, with strokes between them.
+    const std::string& pieces() const { return m_pieces; }
 
   private:
     void started(XMLTVElement element, const XMLTVAttributes& attributes) override {
@@ -30,10 +32,12 @@ class Transcript : public XMLTVEvents {
     void text(std::string_view piece) override {
         EXPECT_FALSE(piece.empty());
         m_said += piece;
+        m_pieces += m_pieces.empty() ? piece : "|" + std::string(piece);
     }
     void ended(XMLTVElement) override { m_said += "/"; }
 
     std::string m_said;
+    std::string m_pieces;
 };
 
 std::string said(const std::string& document) {
@@ -70,6 +74,24 @@ TEST(XMLTVSaxParser, TellsWhatTheDocumentSays) {
     };
     for (const Row& row : rows) {
         EXPECT_EQ(said(row.document), row.said) << row.name;
+    }
+}
+
+TEST(XMLTVSaxParser, TakesNoTextApart) {
+    std::string parts;
+    for (int i = 0; i < 60; ++i) {
+        parts += "5. Spájanie  ║ " + std::to_string(i);
+    }
+    const std::vector<std::pair<std::string, std::string>> rows{
+        {parts, parts},
+        {"1\r\n2ů\r\n\r\n3\r4\r\r\n", "1\n2ů\n\n3\n4\n\n"},
+        {"\r\nů\n", "\nů\n"},
+        {"ů&amp;ů;&#x16F;ů&x;ů", "ů|&|ů;|ů|ů|x|ů"},
+        {"ů<![CDATA[ů]]>ů<!--ů-->ů<?p ů?>ů", "ů|ů|ů|ů|ů"},
+        {"ů<b>ů</b>ů", "ů|ů|ů"},
+    };
+    for (const auto& [text, pieces] : rows) {
+        EXPECT_EQ(Transcript("<!DOCTYPE a [<!ENTITY x 'x'>]><a>" + text + "</a>").pieces(), pieces);
     }
 }
 
