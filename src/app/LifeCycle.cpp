@@ -22,6 +22,7 @@ void QuellinGuideAppDelegate::applicationSignificantTimeChange() {
 void QuellinGuideAppDelegate::applicationDidEnterBackground() {
     m_alarms.commit();
     m_environment.userDefaults.synchronize();
+    m_channels->retryWriting();
     m_listings->commitFiles();
 }
 

@@ -170,6 +170,10 @@ std::shared_ptr<TVChannel> TVChannels::channelWithChannelId(const ObjectId& chan
     return found == snapshot->channels.end() ? nullptr : found->second;
 }
 
+void TVChannels::retryWriting() {
+    m_writer->asyncBarrier([state = m_state] { state->write(); });
+}
+
 bool TVChannels::finishWriting() {
     {
         const std::lock_guard lock(m_state->guard);

@@ -93,8 +93,10 @@ TEST_F(TVChannelsTest, AFailedWriteIsNotMirroredAndIsTriedAgain) {
     EXPECT_EQ(channels.selected(), std::vector{kA});
 
     ASSERT_TRUE(QDir(path()).removeRecursively());
-    EXPECT_TRUE(channels.finishWriting());
+    channels.retryWriting();
+    queues.runAll();
     EXPECT_EQ(makeChannels().selected(), std::vector{kA});
+    EXPECT_TRUE(channels.finishWriting());
     EXPECT_EQ(keyValueStore.writeCount(), 1);
 }
 
