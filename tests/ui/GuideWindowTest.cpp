@@ -87,19 +87,15 @@ class GuideWindowTest : public testing::TestWithParam<UserInterfaceIdiom> {
     void drag(
         const QPoint& from, const QPoint& by, bool byFinger,
         const std::function<void()>& look = [] {}) const {
-        constexpr int kSteps = 8;
+        constexpr int kSteps = 16;
         static QPointingDevice* const screen = QTest::createTouchDevice();
-        const auto frame = [this] {
-            QCoreApplication::processEvents();
-            quickWindow->grabWindow();
-        };
         byFinger ? (void)QTest::touchEvent(quickWindow, screen).press(0, from, quickWindow)
                  : QTest::mousePress(quickWindow, Qt::LeftButton, {}, from);
         for (int step = 1; step <= kSteps; ++step) {
             const QPoint at = from + by * step / kSteps;
             byFinger ? (void)QTest::touchEvent(quickWindow, screen).move(0, at, quickWindow)
                      : QTest::mouseMove(quickWindow, at);
-            frame();
+            QCoreApplication::processEvents();
         }
         look();
         byFinger ? (void)QTest::touchEvent(quickWindow, screen).release(0, from + by, quickWindow)

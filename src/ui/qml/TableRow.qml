@@ -52,6 +52,12 @@ Item {
         swiped = false
     }
 
+    // What lies below a row that is back in its place must not be found there.
+    function forgetActions() {
+        if (content.x === 0 && !push.held && !swiped)
+            actions = []
+    }
+
     implicitHeight: content.height
 
     Component.onCompleted: page.rows.shown(index)
@@ -83,14 +89,13 @@ Item {
     Loader {
         id: content
 
-        x: push.active ? push.reached : cell.aside
+        x: push.held ? push.reached : cell.aside
         width: parent.width
         sourceComponent: cell.kind === TableModel.ChannelKind ? channelRow : showRow
-        onXChanged: if (x === 0 && !push.active && !cell.swiped)
-            cell.actions = []
+        onXChanged: cell.forgetActions()
 
         Behavior on x {
-            enabled: Theme.moves && !push.active
+            enabled: Theme.moves && !push.held
             NumberAnimation { duration: Theme.motion; easing.type: Easing.OutCubic }
         }
     }
@@ -98,6 +103,7 @@ Item {
     DragHandler {
         id: push
 
+        property bool held: false
         property double begin: 0
         property double reached: 0
 
@@ -106,16 +112,19 @@ Item {
         // A list that could take the finger over would do so at the first step up or down.
         grabPermissions: PointerHandler.CanTakeOverFromAnything
         onActiveChanged: {
-            if (!active) {
+            if (active) {
+                if (!cell.swiped)
+                    cell.actions = cell.page.rows.swipeActions(cell.index)
+                begin = cell.aside
+                reached = begin
+                held = true
+            } else {
                 cell.swiped = reached < -cell.actions.length * cell.actionWidth / 2
-                return
+                held = false
+                cell.forgetActions()
             }
-            if (!cell.swiped)
-                cell.actions = cell.page.rows.swipeActions(cell.index)
-            begin = cell.aside
-            reached = begin
         }
-        onActiveTranslationChanged: if (active)
+        onActiveTranslationChanged: if (held)
             reached = Math.max(-cell.actions.length * cell.actionWidth, Math.min(0, begin + activeTranslation.x))
     }
 
