@@ -305,6 +305,25 @@ TEST_P(GuideWindowTest, TabTitlesStandOnTheirLinesAtAnyTextSize) {
     settle();
 }
 
+TEST_P(GuideWindowTest, AScreenThatOpensInAHiddenTabLeavesTheKeyboardAlone) {
+    open();
+    rows()->forceActiveFocus(Qt::TabFocusReason);
+    world.top().tapRow({0, 0});
+    world.tabs->setSelectedIndex(world.tabs->selectedIndex() + 1);
+    settle();
+    world.queues.runAll();
+    settle();
+    ASSERT_TRUE(quickWindow->activeFocusItem());
+    EXPECT_TRUE(quickWindow->activeFocusItem()->isVisible());
+
+    world.tabs->setSelectedIndex(world.tabs->selectedIndex() - 1);
+    settle();
+    ASSERT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 2U);
+    QTest::keyClick(quickWindow, Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 1U) << "it has it now";
+}
+
 TEST_P(GuideWindowTest, DayHeadersFollowTheirRows) {
     open();
     world.top().tapRow({0, 0});
@@ -338,9 +357,12 @@ TEST_P(GuideWindowTest, AnAlertIsAnsweredByKeyboard) {
                               {{u"OK"_s, AlertAction::Style::Default, [&] { ++pressed; }},
                                {u"Cancel"_s, AlertAction::Style::Cancel, nullptr}}});
     settle();
+    world.top().tapRow({0, 0});
+    world.queues.runAll();
+    settle();
     QTest::keyClick(quickWindow, Qt::Key_Tab);
     QTest::keyClick(quickWindow, Qt::Key_Return);
-    EXPECT_EQ(pressed, 2);
+    EXPECT_EQ(pressed, 2) << "whatever opens behind the alert";
     EXPECT_EQ(world.tabs->presentedAlert(), nullptr);
 }
 

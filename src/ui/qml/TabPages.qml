@@ -12,6 +12,14 @@ C.StackView {
         page: view.stack.root
     }
 
+    // Only what is seen, with no alert before it, may take the keyboard; any other screen gets it in its turn.
+    function giveFocus() {
+        if (visible && enabled)
+            currentItem.forceActiveFocus()
+        else
+            currentItem.focus = true
+    }
+
     Component {
         id: pageComponent
 
@@ -25,13 +33,14 @@ C.StackView {
 
         function onPagePushed(page) {
             view.push(pageComponent, { "page": page },
-                      Theme.moves ? C.StackView.PushTransition : C.StackView.Immediate).forceActiveFocus()
+                      Theme.moves ? C.StackView.PushTransition : C.StackView.Immediate)
+            view.giveFocus()
         }
 
         function onPagesPopped(count) {
             view.pop(view.get(view.depth - 1 - count),
                      Theme.moves ? C.StackView.PopTransition : C.StackView.Immediate)
-            view.currentItem.forceActiveFocus()
+            view.giveFocus()
         }
     }
 
