@@ -1,11 +1,10 @@
 #include "ui/DesktopMotion.h"
 
+#include "SettingsPortal.h"
+
 #include <QCoreApplication>
-#include <QDBusContext>
-#include <QDBusMessage>
 #include <QDBusServer>
 #include <QDBusVariant>
-#include <QHash>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -15,30 +14,6 @@ namespace guide::test {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The settings portal of a desktop.
-class Portal : public QObject, protected QDBusContext {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-
-  public:
-    QHash<QString, QVariant> values;
-
-  public Q_SLOTS:
-    // NOLINTNEXTLINE(readability-identifier-naming): the portal's own name
-    QDBusVariant Read(const QString& space, const QString& key) {
-        const auto found = values.constFind(space + u'/' + key);
-        if (found == values.cend()) {
-            sendErrorReply(u"org.freedesktop.portal.Error.NotFound"_s, u"no such setting"_s);
-            return {};
-        }
-        return QDBusVariant(QVariant::fromValue(QDBusVariant(*found)));
-    }
-
-  Q_SIGNALS:
-    // NOLINTNEXTLINE(readability-identifier-naming): the portal's own name
-    void SettingChanged(const QString& space, const QString& key, const QDBusVariant& value);
-};
 
 /// A portal at the other end of a private bus.
 struct Desktop {
@@ -92,5 +67,3 @@ TEST(DesktopMotionTest, FollowsWhatTheDesktopAsksFor) {
 } // namespace
 
 } // namespace guide::test
-
-#include "DesktopMotionTest.moc"
