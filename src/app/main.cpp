@@ -9,6 +9,7 @@
 #include "demo/DemoWorld.h"
 #include "platform/FileReplacement.h"
 #include "platform/linux/CurlHTTPClient.h"
+#include "platform/linux/DesktopMotion.h"
 #include "platform/linux/EventLoopQueues.h"
 #include "platform/linux/FolderKeyValueStore.h"
 #include "platform/linux/GlobalLibraries.h"
@@ -216,6 +217,15 @@ int run(LaunchOptions options) {
     });
     if (!window->loaded()) {
         return refuse("the screens cannot be drawn");
+    }
+    const std::unique_ptr<DesktopMotion> desktopMotion =
+        options.screenshots ? nullptr : DesktopMotion::ofSession();
+    if (desktopMotion) {
+        QObject::connect(desktopMotion.get(), &DesktopMotion::changed, desktopMotion.get(), [&] {
+            if (window) {
+                window->setMotion(desktopMotion->moves());
+            }
+        });
     }
     window->show();
     instance.listen(std::shared_ptr<DispatchQueue>(std::shared_ptr<void>(), &queues.mainQueue()),

@@ -1,6 +1,5 @@
 #include "ui/GuideWindow.h"
 
-#include "ui/DesktopMotion.h"
 #include "ui/FrameLog.h"
 #include "ui/Shell.h"
 #include "ui/Theme.h"
@@ -50,9 +49,6 @@ class GuideWindow::Parts : public QQuickView {
         }
         m_theme->setScheme(m_options.scheme);
         m_theme->setMoves(m_options.motion);
-        if (m_options.motion) {
-            followDesktopMotion();
-        }
         m_shell = std::make_unique<Shell>(m_tabBarController, m_options.form, *m_theme, nullptr);
 
         m_frameLog.emplace(*this, [this] { return isFilled(m_tabBarController); });
@@ -89,13 +85,6 @@ class GuideWindow::Parts : public QQuickView {
     }
 
   private:
-    void followDesktopMotion() {
-        m_desktopMotion = DesktopMotion::ofSession();
-        if (m_desktopMotion) {
-            connect(m_desktopMotion.get(), &DesktopMotion::changed, this,
-                    [this] { m_theme->setMoves(m_desktopMotion->moves()); });
-        }
-    }
     void tellVisibility() {
         if (std::exchange(m_toldVisible, seen()) != seen() && m_options.visibilityChanged) {
             m_options.visibilityChanged(seen());
@@ -106,7 +95,6 @@ class GuideWindow::Parts : public QQuickView {
     const GuideWindowOptions m_options;
     Theme* m_theme = nullptr;
     std::unique_ptr<Shell> m_shell;
-    std::unique_ptr<DesktopMotion> m_desktopMotion;
     std::optional<FrameLog> m_frameLog;
     bool m_toldVisible = false;
 };
@@ -140,6 +128,12 @@ bool GuideWindow::visible() const {
 void GuideWindow::setColorScheme(std::optional<ColorScheme> scheme) {
     if (m_parts->theme()) {
         m_parts->theme()->setScheme(scheme);
+    }
+}
+
+void GuideWindow::setMotion(bool moves) {
+    if (m_parts->theme()) {
+        m_parts->theme()->setMoves(moves);
     }
 }
 

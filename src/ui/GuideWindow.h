@@ -20,7 +20,7 @@ struct GuideWindowOptions {
     std::optional<ColorScheme> scheme = std::nullopt;
     /// 390 by 844 for a phone and 1024 by 768 for a tablet where unset.
     std::optional<QSize> size = std::nullopt;
-    /// Whether things may move, as long as the desktop does not ask for less; false for pictures.
+    /// False where the desktop asks for less motion, and for pictures.
     bool motion = true;
     /// Called when the window becomes visible and when it no longer is (minimised, hidden, closed).
     std::function<void(bool visible)> visibilityChanged = {};
@@ -44,6 +44,8 @@ class GuideWindow {
     bool visible() const;
 
     void setColorScheme(std::optional<ColorScheme> scheme);
+    /// Whether things may move.
+    void setMotion(bool moves);
     /// Writes what the window shows as a PNG file; false when it could not be written. Needs a shown window.
     bool savePicture(const QString& path);
 

@@ -1,4 +1,4 @@
-#include "ui/DesktopMotion.h"
+#include "platform/linux/DesktopMotion.h"
 
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>

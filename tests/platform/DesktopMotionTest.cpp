@@ -1,4 +1,4 @@
-#include "ui/DesktopMotion.h"
+#include "platform/linux/DesktopMotion.h"
 
 #include "SettingsPortal.h"
 
@@ -46,6 +46,10 @@ struct Wish {
 };
 
 TEST(DesktopMotionTest, FollowsWhatTheDesktopAsksFor) {
+    int argc = 1;
+    char name[] = "test";
+    char* argv[] = {name, nullptr};
+    const QCoreApplication application(argc, argv);
     const std::vector<Wish> wishes{
         {"common", u"org.freedesktop.appearance"_s, u"reduced-motion"_s, 1U, 0U},
         {"one desktop", u"org.gnome.desktop.interface"_s, u"enable-animations"_s, false, true},
