@@ -209,7 +209,7 @@ class UpdateCycle::Check {
         bool isOfToday = true;
         m_with.loadQueue->sync([&] {
             isOfToday = isDated || dayBegan() == m_day;
-            // The list of a channel that was deselected meanwhile would stay in the store.
+            // Nobody reads or shows the list of a channel that was deselected meanwhile.
             std::erase_if(items, [this](const LoadItem& item) {
                 return !m_with.channels.channelWithChannelId(item.channel);
             });
