@@ -1,4 +1,4 @@
-# How every target of the tree is made: one standard, one set of warnings, one way to say what it sees.
+# Functions that define every target of the tree, with the same standard, warnings and include rules.
 option(QUELLIN_PCH "Precompile the standard and Qt Core headers" ON)
 option(QUELLIN_WERROR "Treat warnings as errors" ON)
 option(QUELLIN_BENCH "Build the benchmarks" OFF)
@@ -21,23 +21,23 @@ if(QUELLIN_SANITIZE)
     add_link_options(-fsanitize=${QUELLIN_SANITIZE})
 endif()
 
-# What all of our own code is compiled with; code that a tool generates gets it too.
+# Compile options of all our targets, generated code included.
 add_library(guide_options INTERFACE)
 target_compile_options(guide_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
                                                -Woverloaded-virtual -Wcast-qual -Wimplicit-fallthrough)
 if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-    # It reports what the standard library's own stable_sort uses inside; g++ keeps watch over our calls.
+    # clang warns about the inside of the standard library's stable_sort; g++ still checks our own calls.
     target_compile_options(guide_options INTERFACE -Wno-deprecated-declarations)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    # g++ 12 takes the branches of std::string's own operator+ that cannot be for overflows when it optimises.
+    # When optimising, g++ 12 reports overflows in unreachable branches of std::string's operator+.
     target_compile_options(guide_options INTERFACE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
 endif()
 if(QUELLIN_WERROR)
     target_compile_options(guide_options INTERFACE -Werror)
 endif()
 if(QUELLIN_PCH AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # ccache can only reuse an object made with a precompiled header when the header's use stays visible.
+    # ccache can only cache objects built with a precompiled header if its use stays visible in the output.
     target_compile_options(guide_options INTERFACE -fpch-preprocess)
 endif()
 target_compile_definitions(guide_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
@@ -52,8 +52,8 @@ endfunction()
 
 # guide_folder(NAME SOURCES … [LINKS …])
 #
-# The static library guide_NAME of the folder src/NAME. Its headers are included as "NAME/Header.h", and only a
-# target that links it can find them: each folder is reached through a link of its own under the build folder.
+# Defines the static library guide_NAME of the folder src/NAME. Its headers are included as "NAME/Header.h", and only
+# targets that link it can find them: each folder is exposed through a separate link below the build folder.
 function(guide_folder NAME)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     string(REPLACE "/" "_" TARGET_NAME ${NAME})
@@ -78,8 +78,8 @@ endfunction()
 
 # guide_tests(NAME SOURCES … [LINKS …] [LABELS …])
 #
-# One GoogleTest program a folder, guide_NAME_tests, each test known to ctest by its own name.
-# Tests run in an awkward zone and locale unless they set their own (tests/TestEnvironment.h).
+# Defines the GoogleTest program guide_NAME_tests, whose tests are registered with ctest one by one.
+# Tests run in an unusual time zone and locale unless they set another one (tests/TestEnvironment.h).
 function(guide_tests NAME)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;LABELS" ${ARGN})
     set(TARGET guide_${NAME}_tests)
@@ -97,7 +97,7 @@ function(guide_tests NAME)
     gtest_discover_tests(${TARGET} DISCOVERY_TIMEOUT 120 PROPERTIES ${PROPERTIES})
 endfunction()
 
-# Lets a program that runs from the build tree find the data of the source tree beside itself.
+# Lets a program that runs from the build tree find the source tree's data next to its executable.
 function(guide_bundle_beside TARGET)
     get_target_property(FOLDER ${TARGET} BINARY_DIR)
     file(CREATE_LINK ${PROJECT_SOURCE_DIR}/data ${FOLDER}/data SYMBOLIC)
