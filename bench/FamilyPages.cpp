@@ -86,7 +86,7 @@ SiteChannel siteChannel(const QString& sourceId, std::size_t number, std::chrono
 }
 
 struct Family {
-    unsigned type;
+    ListingsType type;
     QStringList sources;
     /// How the site is asked: the pages' addresses from the moment of the visit on.
     std::function<std::vector<QByteArray>(const std::vector<SiteChannel>& channels)> pages;
@@ -198,12 +198,13 @@ FamilyPages portNetworkPages(std::size_t size) {
     const QString address =
         u"/tvapi?channel_id=tvchannel-10021&i_datetime_from=2026-11-18&i_datetime_to=2026-12-16"_s;
     return madePages(
-        {kListingsPortNetwork, {u"10021"_s}, onePage(portNetworkPage, address), "\"start_datetime\""}, size);
+        {ListingsType::PortNetwork, {u"10021"_s}, onePage(portNetworkPage, address), "\"start_datetime\""},
+        size);
 }
 
 FamilyPages sectionedPalinsesto(std::size_t size) {
     return madePages(
-        {kListingsPalinsesto,
+        {ListingsType::Palinsesto,
          {u"_PA"_s, u"_PB"_s, u"_PC"_s, u"_PD"_s, u"_PE"_s, u"_KN"_s, u"_KP"_s, u"_DY"_s, u"_PF"_s},
          onePage(payPalinsestoPage, u"/export/palinsesto.xml"_s),
          "<prg "},
@@ -212,7 +213,7 @@ FamilyPages sectionedPalinsesto(std::size_t size) {
 
 FamilyPages flatPalinsesto(std::size_t size) {
     return madePages(
-        {kListingsPalinsesto,
+        {ListingsType::Palinsesto,
          {u"_C5"_s, u"_I1"_s, u"_I2"_s, u"_R4"_s, u"_KA"_s, u"_KQ"_s, u"_KI"_s, u"_BOING"_s, u"_CRTN"_s},
          onePage(freePalinsestoPage, u"/dati/palinsesto/palinsesto.xml"_s),
          "<programma "},
@@ -220,7 +221,7 @@ FamilyPages flatPalinsesto(std::size_t size) {
 }
 
 FamilyPages barrandovPages(std::size_t size) {
-    return madePages({kListingsBarrandov,
+    return madePages({ListingsType::Barrandov,
                       {u"barrandov.Barrandov"_s, u"barrandov.Barrandov Krimi"_s,
                        u"barrandov.Barrandov Family"_s, u"barrandov.Kino"_s},
                       days(barrandovPage, 0, 2, u"/program/?day=%1"_s, u"yyyy-MM-dd"_s),
@@ -229,7 +230,7 @@ FamilyPages barrandovPages(std::size_t size) {
 }
 
 FamilyPages digiSportPages(std::size_t size) {
-    FamilyPages made = madePages({kListingsDigiSport, numbered(u"dsk.Digi Sport %1"_s, 6),
+    FamilyPages made = madePages({ListingsType::DigiSport, numbered(u"dsk.Digi Sport %1"_s, 6),
                                   onePage(digiSportPage, u"/program/"_s), "<span><strong>"},
                                  size);
     // Each tab takes the place of the one before it.
@@ -239,7 +240,7 @@ FamilyPages digiSportPages(std::size_t size) {
 }
 
 FamilyPages jojCinemaPages(std::size_t size) {
-    return madePages({kListingsJojCinema,
+    return madePages({ListingsType::JojCinema,
                       {u"joj.cinema"_s},
                       days(jojCinemaPage, -1, 7, u"/cz/cz-program/?day=%1"_s, u"d-M-yyyy"_s),
                       "class=\"time\">"},
@@ -247,7 +248,7 @@ FamilyPages jojCinemaPages(std::size_t size) {
 }
 
 FamilyPages primaMaxPages(std::size_t size) {
-    return madePages({kListingsPrimaMax,
+    return madePages({ListingsType::PrimaMax,
                       {u"town.example/max"_s},
                       days(primaMaxPage, 0, 14, u"/tv-program/%1"_s, u"yyyy-MM-dd"_s),
                       "<time>"},
@@ -255,7 +256,7 @@ FamilyPages primaMaxPages(std::size_t size) {
 }
 
 FamilyPages hboPages(std::size_t size) {
-    FamilyPages made = madePages({kListingsHBO, numbered(u"-hbo.hu.%1"_s, 8),
+    FamilyPages made = madePages({ListingsType::HBO, numbered(u"-hbo.hu.%1"_s, 8),
                                   days(hboPage, -1, 23, u"/hu/tvmusor/%1"_s, u"M/d"_s), "class=\"title\">"},
                                  size);
     made.shows -= made.count("class=\"show past\"");
@@ -263,13 +264,13 @@ FamilyPages hboPages(std::size_t size) {
 }
 
 FamilyPages novaPages(std::size_t size) {
-    return madePages({kListingsNova, numbered(u"cz.nova.Nova %1"_s, 8),
+    return madePages({ListingsType::Nova, numbered(u"cz.nova.Nova %1"_s, 8),
                       days(novaPage, -1, 9, u"/program/?epg_date=%1"_s, u"yyyy-MM-dd"_s), "data-begin=\""},
                      size);
 }
 
 FamilyPages dolceSportPages(std::size_t size) {
-    return madePages({kListingsDolceSport,
+    return madePages({ListingsType::DolceSport,
                       {u"dolce-sport.dolce-1"_s},
                       onePage(dolceSportPage, u"/program/dolce-1"_s),
                       " class=\"time\">"},
@@ -284,7 +285,7 @@ FamilyPages cinestarPages(std::size_t size) {
         }
         return pages;
     };
-    return madePages({kListingsCinestar, numbered(u"cinestar.hr.%1"_s, 8), visits, "<div class='card "},
+    return madePages({ListingsType::Cinestar, numbered(u"cinestar.hr.%1"_s, 8), visits, "<div class='card "},
                      size);
 }
 
@@ -298,7 +299,7 @@ FamilyPages comedyCentralPages(std::size_t size) {
         }
         return std::vector{page};
     };
-    return madePages({kListingsComedyCentral, {u"cc.romania"_s}, visits, "data-time=\""}, size);
+    return madePages({ListingsType::ComedyCentral, {u"cc.romania"_s}, visits, "data-time=\""}, size);
 }
 
 } // namespace guide::bench

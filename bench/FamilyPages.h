@@ -14,7 +14,7 @@ namespace guide::bench {
 /// What the reader of a family is called with, and what it has to find. The pages are a site's own, with a
 /// broadcast so often that they come to the size asked for, and hold the same at every run.
 struct FamilyPages {
-    unsigned type;
+    ListingsType type;
     std::vector<LoadItem> items;
     std::vector<QByteArray> pages;
     /// How many shows lie in them for the items.

@@ -165,7 +165,7 @@ Flooded floodedDetails(const char* page, const char* sourceId, const char* url,
 
 /// One channel and its show.
 FamilyPages feedPages() {
-    return {kListingsXMLTV,
+    return {ListingsType::XMLTV,
             {{ObjectId(ObjectId::Bytes{1}), u"s.one"_s, u"cs"_s}},
             {"<tv><channel id=\"one\"><display-name>One</display-name></channel>"
              "<programme channel=\"one\" start=\"20261118200000 +0100\" stop=\"20261118210000 +0100\">"

@@ -47,29 +47,21 @@ struct World {
         : folders{folder, folder, folder, folder, folder, folder}
         , queues([] {})
         , icons(folder, 1)
-        , channels(folders, keyValueStore, queues, channelData(channelCount))
+        , channels(folders, keyValueStore, queues, catalogue)
         , environment{clock,        device,   folders,    queues,          tasks,      applicationState,
-                      userDefaults, channels, icons,      nullptr,         alphabet(), favorites,
+                      userDefaults, channels, icons,      catalogue,       alphabet(), favorites,
                       popular,      alarms,   u"guide"_s, [] { return 4; }} {
         std::vector<ObjectId> selected;
-        selected.reserve(static_cast<std::size_t>(channelCount));
+        std::vector<CatalogueChannel> listed;
         for (int channel = 0; channel < channelCount; ++channel) {
             selected.push_back(channelNumbered(channel));
+            listed.push_back({selected.back(), u"T"_s, u"cs"_s, u"x"_s, u"1"_s});
         }
+        catalogue.replace(CatalogueSnapshot(listed));
         channels.setSelected(selected);
         own = queues.makeQueue("own", QueueKind::Serial);
     }
     ~World() { queues.shutDown(); }
-
-    static SharedChannelData channelData(int channelCount) {
-        ChannelData rows;
-        for (int channel = 0; channel < channelCount; ++channel) {
-            rows.emplace(
-                channelNumbered(channel),
-                ChannelDictionary{{u"Title"_s, u"T"_s}, {u"Language"_s, u"cs"_s}, {u"Icon"_s, u"x/1"_s}});
-        }
-        return std::make_shared<const ChannelData>(std::move(rows));
-    }
 
     QString path(int channel) const {
         return folders.caches + u'/' + listingsFileFromChannelIdentificator(channelNumbered(channel));
@@ -94,6 +86,7 @@ struct World {
     MemoryUserDefaults userDefaults;
     MemoryKeyValueStore keyValueStore;
     TVStationIcons icons;
+    Catalogue catalogue;
     TVChannels channels;
     NoFavorites favorites;
     NoPopularShows popular;
@@ -185,7 +178,7 @@ void onAirGuide(benchmark::State& state) {
         items.push_back({channelNumbered(channel), u"x"_s, u"cs"_s});
         parsed.emplace(channelNumbered(channel), madeShows(channel, words));
     }
-    listings.merge(items, std::move(parsed), kNow, 1);
+    listings.merge(items, std::move(parsed), kNow, ListingsType::XMLTV);
     std::vector<ShowSpan> onAir;
     for (auto _ : state) {
         onAir = world.onAir(listings);
@@ -227,7 +220,7 @@ void writeGuide(benchmark::State& state) {
         items.push_back({channelNumbered(channel), u"x"_s, u"cs"_s});
         parsed.emplace(channelNumbered(channel), madeShows(channel, words));
     }
-    listings.merge(items, std::move(parsed), kNow, 1);
+    listings.merge(items, std::move(parsed), kNow, ListingsType::XMLTV);
     listings.finishWriting(std::chrono::minutes(1));
     bool written = true;
     for (auto _ : state) {

@@ -54,8 +54,7 @@ void plan(QByteArrayView bytes) {
     const QString sourceId = QString::fromUtf8(parts[1]);
     const URLPlanner planner(hosts.value_or(SourceHostTable()), [](unsigned bound) { return bound - 1; });
     listingsTypeForSourceId(sourceId, planner.hosts());
-    const auto urls =
-        planner.urlsForSourceId(sourceId, now, QStringLiteral("cs"), QTimeZone("Europe/Prague"));
+    const auto urls = planner.urlsForSourceId(sourceId, now, QTimeZone("Europe/Prague"));
     if (urls) {
         require(QSet<QUrl>(urls->begin(), urls->end()).size() == urls->size(), "each page is planned once");
     }

@@ -3,7 +3,7 @@
 #include "app/FirstSelection.h"
 #include "app/QuellinGuideAppDelegate.h"
 #include "app/SelectionCleanup.h"
-#include "core/ChannelCatalogue.h"
+#include "core/CatalogueFiles.h"
 #include "core/SupportedChannelTypes.h"
 #include "screens/shell/GuideTabs.h"
 
@@ -68,14 +68,14 @@ void QuellinGuideAppDelegate::makeSources() {
 void QuellinGuideAppDelegate::makeCatalogue() {
     const auto types =
         SupportedChannelTypes::fromFile(m_environment.folders.bundle + "/supported-channel-types.json"_L1);
-    m_channelData = makeChannelData(
+    m_catalogue.replace(CatalogueSnapshot(
         catalogueChannels(m_environment.cataloguePath, m_environment.catalogueArchivePath, types,
-                          [this](const QString& name) { return !m_icons->iconNamed(name).isNull(); }));
+                          [this](const QString& name) { return !m_icons->iconNamed(name).isNull(); })));
 }
 
 void QuellinGuideAppDelegate::makeSelection() {
     m_channels = std::make_unique<TVChannels>(m_environment.folders, m_environment.keyValueStore,
-                                              m_environment.queues, m_channelData);
+                                              m_environment.queues, m_catalogue);
     if (!m_environment.firstSelectionPath || !m_channels->selected().empty()) {
         return;
     }
@@ -95,7 +95,7 @@ void QuellinGuideAppDelegate::makeListings() {
         .userDefaults = m_environment.userDefaults,
         .channels = *m_channels,
         .icons = *m_icons,
-        .channelData = m_channelData,
+        .catalogue = m_catalogue,
         .alphabet = m_alphabet,
         .favorites = m_favorites,
         .popularShows = m_popularShows,
@@ -111,7 +111,7 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
         .alphabet = m_alphabet,
         .hosts = m_environment.hosts,
         .merge = [this](const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
-                        unsigned type) { return m_listings->merge(items, std::move(parsed), now, type); },
+                        ListingsType type) { return m_listings->merge(items, std::move(parsed), now, type); },
         .locale = m_environment.device.locale(),
         .timeZone = [this] { return m_environment.device.timeZone(); },
     });
@@ -126,7 +126,7 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
         .backgroundTasks = m_environment.backgroundTasks,
         .applicationState = m_environment.applicationState,
         .channels = *m_channels,
-        .channelData = m_channelData,
+        .catalogue = m_catalogue,
         .settings = m_settings,
         .planner = *m_planner,
         .fetcher = *m_fetcher,
@@ -135,7 +135,7 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
         .sourceHealth = *m_sourceHealth,
         .netList = [this](const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
                           Moment now,
-                          unsigned type) { return m_listDriver->netList(items, pages, now, type); },
+                          ListingsType type) { return m_listDriver->netList(items, pages, now, type); },
         .showCount = [this] { return m_showCount.load(); },
         .offerTop =
             [this](const TopLists& top) {
@@ -156,7 +156,7 @@ void QuellinGuideAppDelegate::makeScreens() {
         .listings = *m_listings,
         .channels = *m_channels,
         .icons = *m_icons,
-        .channelData = m_channelData,
+        .catalogue = m_catalogue,
         .alphabet = m_alphabet,
         .favorites = m_favorites,
         .alarms = m_alarms,
@@ -182,10 +182,11 @@ void QuellinGuideAppDelegate::setup() {
 
 void QuellinGuideAppDelegate::cleanUpSelection() {
     // A catalogue that could not be read says nothing about the channels.
-    if (m_channelData->empty()) {
+    const SharedCatalogueSnapshot catalogue = m_catalogue.snapshot();
+    if (catalogue->empty()) {
         return;
     }
-    const SelectionCleanup plan = planSelectionCleanup(m_channels->selected(), *m_channelData);
+    const SelectionCleanup plan = planSelectionCleanup(m_channels->selected(), *catalogue);
     if (plan.removed.empty()) {
         return;
     }

@@ -4,7 +4,7 @@
 #include "app/ApplicationEnvironment.h"
 #include "app/InterruptibleWait.h"
 #include "app/UpdateCycle.h"
-#include "core/ChannelDictionary.h"
+#include "core/Catalogue.h"
 #include "core/RemoteHostAlert.h"
 #include "core/Settings.h"
 #include "core/TVChannels.h"
@@ -45,7 +45,6 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActio
     TabBarController& tabBarController() { return *m_tabBarController; }
     TVListings& listings() { return *m_listings; }
     TVChannels& channels() { return *m_channels; }
-    const SharedChannelData& channelData() const { return m_channelData; }
     /// What the last load of each selected channel did.
     const SourceHealthRecords& sourceHealth() const { return *m_sourceHealth; }
 
@@ -122,7 +121,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActio
     std::shared_ptr<DispatchQueue> m_checkAndUpdateAllChannelsQueue;
 
     std::unique_ptr<TVStationIcons> m_icons;
-    SharedChannelData m_channelData;
+    Catalogue m_catalogue;
     std::unique_ptr<TVChannels> m_channels;
     std::unique_ptr<TVListings> m_listings;
     std::unique_ptr<ListDriver> m_listDriver;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ChannelDictionary.h"
+#include "core/Catalogue.h"
 
 #include <vector>
 
@@ -13,6 +13,7 @@ struct SelectionCleanup {
     std::vector<ObjectId> removed;
 };
 
-SelectionCleanup planSelectionCleanup(const std::vector<ObjectId>& selected, const ChannelData& catalogue);
+SelectionCleanup planSelectionCleanup(const std::vector<ObjectId>& selected,
+                                      const CatalogueSnapshot& catalogue);
 
 } // namespace guide

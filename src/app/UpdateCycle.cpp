@@ -147,17 +147,16 @@ class UpdateCycle::Check {
     PlannedChannels plannedChannels(const std::vector<ObjectId>& wanted) {
         PlannedChannels planned;
         for (const ObjectId& id : wanted) {
-            const auto row = m_with.channelData->find(id);
-            if (row == m_with.channelData->end() || m_state.cancelled) {
+            const CatalogueChannel* channel = m_catalogue->find(id);
+            if (!channel || m_state.cancelled) {
                 continue;
             }
             m_with.loadQueue->sync([&] {
                 const Moment now = m_with.clock.now();
                 const QTimeZone zone = m_with.device.timeZone();
-                planned.emplace_back(
-                    id, planSources(row->second, [&](const QString& sourceId, const QString& language) {
-                        return m_with.planner.urlsForSourceId(sourceId, now, language, zone);
-                    }));
+                planned.emplace_back(id, planSources(*channel, [&](const QString& sourceId) {
+                                         return m_with.planner.urlsForSourceId(sourceId, now, zone);
+                                     }));
             });
             m_loads.emplace(id, ChannelLoad(planned.back().second));
         }
@@ -188,9 +187,9 @@ class UpdateCycle::Check {
         if (items.empty()) {
             return true;
         }
-        const unsigned type = listingsTypeForSourceId(items.front().sourceId, m_with.planner.hosts());
+        const ListingsType type = listingsTypeForSourceId(items.front().sourceId, m_with.planner.hosts());
         // Many of the other pages leave it to their place what day they are of, or speak of today.
-        const bool isDated = type == kListingsXMLTV;
+        const bool isDated = type == ListingsType::XMLTV;
         if (!isDated && dayBegan() != m_day) {
             return false;
         }
@@ -243,7 +242,7 @@ class UpdateCycle::Check {
         return pages;
     }
 
-    void parse(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, unsigned type) {
+    void parse(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, ListingsType type) {
         MergeResult result;
         try {
             const LoadingMark mark(m_with.channels, items);
@@ -290,6 +289,7 @@ class UpdateCycle::Check {
 
     State& m_state;
     const UpdateCycleEnvironment& m_with;
+    const SharedCatalogueSnapshot m_catalogue = m_with.catalogue.snapshot();
     std::unordered_map<ObjectId, ChannelLoad> m_loads;
     /// When the day began that the plan is of.
     Moment m_day = Moment::min();

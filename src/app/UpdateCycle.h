@@ -36,7 +36,7 @@ struct UpdateCycleEnvironment {
     BackgroundTasks& backgroundTasks;
     const ApplicationStateSource& applicationState;
     const TVChannels& channels;
-    SharedChannelData channelData;
+    const Catalogue& catalogue;
     const Settings& settings;
     const URLPlanner& planner;
     const PageFetcher& fetcher;
@@ -46,7 +46,7 @@ struct UpdateCycleEnvironment {
     SourceHealthRecords& sourceHealth;
     /// Reads pages, in the order of their URLs, and merges what they hold into the store. May throw.
     std::function<MergeResult(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
-                              Moment now, unsigned type)>
+                              Moment now, ListingsType type)>
         netList;
     /// How many shows a channel the now-on-air list wants.
     std::function<int()> showCount;

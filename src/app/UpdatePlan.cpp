@@ -6,15 +6,7 @@
 #include <tuple>
 #include <unordered_set>
 
-using namespace Qt::StringLiterals;
-
 namespace guide {
-
-namespace {
-
-constexpr unsigned kMostSources = 7;
-
-} // namespace
 
 ChannelDecision decideChannel(const ChannelCondition& condition, unsigned wantedShows) {
     ChannelDecision decision;
@@ -24,15 +16,11 @@ ChannelDecision decideChannel(const ChannelCondition& condition, unsigned wanted
     return decision;
 }
 
-std::vector<PlannedSource> planSources(const ChannelDictionary& channel, const URLsForSource& urlsForSource) {
-    const QString language = channelValue(channel, u"Language"_s).value_or(QString());
+std::vector<PlannedSource> planSources(const CatalogueChannel& channel, const URLsForSource& urlsForSource) {
     std::vector<PlannedSource> sources;
-    for (unsigned number = 1; number <= kMostSources; ++number) {
-        const std::optional<QString> sourceId = channelValue(channel, u"Location%1"_s.arg(number));
-        if (!sourceId) {
-            break;
-        }
-        sources.push_back({number, *sourceId, urlsForSource(*sourceId, language).value_or(QList<QUrl>())});
+    unsigned number = 0;
+    for (const QString& sourceId : channel.sourceIds) {
+        sources.push_back({++number, sourceId, urlsForSource(sourceId).value_or(QList<QUrl>())});
     }
     return sources;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ChannelDictionary.h"
+#include "core/CatalogueChannel.h"
 #include "core/ObjectId.h"
 #include "store/ListMerge.h"
 #include "store/ShowItem.h"
@@ -47,11 +47,9 @@ struct PlannedSource {
 };
 
 /// The URLs of a source, in the order of fetching; nothing when it cannot be asked.
-using URLsForSource =
-    std::function<std::optional<QList<QUrl>>(const QString& sourceId, const QString& language)>;
+using URLsForSource = std::function<std::optional<QList<QUrl>>(const QString& sourceId)>;
 
-/// The sources of a row of the catalogue, up to the first number that is missing.
-std::vector<PlannedSource> planSources(const ChannelDictionary& channel, const URLsForSource& urlsForSource);
+std::vector<PlannedSource> planSources(const CatalogueChannel& channel, const URLsForSource& urlsForSource);
 
 /// One list of URLs, whose pages are fetched once, with everyone that it serves.
 struct UpdateStep {

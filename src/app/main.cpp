@@ -5,7 +5,7 @@
 #include "app/PictureTour.h"
 #include "app/QuellinGuideAppDelegate.h"
 #include "app/SignificantTime.h"
-#include "core/ChannelCatalogue.h"
+#include "core/CatalogueFiles.h"
 #include "demo/DemoWorld.h"
 #include "platform/FileReplacement.h"
 #include "platform/linux/CurlHTTPClient.h"

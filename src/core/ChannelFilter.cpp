@@ -6,64 +6,51 @@
 
 namespace guide {
 
-using namespace Qt::StringLiterals;
-
-std::vector<ChannelDictionary> filteredChannels(const std::vector<ChannelDictionary>& channels,
-                                                const SupportedChannelTypes& types, const HasIcon& hasIcon) {
+std::vector<CatalogueRow> filteredChannels(std::vector<CatalogueRow> rows, const SupportedChannelTypes& types,
+                                           const HasIcon& hasIcon) {
     if (types.pairs().empty()) {
         return {};
     }
-    const QString locationKey = u"Location"_s;
-    const QString titleKey = u"Title"_s;
-    const QString languageKey = u"Language"_s;
-    const QString iconKey = u"Icon"_s;
-    const SupportedChannelTypesPair& first = types.pairs().front();
+    const SupportedChannelTypesPair& home = types.pairs().front();
+    std::vector<CatalogueRow*> kept; // null where a better version has taken over
+    kept.reserve(rows.size());
+    std::unordered_map<ObjectId, std::size_t> seen; // index into `kept`
+    seen.reserve(rows.size());
 
-    std::vector<const ChannelDictionary*> kept; // null where a better version has taken over
-    kept.reserve(channels.size());
-    std::unordered_map<ObjectId, std::size_t> seen; // to the place in `kept`
-    seen.reserve(channels.size());
-
-    for (const ChannelDictionary& channel : channels) {
-        const std::optional<QString> location = channelValue(channel, locationKey);
-        const QString icon = channel.value(iconKey);
-        const qsizetype slash = icon.indexOf(u'/');
-        if (!location || slash <= 0 || slash == icon.size() - 1 || channel.value(titleKey).isEmpty()) {
-            continue;
-        }
-        const SupportedChannelTypesPair pair{channel.value(languageKey), icon.left(slash)};
+    for (CatalogueRow& row : rows) {
+        const CatalogueChannel& channel = row.channel;
+        const SupportedChannelTypesPair pair{channel.language, channel.region};
         if (std::ranges::find(types.pairs(), pair) == types.pairs().end()) {
             continue;
         }
-        const ObjectId id = ObjectId::fromHex(*location);
-        const auto earlier = seen.find(id);
+        const auto earlier = seen.find(channel.id);
         if (earlier != seen.end()) {
-            const int score = int(pair.language == first.language) + int(pair.region == first.region);
-            const ChannelDictionary& other = *kept[earlier->second];
-            const int otherScore = int(other.value(languageKey) == first.language) +
-                                   int(other.value(iconKey).startsWith(first.region));
+            const int score = int(channel.language == home.language) + int(channel.region == home.region);
+            const CatalogueChannel& other = kept[earlier->second]->channel;
+            const int otherScore =
+                int(other.language == home.language) + int(other.region.startsWith(home.region));
             if (otherScore >= score) {
                 continue;
             }
         }
         // The last test, because it loads an image.
-        if (!hasIcon(iconNameOf(icon))) {
+        if (!hasIcon(channel.icon)) {
             continue;
         }
         if (earlier != seen.end()) {
             kept[earlier->second] = nullptr;
             earlier->second = kept.size();
         } else {
-            seen.emplace(id, kept.size());
+            seen.emplace(channel.id, kept.size());
         }
-        kept.push_back(&channel);
+        kept.push_back(&row);
     }
 
-    std::vector<ChannelDictionary> result;
+    std::vector<CatalogueRow> result;
     result.reserve(seen.size());
-    for (const ChannelDictionary* channel : kept) {
-        if (channel) {
-            result.push_back(*channel);
+    for (CatalogueRow* row : kept) {
+        if (row) {
+            result.push_back(std::move(*row));
         }
     }
     return result;

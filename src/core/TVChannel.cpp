@@ -11,14 +11,9 @@ namespace guide {
 
 using namespace Qt::StringLiterals;
 
-TVChannel::TVChannel(const ObjectId& channelId, const QString& title, const QString& language,
-                     const QString& iconFileName, bool hasStreamURL, const QString& cachesFolder)
-    : m_identificator(channelId)
-    , m_title(title)
-    , m_language(language)
-    , m_iconFileName(iconFileName)
-    , m_hasStreamURL(hasStreamURL)
-    , m_listingsPath(cachesFolder + u'/' + listingsFileFromChannelIdentificator(channelId)) {}
+TVChannel::TVChannel(CatalogueChannel channel, const QString& cachesFolder)
+    : m_channel(std::move(channel))
+    , m_listingsPath(cachesFolder + u'/' + listingsFileFromChannelIdentificator(m_channel.id)) {}
 
 bool TVChannel::loading() const {
     const std::lock_guard lock(m_guard);
@@ -56,10 +51,16 @@ void TVChannel::unload() {
     QFile::remove(m_listingsPath);
 }
 
+void TVChannel::takeLoadTimeFrom(const TVChannel& earlier) {
+    const std::scoped_lock lock(m_guard, earlier.m_guard);
+    m_timeLoadedCache = earlier.m_timeLoadedCache;
+    m_reloadRequired = earlier.m_reloadRequired;
+}
+
 bool TVChannel::reloadNeeded(Moment now, std::chrono::seconds automaticUpdateInterval) const {
     const bool isLoading = loading();
     const std::optional<Moment> loaded = timeLoaded();
-    qDebug().noquote().nospace() << "channel=" << m_title << " loading=" << isLoading << " timeLoaded="
+    qDebug().noquote().nospace() << "channel=" << title() << " loading=" << isLoading << " timeLoaded="
                                  << (loaded ? QDateTime::fromMSecsSinceEpoch(
                                                   loaded->time_since_epoch().count(), Qt::UTC)
                                                   .toString(Qt::ISODate)

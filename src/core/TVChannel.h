@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ObjectId.h"
+#include "core/CatalogueChannel.h"
 #include "platform/Clock.h"
 #include "platform/Moment.h"
 
@@ -16,15 +16,13 @@ namespace guide {
 /// listings were last stored. May be used from any thread.
 class TVChannel {
   public:
-    /// `cachesFolder` is where the channel's listing file stands.
-    TVChannel(const ObjectId& channelId, const QString& title, const QString& language,
-              const QString& iconFileName, bool hasStreamURL, const QString& cachesFolder);
+    /// `cachesFolder` holds the channel's listing file.
+    TVChannel(CatalogueChannel channel, const QString& cachesFolder);
 
-    const ObjectId& identificator() const { return m_identificator; }
-    const QString& title() const { return m_title; }
-    const QString& language() const { return m_language; }
-    const QString& iconFileName() const { return m_iconFileName; }
-    bool hasStreamURL() const { return m_hasStreamURL; }
+    const CatalogueChannel& catalogueChannel() const { return m_channel; }
+    const ObjectId& identificator() const { return m_channel.id; }
+    const QString& title() const { return m_channel.title; }
+    const QString& language() const { return m_channel.language; }
 
     bool loading() const;
     void setLoading(bool loading);
@@ -42,16 +40,15 @@ class TVChannel {
     /// nothing any more.
     void unload();
 
+    /// Takes over the load time, or the required reload, of an earlier record of the same channel.
+    void takeLoadTimeFrom(const TVChannel& earlier);
+
     /// Whether the list is missing or older than the interval. A list exactly as old as the interval is not
     /// due, nor is a channel that is being loaded.
     bool reloadNeeded(Moment now, std::chrono::seconds automaticUpdateInterval) const;
 
   private:
-    const ObjectId m_identificator;
-    const QString m_title;
-    const QString m_language;
-    const QString m_iconFileName;
-    const bool m_hasStreamURL;
+    const CatalogueChannel m_channel;
     const QString m_listingsPath;
 
     mutable std::mutex m_guard;

@@ -45,7 +45,7 @@ std::vector<ObjectId> readSelection(const QString& path) {
 
 } // namespace
 
-struct TVChannels::State {
+struct TVChannels::State final : CatalogueObserver {
     /// What readers see: the selection and the records that go with it, never changed once it is published.
     struct Snapshot {
         std::vector<ObjectId> selected;
@@ -56,17 +56,31 @@ struct TVChannels::State {
     QString path;
     QString cachesFolder;
     KeyValueStore& keyValueStore;
-    SharedChannelData channelData;
+    const Catalogue& catalogue;
 
     std::mutex guard;
     SharedSnapshot current; // guarded; null until the first read
     bool unwritten = false; // guarded
 
+    State(const Folders& folders, KeyValueStore& ownKeyValueStore, const Catalogue& ownCatalogue)
+        : path(folders.documents + u"/selectedChannels.plist"_s)
+        , cachesFolder(folders.caches)
+        , keyValueStore(ownKeyValueStore)
+        , catalogue(ownCatalogue) {}
+
+    void catalogueReplaced() override {
+        const std::lock_guard lock(guard);
+        if (current) {
+            current = makeSnapshot(current->selected, current.get());
+        }
+    }
+
     SharedSnapshot makeSnapshot(std::vector<ObjectId> selected, const Snapshot* previous) const {
+        const SharedCatalogueSnapshot channels = catalogue.snapshot();
         auto snapshot = std::make_shared<Snapshot>();
         snapshot->channels.reserve(selected.size());
         for (const ObjectId& id : selected) {
-            if (std::shared_ptr<TVChannel> channel = recordOf(id, previous)) {
+            if (std::shared_ptr<TVChannel> channel = recordOf(id, *channels, previous)) {
                 snapshot->channels.emplace(id, std::move(channel));
             }
         }
@@ -74,28 +88,29 @@ struct TVChannels::State {
         return snapshot;
     }
 
-    std::shared_ptr<TVChannel> recordOf(const ObjectId& id, const Snapshot* previous) const {
+    std::shared_ptr<TVChannel> recordOf(const ObjectId& id, const CatalogueSnapshot& channels,
+                                        const Snapshot* previous) const {
+        const CatalogueChannel* channel = channels.find(id);
+        if (!channel) {
+            return nullptr;
+        }
+        std::shared_ptr<TVChannel> earlier;
         if (previous) {
             const auto known = previous->channels.find(id);
             if (known != previous->channels.end()) {
-                return known->second;
+                earlier = known->second;
             }
         }
-        const auto row = channelData->find(id);
-        if (row == channelData->end()) {
-            return nullptr;
-        }
-        const std::optional<QString> title = channelValue(row->second, u"Title"_s);
-        const std::optional<QString> language = channelValue(row->second, u"Language"_s);
-        const std::optional<QString> icon = channelValue(row->second, u"Icon"_s);
-        if (!title || !language || !icon) {
-            return nullptr;
+        if (earlier && earlier->catalogueChannel() == *channel) {
+            return earlier;
         }
         qDebug().noquote().nospace() << "channelID=" << id.hex() << " put...";
-        auto channel = std::make_shared<TVChannel>(id, *title, *language, *icon,
-                                                   row->second.contains(u"Stream"_s), cachesFolder);
+        auto record = std::make_shared<TVChannel>(*channel, cachesFolder);
+        if (earlier) {
+            record->takeLoadTimeFrom(*earlier);
+        }
         qDebug().noquote().nospace() << "channelID=" << id.hex() << " did put.";
-        return channel;
+        return record;
     }
 
     // The guard is held while the file is read, so that it is read once.
@@ -124,22 +139,20 @@ struct TVChannels::State {
         }
         keyValueStore.setValue(u"SelectedChannels"_s, array);
         const std::lock_guard lock(guard);
-        unwritten = current != newest;
+        unwritten = current->selected != newest->selected;
         return true;
     }
 };
 
 TVChannels::TVChannels(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues,
-                       SharedChannelData channelData)
+                       const Catalogue& catalogue)
     : m_writer(queues.makeQueue("selected", QueueKind::Serial, QueuePriority::Default))
-    , m_state(new State{.path = folders.documents + u"/selectedChannels.plist"_s,
-                        .cachesFolder = folders.caches,
-                        .keyValueStore = keyValueStore,
-                        .channelData = std::move(channelData),
-                        .guard = {},
-                        .current = nullptr}) {}
+    , m_state(std::make_shared<State>(folders, keyValueStore, catalogue)) {
+    catalogue.addObserver(*m_state);
+}
 
 TVChannels::~TVChannels() {
+    m_state->catalogue.removeObserver(*m_state);
     finishWriting();
     // A block that is still on the queue finds nothing to do.
     const std::lock_guard lock(m_state->guard);

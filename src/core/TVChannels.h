@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ChannelDictionary.h"
+#include "core/Catalogue.h"
 #include "core/TVChannel.h"
 #include "platform/DispatchQueue.h"
 #include "platform/Folders.h"
@@ -15,15 +15,16 @@
 namespace guide {
 
 /// The user's selection of channels, in the user's order, kept in the documents folder and mirrored to the
-/// key-value store, with a record for each selected channel that the catalogue knows.
+/// key-value store, with a record for each selected channel that the catalogue knows. A replaced catalogue
+/// makes, renews and drops records; the selection stays.
 ///
 /// Readers get a snapshot and never wait for a write to the disk; a change is visible when setSelected
-/// returns and is written behind it, in order.
+/// returns and is written afterwards, in order.
 class TVChannels {
   public:
-    /// The key-value store outlives this object.
+    /// The key-value store and the catalogue outlive this object.
     TVChannels(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues,
-               SharedChannelData channelData);
+               const Catalogue& catalogue);
     ~TVChannels();
 
     /// The selected channels; empty when there are none or the file cannot be read. Any thread.

@@ -30,18 +30,18 @@ struct TypeReader {
 };
 
 constexpr std::array kReaders{
-    TypeReader{kListingsPortNetwork, readPortNetworkLists},
-    TypeReader{kListingsXMLTV, readXMLTVLists},
-    TypeReader{kListingsPalinsesto, readPalinsestoLists},
-    TypeReader{kListingsBarrandov, readBarrandovLists},
-    TypeReader{kListingsDigiSport, readDigiSportLists},
-    TypeReader{kListingsJojCinema, readJojCinemaLists},
-    TypeReader{kListingsPrimaMax, readPrimaMaxLists},
-    TypeReader{kListingsHBO, readHBOLists},
-    TypeReader{kListingsNova, readNovaLists},
-    TypeReader{kListingsDolceSport, readDolceSportLists},
-    TypeReader{kListingsCinestar, readCinestarLists},
-    TypeReader{kListingsComedyCentral, readComedyCentralLists},
+    TypeReader{ListingsType::PortNetwork, readPortNetworkLists},
+    TypeReader{ListingsType::XMLTV, readXMLTVLists},
+    TypeReader{ListingsType::Palinsesto, readPalinsestoLists},
+    TypeReader{ListingsType::Barrandov, readBarrandovLists},
+    TypeReader{ListingsType::DigiSport, readDigiSportLists},
+    TypeReader{ListingsType::JojCinema, readJojCinemaLists},
+    TypeReader{ListingsType::PrimaMax, readPrimaMaxLists},
+    TypeReader{ListingsType::HBO, readHBOLists},
+    TypeReader{ListingsType::Nova, readNovaLists},
+    TypeReader{ListingsType::DolceSport, readDolceSportLists},
+    TypeReader{ListingsType::Cinestar, readCinestarLists},
+    TypeReader{ListingsType::ComedyCentral, readComedyCentralLists},
 };
 
 } // namespace
@@ -50,12 +50,12 @@ ListDriver::ListDriver(ListDriverEnvironment environment)
     : m_environment(std::move(environment)) {}
 
 MergeResult ListDriver::netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
-                                Moment now, unsigned type) const {
+                                Moment now, ListingsType type) const {
     return m_environment.merge(items, read(items, pages, now, type), now, type);
 }
 
 ParsedLists ListDriver::read(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
-                             Moment now, unsigned type, MarkerTrace* trace) const {
+                             Moment now, ListingsType type, MarkerTrace* trace) const {
     MarkerTrace unasked;
     ParsedLists lists;
     const auto entry = std::find_if(kReaders.begin(), kReaders.end(),

@@ -24,7 +24,7 @@ struct ListDriverEnvironment {
     const SourceHostTable& hosts;
     /// Takes the lists that a reader made, as the store's merge does.
     std::function<MergeResult(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
-                              unsigned type)>
+                              ListingsType type)>
         merge;
     /// The device's.
     QLocale locale = {};
@@ -41,12 +41,12 @@ class ListDriver {
     /// items, and hands the lists to the merge, whatever was read. Blocks for the time of the parse. Every
     /// byte array owns its bytes.
     MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
-                        unsigned type) const;
+                        ListingsType type) const;
 
     /// The reading alone: what netList hands to the merge. `trace`, where there is one, learns what the
     /// reader looked for in vain.
     ParsedLists read(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
-                     unsigned type, MarkerTrace* trace = nullptr) const;
+                     ListingsType type, MarkerTrace* trace = nullptr) const;
 
   private:
     ListDriverEnvironment m_environment;

@@ -1,4 +1,4 @@
-#include "core/ChannelCatalogue.h"
+#include "core/CatalogueFiles.h"
 #include "core/ChannelFilter.h"
 #include "core/SupportedChannelTypes.h"
 #include "core/TVStationIcons.h"
@@ -18,8 +18,8 @@ namespace {
 
 Outcome filter(Context& context) {
     const QString& path = context.arguments.operands[0];
-    const auto channels = channelsOfPropertyList(path);
-    if (!channels) {
+    auto rows = rowsOfPropertyList(path);
+    if (!rows) {
         return Failure{u"%1 cannot be read as a catalogue"_s.arg(path)};
     }
     HasIcon hasIcon = [](const QString&) { return true; };
@@ -34,9 +34,9 @@ Outcome filter(Context& context) {
     const auto types =
         SupportedChannelTypes::fromFile(context.bundleFolder + "/supported-channel-types.json"_L1);
     QJsonArray list;
-    for (const ChannelDictionary& channel : filteredChannels(*channels, types, hasIcon)) {
+    for (const CatalogueRow& kept : filteredChannels(*std::move(rows), types, hasIcon)) {
         QJsonObject row;
-        for (const auto& [key, value] : channel.asKeyValueRange()) {
+        for (const auto& [key, value] : kept.values.asKeyValueRange()) {
             row.insert(key, jsonText(value));
         }
         list.append(row);

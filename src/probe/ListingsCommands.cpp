@@ -19,7 +19,7 @@ namespace {
 
 /// What the reader of the type makes of the pages. The shows refer to the alphabet.
 ParsedLists readPages(const Context& context, const Alphabet& alphabet, const std::vector<LoadItem>& items,
-                      const std::vector<QByteArray>& pages, unsigned type, MarkerTrace* trace = nullptr) {
+                      const std::vector<QByteArray>& pages, ListingsType type, MarkerTrace* trace = nullptr) {
     const StandingClock clock(context.now);
     const ListDriver driver({.clock = clock,
                              .alphabet = alphabet,
@@ -44,7 +44,9 @@ std::optional<LoadItem> loadItem(const QString& text) {
 Outcome parse(Context& context) {
     const Arguments& arguments = context.arguments;
     bool isNumber = false;
-    const unsigned type = arguments.value(u"type"_s).value_or(QString()).toUInt(&isNumber);
+    // A number that names no type has no reader.
+    const auto type =
+        static_cast<ListingsType>(arguments.value(u"type"_s).value_or(QString()).toUInt(&isNumber));
     if (!isNumber) {
         return Failure{u"--type wants the number of a listing type"_s, true};
     }
@@ -91,7 +93,7 @@ Outcome check(Context& context) {
     const QString language = context.arguments.value(u"language"_s).value_or(QString());
     const URLPlanner planner(context.hosts,
                              [](unsigned bound) { return QRandomGenerator::global()->bounded(bound); });
-    const auto urls = planner.urlsForSourceId(sourceId, context.now, language, context.device.timeZone());
+    const auto urls = planner.urlsForSourceId(sourceId, context.now, context.device.timeZone());
     QJsonObject report{{u"urls"_s, QJsonValue::Null},
                        {u"fetched"_s, 0},
                        {u"shows"_s, 0},
@@ -115,7 +117,7 @@ Outcome check(Context& context) {
     }
     report[u"fetched"_s] = qint64(pages.size());
     const LoadItem item{ObjectId(ObjectId::Bytes{}), sourceId, language};
-    const unsigned type = listingsTypeForSourceId(sourceId, context.hosts);
+    const ListingsType type = listingsTypeForSourceId(sourceId, context.hosts);
     MarkerTrace trace;
     const Alphabet alphabet;
     ParsedLists read = readPages(context, alphabet, {item}, pages, type, &trace);

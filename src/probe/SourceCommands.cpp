@@ -32,9 +32,8 @@ Outcome zone(Context& context) {
 Outcome plan(Context& context) {
     const URLPlanner planner(context.hosts,
                              [](unsigned bound) { return QRandomGenerator::global()->bounded(bound); });
-    const auto urls = planner.urlsForSourceId(context.arguments.operands[0], context.now,
-                                              context.arguments.value(u"language"_s).value_or(QString()),
-                                              context.device.timeZone());
+    const auto urls =
+        planner.urlsForSourceId(context.arguments.operands[0], context.now, context.device.timeZone());
     if (!urls) {
         return QJsonObject{{u"urls"_s, QJsonValue::Null}};
     }

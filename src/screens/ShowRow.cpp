@@ -58,16 +58,12 @@ QDateTime localTime(const Device& device, Moment moment) {
     return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), device.timeZone());
 }
 
-std::optional<QUrl> streamURLOf(const ChannelData& channels, const ObjectId& channel) {
-    const auto found = channels.find(channel);
-    if (found == channels.end()) {
+std::optional<QUrl> streamURLOf(const CatalogueSnapshot& channels, const ObjectId& channel) {
+    const CatalogueChannel* found = channels.find(channel);
+    if (!found || !found->stream || found->stream->isEmpty()) {
         return std::nullopt;
     }
-    const std::optional<QString> stream = channelValue(found->second, u"Stream"_s);
-    if (!stream || stream->isEmpty()) {
-        return std::nullopt;
-    }
-    return QUrl(*stream);
+    return QUrl(*found->stream);
 }
 
 } // namespace guide

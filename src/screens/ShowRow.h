@@ -24,6 +24,6 @@ Row showRow(const ScreenEnvironment& environment, const ShowRowText& text, const
 QDateTime localTime(const Device& device, Moment moment);
 
 /// The channel's live stream; nothing for a channel without one.
-std::optional<QUrl> streamURLOf(const ChannelData& channels, const ObjectId& channel);
+std::optional<QUrl> streamURLOf(const CatalogueSnapshot& channels, const ObjectId& channel);
 
 } // namespace guide

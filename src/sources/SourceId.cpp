@@ -7,44 +7,44 @@ namespace guide {
 
 using namespace Qt::StringLiterals;
 
-unsigned listingsTypeForSourceId(const QString& sourceId, const SourceHostTable& hosts) {
+ListingsType listingsTypeForSourceId(const QString& sourceId, const SourceHostTable& hosts) {
     if (sourceId.endsWith(".tv"_L1)) {
-        return kListingsXMLTV;
+        return ListingsType::XMLTV;
     }
     if (sourceId.startsWith(u'_')) {
-        return kListingsPalinsesto;
+        return ListingsType::Palinsesto;
     }
     if (sourceId.startsWith("barrandov."_L1)) {
-        return kListingsBarrandov;
+        return ListingsType::Barrandov;
     }
     if (sourceId.startsWith("dsk."_L1)) {
-        return kListingsDigiSport;
+        return ListingsType::DigiSport;
     }
     if (sourceId.startsWith("joj."_L1)) {
-        return kListingsJojCinema;
+        return ListingsType::JojCinema;
     }
     if (sourceId.startsWith("-hbo."_L1)) {
-        return kListingsHBO;
+        return ListingsType::HBO;
     }
     if (hosts.isPrimaMaxSourceId(sourceId)) {
-        return kListingsPrimaMax;
+        return ListingsType::PrimaMax;
     }
     if (sourceId.startsWith("cz.nova."_L1)) {
-        return kListingsNova;
+        return ListingsType::Nova;
     }
     if (sourceId.startsWith("dolce-sport."_L1)) {
-        return kListingsDolceSport;
+        return ListingsType::DolceSport;
     }
     if (sourceId.startsWith("cinestar."_L1)) {
-        return kListingsCinestar;
+        return ListingsType::Cinestar;
     }
     if (sourceIdUsedByPortNetwork(sourceId)) {
-        return kListingsPortNetwork;
+        return ListingsType::PortNetwork;
     }
     if (sourceId == "cc.romania"_L1) {
-        return kListingsComedyCentral;
+        return ListingsType::ComedyCentral;
     }
-    return kListingsXMLTV;
+    return ListingsType::XMLTV;
 }
 
 bool sourceIdUsedByPortNetwork(QStringView sourceId) {

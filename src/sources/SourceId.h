@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/ListingsType.h"
 #include "sources/SourceHostTable.h"
 
 #include <QString>
@@ -10,25 +11,9 @@
 
 namespace guide {
 
-/// How the pages of a source are read.
-enum ListingsType : unsigned {
-    kListingsPortNetwork = 0,
-    kListingsXMLTV = 1,
-    kListingsPalinsesto = 2,
-    kListingsBarrandov = 3,
-    kListingsDigiSport = 4,
-    kListingsJojCinema = 5,
-    kListingsPrimaMax = 6,
-    kListingsHBO = 7,
-    kListingsNova = 8,
-    kListingsDolceSport = 9,
-    kListingsCinestar = 10,
-    kListingsComedyCentral = 11,
-};
-
 /// The listing type of a source id; XMLTV for one that nothing else claims. The order of its tests is its own
 /// and not that of the URL planner.
-unsigned listingsTypeForSourceId(const QString& sourceId, const SourceHostTable& hosts);
+ListingsType listingsTypeForSourceId(const QString& sourceId, const SourceHostTable& hosts);
 
 /// Whether the id is a number of the Port network: decimal digits as a 32-bit number is printed.
 bool sourceIdUsedByPortNetwork(QStringView sourceId);

@@ -288,8 +288,7 @@ URLs URLPlanner::fixedList(FixedFamily family) const {
     return list;
 }
 
-URLs URLPlanner::urlsForSourceId(const QString& sourceId, Moment now, const QString& /*language*/,
-                                 const QTimeZone& deviceZone) const {
+URLs URLPlanner::urlsForSourceId(const QString& sourceId, Moment now, const QTimeZone& deviceZone) const {
     if (sourceId.startsWith("r."_L1)) {
         return planRytec(m_hosts, sourceId, m_random);
     }

@@ -24,9 +24,9 @@ class URLPlanner {
 
     /// The URLs in the order of fetching, each once: the place of a day's page is its day. Equal lists mean
     /// one fetch for all their channels. Nothing when the id is none or its host is not in the table. Days
-    /// are counted in steps of 86,400 seconds from `now`. The language takes no part. The device's zone dates
-    /// what belongs to a server without a zone.
-    std::optional<QList<QUrl>> urlsForSourceId(const QString& sourceId, Moment now, const QString& language,
+    /// are counted in steps of 86,400 seconds from `now`. The device's zone dates what belongs to a server
+    /// without a zone.
+    std::optional<QList<QUrl>> urlsForSourceId(const QString& sourceId, Moment now,
                                                const QTimeZone& deviceZone) const;
 
   private:

@@ -9,7 +9,7 @@ namespace {
 /// Finds the icons of one result and remembers also the channels that have none.
 class ChannelIcons {
   public:
-    ChannelIcons(const ChannelData& channels, TVStationIcons& icons, CompoundResult& result)
+    ChannelIcons(const CatalogueSnapshot& channels, TVStationIcons& icons, CompoundResult& result)
         : m_channels(channels)
         , m_icons(icons)
         , m_result(result) {}
@@ -24,25 +24,20 @@ class ChannelIcons {
 
   private:
     bool find(const ObjectId& channel) {
-        const auto row = m_channels.find(channel);
-        if (row == m_channels.end()) {
+        const CatalogueChannel* known = m_channels.find(channel);
+        if (!known) {
             return false;
         }
-        const std::optional<QString> icon = channelValue(row->second, QStringLiteral("Icon"));
-        if (!icon || !icon->contains(u'/')) {
-            return false;
-        }
-        const QString name = iconNameOf(*icon);
-        QImage image = m_icons.iconNamed(name);
+        QImage image = m_icons.iconNamed(known->icon);
         if (image.isNull()) {
             return false;
         }
         m_result.channelIcons.emplace(channel, std::move(image));
-        m_result.channelIconNames.emplace(channel, name);
+        m_result.channelIconNames.emplace(channel, known->icon);
         return true;
     }
 
-    const ChannelData& m_channels;
+    const CatalogueSnapshot& m_channels;
     TVStationIcons& m_icons;
     CompoundResult& m_result;
     std::unordered_map<ObjectId, bool> m_known;
@@ -50,7 +45,7 @@ class ChannelIcons {
 
 } // namespace
 
-CompoundResult compoundListings(std::span<const ShowItem> shows, const ChannelData& channels,
+CompoundResult compoundListings(std::span<const ShowItem> shows, const CatalogueSnapshot& channels,
                                 TVStationIcons& icons, const QLocale& locale, const QTimeZone& zone) {
     CompoundResult result;
     ChannelIcons channelIcons(channels, icons, result);

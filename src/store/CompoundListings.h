@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ChannelDictionary.h"
+#include "core/Catalogue.h"
 #include "core/TVStationIcons.h"
 #include "store/ShowItem.h"
 
@@ -28,7 +28,7 @@ struct CompoundResult {
 
 /// Groups the shows by their day in the zone, written in the locale's long form. A show of a channel that is
 /// not in the catalogue or has no icon is left out; each icon is asked for once.
-CompoundResult compoundListings(std::span<const ShowItem> shows, const ChannelData& channels,
+CompoundResult compoundListings(std::span<const ShowItem> shows, const CatalogueSnapshot& channels,
                                 TVStationIcons& icons, const QLocale& locale, const QTimeZone& zone);
 
 } // namespace guide

@@ -7,9 +7,12 @@ namespace guide {
 
 namespace {
 
-/// From this listing type up the readers know only when a show begins.
-constexpr unsigned kFirstTypeWithoutEnds = 2;
 constexpr std::chrono::seconds kLengthOfLastShow{7200};
+
+/// The pages of all other types say only when a show begins.
+bool hasEnds(ListingsType type) {
+    return type == ListingsType::PortNetwork || type == ListingsType::XMLTV;
+}
 
 Moment startOf(const ExtendedTVEntry& show) {
     return *show.basic->dateTime();
@@ -33,7 +36,7 @@ bool isEmptySlotTitle(QStringView title) {
 }
 
 MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& language, Moment now,
-                      unsigned type) {
+                      ListingsType type) {
     std::erase_if(parsed, [](const ExtendedTVEntry& show) { return !show.basic || !show.basic->dateTime(); });
     std::stable_sort(parsed.begin(), parsed.end(), [](const ExtendedTVEntry& a, const ExtendedTVEntry& b) {
         return startOf(a) < startOf(b);
@@ -46,7 +49,7 @@ MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& langua
                                  return startOf(a) == startOf(b);
                              }),
                  parsed.end());
-    if (type >= kFirstTypeWithoutEnds) {
+    if (!hasEnds(type)) {
         setEnds(parsed);
     }
     if (parsed.empty()) {
@@ -67,7 +70,8 @@ MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& langua
     return {std::make_shared<const ShowItems>(std::move(items)), MergeOutcome::Stored};
 }
 
-MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, unsigned type) {
+MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
+                        ListingsType type) {
     MergeResult result;
     for (const LoadItem& item : items) {
         if (result.outcomes.contains(item.channel)) {

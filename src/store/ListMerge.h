@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/ListingsType.h"
 #include "store/ShowItem.h"
 
 #include <unordered_map>
@@ -34,11 +35,13 @@ struct MergedList {
 
 /// Makes a list to be stored of one that a reader made: in stable order of start, without shows that have
 /// none, without a closing placeholder and later shows of an equal start, with end times by the next show's
-/// start for listing types from 2 up, without what ended by `now`, with the language set.
+/// start for listing types other than PortNetwork and XMLTV, without what ended by `now`, with the language
+/// set.
 MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& language, Moment now,
-                      unsigned type);
+                      ListingsType type);
 
 /// Does so for every load item; of items of one channel the first counts.
-MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, unsigned type);
+MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
+                        ListingsType type);
 
 } // namespace guide

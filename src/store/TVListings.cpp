@@ -156,7 +156,7 @@ TVListings::TVListings(TVListingsEnvironment environment)
 TVListings::~TVListings() = default;
 
 MergeResult TVListings::merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
-                              unsigned type) {
+                              ListingsType type) {
     MergeResult result = mergedLists(items, std::move(parsed), now, type);
     ChannelLists made;
     for (const auto& [channel, list] : result.lists) {

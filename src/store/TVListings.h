@@ -1,6 +1,7 @@
 #pragma once
 
-#include "core/ChannelDictionary.h"
+#include "core/Catalogue.h"
+#include "core/ListingsType.h"
 #include "core/TVChannels.h"
 #include "core/TVStationIcons.h"
 #include "platform/BackgroundTasks.h"
@@ -34,7 +35,7 @@ struct TVListingsEnvironment {
     UserDefaults& userDefaults;
     TVChannels& channels;
     TVStationIcons& icons;
-    SharedChannelData channelData;
+    const Catalogue& catalogue;
     const Alphabet& alphabet;
     const FavoriteQuestions& favorites;
     PopularShows& popularShows;
@@ -63,7 +64,7 @@ class TVListings {
     /// closing placeholders, with end times by the rule of the listing type, without what is over. A channel
     /// whose list is empty or past keeps what it has, one that is selected no more gets nothing. The load
     /// time of every stored channel is set when this returns.
-    MergeResult merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, unsigned type);
+    MergeResult merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, ListingsType type);
 
     /// Forgets the list; its file stays.
     void removeListingsForChannel(const ObjectId& channel);

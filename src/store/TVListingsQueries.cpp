@@ -29,8 +29,8 @@ void TVListings::State::answerCompound(QueuePriority priority, MainBlock<Compoun
 }
 
 CompoundResult TVListings::State::compound(const ShowItems& shows) const {
-    return compoundListings(shows, *environment.channelData, environment.icons, environment.device.locale(),
-                            environment.device.timeZone());
+    return compoundListings(shows, *environment.catalogue.snapshot(), environment.icons,
+                            environment.device.locale(), environment.device.timeZone());
 }
 
 void TVListings::onAirShowsWithQueue(

@@ -1,6 +1,6 @@
 #include "app/GuideWorld.h"
 
-#include "core/ChannelCatalogue.h"
+#include "core/CatalogueFiles.h"
 
 #include <QDir>
 #include <QFile>

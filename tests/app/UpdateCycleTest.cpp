@@ -97,7 +97,7 @@ TEST_F(UpdateCycleTest, AShortListIsAskedForAtEachCheckAndKeptWhenNothingComes) 
 
 TEST_F(UpdateCycleTest, PagesUpToTheFirstThatFailsAreParsedAndEmptyOnesCount) {
     UpdateWorld world(queues, clock, {{1, {u"joj.one"_s}}});
-    const auto urls = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), {}, world.device.timeZone());
+    const auto urls = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), world.device.timeZone());
     ASSERT_EQ(urls->size(), 7);
     world.answer(urls->at(0).toString(), "1 5");
     world.answerEmptyFile(urls->at(1).toString());
@@ -106,7 +106,7 @@ TEST_F(UpdateCycleTest, PagesUpToTheFirstThatFailsAreParsedAndEmptyOnesCount) {
     check(world);
     ASSERT_EQ(world.parses.size(), 1U);
     EXPECT_EQ(world.parses[0].pages, (std::vector<QByteArray>{"1 5", "", "third"}));
-    EXPECT_EQ(world.parses[0].type, kListingsJojCinema);
+    EXPECT_EQ(world.parses[0].type, ListingsType::JojCinema);
     EXPECT_EQ(onAir(world), "1:4 ");
 
     // A first page that fails leaves nothing to parse; one that is empty is a page.
@@ -114,7 +114,7 @@ TEST_F(UpdateCycleTest, PagesUpToTheFirstThatFailsAreParsedAndEmptyOnesCount) {
     clock.advance(30 * 24h);
     check(world);
     EXPECT_TRUE(world.parses.empty());
-    const auto later = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), {}, world.device.timeZone());
+    const auto later = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), world.device.timeZone());
     world.answerEmptyFile(later->at(0).toString());
     check(world);
     ASSERT_EQ(world.parses.size(), 1U);
@@ -128,7 +128,7 @@ TEST_F(UpdateCycleTest, ACheckOverMidnightPlansDayPagesAnew) {
     UpdateWorld world(queues, clock, {{1, {u"joj.one"_s}}, {2, {u"n.two"_s}}});
     world.answer(kShared, "2 6");
     const auto planned = [&] {
-        return *world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), {}, world.device.timeZone());
+        return *world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), world.device.timeZone());
     };
     const QList<QUrl> before = planned();
     for (const QUrl& url : before) {
@@ -220,7 +220,7 @@ TEST_F(UpdateCycleTest, AnExpiredTaskIsEndedOnceAndTheCheckGoesOn) {
 
 TEST_F(UpdateCycleTest, AnEndInTheMiddleOfAListKeepsTheStoredOne) {
     UpdateWorld world(queues, clock, {{1, {u"joj.one"_s}}, {2, {u"s.two"_s}}});
-    const auto urls = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), {}, world.device.timeZone());
+    const auto urls = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), world.device.timeZone());
     world.answer(urls->at(0).toString(), "1 5");
     world.client.onRequest([&](const HTTPRequest&) { world.client.cancelAll(); });
     check(world);

@@ -38,19 +38,20 @@ TEST(UpdatePlanTest, DecidesWhatIsDue) {
     }
 }
 
-TEST(UpdatePlanTest, TakesTheSourcesUpToTheFirstGap) {
-    const ChannelDictionary row{{u"Language"_s, u"sk"_s},    {u"Location1"_s, u"a"_s},
-                                {u"Location2"_s, u"none"_s}, {u"Location3"_s, u"c"_s},
-                                {u"Location4"_s, u""_s},     {u"Location6"_s, u"late"_s},
-                                {u"Location8"_s, u"no"_s},   {u"Location"_s, u"0"_s}};
+TEST(UpdatePlanTest, PlansEverySource) {
+    const CatalogueChannel row{.id = channel(1),
+                               .title = u"One"_s,
+                               .language = u"sk"_s,
+                               .region = u"Slovak"_s,
+                               .sourceIds = {u"a"_s, u"none"_s, u"c"_s, u""_s}};
     QStringList asked;
-    const auto sources = planSources(row, [&](const QString& sourceId, const QString& language) {
-        asked << sourceId + u'/' + language;
+    const auto sources = planSources(row, [&](const QString& sourceId) {
+        asked << sourceId;
         return sourceId == u"none" || sourceId.isEmpty()
                    ? std::nullopt
                    : std::optional(QList{QUrl(u"http://"_s + sourceId)});
     });
-    EXPECT_EQ(asked, (QStringList{u"a/sk"_s, u"none/sk"_s, u"c/sk"_s, u"/sk"_s}));
+    EXPECT_EQ(asked, row.sourceIds);
     ASSERT_EQ(sources.size(), 4U);
     EXPECT_TRUE(sources[1].urls.isEmpty());
     EXPECT_EQ(sources[2].number, 3U);

@@ -39,7 +39,7 @@ class UpdateWorld {
     struct Parse {
         std::string items;
         std::vector<QByteArray> pages;
-        unsigned type;
+        ListingsType type;
         bool allLoading;
     };
 
@@ -117,22 +117,17 @@ class UpdateWorld {
         made.documents = dir.filePath(QStringLiteral("documents"));
         return made;
     }
-    SharedChannelData makeCatalogue() const {
-        auto data = std::make_shared<ChannelData>();
+    CatalogueSnapshot listedChannels() const {
+        std::vector<CatalogueChannel> listed;
         for (const auto& [number, sources] : m_selection) {
-            ChannelDictionary row{{QStringLiteral("Location"), channel(number).hex()},
-                                  {QStringLiteral("Title"), QString::number(number)},
-                                  {QStringLiteral("Language"), QStringLiteral("sk")},
-                                  {QStringLiteral("Icon"), QStringLiteral("Slovak/icon")}};
-            for (qsizetype i = 0; i < sources.size(); ++i) {
-                row.insert(QStringLiteral("Location%1").arg(i + 1), sources[i]);
-            }
-            data->emplace(channel(number), row);
+            listed.push_back({channel(number), QString::number(number), QStringLiteral("sk"),
+                              QStringLiteral("Slovak"), QStringLiteral("icon"), sources});
         }
-        return data;
+        return CatalogueSnapshot(listed);
     }
 
     std::unique_ptr<TVListings> makeListings() {
+        catalogue.replace(listedChannels());
         std::vector<ObjectId> selected;
         for (const auto& [number, sources] : m_selection) {
             selected.push_back(channel(number));
@@ -157,7 +152,7 @@ class UpdateWorld {
     }
 
     MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
-                        unsigned type) {
+                        ListingsType type) {
         Parse parse{{}, pages, type, true};
         ParsedLists lists;
         for (const LoadItem& item : items) {
@@ -208,7 +203,7 @@ class UpdateWorld {
     FakeApplicationState state;
     MemoryUserDefaults defaults;
     MemoryKeyValueStore keyValueStore;
-    SharedChannelData catalogue = makeCatalogue();
+    Catalogue catalogue;
     TVChannels channels{folders, keyValueStore, queues, catalogue};
     TVStationIcons icons{folders.caches, 1.0};
     Alphabet alphabet;
@@ -238,7 +233,7 @@ class UpdateWorld {
         clock, device, queues, checkQueue, loadQueue, tasks, state, channels, catalogue, settings, planner,
         fetcher, userAgent, *listings, sourceHealth,
         [this](const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
-               unsigned type) { return netList(items, pages, now, type); },
+               ListingsType type) { return netList(items, pages, now, type); },
         [] { return 4; }, [this](const TopLists& top) { offer(top); }}};
 };
 

@@ -28,22 +28,18 @@ const ObjectId kB = ObjectId::fromHex(u"58f4ded60befe78cb336a80b"_s);
 const ObjectId kC = ObjectId::fromHex(u"58f4ded60befe78cb336a80c"_s);
 const ObjectId kUnknown = ObjectId::fromHex(u"58f4ded60befe78cb336a8ff"_s);
 
-SharedChannelData catalogue() {
-    auto data = std::make_shared<ChannelData>();
-    for (const ObjectId& id : {kA, kB}) {
-        data->emplace(id, ChannelDictionary{{u"Location"_s, id.hex()},
-                                            {u"Title"_s, u"Channel"_s},
-                                            {u"Language"_s, u"cs"_s},
-                                            {u"Icon"_s, u"Czech/a"_s}});
+CatalogueSnapshot listed(const std::vector<ObjectId>& ids, const QString& title = u"Channel"_s) {
+    std::vector<CatalogueChannel> channels;
+    for (const ObjectId& id : ids) {
+        channels.push_back({id, title, u"cs"_s, u"Czech"_s, u"a"_s});
     }
-    data->at(kB).insert(u"Stream"_s, QString());
-    data->emplace(kC, ChannelDictionary{{u"Title"_s, u"No icon"_s}, {u"Language"_s, u"cs"_s}});
-    return data;
+    return CatalogueSnapshot(channels);
 }
 
 class TVChannelsTest : public testing::Test {
   protected:
-    TVChannels makeChannels() { return {folders, keyValueStore, queues, catalogue()}; }
+    TVChannelsTest() { catalogue.replace(listed({kA, kB})); }
+    TVChannels makeChannels() { return {folders, keyValueStore, queues, catalogue}; }
     QString path() const { return folders.documents + u"/selectedChannels.plist"_s; }
 
     QTemporaryDir folder;
@@ -51,6 +47,7 @@ class TVChannelsTest : public testing::Test {
     ManualClock clock;
     ManualQueues queues{clock};
     MemoryKeyValueStore keyValueStore;
+    Catalogue catalogue;
 };
 
 TEST_F(TVChannelsTest, SelectionOutlivesTheProcessInItsOrder) {
@@ -126,9 +123,6 @@ TEST_F(TVChannelsTest, RecordsFollowTheSelection) {
     channels.setSelected({kA, kB, kC, kUnknown});
     const std::shared_ptr<TVChannel> a = channels.channelWithChannelId(kA);
     ASSERT_TRUE(a);
-    EXPECT_FALSE(a->hasStreamURL());
-    EXPECT_TRUE(channels.channelWithChannelId(kB)->hasStreamURL()) << "an empty one counts";
-    EXPECT_FALSE(channels.channelWithChannelId(kC)) << "a row without an icon";
     EXPECT_FALSE(channels.channelWithChannelId(kUnknown));
 
     channels.setSelected({kB, kA});
@@ -142,8 +136,28 @@ TEST_F(TVChannelsTest, RecordsFollowTheSelection) {
     EXPECT_TRUE(makeChannels().channelWithChannelId(kA)) << "the first question, before selected";
 }
 
+TEST_F(TVChannelsTest, RecordsFollowTheCatalogue) {
+    TVChannels channels = makeChannels();
+    channels.setSelected({kA, kB, kC});
+    const std::shared_ptr<TVChannel> a = channels.channelWithChannelId(kA);
+    a->setTimeLoaded(clock.now());
+    EXPECT_FALSE(channels.channelWithChannelId(kC));
+
+    catalogue.replace(listed({kA, kC}));
+    EXPECT_EQ(channels.channelWithChannelId(kA), a) << "an unchanged channel keeps its record";
+    EXPECT_TRUE(channels.channelWithChannelId(kC)) << "a channel that was selected before it was listed";
+    EXPECT_FALSE(channels.channelWithChannelId(kB));
+    EXPECT_EQ(channels.selected(), (std::vector{kA, kB, kC}));
+
+    catalogue.replace(listed({kA}, u"Renamed"_s));
+    EXPECT_EQ(channels.channelWithChannelId(kA)->title(), u"Renamed"_s);
+    EXPECT_EQ(channels.channelWithChannelId(kA)->timeLoaded(), clock.now());
+    queues.runAll();
+    EXPECT_EQ(keyValueStore.writeCount(), 1) << "the selection has not changed";
+}
+
 TEST_F(TVChannelsTest, AChannelIsDueByItsAge) {
-    TVChannel channel(kA, u"t"_s, u"cs"_s, u"Czech/a"_s, false, folders.caches);
+    TVChannel channel({kA, u"t"_s, u"cs"_s, u"Czech"_s, u"a"_s}, folders.caches);
     const Moment now = clock.now();
     EXPECT_TRUE(channel.reloadNeeded(now, 24h)) << "no file";
 
@@ -176,8 +190,10 @@ TEST(TVChannelsThreadsTest, ReadersAndWritersOfManyThreads) {
     const Folders folders{folder.path(), folder.path(), {}, {}, {}, {}};
     MemoryKeyValueStore keyValueStore;
     ThreadedQueues threads([] {});
+    Catalogue catalogue;
+    catalogue.replace(listed({kA, kB}));
     {
-        TVChannels channels(folders, keyValueStore, threads, catalogue());
+        TVChannels channels(folders, keyValueStore, threads, catalogue);
         std::atomic<bool> ended = false;
         std::thread reader([&] {
             while (!ended) {
@@ -196,7 +212,7 @@ TEST(TVChannelsThreadsTest, ReadersAndWritersOfManyThreads) {
         reader.join();
     }
     threads.shutDown();
-    TVChannels channels(folders, keyValueStore, threads, catalogue());
+    TVChannels channels(folders, keyValueStore, threads, catalogue);
     EXPECT_EQ(channels.selected(), (std::vector{kA, kB}));
     channels.setSelected({kB});
     EXPECT_TRUE(channels.finishWriting()) << "also when the queues have ended";

@@ -1,6 +1,6 @@
 #include "demo/DemoWorld.h"
 
-#include "core/ChannelCatalogue.h"
+#include "core/CatalogueFiles.h"
 #include "demo/Client.h"
 #include "demo/DemoChannel.h"
 #include "demo/ScheduleGenerator.h"
@@ -91,7 +91,7 @@ class DemoWorldTest : public testing::Test {
 // The guide's own reader and planner find every channel's feeds and sites, and each feed has the channel's
 // whole schedule.
 TEST_F(DemoWorldTest, EverySourceOfEveryChannelLeadsToItsSchedule) {
-    const auto rows = channelsOfPropertyList(world->cataloguePath());
+    const auto rows = rowsOfPropertyList(world->cataloguePath());
     ASSERT_TRUE(rows);
     ASSERT_EQ(rows->size(), demoChannels().size());
     const auto hosts = SourceHostTable::fromFile(world->hostsPath());
@@ -104,30 +104,26 @@ TEST_F(DemoWorldTest, EverySourceOfEveryChannelLeadsToItsSchedule) {
         const QDate firstDay = broadcastDay(kNow, channel.zone).addDays(-1);
         const auto all = schedule(channel, firstDay, 8);
         int sources = 0;
-        for (const QString& key : {u"Location1"_s, u"Location2"_s}) {
-            const auto source = channelValue((*rows)[i], key);
-            if (!source) {
-                continue;
-            }
+        for (const QString& source : (*rows)[i].channel.sourceIds) {
             ++sources;
-            const auto urls = planner.urlsForSourceId(*source, kNow, channel.language, QTimeZone::utc());
-            ASSERT_TRUE(urls) << qUtf8Printable(*source);
+            const auto urls = planner.urlsForSourceId(source, kNow, QTimeZone::utc());
+            ASSERT_TRUE(urls) << qUtf8Printable(source);
             int count = 0;
             for (const QUrl& url : *urls) {
                 const Fetched got = fetched(url.toString(QUrl::FullyEncoded));
                 EXPECT_EQ(got.status, 200) << qUtf8Printable(url.toString());
-                if (Town::has(*source)) {
+                if (Town::has(source)) {
                     EXPECT_GT(got.body.size(), 2000) << qUtf8Printable(url.toString());
                     continue;
                 }
                 count += programmeCounts(got)[channel.feedId];
             }
-            if (Town::has(*source)) {
+            if (Town::has(source)) {
                 continue;
             }
             // Day files are planned for seven calendar days of the eight from six to six.
             if (urls->size() == 1) {
-                EXPECT_EQ(count, int(all.size())) << qUtf8Printable(*source);
+                EXPECT_EQ(count, int(all.size())) << qUtf8Printable(source);
             } else {
                 EXPECT_EQ(urls->size(), 7);
                 EXPECT_GT(count, int(all.size()) * 3 / 4);
@@ -139,7 +135,7 @@ TEST_F(DemoWorldTest, EverySourceOfEveryChannelLeadsToItsSchedule) {
 }
 
 TEST_F(DemoWorldTest, SelectsTwelveOfItsChannelsEachWithAnIcon) {
-    const auto rows = channelsOfPropertyList(world->cataloguePath());
+    const auto rows = rowsOfPropertyList(world->cataloguePath());
     ASSERT_TRUE(rows);
     const auto types =
         SupportedChannelTypes::fromFile(QStringLiteral(QUELLIN_SOURCE_DATA "/supported-channel-types.json"));
@@ -149,9 +145,9 @@ TEST_F(DemoWorldTest, SelectsTwelveOfItsChannelsEachWithAnIcon) {
     ASSERT_EQ(kept.size(), rows->size());
     QSet<QString> known;
     QSet<QString> languages;
-    for (const ChannelDictionary& row : kept) {
-        known.insert(*channelValue(row, u"Location"_s));
-        languages.insert(*channelValue(row, u"Language"_s));
+    for (const CatalogueRow& row : kept) {
+        known.insert(row.channel.id.hex());
+        languages.insert(row.channel.language);
     }
     EXPECT_GE(known.size(), 24);
     EXPECT_EQ(languages, QSet<QString>({u"cs"_s, u"cs/sk"_s, u"sk"_s, u"en"_s, u"fr"_s, u"tr"_s, u"ru"_s}));
@@ -168,7 +164,7 @@ TEST_F(DemoWorldTest, SelectsTwelveOfItsChannelsEachWithAnIcon) {
 }
 
 TEST(ShippedCatalogue, IsValidAndEmpty) {
-    const auto rows = channelsOfPropertyList(QStringLiteral(QUELLIN_SOURCE_DATA "/Data.plist"));
+    const auto rows = rowsOfPropertyList(QStringLiteral(QUELLIN_SOURCE_DATA "/Data.plist"));
     ASSERT_TRUE(rows);
     EXPECT_TRUE(rows->empty());
 }

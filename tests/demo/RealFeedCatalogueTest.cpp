@@ -1,5 +1,5 @@
 // The script that makes a guide of a feed file, checked by the guide's own readers.
-#include "core/ChannelCatalogue.h"
+#include "core/CatalogueFiles.h"
 #include "demo/Packing.h"
 #include "demo/ScheduleGenerator.h"
 #include "demo/XMLTVWriter.h"
@@ -63,7 +63,7 @@ TEST_P(RealFeedCatalogue, LeadsTheGuideToTheFeed) {
     ASSERT_EQ(script.exitCode(), 0) << script.readAllStandardError().constData();
     EXPECT_TRUE(script.readAllStandardOutput().contains("--now 2026-11-2"));
 
-    const auto rows = channelsOfPropertyList(made.filePath(u"Data.plist"_s));
+    const auto rows = rowsOfPropertyList(made.filePath(u"Data.plist"_s));
     const auto hosts = SourceHostTable::fromFile(made.filePath(u"hosts.json"_s));
     ASSERT_TRUE(rows && hosts);
     const auto types =
@@ -74,10 +74,9 @@ TEST_P(RealFeedCatalogue, LeadsTheGuideToTheFeed) {
     ASSERT_EQ(kept.size(), demoChannels().size());
     const URLPlanner planner(*hosts, [](unsigned) { return 0U; });
     QStringList identities;
-    for (const ChannelDictionary& row : kept) {
-        identities.append(*channelValue(row, u"Location"_s));
-        const auto urls =
-            planner.urlsForSourceId(*channelValue(row, u"Location1"_s), Moment(), {}, QTimeZone::utc());
+    for (const CatalogueRow& row : kept) {
+        identities.append(row.channel.id.hex());
+        const auto urls = planner.urlsForSourceId(row.channel.sourceIds[0], Moment(), QTimeZone::utc());
         ASSERT_TRUE(urls);
         ASSERT_EQ(urls->size(), 1);
         EXPECT_EQ(urls->front().port(), 8123);

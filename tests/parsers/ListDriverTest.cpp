@@ -41,7 +41,7 @@ class ListDriverTest : public ::testing::Test {
   protected:
     /// "0: title title; 1: …", by the number of the channel.
     std::string titles(const std::vector<QString>& sourceIds, const std::vector<QByteArray>& pages,
-                       unsigned type = 1) {
+                       ListingsType type = ListingsType::XMLTV) {
         const ParsedLists lists = m_driver.read(items(sourceIds), pages, kNow, type);
         std::string text;
         for (int number = 0; number < static_cast<int>(sourceIds.size()); ++number) {
@@ -72,7 +72,7 @@ class ListDriverTest : public ::testing::Test {
         {.clock = m_clock,
          .alphabet = m_alphabet,
          .hosts = m_hosts,
-         .merge = [this](const std::vector<LoadItem>&, const ParsedLists& parsed, Moment, unsigned) {
+         .merge = [this](const std::vector<LoadItem>&, const ParsedLists& parsed, Moment, ListingsType) {
              m_mergedChannels = parsed.size();
              ++m_merges;
              return MergeResult{};
@@ -122,9 +122,9 @@ TEST_F(ListDriverTest, GrowsOneListOverPages) {
 
 TEST_F(ListDriverTest, HandsOverNothingWhenThereIsNoPage) {
     // No format may take its first page for granted.
-    for (unsigned type = kListingsPortNetwork; type <= kListingsComedyCentral + 1; ++type) {
+    for (unsigned type = 0; type <= unsigned(ListingsType::ComedyCentral) + 1; ++type) {
         const int merges = m_merges;
-        m_driver.netList(items({u"x.tv"_s}), {}, kNow, type);
+        m_driver.netList(items({u"x.tv"_s}), {}, kNow, static_cast<ListingsType>(type));
         EXPECT_EQ(m_merges, merges + 1) << type;
     }
 }
@@ -146,7 +146,7 @@ TEST_F(ListDriverTest, MergesWhateverWasRead) {
     for (const auto& [type, channels] :
          std::vector<std::pair<unsigned, std::size_t>>{{1, 1}, {0, 0}, {11, 0}, {12, 0}}) {
         m_merges = 0;
-        m_driver.netList(items({u"s.a"_s}), pages, kNow, type);
+        m_driver.netList(items({u"s.a"_s}), pages, kNow, static_cast<ListingsType>(type));
         EXPECT_EQ(m_merges, 1) << type;
         EXPECT_EQ(m_mergedChannels, channels) << type;
     }

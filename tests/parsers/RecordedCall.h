@@ -71,7 +71,7 @@ class RecordedCall {
     }
 
     const std::vector<LoadItem>& items() const { return m_items; }
-    unsigned type() const { return m_type; }
+    ListingsType type() const { return m_type; }
     const std::vector<QString>& pageNames() const { return m_pageNames; }
 
     std::vector<QByteArray> pages() const {
@@ -103,7 +103,7 @@ class RecordedCall {
     QTimeZone m_zone;
     std::vector<LoadItem> m_items;
     std::vector<QString> m_pageNames;
-    unsigned m_type = 0;
+    ListingsType m_type{};
 };
 
 /// The calls recorded for a format, by name; `stem` is the path without ".items.json".

@@ -8,11 +8,11 @@ namespace {
 
 class ChannelViewControllerTest : public testing::Test {
   protected:
-    void begin(const ChannelDictionary& more = {}) {
+    void begin(const std::optional<QString>& stream = {}) {
         world.device.deviceLocale = QLocale(QLocale::English, QLocale::UnitedKingdom);
         // 31 December, 18:30 UTC, is 1 January, 05:30, here.
         world.device.zone = QTimeZone("Australia/Lord_Howe");
-        channel = world.addChannel(u"Jedna"_s, true, more);
+        channel = world.addChannel(u"Jedna"_s, true, stream);
         world.start();
     }
     std::shared_ptr<ChannelViewController> open(const std::vector<WorldShow>& shows) {
@@ -66,7 +66,7 @@ TEST_F(ChannelViewControllerTest, GroupsByTheDayOfTheStart) {
 }
 
 TEST_F(ChannelViewControllerTest, RefreshUnloadsTheChannelAndAsksForACheck) {
-    begin({{u"Stream"_s, u"http://x/live"_s}});
+    begin(u"http://x/live"_s);
     world.load(channel, {{0, 60, u"Old"_s}});
     const auto screen = open({{0, 60, u"Old"_s}});
     EXPECT_EQ(buttons(*screen), Kinds({kRefresh, kPlay}));

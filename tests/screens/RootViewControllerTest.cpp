@@ -43,9 +43,9 @@ TEST_F(RootViewControllerTest, ShowsASectionForEachSelectedChannelInOrder) {
     world.device.deviceLocale = QLocale(QLocale::English, QLocale::UnitedStates);
     world.device.zone = QTimeZone("Europe/Prague");
     const ObjectId one = world.addChannel(u"Jedna"_s);
-    const ObjectId two = world.addChannel(u"Dva"_s, true, {{u"Stream"_s, u"http://x/a b.m3u8"_s}});
+    const ObjectId two = world.addChannel(u"Dva"_s, true, u"http://x/a b.m3u8"_s);
     world.addChannel(u"Tri"_s);
-    world.addChannel(u"Only live"_s, true, {{u"Stream"_s, u"http://x/only"_s}});
+    world.addChannel(u"Only live"_s, true, u"http://x/only"_s);
     world.addChannel(u"Unselected"_s, false);
     world.showCount = 2;
     world.start();

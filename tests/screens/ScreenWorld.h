@@ -110,13 +110,9 @@ class ScreenWorld {
     }
 
     /// To be called before start().
-    ObjectId addChannel(const QString& title, bool select = true, const ChannelDictionary& more = {}) {
-        const ObjectId id = channelId(static_cast<int>(m_catalogue.size()) + 1);
-        ChannelDictionary row{{u"Title"_s, title}, {u"Language"_s, u"cs"_s}, {u"Icon"_s, u"x/"_s + title}};
-        for (auto entry = more.cbegin(); entry != more.cend(); ++entry) {
-            row.insert(entry.key(), entry.value());
-        }
-        m_catalogue.emplace(id, row);
+    ObjectId addChannel(const QString& title, bool select = true, std::optional<QString> stream = {}) {
+        const ObjectId id = channelId(static_cast<int>(m_listed.size()) + 1);
+        m_listed.push_back({id, title, u"cs"_s, u"x"_s, title, {}, std::move(stream)});
         if (select) {
             m_selected.push_back(id);
         }
@@ -126,7 +122,7 @@ class ScreenWorld {
     void start() {
         const QString path = folder.path();
         folders = {path, path, path, path, path, path};
-        const auto catalogue = std::make_shared<const ChannelData>(m_catalogue);
+        catalogue.replace(CatalogueSnapshot(m_listed));
         icons = std::make_unique<TVStationIcons>(m_iconFolder.isEmpty() ? path : m_iconFolder, 2);
         channels = std::make_unique<TVChannels>(folders, keyValueStore, queues, catalogue);
         channels->setSelected(m_selected);
@@ -166,8 +162,8 @@ class ScreenWorld {
         for (const WorldShow& show : shows) {
             parsed[channel].push_back(entry(channel, show));
         }
-        const MergeResult merged =
-            listings->merge({{channel, u"source"_s, u"cs"_s}}, std::move(parsed), clock.now(), 1);
+        const MergeResult merged = listings->merge({{channel, u"source"_s, u"cs"_s}}, std::move(parsed),
+                                                   clock.now(), ListingsType::XMLTV);
         queues.runAll();
         TopShows top;
         for (const auto& [id, stored] : merged.lists) {
@@ -204,6 +200,7 @@ class ScreenWorld {
     Folders folders;
     std::shared_ptr<DispatchQueue> loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial);
     std::unique_ptr<TVStationIcons> icons;
+    Catalogue catalogue;
     std::unique_ptr<TVChannels> channels;
     std::unique_ptr<TVListings> listings;
     std::shared_ptr<const ScreenEnvironment> environment;
@@ -212,7 +209,7 @@ class ScreenWorld {
 
   private:
     QString m_iconFolder;
-    ChannelData m_catalogue;
+    std::vector<CatalogueChannel> m_listed;
     std::vector<ObjectId> m_selected;
 };
 

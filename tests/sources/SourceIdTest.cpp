@@ -10,32 +10,34 @@ using namespace Qt::StringLiterals;
 TEST(SourceIdTest, TypeFollowsTheFirstTestThatHits) {
     const SourceHostTable hosts =
         *SourceHostTable::fromJson(R"({"PrimaMaxSourceId": "https://max.example:8080/"})");
-    const std::pair<QString, unsigned> rows[] = {
-        {u"joj.x.tv"_s, 1},
-        {u"12345.tv"_s, 1},
-        {u"_"_s, 2},
-        {u"barrandov."_s, 3},
-        {u"dsk.Digi Sport 1"_s, 4},
-        {u"dsk"_s, 1},
-        {u"joj."_s, 5},
-        {u"-hbo.hu"_s, 7},
-        {u"hbo.hu"_s, 1},
-        {u"max.example:8080"_s, 6},
-        {u"max.example"_s, 1},
-        {u"cz.nova."_s, 8},
-        {u"dolce-sport.1"_s, 9},
-        {u"cinestar.hr.1"_s, 10},
-        {u"cinestar"_s, 1},
-        {u"12345"_s, 0},
-        {u"=12345"_s, 1},
-        {u"cc.romania"_s, 11},
-        {u"cc.romania2"_s, 1},
-        {u""_s, 1},
+    using enum ListingsType;
+    const std::pair<QString, ListingsType> rows[] = {
+        {u"joj.x.tv"_s, XMLTV},
+        {u"12345.tv"_s, XMLTV},
+        {u"_"_s, Palinsesto},
+        {u"barrandov."_s, Barrandov},
+        {u"dsk.Digi Sport 1"_s, DigiSport},
+        {u"dsk"_s, XMLTV},
+        {u"joj."_s, JojCinema},
+        {u"-hbo.hu"_s, HBO},
+        {u"hbo.hu"_s, XMLTV},
+        {u"max.example:8080"_s, PrimaMax},
+        {u"max.example"_s, XMLTV},
+        {u"cz.nova."_s, Nova},
+        {u"dolce-sport.1"_s, DolceSport},
+        {u"cinestar.hr.1"_s, Cinestar},
+        {u"cinestar"_s, XMLTV},
+        {u"12345"_s, PortNetwork},
+        {u"=12345"_s, XMLTV},
+        {u"cc.romania"_s, ComedyCentral},
+        {u"cc.romania2"_s, XMLTV},
+        {u""_s, XMLTV},
     };
     for (const auto& [sourceId, type] : rows) {
         EXPECT_EQ(listingsTypeForSourceId(sourceId, hosts), type) << sourceId.toStdString();
     }
-    EXPECT_EQ(listingsTypeForSourceId(u""_s, *SourceHostTable::fromJson(R"({"PrimaMaxSourceId": ""})")), 1u)
+    EXPECT_EQ(listingsTypeForSourceId(u""_s, *SourceHostTable::fromJson(R"({"PrimaMaxSourceId": ""})")),
+              XMLTV)
         << "an empty host claims nothing";
 }
 

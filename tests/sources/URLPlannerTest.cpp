@@ -32,12 +32,10 @@ const QString kNewYear = u"2026-12-31T23:30:00Z"_s;
 class URLPlannerTest : public testing::Test {
   protected:
     /// The URLs as they are asked for, "nothing" where nothing is planned.
-    QStringList plan(const QString& sourceId, const QString& now = kNewYear,
-                     const QString& language = u"cs"_s) {
+    QStringList plan(const QString& sourceId, const QString& now = kNewYear) {
         const auto moment =
             Moment(std::chrono::milliseconds(QDateTime::fromString(now, Qt::ISODate).toMSecsSinceEpoch()));
-        const auto urls =
-            planner.urlsForSourceId(sourceId, moment, language, QTimeZone("Pacific/Kiritimati"));
+        const auto urls = planner.urlsForSourceId(sourceId, moment, QTimeZone("Pacific/Kiritimati"));
         if (!urls) {
             return {u"nothing"_s};
         }
@@ -87,7 +85,7 @@ TEST_F(URLPlannerTest, FamiliesWithoutDates) {
     };
     for (const Row& row : rows) {
         EXPECT_EQ(plan(row.sourceId), row.urls) << row.sourceId.toStdString();
-        EXPECT_EQ(plan(row.sourceId, kSpring, u"fr"_s), row.urls) << "at any time, in any language";
+        EXPECT_EQ(plan(row.sourceId, kSpring), row.urls) << "at any time";
     }
     const std::tuple<QString, QString, QString, int> numbered[] = {
         {u"cc.romania"_s, u"https://cc.example/program-tv"_s, u"?page="_s, 1},
@@ -190,8 +188,8 @@ TEST_F(URLPlannerTest, MojTVPicksAHostForEachDay) {
 
 TEST_F(URLPlannerTest, ChannelsOfAFeedShareOneList) {
     const Moment now{};
-    const auto any = planner.urlsForSourceId(u"dsk.any"_s, now, {}, QTimeZone::utc());
-    const auto other = planner.urlsForSourceId(u"dsk.other"_s, now, {}, QTimeZone::utc());
+    const auto any = planner.urlsForSourceId(u"dsk.any"_s, now, QTimeZone::utc());
+    const auto other = planner.urlsForSourceId(u"dsk.other"_s, now, QTimeZone::utc());
     EXPECT_EQ(any->constData(), other->constData()) << "the very same";
     EXPECT_EQ(plan(u"-hbo.hu.1"_s), plan(u"-hbo.hu.2"_s));
 }
@@ -203,7 +201,7 @@ TEST_F(URLPlannerTest, AFamilyWithoutHostPlansNothing) {
          {u"r.a.b"_s, u"n.x"_s, u"s.x"_s, u"tvpc.x"_s, u"dolce-sport.x"_s, u"_C5"_s, u"_X"_s,
           u"barrandov.x"_s, u"dsk.x"_s, u"joj.x"_s, u"-hbo.hu.1"_s, u"cz.nova.x"_s, u"a.tv"_s,
           u"cc.romania"_s, u"cinestar.hr.1"_s, u"=1"_s, u"1"_s, u"x"_s, u""_s}) {
-        EXPECT_FALSE(bare.urlsForSourceId(id, Moment{}, {}, QTimeZone::utc())) << id.toStdString();
+        EXPECT_FALSE(bare.urlsForSourceId(id, Moment{}, QTimeZone::utc())) << id.toStdString();
     }
 }
 

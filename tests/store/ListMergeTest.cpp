@@ -27,16 +27,17 @@ TEST(ListMergeTest, SortsAndCuts) {
     struct Row {
         const char* name;
         std::vector<TestShow> shows;
-        unsigned type;
+        ListingsType type;
         MergeOutcome outcome;
         Titles expected;
     };
+    using enum ListingsType;
     const Row rows[] = {
-        {"nothing", {}, 1, MergeOutcome::Empty, {}},
-        {"no start", {{{}, hour(9), u"A"_s}}, 1, MergeOutcome::Empty, {}},
+        {"nothing", {}, XMLTV, MergeOutcome::Empty, {}},
+        {"no start", {{{}, hour(9), u"A"_s}}, XMLTV, MergeOutcome::Empty, {}},
         {"sorted",
          {{hour(2), hour(3), u"B"_s}, {hour(1), hour(2), u"A"_s}},
-         1,
+         XMLTV,
          MergeOutcome::Stored,
          {"A", "B"}},
         {"the first read of a start stays",
@@ -45,46 +46,46 @@ TEST(ListMergeTest, SortsAndCuts) {
           {hour(1), hour(2), u"B"_s},
           {hour(1), hour(2), u"C"_s},
           {hour(2), hour(3), u"D"_s}},
-         1,
+         XMLTV,
          MergeOutcome::Stored,
          {"0", "A", "D"}},
         {"ended now is ended",
          {{hour(-1), hour(0), u"A"_s}, {hour(0), hour(1), u"B"_s}},
-         1,
+         XMLTV,
          MergeOutcome::Stored,
          {"B"}},
         {"what is behind a running show stays",
          {{hour(-3), hour(1), u"A"_s}, {hour(-2), hour(-1), u"B"_s}},
-         1,
+         XMLTV,
          MergeOutcome::Stored,
          {"A", "B"}},
         {"only past",
          {{hour(-2), hour(-1), u"A"_s}, {hour(-1), hour(0), u"B"_s}},
-         1,
+         XMLTV,
          MergeOutcome::OnlyPast,
          {}},
-        {"no end counts as ended", {{hour(1), {}, u"A"_s}}, 1, MergeOutcome::OnlyPast, {}},
+        {"no end counts as ended", {{hour(1), {}, u"A"_s}}, XMLTV, MergeOutcome::OnlyPast, {}},
         {"a placeholder closes",
          {{hour(2), hour(3), u"Nema podataka"_s}, {hour(1), hour(2), u"A"_s}},
-         1,
+         XMLTV,
          MergeOutcome::Stored,
          {"A"}},
         {"one placeholder alone is dropped",
          {{hour(1), hour(2), u"No information"_s}, {hour(2), hour(3), u"Není informace"_s}},
-         1,
+         XMLTV,
          MergeOutcome::Stored,
          {"No information"}},
         {"nothing but a placeholder",
          {{hour(1), hour(2), u"Nincs információ"_s}},
-         1,
+         XMLTV,
          MergeOutcome::Empty,
          {}},
         {"a placeholder in another case stays",
          {{hour(1), hour(2), u"no information"_s}},
-         1,
+         XMLTV,
          MergeOutcome::Stored,
          {"no information"}},
-        {"ends from type 2", {{hour(-3), {}, u"A"_s}, {hour(-2), {}, u"B"_s}}, 2, MergeOutcome::OnlyPast, {}},
+        {"no ends", {{hour(-3), {}, u"A"_s}, {hour(-2), {}, u"B"_s}}, Palinsesto, MergeOutcome::OnlyPast, {}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -101,9 +102,9 @@ TEST(ListMergeTest, SortsAndCuts) {
 TEST(ListMergeTest, ReadersWithoutEndsGetThemFromTheNextStart) {
     const std::vector<TestShow> shows = {
         {hour(3), hour(9), u"Nema podataka"_s}, {hour(0), hour(9), u"A"_s}, {hour(1), hour(9), u"B"_s}};
-    const MergedList kept = mergedList(parsed(shows), u"hr"_s, kNow, 1);
+    const MergedList kept = mergedList(parsed(shows), u"hr"_s, kNow, ListingsType::XMLTV);
     EXPECT_EQ((*kept.list)[0].entry()->endDateTime(), hour(9));
-    const MergedList set = mergedList(parsed(shows), u"hr"_s, kNow, 2);
+    const MergedList set = mergedList(parsed(shows), u"hr"_s, kNow, ListingsType::Palinsesto);
     ASSERT_EQ(set.list->size(), 2u);
     EXPECT_EQ((*set.list)[0].entry()->endDateTime(), hour(1));
     EXPECT_EQ((*set.list)[1].entry()->endDateTime(), hour(3));

@@ -28,7 +28,8 @@ struct Saver {
             parsed[channel(1)].push_back(
                 extended({start, start + std::chrono::minutes(1), QString::number(number)}));
         }
-        listings.merge({{channel(1), u"one"_s, u"cs"_s}}, std::move(parsed), clock.now(), 1);
+        listings.merge({{channel(1), u"one"_s, u"cs"_s}}, std::move(parsed), clock.now(),
+                       ListingsType::XMLTV);
         return listings.finishWriting(std::chrono::milliseconds(0));
     }
 

@@ -128,10 +128,8 @@ TEST(CompoundListingsTest, GroupsByDayAndLeavesOutWhatHasNoIcon) {
     image.fill(Qt::red);
     ASSERT_TRUE(image.save(icons.filePath(u"one.png"_s)));
     TVStationIcons stationIcons(icons.path(), 1);
-    const ChannelData channels{{channel(1), {{u"Icon"_s, u"x/one.png"_s}}},
-                               {channel(2), {{u"Icon"_s, u"one.png"_s}}},
-                               {channel(3), {{u"Title"_s, u"Three"_s}}},
-                               {channel(4), {{u"Icon"_s, u"x/absent.png"_s}}}};
+    const CatalogueSnapshot channels({{channel(1), u"One"_s, u"cs"_s, u"x"_s, u"one.png"_s},
+                                      {channel(4), u"Four"_s, u"cs"_s, u"x"_s, u"absent.png"_s}});
     const auto show = [](const char* start, int onChannel) {
         return item({moment(start), {}, QString::fromLatin1(start), 0, channel(onChannel)});
     };

@@ -49,23 +49,22 @@ struct StoreWorld {
     StoreWorld(const Clock& clock, DispatchQueues& queues, const QString& folder)
         : folders{folder, folder, folder, folder, folder, folder}
         , icons(folder, 1)
-        , channels(folders, keyValueStore, queues, channelData())
+        , channels(folders, keyValueStore, queues, catalogue)
         , environment{clock,           device,       folders,  queues, tasks,
-                      state,           userDefaults, channels, icons,  channelData(),
+                      state,           userDefaults, channels, icons,  catalogue,
                       latinAlphabet(), favorites,    popular,  alarms, QStringLiteral("guide"),
                       [] { return 2; }} {
+        catalogue.replace(listedChannels());
         channels.setSelected({channel(1), channel(2), channel(3)});
     }
 
-    static SharedChannelData channelData() {
-        ChannelData rows;
+    static CatalogueSnapshot listedChannels() {
+        std::vector<CatalogueChannel> listed;
         for (int number = 1; number <= 4; ++number) {
-            rows.emplace(channel(number),
-                         ChannelDictionary{{QStringLiteral("Title"), QString::number(number)},
-                                           {QStringLiteral("Language"), QStringLiteral("cs")},
-                                           {QStringLiteral("Icon"), QStringLiteral("x/1.png")}});
+            listed.push_back({channel(number), QString::number(number), QStringLiteral("cs"),
+                              QStringLiteral("x"), QStringLiteral("1.png")});
         }
-        return std::make_shared<const ChannelData>(std::move(rows));
+        return CatalogueSnapshot(listed);
     }
 
     QString path(const ObjectId& of) const {
@@ -91,6 +90,7 @@ struct StoreWorld {
     MemoryUserDefaults userDefaults;
     MemoryKeyValueStore keyValueStore;
     TVStationIcons icons;
+    Catalogue catalogue;
     TVChannels channels;
     NoFavorites favorites;
     CountedPopularShows popular;

@@ -81,7 +81,8 @@ TEST(TVListingsStressTest, ChangesQueriesAndFilesMeetOnRealQueues) {
                     parsed[channel(number)] = listNumbered(round, channel(number), clock.now());
                     items.push_back({channel(number), u"x"_s, u"cs"_s});
                 }
-                const MergeResult merged = listings.merge(items, std::move(parsed), clock.now(), 1);
+                const MergeResult merged =
+                    listings.merge(items, std::move(parsed), clock.now(), ListingsType::XMLTV);
                 listings.saveAllShows();
                 listings.updateDetails(merged.lists.at(channel(1))->front().entry(),
                                        std::make_shared<const TVEntrySupplementalData>(), {});
@@ -146,7 +147,7 @@ TEST(TVListingsStressTest, FinishingIsBoundedInTime) {
     });
     ParsedLists parsed;
     parsed[channel(1)] = listNumbered(1, channel(1), clock.now());
-    listings.merge({{channel(1), u"x"_s, u"cs"_s}}, std::move(parsed), clock.now(), 1);
+    listings.merge({{channel(1), u"x"_s, u"cs"_s}}, std::move(parsed), clock.now(), ListingsType::XMLTV);
     EXPECT_FALSE(listings.finishWriting(std::chrono::milliseconds(30)));
     release = true;
     main.runUntil([&] { return listings.finishWriting(std::chrono::seconds(10)); });

@@ -30,7 +30,7 @@ class TVListingsTest : public ::testing::Test {
         }
         return lists;
     }
-    MergeResult merge(const std::vector<TestShow>& shows, unsigned type = 1) {
+    MergeResult merge(const std::vector<TestShow>& shows, ListingsType type = ListingsType::XMLTV) {
         const std::vector<LoadItem> items{{channel(1), u"one"_s, u"cs"_s}, {channel(2), u"two"_s, u"sk"_s}};
         return listings->merge(items, parsed(shows), clock.now(), type);
     }

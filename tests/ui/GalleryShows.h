@@ -45,10 +45,8 @@ inline void fillWithEvening(ScreenWorld& world) {
     std::vector<ObjectId> ids;
     for (const auto& [name, color] : names) {
         writeIcon(folder, name, color);
-        ids.push_back(world.addChannel(name, true,
-                                       name == u"Kino Večer"_s
-                                           ? ChannelDictionary{{u"Stream"_s, u"http://127.0.0.1/kino"_s}}
-                                           : ChannelDictionary{}));
+        ids.push_back(world.addChannel(
+            name, true, name == u"Kino Večer"_s ? std::optional(u"http://127.0.0.1/kino"_s) : std::nullopt));
     }
     world.start();
     world.favorites.titles = {u"Příliš žluťoučký kůň a jeho podivuhodná cesta kolem světa"_s,

@@ -17,7 +17,7 @@ ChannelViewController::ChannelViewController(std::shared_ptr<const ScreenEnviron
     , m_channelTitle(title)
     , m_channelIconName(channelIconName)
     , m_channel(channel)
-    , m_streamURL(streamURLOf(*m_environment->channelData, channel)) {
+    , m_streamURL(streamURLOf(*m_environment->catalogue.snapshot(), channel)) {
     const auto record = m_environment->channels.channelWithChannelId(m_channel);
     if (record && (record->loading() || dueForReload(*record))) {
         refreshActive();

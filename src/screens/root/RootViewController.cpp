@@ -105,16 +105,11 @@ void RootViewController::setChannels(const std::vector<ObjectId>& selected,
 
 RootViewController::Channel RootViewController::channelNamed(const ObjectId& identificator) const {
     Channel channel{identificator, u"?"_s, {}, {}, {}};
-    const auto found = m_environment->channelData->find(identificator);
-    if (found == m_environment->channelData->end()) {
-        return channel;
-    }
-    const std::optional<QString> language = channelValue(found->second, u"Language"_s);
-    if (language) {
-        const QString title = channelValue(found->second, u"Title"_s).value_or(u"?"_s);
-        channel.title = latin2Cyrillic(title, *language, m_environment->alphabet);
-        channel.iconName = iconNameOf(channelValue(found->second, u"Icon"_s).value_or(QString()));
-        channel.icon = m_environment->icons.iconNamed(channel.iconName);
+    const SharedCatalogueSnapshot catalogue = m_environment->catalogue.snapshot();
+    if (const CatalogueChannel* found = catalogue->find(identificator)) {
+        channel.title = latin2Cyrillic(found->title, found->language, m_environment->alphabet);
+        channel.iconName = found->icon;
+        channel.icon = m_environment->icons.iconNamed(found->icon);
     }
     return channel;
 }
@@ -186,9 +181,9 @@ Row RootViewController::channelRow(const Channel& channel) const {
     row.text.append(channel.title, TextStyle::ChannelTitle, ColorRole::Tint);
     row.icon = channel.icon;
     row.selectable = !channel.entries.empty();
-    row.accessory = streamURLOf(*m_environment->channelData, channel.identificator) ? Accessory::Play
-                    : row.selectable                                                ? Accessory::Disclosure
-                                                                                    : Accessory::Spinner;
+    row.accessory = streamURLOf(*m_environment->catalogue.snapshot(), channel.identificator) ? Accessory::Play
+                    : row.selectable ? Accessory::Disclosure
+                                     : Accessory::Spinner;
     if (row.accessory == Accessory::Spinner) {
         row.spokenState = Localized::tr("Loading");
     }
@@ -214,7 +209,7 @@ void RootViewController::didTapAccessory(IndexPath path) {
         return;
     }
     const ObjectId& channel = m_channels[static_cast<std::size_t>(path.section)].identificator;
-    if (const std::optional<QUrl> stream = streamURLOf(*m_environment->channelData, channel)) {
+    if (const std::optional<QUrl> stream = streamURLOf(*m_environment->catalogue.snapshot(), channel)) {
         m_environment->app.playURL(*stream);
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ChannelDictionary.h"
+#include "core/Catalogue.h"
 #include "core/TVChannels.h"
 #include "core/TVStationIcons.h"
 #include "platform/Clock.h"
@@ -26,7 +26,7 @@ struct ScreenEnvironment {
     TVListings& listings;
     TVChannels& channels;
     TVStationIcons& icons;
-    SharedChannelData channelData;
+    const Catalogue& catalogue;
     const Alphabet& alphabet;
     const FavoriteQuestions& favorites;
     const AlarmQuestions& alarms;

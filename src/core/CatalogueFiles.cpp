@@ -1,0 +1,137 @@
+#include "core/CatalogueFiles.h"
+
+#include "platform/Archive.h"
+#include "platform/FileReplacement.h"
+#include "platform/PropertyList.h"
+
+#include <QCborArray>
+#include <QCborMap>
+#include <QDebug>
+#include <QFile>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString channelsKey() {
+    return u"Channels"_s;
+}
+
+std::optional<QByteArray> contentOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    return file.readAll();
+}
+
+QCborValue archiveRoot(const std::vector<CatalogueRow>& rows) {
+    QCborArray array;
+    for (const CatalogueRow& row : rows) {
+        QCborMap values;
+        for (const auto& [key, value] : row.values.asKeyValueRange()) {
+            values.insert(key, value);
+        }
+        array.append(values);
+    }
+    return QCborMap{{channelsKey(), array}};
+}
+
+std::vector<CatalogueChannel> channelsOf(const std::vector<CatalogueRow>& rows) {
+    std::vector<CatalogueChannel> channels;
+    channels.reserve(rows.size());
+    for (const CatalogueRow& row : rows) {
+        channels.push_back(row.channel);
+    }
+    return channels;
+}
+
+// The archive is dated slightly after the list that it was made from. The list of a program update is newer
+// than the previous list but often older than the day on which this archive is written. File systems may
+// round dates to two seconds.
+std::optional<Moment> dateOfArchive(const std::optional<Moment>& supplied) {
+    constexpr std::chrono::seconds kCoarsestDate{2};
+    return supplied ? std::optional(*supplied + kCoarsestDate) : std::nullopt;
+}
+
+std::optional<std::vector<CatalogueChannel>> channelsOfArchive(const QString& path) {
+    const std::optional<QByteArray> content = contentOf(path);
+    const std::optional<QCborValue> root = content ? unarchivedRoot(*content) : std::nullopt;
+    const QCborValue rows = root ? (*root)[channelsKey()] : QCborValue();
+    if (!rows.isArray()) {
+        return std::nullopt;
+    }
+    std::vector<CatalogueChannel> channels;
+    const QCborArray array = rows.toArray();
+    for (const auto& row : array) {
+        const QCborMap archived = row.toMap();
+        ChannelDictionary values;
+        for (const auto& [key, value] : archived) {
+            if (key.isString() && value.isString()) {
+                values.insert(key.toString(), value.toString());
+            }
+        }
+        if (std::optional<CatalogueRow> made = catalogueRow(std::move(values))) {
+            channels.push_back(std::move(made->channel));
+        }
+    }
+    return channels;
+}
+
+} // namespace
+
+QString catalogueArchivePath(const QString& cachesFolder) {
+    return cachesFolder + u"/5b65e9d23afbe36684bdfe2c.plist"_s;
+}
+
+std::optional<std::vector<CatalogueRow>> rowsOfPropertyList(const QString& path) {
+    const std::optional<QByteArray> content = contentOf(path);
+    const std::optional<QVariant> root = content ? propertyListFromData(*content) : std::nullopt;
+    const QVariant channels = root ? root->toMap().value(channelsKey()) : QVariant();
+    if (channels.typeId() != QMetaType::QVariantList) {
+        return std::nullopt;
+    }
+    std::vector<CatalogueRow> rows;
+    const QVariantList list = channels.toList();
+    for (const QVariant& channel : list) {
+        const QVariantMap supplied = channel.toMap();
+        ChannelDictionary values;
+        for (const auto& [key, value] : supplied.asKeyValueRange()) {
+            if (value.typeId() == QMetaType::QString) {
+                values.insert(key, value.toString());
+            }
+        }
+        if (std::optional<CatalogueRow> row = catalogueRow(std::move(values))) {
+            rows.push_back(*std::move(row));
+        }
+    }
+    return rows;
+}
+
+std::vector<CatalogueChannel> catalogueChannels(const QString& propertyListPath, const QString& archivePath,
+                                                const SupportedChannelTypes& types, const HasIcon& hasIcon) {
+    const std::optional<Moment> archived = fileModificationDate(archivePath);
+    const std::optional<Moment> supplied = fileModificationDate(propertyListPath);
+    if (archived && supplied && *archived > *supplied) {
+        if (std::optional<std::vector<CatalogueChannel>> channels = channelsOfArchive(archivePath)) {
+            return *std::move(channels);
+        }
+        qWarning().noquote() << "Catalogue: cannot read" << archivePath;
+    }
+    if (std::optional<std::vector<CatalogueRow>> all = rowsOfPropertyList(propertyListPath)) {
+        const std::vector<CatalogueRow> rows = filteredChannels(*std::move(all), types, hasIcon);
+        // An empty result is not archived: when no icon was found at all, the next start tries again.
+        if (!rows.empty() &&
+            !replaceFile(archivePath, archivedData(archiveRoot(rows)), dateOfArchive(supplied))) {
+            qWarning().noquote() << "Catalogue: cannot write" << archivePath;
+        }
+        return channelsOf(rows);
+    }
+    qWarning().noquote() << "Catalogue: cannot read" << propertyListPath;
+    // An old catalogue is better than an empty one, which would cost the user the selection.
+    return channelsOfArchive(archivePath).value_or(std::vector<CatalogueChannel>());
+}
+
+} // namespace guide
