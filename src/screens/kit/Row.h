@@ -1,0 +1,165 @@
+#pragma once
+
+#include "screens/kit/ColorRole.h"
+#include "screens/kit/PictureKey.h"
+#include "screens/kit/RowId.h"
+
+#include <QString>
+#include <QTime>
+
+#include <optional>
+#include <variant>
+#include <vector>
+
+namespace guide {
+
+/// What a row shows at its trailing edge.
+enum class Accessory { None, Disclosure, Play, Spinner };
+
+/// One broadcast. Times and day are in the device's locale and zone; empty texts are not drawn.
+struct ShowRow {
+    QString startTime;
+    QString endTime;
+    QString title;
+    QString details;
+    /// Whether the details may take as many lines as they need, rather than the first few.
+    bool allDetails = false;
+    /// Of the start time: alarm, running, favourite or secondary label.
+    ColorRole timeColor = ColorRole::SecondaryLabel;
+    bool running = false;
+    bool favourite = false;
+    bool alarmed = false;
+    bool popular = false;
+    /// Elapsed share of the show, 0 to 1, while it is running.
+    std::optional<double> progress;
+    /// Leading edge, where channels are mixed.
+    PictureKey channelIcon;
+    /// Trailing edge.
+    PictureKey picture;
+    Accessory accessory = Accessory::None;
+
+    friend bool operator==(const ShowRow&, const ShowRow&) = default;
+};
+
+/// The head of a channel's shows, or a channel to choose.
+struct ChannelRow {
+    QString title;
+    /// For example when the schedule was updated.
+    QString subtitle;
+    PictureKey icon;
+    bool checked = false;
+    Accessory accessory = Accessory::None;
+
+    friend bool operator==(const ChannelRow&, const ChannelRow&) = default;
+};
+
+/// A line of text with what commonly goes with it. A disclosure indicator means that a tap opens a screen.
+struct TextRow {
+    QString title;
+    QString subtitle;
+    /// At the trailing edge, in secondary colour.
+    QString detail;
+    ColorRole titleColor = ColorRole::Label;
+    bool checked = false;
+    Accessory accessory = Accessory::None;
+    PictureKey icon;
+
+    friend bool operator==(const TextRow&, const TextRow&) = default;
+};
+
+struct SwitchRow {
+    QString title;
+    QString subtitle;
+    bool on = false;
+    bool enabled = true;
+
+    friend bool operator==(const SwitchRow&, const SwitchRow&) = default;
+};
+
+/// One of several choices.
+struct ChoiceRow {
+    QString title;
+    std::vector<QString> choices;
+    std::optional<int> chosen;
+    bool enabled = true;
+
+    friend bool operator==(const ChoiceRow&, const ChoiceRow&) = default;
+};
+
+/// A time of day, which a tap opens in a time picker.
+struct TimeRow {
+    QString title;
+    QTime time;
+    bool enabled = true;
+
+    friend bool operator==(const TimeRow&, const TimeRow&) = default;
+};
+
+/// A field to type in. While it has the focus, an update does not replace its text.
+struct InputRow {
+    enum class Kind { Text, URL, Password, Number };
+
+    Kind kind = Kind::Text;
+    QString title;
+    QString text;
+    QString placeholder;
+    /// Shown below the field; empty when what was typed is acceptable.
+    QString error;
+    bool enabled = true;
+
+    friend bool operator==(const InputRow&, const InputRow&) = default;
+};
+
+struct ButtonRow {
+    enum class Style { Plain, Primary, Destructive };
+
+    QString title;
+    Style style = Style::Plain;
+    bool enabled = true;
+
+    friend bool operator==(const ButtonRow&, const ButtonRow&) = default;
+};
+
+/// Work under way; without `fraction` it is not known how far it has come.
+struct ProgressRow {
+    QString title;
+    std::optional<double> fraction;
+
+    friend bool operator==(const ProgressRow&, const ProgressRow&) = default;
+};
+
+/// A picture across the row: the head of a detail page, or a QR code.
+struct PictureRow {
+    enum class Shape { Wide, Square };
+
+    PictureKey picture;
+    Shape shape = Shape::Wide;
+    /// What the picture shows, for people who cannot see it.
+    QString description;
+
+    friend bool operator==(const PictureRow&, const PictureRow&) = default;
+};
+
+using RowContent = std::variant<ShowRow, ChannelRow, TextRow, SwitchRow, ChoiceRow, TimeRow, InputRow,
+                                ButtonRow, ProgressRow, PictureRow>;
+
+/// The alternatives of RowContent, in its order.
+enum class RowKind { Show, Channel, Text, Switch, Choice, Time, Input, Button, Progress, Picture };
+
+struct Row {
+    RowId id;
+    RowContent content;
+    /// Whether a tap does something.
+    bool selectable = false;
+    /// In edit mode.
+    bool deletable = false;
+    bool movable = false;
+
+    RowKind kind() const { return static_cast<RowKind>(content.index()); }
+
+    friend bool operator==(const Row&, const Row&) = default;
+};
+
+static_assert(std::variant_size_v<RowContent> == static_cast<std::size_t>(RowKind::Picture) + 1);
+
+} // namespace guide

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "screens/kit/RowId.h"
+
+#include <QString>
+#include <QTime>
+
+#include <optional>
+#include <variant>
+
+namespace guide {
+
+struct Tapped {};
+struct AccessoryTapped {};
+/// Of a SwitchRow.
+struct Toggled {
+    bool on = false;
+};
+/// Of a ChoiceRow: the number of the choice.
+struct Chosen {
+    int choice = 0;
+};
+/// Of a TimeRow.
+struct TimePicked {
+    QTime time;
+};
+/// Of an InputRow: at each change, and once more with `finished` when the field is left or Enter is pressed.
+struct TextEdited {
+    QString text;
+    bool finished = false;
+};
+/// In edit mode.
+struct Deleted {};
+/// In edit mode: the row is to come before `next`, or to the end of its section.
+struct MovedBefore {
+    std::optional<RowId> next;
+};
+
+using RowEvent =
+    std::variant<Tapped, AccessoryTapped, Toggled, Chosen, TimePicked, TextEdited, Deleted, MovedBefore>;
+
+} // namespace guide
