@@ -6,15 +6,17 @@
 
 namespace guide {
 
-/// One button of the navigation bar; an activity indicator is one that cannot be pressed.
+/// A button of the navigation bar.
 struct BarButton {
+    /// What is drawn: the title, a symbol, or an indicator of work under way.
     enum class Kind { Title, Refresh, Play, Activity };
 
     Kind kind = Kind::Title;
-    /// What it is called, also where a picture stands for it.
+    /// Also the accessible name of a symbol.
     QString title;
-    /// Main queue; null for an activity indicator.
+    /// Main queue; null for an indicator.
     std::function<void()> action;
+    bool enabled = true;
 };
 
 } // namespace guide

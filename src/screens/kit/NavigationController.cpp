@@ -4,7 +4,8 @@
 
 namespace guide {
 
-NavigationController::NavigationController(std::shared_ptr<ViewController> root) {
+NavigationController::NavigationController(std::shared_ptr<ViewController> root, UserInterfaceIdiom idiom)
+    : m_idiom(idiom) {
     root->m_navigationController = this;
     m_stack.push_back(std::move(root));
 }
@@ -15,7 +16,24 @@ NavigationController::~NavigationController() {
     }
 }
 
+void NavigationController::show(std::shared_ptr<ViewController> viewController, Presentation presentation,
+                                const Anchor& anchor) {
+    if (presentation == Presentation::Push ||
+        (presentation == Presentation::Popover && m_idiom == UserInterfaceIdiom::Phone)) {
+        push(std::move(viewController));
+        return;
+    }
+    dismissPresented();
+    m_presented = std::make_unique<NavigationController>(std::move(viewController), m_idiom);
+    m_presented->m_presenter = this;
+    m_presented->setVisible(m_visible);
+    if (m_observer) {
+        m_observer->presented(presentation, anchor);
+    }
+}
+
 void NavigationController::push(std::shared_ptr<ViewController> viewController) {
+    dismissPresented();
     const std::shared_ptr<ViewController> covered = topViewController();
     viewController->m_navigationController = this;
     m_stack.push_back(std::move(viewController));
@@ -39,6 +57,7 @@ void NavigationController::popToRoot() {
 }
 
 void NavigationController::popTo(std::size_t count) {
+    dismissPresented();
     if (count < 1 || count >= m_stack.size()) {
         return;
     }
@@ -59,6 +78,24 @@ void NavigationController::popTo(std::size_t count) {
     }
 }
 
+void NavigationController::dismiss() {
+    if (m_presented) {
+        dismissPresented();
+    } else if (m_presenter) {
+        m_presenter->dismissPresented();
+    }
+}
+
+void NavigationController::dismissPresented() {
+    if (const std::unique_ptr<NavigationController> gone = std::move(m_presented)) {
+        if (m_observer) {
+            m_observer->dismissed();
+        }
+        gone->dismissPresented();
+        gone->setVisible(false);
+    }
+}
+
 void NavigationController::setVisible(bool visible) {
     if (visible == m_visible) {
         return;
@@ -69,6 +106,9 @@ void NavigationController::setVisible(bool visible) {
         top->appear();
     } else {
         top->disappear();
+    }
+    if (m_presented) {
+        m_presented->setVisible(visible);
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Device.h"
+#include "screens/kit/Presentation.h"
 #include "screens/kit/ViewController.h"
 
 #include <memory>
@@ -12,36 +14,55 @@ class NavigationObserver {
     virtual ~NavigationObserver() = default;
     /// A screen was put on top of the stack.
     virtual void pushed() = 0;
-    /// So many screens were taken from the top.
+    /// `count` screens were taken from the top.
     virtual void popped(int count) = 0;
+    /// A popover or a sheet was opened over the stack: presentedStack() holds it.
+    virtual void presented(Presentation presentation, const Anchor& anchor) = 0;
+    /// The popover or sheet is closed: presentedStack() is null. The stack that it showed lives until the
+    /// call returns.
+    virtual void dismissed() = 0;
 };
 
-/// A stack of screens, of which the top one shows. There is always one. Main queue.
+/// A stack of screens, never empty, of which the top one is visible. It can present a second stack in a
+/// popover or a sheet, whose screens push within it. Main queue.
 class NavigationController {
   public:
-    explicit NavigationController(std::shared_ptr<ViewController> root);
+    NavigationController(std::shared_ptr<ViewController> root, UserInterfaceIdiom idiom);
     NavigationController(const NavigationController&) = delete;
     NavigationController& operator=(const NavigationController&) = delete;
     ~NavigationController();
 
     const std::vector<std::shared_ptr<ViewController>>& viewControllers() const { return m_stack; }
     const std::shared_ptr<ViewController>& topViewController() const { return m_stack.back(); }
+    /// Null when nothing is presented.
+    NavigationController* presentedStack() const { return m_presented.get(); }
 
+    /// One observer at a time. It must outlive the controller or be unregistered with nullptr.
     void setObserver(NavigationObserver* observer) { m_observer = observer; }
 
+    void show(std::shared_ptr<ViewController> viewController, Presentation presentation,
+              const Anchor& anchor = {});
     void push(std::shared_ptr<ViewController> viewController);
     /// Does nothing on the root.
     void pop();
     void popToRoot();
+    /// Closes what this stack presents; when it presents nothing and is itself presented, closes this stack,
+    /// which is destroyed by it.
+    void dismiss();
 
-    /// Whether the stack is on show: the top screen appears and disappears with it.
+    /// The top screen, and what is presented, appear and disappear with the stack.
     void setVisible(bool visible);
 
   private:
     void popTo(std::size_t count);
+    void dismissPresented();
 
     std::vector<std::shared_ptr<ViewController>> m_stack;
+    const UserInterfaceIdiom m_idiom;
     bool m_visible = false;
+    std::unique_ptr<NavigationController> m_presented;
+    /// The stack that presents this one.
+    NavigationController* m_presenter = nullptr;
     NavigationObserver* m_observer = nullptr;
 };
 

@@ -2,8 +2,6 @@
 
 #include <QString>
 
-#include <tuple>
-
 namespace guide {
 
 /// Names a picture without holding its pixels. ui/ resolves keys through an image provider, so that comparing
@@ -15,7 +13,7 @@ struct PictureKey {
         ChannelIcon,
         /// A show's picture; `name` is the key under which ShowPictureCache holds it.
         Show,
-        /// A picture that belongs to the program; `name` is its file name.
+        /// A picture that is part of the program; `name` is its file name.
         Bundled,
         /// A QR code; `name` is the encoded text.
         QRCode,

@@ -7,7 +7,9 @@
 #include <QString>
 #include <QTime>
 
+#include <cstddef>
 #include <optional>
+#include <type_traits>
 #include <variant>
 #include <vector>
 
@@ -146,6 +148,19 @@ using RowContent = std::variant<ShowRow, ChannelRow, TextRow, SwitchRow, ChoiceR
 /// The alternatives of RowContent, in its order.
 enum class RowKind { Show, Channel, Text, Switch, Choice, Time, Input, Button, Progress, Picture };
 
+/// None for a kind that has no accessory.
+inline Accessory accessoryOf(const RowContent& content) {
+    return std::visit(
+        [](const auto& each) {
+            if constexpr (requires { each.accessory; }) {
+                return each.accessory;
+            } else {
+                return Accessory::None;
+            }
+        },
+        content);
+}
+
 struct Row {
     RowId id;
     RowContent content;
@@ -160,6 +175,19 @@ struct Row {
     friend bool operator==(const Row&, const Row&) = default;
 };
 
+template <RowKind kind>
+using RowContentOf = std::variant_alternative_t<static_cast<std::size_t>(kind), RowContent>;
+
 static_assert(std::variant_size_v<RowContent> == static_cast<std::size_t>(RowKind::Picture) + 1);
+static_assert(std::is_same_v<RowContentOf<RowKind::Show>, ShowRow> &&
+              std::is_same_v<RowContentOf<RowKind::Channel>, ChannelRow> &&
+              std::is_same_v<RowContentOf<RowKind::Text>, TextRow> &&
+              std::is_same_v<RowContentOf<RowKind::Switch>, SwitchRow> &&
+              std::is_same_v<RowContentOf<RowKind::Choice>, ChoiceRow> &&
+              std::is_same_v<RowContentOf<RowKind::Time>, TimeRow> &&
+              std::is_same_v<RowContentOf<RowKind::Input>, InputRow> &&
+              std::is_same_v<RowContentOf<RowKind::Button>, ButtonRow> &&
+              std::is_same_v<RowContentOf<RowKind::Progress>, ProgressRow> &&
+              std::is_same_v<RowContentOf<RowKind::Picture>, PictureRow>);
 
 } // namespace guide

@@ -6,7 +6,7 @@
 namespace guide {
 
 void TabBarController::addTab(TabBarItem item, std::shared_ptr<ViewController> root) {
-    m_tabs.push_back({std::move(item), std::make_unique<NavigationController>(std::move(root))});
+    m_tabs.push_back({std::move(item), std::make_unique<NavigationController>(std::move(root), m_idiom)});
 }
 
 NavigationController& TabBarController::selectedNavigationController() const {
@@ -109,6 +109,49 @@ void TabBarController::answerAlert(std::size_t action) {
     }
     if (chosen) {
         chosen();
+    }
+}
+
+void TabBarController::presentNotice(Notice notice) {
+    m_notices.push_back(std::move(notice));
+    if (m_notices.size() == 1) {
+        startNotice();
+    }
+}
+
+const Notice* TabBarController::presentedNotice() const {
+    return m_notices.empty() ? nullptr : &m_notices.front();
+}
+
+void TabBarController::pressNoticeAction() {
+    if (!m_notices.empty()) {
+        const std::function<void()> action = std::move(m_notices.front().action);
+        dismissNotice();
+        if (action) {
+            action();
+        }
+    }
+}
+
+void TabBarController::dismissNotice() {
+    if (!m_notices.empty()) {
+        m_notices.pop_front();
+        startNotice();
+    }
+}
+
+void TabBarController::startNotice() {
+    m_noticeShown.reset();
+    if (!m_notices.empty()) {
+        m_noticeShown = std::make_shared<const bool>(true);
+        m_mainQueue.asyncAfter(kNoticeTime, [this, shown = std::weak_ptr(m_noticeShown)] {
+            if (!shown.expired()) {
+                dismissNotice();
+            }
+        });
+    }
+    if (m_observer) {
+        m_observer->noticeChanged();
     }
 }
 

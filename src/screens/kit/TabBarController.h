@@ -1,10 +1,13 @@
 #pragma once
 
+#include "platform/DispatchQueue.h"
 #include "screens/kit/Alert.h"
 #include "screens/kit/NavigationController.h"
+#include "screens/kit/Notice.h"
 
 #include <QString>
 
+#include <chrono>
 #include <deque>
 #include <memory>
 #include <vector>
@@ -20,7 +23,7 @@ struct TabBarItem {
     bool enabled = true;
     /// Empty for none.
     QString badgeValue = {};
-    /// What stands on the tab where tabs are narrow; empty for the title.
+    /// Replaces the title where tabs are narrow; empty for the title.
     QString shortTitle = {};
 };
 
@@ -30,11 +33,14 @@ class TabBarObserver {
     /// A tab was enabled or disabled, or its badge changed.
     virtual void tabBarItemChanged(int index) = 0;
     virtual void selectedTabChanged() = 0;
-    /// Another alert, or none, is to be shown.
+    /// presentedAlert() is another one.
     virtual void alertChanged() = 0;
+    /// presentedNotice() is another one.
+    virtual void noticeChanged() = 0;
 };
 
-/// The root of the screens: tabs, each a stack of screens, and the alerts before them. Main queue.
+/// The root of the screens: tabs, each with a stack of screens, and the alerts and notices over them. Main
+/// queue.
 class TabBarController {
   public:
     struct Tab {
@@ -42,7 +48,11 @@ class TabBarController {
         std::unique_ptr<NavigationController> navigationController;
     };
 
-    TabBarController() = default;
+    static constexpr std::chrono::seconds kNoticeTime{8};
+
+    TabBarController(UserInterfaceIdiom idiom, DispatchQueue& mainQueue)
+        : m_idiom(idiom)
+        , m_mainQueue(mainQueue) {}
     TabBarController(const TabBarController&) = delete;
     TabBarController& operator=(const TabBarController&) = delete;
 
@@ -68,21 +78,36 @@ class TabBarController {
     /// Selects the last tab and disables the others: while no channel is selected.
     void disableTabs();
 
-    /// The window is there: the selected tab's screen loads and appears.
+    /// To be called when the window opens: the selected tab's screen loads and appears.
     void makeVisible();
 
-    /// Shows the alert, behind those that are already waiting.
+    /// Shows the alert after those that are already waiting.
     void presentAlert(Alert alert);
     /// Null when there is none.
     const Alert* presentedAlert() const;
-    /// Takes the alert away and runs the action of that number.
+    /// Closes the alert and runs the action of that number.
     void answerAlert(std::size_t action);
 
+    /// Shows the notice for kNoticeTime, after those that are already waiting.
+    void presentNotice(Notice notice);
+    /// Null when there is none.
+    const Notice* presentedNotice() const;
+    /// Closes the notice and runs its action.
+    void pressNoticeAction();
+    void dismissNotice();
+
   private:
+    void startNotice();
+
+    const UserInterfaceIdiom m_idiom;
+    DispatchQueue& m_mainQueue;
     std::vector<Tab> m_tabs;
     int m_selectedIndex = 0;
     bool m_visible = false;
     std::deque<Alert> m_alerts;
+    std::deque<Notice> m_notices;
+    /// Expires with the presented notice, so that its timer does not close a later one.
+    std::shared_ptr<const bool> m_noticeShown;
     TabBarObserver* m_observer = nullptr;
 };
 

@@ -1,103 +1,344 @@
 #include "screens/kit/Table.h"
 
+#include "screens/kit/TableChanges.h"
+
+#include <QDebug>
+
 #include <algorithm>
+#include <tuple>
+#include <unordered_set>
 #include <utility>
 
 namespace guide {
 
-int Table::rowCount(int section) const {
-    const auto index = static_cast<std::size_t>(section);
-    return section >= 0 && index < m_sections.size() ? static_cast<int>(m_sections[index].rows.size()) : 0;
+namespace {
+
+bool sameRow(const Row& one, const Row& other) {
+    return one.kind() == other.kind() && one.id == other.id;
 }
 
-const Row* Table::row(IndexPath path) const {
-    if (path.row < 0 || path.row >= rowCount(path.section)) {
-        return nullptr;
+// Of rows that are the same row.
+bool sameContent(const Row& one, const Row& other) {
+    return one.selectable == other.selectable && one.deletable == other.deletable &&
+           one.movable == other.movable && one.content == other.content;
+}
+
+bool sameHeading(const Section& one, const Section& other) {
+    return one.header == other.header && one.footer == other.footer && one.indexTitle == other.indexTitle &&
+           one.layout == other.layout;
+}
+
+} // namespace
+
+/// Tells the observer of the steps of one change, the first of them after tableWillChange.
+class Table::Announcement {
+  public:
+    explicit Announcement(Table& table)
+        : m_table(table) {}
+    Announcement(const Announcement&) = delete;
+    Announcement& operator=(const Announcement&) = delete;
+    ~Announcement() {
+        if (m_begun && m_table.m_observer) {
+            m_table.m_observer->tableDidChange();
+        }
     }
-    return &m_sections[static_cast<std::size_t>(path.section)].rows[static_cast<std::size_t>(path.row)];
+
+    template <class... Parameters, class... Args>
+    void tell(void (TableObserver::*step)(Parameters...), Args... args) {
+        if (!m_table.m_observer) {
+            return;
+        }
+        if (!std::exchange(m_begun, true)) {
+            m_table.m_observer->tableWillChange();
+        }
+        (m_table.m_observer->*step)(args...);
+    }
+
+  private:
+    Table& m_table;
+    bool m_begun = false;
+};
+
+// ---- rows by their ids
+
+const RowIndex& Table::index() const {
+    if (m_index.empty()) {
+        m_index.reserve(m_lines.size());
+        for (int place = 0; place < rowCount(); ++place) {
+            m_index.insert(place, [this](int each) -> const RowId& { return idAt(each); });
+        }
+    }
+    return m_index;
 }
 
-void Table::reload(std::vector<Section> sections) {
-    m_sections = std::move(sections);
-    if (m_selectedRow && !row(*m_selectedRow)) {
+std::optional<int> Table::indexOf(const RowId& id) const {
+    if (m_changing && m_index.empty()) {
+        const auto found = std::find_if(m_lines.begin(), m_lines.end(),
+                                        [&id](const Line& each) { return each.row->id == id; });
+        return found == m_lines.end() ? std::nullopt
+                                      : std::optional(static_cast<int>(found - m_lines.begin()));
+    }
+    return index().find(id, [this](int place) -> const RowId& { return idAt(place); });
+}
+
+const Row* Table::find(const RowId& id) const {
+    const std::optional<int> place = indexOf(id);
+    return place ? &rowAt(*place) : nullptr;
+}
+
+// ---- changes
+
+void Table::setSections(std::vector<Section> sections) {
+    if (m_changing) {
+        m_waiting = std::move(sections);
+        return;
+    }
+    m_changing = true;
+    changeTo(std::move(sections));
+    while (m_waiting) {
+        changeTo(*std::exchange(m_waiting, std::nullopt));
+    }
+    m_changing = false;
+}
+
+void Table::setRows(const SectionId& section, std::vector<Row> rows) {
+    std::vector<Section> sections = latestSections();
+    const auto found = std::find_if(sections.begin(), sections.end(),
+                                    [&section](const Section& each) { return each.id == section; });
+    if (found != sections.end()) {
+        found->rows = std::move(rows);
+        setSections(std::move(sections));
+    }
+}
+
+void Table::setRow(Row row) {
+    if (!m_changing) {
+        const std::optional<int> place = indexOf(row.id);
+        if (!place) {
+            return;
+        }
+        if (rowAt(*place).kind() == row.kind()) {
+            if (!sameContent(rowAt(*place), row)) {
+                m_changing = true;
+                *line(*place).row = std::move(row);
+                Announcement(*this).tell(&TableObserver::rowsUpdated, *place, 1);
+                m_changing = false;
+                if (m_waiting) {
+                    setSections(*std::exchange(m_waiting, std::nullopt));
+                }
+            }
+            return;
+        }
+    }
+    std::vector<Section> sections = latestSections();
+    for (Section& section : sections) {
+        for (Row& each : section.rows) {
+            if (each.id == row.id) {
+                each = std::move(row);
+                setSections(std::move(sections));
+                return;
+            }
+        }
+    }
+}
+
+std::vector<Table::Line> Table::linesOf(std::vector<Section>& sections) {
+    std::size_t count = 0;
+    for (const Section& section : sections) {
+        count += section.rows.size();
+    }
+    std::vector<Line> lines;
+    lines.reserve(count);
+    for (Section& section : sections) {
+        for (Row& row : section.rows) {
+            lines.push_back({&section, &row});
+        }
+    }
+    return lines;
+}
+
+bool Table::dropDuplicates(std::vector<Section>& sections, const std::vector<Line>& lines, RowIndex& index) {
+    index.reserve(lines.size());
+    std::unordered_set<const Row*> duplicates;
+    for (std::size_t place = 0; place < lines.size(); ++place) {
+        if (index.insert(static_cast<int>(place), [&lines](int each) -> const RowId& {
+                return lines[static_cast<std::size_t>(each)].row->id;
+            })) {
+            duplicates.insert(lines[place].row);
+        }
+    }
+    if (duplicates.empty()) {
+        return false;
+    }
+    qWarning() << "Table: dropped" << duplicates.size() << "rows whose ids occur twice";
+    for (Section& section : sections) {
+        std::erase_if(section.rows, [&duplicates](const Row& row) { return duplicates.contains(&row); });
+    }
+    return true;
+}
+
+std::pair<int, int> Table::commonEnds(const std::vector<Line>& lines) const {
+    const auto same = [](const Line& one, const Line& other) { return sameRow(*one.row, *other.row); };
+    const auto prefix =
+        std::mismatch(m_lines.begin(), m_lines.end(), lines.begin(), lines.end(), same).first -
+        m_lines.begin();
+    const auto suffix =
+        std::mismatch(m_lines.rbegin(), m_lines.rend() - prefix, lines.rbegin(), lines.rend() - prefix, same)
+            .first -
+        m_lines.rbegin();
+    return {static_cast<int>(prefix), static_cast<int>(suffix)};
+}
+
+void Table::changeTo(std::vector<Section> sections) {
+    std::vector<Line> lines = linesOf(sections);
+    RowIndex index;
+    auto [prefix, suffix] = commonEnds(lines);
+    // Rows that match old ones have ids of which there is only one.
+    const bool allMatch = static_cast<std::size_t>(prefix + suffix) == lines.size();
+    if (!allMatch && dropDuplicates(sections, lines, index)) {
+        lines = linesOf(sections);
+        index.clear();
+        std::tie(prefix, suffix) = commonEnds(lines);
+    }
+    // The old sections live until no line points to them.
+    const std::vector<Section> old = std::exchange(m_sections, std::move(sections));
+    follow(std::move(lines), std::move(index), prefix, suffix);
+}
+
+TableChanges Table::changesTo(const std::vector<Line>& lines, int prefix, int suffix) const {
+    const int oldCount = rowCount() - prefix - suffix;
+    std::vector<int> oldPlaces(lines.size() - static_cast<std::size_t>(prefix + suffix), -1);
+    if (oldCount > 0 && !oldPlaces.empty()) {
+        const RowIndex& known = index();
+        for (std::size_t place = 0; place < oldPlaces.size(); ++place) {
+            const Row& row = *lines[place + static_cast<std::size_t>(prefix)].row;
+            const auto old = known.find(row.id, [this](int each) -> const RowId& { return idAt(each); });
+            if (old && sameRow(rowAt(*old), row)) {
+                oldPlaces[place] = *old - prefix;
+            }
+        }
+    }
+    return tableChanges(oldCount, std::move(oldPlaces));
+}
+
+void Table::follow(std::vector<Line> lines, RowIndex index, int prefix, int suffix) {
+    Announcement announcement(*this);
+    const bool sameRows = static_cast<std::size_t>(prefix) == lines.size() && lines.size() == m_lines.size();
+    if (!sameRows) {
+        const TableChanges changes = changesTo(lines, prefix, suffix);
+        m_index.clear();
+        apply(changes, lines, prefix, announcement);
+        m_index = std::move(index);
+    }
+    updateLines(lines, announcement);
+    if (m_selectedRow && !sameRows && !indexOf(*m_selectedRow)) {
         m_selectedRow.reset();
-    }
-    if (m_observer) {
-        m_observer->tableReloaded();
+        announcement.tell(&TableObserver::rowSelectionChanged, std::nullopt, std::nullopt);
     }
 }
 
-void Table::updateSection(int section, std::vector<Row> rows) {
-    if (section < 0 || static_cast<std::size_t>(section) >= m_sections.size()) {
-        return;
+void Table::apply(const TableChanges& changes, const std::vector<Line>& lines, int offset,
+                  Announcement& announcement) {
+    const auto begin = [this, offset] { return m_lines.begin() + offset; };
+    for (const TableChanges::Run& run : changes.removals) {
+        announcement.tell(&TableObserver::rowsWillBeRemoved, offset + run.first, run.count);
+        m_lines.erase(begin() + run.first, begin() + run.first + run.count);
+        announcement.tell(&TableObserver::rowsRemoved);
     }
-    std::vector<Row>& old = m_sections[static_cast<std::size_t>(section)].rows;
-    const std::size_t before = old.size();
-    const std::size_t after = rows.size();
-    if (after < before) {
-        old.resize(after);
-        if (m_selectedRow && !row(*m_selectedRow)) {
-            m_selectedRow.reset();
-        }
-        if (m_observer) {
-            m_observer->rowsRemoved(section, static_cast<int>(after), static_cast<int>(before - after));
-        }
+    for (const TableChanges::Move& move : changes.moves) {
+        announcement.tell(&TableObserver::rowWillMove, offset + move.from, offset + move.to);
+        const Line moved = *(begin() + move.from);
+        m_lines.erase(begin() + move.from);
+        m_lines.insert(begin() + move.to, moved);
+        announcement.tell(&TableObserver::rowMoved);
     }
-    const std::size_t common = std::min(before, after);
-    for (std::size_t first = 0; first < common;) {
-        std::size_t end = first;
-        while (end < common && !(old[end] == rows[end])) {
-            old[end] = std::move(rows[end]);
-            ++end;
-        }
-        if (end > first && m_observer) {
-            m_observer->rowsReloaded(section, static_cast<int>(first), static_cast<int>(end - first));
-        }
-        first = end + 1;
-    }
-    if (after > before) {
-        std::move(rows.begin() + static_cast<std::ptrdiff_t>(before), rows.end(), std::back_inserter(old));
-        if (m_observer) {
-            m_observer->rowsInserted(section, static_cast<int>(before), static_cast<int>(after - before));
-        }
+    for (const TableChanges::Run& run : changes.insertions) {
+        announcement.tell(&TableObserver::rowsWillBeInserted, offset + run.first, run.count);
+        const auto first = lines.begin() + offset + run.first;
+        m_lines.insert(begin() + run.first, first, first + run.count);
+        announcement.tell(&TableObserver::rowsInserted);
     }
 }
 
-void Table::reloadRow(IndexPath path, Row row) {
-    if (!this->row(path)) {
-        return;
+void Table::updateLines(const std::vector<Line>& lines, Announcement& announcement) {
+    std::vector<TableChanges::Run> updatedSections;
+    // The pair of sections compared last.
+    Line before{nullptr, nullptr};
+    Line after{nullptr, nullptr};
+    bool headingChanged = false;
+    // Whether the content changed.
+    const auto replaceLine = [&](std::size_t place) {
+        Line& line = m_lines[place];
+        if (line.section != before.section || lines[place].section != after.section) {
+            before = line;
+            after = lines[place];
+            headingChanged = !sameHeading(*before.section, *after.section);
+        }
+        if (headingChanged) {
+            const int row = static_cast<int>(place);
+            if (updatedSections.empty() ||
+                updatedSections.back().first + updatedSections.back().count != row) {
+                updatedSections.push_back({row, 0});
+            }
+            ++updatedSections.back().count;
+        }
+        const Line old = std::exchange(line, lines[place]);
+        return !sameContent(*old.row, *line.row);
+    };
+    for (std::size_t first = 0; first < lines.size(); ++first) {
+        const std::size_t begin = first;
+        while (first < lines.size() && replaceLine(first)) {
+            ++first;
+        }
+        if (first > begin) {
+            announcement.tell(&TableObserver::rowsUpdated, static_cast<int>(begin),
+                              static_cast<int>(first - begin));
+        }
     }
-    m_sections[static_cast<std::size_t>(path.section)].rows[static_cast<std::size_t>(path.row)] =
-        std::move(row);
-    if (m_observer) {
-        m_observer->rowsReloaded(path.section, path.row, 1);
+    for (const TableChanges::Run& run : updatedSections) {
+        announcement.tell(&TableObserver::sectionsUpdated, run.first, run.count);
     }
 }
 
-void Table::selectRow(IndexPath path) {
-    if (row(path) && m_selectedRow != path) {
-        m_selectedRow = path;
+// ---- selection, editing, note
+
+void Table::selectRow(const RowId& id) {
+    const std::optional<int> place = indexOf(id);
+    if (place && m_selectedRow != id) {
+        const std::optional<int> before = m_selectedRow ? indexOf(*m_selectedRow) : std::nullopt;
+        m_selectedRow = id;
         if (m_observer) {
-            m_observer->rowSelectionChanged();
+            m_observer->rowSelectionChanged(before, place);
         }
     }
 }
 
 void Table::deselectRow() {
     if (m_selectedRow) {
+        const std::optional<int> before = indexOf(*m_selectedRow);
         m_selectedRow.reset();
         if (m_observer) {
-            m_observer->rowSelectionChanged();
+            m_observer->rowSelectionChanged(before, std::nullopt);
+        }
+    }
+}
+
+void Table::setEditing(bool editing) {
+    if (editing != m_editing) {
+        m_editing = editing;
+        if (m_observer) {
+            m_observer->editingChanged();
         }
     }
 }
 
 void Table::setEmptyNote(std::optional<EmptyNote> note) {
-    if (note != m_emptyNote) {
-        m_emptyNote = std::move(note);
-        if (m_observer) {
-            m_observer->emptyNoteChanged();
-        }
+    const bool same = note.has_value() == m_emptyNote.has_value() &&
+                      (!note || (note->title == m_emptyNote->title && note->message == m_emptyNote->message &&
+                                 note->buttonTitle == m_emptyNote->buttonTitle));
+    m_emptyNote = std::move(note);
+    if (m_observer && !same) {
+        m_observer->emptyNoteChanged();
     }
 }
 

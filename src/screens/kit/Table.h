@@ -2,29 +2,32 @@
 
 #include "screens/kit/Content.h"
 #include "screens/kit/Row.h"
+#include "screens/kit/RowIndex.h"
 
 #include <QString>
 
 #include <cstddef>
 #include <functional>
 #include <optional>
-#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace guide {
+
+struct TableChanges;
 
 enum class SectionLayout { List, Tiles };
 
 /// A group of rows with a heading. Empty texts are not drawn; a section without rows is not drawn at all.
 struct Section {
     SectionId id;
-    QString header;
+    QString header = {};
     /// An explanation below the rows.
-    QString footer;
+    QString footer = {};
     /// The section's mark in the index strip, one or two characters.
-    QString indexTitle;
+    QString indexTitle = {};
     SectionLayout layout = SectionLayout::List;
-    std::vector<Row> rows;
+    std::vector<Row> rows = {};
 };
 
 /// What a table without rows says instead: why there is nothing, and a button that leads on.
@@ -55,11 +58,12 @@ class TableObserver {
     virtual void rowMoved() = 0;
     virtual void rowsWillBeInserted(int first, int count) = 0;
     virtual void rowsInserted() = 0;
-    /// Their content is another one; id and kind are the same.
+    /// Their content changed; id and kind are the same.
     virtual void rowsUpdated(int first, int count) = 0;
     /// Header, footer, index title or layout of the rows' sections changed.
     virtual void sectionsUpdated(int first, int count) = 0;
 
+    /// The places of the row that was selected, if it is still there, and of the one that is.
     virtual void rowSelectionChanged(std::optional<int> before, std::optional<int> after) = 0;
     virtual void emptyNoteChanged() = 0;
     virtual void editingChanged() = 0;
@@ -70,14 +74,16 @@ class Table final : public Content {
   public:
     ContentKind kind() const override { return ContentKind::Table; }
 
+    /// The sections that were set last, also while their changes are being announced.
     const std::vector<Section>& sections() const { return m_sections; }
 
     // ---- the rows as one list
 
     int rowCount() const { return static_cast<int>(m_lines.size()); }
-    const Row& rowAt(int index) const { return *m_lines[static_cast<std::size_t>(index)].row; }
+    const Row& rowAt(int index) const { return *line(index).row; }
     /// While changes are being announced this may be a section of before.
-    const Section& sectionAt(int index) const { return *m_lines[static_cast<std::size_t>(index)].section; }
+    const Section& sectionAt(int index) const { return *line(index).section; }
+    /// Constant time, except while changes are being announced.
     std::optional<int> indexOf(const RowId& id) const;
     /// Null when there is no such row.
     const Row* find(const RowId& id) const;
@@ -86,7 +92,8 @@ class Table final : public Content {
     void setObserver(TableObserver* observer) { m_observer = observer; }
 
     /// Replaces all sections and announces the difference: rows are matched by id and kind. Ids are unique;
-    /// of rows with equal ids only the first is kept. The selection stays while its row does.
+    /// of rows with equal ids only the first is kept. The selection stays while its row does. When called
+    /// from an observer that is being told of changes, it takes effect after them.
     void setSections(std::vector<Section> sections);
     /// Replaces the rows of one section. Does nothing when there is no such section.
     void setRows(const SectionId& section, std::vector<Row> rows);
@@ -106,11 +113,39 @@ class Table final : public Content {
   private:
     struct Line {
         const Section* section;
-        const Row* row;
+        Row* row;
     };
+    class Announcement;
+
+    const Line& line(int index) const { return m_lines[static_cast<std::size_t>(index)]; }
+    const RowId& idAt(int index) const { return line(index).row->id; }
+    static std::vector<Line> linesOf(std::vector<Section>& sections);
+    /// The sections that a change of some rows starts from.
+    const std::vector<Section>& latestSections() const { return m_waiting ? *m_waiting : m_sections; }
+
+    /// Fills the index of the lines; whether rows were dropped, and the lines and the index with them.
+    static bool dropDuplicates(std::vector<Section>& sections, const std::vector<Line>& lines,
+                               RowIndex& index);
+    void changeTo(std::vector<Section> sections);
+    /// How many rows at the beginning and at the end are the same as now.
+    std::pair<int, int> commonEnds(const std::vector<Line>& lines) const;
+    /// Announces and makes the steps from the present lines to `lines`.
+    void follow(std::vector<Line> lines, RowIndex index, int prefix, int suffix);
+    TableChanges changesTo(const std::vector<Line>& lines, int prefix, int suffix) const;
+    void apply(const TableChanges& changes, const std::vector<Line>& lines, int offset,
+               Announcement& announcement);
+    void updateLines(const std::vector<Line>& lines, Announcement& announcement);
+    const RowIndex& index() const;
 
     std::vector<Section> m_sections;
+    /// All rows of the sections in their order. Between setSections and the last announcement, some are
+    /// still those of before.
     std::vector<Line> m_lines;
+    /// Of the lines; empty until it is needed.
+    mutable RowIndex m_index;
+    bool m_changing = false;
+    /// What an observer set while changes were being announced.
+    std::optional<std::vector<Section>> m_waiting;
     std::optional<RowId> m_selectedRow;
     std::optional<EmptyNote> m_emptyNote;
     bool m_editing = false;

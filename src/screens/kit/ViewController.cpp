@@ -5,33 +5,25 @@
 
 namespace guide {
 
-void ViewController::tapRow(IndexPath path) {
-    const Row* row = m_table.row(path);
-    if (row && row->selectable) {
-        m_table.selectRow(path);
-        didSelectRow(path);
-    } else if (row && row->accessory == Accessory::Play) {
-        didTapAccessory(path);
-    }
-}
+namespace {
 
-void ViewController::tapAccessory(IndexPath path) {
-    if (m_table.row(path)) {
-        didTapAccessory(path);
-    }
-}
-
-std::vector<SwipeAction> ViewController::swipeActions(IndexPath path) {
-    return m_table.row(path) ? swipeActionsForRow(path) : std::vector<SwipeAction>();
-}
-
-void ViewController::pressBarButton(std::size_t index) {
-    if (index < m_rightBarButtons.size()) {
+void press(const std::vector<BarButton>& buttons, std::size_t index) {
+    if (index < buttons.size() && buttons[index].enabled) {
         // A copy: the action may replace the buttons.
-        if (const std::function<void()> action = m_rightBarButtons[index].action) {
+        if (const std::function<void()> action = buttons[index].action) {
             action();
         }
     }
+}
+
+} // namespace
+
+void ViewController::pressLeftBarButton(std::size_t index) {
+    press(m_leftBarButtons, index);
+}
+
+void ViewController::pressRightBarButton(std::size_t index) {
+    press(m_rightBarButtons, index);
 }
 
 void ViewController::pullToRefresh() {
@@ -41,9 +33,20 @@ void ViewController::pullToRefresh() {
     }
 }
 
-void ViewController::willDisplayRow(IndexPath path) {
-    if (m_table.row(path)) {
-        rowWillBeDisplayed(path);
+void ViewController::editSearchText(const QString& text) {
+    if (m_searchField && m_searchField->text != text) {
+        m_searchField->text = text;
+        searchTextEdited(text);
+    }
+}
+
+void ViewController::cancelSearch() {
+    if (m_searchField && !m_searchField->text.isEmpty()) {
+        m_searchField->text.clear();
+        if (m_observer) {
+            m_observer->searchFieldChanged();
+        }
+        searchTextEdited({});
     }
 }
 
@@ -73,6 +76,13 @@ void ViewController::setTitle(QString title) {
     }
 }
 
+void ViewController::setLeftBarButtons(std::vector<BarButton> buttons) {
+    m_leftBarButtons = std::move(buttons);
+    if (m_observer) {
+        m_observer->barButtonsChanged();
+    }
+}
+
 void ViewController::setRightBarButtons(std::vector<BarButton> buttons) {
     m_rightBarButtons = std::move(buttons);
     if (m_observer) {
@@ -86,6 +96,22 @@ void ViewController::setRefreshing(bool refreshing) {
         if (m_observer) {
             m_observer->refreshingChanged();
         }
+    }
+}
+
+void ViewController::setProgress(std::optional<Progress> progress) {
+    if (progress != m_progress) {
+        m_progress = progress;
+        if (m_observer) {
+            m_observer->progressChanged();
+        }
+    }
+}
+
+void ViewController::setSearchField(std::optional<SearchField> searchField) {
+    m_searchField = std::move(searchField);
+    if (m_observer) {
+        m_observer->searchFieldChanged();
     }
 }
 

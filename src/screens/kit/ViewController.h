@@ -1,28 +1,45 @@
 #pragma once
 
 #include "screens/kit/BarButton.h"
-#include "screens/kit/Table.h"
+#include "screens/kit/Content.h"
 
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace guide {
 
 class NavigationController;
 
-/// Follows what stands around a screen's table.
+/// The search field below a screen's title.
+struct SearchField {
+    QString placeholder;
+    QString text = {};
+};
+
+/// The thin bar under a screen's title while something is under way.
+struct Progress {
+    /// 0 to 1; empty while it is not known.
+    std::optional<double> fraction = {};
+
+    friend bool operator==(const Progress&, const Progress&) = default;
+};
+
+/// Follows everything of a screen but its content.
 class ViewControllerObserver {
   public:
     virtual ~ViewControllerObserver() = default;
     virtual void titleChanged() = 0;
     virtual void barButtonsChanged() = 0;
-    /// Whether the screen is refreshing what it shows.
     virtual void refreshingChanged() = 0;
+    virtual void progressChanged() = 0;
+    /// Not called for what the user types.
+    virtual void searchFieldChanged() = 0;
 };
 
-/// One screen: a title, bar buttons and a table, and what its events do. Main queue.
+/// One screen: a title, bar buttons and a content. Main queue.
 class ViewController : public std::enable_shared_from_this<ViewController> {
   public:
     ViewController() = default;
@@ -30,34 +47,35 @@ class ViewController : public std::enable_shared_from_this<ViewController> {
     ViewController& operator=(const ViewController&) = delete;
     virtual ~ViewController() = default;
 
+    virtual Content& content() = 0;
+
     const QString& title() const { return m_title; }
-    const Table& table() const { return m_table; }
-    Table& table() { return m_table; }
+    /// From the leading edge inwards.
+    const std::vector<BarButton>& leftBarButtons() const { return m_leftBarButtons; }
     /// From the trailing edge inwards.
     const std::vector<BarButton>& rightBarButtons() const { return m_rightBarButtons; }
     /// Whether a pull at the top refreshes.
     bool hasRefreshControl() const { return m_hasRefreshControl; }
     bool refreshing() const { return m_refreshing; }
+    const std::optional<Progress>& progress() const { return m_progress; }
+    const std::optional<SearchField>& searchField() const { return m_searchField; }
     bool viewLoaded() const { return m_viewLoaded; }
     /// The stack that holds the screen; null when none does.
     NavigationController* navigationController() const { return m_navigationController; }
 
+    /// One observer at a time. It must outlive the screen or be unregistered with nullptr.
     void setObserver(ViewControllerObserver* observer) { m_observer = observer; }
 
-    // ---- what the person does
+    // ---- the user's events
 
-    /// Selects the row and opens what is behind it. A row that cannot be selected answers as its play button
-    /// does, where it has one.
-    void tapRow(IndexPath path);
-    void tapAccessory(IndexPath path);
-    /// What a swipe from the row's trailing edge offers, from that edge inwards; empty for nothing.
-    std::vector<SwipeAction> swipeActions(IndexPath path);
-    void pressBarButton(std::size_t index);
+    void pressLeftBarButton(std::size_t index);
+    void pressRightBarButton(std::size_t index);
     void pullToRefresh();
-    /// The row has come into sight.
-    void willDisplayRow(IndexPath path);
+    void editSearchText(const QString& text);
+    /// Empties the search field.
+    void cancelSearch();
 
-    // ---- what the controllers around it do
+    // ---- called by the containing controllers
 
     void loadViewIfNeeded();
     void appear();
@@ -69,16 +87,16 @@ class ViewController : public std::enable_shared_from_this<ViewController> {
     virtual void viewWillAppear() {}
     virtual void viewDidAppear() {}
     virtual void viewDidDisappear() {}
-    virtual void didSelectRow(IndexPath) {}
-    virtual void didTapAccessory(IndexPath) {}
-    virtual std::vector<SwipeAction> swipeActionsForRow(IndexPath) { return {}; }
     virtual void didPullToRefresh() {}
-    virtual void rowWillBeDisplayed(IndexPath) {}
+    virtual void searchTextEdited(const QString& /*text*/) {}
 
     void setTitle(QString title);
+    void setLeftBarButtons(std::vector<BarButton> buttons);
     void setRightBarButtons(std::vector<BarButton> buttons);
     void setHasRefreshControl(bool has) { m_hasRefreshControl = has; }
     void setRefreshing(bool refreshing);
+    void setProgress(std::optional<Progress> progress);
+    void setSearchField(std::optional<SearchField> searchField);
 
     template <class Screen>
     std::weak_ptr<Screen> weakFromThis() {
@@ -89,8 +107,10 @@ class ViewController : public std::enable_shared_from_this<ViewController> {
     friend class NavigationController;
 
     QString m_title;
-    Table m_table;
+    std::vector<BarButton> m_leftBarButtons;
     std::vector<BarButton> m_rightBarButtons;
+    std::optional<Progress> m_progress;
+    std::optional<SearchField> m_searchField;
     bool m_hasRefreshControl = false;
     bool m_refreshing = false;
     bool m_viewLoaded = false;

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace guide {
+
+/// A short message at the bottom of the window, usually with a button that undoes what was just done. It goes
+/// away by itself.
+struct Notice {
+    QString text;
+    /// Empty for no button.
+    QString actionTitle = {};
+    /// Main queue.
+    std::function<void()> action = {};
+};
+
+} // namespace guide
