@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/kit/RowAction.h"
 #include "screens/kit/ViewController.h"
 #include "store/TVEntry.h"
 
@@ -20,9 +21,8 @@ class AppActions {
     virtual void resynchronizeAlarms() = 0;
     /// Opens a live stream.
     virtual void playURL(const QUrl& url) = 0;
-    /// What a swipe on the row of the show offers; the actions may outlive the row. Nothing, unless the
-    /// application has something to offer.
-    virtual std::vector<SwipeAction>
+    /// The actions on the row of a show. They may outlive the row.
+    virtual std::vector<RowAction>
     swipeActionsConfigurationForEntry(const std::shared_ptr<const TVEntry>& /*entry*/,
                                       const std::shared_ptr<ViewController>& /*viewController*/) {
         return {};

@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Asks for the day's halves in small letters, whatever the locale's own case is. Literal text stays.
-QString withSmallDayHalves(const QString& format) {
+// Writes AM and PM in lower case in every locale. Quoted text stays as it is.
+QString withLowerCaseDayPeriods(const QString& format) {
     QString result;
     bool quoted = false;
     for (qsizetype index = 0; index < format.size(); ++index) {
@@ -33,40 +33,21 @@ QString withSmallDayHalves(const QString& format) {
 ShowRowText::ShowRowText(const QLocale& locale, const QTimeZone& zone)
     : m_locale(locale)
     , m_zone(zone)
-    , m_timeFormat(withSmallDayHalves(rowTimeFormat(locale.timeFormat(QLocale::ShortFormat)))) {}
+    , m_timeFormat(withLowerCaseDayPeriods(rowTimeFormat(locale.timeFormat(QLocale::ShortFormat)))) {}
 
-StyledText ShowRowText::humanWithColor(const TVEntry& entry, ColorRole color, bool) const {
-    StyledText text;
-    text.append(shortTime(entry.dateTime()), TextStyle::Time, color);
-    text.append(shortTime(entry.endDateTime()), TextStyle::RaisedTime, ColorRole::SecondaryLabel);
-    text.append(entry.title().value_or(QString()), TextStyle::Title, ColorRole::Label);
-    return text;
+ShowRow ShowRowText::humanWithColor(const TVEntry& entry, ColorRole color, bool) const {
+    ShowRow row = humanCondensedWithColor(entry, color, false);
+    row.endTime = endTime(entry);
+    return row;
 }
 
-StyledText ShowRowText::humanCondensedWithColor(const TVEntry& entry, ColorRole color, bool popular) const {
-    StyledText text;
-    text.append(shortTime(entry.dateTime()), TextStyle::Time, color);
-    text.append(u' ' + entry.title().value_or(QString()), TextStyle::Title, ColorRole::Label);
-    if (popular) {
-        text.append(u"❤️"_s, TextStyle::RaisedMark, ColorRole::Label);
-    }
-    return text;
-}
-
-StyledText ShowRowText::endTime(const TVEntry& entry) const {
-    StyledText text;
-    if (entry.endDateTime()) {
-        text.append(shortTime(entry.endDateTime()), TextStyle::RaisedTime, ColorRole::SecondaryLabel);
-    }
-    return text;
-}
-
-StyledText ShowRowText::details(const TVEntry& entry) const {
-    StyledText text;
-    if (const std::optional<QString> details = entry.fullInstantDetails()) {
-        text.append(*details, TextStyle::Details, ColorRole::SecondaryLabel);
-    }
-    return text;
+ShowRow ShowRowText::humanCondensedWithColor(const TVEntry& entry, ColorRole color, bool popular) const {
+    ShowRow row;
+    row.startTime = shortTime(entry.dateTime());
+    row.title = entry.title().value_or(QString());
+    row.timeColor = color;
+    row.popular = popular;
+    return row;
 }
 
 QString ShowRowText::shortTime(const std::optional<Moment>& moment) const {

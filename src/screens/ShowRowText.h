@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/kit/StyledText.h"
+#include "screens/kit/Row.h"
 #include "store/TVEntry.h"
 
 #include <QLocale>
@@ -8,21 +8,19 @@
 
 namespace guide {
 
-/// The texts of show rows, in one locale and zone. Short times are written by the locale's own rule, with the
-/// hour in two digits. Main queue.
+/// The texts of show rows in one locale and zone. Times have the locale's short form, with the hour in two
+/// digits.
 class ShowRowText {
   public:
     ShowRowText(const QLocale& locale, const QTimeZone& zone);
 
-    /// Start time in the colour, end time, title; `popular` makes no difference here.
-    StyledText humanWithColor(const TVEntry& entry, ColorRole color, bool popular) const;
-    /// Start time in the colour, title, and a heart when the show is popular.
-    StyledText humanCondensedWithColor(const TVEntry& entry, ColorRole color, bool popular) const;
+    /// A row with start time, end time and title; `popular` makes no difference in this form.
+    ShowRow humanWithColor(const TVEntry& entry, ColorRole color, bool popular) const;
+    /// A row with start time and title, which may be popular.
+    ShowRow humanCondensedWithColor(const TVEntry& entry, ColorRole color, bool popular) const;
 
-    /// The end time as humanWithColor has it; empty for a show without one.
-    StyledText endTime(const TVEntry& entry) const;
-    /// The details line; empty when there is none.
-    StyledText details(const TVEntry& entry) const;
+    /// Empty for a show without an end.
+    QString endTime(const TVEntry& entry) const { return shortTime(entry.endDateTime()); }
 
   private:
     QString shortTime(const std::optional<Moment>& moment) const;

@@ -1,8 +1,4 @@
-#include "screens/ShowRow.h"
-
-#include "screens/Localized.h"
-
-#include <QStringList>
+#include "screens/ShowRows.h"
 
 #include <algorithm>
 
@@ -18,39 +14,51 @@ std::optional<double> showProgress(const TVEntry& entry, Moment now) {
     return static_cast<double>((now - *entry.dateTime()).count()) / whole;
 }
 
-Row showRow(const ScreenEnvironment& environment, const ShowRowText& text, const ShowItem& show, bool running,
-            Moment now) {
+RowId ShowRowIds::next(const TVEntry& entry) {
+    if (entry.dateTime() != m_start) {
+        m_start = entry.dateTime();
+        m_counts.clear();
+    }
+    return {m_section, ShowRowKey{entry.channel(), m_start, m_counts[entry.channel()]++}};
+}
+
+const ShowItem* findShow(std::span<const ShowItem> shows, const ShowRowKey& key) {
+    int before = 0;
+    for (const ShowItem& show : shows) {
+        const TVEntry& entry = *show.entry();
+        if (entry.dateTime() == key.start && entry.channel() == key.channel && before++ == key.ordinal) {
+            return &show;
+        }
+    }
+    return nullptr;
+}
+
+ShowRows::ShowRows(const ScreenEnvironment& environment)
+    : m_environment(environment)
+    , m_now(environment.clock.now())
+    , m_text(environment.device.locale(), environment.device.timeZone()) {}
+
+ShowRow ShowRows::condensed(const ShowItem& show, bool running) const {
     const TVEntry& entry = *show.entry();
-    const bool alarmed = environment.alarms.alarmedEntry(entry) >= 0;
-    const bool favourite = entry.title() && environment.favorites.containsFavoriteNamed(*entry.title());
+    const bool alarmed = m_environment.alarms.alarmedEntry(entry) >= 0;
+    const bool favourite = entry.title() && m_environment.favorites.containsFavoriteNamed(*entry.title());
 
     ColorRole color = ColorRole::SecondaryLabel;
     if (alarmed) {
         color = ColorRole::Alarm;
-    } else if (environment.app.colorizedShows() && (running || favourite)) {
+    } else if (m_environment.app.colorizedShows() && (running || favourite)) {
         color = running ? ColorRole::Running : ColorRole::Favourite;
     }
 
-    Row row;
-    row.kind = RowKind::Show;
-    row.text = text.humanCondensedWithColor(entry, color, environment.popularShows.contains(show));
-    row.endTime = text.endTime(entry);
-    row.details = text.details(entry);
+    ShowRow row = m_text.humanCondensedWithColor(entry, color, m_environment.popularShows.contains(show));
+    row.endTime = m_text.endTime(entry);
+    row.details = entry.fullInstantDetails().value_or(QString());
+    row.alarmed = alarmed;
+    row.favourite = favourite;
+    row.running = running;
     if (running) {
-        row.progress = std::clamp(showProgress(entry, now).value_or(0), 0.0, 1.0);
+        row.progress = std::clamp(showProgress(entry, m_now).value_or(0), 0.0, 1.0);
     }
-
-    QStringList states;
-    if (running) {
-        states << Localized::tr("On now");
-    }
-    if (favourite) {
-        states << Localized::tr("Favourite");
-    }
-    if (alarmed) {
-        states << Localized::tr("Alarm set");
-    }
-    row.spokenState = states.join(", "_L1);
     return row;
 }
 

@@ -1,11 +1,9 @@
 #include "screens/channel/ChannelViewController.h"
 
 #include "screens/Localized.h"
-#include "screens/ShowRow.h"
-#include "store/LocalTime.h"
+#include "screens/ShowRows.h"
 
-#include <QHash>
-
+#include <algorithm>
 #include <utility>
 
 namespace guide {
@@ -44,10 +42,12 @@ void ChannelViewController::viewDidDisappear() {
     table().deselectRow();
 }
 
-std::vector<SwipeAction> ChannelViewController::swipeActionsForRow(IndexPath path) {
-    const ShowItems& shows = m_groups[static_cast<std::size_t>(path.section)].shows;
-    return m_environment->app.swipeActionsConfigurationForEntry(
-        shows[static_cast<std::size_t>(path.row)].entry(), shared_from_this());
+std::vector<RowAction> ChannelViewController::actionsForRow(const RowId& id) {
+    const auto day = std::find_if(m_days.begin(), m_days.end(),
+                                  [&id](const DaySection& each) { return each.id == id.section; });
+    const ShowItem* show = day == m_days.end() ? nullptr : findShow(day->shows, *id.show());
+    return show ? m_environment->app.swipeActionsConfigurationForEntry(show->entry(), shared_from_this())
+                : std::vector<RowAction>();
 }
 
 void ChannelViewController::notificationsSynched() {
@@ -69,12 +69,12 @@ void ChannelViewController::reloadChannelData() {
     if (!record || record->loading() || dueForReload(*record)) {
         return;
     }
-    m_environment->listings.cachedListForChannel(m_channel, QueuePriority::Default,
-                                                 {weak_from_this(), [this](const ShowSpan& entries) {
-                                                      initializeContentWithEntriesArray(entries);
-                                                      reloadTable();
-                                                      refreshDone();
-                                                  }});
+    m_environment->listings.cachedListForChannel(
+        m_channel, QueuePriority::Default, m_list.expect(weak_from_this(), [this](const ShowSpan& entries) {
+            initializeContentWithEntriesArray(entries);
+            reloadTable();
+            refreshDone();
+        }));
 }
 
 bool ChannelViewController::dueForReload(const TVChannel& record) const {
@@ -82,42 +82,28 @@ bool ChannelViewController::dueForReload(const TVChannel& record) const {
 }
 
 void ChannelViewController::initializeContentWithEntriesArray(const ShowSpan& entries) {
-    m_groups.clear();
-    const QLocale locale = m_environment->device.locale();
-    LocalTime local(m_environment->device.timeZone());
-    QHash<QDate, std::size_t> groupOfDay;
-    for (const ShowItem& show : entries) {
-        if (!show.entry()->dateTime()) {
-            continue;
-        }
-        const QDate day = local.dateAt(*show.entry()->dateTime());
-        const auto known = groupOfDay.constFind(day);
-        if (known == groupOfDay.cend()) {
-            groupOfDay.insert(day, m_groups.size());
-            m_groups.push_back({locale.toString(day, QLocale::LongFormat), {show}});
-        } else {
-            m_groups[*known].shows.push_back(show);
-        }
-    }
+    m_days = daySections({entries.begin(), entries.size()}, m_environment->device.locale(),
+                         m_environment->device.timeZone());
 }
 
 void ChannelViewController::reloadTable() {
-    const ShowRowText text(m_environment->device.locale(), m_environment->device.timeZone());
-    const Moment now = m_environment->clock.now();
+    const ShowRows showRows(*m_environment);
     std::vector<Section> sections;
-    sections.reserve(m_groups.size());
-    for (const Group& group : m_groups) {
-        Section section{group.day, {}};
-        section.rows.reserve(group.shows.size());
-        for (const ShowItem& show : group.shows) {
+    sections.reserve(m_days.size());
+    for (const DaySection& day : m_days) {
+        Section section{.id = day.id, .header = day.title};
+        section.rows.reserve(day.shows.size());
+        ShowRowIds ids(day.id);
+        for (const ShowItem& show : day.shows) {
             const TVEntry& entry = *show.entry();
-            const bool running = *entry.dateTime() <= now && entry.endsAfter(now);
-            section.rows.push_back(showRow(*m_environment, text, show, running, now));
-            section.rows.back().allDetails = true;
+            const bool running = *entry.dateTime() <= showRows.now() && entry.endsAfter(showRows.now());
+            ShowRow row = showRows.condensed(show, running);
+            row.allDetails = true;
+            section.rows.push_back({.id = ids.next(entry), .content = std::move(row)});
         }
         sections.push_back(std::move(section));
     }
-    table().reload(std::move(sections));
+    table().setSections(std::move(sections));
 }
 
 // ---- refreshing

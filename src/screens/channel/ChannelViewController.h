@@ -1,5 +1,7 @@
 #pragma once
 
+#include "screens/DaySections.h"
+#include "screens/kit/LatestAnswer.h"
 #include "screens/shell/ListingsScreen.h"
 #include "screens/shell/ScreenEnvironment.h"
 
@@ -14,13 +16,13 @@ namespace guide {
 /// The whole remaining schedule of one channel, a section for each day.
 class ChannelViewController final : public ListingsScreen {
   public:
-    /// `entries` is the list that the opener has in hand.
+    /// `entries` is what the opener already has of the schedule.
     ChannelViewController(std::shared_ptr<const ScreenEnvironment> environment, const QString& title,
                           const ShowSpan& entries, const QString& channelIconName, const ObjectId& channel);
 
     const ObjectId& channel() const { return m_channel; }
 
-    /// The update cycle has new data: takes it over, unless the channel is still being loaded or due.
+    /// Shows what the update cycle has stored, unless the channel is still being loaded or due.
     void reloadChannelData();
 
     void applicationDidBecomeActive() override { reloadChannelData(); }
@@ -33,15 +35,10 @@ class ChannelViewController final : public ListingsScreen {
     void viewDidLoad() override;
     void viewWillAppear() override;
     void viewDidDisappear() override;
-    std::vector<SwipeAction> swipeActionsForRow(IndexPath path) override;
+    std::vector<RowAction> actionsForRow(const RowId& id) override;
     void didPullToRefresh() override { refresh(); }
 
   private:
-    struct Group {
-        QString day;
-        ShowItems shows;
-    };
-
     void initializeContentWithEntriesArray(const ShowSpan& entries);
     void reloadTable();
     bool dueForReload(const TVChannel& record) const;
@@ -55,7 +52,8 @@ class ChannelViewController final : public ListingsScreen {
     const QString m_channelIconName;
     const ObjectId m_channel;
     std::optional<QUrl> m_streamURL;
-    std::vector<Group> m_groups;
+    std::vector<DaySection> m_days;
+    LatestAnswer m_list;
 };
 
 } // namespace guide

@@ -20,10 +20,10 @@ enum class Accessory { None, Disclosure, Play, Spinner };
 
 /// One broadcast. Times and day are in the device's locale and zone; empty texts are not drawn.
 struct ShowRow {
-    QString startTime;
-    QString endTime;
-    QString title;
-    QString details;
+    QString startTime = {};
+    QString endTime = {};
+    QString title = {};
+    QString details = {};
     /// Whether the details may take as many lines as they need, rather than the first few.
     bool allDetails = false;
     /// Of the start time: alarm, running, favourite or secondary label.
@@ -33,11 +33,11 @@ struct ShowRow {
     bool alarmed = false;
     bool popular = false;
     /// Elapsed share of the show, 0 to 1, while it is running.
-    std::optional<double> progress;
+    std::optional<double> progress = {};
     /// Leading edge, where channels are mixed.
-    PictureKey channelIcon;
+    PictureKey channelIcon = {};
     /// Trailing edge.
-    PictureKey picture;
+    PictureKey picture = {};
     Accessory accessory = Accessory::None;
 
     friend bool operator==(const ShowRow&, const ShowRow&) = default;
@@ -45,10 +45,10 @@ struct ShowRow {
 
 /// The head of a channel's shows, or a channel to choose.
 struct ChannelRow {
-    QString title;
+    QString title = {};
     /// For example when the schedule was updated.
-    QString subtitle;
-    PictureKey icon;
+    QString subtitle = {};
+    PictureKey icon = {};
     bool checked = false;
     Accessory accessory = Accessory::None;
 
@@ -57,21 +57,21 @@ struct ChannelRow {
 
 /// A line of text with what commonly goes with it. A disclosure indicator means that a tap opens a screen.
 struct TextRow {
-    QString title;
-    QString subtitle;
+    QString title = {};
+    QString subtitle = {};
     /// At the trailing edge, in secondary colour.
-    QString detail;
+    QString detail = {};
     ColorRole titleColor = ColorRole::Label;
     bool checked = false;
     Accessory accessory = Accessory::None;
-    PictureKey icon;
+    PictureKey icon = {};
 
     friend bool operator==(const TextRow&, const TextRow&) = default;
 };
 
 struct SwitchRow {
-    QString title;
-    QString subtitle;
+    QString title = {};
+    QString subtitle = {};
     bool on = false;
     bool enabled = true;
 
@@ -80,9 +80,9 @@ struct SwitchRow {
 
 /// One of several choices.
 struct ChoiceRow {
-    QString title;
-    std::vector<QString> choices;
-    std::optional<int> chosen;
+    QString title = {};
+    std::vector<QString> choices = {};
+    std::optional<int> chosen = {};
     bool enabled = true;
 
     friend bool operator==(const ChoiceRow&, const ChoiceRow&) = default;
@@ -90,8 +90,8 @@ struct ChoiceRow {
 
 /// A time of day, which a tap opens in a time picker.
 struct TimeRow {
-    QString title;
-    QTime time;
+    QString title = {};
+    QTime time = {};
     bool enabled = true;
 
     friend bool operator==(const TimeRow&, const TimeRow&) = default;
@@ -102,11 +102,11 @@ struct InputRow {
     enum class Kind { Text, URL, Password, Number };
 
     Kind kind = Kind::Text;
-    QString title;
-    QString text;
-    QString placeholder;
+    QString title = {};
+    QString text = {};
+    QString placeholder = {};
     /// Shown below the field; empty when what was typed is acceptable.
-    QString error;
+    QString error = {};
     bool enabled = true;
 
     friend bool operator==(const InputRow&, const InputRow&) = default;
@@ -115,7 +115,7 @@ struct InputRow {
 struct ButtonRow {
     enum class Style { Plain, Primary, Destructive };
 
-    QString title;
+    QString title = {};
     Style style = Style::Plain;
     bool enabled = true;
 
@@ -124,8 +124,8 @@ struct ButtonRow {
 
 /// Work under way; without `fraction` it is not known how far it has come.
 struct ProgressRow {
-    QString title;
-    std::optional<double> fraction;
+    QString title = {};
+    std::optional<double> fraction = {};
 
     friend bool operator==(const ProgressRow&, const ProgressRow&) = default;
 };
@@ -134,10 +134,10 @@ struct ProgressRow {
 struct PictureRow {
     enum class Shape { Wide, Square };
 
-    PictureKey picture;
+    PictureKey picture = {};
     Shape shape = Shape::Wide;
     /// What the picture shows, for people who cannot see it.
-    QString description;
+    QString description = {};
 
     friend bool operator==(const PictureRow&, const PictureRow&) = default;
 };

@@ -1,7 +1,6 @@
 #include "screens/root/RootViewController.h"
 
 #include "screens/Localized.h"
-#include "screens/ShowRow.h"
 #include "screens/channel/ChannelViewController.h"
 #include "screens/kit/NavigationController.h"
 #include "text/Transliteration.h"
@@ -45,9 +44,13 @@ void RootViewController::applicationDidBecomeActive() {
 }
 
 void RootViewController::offerTopShows(const TopShows& top) {
+    std::unordered_set<ObjectId> changed;
     for (const auto& [channel, entries] : top) {
-        reloadChannel(channel, entries);
+        if (takeList(channel, entries)) {
+            changed.insert(channel);
+        }
     }
+    reloadRows(changed);
 }
 
 void RootViewController::notificationsSynched() {
@@ -74,27 +77,25 @@ void RootViewController::selectedChannelsChanged() {
     if (!viewLoaded()) {
         return;
     }
-    // No list is read in until the sections stand, so that none can meet half of them. The token is the
-    // screen's: an answer that is still under way when the screen goes must not hold the queue.
-    const std::uint64_t asked = ++m_asked;
-    m_suspensions.emplace(asked, m_environment->loadQueue.suspend());
+    // No list is parsed until the sections are complete, so that none meets half of them. The new suspension
+    // begins before the old one ends. The token belongs to the screen, so that an answer under way when the
+    // screen goes does not hold the queue.
+    m_loadQueueSuspension = m_environment->loadQueue.suspend();
     m_environment->listings.onAirShows(
-        {weak_from_this(),
-         [this, asked](const std::vector<ObjectId>& selected, const std::vector<ShowSpan>& entries) {
-             if (asked > m_shown) {
-                 m_shown = asked;
-                 setChannels(selected, entries);
-             }
-             m_suspensions.erase(asked);
-         }});
+        m_rebuild.expect(weak_from_this(),
+                         [this](const std::vector<ObjectId>& selected, const std::vector<ShowSpan>& entries) {
+                             setChannels(selected, entries);
+                             m_loadQueueSuspension.release();
+                         }));
 }
 
 void RootViewController::setChannels(const std::vector<ObjectId>& selected,
                                      const std::vector<ShowSpan>& entries) {
+    const SharedCatalogueSnapshot catalogue = m_environment->catalogue.snapshot();
     m_channels.clear();
     m_channels.reserve(selected.size());
     for (std::size_t index = 0; index < selected.size() && index < entries.size(); ++index) {
-        m_channels.push_back(channelNamed(selected[index]));
+        m_channels.push_back(channelNamed(selected[index], *catalogue));
         m_channels.back().entries = entries[index].items();
     }
     table().setEmptyNote(EmptyNote{
@@ -103,143 +104,143 @@ void RootViewController::setChannels(const std::vector<ObjectId>& selected,
     reloadTable();
 }
 
-RootViewController::Channel RootViewController::channelNamed(const ObjectId& identificator) const {
-    Channel channel{identificator, u"?"_s, {}, {}, {}};
-    const SharedCatalogueSnapshot catalogue = m_environment->catalogue.snapshot();
-    if (const CatalogueChannel* found = catalogue->find(identificator)) {
+RootViewController::Channel RootViewController::channelNamed(const ObjectId& identificator,
+                                                             const CatalogueSnapshot& catalogue) const {
+    Channel channel{.identificator = identificator, .title = u"?"_s};
+    if (const CatalogueChannel* found = catalogue.find(identificator)) {
         channel.title = latin2Cyrillic(found->title, found->language, m_environment->alphabet);
         channel.iconName = found->icon;
-        channel.icon = m_environment->icons.iconNamed(found->icon);
+        if (m_environment->icons.hasIconFile(found->icon)) {
+            channel.icon = {PictureKey::Kind::ChannelIcon, found->icon};
+        }
+        channel.stream = streamURLOf(catalogue, identificator);
     }
     return channel;
 }
 
 void RootViewController::reloadChannel(const ObjectId& channel, const ShowSpan& entries) {
-    const std::optional<int> section = sectionOfChannel(channel);
-    if (!section || entries.empty()) {
-        return;
+    if (takeList(channel, entries)) {
+        reloadRows(channel);
     }
-    m_pictures.erase(channel);
-    Channel& shown = m_channels[static_cast<std::size_t>(*section)];
-    shown.entries = entries.items();
-    table().updateSection(*section, rowsOf(shown));
 }
 
-void RootViewController::setShowImage(const QImage& image, const ObjectId& channel,
-                                      const QString& showIdentifier) {
-    const std::optional<int> section = sectionOfChannel(channel);
-    if (!section) {
-        return;
+bool RootViewController::takeList(const ObjectId& channel, const ShowSpan& entries) {
+    Channel* shown = shownChannel(channel);
+    if (!shown || entries.empty()) {
+        return false;
     }
-    m_pictures[channel].images.insert(showIdentifier, image);
-    // Only the rows of that show say something else now.
-    table().updateSection(*section, rowsOf(m_channels[static_cast<std::size_t>(*section)]));
+    m_environment->pictureCache.forgetChannel(channel);
+    m_askedPictures.erase(channel);
+    shown->entries = entries.items();
+    return true;
 }
 
-std::optional<int> RootViewController::sectionOfChannel(const ObjectId& channel) const {
-    const auto found = std::find_if(m_channels.begin(), m_channels.end(), [&channel](const Channel& shown) {
-        return shown.identificator == channel;
-    });
-    if (found == m_channels.end()) {
-        return std::nullopt;
-    }
-    return static_cast<int>(found - m_channels.begin());
+RootViewController::Channel* RootViewController::shownChannel(const ObjectId& identificator) {
+    const auto found =
+        std::find_if(m_channels.begin(), m_channels.end(),
+                     [&identificator](const Channel& shown) { return shown.identificator == identificator; });
+    return found == m_channels.end() ? nullptr : &*found;
 }
 
 // ---- rows
 
 void RootViewController::reloadTable() {
+    const ShowRows showRows(*m_environment);
     std::vector<Section> sections;
     sections.reserve(m_channels.size());
     for (const Channel& channel : m_channels) {
-        sections.push_back({QString(), rowsOf(channel)});
+        sections.push_back({.id = channel.identificator.hex(), .rows = rowsOf(channel, showRows)});
     }
-    table().reload(std::move(sections));
+    table().setSections(std::move(sections));
 }
 
-std::vector<Row> RootViewController::rowsOf(const Channel& channel) const {
-    const ShowRowText text(m_environment->device.locale(), m_environment->device.timeZone());
-    const Moment now = m_environment->clock.now();
+void RootViewController::reloadRows(const std::unordered_set<ObjectId>& channels) {
+    const ShowRows showRows(*m_environment);
+    std::vector<Section> sections = table().sections();
+    for (std::size_t place = 0; place < m_channels.size() && place < sections.size(); ++place) {
+        if (channels.contains(m_channels[place].identificator)) {
+            sections[place].rows = rowsOf(m_channels[place], showRows);
+        }
+    }
+    table().setSections(std::move(sections));
+}
+
+std::vector<Row> RootViewController::rowsOf(const Channel& channel, const ShowRows& showRows) const {
     const bool imagesEnabled = m_environment->app.imagesEnabled();
     std::vector<Row> rows;
     rows.reserve(channel.entries.size() + 1);
     rows.push_back(channelRow(channel));
+    ShowRowIds ids(rows.front().id.section);
     for (const ShowItem& show : channel.entries) {
-        const std::optional<double> progress = showProgress(*show.entry(), now);
-        rows.push_back(
-            showRow(*m_environment, text, show, progress && *progress >= 0 && *progress <= 1, now));
+        const std::optional<double> progress = showProgress(*show.entry(), showRows.now());
+        ShowRow row = showRows.condensed(show, progress && *progress >= 0 && *progress <= 1);
         if (imagesEnabled) {
-            rows.back().picture = showImage(channel.identificator, identificatorOf(show)).value_or(QImage());
+            row.picture = m_environment->pictureCache.find(channel.identificator, identificatorOf(show))
+                              .value_or(PictureKey());
         }
+        rows.push_back({.id = ids.next(*show.entry()), .content = std::move(row)});
     }
     return rows;
 }
 
 Row RootViewController::channelRow(const Channel& channel) const {
-    Row row;
-    row.kind = RowKind::Channel;
-    row.text.append(channel.title, TextStyle::ChannelTitle, ColorRole::Tint);
-    row.icon = channel.icon;
-    row.selectable = !channel.entries.empty();
-    row.accessory = streamURLOf(*m_environment->catalogue.snapshot(), channel.identificator) ? Accessory::Play
-                    : row.selectable ? Accessory::Disclosure
-                                     : Accessory::Spinner;
-    if (row.accessory == Accessory::Spinner) {
-        row.spokenState = Localized::tr("Loading");
-    }
+    const bool hasShows = !channel.entries.empty();
+    ChannelRow row{.title = channel.title, .icon = channel.icon};
+    row.accessory = channel.stream ? Accessory::Play : hasShows ? Accessory::Disclosure : Accessory::Spinner;
     const auto record = m_environment->channels.channelWithChannelId(channel.identificator);
     if (const auto loaded = record ? record->timeLoaded() : std::nullopt) {
-        const QString time = m_environment->device.locale().toString(
-            localTime(m_environment->device, *loaded), QLocale::ShortFormat);
-        row.details.append(Localized::tr("Updated ") + time, TextStyle::Details, ColorRole::SecondaryLabel);
+        row.subtitle = Localized::tr("Updated ") +
+                       m_environment->device.locale().toString(localTime(m_environment->device, *loaded),
+                                                               QLocale::ShortFormat);
     }
-    return row;
+    return {.id = {channel.identificator.hex(), channel.identificator},
+            .content = std::move(row),
+            .selectable = hasShows};
 }
 
-// ---- what the person does
+// ---- the user's events
 
-void RootViewController::didSelectRow(IndexPath path) {
-    if (path.row == 0) {
-        selectedChannel(m_channels[static_cast<std::size_t>(path.section)]);
-    }
-}
-
-void RootViewController::didTapAccessory(IndexPath path) {
-    if (path.row != 0) {
+void RootViewController::rowEvent(const RowId& id, const RowEvent& event) {
+    const Channel* channel = id.channel() ? shownChannel(*id.channel()) : nullptr;
+    if (!channel) {
         return;
     }
-    const ObjectId& channel = m_channels[static_cast<std::size_t>(path.section)].identificator;
-    if (const std::optional<QUrl> stream = streamURLOf(*m_environment->catalogue.snapshot(), channel)) {
-        m_environment->app.playURL(*stream);
+    if (std::holds_alternative<Tapped>(event)) {
+        selectedChannel(*channel);
+    } else if (std::holds_alternative<AccessoryTapped>(event) && channel->stream) {
+        m_environment->app.playURL(*channel->stream);
     }
 }
 
-std::vector<SwipeAction> RootViewController::swipeActionsForRow(IndexPath path) {
-    if (path.row == 0) {
-        return {};
-    }
-    const ShowItems& shows = m_channels[static_cast<std::size_t>(path.section)].entries;
-    return m_environment->app.swipeActionsConfigurationForEntry(
-        shows[static_cast<std::size_t>(path.row - 1)].entry(), shared_from_this());
+std::vector<RowAction> RootViewController::actionsForRow(const RowId& id) {
+    const ShowItem* show = shownShow(id);
+    return show ? m_environment->app.swipeActionsConfigurationForEntry(show->entry(), shared_from_this())
+                : std::vector<RowAction>();
+}
+
+const ShowItem* RootViewController::shownShow(const RowId& id) {
+    const Channel* channel = id.show() ? shownChannel(id.show()->channel) : nullptr;
+    return channel ? findShow(channel->entries, *id.show()) : nullptr;
 }
 
 void RootViewController::selectedChannel(const Channel& channel) {
     m_environment->listings.cachedListForChannel(
         channel.identificator, QueuePriority::UserInitiated,
-        {weak_from_this(), [this, identificator = channel.identificator, title = channel.title,
-                            iconName = channel.iconName](const ShowSpan& entries) {
-             NavigationController* navigation = navigationController();
-             // A second tap, or the way to another screen, may have come before the answer.
-             if (!navigation || navigation->topViewController().get() != this) {
-                 return;
-             }
-             if (entries.empty()) {
-                 table().deselectRow();
-                 return;
-             }
-             navigation->push(std::make_shared<ChannelViewController>(m_environment, title, entries, iconName,
-                                                                      identificator));
-         }});
+        m_opening.expect(weak_from_this(), [this, identificator = channel.identificator,
+                                            title = channel.title,
+                                            iconName = channel.iconName](const ShowSpan& entries) {
+            NavigationController* navigation = navigationController();
+            // The user may have opened another screen before the answer came.
+            if (!navigation || navigation->topViewController().get() != this) {
+                return;
+            }
+            if (entries.empty()) {
+                table().deselectRow();
+                return;
+            }
+            navigation->push(std::make_shared<ChannelViewController>(m_environment, title, entries, iconName,
+                                                                     identificator));
+        }));
 }
 
 // ---- pictures
@@ -248,51 +249,50 @@ QString RootViewController::identificatorOf(const ShowItem& show) {
     return show.entry()->identificator().value_or(QString());
 }
 
-std::optional<QImage> RootViewController::showImage(const ObjectId& channel,
-                                                    const QString& showIdentifier) const {
-    const auto pictures = m_pictures.find(channel);
-    if (pictures == m_pictures.end()) {
-        return std::nullopt;
+void RootViewController::setShowImage(const QImage& image, const ObjectId& channel,
+                                      const QString& showIdentifier) {
+    if (shownChannel(channel)) {
+        m_environment->pictureCache.insert(channel, showIdentifier, image);
+        reloadRows(channel);
     }
-    const auto image = pictures->second.images.constFind(showIdentifier);
-    return image == pictures->second.images.cend() ? std::nullopt : std::optional(*image);
 }
 
-void RootViewController::rowWillBeDisplayed(IndexPath path) {
-    if (path.row == 0) {
+void RootViewController::rowWillBeDisplayed(const RowId& id) {
+    const ShowItem* found = shownShow(id);
+    if (!found) {
         return;
     }
-    const Channel& channel = m_channels[static_cast<std::size_t>(path.section)];
-    const ShowItem& show = channel.entries[static_cast<std::size_t>(path.row - 1)];
+    const ShowItem& show = *found;
+    const ObjectId& channel = id.show()->channel;
     const bool imagesEnabled = m_environment->app.imagesEnabled();
-    if (imagesEnabled && showImage(channel.identificator, identificatorOf(show))) {
+    if (imagesEnabled && m_environment->pictureCache.find(channel, identificatorOf(show))) {
         return;
     }
     if (imagesEnabled && !show.pictures().isEmpty()) {
-        loadPicture(*show.pictures().constBegin(), channel.identificator, identificatorOf(show));
+        loadPicture(*show.pictures().constBegin(), channel, identificatorOf(show));
     }
-    if (m_channelsWithLoadedShowDetails.contains(channel.identificator)) {
+    if (m_channelsWithLoadedShowDetails.contains(channel)) {
         return;
     }
-    const auto record = m_environment->channels.channelWithChannelId(channel.identificator);
+    const auto record = m_environment->channels.channelWithChannelId(channel);
     if (record &&
         record->reloadNeeded(m_environment->clock.now(), m_environment->app.automaticUpdateInterval())) {
         return;
     }
-    m_channelsWithLoadedShowDetails.insert(channel.identificator);
+    m_channelsWithLoadedShowDetails.insert(channel);
     if (imagesEnabled && applicationActive()) {
-        m_environment->mainQueue.asyncAfter(kPictureDelay, [weak = weakFromThis<RootViewController>(),
-                                                            identificator = channel.identificator] {
-            if (const auto self = weak.lock(); self && self->applicationActive()) {
-                self->startDetailPass(identificator);
-            }
-        });
+        m_environment->mainQueue.asyncAfter(
+            kPictureDelay, [weak = weakFromThis<RootViewController>(), channel] {
+                if (const auto self = weak.lock(); self && self->applicationActive()) {
+                    self->startDetailPass(channel);
+                }
+            });
     }
 }
 
 void RootViewController::loadPicture(const QUrl& url, const ObjectId& channel,
                                      const QString& showIdentifier) {
-    QSet<QString>& asked = m_pictures[channel].asked;
+    QSet<QString>& asked = m_askedPictures[channel];
     if (asked.contains(showIdentifier)) {
         return;
     }
@@ -311,38 +311,36 @@ void RootViewController::loadPicture(const QUrl& url, const ObjectId& channel,
 }
 
 void RootViewController::startDetailPass(const ObjectId& channel) {
-    const std::optional<int> section = sectionOfChannel(channel);
-    if (!section) {
+    const Channel* shown = shownChannel(channel);
+    if (!shown) {
         return;
     }
-    const ShowItems& shows = m_channels[static_cast<std::size_t>(*section)].entries;
     m_environment->pictures.loadDetailsOfShows(
-        shows, {weak_from_this(), [this, channel, asked = shows](const ShowItems& completed,
-                                                                 const std::vector<QImage>& images) {
-                    if (applicationActive()) {
-                        detailsLoaded(channel, asked, completed, images);
-                    }
-                }});
+        shown->entries,
+        {weak_from_this(), [this, channel, asked = shown->entries](const ShowItems& completed,
+                                                                   const std::vector<QImage>& images) {
+             if (applicationActive()) {
+                 detailsLoaded(channel, asked, completed, images);
+             }
+         }});
 }
 
 void RootViewController::detailsLoaded(const ObjectId& channel, const ShowItems& asked,
                                        const ShowItems& completed, const std::vector<QImage>& images) {
-    const std::optional<int> section = sectionOfChannel(channel);
-    if (!section) {
+    Channel* shown = shownChannel(channel);
+    if (!shown) {
         return;
     }
-    Channel& shown = m_channels[static_cast<std::size_t>(*section)];
     // A list that came in the meantime is newer than these details.
-    if (shown.entries == asked && completed.size() == asked.size()) {
-        shown.entries = completed;
+    if (shown->entries == asked && completed.size() == asked.size()) {
+        shown->entries = completed;
     }
-    Images& known = m_pictures[channel].images;
     for (std::size_t index = 0; index < completed.size() && index < images.size(); ++index) {
         if (!images[index].isNull()) {
-            known.insert(identificatorOf(completed[index]), images[index]);
+            m_environment->pictureCache.insert(channel, identificatorOf(completed[index]), images[index]);
         }
     }
-    table().updateSection(*section, rowsOf(shown));
+    reloadRows(channel);
 }
 
 bool RootViewController::applicationActive() const {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "screens/kit/ViewController.h"
+#include "screens/kit/TableViewController.h"
 
 namespace guide {
 
-/// A screen with a title and no rows, which says why.
-class EmptyViewController final : public ViewController {
+/// A screen without rows that says why it has none.
+class EmptyViewController final : public TableViewController {
   public:
     EmptyViewController(QString title, EmptyNote note);
 };

@@ -20,8 +20,9 @@ void addComingTab(TabBarController& tabs, const QString& title, Symbol symbol, c
 } // namespace
 
 std::unique_ptr<TabBarController> makeGuideTabs(std::shared_ptr<const ScreenEnvironment> environment) {
-    auto tabs = std::make_unique<TabBarController>();
-    if (environment->device.userInterfaceIdiom() == UserInterfaceIdiom::Tablet) {
+    const UserInterfaceIdiom idiom = environment->device.userInterfaceIdiom();
+    auto tabs = std::make_unique<TabBarController>(idiom, environment->mainQueue);
+    if (idiom == UserInterfaceIdiom::Tablet) {
         addComingTab(*tabs, Localized::tr("All Shows"), Symbol::AllShows,
                      Localized::tr("All shows of all your channels come with a later version. What is on now "
                                    "stands under Currently."));

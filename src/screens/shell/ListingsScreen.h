@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/kit/ViewController.h"
+#include "screens/kit/TableViewController.h"
 #include "store/ShowItem.h"
 
 #include <unordered_map>
@@ -10,8 +10,9 @@ namespace guide {
 /// The first shows of freshly loaded channels.
 using TopShows = std::unordered_map<ObjectId, ShowSpan>;
 
-/// A screen that shows listings: what it does when they, the alarms, the favourites or the settings change.
-class ListingsScreen : public ViewController {
+/// A screen that shows listings, and what it does when they, the alarms, the favourites or the settings
+/// change.
+class ListingsScreen : public TableViewController {
   public:
     virtual void applicationDidBecomeActive() {}
     /// The update cycle has stored new lists.

@@ -8,6 +8,7 @@
 #include "platform/DispatchQueue.h"
 #include "platform/LifeCycle.h"
 #include "screens/AppActions.h"
+#include "screens/ShowPictureCache.h"
 #include "screens/ShowPictures.h"
 #include "store/ShowQuestions.h"
 #include "store/TVListings.h"
@@ -32,6 +33,7 @@ struct ScreenEnvironment {
     const AlarmQuestions& alarms;
     const PopularShows& popularShows;
     ShowPictures& pictures;
+    ShowPictureCache& pictureCache;
     AppActions& app;
 };
 

@@ -1,0 +1,19 @@
+#include "screens/GuidePictures.h"
+
+namespace guide {
+
+QImage GuidePictures::picture(const PictureKey& key, const QSize& /*pixels*/) {
+    switch (key.kind) {
+    case PictureKey::Kind::ChannelIcon:
+        return m_icons.iconNamed(key.name);
+    case PictureKey::Kind::Show:
+        return m_shows.image(key.name);
+    case PictureKey::Kind::None:
+    case PictureKey::Kind::Bundled:
+    case PictureKey::Kind::QRCode:
+        break;
+    }
+    return {};
+}
+
+} // namespace guide

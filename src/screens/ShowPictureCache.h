@@ -1,0 +1,58 @@
+#pragma once
+
+#include "core/ObjectId.h"
+#include "screens/kit/PictureKey.h"
+
+#include <QHash>
+#include <QImage>
+#include <QString>
+
+#include <cstdint>
+#include <list>
+#include <mutex>
+#include <optional>
+#include <unordered_map>
+
+namespace guide {
+
+/// The pictures of shows, by channel and identificator, the ones used last. Any thread.
+class ShowPictureCache {
+  public:
+    static constexpr qsizetype kMaxBytes = 32 * 1024 * 1024;
+
+    explicit ShowPictureCache(qsizetype maxBytes = kMaxBytes)
+        : m_maxBytes(maxBytes) {}
+
+    /// Nothing when the picture was not looked for, or is dropped; an empty key when there is none.
+    std::optional<PictureKey> find(const ObjectId& channel, const QString& showIdentifier) const;
+    /// A null image: the show has no picture. A picture that replaces another one gets another key.
+    void insert(const ObjectId& channel, const QString& showIdentifier, const QImage& image);
+    void forgetChannel(const ObjectId& channel);
+
+    /// The image of a key's name; null when it is dropped.
+    QImage image(const QString& name);
+
+  private:
+    struct Picture {
+        ObjectId channel;
+        QString showIdentifier;
+        /// Empty without an image.
+        QString name;
+        QImage image;
+    };
+    using Pictures = std::list<Picture>;
+
+    // With the guard held.
+    static qsizetype cost(const Picture& picture);
+    void erase(Pictures::iterator picture);
+
+    const qsizetype m_maxBytes;
+    mutable std::mutex m_guard;
+    Pictures m_pictures; // guarded; the one used last first
+    std::unordered_map<ObjectId, QHash<QString, Pictures::iterator>> m_byShow; // guarded
+    QHash<QString, Pictures::iterator> m_byName;                               // guarded
+    qsizetype m_bytes = 0;                                                     // guarded
+    std::uint64_t m_inserted = 0;                                              // guarded
+};
+
+} // namespace guide
