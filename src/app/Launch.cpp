@@ -147,6 +147,7 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
 }
 
 void QuellinGuideAppDelegate::makeScreens() {
+    m_guidePictures = std::make_unique<GuidePictures>(*m_icons, m_pictureCache);
     m_tabBarController = makeGuideTabs(std::make_shared<const ScreenEnvironment>(ScreenEnvironment{
         .clock = m_environment.clock,
         .device = m_environment.device,
@@ -162,6 +163,7 @@ void QuellinGuideAppDelegate::makeScreens() {
         .alarms = m_alarms,
         .popularShows = m_popularShows,
         .pictures = m_pictures,
+        .pictureCache = m_pictureCache,
         .app = *this,
     }));
     m_screens = std::make_unique<ScreenBroadcast>(*m_tabBarController, m_environment.applicationState);

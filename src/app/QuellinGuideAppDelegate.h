@@ -11,6 +11,7 @@
 #include "core/TVStationIcons.h"
 #include "parsers/ListDriver.h"
 #include "screens/AppActions.h"
+#include "screens/GuidePictures.h"
 #include "screens/ShowPictures.h"
 #include "screens/kit/TabBarController.h"
 #include "screens/shell/ScreenBroadcast.h"
@@ -43,6 +44,8 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActio
     void didFinishLaunching(const std::function<void(TabBarController&)>& showWindow);
 
     TabBarController& tabBarController() { return *m_tabBarController; }
+    /// Any thread.
+    PictureProvider& pictures() { return *m_guidePictures; }
     TVListings& listings() { return *m_listings; }
     TVChannels& channels() { return *m_channels; }
     /// What the last load of each selected channel did.
@@ -109,6 +112,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActio
     NoAlarms m_alarms;
     NoPopularShows m_popularShows;
     NoShowPictures m_pictures;
+    ShowPictureCache m_pictureCache;
     NoCloudValues m_cloud;
 
     std::unique_ptr<RemoteHostAlert> m_remoteHostAlert;
@@ -127,6 +131,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActio
     std::unique_ptr<ListDriver> m_listDriver;
     std::unique_ptr<SourceHealthRecords> m_sourceHealth;
     std::unique_ptr<UpdateCycle> m_updateCycle;
+    std::unique_ptr<GuidePictures> m_guidePictures;
     std::unique_ptr<TabBarController> m_tabBarController;
     std::unique_ptr<ScreenBroadcast> m_screens;
 };
