@@ -29,17 +29,6 @@ class ChannelViewControllerTest : public testing::Test {
         }
         return kinds;
     }
-    static QStringList content(const ViewController& screen) {
-        QStringList lines;
-        for (const Section& section : screen.table().sections()) {
-            lines << u"# "_s + section.title;
-            for (const Row& row : section.rows) {
-                lines << row.text.plain();
-            }
-        }
-        return lines;
-    }
-
     using Kinds = std::vector<BarButton::Kind>;
     static constexpr auto kRefresh = BarButton::Kind::Refresh;
     static constexpr auto kActivity = BarButton::Kind::Activity;
@@ -55,14 +44,14 @@ TEST_F(ChannelViewControllerTest, GroupsByTheDayOfTheStart) {
                               {17 * 60, 19 * 60, u"Across midnight"_s},
                               {19 * 60, 20 * 60, u"After it"_s}});
     EXPECT_EQ(screen->title(), u"Jedna"_s);
-    EXPECT_EQ(content(*screen),
+    EXPECT_EQ(linesOf(screen->table()),
               QStringList({u"# Thursday, 1 January 2026"_s, u"05:30 Morning"_s, u"22:30 Across midnight"_s,
                            u"# Friday, 2 January 2026"_s, u"00:30 After it"_s}));
-    EXPECT_TRUE(screen->table().row({0, 0})->allDetails);
-    EXPECT_EQ(screen->table().row({0, 0})->progress, 0.0);
+    EXPECT_TRUE(showAt(screen->table(), 0).allDetails);
+    EXPECT_EQ(showAt(screen->table(), 0).progress, 0.0);
     world.clock.advance(60min);
     screen->notificationsSynched();
-    EXPECT_FALSE(screen->table().row({0, 0})->progress) << "a show that ends now runs no more here";
+    EXPECT_FALSE(showAt(screen->table(), 0).progress) << "a show that ends now runs no more here";
 }
 
 TEST_F(ChannelViewControllerTest, RefreshUnloadsTheChannelAndAsksForACheck) {
@@ -70,8 +59,8 @@ TEST_F(ChannelViewControllerTest, RefreshUnloadsTheChannelAndAsksForACheck) {
     world.load(channel, {{0, 60, u"Old"_s}});
     const auto screen = open({{0, 60, u"Old"_s}});
     EXPECT_EQ(buttons(*screen), Kinds({kRefresh, kPlay}));
-    screen->pressBarButton(1);
-    screen->pressBarButton(0);
+    screen->pressRightBarButton(1);
+    screen->pressRightBarButton(0);
     EXPECT_EQ(world.app.done, QStringList({u"play http://x/live"_s, u"check"_s}));
     EXPECT_EQ(buttons(*screen), Kinds({kActivity, kPlay}));
 
@@ -80,7 +69,7 @@ TEST_F(ChannelViewControllerTest, RefreshUnloadsTheChannelAndAsksForACheck) {
     EXPECT_EQ(buttons(*screen), Kinds({kActivity, kPlay})) << "the channel is still due";
     world.load(channel, {{0, 60, u"New"_s}, {60, 90, u"And more"_s}});
     EXPECT_EQ(buttons(*screen), Kinds({kRefresh, kPlay}));
-    EXPECT_TRUE(content(*screen).last().endsWith(u"And more"_s));
+    EXPECT_TRUE(linesOf(screen->table()).last().endsWith(u"And more"_s));
 }
 
 TEST_F(ChannelViewControllerTest, OpensAsRefreshingWhileTheChannelIsLoadingOrDue) {
@@ -126,16 +115,16 @@ TEST_F(ChannelViewControllerTest, AScheduleThatRunsOutSaysSo) {
 TEST_F(ChannelViewControllerTest, RecolorsAtTheNextTurn) {
     begin();
     const auto screen = open({{0, 60, u"A"_s}});
-    EXPECT_EQ(screen->table().row({0, 0})->text.runs[0].color, ColorRole::Running);
+    EXPECT_EQ(showAt(screen->table(), 0).timeColor, ColorRole::Running);
     world.app.colorized = false;
     world.broadcast->recolor();
-    EXPECT_EQ(screen->table().row({0, 0})->text.runs[0].color, ColorRole::Running);
+    EXPECT_EQ(showAt(screen->table(), 0).timeColor, ColorRole::Running);
     world.queues.runAll();
-    EXPECT_EQ(screen->table().row({0, 0})->text.runs[0].color, ColorRole::SecondaryLabel);
+    EXPECT_EQ(showAt(screen->table(), 0).timeColor, ColorRole::SecondaryLabel);
     world.alarms.titles = {u"A"_s};
     world.broadcast->favoritesUpdated();
-    EXPECT_EQ(screen->table().row({0, 0})->text.runs[0].color, ColorRole::Alarm);
-    EXPECT_EQ(screen->table().row({0, 0})->spokenState, u"On now, Alarm set"_s);
+    EXPECT_EQ(showAt(screen->table(), 0).timeColor, ColorRole::Alarm);
+    EXPECT_TRUE(showAt(screen->table(), 0).alarmed && showAt(screen->table(), 0).running);
 }
 
 } // namespace

@@ -1,4 +1,7 @@
+#include "fakes/ManualQueues.h"
+#include "screens/kit/LatestAnswer.h"
 #include "screens/kit/TabBarController.h"
+#include "screens/kit/TableViewController.h"
 
 #include <QStringList>
 
@@ -7,146 +10,115 @@
 namespace guide::test {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
-Row row(const QString& title) {
-    Row row;
-    row.text.append(title, TextStyle::Title, ColorRole::Label);
-    row.selectable = true;
-    return row;
-}
-
-std::vector<Row> rows(const QStringList& titles) {
-    std::vector<Row> rows;
-    for (const QString& title : titles) {
-        rows.push_back(row(title));
-    }
-    return rows;
-}
-
-// Follows a table the way a list on a screen does: by the changes alone.
-struct Follower final : TableObserver {
-    explicit Follower(Table& followed)
-        : table(followed) {
-        table.setObserver(this);
-    }
-    void tableReloaded() override {
-        shown.clear();
-        for (const Section& section : table.sections()) {
-            shown.push_back({});
-            for (const Row& row : section.rows) {
-                shown.back() << row.text.plain();
-            }
-        }
-        log << u"reload"_s;
-    }
-    void rowsInserted(int section, int first, int count) override {
-        for (int index = first; index < first + count; ++index) {
-            shown[static_cast<std::size_t>(section)].insert(index, text(section, index));
-        }
-        log << u"insert %1+%2"_s.arg(first).arg(count);
-    }
-    void rowsRemoved(int section, int first, int count) override {
-        shown[static_cast<std::size_t>(section)].remove(first, count);
-        log << u"remove %1+%2"_s.arg(first).arg(count);
-    }
-    void rowsReloaded(int section, int first, int count) override {
-        for (int index = first; index < first + count; ++index) {
-            shown[static_cast<std::size_t>(section)][index] = text(section, index);
-        }
-        log << u"change %1+%2"_s.arg(first).arg(count);
-    }
-    void rowSelectionChanged() override { log << u"selection"_s; }
-    void emptyNoteChanged() override { log << u"note"_s; }
-
-    QString text(int section, int row) const { return table.row({section, row})->text.plain(); }
-
-    Table& table;
-    std::vector<QStringList> shown;
-    QStringList log;
-};
-
-struct Screen final : ViewController {
+struct Screen final : TableViewController {
     Screen(const QString& name, QStringList& events)
         : m_name(name)
         , m_events(events) {}
     void viewDidLoad() override { m_events << m_name + u" loads"_s; }
     void viewDidAppear() override { m_events << m_name + u" appears"_s; }
     void viewDidDisappear() override { m_events << m_name + u" disappears"_s; }
-    void didSelectRow(IndexPath path) override { m_events << u"%1 row %2"_s.arg(m_name).arg(path.row); }
+    void rowEvent(const RowId& id, const RowEvent& event) override {
+        m_events << u"%1 %2"_s.arg(*id.name()).arg(event.index());
+    }
     void refreshable() { setHasRefreshControl(true); }
     void didPullToRefresh() override { m_events << m_name + u" pulled"_s; }
+    void searchable() { setSearchField(SearchField{u"placeholder"_s}); }
+    void searchTextEdited(const QString& text) override { m_events << u"search "_s + text; }
 
     const QString m_name;
     QStringList& m_events;
 };
 
-TEST(TableTest, UpdatesASectionWithTheFewestChanges) {
+// The event's number in its variant, as Screen logs it.
+template <class Event>
+int numberOf() {
+    return static_cast<int>(RowEvent(Event{}).index());
+}
+
+TEST(TableViewControllerTest, EventsReachOnlyRowsThatTakeThem) {
     struct Case {
         const char* name;
-        QStringList before;
-        QStringList after;
-        QStringList changes;
+        Row row;
+        RowEvent event;
+        /// The number of the event that arrives, -1 for none.
+        int arrives;
     };
+    const auto row = [](RowContent content, bool flag = true) {
+        return Row{.id = {u"s"_s, u"r"_s},
+                   .content = std::move(content),
+                   .selectable = flag,
+                   .deletable = flag,
+                   .movable = flag};
+    };
+    const ChoiceRow choice{.choices = {u"x"_s, u"y"_s}};
     const std::vector<Case> cases{
-        {"the same", {u"a"_s, u"b"_s}, {u"a"_s, u"b"_s}, {}},
-        {"one of three", {u"a"_s, u"b"_s, u"c"_s}, {u"a"_s, u"x"_s, u"c"_s}, {u"change 1+1"_s}},
-        {"two apart", {u"a"_s, u"b"_s, u"c"_s}, {u"x"_s, u"b"_s, u"y"_s}, {u"change 0+1"_s, u"change 2+1"_s}},
-        {"longer", {u"a"_s}, {u"a"_s, u"b"_s, u"c"_s}, {u"insert 1+2"_s}},
-        {"shorter, and the first one differs",
-         {u"a"_s, u"b"_s, u"c"_s},
-         {u"x"_s},
-         {u"remove 1+2"_s, u"change 0+1"_s}},
-        {"from nothing", {}, {u"a"_s}, {u"insert 0+1"_s}},
+        {"tap", row(TextRow()), Tapped{}, numberOf<Tapped>()},
+        {"tap on a row that is not selectable", row(TextRow(), false), Tapped{}, -1},
+        {"the same with a play button", row(ChannelRow{.accessory = Accessory::Play}, false), Tapped{},
+         numberOf<AccessoryTapped>()},
+        {"play button", row(ShowRow{.accessory = Accessory::Play}), AccessoryTapped{},
+         numberOf<AccessoryTapped>()},
+        {"spinner", row(ShowRow{.accessory = Accessory::Spinner}), AccessoryTapped{}, -1},
+        {"a kind without accessory", row(ButtonRow()), AccessoryTapped{}, -1},
+        {"switch", row(SwitchRow()), Toggled{true}, numberOf<Toggled>()},
+        {"disabled switch", row(SwitchRow{.enabled = false}), Toggled{true}, -1},
+        {"the event of another kind", row(SwitchRow()), Chosen{0}, -1},
+        {"choice", row(choice), Chosen{1}, numberOf<Chosen>()},
+        {"choice that does not exist", row(choice), Chosen{2}, -1},
+        {"time", row(TimeRow()), TimePicked{QTime(1, 2)}, numberOf<TimePicked>()},
+        {"no time", row(TimeRow()), TimePicked{}, -1},
+        {"input", row(InputRow()), TextEdited{u"x"_s}, numberOf<TextEdited>()},
+        {"delete", row(TextRow()), Deleted{}, numberOf<Deleted>()},
+        {"a row that is not deletable", row(TextRow(), false), Deleted{}, -1},
+        {"move to the end", row(TextRow()), MovedBefore{}, numberOf<MovedBefore>()},
+        {"move before a row", row(TextRow()), MovedBefore{RowId(u"s"_s, u"next"_s)}, numberOf<MovedBefore>()},
+        {"move into another section", row(TextRow()), MovedBefore{RowId(u"t"_s, u"other"_s)}, -1},
     };
     for (const Case& each : cases) {
         SCOPED_TRACE(each.name);
-        Table table;
-        Follower follower(table);
-        table.reload({{QString(), rows({u"other"_s})}, {QString(), rows(each.before)}});
-        follower.log.clear();
-        table.updateSection(1, rows(each.after));
-        EXPECT_EQ(follower.log, each.changes);
-        EXPECT_EQ(follower.shown[1], each.after);
-        EXPECT_EQ(follower.shown[0], QStringList{u"other"_s});
+        QStringList events;
+        Screen screen(u"screen"_s, events);
+        screen.table().setEditing(true);
+        screen.table().setSections({{.id = u"s"_s, .rows = {each.row, {.id = {u"s"_s, u"next"_s}}}},
+                                    {.id = u"t"_s, .rows = {{.id = {u"t"_s, u"other"_s}}}}});
+        screen.sendRowEvent(RowId(u"s"_s, u"gone"_s), each.event);
+        screen.sendRowEvent(each.row.id, each.event);
+        EXPECT_EQ(events, each.arrives < 0 ? QStringList() : QStringList(u"r %1"_s.arg(each.arrives)));
+        EXPECT_EQ(screen.table().selectedRow().has_value(), each.arrives == numberOf<Tapped>());
+        screen.table().setEditing(false);
+        events.clear();
+        screen.sendRowEvent(each.row.id, Deleted{});
+        screen.sendRowEvent(each.row.id, MovedBefore{});
+        EXPECT_TRUE(events.isEmpty()) << "not in edit mode";
     }
 }
 
-TEST(TableTest, ASelectedRowThatGoesIsSelectedNoMore) {
-    Table table;
-    table.reload({{QString(), rows({u"a"_s, u"b"_s})}});
-    table.selectRow({0, 1});
-    table.updateSection(0, rows({u"a"_s}));
-    EXPECT_FALSE(table.selectedRow());
-    table.selectRow({0, 5});
-    EXPECT_FALSE(table.selectedRow());
-}
-
-TEST(ViewControllerTest, TapsReachOnlyWhatCanBeTapped) {
+TEST(ViewControllerTest, PullsAndSearchText) {
     QStringList events;
-    const auto screen = std::make_shared<Screen>(u"s"_s, events);
-    std::vector<Row> content = rows({u"a"_s, u"b"_s});
-    content[0].selectable = false;
-    screen->table().reload({{QString(), std::move(content)}});
-    screen->tapRow({0, 0});
-    screen->tapRow({0, 2});
-    screen->tapRow({3, 0});
-    screen->tapRow({0, 1});
-    screen->pressBarButton(7);
-    EXPECT_EQ(events, QStringList{u"s row 1"_s});
-    EXPECT_EQ(screen->table().selectedRow(), IndexPath(0, 1));
-
-    screen->pullToRefresh();
-    screen->refreshable();
-    screen->pullToRefresh();
-    screen->pullToRefresh();
-    EXPECT_EQ(events.filter(u"pulled"_s).size(), 1) << "a pull while refreshing is no second one";
+    Screen screen(u"s"_s, events);
+    screen.pressRightBarButton(7);
+    screen.editSearchText(u"x"_s);
+    screen.pullToRefresh();
+    EXPECT_TRUE(events.isEmpty()) << "without refresh control and search field";
+    screen.refreshable();
+    screen.pullToRefresh();
+    screen.pullToRefresh();
+    EXPECT_EQ(std::exchange(events, {}), QStringList(u"s pulled"_s)) << "not again while refreshing";
+    screen.searchable();
+    screen.editSearchText(u"x"_s);
+    screen.editSearchText(u"x"_s);
+    screen.cancelSearch();
+    screen.cancelSearch();
+    EXPECT_EQ(events, QStringList({u"search x"_s, u"search "_s}));
 }
 
 TEST(NavigationControllerTest, OnlyTheTopOfAVisibleStackAppears) {
     QStringList events;
-    NavigationController stack(std::make_shared<Screen>(u"root"_s, events));
+    NavigationController stack(std::make_shared<Screen>(u"root"_s, events), UserInterfaceIdiom::Phone);
     stack.push(std::make_shared<Screen>(u"one"_s, events));
     EXPECT_TRUE(events.isEmpty());
     stack.setVisible(true);
@@ -164,9 +136,48 @@ TEST(NavigationControllerTest, OnlyTheTopOfAVisibleStackAppears) {
     EXPECT_TRUE(events.isEmpty());
 }
 
-TEST(TabBarControllerTest, TabsAndTheirStacks) {
+TEST(NavigationControllerTest, PopoversAndSheetsHaveStacksWithinTheStack) {
     QStringList events;
-    TabBarController tabs;
+    const auto screen = [&events](const QString& name) { return std::make_shared<Screen>(name, events); };
+    NavigationController phone(screen(u"root"_s), UserInterfaceIdiom::Phone);
+    phone.show(screen(u"popover"_s), Presentation::Popover);
+    EXPECT_EQ(phone.viewControllers().size(), 2U) << "a phone pushes popovers";
+
+    NavigationController tablet(screen(u"root"_s), UserInterfaceIdiom::Tablet);
+    tablet.setVisible(true);
+    events.clear();
+    tablet.show(screen(u"one"_s), Presentation::Sheet);
+    tablet.show(screen(u"two"_s), Presentation::Popover, BarButtonAnchor{});
+    EXPECT_EQ(std::exchange(events, {}), QStringList({u"one loads"_s, u"one appears"_s, u"one disappears"_s,
+                                                      u"two loads"_s, u"two appears"_s}));
+    NavigationController* inner = tablet.presentedStack();
+    ASSERT_NE(inner, nullptr);
+    const auto submenu = screen(u"submenu"_s);
+    inner->push(submenu);
+    tablet.setVisible(false);
+    tablet.setVisible(true);
+    EXPECT_TRUE(events.endsWith(u"submenu appears"_s));
+    submenu->navigationController()->dismiss();
+    EXPECT_EQ(tablet.presentedStack(), nullptr);
+    EXPECT_EQ(submenu->navigationController(), nullptr);
+    EXPECT_TRUE(events.endsWith(u"submenu disappears"_s));
+
+    tablet.show(screen(u"sheet"_s), Presentation::Sheet);
+    tablet.push(screen(u"next"_s));
+    EXPECT_EQ(tablet.presentedStack(), nullptr) << "a push closes what is presented";
+    tablet.dismiss();
+    EXPECT_EQ(tablet.viewControllers().size(), 2U);
+}
+
+class TabBarControllerTest : public testing::Test {
+  protected:
+    ManualClock clock;
+    ManualQueues queues{clock};
+    TabBarController tabs{UserInterfaceIdiom::Phone, queues.mainQueue()};
+};
+
+TEST_F(TabBarControllerTest, TabsAndTheirStacks) {
+    QStringList events;
     for (const QString& name : {u"a"_s, u"b"_s, u"c"_s}) {
         tabs.addTab({name}, std::make_shared<Screen>(name, events));
     }
@@ -193,8 +204,7 @@ TEST(TabBarControllerTest, TabsAndTheirStacks) {
     EXPECT_EQ(tabs.selectedIndex(), 0);
 }
 
-TEST(TabBarControllerTest, AlertsWaitForEachOther) {
-    TabBarController tabs;
+TEST_F(TabBarControllerTest, AlertsWaitForEachOther) {
     QStringList answers;
     tabs.presentAlert({u"1"_s, {}, {{u"OK"_s, AlertAction::Style::Default, [&] {
                                          answers << u"first"_s;
@@ -211,6 +221,51 @@ TEST(TabBarControllerTest, AlertsWaitForEachOther) {
     tabs.answerAlert(0);
     EXPECT_EQ(tabs.presentedAlert(), nullptr);
     EXPECT_EQ(answers, QStringList({u"first"_s, u"second"_s}));
+}
+
+TEST_F(TabBarControllerTest, EachNoticeStaysForItsTime) {
+    int undone = 0;
+    tabs.presentNotice({u"1"_s, u"Undo"_s, [&undone] { ++undone; }});
+    tabs.presentNotice({u"2"_s});
+    tabs.presentNotice({u"3"_s});
+    const auto wait = [this](std::chrono::milliseconds time) {
+        clock.advance(time);
+        queues.runAll();
+        return tabs.presentedNotice() ? tabs.presentedNotice()->text : u"none"_s;
+    };
+    EXPECT_EQ(wait(5s), u"1"_s);
+    tabs.pressNoticeAction();
+    EXPECT_EQ(undone, 1);
+    EXPECT_EQ(wait(7999ms), u"2"_s) << "the timer of the first one does not count";
+    EXPECT_EQ(wait(1ms), u"3"_s);
+    EXPECT_EQ(wait(8s), u"none"_s);
+    tabs.pressNoticeAction();
+    tabs.dismissNotice();
+}
+
+TEST(LatestAnswerTest, DropsOvertakenAnswersAndThoseOfOwnersThatAreGone) {
+    ManualClock clock;
+    ManualQueues queues(clock);
+    struct Owner {
+        LatestAnswer answers;
+    };
+    auto owner = std::make_shared<Owner>();
+    std::vector<int> received;
+    const auto ask = [&]() -> MainBlock<int> {
+        return owner->answers.expect(std::weak_ptr<const void>(owner),
+                                     [&](int value) { received.push_back(value); });
+    };
+    MainBlock<int> first = ask();
+    MainBlock<int> second = ask();
+    second.post(queues.mainQueue(), 2);
+    first.post(queues.mainQueue(), 1);
+    queues.runAll();
+    EXPECT_EQ(received, std::vector<int>{2});
+    MainBlock<int> third = ask();
+    third.post(queues.mainQueue(), 3);
+    owner.reset();
+    queues.runAll();
+    EXPECT_EQ(received, std::vector<int>{2});
 }
 
 } // namespace

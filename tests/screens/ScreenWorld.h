@@ -23,6 +23,30 @@ namespace guide::test {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
+/// "# header" for each section that has one, and a line for each row.
+inline QStringList linesOf(const Table& table) {
+    QStringList lines;
+    for (const Section& section : table.sections()) {
+        if (!section.header.isEmpty()) {
+            lines << u"# "_s + section.header;
+        }
+        for (const Row& row : section.rows) {
+            if (const auto* show = std::get_if<ShowRow>(&row.content)) {
+                lines << show->startTime + u' ' + show->title;
+            } else if (const auto* channel = std::get_if<ChannelRow>(&row.content)) {
+                lines << channel->title;
+            }
+        }
+    }
+    return lines;
+}
+inline const ShowRow& showAt(const Table& table, int row) {
+    return std::get<ShowRow>(table.rowAt(row).content);
+}
+inline const ChannelRow& channelAt(const Table& table, int row) {
+    return std::get<ChannelRow>(table.rowAt(row).content);
+}
+
 struct WorldFavorites final : FavoriteQuestions {
     bool containsFavoriteNamed(const QString& title) const override { return titles.contains(title); }
     bool hasFavorites() const override { return !titles.isEmpty(); }
@@ -52,7 +76,7 @@ struct WorldApp final : AppActions {
     void checkAndUpdateAllChannels() override { done << u"check"_s; }
     void resynchronizeAlarms() override { done << u"alarms"_s; }
     void playURL(const QUrl& url) override { done << u"play "_s + QString::fromLatin1(url.toEncoded()); }
-    std::vector<SwipeAction>
+    std::vector<RowAction>
     swipeActionsConfigurationForEntry(const std::shared_ptr<const TVEntry>& entry,
                                       const std::shared_ptr<ViewController>&) override {
         return swipeActions(*entry);
@@ -64,8 +88,8 @@ struct WorldApp final : AppActions {
     /// What was asked of the application, in order.
     QStringList done;
     /// What a swipe on a show's row offers.
-    std::function<std::vector<SwipeAction>(const TVEntry&)> swipeActions = [](const TVEntry&) {
-        return std::vector<SwipeAction>();
+    std::function<std::vector<RowAction>(const TVEntry&)> swipeActions = [](const TVEntry&) {
+        return std::vector<RowAction>();
     };
     bool images = true;
     bool colorized = true;
@@ -129,9 +153,9 @@ class ScreenWorld {
         listings = std::make_unique<TVListings>(TVListingsEnvironment{
             clock, device, folders, queues, tasks, state, userDefaults, *channels, *icons, catalogue,
             alphabet, favorites, popular, alarms, u"guide"_s, [this] { return showCount; }});
-        environment = std::make_shared<const ScreenEnvironment>(
-            ScreenEnvironment{clock, device, queues.mainQueue(), *loadQueue, state, *listings, *channels,
-                              *icons, catalogue, alphabet, favorites, alarms, popular, pictures, app});
+        environment = std::make_shared<const ScreenEnvironment>(ScreenEnvironment{
+            clock, device, queues.mainQueue(), *loadQueue, state, *listings, *channels, *icons, catalogue,
+            alphabet, favorites, alarms, popular, pictures, pictureCache, app});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -195,6 +219,7 @@ class ScreenWorld {
     WorldAlarms alarms;
     WorldPopularShows popular;
     WorldPictures pictures;
+    ShowPictureCache pictureCache;
     WorldApp app;
     int showCount = 4;
     Folders folders;

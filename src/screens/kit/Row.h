@@ -163,7 +163,7 @@ inline Accessory accessoryOf(const RowContent& content) {
 
 struct Row {
     RowId id;
-    RowContent content;
+    RowContent content = {};
     /// Whether a tap does something.
     bool selectable = false;
     /// In edit mode.

@@ -43,15 +43,18 @@ class Table::Announcement {
         }
     }
 
-    template <class... Parameters, class... Args>
-    void tell(void (TableObserver::*step)(Parameters...), Args... args) {
-        if (!m_table.m_observer) {
-            return;
-        }
-        if (!std::exchange(m_begun, true)) {
+    /// Before the first change of the table.
+    void begin() {
+        if (!std::exchange(m_begun, true) && m_table.m_observer) {
             m_table.m_observer->tableWillChange();
         }
-        (m_table.m_observer->*step)(args...);
+    }
+    template <class... Parameters, class... Args>
+    void tell(void (TableObserver::*step)(Parameters...), Args... args) {
+        begin();
+        if (m_table.m_observer) {
+            (m_table.m_observer->*step)(args...);
+        }
     }
 
   private:
@@ -120,8 +123,7 @@ void Table::setRow(Row row) {
         if (rowAt(*place).kind() == row.kind()) {
             if (!sameContent(rowAt(*place), row)) {
                 m_changing = true;
-                *line(*place).row = std::move(row);
-                Announcement(*this).tell(&TableObserver::rowsUpdated, *place, 1);
+                updateLine(*place, std::move(row));
                 m_changing = false;
                 if (m_waiting) {
                     setSections(*std::exchange(m_waiting, std::nullopt));
@@ -140,6 +142,13 @@ void Table::setRow(Row row) {
             }
         }
     }
+}
+
+void Table::updateLine(int place, Row row) {
+    Announcement announcement(*this);
+    announcement.begin();
+    *line(place).row = std::move(row);
+    announcement.tell(&TableObserver::rowsUpdated, place, 1);
 }
 
 std::vector<Table::Line> Table::linesOf(std::vector<Section>& sections) {
@@ -282,8 +291,12 @@ void Table::updateLines(const std::vector<Line>& lines, Announcement& announceme
             }
             ++updatedSections.back().count;
         }
-        const Line old = std::exchange(line, lines[place]);
-        return !sameContent(*old.row, *line.row);
+        const bool contentChanged = !sameContent(*line.row, *lines[place].row);
+        if (contentChanged || headingChanged) {
+            announcement.begin();
+        }
+        line = lines[place];
+        return contentChanged;
     };
     for (std::size_t first = 0; first < lines.size(); ++first) {
         const std::size_t begin = first;

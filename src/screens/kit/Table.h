@@ -135,6 +135,7 @@ class Table final : public Content {
     void apply(const TableChanges& changes, const std::vector<Line>& lines, int offset,
                Announcement& announcement);
     void updateLines(const std::vector<Line>& lines, Announcement& announcement);
+    void updateLine(int place, Row row);
     const RowIndex& index() const;
 
     std::vector<Section> m_sections;
