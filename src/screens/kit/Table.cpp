@@ -5,7 +5,6 @@
 #include <QDebug>
 
 #include <algorithm>
-#include <tuple>
 #include <unordered_set>
 #include <utility>
 
@@ -186,60 +185,68 @@ bool Table::dropDuplicates(std::vector<Section>& sections, const std::vector<Lin
     return true;
 }
 
-std::pair<int, int> Table::commonEnds(const std::vector<Line>& lines) const {
-    const auto same = [](const Line& one, const Line& other) { return sameRow(*one.row, *other.row); };
-    const auto prefix =
-        std::mismatch(m_lines.begin(), m_lines.end(), lines.begin(), lines.end(), same).first -
-        m_lines.begin();
-    const auto suffix =
-        std::mismatch(m_lines.rbegin(), m_lines.rend() - prefix, lines.rbegin(), lines.rend() - prefix, same)
-            .first -
-        m_lines.rbegin();
-    return {static_cast<int>(prefix), static_cast<int>(suffix)};
+Table::CommonEnds Table::commonEnds(const std::vector<Line>& lines) const {
+    CommonEnds ends;
+    const std::size_t most = std::min(m_lines.size(), lines.size());
+    std::size_t prefix = 0;
+    ends.updated.reserve(most);
+    while (prefix < most && sameRow(*m_lines[prefix].row, *lines[prefix].row)) {
+        ends.updated.push_back(!sameContent(*m_lines[prefix].row, *lines[prefix].row));
+        ++prefix;
+    }
+    std::size_t suffix = 0;
+    while (prefix + suffix < most &&
+           sameRow(*m_lines[m_lines.size() - 1 - suffix].row, *lines[lines.size() - 1 - suffix].row)) {
+        ++suffix;
+    }
+    ends.prefix = static_cast<int>(prefix);
+    ends.suffix = static_cast<int>(suffix);
+    return ends;
 }
 
 void Table::changeTo(std::vector<Section> sections) {
     std::vector<Line> lines = linesOf(sections);
     RowIndex index;
-    auto [prefix, suffix] = commonEnds(lines);
+    CommonEnds ends = commonEnds(lines);
     // Rows that match old ones have ids of which there is only one.
-    const bool allMatch = static_cast<std::size_t>(prefix + suffix) == lines.size();
+    const bool allMatch = static_cast<std::size_t>(ends.prefix + ends.suffix) == lines.size();
     if (!allMatch && dropDuplicates(sections, lines, index)) {
         lines = linesOf(sections);
         index.clear();
-        std::tie(prefix, suffix) = commonEnds(lines);
+        ends = commonEnds(lines);
     }
     // The old sections live until no line points to them.
     const std::vector<Section> old = std::exchange(m_sections, std::move(sections));
-    follow(std::move(lines), std::move(index), prefix, suffix);
+    follow(lines, std::move(index), ends);
 }
 
-TableChanges Table::changesTo(const std::vector<Line>& lines, int prefix, int suffix) const {
-    const int oldCount = rowCount() - prefix - suffix;
-    std::vector<int> oldPlaces(lines.size() - static_cast<std::size_t>(prefix + suffix), -1);
+TableChanges Table::changesTo(const std::vector<Line>& lines, const CommonEnds& ends) const {
+    const int oldCount = rowCount() - ends.prefix - ends.suffix;
+    std::vector<int> oldPlaces(lines.size() - static_cast<std::size_t>(ends.prefix + ends.suffix), -1);
     if (oldCount > 0 && !oldPlaces.empty()) {
         const RowIndex& known = index();
         for (std::size_t place = 0; place < oldPlaces.size(); ++place) {
-            const Row& row = *lines[place + static_cast<std::size_t>(prefix)].row;
+            const Row& row = *lines[place + static_cast<std::size_t>(ends.prefix)].row;
             const auto old = known.find(row.id, [this](int each) -> const RowId& { return idAt(each); });
             if (old && sameRow(rowAt(*old), row)) {
-                oldPlaces[place] = *old - prefix;
+                oldPlaces[place] = *old - ends.prefix;
             }
         }
     }
     return tableChanges(oldCount, std::move(oldPlaces));
 }
 
-void Table::follow(std::vector<Line> lines, RowIndex index, int prefix, int suffix) {
+void Table::follow(const std::vector<Line>& lines, RowIndex index, const CommonEnds& ends) {
     Announcement announcement(*this);
-    const bool sameRows = static_cast<std::size_t>(prefix) == lines.size() && lines.size() == m_lines.size();
+    const bool sameRows =
+        lines.size() == m_lines.size() && static_cast<std::size_t>(ends.prefix) == lines.size();
     if (!sameRows) {
-        const TableChanges changes = changesTo(lines, prefix, suffix);
+        const TableChanges changes = changesTo(lines, ends);
         m_index.clear();
-        apply(changes, lines, prefix, announcement);
+        apply(changes, lines, ends.prefix, announcement);
         m_index = std::move(index);
     }
-    updateLines(lines, announcement);
+    updateLines(lines, ends, announcement);
     if (m_selectedRow && !sameRows && !indexOf(*m_selectedRow)) {
         m_selectedRow.reset();
         announcement.tell(&TableObserver::rowSelectionChanged, std::nullopt, std::nullopt);
@@ -269,7 +276,7 @@ void Table::apply(const TableChanges& changes, const std::vector<Line>& lines, i
     }
 }
 
-void Table::updateLines(const std::vector<Line>& lines, Announcement& announcement) {
+void Table::updateLines(const std::vector<Line>& lines, const CommonEnds& ends, Announcement& announcement) {
     std::vector<TableChanges::Run> updatedSections;
     // The pair of sections compared last.
     Line before{nullptr, nullptr};
@@ -291,7 +298,10 @@ void Table::updateLines(const std::vector<Line>& lines, Announcement& announceme
             }
             ++updatedSections.back().count;
         }
-        const bool contentChanged = !sameContent(*line.row, *lines[place].row);
+        const bool contentChanged =
+            place < ends.updated.size()
+                ? ends.updated[place]
+                : line.row != lines[place].row && !sameContent(*line.row, *lines[place].row);
         if (contentChanged || headingChanged) {
             announcement.begin();
         }

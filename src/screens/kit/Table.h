@@ -9,7 +9,6 @@
 #include <cstddef>
 #include <functional>
 #include <optional>
-#include <utility>
 #include <vector>
 
 namespace guide {
@@ -115,6 +114,13 @@ class Table final : public Content {
         const Section* section;
         Row* row;
     };
+    /// The rows at the beginning and at the end that stay the same rows.
+    struct CommonEnds {
+        int prefix = 0;
+        int suffix = 0;
+        /// Whether the content of each row of the prefix changed: found out while the row is in the cache.
+        std::vector<bool> updated;
+    };
     class Announcement;
 
     const Line& line(int index) const { return m_lines[static_cast<std::size_t>(index)]; }
@@ -127,14 +133,13 @@ class Table final : public Content {
     static bool dropDuplicates(std::vector<Section>& sections, const std::vector<Line>& lines,
                                RowIndex& index);
     void changeTo(std::vector<Section> sections);
-    /// How many rows at the beginning and at the end are the same as now.
-    std::pair<int, int> commonEnds(const std::vector<Line>& lines) const;
+    CommonEnds commonEnds(const std::vector<Line>& lines) const;
     /// Announces and makes the steps from the present lines to `lines`.
-    void follow(std::vector<Line> lines, RowIndex index, int prefix, int suffix);
-    TableChanges changesTo(const std::vector<Line>& lines, int prefix, int suffix) const;
+    void follow(const std::vector<Line>& lines, RowIndex index, const CommonEnds& ends);
+    TableChanges changesTo(const std::vector<Line>& lines, const CommonEnds& ends) const;
     void apply(const TableChanges& changes, const std::vector<Line>& lines, int offset,
                Announcement& announcement);
-    void updateLines(const std::vector<Line>& lines, Announcement& announcement);
+    void updateLines(const std::vector<Line>& lines, const CommonEnds& ends, Announcement& announcement);
     void updateLine(int place, Row row);
     const RowIndex& index() const;
 
