@@ -52,7 +52,7 @@
         <translation>Všechny pořady</translation>
     </message>
     <message>
-        <source>All shows of all your channels come with a later version. What is on now stands under Currently.</source>
+        <source>All shows of all your channels come with a later version. See Currently for what is on now.</source>
         <translation>Všechny pořady všech vašich kanálů přinese některá z dalších verzí. Co právě běží, najdete na kartě Právě běží.</translation>
     </message>
     <message>
@@ -60,7 +60,7 @@
         <translation>Kategorie</translation>
     </message>
     <message>
-        <source>Films, series, sport and the other kinds of shows come with a later version. What is on now stands under Currently.</source>
+        <source>Films, series, sport and the other kinds of shows come with a later version. See Currently for what is on now.</source>
         <translation>Filmy, seriály, sport a další druhy pořadů přinese některá z dalších verzí. Co právě běží, najdete na kartě Právě běží.</translation>
     </message>
     <message>
@@ -68,7 +68,7 @@
         <translation>Hledat</translation>
     </message>
     <message>
-        <source>Searching comes with a later version. What is on now stands under Currently.</source>
+        <source>Searching comes with a later version. See Currently for what is on now.</source>
         <translation>Hledání přinese některá z dalších verzí. Co právě běží, najdete na kartě Právě běží.</translation>
     </message>
     <message>
@@ -76,7 +76,7 @@
         <translation>Plán</translation>
     </message>
     <message>
-        <source>The schedule of your alarms and favourites comes with a later version. What is on now stands under Currently.</source>
+        <source>The schedule of your alarms and favourites comes with a later version. See Currently for what is on now.</source>
         <translation>Plán vašich upozornění a oblíbených pořadů přinese některá z dalších verzí. Co právě běží, najdete na kartě Právě běží.</translation>
     </message>
     <message>

@@ -52,7 +52,7 @@
         <translation>Všetky relácie</translation>
     </message>
     <message>
-        <source>All shows of all your channels come with a later version. What is on now stands under Currently.</source>
+        <source>All shows of all your channels come with a later version. See Currently for what is on now.</source>
         <translation>Všetky relácie všetkých vašich kanálov prinesie niektorá z ďalších verzií. Čo práve beží, nájdete na karte Práve beží.</translation>
     </message>
     <message>
@@ -60,7 +60,7 @@
         <translation>Kategórie</translation>
     </message>
     <message>
-        <source>Films, series, sport and the other kinds of shows come with a later version. What is on now stands under Currently.</source>
+        <source>Films, series, sport and the other kinds of shows come with a later version. See Currently for what is on now.</source>
         <translation>Filmy, seriály, šport a ďalšie druhy relácií prinesie niektorá z ďalších verzií. Čo práve beží, nájdete na karte Práve beží.</translation>
     </message>
     <message>
@@ -68,7 +68,7 @@
         <translation>Hľadať</translation>
     </message>
     <message>
-        <source>Searching comes with a later version. What is on now stands under Currently.</source>
+        <source>Searching comes with a later version. See Currently for what is on now.</source>
         <translation>Hľadanie prinesie niektorá z ďalších verzií. Čo práve beží, nájdete na karte Práve beží.</translation>
     </message>
     <message>
@@ -76,7 +76,7 @@
         <translation>Plán</translation>
     </message>
     <message>
-        <source>The schedule of your alarms and favourites comes with a later version. What is on now stands under Currently.</source>
+        <source>The schedule of your alarms and favourites comes with a later version. See Currently for what is on now.</source>
         <translation>Plán vašich upozornení a obľúbených relácií prinesie niektorá z ďalších verzií. Čo práve beží, nájdete na karte Práve beží.</translation>
     </message>
     <message>

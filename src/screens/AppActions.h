@@ -12,12 +12,12 @@
 
 namespace guide {
 
-/// What a screen asks of the application. Main queue.
+/// The operations and settings of the application that screens use. Main queue.
 class AppActions {
   public:
     virtual ~AppActions() = default;
     virtual void checkAndUpdateAllChannels() = 0;
-    /// Marks the alarms as out of step, then synchronises them.
+    /// Marks the alarms as not synchronised, then synchronises them.
     virtual void resynchronizeAlarms() = 0;
     /// Opens a live stream.
     virtual void playURL(const QUrl& url) = 0;
@@ -30,7 +30,7 @@ class AppActions {
 
     virtual bool imagesEnabled() const = 0;
     virtual bool colorizedShows() const = 0;
-    /// How old a list may grow before it is loaded again.
+    /// The age at which a list is loaded again.
     virtual std::chrono::seconds automaticUpdateInterval() const = 0;
 };
 

@@ -15,7 +15,8 @@
 
 namespace guide {
 
-/// The pictures of shows, by channel and identificator, the ones used last. Any thread.
+/// A bounded cache of the pictures of shows, by channel and identificator. Drops the least recently used
+/// ones. Any thread.
 class ShowPictureCache {
   public:
     static constexpr qsizetype kMaxBytes = 32 * 1024 * 1024;
@@ -23,13 +24,13 @@ class ShowPictureCache {
     explicit ShowPictureCache(qsizetype maxBytes = kMaxBytes)
         : m_maxBytes(maxBytes) {}
 
-    /// Nothing when the picture was not looked for, or is dropped; an empty key when there is none.
+    /// Nothing when the picture was never inserted or was dropped; an empty key when the show has none.
     std::optional<PictureKey> find(const ObjectId& channel, const QString& showIdentifier) const;
-    /// A null image: the show has no picture. A picture that replaces another one gets another key.
+    /// A null image records that the show has no picture. A picture that replaces another one gets a new key.
     void insert(const ObjectId& channel, const QString& showIdentifier, const QImage& image);
     void forgetChannel(const ObjectId& channel);
 
-    /// The image of a key's name; null when it is dropped.
+    /// The image of a key's name; null when it was dropped.
     QImage image(const QString& name);
 
   private:
@@ -48,7 +49,7 @@ class ShowPictureCache {
 
     const qsizetype m_maxBytes;
     mutable std::mutex m_guard;
-    Pictures m_pictures; // guarded; the one used last first
+    Pictures m_pictures; // guarded; most recently used first
     std::unordered_map<ObjectId, QHash<QString, Pictures::iterator>> m_byShow; // guarded
     QHash<QString, Pictures::iterator> m_byName;                               // guarded
     qsizetype m_bytes = 0;                                                     // guarded

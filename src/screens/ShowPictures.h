@@ -10,20 +10,20 @@
 
 namespace guide {
 
-/// Where the pictures of show rows come from. Asked on the main queue, works in the background.
+/// Loads the pictures of show rows. Called on the main queue, works in the background.
 class ShowPictures {
   public:
     virtual ~ShowPictures() = default;
 
-    /// One picture, at the size of a row's picture; a null image when it could not be had.
+    /// One picture at the size of a row's picture; a null image when loading fails.
     virtual void asyncLoadOfShowImageAtURL(const QUrl& url, MainBlock<QImage> mainBlock) = 0;
 
-    /// The same shows, completed with what can be found out about each, and a picture for each of them: a
-    /// null image for a show that has none.
+    /// Answers with the same shows, completed with their details, and one picture for each of them: a null
+    /// image for a show without a picture.
     virtual void loadDetailsOfShows(ShowItems shows, MainBlock<ShowItems, std::vector<QImage>> mainBlock) = 0;
 };
 
-/// For a guide without pictures from the network: never answers.
+/// For a guide that loads no pictures. Never answers.
 class NoShowPictures final : public ShowPictures {
   public:
     void asyncLoadOfShowImageAtURL(const QUrl&, MainBlock<QImage>) override {}

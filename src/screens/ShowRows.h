@@ -14,11 +14,11 @@
 
 namespace guide {
 
-/// The part of the show that is over at the moment: below 0 before it, above 1 after it, nothing for a show
-/// without a span.
+/// The elapsed share of the show: below 0 before its start, above 1 after its end; nothing without a start
+/// and a later end.
 std::optional<double> showProgress(const TVEntry& entry, Moment now);
 
-/// Gives the shows of a section their ids, in ascending start time.
+/// Makes the ids of the shows of one section. The shows are passed in ascending start time.
 class ShowRowIds {
   public:
     explicit ShowRowIds(SectionId section)
@@ -28,23 +28,23 @@ class ShowRowIds {
 
   private:
     SectionId m_section;
-    /// Of the show before.
+    /// Of the previous show.
     std::optional<Moment> m_start;
-    /// How many shows of each channel have had that start.
+    /// The number of shows of each channel so far that have this start.
     std::unordered_map<ObjectId, int> m_counts;
 };
 
 /// The show that has the key among the shows of a section; null when there is none.
 const ShowItem* findShow(std::span<const ShowItem> shows, const ShowRowKey& key);
 
-/// Makes the show rows of one rebuild of a screen.
+/// Makes the show rows for one rebuild of a screen.
 class ShowRows {
   public:
     explicit ShowRows(const ScreenEnvironment& environment);
 
     Moment now() const { return m_now; }
-    /// The condensed form, without picture and accessory. Each screen has its own rule of what is `running`;
-    /// it sets `progress`.
+    /// The condensed form, without picture and accessory. Screens differ in what counts as running; a running
+    /// show has `progress`.
     ShowRow condensed(const ShowItem& show, bool running) const;
 
   private:
@@ -56,7 +56,7 @@ class ShowRows {
 /// The moment in the device's zone.
 QDateTime localTime(const Device& device, Moment moment);
 
-/// The channel's live stream; nothing for a channel without one.
+/// The address of the channel's live stream; nothing for a channel without one.
 std::optional<QUrl> streamURLOf(const CatalogueSnapshot& channels, const ObjectId& channel);
 
 } // namespace guide

@@ -10,7 +10,7 @@ class ChannelViewControllerTest : public testing::Test {
   protected:
     void begin(const std::optional<QString>& stream = {}) {
         world.device.deviceLocale = QLocale(QLocale::English, QLocale::UnitedKingdom);
-        // 31 December, 18:30 UTC, is 1 January, 05:30, here.
+        // 31 December, 18:30 UTC, is 1 January, 05:30, in this zone.
         world.device.zone = QTimeZone("Australia/Lord_Howe");
         channel = world.addChannel(u"Jedna"_s, true, stream);
         world.start();
@@ -51,7 +51,7 @@ TEST_F(ChannelViewControllerTest, GroupsByTheDayOfTheStart) {
     EXPECT_EQ(showAt(screen->table(), 0).progress, 0.0);
     world.clock.advance(60min);
     screen->notificationsSynched();
-    EXPECT_FALSE(showAt(screen->table(), 0).progress) << "a show that ends now runs no more here";
+    EXPECT_FALSE(showAt(screen->table(), 0).progress) << "a show that ends now is over here";
 }
 
 TEST_F(ChannelViewControllerTest, RefreshUnloadsTheChannelAndAsksForACheck) {
@@ -88,7 +88,7 @@ TEST_F(ChannelViewControllerTest, OpensAsRefreshingWhileTheChannelIsLoadingOrDue
     EXPECT_EQ(buttons(*screen), Kinds{kRefresh});
 }
 
-TEST_F(ChannelViewControllerTest, AChannelThatIsNoLongerSelectedKeepsTheIndicator) {
+TEST_F(ChannelViewControllerTest, KeepsTheIndicatorWhenTheChannelIsNoLongerSelected) {
     begin();
     world.load(channel, {{0, 60, u"A"_s}});
     const auto screen = open({{0, 60, u"A"_s}});
@@ -101,7 +101,7 @@ TEST_F(ChannelViewControllerTest, AChannelThatIsNoLongerSelectedKeepsTheIndicato
     EXPECT_TRUE(world.app.done.isEmpty());
 }
 
-TEST_F(ChannelViewControllerTest, AScheduleThatRunsOutSaysSo) {
+TEST_F(ChannelViewControllerTest, ShowsANoteWhenTheScheduleHasRunOut) {
     begin();
     world.load(channel, {{0, 60, u"A"_s}});
     const auto screen = open({{0, 60, u"A"_s}});
@@ -112,7 +112,7 @@ TEST_F(ChannelViewControllerTest, AScheduleThatRunsOutSaysSo) {
     EXPECT_TRUE(screen->table().emptyNote());
 }
 
-TEST_F(ChannelViewControllerTest, RecolorsAtTheNextTurn) {
+TEST_F(ChannelViewControllerTest, RecolorsOnTheNextMainQueueTurn) {
     begin();
     const auto screen = open({{0, 60, u"A"_s}});
     EXPECT_EQ(showAt(screen->table(), 0).timeColor, ColorRole::Running);

@@ -39,7 +39,7 @@ int numberOf() {
     return static_cast<int>(RowEvent(Event{}).index());
 }
 
-TEST(TableViewControllerTest, EventsReachOnlyRowsThatTakeThem) {
+TEST(TableViewControllerTest, PassesEventsOnlyToRowsThatAcceptThem) {
     struct Case {
         const char* name;
         Row row;
@@ -190,7 +190,7 @@ TEST_F(TabBarControllerTest, TabsAndTheirStacks) {
     EXPECT_EQ(tabs.selectedIndex(), 2);
     EXPECT_EQ(std::exchange(events, {}), QStringList({u"b disappears"_s, u"c loads"_s, u"c appears"_s}));
     tabs.tapTab(0);
-    EXPECT_EQ(tabs.selectedIndex(), 2) << "a disabled tab answers to no tap";
+    EXPECT_EQ(tabs.selectedIndex(), 2) << "a disabled tab ignores taps";
     tabs.selectedNavigationController().push(std::make_shared<Screen>(u"d"_s, events));
     tabs.tapTab(2);
     EXPECT_EQ(tabs.selectedNavigationController().viewControllers().size(), 1U)
@@ -204,7 +204,7 @@ TEST_F(TabBarControllerTest, TabsAndTheirStacks) {
     EXPECT_EQ(tabs.selectedIndex(), 0);
 }
 
-TEST_F(TabBarControllerTest, AlertsWaitForEachOther) {
+TEST_F(TabBarControllerTest, ShowsAlertsOneAfterAnother) {
     QStringList answers;
     tabs.presentAlert({u"1"_s, {}, {{u"OK"_s, AlertAction::Style::Default, [&] {
                                          answers << u"first"_s;
@@ -223,7 +223,7 @@ TEST_F(TabBarControllerTest, AlertsWaitForEachOther) {
     EXPECT_EQ(answers, QStringList({u"first"_s, u"second"_s}));
 }
 
-TEST_F(TabBarControllerTest, EachNoticeStaysForItsTime) {
+TEST_F(TabBarControllerTest, ShowsEachNoticeForItsTime) {
     int undone = 0;
     tabs.presentNotice({u"1"_s, u"Undo"_s, [&undone] { ++undone; }});
     tabs.presentNotice({u"2"_s});

@@ -79,7 +79,7 @@ TEST_F(RootViewControllerTest, ShowsASectionForEachSelectedChannelInOrder) {
     EXPECT_FALSE(table().selectedRow());
 }
 
-TEST_F(RootViewControllerTest, AChannelThatTheCatalogueDoesNotKnow) {
+TEST_F(RootViewControllerTest, ShowsAChannelThatIsNotInTheCatalogueAsAQuestionMark) {
     world.start();
     world.channels->setSelected({ScreenWorld::channelId(77)});
     world.show();
@@ -87,7 +87,7 @@ TEST_F(RootViewControllerTest, AChannelThatTheCatalogueDoesNotKnow) {
     EXPECT_TRUE(channelAt(table(), 0).icon.empty());
 }
 
-TEST_F(RootViewControllerTest, SaysWhatToDoWithoutChannelsButNotBeforeItKnows) {
+TEST_F(RootViewControllerTest, ShowsANoteWithoutChannelsOnceTheQueryIsAnswered) {
     world.start();
     world.tabs->makeVisible();
     EXPECT_FALSE(table().emptyNote());
@@ -128,7 +128,7 @@ TEST_F(RootViewControllerTest, TimeColoursAndProgress) {
     }
 }
 
-TEST_F(RootViewControllerTest, PopularShowsCarryAHeart) {
+TEST_F(RootViewControllerTest, MarksPopularShows) {
     const ObjectId channel = world.addChannel(u"Jedna"_s);
     world.popular.titles = {u"Loved"_s};
     world.start();
@@ -138,7 +138,7 @@ TEST_F(RootViewControllerTest, PopularShowsCarryAHeart) {
     EXPECT_FALSE(showAt(table(), 2).popular);
 }
 
-TEST_F(RootViewControllerTest, AFreshListChangesOnlyTheRowsThatItMust) {
+TEST_F(RootViewControllerTest, AFreshListChangesOnlyTheRowsThatDiffer) {
     const ObjectId one = world.addChannel(u"Jedna"_s);
     const ObjectId two = world.addChannel(u"Dva"_s);
     world.start();
@@ -163,7 +163,7 @@ TEST_F(RootViewControllerTest, AFreshListChangesOnlyTheRowsThatItMust) {
     EXPECT_EQ(changes.log, QStringList({u"updated 2+1"_s})) << "only the running show had a colour";
 }
 
-TEST_F(RootViewControllerTest, TheLoadQueueRestsWhileTheSectionsAreReplaced) {
+TEST_F(RootViewControllerTest, SuspendsTheLoadQueueWhileTheSectionsAreReplaced) {
     world.addChannel(u"Jedna"_s);
     world.start();
     root().selectedChannelsChanged();
@@ -179,7 +179,7 @@ TEST_F(RootViewControllerTest, TheLoadQueueRestsWhileTheSectionsAreReplaced) {
     EXPECT_EQ(table().sections().size(), 1U) << "the answer to the second query, which was asked last";
 }
 
-TEST_F(RootViewControllerTest, TheLoadQueueGoesOnWhenTheScreenIsGone) {
+TEST_F(RootViewControllerTest, ResumesTheLoadQueueWhenTheScreenIsDestroyed) {
     world.addChannel(u"Jedna"_s);
     world.start();
     world.tabs->makeVisible();
@@ -188,11 +188,11 @@ TEST_F(RootViewControllerTest, TheLoadQueueGoesOnWhenTheScreenIsGone) {
     EXPECT_FALSE(world.queues.suspended("vorel.tv.loadQueue"));
 }
 
-TEST_F(RootViewControllerTest, AModifiedSelectionIsFollowedUpAtTheNextAppearance) {
+TEST_F(RootViewControllerTest, ChecksAModifiedSelectionOnceAtTheNextAppearance) {
     world.addChannel(u"Jedna"_s);
     world.start();
     world.broadcast->applicationDidBecomeActive();
-    EXPECT_TRUE(world.app.done.isEmpty()) << "a screen that was never shown waits for its first appearance";
+    EXPECT_TRUE(world.app.done.isEmpty()) << "a screen that was never shown waits until it appears";
     world.show();
     EXPECT_EQ(world.app.done, QStringList({u"alarms"_s, u"check"_s}));
     world.tabs->setSelectedIndex(1);
@@ -200,7 +200,7 @@ TEST_F(RootViewControllerTest, AModifiedSelectionIsFollowedUpAtTheNextAppearance
     EXPECT_EQ(world.app.done.size(), 2) << "once";
 }
 
-TEST_F(RootViewControllerTest, OffersReachNoScreenInTheBackground) {
+TEST_F(RootViewControllerTest, IgnoresFreshListsInTheBackground) {
     const ObjectId channel = world.addChannel(u"Jedna"_s);
     world.start();
     world.show();
@@ -235,7 +235,7 @@ TEST_F(RootViewControllerTest, AChannelOpensItsSchedule) {
 
 // ---- pictures
 
-TEST_F(RootViewControllerTest, PicturesAreLoadedOnceForTheRowsInSight) {
+TEST_F(RootViewControllerTest, LoadsThePicturesOfDisplayedRowsOnce) {
     const QUrl url(u"http://x/p.jpg"_s);
     const ObjectId channel = world.addChannel(u"Jedna"_s);
     world.start();
@@ -251,7 +251,7 @@ TEST_F(RootViewControllerTest, PicturesAreLoadedOnceForTheRowsInSight) {
     world.clock.advance(1ms);
     world.queues.runAll();
     ASSERT_EQ(world.pictures.pictures.size(), 1U);
-    ASSERT_EQ(world.pictures.details.size(), 1U) << "one detail pass a channel";
+    ASSERT_EQ(world.pictures.details.size(), 1U) << "one detail pass per channel";
 
     QImage image(10, 10, QImage::Format_RGB32);
     image.fill(Qt::red);
@@ -259,13 +259,13 @@ TEST_F(RootViewControllerTest, PicturesAreLoadedOnceForTheRowsInSight) {
     world.queues.runAll();
     EXPECT_FALSE(showAt(table(), 1).picture.empty());
     EXPECT_TRUE(showAt(table(), 2).picture.empty());
-    EXPECT_FALSE(showAt(table(), 3).picture.empty()) << "a picture is for every show of its title";
+    EXPECT_FALSE(showAt(table(), 3).picture.empty()) << "all shows with the same title share the picture";
 
     world.load(channel, {{-5, 5, u"A"_s}});
-    EXPECT_TRUE(showAt(table(), 1).picture.empty()) << "a fresh list forgets the pictures of the old one";
+    EXPECT_TRUE(showAt(table(), 1).picture.empty()) << "a fresh list drops the pictures of the old one";
 }
 
-TEST_F(RootViewControllerTest, DetailsOfAnOldListDoNotReplaceANewOne) {
+TEST_F(RootViewControllerTest, DropsDetailsOfAnOldList) {
     const ObjectId channel = world.addChannel(u"Jedna"_s);
     world.start();
     world.load(channel, {{-5, 5, u"Old"_s}});
@@ -281,7 +281,7 @@ TEST_F(RootViewControllerTest, DetailsOfAnOldListDoNotReplaceANewOne) {
     EXPECT_TRUE(linesOf(table()).last().endsWith(u"New"_s));
 }
 
-TEST_F(RootViewControllerTest, WithoutPicturesOrWhileDueNothingIsFetched) {
+TEST_F(RootViewControllerTest, FetchesNothingWithoutPicturesOrWhileTheChannelIsDue) {
     const QUrl url(u"http://x/p.jpg"_s);
     const ObjectId channel = world.addChannel(u"Jedna"_s);
     world.start();
@@ -300,7 +300,7 @@ TEST_F(RootViewControllerTest, WithoutPicturesOrWhileDueNothingIsFetched) {
     display(1);
     world.clock.advance(1s);
     world.queues.runAll();
-    EXPECT_TRUE(world.pictures.details.empty()) << "a channel that is due has no details to be looked for";
+    EXPECT_TRUE(world.pictures.details.empty()) << "no detail pass while the channel is due";
 }
 
 } // namespace

@@ -85,9 +85,9 @@ struct WorldApp final : AppActions {
     bool colorizedShows() const override { return colorized; }
     std::chrono::seconds automaticUpdateInterval() const override { return 24h; }
 
-    /// What was asked of the application, in order.
+    /// The calls, in order.
     QStringList done;
-    /// What a swipe on a show's row offers.
+    /// The actions of a show row.
     std::function<std::vector<RowAction>(const TVEntry&)> swipeActions = [](const TVEntry&) {
         return std::vector<RowAction>();
     };
@@ -95,7 +95,7 @@ struct WorldApp final : AppActions {
     bool colorized = true;
 };
 
-/// Keeps what it was asked for, so that a test can answer.
+/// Keeps the requests, so that a test can answer them.
 struct WorldPictures final : ShowPictures {
     void asyncLoadOfShowImageAtURL(const QUrl& url, MainBlock<QImage> mainBlock) override {
         pictures.emplace(url.toString(), std::move(mainBlock));
@@ -108,7 +108,7 @@ struct WorldPictures final : ShowPictures {
 };
 
 struct WorldShow {
-    /// Minutes from the clock's start.
+    /// Minutes after `begin`.
     int from = 0;
     int until = 0;
     QString title;
@@ -116,7 +116,7 @@ struct WorldShow {
     QSet<QUrl> pictures = {};
 };
 
-/// The screens of a guide on hand-cranked queues, over a real store in a folder of its own.
+/// The screens of a guide on manual queues, over a real store in a temporary folder.
 class ScreenWorld {
   public:
     explicit ScreenWorld(UserInterfaceIdiom idiom = UserInterfaceIdiom::Phone,
@@ -180,7 +180,7 @@ class ScreenWorld {
         }
         return ShowSpan(std::move(items));
     }
-    /// What the update cycle does with a freshly read list, up to the screens.
+    /// Stores a freshly read list and offers it to the screens, as the update cycle does.
     void load(const ObjectId& channel, const std::vector<WorldShow>& shows) {
         ParsedLists parsed;
         for (const WorldShow& show : shows) {
@@ -197,7 +197,7 @@ class ScreenWorld {
         queues.runAll();
     }
 
-    /// Everything appears and settles.
+    /// Opens the window and runs all queues.
     void show() {
         tabs->makeVisible();
         queues.runAll();

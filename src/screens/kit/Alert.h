@@ -16,7 +16,7 @@ struct AlertAction {
     std::function<void()> action = {};
 };
 
-/// A question or a message that wants an answer before anything else goes on.
+/// A modal question or message.
 struct Alert {
     QString title;
     QString message;

@@ -15,7 +15,7 @@ namespace guide {
 /// A section's identity within its table: a channel's hexadecimal id, an ISO date, or a name of the screen's.
 using SectionId = QString;
 
-/// What a show row stands for. Shows of one channel that start together differ in `ordinal`.
+/// Identifies the show of a row. Shows of one channel that start together differ in `ordinal`.
 struct ShowRowKey {
     ObjectId channel;
     std::optional<Moment> start;

@@ -8,7 +8,7 @@
 
 namespace guide {
 
-/// Finds the places of rows by their ids: a hash table of places, which asks its owner for the id at a place.
+/// Finds rows by their ids: a hash table of row numbers that reads the ids through a function of its owner.
 class RowIndex {
   public:
     bool empty() const { return m_slots.empty(); }

@@ -16,7 +16,7 @@ bool sameRow(const Row& one, const Row& other) {
     return one.kind() == other.kind() && one.id == other.id;
 }
 
-// Of rows that are the same row.
+// For two versions of the same row.
 bool sameContent(const Row& one, const Row& other) {
     return one.selectable == other.selectable && one.deletable == other.deletable &&
            one.movable == other.movable && one.content == other.content;
@@ -29,7 +29,7 @@ bool sameHeading(const Section& one, const Section& other) {
 
 } // namespace
 
-/// Tells the observer of the steps of one change, the first of them after tableWillChange.
+/// Announces the steps of one change between tableWillChange and tableDidChange.
 class Table::Announcement {
   public:
     explicit Announcement(Table& table)
@@ -42,7 +42,7 @@ class Table::Announcement {
         }
     }
 
-    /// Before the first change of the table.
+    /// To be called before the table changes.
     void begin() {
         if (!std::exchange(m_begun, true) && m_table.m_observer) {
             m_table.m_observer->tableWillChange();
@@ -208,14 +208,14 @@ void Table::changeTo(std::vector<Section> sections) {
     std::vector<Line> lines = linesOf(sections);
     RowIndex index;
     CommonEnds ends = commonEnds(lines);
-    // Rows that match old ones have ids of which there is only one.
+    // When every row matches an old one, the ids are unique like the old ones.
     const bool allMatch = static_cast<std::size_t>(ends.prefix + ends.suffix) == lines.size();
     if (!allMatch && dropDuplicates(sections, lines, index)) {
         lines = linesOf(sections);
         index.clear();
         ends = commonEnds(lines);
     }
-    // The old sections live until no line points to them.
+    // Keeps the old rows alive while lines still point to them.
     const std::vector<Section> old = std::exchange(m_sections, std::move(sections));
     follow(lines, std::move(index), ends);
 }
@@ -278,11 +278,11 @@ void Table::apply(const TableChanges& changes, const std::vector<Line>& lines, i
 
 void Table::updateLines(const std::vector<Line>& lines, const CommonEnds& ends, Announcement& announcement) {
     std::vector<TableChanges::Run> updatedSections;
-    // The pair of sections compared last.
+    // The sections compared last.
     Line before{nullptr, nullptr};
     Line after{nullptr, nullptr};
     bool headingChanged = false;
-    // Whether the content changed.
+    // Returns whether the content changed.
     const auto replaceLine = [&](std::size_t place) {
         Line& line = m_lines[place];
         if (line.section != before.section || lines[place].section != after.section) {

@@ -29,7 +29,7 @@ struct Section {
     std::vector<Row> rows = {};
 };
 
-/// What a table without rows says instead: why there is nothing, and a button that leads on.
+/// Shown in place of the rows of an empty table: why it is empty, and a button with the next step.
 struct EmptyNote {
     QString title;
     QString message;
@@ -46,7 +46,7 @@ class TableObserver {
   public:
     virtual ~TableObserver() = default;
 
-    /// Around everything that one setSections announces. Not called when it changes nothing.
+    /// Called before and after all announcements of one change. Not called when nothing changes.
     virtual void tableWillChange() = 0;
     virtual void tableDidChange() = 0;
 
@@ -59,10 +59,10 @@ class TableObserver {
     virtual void rowsInserted() = 0;
     /// Their content changed; id and kind are the same.
     virtual void rowsUpdated(int first, int count) = 0;
-    /// Header, footer, index title or layout of the rows' sections changed.
+    /// The header, footer, index title or layout of the rows' sections changed.
     virtual void sectionsUpdated(int first, int count) = 0;
 
-    /// The places of the row that was selected, if it is still there, and of the one that is.
+    /// The indexes of the previously selected row, if it still exists, and of the selected one.
     virtual void rowSelectionChanged(std::optional<int> before, std::optional<int> after) = 0;
     virtual void emptyNoteChanged() = 0;
     virtual void editingChanged() = 0;
@@ -73,14 +73,14 @@ class Table final : public Content {
   public:
     ContentKind kind() const override { return ContentKind::Table; }
 
-    /// The sections that were set last, also while their changes are being announced.
+    /// The sections that were set last, even while the change is still being announced.
     const std::vector<Section>& sections() const { return m_sections; }
 
     // ---- the rows as one list
 
     int rowCount() const { return static_cast<int>(m_lines.size()); }
     const Row& rowAt(int index) const { return *line(index).row; }
-    /// While changes are being announced this may be a section of before.
+    /// While changes are being announced this may be an old section.
     const Section& sectionAt(int index) const { return *line(index).section; }
     /// Constant time, except while changes are being announced.
     std::optional<int> indexOf(const RowId& id) const;
@@ -92,7 +92,7 @@ class Table final : public Content {
 
     /// Replaces all sections and announces the difference: rows are matched by id and kind. Ids are unique;
     /// of rows with equal ids only the first is kept. The selection stays while its row does. When called
-    /// from an observer that is being told of changes, it takes effect after them.
+    /// from an observer during announcements, it takes effect after them.
     void setSections(std::vector<Section> sections);
     /// Replaces the rows of one section. Does nothing when there is no such section.
     void setRows(const SectionId& section, std::vector<Row> rows);
@@ -118,7 +118,7 @@ class Table final : public Content {
     struct CommonEnds {
         int prefix = 0;
         int suffix = 0;
-        /// Whether the content of each row of the prefix changed: found out while the row is in the cache.
+        /// For each row of the prefix whether its content changed, so that each row is read once.
         std::vector<bool> updated;
     };
     class Announcement;
@@ -126,15 +126,15 @@ class Table final : public Content {
     const Line& line(int index) const { return m_lines[static_cast<std::size_t>(index)]; }
     const RowId& idAt(int index) const { return line(index).row->id; }
     static std::vector<Line> linesOf(std::vector<Section>& sections);
-    /// The sections that a change of some rows starts from.
+    /// The base for a change of single rows.
     const std::vector<Section>& latestSections() const { return m_waiting ? *m_waiting : m_sections; }
 
-    /// Fills the index of the lines; whether rows were dropped, and the lines and the index with them.
+    /// Fills the index. Returns whether rows were dropped, which makes the lines and the index invalid.
     static bool dropDuplicates(std::vector<Section>& sections, const std::vector<Line>& lines,
                                RowIndex& index);
     void changeTo(std::vector<Section> sections);
     CommonEnds commonEnds(const std::vector<Line>& lines) const;
-    /// Announces and makes the steps from the present lines to `lines`.
+    /// Turns m_lines into `lines` and announces each step.
     void follow(const std::vector<Line>& lines, RowIndex index, const CommonEnds& ends);
     TableChanges changesTo(const std::vector<Line>& lines, const CommonEnds& ends) const;
     void apply(const TableChanges& changes, const std::vector<Line>& lines, int offset,
@@ -144,13 +144,12 @@ class Table final : public Content {
     const RowIndex& index() const;
 
     std::vector<Section> m_sections;
-    /// All rows of the sections in their order. Between setSections and the last announcement, some are
-    /// still those of before.
+    /// All rows in order. During announcements some are still old rows.
     std::vector<Line> m_lines;
-    /// Of the lines; empty until it is needed.
+    /// Of m_lines; built on first use.
     mutable RowIndex m_index;
     bool m_changing = false;
-    /// What an observer set while changes were being announced.
+    /// Set by an observer during announcements.
     std::optional<std::vector<Section>> m_waiting;
     std::optional<RowId> m_selectedRow;
     std::optional<EmptyNote> m_emptyNote;

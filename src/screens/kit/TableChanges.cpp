@@ -11,11 +11,13 @@ std::size_t at(int place) {
     return static_cast<std::size_t>(place);
 }
 
-// The known rows, by their new places, that are not in the longest stretch of rows which keep their order.
+// The new places of the known rows outside the longest increasing subsequence of old places.
 std::vector<int> movedRows(const std::vector<int>& oldPlaces) {
-    std::vector<int> ends;                           // by length less 1: the new place that ends it, at the
-                                                     // least old place
-    std::vector<int> previous(oldPlaces.size(), -1); // the new place before it
+    // For each length of a subsequence, less 1, the new place of its last row: the one with the least old
+    // place.
+    std::vector<int> ends;
+    // For each row its predecessor in the best subsequence that it ends.
+    std::vector<int> previous(oldPlaces.size(), -1);
     for (int row = 0; at(row) < oldPlaces.size(); ++row) {
         if (oldPlaces[at(row)] < 0) {
             continue;
@@ -45,7 +47,7 @@ std::vector<int> movedRows(const std::vector<int>& oldPlaces) {
     return moved;
 }
 
-// The rows that are kept, by their new places, in the old order.
+// For each old row its new place, or -1 when it is not kept.
 std::vector<int> keptRows(int oldCount, const std::vector<int>& oldPlaces) {
     std::vector<int> rows(at(oldCount), -1);
     for (int row = 0; at(row) < oldPlaces.size(); ++row) {
@@ -81,7 +83,7 @@ TableChanges tableChanges(int oldCount, std::vector<int> oldPlaces) {
     }
     std::erase(rows, -1);
 
-    // In the new order, each row goes behind the known row that precedes it, which is in place by then.
+    // Ascending, so that the kept row before each one has already reached its place.
     for (const int row : moved) {
         const auto from = std::find(rows.begin(), rows.end(), row);
         const int fromPlace = static_cast<int>(from - rows.begin());

@@ -6,7 +6,7 @@ namespace guide {
 
 namespace {
 
-// Whether a row takes an event, by the event's type.
+// Whether a row accepts an event.
 struct Takes {
     const Row& row;
     const Table& table;
@@ -46,7 +46,7 @@ void TableViewController::sendRowEvent(const RowId& id, const RowEvent& event) {
     if (!row) {
         return;
     }
-    // A copy: `id` may be a part of the row, which the screen may replace.
+    // A copy, because `id` may be part of the row, which the screen may replace.
     const RowId own = row->id;
     if (std::visit(Takes{*row, m_table}, event)) {
         if (std::holds_alternative<Tapped>(event)) {
@@ -69,7 +69,7 @@ void TableViewController::rowDisplayed(const RowId& id) {
 }
 
 void TableViewController::pressEmptyNoteButton() {
-    // A copy: the action may replace the note.
+    // A copy, because the action may replace the note.
     const auto action = m_table.emptyNote() ? m_table.emptyNote()->action : nullptr;
     if (action) {
         action();

@@ -18,12 +18,12 @@ class TableViewController : public ViewController {
 
     // ---- the user's events
 
-    /// Passes the event to the screen if the row exists and takes such an event. A tap on a selectable row
+    /// Passes the event to the screen if the row exists and accepts such an event. A tap on a selectable row
     /// selects it; a tap on a row that is not selectable presses its play button, if there is one.
     void sendRowEvent(const RowId& id, const RowEvent& event);
     /// From the trailing edge inwards. The actions may outlive the row.
     std::vector<RowAction> rowActions(const RowId& id);
-    /// The row came into sight, or changed while in sight.
+    /// The row became visible, or changed while visible.
     void rowDisplayed(const RowId& id);
     void pressEmptyNoteButton();
 

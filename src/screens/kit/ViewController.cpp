@@ -9,7 +9,7 @@ namespace {
 
 void press(const std::vector<BarButton>& buttons, std::size_t index) {
     if (index < buttons.size() && buttons[index].enabled) {
-        // A copy: the action may replace the buttons.
+        // A copy, because the action may replace the buttons.
         if (const std::function<void()> action = buttons[index].action) {
             action();
         }

@@ -21,13 +21,13 @@ struct SearchField {
 
 /// The thin bar under a screen's title while something is under way.
 struct Progress {
-    /// 0 to 1; empty while it is not known.
+    /// 0 to 1; empty while unknown.
     std::optional<double> fraction = {};
 
     friend bool operator==(const Progress&, const Progress&) = default;
 };
 
-/// Follows everything of a screen but its content.
+/// Observes a screen, except for its content.
 class ViewControllerObserver {
   public:
     virtual ~ViewControllerObserver() = default;

@@ -77,9 +77,8 @@ void RootViewController::selectedChannelsChanged() {
     if (!viewLoaded()) {
         return;
     }
-    // No list is parsed until the sections are complete, so that none meets half of them. The new suspension
-    // begins before the old one ends. The token belongs to the screen, so that an answer under way when the
-    // screen goes does not hold the queue.
+    // No list is parsed while the sections are being replaced. The screen owns the token, so that the queue
+    // resumes when the screen is destroyed before the answer arrives.
     m_loadQueueSuspension = m_environment->loadQueue.suspend();
     m_environment->listings.onAirShows(
         m_rebuild.expect(weak_from_this(),
@@ -331,7 +330,7 @@ void RootViewController::detailsLoaded(const ObjectId& channel, const ShowItems&
     if (!shown) {
         return;
     }
-    // A list that came in the meantime is newer than these details.
+    // A list that arrived in the meantime is newer than these details.
     if (shown->entries == asked && completed.size() == asked.size()) {
         shown->entries = completed;
     }

@@ -65,7 +65,7 @@ class RootViewController final : public ListingsScreen {
     void setChannels(const std::vector<ObjectId>& selected, const std::vector<ShowSpan>& entries);
     /// Null when the channel has no section.
     Channel* shownChannel(const ObjectId& identificator);
-    /// Null for a row that is no show.
+    /// Null for a row that is not a show.
     const ShowItem* shownShow(const RowId& id);
     /// Whether the channel's list was replaced.
     bool takeList(const ObjectId& channel, const ShowSpan& entries);
@@ -87,12 +87,12 @@ class RootViewController final : public ListingsScreen {
 
     const std::shared_ptr<const ScreenEnvironment> m_environment;
     std::vector<Channel> m_channels;
-    /// The shows of each channel whose pictures are being loaded, or have been, by identificator.
+    /// By channel, the identificators of the shows whose pictures were requested.
     std::unordered_map<ObjectId, QSet<QString>> m_askedPictures;
     std::unordered_set<ObjectId> m_channelsWithLoadedShowDetails;
     bool m_modifiedSelectedChannels = false;
     LatestAnswer m_rebuild;
-    /// Held until the latest rebuild has its answer.
+    /// Held until the latest rebuild is answered.
     SuspensionToken m_loadQueueSuspension;
     LatestAnswer m_opening;
 };

@@ -24,21 +24,19 @@ std::unique_ptr<TabBarController> makeGuideTabs(std::shared_ptr<const ScreenEnvi
     auto tabs = std::make_unique<TabBarController>(idiom, environment->mainQueue);
     if (idiom == UserInterfaceIdiom::Tablet) {
         addComingTab(*tabs, Localized::tr("All Shows"), Symbol::AllShows,
-                     Localized::tr("All shows of all your channels come with a later version. What is on now "
-                                   "stands under Currently."));
+                     Localized::tr("All shows of all your channels come with a later version. See Currently "
+                                   "for what is on now."));
     }
     tabs->addTab({Localized::tr("Currently"), Symbol::Currently, true, {}},
                  std::make_shared<RootViewController>(std::move(environment)));
     addComingTab(*tabs, Localized::tr("Categories"), Symbol::Categories,
                  Localized::tr("Films, series, sport and the other kinds of shows come with a later version. "
-                               "What is on now stands under Currently."));
-    addComingTab(
-        *tabs, Localized::tr("Search"), Symbol::Search,
-        Localized::tr("Searching comes with a later version. What is on now stands under Currently."));
-    addComingTab(
-        *tabs, Localized::tr("Schedule"), Symbol::Schedule,
-        Localized::tr("The schedule of your alarms and favourites comes with a later version. What is "
-                      "on now stands under Currently."));
+                               "See Currently for what is on now."));
+    addComingTab(*tabs, Localized::tr("Search"), Symbol::Search,
+                 Localized::tr("Searching comes with a later version. See Currently for what is on now."));
+    addComingTab(*tabs, Localized::tr("Schedule"), Symbol::Schedule,
+                 Localized::tr("The schedule of your alarms and favourites comes with a later version. See "
+                               "Currently for what is on now."));
     addComingTab(*tabs, Localized::tr("Selected Channels"), Symbol::SelectedChannels,
                  Localized::tr("Choosing channels here comes with a later version. Until then the guide "
                                "takes them from a file when it starts."),

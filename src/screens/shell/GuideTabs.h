@@ -7,13 +7,13 @@
 
 namespace guide {
 
-/// The tabs of the guide: Currently, Categories, Search, Schedule, Selected Channels, and on a tablet All
-/// Shows ahead of these.
+/// The tabs of the guide: Currently, Categories, Search, Schedule and Selected Channels; on a tablet All
+/// Shows comes first.
 std::unique_ptr<TabBarController> makeGuideTabs(std::shared_ptr<const ScreenEnvironment> environment);
 
-/// The tab of what is on now.
+/// The index of the tab with what is on now.
 int currentlyTabIndex(UserInterfaceIdiom idiom);
-/// The tab whose badge counts the alarms.
+/// The index of the tab whose badge counts the alarms.
 int scheduleTabIndex(UserInterfaceIdiom idiom);
 
 } // namespace guide

@@ -10,8 +10,7 @@ namespace guide {
 /// The first shows of freshly loaded channels.
 using TopShows = std::unordered_map<ObjectId, ShowSpan>;
 
-/// A screen that shows listings, and what it does when they, the alarms, the favourites or the settings
-/// change.
+/// A screen that shows listings and reacts to changes of listings, alarms, favourites and settings.
 class ListingsScreen : public TableViewController {
   public:
     virtual void applicationDidBecomeActive() {}
@@ -24,7 +23,7 @@ class ListingsScreen : public TableViewController {
         notificationsSynched();
         recolor();
     }
-    /// The selection lost channels that the catalogue no longer has.
+    /// Channels that the catalogue no longer lists were removed from the selection.
     virtual void selectionCleanedUp() {}
     virtual void setModifiedSelectedChannels(bool) {}
 };

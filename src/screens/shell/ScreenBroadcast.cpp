@@ -6,47 +6,47 @@
 namespace guide {
 
 void ScreenBroadcast::applicationDidBecomeActive() {
-    tell([](ListingsScreen& screen) { screen.applicationDidBecomeActive(); });
+    forEachScreen([](ListingsScreen& screen) { screen.applicationDidBecomeActive(); });
 }
 
 void ScreenBroadcast::offerTopShows(const TopShows& top) {
     if (m_applicationState.applicationState() != ApplicationState::Background) {
-        tell([&top](ListingsScreen& screen) { screen.offerTopShows(top); });
+        forEachScreen([&top](ListingsScreen& screen) { screen.offerTopShows(top); });
     }
 }
 
 void ScreenBroadcast::reloadData() {
-    tell([](ListingsScreen& screen) { screen.reloadData(); });
+    forEachScreen([](ListingsScreen& screen) { screen.reloadData(); });
 }
 
 void ScreenBroadcast::recolor() {
-    tell([](ListingsScreen& screen) { screen.recolor(); });
+    forEachScreen([](ListingsScreen& screen) { screen.recolor(); });
 }
 
 void ScreenBroadcast::favoritesUpdated() {
-    tell([](ListingsScreen& screen) { screen.favoritesUpdated(); });
+    forEachScreen([](ListingsScreen& screen) { screen.favoritesUpdated(); });
 }
 
 void ScreenBroadcast::notificationsSynched() {
-    tell([](ListingsScreen& screen) { screen.notificationsSynched(); });
+    forEachScreen([](ListingsScreen& screen) { screen.notificationsSynched(); });
 }
 
 void ScreenBroadcast::selectionCleanedUp() {
-    tell([](ListingsScreen& screen) { screen.selectionCleanedUp(); });
+    forEachScreen([](ListingsScreen& screen) { screen.selectionCleanedUp(); });
 }
 
 void ScreenBroadcast::setModifiedSelectedChannels() {
-    tell([](ListingsScreen& screen) { screen.setModifiedSelectedChannels(true); });
+    forEachScreen([](ListingsScreen& screen) { screen.setModifiedSelectedChannels(true); });
 }
 
-void ScreenBroadcast::tell(const std::function<void(ListingsScreen&)>& what) const {
+void ScreenBroadcast::forEachScreen(const std::function<void(ListingsScreen&)>& call) const {
     for (const TabBarController::Tab& tab : m_tabBarController.tabs()) {
-        // A copy: a screen may change the stack.
+        // A copy, because a screen may change the stack.
         const std::vector<std::shared_ptr<ViewController>> stack =
             tab.navigationController->viewControllers();
         for (const std::shared_ptr<ViewController>& viewController : stack) {
             if (auto* screen = dynamic_cast<ListingsScreen*>(viewController.get())) {
-                what(*screen);
+                call(*screen);
             }
         }
     }

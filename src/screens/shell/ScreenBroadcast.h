@@ -8,16 +8,16 @@
 
 namespace guide {
 
-/// Tells every screen of every tab what has changed. Main queue.
+/// Passes changes on to every screen of every tab. Main queue.
 class ScreenBroadcast {
   public:
     ScreenBroadcast(const TabBarController& tabBarController, const ApplicationStateSource& applicationState)
         : m_tabBarController(tabBarController)
         , m_applicationState(applicationState) {}
 
-    /// Screens that are loaded rebuild; the others do so when they appear.
+    /// Loaded screens rebuild now, the others when they appear.
     void applicationDidBecomeActive();
-    /// Nothing in the background: the next activation refreshes the screens.
+    /// Does nothing in the background, because the next activation refreshes the screens.
     void offerTopShows(const TopShows& top);
     void reloadData();
     void recolor();
@@ -28,7 +28,7 @@ class ScreenBroadcast {
     void setModifiedSelectedChannels();
 
   private:
-    void tell(const std::function<void(ListingsScreen&)>& what) const;
+    void forEachScreen(const std::function<void(ListingsScreen&)>& call) const;
 
     const TabBarController& m_tabBarController;
     const ApplicationStateSource& m_applicationState;

@@ -16,12 +16,12 @@
 
 namespace guide {
 
-/// What every screen is made of and asks; all of it outlives the screens.
+/// The services that screens use. All of them outlive the screens.
 struct ScreenEnvironment {
     const Clock& clock;
     const Device& device;
     DispatchQueue& mainQueue;
-    /// Where lists are read; suspended while the first screen rebuilds.
+    /// Parses lists; suspended while the first screen rebuilds.
     DispatchQueue& loadQueue;
     const ApplicationStateSource& applicationState;
     TVListings& listings;
