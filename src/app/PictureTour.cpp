@@ -1,5 +1,7 @@
 #include "app/PictureTour.h"
 
+#include "screens/kit/TableViewController.h"
+
 #include <QCoreApplication>
 #include <QDir>
 
@@ -16,6 +18,11 @@ constexpr int kLookEvery = 100;
 constexpr int kMostLooks = 300;
 /// Time for the drawing to follow, also by the software renderer.
 constexpr int kSettle = 400;
+
+/// The visible screen, which the tour expects to be a table.
+TableViewController* topTable(const TabBarController& tabs) {
+    return dynamic_cast<TableViewController*>(tabs.selectedNavigationController().topViewController().get());
+}
 
 } // namespace
 
@@ -38,9 +45,10 @@ void PictureTour::start() {
 }
 
 bool PictureTour::channelsLoaded() const {
-    const auto& sections = m_tabs.selectedNavigationController().topViewController()->table().sections();
-    return !sections.empty() &&
-           std::ranges::none_of(sections, [](const Section& section) { return section.rows.size() < 2; });
+    const TableViewController* screen = topTable(m_tabs);
+    return screen && screen->table().rowCount() > 0 &&
+           std::ranges::none_of(screen->table().sections(),
+                                [](const Section& section) { return section.rows.size() < 2; });
 }
 
 void PictureTour::step() {
@@ -67,13 +75,13 @@ bool PictureTour::saveBoth(const QString& name) {
 
 void PictureTour::drawCurrently() {
     m_complete = saveBoth(u"currently"_s);
-    NavigationController& navigation = m_tabs.selectedNavigationController();
-    if (navigation.topViewController()->table().rowCount(0) < 2) {
+    TableViewController* screen = topTable(m_tabs);
+    if (!screen || screen->table().rowCount() < 2) {
         qWarning("No channel has shows: there is no schedule to draw");
         m_done(false);
         return;
     }
-    navigation.topViewController()->tapRow({0, 0});
+    screen->sendRowEvent(screen->table().rowAt(0).id, Tapped{});
     then(kSettle, &PictureTour::drawChannel);
 }
 

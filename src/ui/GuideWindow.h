@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Device.h"
+#include "screens/kit/PictureProvider.h"
 #include "screens/kit/TabBarController.h"
 
 #include <QSize>
@@ -20,16 +21,18 @@ struct GuideWindowOptions {
     std::optional<ColorScheme> scheme = std::nullopt;
     /// 390 by 844 for a phone and 1024 by 768 for a tablet where unset.
     std::optional<QSize> size = std::nullopt;
-    /// False where the desktop asks for less motion, and for pictures.
+    /// False with reduced motion, and for screenshots.
     bool motion = true;
+    /// Resolves the pictures of the rows, which stay empty without it. Must outlive the window.
+    PictureProvider* pictures = nullptr;
     /// Called when the window becomes visible and when it no longer is (minimised, hidden, closed).
     std::function<void(bool visible)> visibilityChanged = {};
-    /// Called when the person closes the window.
+    /// Called when the user closes the window.
     std::function<void()> closed = {};
 };
 
-/// The window that draws the screens. Lives on the main thread, after the QGuiApplication and before the
-/// screens end: the tab bar controller outlives it.
+/// The window that draws the screens. Main thread; the QGuiApplication and the tab bar controller must
+/// outlive it.
 class GuideWindow {
   public:
     GuideWindow(TabBarController& tabBarController, GuideWindowOptions options);
@@ -37,16 +40,16 @@ class GuideWindow {
     GuideWindow& operator=(const GuideWindow&) = delete;
     ~GuideWindow();
 
-    /// False when the drawing could not be loaded; the reasons stand in the log.
+    /// False when the QML could not be loaded; the log says why.
     bool loaded() const;
-    /// Also brings a window that is there already before the others.
+    /// Raises the window if it is open already.
     void show();
     bool visible() const;
 
     void setColorScheme(std::optional<ColorScheme> scheme);
-    /// Whether things may move.
     void setMotion(bool moves);
-    /// Writes what the window shows as a PNG file; false when it could not be written. Needs a shown window.
+    /// Writes what the window shows as a PNG file; false when it could not be written. The window must be
+    /// open.
     bool savePicture(const QString& path);
 
   private:
@@ -54,8 +57,8 @@ class GuideWindow {
     std::unique_ptr<Parts> m_parts;
 };
 
-/// Loads the device language's texts into the string table; English without one of its own. Once, on the main
-/// thread, before the first screen is made.
+/// Loads the texts of the device's language into the string table; English for a language without a
+/// translation. Once, on the main thread, before the first screen is made.
 void installTranslations(const QLocale& locale);
 
 } // namespace guide

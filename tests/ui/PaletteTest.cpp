@@ -1,4 +1,4 @@
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,4 +1,8 @@
-#include "ui/TableModel.h"
+#include "ui/model/TableModel.h"
+
+#include "ui/model/AccessibleName.h"
+#include "ui/model/Kit.h"
+#include "ui/model/RowValues.h"
 
 #include <QAbstractItemModelTester>
 #include <QStringList>
@@ -12,99 +16,209 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::vector<Row> someRows(std::mt19937& random, int most) {
-    std::vector<Row> rows(random() % static_cast<unsigned>(most + 1));
-    for (Row& row : rows) {
-        row.text.append(QString::number(random() % 5), TextStyle::Title, ColorRole::Label);
-    }
-    return rows;
-}
+class Screen final : public TableViewController {
+  public:
+    QStringList events;
 
-QStringList titlesOf(const Table& table) {
-    QStringList titles;
-    for (const Section& section : table.sections()) {
-        for (const Row& row : section.rows) {
-            titles << section.title + u'/' + row.text.plain();
+  protected:
+    void rowEvent(const RowId& id, const RowEvent& event) override {
+        const QString name = *id.name();
+        if (const auto* move = std::get_if<MovedBefore>(&event)) {
+            events << name + " before "_L1 + (move->next ? *move->next->name() : u"the end"_s);
+        } else {
+            events << name + u' ' + QString::number(event.index());
         }
     }
-    return titles;
+};
+
+Row textRow(const QString& section, const QString& name, const QString& title = {}) {
+    return {{section, name}, TextRow{title.isEmpty() ? name : title}};
 }
 
-QStringList titlesOf(const QAbstractItemModel& model) {
-    QStringList titles;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        titles << model.index(row, 0).data(TableModel::SectionTitleRole).toString() + u'/' +
-                      model.index(row, 0).data(TableModel::TitleRole).toString();
+Section randomSection(std::mt19937& random, const QString& id) {
+    Section section{id, QString::number(random() % 3)};
+    std::vector<int> names(6);
+    std::iota(names.begin(), names.end(), 0);
+    std::ranges::shuffle(names, random);
+    names.resize(random() % 6);
+    for (const int name : names) {
+        section.rows.push_back(textRow(id, QString::number(name), QString::number(random() % 2)));
+        if (random() % 8 == 0) {
+            section.rows.back().content = SwitchRow{u"switch"_s};
+        }
     }
-    return titles;
+    return section;
 }
 
-// Shows what a list on a screen would: it only looks again at rows that it is told of.
+QString lineOf(const QAbstractItemModel& model, int row) {
+    const auto section = model.index(row, 0).data(TableModel::SectionRole).value<SectionValue>();
+    const QVariant value = model.index(row, 0).data(TableModel::RowRole);
+    const QString title = model.index(row, 0).data(TableModel::KindRole) == static_cast<int>(RowKind::Text)
+                              ? value.value<TextRowValue>().title
+                              : value.value<SwitchRowValue>().title;
+    return u"%1 %2%3 %4"_s.arg(section.header)
+        .arg(section.place)
+        .arg(section.last ? u"*"_s : QString(), title);
+}
+
+QStringList linesOf(const QAbstractItemModel& model) {
+    QStringList lines;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        lines << lineOf(model, row);
+    }
+    return lines;
+}
+
+QStringList linesOf(const Table& table) {
+    QStringList lines;
+    for (const Section& section : table.sections()) {
+        for (std::size_t place = 0; place < section.rows.size(); ++place) {
+            const RowContent& content = section.rows[place].content;
+            const auto* text = std::get_if<TextRow>(&content);
+            lines << u"%1 %2%3 %4"_s.arg(section.header)
+                         .arg(place)
+                         .arg(place + 1 == section.rows.size() ? u"*"_s : QString(),
+                              text ? text->title : std::get<SwitchRow>(content).title);
+        }
+    }
+    return lines;
+}
+
+// What a list on a screen would show: it reads only the rows that the model announces.
 struct View {
     explicit View(const TableModel& model) {
+        const auto read = [this, &model](int first, int last) {
+            for (int row = first; row <= last; ++row) {
+                shown[row] = lineOf(model, row);
+            }
+        };
         QObject::connect(&model, &QAbstractItemModel::rowsInserted, &context,
-                         [this, &model](const QModelIndex&, int first, int last) {
-                             for (int row = first; row <= last; ++row) {
-                                 shown.insert(row, QString());
-                             }
-                             look(model, first, last);
+                         [this, read](const QModelIndex&, int first, int last) {
+                             shown.insert(first, last - first + 1, QString());
+                             read(first, last);
                          });
         QObject::connect(
             &model, &QAbstractItemModel::rowsRemoved, &context,
             [this](const QModelIndex&, int first, int last) { shown.remove(first, last - first + 1); });
-        QObject::connect(&model, &QAbstractItemModel::dataChanged, &context,
-                         [this, &model](const QModelIndex& first, const QModelIndex& last) {
-                             look(model, first.row(), last.row());
+        QObject::connect(&model, &QAbstractItemModel::rowsMoved, &context,
+                         [this](const QModelIndex&, int from, int, const QModelIndex&, int to) {
+                             shown.move(from, to > from ? to - 1 : to);
                          });
+        QObject::connect(
+            &model, &QAbstractItemModel::dataChanged, &context,
+            [read](const QModelIndex& first, const QModelIndex& last) { read(first.row(), last.row()); });
         QObject::connect(&model, &QAbstractItemModel::modelReset, &context,
                          [] { ADD_FAILURE() << "a reset loses the place in the list"; });
-    }
-    void look(const TableModel& model, int first, int last) {
-        const QStringList now = titlesOf(model);
-        for (int row = first; row <= last; ++row) {
-            shown[row] = now.value(row);
-        }
     }
     QObject context;
     QStringList shown;
 };
 
-TEST(TableModelTest, TheListFollowsTheTableThroughAnyChanges) {
+TEST(TableModelTest, FollowsTheTableThroughAnyChanges) {
     std::mt19937 random(7);
-    const auto screen = std::make_shared<ViewController>();
+    const auto screen = std::make_shared<Screen>();
     TableModel model(screen, nullptr);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     View view(model);
     for (int step = 0; step < 500; ++step) {
-        Table& table = screen->table();
-        if (table.sections().empty() || random() % 4 == 0) {
-            std::vector<Section> sections(random() % 5);
-            for (Section& section : sections) {
-                section.title = QString::number(random() % 3);
-                section.rows = someRows(random, 4);
+        std::vector<Section> sections;
+        for (const QString& id : {u"a"_s, u"b"_s, u"c"_s}) {
+            if (random() % 3 != 0) {
+                sections.push_back(randomSection(random, id));
             }
-            table.reload(std::move(sections));
-        } else {
-            const auto section = static_cast<int>(random() % table.sections().size());
-            table.updateSection(section, someRows(random, 6));
         }
-        ASSERT_EQ(titlesOf(model), titlesOf(table)) << "step " << step;
-        ASSERT_EQ(view.shown, titlesOf(table)) << "step " << step;
+        screen->table().setSections(std::move(sections));
+        ASSERT_EQ(linesOf(model), linesOf(screen->table())) << "step " << step;
+        ASSERT_EQ(view.shown, linesOf(screen->table())) << "step " << step;
     }
 }
 
-TEST(TableModelTest, SpeaksWhatTheColoursTell) {
-    const auto screen = std::make_shared<ViewController>();
+TEST(TableModelTest, ChangesOfOneRowAreAnnouncedForThatRow) {
+    const auto screen = std::make_shared<Screen>();
+    Section section{u"s"_s};
+    for (int row = 0; row < 10; ++row) {
+        section.rows.push_back(textRow(u"s"_s, QString::number(row)));
+        section.rows.back().selectable = true;
+    }
+    screen->table().setSections({section});
     TableModel model(screen, nullptr);
-    Row row;
-    row.text.append(u"20:15"_s, TextStyle::Time, ColorRole::Running);
-    row.text.append(u" Title"_s, TextStyle::Title, ColorRole::Label);
-    row.endTime.append(u"21:00"_s, TextStyle::RaisedTime, ColorRole::SecondaryLabel);
-    row.spokenState = u"On now"_s;
-    screen->table().reload({{QString(), {row}}});
-    EXPECT_EQ(model.index(0).data(TableModel::SpokenRole).toString(), u"20:15–21:00, Title, On now"_s);
-    EXPECT_EQ(model.index(0).data(TableModel::StartTimeColorRole).toInt(),
-              static_cast<int>(ColorRole::Running));
+    QStringList changes;
+    QObject::connect(&model, &QAbstractItemModel::dataChanged, &model,
+                     [&](const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) {
+                         if (roles.contains(TableModel::RowRole)) {
+                             changes << u"%1-%2"_s.arg(first.row()).arg(last.row());
+                         }
+                     });
+    screen->table().setRow(textRow(u"s"_s, u"4"_s, u"other"_s));
+    EXPECT_EQ(changes, QStringList{u"4-4"_s});
+    changes.clear();
+    model.tap(2);
+    model.tap(3);
+    EXPECT_EQ(changes, QStringList({u"2-2"_s, u"2-2"_s, u"3-3"_s})) << "selected, deselected";
+}
+
+TEST(TableModelTest, RowsMoveWithinTheirSectionOnly) {
+    const auto screen = std::make_shared<Screen>();
+    std::vector<Section> sections;
+    for (const QString& id : {u"a"_s, u"b"_s}) {
+        sections.push_back({id});
+        for (int row = 0; row < 3; ++row) {
+            sections.back().rows.push_back(textRow(id, id + QString::number(row)));
+            sections.back().rows.back().movable = true;
+        }
+    }
+    screen->table().setSections(sections);
+    screen->table().setEditing(true);
+    TableModel model(screen, nullptr);
+    const struct {
+        int row;
+        int next;
+        QStringList events;
+    } cases[] = {
+        {0, 2, {u"a0 before a2"_s}},
+        {2, 0, {u"a2 before a0"_s}},
+        {0, 3, {u"a0 before the end"_s}},
+        {4, 3, {u"b1 before b0"_s}},
+        {3, 6, {u"b0 before the end"_s}},
+        {0, 0, {}},
+        {0, 1, {}},
+        {0, 4, {}},
+        {3, 2, {}},
+        {5, 7, {}},
+        {-1, 0, {}},
+    };
+    for (const auto& each : cases) {
+        screen->events.clear();
+        model.moveBefore(each.row, each.next);
+        EXPECT_EQ(screen->events, each.events) << each.row << " before " << each.next;
+    }
+}
+
+TEST(AccessibleNameTest, SaysWhatTheColoursAndSymbolsShow) {
+    const struct {
+        RowContent content;
+        QString name;
+    } cases[] = {
+        {ShowRow{.startTime = u"20:15"_s,
+                 .endTime = u"21:00"_s,
+                 .title = u"Title"_s,
+                 .details = u"Details"_s,
+                 .running = true,
+                 .favourite = true,
+                 .alarmed = true,
+                 .popular = true},
+         u"20:15–21:00, Title, On now, Favourite, Alarm set, Popular, Details"_s},
+        {ShowRow{.startTime = u"20:15"_s, .title = u"Title"_s}, u"20:15, Title"_s},
+        {ChannelRow{.title = u"One"_s, .checked = true, .accessory = Accessory::Spinner},
+         u"One, Selected, Loading"_s},
+        {ChoiceRow{.title = u"Order"_s, .choices = {u"A"_s, u"B"_s}, .chosen = 1}, u"Order, B"_s},
+        {ChoiceRow{.title = u"Order"_s, .choices = {u"A"_s}}, u"Order"_s},
+        {InputRow{.title = {}, .placeholder = u"Address"_s, .error = u"No host"_s}, u"Address, No host"_s},
+        {ProgressRow{u"Loading"_s, 0.25}, u"Loading, 25%"_s},
+    };
+    for (const auto& each : cases) {
+        EXPECT_EQ(accessibleName(each.content), each.name);
+    }
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 #include "screens/Localized.h"
 #include "screens/channel/ChannelViewController.h"
 #include "screens/kit/NavigationController.h"
-#include "text/Transliteration.h"
+#include "text/display/Transliteration.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,8 +1,8 @@
 import QtQuick
 import Quellin
 
-// The whole window: the tabs at the bottom of a phone or at the side of a tablet, the selected one's screens, and
-// alerts before all of it.
+// The whole window: the tabs at the bottom of a phone or at the side of a tablet, the screens of the selected one, and
+// notices and alerts over them.
 FocusScope {
     id: main
 
@@ -20,7 +20,7 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
-        // An alert comes first: nothing behind it answers.
+        // Nothing behind an alert takes an event.
         enabled: !main.shell.alertShown
         onEnabledChanged: if (enabled)
             forceActiveFocus()
@@ -50,8 +50,9 @@ FocusScope {
                     visible: current
                     focus: current
 
-                    sourceComponent: TabPages {
+                    sourceComponent: StackPages {
                         stack: tab.stack
+                        sideBySide: main.width >= 1100
                         focus: true
                     }
                 }
@@ -81,6 +82,13 @@ FocusScope {
             visible: main.shell.tablet
             shell: main.shell
         }
+    }
+
+    NoticeBar {
+        x: pages.x
+        y: pages.y + pages.height - height
+        width: pages.width
+        shell: main.shell
     }
 
     AlertPanel {

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "screens/kit/TabBarController.h"
+
+#include <QColor>
+#include <QQuickPaintedItem>
+
+namespace guide {
+
+/// A symbol drawn in one colour, as large as its item.
+class Glyph : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(Symbol symbol READ symbol WRITE setSymbol NOTIFY symbolChanged)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+
+  public:
+    /// The symbols of the tabs, with the kit's values, and those of the drawing.
+    enum Symbol {
+        AllShows = int(guide::Symbol::AllShows),
+        Currently = int(guide::Symbol::Currently),
+        Categories = int(guide::Symbol::Categories),
+        Search = int(guide::Symbol::Search),
+        Schedule = int(guide::Symbol::Schedule),
+        SelectedChannels = int(guide::Symbol::SelectedChannels),
+        Refresh = 100,
+        Play,
+        Back,
+        Disclosure,
+        Activity,
+        Check,
+        Close,
+        Delete,
+        Reorder,
+        Heart,
+        Star,
+        Bell,
+        Unfold,
+        Warning,
+        Picture,
+    };
+    Q_ENUM(Symbol)
+
+    explicit Glyph(QQuickItem* parent = nullptr);
+
+    Symbol symbol() const { return m_symbol; }
+    void setSymbol(Symbol symbol);
+    QColor color() const { return m_color; }
+    void setColor(const QColor& color);
+
+    void paint(QPainter* painter) override;
+
+  Q_SIGNALS:
+    void symbolChanged();
+    void colorChanged();
+
+  private:
+    Symbol m_symbol = Currently;
+    QColor m_color;
+};
+
+} // namespace guide

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "screens/kit/ColorRole.h"
+#include "ui/GuideWindow.h"
+
+#include <QColor>
+
+namespace guide {
+
+/// A colour for each role of the kit, and those that only the drawing needs.
+struct Palette {
+    QColor label;
+    QColor secondaryLabel;
+    QColor background;
+    QColor groupedBackground;
+    QColor tint;
+    QColor running;
+    QColor favourite;
+    QColor alarm;
+    QColor heading;
+    /// Hairlines, and the track of a progress bar.
+    QColor separator;
+    /// The outline of a field.
+    QColor fieldBorder;
+    /// Panels over a screen.
+    QColor raised;
+    /// A row while it is pressed.
+    QColor pressed;
+    /// Behind a symbol of the tint colour.
+    QColor tintedFill;
+    /// Text on a surface of the tint or the alarm colour.
+    QColor onTint;
+    QColor onAlarm;
+    /// A button on a surface of the label colour.
+    QColor tintOnLabel;
+    /// Over the screen behind an alert.
+    QColor dim;
+
+    const QColor& operator[](ColorRole role) const;
+};
+
+const Palette& paletteOf(ColorScheme scheme);
+
+} // namespace guide

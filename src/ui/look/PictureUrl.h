@@ -1,0 +1,20 @@
+#pragma once
+
+#include "screens/kit/PictureKey.h"
+
+#include <QUrl>
+
+#include <optional>
+
+namespace guide {
+
+/// The name of the image provider that resolves picture keys.
+inline constexpr auto kPictureProviderName = QLatin1StringView("guide");
+
+/// `image://guide/…`, or an empty URL for no picture.
+QUrl pictureUrlOf(const PictureKey& key);
+
+/// The key back from what follows `image://guide/`; empty when it is not one.
+PictureKey pictureKeyOf(const QString& id);
+
+} // namespace guide

@@ -1,0 +1,129 @@
+#pragma once
+
+#include "ui/GuideWindow.h"
+#include "ui/look/Palette.h"
+
+#include <QColor>
+#include <QFont>
+#include <QList>
+#include <QObject>
+#include <QQmlEngine>
+
+#include <optional>
+
+namespace guide {
+
+/// A font of the guide, in pixels.
+QFont themeFont(double pixels, QFont::Weight weight);
+
+/// The look of one window, for QML: the colours of the scheme, the fonts at the system's text size, and
+/// durations.
+class Theme : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+    Q_PROPERTY(bool dark READ dark NOTIFY colorsChanged)
+    /// By the number of a colour role.
+    Q_PROPERTY(QList<QColor> roles READ roles NOTIFY colorsChanged)
+    Q_PROPERTY(QColor label READ label NOTIFY colorsChanged)
+    Q_PROPERTY(QColor secondaryLabel READ secondaryLabel NOTIFY colorsChanged)
+    Q_PROPERTY(QColor background READ background NOTIFY colorsChanged)
+    Q_PROPERTY(QColor groupedBackground READ groupedBackground NOTIFY colorsChanged)
+    Q_PROPERTY(QColor tint READ tint NOTIFY colorsChanged)
+    Q_PROPERTY(QColor favourite READ favourite NOTIFY colorsChanged)
+    Q_PROPERTY(QColor running READ running NOTIFY colorsChanged)
+    Q_PROPERTY(QColor alarm READ alarm NOTIFY colorsChanged)
+    Q_PROPERTY(QColor heading READ heading NOTIFY colorsChanged)
+    Q_PROPERTY(QColor separator READ separator NOTIFY colorsChanged)
+    Q_PROPERTY(QColor fieldBorder READ fieldBorder NOTIFY colorsChanged)
+    Q_PROPERTY(QColor raised READ raised NOTIFY colorsChanged)
+    Q_PROPERTY(QColor tintOnLabel READ tintOnLabel NOTIFY colorsChanged)
+    Q_PROPERTY(QColor pressed READ pressed NOTIFY colorsChanged)
+    Q_PROPERTY(QColor tintedFill READ tintedFill NOTIFY colorsChanged)
+    Q_PROPERTY(QColor onTint READ onTint NOTIFY colorsChanged)
+    Q_PROPERTY(QColor onAlarm READ onAlarm NOTIFY colorsChanged)
+    Q_PROPERTY(QColor dim READ dim NOTIFY colorsChanged)
+
+    /// The system's text size over the ordinary one.
+    Q_PROPERTY(double textScale READ textScale NOTIFY fontsChanged)
+    Q_PROPERTY(QFont timeFont READ timeFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont endTimeFont READ endTimeFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont titleFont READ titleFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont detailsFont READ detailsFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont channelTitleFont READ channelTitleFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont headingFont READ headingFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont barTitleFont READ barTitleFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont bodyFont READ bodyFont NOTIFY fontsChanged)
+    Q_PROPERTY(QFont buttonFont READ buttonFont NOTIFY fontsChanged)
+
+    /// Milliseconds of a push or a pop, of a change within a row, and of a picture's appearance; 0 with
+    /// reduced motion.
+    Q_PROPERTY(int motion READ motion NOTIFY motionChanged)
+    Q_PROPERTY(int rowMotion READ rowMotion NOTIFY motionChanged)
+    Q_PROPERTY(int pictureMotion READ pictureMotion NOTIFY motionChanged)
+    Q_PROPERTY(bool moves READ moves NOTIFY motionChanged)
+
+  public:
+    explicit Theme(QObject* parent = nullptr);
+
+    bool dark() const { return m_scheme == ColorScheme::Dark; }
+    QList<QColor> roles() const;
+    QColor label() const { return palette().label; }
+    QColor secondaryLabel() const { return palette().secondaryLabel; }
+    QColor background() const { return palette().background; }
+    QColor groupedBackground() const { return palette().groupedBackground; }
+    QColor tint() const { return palette().tint; }
+    QColor favourite() const { return palette().favourite; }
+    QColor running() const { return palette().running; }
+    QColor alarm() const { return palette().alarm; }
+    QColor heading() const { return palette().heading; }
+    QColor separator() const { return palette().separator; }
+    QColor fieldBorder() const { return palette().fieldBorder; }
+    QColor raised() const { return palette().raised; }
+    QColor tintOnLabel() const { return palette().tintOnLabel; }
+    QColor pressed() const { return palette().pressed; }
+    QColor tintedFill() const { return palette().tintedFill; }
+    QColor onTint() const { return palette().onTint; }
+    QColor onAlarm() const { return palette().onAlarm; }
+    QColor dim() const { return palette().dim; }
+
+    double textScale() const { return m_textScale; }
+    QFont timeFont() const { return font(20, QFont::DemiBold); }
+    QFont endTimeFont() const { return font(12, QFont::Normal); }
+    QFont titleFont() const { return font(17, QFont::DemiBold); }
+    QFont detailsFont() const { return font(13, QFont::Normal); }
+    QFont channelTitleFont() const { return font(20, QFont::Bold); }
+    QFont headingFont() const { return font(14, QFont::DemiBold); }
+    QFont barTitleFont() const { return font(22, QFont::Bold); }
+    QFont bodyFont() const { return font(15, QFont::Normal); }
+    QFont buttonFont() const { return font(15, QFont::DemiBold); }
+
+    int motion() const { return m_moves ? 200 : 0; }
+    int rowMotion() const { return m_moves ? 150 : 0; }
+    int pictureMotion() const { return m_moves ? 120 : 0; }
+    bool moves() const { return m_moves; }
+
+    /// The system's scheme where unset.
+    void setScheme(std::optional<ColorScheme> scheme);
+    void setMoves(bool moves);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  Q_SIGNALS:
+    void colorsChanged();
+    void fontsChanged();
+    void motionChanged();
+
+  private:
+    const Palette& palette() const { return paletteOf(m_scheme); }
+    QFont font(double points, QFont::Weight weight) const;
+    void followSystem();
+
+    std::optional<ColorScheme> m_forcedScheme;
+    ColorScheme m_scheme = ColorScheme::Light;
+    double m_textScale = 1;
+    bool m_moves = true;
+};
+
+} // namespace guide

@@ -1,0 +1,108 @@
+#include "ui/model/Page.h"
+
+#include "screens/kit/NavigationController.h"
+#include "screens/kit/TableViewController.h"
+
+#include <utility>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QList<BarButtonValue> valuesOf(const std::vector<BarButton>& buttons) {
+    QList<BarButtonValue> values;
+    for (const BarButton& button : buttons) {
+        values.push_back({static_cast<int>(button.kind), button.title, button.enabled});
+    }
+    return values;
+}
+
+} // namespace
+
+Page::Page(std::shared_ptr<ViewController> viewController, const ViewController* below, Symbol symbol,
+           Theme& theme, QObject* parent)
+    : QObject(parent)
+    , m_viewController(std::move(viewController))
+    , m_backTitle(below ? below->title() : QString())
+    , m_canGoBack(below != nullptr)
+    , m_symbol(symbol) {
+    if (auto table = std::dynamic_pointer_cast<TableViewController>(m_viewController)) {
+        m_rows = std::make_unique<TableModel>(std::move(table), nullptr);
+        const auto setFonts = [this, &theme] { m_rows->setTimeFonts(theme.timeFont(), theme.endTimeFont()); };
+        setFonts();
+        connect(&theme, &Theme::fontsChanged, this, setFonts);
+    }
+    m_viewController->setObserver(this);
+}
+
+Page::~Page() {
+    m_viewController->setObserver(nullptr);
+}
+
+// The one place that knows which page draws which kind of content.
+QUrl Page::source() const {
+    const auto page = [](QLatin1StringView name) {
+        return QUrl("qrc:/qt/qml/Quellin/qml/pages/"_L1 + name + ".qml"_L1);
+    };
+    switch (m_viewController->content().kind()) {
+    case ContentKind::Table:
+        return page("TablePage"_L1);
+    }
+    return {};
+}
+
+QList<BarButtonValue> Page::leftButtons() const {
+    return valuesOf(m_viewController->leftBarButtons());
+}
+
+QList<BarButtonValue> Page::rightButtons() const {
+    return valuesOf(m_viewController->rightBarButtons());
+}
+
+double Page::progress() const {
+    return m_viewController->progress().value_or(Progress{}).fraction.value_or(-1);
+}
+
+QString Page::searchPlaceholder() const {
+    return searchable() ? m_viewController->searchField()->placeholder : QString();
+}
+
+QString Page::searchText() const {
+    return searchable() ? m_viewController->searchField()->text : QString();
+}
+
+void Page::goBack() {
+    NavigationController* navigation = m_viewController->navigationController();
+    if (!navigation || navigation->topViewController() != m_viewController) {
+        return;
+    }
+    if (m_canGoBack) {
+        navigation->pop();
+    } else {
+        navigation->dismiss();
+    }
+}
+
+void Page::pressLeft(int button) {
+    m_viewController->pressLeftBarButton(static_cast<std::size_t>(button));
+}
+
+void Page::pressRight(int button) {
+    m_viewController->pressRightBarButton(static_cast<std::size_t>(button));
+}
+
+void Page::pull() {
+    m_viewController->pullToRefresh();
+}
+
+void Page::search(const QString& text) {
+    m_viewController->editSearchText(text);
+}
+
+void Page::cancelSearch() {
+    m_viewController->cancelSearch();
+}
+
+} // namespace guide

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "ui/model/Page.h"
+
+#include <QAbstractListModel>
+#include <QQmlEngine>
+
+#include <vector>
+
+namespace guide {
+
+/// A stack of screens, for QML: a list of pages from the root up. A page that was popped stays in the list,
+/// at its end, until its way out has been drawn.
+class PageStack : public QAbstractListModel, private NavigationObserver {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the shell")
+
+    /// Of the pages that are on the stack.
+    Q_PROPERTY(int depth READ depth NOTIFY depthChanged)
+    /// What the stack shows in a popover or sheet; null for nothing.
+    Q_PROPERTY(guide::PageStack* presented READ presented NOTIFY presentedChanged)
+    /// How this stack itself is presented.
+    Q_PROPERTY(bool popover READ popover CONSTANT)
+    Q_PROPERTY(AnchorKind anchorKind READ anchorKind CONSTANT)
+    /// The number of the bar button, or of the row.
+    Q_PROPERTY(int anchorIndex READ anchorIndex CONSTANT)
+
+  public:
+    enum Role { PageRole = Qt::UserRole, LeavingRole };
+    enum AnchorKind { NoAnchor, LeftButton, RightButton, RowAnchor };
+    Q_ENUM(AnchorKind)
+
+    PageStack(NavigationController& navigationController, Symbol symbol, Theme& theme, QObject* parent);
+    ~PageStack() override;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    int depth() const { return m_depth; }
+    PageStack* presented() const { return m_presented; }
+    bool popover() const { return m_popover; }
+    AnchorKind anchorKind() const { return m_anchorKind; }
+    int anchorIndex() const { return m_anchorIndex; }
+
+    /// Closes what the stack presents.
+    Q_INVOKABLE void dismiss();
+    /// Pages that were popped need not be drawn any more.
+    Q_INVOKABLE void dropLeaving();
+    /// A presented stack that was dismissed need not be drawn any more.
+    Q_INVOKABLE void release() { deleteLater(); }
+
+  Q_SIGNALS:
+    void depthChanged();
+    void presentedChanged();
+
+  private:
+    void pushed() override;
+    void popped(int count) override;
+    void presented(Presentation presentation, const Anchor& anchor) override;
+    void dismissed() override;
+
+    void addPage(std::shared_ptr<ViewController> viewController, const ViewController* below);
+    void setAnchor(const Anchor& anchor, const Page& presenter);
+    void detach();
+
+    /// Null once the stack was dismissed.
+    NavigationController* m_navigationController;
+    const Symbol m_symbol;
+    Theme& m_theme;
+    std::vector<Page*> m_pages;
+    int m_depth = 0;
+    PageStack* m_presented = nullptr;
+    bool m_popover = false;
+    AnchorKind m_anchorKind = NoAnchor;
+    int m_anchorIndex = 0;
+};
+
+} // namespace guide

@@ -1,0 +1,232 @@
+#pragma once
+
+#include "screens/kit/Row.h"
+#include "screens/kit/Table.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QStringList>
+#include <QUrl>
+
+#include <optional>
+
+namespace guide {
+
+/// What QML sees of a row, whatever its kind: the role `row`. One type per kind adds the fields of the kit's
+/// struct. Values are copies, so that a delegate never looks into a table that is changing.
+struct RowValue {
+    Q_GADGET
+    Q_PROPERTY(bool selectable MEMBER selectable CONSTANT FINAL)
+    Q_PROPERTY(bool selected MEMBER selected CONSTANT FINAL)
+    Q_PROPERTY(bool deletable MEMBER deletable CONSTANT FINAL)
+    Q_PROPERTY(bool movable MEMBER movable CONSTANT FINAL)
+    Q_PROPERTY(QString accessibleName MEMBER accessibleName CONSTANT FINAL)
+
+  public:
+    RowValue() = default;
+    RowValue(const Row& row, bool isSelected);
+
+    bool selectable = false;
+    bool selected = false;
+    bool deletable = false;
+    bool movable = false;
+    QString accessibleName;
+
+    friend bool operator==(const RowValue&, const RowValue&) = default;
+};
+
+struct ShowRowValue : RowValue, ShowRow {
+    Q_GADGET
+    QML_VALUE_TYPE(showRow)
+    Q_PROPERTY(QString startTime MEMBER startTime CONSTANT FINAL)
+    Q_PROPERTY(QString endTime MEMBER endTime CONSTANT FINAL)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(QString details MEMBER details CONSTANT FINAL)
+    Q_PROPERTY(bool allDetails MEMBER allDetails CONSTANT FINAL)
+    Q_PROPERTY(int timeColor READ timeColorRole CONSTANT FINAL)
+    Q_PROPERTY(bool running MEMBER running CONSTANT FINAL)
+    Q_PROPERTY(bool favourite MEMBER favourite CONSTANT FINAL)
+    Q_PROPERTY(bool alarmed MEMBER alarmed CONSTANT FINAL)
+    Q_PROPERTY(bool popular MEMBER popular CONSTANT FINAL)
+    /// -1 while the show is not running.
+    Q_PROPERTY(double progress READ shownProgress CONSTANT FINAL)
+    Q_PROPERTY(QUrl channelIcon READ channelIconUrl CONSTANT FINAL)
+    Q_PROPERTY(QUrl picture READ pictureUrl CONSTANT FINAL)
+    Q_PROPERTY(int accessory READ accessoryKind CONSTANT FINAL)
+
+  public:
+    int timeColorRole() const { return static_cast<int>(timeColor); }
+    double shownProgress() const { return progress.value_or(-1); }
+    QUrl channelIconUrl() const;
+    QUrl pictureUrl() const;
+    int accessoryKind() const { return static_cast<int>(accessory); }
+
+    friend bool operator==(const ShowRowValue&, const ShowRowValue&) = default;
+};
+
+struct ChannelRowValue : RowValue, ChannelRow {
+    Q_GADGET
+    QML_VALUE_TYPE(channelRow)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(QString subtitle MEMBER subtitle CONSTANT FINAL)
+    Q_PROPERTY(QUrl icon READ iconUrl CONSTANT FINAL)
+    Q_PROPERTY(bool checked MEMBER checked CONSTANT FINAL)
+    Q_PROPERTY(int accessory READ accessoryKind CONSTANT FINAL)
+
+  public:
+    QUrl iconUrl() const;
+    int accessoryKind() const { return static_cast<int>(accessory); }
+
+    friend bool operator==(const ChannelRowValue&, const ChannelRowValue&) = default;
+};
+
+struct TextRowValue : RowValue, TextRow {
+    Q_GADGET
+    QML_VALUE_TYPE(textRow)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(QString subtitle MEMBER subtitle CONSTANT FINAL)
+    Q_PROPERTY(QString detail MEMBER detail CONSTANT FINAL)
+    Q_PROPERTY(int titleColor READ titleColorRole CONSTANT FINAL)
+    Q_PROPERTY(bool checked MEMBER checked CONSTANT FINAL)
+    Q_PROPERTY(int accessory READ accessoryKind CONSTANT FINAL)
+    Q_PROPERTY(QUrl icon READ iconUrl CONSTANT FINAL)
+
+  public:
+    int titleColorRole() const { return static_cast<int>(titleColor); }
+    int accessoryKind() const { return static_cast<int>(accessory); }
+    QUrl iconUrl() const;
+
+    friend bool operator==(const TextRowValue&, const TextRowValue&) = default;
+};
+
+struct SwitchRowValue : RowValue, SwitchRow {
+    Q_GADGET
+    QML_VALUE_TYPE(switchRow)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(QString subtitle MEMBER subtitle CONSTANT FINAL)
+    Q_PROPERTY(bool on MEMBER on CONSTANT FINAL)
+    Q_PROPERTY(bool enabled MEMBER enabled CONSTANT FINAL)
+
+  public:
+    friend bool operator==(const SwitchRowValue&, const SwitchRowValue&) = default;
+};
+
+struct ChoiceRowValue : RowValue, ChoiceRow {
+    Q_GADGET
+    QML_VALUE_TYPE(choiceRow)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(QStringList choices READ choiceList CONSTANT FINAL)
+    /// -1 for none.
+    Q_PROPERTY(int chosen READ chosenIndex CONSTANT FINAL)
+    Q_PROPERTY(QString chosenText READ chosenText CONSTANT FINAL)
+    Q_PROPERTY(bool enabled MEMBER enabled CONSTANT FINAL)
+
+  public:
+    QStringList choiceList() const { return {choices.begin(), choices.end()}; }
+    int chosenIndex() const { return chosen.value_or(-1); }
+    QString chosenText() const;
+
+    friend bool operator==(const ChoiceRowValue&, const ChoiceRowValue&) = default;
+};
+
+struct TimeRowValue : RowValue, TimeRow {
+    Q_GADGET
+    QML_VALUE_TYPE(timeRow)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(QString timeText READ timeText CONSTANT FINAL)
+    Q_PROPERTY(int hour READ hour CONSTANT FINAL)
+    Q_PROPERTY(int minute READ minute CONSTANT FINAL)
+    Q_PROPERTY(bool enabled MEMBER enabled CONSTANT FINAL)
+
+  public:
+    QString timeText() const;
+    int hour() const { return time.hour(); }
+    int minute() const { return time.minute(); }
+
+    friend bool operator==(const TimeRowValue&, const TimeRowValue&) = default;
+};
+
+struct InputRowValue : RowValue, InputRow {
+    Q_GADGET
+    QML_VALUE_TYPE(inputRow)
+    Q_PROPERTY(int kind READ inputKind CONSTANT FINAL)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(QString text MEMBER text CONSTANT FINAL)
+    Q_PROPERTY(QString placeholder MEMBER placeholder CONSTANT FINAL)
+    Q_PROPERTY(QString error MEMBER error CONSTANT FINAL)
+    Q_PROPERTY(bool enabled MEMBER enabled CONSTANT FINAL)
+
+  public:
+    int inputKind() const { return static_cast<int>(kind); }
+
+    friend bool operator==(const InputRowValue&, const InputRowValue&) = default;
+};
+
+struct ButtonRowValue : RowValue, ButtonRow {
+    Q_GADGET
+    QML_VALUE_TYPE(buttonRow)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(int style READ buttonStyle CONSTANT FINAL)
+    Q_PROPERTY(bool enabled MEMBER enabled CONSTANT FINAL)
+
+  public:
+    int buttonStyle() const { return static_cast<int>(style); }
+
+    friend bool operator==(const ButtonRowValue&, const ButtonRowValue&) = default;
+};
+
+struct ProgressRowValue : RowValue, ProgressRow {
+    Q_GADGET
+    QML_VALUE_TYPE(progressRow)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    /// -1 while it is not known.
+    Q_PROPERTY(double fraction READ shownFraction CONSTANT FINAL)
+
+  public:
+    double shownFraction() const { return fraction.value_or(-1); }
+
+    friend bool operator==(const ProgressRowValue&, const ProgressRowValue&) = default;
+};
+
+struct PictureRowValue : RowValue, PictureRow {
+    Q_GADGET
+    QML_VALUE_TYPE(pictureRow)
+    Q_PROPERTY(QUrl picture READ pictureUrl CONSTANT FINAL)
+    Q_PROPERTY(bool square READ square CONSTANT FINAL)
+    Q_PROPERTY(QString description MEMBER description CONSTANT FINAL)
+
+  public:
+    QUrl pictureUrl() const;
+    bool square() const { return shape == Shape::Square; }
+
+    friend bool operator==(const PictureRowValue&, const PictureRowValue&) = default;
+};
+
+/// A row's section and the row's place in it: the role `section`.
+struct SectionValue {
+    Q_GADGET
+    QML_VALUE_TYPE(tableSection)
+    Q_PROPERTY(QString header MEMBER header CONSTANT FINAL)
+    Q_PROPERTY(QString footer MEMBER footer CONSTANT FINAL)
+    Q_PROPERTY(bool tiles MEMBER tiles CONSTANT FINAL)
+    /// The row's number within the section.
+    Q_PROPERTY(int place MEMBER place CONSTANT FINAL)
+    Q_PROPERTY(bool first READ first CONSTANT FINAL)
+    Q_PROPERTY(bool last MEMBER last CONSTANT FINAL)
+
+  public:
+    bool first() const { return place == 0; }
+
+    QString header;
+    QString footer;
+    bool tiles = false;
+    int place = 0;
+    bool last = true;
+
+    friend bool operator==(const SectionValue&, const SectionValue&) = default;
+};
+
+/// The row as the value type of its kind.
+QVariant rowValue(const Row& row, bool selected);
+
+} // namespace guide

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "screens/kit/TabBarController.h"
+#include "ui/GuideWindow.h"
+#include "ui/model/PageStack.h"
+
+#include <QAbstractListModel>
+#include <QFont>
+#include <QQmlEngine>
+
+#include <vector>
+
+namespace guide {
+
+/// An answer to an alert, for QML.
+struct AlertActionValue {
+    Q_GADGET
+    QML_VALUE_TYPE(alertAction)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(bool destructive MEMBER destructive CONSTANT FINAL)
+    Q_PROPERTY(bool cancels MEMBER cancels CONSTANT FINAL)
+
+  public:
+    QString title;
+    bool destructive = false;
+    bool cancels = false;
+};
+
+/// The tabs, and the alerts and notices over them, for QML: a list with one row per tab.
+class Shell : public QAbstractListModel, private TabBarObserver {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the window")
+
+    /// Tabs at the side rather than at the bottom.
+    Q_PROPERTY(bool tablet READ tablet CONSTANT)
+    Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedIndexChanged)
+    Q_PROPERTY(bool alertShown READ alertShown NOTIFY alertUpdated)
+    Q_PROPERTY(QString alertTitle READ alertTitle NOTIFY alertUpdated)
+    Q_PROPERTY(QString alertMessage READ alertMessage NOTIFY alertUpdated)
+    Q_PROPERTY(QList<guide::AlertActionValue> alertActions READ alertActions NOTIFY alertUpdated)
+    Q_PROPERTY(bool noticeShown READ noticeShown NOTIFY noticeUpdated)
+    Q_PROPERTY(QString noticeText READ noticeText NOTIFY noticeUpdated)
+    /// Empty for no button.
+    Q_PROPERTY(QString noticeAction READ noticeAction NOTIFY noticeUpdated)
+
+  public:
+    enum Role { TitleRole = Qt::UserRole, SymbolRole, EnabledRole, BadgeRole, StackRole };
+
+    Shell(TabBarController& tabBarController, UserInterfaceIdiom form, Theme& theme, QObject* parent);
+    ~Shell() override;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    bool tablet() const { return m_form == UserInterfaceIdiom::Tablet; }
+    int selectedIndex() const { return m_tabBarController.selectedIndex(); }
+    bool alertShown() const { return m_tabBarController.presentedAlert() != nullptr; }
+    QString alertTitle() const;
+    QString alertMessage() const;
+    QList<AlertActionValue> alertActions() const;
+    bool noticeShown() const { return m_tabBarController.presentedNotice() != nullptr; }
+    QString noticeText() const;
+    QString noticeAction() const;
+
+    /// The font of the tabs: of the system's text size, or the largest one in which every title fits into a
+    /// tab of that width, on one line at the bottom and in no more lines than it has words at the side.
+    Q_INVOKABLE QFont tabFont(double width, double textScale) const;
+
+    Q_INVOKABLE void tapTab(int index) { m_tabBarController.tapTab(index); }
+    Q_INVOKABLE void answerAlert(int action);
+    /// Gives the answer that changes nothing: the cancelling one, or the only one.
+    Q_INVOKABLE void escapeAlert();
+    Q_INVOKABLE void pressNoticeAction() { m_tabBarController.pressNoticeAction(); }
+    Q_INVOKABLE void dismissNotice() { m_tabBarController.dismissNotice(); }
+
+  Q_SIGNALS:
+    void selectedIndexChanged();
+    void alertUpdated();
+    void noticeUpdated();
+
+  private:
+    QString tabTitle(const TabBarItem& item) const;
+    void tabBarItemChanged(int index) override;
+    void selectedTabChanged() override { Q_EMIT selectedIndexChanged(); }
+    void alertChanged() override { Q_EMIT alertUpdated(); }
+    void noticeChanged() override { Q_EMIT noticeUpdated(); }
+
+    TabBarController& m_tabBarController;
+    const UserInterfaceIdiom m_form;
+    std::vector<PageStack*> m_stacks;
+};
+
+} // namespace guide

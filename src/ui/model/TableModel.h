@@ -1,0 +1,155 @@
+#pragma once
+
+#include "screens/kit/TableViewController.h"
+
+#include <QAbstractListModel>
+#include <QFont>
+#include <QQmlEngine>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+namespace guide {
+
+/// An action on a row, for QML.
+struct RowActionValue {
+    Q_GADGET
+    QML_VALUE_TYPE(rowAction)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    /// The title in words.
+    Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
+    /// A colour role.
+    Q_PROPERTY(int color MEMBER color CONSTANT FINAL)
+
+  public:
+    QString title;
+    QString name;
+    int color = 0;
+};
+
+/// A screen's table as one list of rows, for QML. The changes that the table announces become changes of the
+/// list one by one.
+class TableModel : public QAbstractListModel, private TableObserver {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the page")
+
+    /// The width that the show rows' times need, in the theme's fonts.
+    Q_PROPERTY(double timeColumn READ timeColumn NOTIFY timeColumnChanged)
+    Q_PROPERTY(bool editing READ editing NOTIFY editingUpdated)
+    Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY emptyNoteUpdated)
+    Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY emptyNoteUpdated)
+    /// Empty for no button.
+    Q_PROPERTY(QString emptyButton READ emptyButton NOTIFY emptyNoteUpdated)
+    /// The marks of the index strip, one per section that has one.
+    Q_PROPERTY(QStringList indexTitles READ indexTitles NOTIFY sectionsChanged)
+
+  public:
+    enum Role {
+        /// A Kit.RowKind.
+        KindRole = Qt::UserRole,
+        /// A SectionValue.
+        SectionRole,
+        /// The value type of the row's kind.
+        RowRole,
+    };
+
+    TableModel(std::shared_ptr<TableViewController> viewController, QObject* parent);
+    ~TableModel() override;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    double timeColumn() const { return m_timeColumn; }
+    bool editing() const { return table().editing(); }
+    QString emptyTitle() const;
+    QString emptyMessage() const;
+    QString emptyButton() const;
+    QStringList indexTitles() const;
+
+    /// -1 when there is no such row.
+    int indexOf(const RowId& id) const { return table().indexOf(id).value_or(-1); }
+
+    /// The fonts of the time column, again after each change of the text size.
+    void setTimeFonts(const QFont& startFont, const QFont& endFont);
+
+    // ---- the user's events; indexes without a row are ignored
+
+    Q_INVOKABLE void tap(int index) { send(index, Tapped{}); }
+    Q_INVOKABLE void tapAccessory(int index) { send(index, AccessoryTapped{}); }
+    Q_INVOKABLE void toggle(int index, bool on) { send(index, Toggled{on}); }
+    Q_INVOKABLE void choose(int index, int choice) { send(index, Chosen{choice}); }
+    Q_INVOKABLE void pickTime(int index, int hour, int minute) {
+        send(index, TimePicked{QTime(hour, minute)});
+    }
+    Q_INVOKABLE void edit(int index, const QString& text, bool finished) {
+        send(index, TextEdited{text, finished});
+    }
+    Q_INVOKABLE void remove(int index) { send(index, Deleted{}); }
+    /// Moves a row before the one at `next`, which counts the rows as they are; true when both are rows of
+    /// one section, or `next` is just past its end.
+    Q_INVOKABLE bool canMoveBefore(int index, int next) const;
+    Q_INVOKABLE void moveBefore(int index, int next);
+
+    /// What can be done with the row; performed by its number until the next call.
+    Q_INVOKABLE QList<guide::RowActionValue> actions(int index);
+    Q_INVOKABLE void performAction(int action);
+    Q_INVOKABLE void pressEmptyButton() { m_viewController->pressEmptyNoteButton(); }
+    /// The row came into sight, or changed while in sight.
+    Q_INVOKABLE void shown(int index);
+
+    /// The first row of the section with that mark of the index strip.
+    Q_INVOKABLE int rowOfIndexTitle(int mark) const;
+    /// The header of the row's section.
+    Q_INVOKABLE QString headerAt(int index) const;
+
+  Q_SIGNALS:
+    /// Around all changes that come together.
+    void aboutToChange();
+    void hasChanged();
+    void timeColumnChanged();
+    void emptyNoteUpdated();
+    void editingUpdated();
+    void sectionsChanged();
+
+  private:
+    void tableWillChange() override;
+    void tableDidChange() override;
+    void rowsWillBeRemoved(int first, int count) override;
+    void rowsRemoved() override;
+    void rowWillMove(int from, int to) override;
+    void rowMoved() override;
+    void rowsWillBeInserted(int first, int count) override;
+    void rowsInserted() override;
+    void rowsUpdated(int first, int count) override;
+    void sectionsUpdated(int first, int count) override;
+    void rowSelectionChanged(std::optional<int> before, std::optional<int> after) override;
+    void emptyNoteChanged() override { Q_EMIT emptyNoteUpdated(); }
+    void editingChanged() override { Q_EMIT editingUpdated(); }
+
+    const Table& table() const { return m_viewController->table(); }
+    bool isRow(int index) const { return index >= 0 && index < table().rowCount(); }
+    void send(int index, const RowEvent& event);
+    QVariant sectionValue(int index) const;
+    void indexSections();
+    void measureTimes(int first, int count);
+    void measureColumn();
+
+    const std::shared_ptr<TableViewController> m_viewController;
+    /// The number of the first row of each section, then that of all rows.
+    std::vector<int> m_starts;
+    bool m_structureChanged = false;
+    int m_insertedFirst = 0;
+    int m_insertedCount = 0;
+    std::vector<RowAction> m_actions;
+    /// The longest times so far; digits are of one width, so that the longest text is the widest.
+    QString m_longestStart;
+    QString m_longestEnd;
+    QFont m_startFont;
+    QFont m_endFont;
+    double m_timeColumn = 0;
+};
+
+} // namespace guide

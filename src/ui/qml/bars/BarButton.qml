@@ -1,0 +1,57 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quellin
+
+// A button of the navigation bar: a symbol, a title, or an indicator of work under way.
+T.AbstractButton {
+    id: button
+
+    required property int kind
+
+    readonly property bool busy: kind === Kit.BarButtonKind.Activity
+    readonly property bool titled: kind === Kit.BarButtonKind.Title
+
+    implicitWidth: titled ? label.implicitWidth + 24 : 44
+    implicitHeight: 44
+    focusPolicy: Qt.TabFocus
+
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+
+    Accessible.role: busy ? Accessible.Animation : Accessible.Button
+    Accessible.name: text
+
+    background: Rectangle {
+        radius: height / 2
+        color: button.pressed ? Theme.pressed : "transparent"
+        border.width: button.visualFocus ? 2 : 0
+        border.color: Theme.tint
+    }
+
+    contentItem: Item {
+        Text {
+            id: label
+
+            anchors.centerIn: parent
+            visible: button.titled
+            text: button.text
+            textFormat: Text.PlainText
+            color: button.enabled ? Theme.tint : Theme.secondaryLabel
+            font: Theme.buttonFont
+        }
+
+        Glyph {
+            anchors.centerIn: parent
+            width: 24
+            height: 24
+            visible: !button.titled && !button.busy
+            symbol: button.kind === Kit.BarButtonKind.Play ? Glyph.Play : Glyph.Refresh
+            color: button.enabled ? Theme.tint : Theme.secondaryLabel
+        }
+
+        Spinner {
+            anchors.centerIn: parent
+            visible: button.busy
+        }
+    }
+}

@@ -1,0 +1,38 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quellin
+
+// A button that a symbol stands for; `text` is its accessible name.
+T.AbstractButton {
+    id: button
+
+    required property int symbol
+    property color color: Theme.tint
+
+    implicitWidth: 44
+    implicitHeight: 44
+    focusPolicy: Qt.TabFocus
+
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+
+    background: Rectangle {
+        radius: height / 2
+        color: button.pressed ? Theme.pressed : "transparent"
+        border.width: button.visualFocus ? 2 : 0
+        border.color: Theme.tint
+    }
+
+    contentItem: Item {
+        Glyph {
+            anchors.centerIn: parent
+            width: 24
+            height: 24
+            symbol: button.symbol
+            color: button.color
+        }
+    }
+}

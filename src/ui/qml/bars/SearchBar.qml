@@ -1,0 +1,88 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quellin
+
+// The search field below a screen's title; Escape empties it.
+T.TextField {
+    id: field
+
+    required property Page page
+
+    implicitHeight: Math.max(44, contentHeight + 20)
+    leftPadding: 44
+    rightPadding: 44
+    color: Theme.label
+    font: Theme.bodyFont
+    selectionColor: Theme.tint
+    selectedTextColor: Theme.onTint
+    verticalAlignment: TextInput.AlignVCenter
+    selectByMouse: true
+    inputMethodHints: Qt.ImhNoPredictiveText
+
+    function clear() {
+        text = ""
+        page.cancelSearch()
+    }
+
+    Component.onCompleted: text = page.searchText
+    onTextEdited: page.search(text)
+    Keys.onEscapePressed: event => {
+        event.accepted = text !== ""
+        if (event.accepted)
+            clear()
+    }
+
+    Accessible.role: Accessible.EditableText
+    Accessible.name: page.searchPlaceholder
+    Accessible.searchEdit: true
+
+    // What the screen puts into the field.
+    Connections {
+        target: field.page
+
+        function onSearchUpdated() {
+            field.text = field.page.searchText
+        }
+    }
+
+    Text {
+        x: field.leftPadding
+        width: parent.width - field.leftPadding - field.rightPadding
+        height: parent.height
+        visible: field.text === "" && field.preeditText === ""
+        text: field.page.searchPlaceholder
+        textFormat: Text.PlainText
+        color: Theme.secondaryLabel
+        font: Theme.bodyFont
+        verticalAlignment: Text.AlignVCenter
+        elide: Text.ElideRight
+    }
+
+    Glyph {
+        x: 12
+        anchors.verticalCenter: parent.verticalCenter
+        width: 20
+        height: 20
+        symbol: Glyph.Search
+        color: Theme.secondaryLabel
+    }
+
+    IconButton {
+        anchors {
+            right: parent.right
+            verticalCenter: parent.verticalCenter
+        }
+        visible: field.text !== ""
+        symbol: Glyph.Close
+        color: Theme.secondaryLabel
+        text: qsTranslate("Guide", "Clear")
+        onClicked: field.clear()
+    }
+
+    background: Rectangle {
+        radius: 12
+        color: Theme.groupedBackground
+        border.width: field.activeFocus ? 2 : 1
+        border.color: field.activeFocus ? Theme.tint : Theme.fieldBorder
+    }
+}

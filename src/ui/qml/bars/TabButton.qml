@@ -1,0 +1,102 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quellin
+
+// One tab: a symbol above its title, with a badge.
+T.AbstractButton {
+    id: button
+
+    required property int symbol
+    required property string badge
+    required property bool current
+    required property bool available
+
+    focusPolicy: Qt.TabFocus
+    opacity: available ? 1 : 0.38
+    enabled: available
+    topPadding: 8
+    bottomPadding: 8
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+
+    Accessible.role: Accessible.PageTab
+    Accessible.name: badge === "" ? text : text + ", " + badge
+    Accessible.selected: current
+
+    background: Item {
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: 2
+            radius: 12
+            color: "transparent"
+            border.width: button.visualFocus ? 2 : 0
+            border.color: Theme.tint
+        }
+    }
+
+    contentItem: Item {
+        implicitHeight: content.implicitHeight
+
+        Column {
+            id: content
+
+            width: parent.width
+            anchors.top: parent.top
+            spacing: 4
+
+            Rectangle {
+                width: 56
+                height: 30
+                radius: 15
+                anchors.horizontalCenter: parent.horizontalCenter
+                color: button.pressed ? Theme.pressed : button.current ? Theme.tintedFill : "transparent"
+
+                Glyph {
+                    anchors.centerIn: parent
+                    width: 24
+                    height: 24
+                    symbol: button.symbol
+                    color: label.color
+                }
+
+                Rectangle {
+                    anchors {
+                        left: parent.horizontalCenter
+                        leftMargin: 5
+                        top: parent.top
+                        topMargin: 1
+                    }
+                    width: Math.max(height, count.implicitWidth + 8)
+                    height: count.implicitHeight + 1
+                    radius: height / 2
+                    visible: button.badge !== ""
+                    color: Theme.alarm
+
+                    Text {
+                        id: count
+
+                        anchors.centerIn: parent
+                        text: button.badge
+                        textFormat: Text.PlainText
+                        color: Theme.onAlarm
+                        font: button.font
+                    }
+                }
+            }
+
+            Text {
+                id: label
+
+                width: parent.width
+                text: button.text
+                textFormat: Text.PlainText
+                color: button.current ? Theme.tint : Theme.secondaryLabel
+                font: button.font
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.WordWrap
+                maximumLineCount: 2
+                elide: Text.ElideRight
+                lineHeight: 0.95
+            }
+        }
+    }
+}

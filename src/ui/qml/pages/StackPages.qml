@@ -1,0 +1,75 @@
+import QtQuick
+import Quellin
+
+// The screens of a stack: the top one alone, or beside the one below it.
+FocusScope {
+    id: view
+
+    required property PageStack stack
+    // Whether the window is wide enough for two screens.
+    property bool sideBySide: false
+    // Whether the stack is a popover or sheet, which its first screen closes.
+    property bool presented: false
+
+    readonly property bool divided: sideBySide && stack.depth > 1
+    readonly property double half: Math.floor(width / 2)
+
+    clip: true
+
+    Repeater {
+        model: view.stack
+
+        PageView {
+            id: screen
+
+            required property int index
+            required property bool leaving
+
+            // How many screens of the stack are above this one; negative once it was popped.
+            readonly property int above: view.stack.depth - 1 - index
+            readonly property bool atLeft: view.divided && above === 1
+            readonly property bool atRight: view.divided && above === 0
+            readonly property bool shown: above === 0 || atLeft
+
+            property bool placed: index === 0
+
+            x: leaving || !placed ? view.width : atRight ? view.half : shown ? 0 : -view.width / 4
+            width: atLeft ? view.half : atRight ? view.width - view.half : view.width
+            height: view.height
+            visible: shown || slide.running
+            enabled: shown
+            focus: above === 0
+            canGoBack: page.canGoBack && !atLeft
+            closable: view.presented && index === 0
+
+            Component.onCompleted: placed = true
+
+            Behavior on x {
+                enabled: Theme.moves && view.visible
+
+                NumberAnimation {
+                    id: slide
+
+                    duration: Theme.motion
+                    easing.type: Easing.OutCubic
+                    onRunningChanged: if (!running && screen.leaving)
+                        Qt.callLater(view.stack.dropLeaving)
+                }
+            }
+
+            Rectangle {
+                width: 1
+                height: parent.height
+                color: Theme.separator
+                visible: screen.atRight
+            }
+        }
+    }
+
+    PresentedStack {
+        presenter: view.stack
+        usable: view.visible && view.enabled
+        onGone: if (usable)
+            view.forceActiveFocus()
+    }
+}

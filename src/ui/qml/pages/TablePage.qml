@@ -1,0 +1,85 @@
+import QtQuick
+import Quellin
+
+// Draws a table: its rows, the heading that stays at the top, the index strip, the pull that refreshes, and the note
+// of an empty one.
+FocusScope {
+    id: screen
+
+    required property Page page
+
+    // Whether rows have gone above the top edge.
+    readonly property bool scrolled: list.contentY > list.originY
+    readonly property alias list: list
+
+    TableList {
+        id: list
+
+        anchors.fill: parent
+        trailingInset: strip.visible ? strip.width - 8 : 0
+        page: screen.page
+        bandRadius: screen.width >= 720 ? 12 : 0
+        stickyHeight: sticky.visible ? sticky.height : 0
+        transform: Translate { y: pull.reached }
+    }
+
+    SectionHeader {
+        id: sticky
+
+        // The row at the top edge, and the one below the heading, which may push it up.
+        property TableRow topRow: null
+        property TableRow nextRow: null
+
+        function update() {
+            topRow = list.itemAt(list.width / 2, list.contentY + 1)
+            nextRow = list.itemAt(list.width / 2, list.contentY + implicitHeight)
+        }
+
+        width: list.width
+        y: nextRow && nextRow !== topRow && nextRow.section.first ? Math.min(0, nextRow.y - list.contentY - height) : 0
+        visible: text !== "" && list.contentY > list.originY
+        text: topRow ? topRow.section.header : ""
+        sideMargin: list.sideMargin
+        radius: list.bandRadius
+        Accessible.ignored: true
+
+        Connections {
+            target: list
+
+            function onContentYChanged() { sticky.update() }
+            function onContentHeightChanged() { sticky.update() }
+            function onCountChanged() { sticky.update() }
+        }
+    }
+
+    IndexStrip {
+        id: strip
+
+        anchors {
+            top: parent.top
+            bottom: parent.bottom
+            right: parent.right
+        }
+        list: list
+    }
+
+    PullIndicator {
+        id: pull
+
+        anchors.fill: list
+        visible: screen.page.canRefresh
+        atTop: list.atYBeginning
+        turning: screen.page.refreshing
+        onPulled: screen.page.pull()
+    }
+
+    EmptyNote {
+        anchors.fill: list
+        visible: list.count === 0 && screen.page.rows.emptyTitle !== ""
+        title: screen.page.rows.emptyTitle
+        message: screen.page.rows.emptyMessage
+        button: screen.page.rows.emptyButton
+        symbol: screen.page.symbol
+        onPressed: screen.page.rows.pressEmptyButton()
+    }
+}

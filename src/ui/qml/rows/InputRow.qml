@@ -1,0 +1,142 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quellin
+
+// A field to type in, with its title above it and what is wrong with the text below.
+TableRow {
+    id: cell
+
+    readonly property bool wrong: row.error !== ""
+
+    activatable: false
+    takesText: row.enabled
+    accessibleRole: Accessible.Grouping
+    contentHeight: fault.y + fault.height + 24
+    separatorInset: -1
+
+    function activate() {
+        field.forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    // What is being typed stays, whatever the screen says meanwhile.
+    onRowChanged: if (!field.activeFocus)
+        field.text = row.text
+
+    Item {
+        x: cell.sideMargin
+        y: 12
+        width: parent.width - 2 * x
+        height: parent.height - 24
+        opacity: cell.row.enabled ? 1 : 0.5
+
+        Text {
+            id: title
+
+            readonly property double used: text === "" ? 0 : implicitHeight + 4
+
+            width: parent.width
+            text: cell.row.title
+            textFormat: Text.PlainText
+            color: Theme.secondaryLabel
+            font: Theme.detailsFont
+            wrapMode: Text.Wrap
+        }
+
+        T.TextField {
+            id: field
+
+            y: title.used
+            width: parent.width
+            height: Math.max(44, implicitHeight)
+            implicitHeight: contentHeight + 20
+            leftPadding: 12
+            rightPadding: 12
+            enabled: cell.row.enabled
+            text: ""
+            color: Theme.label
+            font: Theme.bodyFont
+            selectionColor: Theme.tint
+            selectedTextColor: Theme.onTint
+            placeholderTextColor: Theme.secondaryLabel
+            verticalAlignment: TextInput.AlignVCenter
+            selectByMouse: true
+            echoMode: cell.row.kind === Kit.InputKind.Password ? TextInput.Password : TextInput.Normal
+            inputMethodHints: cell.row.kind === Kit.InputKind.URL ? Qt.ImhUrlCharactersOnly | Qt.ImhNoAutoUppercase
+                              : cell.row.kind === Kit.InputKind.Number ? Qt.ImhDigitsOnly
+                              : cell.row.kind === Kit.InputKind.Password ? Qt.ImhHiddenText | Qt.ImhSensitiveData
+                              : Qt.ImhNone
+            validator: cell.row.kind === Kit.InputKind.Number ? digits : null
+
+            Component.onCompleted: text = cell.row.text
+            onTextEdited: cell.rows.edit(cell.index, text, false)
+            onAccepted: cell.rows.edit(cell.index, text, true)
+            onActiveFocusChanged: {
+                if (activeFocus)
+                    cell.list.holdCurrent(cell)
+                else
+                    cell.rows.edit(cell.index, text, true)
+            }
+            Keys.onEscapePressed: cell.list.forceActiveFocus()
+
+            Accessible.role: Accessible.EditableText
+            Accessible.name: cell.row.accessibleName
+            Accessible.passwordEdit: cell.row.kind === Kit.InputKind.Password
+
+            RegularExpressionValidator {
+                id: digits
+
+                regularExpression: /[0-9]*/
+            }
+
+            Text {
+                x: field.leftPadding
+                width: parent.width - 2 * x
+                height: parent.height
+                visible: field.text === "" && field.preeditText === ""
+                text: cell.row.placeholder
+                textFormat: Text.PlainText
+                color: Theme.secondaryLabel
+                font: Theme.bodyFont
+                verticalAlignment: Text.AlignVCenter
+                elide: Text.ElideRight
+            }
+
+            background: Rectangle {
+                radius: 6
+                color: Theme.groupedBackground
+                border.width: field.activeFocus ? 2 : 1
+                border.color: cell.wrong ? Theme.alarm : field.activeFocus ? Theme.tint : Theme.fieldBorder
+            }
+        }
+
+        Item {
+            id: fault
+
+            y: field.y + field.height + (cell.wrong ? 4 : 0)
+            width: parent.width
+            height: cell.wrong ? faultText.implicitHeight : 0
+            visible: cell.wrong
+
+            Glyph {
+                id: sign
+
+                width: Math.round(16 * Theme.textScale)
+                height: width
+                symbol: Glyph.Warning
+                color: Theme.alarm
+            }
+
+            Text {
+                id: faultText
+
+                x: sign.width + 6
+                width: parent.width - x
+                text: cell.row.error
+                textFormat: Text.PlainText
+                color: Theme.alarm
+                font: Theme.detailsFont
+                wrapMode: Text.Wrap
+            }
+        }
+    }
+}

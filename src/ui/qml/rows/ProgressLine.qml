@@ -1,0 +1,47 @@
+import QtQuick
+import Quellin
+
+// How far something has come, 0 to 1; below 0 it is not known, and a part of the line moves along it.
+Item {
+    id: line
+
+    property double value: 0
+    property double topPadding: 0
+    property color color: Theme.running
+
+    readonly property bool known: value >= 0
+
+    implicitHeight: topPadding + 4
+
+    Rectangle {
+        id: track
+
+        y: line.topPadding
+        width: parent.width
+        height: 4
+        radius: 2
+        color: Theme.separator
+        clip: !line.known
+
+        Rectangle {
+            id: bar
+
+            property double moved: 0.35
+
+            x: line.known ? 0 : (track.width + width) * moved - width
+            width: line.known ? Math.max(4, track.width * line.value) : track.width * 0.3
+            height: parent.height
+            radius: 2
+            color: line.color
+
+            NumberAnimation on moved {
+                running: !line.known && line.visible && Theme.moves
+                from: 0
+                to: 1
+                duration: 1400
+                loops: Animation.Infinite
+                easing.type: Easing.InOutQuad
+            }
+        }
+    }
+}

@@ -1,0 +1,47 @@
+import QtQuick
+import Quellin
+
+// Moves its row up and down within the section while the list is edited.
+Item {
+    id: handle
+
+    // Of the row.
+    required property string name
+
+    signal started()
+    signal moved(double distance)
+    signal finished()
+
+    width: 44
+    height: 44
+
+    Accessible.role: Accessible.Button
+    Accessible.name: qsTranslate("Guide", "Move") + " " + name
+
+    Glyph {
+        anchors.centerIn: parent
+        width: 24
+        height: 24
+        symbol: Glyph.Reorder
+        color: Theme.secondaryLabel
+    }
+
+    HoverHandler {
+        cursorShape: Qt.SizeVerCursor
+    }
+
+    DragHandler {
+        target: null
+        xAxis.enabled: false
+        dragThreshold: 2
+        grabPermissions: PointerHandler.CanTakeOverFromAnything
+        onActiveChanged: {
+            if (active)
+                handle.started()
+            else
+                handle.finished()
+        }
+        onActiveTranslationChanged: if (active)
+            handle.moved(activeTranslation.y)
+    }
+}

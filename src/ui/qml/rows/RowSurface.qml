@@ -1,0 +1,44 @@
+import QtQuick
+import Quellin
+
+// A row's background, which answers to a tap, and the ring of the keyboard focus.
+Item {
+    id: surface
+
+    property bool selectable: false
+    property bool selected: false
+    property bool focused: false
+    property color color: Theme.background
+    property int radius: 0
+
+    signal tapped()
+
+    Rectangle {
+        anchors.fill: parent
+        radius: surface.radius
+        color: (surface.selectable && tap.pressed) || surface.selected ? Theme.pressed : surface.color
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: 2
+        color: "transparent"
+        radius: 8
+        border.width: 2
+        border.color: Theme.tint
+        visible: surface.focused
+        z: 1
+    }
+
+    HoverHandler {
+        enabled: surface.selectable
+        cursorShape: Qt.PointingHandCursor
+    }
+
+    TapHandler {
+        id: tap
+
+        enabled: surface.selectable
+        onTapped: surface.tapped()
+    }
+}

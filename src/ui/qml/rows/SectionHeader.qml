@@ -1,0 +1,34 @@
+import QtQuick
+import Quellin
+
+// A section's heading.
+Rectangle {
+    id: header
+
+    required property string text
+    property double sideMargin: 16
+
+    implicitHeight: Math.max(36, label.implicitHeight + 12)
+    color: Qt.alpha(Theme.groupedBackground, 0.96)
+
+    Accessible.role: Accessible.Heading
+    Accessible.name: text
+
+    Text {
+        id: label
+
+        anchors {
+            fill: parent
+            leftMargin: header.sideMargin
+            rightMargin: header.sideMargin
+        }
+        verticalAlignment: Text.AlignVCenter
+        text: header.text
+        textFormat: Text.PlainText
+        color: Theme.heading
+        font: Theme.headingFont
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 14
+        elide: Text.ElideRight
+    }
+}

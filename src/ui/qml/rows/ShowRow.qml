@@ -1,0 +1,139 @@
+import QtQuick
+import Quellin
+
+// One show: channel icon, times, title with its marks, details, and how much of it is over.
+TableRow {
+    id: cell
+
+    readonly property double timeColumn: list ? rows.timeColumn : 0
+    readonly property bool hasIcon: row.channelIcon.toString() !== ""
+    readonly property bool hasPicture: row.picture.toString() !== ""
+    readonly property double textStart: sideMargin + (hasIcon ? 62 : 0)
+    readonly property double textRight: surfaceWidth - edge.width - (hasPicture ? 76 : 0) - sideMargin
+    // Where the times would leave the title too little room, as with large text, they go above it.
+    readonly property bool stacked: textRight - textStart - timeColumn - 12 < 150 * Theme.textScale
+    readonly property double textLeft: textStart + (stacked || timeColumn === 0 ? 0 : timeColumn + 12)
+
+    contentHeight: Math.max(56, progress.y + progress.height + 10, hasPicture ? 60 : 0)
+    separatorInset: textLeft
+
+    Loader {
+        x: cell.sideMargin
+        y: 10
+        active: cell.hasIcon
+        sourceComponent: RowPicture {
+            width: 50
+            height: 36
+            source: cell.row.channelIcon
+        }
+    }
+
+    Text {
+        id: start
+
+        x: cell.textStart
+        y: cell.stacked ? 10 : title.y + title.baselineOffset - baselineOffset
+        text: cell.row.startTime
+        textFormat: Text.PlainText
+        color: Theme.roles[cell.row.timeColor]
+        font: Theme.timeFont
+    }
+
+    Text {
+        x: start.x + start.width + 4
+        anchors.baseline: start.baseline
+        anchors.baselineOffset: -Math.round(6 * Theme.textScale)
+        text: cell.row.endTime
+        textFormat: Text.PlainText
+        color: Theme.secondaryLabel
+        font: Theme.endTimeFont
+    }
+
+    // Heights are bindings rather than a positioner's: a reused row has to have its new height at once.
+    Text {
+        id: title
+
+        x: cell.textLeft
+        y: cell.stacked && cell.row.startTime !== "" ? 10 + start.height : 12
+        width: cell.textRight - x - (marks.width > 0 ? marks.width + 6 : 0)
+        text: cell.row.title
+        textFormat: Text.PlainText
+        color: Theme.label
+        font: Theme.titleFont
+        wrapMode: Text.Wrap
+        maximumLineCount: cell.row.allDetails || Theme.textScale > 1.5 ? 4 : 2
+        elide: Text.ElideRight
+    }
+
+    // The marks follow the last word.
+    Connections {
+        enabled: marks.width > 0
+        target: title
+
+        function onLineLaidOut(line) {
+            marks.x = title.x + Math.min(line.implicitWidth, title.width) + 6
+            marks.y = title.y + line.y + (line.height - marks.height) / 2
+        }
+    }
+
+    ShowMarks {
+        id: marks
+
+        popular: cell.row.popular
+        favourite: cell.row.favourite
+        alarmed: cell.row.alarmed
+    }
+
+    Text {
+        id: details
+
+        readonly property double used: text === "" ? 0 : implicitHeight
+
+        x: cell.textLeft
+        y: title.y + title.height + 2
+        width: cell.textRight - x
+        text: cell.row.details
+        textFormat: Text.PlainText
+        color: Theme.secondaryLabel
+        font: Theme.detailsFont
+        wrapMode: Text.Wrap
+        maximumLineCount: cell.row.allDetails ? 1000 : 2
+        elide: Text.ElideRight
+    }
+
+    Loader {
+        id: progress
+
+        x: cell.textLeft
+        y: details.y + details.used + 2
+        width: cell.textRight - x
+        height: active ? 10 : 0
+        active: cell.row.progress >= 0
+        sourceComponent: ProgressLine {
+            value: cell.row.progress
+            topPadding: 6
+        }
+    }
+
+    Loader {
+        x: cell.textRight + 12
+        y: 12
+        active: cell.hasPicture
+        sourceComponent: RowPicture {
+            width: 64
+            height: 36
+            source: cell.row.picture
+            fillMode: Image.PreserveAspectCrop
+        }
+    }
+
+    Accessory {
+        id: edge
+
+        x: parent.width - width - cell.sideMargin + 8
+        width: implicitWidth
+        height: parent.height
+        kind: cell.row.accessory
+        onTapped: cell.rows.tapAccessory(cell.index)
+    }
+}

@@ -1,0 +1,260 @@
+import QtQuick
+import QtQuick.Controls.Basic as C
+import Qt.labs.qmlmodels
+import Quellin
+
+// The rows of a table: their delegates, the keyboard, the open swipe, reordering, and the place in the list.
+ListView {
+    id: view
+
+    required property Page page
+
+    readonly property double sideMargin: width >= 600 ? 24 : 16
+    // Bands across the column are rounded where the column does not fill the page.
+    property int bandRadius: 0
+
+    // What the index strip covers.
+    property double trailingInset: 0
+
+    readonly property int tileColumns: Theme.textScale >= 1.5 ? 1 : width >= 700 ? 4 : width >= 600 ? 3 : 2
+    readonly property double tileGap: 12
+    readonly property double tileWidth: Math.floor((width - trailingInset - 2 * sideMargin - (tileColumns - 1) * tileGap) / tileColumns)
+    readonly property double tileHeight: Math.round(132 * Math.min(Theme.textScale, 1.5))
+
+    // The focus ring is for the keyboard: it goes with the next tap.
+    property bool keyboardUsed: false
+    // The row that is pushed aside; there is at most one.
+    property TableRow swipedRow: null
+
+    function tileX(column) {
+        return sideMargin + column * (tileWidth + tileGap)
+    }
+
+    function closeSwiped() {
+        if (swipedRow)
+            swipedRow.cover()
+    }
+
+    function noteSwipe(row) {
+        if (row.swiped) {
+            if (swipedRow !== row)
+                closeSwiped()
+            swipedRow = row
+        } else if (swipedRow === row) {
+            swipedRow = null
+        }
+    }
+
+    // The current row is never reused, so that a field keeps its focus and text while its row is out of sight.
+    function holdCurrent(row) {
+        currentIndex = row.index
+    }
+
+    function openMenu(row, x, y) {
+        const actions = row.rows.actions(row.index)
+        if (actions.length > 0)
+            menu.openActions(row, actions, x, y)
+    }
+
+    function openChoices(row) {
+        menu.openChoices(row)
+    }
+
+    function openTimePicker(row) {
+        timePicker.openFor(row)
+    }
+
+    function goTo(index) {
+        positionViewAtIndex(index, ListView.Beginning)
+    }
+
+    // ---- reordering
+
+    property TableRow dragged: null
+    property int dropBefore: -1
+
+    function startReorder(row) {
+        dragged = row
+        dropBefore = -1
+        interactive = false
+    }
+
+    function reorderBy(distance) {
+        dragged.dragged = distance
+        const y = dragged.middle
+        const over = indexAt(width / 2, y)
+        if (over < 0)
+            return
+        const next = y > itemAtIndex(over).middle && over !== dragged.index ? over + 1 : over
+        dropBefore = page.rows.canMoveBefore(dragged.index, next) ? next : -1
+    }
+
+    function finishReorder() {
+        const index = dragged.index
+        dragged.dragged = 0
+        dragged = null
+        interactive = true
+        if (dropBefore >= 0)
+            page.rows.moveBefore(index, dropBefore)
+        dropBefore = -1
+    }
+
+    objectName: "rows"
+    model: page.rows
+    clip: true
+    focus: true
+    activeFocusOnTab: true
+    currentIndex: -1
+    keyNavigationEnabled: false
+    highlightFollowsCurrentItem: false
+    boundsBehavior: Flickable.StopAtBounds
+    cacheBuffer: 480
+    // A line of tiles belongs to its first row: it must not be dropped while the line can still be seen.
+    displayMarginBeginning: tileHeight + tileGap
+    bottomMargin: 16
+    reuseItems: true
+
+    Accessible.role: Accessible.List
+    Accessible.name: page.title
+
+    delegate: DelegateChooser {
+        role: "kind"
+
+        DelegateChoice { roleValue: Kit.RowKind.Show; ShowRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Channel; ChannelRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Text; TextRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Switch; SwitchRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Choice; ChoiceRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Time; TimeRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Input; InputRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Button; ButtonRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Progress; ProgressRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Picture; PictureRow {} }
+    }
+
+    PlaceKeeper {
+        list: view
+        model: view.page.rows
+    }
+
+    onMovementStarted: closeSwiped()
+
+    // ---- the keyboard
+
+    // Rows of a tile line are beside each other: Up and Down go by lines there.
+    function step(by) {
+        keyboardUsed = true
+        closeSwiped()
+        currentIndex = Math.max(0, Math.min(count - 1, currentIndex + by))
+        reveal()
+    }
+
+    function lineStep() {
+        return currentItem && currentItem.tiled ? tileColumns : 1
+    }
+
+    // The heading at the top covers what is below it.
+    function reveal() {
+        positionViewAtIndex(currentIndex, ListView.Contain)
+        if (currentItem && !currentItem.section.first && currentItem.y - contentY < stickyHeight)
+            contentY = currentItem.y - stickyHeight
+    }
+
+    property double stickyHeight: 0
+
+    Keys.onUpPressed: event => {
+        if (event.modifiers & Qt.AltModifier)
+            moveCurrent(-1)
+        else
+            step(-lineStep())
+    }
+    Keys.onDownPressed: event => {
+        if (event.modifiers & Qt.AltModifier)
+            moveCurrent(1)
+        else
+            step(currentIndex < 0 ? 1 : lineStep())
+    }
+    Keys.onLeftPressed: {
+        if (currentItem && currentItem.tiled)
+            step(-1)
+        else if (currentItem)
+            currentItem.uncover()
+    }
+    Keys.onRightPressed: {
+        if (currentItem && currentItem.tiled)
+            step(1)
+        else
+            closeSwiped()
+    }
+    Keys.onReturnPressed: activateCurrent()
+    Keys.onEnterPressed: activateCurrent()
+    Keys.onSpacePressed: activateCurrent()
+    Keys.onMenuPressed: if (currentItem)
+        openMenu(currentItem, currentItem.width / 2, currentItem.height / 2)
+    Keys.onDeletePressed: if (currentItem && currentItem.editing && currentItem.row.deletable)
+        page.rows.remove(currentIndex)
+    Keys.onPressed: event => {
+        const page = Math.max(1, Math.floor(view.height / 72))
+        if (event.key === Qt.Key_PageUp)
+            step(-page)
+        else if (event.key === Qt.Key_PageDown)
+            step(page)
+        else if (event.key === Qt.Key_Home)
+            step(-count)
+        else if (event.key === Qt.Key_End)
+            step(count)
+        else
+            return
+        event.accepted = true
+    }
+
+    function activateCurrent() {
+        if (currentItem && currentItem.activatable || currentItem && currentItem.takesText)
+            currentItem.activate()
+    }
+
+    function moveCurrent(by) {
+        if (currentIndex < 0)
+            return
+        page.rows.moveBefore(currentIndex, by < 0 ? currentIndex - 1 : currentIndex + 2)
+        reveal()
+    }
+
+    C.ScrollBar.vertical: C.ScrollBar {
+        policy: C.ScrollBar.AsNeeded
+        contentItem: Rectangle {
+            implicitWidth: 4
+            radius: 2
+            color: Theme.secondaryLabel
+            opacity: parent.active ? 0.6 : 0
+        }
+    }
+
+    // Where a dragged row would go.
+    Rectangle {
+        readonly property Item next: view.dropBefore >= 0 ? view.itemAtIndex(view.dropBefore) : null
+        readonly property Item previous: view.dropBefore > 0 ? view.itemAtIndex(view.dropBefore - 1) : null
+
+        parent: view.contentItem
+        x: view.sideMargin
+        y: (next ? next.y : previous ? previous.y + previous.height : 0) - 1
+        z: 3
+        width: view.width - 2 * x
+        height: 3
+        radius: 2
+        color: Theme.tint
+        visible: view.dropBefore >= 0
+    }
+
+    RowMenu {
+        id: menu
+
+        parent: view
+    }
+
+    TimePicker {
+        id: timePicker
+
+        parent: view
+    }
+}

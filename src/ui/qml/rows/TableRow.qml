@@ -1,0 +1,278 @@
+import QtQuick
+import Quellin
+
+// What rows of every kind have: the section's header and footer around it, the surface with the row's own content,
+// the actions that a swipe uncovers, and the controls of edit mode. In a section of tiles the first row of each line
+// has the line's height, and the others are drawn beside it and have none.
+Item {
+    id: cell
+
+    required property int index
+    required property tableSection section
+    // The value type of the row's kind.
+    required property var row
+
+    // The TableList; its type would make the two depend on each other.
+    readonly property var list: ListView.view
+    readonly property TableModel rows: list ? list.page.rows : null
+    readonly property bool current: ListView.isCurrentItem
+    readonly property double sideMargin: tiled ? 12 : list ? list.sideMargin : 16
+
+    // What a tap or Enter does, and whether there is such a thing.
+    property bool activatable: row.selectable
+    // Whether Enter goes into a field.
+    property bool takesText: false
+    property int accessibleRole: Accessible.ListItem
+    property bool checkable: false
+    property bool checked: false
+    property color surfaceColor: tiled ? Theme.groupedBackground : Theme.background
+    property int surfaceRadius: tiled ? 12 : 0
+    // Where the line below the row begins; negative for no line.
+    property double separatorInset: sideMargin
+    property double contentHeight: 0
+    default property alias content: surfaceContent.data
+    // What is left for the row's content.
+    readonly property double surfaceWidth: surfaceContent.width
+    // The middle of the row without header and footer, where it is dragged to.
+    readonly property double middle: y + body.y + body.height / 2
+
+    readonly property bool tiled: section.tiles && list !== null && list.tileColumns > 1
+    readonly property int column: tiled ? section.place % list.tileColumns : 0
+    readonly property double bodyHeight: tiled ? list.tileHeight : Math.max(44, contentHeight)
+
+    property bool swiped: false
+    property var actions: []
+    readonly property double actionWidth: Math.round(76 * Math.min(Theme.textScale, 1.5))
+    readonly property bool editing: rows !== null && rows.editing && (row.deletable || row.movable)
+    // How far the reorder handle has dragged the row.
+    property double dragged: 0
+
+    function activate() {
+        rows.tap(index)
+    }
+
+    function uncover() {
+        actions = rows.actions(index)
+        swiped = actions.length > 0
+    }
+
+    function cover() {
+        if (panel.activeFocus)
+            list.forceActiveFocus()
+        swiped = false
+    }
+
+    // The actions of a row that is back in its place must not be found below it.
+    function dropActions() {
+        if (surface.x === 0 && !push.held && !swiped)
+            actions = []
+    }
+
+    function reset() {
+        swiped = false
+        actions = []
+        dragged = 0
+    }
+
+    width: ListView.view ? ListView.view.width : 0
+    // Above each line of tiles, and below the last one.
+    readonly property double gap: tiled ? list.tileGap : 0
+
+    implicitHeight: (column === 0 ? header.height + gap + bodyHeight : 0) + (section.last ? gap : 0) + footer.height
+    z: dragged !== 0 ? 2 : 0
+
+    Component.onCompleted: rows.shown(index)
+    onRowChanged: {
+        cover()
+        if (rows && index >= 0)
+            rows.shown(index)
+    }
+    onSwipedChanged: if (list)
+        list.noteSwipe(cell)
+    ListView.onPooled: reset()
+
+    Loader {
+        id: header
+
+        width: parent.width
+        height: item ? item.implicitHeight : 0
+        active: cell.section.first && cell.section.header !== ""
+        sourceComponent: SectionHeader {
+            text: cell.section.header
+            sideMargin: cell.list ? cell.list.sideMargin : 16
+            radius: cell.list ? cell.list.bandRadius : 0
+        }
+    }
+
+    Item {
+        id: body
+
+        x: cell.tiled ? cell.list.tileX(cell.column) : 0
+        y: (cell.column === 0 ? header.height + cell.gap : -cell.bodyHeight) + cell.dragged
+        width: cell.tiled ? cell.list.tileWidth : parent.width
+        height: cell.bodyHeight
+        clip: panel.active
+
+        Loader {
+            id: panel
+
+            anchors {
+                top: parent.top
+                bottom: parent.bottom
+                right: parent.right
+            }
+            active: cell.actions.length > 0
+            sourceComponent: SwipeActions {
+                actions: cell.actions
+                actionWidth: cell.actionWidth
+                onGivenUp: cell.cover()
+                onChosen: action => {
+                    cell.cover()
+                    cell.rows.performAction(action)
+                }
+            }
+        }
+
+        RowSurface {
+            id: surface
+
+            x: push.held ? push.reached : cell.swiped ? -cell.actions.length * cell.actionWidth : 0
+            width: parent.width
+            height: parent.height
+            radius: cell.surfaceRadius
+            color: cell.surfaceColor
+            selectable: cell.activatable && !cell.swiped
+            selected: cell.row.selected
+            focused: cell.current && cell.list.activeFocus && cell.list.keyboardUsed
+            onTapped: {
+                cell.list.keyboardUsed = false
+                cell.activate()
+            }
+            onXChanged: cell.dropActions()
+
+            Accessible.role: cell.accessibleRole
+            Accessible.name: cell.row.accessibleName
+            Accessible.focusable: true
+            Accessible.focused: focused
+            Accessible.checkable: cell.checkable
+            Accessible.checked: cell.checked
+            Accessible.onPressAction: if (cell.activatable)
+                cell.activate()
+            Accessible.onToggleAction: if (cell.activatable)
+                cell.activate()
+
+            Behavior on x {
+                enabled: Theme.moves && !push.held
+                NumberAnimation { duration: Theme.rowMotion; easing.type: Easing.OutCubic }
+            }
+
+            IconButton {
+                id: deleteButton
+
+                anchors {
+                    left: parent.left
+                    leftMargin: cell.sideMargin - 12
+                    verticalCenter: parent.verticalCenter
+                }
+                visible: cell.editing && cell.row.deletable
+                symbol: Glyph.Delete
+                color: Theme.alarm
+                text: qsTranslate("Guide", "Delete") + " " + cell.row.accessibleName
+                onClicked: cell.rows.remove(cell.index)
+            }
+
+            Item {
+                id: surfaceContent
+
+                anchors {
+                    fill: parent
+                    leftMargin: deleteButton.visible ? 32 : 0
+                    rightMargin: (handle.visible ? 44 : 0) + (cell.list && !cell.tiled ? cell.list.trailingInset : 0)
+                }
+            }
+
+            ReorderHandle {
+                id: handle
+
+                anchors {
+                    right: parent.right
+                    rightMargin: cell.sideMargin - 12
+                    verticalCenter: parent.verticalCenter
+                }
+                visible: cell.editing && cell.row.movable
+                name: cell.row.accessibleName
+                onStarted: cell.list.startReorder(cell)
+                onMoved: distance => cell.list.reorderBy(distance)
+                onFinished: cell.list.finishReorder()
+            }
+
+            Rectangle {
+                x: cell.separatorInset + (deleteButton.visible ? 32 : 0)
+                width: parent.width - x
+                height: 1
+                anchors.bottom: parent.bottom
+                color: Theme.separator
+                visible: !cell.section.last && !cell.tiled && cell.separatorInset >= 0
+            }
+        }
+
+        DragHandler {
+            id: push
+
+            property bool held: false
+            property double begin: 0
+            property double reached: 0
+
+            enabled: !cell.editing
+            target: null
+            yAxis.enabled: false
+            // A list that could take the finger over would do so at the first step up or down.
+            grabPermissions: PointerHandler.CanTakeOverFromAnything
+            onActiveChanged: {
+                const width = cell.actions.length * cell.actionWidth
+                if (active) {
+                    if (!cell.swiped)
+                        cell.actions = cell.rows.actions(cell.index)
+                    begin = cell.swiped ? -width : 0
+                    reached = begin
+                    held = true
+                } else {
+                    cell.swiped = reached < -width / 2
+                    held = false
+                    cell.dropActions()
+                }
+            }
+            onActiveTranslationChanged: if (held)
+                reached = Math.max(-cell.actions.length * cell.actionWidth, Math.min(0, begin + activeTranslation.x))
+        }
+
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            onTapped: eventPoint => cell.list.openMenu(cell, eventPoint.position.x, eventPoint.position.y + body.y)
+        }
+
+        TapHandler {
+            acceptedDevices: PointerDevice.TouchScreen
+            enabled: !cell.editing
+            onLongPressed: cell.list.openMenu(cell, point.position.x, point.position.y + body.y)
+        }
+
+        TapHandler {
+            enabled: cell.swiped
+            onTapped: cell.cover()
+        }
+    }
+
+    Loader {
+        id: footer
+
+        width: parent.width
+        height: item ? item.implicitHeight : 0
+        anchors.bottom: parent.bottom
+        active: cell.section.last && cell.section.footer !== ""
+        sourceComponent: SectionFooter {
+            text: cell.section.footer
+            sideMargin: cell.list ? cell.list.sideMargin : 16
+        }
+    }
+}

@@ -1,0 +1,356 @@
+// What the drawing of a table keeps while the table changes, and what it reports of the user's actions.
+#include "GalleryRows.h"
+#include "WindowTest.h"
+#include "fakes/ManualClock.h"
+#include "fakes/ManualQueues.h"
+#include "screens/kit/TabBarController.h"
+#include "ui/model/RowValues.h"
+
+namespace guide::test {
+
+namespace {
+
+struct Sent {
+    QString row;
+    RowEvent event;
+};
+
+class Screen final : public TableViewController {
+  public:
+    explicit Screen(std::vector<Section> sections = {}) { table().setSections(std::move(sections)); }
+
+    using ViewController::setSearchField;
+
+    void setText(int row, const RowContent& content) {
+        Row changed = table().rowAt(row);
+        changed.content = content;
+        table().setRow(std::move(changed));
+    }
+    template <class Event>
+    std::vector<Event> of() const {
+        std::vector<Event> found;
+        for (const Sent& each : sent) {
+            if (const auto* event = std::get_if<Event>(&each.event)) {
+                found.push_back(*event);
+            }
+        }
+        return found;
+    }
+
+    std::vector<Sent> sent;
+    QStringList searched;
+
+  protected:
+    void rowEvent(const RowId& id, const RowEvent& event) override { sent.push_back({*id.name(), event}); }
+    std::vector<RowAction> actionsForRow(const RowId&) override {
+        return {{u"Remove"_s, {}, ColorRole::Alarm, [] {}}};
+    }
+    void searchTextEdited(const QString& text) override { searched << text; }
+};
+
+std::vector<Section> lines(int count) {
+    std::vector<RowContent> rows;
+    for (int row = 0; row < count; ++row) {
+        rows.emplace_back(TextRow{u"Row %1"_s.arg(row), row % 3 == 0 ? u"Two lines"_s : QString()});
+    }
+    return {section(u"lines"_s, u"Lines"_s, std::move(rows))};
+}
+
+class TableWindowTest : public WindowTest {
+  protected:
+    void open(std::vector<Section> sections, const QSize& size = {390, 844},
+              UserInterfaceIdiom idiom = UserInterfaceIdiom::Phone) {
+        screen = std::make_shared<Screen>(std::move(sections));
+        tabs = std::make_unique<TabBarController>(idiom, queues.mainQueue());
+        tabs->addTab({u"One"_s}, screen);
+        openWindow(*tabs, {.form = idiom, .size = size, .motion = false, .pictures = &pictures});
+    }
+    void TearDown() override {
+        WindowTest::TearDown();
+        tabs.reset();
+    }
+    double offsetOf(int index) const { return row(index)->y() - rows()->property("contentY").toDouble(); }
+
+    ManualClock clock;
+    ManualQueues queues{clock};
+    GalleryPictures pictures;
+    std::shared_ptr<Screen> screen;
+    std::unique_ptr<TabBarController> tabs;
+};
+
+TEST_F(TableWindowTest, ASwipeStaysOpenWhileOtherRowsChange) {
+    open(lines(12));
+    const auto open = [this] { return buttons({u"Remove"_s}).size() == 1; };
+    drag(middle(row(4)), {-200, 0}, true);
+    ASSERT_TRUE(open());
+    const double place = buttons({u"Remove"_s}).constFirst()->mapToScene({}).y();
+    screen->setText(5, TextRow{u"Other"_s});
+    settle();
+    EXPECT_TRUE(open()) << "another row was updated";
+    std::vector<Section> fewer = screen->table().sections();
+    fewer[0].rows.erase(fewer[0].rows.begin() + 7);
+    screen->table().setSections(fewer);
+    settle();
+    ASSERT_TRUE(open()) << "another row was removed";
+    EXPECT_EQ(buttons({u"Remove"_s}).constFirst()->mapToScene({}).y(), place);
+    screen->setText(4, TextRow{u"Changed"_s});
+    settle();
+    EXPECT_FALSE(open()) << "the actions may not fit what the row is now";
+}
+
+TEST_F(TableWindowTest, WhatIsBeingTypedSurvivesUpdates) {
+    std::vector<Section> sections = lines(6);
+    sections[0].rows[3].content = InputRow{.title = u"Name"_s, .text = u"old"_s};
+    open(sections);
+    QQuickItem* field = itemsWith("echoMode").value(0);
+    ASSERT_TRUE(field);
+    EXPECT_EQ(field->property("text"), u"old"_s);
+    click(field);
+    ASSERT_TRUE(field->hasActiveFocus());
+    QTest::keyClick(quickWindow, Qt::Key_End);
+    QTest::keyClick(quickWindow, Qt::Key_X);
+    EXPECT_EQ(screen->of<TextEdited>().at(0).text, u"oldx"_s);
+    EXPECT_FALSE(screen->of<TextEdited>().at(0).finished);
+
+    screen->setText(3, InputRow{.title = u"Name"_s, .text = u"from the screen"_s, .error = u"Too short"_s});
+    std::vector<Section> moved = screen->table().sections();
+    moved[0].rows.erase(moved[0].rows.begin());
+    screen->table().setSections(moved);
+    settle();
+    EXPECT_EQ(field->property("text"), u"oldx"_s);
+    EXPECT_TRUE(field->hasActiveFocus());
+    // The row stays even while it is out of sight.
+    rows()->setProperty("contentY", 10'000);
+    settle();
+    EXPECT_TRUE(field->hasActiveFocus());
+    EXPECT_EQ(field->property("text"), u"oldx"_s);
+
+    QTest::keyClick(quickWindow, Qt::Key_Return);
+    EXPECT_TRUE(screen->of<TextEdited>().back().finished);
+    EXPECT_EQ(screen->of<TextEdited>().back().text, u"oldx"_s);
+    press(Qt::Key_Escape);
+    screen->setText(2, InputRow{.title = u"Name"_s, .text = u"accepted"_s});
+    settle();
+    EXPECT_EQ(field->property("text"), u"accepted"_s);
+}
+
+TEST_F(TableWindowTest, ThePlaceStaysWhateverChangesAboveIt) {
+    open(lines(60));
+    rows()->setProperty("contentY", 1500);
+    settle();
+    const int seen = rowAtTop()->property("index").toInt() + 2;
+    const QString name = *screen->table().rowAt(seen).id.name();
+    const double offset = offsetOf(seen);
+    const auto now = [&] { return screen->table().indexOf({u"lines"_s, name}).value_or(-1); };
+    std::vector<Section> sections = screen->table().sections();
+    std::vector<Row>& rowsNow = sections[0].rows;
+    const struct {
+        const char* change;
+        std::function<void()> apply;
+    } cases[] = {
+        {"rows above are removed", [&] { rowsNow.erase(rowsNow.begin(), rowsNow.begin() + 5); }},
+        {"rows above are inserted",
+         [&] {
+             for (int number = 0; number < 9; ++number) {
+                 rowsNow.insert(rowsNow.begin(),
+                                Row{{u"lines"_s, u"new %1"_s.arg(number)}, TextRow{u"New"_s, u"Row"_s}});
+             }
+         }},
+        {"a row above grows", [&] { std::get<TextRow>(rowsNow[3].content).subtitle = u"More"_s; }},
+        {"the row at the top is removed",
+         [&] { rowsNow.erase(rowsNow.begin() + rowAtTop()->property("index").toInt()); }},
+        {"a row from below moves above",
+         [&] { std::rotate(rowsNow.begin(), rowsNow.end() - 1, rowsNow.end()); }},
+        {"a section comes first",
+         [&] {
+             sections.insert(sections.begin(),
+                             section(u"first"_s, u"First"_s, {TextRow{u"A"_s}, TextRow{u"B"_s}}));
+         }},
+    };
+    for (const auto& each : cases) {
+        each.apply();
+        screen->table().setSections(sections);
+        settle();
+        ASSERT_TRUE(row(now())) << each.change;
+        EXPECT_EQ(offsetOf(now()), offset) << each.change;
+        if (sections.size() > 1) {
+            break;
+        }
+    }
+}
+
+TEST_F(TableWindowTest, ALongListReusesItsItemsAndKeepsItsPlace) {
+    open(lines(500));
+    const QList<QQuickItem*> before = itemsWith("swiped");
+    for (int y = 0; y < 20'000; y += 350) {
+        rows()->setProperty("contentY", y);
+        settle();
+        const QQuickItem* top = rowAtTop();
+        ASSERT_TRUE(top);
+        const int index = top->property("index").toInt();
+        EXPECT_EQ(top->property("row").value<TextRowValue>().title, u"Row %1"_s.arg(index));
+        EXPECT_EQ(rows()->property("contentY").toInt(), y);
+    }
+    for (int index = 100; index < 120; ++index) {
+        QMetaObject::invokeMethod(rows(), "positionViewAtIndex", Q_ARG(int, index), Q_ARG(int, 0));
+        settle();
+        ASSERT_TRUE(row(index));
+        EXPECT_EQ(offsetOf(index), 0) << index;
+    }
+}
+
+TEST_F(TableWindowTest, ControlsReportWhatTheUserDoes) {
+    open({section(u"controls"_s, u"Controls"_s,
+                  {SwitchRow{u"Switch"_s}, ChoiceRow{u"Choice"_s, {u"A"_s, u"B"_s, u"C"_s}, 0},
+                   TimeRow{u"Time"_s, QTime(22, 30)}, ButtonRow{u"Button"_s},
+                   SwitchRow{u"Not available"_s, {}, false, false}})});
+    const auto key = [this](int index) {
+        rows()->forceActiveFocus(Qt::TabFocusReason);
+        rows()->setProperty("currentIndex", index);
+        press(Qt::Key_Return);
+    };
+    click(row(0));
+    key(0);
+    ASSERT_EQ(screen->of<Toggled>().size(), 2U);
+    EXPECT_TRUE(screen->of<Toggled>()[0].on);
+    key(1);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    ASSERT_EQ(screen->of<Chosen>().size(), 1U);
+    EXPECT_EQ(screen->of<Chosen>()[0].choice, 1);
+    key(2);
+    press(Qt::Key_Up);
+    press(Qt::Key_Right);
+    press(Qt::Key_Return);
+    ASSERT_EQ(screen->of<TimePicked>().size(), 1U);
+    EXPECT_EQ(screen->of<TimePicked>()[0].time.minute(), 30);
+    EXPECT_EQ(std::abs(screen->of<TimePicked>()[0].time.hour() - 22), 1);
+    click(row(3));
+    EXPECT_EQ(screen->of<Tapped>().size(), 1U);
+    click(row(4));
+    key(4);
+    EXPECT_EQ(screen->sent.size(), 5U) << "nothing from a row that is not available";
+    EXPECT_TRUE(rows()->hasActiveFocus());
+}
+
+TEST_F(TableWindowTest, RowsAreDeletedAndReorderedInEditMode) {
+    std::vector<Section> sections = lines(5);
+    for (Row& row : sections[0].rows) {
+        row.deletable = row.movable = true;
+    }
+    open(sections);
+    const auto moves = [this] { return screen->of<MovedBefore>(); };
+    EXPECT_TRUE(buttons({u"Delete Row 1"_s}).isEmpty());
+    screen->table().setEditing(true);
+    settle();
+    click(buttons({u"Delete Row 1"_s}).value(0));
+    ASSERT_EQ(screen->of<Deleted>().size(), 1U);
+    EXPECT_EQ(screen->sent[0].row, u"1"_s);
+
+    const QPoint handle(static_cast<int>(row(0)->mapToScene({row(0)->width() - 30, 0}).x()),
+                        middle(row(0)).y() + 14);
+    const int two = static_cast<int>(row(1)->height() + row(2)->height());
+    drag(handle, {0, two}, true);
+    ASSERT_EQ(moves().size(), 1U);
+    EXPECT_EQ(*moves()[0].next->name(), u"3"_s);
+
+    rows()->forceActiveFocus(Qt::TabFocusReason);
+    rows()->setProperty("currentIndex", 3);
+    press(Qt::Key_Up, Qt::AltModifier);
+    press(Qt::Key_Down, Qt::AltModifier);
+    ASSERT_EQ(moves().size(), 3U);
+    EXPECT_EQ(*moves()[1].next->name(), u"2"_s);
+    EXPECT_FALSE(moves()[2].next) << "to the end";
+    press(Qt::Key_Delete);
+    EXPECT_EQ(screen->of<Deleted>().size(), 2U);
+}
+
+TEST_F(TableWindowTest, TilesStandInLinesAndAreReadInOrder) {
+    std::vector<Section> sections = lines(7);
+    sections[0].layout = SectionLayout::Tiles;
+    open(sections);
+    const auto surface = [this](int index) {
+        QList<QQuickItem*> found = itemsWith("focused", row(index));
+        return found.isEmpty() ? QRectF() : found[0]->mapRectToScene(found[0]->boundingRect());
+    };
+    EXPECT_EQ(surface(0).y(), surface(1).y());
+    EXPECT_GT(surface(1).x(), surface(0).right());
+    EXPECT_GT(surface(2).y(), surface(0).bottom());
+    EXPECT_EQ(surface(2).x(), surface(0).x());
+    for (int index = 1; index < 7; ++index) {
+        EXPECT_EQ(surface(index).size(), surface(0).size());
+    }
+    click(row(2));
+    rows()->forceActiveFocus(Qt::TabFocusReason);
+    rows()->setProperty("currentIndex", 0);
+    for (const auto& [key, index] :
+         {std::pair(Qt::Key_Right, 1), std::pair(Qt::Key_Right, 2), std::pair(Qt::Key_Down, 4),
+          std::pair(Qt::Key_Left, 3), std::pair(Qt::Key_Up, 1)}) {
+        press(key);
+        EXPECT_EQ(rows()->property("currentIndex").toInt(), index);
+    }
+}
+
+TEST_F(TableWindowTest, WideWindowsShowTwoScreens) {
+    open(lines(3), {1100, 800}, UserInterfaceIdiom::Tablet);
+    NavigationController& stack = tabs->selectedNavigationController();
+    ASSERT_EQ(lists().size(), 1);
+    EXPECT_EQ(lists()[0]->width(), 720);
+    stack.push(std::make_shared<Screen>(lines(4)));
+    settle();
+    stack.push(std::make_shared<Screen>(lines(5)));
+    settle();
+    QList<QQuickItem*> both = lists();
+    ASSERT_EQ(both.size(), 2);
+    EXPECT_LT(both[0]->mapToScene({}).x() + both[0]->width(), both[1]->mapToScene({}).x() + 1);
+    EXPECT_EQ(both[0]->property("count").toInt(), 4);
+    EXPECT_EQ(both[1]->property("count").toInt(), 5);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(stack.viewControllers().size(), 2U);
+    quickWindow->resize(1000, 800);
+    settle();
+    EXPECT_EQ(lists().size(), 1);
+}
+
+TEST_F(TableWindowTest, ASheetTakesTheKeyboardAndEscapeClosesIt) {
+    open(lines(3));
+    NavigationController& stack = tabs->selectedNavigationController();
+    rows()->forceActiveFocus(Qt::TabFocusReason);
+    const auto sheet = std::make_shared<Screen>(lines(4));
+    stack.show(sheet, Presentation::Sheet);
+    settle();
+    ASSERT_EQ(lists().size(), 2);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(sheet->sent.size(), 1U);
+    EXPECT_TRUE(screen->sent.empty());
+    press(Qt::Key_Escape);
+    EXPECT_EQ(stack.presentedStack(), nullptr);
+    EXPECT_EQ(lists().size(), 1);
+    EXPECT_TRUE(rows()->hasActiveFocus());
+}
+
+TEST_F(TableWindowTest, SearchFieldAndNotice) {
+    open(lines(3));
+    screen->setSearchField(SearchField{u"Find"_s});
+    settle();
+    QQuickItem* field = itemsWith("echoMode").value(0);
+    ASSERT_TRUE(field);
+    click(field);
+    QTest::keyClick(quickWindow, Qt::Key_A);
+    EXPECT_EQ(screen->searched, QStringList{u"a"_s});
+    press(Qt::Key_Escape);
+    EXPECT_EQ(screen->searched.value(1), QString());
+    EXPECT_EQ(field->property("text"), QString());
+
+    int undone = 0;
+    tabs->presentNotice({u"Removed"_s, u"Undo"_s, [&] { ++undone; }});
+    settle();
+    click(buttons({u"Undo"_s}).value(0));
+    EXPECT_EQ(undone, 1);
+    EXPECT_TRUE(buttons({u"Undo"_s}).isEmpty());
+}
+
+} // namespace
+
+} // namespace guide::test
