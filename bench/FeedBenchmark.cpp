@@ -7,8 +7,8 @@
 #include "fakes/ManualClock.h"
 #include "fakes/Packing.h"
 #include "parsers/ListDriver.h"
-#include "parsers/ProgrammeSkipScan.h"
-#include "parsers/XMLTVToEntries.h"
+#include "parsers/xmltv/ProgrammeSkipScan.h"
+#include "parsers/xmltv/XMLTVToEntries.h"
 #include "platform/Decompression.h"
 #include "sources/PageText.h"
 

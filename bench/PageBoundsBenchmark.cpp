@@ -3,8 +3,8 @@
 
 #include "MadeShows.h"
 #include "PageFormats.h"
-#include "parsers/DetailScraper.h"
-#include "parsers/RecordedCall.h"
+#include "parsers/details/DetailScraper.h"
+#include "parsers/formats/RecordedCall.h"
 
 #include <QLoggingCategory>
 

@@ -3,7 +3,7 @@
 // them.
 
 #include "PageFormats.h"
-#include "parsers/ZoneClock.h"
+#include "parsers/markers/ZoneClock.h"
 #include "text/Capitalisation.h"
 #include "text/MarkupText.h"
 #include "text/ShowClassifier.h"

@@ -1,6 +1,6 @@
 #include "FuzzInput.h"
 #include "FuzzTarget.h"
-#include "parsers/RecordedCall.h"
+#include "parsers/formats/RecordedCall.h"
 #include "platform/Archive.h"
 #include "platform/ArchiveContainer.h"
 #include "platform/PropertyList.h"

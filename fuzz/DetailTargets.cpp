@@ -1,9 +1,9 @@
 #include "FuzzInput.h"
 #include "FuzzTarget.h"
-#include "parsers/DetailScraper.h"
-#include "parsers/IMDbLookup.h"
-#include "parsers/RecordedCall.h"
-#include "parsers/RecordedShows.h"
+#include "parsers/details/DetailScraper.h"
+#include "parsers/details/IMDbLookup.h"
+#include "parsers/details/RecordedShows.h"
+#include "parsers/formats/RecordedCall.h"
 #include "store/ShowCoding.h"
 
 #include <array>
@@ -129,10 +129,10 @@ std::vector<FuzzTarget> detailTargets() {
                  }
                  return seeds;
              },
-         .literals = {"parsers/HBODetails.cpp", "parsers/ComedyCentralDetails.cpp",
-                      "parsers/CinestarDetails.cpp", "parsers/JojCinemaDetails.cpp",
-                      "parsers/PalinsestoDetails.cpp", "parsers/PortDetails.cpp", "parsers/PortPopups.cpp",
-                      "parsers/PlainText.cpp"}},
+         .literals = {"parsers/details/HBODetails.cpp", "parsers/details/ComedyCentralDetails.cpp",
+                      "parsers/details/CinestarDetails.cpp", "parsers/details/JojCinemaDetails.cpp",
+                      "parsers/details/PalinsestoDetails.cpp", "parsers/details/PortDetails.cpp",
+                      "parsers/details/PortPopups.cpp", "parsers/markers/PlainText.cpp"}},
         {.name = "recorded-shows",
          .run = findRecordings,
          .seeds =
@@ -141,7 +141,7 @@ std::vector<FuzzTarget> detailTargets() {
                      {R"(<a href="/enz/a/">Jutro</a><li><a class="x" href="/enz/dnevnik/">Dnevnik</a>)",
                       R"(<select id="d"><option value="1">Ned</option><option value="2">Pon</option></select>)"})};
              },
-         .literals = {"parsers/RecordedShows.cpp"}},
+         .literals = {"parsers/details/RecordedShows.cpp"}},
         {.name = "imdb-search",
          .run = searchFilms,
          .seeds =
@@ -150,7 +150,7 @@ std::vector<FuzzTarget> detailTargets() {
                      fuzzInput({"Žandarm & 100 % #1", "Le Gendarme à New York"}, 1),
                      fuzzInput({"Film", "A+B"}, 1)};
              },
-         .literals = {"parsers/IMDbLookup.cpp"}},
+         .literals = {"parsers/details/IMDbLookup.cpp"}},
         {.name = "imdb",
          .run = findFilm,
          .seeds =
@@ -159,7 +159,7 @@ std::vector<FuzzTarget> detailTargets() {
                      {R"(<tr><td class="primary_photo"> <a href="/title/tt1/" ><img src="https://x/a._V1_UX32_CR0,0,32,44_AL_.jpg"></a>A (TV Series)</tr>)"},
                      1)};
              },
-         .literals = {"parsers/IMDbLookup.cpp"}},
+         .literals = {"parsers/details/IMDbLookup.cpp"}},
     };
 }
 

@@ -1,9 +1,9 @@
 #include "FuzzInput.h"
 #include "FuzzTarget.h"
-#include "parsers/FeedListing.h"
-#include "parsers/ProgrammeSkipScan.h"
-#include "parsers/RecordedCall.h"
-#include "parsers/XMLTVDate.h"
+#include "parsers/formats/RecordedCall.h"
+#include "parsers/xmltv/FeedListing.h"
+#include "parsers/xmltv/ProgrammeSkipScan.h"
+#include "parsers/xmltv/XMLTVDate.h"
 
 #include <QDateTime>
 
@@ -80,7 +80,7 @@ std::vector<FuzzTarget> feedTargets() {
     return {{.name = "programme-skip-scan",
              .run = leaveOutUnwanted,
              .seeds = seeds,
-             .literals = {"parsers/ProgrammeSkipScan.cpp", "parsers/XMLTVSaxParser.cpp"}},
+             .literals = {"parsers/xmltv/ProgrammeSkipScan.cpp", "parsers/xmltv/XMLTVSaxParser.cpp"}},
             {.name = "xmltv-date", .run = readDate, .seeds = [] {
                  return std::vector<QByteArray>{"20240101120000 +0100", "20240229235959 -05:45",
                                                 "20240101120000Z"};

@@ -1,6 +1,6 @@
 #include "FuzzInput.h"
 #include "FuzzTarget.h"
-#include "parsers/RecordedCall.h"
+#include "parsers/formats/RecordedCall.h"
 #include "store/ShowCoding.h"
 
 #include <algorithm>
@@ -78,18 +78,20 @@ FuzzTarget readerTarget(const Format& format) {
 
 std::vector<FuzzTarget> readerTargets() {
     const std::vector<Format> formats{
-        {"port-network", {"parsers/PortNetworkListReader.cpp"}},
-        {"xmltv", {"parsers/XMLTVSaxParser.cpp", "parsers/XMLTVToEntries.cpp", "parsers/FeedShow.cpp"}},
-        {"palinsesto", {"parsers/PalinsestoListReader.cpp", "parsers/PalinsestoEvents.cpp"}},
-        {"barrandov", {"parsers/BarrandovListReader.cpp"}},
-        {"digi-sport", {"parsers/DigiSportListReader.cpp"}},
-        {"joj-cinema", {"parsers/JojCinemaListReader.cpp"}},
-        {"prima-max", {"parsers/PrimaMaxListReader.cpp"}},
-        {"hbo", {"parsers/HBOListReader.cpp"}},
-        {"nova", {"parsers/NovaListReader.cpp"}},
-        {"dolce-sport", {"parsers/DolceSportListReader.cpp"}},
-        {"cinestar", {"parsers/CinestarListReader.cpp"}},
-        {"comedy-central", {"parsers/ComedyCentralListReader.cpp"}},
+        {"port-network", {"parsers/formats/PortNetworkListReader.cpp"}},
+        {"xmltv",
+         {"parsers/xmltv/XMLTVSaxParser.cpp", "parsers/xmltv/XMLTVToEntries.cpp",
+          "parsers/xmltv/FeedShow.cpp"}},
+        {"palinsesto", {"parsers/formats/PalinsestoListReader.cpp", "parsers/formats/PalinsestoEvents.cpp"}},
+        {"barrandov", {"parsers/formats/BarrandovListReader.cpp"}},
+        {"digi-sport", {"parsers/formats/DigiSportListReader.cpp"}},
+        {"joj-cinema", {"parsers/formats/JojCinemaListReader.cpp"}},
+        {"prima-max", {"parsers/formats/PrimaMaxListReader.cpp"}},
+        {"hbo", {"parsers/formats/HBOListReader.cpp"}},
+        {"nova", {"parsers/formats/NovaListReader.cpp"}},
+        {"dolce-sport", {"parsers/formats/DolceSportListReader.cpp"}},
+        {"cinestar", {"parsers/formats/CinestarListReader.cpp"}},
+        {"comedy-central", {"parsers/formats/ComedyCentralListReader.cpp"}},
     };
     std::vector<FuzzTarget> targets;
     std::transform(formats.begin(), formats.end(), std::back_inserter(targets), readerTarget);

@@ -2,7 +2,7 @@
 #include "FuzzTarget.h"
 #include "core/SupportedChannelTypes.h"
 #include "fakes/Packing.h"
-#include "parsers/RecordedCall.h"
+#include "parsers/formats/RecordedCall.h"
 #include "platform/Utf8.h"
 #include "sources/PageText.h"
 #include "sources/SourceId.h"

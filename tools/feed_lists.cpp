@@ -1,9 +1,9 @@
 // Prints what the guide's reader keeps of feeds: for feed_accounting.py, which counts the same feeds on its
 // own.
 
-#include "parsers/ProgrammeSkipScan.h"
 #include "parsers/ShowJSON.h"
-#include "parsers/XMLTVToEntries.h"
+#include "parsers/xmltv/ProgrammeSkipScan.h"
+#include "parsers/xmltv/XMLTVToEntries.h"
 
 #include <QDateTime>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "parsers/MarkerWalk.h"
+#include "parsers/markers/MarkerWalk.h"
 #include "platform/Clock.h"
 #include "platform/Moment.h"
 #include "sources/SourceHostTable.h"

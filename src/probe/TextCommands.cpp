@@ -1,5 +1,5 @@
 #include "parsers/ShowJSON.h"
-#include "parsers/XMLTVDate.h"
+#include "parsers/xmltv/XMLTVDate.h"
 #include "probe/Command.h"
 #include "text/CategoryMapping.h"
 #include "text/CategoryText.h"

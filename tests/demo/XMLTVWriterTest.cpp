@@ -2,7 +2,7 @@
 
 #include "demo/ScheduleGenerator.h"
 #include "demo/TopicWords.h"
-#include "parsers/XMLTVToEntries.h"
+#include "parsers/xmltv/XMLTVToEntries.h"
 #include "platform/CharacterSets.h"
 #include "text/TVListingsCategory.h"
 

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "parsers/formats/ListReader.h"
+
+namespace guide {
+
+/// Digi Sport: one page with fifteen tabs, a day each, that hold all channels, each headed by its logo. A
+/// channel's list is that of the last tab in which it has shows.
+void readDigiSportLists(const ListReaderInput& input, ParsedLists& lists);
+
+} // namespace guide

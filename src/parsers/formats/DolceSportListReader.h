@@ -1,0 +1,10 @@
+#pragma once
+
+#include "parsers/formats/ListReader.h"
+
+namespace guide {
+
+/// Dolce Sport: one page with a week of one channel in seven tabs, from Monday to Sunday.
+void readDolceSportLists(const ListReaderInput& input, ParsedLists& lists);
+
+} // namespace guide

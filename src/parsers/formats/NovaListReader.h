@@ -1,0 +1,10 @@
+#pragma once
+
+#include "parsers/formats/ListReader.h"
+
+namespace guide {
+
+/// The day pages of the Nova group: each holds all channels of the group, in blocks headed by their logos.
+void readNovaLists(const ListReaderInput& input, ParsedLists& lists);
+
+} // namespace guide

@@ -1,0 +1,179 @@
+#include "parsers/formats/PalinsestoListReader.h"
+
+#include "parsers/formats/PalinsestoEvents.h"
+#include "parsers/formats/ReaderPages.h"
+
+#include <QHash>
+
+#include <map>
+
+namespace guide {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr std::string_view kId = " id=\"";
+constexpr std::string_view kSectionEnd = "</canale>";
+constexpr std::size_t kCodeLength = 2;
+
+/// A document's sections of channels, so that each channel's own can be had without the others'.
+class Sections {
+  public:
+    explicit Sections(std::string_view text)
+        : m_text(text) {
+        MarkerTrace unasked;
+        MarkerWalk walk(text, unasked);
+        std::optional<std::size_t> end;
+        while (walk.pass(kId) && !walk.atEnd()) {
+            const std::size_t code = walk.position();
+            if (!end || *end < code) {
+                end = walk.find(kSectionEnd);
+            }
+            const std::size_t inside = end ? tagEnd(code, *end) : 0;
+            if (inside == 0) {
+                break;
+            }
+            if (text[inside - 2] == '/') {
+                walk.moveTo(inside); // a channel without a section
+                continue;
+            }
+            m_sections.push_back({code, inside, *end});
+            walk.moveTo(*end);
+        }
+    }
+
+    bool empty() const { return m_sections.empty(); }
+
+    /// The document with the inside of every other channel's section left out. Codes are compared by as many
+    /// characters as the service's have.
+    QByteArray documentOf(std::string_view code) const {
+        QByteArray document;
+        std::size_t kept = 0;
+        for (const Section& section : m_sections) {
+            if (code.size() != kCodeLength || m_text.substr(section.code, kCodeLength) != code) {
+                append(document, kept, section.inside);
+                kept = section.end;
+            }
+        }
+        append(document, kept, m_text.size());
+        return document;
+    }
+
+  private:
+    struct Section {
+        std::size_t code;
+        std::size_t inside;
+        std::size_t end;
+    };
+
+    /// Behind the tag in one of whose values the position stands; 0 when it does not end before the limit.
+    std::size_t tagEnd(std::size_t position, std::size_t limit) const {
+        char quote = '"';
+        for (; position < limit; ++position) {
+            const char character = m_text[position];
+            if (quote != '\0') {
+                quote = character == quote ? '\0' : quote;
+            } else if (character == '>') {
+                return position + 1;
+            } else if (character == '"' || character == '\'') {
+                quote = character;
+            }
+        }
+        return 0;
+    }
+
+    void append(QByteArray& document, std::size_t from, std::size_t to) const {
+        document.append(m_text.data() + from, static_cast<qsizetype>(to - from));
+    }
+
+    const std::string_view m_text;
+    std::vector<Section> m_sections;
+};
+
+/// Source ids look like "_I1".
+std::string codeOf(const LoadItem& item) {
+    return item.sourceId.mid(1).toStdString();
+}
+
+using Items = std::vector<const LoadItem*>;
+
+/// The row as a show of the item.
+ExtendedTVEntry showOf(const LoadItem& item, std::shared_ptr<TVEntry> entry,
+                       std::optional<TVListingsCategory> categories) {
+    entry->setChannel(item.channel);
+    const QString description = entry->instantDescription1().value_or(QString());
+    if (entry->identificator() == "Nessuna Informazione"_L1 && !description.isEmpty()) {
+        entry->setIdentificator(description);
+        entry->setInstantDescription1(std::nullopt);
+    }
+    return {std::move(entry), categories, nullptr, {}};
+}
+
+/// Hands each row that is a show to the items of its source id, and makes their lists new.
+void handOut(std::vector<ExtendedTVEntry> rows, const Items& items, ParsedLists& lists) {
+    struct Taker {
+        const LoadItem* item;
+        std::vector<ExtendedTVEntry>* list;
+    };
+    QHash<QString, std::vector<Taker>> takers;
+    for (const LoadItem* item : items) {
+        std::vector<ExtendedTVEntry>& list = lists[item->channel];
+        list.clear();
+        takers[item->sourceId].push_back({item, &list});
+    }
+    for (ExtendedTVEntry& row : rows) {
+        if (!row.basic->identificator() || !row.basic->sourceId()) {
+            continue;
+        }
+        const auto own = takers.constFind(*row.basic->sourceId());
+        if (own == takers.cend()) {
+            continue;
+        }
+        // Two channels may be filed under one code.
+        for (std::size_t i = 1; i < own->size(); ++i) {
+            const Taker& other = (*own)[i];
+            other.list->push_back(showOf(*other.item, std::make_shared<TVEntry>(*row.basic), row.categories));
+        }
+        own->front().list->push_back(showOf(*own->front().item, std::move(row.basic), row.categories));
+    }
+}
+
+} // namespace
+
+void readPalinsestoLists(const ListReaderInput& input, ParsedLists& lists) {
+    const QByteArray text = joinedPages(input.pages);
+    const Sections sections(pageText(text));
+    PalinsestoTexts texts(input.locale);
+    PalinsestoCodes codes;
+    std::map<std::string, Items> itemsOfCodes;
+    Items all;
+    for (const LoadItem& item : input.items) {
+        const std::string code = codeOf(item);
+        codes.emplace(code, u'_' + QString::fromStdString(code));
+        itemsOfCodes[code].push_back(&item);
+        all.push_back(&item);
+    }
+    const auto read = [&](const QByteArray& document, const PalinsestoCodes& wanted, const Items& items) {
+        auto rows = palinsestoRows(document, wanted, input.alphabet, texts);
+        if (!rows) {
+            return;
+        }
+        handOut(*std::move(rows), items, lists);
+        for (const LoadItem* item : items) {
+            if (lists[item->channel].empty()) {
+                input.trace.miss(std::string(sections.empty() ? "idref=\"" : kId) + codeOf(*item) + '"');
+            }
+        }
+    };
+    // A document without sections is the same for all.
+    if (sections.empty()) {
+        read(text, codes, all);
+        return;
+    }
+    for (const auto& [code, items] : itemsOfCodes) {
+        read(sections.documentOf(code), {*codes.find(code)}, items);
+    }
+}
+
+} // namespace guide

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "parsers/formats/ListReader.h"
+
+#include <memory>
+
+namespace guide {
+
+/// The pages in a row. A single page is shared, not copied.
+QByteArray joinedPages(const std::vector<QByteArray>& pages);
+
+inline std::string_view pageText(const QByteArray& page) {
+    return {page.constData(), static_cast<std::size_t>(page.size())};
+}
+
+/// A show of the item's channel at that moment; title and source id are left to the format.
+std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, Moment start);
+/// The same with a title.
+std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, const QString& title,
+                                  Moment start);
+
+} // namespace guide
