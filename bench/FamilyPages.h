@@ -1,7 +1,7 @@
 #pragma once
 
 #include "parsers/ListDriver.h"
-#include "sources/SourceId.h"
+#include "parsers/SourceFormats.h"
 
 #include <QByteArray>
 

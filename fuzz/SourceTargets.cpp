@@ -2,11 +2,10 @@
 #include "FuzzTarget.h"
 #include "core/SupportedChannelTypes.h"
 #include "fakes/Packing.h"
+#include "parsers/URLPlanner.h"
 #include "parsers/formats/RecordedCall.h"
 #include "platform/Utf8.h"
 #include "sources/PageText.h"
-#include "sources/SourceId.h"
-#include "sources/URLPlanner.h"
 
 #include <QSet>
 
@@ -91,7 +90,8 @@ std::vector<FuzzTarget> sourceTargets() {
                  }
                  return seeds;
              },
-         .literals = {"sources/URLPlanner.cpp", "sources/SourceId.cpp", "sources/SourceHostTable.cpp"}},
+         .literals = {"parsers/SourceFormats.cpp", "parsers/xmltv/FeedPlans.cpp",
+                      "sources/SourceHostTable.cpp"}},
     };
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Promotion.h"
+#include "parsers/URLPlanner.h"
 #include "platform/AudioSession.h"
 #include "platform/BackgroundTasks.h"
 #include "platform/Clock.h"
@@ -13,7 +14,6 @@
 #include "platform/ResponseCache.h"
 #include "platform/UserDefaults.h"
 #include "sources/SourceHostTable.h"
-#include "sources/URLPlanner.h"
 
 #include <QString>
 #include <QUrl>

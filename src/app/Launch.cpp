@@ -133,9 +133,7 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
         .userAgent = *m_userAgent,
         .listings = *m_listings,
         .sourceHealth = *m_sourceHealth,
-        .netList = [this](const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
-                          Moment now,
-                          ListingsType type) { return m_listDriver->netList(items, pages, now, type); },
+        .listDriver = *m_listDriver,
         .showCount = [this] { return m_showCount.load(); },
         .offerTop =
             [this](const TopLists& top) {

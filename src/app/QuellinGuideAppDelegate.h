@@ -10,6 +10,7 @@
 #include "core/TVChannels.h"
 #include "core/TVStationIcons.h"
 #include "parsers/ListDriver.h"
+#include "parsers/URLPlanner.h"
 #include "screens/AppActions.h"
 #include "screens/ShowPictures.h"
 #include "screens/kit/TabBarController.h"
@@ -19,7 +20,6 @@
 #include "sources/NetworkActivity.h"
 #include "sources/PageFetcher.h"
 #include "sources/SourceHealthRecords.h"
-#include "sources/URLPlanner.h"
 #include "store/TVListings.h"
 #include "text/Alphabet.h"
 

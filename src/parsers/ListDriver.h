@@ -32,19 +32,20 @@ struct ListDriverEnvironment {
     std::function<QTimeZone()> timeZone = {};
 };
 
-/// The one door through which fetched pages become shows. Keeps nothing between two calls.
+/// Turns fetched pages into shows. Keeps no state between two calls.
 class ListDriver {
   public:
     explicit ListDriver(ListDriverEnvironment environment);
+    virtual ~ListDriver() = default;
 
     /// Reads the pages, UTF-8 in the order of the URLs that the items share, by the listing type of the
     /// items, and hands the lists to the merge, whatever was read. Blocks for the time of the parse. Every
-    /// byte array owns its bytes.
-    MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
-                        ListingsType type) const;
+    /// byte array owns its bytes. Does not throw.
+    virtual MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
+                                Moment now, ListingsType type) const;
 
-    /// The reading alone: what netList hands to the merge. `trace`, where there is one, learns what the
-    /// reader looked for in vain.
+    /// The reading alone: what netList hands to the merge. `trace`, if given, records
+    /// the markers that the reader did not find.
     ParsedLists read(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
                      ListingsType type, MarkerTrace* trace = nullptr) const;
 

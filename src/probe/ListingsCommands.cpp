@@ -1,11 +1,10 @@
 #include "parsers/ListDriver.h"
 #include "parsers/ShowJSON.h"
+#include "parsers/URLPlanner.h"
 #include "probe/Command.h"
 #include "probe/ProbePages.h"
 #include "probe/StandingClock.h"
 #include "sources/PageFetcher.h"
-#include "sources/SourceId.h"
-#include "sources/URLPlanner.h"
 #include "store/ListMerge.h"
 
 #include <QJsonArray>

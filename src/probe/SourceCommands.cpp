@@ -1,9 +1,9 @@
 #include "alarms/AlarmMinutes.h"
 #include "alarms/SilentHours.h"
 #include "core/ObjectId.h"
+#include "parsers/URLPlanner.h"
 #include "probe/Command.h"
 #include "sources/SourceId.h"
-#include "sources/URLPlanner.h"
 #include "store/ShowDigest.h"
 
 #include <QJsonArray>

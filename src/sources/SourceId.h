@@ -1,8 +1,5 @@
 #pragma once
 
-#include "core/ListingsType.h"
-#include "sources/SourceHostTable.h"
-
 #include <QString>
 #include <QStringView>
 #include <QTimeZone>
@@ -10,10 +7,6 @@
 #include <optional>
 
 namespace guide {
-
-/// The listing type of a source id; XMLTV for one that nothing else claims. The order of its tests is its own
-/// and not that of the URL planner.
-ListingsType listingsTypeForSourceId(const QString& sourceId, const SourceHostTable& hosts);
 
 /// Whether the id is a number of the Port network: decimal digits as a 32-bit number is printed.
 bool sourceIdUsedByPortNetwork(QStringView sourceId);

@@ -11,12 +11,10 @@
 #include "fakes/ManualClock.h"
 #include "fakes/MemoryKeyValueStore.h"
 #include "fakes/MemoryUserDefaults.h"
-#include "sources/SourceId.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 
-#include <stdexcept>
 #include <string>
 
 namespace guide {
@@ -31,7 +29,7 @@ struct CountedPopularShows final : PopularShows {
 
 /// Everything that the cycle works with on top of a faked device, with a reader of its own: a page says in
 /// each line a channel, how many shows of an hour it has, the first one running, and by how many hours they
-/// are moved. A page "throw" throws.
+/// are moved.
 class UpdateWorld {
   public:
     using Selection = std::vector<std::pair<unsigned char, QStringList>>;
@@ -178,11 +176,23 @@ class UpdateWorld {
             }
         }
         parses.push_back(std::move(parse));
-        if (pages.front() == "throw") {
-            throw std::runtime_error("reader");
-        }
         return listings->merge(items, std::move(lists), now, type);
     }
+
+    /// Reads the lines of this test's pages.
+    struct Reader final : ListDriver {
+        explicit Reader(UpdateWorld& ownWorld)
+            : ListDriver({.clock = ownWorld.clock,
+                          .alphabet = ownWorld.alphabet,
+                          .hosts = ownWorld.planner.hosts(),
+                          .merge = {}})
+            , world(ownWorld) {}
+        MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
+                            Moment now, ListingsType type) const override {
+            return world.netList(items, pages, now, type);
+        }
+        UpdateWorld& world;
+    };
 
     void offer(const TopLists& top) {
         for (const auto& [id, shows] : top) {
@@ -229,12 +239,11 @@ class UpdateWorld {
     /// "channel:shows " for each list that the screens were offered.
     std::string offered;
 
-    UpdateCycle cycle{UpdateCycleEnvironment{
-        clock, device, queues, checkQueue, loadQueue, tasks, state, channels, catalogue, settings, planner,
-        fetcher, userAgent, *listings, sourceHealth,
-        [this](const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
-               ListingsType type) { return netList(items, pages, now, type); },
-        [] { return 4; }, [this](const TopLists& top) { offer(top); }}};
+    const Reader reader{*this};
+    UpdateCycle cycle{UpdateCycleEnvironment{clock, device, queues, checkQueue, loadQueue, tasks, state,
+                                             channels, catalogue, settings, planner, fetcher, userAgent,
+                                             *listings, sourceHealth, reader, [] { return 4; },
+                                             [this](const TopLists& top) { offer(top); }}};
 };
 
 } // namespace guide

@@ -6,8 +6,8 @@
 #include "demo/ScheduleGenerator.h"
 #include "demo/Town.h"
 #include "demo/Unpacking.h"
+#include "parsers/URLPlanner.h"
 #include "platform/CharacterSets.h"
-#include "sources/URLPlanner.h"
 
 #include <QDir>
 #include <QFileInfo>

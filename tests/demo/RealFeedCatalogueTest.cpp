@@ -3,7 +3,7 @@
 #include "demo/Packing.h"
 #include "demo/ScheduleGenerator.h"
 #include "demo/XMLTVWriter.h"
-#include "sources/URLPlanner.h"
+#include "parsers/URLPlanner.h"
 
 #include <QDir>
 #include <QFile>

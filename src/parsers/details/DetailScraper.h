@@ -37,7 +37,4 @@ class DetailScraper {
     DetailScraperEnvironment m_environment;
 };
 
-/// How the shows' pages of a source are read.
-DetailReader detailReaderForSourceId(const QString& sourceId);
-
 } // namespace guide

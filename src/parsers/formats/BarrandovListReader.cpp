@@ -168,4 +168,16 @@ void readBarrandovLists(const ListReaderInput& input, ParsedLists& lists) {
     }
 }
 
+PlannedURLs planBarrandovPages(const PlanRequest& request) {
+    const std::optional<QString> base = request.hosts.base(u"BarrandovHost"_s);
+    if (!base) {
+        return std::nullopt;
+    }
+    URLList urls;
+    urls.add(*base + "/program/#onair"_L1);
+    urls.add(*base + "/program/?day="_L1 + yearMonthDayText(dateAtServer(u"cz", request.now + kPlanDay)) +
+             "#on-air"_L1);
+    return std::move(urls).result();
+}
+
 } // namespace guide

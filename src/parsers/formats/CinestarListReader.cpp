@@ -14,7 +14,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// A page a day; a site that gives fewer ends the reading behind its last one.
+/// One page for each day. When fewer came, reading ends after the last of them.
 constexpr std::size_t kPages = 7;
 constexpr qsizetype kCodePlace = 12; // behind "cinestar.xx."
 constexpr std::chrono::hours kDay(24);
@@ -92,8 +92,12 @@ std::optional<std::size_t> todaysPage(const ListReaderInput& input) {
     const QDate today = ZoneClock(input.deviceZone).dateAt(input.now);
     const std::string written = today.toString(u"dd.MM."_s).toStdString();
     for (std::size_t p = 0; p < kPages; ++p) {
-        MarkerWalk page(pageText(input.pages.at(p)), input.trace);
-        if (passDate(page) && page.find(written)) {
+        const QByteArray* page = pageNumbered(input, p);
+        if (!page) {
+            break;
+        }
+        MarkerWalk walk(pageText(*page), input.trace);
+        if (passDate(walk) && walk.find(written)) {
             return p;
         }
     }
@@ -102,7 +106,7 @@ std::optional<std::size_t> todaysPage(const ListReaderInput& input) {
 
 /// The zone of the site, by the language of its first page.
 QTimeZone siteZone(const ListReaderInput& input) {
-    MarkerWalk page(pageText(input.pages.at(0)), input.trace);
+    MarkerWalk page(pageText(input.pages.front()), input.trace);
     const auto language = page.take(" lang=\"", "\"");
     if (!language) {
         return input.deviceZone;
@@ -227,12 +231,26 @@ void readCinestarLists(const ListReaderInput& input, ParsedLists& lists) {
     }
     ZoneClock clock(siteZone(input));
     for (std::size_t j = 0; j < kPages; ++j) {
+        const QByteArray* page = pageNumbered(input, j);
+        if (!page) {
+            return;
+        }
         const Moment day = input.now + kDay * (static_cast<int>(j) - static_cast<int>(*today));
-        PageReader page(input, pageText(input.pages.at(j)), day, clock);
+        PageReader reader(input, pageText(*page), day, clock);
         for (const LoadItem& item : input.items) {
-            page.read(item, lists);
+            reader.read(item, lists);
         }
     }
+}
+
+PlannedURLs planCinestarPages(const PlanRequest& request) {
+    constexpr qsizetype kCountry = 9;
+    if (request.sourceId.size() < kCountry + 2) {
+        return std::nullopt;
+    }
+    const std::optional<QString> base =
+        request.hosts.baseOfStem(u"CinestarHostStem"_s, request.sourceId.mid(kCountry, 2));
+    return numberedURLs(joinedURL(base, "/raspored/"_L1), "?dan="_L1, 2, int(kPages));
 }
 
 } // namespace guide

@@ -97,4 +97,9 @@ void readComedyCentralLists(const ListReaderInput& input, ParsedLists& lists) {
     }
 }
 
+PlannedURLs planComedyCentralPages(const PlanRequest& request) {
+    return numberedURLs(joinedURL(request.hosts.base(u"ComedyCentralHost"_s), "/program-tv"_L1), "?page="_L1,
+                        1, 6);
+}
+
 } // namespace guide

@@ -8,6 +8,8 @@ namespace guide {
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 constexpr int kTabs = 15;
 constexpr qsizetype kPrefixLength = 4; // "dsk."
 constexpr std::chrono::hours kDay(24);
@@ -103,6 +105,10 @@ void readDigiSportLists(const ListReaderInput& input, ParsedLists& lists) {
             lists[channel.item->channel] = std::move(list);
         }
     }
+}
+
+PlannedURLs planDigiSportPage(const PlanRequest& request) {
+    return singleURL(request.hosts.base(u"DigiSportHost"_s), u"/program/"_s);
 }
 
 } // namespace guide

@@ -57,7 +57,8 @@ QString trimmed(std::string_view text) {
 void readDolceSportLists(const ListReaderInput& input, ParsedLists& lists) {
     const LoadItem& loadItem = input.items.front();
     ZoneClock bucharest(QTimeZone("Europe/Bucharest"));
-    const auto sections = tabs(MarkerWalk(pageText(input.pages.at(0)), input.trace));
+    const QByteArray* page = pageNumbered(input, 0);
+    const auto sections = page ? tabs(MarkerWalk(pageText(*page), input.trace)) : std::nullopt;
     if (!sections) {
         return;
     }
@@ -100,6 +101,12 @@ void readDolceSportLists(const ListReaderInput& input, ParsedLists& lists) {
             lists[loadItem.channel].push_back({std::move(entry), category, nullptr, {}});
         }
     }
+}
+
+PlannedURLs planDolceSportPages(const PlanRequest& request) {
+    constexpr qsizetype kPrefixLength = 12; // "dolce-sport."
+    return singleURL(request.hosts.base(u"DolceSportHost"_s),
+                     "/program/"_L1 + request.sourceId.mid(kPrefixLength));
 }
 
 } // namespace guide

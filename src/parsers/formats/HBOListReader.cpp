@@ -123,4 +123,28 @@ void readHBOLists(const ListReaderInput& input, ParsedLists& lists) {
     }
 }
 
+PlannedURLs planHBOPages(const PlanRequest& request) {
+    constexpr qsizetype kCountry = 5;
+    if (request.sourceId.size() < kCountry + 2) {
+        return std::nullopt;
+    }
+    const QString country = request.sourceId.mid(kCountry, 2);
+    const QString key = "HBOHost."_L1 + country;
+    const std::optional<QString> base = request.hosts.base(key);
+    const std::optional<QString> name = request.hosts.name(key);
+    if (!base || !name) {
+        return std::nullopt;
+    }
+    const QString server = name->left(name->indexOf(u'/')).section(u':', 0, 0);
+    const QTimeZone zone = timeZoneForServer(server).value_or(request.deviceZone);
+    const QLatin1StringView word = country == "hu"_L1                         ? "tvmusor"_L1
+                                   : country == "hr"_L1 || country == "ba"_L1 ? "raspored"_L1
+                                                                              : "program"_L1;
+    return dailyURLs(kFirstDay, kLastDay, request.now, [&](Moment day) {
+        const QDate date = dateInZone(zone, day);
+        return *base + u'/' + word + u'/' + paddedNumber(date.month(), 2) + u'/' +
+               paddedNumber(date.day(), 2);
+    });
+}
+
 } // namespace guide

@@ -11,6 +11,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+constexpr int kFirstDay = -1;
 constexpr int kDays = 7;
 constexpr std::string_view kTime = "class=\"time\">";
 
@@ -89,7 +90,7 @@ void readJojCinemaLists(const ListReaderInput& input, ParsedLists& lists) {
     const MarkerWalk page(pageText(text), input.trace);
     DayReader reader(input, lists[input.items.front().channel], bratislava);
 
-    Moment day = input.now - std::chrono::hours(24);
+    Moment day = input.now + kFirstDay * std::chrono::hours(24);
     for (int i = 0; i < kDays; ++i, day += std::chrono::hours(24)) {
         const QDate date = bratislava.dateAt(day);
         const QDate dateAfter = bratislava.dateAt(day + std::chrono::hours(24));
@@ -105,6 +106,18 @@ void readJojCinemaLists(const ListReaderInput& input, ParsedLists& lists) {
             reader.read(walk.part(walk.position(), walk.findOrLimit(" href=\"?day=")), date, dateAfter);
         }
     }
+}
+
+PlannedURLs planJojCinemaPages(const PlanRequest& request) {
+    const std::optional<QString> base = request.hosts.base(u"JojCinemaHost"_s);
+    if (!base) {
+        return std::nullopt;
+    }
+    return dailyURLs(kFirstDay, kFirstDay + kDays - 1, request.now, [&](Moment day) {
+        const QDate date = dateAtServer(u"sk", day);
+        return *base + "/cz/cz-program/?day="_L1 + QString::number(date.day()) + u'-' +
+               QString::number(date.month()) + u'-' + paddedNumber(date.year(), 4);
+    });
 }
 
 } // namespace guide

@@ -11,6 +11,8 @@ namespace guide {
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 constexpr std::string_view kLogo = "class=\"channels-logo\">";
 constexpr qsizetype kPrefixLength = 8; // "cz.nova."
 
@@ -107,6 +109,16 @@ void readNovaLists(const ListReaderInput& input, ParsedLists& lists) {
             input.trace.miss(std::string(kLogo) + item.sourceId.mid(kPrefixLength).toStdString() + '<');
         }
     }
+}
+
+PlannedURLs planNovaPages(const PlanRequest& request) {
+    const std::optional<QString> base = request.hosts.base(u"NovaHost"_s);
+    if (!base) {
+        return std::nullopt;
+    }
+    return dailyURLs(-1, 7, request.now, [&](Moment day) {
+        return *base + "/program/?epg_date="_L1 + yearMonthDayText(dateAtServer(u"cz", day));
+    });
 }
 
 } // namespace guide

@@ -5,6 +5,8 @@
 
 #include <QHash>
 
+#include <algorithm>
+#include <array>
 #include <map>
 
 namespace guide {
@@ -174,6 +176,22 @@ void readPalinsestoLists(const ListReaderInput& input, ParsedLists& lists) {
     for (const auto& [code, items] : itemsOfCodes) {
         read(sections.documentOf(code), {*codes.find(code)}, items);
     }
+}
+
+PlannedURLs planMediasetFile(const PlanRequest& request) {
+    return singleURL(request.hosts.base(u"MediasetHost"_s), u"/dati/palinsesto/palinsesto.xml"_s);
+}
+
+PlannedURLs planMediasetPayFile(const PlanRequest& request) {
+    return singleURL(request.hosts.base(u"MediasetPayHost"_s), u"/export/palinsesto.xml"_s);
+}
+
+bool isMediasetCode(const QString& sourceId) {
+    constexpr std::array kCodes{"C5"_L1, "I1"_L1, "I2"_L1,    "R4"_L1,  "KA"_L1,
+                                "KQ"_L1, "KI"_L1, "BOING"_L1, "CRTN"_L1};
+    const QStringView code = QStringView(sourceId).mid(1);
+    return sourceId.startsWith(u'_') &&
+           std::ranges::any_of(kCodes, [code](QLatin1StringView known) { return code == known; });
 }
 
 } // namespace guide

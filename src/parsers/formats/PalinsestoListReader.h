@@ -1,6 +1,7 @@
 #pragma once
 
 #include "parsers/formats/ListReader.h"
+#include "sources/URLPlan.h"
 
 namespace guide {
 
@@ -8,5 +9,11 @@ namespace guide {
 /// ("programma" and its attributes) or a nested one ("giorno", "canale", "prg"). A channel whose document is
 /// not well-formed gets nothing.
 void readPalinsestoLists(const ListReaderInput& input, ParsedLists& lists);
+
+/// The file of the free channels, and that of the others.
+PlannedURLs planMediasetFile(const PlanRequest& request);
+PlannedURLs planMediasetPayFile(const PlanRequest& request);
+/// Whether the id is "_" and the code of a free channel.
+bool isMediasetCode(const QString& sourceId);
 
 } // namespace guide

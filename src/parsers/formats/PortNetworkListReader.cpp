@@ -25,6 +25,13 @@ constexpr std::array<QStringView, 4> kRenamed{
     u"Nema sadržaja",
     u"Nema podataka",
 };
+constexpr int kPortDays = 7;
+constexpr int kShortPortDays = 4;
+/// The channels that have four days of schedule, ascending.
+constexpr std::array kShortPortIds{41,    63,    69,    71,    151,   152,   156,   165,   170,
+                                   197,   236,   264,   10078, 10110, 10113, 10123, 10124, 10142,
+                                   10197, 10354, 20095, 40021, 40028, 40078, 60046, 60050};
+
 /// Channels that fill the short description with something else.
 constexpr std::array kWithoutDescriptions{10058, 10109, 10132, 10192, 10193, 10194, 10306, 10316};
 
@@ -138,7 +145,11 @@ class ProgrammeReader {
 } // namespace
 
 void readPortNetworkLists(const ListReaderInput& input, ParsedLists& lists) {
-    const QJsonDocument document = QJsonDocument::fromJson(input.pages.at(0));
+    const QByteArray* page = pageNumbered(input, 0);
+    if (!page) {
+        return;
+    }
+    const QJsonDocument document = QJsonDocument::fromJson(*page);
     if (!document.isObject()) {
         input.trace.miss("{");
         return;
@@ -164,6 +175,15 @@ void readPortNetworkLists(const ListReaderInput& input, ParsedLists& lists) {
     if (!list.empty()) {
         lists[input.items.front().channel] = std::move(list);
     }
+}
+
+PlannedURLs planPortNetworkPage(const PlanRequest& request) {
+    const int window =
+        std::ranges::binary_search(kShortPortIds, request.sourceId.toInt()) ? kShortPortDays : kPortDays;
+    return singleURL(request.hosts.base(u"PortHost"_s),
+                     "/tvapi?channel_id=tvchannel-"_L1 + request.sourceId + "&i_datetime_from="_L1 +
+                         yearMonthDayText(dateAtServer(u"hu", request.now)) + "&i_datetime_to="_L1 +
+                         yearMonthDayText(dateAtServer(u"hu", request.now + window * kPlanDay)));
 }
 
 } // namespace guide

@@ -242,4 +242,18 @@ void readPrimaMaxLists(const ListReaderInput& input, ParsedLists& lists) {
     }
 }
 
+PlannedURLs planPrimaMaxPages(const PlanRequest& request) {
+    const std::optional<QString> page =
+        joinedURL(request.hosts.base(u"PrimaMaxSourceId"_s), "/tv-program"_L1);
+    if (!page) {
+        return std::nullopt;
+    }
+    URLList urls;
+    urls.add(*page);
+    for (int day = 1; day <= 3; ++day) {
+        urls.add(*page + u'/' + yearMonthDayText(dateAtServer(u"cz", request.now + day * kPlanDay)));
+    }
+    return std::move(urls).result();
+}
+
 } // namespace guide

@@ -1,5 +1,7 @@
 #include "parsers/formats/ReaderPages.h"
 
+#include "parsers/ParsersLog.h"
+
 namespace guide {
 
 QByteArray joinedPages(const std::vector<QByteArray>& pages) {
@@ -16,6 +18,14 @@ QByteArray joinedPages(const std::vector<QByteArray>& pages) {
         text += page;
     }
     return text;
+}
+
+const QByteArray* pageNumbered(const ListReaderInput& input, std::size_t index) {
+    if (index < input.pages.size()) {
+        return &input.pages[index];
+    }
+    qCWarning(parsersLog, "exception no page %zu among %zu", index, input.pages.size());
+    return nullptr;
 }
 
 std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, Moment start) {

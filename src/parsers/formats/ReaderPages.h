@@ -9,6 +9,9 @@ namespace guide {
 /// The pages in a row. A single page is shared, not copied.
 QByteArray joinedPages(const std::vector<QByteArray>& pages);
 
+/// The page of that index; null, with a log line, when fewer pages came.
+const QByteArray* pageNumbered(const ListReaderInput& input, std::size_t index);
+
 inline std::string_view pageText(const QByteArray& page) {
     return {page.constData(), static_cast<std::size_t>(page.size())};
 }

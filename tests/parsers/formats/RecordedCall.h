@@ -2,7 +2,7 @@
 
 #include "fakes/ManualClock.h"
 #include "parsers/ListDriver.h"
-#include "sources/SourceId.h"
+#include "parsers/SourceFormats.h"
 
 #include <QDateTime>
 #include <QDir>

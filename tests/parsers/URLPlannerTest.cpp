@@ -1,4 +1,4 @@
-#include "sources/URLPlanner.h"
+#include "parsers/URLPlanner.h"
 
 #include <QDateTime>
 #include <QStringList>
