@@ -26,12 +26,12 @@ bool isImageExtension(QStringView extension) {
     });
 }
 
-// Archives of other systems unpack to names whose marks stand apart from their letters.
+// Archives made on other systems contain file names in decomposed form.
 QString composed(const QString& name) {
     return name.normalized(QString::NormalizationForm_C);
 }
 
-// From the names under which an icon can be asked for, composed, to its file.
+// Maps each name that an icon can be requested by, in composed form, to its file.
 QHash<QString, QString> iconFilesOf(const QString& folder) {
     QHash<QString, QString> files;
     QHash<QString, QString> byStem;
@@ -64,9 +64,9 @@ struct TVStationIcons::State {
 
     std::mutex guard;
     QHash<QString, QImage> icons;                 // guarded
-    std::optional<QHash<QString, QString>> files; // guarded; the folder's content, read on first use
+    std::optional<QHash<QString, QString>> files; // guarded; the folder's files, read on first use
 
-    // With the guard held.
+    // Requires the guard.
     QString pathOf(const QString& name) {
         if (!files) {
             files = iconFilesOf(folder);

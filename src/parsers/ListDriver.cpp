@@ -17,19 +17,19 @@ MergeResult ListDriver::netList(const std::vector<LoadItem>& items, const std::v
 
 ParsedLists ListDriver::read(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
                              Moment now, ListingsType type, MarkerTrace* trace) const {
-    MarkerTrace unasked;
+    MarkerTrace unused;
     ParsedLists lists;
     const ListReader reader = listReaderForType(type);
     if (!reader || items.empty()) {
         return lists;
     }
     lists.reserve(items.size());
-    // The boundary of the folder: readers throw for no input, and a fault in one must not end the program.
+    // No input makes a reader throw. Should a fault in one do so, it must not end the program.
     try {
         reader({items, pages, now, m_environment.clock, m_environment.alphabet, m_environment.hosts,
                 m_environment.locale,
                 m_environment.timeZone ? m_environment.timeZone() : QTimeZone::systemTimeZone(),
-                trace ? *trace : unasked},
+                trace ? *trace : unused},
                lists);
     } catch (const std::exception& exception) {
         qCWarning(parsersLog, "exception %s", exception.what());

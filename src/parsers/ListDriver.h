@@ -17,18 +17,18 @@
 
 namespace guide {
 
-/// What a driver works with; all that it refers to outlives the driver.
+/// Everything referred to must outlive the driver.
 struct ListDriverEnvironment {
     const Clock& clock;
     const Alphabet& alphabet;
     const SourceHostTable& hosts;
-    /// Takes the lists that a reader made, as the store's merge does.
+    /// Receives the lists that a reader made; the store's merge.
     std::function<MergeResult(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
                               ListingsType type)>
         merge;
-    /// The device's.
+    /// The device's locale.
     QLocale locale = {};
-    /// The device's, asked at each call. Empty is the system's.
+    /// The device's zone, queried at each call. When empty, the system's zone.
     std::function<QTimeZone()> timeZone = {};
 };
 
@@ -38,13 +38,13 @@ class ListDriver {
     explicit ListDriver(ListDriverEnvironment environment);
     virtual ~ListDriver() = default;
 
-    /// Reads the pages, UTF-8 in the order of the URLs that the items share, by the listing type of the
-    /// items, and hands the lists to the merge, whatever was read. Blocks for the time of the parse. Every
-    /// byte array owns its bytes. Does not throw.
+    /// Reads the pages, UTF-8 in the order of the URLs that the items share, with the reader of the listing
+    /// type, and passes the lists to the merge even when nothing was read. Blocks while parsing. Every byte
+    /// array must own its bytes. Does not throw.
     virtual MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
                                 Moment now, ListingsType type) const;
 
-    /// The reading alone: what netList hands to the merge. `trace`, if given, records
+    /// Only reads: returns what netList passes to the merge. `trace`, if given, records
     /// the markers that the reader did not find.
     ParsedLists read(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
                      ListingsType type, MarkerTrace* trace = nullptr) const;

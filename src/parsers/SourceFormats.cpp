@@ -52,15 +52,15 @@ bool isPortId(const QString& sourceId, const SourceHostTable& /*hosts*/) {
     return sourceIdUsedByPortNetwork(sourceId);
 }
 
-// Neither the URLs nor their number depend on the id or the date.
+// Whether the URLs depend on the host table alone.
 constexpr bool kFixed = true;
 constexpr bool kVarying = false;
 
 constexpr PageFormat kXMLTV{ListingsType::XMLTV, readXMLTVLists};
 
-// To add a family: an enumerator and a row here, and its plan, reader and detail reader. The order of the
-// rows is the order in which ids are tested for planning; the number behind a reader is the place among the
-// tests for the listing type.
+// To add a family: an enumerator and a row here, and its plan, reader and detail reader. Planning
+// tests ids in the order of the rows; the number after a reader is its position among the tests for the
+// listing type.
 constexpr std::array<SourceFormat, kSourceFamilies> kFormats{{
     {SourceFamily::Rytec, prefix("r."_L1), planRytecFeed, kVarying, kXMLTV},
     {SourceFamily::NFeed, prefix("n."_L1), planNFeed, kFixed, kXMLTV},
@@ -158,7 +158,7 @@ consteval bool isConsistent() {
 }
 static_assert(isConsistent(), "a row for each family in order, and one reader for each listing type");
 
-// The families that are tested for their type, in the order of the tests.
+// The rows that take part in the test for the listing type, in the order of testing.
 consteval auto typeTests() {
     constexpr auto isTested = [](const SourceFormat& format) { return format.pages.typeTest > 0; };
     std::array<std::size_t, std::ranges::count_if(kFormats, isTested)> order{};
@@ -194,7 +194,7 @@ bool SourceIdForm::fits(const QString& sourceId, const SourceHostTable& hosts) c
 }
 
 ClassifiedSource classifiedSource(const QString& sourceId, const SourceHostTable& hosts) {
-    // The last row takes any id.
+    // The last row matches any id.
     const auto planned = std::ranges::find_if(
         kFormats, [&](const SourceFormat& format) { return format.ids.fits(sourceId, hosts); });
     return {planned->family, listingsTypeForSourceId(sourceId, hosts)};
@@ -217,7 +217,7 @@ ListReader listReaderForType(ListingsType type) {
 }
 
 DetailReader detailReaderForSourceId(const QString& sourceId, const SourceHostTable& hosts) {
-    // The row of the Port network takes any id that is left, and is the last one with details.
+    // The row of the Port network matches any id and is the last one that has a detail reader.
     return std::ranges::find_if(
                kFormats, [&](const SourceFormat& format) { return format.details.ids.fits(sourceId, hosts); })
         ->details.read;

@@ -52,34 +52,34 @@ struct SourceIdForm {
 struct PageFormat {
     ListingsType type;
     ListReader read;
-    /// The place of the family among the tests for the listing type, from 1; 0 when it is not tested for and
-    /// the type is the default. Not the planner's order: an id may be planned as one family and read as
-    /// another.
+    /// The position of the family among the tests for the listing type, from 1; 0 when it is not tested, so
+    /// that its ids get the default type. The order differs from the planner's: an id may be planned as one
+    /// family and read as another.
     int typeTest = 0;
 };
 
 struct DetailFormat {
-    /// The sources whose show pages are read so.
+    /// The source ids whose show pages have this format.
     SourceIdForm ids = {};
     DetailReader read = nullptr;
 };
 
-/// All that the guide knows of a family of sources: a row of the table in SourceFormats.cpp.
+/// Everything the guide knows about a family of sources: a row of the table in SourceFormats.cpp.
 struct SourceFormat {
     SourceFamily family;
     SourceIdForm ids;
     URLPlan plan;
-    /// Whether the plan depends on the host table alone, so that it is made once.
+    /// Whether the plan depends on the host table alone; such a plan is made once.
     bool fixedURLs;
     PageFormat pages;
     DetailFormat details = {};
 };
 
-/// What a source id turns out to be.
+/// The classification of a source id.
 struct ClassifiedSource {
-    /// By which its URLs are planned.
+    /// Determines how its URLs are planned.
     SourceFamily family;
-    /// By which its pages are read; XMLTV when no test claims the id.
+    /// Determines how its pages are read; XMLTV when no test matches the id.
     ListingsType type;
 };
 ClassifiedSource classifiedSource(const QString& sourceId, const SourceHostTable& hosts);
@@ -88,7 +88,7 @@ ListingsType listingsTypeForSourceId(const QString& sourceId, const SourceHostTa
 const SourceFormat& sourceFormat(SourceFamily family);
 /// Null for a number that is not a listing type.
 ListReader listReaderForType(ListingsType type);
-/// How the show pages of a source are read.
+/// The reader for the show pages of a source.
 DetailReader detailReaderForSourceId(const QString& sourceId, const SourceHostTable& hosts);
 
 } // namespace guide

@@ -8,10 +8,12 @@
 
 namespace guide {
 
-/// Whether the id is a number of the Port network: decimal digits as a 32-bit number is printed.
+/// Whether the id is a number of the Port network: decimal digits, written as a signed 32-bit number is
+/// printed.
 bool sourceIdUsedByPortNetwork(QStringView sourceId);
 
-/// The zone of the country whose two letters end the name of a server or a country alone; nothing for others.
+/// The zone of the country whose two letters end the server name; a bare country code also works. Nothing for
+/// other names.
 std::optional<QTimeZone> timeZoneForServer(QStringView serverName);
 
 } // namespace guide

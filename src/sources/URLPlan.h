@@ -42,12 +42,12 @@ class URLList {
     bool m_valid = true;
 };
 
-/// Days are steps of 86,400 seconds, whatever the clocks do.
+/// Planning counts days in steps of 86,400 seconds, regardless of daylight saving.
 constexpr std::chrono::seconds kPlanDay{86'400};
 
 PlannedURLs singleURL(const std::optional<QString>& base, const QString& rest);
 
-/// The page, and behind it the page with the query and each number from `first` to `last`.
+/// The page itself, followed by the page with the query and each number from `first` to `last`.
 PlannedURLs numberedURLs(const std::optional<QString>& page, QLatin1StringView query, int first, int last);
 
 /// One URL for each day from `first` to `last`, made by the function from the moment of that day.

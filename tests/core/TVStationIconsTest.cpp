@@ -17,7 +17,7 @@ QImage filled(int width, int height, Qt::GlobalColor color = Qt::red) {
     return image;
 }
 
-TEST(TVStationIconsTest, ReachesOneSizeByLetterboxing) {
+TEST(TVStationIconsTest, LetterboxesToOneSize) {
     struct Row {
         const char* name;
         QSize size;
@@ -29,7 +29,7 @@ TEST(TVStationIconsTest, ReachesOneSizeByLetterboxing) {
         {"tall", {36, 144}, 1, {21, 0, 9, 36}},
         {"small is enlarged", {25, 18}, 1, {0, 0, 50, 36}},
         {"three pixels a point", {30, 30}, 3, {21, 0, 108, 108}},
-        {"a hair", {1, 4000}, 1, {25, 0, 1, 36}},
+        {"very narrow", {1, 4000}, 1, {25, 0, 1, 36}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -87,9 +87,9 @@ TEST(TVStationIconsTest, FindsIconsByName) {
     EXPECT_FALSE(stationIcons.hasIconFile(u"none"_s));
 
     ASSERT_TRUE(QFile::remove(icons + u"/one.png"_s));
-    EXPECT_FALSE(stationIcons.iconNamed(u"one"_s).isNull()) << "kept";
+    EXPECT_FALSE(stationIcons.iconNamed(u"one"_s).isNull()) << "cached";
     stationIcons.dropIcons();
-    EXPECT_TRUE(stationIcons.iconNamed(u"one"_s).isNull()) << "read anew";
+    EXPECT_TRUE(stationIcons.iconNamed(u"one"_s).isNull()) << "read again";
 }
 
 } // namespace

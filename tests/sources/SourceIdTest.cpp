@@ -17,7 +17,7 @@ TEST(SourceIdTest, PortNumbersAreThirtyTwoBitsWide) {
     }
 }
 
-TEST(SourceIdTest, ServersStandInTheirCountrysZone) {
+TEST(SourceIdTest, ServersHaveTheZoneOfTheirCountry) {
     for (const QString& country : {u"ro"_s, u"sk"_s, u"hu"_s, u"hr"_s, u"rs"_s, u"cz"_s, u"ba"_s}) {
         ASSERT_TRUE(timeZoneForServer(country)) << country.toStdString();
         EXPECT_TRUE(timeZoneForServer(country)->isValid()) << "known to the system";

@@ -17,7 +17,7 @@ std::optional<QString> value(const DetailPage& page, std::string_view blockStart
     return block ? decodedText(MarkerWalk(*block, page.trace).take(kValue, "<")) : std::nullopt;
 }
 
-/// The value of a block that is laid out over several lines.
+/// The value of a block that spans several lines.
 std::optional<QString> trimmedValue(const DetailPage& page, std::string_view blockStart) {
     const auto block = page.walk().take(blockStart, "</div>");
     const auto trimmed = block ? trimmedListingText(pageString(*block)) : std::nullopt;

@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// The page of a film of the Cinestar sites.
+/// Film pages of the Cinestar sites.
 void readCinestarDetails(const DetailPage& page, ShowDetails& show);
 
 } // namespace guide

@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// The page of a show of the Romanian Comedy Central site.
+/// Show pages of the Romanian Comedy Central site.
 void readComedyCentralDetails(const DetailPage& page, ShowDetails& show);
 
 } // namespace guide

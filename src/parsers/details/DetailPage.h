@@ -17,40 +17,39 @@
 
 namespace guide {
 
-/// What a reader of show pages is given; all of it outlives the call.
+/// The input of a detail reader; everything referred to outlives the call.
 struct DetailPage {
     /// UTF-8.
     std::string_view text;
-    /// Where the page came from.
+    /// The address of the page.
     const QUrl& url;
     const QString& sourceId;
     const SourceHostTable& hosts;
-    /// For pages that the page leads to.
+    /// Fetches pages that the page links to.
     const PageSource& pages;
-    /// The device's.
+    /// The device's locale.
     QLocale locale;
-    /// Told of what is looked for in vain.
+    /// Records markers that were not found.
     MarkerTrace& trace;
 
     MarkerWalk walk() const { return {text, trace}; }
 };
 
-/// What a show's page tells of it.
+/// What a detail reader finds.
 struct ShowDetails {
     TVListingsCategory categories = 0;
     TVEntrySupplementalData details;
     QSet<QUrl> pictures;
 };
 
-/// Fills in what the page holds. What it lacks stays unset; a text that is empty counts as lacking.
+/// Fills in what the page contains. Everything else stays unset; an empty text counts as missing.
 using DetailReader = void (*)(const DetailPage& page, ShowDetails& show);
 
 /// The text; nothing when it is empty.
 std::optional<QString> textUnlessEmpty(const QString& text);
-/// A lifted text with its references decoded; nothing when it is missing or empty.
+/// The text with its character references decoded; nothing when it is missing or empty.
 std::optional<QString> decodedText(const std::optional<std::string_view>& lifted);
-/// A lifted link with its references decoded; a relative one belongs to the site of `base`. Nothing but an
-/// address of the web that names a host.
+/// The link with its character references decoded, relative to `base`. Nothing unless it is a web URL.
 std::optional<QUrl> decodedLink(const std::optional<std::string_view>& lifted, const QUrl& base);
 void addPicture(ShowDetails& show, const std::optional<QUrl>& picture);
 

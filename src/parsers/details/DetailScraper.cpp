@@ -15,12 +15,12 @@ std::optional<ShowItem> DetailScraper::netDescriptionFor(const std::shared_ptr<c
     if (!page || page->isEmpty()) {
         return std::nullopt;
     }
-    MarkerTrace unasked;
+    MarkerTrace unused;
     const QString sourceId = entry->sourceId().value_or(QString());
     ShowDetails show;
     detailReaderForSourceId(sourceId, m_environment.hosts)({pageText(*page), *url, sourceId,
                                                             m_environment.hosts, m_environment.pages,
-                                                            m_environment.locale, trace ? *trace : unasked},
+                                                            m_environment.locale, trace ? *trace : unused},
                                                            show);
     show.details.language = entry->language();
     const auto details = std::make_shared<const TVEntrySupplementalData>(std::move(show.details));

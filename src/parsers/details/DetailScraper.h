@@ -10,26 +10,26 @@
 
 namespace guide {
 
-/// What a scraper works with; all that it refers to outlives it.
+/// Everything referred to must outlive the scraper.
 struct DetailScraperEnvironment {
     PageSource pages;
     const SourceHostTable& hosts;
-    /// Takes what was found of a show, as the store's change of one show does. May be empty.
+    /// Receives the details found for a show. May be empty.
     std::function<void(std::shared_ptr<const TVEntry> entry,
                        std::shared_ptr<const TVEntrySupplementalData> details, const QSet<QUrl>& pictures)>
         update;
-    /// The device's.
+    /// The device's locale.
     QLocale locale = {};
 };
 
-/// Brings the long details of a show from the page that the show names. Keeps nothing between two calls.
+/// Fetches the long details of a show from its page. Stateless.
 class DetailScraper {
   public:
     explicit DetailScraper(DetailScraperEnvironment environment);
 
-    /// The show with the details, pictures and categories of its page, which go to the store as well, but for
-    /// the categories. Nothing when the show names no page or the page does not come. Blocks for up to three
-    /// fetches. `trace`, where there is one, learns what was looked for in vain.
+    /// The show with the details, pictures and categories of its page. Details and pictures are also passed
+    /// to `update`. Nothing when the show has no page or the page cannot be fetched. Blocks for up to three
+    /// fetches. `trace`, if given, records markers that were not found.
     std::optional<ShowItem> netDescriptionFor(const std::shared_ptr<const TVEntry>& entry,
                                               MarkerTrace* trace = nullptr) const;
 

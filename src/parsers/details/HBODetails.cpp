@@ -17,7 +17,7 @@ bool isOfType(const QJsonObject& object, QLatin1StringView type) {
     return object["@type"_L1].toString() == type;
 }
 
-/// The names of the persons among the values, each once, in a row.
+/// The names of the persons among the values, each once, joined by commas.
 std::optional<QString> names(const QJsonValue& values) {
     QStringList names;
     for (const QJsonValue value : values.toArray()) {

@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// The page of a show of the HBO sites: it describes itself in a block of linked data.
+/// Show pages of the HBO sites, which contain a block of linked data.
 void readHBODetails(const DetailPage& page, ShowDetails& show);
 
 } // namespace guide

@@ -19,7 +19,7 @@ bool applies(const QString& title, TVListingsCategory categories) {
     if (title.size() < kLeastTitle) {
         return false;
     }
-    // The placeholder of some sources.
+    // A placeholder of some sources.
     if (title.toUpper() == "FILM"_L1) {
         qCDebug(parsersLog, "imdbLink FILM");
         return false;
@@ -47,7 +47,7 @@ std::optional<QUrl> searchFor(const QString& text, const SourceHostTable& hosts)
     return url;
 }
 
-/// The address without the part of the name that asks for a scaled picture.
+/// The address without the part of the file name that requests a scaled picture.
 std::optional<QUrl> wholePicture(std::string_view link) {
     if (link.find("nopicture") != std::string_view::npos) {
         return std::nullopt;
@@ -97,8 +97,8 @@ IMDbSearches imdbSearches(const std::optional<QString>& title, const std::option
 }
 
 IMDbAnswer imdbAnswer(const QByteArray& page, const QUrl& search, bool isSeries) {
-    MarkerTrace unasked;
-    MarkerWalk walk(pageText(page), unasked);
+    MarkerTrace unused;
+    MarkerWalk walk(pageText(page), unused);
     IMDbAnswer answer;
     if (!isValidUtf8(page) || !walk.moveTo("class=\"primary_photo\"> <a href=\"/title/")) {
         return answer;
@@ -116,7 +116,7 @@ IMDbAnswer imdbAnswer(const QByteArray& page, const QUrl& search, bool isSeries)
     const auto rowEnd = walk.find("</tr>");
     const MarkerWalk row = walk.part(rowStart, rowEnd.value_or(rowStart));
     const bool isEpisode = row.contains("(TV Episode)");
-    // A row without an end cannot be told to be a series.
+    // Without its end a row cannot be recognised as a series.
     const bool isFilmOfThatName = isSeries && answer.imdbURL && !row.contains("(TV Series)");
     return isEpisode || isFilmOfThatName ? IMDbAnswer{} : answer;
 }

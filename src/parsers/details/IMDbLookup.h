@@ -15,16 +15,16 @@
 
 namespace guide {
 
-/// The searches for a show: none when the look-up does not apply.
+/// The searches for a show.
 struct IMDbSearches {
-    /// False when the look-up does not apply, or the address of a search could not be formed; those before it
-    /// are made.
+    /// False when the look-up does not apply or the address of a search could not be formed; searches formed
+    /// before that one are still made.
     bool started = false;
-    /// For the title, and for the subtitle where there is one of some length.
+    /// For the title, and for the subtitle if it is long enough.
     std::vector<QUrl> urls;
 };
 
-/// Only films and series with a title that says something are looked for.
+/// Only films and series with a meaningful title are searched for.
 IMDbSearches imdbSearches(const std::optional<QString>& title, const std::optional<QString>& subtitle,
                           TVListingsCategory categories, const SourceHostTable& hosts);
 
@@ -35,11 +35,11 @@ struct IMDbAnswer {
     friend bool operator==(const IMDbAnswer&, const IMDbAnswer&) = default;
 };
 
-/// What the first row of a page of results says. Both are unset for an episode, and for a film where a series
-/// is looked for.
+/// Reads the first row of a page of results. Both are unset for an episode, and for a film when a series is
+/// searched for.
 IMDbAnswer imdbAnswer(const QByteArray& page, const QUrl& search, bool isSeries);
 
-/// What the look-up works with; all of it outlives the last search.
+/// Everything referred to must outlive the last search.
 struct IMDbLookupEnvironment {
     HTTPClient& client;
     const HTTPUserAgent& userAgent;
@@ -47,12 +47,11 @@ struct IMDbLookupEnvironment {
     DispatchQueues& queues;
 };
 
-/// The number of the search, and what it found.
+/// Receives the index of the search and its result.
 using IMDbClosure = std::function<void(unsigned index, const IMDbAnswer& answer)>;
 
-/// Starts the searches for a show on background threads, all at the same time, and answers as
-/// IMDbSearches::started. The closure is called on those threads, once for each search, also when nothing was
-/// found.
+/// Starts the searches for a show in parallel on background threads and returns IMDbSearches::started. The
+/// closure is called on those threads once for each search, even when nothing was found.
 bool imdbLinkWithClosure(const ExtendedTVEntry& show, const IMDbLookupEnvironment& environment,
                          const IMDbClosure& closure);
 

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Reads up to the first marker that is missing.
+/// Stops at the first missing marker.
 void readFacts(MarkerWalk& walk, TVEntrySupplementalData& details) {
     const auto facts = walk.take("<p>", "<");
     if (!facts) {

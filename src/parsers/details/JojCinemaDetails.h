@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// The page of a film of the JOJ Cinema site.
+/// Film pages of the JOJ Cinema site.
 void readJojCinemaDetails(const DetailPage& page, ShowDetails& show);
 
 } // namespace guide

@@ -12,11 +12,10 @@
 
 namespace guide {
 
-/// Where the pages behind links come from: the page of a URL as UTF-8, or nothing when it does not come. May
-/// block.
+/// Fetches the page of a URL as UTF-8; nothing when that fails. May block.
 using PageSource = std::function<std::optional<QByteArray>(const QUrl& url)>;
 
-/// Pages of the network; both arguments outlive the source. Nobody waits for its pages.
+/// Fetches from the network, without a user waiting. Both arguments must outlive the source.
 PageSource networkPageSource(const PageFetcher& fetcher, const HTTPUserAgent& userAgent,
                              std::chrono::milliseconds timeout);
 

@@ -25,7 +25,7 @@ std::optional<QString> directedBy(const DetailPage& page) {
     return lifted ? textUnlessEmpty(plainText(*lifted)) : std::nullopt;
 }
 
-/// Up to the next part of the line or the end of the sentence; a cast without an end is all that follows.
+/// Ends at the next part of the line or the end of the sentence; a cast without an end takes the rest.
 std::optional<QString> roles(const DetailPage& page) {
     MarkerWalk walk = page.walk();
     if (!walk.pass(" - Cast: ")) {
@@ -46,7 +46,7 @@ std::optional<QUrl> picture(const DetailPage& page) {
     }
     const std::string_view link = walk.part(*meta + start.size(), *end).rest();
     const bool isLogo = link.ends_with("/ogPremiumLogo.jpg") || link.ends_with("/logo-Premium_share.png");
-    // A quotation mark inside: the tag was another one's.
+    // A quotation mark inside means that another tag was matched.
     return isLogo || link.find('"') != std::string_view::npos ? std::nullopt : decodedLink(link, page.url);
 }
 

@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// The page of a show of the Italian sites whose schedules are one document.
+/// Show pages of the Italian sites whose schedule is a single document.
 void readPalinsestoDetails(const DetailPage& page, ShowDetails& show);
 
 } // namespace guide

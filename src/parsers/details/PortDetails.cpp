@@ -16,9 +16,9 @@ namespace {
 
 using Markers = std::initializer_list<std::string_view>;
 
-/// How many tags may stand between a label and its text.
+/// The most tags allowed between a label and its text.
 constexpr int kMostTags = 8;
-/// What is longer is no link, or no row of names: its end belongs to something else.
+/// A longer match is not a link or a row of names: its end belongs to something else.
 constexpr std::size_t kLongestLink = 500;
 constexpr std::size_t kLongestRow = 4'000;
 
@@ -34,7 +34,7 @@ void fill(std::optional<QString>& field, std::optional<QString> text) {
 
 // ---- pictures
 
-/// The number at the beginning of a text, 0 where there is none.
+/// The number at the beginning of a text, 0 when there is none.
 int leadingNumber(const QString& text) {
     qsizetype digits = 0;
     while (digits < text.size() && text[digits] >= u'0' && text[digits] <= u'9') {
@@ -53,8 +53,8 @@ void readPictures(const DetailPage& page, ShowDetails& show) {
         if (!lifted) {
             return;
         }
-        // In front the trim takes the quotation marks; and it leaves no address of what the site itself is
-        // made of, which is given from its root.
+        // Trimming removes leading quotation marks. Addresses relative to the root are the site's own
+        // decoration and are dropped.
         auto link = trimmedListingText(decodeMarkup(pageString(*lifted)));
         if (!link) {
             continue;
@@ -73,7 +73,7 @@ bool isIMDbHost(const QString& host, const SourceHostTable& hosts) {
     return host == configured || host.startsWith("imdb."_L1) || host.contains(".imdb."_L1);
 }
 
-/// The first link to a title; sites print the beginning of one where they know none.
+/// The first link to a title. Sites without a known title print only the beginning of a link.
 std::optional<QUrl> imdbLink(const DetailPage& page) {
     const std::string_view path = "/title/tt";
     MarkerWalk walk = page.walk();
@@ -108,7 +108,7 @@ std::optional<QUrl> labelledIMDbLink(const DetailPage& page) {
 
 // ---- texts
 
-/// The text behind the first of these labels that the page has, less the tags between the two.
+/// The text after the first of these labels that the page has, skipping the tags in between.
 std::optional<QString> labelledText(const DetailPage& page, Markers labels) {
     for (const std::string_view label : labels) {
         MarkerWalk walk = page.walk();
@@ -128,7 +128,7 @@ std::optional<QString> labelledText(const DetailPage& page, Markers labels) {
     return std::nullopt;
 }
 
-/// A row of linked names behind the first of these labels that the page has.
+/// The row of linked names after the first of these labels that the page has.
 std::optional<QString> linkedNames(const DetailPage& page, Markers labels) {
     for (const std::string_view label : labels) {
         MarkerWalk walk = page.walk();
@@ -154,7 +154,7 @@ std::optional<QString> listedDirectors(const DetailPage& page) {
     return textUnlessEmpty(names.join(u'\n'));
 }
 
-/// A line for each actor, with the part in brackets behind the name. What of a row is cut off ends with the
+/// One line per actor, with the role in brackets after the name. A field that is not closed ends with its
 /// row.
 std::optional<QString> actors(const DetailPage& page) {
     const std::string_view kName = "<span itemprop=\"name\">";
@@ -165,7 +165,7 @@ std::optional<QString> actors(const DetailPage& page) {
     }
     QString roles;
     MarkerWalk walk(*block, page.trace);
-    // A row ends with its list item; where there are none, with the next name.
+    // A row ends with its list item or, without list items, at the next name.
     const bool hasItems = walk.contains("</li>");
     while (walk.pass(kName)) {
         const MarkerWalk row = walk.part(walk.position(), walk.findOrLimit(hasItems ? "</li>" : kName));

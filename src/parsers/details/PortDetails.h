@@ -4,8 +4,8 @@
 
 namespace guide {
 
-/// The page of a show of the Port network and of the sites that are built alike, with the popups that it
-/// leads to. Whatever no other reader claims is read by this one.
+/// Show pages of the Port network and of similar sites, including the popups that they link to. The default
+/// detail reader.
 void readPortDetails(const DetailPage& page, ShowDetails& show);
 
 } // namespace guide

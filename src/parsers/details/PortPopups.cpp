@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a query gives a key in an address, up to the next one.
+/// The value of a key in the query of an address.
 std::optional<QString> queryValue(const QString& address, const QString& key) {
     const qsizetype place = address.indexOf(key);
     if (place < 0) {
@@ -30,7 +30,7 @@ std::optional<QString> objectIdIn(MarkerWalk link) {
     return textUnlessEmpty(pageString(rest.substr(0, static_cast<std::size_t>(end - rest.begin()))));
 }
 
-/// The number of the show's pictures, out of the link to them: behind its mark, or else before it.
+/// The number of the show's pictures from the link to them: after the mark, or else before it.
 std::optional<QString> objectId(const DetailPage& page) {
     const MarkerWalk walk = page.walk();
     const auto mark = walk.find("i_is_picture=2");
@@ -84,7 +84,7 @@ std::optional<QUrl> picture(const MarkerWalk& popup, const QUrl& site) {
     if (!lifted) {
         return std::nullopt;
     }
-    // The mark of the size: "_0" is the whole picture. A name may end in two marks.
+    // The size mark: "_0" is the full picture. A name may end in two marks.
     std::string link(*lifted);
     for (const std::string_view size : {"_1", "_2", "_3", "_4"}) {
         std::size_t place = 0;

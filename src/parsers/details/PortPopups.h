@@ -4,8 +4,8 @@
 
 namespace guide {
 
-/// The trailer and the large picture behind a show's page whose own address names a performance: two popups,
-/// one behind the other, are asked of the page source. Does nothing for other addresses.
+/// Adds the trailer and the large picture when the address of the show's page names a performance, by
+/// fetching two popups one after the other. Does nothing for other addresses.
 void readPortPopups(const DetailPage& page, ShowDetails& show);
 
 } // namespace guide

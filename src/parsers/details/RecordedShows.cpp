@@ -15,10 +15,10 @@ std::nullopt_t notFound(const char* what) {
     return std::nullopt;
 }
 
-/// The link around the title in the archive's index.
+/// The link that contains the title in the archive's index.
 std::optional<QUrl> showPage(const QString& title, const QByteArray& index, const QUrl& site) {
-    MarkerTrace unasked;
-    MarkerWalk walk(pageText(index), unasked);
+    MarkerTrace unused;
+    MarkerWalk walk(pageText(index), unused);
     const QByteArray utf8 = title.toUtf8();
     const auto name = walk.find(">" + utf8.toStdString() + "</a>");
     if (!name) {
@@ -33,8 +33,8 @@ std::optional<QUrl> showPage(const QString& title, const QByteArray& index, cons
 }
 
 std::optional<QMap<QString, QString>> options(const QByteArray& page) {
-    MarkerTrace unasked;
-    MarkerWalk walk(pageText(page), unasked);
+    MarkerTrace unused;
+    MarkerWalk walk(pageText(page), unused);
     if (!walk.moveTo("<select ")) {
         return notFound("<select");
     }
@@ -42,7 +42,7 @@ std::optional<QMap<QString, QString>> options(const QByteArray& page) {
     if (!end) {
         return notFound("</select>");
     }
-    // With the "<" of the end, which closes a last option that has no end of its own.
+    // Includes the "<" of the end, which closes a last option without an end tag.
     walk = walk.part(walk.position(), *end + 1);
     QMap<QString, QString> recorded;
     while (walk.contains("value=\"")) {

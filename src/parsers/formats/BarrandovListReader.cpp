@@ -27,7 +27,7 @@ QString slugOf(const QString& name) {
     return name.section(u' ', name.startsWith("Barrandov "_L1) ? 1 : 0).section(u' ', 0, 0).toLower();
 }
 
-/// The windows of a page by their ids, of which a link may give the beginning alone.
+/// The windows of a page by id. A link may give only the beginning of an id.
 class Windows {
   public:
     explicit Windows(const MarkerWalk& page) {
@@ -38,7 +38,7 @@ class Windows {
         }
     }
 
-    /// Where the first window at or behind `from` goes on behind its id; nothing when there is none.
+    /// The position after the id of the first window at or after `from`.
     std::optional<std::size_t> next(std::string_view id, std::size_t from) {
         auto [known, isNew] = m_places.try_emplace(id);
         if (isNew) {
@@ -73,7 +73,7 @@ class PageReader {
             std::string(kHeading) + slugOf(name).toStdString() + "\">" + name.toStdString() + "</h3>";
         MarkerWalk walk = m_page;
         while (walk.pass(heading)) {
-            // The next heading of any channel closes the block; the last heading has none.
+            // The next heading of any channel ends the block; the block of the last heading is skipped.
             const auto end = walk.find(kHeading);
             if (!end) {
                 break;
@@ -149,7 +149,7 @@ class PageReader {
     const std::optional<QString> m_site;
     ZoneClock m_prague{QTimeZone("Europe/Prague")};
 
-    // A window has no end: a field is the first behind the window's start.
+    // Windows are not delimited: a field is the first one after the start of the window.
     const MarkedFields m_date{m_text, "<li><strong>Datum vysílání:</strong> ", "</li", &m_input.trace};
     const MarkedFields m_repeat{m_text, "<li><strong>Repríza:</strong> ", "</li>"};
     const MarkedFields m_picture{m_text, "<img src=\"", "\""};

@@ -5,8 +5,8 @@
 
 namespace guide {
 
-/// The Barrandov pages, of today and tomorrow: under a heading for each channel stand links to windows, and
-/// the windows at the end of the page hold the shows.
+/// The Barrandov pages of today and tomorrow: each channel has a heading followed by links to windows, and
+/// the windows at the end of the page contain the shows.
 void readBarrandovLists(const ListReaderInput& input, ParsedLists& lists);
 
 /// Today and tomorrow.

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 /// One page for each day. When fewer came, reading ends after the last of them.
 constexpr std::size_t kPages = 7;
-constexpr qsizetype kCodePlace = 12; // behind "cinestar.xx."
+constexpr qsizetype kCodePlace = 12; // after "cinestar.xx."
 constexpr std::chrono::hours kDay(24);
 constexpr std::string_view kGenre = "zanr";
 
@@ -38,13 +38,13 @@ constexpr std::array kGenres{
     Genre{"41", TVListingsCategorySports},
 };
 
-/// Where the line ends that the walk stands in.
+/// The end of the current line.
 std::size_t lineEnd(const MarkerWalk& walk) {
     const std::size_t length = walk.rest().find_first_of("\n\r");
     return length == std::string_view::npos ? walk.limit() : walk.position() + length;
 }
 
-/// Moves behind the last `">` of the first line that has one behind a `"date`.
+/// Moves past the last `">` of the first line that has one after a `"date`.
 bool passDate(MarkerWalk& page) {
     while (page.pass("\"date")) {
         const std::size_t end = lineEnd(page);
@@ -58,11 +58,11 @@ bool passDate(MarkerWalk& page) {
     return false;
 }
 
-/// Moves behind the tag of the next hour, which ends in its line.
+/// Moves past the next tag of class "hour" that ends on its own line.
 bool passHourTag(MarkerWalk& block) {
     while (block.pass(" class=\"hour")) {
         const std::size_t end = lineEnd(block);
-        // The attribute's value goes on for at least one character.
+        // The attribute value has at least one more character.
         const std::size_t closing = block.part(block.position(), end).rest().find('>', 1);
         if (closing != std::string_view::npos) {
             block.moveTo(block.position() + closing + 1);
@@ -73,7 +73,7 @@ bool passHourTag(MarkerWalk& block) {
     return false;
 }
 
-/// Whatever stands between hour and minute. Sites count on past midnight at times: the hours go up to 47.
+/// Accepts any separator. Some sites keep counting after midnight, so hours go up to 47.
 std::optional<std::chrono::minutes> cardTime(std::string_view text) {
     const std::size_t digits = text.find_first_not_of("0123456789") == 1 ? 1 : 2;
     if (text.size() < digits + 2) {
@@ -87,7 +87,7 @@ std::optional<std::chrono::minutes> cardTime(std::string_view text) {
     return std::chrono::hours(*hour) + std::chrono::minutes(*minute);
 }
 
-/// The page that shows today; nothing when none does.
+/// The index of the page for today.
 std::optional<std::size_t> todaysPage(const ListReaderInput& input) {
     const QDate today = ZoneClock(input.deviceZone).dateAt(input.now);
     const std::string written = today.toString(u"dd.MM."_s).toStdString();
@@ -191,7 +191,7 @@ class PageReader {
         return trimmed ? std::optional(trimmed->toStdString()) : std::nullopt;
     }
 
-    /// Moves behind the address, but stays where it is for a link to the schedule itself, which is none.
+    /// Moves past the address. A link to the schedule itself does not count and does not move the walk.
     std::optional<std::string_view> takeURL(MarkerWalk& block) const {
         const auto link = m_links.next(block.position(), block.limit());
         if (!link || link->text == m_schedulePage) {
@@ -201,7 +201,7 @@ class PageReader {
         return link->text;
     }
 
-    /// By the next genre in the block, 0 without one.
+    /// The categories of the next genre; 0 when there is none.
     TVListingsCategory categoriesFrom(const MarkerWalk& block) const {
         const auto place = m_genres.next(block.position());
         if (!place) {

@@ -11,10 +11,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// Moments beyond these seconds are no broadcasts, and would not fit into milliseconds at last.
+/// Larger values cannot be broadcasts and might overflow in milliseconds.
 constexpr double kMostSeconds = 1e11;
 
-/// The number that the text begins with, seconds since 1970.
+/// Reads the number at the start of the text as seconds since 1970.
 std::optional<Moment> momentOf(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n+"), text.size()));
     double seconds = 0;
@@ -25,13 +25,13 @@ std::optional<Moment> momentOf(std::string_view text) {
     return Moment(std::chrono::milliseconds(std::llround(seconds * 1000)));
 }
 
-/// Finds the links of a page whose path begins with "/" and is closed on its own line.
+/// Finds links whose path begins with "/" and ends on the same line.
 class Links {
   public:
     explicit Links(const MarkerWalk& page)
         : m_page(page) {}
 
-    /// The path of the first link behind `from`; asked with places that only grow.
+    /// The path of the first link after `from`, which must not decrease between calls.
     std::optional<std::string_view> next(std::size_t from) {
         if (!m_place || *m_place < from) {
             search(from);
@@ -47,7 +47,7 @@ class Links {
         while (walk.moveTo(" href=\"/")) {
             const std::size_t place = walk.position();
             walk.moveTo(place + kLink.size());
-            // At least one character stands between the "/" and a quote on the same line.
+            // At least one character must follow the "/" before a quote on the same line.
             MarkerWalk behind = walk.part(walk.position() + 1);
             behind.moveTo(behind.position() + behind.characters(1).size());
             const auto quote = behind.find("\"");

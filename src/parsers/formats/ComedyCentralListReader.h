@@ -5,7 +5,7 @@
 
 namespace guide {
 
-/// Comedy Central Romania: the pages of one channel's list, which tells its times in seconds since 1970.
+/// Comedy Central Romania: the pages of one channel's list, with times in seconds since 1970.
 void readComedyCentralLists(const ListReaderInput& input, ParsedLists& lists);
 
 /// Seven numbered pages.

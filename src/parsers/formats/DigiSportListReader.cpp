@@ -13,10 +13,10 @@ using namespace Qt::StringLiterals;
 constexpr int kTabs = 15;
 constexpr qsizetype kPrefixLength = 4; // "dsk."
 constexpr std::chrono::hours kDay(24);
-/// What starts earlier belongs to the day before.
+/// Shows that start earlier belong to the next calendar day.
 constexpr std::chrono::hours kDayTurn(3);
 
-/// A show as the page says it.
+/// A show as written on the page.
 struct Row {
     std::chrono::minutes time;
     std::string_view title;
@@ -26,9 +26,9 @@ struct Row {
 struct SportChannel {
     const LoadItem* item;
     std::string logo;
-    /// In all tabs.
+    /// Positions of the logo in all tabs.
     MarkerPlaces logos;
-    /// Of the last tab that has any, and its moment.
+    /// The rows of the last tab that has any, and the moment of that tab.
     std::vector<Row> rows;
     Moment day;
 };
@@ -49,7 +49,7 @@ std::vector<Row> rowsOf(MarkerWalk block) {
     return rows;
 }
 
-/// The offset from UTC is the one of the tab's moment, whatever the clock shows at the time.
+/// Uses the UTC offset at the moment of the tab, even across a clock change.
 Moment startOf(const Row& row, Moment day, ZoneClock& clock) {
     const Moment moment = row.time < kDayTurn ? day + kDay : day;
     const std::chrono::seconds offset = clock.offsetAt(moment);
@@ -80,7 +80,7 @@ void readDigiSportLists(const ListReaderInput& input, ParsedLists& lists) {
                 input.trace.miss(channel.logo);
                 continue;
             }
-            // The address of the next logo closes the channel's block.
+            // The address of the next logo ends the block of the channel.
             const auto end = page.part(*logo).find("http");
             if (!end) {
                 continue;

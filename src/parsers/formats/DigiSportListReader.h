@@ -5,8 +5,8 @@
 
 namespace guide {
 
-/// Digi Sport: one page with fifteen tabs, a day each, that hold all channels, each headed by its logo. A
-/// channel's list is that of the last tab in which it has shows.
+/// Digi Sport: one page with fifteen tabs, one per day, each containing all channels headed by their logos.
+/// The list of a channel is that of the last tab in which it has shows.
 void readDigiSportLists(const ListReaderInput& input, ParsedLists& lists);
 
 /// One page of 15 days.

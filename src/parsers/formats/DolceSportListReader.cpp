@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 constexpr std::size_t kDays = 7;
 
-/// The stretches of the seven tabs, Monday first; nothing unless all are there.
+/// The contents of the seven tabs, Monday first; nothing unless all are present.
 std::optional<std::vector<MarkerWalk>> tabs(const MarkerWalk& page) {
     std::array<std::string, kDays> markers;
     MarkerWalk names = page;
@@ -43,7 +43,7 @@ std::optional<std::vector<MarkerWalk>> tabs(const MarkerWalk& page) {
     return found;
 }
 
-/// The text behind the marker up to the next tag.
+/// The text after the marker up to the next tag.
 std::optional<std::string_view> textBehind(MarkerWalk item, std::string_view marker) {
     return item.take(marker, "<");
 }
@@ -82,7 +82,7 @@ void readDolceSportLists(const ListReaderInput& input, ParsedLists& lists) {
                 continue;
             }
             const std::string time = trimmed(*timeText).toStdString();
-            // The day of broadcasts turns at 08:00; "07:59" sorts before "0800", and "08:00" behind it.
+            // The broadcast day begins at 08:00: "07:59" sorts before "0800", "08:00" after it.
             const bool small = time < "0800";
             const auto clockTime = timeOfDay(time);
             const auto start =

@@ -5,7 +5,7 @@
 
 namespace guide {
 
-/// Dolce Sport: one page with a week of one channel in seven tabs, from Monday to Sunday.
+/// Dolce Sport: one page with a week of one channel, in seven tabs from Monday to Sunday.
 void readDolceSportLists(const ListReaderInput& input, ParsedLists& lists);
 
 /// One page of a week.

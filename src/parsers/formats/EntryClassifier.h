@@ -5,8 +5,7 @@
 
 namespace guide {
 
-/// The categories that an entry's own texts and source id tell, for readers of sources that do not say what a
-/// show is.
+/// The categories derived from an entry's texts and source id, for sources that do not state categories.
 TVListingsCategory classifyEntry(const TVEntry& entry);
 
 } // namespace guide

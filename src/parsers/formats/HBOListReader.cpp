@@ -21,7 +21,7 @@ struct HBOChannel {
     std::string logo;
 };
 
-/// Ids look like "-hbo.hu.2"; the piece behind the country names the logo.
+/// Ids look like "-hbo.hu.2"; the part after the country names the logo.
 std::vector<HBOChannel> channelsOf(const std::vector<LoadItem>& items) {
     std::vector<HBOChannel> channels;
     for (const LoadItem& item : items) {
@@ -64,7 +64,7 @@ class DayReader {
             if (!path || !block.moveTo(kTime)) {
                 return;
             }
-            // The page marks the shows that are over.
+            // Shows that are over are marked.
             const bool past = block.part(link, block.position()).contains("past");
             block.moveTo(block.position() + kTime.size());
             if (past) {
@@ -80,7 +80,7 @@ class DayReader {
     }
 
     void addShow(const LoadItem& item, std::string_view path, std::string_view time, std::string_view title) {
-        // The small hours belong to the day before.
+        // Times before 06:00 belong to the next calendar day.
         const auto clockTime = timeOfDay(time);
         const auto start =
             clockTime ? m_clock.momentAt(time < "06:00" ? m_dateAfter : m_date, *clockTime) : std::nullopt;

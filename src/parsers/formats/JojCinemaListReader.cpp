@@ -15,7 +15,7 @@ constexpr int kFirstDay = -1;
 constexpr int kDays = 7;
 constexpr std::string_view kTime = "class=\"time\">";
 
-/// Of the page of that day.
+/// The marker of the page of that day.
 std::string activeDay(const QDate& date) {
     return "day=" + std::to_string(date.day()) + '-' + std::to_string(date.month()) + '-' +
            std::to_string(date.year()) + "\" class=\"active\"";
@@ -30,13 +30,13 @@ class DayReader {
         , m_clock(bratislava)
         , m_site(input.hosts.base(u"JojCinemaHost"_s, u"http"_s)) {}
 
-    /// `dateAfter` is the next day's, for what follows midnight.
+    /// `dateAfter` is used for shows after midnight.
     void read(MarkerWalk day, QDate date, const QDate& dateAfter) {
         std::string_view previous;
         while (day.pass(kTime)) {
             const std::string_view time = day.characters(5);
             const MarkerWalk item = day.part(day.position(), day.findOrLimit(kTime));
-            // Once the times have turned, the rest of the page lies on the next date.
+            // After the first time that does not increase, the rest of the page is on the next date.
             if (!previous.empty() && previous >= time) {
                 date = dateAfter;
             } else {
@@ -95,11 +95,11 @@ void readJojCinemaLists(const ListReaderInput& input, ParsedLists& lists) {
         const QDate date = bratislava.dateAt(day);
         const QDate dateAfter = bratislava.dateAt(day + std::chrono::hours(24));
         MarkerWalk walk = page;
-        // The days come in order: one that is missing ends the walk.
+        // The days are in order; a missing one ends the walk.
         if (!walk.pass(activeDay(date))) {
             return;
         }
-        // A day without shows leaves the next day's to the next day.
+        // Stops before the next day, so that a day without shows does not take its shows.
         const std::size_t nextDay = walk.findOrLimit(activeDay(dateAfter));
         walk = walk.part(walk.position(), nextDay);
         if (walk.pass(" class=\"item\"")) {

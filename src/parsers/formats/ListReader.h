@@ -15,9 +15,9 @@
 
 namespace guide {
 
-/// What a reader of a page format is given; all of it outlives the call.
+/// The input of a reader; everything referred to outlives the call.
 struct ListReaderInput {
-    /// Every item is of the same family and waits for the same pages.
+    /// All items have the same URLs.
     const std::vector<LoadItem>& items;
     /// UTF-8, in the order of the planned URLs; fewer than planned when some could not be fetched.
     const std::vector<QByteArray>& pages;
@@ -26,15 +26,15 @@ struct ListReaderInput {
     const Clock& clock;
     const Alphabet& alphabet;
     const SourceHostTable& hosts;
-    /// The device's.
+    /// The device's locale and zone.
     QLocale locale;
     QTimeZone deviceZone;
-    /// Told of what is looked for in vain.
+    /// Records markers that were not found.
     MarkerTrace& trace;
 };
 
-/// Adds the shows that the pages hold to the lists of the items' channels, in the order of reading. What it
-/// cannot read it leaves out; what it has added before it gave up stays.
+/// Adds the shows of the pages to the lists of the items' channels, in the order of reading. Skips what it
+/// cannot read, and keeps what it has added when it has to stop.
 using ListReader = void (*)(const ListReaderInput& input, ParsedLists& lists);
 
 } // namespace guide

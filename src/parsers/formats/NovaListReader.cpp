@@ -21,7 +21,7 @@ struct CategoryWords {
     TVListingsCategory category;
 };
 
-/// Of several the first counts.
+/// The first match wins.
 constexpr std::array kCategories{
     CategoryWords{"- seriál", TVListingsCategorySeries},
     CategoryWords{"- zprávy", TVListingsCategoryNews},
@@ -39,7 +39,7 @@ const LoadItem* itemForLogoText(const std::vector<LoadItem>& items, std::string_
     return item == items.end() ? nullptr : &*item;
 }
 
-/// What follows the marker up to its own last character, or up to the next tag where that is ">".
+/// The text after the marker, up to the marker's last character or, when that is ">", up to the next tag.
 std::optional<std::string_view> attributeText(MarkerWalk item, std::string_view marker) {
     return item.take(marker, marker.back() == '>' ? "<" : marker.substr(marker.size() - 1));
 }
@@ -104,7 +104,7 @@ void readNovaLists(const ListReaderInput& input, ParsedLists& lists) {
         }
     }
     for (const LoadItem& item : input.items) {
-        // The site may call its channels something else now.
+        // The site may have renamed the channel.
         if (!listed.contains(&item)) {
             input.trace.miss(std::string(kLogo) + item.sourceId.mid(kPrefixLength).toStdString() + '<');
         }

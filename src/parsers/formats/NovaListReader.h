@@ -5,7 +5,7 @@
 
 namespace guide {
 
-/// The day pages of the Nova group: each holds all channels of the group, in blocks headed by their logos.
+/// The day pages of the Nova group: each contains all channels of the group in blocks headed by their logos.
 void readNovaLists(const ListReaderInput& input, ParsedLists& lists);
 
 /// Yesterday and the eight days after it.

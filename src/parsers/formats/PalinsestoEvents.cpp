@@ -45,7 +45,7 @@ constexpr std::array kShowKinds{
     ShowKind{u"INFORMAZIONE", TVListingsCategoryNews},
     ShowKind{u"CARTONI ANIMATI", TVListingsCategoryForChildren},
 };
-/// Whatever else they say, these are for children.
+/// Channels whose shows are all for children.
 constexpr std::array<QStringView, 3> kChildrensChannels{u"_KN", u"_KP", u"_DY"};
 
 TVListingsCategory categoryOf(QStringView text, QStringView sourceId) {
@@ -59,7 +59,7 @@ TVListingsCategory categoryOf(QStringView text, QStringView sourceId) {
     return forChildren ? TVListingsCategoryForChildren : 0;
 }
 
-/// 12 digits, from the year to the minute, taken as UTC.
+/// 12 digits from year to minute, interpreted as UTC.
 std::optional<Moment> timestampMoment(std::string_view text) {
     if (text.size() != 12) {
         return std::nullopt;
@@ -146,7 +146,7 @@ class Rows final : public XMLEvents {
     }
 
     void startProgramma(const XMLAttributes& attributes) {
-        // The service lists all its channels, and few of them are wanted.
+        // The document contains all channels; few are wanted.
         const auto code = m_wanted.find(attributes.value("idref").value_or(std::string_view()));
         const auto local = code == m_wanted.end() || code->first.empty()
                                ? std::nullopt
@@ -157,7 +157,7 @@ class Rows final : public XMLEvents {
         }
         TVEntry& entry = addRow();
         entry.setSourceId(code->second);
-        // Rome's offset is the one at that moment taken as UTC.
+        // The timestamp is local time; the offset is taken at that moment read as UTC.
         entry.setDateTime(*local - m_rome.offsetAt(*local));
         if (const auto title = attributes.value("titolo")) {
             entry.setIdentificator(m_texts.sentenceCase(*title));
@@ -171,8 +171,8 @@ class Rows final : public XMLEvents {
             return;
         }
         std::replace(data.begin(), data.end(), '/', '-');
-        // At noon no change of the clock can move it to another date. What follows a day that is none has no
-        // date, and not the one of the day before.
+        // Noon cannot be moved to another date by a clock change. Rows after an invalid day get no date
+        // rather than that of the day before.
         const auto date = yearMonthDay(data);
         addRow().setDateTime(date ? m_rome.momentAt(*date, hours(12)) : std::nullopt);
     }
@@ -187,18 +187,18 @@ class Rows final : public XMLEvents {
         entry.setSourceId(u'_' + attribute(attributes, "id"));
     }
 
-    /// Each show takes its date from the row before it.
+    /// A show gets its date from the preceding row.
     void startPrg(const XMLAttributes& attributes) {
         const std::string start(attributes.value("orainizio").value_or(std::string_view()));
         const auto time = start.size() == 5 ? timeOfDay(start) : std::nullopt;
-        // The texts of a show that cannot be placed must not go to the one before it.
+        // The texts of a skipped show must not be added to the show before it.
         m_inUnusableShow = !time || m_rows.empty() || !m_rows.back().basic->dateTime();
         if (m_inUnusableShow) {
             return;
         }
         const std::optional<QString> sourceId = m_rows.back().basic->sourceId();
         const Moment running = *m_rows.back().basic->dateTime();
-        // The day turns once, at the first show of the small hours, by 24 hours like every step of days.
+        // The first show before 06:00 starts the next day, 24 hours later.
         const bool turns = *time < hours(6) && m_rome.hourAt(running) >= 6;
         const QDate date = m_rome.dateAt(turns ? running + hours(24) : running);
         TVEntry& entry = addRow();
@@ -225,7 +225,7 @@ class Rows final : public XMLEvents {
                 m_texts.capitalizedWords(text.substr(0, text.size() - (text.ends_with(" - ") ? 3 : 0))));
             break;
         case Paese: {
-            // The country stands before the year.
+            // The country precedes the year.
             const QString country = m_texts.capitalizedWords(text);
             const auto& details = entry.instantDetails1();
             entry.setInstantDetails1(details ? country + ", "_L1 + *details : country);
@@ -250,7 +250,7 @@ class Rows final : public XMLEvents {
     PalinsestoTexts& m_texts;
     ZoneClock m_rome;
     std::vector<ExtendedTVEntry> m_rows;
-    /// The text element that is being read.
+    /// The text element being read.
     std::size_t m_open = kOtherXMLElement;
     std::optional<std::string> m_text;
     bool m_inUnusableShow = false;
@@ -259,13 +259,13 @@ class Rows final : public XMLEvents {
 } // namespace
 
 QString PalinsestoTexts::capitalizedWords(std::string_view text) {
-    // Titles come again and again, descriptions seldom.
+    // Titles repeat; descriptions rarely do.
     constexpr std::size_t kLongestTitle = 40;
     const bool isTitle = text.size() <= kLongestTitle;
     if (const QString* known = isTitle ? m_texts.find(text) : nullptr) {
         return *known;
     }
-    // A blank ends a word whatever stands around it, and the case of one word is no other's affair.
+    // Words end at blanks and are capitalised independently of each other.
     QString result;
     result.reserve(static_cast<qsizetype>(text.size()));
     for (std::size_t start = 0; start < text.size();) {

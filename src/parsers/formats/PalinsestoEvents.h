@@ -16,11 +16,11 @@
 
 namespace guide {
 
-/// The codes of channels, in UTF-8, and the source ids that they make.
+/// Channel codes in UTF-8 and the source ids made from them.
 using PalinsestoCodes = std::map<std::string, QString, std::less<>>;
 
-/// The texts of shows in the case that the guide gives them. What many shows say alike is worked on once, and
-/// shares memory.
+/// Converts the texts of shows to the case that the guide uses. Repeated texts are converted once and share
+/// memory.
 class PalinsestoTexts {
   public:
     explicit PalinsestoTexts(QLocale locale)
@@ -32,13 +32,13 @@ class PalinsestoTexts {
   private:
     QLocale m_locale;
     FeedMemo<QString> m_texts;
-    /// The words of the texts, each with the blank behind it.
+    /// The words of the texts, each with the blank after it.
     FeedMemo<QString> m_words;
     FeedMemo<QString> m_sentences;
 };
 
-/// The rows of a Palinsesto document in its order, with the bare days and channels among them, which have no
-/// title; nothing when it is not well-formed. Rows that carry all as attributes are left out unless their
+/// The rows of a Palinsesto document in document order, including rows for days and channels, which have no
+/// title. Nothing when it is not well-formed. Rows that consist of attributes are left out unless their
 /// channel is wanted. The entries have no channel.
 std::optional<std::vector<ExtendedTVEntry>> palinsestoRows(const QByteArray& document,
                                                            const PalinsestoCodes& wanted,

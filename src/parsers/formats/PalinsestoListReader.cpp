@@ -19,13 +19,13 @@ constexpr std::string_view kId = " id=\"";
 constexpr std::string_view kSectionEnd = "</canale>";
 constexpr std::size_t kCodeLength = 2;
 
-/// A document's sections of channels, so that each channel's own can be had without the others'.
+/// Finds the section of each channel, so that one channel can be read without the others.
 class Sections {
   public:
     explicit Sections(std::string_view text)
         : m_text(text) {
-        MarkerTrace unasked;
-        MarkerWalk walk(text, unasked);
+        MarkerTrace unused;
+        MarkerWalk walk(text, unused);
         std::optional<std::size_t> end;
         while (walk.pass(kId) && !walk.atEnd()) {
             const std::size_t code = walk.position();
@@ -47,8 +47,8 @@ class Sections {
 
     bool empty() const { return m_sections.empty(); }
 
-    /// The document with the inside of every other channel's section left out. Codes are compared by as many
-    /// characters as the service's have.
+    /// The document without the contents of all other channels' sections. Only codes of two characters match
+    /// a section.
     QByteArray documentOf(std::string_view code) const {
         QByteArray document;
         std::size_t kept = 0;
@@ -69,7 +69,8 @@ class Sections {
         std::size_t end;
     };
 
-    /// Behind the tag in one of whose values the position stands; 0 when it does not end before the limit.
+    /// The end of the tag that contains `position` inside an attribute value; 0 when it does not end before
+    /// `limit`.
     std::size_t tagEnd(std::size_t position, std::size_t limit) const {
         char quote = '"';
         for (; position < limit; ++position) {
@@ -100,7 +101,7 @@ std::string codeOf(const LoadItem& item) {
 
 using Items = std::vector<const LoadItem*>;
 
-/// The row as a show of the item.
+/// Turns the row into a show of the item.
 ExtendedTVEntry showOf(const LoadItem& item, std::shared_ptr<TVEntry> entry,
                        std::optional<TVListingsCategory> categories) {
     entry->setChannel(item.channel);
@@ -112,29 +113,29 @@ ExtendedTVEntry showOf(const LoadItem& item, std::shared_ptr<TVEntry> entry,
     return {std::move(entry), categories, nullptr, {}};
 }
 
-/// Hands each row that is a show to the items of its source id, and makes their lists new.
-void handOut(std::vector<ExtendedTVEntry> rows, const Items& items, ParsedLists& lists) {
-    struct Taker {
+/// Replaces the lists of the items by the rows that are shows, matched by source id.
+void distribute(std::vector<ExtendedTVEntry> rows, const Items& items, ParsedLists& lists) {
+    struct Recipient {
         const LoadItem* item;
         std::vector<ExtendedTVEntry>* list;
     };
-    QHash<QString, std::vector<Taker>> takers;
+    QHash<QString, std::vector<Recipient>> recipients;
     for (const LoadItem* item : items) {
         std::vector<ExtendedTVEntry>& list = lists[item->channel];
         list.clear();
-        takers[item->sourceId].push_back({item, &list});
+        recipients[item->sourceId].push_back({item, &list});
     }
     for (ExtendedTVEntry& row : rows) {
         if (!row.basic->identificator() || !row.basic->sourceId()) {
             continue;
         }
-        const auto own = takers.constFind(*row.basic->sourceId());
-        if (own == takers.cend()) {
+        const auto own = recipients.constFind(*row.basic->sourceId());
+        if (own == recipients.cend()) {
             continue;
         }
-        // Two channels may be filed under one code.
+        // Two channels may share one code.
         for (std::size_t i = 1; i < own->size(); ++i) {
-            const Taker& other = (*own)[i];
+            const Recipient& other = (*own)[i];
             other.list->push_back(showOf(*other.item, std::make_shared<TVEntry>(*row.basic), row.categories));
         }
         own->front().list->push_back(showOf(*own->front().item, std::move(row.basic), row.categories));
@@ -161,14 +162,14 @@ void readPalinsestoLists(const ListReaderInput& input, ParsedLists& lists) {
         if (!rows) {
             return;
         }
-        handOut(*std::move(rows), items, lists);
+        distribute(*std::move(rows), items, lists);
         for (const LoadItem* item : items) {
             if (lists[item->channel].empty()) {
                 input.trace.miss(std::string(sections.empty() ? "idref=\"" : kId) + codeOf(*item) + '"');
             }
         }
     };
-    // A document without sections is the same for all.
+    // A document without sections is read once for all channels.
     if (sections.empty()) {
         read(text, codes, all);
         return;

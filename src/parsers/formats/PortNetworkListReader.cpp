@@ -18,7 +18,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// The placeholders that are shown in English inside a schedule.
+/// Placeholders that are replaced by the English one inside a schedule.
 constexpr std::array<QStringView, 4> kRenamed{
     u"Nincs információ",
     u"Nie je informácia",
@@ -32,7 +32,7 @@ constexpr std::array kShortPortIds{41,    63,    69,    71,    151,   152,   156
                                    197,   236,   264,   10078, 10110, 10113, 10123, 10124, 10142,
                                    10197, 10354, 20095, 40021, 40028, 40078, 60046, 60050};
 
-/// Channels that fill the short description with something else.
+/// Channels whose short description is not a description.
 constexpr std::array kWithoutDescriptions{10058, 10109, 10132, 10192, 10193, 10194, 10306, 10316};
 
 template <class Values, class Value>
@@ -40,7 +40,7 @@ bool contains(const Values& values, const Value& value) {
     return std::find(values.begin(), values.end(), value) != values.end();
 }
 
-/// "Z", or a sign, hours and minutes with a colon or without.
+/// "Z", or a sign, hours and minutes, with or without a colon.
 std::optional<std::chrono::minutes> offsetOf(std::string_view text) {
     if (text == "Z") {
         return std::chrono::minutes(0);

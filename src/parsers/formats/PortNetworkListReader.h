@@ -5,10 +5,10 @@
 
 namespace guide {
 
-/// The Port network's JSON: the first page, with the days of one channel.
+/// The JSON of the Port network. Reads the first page, which contains the days of one channel.
 void readPortNetworkLists(const ListReaderInput& input, ParsedLists& lists);
 
-/// One answer of seven days; of four for some channels.
+/// One document with seven days, or four for some channels.
 PlannedURLs planPortNetworkPage(const PlanRequest& request);
 
 } // namespace guide

@@ -42,7 +42,7 @@ std::optional<QString> trimmed(std::string_view text) {
     return trimmedListingText(pageString(text));
 }
 
-/// Moves the episode, which stands in parentheses at the end of a title, to the details.
+/// Moves the episode in parentheses at the end of a title to the details.
 void splitEpisode(QString& title, TVEntry& entry) {
     const qsizetype open = title.lastIndexOf(" ("_L1);
     if (open >= 0 && title.indexOf(u')') == title.size() - 1) {
@@ -58,7 +58,7 @@ struct Separator {
     Part part;
     qsizetype position = -1;
 
-    /// Takes the place when the separator stands there, in whatever case, for the first time.
+    /// Records the first position of the separator, ignoring case.
     void lookAt(const QString& block, qsizetype place) {
         if (position < 0 && QStringView(block).sliced(place).startsWith(text, Qt::CaseInsensitive)) {
             position = place;
@@ -66,7 +66,7 @@ struct Separator {
     }
 };
 
-/// The separators that the block has, each at its first place, in the order of their places.
+/// The separators in the block, each at its first position, in order of position.
 std::vector<Separator> separatorsOf(const QString& block) {
     Separator fact{u".. ", Part::Fact};
     Separator ignored{u"… ", Part::Ignored};
@@ -80,7 +80,7 @@ std::vector<Separator> separatorsOf(const QString& block) {
         } else if (unit == u'…') {
             ignored.lookAt(block, at);
         } else if (unit == u' ') {
-            // Nearly every word is told apart by its first letter.
+            // The first letter rules out nearly every word.
             switch (block[at + 1].unicode()) {
             case u'D':
             case u'd':
@@ -106,7 +106,7 @@ std::vector<Separator> separatorsOf(const QString& block) {
     return separators;
 }
 
-/// Takes the one text of a show apart.
+/// Splits the text of a show into its parts.
 void readBlock(const QString& block, TVEntry& entry, TVEntrySupplementalData& details) {
     const std::vector<Separator> separators = separatorsOf(block);
     for (std::size_t i = 0; i < separators.size(); ++i) {
@@ -151,7 +151,7 @@ class DayReader {
 
     QDate dateAt(Moment moment) { return m_prague.dateAt(moment); }
 
-    /// `dateAfter` is the next day's, for what follows midnight.
+    /// `dateAfter` is used for shows after midnight.
     void read(MarkerWalk day, QDate date, const QDate& dateAfter) {
         std::string_view previous;
         while (!day.atEnd()) {
@@ -174,7 +174,7 @@ class DayReader {
     }
 
   private:
-    /// Of the row from `begin` to `end`.
+    /// Adds the show of the row from `begin` to `end`.
     void addShow(std::size_t begin, std::size_t end, const QDate& date, std::string_view time) {
         const auto name = m_titles.next(begin, end);
         const auto block = m_blocks.next(begin, end);
@@ -232,7 +232,7 @@ void readPrimaMaxLists(const ListReaderInput& input, ParsedLists& lists) {
             qCInfo(parsersLog, "class item not found");
             return;
         }
-        // A day without rows leaves the next day's to the next day.
+        // Stops before the next day, so that a day without rows does not take its rows.
         MarkerWalk tab = walk.part(walk.position(), walk.findOrLimit(kTab));
         walk.moveTo(tab.limit());
         if (tab.contains(kRow)) {

@@ -5,7 +5,7 @@
 
 namespace guide {
 
-/// The day pages of Prima Max, from today on; one channel. A show's one block of text is taken apart into
+/// The day pages of Prima Max, from today on; one channel. The text block of a show is split into
 /// description, facts, director and cast.
 void readPrimaMaxLists(const ListReaderInput& input, ParsedLists& lists);
 

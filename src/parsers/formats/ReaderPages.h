@@ -6,17 +6,17 @@
 
 namespace guide {
 
-/// The pages in a row. A single page is shared, not copied.
+/// The pages concatenated. A single page is shared, not copied.
 QByteArray joinedPages(const std::vector<QByteArray>& pages);
 
-/// The page of that index; null, with a log line, when fewer pages came.
+/// The page with that index; null, with a log line, when fewer pages were fetched.
 const QByteArray* pageNumbered(const ListReaderInput& input, std::size_t index);
 
 inline std::string_view pageText(const QByteArray& page) {
     return {page.constData(), static_cast<std::size_t>(page.size())};
 }
 
-/// A show of the item's channel at that moment; title and source id are left to the format.
+/// A show of the item's channel at that moment; the reader sets title and source id.
 std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, Moment start);
 /// The same with a title.
 std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, const QString& title,

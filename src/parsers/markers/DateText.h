@@ -12,10 +12,10 @@ namespace guide {
 /// One to nine decimal digits and nothing else.
 std::optional<int> decimalNumber(std::string_view text);
 
-/// "yyyy-MM-dd", also with another character in the place of "-".
+/// "yyyy-MM-dd", or with another separator.
 std::optional<QDate> yearMonthDay(std::string_view text, char separator = '-');
 
-/// "dd.MM.yyyy", day and month with one digit or two.
+/// "dd.MM.yyyy", day and month with one or two digits.
 std::optional<QDate> dayMonthYear(std::string_view text);
 
 /// "HH:mm:ss" from midnight.

@@ -6,7 +6,7 @@ namespace guide {
 
 namespace {
 
-/// The place of the marker in [from, limit) of the text.
+/// The position of the marker in [from, limit) of the text.
 std::size_t search(std::string_view text, std::size_t from, std::size_t limit, std::string_view marker) {
     if (from >= limit || limit - from < marker.size()) {
         return MarkerWalk::npos;

@@ -19,7 +19,7 @@ bool isBlank(char byte) {
     return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r' || byte == '\f';
 }
 
-/// The name of a tag in small letters, without its slash; what stands between "<" and ">" is given.
+/// The lowercase name of a tag, without its slash. `tag` is the text between "<" and ">".
 std::string tagName(std::string_view tag) {
     if (!tag.empty() && tag.front() == '/') {
         tag.remove_prefix(1);
@@ -40,7 +40,7 @@ bool breaksTheLine(const std::string& name) {
     return std::find(kBlocks.begin(), kBlocks.end(), name) != kBlocks.end();
 }
 
-/// The character that a reference stands for, "#232", "#xE8" or "egrave"; 0 for none.
+/// The character of a reference such as "#232", "#xE8" or "egrave"; 0 when there is none.
 char32_t referenced(std::string_view name) {
     unsigned number = 0;
     if (name.starts_with('#')) {
@@ -59,8 +59,8 @@ char32_t referenced(std::string_view name) {
     return isCharacter ? number : 0;
 }
 
-/// Gathers what is seen: blanks only between words, no empty lines.
-class SeenText {
+/// Collects the visible text: blanks only between words, no empty lines.
+class VisibleText {
   public:
     void add(std::string_view bytes) {
         if (bytes.empty()) {
@@ -85,19 +85,19 @@ class SeenText {
 } // namespace
 
 QString plainText(std::string_view html) {
-    SeenText seen;
-    // Behind the last ">" nothing can be a tag.
+    VisibleText visible;
+    // No tag can end after the last ">".
     const std::size_t lastTagEnd = html.rfind('>');
     std::size_t place = 0;
     while (place < html.size()) {
         const char byte = html[place];
         if (isBlank(byte)) {
-            seen.blank();
+            visible.blank();
             ++place;
         } else if (byte == '<' && lastTagEnd != std::string_view::npos && place < lastTagEnd) {
             const std::size_t end = html.find('>', place);
             if (breaksTheLine(tagName(html.substr(place + 1, end - place - 1)))) {
-                seen.line();
+                visible.line();
             }
             place = end + 1;
         } else if (byte == '&') {
@@ -105,10 +105,10 @@ QString plainText(std::string_view html) {
             const char32_t character =
                 end == std::string_view::npos ? 0 : referenced(html.substr(place + 1, end - 1));
             if (character == 0) {
-                seen.add("&");
+                visible.add("&");
                 ++place;
             } else {
-                seen.add(QString::fromUcs4(&character, 1).toStdString());
+                visible.add(QString::fromUcs4(&character, 1).toStdString());
                 place += end + 1;
             }
         } else {
@@ -116,11 +116,11 @@ QString plainText(std::string_view html) {
             while (end < html.size() && !isBlank(html[end]) && html[end] != '<' && html[end] != '&') {
                 ++end;
             }
-            seen.add(html.substr(place, end - place));
+            visible.add(html.substr(place, end - place));
             place = end;
         }
     }
-    return pageString(seen.text());
+    return pageString(visible.text());
 }
 
 } // namespace guide

@@ -6,8 +6,8 @@
 
 namespace guide {
 
-/// What a reader of the page sees of a stretch of it: no tags, references decoded, white space as one blank,
-/// a line for each paragraph and break. In linear time, whatever the stretch holds.
+/// The visible text of a piece of HTML: without tags, references decoded, white space collapsed, a line for
+/// each paragraph and break. Takes linear time for any input.
 QString plainText(std::string_view html);
 
 } // namespace guide

@@ -9,16 +9,16 @@
 
 namespace guide {
 
-/// What is known of texts of a feed, by their bytes. Forgets everything when it has grown to its bound.
+/// Caches a value for each text of a feed. Cleared when it reaches its limit.
 template <class Value>
 class FeedMemo {
   public:
-    /// Null for a text that is not known.
+    /// Null when the text is not cached.
     const Value* find(std::string_view text) const {
         const auto place = m_values.find(text);
         return place == m_values.end() ? nullptr : &place->second;
     }
-    /// The reference holds until the next addition.
+    /// The reference is valid until the next addition.
     const Value& add(std::string_view text, Value value) {
         if (m_values.size() >= kMost) {
             m_values.clear();
@@ -29,8 +29,8 @@ class FeedMemo {
   private:
     static constexpr std::size_t kMost = 16'384;
 
-    /// Not noexcept, so that the library takes it for slow and keeps each key's hash: a chain is then walked
-    /// without hashing every text on the way anew.
+    /// Deliberately not noexcept: the library then stores the hash of each key and does not hash every key of
+    /// a chain again.
     struct Hash {
         using is_transparent = void;
         std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }

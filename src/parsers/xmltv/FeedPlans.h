@@ -6,7 +6,7 @@
 
 namespace guide {
 
-/// "r." group "." channel: the file of the group, from either of two mirrors, drawn at each call.
+/// "r." group "." channel: the file of the group on one of two mirrors, chosen at random at each call.
 PlannedURLs planRytecFeed(const PlanRequest& request);
 PlannedURLs planNFeed(const PlanRequest& request);
 PlannedURLs planSFeed(const PlanRequest& request);
@@ -15,9 +15,9 @@ PlannedURLs planTVPCFeed(const PlanRequest& request);
 PlannedURLs planDirectURL(const PlanRequest& request);
 /// A file for each of seven days, from yesterday on.
 PlannedURLs planBNetFiles(const PlanRequest& request);
-/// A file for each of eleven days, from today on, each from either of two hosts, drawn at each call.
+/// A file for each of eleven days, from today on; the host of each is chosen at random at each call.
 PlannedURLs planMojTVFiles(const PlanRequest& request);
-/// One file of a week.
+/// One file for a week.
 PlannedURLs planTVProfilFile(const PlanRequest& request);
 
 } // namespace guide

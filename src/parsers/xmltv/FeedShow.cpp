@@ -20,22 +20,22 @@ namespace {
 QString fromUtf8(std::string_view bytes) {
     QString text;
     const bool isValid = readUtf8(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())), text);
-    // The parser gives no other text.
+    // The parser delivers only valid UTF-8.
     return isValid ? text : QString();
 }
 
-/// What feeds write where nothing is known of a slot.
+/// Titles of slots that the feed knows nothing about.
 constexpr std::array kPlaceholderTitles{"NEMA INFORMACIJA"_L1, "Nema informacija o programu"_L1};
 
-/// No subtitle has as many bracketed stretches; a page that is made to hold us up may have.
+/// More than any real subtitle has; limits the work for hostile input.
 constexpr int kMostBrackets = 1'000;
 
 bool isPlaceholder(const QString& title) {
     return std::find(kPlaceholderTitles.begin(), kPlaceholderTitles.end(), title) != kPlaceholderTitles.end();
 }
 
-/// Whether the description still says who plays. Looking for one character is many times quicker than looking
-/// for a text, and few descriptions have it.
+/// Whether the description contains a cast. Searching for a single character first is many times faster, and
+/// few descriptions contain it.
 bool hasCastLabel(QStringView description) {
     constexpr QStringView kLabel = u"Uloge: ";
     constexpr qsizetype kColon = 5;
@@ -47,7 +47,7 @@ bool hasCastLabel(QStringView description) {
     return false;
 }
 
-/// The categories that the bracketed words of the subtitle name, each of which is taken out of it.
+/// The categories named by bracketed words of the subtitle; those words are removed from it.
 TVListingsCategory bracketCategories(QString& subtitle, TVListingsCategory known) {
     TVListingsCategory categories = known;
     for (int i = 0; i < kMostBrackets; ++i) {
@@ -93,17 +93,17 @@ void FeedShow::clear() {
     dateTime.reset();
 }
 
-/// All that a title says.
+/// What is derived from a title.
 struct FeedShowMaker::TitleParts {
     bool isPlaceholder = false;
-    /// As the feed writes it.
+    /// As in the feed.
     QString title;
     QString shown;
     std::optional<QString> instantDescription;
     bool isRepeated = false;
-    /// The instant description holds a country and a year.
+    /// Whether the instant description contains a country and a year.
     bool hasProductionNote = false;
-    /// What the title says itself, and what its instant description adds.
+    /// The categories of the title, and those added by its instant description.
     TVListingsCategory categories = 0;
     TVListingsCategory instantCategories = 0;
 };
@@ -168,7 +168,7 @@ const FeedShowMaker::TitleParts& FeedShowMaker::titleParts(std::string_view titl
     }
     TitleParts parts;
     parts.title = fromUtf8(title);
-    // Some feeds write the line ends of their titles as these two characters.
+    // Some feeds write line ends in titles as these two characters.
     parts.title.remove("\\n"_L1);
     parts.isPlaceholder = isPlaceholder(parts.title);
     parts.shown = showTitle(parts.title, m_options.locale);

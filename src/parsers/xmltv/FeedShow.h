@@ -14,7 +14,7 @@
 
 namespace guide {
 
-/// A text that is gathered piece by piece, as UTF-8; unset until the first piece.
+/// A text assembled piece by piece, in UTF-8; unset before the first piece.
 class FeedText {
   public:
     bool isSet() const { return m_isSet; }
@@ -23,13 +23,13 @@ class FeedText {
         m_bytes.append(piece);
         m_isSet = true;
     }
-    /// Takes one blank for each run of blanks in the piece.
+    /// Appends the piece with each run of blanks collapsed to one.
     void appendCollapsed(std::string_view piece);
     void assign(std::string_view text) {
         m_bytes.assign(text);
         m_isSet = true;
     }
-    /// Keeps the memory for the next text.
+    /// Keeps the capacity.
     void clear() {
         m_bytes.clear();
         m_isSet = false;
@@ -42,7 +42,7 @@ class FeedText {
     bool m_isSet = false;
 };
 
-/// A show as a feed tells it, before its texts are taken apart.
+/// A show as the feed describes it, before its texts are analysed.
 struct FeedShow {
     FeedText title;
     FeedText subtitle;
@@ -50,40 +50,40 @@ struct FeedShow {
     FeedText roles;
     FeedText directedBy;
     FeedText icon;
-    /// Whether the icon's name stands below the feed's image base.
+    /// Whether the icon is a name relative to the image base.
     bool iconIsImage = false;
     bool previouslyShown = false;
     TVListingsCategory categories = 0;
-    /// The feed's id of the channel.
+    /// The channel id of the feed.
     std::string sourceId;
     std::optional<Moment> dateTime;
     Moment endDateTime;
 
-    /// Makes it a new one, which keeps the memory of the texts.
+    /// Resets every field and keeps the capacity of the texts.
     void clear();
 };
 
-/// What the cleaning of a feed's shows needs beside them.
+/// The context of cleaning the shows of a feed.
 struct FeedShowOptions {
     /// Outlives the shows.
     const Alphabet& alphabet;
-    /// The device's, for titles that come in capitals.
+    /// The device's locale, for titles in capitals.
     QLocale locale = {};
-    /// What the name of an image is appended to; without it such a name gives no picture.
+    /// Image names are appended to it; when empty, they give no pictures.
     QString imageBase = {};
-    /// The feed's own site, which signs its descriptions; may be empty.
+    /// The site of the feed, whose name is removed from descriptions; may be empty.
     QString siteHost = {};
 };
 
-/// Makes the shows of one feed: takes their texts apart, cleans them and finds their categories. What many
-/// shows of a feed say alike is worked on once, and their texts share memory.
+/// Makes the shows of one feed: analyses and cleans their texts and derives their categories. Repeated texts
+/// are processed once and share memory.
 class FeedShowMaker {
   public:
     explicit FeedShowMaker(FeedShowOptions options);
     ~FeedShowMaker();
 
-    /// `show` has a title; `category` is all that the category elements say. The entry has neither channel
-    /// nor source id. Nothing when the title says that the feed knows nothing of the slot.
+    /// `show` must have a title; `category` is the text of all its category elements. The entry has neither
+    /// channel nor source id. Nothing when the title is a placeholder for an unknown show.
     std::optional<ExtendedTVEntry> make(const FeedShow& show, const FeedText& category);
 
   private:

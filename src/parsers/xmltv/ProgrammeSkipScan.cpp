@@ -28,14 +28,14 @@ const char* skipBlanks(const char* at) {
     return at;
 }
 
-/// Whether the name of a tag ends here; anything else belongs to a longer name.
+/// Whether a tag name ends at this character.
 bool endsName(char character) {
     return isBlank(character) || character == '>' || character == '/';
 }
 
-/// Behind the comment, CDATA section or processing instruction that opens at `at`; null when its end is
-/// missing or it is none of them.
-const char* behindAside(const char* at) {
+/// The end of the comment, CDATA section or processing instruction that opens at `at`; null when it has no
+/// end or is none of these.
+const char* asideEnd(const char* at) {
     struct Aside {
         std::string_view opening;
         const char* closing;
@@ -50,8 +50,8 @@ const char* behindAside(const char* at) {
     return nullptr;
 }
 
-/// Behind a document type declaration without an internal subset; null when it has one or does not end.
-const char* behindDocumentType(const char* at) {
+/// The end of a document type declaration; null when it has an internal subset or no end.
+const char* documentTypeEnd(const char* at) {
     while (*at != '>') {
         if (*at == '[' || *at == '\0') {
             return nullptr;
@@ -92,7 +92,7 @@ bool isXMLCharacter(std::uint32_t codePoint) {
            (codePoint >= 0x10000 && codePoint < 0x110000);
 }
 
-/// The character of "#60" or "#x3C"; nothing when it is none.
+/// The character of a reference such as "#60" or "#x3C".
 std::optional<std::uint32_t> numberedCharacter(std::string_view reference) {
     const bool hexadecimal = reference.starts_with("#x");
     const std::string_view digits = reference.substr(hexadecimal ? 2 : 1);
@@ -135,8 +135,8 @@ std::optional<std::uint32_t> referredCharacter(std::string_view reference) {
     return std::nullopt;
 }
 
-/// The value of an attribute as a parser gives it: references resolved, tabs and line ends as blanks. Nothing
-/// when it holds a reference that only a DTD could explain.
+/// The normalised value of an attribute: references resolved, tabs and line ends replaced by blanks. Nothing
+/// when it contains a reference that only a DTD defines.
 std::optional<std::string> attributeValue(std::string_view raw) {
     std::string value;
     value.reserve(raw.size());
@@ -163,15 +163,15 @@ std::optional<std::string> attributeValue(std::string_view raw) {
 
 /// The opening tag of a programme.
 struct OpeningTag {
-    /// Behind the tag.
+    /// The end of the tag.
     const char* end = nullptr;
-    /// Whether it is closed already.
+    /// Whether the element is empty.
     bool closed = false;
-    /// The channel as it is written; nothing when the attribute is missing.
+    /// The raw channel attribute, if present.
     std::optional<std::string_view> channel;
 };
 
-/// Reads the tag that opens at `at`; nothing when it is not written as it should be.
+/// Reads the tag that opens at `at`; nothing when it is malformed.
 std::optional<OpeningTag> openingTag(const char* at) {
     constexpr std::size_t kMostAttributes = 16;
     std::array<std::string_view, kMostAttributes> names;
@@ -220,9 +220,9 @@ std::optional<OpeningTag> openingTag(const char* at) {
     }
 }
 
-/// Behind the end tag of the programme whose content begins at `at`; null when it is missing or another
-/// programme begins before it.
-const char* behindProgramme(const char* at) {
+/// The position after the end tag of the programme whose content begins at `at`; null when it is missing or
+/// another programme begins before it.
+const char* programmeEnd(const char* at) {
     for (;;) {
         at = std::strchr(at, '<');
         if (!at) {
@@ -231,7 +231,7 @@ const char* behindProgramme(const char* at) {
         switch (at[1]) {
         case '!':
         case '?':
-            at = behindAside(at);
+            at = asideEnd(at);
             if (!at) {
                 return nullptr;
             }
@@ -254,7 +254,7 @@ const char* behindProgramme(const char* at) {
     }
 }
 
-/// Walks a feed once, from mark to mark, and notes what is to be kept.
+/// Scans a feed once, from "<" to "<", and records the parts to keep.
 class Scan {
   public:
     Scan(const char* feed, const WantedChannels& wanted)
@@ -262,13 +262,13 @@ class Scan {
         , m_at(feed)
         , m_keptFrom(feed) {}
 
-    /// False when the feed is to be read whole.
+    /// False when the whole feed has to be read.
     bool run() {
         while (const char* mark = std::strchr(m_at, '<')) {
             if (startsWith(mark, kOpening) && endsName(mark[kOpening.size()])) {
                 m_at = programme(mark);
             } else if (mark[1] == '?' || mark[1] == '!') {
-                m_at = startsWith(mark, "<!DOCTYPE") ? behindDocumentType(mark) : behindAside(mark);
+                m_at = startsWith(mark, "<!DOCTYPE") ? documentTypeEnd(mark) : asideEnd(mark);
             } else {
                 m_at = mark + 1;
             }
@@ -294,19 +294,19 @@ class Scan {
     }
 
   private:
-    /// Behind the programme that opens at `mark`; null when there is a doubt about it.
+    /// The position after the programme that opens at `mark`; null when that is uncertain.
     const char* programme(const char* mark) {
         const auto tag = openingTag(mark);
         if (!tag) {
             return nullptr;
         }
         const auto unwanted = isUnwanted(tag->channel);
-        const char* end = tag->closed ? tag->end : behindProgramme(tag->end);
+        const char* end = tag->closed ? tag->end : programmeEnd(tag->end);
         if (!unwanted || !end) {
             return nullptr;
         }
         if (*unwanted) {
-            // A run goes on as long as there is nothing but blanks between its programmes.
+            // A run continues while only blanks separate its programmes.
             if (m_kept.empty() || skipBlanks(m_keptFrom) != mark) {
                 keep(mark);
                 m_kept.push_back(kPlaceholder);
@@ -321,7 +321,7 @@ class Scan {
         if (!channel) {
             return true;
         }
-        // Feeds are sorted by channel as a rule.
+        // Most feeds are sorted by channel.
         if (!m_lastChannel.data() || m_lastChannel != *channel) {
             const auto id = attributeValue(*channel);
             if (!id) {
@@ -340,7 +340,7 @@ class Scan {
 
     const WantedChannels& m_wanted;
     const char* m_at;
-    /// Where what has not been noted yet begins.
+    /// The start of the part that has not been recorded yet.
     const char* m_keptFrom;
     std::vector<std::string_view> m_kept;
     qsizetype m_size = 0;

@@ -9,7 +9,7 @@
 
 namespace guide {
 
-/// The channel ids that are wanted of a feed, for comparing with what its attributes say.
+/// The wanted channel ids of a feed, for comparison with its attributes.
 class WantedChannels {
   public:
     explicit WantedChannels(const std::vector<QString>& channels) {

@@ -21,11 +21,11 @@ using ErrorPointer = const xmlError*;
 using ErrorPointer = xmlErrorPtr;
 #endif
 
-/// How much a document's own entities may add to what it says.
+/// How many bytes the entities of a document may add to its own.
 constexpr std::size_t kEntityAllowance = 10'000'000;
 constexpr std::size_t kNowhere = std::string_view::npos - 1;
 constexpr std::size_t kLeastElementSize = std::string_view("<a/>").size();
-/// The library bounds what general entities expand to, but not how often parameter entities are read again.
+/// The library limits the expansion of general entities, but not the number of parameter references.
 constexpr int kMostParameterReferences = 1'000;
 
 struct FreeContext {
@@ -47,8 +47,7 @@ std::string_view view(const xmlChar* text, std::size_t size) {
     return {reinterpret_cast<const char*>(text), size};
 }
 
-/// The attributes as the parser hands them over: name, prefix, namespace, value and its end, five pointers
-/// each.
+/// Attributes in the form of libxml2: five pointers each, for name, prefix, namespace, value and its end.
 class Attributes final : public XMLAttributes {
   public:
     Attributes(xmlParserCtxtPtr context, int count, const xmlChar** attributes)
@@ -66,8 +65,8 @@ class Attributes final : public XMLAttributes {
             if (!std::memchr(attribute[3], '&', size)) {
                 return view(attribute[3], size);
             }
-            // An event parser leaves ampersands, and references to entities of the document's own, as
-            // references.
+            // The SAX interface does not resolve references to ampersands and to entities that the document
+            // declares.
             m_resolved.reset(xmlStringLenDecodeEntities(m_context, attribute[3], static_cast<int>(size),
                                                         XML_SUBSTITUTE_REF, 0, 0, 0));
             return m_resolved ? view(m_resolved.get(), std::strlen(reinterpret_cast<char*>(m_resolved.get())))
@@ -83,8 +82,8 @@ class Attributes final : public XMLAttributes {
     mutable std::unique_ptr<xmlChar, FreeText> m_resolved;
 };
 
-/// One parse. The document's entities are kept by the library's own tree functions, which is all that they
-/// are used for; everything else goes to the events.
+/// One parse. The tree functions of the library are used only to store the entities of the document;
+/// everything else is passed to the events.
 class Parse {
   public:
     Parse(std::span<const char* const> elementNames, XMLEvents& events)
@@ -97,8 +96,8 @@ class Parse {
         for (const char* name : elementNames) {
             m_names.push_back(xmlDictLookup(m_context->dict, reinterpret_cast<const xmlChar*>(name), -1));
         }
-        // Without XML_PARSE_HUGE the library bounds names, depth and what entities expand to. Without
-        // XML_PARSE_NOENT and its kin it opens nothing that the document points to.
+        // Without XML_PARSE_HUGE the library limits names, depth and entity expansion. Without
+        // XML_PARSE_NOENT and similar options it opens no external resource.
         xmlCtxtUseOptions(m_context.get(), XML_PARSE_NONET | XML_PARSE_IGNORE_ENC | XML_PARSE_NOWARNING);
         *m_context->sax = handler();
     }
@@ -109,7 +108,7 @@ class Parse {
         }
         m_document = document;
         m_bound = m_document.size() + kEntityAllowance;
-        // The input stands on the page itself: nothing is copied.
+        // The input refers to the page; nothing is copied.
         xmlParserInputPtr input =
             xmlNewStringInputStream(m_context.get(), reinterpret_cast<const xmlChar*>(document));
         if (!input) {
@@ -131,7 +130,7 @@ class Parse {
         sax.initialized = XML_SAX2_MAGIC;
         sax.startElementNs = started;
         sax.endElementNs = ended;
-        // Blank text is text: one function for both keeps the library from telling them apart.
+        // Using one function for both keeps the library from examining blank text.
         sax.characters = text;
         sax.ignorableWhitespace = text;
         sax.cdataBlock = section;
@@ -161,7 +160,7 @@ class Parse {
 
     std::size_t element(const xmlChar* name, const xmlChar* prefix) const {
         if (!prefix) {
-            // The parser takes every name from its dictionary, where equal names are one pointer.
+            // Names come from the parser's dictionary, where equal names share one pointer.
             for (std::size_t i = 0; i < m_names.size(); ++i) {
                 if (m_names[i] == name) {
                     return i;
@@ -206,8 +205,8 @@ class Parse {
         }
     }
 
-    /// The library ends a piece at the first letter beyond ASCII, every few hundred bytes behind it, and at
-    /// the line ends of some systems. What stands together in the document is put together again.
+    /// The library splits text at the first non-ASCII letter, every few hundred bytes after that, and at
+    /// CRLF. Adjacent pieces are joined again.
     void addText(std::string_view piece) {
         const auto place = placeOf(piece);
         const bool continues =
@@ -246,7 +245,7 @@ class Parse {
 
     std::string_view textOf(Span span) const { return m_document.substr(span.start, span.size); }
 
-    /// A place in the document.
+    /// The offset of a pointer into the document.
     std::optional<std::size_t> offset(const void* at) const {
         const auto* place = static_cast<const char*>(at);
         const char* begin = m_document.data();
@@ -255,8 +254,8 @@ class Parse {
         return isInside ? std::optional(static_cast<std::size_t>(place - begin)) : std::nullopt;
     }
 
-    /// Where the document says what has just been read: there, or in front of what is read next, where it may
-    /// have carriage returns too. Nothing for what it says by references.
+    /// The span of the document that the piece was read from: the piece itself, or the bytes before the next
+    /// input, which may include carriage returns. Nothing for text that comes from references.
     std::optional<Span> placeOf(std::string_view piece) const {
         if (const auto start = offset(piece.data())) {
             return Span{*start, piece.size()};
@@ -283,7 +282,7 @@ class Parse {
         return Span{start, end - start};
     }
 
-    /// Whether a carriage return stands before the place.
+    /// Whether a carriage return precedes the position.
     bool endsLine(std::size_t place) const { return place > 0 && m_document[place - 1] == '\r'; }
 
     static void failed(void* user, ErrorPointer error) {
@@ -293,11 +292,10 @@ class Parse {
         }
     }
 
-    /// Counts what is handed over: a document without entities cannot say more than it holds. False once
-    /// stopped.
+    /// Counts delivered bytes; without entities they cannot exceed the document. False once stopped.
     bool spend(std::size_t bytes) {
-        m_handedOver += bytes;
-        if (m_handedOver > m_bound) {
+        m_delivered += bytes;
+        if (m_delivered > m_bound) {
             stop();
         }
         return !m_stopped;
@@ -305,8 +303,8 @@ class Parse {
 
     void stop() {
         m_stopped = true;
-        // Inside a parameter entity the library still reads the input that stopping would free; it is stopped
-        // at the next occasion then, and says nothing until there.
+        // Inside a parameter entity the library still reads input that stopping would free. It is then
+        // stopped at the next opportunity and delivers nothing until then.
         if (m_context->inputNr <= 1) {
             xmlStopParser(m_context.get());
         }
@@ -316,14 +314,13 @@ class Parse {
     Context m_context;
     std::vector<const xmlChar*> m_names;
     std::string_view m_document;
-    /// Text that is still to be handed over: where it stands in the document, or itself where carriage
-    /// returns stand between.
+    /// Text not yet delivered: its span in the document, or a copy when carriage returns are in between.
     Span m_text;
     std::string m_joined;
-    /// Where it ends in the document.
+    /// Its end in the document.
     std::size_t m_textEnd = kNowhere;
     std::size_t m_bound = 0;
-    std::size_t m_handedOver = 0;
+    std::size_t m_delivered = 0;
     int m_parameterReferences = 0;
     bool m_stopped = false;
 };

@@ -6,7 +6,7 @@ namespace {
 
 constexpr int kNoNumber = -1;
 
-/// The number that `count` ASCII digits write, or kNoNumber.
+/// The value of `count` ASCII digits, or kNoNumber.
 int digits(std::string_view text, std::size_t from, std::size_t count) {
     if (text.size() < from + count) {
         return kNoNumber;

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The channel whose shows the feed files under `feedChannel`; nothing when nobody wants them.
+/// The channel that gets the shows of `feedChannel`; nothing when it is unwanted.
 std::optional<ObjectId> channelOf(const QString& feedChannel, const std::vector<LoadItem>& items,
                                   const std::vector<QString>& wanted) {
     if (wanted.empty()) {
@@ -32,7 +32,7 @@ std::vector<QString> wantedFeedChannels(const std::vector<LoadItem>& items) {
     for (const LoadItem& item : items) {
         const QString& id = item.sourceId;
         if (id.startsWith("r."_L1)) {
-            // Behind the group; an id without a channel wants one that no feed has, and not all of them.
+            // The part after the group. An id without a channel matches no channel instead of all.
             const qsizetype point = id.indexOf(u'.', 2);
             wanted.push_back(point < 0 ? u""_s : id.mid(point + 1));
         } else if (id.startsWith("tvpc."_L1)) {

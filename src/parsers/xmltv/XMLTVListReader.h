@@ -8,11 +8,11 @@
 
 namespace guide {
 
-/// Reads each page as a feed of its own; a schedule that comes in daily files grows one list over them.
+/// Reads each page as a separate feed. Daily files extend one list.
 void readXMLTVLists(const ListReaderInput& input, ParsedLists& lists);
 
-/// The channel ids that a feed is to be filtered by, in the order of the items; an item whose family has a
-/// file of its own for each channel adds none. Empty is no filter.
+/// The channel ids to filter a feed by, in the order of the items. An item whose family has one file per
+/// channel adds none. No ids means no filter.
 std::vector<QString> wantedFeedChannels(const std::vector<LoadItem>& items);
 
 } // namespace guide

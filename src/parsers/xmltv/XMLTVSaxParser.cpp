@@ -6,7 +6,7 @@ namespace guide {
 
 namespace {
 
-/// In the order of XMLTVElement, behind Other.
+/// In the order of XMLTVElement, without Other.
 constexpr std::array kElementNames{"programme",   "title",    "sub-title", "desc", "actor",
                                    "director",    "category", "image",     "icon", "previously-shown",
                                    "episode-num", "seriesid"};
@@ -23,7 +23,7 @@ class Events final : public XMLEvents {
     void ended(std::size_t element) override { m_events.ended(named(element)); }
 
   private:
-    /// The number of an unknown element is one less than that of the first known one.
+    /// Unknown elements are numbered one below the first known one.
     static XMLTVElement named(std::size_t element) { return static_cast<XMLTVElement>(element + 1); }
 
     XMLTVEvents& m_events;

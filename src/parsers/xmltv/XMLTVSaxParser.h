@@ -6,7 +6,8 @@
 
 namespace guide {
 
-/// The elements that a feed's reader knows; everything else, and every name with a prefix, is Other.
+/// The elements that the reader of a feed knows. Everything else is Other, including every name with a
+/// prefix.
 enum class XMLTVElement {
     Other,
     Programme,
@@ -25,12 +26,12 @@ enum class XMLTVElement {
 
 using XMLTVAttributes = XMLAttributes;
 
-/// What a document says, in its order.
+/// Receives the contents of a feed in order.
 class XMLTVEvents {
   public:
     virtual ~XMLTVEvents() = default;
     virtual void started(XMLTVElement element, const XMLTVAttributes& attributes) = 0;
-    /// A piece of text, as UTF-8 and never empty: up to the next tag, reference, section or comment.
+    /// Text up to the next tag, reference, section or comment; UTF-8, never empty.
     virtual void text(std::string_view piece) = 0;
     virtual void ended(XMLTVElement element) = 0;
 };

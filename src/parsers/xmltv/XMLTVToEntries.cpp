@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Programmes of a channel that repeats another one an hour later are written an hour too late.
+/// Programmes of channels that repeat another one an hour later are listed an hour too late.
 constexpr std::string_view kShiftedChannel = "Plus1";
 constexpr std::chrono::hours kShift{1};
 
@@ -87,7 +87,7 @@ void XMLTVToEntries::startProgramme(const XMLTVAttributes& attributes) {
         return;
     }
     const bool isShifted = channel && channel->find(kShiftedChannel) != std::string_view::npos;
-    // The view of the channel ends with the next attribute.
+    // The view of the channel is invalid after the next attribute is read.
     std::string sourceId = m_single ? *m_single : std::string(channel.value_or(std::string_view{}));
     m_inside = XMLTVElement::Programme;
 
@@ -118,7 +118,7 @@ void XMLTVToEntries::text(std::string_view piece) {
         }
         break;
     case XMLTVElement::SubTitle:
-        // Numbers of episodes.
+        // Episode numbers.
         if (piece.front() < '0' || piece.front() > '9') {
             m_show.subtitle.append(piece);
         }

@@ -17,31 +17,31 @@
 
 namespace guide {
 
-/// What the reader of a feed needs beside the feed.
+/// The context of reading a feed.
 struct XMLTVOptions {
     FeedShowOptions shows;
-    /// Shows that have ended before it are dropped.
+    /// Shows that ended before it are dropped.
     Moment now;
-    /// Whether an `image` element names the picture of a show.
+    /// Whether `image` elements are read as pictures.
     bool useImage = false;
 };
 
 /// The shows of one channel of a feed, in document order.
 struct FeedChannelEntries {
-    /// The feed's own id; empty for programmes that name no channel.
+    /// The channel id of the feed; empty for programmes without a channel.
     QString sourceId;
     std::vector<ExtendedTVEntry> entries;
 };
 
-/// Reads a feed when it is made: cleans, classifies and groups its shows. What a document holds before its
-/// first fault is kept.
+/// Reads a feed on construction: cleans, classifies and groups its shows. Keeps what precedes the first
+/// error.
 class XMLTVToEntries : private XMLTVEvents {
   public:
-    /// `data` is UTF-8 and owns its bytes. Of the channels none means all; where there is exactly one, all
-    /// shows that the filter lets through are filed under it.
+    /// `data` is UTF-8 and must own its bytes. No channels means all; with exactly one, all shows that pass
+    /// the filter are assigned to it.
     XMLTVToEntries(const QByteArray& data, const std::vector<QString>& channels, XMLTVOptions options);
 
-    /// In the order in which the channels appear. A caller may take the entries out.
+    /// In the order in which the channels appear. The caller may move the entries out.
     std::vector<FeedChannelEntries>& entries() { return m_entries; }
 
   private:
@@ -50,7 +50,7 @@ class XMLTVToEntries : private XMLTVEvents {
     void ended(XMLTVElement element) override;
 
     void startProgramme(const XMLTVAttributes& attributes);
-    /// False when the show is a placeholder, and the element's end is to pass as if it had not come.
+    /// False when the show is a placeholder, whose end tag is then ignored.
     bool finishShow();
 
     const XMLTVOptions m_options;
@@ -60,12 +60,12 @@ class XMLTVToEntries : private XMLTVEvents {
     const std::optional<std::string> m_single;
 
     std::optional<XMLTVElement> m_inside;
-    /// A second title of a programme adds nothing.
+    /// A second title is ignored.
     bool m_ignoreTitle = false;
-    /// The show under construction; its buffers serve one show after the other.
+    /// The current show; its buffers are reused.
     FeedShow m_show;
     bool m_hasShow = false;
-    /// All text of the categories of the programme.
+    /// The text of all category elements of the programme.
     FeedText m_category;
 
     std::vector<FeedChannelEntries> m_entries;

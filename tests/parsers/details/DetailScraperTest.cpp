@@ -20,9 +20,9 @@ QByteArray recordedPage(const char* name) {
     return file.readAll();
 }
 
-/// What the pages, given in the order of asking, tell of the show: only what is set, "asked" the addresses
-/// behind the first.
-QJsonObject told(const char* sourceId, const char* url, const QByteArrayList& pages) {
+/// The details scraped from the pages, which are served in this order: only fields that are set; "asked"
+/// lists the addresses requested after the first.
+QJsonObject scraped(const char* sourceId, const char* url, const QByteArrayList& pages) {
     const Alphabet alphabet;
     const auto entry = std::make_shared<TVEntry>(alphabet);
     entry->setSourceId(QString::fromLatin1(sourceId));
@@ -139,7 +139,7 @@ TEST(DetailScraper, ReadsThePagesOfEachFamily) {
     };
     for (const auto& each : cases) {
         const QJsonObject expected = QJsonDocument::fromJson(each.expected).object();
-        const QJsonObject found = told(each.sourceId, each.url, each.pages);
+        const QJsonObject found = scraped(each.sourceId, each.url, each.pages);
         EXPECT_EQ(found, expected) << each.name << " gives " << QJsonDocument(found).toJson().toStdString();
     }
 }

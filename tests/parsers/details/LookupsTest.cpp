@@ -44,7 +44,7 @@ TEST(RecordedShows, ReadsTheSelectBoxOfTheShow) {
     }
 }
 
-TEST(IMDbLookup, SearchesForFilmsAndSeriesAlone) {
+TEST(IMDbLookup, SearchesOnlyForFilmsAndSeries) {
     const auto hosts = SourceHostTable::fromJson(R"({"IMDbHost": "imdb.example"})");
     const struct {
         const char* name;
@@ -96,7 +96,7 @@ TEST(IMDbLookup, ReadsTheFirstRow) {
     }
 }
 
-TEST(IMDbLookup, AnswersEverySearchAlsoWhenNothingComes) {
+TEST(IMDbLookup, AnswersEverySearchEvenAfterAFailure) {
     ManualClock clock;
     ManualQueues queues(clock);
     FakeHTTPClient client;
@@ -117,7 +117,7 @@ TEST(IMDbLookup, AnswersEverySearchAlsoWhenNothingComes) {
     EXPECT_TRUE(imdbLinkWithClosure(show, environment, [&](unsigned index, const IMDbAnswer& answer) {
         answers.emplace_back(index, answer);
     }));
-    EXPECT_TRUE(answers.empty()) << "nobody waits for a transfer";
+    EXPECT_TRUE(answers.empty()) << "does not block";
     queues.runAll();
 
     const std::vector<std::pair<unsigned, IMDbAnswer>> expected{

@@ -1,4 +1,4 @@
-// What a maintainer is told when a broadcaster has changed a page.
+// What the trace reports after a broadcaster has changed a page.
 #include "parsers/formats/RecordedCall.h"
 
 #include <gtest/gtest.h>
@@ -9,12 +9,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-TEST(MissedMarkers, NameWhatAPageHasNoLonger) {
+TEST(MissedMarkers, NameTheRenamedMarker) {
     const struct {
         QString stem;
-        /// What the pages call otherwise now.
+        /// The markers that are renamed in the pages.
         QByteArrayList renamed;
-        /// What is looked for, where it is more than that.
+        /// The marker that the reader searches for, when it is longer.
         QByteArray missed = {};
     } cases[] = {
         {u"barrandov/two-days"_s,
@@ -60,7 +60,7 @@ TEST(MissedMarkers, NameWhatAPageHasNoLonger) {
             MarkerTrace trace;
             const MergeResult result = call.lists(pages, &trace);
             EXPECT_FALSE(result.lists.contains(channel))
-                << each.stem.toStdString() << " does without " << marker.toStdString();
+                << each.stem.toStdString() << " does not need " << marker.toStdString();
             EXPECT_EQ(QByteArray::fromStdString(trace.changed(pages)),
                       each.missed.isEmpty() ? marker : each.missed)
                 << each.stem.toStdString();

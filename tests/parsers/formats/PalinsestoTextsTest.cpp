@@ -7,8 +7,8 @@ namespace guide {
 
 namespace {
 
-// Word by word, and remembered, is what the library makes of the whole.
-TEST(PalinsestoTexts, CapitaliseAsTheLibraryDoes) {
+// Capitalising and caching word by word must equal capitalising the whole text.
+TEST(PalinsestoTexts, CapitaliseLikeTheWholeText) {
     const char* const texts[] = {
         "",
         " ",

@@ -6,7 +6,7 @@ namespace guide {
 
 namespace {
 
-TEST(MarkerWalk, StaysWhereItIsWhenAMarkerIsMissing) {
+TEST(MarkerWalk, DoesNotMoveWhenAMarkerIsMissing) {
     MarkerTrace trace;
     MarkerWalk walk("<li>Čas 20:15</li><li>open", trace);
     EXPECT_EQ(walk.take("<li>", "</li>"), "Čas 20:15");
@@ -18,13 +18,14 @@ TEST(MarkerWalk, StaysWhereItIsWhenAMarkerIsMissing) {
     EXPECT_EQ(walk.rest(), "open");
 }
 
-TEST(MarkerWalk, KeepsWithinItsPart) {
+TEST(MarkerWalk, StaysWithinItsPart) {
     MarkerTrace trace;
     const MarkerWalk page("a|bc|d|", trace);
     MarkerWalk part = page.part(2, 4);
     EXPECT_FALSE(part.find("|"));
     EXPECT_FALSE(part.find("c|")) << "a marker has to end within the part";
     EXPECT_EQ(part.find("c"), 3U);
+    EXPECT_EQ(part.find("bc"), 2U) << "a marker may fill the part";
     EXPECT_EQ(part.findOrLimit("d"), 4U);
     EXPECT_EQ(page.findLast("|"), 6U);
     EXPECT_FALSE(page.part(2, 4).findLast("a"));
@@ -33,20 +34,20 @@ TEST(MarkerWalk, KeepsWithinItsPart) {
     EXPECT_EQ(part.part(0, 100).limit(), 4U);
 }
 
-TEST(MarkerWalk, CountsCharactersAndNotBytes) {
+TEST(MarkerWalk, CountsCharactersNotBytes) {
     MarkerTrace trace;
     EXPECT_EQ(MarkerWalk("žluťoučký", trace).characters(4), "žluť");
     EXPECT_EQ(MarkerWalk("ž", trace).characters(5), "ž");
 }
 
-TEST(MarkerPlaces, AnswersFromAnyPlace) {
+TEST(MarkerPlaces, FindsTheNextMarkerFromAnyPosition) {
     const MarkerPlaces places("<p>1<p>2", "<p>");
     EXPECT_EQ(places.next(0), 0U);
     EXPECT_EQ(places.next(1), 4U);
     EXPECT_FALSE(places.next(5));
 }
 
-TEST(MarkedFields, AreFoundFromAnywhere) {
+TEST(MarkedFields, FindFieldsFromAnyPosition) {
     const std::string text = "<a>1</a> <a><a>2</a> <a>open";
     const MarkedFields fields(text, "<a>", "</a>");
     const auto first = fields.next(0);

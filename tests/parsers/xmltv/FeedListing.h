@@ -13,7 +13,7 @@
 
 namespace guide::test {
 
-/// Every show of a feed as one line of text, by the feed's channel.
+/// Every show of a feed as one line of text, by channel id.
 using FeedListing = std::map<std::string, std::vector<std::string>>;
 
 inline FeedListing listing(const QByteArray& feed, const std::vector<QString>& channels,
@@ -30,7 +30,7 @@ inline FeedListing listing(const QByteArray& feed, const std::vector<QString>& c
     return lists;
 }
 
-/// As the guide's own parser sees it: others let more characters pass.
+/// Uses the parser of the guide: others accept more characters.
 inline bool isWellFormed(const QByteArray& document) {
     xmlDocPtr read = xmlReadMemory(document.constData(), static_cast<int>(document.size()), nullptr, "UTF-8",
                                    XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_NONET);
@@ -38,7 +38,7 @@ inline bool isWellFormed(const QByteArray& document) {
     return read != nullptr;
 }
 
-/// Whether each list of the one is the beginning of the same list of the other.
+/// Whether each list of `whole` is a prefix of the same list in `ours`.
 inline bool isPrefix(const FeedListing& whole, const FeedListing& ours) {
     return std::all_of(whole.begin(), whole.end(), [&ours](const auto& channel) {
         const auto& [id, list] = channel;

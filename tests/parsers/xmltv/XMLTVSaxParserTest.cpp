@@ -10,45 +10,45 @@ namespace guide {
 
 namespace {
 
-/// Writes down what it is told: titles as "<title>", other elements as "<>", the end of each as "/".
+/// Records events: titles as "<title>", other elements as "<>", the end of each as "/".
 class Transcript : public XMLTVEvents {
   public:
     explicit Transcript(const std::string& document) {
         parseXMLTV(QByteArray::fromStdString(document), *this);
     }
 
-    const std::string& said() const { return m_said; }
-    /// The texts, with strokes between them.
+    const std::string& events() const { return m_events; }
+    /// The texts, separated by strokes.
     const std::string& pieces() const { return m_pieces; }
 
   private:
     void started(XMLTVElement element, const XMLTVAttributes& attributes) override {
-        m_said += element == XMLTVElement::Title ? "<title" : "<";
+        m_events += element == XMLTVElement::Title ? "<title" : "<";
         if (const auto channel = attributes.value("channel")) {
-            m_said += " " + std::string(*channel);
+            m_events += " " + std::string(*channel);
         }
-        m_said += ">";
+        m_events += ">";
     }
     void text(std::string_view piece) override {
         EXPECT_FALSE(piece.empty());
-        m_said += piece;
+        m_events += piece;
         m_pieces += m_pieces.empty() ? piece : "|" + std::string(piece);
     }
-    void ended(XMLTVElement) override { m_said += "/"; }
+    void ended(XMLTVElement) override { m_events += "/"; }
 
-    std::string m_said;
+    std::string m_events;
     std::string m_pieces;
 };
 
-std::string said(const std::string& document) {
-    return Transcript(document).said();
+std::string events(const std::string& document) {
+    return Transcript(document).events();
 }
 
-TEST(XMLTVSaxParser, TellsWhatTheDocumentSays) {
+TEST(XMLTVSaxParser, ReportsTheDocument) {
     struct Row {
         const char* name;
         std::string document;
-        const char* said;
+        const char* events;
     };
     const std::vector<Row> rows{
         {"pieces", "<title>a<b>c</b>d</title>", "<title>a<>c/d/"},
@@ -57,27 +57,25 @@ TEST(XMLTVSaxParser, TellsWhatTheDocumentSays) {
         {"attributes", "<a channel='&amp;&#38;&quot; &#x16F;\t&#9;'/>", "< &&\" ů \t>/"},
         {"names with a prefix", "<x:title xmlns:x='y' x:channel='1'>a</x:title>", "<>a/"},
         {"a default namespace", "<title xmlns='y' channel='1'>a</title>", "<title 1>a/"},
-        {"what a declaration says of the encoding",
-         "<?xml version='1.0' encoding='iso-8859-2'?><title>ů</title>", "<title>ů/"},
+        {"the declared encoding is ignored", "<?xml version='1.0' encoding='iso-8859-2'?><title>ů</title>",
+         "<title>ů/"},
         {"a declaration of two-byte characters", "<?xml version='1.0' encoding='UTF-16'?><title>ů</title>",
          "<title>ů/"},
         {"a byte order mark", "\xEF\xBB\xBF<title>a</title>", "<title>a/"},
-        {"nothing behind a zero byte", std::string("<a><title>a</title>\0<title>b</title></a>", 40),
-         "<><title>a/"},
-        {"nothing behind a fault", "<a><title>a</title><title>b</a><title>c</title></a>",
-         "<><title>a/<title>b"},
+        {"stops at a zero byte", std::string("<a><title>a</title>\0<title>b</title></a>", 40), "<><title>a/"},
+        {"stops at an error", "<a><title>a</title><title>b</a><title>c</title></a>", "<><title>a/<title>b"},
         {"an entity in text", "<!DOCTYPE a [<!ENTITY e 'f<title>g</title>'>]><a>1&e;2&e;</a>",
          "<>1f<title>g/2f<title>g//"},
         {"an entity in a value", "<!DOCTYPE a [<!ENTITY e 'f&#38;#38;'>]><a channel='1&e;&amp;'/>",
          "< 1f&&>/"},
-        {"an entity that a missing DTD may explain", "<!DOCTYPE a SYSTEM 'b.dtd'><a>1&e;2</a>", "<>12/"},
+        {"an entity that the missing DTD may define", "<!DOCTYPE a SYSTEM 'b.dtd'><a>1&e;2</a>", "<>12/"},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(said(row.document), row.said) << row.name;
+        EXPECT_EQ(events(row.document), row.events) << row.name;
     }
 }
 
-TEST(XMLTVSaxParser, TakesNoTextApart) {
+TEST(XMLTVSaxParser, DoesNotSplitText) {
     std::string parts;
     for (int i = 0; i < 60; ++i) {
         parts += "5. Spájanie  ║ " + std::to_string(i);
@@ -95,7 +93,7 @@ TEST(XMLTVSaxParser, TakesNoTextApart) {
     }
 }
 
-TEST(XMLTVSaxParser, ReadsNothingButTheDocument) {
+TEST(XMLTVSaxParser, ReadsNoExternalResource) {
     QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("secret")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -109,11 +107,11 @@ TEST(XMLTVSaxParser, ReadsNothingButTheDocument) {
         "<!DOCTYPE a PUBLIC 'p' '" + path + "' [<!ENTITY e 'f'>]><a channel='&hidden;'>x&hidden;</a>",
     };
     for (const std::string& document : documents) {
-        EXPECT_EQ(said(document).find("secret"), std::string::npos) << document;
+        EXPECT_EQ(events(document).find("secret"), std::string::npos) << document;
     }
 }
 
-/// Entities of entities, each ten of the one before it.
+/// Nested entities, each expanding to ten of the previous one.
 std::string laughs(const char* open, const std::string& innermost, const char* close,
                    const std::string& document) {
     std::string text = "<!DOCTYPE a [";
@@ -127,7 +125,7 @@ std::string laughs(const char* open, const std::string& innermost, const char* c
     return text + document;
 }
 
-TEST(XMLTVSaxParser, BoundsWhatEntitiesExpandTo) {
+TEST(XMLTVSaxParser, LimitsEntityExpansion) {
     constexpr std::size_t kBound = 12'000'000;
     const std::string filler(100'000, 'x');
     std::string references;
@@ -144,11 +142,11 @@ TEST(XMLTVSaxParser, BoundsWhatEntitiesExpandTo) {
         "<!DOCTYPE a [<!ENTITY e '" + filler + "'>]><a channel='" + references + "'/>",
     };
     for (const std::string& document : documents) {
-        EXPECT_LT(said(document).size(), kBound) << document.substr(0, 60);
+        EXPECT_LT(events(document).size(), kBound) << document.substr(0, 60);
     }
 }
 
-TEST(XMLTVSaxParser, SurvivesWhatIsNoDocument) {
+TEST(XMLTVSaxParser, SurvivesMalformedInput) {
     std::string deep;
     for (int i = 0; i < 100'000; ++i) {
         deep += "<a>";
@@ -156,7 +154,7 @@ TEST(XMLTVSaxParser, SurvivesWhatIsNoDocument) {
     for (const std::string& document :
          {std::string(), std::string("\0", 1), std::string("no XML"), std::string("<"), std::string("<a"),
           deep, std::string(1'000'000, '&')}) {
-        said(document);
+        events(document);
     }
 }
 

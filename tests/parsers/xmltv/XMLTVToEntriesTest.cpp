@@ -59,7 +59,7 @@ std::string show(const std::string& channel, const std::string& title) {
 const std::string kEnded = "start=\"20261121100000 Z\" stop=\"20261121120000 Z\" channel=\"a\"";
 const std::string kLater = "start=\"20261121160000 Z\" stop=\"20261121170000 Z\" channel=\"a\"";
 
-TEST(XMLTVToEntries, KeepsAndFilesTheRightShows) {
+TEST(XMLTVToEntries, FiltersAndAssignsShows) {
     struct Row {
         const char* name;
         std::vector<QString> wanted;
@@ -91,25 +91,25 @@ TEST(XMLTVToEntries, KeepsAndFilesTheRightShows) {
          programme("start=\"202611\" stop=\"20261121150000 Z\" channel=\"a\"", "<title>S</title>"),
          "a: S none-15:00"},
         {"an hour earlier", {}, show("aPlus1", "P"), "aPlus1: P 13:00-14:00"},
-        {"over when it is moved",
+        {"ended after the shift",
          {},
          programme("start=\"20261121120000 Z\" stop=\"20261121130000 Z\" channel=\"aPlus1\"",
                    "<title>P</title>"),
          ""},
         {"an unshifted name", {}, show("aplus1", "P"), "aplus1: P 14:00-15:00"},
         {"a second title", {}, show("a", "A</title><title>B"), "a: A 14:00-15:00"},
-        {"text behind a child", {}, show("a", "A<b>x</b>y"), "a: A 14:00-15:00"},
+        {"text after a child", {}, show("a", "A<b>x</b>y"), "a: A 14:00-15:00"},
         {"no title", {}, programme(kLater, "<desc>D</desc>") + show("a", "A"), "a: A 14:00-15:00"},
         {"a title that comes with a programme of no stop",
          {},
          programme(kLater, "<desc>D</desc>") + programme("channel=\"b\"", "<title>B</title>"),
          "a: B 16:00-17:00"},
-        {"a placeholder takes the next show along",
+        {"a placeholder drops the next show",
          {},
          show("a", "NEMA INFORMACIJA") + show("b", "B") + show("a", "A"),
          "a: A 14:00-15:00"},
         {"the other placeholder", {}, show("a", "Nema informacija o programu") + show("b", "B"), ""},
-        {"a title that only begins so",
+        {"a title that only begins like a placeholder",
          {},
          show("a", "NEMA INFORMACIJA 2"),
          "a: Nema Informacija 2 14:00-15:00"},
@@ -127,15 +127,15 @@ TEST(XMLTVToEntries, KeepsAndFilesTheRightShows) {
          programme(kLater, "<desc>D</desc>") + show("b", "B") +
              programme("channel=\"a\"", "<title>A</title>"),
          ""},
-        {"up to a fault", {}, show("a", "A") + show("a", "B & C") + show("a", "D"), "a: A 14:00-15:00"},
-        {"the letters of a line end", {}, show("a", "A\\nB"), "a: Ab 14:00-15:00"},
+        {"stops at an error", {}, show("a", "A") + show("a", "B & C") + show("a", "D"), "a: A 14:00-15:00"},
+        {"an escaped line end", {}, show("a", "A\\nB"), "a: Ab 14:00-15:00"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(summary(read(row.programmes, row.wanted)), row.kept) << row.name;
     }
 }
 
-TEST(XMLTVToEntries, TakesTheTextsApart) {
+TEST(XMLTVToEntries, AnalysesTexts) {
     struct Row {
         const char* name;
         std::string content;
@@ -171,7 +171,7 @@ TEST(XMLTVToEntries, TakesTheTextsApart) {
         {"category attribute", "<title>A</title><category desc=\"Comedy\"/>", "categories", "257"},
         {"category texts join", "<title>A</title><category>spo</category><category>rt</category>",
          "categories", "128"},
-        {"category of the one before", "<title>A</title>", "categories", "0"},
+        {"category of the previous programme", "<title>A</title>", "categories", "0"},
         {"episodes", "<title>A</title><episode-num>1</episode-num><category>film</category>", "categories",
          "2"},
         {"series id", "<title>A</title><seriesid>1</seriesid>", "categories", "2"},
@@ -181,7 +181,7 @@ TEST(XMLTVToEntries, TakesTheTextsApart) {
         {"icon", std::string("<title>A</title>") + kIcon, "pictures", R"(["http://h/a.png"])"},
         {"icon without an address", std::string("<title>A</title>") + kIcon + "<icon src=\"\"/>", "pictures",
          "null"},
-        {"icon that is no address", std::string("<title>A</title>") + kIcon + "<icon src=\"http://h:x/\"/>",
+        {"an invalid icon address", std::string("<title>A</title>") + kIcon + "<icon src=\"http://h:x/\"/>",
          "pictures", "null"},
         {"image", "<title>A</title><image>a/b.png</image>", "pictures",
          R"(["https://images.example/images/a/b.png"])"},
@@ -201,7 +201,7 @@ TEST(XMLTVToEntries, TakesTheTextsApart) {
     }
 }
 
-TEST(XMLTVToEntries, TakesImagesOnlyOfFeedsThatNameThemSo) {
+TEST(XMLTVToEntries, ImagesNeedTheOptionAndABase) {
     const std::string programmes = show("a", "A</title><image>b.png</image><title>");
     EXPECT_TRUE(read(programmes, {})[0].entries[0].pictures.isEmpty());
     XMLTVOptions withoutBase = options();
@@ -210,7 +210,7 @@ TEST(XMLTVToEntries, TakesImagesOnlyOfFeedsThatNameThemSo) {
     EXPECT_TRUE(read(programmes, {}, withoutBase)[0].entries[0].pictures.isEmpty());
 }
 
-TEST(XMLTVToEntries, FindsTheWordsOfALongDescriptionWhereverTheyStand) {
+TEST(XMLTVToEntries, FindsWordsAnywhereInALongDescription) {
     const std::string filler(300, 'x');
     for (std::size_t place = 0; place <= filler.size(); ++place) {
         std::string description = filler;
@@ -221,8 +221,8 @@ TEST(XMLTVToEntries, FindsTheWordsOfALongDescriptionWhereverTheyStand) {
     }
 }
 
-/// Work that grows with the square of a text would take minutes here.
-TEST(XMLTVToEntries, TakesLongTextsInItsStride) {
+/// Quadratic work would take minutes here.
+TEST(XMLTVToEntries, ReadsLongTextsInLinearTime) {
     const auto repeated = [](const char* text, int times) {
         return QByteArray(text).repeated(times).toStdString();
     };
