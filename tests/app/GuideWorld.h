@@ -116,7 +116,7 @@ class GuideWorld {
     bool m_awake = false;
     std::unique_ptr<FakeBackgroundTasks> m_tasks;
     LinuxAudioSession m_audio;
-    AbsentPromotion m_promotion;
+    Promotion m_promotion;
     std::unique_ptr<ThreadedQueues> m_queues;
     std::unique_ptr<ResponseCache> m_cache;
     std::unique_ptr<CurlHTTPClient> m_curl;
