@@ -1,6 +1,7 @@
 #include "demo/DemoWorld.h"
 
 #include "core/CatalogueFiles.h"
+#include "core/TVStationIcons.h"
 #include "demo/Client.h"
 #include "demo/DemoChannel.h"
 #include "demo/ScheduleGenerator.h"
@@ -139,9 +140,9 @@ TEST_F(DemoWorldTest, SelectsTwelveOfItsChannelsEachWithAnIcon) {
     ASSERT_TRUE(rows);
     const auto types =
         SupportedChannelTypes::fromFile(QStringLiteral(QUELLIN_SOURCE_DATA "/supported-channel-types.json"));
-    const QDir icons(QStringLiteral(QUELLIN_SOURCE_DATA "/icons"));
+    TVStationIcons icons(QStringLiteral(QUELLIN_SOURCE_DATA "/icons"), 2);
     const auto kept = filteredChannels(
-        *rows, types, [&icons](const QString& name) { return icons.exists(name + u".png"_s); });
+        *rows, types, [&icons](const QString& name) { return !icons.iconNamed(name).isNull(); });
     ASSERT_EQ(kept.size(), rows->size());
     QSet<QString> known;
     QSet<QString> languages;
