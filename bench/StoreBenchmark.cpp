@@ -1,4 +1,4 @@
-#include "MadeShows.h"
+#include "GeneratedShows.h"
 #include "StoreFloor.h"
 #include "core/ListingsFile.h"
 #include "fakes/FakeApplicationState.h"
@@ -67,7 +67,7 @@ struct World {
         return folders.caches + u'/' + listingsFileFromChannelIdentificator(channelNumbered(channel));
     }
 
-    /// Waits for the answer on a queue of its own.
+    /// Runs on a separate queue and waits for the answer.
     std::vector<ShowSpan> onAir(TVListings& listings) {
         std::promise<std::vector<ShowSpan>> answer;
         listings.onAirShowsWithQueue(own,
@@ -226,7 +226,7 @@ void writeGuide(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
         for (int channel = 0; channel < kFiles; ++channel) {
-            // Whatever stands there in the end was written in the last pass.
+            // The final content was written in the last pass.
             QFile::remove(world.path(channel));
             listings.addToSaveSchedule(channelNumbered(channel));
         }

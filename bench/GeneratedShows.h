@@ -14,13 +14,13 @@ namespace guide::bench {
 using namespace Qt::StringLiterals;
 
 inline constexpr int kShowsOfAList = 280;
-/// When the first show of a list is on.
+/// Start of the first show of a list.
 inline constexpr Moment kNow = std::chrono::sys_days{std::chrono::year{2040} / 1 / 2};
 
 const Alphabet& alphabet();
 ObjectId channelNumbered(int number);
 
-/// Words of the lengths and letters of real descriptions; the same ones at every run.
+/// Words with the lengths and letters of real descriptions; the same in every run.
 class Words {
   public:
     explicit Words(unsigned seed)
@@ -56,7 +56,7 @@ class Words {
     QStringList m_words;
 };
 
-/// A list of one channel, back to back from kNow on.
+/// The list of one channel, without gaps from kNow on.
 std::vector<ExtendedTVEntry> madeShows(int channel, Words& words);
 ShowItems itemsOf(std::vector<ExtendedTVEntry> shows);
 std::shared_ptr<const ChannelList> madeList(int channel, Words& words);

@@ -1,4 +1,4 @@
-#include "MadeShows.h"
+#include "GeneratedShows.h"
 
 namespace guide::bench {
 
