@@ -1,4 +1,4 @@
-#include "MadeShows.h"
+#include "GeneratedShows.h"
 #include "StoreFloor.h"
 #include "fakes/ManualClock.h"
 #include "fakes/StoreFixture.h"
@@ -30,6 +30,7 @@ struct World {
 
     QString path(int channel) const { return store.listingsFile(channelNumbered(channel)); }
 
+    /// Runs on a separate queue and waits for the answer.
     std::vector<ShowSpan> onAir() {
         std::promise<std::vector<ShowSpan>> answer;
         store.listings->onAirShowsWithQueue(
@@ -176,7 +177,7 @@ void writeGuide(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
         for (int channel = 0; channel < kFiles; ++channel) {
-            // Whatever stands there in the end was written in the last pass.
+            // The final content was written in the last pass.
             QFile::remove(world.path(channel));
             listings.addToSaveSchedule(channelNumbered(channel));
         }

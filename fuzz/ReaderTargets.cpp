@@ -10,7 +10,7 @@ namespace guide::fuzz {
 
 namespace {
 
-/// More pages than any source plans.
+/// More pages than any source has.
 constexpr std::size_t kMostPages = 16;
 
 struct Format {
@@ -20,7 +20,7 @@ struct Format {
 
 using Calls = std::vector<test::RecordedCall>;
 
-/// A list as the store takes it, and keeps it through its file.
+/// A list that the store accepts must survive its file.
 void requireGoodList(const ShowList& list) {
     require(list && !list->empty(), "a stored list has shows");
     const auto start = [](const ShowItem& show) { return show.entry()->dateTime(); };
@@ -35,10 +35,10 @@ void requireGoodList(const ShowList& list) {
     const auto titled = std::count_if(list->begin(), list->end(), [](const ShowItem& show) {
         return show.entry()->identificator().has_value();
     });
-    require(std::ssize(*read) == titled, "the file of a list has its shows");
+    require(std::ssize(*read) == titled, "the file of a list contains its shows");
 }
 
-/// Any pages, for the channels and at the moment of one of the recorded calls.
+/// Reads arbitrary pages with the channels and the time of a recorded call.
 void readPages(const Calls& calls, QByteArrayView bytes) {
     const FuzzInput input(bytes);
     const test::RecordedCall& call = calls[input.choice(calls.size())];

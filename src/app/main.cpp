@@ -6,7 +6,7 @@
 #include "app/PictureTour.h"
 #include "app/QuellinGuideAppDelegate.h"
 #include "app/WindowState.h"
-#include "demo/DemoWorld.h"
+#include "demo/DemoEnvironment.h"
 #include "platform/FileReplacement.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/DesktopMotion.h"
@@ -78,9 +78,9 @@ int run(LaunchOptions options) {
     LinuxDevice device(options.form.value_or(UserInterfaceIdiom::Phone));
     // Icons are scaled for the finest screen that the window can be moved to.
     device.setScreen(device.screenSize(), qGuiApp->devicePixelRatio());
-    std::unique_ptr<DemoWorld> demo;
+    std::unique_ptr<DemoEnvironment> demo;
     if (options.demo) {
-        demo = DemoWorld::create(*options.profile + "/demo"_L1, clock);
+        demo = DemoEnvironment::create(*options.profile + "/demo"_L1, folders->bundle + "/demo"_L1, clock);
         if (!demo) {
             return refuse("the demo cannot be started");
         }

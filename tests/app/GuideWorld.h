@@ -1,12 +1,12 @@
 #pragma once
 
 #include "app/QuellinGuideAppDelegate.h"
-#include "demo/DemoServer.h"
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeBackgroundTasks.h"
 #include "fakes/FakeDevice.h"
 #include "fakes/MemoryKeyValueStore.h"
 #include "fakes/MemoryUserDefaults.h"
+#include "fakes/ScriptedServer.h"
 #include "platform/ThreadedQueues.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/LinuxAudioSession.h"
@@ -99,7 +99,7 @@ class GuideWorld {
     MemoryUserDefaults userDefaults;
     MemoryKeyValueStore keyValueStore;
     FakeApplicationState state;
-    std::unique_ptr<DemoServer> server = DemoServer::start();
+    std::unique_ptr<ScriptedServer> server = std::make_unique<ScriptedServer>();
     std::unique_ptr<QuellinGuideAppDelegate> guide;
     Folders folders;
     SourceHostTable hosts;

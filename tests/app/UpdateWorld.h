@@ -6,7 +6,6 @@
 #include "fakes/StoreFixture.h"
 #include "sources/SourceId.h"
 
-#include <stdexcept>
 #include <string>
 
 namespace guide {
@@ -25,7 +24,7 @@ struct UpdateStore : test::StoreFixture {
 };
 
 /// An update cycle over a store, with its own reader: each line of a page gives a channel, how many shows of
-/// an hour it has, the first one running, and by how many hours they are moved. A page "throw" throws.
+/// an hour it has, the first one running, and by how many hours they are moved.
 class UpdateWorld : public UpdateStore {
   public:
     struct Parse {

@@ -59,6 +59,20 @@ TEST(TVStationIconsTest, KeepsABitmapOfTheRightSize) {
     EXPECT_TRUE(TVStationIcons::toIcon(QImage(), 2).isNull());
 }
 
+TEST(TVStationIconsTest, RendersSVGAtTheIconsOwnSize) {
+    QTemporaryDir folder;
+    QFile svg(folder.filePath(u"halves.svg"_s));
+    ASSERT_TRUE(svg.open(QIODevice::WriteOnly));
+    svg.write(R"(<svg xmlns="http://www.w3.org/2000/svg" width="10" height="6" viewBox="0 0 10 6">)"
+              R"(<rect width="10" height="6" fill="#f00"/><rect width="5" height="6" fill="#00f"/></svg>)");
+    svg.close();
+    const QImage icon = TVStationIcons(folder.path(), 2).iconNamed(u"halves"_s);
+    ASSERT_EQ(icon.size(), QSize(100, 72));
+    EXPECT_EQ(icon.pixelColor(50, 4).alpha(), 0);
+    EXPECT_EQ(icon.pixelColor(48, 36), QColor(Qt::blue)) << "an enlarged bitmap would be blurred here";
+    EXPECT_EQ(icon.pixelColor(51, 36), QColor(Qt::red));
+}
+
 TEST(TVStationIconsTest, FindsIconsByName) {
     QTemporaryDir folder;
     QDir(folder.path()).mkdir(u"icons"_s);

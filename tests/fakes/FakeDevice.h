@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// A tablet in a zone of half-hour summer time, until the test says otherwise.
+/// By default a tablet in a zone with half an hour of daylight saving.
 class FakeDevice final : public Device {
   public:
     QTimeZone timeZone() const override { return zone; }

@@ -11,8 +11,8 @@
 
 namespace guide {
 
-/// Answers each request with what stands under its URL (again and again), else with the next of the queue,
-/// else with a refused connection. Keeps every request.
+/// Answers each request with the result set for its URL, else with the next result of the queue, else with a
+/// refused connection. Records every request.
 class FakeHTTPClient final : public HTTPClient {
   public:
     TransferResult perform(const HTTPRequest& request) override {
@@ -53,7 +53,7 @@ class FakeHTTPClient final : public HTTPClient {
         const std::lock_guard guard(m_guard);
         m_queue.push_back(std::move(result));
     }
-    /// Called inside each request, without a lock held.
+    /// Called during each request, without holding a lock.
     void onRequest(std::function<void(const HTTPRequest&)> asked) {
         const std::lock_guard guard(m_guard);
         m_onRequest = std::move(asked);

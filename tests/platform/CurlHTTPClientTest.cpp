@@ -90,7 +90,7 @@ TEST_F(CurlHTTPClientTest, HalfATransferIsAnErrorWithoutABody) {
     };
     const std::vector<Case> cases{
         {"closed without a word", ScriptedReply{}, false},
-        {"reset without a word", ScriptedReply::raw("", End::Cut), false},
+        {"reset without a word", ScriptedReply::raw("", End::Reset), false},
         {"no HTTP", ScriptedReply::raw("SSH-2.0-Server\r\n\r\n"), false},
         {"closed within the body", ScriptedReply::raw(promised + "half"), true},
         {"closed within a chunk",

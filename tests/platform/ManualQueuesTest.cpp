@@ -60,14 +60,14 @@ TEST_F(ManualQueuesTest, WhatWouldHangFailsTheTest) {
     auto token = queue->suspend();
     EXPECT_NONFATAL_FAILURE(queue->sync([] {}), "suspended");
     token.release();
-    queue->async([&] { EXPECT_NONFATAL_FAILURE(queue->sync([] {}), "would not return"); });
+    queue->async([&] { EXPECT_NONFATAL_FAILURE(queue->sync([] {}), "would deadlock"); });
     queues.runAll();
     EXPECT_NONFATAL_FAILURE(queues.mainQueue().sync([] {}), "main queue");
 
     DispatchGroup group;
     token = queue->suspend();
     group.async(*queue, [] {});
-    EXPECT_NONFATAL_FAILURE(group.wait(), "would not return");
+    EXPECT_NONFATAL_FAILURE(group.wait(), "would never end");
     EXPECT_FALSE(group.wait(1s));
     token.release();
     EXPECT_TRUE(group.wait());

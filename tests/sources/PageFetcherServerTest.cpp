@@ -46,7 +46,7 @@ TEST_F(PageFetcherServerTest, EveryAnswerGivesAPageOrAReason) {
     const QByteArray feed = "<tv>" + QByteArray("<programme channel=\"č\"/>").repeated(100) + "</tv>";
     const QByteArray gzip = gzipped(feed);
     const ScriptedReply cut = ScriptedReply::raw(
-        ScriptedReply::head(200, {"Content-Length: 1000"}) + feed.left(500), ScriptedReply::End::Cut);
+        ScriptedReply::head(200, {"Content-Length: 1000"}) + feed.left(500), ScriptedReply::End::Reset);
     struct Row {
         const char* name;
         std::vector<ScriptedReply> replies;
