@@ -18,16 +18,16 @@ std::optional<double> showProgress(const TVEntry& entry, Moment now) {
     return static_cast<double>((now - *entry.dateTime()).count()) / whole;
 }
 
-Row showRow(const ScreenEnvironment& environment, const ShowRowText& text, const ShowItem& show, bool running,
-            Moment now) {
+Row showRow(const ScreenEnvironment& environment, const ShowMarks& marks, const ShowRowText& text,
+            const ShowItem& show, bool running, Moment now) {
     const TVEntry& entry = *show.entry();
-    const bool alarmed = environment.alarms.alarmedEntry(entry) >= 0;
-    const bool favourite = entry.title() && environment.favorites.containsFavoriteNamed(*entry.title());
+    const bool alarmed = marks.isAlarmed(entry);
+    const bool favourite = marks.isFavourite(entry);
 
     ColorRole color = ColorRole::SecondaryLabel;
     if (alarmed) {
         color = ColorRole::Alarm;
-    } else if (environment.app.colorizedShows() && (running || favourite)) {
+    } else if (environment.settings.colorizedShows() && (running || favourite)) {
         color = running ? ColorRole::Running : ColorRole::Favourite;
     }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/ShowMarks.h"
 #include "screens/ShowRowText.h"
 #include "screens/kit/Table.h"
 #include "screens/shell/ScreenEnvironment.h"
@@ -17,8 +18,8 @@ std::optional<double> showProgress(const TVEntry& entry, Moment now);
 
 /// The row of a show, less its picture and what stands at its edge. `running` is the screen's own judgement;
 /// it brings the bar of how far the show is.
-Row showRow(const ScreenEnvironment& environment, const ShowRowText& text, const ShowItem& show, bool running,
-            Moment now);
+Row showRow(const ScreenEnvironment& environment, const ShowMarks& marks, const ShowRowText& text,
+            const ShowItem& show, bool running, Moment now);
 
 /// The moment as the device's zone has it.
 QDateTime localTime(const Device& device, Moment moment);

@@ -132,7 +132,7 @@ TEST_F(ChannelViewControllerTest, RecolorsAtTheNextTurn) {
     EXPECT_EQ(screen->table().row({0, 0})->text.runs[0].color, ColorRole::Running);
     world.queues.runAll();
     EXPECT_EQ(screen->table().row({0, 0})->text.runs[0].color, ColorRole::SecondaryLabel);
-    world.alarms.titles = {u"A"_s};
+    world.setAlarm(channel, {0, 60, u"A"_s});
     world.broadcast->favoritesUpdated();
     EXPECT_EQ(screen->table().row({0, 0})->text.runs[0].color, ColorRole::Alarm);
     EXPECT_EQ(screen->table().row({0, 0})->spokenState, u"On now, Alarm set"_s);

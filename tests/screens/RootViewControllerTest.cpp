@@ -118,8 +118,11 @@ TEST_F(RootViewControllerTest, TimeColoursAndProgress) {
     for (const Case& each : cases) {
         SCOPED_TRACE(each.name);
         world.app.colorized = each.colorized;
-        world.favorites.titles = each.favourite ? QSet{u"Show"_s} : QSet<QString>{};
-        world.alarms.titles = each.alarm ? QSet{u"Show"_s} : QSet<QString>{};
+        world.favorites.titles = each.favourite ? QStringList{u"show"_s} : QStringList();
+        world.alarms.events.clear();
+        if (each.alarm) {
+            world.setAlarm(channel, {each.from, each.until, u"Show"_s});
+        }
         root().reloadChannel(channel, world.list(channel, {{each.from, each.until, u"Show"_s}}));
         EXPECT_EQ(timeColor(1), each.color);
         EXPECT_EQ(table().row({0, 1})->progress, each.progress);

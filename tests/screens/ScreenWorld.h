@@ -3,6 +3,7 @@
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeBackgroundTasks.h"
 #include "fakes/FakeDevice.h"
+#include "fakes/FakeShowSources.h"
 #include "fakes/ManualClock.h"
 #include "fakes/ManualQueues.h"
 #include "fakes/MemoryKeyValueStore.h"
@@ -23,45 +24,18 @@ namespace guide::test {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-struct WorldFavorites final : FavoriteQuestions {
-    bool containsFavoriteNamed(const QString& title) const override { return titles.contains(title); }
-    bool hasFavorites() const override { return !titles.isEmpty(); }
-    QSet<QString> titles;
-};
-
-struct WorldAlarms final : AlarmQuestions, AlarmSynchronisation {
-    int alarmedEntry(const TVEntry& entry) const override {
-        return entry.title() && titles.contains(*entry.title()) ? 0 : -1;
-    }
-    int eventCount() const override { return static_cast<int>(titles.size()); }
-    void setSynchronized(bool) override {}
-    void syncAlarms() override {}
-    QSet<QString> titles;
-};
-
-struct WorldPopularShows final : PopularShows {
-    ShowList popularShows() const override { return nullptr; }
-    bool contains(const ShowItem& item) const override {
-        return item.entry()->title() && titles.contains(*item.entry()->title());
-    }
-    void refresh() override {}
-    QSet<QString> titles;
-};
-
-struct WorldApp final : AppActions {
+/// What the screens asked of the application, and the settings that they read.
+struct WorldApp final : ScreenSettings, ListingsUpdates, AppNavigation, AlarmSynchronisation {
     void checkAndUpdateAllChannels() override { done << u"check"_s; }
-    void resynchronizeAlarms() override { done << u"alarms"_s; }
+    void setSynchronized(bool synchronized) override { m_synchronized = synchronized; }
+    void syncAlarms() override { done << (m_synchronized ? u"sync"_s : u"alarms"_s); }
+    void commit() override {}
     void playURL(const QUrl& url) override { done << u"play "_s + QString::fromLatin1(url.toEncoded()); }
-    std::vector<SwipeAction>
-    swipeActionsConfigurationForEntry(const std::shared_ptr<const TVEntry>& entry,
-                                      const std::shared_ptr<ViewController>&) override {
-        return swipeActions(*entry);
-    }
     bool imagesEnabled() const override { return images; }
     bool colorizedShows() const override { return colorized; }
     std::chrono::seconds automaticUpdateInterval() const override { return 24h; }
 
-    /// What was asked of the application, in order.
+    /// In order.
     QStringList done;
     /// What a swipe on a show's row offers.
     std::function<std::vector<SwipeAction>(const TVEntry&)> swipeActions = [](const TVEntry&) {
@@ -69,6 +43,9 @@ struct WorldApp final : AppActions {
     };
     bool images = true;
     bool colorized = true;
+
+  private:
+    bool m_synchronized = true;
 };
 
 /// Keeps what it was asked for, so that a test can answer.
@@ -126,12 +103,15 @@ class ScreenWorld {
         icons = std::make_unique<TVStationIcons>(m_iconFolder.isEmpty() ? path : m_iconFolder, 2);
         channels = std::make_unique<TVChannels>(folders, keyValueStore, queues, catalogue);
         channels->setSelected(m_selected);
-        listings = std::make_unique<TVListings>(TVListingsEnvironment{
-            clock, device, folders, queues, tasks, state, userDefaults, *channels, *icons, catalogue,
-            alphabet, favorites, popular, alarms, u"guide"_s, [this] { return showCount; }});
+        listings = std::make_unique<TVListings>(
+            TVListingsEnvironment{clock, device, folders, queues, tasks, state, *channels, alphabet,
+                                  favorites, popular, observer, u"guide"_s, [this] { return showCount; }});
         environment = std::make_shared<const ScreenEnvironment>(
             ScreenEnvironment{clock, device, queues.mainQueue(), *loadQueue, state, *listings, *channels,
-                              *icons, catalogue, alphabet, favorites, alarms, popular, pictures, app});
+                              *icons, catalogue, alphabet, favorites, alarms, app, popular, pictures, app,
+                              app, app, [this](const std::shared_ptr<const TVEntry>& entry, const auto&) {
+                                  return app.swipeActions(*entry);
+                              }});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -148,6 +128,9 @@ class ScreenWorld {
         }
         auto extra = show.pictures.isEmpty() ? nullptr : std::make_shared<TVEntrySupplementalData>();
         return {std::move(basic), 0, std::move(extra), show.pictures};
+    }
+    void setAlarm(const ObjectId& channel, const WorldShow& show) {
+        alarms.events[*entry(channel, show).basic->digest()] = 0;
     }
     ShowSpan list(const ObjectId& channel, const std::vector<WorldShow>& shows) const {
         ShowItems items;
@@ -191,9 +174,10 @@ class ScreenWorld {
     MemoryUserDefaults userDefaults;
     MemoryKeyValueStore keyValueStore;
     Alphabet alphabet;
-    WorldFavorites favorites;
-    WorldAlarms alarms;
-    WorldPopularShows popular;
+    FakeFavorites favorites;
+    FakeAlarms alarms;
+    FakePopularShows popular;
+    CountingListingsObserver observer;
     WorldPictures pictures;
     WorldApp app;
     int showCount = 4;

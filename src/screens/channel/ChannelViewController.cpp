@@ -2,9 +2,6 @@
 
 #include "screens/Localized.h"
 #include "screens/ShowRow.h"
-#include "store/LocalTime.h"
-
-#include <QHash>
 
 #include <utility>
 
@@ -46,8 +43,7 @@ void ChannelViewController::viewDidDisappear() {
 
 std::vector<SwipeAction> ChannelViewController::swipeActionsForRow(IndexPath path) {
     const ShowItems& shows = m_groups[static_cast<std::size_t>(path.section)].shows;
-    return m_environment->app.swipeActionsConfigurationForEntry(
-        shows[static_cast<std::size_t>(path.row)].entry(), shared_from_this());
+    return m_environment->swipeActions(shows[static_cast<std::size_t>(path.row)].entry(), shared_from_this());
 }
 
 void ChannelViewController::notificationsSynched() {
@@ -78,41 +74,26 @@ void ChannelViewController::reloadChannelData() {
 }
 
 bool ChannelViewController::dueForReload(const TVChannel& record) const {
-    return record.reloadNeeded(m_environment->clock.now(), m_environment->app.automaticUpdateInterval());
+    return record.reloadNeeded(m_environment->clock.now(), m_environment->settings.automaticUpdateInterval());
 }
 
 void ChannelViewController::initializeContentWithEntriesArray(const ShowSpan& entries) {
-    m_groups.clear();
-    const QLocale locale = m_environment->device.locale();
-    LocalTime local(m_environment->device.timeZone());
-    QHash<QDate, std::size_t> groupOfDay;
-    for (const ShowItem& show : entries) {
-        if (!show.entry()->dateTime()) {
-            continue;
-        }
-        const QDate day = local.dateAt(*show.entry()->dateTime());
-        const auto known = groupOfDay.constFind(day);
-        if (known == groupOfDay.cend()) {
-            groupOfDay.insert(day, m_groups.size());
-            m_groups.push_back({locale.toString(day, QLocale::LongFormat), {show}});
-        } else {
-            m_groups[*known].shows.push_back(show);
-        }
-    }
+    m_groups = daySections(entries, m_environment->device.locale(), m_environment->device.timeZone());
 }
 
 void ChannelViewController::reloadTable() {
     const ShowRowText text(m_environment->device.locale(), m_environment->device.timeZone());
+    const ShowMarks marks(*m_environment);
     const Moment now = m_environment->clock.now();
     std::vector<Section> sections;
     sections.reserve(m_groups.size());
-    for (const Group& group : m_groups) {
-        Section section{group.day, {}};
+    for (const DaySection& group : m_groups) {
+        Section section{group.title, {}};
         section.rows.reserve(group.shows.size());
         for (const ShowItem& show : group.shows) {
             const TVEntry& entry = *show.entry();
             const bool running = *entry.dateTime() <= now && entry.endsAfter(now);
-            section.rows.push_back(showRow(*m_environment, text, show, running, now));
+            section.rows.push_back(showRow(*m_environment, marks, text, show, running, now));
             section.rows.back().allDetails = true;
         }
         sections.push_back(std::move(section));
@@ -126,7 +107,7 @@ void ChannelViewController::refresh() {
     refreshActive();
     if (const auto record = m_environment->channels.channelWithChannelId(m_channel)) {
         record->requireReload();
-        m_environment->app.checkAndUpdateAllChannels();
+        m_environment->updates.checkAndUpdateAllChannels();
     }
 }
 
@@ -143,7 +124,7 @@ void ChannelViewController::setButtons(BarButton first) {
     std::vector<BarButton> buttons{std::move(first)};
     if (m_streamURL) {
         buttons.push_back({BarButton::Kind::Play, Localized::tr("Play"),
-                           [this] { m_environment->app.playURL(*m_streamURL); }});
+                           [this] { m_environment->navigation.playURL(*m_streamURL); }});
     }
     setRightBarButtons(std::move(buttons));
 }

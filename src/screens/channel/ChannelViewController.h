@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/DaySections.h"
 #include "screens/shell/ListingsScreen.h"
 #include "screens/shell/ScreenEnvironment.h"
 
@@ -37,11 +38,6 @@ class ChannelViewController final : public ListingsScreen {
     void didPullToRefresh() override { refresh(); }
 
   private:
-    struct Group {
-        QString day;
-        ShowItems shows;
-    };
-
     void initializeContentWithEntriesArray(const ShowSpan& entries);
     void reloadTable();
     bool dueForReload(const TVChannel& record) const;
@@ -55,7 +51,7 @@ class ChannelViewController final : public ListingsScreen {
     const QString m_channelIconName;
     const ObjectId m_channel;
     std::optional<QUrl> m_streamURL;
-    std::vector<Group> m_groups;
+    std::vector<DaySection> m_groups;
 };
 
 } // namespace guide

@@ -27,8 +27,8 @@ void RootViewController::viewWillAppear() {
 void RootViewController::viewDidAppear() {
     selectedChannelsChanged();
     if (std::exchange(m_modifiedSelectedChannels, false)) {
-        m_environment->app.resynchronizeAlarms();
-        m_environment->app.checkAndUpdateAllChannels();
+        m_environment->alarmSynchronisation.resynchronize();
+        m_environment->updates.checkAndUpdateAllChannels();
     }
 }
 
@@ -122,7 +122,7 @@ void RootViewController::reloadChannel(const ObjectId& channel, const ShowSpan& 
     m_pictures.erase(channel);
     Channel& shown = m_channels[static_cast<std::size_t>(*section)];
     shown.entries = entries.items();
-    table().updateSection(*section, rowsOf(shown));
+    table().updateSection(*section, rowsOf(shown, ShowMarks(*m_environment)));
 }
 
 void RootViewController::setShowImage(const QImage& image, const ObjectId& channel,
@@ -133,7 +133,8 @@ void RootViewController::setShowImage(const QImage& image, const ObjectId& chann
     }
     m_pictures[channel].images.insert(showIdentifier, image);
     // Only the rows of that show say something else now.
-    table().updateSection(*section, rowsOf(m_channels[static_cast<std::size_t>(*section)]));
+    table().updateSection(*section,
+                          rowsOf(m_channels[static_cast<std::size_t>(*section)], ShowMarks(*m_environment)));
 }
 
 std::optional<int> RootViewController::sectionOfChannel(const ObjectId& channel) const {
@@ -151,23 +152,24 @@ std::optional<int> RootViewController::sectionOfChannel(const ObjectId& channel)
 void RootViewController::reloadTable() {
     std::vector<Section> sections;
     sections.reserve(m_channels.size());
+    const ShowMarks marks(*m_environment);
     for (const Channel& channel : m_channels) {
-        sections.push_back({QString(), rowsOf(channel)});
+        sections.push_back({QString(), rowsOf(channel, marks)});
     }
     table().reload(std::move(sections));
 }
 
-std::vector<Row> RootViewController::rowsOf(const Channel& channel) const {
+std::vector<Row> RootViewController::rowsOf(const Channel& channel, const ShowMarks& marks) const {
     const ShowRowText text(m_environment->device.locale(), m_environment->device.timeZone());
     const Moment now = m_environment->clock.now();
-    const bool imagesEnabled = m_environment->app.imagesEnabled();
+    const bool imagesEnabled = m_environment->settings.imagesEnabled();
     std::vector<Row> rows;
     rows.reserve(channel.entries.size() + 1);
     rows.push_back(channelRow(channel));
     for (const ShowItem& show : channel.entries) {
         const std::optional<double> progress = showProgress(*show.entry(), now);
         rows.push_back(
-            showRow(*m_environment, text, show, progress && *progress >= 0 && *progress <= 1, now));
+            showRow(*m_environment, marks, text, show, progress && *progress >= 0 && *progress <= 1, now));
         if (imagesEnabled) {
             rows.back().picture = showImage(channel.identificator, identificatorOf(show)).value_or(QImage());
         }
@@ -210,7 +212,7 @@ void RootViewController::didTapAccessory(IndexPath path) {
     }
     const ObjectId& channel = m_channels[static_cast<std::size_t>(path.section)].identificator;
     if (const std::optional<QUrl> stream = streamURLOf(*m_environment->catalogue.snapshot(), channel)) {
-        m_environment->app.playURL(*stream);
+        m_environment->navigation.playURL(*stream);
     }
 }
 
@@ -219,8 +221,8 @@ std::vector<SwipeAction> RootViewController::swipeActionsForRow(IndexPath path) 
         return {};
     }
     const ShowItems& shows = m_channels[static_cast<std::size_t>(path.section)].entries;
-    return m_environment->app.swipeActionsConfigurationForEntry(
-        shows[static_cast<std::size_t>(path.row - 1)].entry(), shared_from_this());
+    return m_environment->swipeActions(shows[static_cast<std::size_t>(path.row - 1)].entry(),
+                                       shared_from_this());
 }
 
 void RootViewController::selectedChannel(const Channel& channel) {
@@ -264,7 +266,7 @@ void RootViewController::rowWillBeDisplayed(IndexPath path) {
     }
     const Channel& channel = m_channels[static_cast<std::size_t>(path.section)];
     const ShowItem& show = channel.entries[static_cast<std::size_t>(path.row - 1)];
-    const bool imagesEnabled = m_environment->app.imagesEnabled();
+    const bool imagesEnabled = m_environment->settings.imagesEnabled();
     if (imagesEnabled && showImage(channel.identificator, identificatorOf(show))) {
         return;
     }
@@ -276,7 +278,7 @@ void RootViewController::rowWillBeDisplayed(IndexPath path) {
     }
     const auto record = m_environment->channels.channelWithChannelId(channel.identificator);
     if (record &&
-        record->reloadNeeded(m_environment->clock.now(), m_environment->app.automaticUpdateInterval())) {
+        record->reloadNeeded(m_environment->clock.now(), m_environment->settings.automaticUpdateInterval())) {
         return;
     }
     m_channelsWithLoadedShowDetails.insert(channel.identificator);
@@ -342,7 +344,7 @@ void RootViewController::detailsLoaded(const ObjectId& channel, const ShowItems&
             known.insert(identificatorOf(completed[index]), images[index]);
         }
     }
-    table().updateSection(*section, rowsOf(shown));
+    table().updateSection(*section, rowsOf(shown, ShowMarks(*m_environment)));
 }
 
 bool RootViewController::applicationActive() const {

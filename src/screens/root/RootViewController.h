@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/DispatchQueue.h"
+#include "screens/ShowMarks.h"
 #include "screens/shell/ListingsScreen.h"
 #include "screens/shell/ScreenEnvironment.h"
 
@@ -74,7 +75,7 @@ class RootViewController final : public ListingsScreen {
     std::optional<int> sectionOfChannel(const ObjectId& channel) const;
     bool applicationActive() const;
 
-    std::vector<Row> rowsOf(const Channel& channel) const;
+    std::vector<Row> rowsOf(const Channel& channel, const ShowMarks& marks) const;
     Row channelRow(const Channel& channel) const;
     void reloadTable();
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "alarms/AlarmSynchronisation.h"
+#include "alarms/Favorites.h"
+#include "alarms/PendingAlarms.h"
 #include "core/Catalogue.h"
 #include "core/TVChannels.h"
 #include "core/TVStationIcons.h"
@@ -7,11 +10,18 @@
 #include "platform/Device.h"
 #include "platform/DispatchQueue.h"
 #include "platform/LifeCycle.h"
-#include "screens/AppActions.h"
+#include "screens/AppNavigation.h"
+#include "screens/ListingsUpdates.h"
+#include "screens/ScreenSettings.h"
 #include "screens/ShowPictures.h"
-#include "store/ShowQuestions.h"
+#include "screens/kit/ViewController.h"
+#include "store/PopularShows.h"
 #include "store/TVListings.h"
 #include "text/Alphabet.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
 
 namespace guide {
 
@@ -28,11 +38,18 @@ struct ScreenEnvironment {
     TVStationIcons& icons;
     const Catalogue& catalogue;
     const Alphabet& alphabet;
-    const FavoriteQuestions& favorites;
-    const AlarmQuestions& alarms;
+    const FavoritesSource& favorites;
+    const AlarmsSource& alarms;
+    AlarmSynchronisation& alarmSynchronisation;
     const PopularShows& popularShows;
     ShowPictures& pictures;
-    AppActions& app;
+    const ScreenSettings& settings;
+    ListingsUpdates& updates;
+    AppNavigation& navigation;
+    /// What a swipe on a show's row offers; the actions may outlive the row.
+    std::function<std::vector<SwipeAction>(const std::shared_ptr<const TVEntry>&,
+                                           const std::shared_ptr<ViewController>&)>
+        swipeActions = [](const auto&, const auto&) { return std::vector<SwipeAction>(); };
 };
 
 } // namespace guide

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/Catalogue.h"
+#include "core/TVStationIcons.h"
+#include "store/ShowItem.h"
+
+#include <QDate>
+#include <QLocale>
+#include <QString>
+#include <QTimeZone>
+
+#include <span>
+#include <vector>
+
+namespace guide {
+
+/// The shows of one day.
+struct DaySection {
+    QDate day;
+    /// The day in the locale's long form.
+    QString title;
+    ShowItems shows;
+};
+
+/// Groups shows by the day of their start in the zone: days in the order of first appearance, the shows of a
+/// day in the order given. A show without a start is left out.
+std::vector<DaySection> daySections(std::span<const ShowItem> shows, const QLocale& locale,
+                                    const QTimeZone& zone);
+
+/// The shows whose channel is in the catalogue and has an icon, in the order given: the ones that a list of
+/// several channels can show. Looks at each channel once; icons are loaded on the way.
+ShowItems showsWithChannelIcon(std::span<const ShowItem> shows, const CatalogueSnapshot& channels,
+                               TVStationIcons& icons);
+
+} // namespace guide
