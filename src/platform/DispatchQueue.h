@@ -63,16 +63,11 @@ class DispatchQueue {
     /// and every one on the main queue, would never return and ends the process with a message.
     virtual void sync(const Block& block) = 0;
 
-    /// On a serial queue the same as async and sync.
+    /// On a serial queue the same as async.
     virtual void asyncBarrier(Block block) = 0;
-    virtual void syncBarrier(const Block& block) = 0;
 
     /// No block begins until every token has gone; a running one goes on. Suspensions nest.
     [[nodiscard]] virtual SuspensionToken suspend() = 0;
-
-    /// Ends the process with a message when the caller does not run on this queue: a fault of our own, never
-    /// one that input can cause.
-    virtual void assertCurrent() const = 0;
 };
 
 /// A number of blocks to be waited for together. May be used from any thread.

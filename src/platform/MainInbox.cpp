@@ -10,7 +10,7 @@ MainInbox::MainInbox(Block wakeUp, Later later)
     , m_thread(std::this_thread::get_id()) {}
 
 void MainInbox::runPending() {
-    assertCurrent();
+    requireMainThread();
     std::unique_lock guard(m_mutex);
     if (m_running) {
         // The outer call asks for another wake-up when it is done.
@@ -39,7 +39,7 @@ void MainInbox::runPending() {
 }
 
 void MainInbox::throwAway() {
-    assertCurrent();
+    requireMainThread();
     std::deque<Block> dropped;
     const std::lock_guard guard(m_mutex);
     m_thrownAway = true;
@@ -85,9 +85,9 @@ void MainInbox::resume() {
     }
 }
 
-void MainInbox::assertCurrent() const {
+void MainInbox::requireMainThread() const {
     if (std::this_thread::get_id() != m_thread) {
-        queueFault(*this, "not the queue that runs here");
+        queueFault(*this, "not on the main thread");
     }
 }
 

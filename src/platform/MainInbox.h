@@ -35,10 +35,10 @@ class MainInbox final : public DispatchQueue, public std::enable_shared_from_thi
     /// Always a fault: nobody waits for the main queue.
     void sync(const Block& block) override;
     void asyncBarrier(Block block) override { async(std::move(block)); }
-    void syncBarrier(const Block& block) override { sync(block); }
     [[nodiscard]] SuspensionToken suspend() override;
-    /// The whole main thread counts, also outside of a block.
-    void assertCurrent() const override;
+
+    /// Ends the process when the caller is on another thread.
+    void requireMainThread() const;
 
   private:
     void resume();

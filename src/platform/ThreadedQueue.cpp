@@ -61,14 +61,6 @@ void ThreadedQueue::asyncBarrier(Block block) {
     submit(std::move(block), true);
 }
 
-void ThreadedQueue::sync(const Block& block) {
-    runHere(block, m_kind == QueueKind::Serial);
-}
-
-void ThreadedQueue::syncBarrier(const Block& block) {
-    runHere(block, true);
-}
-
 void ThreadedQueue::asyncAfter(std::chrono::milliseconds delay, Block block) {
     m_host->timer.submitAfter(delay, shared_from_this(), std::move(block));
 }
@@ -87,12 +79,6 @@ void ThreadedQueue::resume() {
     advance();
 }
 
-void ThreadedQueue::assertCurrent() const {
-    if (QueueFrame::accessTo(*this) == QueueFrame::Access::None) {
-        queueFault(*this, "not the queue that runs here");
-    }
-}
-
 void ThreadedQueue::submit(Block block, bool alone) {
     const std::lock_guard guard(m_mutex);
     if (!m_stopped) {
@@ -102,15 +88,13 @@ void ThreadedQueue::submit(Block block, bool alone) {
     // A block that was not taken goes with the parameter, without the guard.
 }
 
-void ThreadedQueue::runHere(const Block& block, bool alone) {
+void ThreadedQueue::sync(const Block& block) {
+    const bool alone = m_kind == QueueKind::Serial;
     switch (QueueFrame::accessTo(*this)) {
     case QueueFrame::Access::None:
         break;
     case QueueFrame::Access::Shared:
-        if (alone) {
-            queueFault(*this, "barrier waited for from a block of the same queue");
-        }
-        // Part of the reader around it; to queue behind a barrier that waits for that one would never end.
+        // Part of the reader around it: behind a barrier that waits for that reader it would deadlock.
         block();
         return;
     case QueueFrame::Access::Alone:

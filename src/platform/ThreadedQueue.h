@@ -47,9 +47,7 @@ class ThreadedQueue final : public DispatchQueue,
     void asyncAfter(std::chrono::milliseconds delay, Block block) override;
     void sync(const Block& block) override;
     void asyncBarrier(Block block) override;
-    void syncBarrier(const Block& block) override;
     [[nodiscard]] SuspensionToken suspend() override;
-    void assertCurrent() const override;
 
     void runOnWorker() override;
 
@@ -69,7 +67,6 @@ class ThreadedQueue final : public DispatchQueue,
     };
 
     void submit(Block block, bool alone);
-    void runHere(const Block& block, bool alone);
     void resume();
 
     // With the mutex held:

@@ -51,7 +51,7 @@ std::shared_ptr<DispatchQueue> ThreadedQueues::makeQueue(std::string label, Queu
 }
 
 void ThreadedQueues::shutDown() {
-    m_main->assertCurrent();
+    m_main->requireMainThread();
     m_host->stop();
     m_main->throwAway();
 }
