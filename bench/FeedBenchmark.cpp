@@ -4,12 +4,12 @@
 // one.
 
 #include "GeneratedFeed.h"
-#include "fakes/ManualClock.h"
 #include "fakes/Packing.h"
 #include "parsers/ListDriver.h"
 #include "parsers/ProgrammeSkipScan.h"
 #include "parsers/XMLTVToEntries.h"
 #include "platform/Decompression.h"
+#include "platform/memory/ManualClock.h"
 #include "sources/PageText.h"
 
 #include <QFile>

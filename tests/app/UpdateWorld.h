@@ -8,9 +8,9 @@
 #include "fakes/FakeBackgroundTasks.h"
 #include "fakes/FakeDevice.h"
 #include "fakes/FakeHTTPClient.h"
-#include "fakes/ManualClock.h"
-#include "fakes/MemoryKeyValueStore.h"
-#include "fakes/MemoryUserDefaults.h"
+#include "platform/memory/ManualClock.h"
+#include "platform/memory/MemoryKeyValueStore.h"
+#include "platform/memory/MemoryUserDefaults.h"
 #include "sources/SourceId.h"
 
 #include <QDir>

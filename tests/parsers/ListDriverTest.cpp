@@ -1,7 +1,7 @@
 #include "parsers/ListDriver.h"
 
-#include "fakes/ManualClock.h"
 #include "parsers/XMLTVListReader.h"
+#include "platform/memory/ManualClock.h"
 #include "sources/SourceId.h"
 
 #include <gtest/gtest.h>

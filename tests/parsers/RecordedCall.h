@@ -1,7 +1,7 @@
 #pragma once
 
-#include "fakes/ManualClock.h"
 #include "parsers/ListDriver.h"
+#include "platform/memory/ManualClock.h"
 #include "sources/SourceId.h"
 
 #include <QDateTime>

@@ -1,12 +1,8 @@
 #include "fakes/ManualQueues.h"
 #include "platform/FileReplacement.h"
-#include "platform/linux/FolderKeyValueStore.h"
 #include "platform/linux/LinuxFolders.h"
 #include "platform/linux/SettingsUserDefaults.h"
 
-#include <QCborArray>
-#include <QCborMap>
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -171,94 +167,6 @@ TEST(SettingsUserDefaultsTest, ChangesAreWrittenSoonAndOnce) {
     EXPECT_EQ(SettingsUserDefaults(path).integerForKey(u"currently_show_count"_s), 5) << "written at the end";
     clock.advance(std::chrono::seconds(1));
     queues.runAll();
-}
-
-class FolderKeyValueStoreTest : public testing::Test {
-  protected:
-    QString fileOf(const QString& key) const { return folder.filePath(FolderKeyValueStore::fileName(key)); }
-
-    const QTemporaryDir folder;
-    FolderKeyValueStore store{folder.path()};
-};
-
-TEST_F(FolderKeyValueStoreTest, ValuesReachAnotherDevice) {
-    const QDateTime date(QDate(2025, 12, 31), QTime(18, 30, 1, 234), Qt::UTC);
-    const std::vector<std::pair<const char*, QCborValue>> values{
-        {"flag", true},
-        {"number", qint64{(qint64{1} << 60) + 1}},
-        {"fraction", -0.1},
-        {"whole fraction", 5.0},
-        {"large fraction", 1e300},
-        {"infinity", std::numeric_limits<double>::infinity()},
-        {"text", u"Večer \"x\" 📺"_s},
-        {"empty text", u""_s},
-        {"bytes", QByteArray("\0\1\xff", 3)},
-        {"no bytes", QByteArray()},
-        {"date", QCborValue(date)},
-        {"selection", QCborArray{QByteArray(12, '\x58'), QByteArray(12, '\0'), QCborArray{}}},
-    };
-    for (const auto& [name, value] : values) {
-        const QString key = QString::fromLatin1(name);
-        ASSERT_TRUE(store.setValue(key, value)) << name;
-        const std::optional<QCborValue> read = FolderKeyValueStore(folder.path()).valueForKey(key);
-        ASSERT_TRUE(read) << name;
-        EXPECT_EQ(read->type(), value.type()) << name;
-        EXPECT_EQ(*read, value) << name;
-        store.removeKey(key);
-        EXPECT_FALSE(store.valueForKey(key)) << name;
-    }
-}
-
-TEST_F(FolderKeyValueStoreTest, ReadsWhatOthersReplaced) {
-    const QString key = u"SelectedChannels"_s;
-    FolderKeyValueStore other(folder.path());
-    ASSERT_TRUE(store.setValue(key, 1));
-    EXPECT_EQ(other.valueForKey(key), QCborValue(1));
-    const std::optional<Moment> date = fileModificationDate(fileOf(key));
-    ASSERT_TRUE(store.setValue(key, 2));
-    // A sync tool may bring the date along: the size is the same as well.
-    ASSERT_TRUE(replaceFile(fileOf(key), contentOf(fileOf(key)), date));
-    EXPECT_EQ(other.valueForKey(key), QCborValue(2));
-    ASSERT_TRUE(replaceFile(fileOf(key), "{\"key\": \"SelectedChannels\", \"value\": [3]}"));
-    EXPECT_EQ(other.valueForKey(key), QCborValue(QCborArray{3}));
-    ASSERT_TRUE(QFile::remove(fileOf(key)));
-    EXPECT_FALSE(other.valueForKey(key));
-}
-
-TEST_F(FolderKeyValueStoreTest, ADamagedFileCountsAsAbsent) {
-    const std::vector<std::pair<const char*, QByteArray>> files{
-        {"empty", ""},
-        {"cut", "{\"key\": \"a\", \"val"},
-        {"of another key", "{\"key\": \"b\", \"value\": 1}"},
-        {"without a value", "{\"key\": \"a\"}"},
-        {"null", "{\"key\": \"a\", \"value\": null}"},
-        {"odd digits", "{\"key\": \"a\", \"value\": {\"bytes\": \"123\"}}"},
-        {"no digits", "{\"key\": \"a\", \"value\": {\"bytes\": \"zz\"}}"},
-        {"no date", "{\"key\": \"a\", \"value\": {\"date\": \"yesterday\"}}"},
-        {"unknown kind", "{\"key\": \"a\", \"value\": {\"colour\": \"red\"}}"},
-        {"deep", "{\"key\": \"a\", \"value\": " + QByteArray(500, '[') + QByteArray(500, ']') + "}"},
-        {"damage within", "{\"key\": \"a\", \"value\": [1, null]}"},
-    };
-    for (const auto& [name, content] : files) {
-        ASSERT_TRUE(replaceFile(fileOf(u"a"_s), content));
-        EXPECT_FALSE(store.valueForKey(u"a"_s)) << name;
-    }
-    EXPECT_TRUE(store.setValue(u"a"_s, 1));
-    EXPECT_FALSE(store.setValue(u"a"_s, QCborMap{{1, 2}}));
-    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(1)) << "the old value stays";
-}
-
-TEST_F(FolderKeyValueStoreTest, AnyKeyHasAFileOfItsOwnInTheFolder) {
-    const QString longKey(300, u'ž');
-    const QStringList keys{u"a"_s,  u"."_s,   u".."_s,   u"../a"_s, u"a/b"_s,   u"a%2Fb"_s, u""_s,
-                           u".a"_s, u"ž č"_s, u"a\nb"_s, u"a\0b"_s, u"CON~1"_s, longKey,    longKey + u'a'};
-    for (int index = 0; index < keys.size(); ++index) {
-        ASSERT_TRUE(store.setValue(keys[index], index)) << index;
-    }
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), keys.size());
-    for (int index = 0; index < keys.size(); ++index) {
-        EXPECT_EQ(FolderKeyValueStore(folder.path()).valueForKey(keys[index]), QCborValue(index)) << index;
-    }
 }
 
 } // namespace

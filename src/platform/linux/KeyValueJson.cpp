@@ -131,12 +131,16 @@ std::optional<QByteArray> keyValueJson(const QString& key, const QCborValue& val
     return QJsonDocument(QJsonObject{{kKey, key}, {kValue, *json}}).toJson();
 }
 
-std::optional<QCborValue> keyValueFromJson(const QString& key, const QByteArray& json) {
+std::optional<KeyValue> keyValueFromJson(const QByteArray& json) {
     const QJsonObject object = QJsonDocument::fromJson(json).object();
-    if (object.value(kKey) != key || !object.contains(kValue)) {
+    if (!object.value(kKey).isString() || !object.contains(kValue)) {
         return std::nullopt;
     }
-    return fromJson(object.value(kValue), 0);
+    std::optional<QCborValue> value = fromJson(object.value(kValue), 0);
+    if (!value) {
+        return std::nullopt;
+    }
+    return KeyValue{object.value(kKey).toString(), *std::move(value)};
 }
 
 } // namespace guide
