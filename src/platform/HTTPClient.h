@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Moment.h"
+#include "platform/TakePiece.h"
 
 #include <QByteArray>
 #include <QList>
@@ -53,7 +54,7 @@ struct TransferError {
 };
 
 /// What one transfer brought: a response and its body (content encodings undone); or an error, with the
-/// response as far as one came, and an empty body: half a page is none.
+/// response as far as one came, and an empty body: partial bodies are discarded.
 struct TransferResult {
     std::optional<HTTPResponse> response;
     QByteArray body;
@@ -66,7 +67,16 @@ struct TransferResult {
 class HTTPClient {
   public:
     virtual ~HTTPClient() = default;
-    virtual TransferResult perform(const HTTPRequest& request) = 0;
+    TransferResult perform(const HTTPRequest& request) { return perform(request, nullptr); }
+
+    /// With a `takePiece`, the body of a response with a status of success (200 to 299) goes to `takePiece`
+    /// as it arrives, on the calling thread, and the result's body is empty. Content encodings are undone and
+    /// the size bound counts all pieces. An error afterwards means that the pieces are not the whole body.
+    /// When `takePiece` returns false the transfer ends with a cancelled error. Bodies of other statuses are
+    /// collected in the result. A cached response arrives as one piece; a response that is delivered in
+    /// pieces is not stored, and an older one of the same URL is forgotten.
+    virtual TransferResult perform(const HTTPRequest& request, const TakePiece& takePiece) = 0;
+
     /// Forgets the cached response of the request's URL.
     virtual void removeCachedResponse(const HTTPRequest& request) = 0;
     /// Ends every running transfer with a cancelled error, and every later one at once: the way to shut down.

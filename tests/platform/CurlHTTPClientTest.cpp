@@ -1,9 +1,9 @@
 #include "platform/linux/CurlHTTPClient.h"
 
-#include "fakes/ManualClock.h"
 #include "fakes/Packing.h"
 #include "fakes/ScriptedServer.h"
 #include "platform/linux/GlobalLibraries.h"
+#include "platform/memory/ManualClock.h"
 
 #include <future>
 #include <gtest/gtest.h>
@@ -274,6 +274,80 @@ TEST_F(CurlHTTPClientTest, ContentEncodingsThatWereAskedForAreUndone) {
         server.reply(ScriptedReply::ok("as it is", {"Content-Encoding: xz"}));
     }
     EXPECT_EQ(client.perform(asked).body, "as it is") << "what nobody can undo is what the file is";
+}
+
+TEST_F(CurlHTTPClientTest, BodiesCanArriveInPieces) {
+    const QByteArray page = QByteArray("text ").repeated(19'000);
+    const QByteArray half = ScriptedReply::head(200, {"Content-Length: 10"}) + "half";
+    ScriptedReply slow = ScriptedReply::raw(ScriptedReply::head(200, {"Content-Length: 4"}) + "pa");
+    slow.then("ge", 20ms);
+    struct Case {
+        const char* name;
+        ScriptedReply reply;
+        QByteArray pieces;
+        QByteArray body;
+        bool error;
+    };
+    const std::vector<Case> cases{
+        {"with a pause", slow, "page", "", false},
+        {"packed for the transfer", ScriptedReply::ok(gzipped(page), {"Content-Encoding: gzip"}), page, "",
+         false},
+        {"not found", ScriptedReply::answer(404, "sorry"), "", "sorry", false},
+        {"cut short", ScriptedReply::raw(half), "half", "", true},
+        {"no body", ScriptedReply::ok(""), "", "", false},
+    };
+    HTTPRequest asked = request();
+    asked.headers = {{"Accept-Encoding", "gzip"}};
+    QByteArray pieces;
+    const TakePiece collect = [&pieces](QByteArrayView piece) {
+        pieces += piece;
+        return true;
+    };
+    for (const Case& each : cases) {
+        server.reply(each.reply);
+        pieces.clear();
+        const TransferResult result = client.perform(asked, collect);
+        EXPECT_EQ(pieces, each.pieces) << each.name;
+        EXPECT_EQ(result.body, each.body) << each.name;
+        EXPECT_EQ(result.error.has_value(), each.error) << each.name;
+    }
+
+    pieces.clear();
+    server.reply(ScriptedReply::raw(ScriptedReply::head(200) + QByteArray(kBodyLimit + 1, 'x')));
+    EXPECT_TRUE(client.perform(asked, collect).error) << "the bound holds for all pieces together";
+    EXPECT_LE(pieces.size(), kBodyLimit);
+
+    server.reply(ScriptedReply::raw(ScriptedReply::head(200) + "endless", End::Stall));
+    const TransferResult refused = client.perform(asked, [](QByteArrayView) { return false; });
+    EXPECT_TRUE(refused.error && refused.error->cancelled && refused.response);
+}
+
+TEST_F(CurlHTTPClientTest, PiecesPassTheCacheBy) {
+    HTTPRequest asked = request();
+    asked.cachePolicy = CachePolicy::ReturnCacheDataElseLoad;
+    QByteArray pieces;
+    const TakePiece collect = [&pieces](QByteArrayView piece) {
+        pieces += piece;
+        return true;
+    };
+    server.reply(ScriptedReply::ok("one"));
+    client.perform(asked, collect);
+    server.reply(ScriptedReply::ok("two"));
+    EXPECT_EQ(client.perform(asked).body, "two") << "a body in pieces is not stored";
+    EXPECT_FALSE(client.perform(asked, collect).error);
+    EXPECT_EQ(pieces, "onetwo") << "a cached body is delivered";
+    EXPECT_TRUE(client.perform(asked, [](QByteArrayView) { return false; }).error->cancelled);
+
+    asked.cachePolicy = CachePolicy::ReloadIgnoringCache;
+    server.reply(ScriptedReply::answer(500, "broken"));
+    client.perform(asked, collect);
+    asked.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
+    EXPECT_EQ(client.perform(asked).body, "two") << "a failure leaves the older response";
+    asked.cachePolicy = CachePolicy::ReloadIgnoringCache;
+    server.reply(ScriptedReply::ok("three"));
+    client.perform(asked, collect);
+    asked.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
+    EXPECT_TRUE(client.perform(asked).error) << "an older response is forgotten";
 }
 
 TEST_F(CurlHTTPClientTest, CookiesAreKeptForTheProcess) {

@@ -1,6 +1,7 @@
 #include "platform/linux/CurlHTTPClient.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace guide {
 
@@ -73,12 +74,18 @@ CurlHTTPClient::CurlHTTPClient(ResponseCache& cache, const CurlHTTPClientOptions
 
 CurlHTTPClient::~CurlHTTPClient() = default;
 
-TransferResult CurlHTTPClient::perform(const HTTPRequest& request) {
+TransferResult CurlHTTPClient::perform(const HTTPRequest& request, const TakePiece& takePiece) {
     if (m_cancelled.load()) {
         return cancelledTransfer();
     }
     if (request.cachePolicy != CachePolicy::ReloadIgnoringCache) {
         if (std::optional<TransferResult> cached = m_cache.cachedResponse(request)) {
+            if (takePiece) {
+                const QByteArray body = std::exchange(cached->body, {});
+                if (!body.isEmpty() && !takePiece(body)) {
+                    cached->error = refusedPiece();
+                }
+            }
             return *std::move(cached);
         }
         if (request.cachePolicy == CachePolicy::ReturnCacheDataDontLoad) {
@@ -88,12 +95,16 @@ TransferResult CurlHTTPClient::perform(const HTTPRequest& request) {
     if (const QString scheme = request.url.scheme(); scheme != "http"_L1 && scheme != "https"_L1) {
         return failed(u"only http and https are opened"_s);
     }
-    TransferResult result = transfer(request);
-    m_cache.store(request, result);
+    TransferResult result = transfer(request, takePiece);
+    if (!takePiece) {
+        m_cache.store(request, result);
+    } else if (result.response && isSuccess(result.response->statusCode)) {
+        m_cache.remove(request);
+    }
     return result;
 }
 
-TransferResult CurlHTTPClient::transfer(const HTTPRequest& request) {
+TransferResult CurlHTTPClient::transfer(const HTTPRequest& request, const TakePiece& takePiece) {
     const Lane lane(*this);
     if (lane.multi() == nullptr) {
         return failed(u"the transfer was cancelled"_s, m_cancelled.load());
@@ -101,7 +112,7 @@ TransferResult CurlHTTPClient::transfer(const HTTPRequest& request) {
     const auto until = std::chrono::steady_clock::now() + request.resourceTimeout;
     HTTPRequest asked = request;
     for (;;) {
-        CurlTransfer transfer(asked, m_settings);
+        CurlTransfer transfer(asked, takePiece, m_settings);
         TransferResult result = transfer.run(lane.multi(), m_cancelled);
         if (!request.waitsForConnectivity || !transfer.foundNoWay() || isThisMachine(request.url) ||
             m_hasNetwork()) {

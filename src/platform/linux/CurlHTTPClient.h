@@ -31,14 +31,15 @@ class CurlHTTPClient final : public HTTPClient {
     explicit CurlHTTPClient(ResponseCache& cache, const CurlHTTPClientOptions& options = {});
     ~CurlHTTPClient() override;
 
-    TransferResult perform(const HTTPRequest& request) override;
+    using HTTPClient::perform;
+    TransferResult perform(const HTTPRequest& request, const TakePiece& takePiece) override;
     void removeCachedResponse(const HTTPRequest& request) override;
     void cancelAll() override;
 
   private:
     class Lane;
 
-    TransferResult transfer(const HTTPRequest& request);
+    TransferResult transfer(const HTTPRequest& request, const TakePiece& takePiece);
     bool awaitNetwork(std::chrono::steady_clock::time_point until);
 
     ResponseCache& m_cache;

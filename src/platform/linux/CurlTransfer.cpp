@@ -40,8 +40,18 @@ bool areKnownEncodings(const QByteArray& encodings) {
 
 } // namespace
 
-CurlTransfer::CurlTransfer(const HTTPRequest& request, const CurlTransferSettings& settings)
+TransferError refusedPiece() {
+    return {u"the receiver of the body ended the transfer"_s, {}, {}, true};
+}
+
+bool isSuccess(int statusCode) {
+    return statusCode >= 200 && statusCode < 300;
+}
+
+CurlTransfer::CurlTransfer(const HTTPRequest& request, const TakePiece& takePiece,
+                           const CurlTransferSettings& settings)
     : m_request(request)
+    , m_takePiece(takePiece)
     , m_settings(settings)
     , m_easy(curl_easy_init()) {}
 
@@ -50,7 +60,8 @@ TransferResult CurlTransfer::run(CURLM* multi, const std::atomic<bool>& cancelle
         return result(Outcome::Broken);
     }
     Outcome outcome = drive(multi, cancelled);
-    if (outcome == Outcome::Done && m_code == CURLE_BAD_CONTENT_ENCODING && m_request.method == "GET" &&
+    if (outcome == Outcome::Done && m_code == CURLE_BAD_CONTENT_ENCODING && m_bodySize == 0 &&
+        m_request.method == "GET" &&
         !areKnownEncodings(m_response.header("Content-Encoding").value_or("none"))) {
         // The library gives up on an encoding that it does not know. Often it only says what the file is: an
         // xz file, say. So the body is asked for once more, to be taken as it comes.
@@ -188,16 +199,16 @@ bool CurlTransfer::isDone(CURLM* multi) {
 
 TransferResult CurlTransfer::result(Outcome outcome) {
     TransferResult result;
-    long status = 0;
-    if (m_easy) {
-        curl_easy_getinfo(m_easy.get(), CURLINFO_RESPONSE_CODE, &status);
-    }
-    if (status != 0) {
-        m_response.statusCode = static_cast<int>(status);
+    if (const int status = statusCode(); status != 0) {
+        m_response.statusCode = status;
         result.response = std::move(m_response);
     }
     if (outcome == Outcome::Done && m_code == CURLE_OK) {
         result.body = std::move(m_body);
+        return result;
+    }
+    if (m_refused) {
+        result.error = refusedPiece();
         return result;
     }
     result.error = TransferError{describe(outcome), {}, {}, outcome == Outcome::Cancelled};
@@ -233,7 +244,8 @@ std::size_t CurlTransfer::onHeader(char* data, std::size_t size, std::size_t cou
 
 std::size_t CurlTransfer::onBody(char* data, std::size_t size, std::size_t count, void* self) {
     const std::size_t bytes = size * count;
-    return static_cast<CurlTransfer*>(self)->takeBody(data, bytes) ? bytes : CURL_WRITEFUNC_ERROR;
+    const QByteArrayView view(data, static_cast<qsizetype>(bytes));
+    return static_cast<CurlTransfer*>(self)->takeBody(view) ? bytes : CURL_WRITEFUNC_ERROR;
 }
 
 int CurlTransfer::onProgress(void* self, curl_off_t /*downloadTotal*/, curl_off_t downloaded,
@@ -259,20 +271,33 @@ void CurlTransfer::takeHeader(const QByteArray& line) {
     }
 }
 
-bool CurlTransfer::takeBody(const char* data, std::size_t size) {
-    m_lastActivity = std::chrono::steady_clock::now();
-    const auto count = static_cast<qsizetype>(size);
-    if (count > m_settings.maximumBodySize - m_body.size()) {
+bool CurlTransfer::takeBody(QByteArrayView bytes) {
+    if (bytes.size() > m_settings.maximumBodySize - m_bodySize) {
         m_tooLarge = true;
         return false;
     }
-    if (m_body.isNull()) {
-        curl_off_t announced = 0;
-        curl_easy_getinfo(m_easy.get(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
-        m_body.reserve(std::clamp<qint64>(announced, count, m_settings.maximumBodySize));
+    m_bodySize += bytes.size();
+    if (m_takePiece && isSuccess(statusCode())) {
+        m_refused = !m_takePiece(bytes);
+    } else {
+        if (m_body.isNull()) {
+            curl_off_t announced = 0;
+            curl_easy_getinfo(m_easy.get(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
+            m_body.reserve(std::clamp<qint64>(announced, bytes.size(), m_settings.maximumBodySize));
+        }
+        m_body.append(bytes);
     }
-    m_body.append(data, count);
-    return true;
+    // The receiver's own time does not count as silence of the server.
+    m_lastActivity = std::chrono::steady_clock::now();
+    return !m_refused;
+}
+
+int CurlTransfer::statusCode() const {
+    long status = 0;
+    if (m_easy) {
+        curl_easy_getinfo(m_easy.get(), CURLINFO_RESPONSE_CODE, &status);
+    }
+    return static_cast<int>(status);
 }
 
 } // namespace guide

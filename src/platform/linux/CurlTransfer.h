@@ -19,11 +19,18 @@ struct CurlTransferSettings {
     std::vector<QByteArray> connectTo;
 };
 
+/// The error of a transfer whose receiver wanted no more.
+TransferError refusedPiece();
+
+bool isSuccess(int statusCode);
+
 /// One transfer, on the caller's thread. The wake-up function of the multi handle ends its wait, and with the
 /// cancelled flag set the transfer.
 class CurlTransfer {
   public:
-    CurlTransfer(const HTTPRequest& request, const CurlTransferSettings& settings);
+    /// Without a `takePiece` the body is collected in the result. All three must outlive the transfer.
+    CurlTransfer(const HTTPRequest& request, const TakePiece& takePiece,
+                 const CurlTransferSettings& settings);
     CurlTransfer(const CurlTransfer&) = delete;
     CurlTransfer& operator=(const CurlTransfer&) = delete;
 
@@ -50,9 +57,11 @@ class CurlTransfer {
     static int onProgress(void* self, curl_off_t downloadTotal, curl_off_t downloaded, curl_off_t uploadTotal,
                           curl_off_t uploaded);
     void takeHeader(const QByteArray& line);
-    bool takeBody(const char* data, std::size_t size);
+    bool takeBody(QByteArrayView bytes);
+    int statusCode() const;
 
     const HTTPRequest& m_request;
+    const TakePiece& m_takePiece;
     const CurlTransferSettings& m_settings;
     CurlEasy m_easy;
     CurlList m_headers;
@@ -62,7 +71,10 @@ class CurlTransfer {
 
     HTTPResponse m_response;
     QByteArray m_body;
+    /// Bytes of the body so far, collected or delivered.
+    qint64 m_bodySize = 0;
     bool m_tooLarge = false;
+    bool m_refused = false;
     SteadyTime m_lastActivity;
     curl_off_t m_moved = 0;
 };
