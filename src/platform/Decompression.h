@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/TakePiece.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 
@@ -28,6 +30,10 @@ bool hasXzSignature(QByteArrayView data);
 /// The content of a gzip file, all its members joined; what follows them is left. Of a file that is cut
 /// short, what came. Nothing, and a log line, when it is damaged, no gzip file at all, or over the limit.
 std::optional<QByteArray> dataWithCompressedData(QByteArrayView data, const DecompressionLimits& limits);
+
+/// The same content, in order, in pieces of at most 256 KB. False when
+/// dataWithCompressedData gives nothing, or when a piece was refused; what was taken until then is a prefix.
+bool unpackCompressedData(QByteArrayView data, const DecompressionLimits& limits, const TakePiece& takePiece);
 
 /// The content of an xz file, all its streams joined; of one that unpacks to more than the limit, what fits.
 /// Nothing when it is damaged, cut short, empty, or needs more memory than a quarter of the machine's.

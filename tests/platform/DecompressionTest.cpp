@@ -1,7 +1,12 @@
 #include "platform/Decompression.h"
 
 #include "fakes/Packing.h"
+#include "platform/GzipInflate.h"
 
+#include <QLoggingCategory>
+
+#include <algorithm>
+#include <array>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -26,6 +31,15 @@ QByteArray feed(qsizetype size) {
 QByteArray flipped(QByteArray bytes, qsizetype at) {
     bytes[at] = static_cast<char>(bytes.at(at) ^ 0x10);
     return bytes;
+}
+
+std::optional<QByteArray> inPieces(const QByteArray& data, const DecompressionLimits& limits) {
+    QByteArray all("");
+    const bool whole = unpackCompressedData(data, limits, [&all](QByteArrayView piece) {
+        all += piece;
+        return true;
+    });
+    return whole ? std::optional(all) : std::nullopt;
 }
 
 TEST(DecompressionTest, Gzip) {
@@ -58,11 +72,100 @@ TEST(DecompressionTest, Gzip) {
     };
     for (const Case& each : cases) {
         EXPECT_EQ(dataWithCompressedData(each.data, kLimits), each.expected) << each.name;
+        EXPECT_EQ(inPieces(each.data, kLimits), each.expected) << each.name;
     }
     const std::optional<QByteArray> part = dataWithCompressedData(packed.left(packed.size() / 2), kLimits);
     ASSERT_TRUE(part);
     EXPECT_GT(part->size(), 100'000);
     EXPECT_TRUE(large.startsWith(*part));
+}
+
+TEST(DecompressionTest, ARefusedPieceEndsIt) {
+    const QByteArray large = feed(1'000'000);
+    QByteArray taken;
+    EXPECT_FALSE(unpackCompressedData(gzipped(large), kLimits, [&](QByteArrayView piece) {
+        taken += piece;
+        return taken.size() < 500'000;
+    }));
+    EXPECT_GE(taken.size(), 500'000);
+    EXPECT_LT(taken.size(), 900'000);
+    EXPECT_TRUE(large.startsWith(taken));
+}
+
+class Collected final : public GzipOutput {
+  public:
+    std::span<char> room() override { return m_room; }
+    bool take(std::size_t count) override {
+        bytes.append(m_room.data(), static_cast<qsizetype>(count));
+        return bytes.size() <= kMost;
+    }
+
+    static constexpr qsizetype kMost = 200'000;
+    QByteArray bytes;
+
+  private:
+    std::array<char, 40'000> m_room;
+};
+
+/// A gzip file that was damaged, cut, joined with others or lengthened.
+QByteArray mutated(const std::vector<QByteArray>& files, std::minstd_rand& random) {
+    const auto below = [&random](qsizetype bound) { return static_cast<qsizetype>(random()) % bound; };
+    QByteArray file = files[random() % files.size()];
+    for (auto members = below(3); members > 0; --members) {
+        file += files[random() % files.size()];
+    }
+    switch (below(6)) {
+    case 0:
+        return file;
+    case 1:
+        return file.left(below(file.size() + 1));
+    case 2:
+        // Header and trailer are where a decoder goes wrong without the checksum noticing.
+        return flipped(file, below(std::min<qsizetype>(12, file.size())));
+    case 3:
+        return flipped(file, file.size() - 1 - below(10));
+    case 4:
+        return file + QByteArray(below(40), static_cast<char>(below(256)));
+    default:
+        return flipped(flipped(file, below(file.size())), below(file.size()));
+    }
+}
+
+TEST(DecompressionTest, BothGzipDecodersAgree) {
+    if (!hasIsal()) {
+        GTEST_SKIP() << "built with zlib alone";
+    }
+    QByteArray noise(40'000, Qt::Uninitialized);
+    std::minstd_rand random(3);
+    std::generate(noise.begin(), noise.end(), [&random] { return static_cast<char>(random() >> 8); });
+    // A header with every field that needs no check: text flag, extra field, name and comment.
+    const QByteArray fields =
+        QByteArray("\x1f\x8b\x08\x1d\0\0\0\0\0\x03\x02\0xy", 14) + QByteArray("name\0comment\0", 13);
+    const std::vector<QByteArray> files{gzipped(feed(60'000)),
+                                        gzipped(noise),
+                                        gzipped(""),
+                                        gzipped(QByteArray(150'000, 'x')),
+                                        fields + gzipped(feed(1'000)).sliced(10),
+                                        gzipped(QByteArray(Collected::kMost + 1, 'b'))};
+    QLoggingCategory::setFilterRules(QStringLiteral("default.info=false"));
+    int complete = 0;
+    for (int round = 0; round < 1'000; ++round) {
+        const QByteArray file = mutated(files, random);
+        Collected byIsal;
+        Collected byZlib;
+        const GzipEnd isal = inflateWithIsal(file, byIsal);
+        const GzipEnd zlib = inflateWithZlib(file, byZlib);
+        ASSERT_EQ(isal == GzipEnd::Complete, zlib == GzipEnd::Complete) << file.toBase64().constData();
+        if (isal == GzipEnd::Complete) {
+            ++complete;
+            ASSERT_EQ(byIsal.bytes, byZlib.bytes) << file.toBase64().constData();
+        }
+        if (round % 10 == 0) {
+            ASSERT_EQ(inPieces(file, kLimits), dataWithCompressedData(file, kLimits));
+        }
+    }
+    QLoggingCategory::setFilterRules({});
+    EXPECT_GT(complete, 150);
 }
 
 TEST(DecompressionTest, GzipBombGivesNothing) {
@@ -72,6 +175,8 @@ TEST(DecompressionTest, GzipBombGivesNothing) {
     EXPECT_FALSE(dataWithCompressedData(gzipped(QByteArray(1'000'001, 'b')), limits));
     EXPECT_FALSE(dataWithCompressedData(fits + gzipped("x"), limits));
     EXPECT_FALSE(dataWithCompressedData(gzipped(QByteArray(50'000'000, 'b')), limits));
+    EXPECT_TRUE(inPieces(fits, limits));
+    EXPECT_FALSE(inPieces(fits + gzipped("x"), limits));
 }
 
 TEST(DecompressionTest, Xz) {

@@ -1,6 +1,6 @@
 #include "platform/ResponseCache.h"
 
-#include "fakes/ManualClock.h"
+#include "platform/memory/ManualClock.h"
 
 #include <gtest/gtest.h>
 
