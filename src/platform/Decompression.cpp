@@ -18,7 +18,7 @@ namespace {
 constexpr std::uint64_t kGibibyte = std::uint64_t{1} << 30;
 constexpr std::uint64_t kSmallestRoom = 0x20000;
 constexpr std::size_t kWindowSize = 256 * 1024;
-// Deflate cannot say more than 1,032 bytes with one.
+// Deflate expands by at most 1,032.
 constexpr std::uint64_t kDeflateRatio = 1032;
 constexpr std::uint64_t kXzRatio = 23;
 constexpr qsizetype kSmallestGzipFile = 18;
@@ -30,13 +30,13 @@ bool beginsWith(QByteArrayView data, const char (&signature)[N]) {
     return data.size() >= static_cast<qsizetype>(N) && std::memcmp(data.data(), signature, N) == 0;
 }
 
-// One byte past the limit tells a file that ends there from one that goes on.
+// One byte more than the limit distinguishes a file that ends at the limit from a longer one.
 std::uint64_t roomWithin(std::uint64_t wanted, std::uint64_t limit) {
     return std::min(std::max(wanted, kSmallestRoom), limit + 1);
 }
 
-// The room to begin with: what the end of the file says of its last member, where that is possible, and a
-// byte more, so that the end is seen without growing.
+// The initial size: what the last four bytes of the file say about its last member, if plausible, and one
+// byte more so that the end is detected without growing.
 std::uint64_t firstRoom(QByteArrayView data, std::uint64_t limit) {
     const auto packed = static_cast<std::uint64_t>(data.size());
     std::uint64_t room = packed * 4;
@@ -49,10 +49,10 @@ std::uint64_t firstRoom(QByteArrayView data, std::uint64_t limit) {
     return roomWithin(room, limit);
 }
 
-// The two decoders write here one after the other when the first one gives up.
+// Both decoders write here, one after the other, when the first one gives up.
 class RestartableOutput : public GzipOutput {
   public:
-    /// From now on the same bytes come again, from the first one on.
+    /// The same content follows again from its first byte.
     virtual void restart() = 0;
 };
 
@@ -120,8 +120,8 @@ class WindowOutput final : public RestartableOutput {
     bool m_refused = false;
 };
 
-// zlib decides about every file that the other decoder does not find complete, so that a file gives the same
-// on every machine.
+// zlib decides about every file that ISA-L does not find complete, so that a file gives the same result on
+// every machine.
 GzipEnd inflateGzip(QByteArrayView data, RestartableOutput& output) {
     if (hasIsal()) {
         const GzipEnd end = inflateWithIsal(data, output);
@@ -145,7 +145,7 @@ struct LzmaStream {
     ~LzmaStream() { lzma_end(&stream); }
 };
 
-// Passes over the zero bytes that may stand between two streams of a file.
+// Skips the zero bytes that may separate two streams of a file.
 void skipPadding(lzma_stream& stream) {
     while (stream.avail_in > 0 && *stream.next_in == 0) {
         ++stream.next_in;
@@ -203,7 +203,7 @@ std::optional<QByteArray> dataWithXzData(QByteArrayView data, const Decompressio
     if (limit == 0) {
         return std::nullopt;
     }
-    // Untouched pages of a large block cost nothing, so the whole room is taken at once.
+    // Untouched pages of a large block cost nothing, so the whole size is allocated at once.
     QByteArray output(static_cast<qsizetype>(limit), Qt::Uninitialized);
     LzmaStream decoder;
     lzma_stream& stream = decoder.stream;

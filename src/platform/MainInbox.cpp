@@ -13,7 +13,7 @@ void MainInbox::runPending() {
     requireMainThread();
     std::unique_lock guard(m_mutex);
     if (m_running) {
-        // The outer call asks for another wake-up when it is done.
+        // The outer call requests another wake-up when it ends.
         return;
     }
     m_running = true;
@@ -38,17 +38,17 @@ void MainInbox::runPending() {
     }
 }
 
-void MainInbox::throwAway() {
+void MainInbox::discardAll() {
     requireMainThread();
     std::deque<Block> dropped;
     const std::lock_guard guard(m_mutex);
-    m_thrownAway = true;
+    m_discarding = true;
     dropped.swap(m_pending);
 }
 
 void MainInbox::async(Block block) {
     std::unique_lock guard(m_mutex);
-    if (m_thrownAway) {
+    if (m_discarding) {
         return;
     }
     m_pending.push_back(std::move(block));

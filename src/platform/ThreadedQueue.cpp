@@ -30,7 +30,7 @@ void QueueHost::stop() {
         m_stopped = true;
         queues.reserve(m_queues.size());
         for (ThreadedQueue* queue : m_queues) {
-            // A queue that is being destroyed waits for this guard in remove().
+            // A queue that is being destroyed blocks on this mutex in remove().
             if (auto alive = queue->weak_from_this().lock()) {
                 queues.push_back(std::move(alive));
             }
@@ -85,7 +85,7 @@ void ThreadedQueue::submit(Block block, bool alone) {
         m_pending.push_back({std::move(block), nullptr, alone});
         advance();
     }
-    // A block that was not taken goes with the parameter, without the guard.
+    // A block that was not queued is destroyed with the parameter, without the mutex.
 }
 
 void ThreadedQueue::sync(const Block& block) {
@@ -94,7 +94,8 @@ void ThreadedQueue::sync(const Block& block) {
     case QueueFrame::Access::None:
         break;
     case QueueFrame::Access::Shared:
-        // Part of the reader around it: behind a barrier that waits for that reader it would deadlock.
+        // Runs as part of the enclosing reader: queued behind a barrier that waits for that reader it would
+        // deadlock.
         block();
         return;
     case QueueFrame::Access::Alone:
@@ -138,7 +139,7 @@ void ThreadedQueue::runOnWorker() {
     {
         const QueueFrame frame(*this, item.alone);
         item.block();
-        // What the block held goes before the next one begins.
+        // Releases the captures before the next block begins.
         item.block = nullptr;
     }
     const std::lock_guard guard(m_mutex);

@@ -15,7 +15,7 @@ namespace {
 
 constexpr DecompressionLimits kLimits{std::uint64_t{1} << 30};
 
-/// Text that packs about as well as a feed does.
+/// Text with about the compression ratio of a feed.
 QByteArray feed(qsizetype size) {
     std::minstd_rand random(7);
     QByteArray bytes;
@@ -54,21 +54,21 @@ TEST(DecompressionTest, Gzip) {
     };
     const std::vector<Case> cases{
         {"one member", packed, large},
-        {"of no content", gzipped(""), QByteArray()},
-        {"of one chunk exactly", gzipped(chunk), chunk},
-        {"far beyond four times", gzipped(QByteArray(900'000, 'x')), QByteArray(900'000, 'x')},
+        {"empty content", gzipped(""), QByteArray()},
+        {"exactly one chunk", gzipped(chunk), chunk},
+        {"ratio far above four", gzipped(QByteArray(900'000, 'x')), QByteArray(900'000, 'x')},
         {"three members, the last one small", packed + packed + small, large + large + "small"},
-        {"a last member that hides the size of the first", gzipped(QByteArray(900'000, 'x')) + gzipped(""),
+        {"last member smaller than the first", gzipped(QByteArray(900'000, 'x')) + gzipped(""),
          QByteArray(900'000, 'x')},
-        {"padding behind", packed + QByteArray(512, '\0'), large},
-        {"rubbish behind", packed + "rubbish", large},
+        {"trailing zeros", packed + QByteArray(512, '\0'), large},
+        {"trailing garbage", packed + "garbage", large},
         {"damaged second member", packed + flipped(small, 12), std::nullopt},
         {"damaged content", flipped(packed, packed.size() / 2), std::nullopt},
         {"damaged checksum", flipped(packed, packed.size() - 6), std::nullopt},
         {"zlib wrapper", gzipped(large, kZlibWindow), std::nullopt},
-        {"no gzip at all", large, std::nullopt},
-        {"nothing", "", std::nullopt},
-        {"checksum cut off", packed.chopped(8), large},
+        {"not gzip", large, std::nullopt},
+        {"no data", "", std::nullopt},
+        {"missing checksum", packed.chopped(8), large},
     };
     for (const Case& each : cases) {
         EXPECT_EQ(dataWithCompressedData(each.data, kLimits), each.expected) << each.name;
@@ -80,7 +80,7 @@ TEST(DecompressionTest, Gzip) {
     EXPECT_TRUE(large.startsWith(*part));
 }
 
-TEST(DecompressionTest, ARefusedPieceEndsIt) {
+TEST(DecompressionTest, StopsAtARefusedPiece) {
     const QByteArray large = feed(1'000'000);
     QByteArray taken;
     EXPECT_FALSE(unpackCompressedData(gzipped(large), kLimits, [&](QByteArrayView piece) {
@@ -107,7 +107,7 @@ class Collected final : public GzipOutput {
     std::array<char, 40'000> m_room;
 };
 
-/// A gzip file that was damaged, cut, joined with others or lengthened.
+/// A gzip file that is joined with others, truncated, extended or damaged.
 QByteArray mutated(const std::vector<QByteArray>& files, std::minstd_rand& random) {
     const auto below = [&random](qsizetype bound) { return static_cast<qsizetype>(random()) % bound; };
     QByteArray file = files[random() % files.size()];
@@ -120,7 +120,7 @@ QByteArray mutated(const std::vector<QByteArray>& files, std::minstd_rand& rando
     case 1:
         return file.left(below(file.size() + 1));
     case 2:
-        // Header and trailer are where a decoder goes wrong without the checksum noticing.
+        // Faults in header and trailer are not covered by the checksum of the content.
         return flipped(file, below(std::min<qsizetype>(12, file.size())));
     case 3:
         return flipped(file, file.size() - 1 - below(10));
@@ -133,7 +133,7 @@ QByteArray mutated(const std::vector<QByteArray>& files, std::minstd_rand& rando
 
 TEST(DecompressionTest, BothGzipDecodersAgree) {
     if (!hasIsal()) {
-        GTEST_SKIP() << "built with zlib alone";
+        GTEST_SKIP() << "built without ISA-L";
     }
     QByteArray noise(40'000, Qt::Uninitialized);
     std::minstd_rand random(3);
@@ -168,7 +168,7 @@ TEST(DecompressionTest, BothGzipDecodersAgree) {
     EXPECT_GT(complete, 150);
 }
 
-TEST(DecompressionTest, GzipBombGivesNothing) {
+TEST(DecompressionTest, RefusesGzipBombs) {
     constexpr DecompressionLimits limits{4'000'000};
     const QByteArray fits = gzipped(QByteArray(1'000'000, 'b'));
     EXPECT_EQ(dataWithCompressedData(fits, limits)->size(), 1'000'000);
@@ -191,19 +191,19 @@ TEST(DecompressionTest, Xz) {
     const std::vector<Case> cases{
         {"one stream", packed, large},
         {"two streams, padded", packed + QByteArray(8, '\0') + packed, large + large},
-        {"rubbish behind", packed + "rubbish", large},
-        {"what fits into 23 times the size", bomb, QByteArray(bomb.size() * 23, 'b')},
+        {"trailing garbage", packed + "garbage", large},
+        {"truncated at 23 times the size", bomb, QByteArray(bomb.size() * 23, 'b')},
         {"damaged content", flipped(packed, packed.size() / 2), std::nullopt},
-        {"cut short", packed.chopped(1), std::nullopt},
+        {"truncated", packed.chopped(1), std::nullopt},
         {"half", packed.left(packed.size() / 2), std::nullopt},
-        {"of no content", xzPacked(""), std::nullopt},
-        {"no xz at all", large, std::nullopt},
-        {"nothing", "", std::nullopt},
+        {"empty content", xzPacked(""), std::nullopt},
+        {"not xz", large, std::nullopt},
+        {"no data", "", std::nullopt},
     };
     for (const Case& each : cases) {
         EXPECT_EQ(dataWithXzData(each.data, kLimits), each.expected) << each.name;
     }
-    // A machine with less memory than the decoder wants, and one with room for a part.
+    // A machine with less memory than the decoder needs, and one with room for a part.
     EXPECT_FALSE(dataWithXzData(packed, {1'000'000}));
     const QByteArray noise = gzipped(feed(1'000'000));
     const std::optional<QByteArray> part =
@@ -213,7 +213,7 @@ TEST(DecompressionTest, Xz) {
     EXPECT_TRUE(part->startsWith(noise + "bbb"));
 }
 
-TEST(DecompressionTest, KnowsPackedFilesByTheirFirstBytes) {
+TEST(DecompressionTest, RecognisesSignatures) {
     EXPECT_TRUE(hasGzipSignature(gzipped("x")));
     EXPECT_TRUE(hasXzSignature(xzPacked("x")));
     EXPECT_FALSE(hasGzipSignature(xzPacked("x")) || hasXzSignature(gzipped("x")));

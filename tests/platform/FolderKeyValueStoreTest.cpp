@@ -64,13 +64,13 @@ TEST_F(FolderKeyValueStoreTest, ValuesReachAnotherDevice) {
     }
 }
 
-TEST_F(FolderKeyValueStoreTest, ReadsWhatOthersReplaced) {
+TEST_F(FolderKeyValueStoreTest, ReadsFilesThatOthersReplaced) {
     const QString key = u"SelectedChannels"_s;
     ASSERT_TRUE(store.setValue(key, 1));
     EXPECT_EQ(other.valueForKey(key), QCborValue(1));
     const std::optional<Moment> date = fileModificationDate(fileOf(key));
     ASSERT_TRUE(store.setValue(key, 2));
-    // A sync tool may bring the date along: the size is the same as well.
+    // A sync tool may keep the date; the size is equal too.
     ASSERT_TRUE(replaceFile(fileOf(key), contentOf(fileOf(key)), date));
     EXPECT_EQ(other.valueForKey(key), QCborValue(2));
     ASSERT_TRUE(replaceFile(fileOf(key), "{\"key\": \"SelectedChannels\", \"value\": [3]}"));
@@ -82,7 +82,7 @@ TEST_F(FolderKeyValueStoreTest, ReadsWhatOthersReplaced) {
 TEST_F(FolderKeyValueStoreTest, OnlyWholeValuesAreRead) {
     const std::vector<std::pair<const char*, QByteArray>> files{
         {"empty", ""},
-        {"cut", "{\"key\": \"a\", \"val"},
+        {"truncated", "{\"key\": \"a\", \"val"},
         {"of another key", "{\"key\": \"b\", \"value\": 1}"},
         {"without a value", "{\"key\": \"a\"}"},
         {"null", "{\"key\": \"a\", \"value\": null}"},
@@ -105,10 +105,10 @@ TEST_F(FolderKeyValueStoreTest, OnlyWholeValuesAreRead) {
         EXPECT_EQ(other.valueForKey(u"a"_s), QCborValue(1)) << name;
     }
     EXPECT_FALSE(store.setValue(u"a"_s, QCborMap{{1, 2}}));
-    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(1)) << "the old value stays";
+    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(1)) << "the old value is kept";
 }
 
-TEST_F(FolderKeyValueStoreTest, AnyKeyHasAFileOfItsOwnInTheFolder) {
+TEST_F(FolderKeyValueStoreTest, EveryKeyHasItsOwnFileInTheFolder) {
     const QString longKey(300, u'ž');
     const QStringList keys{u"a"_s,  u"."_s,   u".."_s,   u"../a"_s, u"a/b"_s,   u"a%2Fb"_s, u""_s,
                            u".a"_s, u"ž č"_s, u"a\nb"_s, u"a\0b"_s, u"CON~1"_s, longKey,    longKey + u'a'};
@@ -132,7 +132,8 @@ class WatchedFolderTest : public FolderKeyValueStoreTest, public KeyValueStoreOb
 
     /// The keys that are announced after the next event from the folder.
     QStringList announced() {
-        EXPECT_TRUE(QTest::qWaitFor([this] { return queues.delayed() > 0; }, 10'000)) << "no event";
+        EXPECT_TRUE(QTest::qWaitFor([this] { return queues.delayed() > 0; }, 10'000))
+            << "no event from the watcher";
         clock.advance(std::chrono::milliseconds(250));
         queues.runAll();
         QStringList keys = std::exchange(m_announced, {});
@@ -157,7 +158,7 @@ TEST_F(WatchedFolderTest, AnnouncesWhatOthersChange) {
 
     other.setValue(u"a"_s, 4);
     EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(4));
-    EXPECT_EQ(announced(), QStringList(u"a"_s)) << "although it was read before";
+    EXPECT_EQ(announced(), QStringList(u"a"_s)) << "even if it was read already";
 
     store.setObserver(nullptr);
     other.setValue(u"a"_s, 5);
@@ -208,7 +209,7 @@ TEST_F(WatchedFolderTest, TheFolderMayVanishAndReturn) {
     EXPECT_EQ(announced(), QStringList());
     ASSERT_TRUE(QDir().mkpath(folder.path()));
     other.setValue(u"a"_s, 3);
-    EXPECT_EQ(announced(), QStringList(u"b"_s)) << "a is as before, b is gone";
+    EXPECT_EQ(announced(), QStringList(u"b"_s)) << "a has its old value, b is missing";
 }
 
 } // namespace

@@ -37,7 +37,7 @@ class Environment {
     std::vector<std::pair<const char*, QByteArray>> m_before;
 };
 
-TEST(LinuxFoldersTest, AProfileHoldsEverything) {
+TEST(LinuxFoldersTest, AProfileContainsAllFolders) {
     const QTemporaryDir root;
     const QString profile = root.filePath(u"new/profil č"_s);
     const std::optional<Folders> folders = linuxFolders({profile + u'/', root.path()});
@@ -55,7 +55,7 @@ TEST(LinuxFoldersTest, AProfileHoldsEverything) {
     EXPECT_TRUE(linuxFolders({profile, {}}));
 }
 
-TEST(LinuxFoldersTest, TheDesktopNamesTheFolders) {
+TEST(LinuxFoldersTest, UsesXDGFoldersWithoutAProfile) {
     const QTemporaryDir root;
     Environment environment;
     environment.set("HOME", root.filePath(u"home"_s));
@@ -72,14 +72,14 @@ TEST(LinuxFoldersTest, TheDesktopNamesTheFolders) {
     EXPECT_TRUE(QDir(folders->keyValueStore).exists());
 }
 
-TEST(LinuxFoldersTest, AFileInTheWayIsToldBeforeAnythingIsLost) {
+TEST(LinuxFoldersTest, FailsWhenAFileIsInTheWay) {
     const QTemporaryDir root;
     ASSERT_TRUE(replaceFile(root.filePath(u"profile"_s), "a file"));
     EXPECT_FALSE(linuxFolders({root.filePath(u"profile"_s), {}}));
     EXPECT_EQ(contentOf(root.filePath(u"profile"_s)), "a file");
 }
 
-TEST(SettingsUserDefaultsTest, ValuesSurviveWithTheirKinds) {
+TEST(SettingsUserDefaultsTest, ValuesKeepTheirTypes) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"settings.ini"_s);
     const QString text = u"Večer; \"x\" = 1, 2 \\ 📺"_s;
@@ -111,7 +111,7 @@ TEST(SettingsUserDefaultsTest, ValuesSurviveWithTheirKinds) {
     EXPECT_TRUE(SettingsUserDefaults(path).stringForKey(u"selectedCalendar"_s));
 }
 
-TEST(SettingsUserDefaultsTest, ReadsWhatAPersonWrites) {
+TEST(SettingsUserDefaultsTest, ReadsHandWrittenValues) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"settings.ini"_s);
     ASSERT_TRUE(replaceFile(path, "[General]\nshow_img=No\nbg_img = TRUE\nodd=perhaps\nempty=\n"));
@@ -135,7 +135,7 @@ TEST(SettingsUserDefaultsTest, WritesChangedKeysOnly) {
     EXPECT_TRUE(contentOf(path).contains("list=a, b"));
 }
 
-TEST(SettingsUserDefaultsTest, AFailedWriteStaysToBeWritten) {
+TEST(SettingsUserDefaultsTest, RetriesAFailedWrite) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"inside/settings.ini"_s);
     ASSERT_TRUE(replaceFile(folder.filePath(u"inside"_s), "a file in the way"));
@@ -148,7 +148,7 @@ TEST(SettingsUserDefaultsTest, AFailedWriteStaysToBeWritten) {
     EXPECT_EQ(SettingsUserDefaults(path).integerForKey(u"currently_show_count"_s), 3);
 }
 
-TEST(SettingsUserDefaultsTest, ChangesAreWrittenSoonAndOnce) {
+TEST(SettingsUserDefaultsTest, WritesChangesTogetherAfterADelay) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"settings.ini"_s);
     ManualClock clock;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr auto kNotYet = 30ms;
 
-/// Each kind of queues, and how time passes for it until what is due has run.
+/// The two kinds of queues; `pass` lets time pass and runs what is due.
 struct Threaded {
     ThreadedQueues queues{[] {}};
 
@@ -50,7 +50,7 @@ struct QueuesTest : testing::Test {
 using Kinds = testing::Types<Threaded, HandCranked>;
 TYPED_TEST_SUITE(QueuesTest, Kinds);
 
-TYPED_TEST(QueuesTest, SyncRunsOnTheCallersThreadAfterWhatCameBefore) {
+TYPED_TEST(QueuesTest, SyncRunsOnTheCallingThreadInOrder) {
     const std::thread::id caller = std::this_thread::get_id();
     this->serial->async(this->note('a'));
     this->serial->async(this->note('b'));
@@ -63,7 +63,7 @@ TYPED_TEST(QueuesTest, SyncRunsOnTheCallersThreadAfterWhatCameBefore) {
     EXPECT_EQ(this->log, "abcd");
 }
 
-TYPED_TEST(QueuesTest, ABarrierComesBetweenWhatCameBeforeAndAfter) {
+TYPED_TEST(QueuesTest, BarriersSeparateEarlierAndLaterBlocks) {
     std::atomic<int> before = 0;
     std::atomic<int> after = 0;
     for (int reader = 0; reader < 3; ++reader) {
@@ -88,7 +88,7 @@ TYPED_TEST(QueuesTest, AReaderMayReadAgainWhileABarrierWaits) {
     this->concurrent->sync([] {});
 }
 
-TYPED_TEST(QueuesTest, SuspensionsNestAndHoldBackEverything) {
+TYPED_TEST(QueuesTest, SuspensionsNest) {
     auto first = this->serial->suspend();
     auto second = this->serial->suspend();
     DispatchGroup group;
@@ -102,7 +102,7 @@ TYPED_TEST(QueuesTest, SuspensionsNestAndHoldBackEverything) {
     EXPECT_TRUE(group.wait(10s));
 }
 
-TYPED_TEST(QueuesTest, DelayedBlocksKeepTheirTimesAndOrder) {
+TYPED_TEST(QueuesTest, DelayedBlocksKeepTheirOrder) {
     this->serial->asyncAfter(60ms, this->note('c'));
     this->serial->asyncAfter(20ms, this->note('a'));
     this->serial->asyncAfter(20ms, this->note('b'));
@@ -111,7 +111,7 @@ TYPED_TEST(QueuesTest, DelayedBlocksKeepTheirTimesAndOrder) {
     this->serial->sync([&] { EXPECT_EQ(this->log, "abc"); });
 }
 
-TYPED_TEST(QueuesTest, ShutDownDropsWhatHasNotBegunAndReleasesWhatItHolds) {
+TYPED_TEST(QueuesTest, ShutDownDropsPendingBlocksAndReleasesCaptures) {
     auto screen = std::make_shared<SuspensionToken>(this->concurrent->suspend());
     const std::weak_ptr<SuspensionToken> token = screen;
     const auto held = std::make_shared<int>();
@@ -126,7 +126,7 @@ TYPED_TEST(QueuesTest, ShutDownDropsWhatHasNotBegunAndReleasesWhatItHolds) {
     EXPECT_EQ(this->log, "");
 }
 
-TYPED_TEST(QueuesTest, AQueueThatNobodyHoldsFinishesItsWork) {
+TYPED_TEST(QueuesTest, AnUnreferencedQueueFinishesItsWork) {
     DispatchGroup group;
     group.async(*this->serial, this->note('a'));
     this->serial.reset();
@@ -136,7 +136,7 @@ TYPED_TEST(QueuesTest, AQueueThatNobodyHoldsFinishesItsWork) {
 
 using ThreadedQueuesTest = QueuesTest<Threaded>;
 
-TEST_F(ThreadedQueuesTest, BarrierRunsAloneAndWhatComesAfterWaitsForIt) {
+TEST_F(ThreadedQueuesTest, BarriersRunAlone) {
     std::latch readersMeet(2);
     std::promise<void> open;
     const std::shared_future<void> opened = open.get_future().share();
@@ -179,7 +179,7 @@ TEST_F(ThreadedQueuesTest, SyncNeedsNoWorker) {
     bool ran = false;
     serial->sync([&] { ran = true; });
     EXPECT_TRUE(ran);
-    // Another class has workers of its own.
+    // Another class has its own workers.
     DispatchGroup group;
     group.async(kind.queues.globalQueue(QueuePriority::Background), [] {});
     EXPECT_TRUE(group.wait(10s));
@@ -187,7 +187,7 @@ TEST_F(ThreadedQueuesTest, SyncNeedsNoWorker) {
     kind.queues.shutDown();
 }
 
-TEST_F(ThreadedQueuesTest, BlockedWorkersAreReplaced) {
+TEST_F(ThreadedQueuesTest, ReplacesBlockedWorkers) {
     DispatchQueue& global = kind.queues.globalQueue(QueuePriority::Default);
     std::function<void(int)> descend = [&](int depth) {
         if (depth > 0) {
@@ -199,7 +199,7 @@ TEST_F(ThreadedQueuesTest, BlockedWorkersAreReplaced) {
     descend(40);
 }
 
-TEST_F(ThreadedQueuesTest, ASyncWaitsForTheEndOfASuspension) {
+TEST_F(ThreadedQueuesTest, SyncWaitsForTheEndOfASuspension) {
     auto token = serial->suspend();
     auto synced = std::async(std::launch::async, [&] { serial->sync([] {}); });
     EXPECT_EQ(synced.wait_for(kNotYet), std::future_status::timeout);
@@ -207,7 +207,7 @@ TEST_F(ThreadedQueuesTest, ASyncWaitsForTheEndOfASuspension) {
     synced.wait();
 }
 
-TEST_F(ThreadedQueuesTest, ShutDownReleasesEveryoneWhoWaits) {
+TEST_F(ThreadedQueuesTest, ShutDownReleasesWaitingCallers) {
     auto token = std::make_shared<SuspensionToken>(concurrent->suspend());
     kind.queues.mainQueue().async([token = std::move(token)] {});
     std::promise<void> open;
@@ -236,7 +236,7 @@ TEST_F(ThreadedQueuesTest, ShutDownReleasesEveryoneWhoWaits) {
     EXPECT_TRUE(dropped);
 }
 
-TEST_F(ThreadedQueuesTest, MisuseEndsTheProcessInsteadOfHanging) {
+TEST_F(ThreadedQueuesTest, MisuseEndsTheProcess) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_DEATH(serial->sync([&] { serial->sync([] {}); }), "sync from a block of the same queue");
     EXPECT_DEATH(kind.queues.mainQueue().sync([] {}), "queue main: waited for");

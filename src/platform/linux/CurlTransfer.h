@@ -12,23 +12,22 @@
 
 namespace guide {
 
-/// What all transfers of one client have in common.
+/// Settings of all transfers of a client.
 struct CurlTransferSettings {
     CURLSH* share = nullptr;
     qint64 maximumBodySize = 0;
     std::vector<QByteArray> connectTo;
 };
 
-/// The error of a transfer whose receiver wanted no more.
+/// The error of a transfer whose receiver refused a piece.
 TransferError refusedPiece();
 
 bool isSuccess(int statusCode);
 
-/// One transfer, on the caller's thread. The wake-up function of the multi handle ends its wait, and with the
-/// cancelled flag set the transfer.
+/// A transfer on the calling thread. Waking up the multi handle with the cancelled flag set ends it.
 class CurlTransfer {
   public:
-    /// Without a `takePiece` the body is collected in the result. All three must outlive the transfer.
+    /// Without a `takePiece` the body is collected in the result. The arguments must outlive the transfer.
     CurlTransfer(const HTTPRequest& request, const TakePiece& takePiece,
                  const CurlTransferSettings& settings);
     CurlTransfer(const CurlTransfer&) = delete;
@@ -36,8 +35,8 @@ class CurlTransfer {
 
     TransferResult run(CURLM* multi, const std::atomic<bool>& cancelled);
 
-    /// Whether the transfer that has run found no way to the server.
-    bool foundNoWay() const;
+    /// Whether the finished transfer failed to resolve or connect to the server.
+    bool couldNotConnect() const;
 
   private:
     using SteadyTime = std::chrono::steady_clock::time_point;

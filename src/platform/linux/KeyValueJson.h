@@ -8,7 +8,7 @@
 
 namespace guide {
 
-/// The text of a key-value file; nothing when the value is of no kind that the store takes.
+/// The text of a key-value file; empty when the value has a type that the store does not support.
 std::optional<QByteArray> keyValueJson(const QString& key, const QCborValue& value);
 
 struct KeyValue {
@@ -16,7 +16,7 @@ struct KeyValue {
     QCborValue value;
 };
 
-/// Reads the text of a key-value file; nothing when it is damaged.
+/// Reads the text of a key-value file; empty when it is damaged.
 std::optional<KeyValue> keyValueFromJson(const QByteArray& json);
 
 } // namespace guide
