@@ -3,12 +3,12 @@
 // QUELLIN_FEED names another feed (plain, .gz or .xz) to measure instead of the generated one.
 
 #include "GeneratedFeed.h"
-#include "fakes/ManualClock.h"
 #include "fakes/Packing.h"
 #include "parsers/ListDriver.h"
 #include "parsers/xmltv/ProgrammeSkipScan.h"
 #include "parsers/xmltv/XMLTVToEntries.h"
 #include "platform/Decompression.h"
+#include "platform/memory/ManualClock.h"
 #include "sources/PageText.h"
 
 #include <QFile>

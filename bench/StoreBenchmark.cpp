@@ -1,9 +1,11 @@
 #include "GeneratedShows.h"
 #include "StoreFloor.h"
-#include "fakes/ManualClock.h"
 #include "fakes/StoreFixture.h"
 #include "platform/FileReplacement.h"
 #include "platform/ThreadedQueues.h"
+#include "platform/memory/ManualClock.h"
+#include "platform/memory/MemoryKeyValueStore.h"
+#include "platform/memory/MemoryUserDefaults.h"
 #include "store/ShowCoding.h"
 #include "store/TVListings.h"
 

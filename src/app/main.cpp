@@ -97,7 +97,7 @@ int run(LaunchOptions options) {
     SettingsUserDefaults userDefaults(
         folders->configuration + "/settings.ini"_L1,
         queues.makeQueue("settings", QueueKind::Serial, QueuePriority::Background));
-    FolderKeyValueStore keyValueStore(folders->keyValueStore);
+    FolderKeyValueStore keyValueStore(folders->keyValueStore, queues);
     LinuxBackgroundTasks backgroundTasks(queues);
     WindowState state;
     const Settings settings(userDefaults);

@@ -7,11 +7,11 @@
 
 namespace guide {
 
-/// The container of every archive of ours: a signature, a version, a checksum of the content, the content
-/// (CBOR). Small archives go through these two; lists of shows through KeyedArchiver and KeyedUnarchiver.
+/// Archives share one container: a signature, a version, a checksum and the content (CBOR). These two
+/// functions are for small archives; KeyedArchiver and KeyedUnarchiver for lists of shows.
 QByteArray archivedData(const QCborValue& root);
 
-/// Nothing when the bytes are no archive, of another version, cut short or damaged.
+/// Empty when the bytes are not an archive, have another version, or are truncated or damaged.
 std::optional<QCborValue> unarchivedRoot(const QByteArray& data);
 
 } // namespace guide

@@ -10,7 +10,7 @@ namespace guide {
 
 namespace {
 
-// The first byte is none of text, and a line end that was translated on the way shows.
+// The first byte cannot occur in text, and translated line ends break the signature.
 constexpr std::array<char, 8> kSignature{'\x89', 'G', 'u', 'i', 'd', 'e', '\r', '\n'};
 constexpr std::uint32_t kVersion = 1;
 constexpr std::size_t kVersionOffset = 8;
@@ -20,7 +20,7 @@ static_assert(kChecksumOffset + sizeof(std::uint64_t) == kArchiveHeaderSize);
 constexpr std::uint64_t kOdd1 = 0x9e3779b97f4a7c15U;
 constexpr std::uint64_t kOdd2 = 0xc2b2ae3d27d4eb4fU;
 
-// Every step can be undone for a known other argument, so one changed word cannot vanish.
+// Invertible in each argument, so that changing one word always changes the sum.
 constexpr std::uint64_t mixed(std::uint64_t sum, std::uint64_t word) {
     return std::rotl(sum + word * kOdd2, 31) * kOdd1;
 }
@@ -30,7 +30,7 @@ constexpr std::uint64_t mixed(std::uint64_t sum, std::uint64_t word) {
 std::uint64_t contentChecksum(QByteArrayView content) {
     const char* at = content.data();
     auto left = static_cast<std::size_t>(content.size());
-    // Four sums side by side: one alone would wait for its own multiplications.
+    // Four independent sums: a single one would be bound by the latency of its multiplications.
     std::array<std::uint64_t, 4> lanes{kOdd1, kOdd2, ~kOdd1, ~kOdd2};
     for (; left >= 32; at += 32, left -= 32) {
         for (std::size_t lane = 0; lane < 4; ++lane) {

@@ -9,18 +9,18 @@
 
 namespace guide {
 
-/// How many bytes stand before the content of an archive: signature, version and checksum.
+/// Size of the header (signature, version and checksum) in front of the content, in bytes.
 inline constexpr std::size_t kArchiveHeaderSize = 20;
 
-/// Fills in the first kArchiveHeaderSize bytes of an archive whose content already follows them.
+/// Writes the header into the first kArchiveHeaderSize bytes of an archive whose content follows them.
 void sealArchive(QByteArray& archive);
 
-/// The content of a sealed archive; nothing when the bytes are none, of another version, cut short or
-/// damaged.
+/// The content of a sealed archive; empty when the bytes are not an archive, have another version, or are
+/// truncated or damaged.
 std::optional<QByteArrayView> archiveContent(QByteArrayView archive);
 
-/// A 64-bit checksum at memory speed: any change within one aligned run of eight bytes changes it for
-/// certain, any other but for one chance in 2^64. No protection against a forger.
+/// A fast 64-bit checksum. A change within one aligned run of eight bytes always changes it, any other change
+/// with a probability of 1 - 2^-64. It does not protect against forgery.
 std::uint64_t contentChecksum(QByteArrayView content);
 
 } // namespace guide

@@ -21,7 +21,7 @@ using Converter = std::unique_ptr<UConverter, ConverterDeleter>;
 
 constexpr qsizetype kLongestName = 60;
 
-// ISO-8859-16, which the library lacks: its upper half from 0xA0. Everything below stands for itself.
+// The upper half of ISO-8859-16 from 0xA0, which ICU lacks. Bytes below map to themselves.
 constexpr std::u16string_view kLatin10 =
     u"\u00a0ĄąŁ€„Š§š©Ș«Ź\u00adźŻ°±ČłŽ”¶·žčș»ŒœŸżÀÁÂĂÄĆÆÇÈÉÊËÌÍÎÏĐŃÒÓÔŐÖŚŰÙÚÛÜĘȚß"
     u"àáâăäćæçèéêëìíîïđńòóôőöśűùúûüęțÿ";
@@ -48,8 +48,8 @@ QByteArray fromLatin10(const QByteArray& bytes) {
     return text.toUtf8();
 }
 
-// A comma opens the converter's own options, which are no part of a name; an empty name would be the system's
-// set.
+// A comma begins the converter's options and is not part of a name; an empty name would select the system's
+// character set.
 Converter openConverter(const QString& name) {
     const QByteArray plain = name.trimmed().toLatin1();
     bool letters = false;

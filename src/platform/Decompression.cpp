@@ -1,14 +1,15 @@
 #include "platform/Decompression.h"
 
+#include "platform/GzipInflate.h"
+
 #include <QDebug>
 #include <QtEndian>
 
 #include <algorithm>
 #include <cstring>
-#include <limits>
 #include <lzma.h>
 #include <memory>
-#include <zlib.h>
+#include <utility>
 
 namespace guide {
 
@@ -16,28 +17,26 @@ namespace {
 
 constexpr std::uint64_t kGibibyte = std::uint64_t{1} << 30;
 constexpr std::uint64_t kSmallestRoom = 0x20000;
-// Deflate cannot say more than 1,032 bytes with one.
+constexpr std::size_t kWindowSize = 256 * 1024;
+// Deflate expands by at most 1,032.
 constexpr std::uint64_t kDeflateRatio = 1032;
 constexpr std::uint64_t kXzRatio = 23;
-// A gzip wrapper and nothing else.
-constexpr int kGzipWindowBits = 31;
 constexpr qsizetype kSmallestGzipFile = 18;
 constexpr char kGzipSignature[] = {'\x1f', '\x8b'};
 constexpr char kXzSignature[] = {'\xfd', '7', 'z', 'X', 'Z', '\0'};
-// The decoders count in 32 bits on one side of the interface.
-constexpr std::uint64_t kLargestStep = kGibibyte;
 
 template <std::size_t N>
 bool beginsWith(QByteArrayView data, const char (&signature)[N]) {
     return data.size() >= static_cast<qsizetype>(N) && std::memcmp(data.data(), signature, N) == 0;
 }
 
-uInt step(std::uint64_t size) {
-    return static_cast<uInt>(std::min(size, kLargestStep));
+// One byte more than the limit distinguishes a file that ends at the limit from a longer one.
+std::uint64_t roomWithin(std::uint64_t wanted, std::uint64_t limit) {
+    return std::min(std::max(wanted, kSmallestRoom), limit + 1);
 }
 
-// The room to begin with: what the end of the file says of its last member, where that is possible, and a
-// byte more, so that the end is seen without growing.
+// The initial size: what the last four bytes of the file say about its last member, if plausible, and one
+// byte more so that the end is detected without growing.
 std::uint64_t firstRoom(QByteArrayView data, std::uint64_t limit) {
     const auto packed = static_cast<std::uint64_t>(data.size());
     std::uint64_t room = packed * 4;
@@ -47,99 +46,96 @@ std::uint64_t firstRoom(QByteArrayView data, std::uint64_t limit) {
             room = said + 1;
         }
     }
-    return std::clamp(room, kSmallestRoom, limit + 1);
+    return roomWithin(room, limit);
 }
 
-class Inflater {
+// Both decoders write here, one after the other, when the first one gives up.
+class RestartableOutput : public GzipOutput {
   public:
-    explicit Inflater(QByteArrayView data)
-        : m_data(data) {}
-    Inflater(const Inflater&) = delete;
-    Inflater& operator=(const Inflater&) = delete;
-    ~Inflater() {
-        if (m_open) {
-            inflateEnd(&m_stream);
-        }
-    }
+    /// The same content follows again from its first byte.
+    virtual void restart() = 0;
+};
 
-    std::optional<QByteArray> run(std::uint64_t limit) {
-        if (inflateInit2(&m_stream, kGzipWindowBits) != Z_OK) {
-            qInfo("ret != Z_OK");
-            return std::nullopt;
+class WholeOutput final : public RestartableOutput {
+  public:
+    WholeOutput(std::uint64_t firstRoom, std::uint64_t limit)
+        : m_bytes(static_cast<qsizetype>(firstRoom), Qt::Uninitialized)
+        , m_limit(limit) {}
+
+    std::span<char> room() override {
+        if (m_written == size()) {
+            m_bytes.resize(static_cast<qsizetype>(roomWithin(m_written * 2, m_limit)));
         }
-        m_open = true;
-        m_stream.next_in =
-            const_cast<Bytef*>(reinterpret_cast<const Bytef*>(m_data.data())); // NOLINT: zlib reads
-        m_left = static_cast<std::uint64_t>(m_data.size());
-        m_output = QByteArray(static_cast<qsizetype>(firstRoom(m_data, limit)), Qt::Uninitialized);
-        for (;;) {
-            if (m_written == static_cast<std::uint64_t>(m_output.size()) && !grow(limit)) {
-                qInfo("gzip file unpacks to more than %llu bytes", static_cast<unsigned long long>(limit));
-                return std::nullopt;
-            }
-            const int outcome = inflateOnce();
-            if (outcome == Z_STREAM_END) {
-                if (!nextMember()) {
-                    break;
-                }
-            } else if (outcome != Z_OK) {
-                // Nothing left to read is the end of a file that was cut short: what came stays.
-                if (outcome == Z_BUF_ERROR && inputEnded() && m_written > 0) {
-                    break;
-                }
-                qInfo("inflate: ret != Z_OK %d", outcome);
-                return std::nullopt;
-            } else if (inputEnded() && m_written < static_cast<std::uint64_t>(m_output.size())) {
-                break;
-            }
-        }
-        if (m_written > limit) {
-            qInfo("gzip file unpacks to more than %llu bytes", static_cast<unsigned long long>(limit));
-            return std::nullopt;
-        }
-        m_output.truncate(static_cast<qsizetype>(m_written));
-        return std::move(m_output);
+        return {m_bytes.data() + m_written, size() - m_written};
+    }
+    bool take(std::size_t count) override {
+        m_written += count;
+        return m_written <= m_limit;
+    }
+    void restart() override { m_written = 0; }
+
+    QByteArray bytes() && {
+        m_bytes.truncate(static_cast<qsizetype>(m_written));
+        return std::move(m_bytes);
     }
 
   private:
-    bool inputEnded() const { return m_left == 0 && m_stream.avail_in == 0; }
+    std::uint64_t size() const { return static_cast<std::uint64_t>(m_bytes.size()); }
 
-    int inflateOnce() {
-        if (m_stream.avail_in == 0) {
-            m_stream.avail_in = step(m_left);
-            m_left -= m_stream.avail_in;
-        }
-        const uInt room = step(static_cast<std::uint64_t>(m_output.size()) - m_written);
-        m_stream.next_out = reinterpret_cast<Bytef*>(m_output.data() + m_written);
-        m_stream.avail_out = room;
-        const int outcome = inflate(&m_stream, Z_NO_FLUSH);
-        m_written += room - m_stream.avail_out;
-        return outcome;
-    }
-
-    bool nextMember() {
-        const std::uint64_t left = m_left + m_stream.avail_in;
-        const QByteArrayView rest = m_data.last(static_cast<qsizetype>(left));
-        return hasGzipSignature(rest) && inflateReset(&m_stream) == Z_OK;
-    }
-
-    // One byte past the limit tells a file that ends there from one that goes on.
-    bool grow(std::uint64_t limit) {
-        if (m_written > limit) {
-            return false;
-        }
-        const std::uint64_t room = std::clamp(m_written * 2, kSmallestRoom, limit + 1);
-        m_output.resize(static_cast<qsizetype>(room));
-        return true;
-    }
-
-    QByteArrayView m_data;
-    z_stream m_stream{};
-    bool m_open = false;
-    std::uint64_t m_left = 0;
-    QByteArray m_output;
+    QByteArray m_bytes;
+    std::uint64_t m_limit;
     std::uint64_t m_written = 0;
 };
+
+class WindowOutput final : public RestartableOutput {
+  public:
+    WindowOutput(const TakePiece& takePiece, std::uint64_t limit)
+        : m_takePiece(takePiece)
+        , m_limit(limit) {}
+
+    std::span<char> room() override { return {m_window.get(), kWindowSize}; }
+    bool take(std::size_t count) override {
+        m_position += count;
+        if (m_position > m_limit) {
+            return false;
+        }
+        if (m_position <= m_delivered) {
+            return true;
+        }
+        const std::size_t fresh = std::min<std::uint64_t>(count, m_position - m_delivered);
+        m_delivered = m_position;
+        m_refused = !m_takePiece(QByteArrayView(m_window.get() + (count - fresh), qsizetype(fresh)));
+        return !m_refused;
+    }
+    void restart() override { m_position = 0; }
+
+    bool refused() const { return m_refused; }
+
+  private:
+    const TakePiece& m_takePiece;
+    const std::uint64_t m_limit;
+    const std::unique_ptr<char[]> m_window{new char[kWindowSize]};
+    std::uint64_t m_position = 0;
+    std::uint64_t m_delivered = 0;
+    bool m_refused = false;
+};
+
+// zlib decides about every file that ISA-L does not find complete, so that a file gives the same result on
+// every machine.
+GzipEnd inflateGzip(QByteArrayView data, RestartableOutput& output) {
+    if (hasIsal()) {
+        const GzipEnd end = inflateWithIsal(data, output);
+        if (end == GzipEnd::Complete || end == GzipEnd::Stopped) {
+            return end;
+        }
+        output.restart();
+    }
+    return inflateWithZlib(data, output);
+}
+
+void logOverLimit(std::uint64_t limit) {
+    qInfo("gzip file unpacks to more than %llu bytes", static_cast<unsigned long long>(limit));
+}
 
 struct LzmaStream {
     lzma_stream stream = LZMA_STREAM_INIT;
@@ -149,7 +145,7 @@ struct LzmaStream {
     ~LzmaStream() { lzma_end(&stream); }
 };
 
-// Passes over the zero bytes that may stand between two streams of a file.
+// Skips the zero bytes that may separate two streams of a file.
 void skipPadding(lzma_stream& stream) {
     while (stream.avail_in > 0 && *stream.next_in == 0) {
         ++stream.next_in;
@@ -176,7 +172,30 @@ bool hasXzSignature(QByteArrayView data) {
 }
 
 std::optional<QByteArray> dataWithCompressedData(QByteArrayView data, const DecompressionLimits& limits) {
-    return Inflater(data).run(limits.gzipLimit());
+    const std::uint64_t limit = limits.gzipLimit();
+    WholeOutput output(firstRoom(data, limit), limit);
+    switch (inflateGzip(data, output)) {
+    case GzipEnd::Complete:
+    case GzipEnd::CutShort:
+        return std::move(output).bytes();
+    case GzipEnd::Stopped:
+        logOverLimit(limit);
+        break;
+    case GzipEnd::Damaged:
+        break;
+    }
+    return std::nullopt;
+}
+
+bool unpackCompressedData(QByteArrayView data, const DecompressionLimits& limits,
+                          const TakePiece& takePiece) {
+    const std::uint64_t limit = limits.gzipLimit();
+    WindowOutput output(takePiece, limit);
+    const GzipEnd end = inflateGzip(data, output);
+    if (end == GzipEnd::Stopped && !output.refused()) {
+        logOverLimit(limit);
+    }
+    return end == GzipEnd::Complete || end == GzipEnd::CutShort;
 }
 
 std::optional<QByteArray> dataWithXzData(QByteArrayView data, const DecompressionLimits& limits) {
@@ -184,7 +203,7 @@ std::optional<QByteArray> dataWithXzData(QByteArrayView data, const Decompressio
     if (limit == 0) {
         return std::nullopt;
     }
-    // Untouched pages of a large block cost nothing, so the whole room is taken at once.
+    // Untouched pages of a large block cost nothing, so the whole size is allocated at once.
     QByteArray output(static_cast<qsizetype>(limit), Qt::Uninitialized);
     LzmaStream decoder;
     lzma_stream& stream = decoder.stream;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/TakePiece.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 
@@ -8,29 +10,32 @@
 
 namespace guide {
 
-/// How far unpacking goes on this device.
+/// Bounds for unpacked sizes on this device.
 struct DecompressionLimits {
-    /// Bytes of the machine's memory.
+    /// In bytes.
     std::uint64_t physicalMemory = 0;
 
-    /// A gzip file that unpacks to more is taken for a bomb: a quarter of the memory, and a gibibyte at most.
+    /// The largest unpacked size of a gzip file: a quarter of the memory, at most 1 GiB. A larger one is
+    /// taken for a bomb.
     std::uint64_t gzipLimit() const;
-    /// What the decoder delivers at most of an xz file of that size: a quarter of the memory, or 23 times the
-    /// size when that is less.
+    /// The largest unpacked size of an xz file of the given size: a quarter of the memory or 23 times the
+    /// packed size, whichever is less.
     std::uint64_t xzLimit(std::uint64_t packedSize) const;
 };
 
-/// The bytes begin as a gzip file does.
 bool hasGzipSignature(QByteArrayView data);
-/// The bytes begin as an xz file does.
 bool hasXzSignature(QByteArrayView data);
 
-/// The content of a gzip file, all its members joined; what follows them is left. Of a file that is cut
-/// short, what came. Nothing, and a log line, when it is damaged, no gzip file at all, or over the limit.
+/// Unpacks a gzip file: all members joined, bytes after the last one ignored. Of a truncated file it returns
+/// what could be unpacked. Empty, with a log line, when the data is damaged, not gzip, or over the limit.
 std::optional<QByteArray> dataWithCompressedData(QByteArrayView data, const DecompressionLimits& limits);
 
-/// The content of an xz file, all its streams joined; of one that unpacks to more than the limit, what fits.
-/// Nothing when it is damaged, cut short, empty, or needs more memory than a quarter of the machine's.
+/// Delivers the same content in order, in pieces of at most 256 KB. False when dataWithCompressedData would
+/// return nothing or a piece was refused; the pieces delivered until then are a prefix of the content.
+bool unpackCompressedData(QByteArrayView data, const DecompressionLimits& limits, const TakePiece& takePiece);
+
+/// Unpacks an xz file: all streams joined, truncated at the limit. Empty when the data is damaged, truncated
+/// or empty, or when unpacking needs more than a quarter of the memory.
 std::optional<QByteArray> dataWithXzData(QByteArrayView data, const DecompressionLimits& limits);
 
 } // namespace guide

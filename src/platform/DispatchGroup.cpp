@@ -14,7 +14,7 @@ struct DispatchGroup::State {
 
 namespace {
 
-/// Counts one member of a group down when the block that holds it has gone, run or not.
+/// Decrements the group when the block that holds it is destroyed, run or not.
 template <class State>
 class Membership {
   public:
@@ -42,7 +42,7 @@ DispatchGroup::DispatchGroup()
     : m_state(std::make_shared<State>()) {}
 
 void DispatchGroup::async(DispatchQueue& queue, Block block) {
-    // The member leaves after its block and all that the block held have gone.
+    // Destroyed after the block and its captures.
     auto membership = std::make_shared<Membership<State>>(m_state);
     queue.async([membership = std::move(membership), block = std::move(block)]() mutable {
         std::exchange(block, nullptr)();

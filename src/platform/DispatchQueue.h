@@ -11,14 +11,14 @@ namespace guide {
 
 using Block = std::function<void()>;
 
-/// The service classes of work. Each has workers of its own, so that long work of one never keeps another
-/// waiting; background work leaves the processor to the others.
+/// Service classes of work. Each has its own workers, so that long work of one class never delays another.
+/// Background work runs at a lower scheduling priority.
 enum class QueuePriority { Background = 9, Default = 21, UserInitiated = 25 };
 
 enum class QueueKind { Serial, Concurrent };
 
-/// Keeps a queue suspended for as long as it lives. Move-only: each suspension is resumed exactly once, also
-/// when the block that holds the token is dropped without having run.
+/// Keeps a queue suspended while it lives. Move-only: each suspension ends exactly once, even when the block
+/// that holds the token is dropped without running.
 class SuspensionToken {
   public:
     SuspensionToken() = default;
@@ -35,7 +35,7 @@ class SuspensionToken {
     }
     ~SuspensionToken() { release(); }
 
-    /// Resumes now rather than at destruction.
+    /// Resumes the queue now instead of at destruction.
     void release() {
         if (Block resume = std::exchange(m_resume, nullptr)) {
             resume();
@@ -46,9 +46,9 @@ class SuspensionToken {
     Block m_resume;
 };
 
-/// A queue of blocks. Blocks of a serial queue run one at a time in the order of submission; blocks of a
-/// concurrent queue run in parallel, but a barrier runs alone, after all that came before it and before all
-/// that comes after it (first come, first served). All operations may be called from any thread.
+/// A queue of blocks. Blocks of a serial queue run one at a time in the order of submission. Blocks of a
+/// concurrent queue run in parallel, except that a barrier runs alone, after everything submitted before it
+/// and before everything submitted after it. All operations may be called from any thread.
 class DispatchQueue {
   public:
     virtual ~DispatchQueue() = default;
@@ -58,24 +58,19 @@ class DispatchQueue {
     virtual void async(Block block) = 0;
     virtual void asyncAfter(std::chrono::milliseconds delay, Block block) = 0;
 
-    /// Runs the block on the caller's own thread when its turn comes, and returns when it has run. Never
-    /// needs a worker. A reader may read again from within; any other sync from a block of the same queue,
-    /// and every one on the main queue, would never return and ends the process with a message.
+    /// Runs the block on the calling thread when its turn comes, and returns when it has run. Needs no
+    /// worker. A reader may read again from within; any other sync from a block of the same queue, and any
+    /// sync on the main queue, would deadlock and ends the process with a message.
     virtual void sync(const Block& block) = 0;
 
-    /// On a serial queue the same as async and sync.
+    /// On a serial queue the same as async.
     virtual void asyncBarrier(Block block) = 0;
-    virtual void syncBarrier(const Block& block) = 0;
 
-    /// No block begins until every token has gone; a running one goes on. Suspensions nest.
+    /// No block begins while a token exists; running blocks continue. Suspensions nest.
     [[nodiscard]] virtual SuspensionToken suspend() = 0;
-
-    /// Ends the process with a message when the caller does not run on this queue: a fault of our own, never
-    /// one that input can cause.
-    virtual void assertCurrent() const = 0;
 };
 
-/// A number of blocks to be waited for together. May be used from any thread.
+/// A set of blocks that can be waited for together. May be used from any thread.
 class DispatchGroup {
   public:
     DispatchGroup();
@@ -83,7 +78,7 @@ class DispatchGroup {
     /// Submits the block to the queue as a member of this group.
     void async(DispatchQueue& queue, Block block);
 
-    /// Blocks until every member has run (or has been dropped); false when the time was up first.
+    /// Blocks until every member has run or been dropped; false when the time is up first.
     bool wait(std::optional<std::chrono::milliseconds> atMost = std::nullopt);
 
   private:
@@ -91,7 +86,8 @@ class DispatchGroup {
     std::shared_ptr<State> m_state;
 };
 
-/// The queues of the process: the main one, the global concurrent one of each service class, and new ones.
+/// The queues of the process: the main queue, a global concurrent queue for each service class, and new
+/// queues.
 class DispatchQueues {
   public:
     virtual ~DispatchQueues() = default;

@@ -22,8 +22,8 @@ namespace {
 
 constexpr std::string_view kTemporaryPrefix = ".replacing-";
 
-// In the same folder, so that the rename stays within one file system; named by process and number, so that
-// no two replacements meet and a dead process's file can be told.
+// In the same folder, so that the rename stays within one file system. The name contains the process and a
+// number, so that replacements never collide and files of dead processes can be recognised.
 QByteArray temporaryPath(const QByteArray& path) {
     static std::atomic<std::uint32_t> counter{0};
     const qsizetype folderEnd = path.lastIndexOf('/') + 1;
@@ -73,7 +73,7 @@ bool fill(int file, const QByteArray& replaced, QByteArrayView content,
     return ::futimens(file, times) == 0;
 }
 
-// The process that a temporary file is named after; 0 for any other file.
+// The process that created a temporary file; 0 for any other file.
 pid_t temporaryOwner(std::string_view name) {
     if (!name.starts_with(kTemporaryPrefix)) {
         return 0;
@@ -91,7 +91,7 @@ bool replaceFile(const QString& path, QByteArrayView content, std::optional<Mome
     const QByteArray target = QFile::encodeName(path);
     QByteArray temporary;
     int file = -1;
-    // A name that is taken belongs to a dead process that had our number.
+    // A name that exists belongs to a dead process with the same id.
     for (int attempt = 0; attempt < 16 && file < 0; ++attempt) {
         temporary = temporaryPath(target);
         file = ::open(temporary.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);

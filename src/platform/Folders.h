@@ -4,20 +4,20 @@
 
 namespace guide {
 
-/// The folders of one profile, absolute and without a closing slash. All but `bundle` exist and can be
-/// written.
+/// The folders of one profile, absolute and without a trailing slash. All except `bundle` exist and are
+/// writable.
 struct Folders {
-    /// Listing files and the catalogue archive: what can be made anew.
+    /// Listing files and the catalogue archive; everything here can be regenerated.
     QString caches;
-    /// The user's own files: selection and favourites.
+    /// User data: selection and favourites.
     QString documents;
     /// Settings and overrides.
     QString configuration;
     /// Locks and sockets of the running program.
     QString runtime;
-    /// The key-value store, to be replicated between devices.
+    /// The key-value store, which a sync tool may replicate between devices.
     QString keyValueStore;
-    /// What came with the program: catalogue, icons, host table, supported regions.
+    /// Data installed with the program: catalogue, icons, host table, supported regions.
     QString bundle;
 };
 

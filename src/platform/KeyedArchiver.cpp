@@ -11,7 +11,7 @@ namespace guide {
 
 namespace {
 
-// Major types of CBOR, in the upper three bits of a head.
+// CBOR major types, the upper three bits of a head.
 constexpr std::uint8_t kUnsigned = 0x00;
 constexpr std::uint8_t kNegative = 0x20;
 constexpr std::uint8_t kBytes = 0x40;
@@ -27,7 +27,7 @@ constexpr std::uint64_t kTrue = 21;
 constexpr std::size_t kFirstCapacity = 64 * 1024;
 constexpr std::size_t kLongestHead = 9;
 
-// The head of a value: its kind, and its number in the fewest bytes.
+// The head of a value: its kind and its number in the shortest form.
 struct EncodedHead {
     std::array<char, kLongestHead> bytes;
     std::size_t size;
@@ -88,8 +88,7 @@ void KeyedArchiver::appendBytes(const void* bytes, std::size_t count) {
 }
 
 void KeyedArchiver::append(QStringView text) {
-    // The head for a text of ASCII is kept free before the text; where another one is due, the text moves
-    // along.
+    // Reserves the head that the text needs if it is ASCII, and moves the text if it needs another one.
     const auto units = static_cast<std::size_t>(text.size());
     const std::size_t expected = encodedHead(kText, units).size;
     const std::size_t start = m_size;
@@ -179,7 +178,7 @@ KeyedUnarchiver::Head KeyedUnarchiver::head() {
     if (small < 24) {
         return {kind, small};
     }
-    // 28 to 30 are reserved, 31 is an indefinite length: none of it is ours.
+    // 28 to 30 are reserved, 31 means an indefinite length; neither is written by us.
     if (small > 27 || remaining() < std::size_t{1} << (small - 24)) {
         fail();
         return {};
@@ -283,7 +282,7 @@ void KeyedUnarchiver::decode(bool& value) {
 }
 
 void KeyedUnarchiver::skip() {
-    // Counted instead of nested: how many values are still to be passed.
+    // Counts the values that remain instead of recursing.
     std::uint64_t values = 1;
     while (values > 0 && !m_failed) {
         --values;

@@ -7,11 +7,10 @@
 
 namespace guide {
 
-/// An answer that is given on the main queue. With an owner it is dropped, on the main queue, when the owner
-/// has gone by the time its turn comes: a screen hands itself as the owner and is never called after its end.
-/// Once the answer is posted, the function and what it captured are released on the main queue; a function
-/// whose answer is never posted goes where the last copy of the block goes, so it should hold its screen
-/// weakly.
+/// A callback that is called on the main queue. With an owner (usually a screen), the call is dropped if the
+/// owner is gone when its turn comes. After posting, the function and its captures are released on the main
+/// queue. A function that is never posted is released where the last copy of the block is destroyed, so it
+/// should hold its screen weakly.
 template <class... Args>
 class MainBlock {
   public:
@@ -22,14 +21,14 @@ class MainBlock {
     MainBlock(const std::weak_ptr<const void>& owner, Function function)
         : m_state(std::make_shared<State>(State{owner, true, std::move(function)})) {}
 
-    /// Gives the answer. The first answer that any copy of the block posts is the only one that is given; the
-    /// arguments cross to the main queue by value.
+    /// Posts the call. Only the first post among all copies of the block counts. The arguments are passed by
+    /// value.
     void post(DispatchQueue& mainQueue, Args... args) {
         mainQueue.async([state = std::move(m_state), values = std::make_tuple(std::move(args)...)]() mutable {
             if (!state) {
                 return;
             }
-            // Taken out of the state, for another thread may hold the last copy of it.
+            // Moved out of the state because another thread may hold its last copy.
             const Function function = std::exchange(state->function, nullptr);
             const std::shared_ptr<const void> owner = state->owner.lock();
             if (function && (owner || !state->guarded)) {
@@ -39,7 +38,7 @@ class MainBlock {
     }
 
   private:
-    /// Touched on the main queue alone once it is made.
+    /// Accessed only on the main queue after construction.
     struct State {
         std::weak_ptr<const void> owner;
         bool guarded = false;

@@ -10,10 +10,10 @@ MainInbox::MainInbox(Block wakeUp, Later later)
     , m_thread(std::this_thread::get_id()) {}
 
 void MainInbox::runPending() {
-    assertCurrent();
+    requireMainThread();
     std::unique_lock guard(m_mutex);
     if (m_running) {
-        // The outer call asks for another wake-up when it is done.
+        // The outer call requests another wake-up when it ends.
         return;
     }
     m_running = true;
@@ -38,17 +38,17 @@ void MainInbox::runPending() {
     }
 }
 
-void MainInbox::throwAway() {
-    assertCurrent();
+void MainInbox::discardAll() {
+    requireMainThread();
     std::deque<Block> dropped;
     const std::lock_guard guard(m_mutex);
-    m_thrownAway = true;
+    m_discarding = true;
     dropped.swap(m_pending);
 }
 
 void MainInbox::async(Block block) {
     std::unique_lock guard(m_mutex);
-    if (m_thrownAway) {
+    if (m_discarding) {
         return;
     }
     m_pending.push_back(std::move(block));
@@ -85,9 +85,9 @@ void MainInbox::resume() {
     }
 }
 
-void MainInbox::assertCurrent() const {
+void MainInbox::requireMainThread() const {
     if (std::this_thread::get_id() != m_thread) {
-        queueFault(*this, "not the queue that runs here");
+        queueFault(*this, "not on the main thread");
     }
 }
 

@@ -9,40 +9,39 @@
 
 namespace guide {
 
-/// The main queue: an inbox that the main thread's event loop empties. Belongs to the thread that makes it.
+/// The main queue: an inbox that the main thread's event loop drains. Belongs to the thread that creates it.
 ///
-/// The wake-up is called on any thread when there is something to run, once until runPending has answered it;
-/// it must see to it that runPending is called on the main thread soon. It takes nothing along, so that it
-/// can be as plain as the event loop likes.
+/// `wakeUp` is called on any thread when there is something to run, at most once before runPending answers
+/// it. It must cause a call of runPending on the main thread soon.
 class MainInbox final : public DispatchQueue, public std::enable_shared_from_this<MainInbox> {
   public:
-    /// Submits a block of asyncAfter to this queue when its time has come.
+    /// Submits a delayed block to this queue when it is due.
     using Later = std::function<void(std::chrono::milliseconds, std::shared_ptr<DispatchQueue>, Block)>;
 
     MainInbox(Block wakeUp, Later later);
 
-    /// Runs what is there now; what comes meanwhile gets a wake-up of its own. Does nothing from inside a
-    /// block that it runs: an event loop within one waits for the rest until that block has ended. Main
-    /// thread.
+    /// Runs the blocks that are pending now; blocks added meanwhile cause another wake-up. Does nothing when
+    /// called from within a block, such as by a nested event loop: the remaining blocks wait until that block
+    /// ends. Main thread.
     void runPending();
 
-    /// Drops what has not begun, and every later block. Main thread.
-    void throwAway();
+    /// Drops pending blocks and every later one. Main thread.
+    void discardAll();
 
     const std::string& label() const override { return m_label; }
     void async(Block block) override;
     void asyncAfter(std::chrono::milliseconds delay, Block block) override;
-    /// Always a fault: nobody waits for the main queue.
+    /// Always ends the process: waiting for the main queue would deadlock.
     void sync(const Block& block) override;
     void asyncBarrier(Block block) override { async(std::move(block)); }
-    void syncBarrier(const Block& block) override { sync(block); }
     [[nodiscard]] SuspensionToken suspend() override;
-    /// The whole main thread counts, also outside of a block.
-    void assertCurrent() const override;
+
+    /// Ends the process when the caller is on another thread.
+    void requireMainThread() const;
 
   private:
     void resume();
-    /// Whether the caller has to wake up the loop, which it does without the guard. With the mutex held.
+    /// Whether the caller must call m_wakeUp after releasing the mutex. Requires the mutex.
     bool claimWakeUp();
 
     const std::string m_label = "main";
@@ -55,7 +54,7 @@ class MainInbox final : public DispatchQueue, public std::enable_shared_from_thi
     std::size_t m_suspensions = 0;
     bool m_awake = false;
     bool m_running = false;
-    bool m_thrownAway = false;
+    bool m_discarding = false;
 };
 
 } // namespace guide

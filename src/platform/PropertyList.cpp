@@ -29,7 +29,7 @@ struct FreeDeleter {
 template <class T>
 using Allocated = std::unique_ptr<T, FreeDeleter>;
 
-// The library reads decimals by the locale of the thread.
+// libplist parses decimals in the locale of the thread.
 class NumbersAsInC {
   public:
     NumbersAsInC()
@@ -104,7 +104,7 @@ QVariant dateValue(plist_t node) {
     std::int32_t seconds = 0;
     std::int32_t microseconds = 0;
     plist_get_date_val(node, &seconds, &microseconds);
-    // Counted from the first moment of 2001.
+    // Seconds since 1 January 2001.
     constexpr qint64 kReference = 978'307'200;
     return QDateTime::fromMSecsSinceEpoch((kReference + seconds) * 1000 + microseconds / 1000, Qt::UTC);
 }
@@ -113,7 +113,7 @@ QByteArrayView bytesOf(const char* data, std::uint64_t size) {
     return {data, static_cast<qsizetype>(data != nullptr ? size : 0)};
 }
 
-// Recursion is bounded: the depth was looked at beforehand.
+// The recursion is bounded: the depth was checked before.
 std::optional<QVariant> value(plist_t node) {
     switch (plist_get_node_type(node)) {
     case PLIST_BOOLEAN: {

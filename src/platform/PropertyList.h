@@ -7,9 +7,9 @@
 
 namespace guide {
 
-/// The root of a property list, XML or binary: QVariantMap, QVariantList, QString, bool, qlonglong, double,
-/// QDateTime (UTC) and QByteArray. Nothing when the bytes are damaged or no property list, nest deeper than
-/// 64 levels, or hold more than four million values.
+/// Reads a property list, XML or binary, as QVariantMap, QVariantList, QString, bool, qlonglong, double,
+/// QDateTime (UTC) and QByteArray. Empty when the data is damaged or not a property list, nests deeper than
+/// 64 levels, or holds more than four million values.
 std::optional<QVariant> propertyListFromData(const QByteArray& data);
 
 } // namespace guide

@@ -14,7 +14,8 @@ namespace {
 constexpr std::uint64_t kTrailerSize = 32;
 constexpr std::uint64_t kHeaderSize = 8;
 
-// A binary list: objects, a table of their offsets, and a trailer that says how both are counted.
+// A binary list consists of objects, a table of their offsets, and a trailer with the sizes of offsets and
+// references.
 class BinaryList {
   public:
     explicit BinaryList(QByteArrayView data)
@@ -39,7 +40,7 @@ class BinaryList {
     }
 
   private:
-    // The references of one array or dictionary that are still to be followed; those to keys come first.
+    // The references of one array or dictionary that remain; those to keys come first.
     struct Level {
         std::uint64_t nextReference;
         std::uint64_t left;
@@ -101,7 +102,7 @@ class BinaryList {
         std::uint64_t count = marker & 0xf;
         ++at;
         if (count == 0xf) {
-            // A long count is an integer object of its own, its size a power of two.
+            // A long count follows as an integer object, whose size is a power of two.
             const std::uint64_t size = std::uint64_t{1} << (numberAt(at, 1) & 0x3);
             count = numberAt(at + 1, size);
             at += 1 + size;
@@ -116,8 +117,7 @@ class BinaryList {
         return at <= m_size - kTrailerSize && size <= m_size - kTrailerSize - at;
     }
 
-    // Where an object's references stand and how many they are (none for a plain value); nothing when it is
-    // damaged.
+    // The position and number of an object's references (none for a plain value); empty when it is damaged.
     std::optional<Level> references(std::uint64_t number) const {
         const std::optional<Object> found = object(number);
         if (!found) {
@@ -134,7 +134,7 @@ class BinaryList {
         return Level{found->content, count, isDictionary ? found->count : 0};
     }
 
-    // A key is a text; the library ends the process over one that holds a NUL.
+    // A key must be a text; libplist aborts the process on one with a NUL.
     bool isKey(std::uint64_t number) const {
         const std::optional<Object> found = object(number);
         if (!found || (found->kind != 0x5 && found->kind != 0x6)) {
@@ -152,7 +152,7 @@ class BinaryList {
         return true;
     }
 
-    // Big-endian; 0 where it would lie outside.
+    // Big-endian; 0 outside the data.
     std::uint64_t numberAt(std::uint64_t at, std::uint64_t size) const {
         if (at > m_size || size > m_size - at) {
             return 0;

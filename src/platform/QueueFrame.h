@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// Marks, for as long as it lives, that the calling thread runs a block of a queue. Lives on the stack.
+/// Marks that the calling thread runs a block of a queue while the object lives. Must be on the stack.
 class QueueFrame {
   public:
     enum class Access { None, Shared, Alone };
@@ -14,7 +14,7 @@ class QueueFrame {
     QueueFrame& operator=(const QueueFrame&) = delete;
     ~QueueFrame();
 
-    /// How the calling thread runs on the queue now, blocks around the innermost one counted in.
+    /// How the calling thread runs on the queue now, enclosing blocks included.
     static Access accessTo(const DispatchQueue& queue);
 
   private:
@@ -23,7 +23,7 @@ class QueueFrame {
     const QueueFrame* const m_outer;
 };
 
-/// Ends the process: the program has used a queue in a way that can never go well.
+/// Ends the process: the queue was used in a way that would deadlock.
 [[noreturn]] void queueFault(const DispatchQueue& queue, const char* what);
 
 } // namespace guide

@@ -7,7 +7,7 @@ namespace guide {
 
 namespace {
 
-// Farther than any delay that means something, near enough never to overflow the clock.
+// Longer than any sensible delay, short enough not to overflow the clock.
 constexpr std::chrono::milliseconds kLongestDelay = std::chrono::hours(24 * 365);
 
 } // namespace

@@ -9,8 +9,8 @@
 
 namespace guide {
 
-/// Submits blocks to their queues when their time has come, on a thread of its own that starts with the first
-/// one. Measured on a clock that no change of the date moves. May be used from any thread.
+/// Submits blocks to their queues when they are due, on its own thread, which starts with the first block.
+/// Uses a monotonic clock. May be used from any thread.
 class QueueTimer {
   public:
     QueueTimer() = default;
@@ -18,10 +18,10 @@ class QueueTimer {
     QueueTimer& operator=(const QueueTimer&) = delete;
     ~QueueTimer();
 
-    /// The queue is kept until then. After stop the block is dropped.
+    /// Keeps the queue alive until then. After stop the block is dropped.
     void submitAfter(std::chrono::milliseconds delay, std::shared_ptr<DispatchQueue> queue, Block block);
 
-    /// Drops what has not been submitted, and joins the thread.
+    /// Drops blocks that are not due yet and joins the thread.
     void stop();
 
   private:
@@ -34,7 +34,7 @@ class QueueTimer {
 
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    /// Blocks of the same moment in the order of submission.
+    /// Blocks with the same time keep the order of submission.
     std::multimap<std::chrono::steady_clock::time_point, Entry> m_entries;
     std::thread m_thread;
     bool m_stopping = false;

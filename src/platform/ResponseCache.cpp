@@ -6,7 +6,7 @@ namespace guide {
 
 namespace {
 
-// What an entry takes beside its bytes, roughly.
+// Approximate overhead of an entry.
 constexpr std::size_t kEntryOverhead = 512;
 constexpr int kPartialContent = 206;
 
@@ -49,7 +49,7 @@ std::optional<TransferResult> ResponseCache::cachedResponse(const HTTPRequest& r
         return std::nullopt;
     }
     const Entries::iterator entry = found->second;
-    // A clock that was set back far would otherwise keep the entry for as long.
+    // The difference is absolute: otherwise a clock that was set back would keep the entry alive.
     if (std::chrono::abs(now - entry->stored) > maximumAge || entry->stored < request.cachedSince) {
         erase(entry);
         return std::nullopt;

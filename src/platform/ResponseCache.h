@@ -14,21 +14,20 @@
 
 namespace guide {
 
-/// Responses in memory, by URL, as they came. Only whole answers to GET with a status of success are taken.
-/// Bounded in bytes: what was used longest ago goes first. A response older than the maximum age counts as
-/// absent. May be used from any thread.
+/// Responses in memory, by URL. Stores only complete responses to GET with a status of success. Bounded in
+/// bytes; the least recently used response is evicted first. Responses older than the maximum age are
+/// ignored. May be used from any thread.
 class ResponseCache {
   public:
-    /// The capacity is in bytes. The maximum age is asked for at each look-up, on the caller's thread.
+    /// `memoryCapacity` is in bytes. `maximumAge` is called at each look-up, on the calling thread.
     ResponseCache(const Clock& clock, std::size_t memoryCapacity,
                   std::function<std::chrono::milliseconds()> maximumAge);
 
-    /// A response and a body, or nothing.
     std::optional<TransferResult> cachedResponse(const HTTPRequest& request);
     void store(const HTTPRequest& request, const TransferResult& result);
     void remove(const HTTPRequest& request);
 
-    /// Drops what no longer fits: 0 drops everything, and nothing is taken until it is raised again.
+    /// Evicts what no longer fits. With 0 nothing is stored until the capacity is raised again.
     void setMemoryCapacity(std::size_t memoryCapacity);
 
   private:
@@ -49,7 +48,7 @@ class ResponseCache {
     std::mutex m_mutex;
     std::size_t m_capacity;
     std::size_t m_used = 0;
-    /// The one used last in front.
+    /// Most recently used first.
     Entries m_entries;
     std::unordered_map<QByteArray, Entries::iterator> m_byUrl;
 };

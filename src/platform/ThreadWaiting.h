@@ -8,23 +8,22 @@
 
 namespace guide {
 
-/// How a thread waits for others. A worker thread tells its pool, which puts another in its place; the one
-/// thread of a hand-cranked set of queues runs what it would wait for. Any other thread just sleeps.
+/// How a thread waits for others. A worker thread reports the wait to its pool, which adds another worker;
+/// the thread of a hand-cranked set of queues runs blocks meanwhile. Any other thread sleeps.
 class ThreadWaiting {
   public:
     virtual ~ThreadWaiting() = default;
 
-    /// Returns true once `done` answers true, false when the time was up first. Called with the guard held,
-    /// which is also held whenever `done` is asked; `changed` is notified when `done` may have changed its
-    /// answer.
+    /// Returns true once `done` returns true, false when the time is up first. The guard is held on entry, on
+    /// return and while `done` is called. `changed` is notified when the result of `done` may have changed.
     virtual bool wait(std::unique_lock<std::mutex>& guard, std::condition_variable& changed,
                       std::optional<std::chrono::milliseconds> atMost, const std::function<bool()>& done);
 
-    /// Waits as the calling thread does.
+    /// Waits in the way that is set for the calling thread.
     static bool waitHere(std::unique_lock<std::mutex>& guard, std::condition_variable& changed,
                          std::optional<std::chrono::milliseconds> atMost, const std::function<bool()>& done);
 
-    /// Says how the calling thread waits from now on; null for plain sleep. Answers what held before.
+    /// Sets how the calling thread waits; null for plain sleep. Returns the previous setting.
     static ThreadWaiting* exchangeForThisThread(ThreadWaiting* waiting);
 };
 

@@ -30,7 +30,7 @@ void QueueHost::stop() {
         m_stopped = true;
         queues.reserve(m_queues.size());
         for (ThreadedQueue* queue : m_queues) {
-            // A queue that is being destroyed waits for this guard in remove().
+            // A queue that is being destroyed blocks on this mutex in remove().
             if (auto alive = queue->weak_from_this().lock()) {
                 queues.push_back(std::move(alive));
             }
@@ -61,14 +61,6 @@ void ThreadedQueue::asyncBarrier(Block block) {
     submit(std::move(block), true);
 }
 
-void ThreadedQueue::sync(const Block& block) {
-    runHere(block, m_kind == QueueKind::Serial);
-}
-
-void ThreadedQueue::syncBarrier(const Block& block) {
-    runHere(block, true);
-}
-
 void ThreadedQueue::asyncAfter(std::chrono::milliseconds delay, Block block) {
     m_host->timer.submitAfter(delay, shared_from_this(), std::move(block));
 }
@@ -87,30 +79,23 @@ void ThreadedQueue::resume() {
     advance();
 }
 
-void ThreadedQueue::assertCurrent() const {
-    if (QueueFrame::accessTo(*this) == QueueFrame::Access::None) {
-        queueFault(*this, "not the queue that runs here");
-    }
-}
-
 void ThreadedQueue::submit(Block block, bool alone) {
     const std::lock_guard guard(m_mutex);
     if (!m_stopped) {
         m_pending.push_back({std::move(block), nullptr, alone});
         advance();
     }
-    // A block that was not taken goes with the parameter, without the guard.
+    // A block that was not queued is destroyed with the parameter, without the mutex.
 }
 
-void ThreadedQueue::runHere(const Block& block, bool alone) {
+void ThreadedQueue::sync(const Block& block) {
+    const bool alone = m_kind == QueueKind::Serial;
     switch (QueueFrame::accessTo(*this)) {
     case QueueFrame::Access::None:
         break;
     case QueueFrame::Access::Shared:
-        if (alone) {
-            queueFault(*this, "barrier waited for from a block of the same queue");
-        }
-        // Part of the reader around it; to queue behind a barrier that waits for that one would never end.
+        // Runs as part of the enclosing reader: queued behind a barrier that waits for that reader it would
+        // deadlock.
         block();
         return;
     case QueueFrame::Access::Alone:
@@ -154,7 +139,7 @@ void ThreadedQueue::runOnWorker() {
     {
         const QueueFrame frame(*this, item.alone);
         item.block();
-        // What the block held goes before the next one begins.
+        // Releases the captures before the next block begins.
         item.block = nullptr;
     }
     const std::lock_guard guard(m_mutex);

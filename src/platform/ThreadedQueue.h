@@ -13,7 +13,7 @@ namespace guide {
 
 class ThreadedQueue;
 
-/// What the queues of one ThreadedQueues run on, and which of them are alive.
+/// Shared by the queues of one ThreadedQueues: timer, workers and the list of live queues.
 class QueueHost {
   public:
     explicit QueueHost(const WorkerPool::ThreadStart& threadStart)
@@ -33,8 +33,8 @@ class QueueHost {
     bool m_stopped = false;
 };
 
-/// A queue on worker threads. Only its first pending block may begin, so that blocks begin first come, first
-/// served, and it asks the pool for a worker only when that block could.
+/// A queue on worker threads. Only the first pending block may begin, which keeps the order; a worker is
+/// requested only when that block can begin.
 class ThreadedQueue final : public DispatchQueue,
                             public Work,
                             public std::enable_shared_from_this<ThreadedQueue> {
@@ -47,18 +47,16 @@ class ThreadedQueue final : public DispatchQueue,
     void asyncAfter(std::chrono::milliseconds delay, Block block) override;
     void sync(const Block& block) override;
     void asyncBarrier(Block block) override;
-    void syncBarrier(const Block& block) override;
     [[nodiscard]] SuspensionToken suspend() override;
-    void assertCurrent() const override;
 
     void runOnWorker() override;
 
-    /// Drops the blocks that have not begun, and every later one. A sync gets its turn all the same, also on
-    /// a suspended queue, so that its caller can end.
+    /// Drops pending blocks and every later one. A waiting sync still gets its turn, even on a suspended
+    /// queue, so that its caller can finish.
     void stop();
 
   private:
-    /// The caller of a sync, on its own stack.
+    /// The caller of a sync, on the stack of its thread.
     struct Waiter {
         std::condition_variable changed;
     };
@@ -69,10 +67,9 @@ class ThreadedQueue final : public DispatchQueue,
     };
 
     void submit(Block block, bool alone);
-    void runHere(const Block& block, bool alone);
     void resume();
 
-    // With the mutex held:
+    // These require the mutex.
     bool mayBegin(bool alone) const;
     void begin(bool alone);
     void end(bool alone);
@@ -88,7 +85,7 @@ class ThreadedQueue final : public DispatchQueue,
     std::size_t m_runningShared = 0;
     bool m_runningAlone = false;
     std::size_t m_suspensions = 0;
-    /// A worker has been asked for and has not come yet.
+    /// A worker has been requested and has not started yet.
     bool m_workerCalled = false;
     bool m_stopped = false;
 };

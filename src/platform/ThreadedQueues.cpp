@@ -51,9 +51,9 @@ std::shared_ptr<DispatchQueue> ThreadedQueues::makeQueue(std::string label, Queu
 }
 
 void ThreadedQueues::shutDown() {
-    m_main->assertCurrent();
+    m_main->requireMainThread();
     m_host->stop();
-    m_main->throwAway();
+    m_main->discardAll();
 }
 
 } // namespace guide

@@ -7,14 +7,13 @@ namespace guide {
 
 class QueueHost;
 
-/// The queues of the process on real threads. Made, shut down and destroyed on the main thread.
+/// Queues on real threads. Must be created, shut down and destroyed on the main thread.
 ///
-/// The main queue is labelled "main", the global ones "global.background", "global.default" and
-/// "global.user-initiated".
+/// Labels: "main", "global.background", "global.default" and "global.user-initiated".
 class ThreadedQueues final : public DispatchQueues {
   public:
-    /// The first is called on any thread when the main thread has to call runMainQueue; the second first on
-    /// every new worker thread.
+    /// `wakeMainThread` is called on any thread when the main thread must call runMainQueue; `threadStart` is
+    /// called first on every new worker thread.
     explicit ThreadedQueues(Block wakeMainThread, const WorkerPool::ThreadStart& threadStart = nullptr);
     ThreadedQueues(const ThreadedQueues&) = delete;
     ThreadedQueues& operator=(const ThreadedQueues&) = delete;
@@ -25,12 +24,12 @@ class ThreadedQueues final : public DispatchQueues {
     std::shared_ptr<DispatchQueue> makeQueue(std::string label, QueueKind kind,
                                              QueuePriority priority = QueuePriority::Default) override;
 
-    /// The main thread's answer to the wake-up.
+    /// Runs the pending blocks of the main queue. Main thread.
     void runMainQueue() { m_main->runPending(); }
 
-    /// Waits for the blocks that run, drops those that have not begun, joins the threads and throws the main
-    /// queue's inbox away. What a dropped block held is released; later blocks are dropped at once. Queues
-    /// that others still hold stay safe to use.
+    /// Waits for running blocks, drops pending ones, joins the threads and empties the main queue. Captures
+    /// of dropped blocks are released; later blocks are dropped at once. Queues that are still referenced
+    /// stay safe to use.
     void shutDown();
 
   private:

@@ -1,12 +1,13 @@
 #include "platform/Utf8.h"
 
-#include "platform/Utf8Scan.h"
+#include <QStringEncoder>
 
+#include <array>
 #include <cstdint>
 #include <cstring>
 
-#ifdef __SSE2__
-#include <emmintrin.h>
+#ifdef __x86_64__
+#include <tmmintrin.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -15,135 +16,161 @@ namespace guide {
 
 namespace {
 
-// Copies ASCII up to the first other byte and moves both ends along.
-void widenAscii(const unsigned char*& at, const unsigned char* end, char16_t*& out) {
-#ifdef __SSE2__
-    while (end - at >= 16) {
-        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-        const __m128i zero = _mm_setzero_si128();
-        // The room behind `out` is as large as what is left of the input, so both halves fit in any case.
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm_unpacklo_epi8(block, zero));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(out + 8), _mm_unpackhi_epi8(block, zero));
-        if (const int high = _mm_movemask_epi8(block); high != 0) {
-            const int ascii = __builtin_ctz(static_cast<unsigned>(high));
-            at += ascii;
-            out += ascii;
-            return;
-        }
-        at += 16;
-        out += 16;
-    }
-    if (end - at >= 8) {
-        const __m128i block = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(at));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm_unpacklo_epi8(block, _mm_setzero_si128()));
-        if (const int high = _mm_movemask_epi8(block); high != 0) {
-            const int ascii = __builtin_ctz(static_cast<unsigned>(high));
-            at += ascii;
-            out += ascii;
-            return;
-        }
-        at += 8;
-        out += 8;
-    }
-#endif
-    while (at < end && *at < 0x80) {
-        *out++ = *at++;
-    }
+#ifdef __x86_64__
+
+// Checks sixteen bytes a step without branching on them: each pair of neighbours is looked up in three tables
+// of what can be wrong with a pair, by the two halves of the first byte and the upper half of the second, and
+// the pair is wrong where all three agree. In addition the third and fourth bytes of a long character, and no
+// others, must follow a continuation byte.
+//
+// Qt's validation takes as long as this on plain ASCII, but leaves its fast path at every letter with a mark:
+// 12.5 MB of a Hungarian feed take it 10.3 ms and this 3.1 ms (Slovak: 2.5 and 0.7 ms for 2.8 MB). With it,
+// reading few channels of a packed feed takes 1.13 times zlib's unpacking alone, with this 1.04.
+constexpr std::uint8_t kTooShort = 1 << 0;
+constexpr std::uint8_t kTooLong = 1 << 1;
+constexpr std::uint8_t kOverlong3 = 1 << 2;
+constexpr std::uint8_t kTooLarge = 1 << 3;
+constexpr std::uint8_t kSurrogate = 1 << 4;
+constexpr std::uint8_t kOverlong2 = 1 << 5;
+constexpr std::uint8_t kTooLarge1000 = 1 << 6;
+constexpr std::uint8_t kOverlong4 = 1 << 6;
+constexpr std::uint8_t kTwoContinuations = 1 << 7;
+// Faults that do not depend on the lower half of the first byte.
+constexpr std::uint8_t kAnyLow = kTooShort | kTooLong | kTwoContinuations;
+
+using Table = std::array<std::uint8_t, 16>;
+
+alignas(16) constexpr Table kFirstHigh{kTooLong,
+                                       kTooLong,
+                                       kTooLong,
+                                       kTooLong,
+                                       kTooLong,
+                                       kTooLong,
+                                       kTooLong,
+                                       kTooLong,
+                                       kTwoContinuations,
+                                       kTwoContinuations,
+                                       kTwoContinuations,
+                                       kTwoContinuations,
+                                       kTooShort | kOverlong2,
+                                       kTooShort,
+                                       kTooShort | kOverlong3 | kSurrogate,
+                                       kTooShort | kTooLarge | kTooLarge1000 | kOverlong4};
+
+constexpr std::uint8_t kLarge = kAnyLow | kTooLarge | kTooLarge1000;
+alignas(16) constexpr Table kFirstLow{kAnyLow | kOverlong2 | kOverlong3 | kOverlong4,
+                                      kAnyLow | kOverlong2,
+                                      kAnyLow,
+                                      kAnyLow,
+                                      kAnyLow | kTooLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge | kSurrogate,
+                                      kLarge,
+                                      kLarge};
+
+constexpr std::uint8_t kContinuation = kTooLong | kOverlong2 | kTwoContinuations;
+alignas(16) constexpr Table kSecondHigh{kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kContinuation | kOverlong3 | kTooLarge1000 | kOverlong4,
+                                        kContinuation | kOverlong3 | kTooLarge,
+                                        kContinuation | kSurrogate | kTooLarge,
+                                        kContinuation | kSurrogate | kTooLarge,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort};
+
+__attribute__((target("ssse3"))) inline __m128i look(const Table& table, __m128i halves) {
+    return _mm_shuffle_epi8(_mm_load_si128(reinterpret_cast<const __m128i*>(table.data())), halves);
 }
 
-// Copies ASCII up to the first other unit and moves both ends along.
-void narrowAscii(const char16_t*& at, const char16_t* end, char*& out) {
-#ifdef __SSE2__
-    const __m128i other = _mm_set1_epi16(static_cast<short>(0xff80));
-    while (end - at >= 8) {
-        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-        // Where it is not ASCII all, the bytes behind are written over.
-        _mm_storel_epi64(reinterpret_cast<__m128i*>(out), _mm_packus_epi16(block, block));
-        const __m128i ascii = _mm_cmpeq_epi16(_mm_and_si128(block, other), _mm_setzero_si128());
-        if (const int mask = _mm_movemask_epi8(ascii); mask != 0xffff) {
-            const int count = __builtin_ctz(~static_cast<unsigned>(mask)) / 2;
-            at += count;
-            out += count;
-            return;
-        }
-        at += 8;
-        out += 8;
-    }
-#endif
-    while (at < end && *at < 0x80) {
-        *out++ = static_cast<char>(*at++);
-    }
+// Non-zero where a byte of the block, or a pair that ends in it, is wrong.
+__attribute__((target("ssse3"))) inline __m128i faults(__m128i block, __m128i before) {
+    const __m128i lowHalf = _mm_set1_epi8(0x0f);
+    const __m128i back1 = _mm_alignr_epi8(block, before, 15);
+    const __m128i pair =
+        _mm_and_si128(_mm_and_si128(look(kFirstHigh, _mm_and_si128(_mm_srli_epi16(back1, 4), lowHalf)),
+                                    look(kFirstLow, _mm_and_si128(back1, lowHalf))),
+                      look(kSecondHigh, _mm_and_si128(_mm_srli_epi16(block, 4), lowHalf)));
+    // The top bit is set where the byte two or three before begins a character that reaches this one.
+    const __m128i third = _mm_subs_epu8(_mm_alignr_epi8(block, before, 14), _mm_set1_epi8(0xe0 - 0x80));
+    const __m128i fourth = _mm_subs_epu8(_mm_alignr_epi8(block, before, 13), _mm_set1_epi8(0xf0 - 0x80));
+    const __m128i due = _mm_and_si128(_mm_or_si128(third, fourth), _mm_set1_epi8(static_cast<char>(0x80)));
+    return _mm_xor_si128(due, pair);
 }
+
+__attribute__((target("ssse3"))) bool isValidByBlocks(QByteArrayView bytes) {
+    const char* at = bytes.data();
+    auto left = static_cast<std::size_t>(bytes.size());
+    __m128i before = _mm_setzero_si128();
+    __m128i wrong = _mm_setzero_si128();
+    const auto load = [](const char* from) {
+        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+    };
+    for (; left >= 64; at += 64, left -= 64) {
+        const __m128i blocks[] = {load(at), load(at + 16), load(at + 32), load(at + 48)};
+        const __m128i any =
+            _mm_or_si128(_mm_or_si128(blocks[0], blocks[1]), _mm_or_si128(blocks[2], blocks[3]));
+        wrong = _mm_or_si128(wrong, faults(blocks[0], before));
+        if (_mm_movemask_epi8(any) != 0) {
+            wrong = _mm_or_si128(wrong, faults(blocks[1], blocks[0]));
+            wrong = _mm_or_si128(wrong, faults(blocks[2], blocks[1]));
+            wrong = _mm_or_si128(wrong, faults(blocks[3], blocks[2]));
+        }
+        before = blocks[3];
+    }
+    // The rest, followed by zero bytes that no character may reach into.
+    alignas(16) std::array<char, 80> tail{};
+    std::memcpy(tail.data(), at, left);
+    for (std::size_t offset = 0; offset < tail.size(); offset += 16) {
+        const __m128i block = load(tail.data() + offset);
+        wrong = _mm_or_si128(wrong, faults(block, before));
+        before = block;
+    }
+    return _mm_movemask_epi8(_mm_cmpeq_epi8(wrong, _mm_setzero_si128())) == 0xffff;
+}
+
+#endif
+
+constexpr char kByteOrderMark[] = "\xef\xbb\xbf";
 
 } // namespace
 
+bool isValidUtf8(QByteArrayView bytes) {
+#ifdef __x86_64__
+    static const bool hasShuffle = __builtin_cpu_supports("ssse3") != 0;
+    constexpr qsizetype kSmallestForBlocks = 64;
+    if (hasShuffle && bytes.size() >= kSmallestForBlocks) {
+        return isValidByBlocks(bytes);
+    }
+#endif
+    return bytes.isValidUtf8();
+}
+
 bool readUtf8(QByteArrayView bytes, QString& text) {
-    if (bytes.isEmpty()) {
-        text = u""_s;
-        return true;
+    text = bytes.isEmpty() ? u""_s : QString::fromUtf8(bytes);
+    if (bytes.startsWith(kByteOrderMark)) {
+        text.prepend(QChar(QChar::ByteOrderMark));
     }
-    text = QString(bytes.size(), Qt::Uninitialized);
-    auto* const begin = reinterpret_cast<char16_t*>(text.data());
-    char16_t* out = begin;
-    const auto* at = reinterpret_cast<const unsigned char*>(bytes.data());
-    const unsigned char* end = at + bytes.size();
-    for (;;) {
-        widenAscii(at, end, out);
-        if (at == end) {
-            break;
-        }
-        // Letters with marks are two bytes in most of what we read.
-        if (*at >= 0xc2 && *at < 0xe0 && end - at >= 2 && isContinuation(at[1])) {
-            *out++ = static_cast<char16_t>((*at & 0x1f) << 6 | (at[1] & 0x3f));
-            at += 2;
-            continue;
-        }
-        const char32_t character = takeMultibyte(at, end);
-        if (character == 0) {
-            return false;
-        }
-        if (character < 0x10000) {
-            *out++ = static_cast<char16_t>(character);
-        } else {
-            *out++ = QChar::highSurrogate(character);
-            *out++ = QChar::lowSurrogate(character);
-        }
-    }
-    text.truncate(out - begin);
-    return true;
+    // Qt puts a replacement character in the place of each fault. The text may have some of its own.
+    return !text.contains(QChar(QChar::ReplacementCharacter)) || isValidUtf8(bytes);
 }
 
 char* writeUtf8(QStringView text, char* out) {
-    const char16_t* at = text.utf16();
-    const char16_t* end = at + text.size();
-    const auto put = [&out](char32_t byte) { *out++ = static_cast<char>(byte); };
-    while (at < end) {
-        narrowAscii(at, end, out);
-        if (at == end) {
-            break;
-        }
-        char32_t character = *at++;
-        if (character < 0x800) {
-            put(0xc0 | character >> 6);
-            put(0x80 | (character & 0x3f));
-            continue;
-        }
-        if (QChar::isSurrogate(character)) {
-            if (QChar::isHighSurrogate(character) && at < end && QChar::isLowSurrogate(*at)) {
-                character = QChar::surrogateToUcs4(static_cast<char16_t>(character), *at++);
-                put(0xf0 | character >> 18);
-                put(0x80 | (character >> 12 & 0x3f));
-                put(0x80 | (character >> 6 & 0x3f));
-                put(0x80 | (character & 0x3f));
-                continue;
-            }
-            character = QChar::ReplacementCharacter;
-        }
-        put(0xe0 | character >> 12);
-        put(0x80 | (character >> 6 & 0x3f));
-        put(0x80 | (character & 0x3f));
-    }
-    return out;
+    return QStringEncoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless).appendToBuffer(out, text);
 }
 
 } // namespace guide

@@ -5,16 +5,16 @@
 
 namespace guide {
 
-/// True when the bytes are well-formed UTF-8: no surrogates, no overlong forms, nothing past U+10FFFF. A NUL
-/// is a character like any other.
+/// True when the bytes are well-formed UTF-8: no surrogates, no overlong forms, nothing above U+10FFFF. NUL
+/// is allowed.
 bool isValidUtf8(QByteArrayView bytes);
 
-/// Reads UTF-8 into `text`, strictly; false when the bytes are not well-formed, and `text` is then
-/// unspecified.
+/// Decodes UTF-8 into `text`, byte order mark included. False when the bytes are not well-formed; `text` is
+/// then unspecified.
 bool readUtf8(QByteArrayView bytes, QString& text);
 
-/// Writes the text as UTF-8 at `out`, where three bytes for each unit of the text have to be free; a lone
-/// surrogate as U+FFFD. Returns the end.
+/// Encodes the text at `out`, which must have room for three bytes per UTF-16 unit; a lone surrogate becomes
+/// U+FFFD. Returns the end.
 char* writeUtf8(QStringView text, char* out);
 
 } // namespace guide

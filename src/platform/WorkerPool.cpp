@@ -53,7 +53,7 @@ class WorkerPool::ServiceClass final : public ThreadWaiting {
     }
 
   private:
-    /// Takes the calling worker off the number at work while it waits.
+    /// Excludes the calling worker from the number at work while it waits.
     class Away {
       public:
         explicit Away(ServiceClass& own)
@@ -73,7 +73,7 @@ class WorkerPool::ServiceClass final : public ThreadWaiting {
         ServiceClass& m_own;
     };
 
-    /// Wakes a worker for work that may be taken, or makes one. Called with the mutex held.
+    /// Wakes or creates a worker if work may start. Requires the mutex.
     void callWorker() {
         if (m_stopping || m_work.empty() || m_atWork >= m_atWorkLimit) {
             return;
@@ -85,7 +85,7 @@ class WorkerPool::ServiceClass final : public ThreadWaiting {
                 ++m_idle;
                 return;
             } catch (const std::system_error&) {
-                // The system has no thread to spare: the ones there are go on, one after the other.
+                // No more threads available: the existing workers continue.
                 if (m_threads.empty()) {
                     throw;
                 }
@@ -131,9 +131,9 @@ class WorkerPool::ServiceClass final : public ThreadWaiting {
     std::condition_variable m_changed;
     std::deque<std::shared_ptr<Work>> m_work;
     std::vector<std::thread> m_threads;
-    /// Workers that look for work, new ones counted from their making.
+    /// Workers that look for work, including those being created.
     std::size_t m_idle = 0;
-    /// Workers that run something and do not wait. Passes the limit for a while when one comes back from
+    /// Workers that run something and do not wait. Temporarily exceeds the limit when one returns from
     /// waiting.
     std::size_t m_atWork = 0;
     bool m_stopping = false;

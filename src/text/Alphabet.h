@@ -6,8 +6,8 @@
 
 namespace guide {
 
-/// Whether the device writes Cyrillic. One object, handed to whoever makes display texts: once found to be so
-/// it stays so until the process ends. Written on the main thread, read from any.
+/// Whether the device writes Cyrillic. One shared object for everything that makes display texts. Once true,
+/// it stays true until the process ends. Written on the main thread, read on any thread.
 class Alphabet {
   public:
     explicit Alphabet(bool useCyrillic = false)
@@ -15,7 +15,7 @@ class Alphabet {
 
     bool useCyrillic() const { return m_useCyrillic.load(std::memory_order_relaxed); }
 
-    /// Looks for a Cyrillic letter in a date as the device writes it (full date style, its locale).
+    /// Sets it when a date in the full style of the locale contains a Cyrillic letter.
     void detectAlphabet(const QString& fullDateText);
 
   private:

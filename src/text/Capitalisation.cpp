@@ -12,7 +12,7 @@ namespace guide {
 
 namespace {
 
-/// ICU's case rules of a language with the words of its texts: dear to open, so a thread keeps its own.
+/// ICU's case map and word iterator for a language. They are expensive to open, so each thread keeps its own.
 class TitleCase {
   public:
     explicit TitleCase(const QByteArray& localeName)
@@ -27,7 +27,7 @@ class TitleCase {
         if (!m_map) {
             return text;
         }
-        // No character grows to more than three when its case changes.
+        // A change of case at most triples the length.
         QString result(text.size() * 3, Qt::Uninitialized);
         UErrorCode error = U_ZERO_ERROR;
         const std::int32_t size = ucasemap_toTitle(

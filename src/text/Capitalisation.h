@@ -5,10 +5,11 @@
 
 namespace guide {
 
-/// Each word with an initial capital and the rest small, by Unicode's words and the rules of the locale.
+/// Capitalises the first letter of each word and lowercases the rest, by Unicode word boundaries and the
+/// rules of the locale.
 QString capitalizedWords(const QString& text, const QLocale& locale);
 
-/// The first character as a capital and the rest small, by the rules of the locale.
+/// Capitalises the first character and lowercases the rest, by the rules of the locale.
 QString sentenceCase(const QString& text, const QLocale& locale);
 
 } // namespace guide

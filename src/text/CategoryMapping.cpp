@@ -40,7 +40,7 @@ constexpr std::array kAttributes{
     AttributeRow{"Animated"_L1, TVListingsCategoryMovies},
 };
 
-/// The rows that are looked at one by one below.
+/// Rows that are tested individually below.
 constexpr std::uint64_t kBracketDramas = std::uint64_t(1) << 5;
 constexpr std::uint64_t kTextSF = std::uint64_t(1) << 9;
 constexpr std::uint64_t kTextFantasy = std::uint64_t(1) << 10;

@@ -8,23 +8,22 @@
 
 namespace guide {
 
-// The words by which feeds say what a show is, in many languages. Each answers the bits to be added; unknown
-// words add none. Keys are searched as substrings, every row of a table is tested, and composed and
-// decomposed input are alike.
+// Maps the words by which feeds describe a show, in many languages, to category bits. Unknown words add none.
+// Keys match as substrings, every row of a table is tested, and composed and decomposed input are equivalent.
 
 /// The value of a category's "desc" attribute, compared as a whole.
 TVListingsCategory mapCategoryAttribute(const QString& value);
 
-/// A bracketed stretch of a subtitle, brackets included.
+/// A bracketed part of a subtitle, brackets included.
 TVListingsCategory mapBracketCategories(const QString& text);
 
 struct SubtitleCategories {
     TVListingsCategory categories = 0;
-    /// Whether a word was known, also one that adds what is there already.
+    /// Whether a word was known, even if its bits were already set.
     bool recognised = false;
 };
 
-/// The subtitle, and some makers' names in the title.
+/// The subtitle, and the names of some producers in the title.
 SubtitleCategories mapSubtitleWords(const std::optional<QString>& subtitle,
                                     const std::optional<QString>& title);
 

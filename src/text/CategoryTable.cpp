@@ -6,8 +6,7 @@ namespace guide {
 
 namespace {
 
-/// Whether the unit may be one that composes with what stands before it. Of the letters and signs of our
-/// texts only marks are.
+/// Whether the unit may compose with the preceding one. Among the characters of our texts only marks do.
 unsigned mayCompose(char16_t unit) {
     const auto isWithin = [unit](char16_t first, char16_t behind) {
         return static_cast<unsigned>(unit >= first) & static_cast<unsigned>(unit < behind);
@@ -17,7 +16,7 @@ unsigned mayCompose(char16_t unit) {
 }
 
 bool mayCompose(QStringView text) {
-    // Without a branch, which makes it a matter of many units at a time.
+    // Branch-free, so that it is vectorised.
     unsigned found = 0;
     for (const QChar unit : text) {
         found |= mayCompose(unit.unicode());

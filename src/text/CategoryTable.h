@@ -12,7 +12,7 @@
 
 namespace guide {
 
-/// A key of a category table: the text and what its search ignores.
+/// A key of a category table: its text and what the search ignores.
 struct CategoryKey {
     constexpr CategoryKey(const char16_t* keyText,
                           FoldMode keyMode = FoldMode::None) // NOLINT: keys are literals
@@ -29,17 +29,17 @@ struct CategoryRow {
     std::vector<CategoryKey> keys;
 };
 
-/// A table of words, searched in one pass for each mode of search that its keys have.
+/// A table of words, searched in one pass for each fold mode that its keys use.
 class CategoryTable {
   public:
     static constexpr std::size_t kMostRows = 64;
 
     explicit CategoryTable(const std::vector<CategoryRow>& rows);
 
-    /// The rows of which a key occurs in the text: bit i stands for row i.
+    /// The rows with a key that occurs in the text: bit i stands for row i.
     std::uint64_t rowsFoundIn(const QString& text) const;
 
-    /// The bits of the given rows together.
+    /// The combined bits of the rows.
     TVListingsCategory categoriesOf(std::uint64_t rows) const;
 
   private:

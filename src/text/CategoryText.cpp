@@ -14,7 +14,7 @@ struct Title {
     const char16_t* text;
 };
 
-/// In the order in which they are looked for.
+/// In order of precedence.
 constexpr std::array kTitles{
     Title{TVListingsCategoryDocumentaries, u"Documentaries"},
     Title{TVListingsCategoryForChildren, u"For Children"},

@@ -8,8 +8,8 @@
 
 namespace guide {
 
-/// The title of a category, a key of the string table. Of several bits the first in the order of the titles
-/// counts; the selectors and the composite values have titles of their own; without a known bit it is "All
+/// The title of a category, a key of the string table. Of several bits, the first one in the order of the
+/// titles decides. Selectors and composite values have their own titles; without a known bit it is "All
 /// Shows".
 QString textForCategory(TVListingsCategory category);
 

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A text that is looked for by a sign of its own that few texts have.
+/// A marker and a character of it that few texts contain, which is searched for first.
 struct Marker {
     QStringView text;
     QChar sign;
@@ -21,7 +21,7 @@ constexpr std::array kDirectors{Marker{u"Scenarist i redatelj: ", u':'}, Marker{
                                 Marker{u"Režija: ", u':'}};
 constexpr Marker kCredit{u"Regia - ", u'-'};
 
-/// Where the text has the marker; negative when it has none.
+/// The position of the marker; negative if it is absent.
 qsizetype find(QStringView text, const Marker& marker, qsizetype from = 0) {
     const qsizetype before = marker.text.indexOf(marker.sign);
     for (qsizetype at = text.indexOf(marker.sign, from + before); at >= 0;
@@ -38,7 +38,7 @@ struct Found {
     qsizetype end;
 };
 
-/// The first of the markers, in their order, that the text has.
+/// The first of the markers, in their order, that the text contains.
 template <std::size_t Count>
 std::optional<Found> findFirst(QStringView text, const std::array<Marker, Count>& markers) {
     for (const Marker& marker : markers) {
@@ -72,7 +72,7 @@ QString restOfLine(const QString& text, qsizetype from) {
     return text.mid(from, end < 0 ? -1 : end - from);
 }
 
-/// Credits of the form "Uloge: … Redatelj: …", from `cast` on.
+/// Reads credits of the form "Uloge: … Redatelj: …", from `cast` on.
 void takeLabelledCredits(CleanedDescription& show, QString& text, const Found& cast) {
     qsizetype credits = cast.start;
     if (!show.roles) {
@@ -93,8 +93,7 @@ void appendName(QString& names, QStringView name) {
     names += name;
 }
 
-/// Where credits of the form "Regia - …" begin: a line end, a comma and a blank, or a blank before them
-/// belongs to them.
+/// Where credits of the form "Regia - …" begin, including a preceding line end, comma and blank, or blank.
 std::optional<qsizetype> listedCreditsIn(QStringView text, qsizetype credit) {
     for (; credit >= 0; credit = find(text, kCredit, credit + 1)) {
         const QStringView before = text.first(credit);
@@ -108,7 +107,7 @@ std::optional<qsizetype> listedCreditsIn(QStringView text, qsizetype credit) {
     return std::nullopt;
 }
 
-/// Credits of the form "Regia - …, actor, actor", from the first one on.
+/// Reads credits of the form "Regia - …, actor, actor", from the first one on.
 void takeListedCredits(CleanedDescription& show, QString& text) {
     const qsizetype first = find(text, kCredit);
     const auto credits = listedCreditsIn(text, first);
@@ -140,8 +139,8 @@ void takeListedCredits(CleanedDescription& show, QString& text) {
     text.truncate(*credits);
 }
 
-/// A blank line, and a line end behind a full stop, stay as one line end, and so does a carriage return;
-/// every other line end becomes a blank.
+/// A blank line, a line end after a full stop and a carriage return each become one line end; every other
+/// line end becomes a blank.
 void mendLineEnds(QString& text) {
     if (!text.contains(u'\n') && !text.contains(u'\r')) {
         return;
@@ -183,7 +182,7 @@ CleanedDescription cleanDescription(CleanedDescription show, const QString& site
         description.remove(0, 2);
     }
     if (!description.isEmpty() && !description.endsWith(u'.')) {
-        // Growing by itself it would take room for as much again.
+        // Automatic growth would double the allocation.
         description.reserve(description.size() + 1);
         description += u'.';
     }

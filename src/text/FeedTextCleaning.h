@@ -8,44 +8,44 @@
 
 namespace guide {
 
-// Feeds pack several things into free text: a title with an episode tail, country and year, a repeat mark; a
-// subtitle with bracketed category words; a description with cast, director and attribution. These take such
-// text apart.
+// Feeds pack several things into free text: a title with an episode suffix, country and year, a repeat mark;
+// a subtitle with bracketed category words; a description with cast, director and attribution. These
+// functions separate them.
 
-/// The display title: without stretches in parentheses and brackets, up to the first comma (unless it is one
-/// of a few titles with a comma of their own), and capitalised by the locale where it came in capitals.
+/// The display title: without parts in parentheses and brackets, up to the first comma (except for a few
+/// titles that contain one), and recapitalised by the locale if it is all capitals.
 QString showTitle(const QString& text, const QLocale& locale = QLocale());
 
-/// The tail of a title that describes the show; nothing when there is none.
+/// The end of a title that describes the show, if any.
 std::optional<QString> showInstantDescription(const QString& text);
 
-/// Whether the tail holds country and year, as "(USA/1999)".
+/// Whether the end of the title contains country and year, as in "(USA/1999)".
 bool hasProductionNote(const QString& text);
 
-/// Whether the title carries a repeat mark.
+/// Whether the title has a repeat mark.
 bool isRepeatMarked(const QString& text);
 
-/// A stretch of a text, in UTF-16 units.
+/// A range of a text, in UTF-16 units.
 struct TextRange {
     qsizetype start = 0;
     qsizetype size = 0;
 };
 
-/// The first "[" with the last "]" behind it on its line; nothing when there is none.
+/// From the first "[" to the last "]" after it on the same line; empty if there is none.
 std::optional<TextRange> bracketRange(QStringView text);
 
-/// Takes the bracketed stretch out of the subtitle and answers it, brackets included. A ". (…)" around what
-/// is left and one separator in front of it go too.
+/// Removes the bracketed part from the subtitle and returns it, brackets included. A ". (…)" around the rest
+/// and one separator in front of it are removed too.
 QString applySubtitleBracket(QString& subtitle, qsizetype start, qsizetype size);
 
-/// Where a subtitle ends up. A field that is unset here is unset in the show.
+/// The fields that a subtitle sets. A field that is unset here is unset in the show.
 struct FinishedSubtitle {
     std::optional<QString> subtitle1;
     std::optional<QString> instantDetails1;
 };
 
-/// Takes blanks and one pair of wrapping parentheses off the subtitle. It is a category, and goes to the
-/// instant details, when one of its words was recognised.
+/// Removes blanks and one pair of enclosing parentheses from the subtitle. If one of its words is a known
+/// category, the subtitle becomes the instant details.
 FinishedSubtitle finishSubtitle(const std::optional<QString>& subtitle, bool recognised);
 
 struct CleanedDescription {
@@ -54,8 +54,8 @@ struct CleanedDescription {
     std::optional<QString> directedBy;
 };
 
-/// Takes cast, director and the attribution to `siteHost` out of the description and mends its line ends and
-/// its full stop. Cast that is known already is kept. An unset or empty description changes nothing.
+/// Removes cast, director and the attribution to `siteHost` from the description, and repairs its line ends
+/// and full stop. A cast that is already known is kept. An unset or empty description changes nothing.
 CleanedDescription cleanDescription(CleanedDescription show, const QString& siteHost);
 
 } // namespace guide

@@ -95,7 +95,7 @@ void FoldTable::appendBases(char32_t character, FoldedCharacter& to) const {
         append(character, to);
         return;
     }
-    // The first part may decompose again.
+    // The first part may decompose further.
     const QString parts = QChar::decomposition(character);
     for (qsizetype i = 0; i < parts.size();) {
         appendBases(takeCodePoint(parts, i), to);
@@ -116,7 +116,7 @@ QString FoldTable::folded(QStringView text) const {
         qsizetype behind = i;
         const FoldedCharacter several = fold(takeCodePoint(text, behind));
         const qsizetype written = to - folded.constData();
-        // The rest of the text still has to fit.
+        // Leaves room for the rest of the text.
         if (folded.size() - written < several.size() + text.size() - behind) {
             folded.resize(written + several.size() + 3 * (text.size() - behind));
             to = folded.data() + written;

@@ -8,16 +8,16 @@
 
 namespace guide {
 
-/// What a search does not distinguish.
+/// What a search ignores.
 enum class FoldMode {
-    /// Nothing: code unit by code unit.
+    /// Nothing: compares code units.
     None,
     Case,
     Diacritics,
     CaseAndDiacritics,
 };
 
-/// What one character folds to: at most a few units, none for a mark that does not count.
+/// What one character folds to: at most a few units, none for an ignored mark.
 class FoldedCharacter {
   public:
     const char16_t* begin() const { return m_units.data(); }
@@ -27,29 +27,29 @@ class FoldedCharacter {
     void append(char32_t character);
 
   private:
-    /// A canonical decomposition comes to four characters.
+    /// A canonical decomposition has at most four characters.
     std::array<char16_t, 8> m_units;
     qsizetype m_size = 0;
 };
 
-/// How one code unit of the basic plane folds in a mode. Marks vanish where diacritics do not count, letters
-/// that do not decompose (đ, ł, ß, ı) stay, and a few (Hangul) become several units.
+/// How each code unit of the basic plane folds in a mode. Marks vanish if diacritics are ignored; letters
+/// that do not decompose (đ, ł, ß, ı) stay; a few (Hangul) become several units.
 class FoldTable {
   public:
-    /// Surrogates, which nothing folds to on its own.
+    /// Surrogates, which no character folds to alone.
     static constexpr char16_t kDropped = 0xD800;
     static constexpr char16_t kSeveral = 0xDC00;
 
-    /// The table of a mode, made on first use and kept for the process.
+    /// The table of a mode, created on first use and kept for the process.
     static const FoldTable& of(FoldMode mode);
 
     FoldMode mode() const { return m_mode; }
 
-    /// The folded unit; kDropped or kSeveral where there is none or more than one. Surrogates fold to
-    /// kSeveral: pairs go through fold.
+    /// The folded unit; kDropped or kSeveral if there is none or more than one. Surrogates give kSeveral:
+    /// pairs must go through fold.
     char16_t operator[](char16_t unit) const { return (*m_units)[unit]; }
 
-    /// What the character folds to, by Unicode.
+    /// What the character folds to, by the rules of Unicode.
     FoldedCharacter fold(char32_t character) const;
 
     QString folded(QStringView text) const;
@@ -64,7 +64,7 @@ class FoldTable {
     std::unique_ptr<std::array<char16_t, 0x10000>> m_units;
 };
 
-/// The code point at the position, which moves behind it. A lone surrogate is its own code point.
+/// The code point at the position, which moves past it. A lone surrogate is a code point of its own.
 char32_t takeCodePoint(QStringView text, qsizetype& position);
 
 } // namespace guide

@@ -4,8 +4,8 @@
 
 namespace guide {
 
-/// The text as searches see it that ignore case and diacritics: decomposed, without marks, case folded.
-/// Composed and decomposed input fold alike.
+/// The text as seen by searches that ignore case and diacritics: decomposed, without marks, case folded.
+/// Composed and decomposed input give the same result.
 QString foldedText(QStringView text);
 
 } // namespace guide

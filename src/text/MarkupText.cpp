@@ -13,7 +13,7 @@ constexpr auto kSectionStart = "<![CDATA["_L1;
 constexpr auto kSectionEnd = "]]>"_L1;
 constexpr qsizetype kMostUnits = 10'000;
 
-/// A stretch in which no reference is decoded, from the first up to the second position.
+/// A range in which references are not decoded.
 struct ProtectedSpan {
     std::uint64_t start = 0;
     std::uint64_t end = 0;
@@ -23,8 +23,8 @@ struct ProtectedSpan {
     }
 };
 
-/// Takes the wrapper of the first CDATA section away. The end of the span is not the place of the closing
-/// marker but the number of units behind it, counted from the start and as an unsigned number.
+/// Removes the wrapper of the first CDATA section. The end of the span is not the position of the closing
+/// marker but the number of units after it, counted from the start, as an unsigned number.
 ProtectedSpan unwrapSection(QString& text) {
     const qsizetype start = text.indexOf(kSectionStart);
     if (start < 0) {
@@ -41,15 +41,15 @@ ProtectedSpan unwrapSection(QString& text) {
     return {first, first + static_cast<std::uint64_t>(text.size()) - static_cast<std::uint64_t>(closing + 3)};
 }
 
-/// Goes through the text for the key and replaces what is not protected. `replacement(rest, keySize)` answers
-/// how many units of the rest (which begins with the key) become the one unit that it stores, or 0 to end the
-/// pass. What stands behind the replacement is looked at again, from the replacement on.
+/// Searches the text for the key and replaces it outside the protected range. `replacement(rest, keySize)`
+/// receives the rest of the text, which begins with the key, and returns how many units become the one unit
+/// that it stores, or 0 to end the pass. The search continues at the replacement.
 template <class Replacement>
 void decode(QString& text, QLatin1StringView key, const ProtectedSpan& span, Replacement&& replacement) {
     if (!text.contains(key)) {
         return;
     }
-    // The text is kept in one buffer: what is done before `written`, what is to come from `read` on.
+    // One buffer holds the finished text before `written` and the remaining text from `read` on.
     QChar* const units = text.data();
     const qsizetype size = text.size();
     qsizetype written = 0;
@@ -64,7 +64,7 @@ void decode(QString& text, QLatin1StringView key, const ProtectedSpan& span, Rep
             }
             read += taken - 1;
             units[read] = unit;
-            // A unit that cannot begin the key again is done with.
+            // A unit that cannot begin the key is finished.
             if (unit != key[0]) {
                 units[written++] = units[read++];
             }
@@ -87,7 +87,7 @@ int digitValue(QChar unit, int base) {
     return value < base ? value : -1;
 }
 
-/// The low 16 bits of the number that the text begins with; 0 when it begins with none.
+/// The low 16 bits of the number at the start of the text; 0 if there is none.
 char16_t codeUnit(QStringView text, int base) {
     std::uint32_t number = 0;
     for (const QChar unit : text) {
@@ -100,7 +100,8 @@ char16_t codeUnit(QStringView text, int base) {
     return static_cast<char16_t>(number);
 }
 
-/// A numeric reference: its digits begin behind so many units. It is replaced up to its ";", which stays.
+/// Decodes a numeric reference whose digits begin after the given number of units. It is replaced up to its
+/// ";", which stays.
 auto numericReference(qsizetype digitsAt, int base) {
     return [digitsAt, base](QStringView rest, QChar& unit) -> qsizetype {
         const qsizetype end = rest.indexOf(u';');

@@ -6,13 +6,13 @@
 
 namespace guide {
 
-/// A fragment lifted from a page, without its CDATA wrapper and with its references decoded, at most 10,000
-/// units. What lies in the first CDATA section is left alone. Kept as the pages need it: "&quot" takes no
-/// ";", a numeric reference leaves its ";" behind, and a decimal one loses its first digit.
+/// Decodes a fragment of a page: removes its CDATA wrapper and decodes its references, up to 10,000 units.
+/// The content of the first CDATA section is left alone. Quirks that the pages rely on are kept: "&quot" does
+/// not take its ";", a numeric reference leaves its ";", and a decimal one loses its first digit.
 QString decodeMarkup(const QString& text);
 
-/// The fragment without white space and punctuation in front and without white space behind, each pair of
-/// blanks made one; nothing when nothing is left.
+/// Trims leading white space and punctuation and trailing white space, and replaces each pair of blanks by
+/// one. Empty if nothing is left.
 std::optional<QString> trimmedListingText(const QString& text);
 
 } // namespace guide

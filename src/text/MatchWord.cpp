@@ -11,7 +11,8 @@ bool isLetter(char32_t character) {
                             : QChar::isLetter(character);
 }
 
-/// Whether the character that ends at the position is a letter, marks taken as part of what they are on.
+/// Whether the character that ends at the position is a letter; marks count as part of the character before
+/// them.
 bool letterEndsAt(QStringView text, qsizetype position) {
     while (position > 0) {
         --position;
@@ -27,7 +28,7 @@ bool letterEndsAt(QStringView text, qsizetype position) {
     return false;
 }
 
-/// Whether the text ends at the position or goes on with an ASCII character that is no letter.
+/// Whether the text ends at the position or continues with an ASCII character that is not a letter.
 bool wordEndsAt(QStringView text, qsizetype position) {
     while (position < text.size()) {
         const char32_t character = takeCodePoint(text, position);
@@ -43,7 +44,7 @@ bool wordEndsAt(QStringView text, qsizetype position) {
 
 } // namespace
 
-bool standsAsWord(QStringView text, qsizetype begin, qsizetype end) {
+bool isWholeWord(QStringView text, qsizetype begin, qsizetype end) {
     return wordEndsAt(text, end) && !letterEndsAt(text, begin);
 }
 
@@ -54,7 +55,7 @@ bool matchWord(QStringView text, QStringView word) {
     if (at < 0) {
         return false;
     }
-    // Back to the characters that the first and the last unit of the match come from.
+    // Maps the match back to positions in the original text.
     qsizetype begin = 0;
     qsizetype end = 0;
     for (qsizetype units = 0; units < at + wanted.size();) {
@@ -65,7 +66,7 @@ bool matchWord(QStringView text, QStringView word) {
             begin = character;
         }
     }
-    return standsAsWord(text, begin, end);
+    return isWholeWord(text, begin, end);
 }
 
 } // namespace guide

@@ -5,12 +5,12 @@
 namespace guide {
 
 /// Whether the word occurs in the text as a whole word, ignoring case and diacritics. Only its first
-/// occurrence is looked at. It must not follow a letter, and must be followed by nothing or by an ASCII
-/// character that is no letter.
+/// occurrence is tested. It must not follow a letter, and must be followed by the end or by an ASCII
+/// character that is not a letter.
 bool matchWord(QStringView text, QStringView word);
 
-/// The test of one occurrence, from `begin` up to `end`. A mark behind it belongs to it; one before it stands
-/// for the letter that it is on.
-bool standsAsWord(QStringView text, qsizetype begin, qsizetype end);
+/// Tests one occurrence, from `begin` to `end`. A mark after it belongs to it; a mark before it counts as the
+/// letter that it modifies.
+bool isWholeWord(QStringView text, qsizetype begin, qsizetype end);
 
 } // namespace guide

@@ -15,8 +15,8 @@ namespace guide {
 
 namespace {
 
-/// What one pass over a text found, as a set of clues. A group of the word lists is a clue, by its place in
-/// their order; the words that count on their own come behind.
+/// The clues that one pass over a text found, as a set of bits. A group of the word lists is a clue, numbered
+/// by its position; the words that count individually follow.
 using Clues = std::uint64_t;
 
 constexpr int kMostGroups = 32;
@@ -37,7 +37,7 @@ constexpr bool has(Clues clues, int clue) {
     return (clues >> clue & 1) != 0;
 }
 
-/// The words of all groups and of the later steps in one automaton, each with what it is a clue of.
+/// The words of all groups and of the later steps in one automaton, with the clues that they give.
 class Vocabulary {
   public:
     Vocabulary() {
@@ -81,7 +81,7 @@ class Vocabulary {
         std::bitset<kMostWords> seen;
         m_automaton->walk(text, [&](const WordAutomaton::Occurrence& occurrence) {
             const auto word = static_cast<std::size_t>(occurrence.word);
-            // Only the first occurrence of a word is looked at.
+            // Only the first occurrence of a word is tested.
             if (seen.test(word)) {
                 return;
             }
@@ -89,14 +89,14 @@ class Vocabulary {
             const Meaning& meaning = m_meanings[word];
             clues |= meaning.ifSeen;
             if ((meaning.ifMatched & ~clues) != 0 &&
-                standsAsWord(text, m_automaton->beginOf(text, occurrence), occurrence.end)) {
+                isWholeWord(text, m_automaton->beginOf(text, occurrence), occurrence.end)) {
                 clues |= meaning.ifMatched;
             }
         });
         return clues;
     }
 
-    /// Adds what the groups add whose words a text has, in their order.
+    /// Applies, in their order, the groups whose words were found.
     TVListingsCategory withGroups(TVListingsCategory categories, Clues clues) const {
         for (std::size_t place = 0; place < m_groups.size(); ++place) {
             const Group& group = m_groups[place];
@@ -114,7 +114,7 @@ class Vocabulary {
     struct Group {
         TVListingsCategory adds;
         TVListingsCategory clears;
-        /// Clues, or 0.
+        /// Clues; 0 if there are none.
         int conditional;
         int unless;
     };
@@ -189,9 +189,9 @@ TVListingsCategory categoriesOfSource(const QString& sourceId) {
 }
 
 struct Exclusion {
-    /// All of these have to be there,
+    /// All of these must be set,
     TVListingsCategory all;
-    /// and one of these, where there are any.
+    /// and one of these, if any are given.
     TVListingsCategory any;
     TVListingsCategory clears;
 };
@@ -203,7 +203,7 @@ constexpr TVListingsCategory kDocumentaries = TVListingsCategoryDocumentaries;
 constexpr TVListingsCategory kForChildren = TVListingsCategoryForChildren;
 constexpr TVListingsCategory kAllFilm = TVListingsCategoryAllFilm;
 
-/// Each on the result of the one before.
+/// Applied in this order, each to the result of the previous one.
 constexpr std::array kExclusions{
     Exclusion{kSeries | TVListingsCategoryCrime, 0, TVListingsCategoryCrime},
     Exclusion{kSeries | TVListingsCategoryDramas, 0, TVListingsCategoryDramas},
@@ -261,7 +261,7 @@ TVListingsCategory classifyEntry(const std::optional<QString>& sourceId, const C
         if (has(clues[0] | clues[1] | clues[2], kTale)) {
             categories |= kForChildren;
         }
-        // The last resort: abbreviations of a film or a series.
+        // Abbreviations of film and series, if nothing else was found.
         for (std::size_t i = 0; i < clues.size(); ++i) {
             if (i != kTitle && has(clues[i], kFilmShort)) {
                 categories |= TVListingsCategoryMovies;

@@ -8,8 +8,8 @@
 
 namespace guide {
 
-/// The texts that a show is classified by; unset and empty ones are skipped. Made for the call: it does not
-/// keep the texts.
+/// The texts that a show is classified by; unset and empty ones are skipped. Holds views, so it must not
+/// outlive the texts.
 struct ClassifiedTexts {
     ClassifiedTexts(const std::optional<QString>& details, const std::optional<QString>& title,
                     const std::optional<QString>& description)
@@ -22,8 +22,8 @@ struct ClassifiedTexts {
     QStringView instantDescription1;
 };
 
-/// The categories that word lists in many languages, the number of the source and a pass of exclusions give a
-/// show. 0 when nothing matches. Never a series beside a film. Any thread.
+/// Classifies a show by word lists in many languages, the number of its source and a series of exclusions. 0
+/// when nothing matches. Never both a series and a film. Any thread.
 TVListingsCategory classifyEntry(const std::optional<QString>& sourceId, const ClassifiedTexts& texts);
 
 } // namespace guide

@@ -6,7 +6,7 @@ namespace guide {
 
 namespace {
 
-// The words of the schedules, misspellings included: they are what the sources write.
+// The words that sources use, including their misspellings.
 constexpr std::array kMusic{u"music",    u"glazba", u"glazb.",   u"glaz.",    u"muzički", u"muzička",
                             u"muz.",     u"muzică", u"música",   u"muzika",   u"mjuz.",   u"glazbeno",
                             u"glazbena", u"hudba",  u"zene",     u"jukebox",  u"klavir",  u"koncert",

@@ -8,20 +8,20 @@
 
 namespace guide {
 
-/// A group of the classifier: any of its words adds its bits.
+/// A group of words of the classifier: any of them adds the bits.
 struct ClassifierGroup {
     TVListingsCategory adds;
     std::span<const char16_t* const> words;
-    /// Counts where it occurs at all, as part of a word too; null when there is none.
+    /// Matches anywhere, also within a word; may be null.
     const char16_t* substring = nullptr;
-    /// Counts unless the other one matches; null when there is none.
+    /// Matches unless `unless` matches too; may be null.
     const char16_t* conditional = nullptr;
     const char16_t* unless = nullptr;
-    /// Clears these bits before it adds its own.
+    /// Bits to clear before `adds`.
     TVListingsCategory clears = 0;
 };
 
-/// In the order in which they are tested.
+/// The groups in the order in which they are tested.
 std::span<const ClassifierGroup> classifierGroups();
 
 } // namespace guide

@@ -10,10 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What may be left in front of a subtitle when its bracket has gone.
+/// Characters that may remain in front of a subtitle when its bracket is removed.
 constexpr std::array kPrefixes{" . "_L1, ", "_L1, " "_L1, ". "_L1};
 
-/// Takes every such sign off both ends and answers how many went.
+/// Removes these characters from both ends and returns how many were removed.
 int trimSign(QStringView& text, QChar sign) {
     const qsizetype before = text.size();
     while (text.startsWith(sign)) {

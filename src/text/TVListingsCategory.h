@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// A set of the bits below: what kinds of show a show is.
+/// A set of the bits below.
 using TVListingsCategory = std::uint32_t;
 
 inline constexpr TVListingsCategory TVListingsCategoryMovies = 0x1;
@@ -31,7 +31,7 @@ inline constexpr TVListingsCategory TVListingsCategoryFilmGenres = 0x1ff00;
 inline constexpr TVListingsCategory TVListingsCategoryAllFilm = 0x1ff01;
 /// The selector "All Shows".
 inline constexpr TVListingsCategory TVListingsCategoryAllShows = 0x1ffff;
-/// The selectors -1 and -2, which are no sets of bits.
+/// The selectors -1 and -2, which are not sets of bits.
 inline constexpr TVListingsCategory TVListingsCategoryEveningShows = 0xffffffff;
 inline constexpr TVListingsCategory TVListingsCategoryMostWatched = 0xfffffffe;
 

@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// "guide.text": how texts were taken apart. Silent unless it is asked for.
+/// "guide.text": logs how texts were split. Off by default.
 Q_DECLARE_LOGGING_CATEGORY(textLog)
 
 } // namespace guide

@@ -6,13 +6,12 @@ namespace guide {
 
 namespace {
 
-/// The end of the line that the position is in.
+/// The end of the line that contains the position.
 qsizetype lineEndFrom(QStringView text, qsizetype position) {
     return std::find_if(text.begin() + position, text.end(), isLineEnd) - text.begin();
 }
 
-/// Removes all that `match` finds: it answers the end of a match that begins at the position, or a negative
-/// number.
+/// Removes every match. `match` returns the end of a match that begins at the position, or a negative number.
 template <class Match>
 QString without(const QString& text, QChar sign, Match&& match) {
     if (!text.contains(sign)) {
@@ -35,14 +34,13 @@ QString without(const QString& text, QChar sign, Match&& match) {
     return left;
 }
 
-/// Answers for a sequence of positions, in ascending order, where the last `closing` of the position's line
-/// stands.
+/// For ascending positions, finds the last `closing` on the line of each.
 class LastOfLine {
   public:
     explicit LastOfLine(QChar closing)
         : m_closing(closing) {}
 
-    /// Negative when the line has none at or behind the position.
+    /// Negative if the line has none at or after the position.
     qsizetype at(QStringView text, qsizetype position) {
         if (position >= m_lineEnd) {
             m_lineEnd = std::max(lineEndFrom(text, position), position + 1);
@@ -94,7 +92,8 @@ QString withoutLabelTails(const QString& text) {
         const auto* wordEnd =
             std::find_if(view.begin() + i + 1, view.end(), [](QChar unit) { return unit.isSpace(); });
         const qsizetype blank = wordEnd - view.begin();
-        // At least one character before the colon, a blank behind it, and something behind that on one line.
+        // At least one character before the colon, a blank after it, and something after that on the same
+        // line.
         if (blank - i < 3 || view[blank - 1] != u':' || blank + 1 >= view.size() ||
             isLineEnd(view[blank + 1])) {
             return qsizetype(-1);

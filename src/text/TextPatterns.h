@@ -6,20 +6,20 @@
 
 namespace guide {
 
-/// Where "." of a pattern stops.
+/// Whether the character ends a line, as for "." in a regular expression.
 bool isLineEnd(QChar unit);
 
-/// Removes every blank or no-break space with a parenthesised stretch behind it: from "(" to the last ")" of
-/// the line.
+/// Removes every blank or no-break space together with the parentheses that follow it: from "(" to the last
+/// ")" on the line.
 QString withoutParentheses(const QString& text);
 
-/// Removes every stretch from "[" to the last "]" of the line.
+/// Removes everything from a "[" to the last "]" on the line.
 QString withoutBrackets(const QString& text);
 
-/// Removes every blank with a word that ends in ":" behind it, together with the rest of the line.
+/// Removes every blank followed by a word that ends in ":", together with the rest of the line.
 QString withoutLabelTails(const QString& text);
 
-/// Without white space at both ends.
+/// The text without leading and trailing white space.
 QStringView trimmedSpace(QStringView text);
 
 } // namespace guide

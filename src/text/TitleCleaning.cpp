@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Titles with a comma of their own.
+/// Titles that contain a comma.
 constexpr std::array<QStringView, 6> kProtectedTitles{
     u"Tri, dva, jedan - kuhaj", u"Gem, set, meč", u"Lud, zbunjen, normalan",
     u"Draga, smanjili smo se",  u"2,4 djeteta",   u"Zvonili ste, milorde?",
@@ -61,8 +61,8 @@ std::optional<QString> showInstantDescription(const QString& text) {
     if (comma < 0) {
         return std::nullopt;
     }
-    // Counted in the shorter text and applied to the whole one: stretches before the comma make the tail
-    // begin later.
+    // The length is taken from the shorter text and applied to the whole one: removed parts before the comma
+    // make the end of the title begin later.
     return text.mid(comma + 2);
 }
 

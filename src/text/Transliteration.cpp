@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Parallel: the character at a position of the first is written as the one at the same position of the
-// second. The Latin "e", "E" and "M" in the second stay Latin.
+// Parallel strings: each character of the first maps to the one at the same position of the second. The Latin
+// "e", "E" and "M" in the second stay Latin.
 constexpr std::u16string_view kLatin =
     u"bcčćdđefg\u01F5hi\u01F0k\u1E31lmnpqrsštuvwxyzž\u1E91BCČĆDĐEFG\u01F4HIKLMNPQRSŠTUVWYZŽ\u1E90";
 constexpr std::u16string_view kCyrillic =
@@ -25,8 +25,8 @@ struct Replacement {
     std::u16string_view to;
 };
 
-/// They go before the letters. No key begins inside another one but "zh" in "dzh", so one pass from the front
-/// equals a pass for each key. Keys that begin alike stand together.
+/// Replaced before single letters. No key begins inside another one except "zh" in "dzh", so one pass over
+/// the text equals one pass per key. Keys with the same first unit are adjacent.
 constexpr std::array kReplacements{
     Replacement{u"dzh", u"\u045F"},
     Replacement{u"d\u017E", u"\u045F"},
@@ -54,15 +54,15 @@ constexpr std::array kReplacements{
     Replacement{u"Sh", u"\u0428"},
     Replacement{u"\u017A", u"\u0437\u0301"},
     Replacement{u"\u0179", u"\u0417\u0301"},
-    // They go to "ć" and "Ć", which the alphabet then has a letter for.
+    // Become "ć" and "Ć", which then have a letter in the alphabet.
     Replacement{u"\u015B", u"\u045B"},
     Replacement{u"\u015A", u"\u040B"},
-    // Goes last of all, but nothing before it touches it.
+    // Replaced last, but nothing before it affects it.
     Replacement{u"J\u030C", u"\u0408"},
 };
 
-/// What a unit becomes on its own, and the keys that begin with it. Nothing above these pages is touched: the
-/// last Latin letter of the alphabet lies below U+1F00.
+/// The replacement of each unit and the keys that begin with it. Characters above these pages are unchanged:
+/// the last Latin letter of the alphabet is below U+1F00.
 struct UnitTable {
     static constexpr std::size_t kUnits = 0x1F00;
 
@@ -79,11 +79,11 @@ struct UnitTable {
     }
 
     std::array<char16_t, kUnits> letters;
-    /// One more than the place of the first key that begins with the unit, or 0.
+    /// One more than the index of the first key that begins with the unit, or 0.
     std::array<std::uint8_t, kUnits> firstKeys{};
 };
 
-/// The first key that the rest of a text begins with, from a place among those that begin with its first
+/// The first key that the rest of the text begins with, starting from an index among the keys with its first
 /// unit.
 const Replacement* replacementAt(std::u16string_view rest, std::size_t firstKey) {
     for (std::size_t i = firstKey; i < kReplacements.size(); ++i) {
@@ -100,7 +100,7 @@ const Replacement* replacementAt(std::u16string_view rest, std::size_t firstKey)
 QString transliterated(const QString& text) {
     static const UnitTable kTable;
     const std::u16string_view view(QStringView(text).utf16(), static_cast<std::size_t>(text.size()));
-    // One unit at most becomes two.
+    // A unit becomes at most two.
     QString result(text.size() * 2, Qt::Uninitialized);
     QChar* to = result.data();
     for (std::size_t i = 0; i < view.size();) {

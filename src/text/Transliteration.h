@@ -8,8 +8,8 @@
 
 namespace guide {
 
-/// The display form of a text in a language: in Cyrillic for "mk", for "sr", "bs", "me" and "ru" only where
-/// the device writes Cyrillic, and the very text for any other language. Unset stays unset.
+/// The display form of a text in a language: Cyrillic for "mk", and for "sr", "bs", "me" and "ru" if the
+/// device writes Cyrillic; for any other language the text itself. Unset stays unset.
 std::optional<QString> latin2Cyrillic(const std::optional<QString>& text, const QString& language,
                                       const Alphabet& alphabet);
 QString latin2Cyrillic(const QString& text, const QString& language, const Alphabet& alphabet);

@@ -6,11 +6,11 @@ namespace guide {
 
 namespace {
 
-/// The trie of the words, with the links of the automaton.
+/// A trie of the words with the links of the automaton.
 struct Node {
     std::vector<std::uint32_t> next;
     std::uint32_t fallback = 0;
-    /// The words that end here, longest first.
+    /// Words that end here, longest first.
     std::vector<int> words;
 };
 
@@ -63,7 +63,7 @@ WordAutomaton::WordAutomaton(const std::vector<QString>& words, FoldMode mode)
         nodes[node].words.push_back(static_cast<int>(word));
     }
 
-    // Breadth first, so that a node's fallback is complete before the node is.
+    // Breadth first: the fallback of a node must be complete before the node.
     std::vector<std::uint32_t> order{0};
     for (std::size_t at = 0; at < order.size(); ++at) {
         const std::uint32_t node = order[at];

@@ -13,26 +13,24 @@
 
 namespace guide {
 
-/// Finds all words of a list in a text in one pass (Aho and Corasick's automaton, as a dense table). Folding
-/// is part of the walk: the text is read as it stands, so positions are those of the original characters.
+/// Finds all words of a list in a text in one pass (an Aho-Corasick automaton as a dense table). Folding
+/// happens during the walk, so positions are those of the original text.
 ///
-/// Made once; used by any number of threads.
+/// Immutable; may be used from any number of threads.
 class WordAutomaton {
   public:
-    /// Word i is reported by its index. A word that folds to nothing is never found.
+    /// Words are reported by their index. A word that folds to nothing is never found.
     WordAutomaton(const std::vector<QString>& words, FoldMode mode);
 
-    /// An occurrence of a word. `end` is the position behind the last unit that took part, before any marks
-    /// that belong to it.
+    /// An occurrence of a word. `end` is the position after its last unit, not counting marks that follow.
     struct Occurrence {
         int word;
         qsizetype end;
-        /// From here up to the end each unit of the text is one folded unit.
+        /// From here to the end, each unit of the text is one folded unit.
         qsizetype plainFrom;
     };
 
-    /// Calls `found(occurrence)` for every one, in the order of their ends and, of one end, the longest
-    /// first.
+    /// Calls `found(occurrence)` for each occurrence, ordered by end, and for the same end the longest first.
     template <class Found>
     void walk(QStringView text, Found&& found) const {
         const std::uint32_t* const next = m_next.data();
@@ -58,9 +56,9 @@ class WordAutomaton {
         }
     }
 
-    /// Calls `found(word)` for every word that occurs, in no order and perhaps several times. Each step of a
-    /// walk waits for the one before it, so a long text is walked in four places at once where nothing is
-    /// folded.
+    /// Calls `found(word)` for each word that occurs, in no particular order and possibly several times. Each
+    /// step of a walk depends on the previous one, so if nothing is folded a long text is walked in four
+    /// places at once.
     template <class Found>
     void findWords(QStringView text, Found&& found) const {
         constexpr qsizetype kPlaces = 4;
@@ -72,14 +70,14 @@ class WordAutomaton {
         const std::uint32_t* const next = m_next.data();
         const std::uint8_t* const classes = m_classes->data();
         const std::uint32_t firstAccepting = m_firstAccepting;
-        // The stretches overlap by all but a unit of the longest word.
+        // The parts overlap by one unit less than the longest word.
         const qsizetype overlap = m_longest - 1;
         const qsizetype length = (text.size() + (kPlaces - 1) * overlap + kPlaces - 1) / kPlaces;
         const char16_t* const first = text.utf16();
         const char16_t* const second = first + (length - overlap);
         const char16_t* const third = second + (length - overlap);
         const char16_t* const last = first + (text.size() - length);
-        // Four names and no array, which the compiler would keep in memory.
+        // Four variables: the compiler would keep an array in memory.
         std::uint32_t a = 0;
         std::uint32_t b = 0;
         std::uint32_t c = 0;
@@ -99,7 +97,7 @@ class WordAutomaton {
         }
     }
 
-    /// Where an occurrence that walk has told begins.
+    /// The first position of an occurrence that walk reported.
     qsizetype beginOf(QStringView text, const Occurrence& occurrence) const {
         const qsizetype begin = occurrence.end - m_lengths[static_cast<std::size_t>(occurrence.word)];
         return begin >= occurrence.plainFrom ? begin : beginAmongMarks(text, occurrence);
@@ -117,7 +115,8 @@ class WordAutomaton {
         }
     }
 
-    /// A character that folds to several units, or a pair of surrogates. `position` moves to its last unit.
+    /// Handles a character that folds to several units, or a surrogate pair. `position` moves to its last
+    /// unit.
     template <class Found>
     std::uint32_t walkSeveral(QStringView text, qsizetype& position, std::uint32_t state,
                               Found&& found) const {
@@ -137,14 +136,14 @@ class WordAutomaton {
     std::uint8_t foldedClass(char16_t unit) const;
 
     const FoldTable* m_table;
-    /// Nothing is folded: each unit of a text has a class of its own.
+    /// Without folding: the class of each unit of a text.
     bool m_isPlain;
-    /// The class of each unit of a text, folding included; 0 is what no word has.
+    /// The class of each unit of a text, folding included; 0 for units that no word contains.
     std::unique_ptr<std::array<std::uint8_t, 0x10000>> m_classes;
-    /// The units that words have, in ascending order: class c is that of m_alphabet[c - 1].
+    /// The units that occur in words, in ascending order: class c is that of m_alphabet[c - 1].
     std::u16string m_alphabet;
     std::uint32_t m_classCount = 1;
-    /// State by class; a state is the place of its row here. Accepting states come last.
+    /// Next state by state and class; a state is the index of its row. Accepting states come last.
     std::vector<std::uint32_t> m_next;
     std::uint32_t m_firstAccepting = 0;
     std::vector<std::uint32_t> m_acceptedFrom;

@@ -1,7 +1,7 @@
 #include "alarms/SilentHours.h"
 
 #include "fakes/FakeDevice.h"
-#include "fakes/MemoryKeyValueStore.h"
+#include "platform/memory/MemoryKeyValueStore.h"
 
 #include <QDateTime>
 

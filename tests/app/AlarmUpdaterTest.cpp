@@ -2,9 +2,9 @@
 
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeShowSources.h"
-#include "fakes/ManualClock.h"
+#include "platform/memory/ManualClock.h"
 #include "fakes/ManualQueues.h"
-#include "fakes/MemoryUserDefaults.h"
+#include "platform/memory/MemoryUserDefaults.h"
 
 #include <gtest/gtest.h>
 

@@ -4,12 +4,12 @@
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeBackgroundTasks.h"
 #include "fakes/FakeDevice.h"
-#include "fakes/MemoryKeyValueStore.h"
-#include "fakes/MemoryUserDefaults.h"
 #include "fakes/ScriptedServer.h"
 #include "platform/ThreadedQueues.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/LinuxAudioSession.h"
+#include "platform/memory/MemoryKeyValueStore.h"
+#include "platform/memory/MemoryUserDefaults.h"
 
 #include <QString>
 #include <QTemporaryDir>
@@ -39,13 +39,14 @@ class ImpatientHTTPClient final : public HTTPClient {
         : m_client(client)
         , m_hopelessPaths(hopelessPaths) {}
 
-    TransferResult perform(const HTTPRequest& request) override {
+    using HTTPClient::perform;
+    TransferResult perform(const HTTPRequest& request, const TakePiece& takePiece) override {
         HTTPRequest hasty = request;
         hasty.timeout = m_hopelessPaths.contains(request.url.path().toLatin1())
                             ? std::chrono::milliseconds(750)
                             : kPatience;
         hasty.resourceTimeout = hasty.timeout * 2;
-        return m_client.perform(hasty);
+        return m_client.perform(hasty, takePiece);
     }
     void removeCachedResponse(const HTTPRequest& request) override { m_client.removeCachedResponse(request); }
     void cancelAll() override { m_client.cancelAll(); }

@@ -2,8 +2,8 @@
 
 #include "app/UpdateCycle.h"
 #include "fakes/FakeHTTPClient.h"
-#include "fakes/ManualClock.h"
 #include "fakes/StoreFixture.h"
+#include "platform/memory/ManualClock.h"
 #include "sources/SourceId.h"
 
 #include <string>

@@ -1,7 +1,7 @@
 #include "core/RemoteHostAlert.h"
 
-#include "fakes/ManualClock.h"
 #include "fakes/ManualQueues.h"
+#include "platform/memory/ManualClock.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
 #include "core/TVChannels.h"
 
 #include "core/ListingsFile.h"
-#include "fakes/ManualClock.h"
 #include "fakes/ManualQueues.h"
-#include "fakes/MemoryKeyValueStore.h"
 #include "platform/Archive.h"
 #include "platform/FileReplacement.h"
 #include "platform/ThreadedQueues.h"
+#include "platform/memory/ManualClock.h"
+#include "platform/memory/MemoryKeyValueStore.h"
 
 #include <QCborArray>
 #include <QDir>

@@ -15,7 +15,9 @@ namespace guide {
 /// refused connection. Records every request.
 class FakeHTTPClient final : public HTTPClient {
   public:
-    TransferResult perform(const HTTPRequest& request) override {
+    using HTTPClient::perform;
+    /// Pieces are three bytes long.
+    TransferResult perform(const HTTPRequest& request, const TakePiece& takePiece) override {
         std::function<void(const HTTPRequest&)> asked;
         TransferResult answer = refused();
         {
@@ -33,6 +35,15 @@ class FakeHTTPClient final : public HTTPClient {
         }
         if (asked) {
             asked(request);
+        }
+        if (takePiece && !answer.error && answer.response->statusCode / 100 == 2) {
+            const QByteArray body = std::exchange(answer.body, {});
+            for (qsizetype at = 0; at < body.size(); at += 3) {
+                if (!takePiece(QByteArrayView(body.mid(at, 3)))) {
+                    answer.error = TransferError{QStringLiteral("ended by the receiver"), {}, {}, true};
+                    break;
+                }
+            }
         }
         return answer;
     }

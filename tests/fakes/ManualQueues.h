@@ -1,8 +1,8 @@
 #pragma once
 
-#include "fakes/ManualClock.h"
 #include "platform/DispatchQueue.h"
 #include "platform/ThreadWaiting.h"
+#include "platform/memory/ManualClock.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -51,8 +51,7 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
     const std::string& label() const override { return m_label; }
     void async(Block block) override { submit(std::move(block), false); }
     void asyncBarrier(Block block) override { submit(std::move(block), true); }
-    void sync(const Block& block) override { runInline(block, false); }
-    void syncBarrier(const Block& block) override { runInline(block, true); }
+    void sync(const Block& block) override { runInline(block); }
 
     void asyncAfter(std::chrono::milliseconds delay, Block block) override {
         const auto state = checkedState();
@@ -70,12 +69,6 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
     SuspensionToken suspend() override {
         ++m_suspensions;
         return SuspensionToken([self = shared_from_this()] { --self->m_suspensions; });
-    }
-
-    void assertCurrent() const override {
-        if (!isCurrent()) {
-            ADD_FAILURE() << "not on the queue " << m_label;
-        }
     }
 
     bool suspended() const { return m_suspensions > 0; }
@@ -145,7 +138,7 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
         }
     }
 
-    void runInline(const Block& block, bool barrier) {
+    void runInline(const Block& block) {
         const auto state = checkedState();
         if (!state) {
             return;
@@ -156,15 +149,15 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
         if (m_suspensions > 0) {
             ADD_FAILURE() << "sync on the suspended queue " << m_label << " would deadlock";
         }
-        const bool nestedReader = !exclusive(barrier) && m_readersRunning > 0 && isCurrent();
-        // A real queue would run these first.
+        const bool nestedReader = !exclusive(false) && m_readersRunning > 0 && isCurrent();
+        // What a real queue would run before this block's turn.
         for (std::size_t ahead = nestedReader ? 0 : m_pending.size(); ahead > 0 && canRun(); --ahead) {
             runFront();
         }
-        if (m_exclusiveRunning || (exclusive(barrier) && m_readersRunning > 0)) {
-            ADD_FAILURE() << "sync on " << m_label << " from one of its blocks would deadlock";
+        if (m_exclusiveRunning) {
+            ADD_FAILURE() << "sync on " << m_label << " from one of its own blocks would not return";
         }
-        run(block, exclusive(barrier), false);
+        run(block, exclusive(false), false);
     }
 
     void run(const Block& block, bool alone, bool ownThread) {
@@ -244,6 +237,20 @@ class ManualQueues final : public DispatchQueues, private ThreadWaiting {
         return runWhile([&label](const ManualQueue& queue) { return queue.label() == label; });
     }
 
+    /// Whether the caller runs on this queue, one of these. The body of a test runs on the main queue.
+    static bool isCurrent(const DispatchQueue& queue) {
+        return static_cast<const ManualQueue&>(queue).isCurrent();
+    }
+
+    /// Blocks that were submitted and have not begun, delayed ones not counted.
+    std::size_t pending() const {
+        return count([](const ManualQueue&) { return true; });
+    }
+    std::size_t pending(const std::string& label) const {
+        return count([&label](const ManualQueue& queue) { return queue.label() == label; });
+    }
+    /// Blocks of asyncAfter whose moment has not come.
+    std::size_t delayed() const { return m_state->timers.size(); }
     bool suspended(const std::string& label) const {
         return std::any_of(m_state->queues.begin(), m_state->queues.end(), [&label](const auto& queue) {
             return queue->label() == label && queue->suspended();

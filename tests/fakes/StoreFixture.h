@@ -7,8 +7,8 @@
 #include "fakes/FakeBackgroundTasks.h"
 #include "fakes/FakeDevice.h"
 #include "fakes/FakeShowSources.h"
-#include "fakes/MemoryKeyValueStore.h"
-#include "fakes/MemoryUserDefaults.h"
+#include "platform/memory/MemoryKeyValueStore.h"
+#include "platform/memory/MemoryUserDefaults.h"
 #include "store/TVListings.h"
 
 #include <QTemporaryDir>

@@ -1,8 +1,8 @@
 #include "parsers/ListDriver.h"
 
-#include "fakes/ManualClock.h"
 #include "parsers/SourceFormats.h"
 #include "parsers/xmltv/XMLTVListReader.h"
+#include "platform/memory/ManualClock.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -1,6 +1,6 @@
 #include "StoreWorld.h"
-#include "fakes/ManualClock.h"
 #include "fakes/ManualQueues.h"
+#include "platform/memory/ManualClock.h"
 
 #include <csignal>
 #include <functional>

@@ -3,6 +3,8 @@
 #include "TestShows.h"
 #include "fakes/StoreFixture.h"
 #include "platform/FileReplacement.h"
+#include "platform/memory/MemoryKeyValueStore.h"
+#include "platform/memory/MemoryUserDefaults.h"
 #include "store/ShowCoding.h"
 
 #include <QDir>

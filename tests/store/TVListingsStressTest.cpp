@@ -1,6 +1,6 @@
 #include "StoreWorld.h"
-#include "fakes/ManualClock.h"
 #include "platform/ThreadedQueues.h"
+#include "platform/memory/ManualClock.h"
 
 #include <condition_variable>
 #include <thread>

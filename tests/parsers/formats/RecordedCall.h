@@ -1,8 +1,8 @@
 #pragma once
 
-#include "fakes/ManualClock.h"
 #include "parsers/ListDriver.h"
 #include "parsers/SourceFormats.h"
+#include "platform/memory/ManualClock.h"
 
 #include <QDateTime>
 #include <QDir>

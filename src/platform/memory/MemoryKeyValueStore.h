@@ -29,7 +29,24 @@ class MemoryKeyValueStore final : public KeyValueStore {
         m_values.remove(key);
     }
 
-    /// How many values were stored so far.
+    void setObserver(KeyValueStoreObserver* observer) override { m_observer = observer; }
+
+    /// Sets a value as another device would; without one, removes it. Main thread.
+    void setExternally(const QString& key, const std::optional<QCborValue>& value) {
+        {
+            const std::lock_guard guard(m_guard);
+            if (value) {
+                m_values.insert(key, *value);
+            } else {
+                m_values.remove(key);
+            }
+        }
+        if (m_observer != nullptr) {
+            m_observer->valuesChangedExternally({key});
+        }
+    }
+
+    /// How many values were set so far, external ones not included.
     int writeCount() const {
         const std::lock_guard guard(m_guard);
         return m_writes;
@@ -41,6 +58,7 @@ class MemoryKeyValueStore final : public KeyValueStore {
     mutable std::mutex m_guard;
     QMap<QString, QCborValue> m_values;
     int m_writes = 0;
+    KeyValueStoreObserver* m_observer = nullptr;
 };
 
 } // namespace guide

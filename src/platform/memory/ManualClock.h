@@ -8,7 +8,7 @@
 
 namespace guide {
 
-/// A clock that only the test moves. Starts on 31 December 2025, 18:30 UTC.
+/// A clock that shows the same moment until it is set. Starts on 31 December 2025, 18:30 UTC.
 class ManualClock final : public Clock {
   public:
     ManualClock() = default;
@@ -25,7 +25,7 @@ class ManualClock final : public Clock {
     }
     void advance(std::chrono::milliseconds span) { set(m_now + span); }
 
-    /// Called after each move; captured references must outlive the last one.
+    /// Calls the function after every move.
     void onMove(std::function<void()> moved) { m_moved.push_back(std::move(moved)); }
 
   private:
