@@ -1,7 +1,7 @@
 // The readers of JSON and XML sources against the parsers that they use.
 
 #include "FamilyPages.h"
-#include "text/ShowClassifier.h"
+#include "text/categories/ShowClassifier.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

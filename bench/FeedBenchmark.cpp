@@ -7,7 +7,7 @@
 #include "parsers/ListDriver.h"
 #include "parsers/xmltv/ProgrammeSkipScan.h"
 #include "parsers/xmltv/XMLTVToEntries.h"
-#include "platform/Decompression.h"
+#include "platform/encoding/Decompression.h"
 #include "platform/memory/ManualClock.h"
 #include "sources/PageText.h"
 

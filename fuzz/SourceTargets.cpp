@@ -4,7 +4,7 @@
 #include "fakes/Packing.h"
 #include "parsers/URLPlanner.h"
 #include "parsers/formats/RecordedCall.h"
-#include "platform/Utf8.h"
+#include "platform/encoding/Utf8.h"
 #include "sources/PageText.h"
 
 #include <QSet>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "alarms/AlarmSynchronisation.h"
-#include "platform/DispatchQueue.h"
 #include "platform/LifeCycle.h"
 #include "platform/UserDefaults.h"
+#include "platform/queues/DispatchQueue.h"
 #include "store/ListingsObserver.h"
 
 namespace guide {

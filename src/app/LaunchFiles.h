@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/CommandLine.h"
-#include "platform/Folders.h"
+#include "platform/files/Folders.h"
 #include "sources/SourceHostTable.h"
 
 #include <QString>

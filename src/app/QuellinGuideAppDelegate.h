@@ -21,7 +21,7 @@
 #include "sources/PageFetcher.h"
 #include "sources/SourceHealthRecords.h"
 #include "store/TVListings.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 #include <atomic>
 #include <chrono>

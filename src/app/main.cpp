@@ -7,7 +7,7 @@
 #include "app/QuellinGuideAppDelegate.h"
 #include "app/WindowState.h"
 #include "demo/DemoEnvironment.h"
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/DesktopMotion.h"
 #include "platform/linux/EventLoopQueues.h"

@@ -3,7 +3,7 @@
 #include "demo/DemoFiles.h"
 #include "demo/DemoSites.h"
 #include "demo/feeds/DemoFeed.h"
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QDir>
 #include <QtDebug>

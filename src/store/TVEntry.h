@@ -3,7 +3,7 @@
 #include "core/ObjectId.h"
 #include "platform/Moment.h"
 #include "store/ShowDigest.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 #include <QString>
 #include <QUrl>

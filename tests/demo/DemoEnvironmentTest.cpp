@@ -8,8 +8,8 @@
 #include "demo/Texts.h"
 #include "demo/schedule/ScheduleGenerator.h"
 #include "parsers/URLPlanner.h"
-#include "platform/CharacterSets.h"
-#include "platform/Decompression.h"
+#include "platform/encoding/CharacterSets.h"
+#include "platform/encoding/Decompression.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -3,8 +3,8 @@
 #include "demo/Texts.h"
 #include "demo/schedule/ScheduleGenerator.h"
 #include "parsers/xmltv/XMLTVToEntries.h"
-#include "platform/CharacterSets.h"
-#include "text/TVListingsCategory.h"
+#include "platform/encoding/CharacterSets.h"
+#include "text/categories/TVListingsCategory.h"
 
 #include <gtest/gtest.h>
 #include <map>

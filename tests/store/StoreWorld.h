@@ -2,7 +2,7 @@
 
 #include "TestShows.h"
 #include "fakes/StoreFixture.h"
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 #include "platform/memory/MemoryKeyValueStore.h"
 #include "platform/memory/MemoryUserDefaults.h"
 #include "store/ShowCoding.h"

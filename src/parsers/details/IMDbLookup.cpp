@@ -3,7 +3,7 @@
 #include "parsers/ParsersLog.h"
 #include "parsers/formats/ReaderPages.h"
 #include "parsers/markers/MarkerWalk.h"
-#include "platform/Utf8.h"
+#include "platform/encoding/Utf8.h"
 #include "sources/WebURL.h"
 
 namespace guide {

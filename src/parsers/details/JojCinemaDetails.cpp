@@ -1,6 +1,6 @@
 #include "parsers/details/JojCinemaDetails.h"
 
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 namespace guide {
 

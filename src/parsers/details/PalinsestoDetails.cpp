@@ -1,7 +1,7 @@
 #include "parsers/details/PalinsestoDetails.h"
 
 #include "parsers/markers/PlainText.h"
-#include "text/Capitalisation.h"
+#include "text/cleaning/Capitalisation.h"
 
 #include <QStringList>
 

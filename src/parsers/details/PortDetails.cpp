@@ -2,7 +2,7 @@
 
 #include "parsers/details/PortPopups.h"
 #include "parsers/markers/PlainText.h"
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 #include <QStringList>
 

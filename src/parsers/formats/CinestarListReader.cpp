@@ -3,7 +3,7 @@
 #include "parsers/formats/ReaderPages.h"
 #include "parsers/markers/DateText.h"
 #include "parsers/markers/ZoneClock.h"
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 #include <algorithm>
 #include <array>

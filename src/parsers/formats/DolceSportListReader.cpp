@@ -2,8 +2,8 @@
 
 #include "parsers/formats/ReaderPages.h"
 #include "parsers/markers/ZoneClock.h"
-#include "text/Capitalisation.h"
-#include "text/MarkupText.h"
+#include "text/cleaning/Capitalisation.h"
+#include "text/cleaning/MarkupText.h"
 
 #include <array>
 

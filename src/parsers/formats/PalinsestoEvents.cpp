@@ -5,7 +5,7 @@
 #include "parsers/markers/MarkerWalk.h"
 #include "parsers/markers/ZoneClock.h"
 #include "parsers/xmltv/XMLSaxParser.h"
-#include "text/Capitalisation.h"
+#include "text/cleaning/Capitalisation.h"
 
 #include <algorithm>
 #include <array>

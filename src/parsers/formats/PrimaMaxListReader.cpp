@@ -5,7 +5,7 @@
 #include "parsers/formats/ReaderPages.h"
 #include "parsers/markers/ZoneClock.h"
 #include "sources/WebURL.h"
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 #include <algorithm>
 

@@ -8,8 +8,8 @@
 #include "core/TVStationIcons.h"
 #include "platform/Clock.h"
 #include "platform/Device.h"
-#include "platform/DispatchQueue.h"
 #include "platform/LifeCycle.h"
+#include "platform/queues/DispatchQueue.h"
 #include "screens/AppNavigation.h"
 #include "screens/ListingsUpdates.h"
 #include "screens/ScreenSettings.h"
@@ -17,7 +17,7 @@
 #include "screens/kit/ViewController.h"
 #include "store/PopularShows.h"
 #include "store/TVListings.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 #include <functional>
 #include <memory>
