@@ -1,7 +1,7 @@
 // The readers of sources that are no pages, against the parsers below them.
 
 #include "FamilyPages.h"
-#include "text/ShowClassifier.h"
+#include "text/categories/ShowClassifier.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

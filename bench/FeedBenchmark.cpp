@@ -8,7 +8,7 @@
 #include "parsers/ListDriver.h"
 #include "parsers/ProgrammeSkipScan.h"
 #include "parsers/XMLTVToEntries.h"
-#include "platform/Decompression.h"
+#include "platform/encoding/Decompression.h"
 #include "platform/memory/ManualClock.h"
 #include "sources/PageText.h"
 

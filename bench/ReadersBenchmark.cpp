@@ -4,9 +4,9 @@
 
 #include "PageFormats.h"
 #include "parsers/ZoneClock.h"
-#include "text/Capitalisation.h"
-#include "text/MarkupText.h"
-#include "text/ShowClassifier.h"
+#include "text/categories/ShowClassifier.h"
+#include "text/cleaning/Capitalisation.h"
+#include "text/cleaning/MarkupText.h"
 
 #include <QDateTime>
 

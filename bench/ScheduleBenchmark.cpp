@@ -2,7 +2,7 @@
 
 #include "MadeShows.h"
 #include "store/AllShows.h"
-#include "text/FoldedText.h"
+#include "text/search/FoldedText.h"
 
 #include <benchmark/benchmark.h>
 #include <cstring>

@@ -4,11 +4,11 @@
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeBackgroundTasks.h"
 #include "fakes/FakeDevice.h"
-#include "platform/FileReplacement.h"
-#include "platform/ThreadedQueues.h"
+#include "platform/files/FileReplacement.h"
 #include "platform/memory/ManualClock.h"
 #include "platform/memory/MemoryKeyValueStore.h"
 #include "platform/memory/MemoryUserDefaults.h"
+#include "platform/queues/ThreadedQueues.h"
 #include "store/ShowCoding.h"
 #include "store/TVListings.h"
 

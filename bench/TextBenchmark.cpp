@@ -1,7 +1,7 @@
-#include "text/FoldedText.h"
 #include "text/NaiveClassifier.h"
-#include "text/ShowClassifier.h"
-#include "text/ShowClassifierWords.h"
+#include "text/categories/ShowClassifier.h"
+#include "text/categories/ShowClassifierWords.h"
+#include "text/search/FoldedText.h"
 
 #include <QStringList>
 

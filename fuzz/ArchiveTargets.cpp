@@ -1,9 +1,9 @@
 #include "FuzzInput.h"
 #include "FuzzTarget.h"
 #include "parsers/RecordedCall.h"
-#include "platform/Archive.h"
-#include "platform/ArchiveContainer.h"
-#include "platform/PropertyList.h"
+#include "platform/archive/Archive.h"
+#include "platform/archive/ArchiveContainer.h"
+#include "platform/archive/PropertyList.h"
 #include "store/ShowCoding.h"
 
 namespace guide::fuzz {

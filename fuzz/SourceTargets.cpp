@@ -3,7 +3,7 @@
 #include "core/SupportedChannelTypes.h"
 #include "fakes/Packing.h"
 #include "parsers/RecordedCall.h"
-#include "platform/Utf8.h"
+#include "platform/encoding/Utf8.h"
 #include "sources/PageText.h"
 #include "sources/SourceId.h"
 #include "sources/URLPlanner.h"

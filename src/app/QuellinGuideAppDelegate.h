@@ -21,7 +21,7 @@
 #include "sources/SourceHealthRecords.h"
 #include "sources/URLPlanner.h"
 #include "store/TVListings.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 #include <atomic>
 #include <chrono>

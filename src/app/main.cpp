@@ -7,7 +7,7 @@
 #include "app/SignificantTime.h"
 #include "core/CatalogueFiles.h"
 #include "demo/DemoWorld.h"
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/DesktopMotion.h"
 #include "platform/linux/EventLoopQueues.h"

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Clock.h"
-#include "platform/DispatchQueue.h"
-#include "platform/HTTPClient.h"
+#include "platform/http/HTTPClient.h"
+#include "platform/queues/DispatchQueue.h"
 
 #include <QString>
 

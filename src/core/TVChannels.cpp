@@ -1,7 +1,7 @@
 #include "core/TVChannels.h"
 
-#include "platform/Archive.h"
-#include "platform/FileReplacement.h"
+#include "platform/archive/Archive.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QCborArray>
 #include <QDebug>

@@ -2,9 +2,9 @@
 
 #include "core/Catalogue.h"
 #include "core/TVChannel.h"
-#include "platform/DispatchQueue.h"
-#include "platform/Folders.h"
 #include "platform/KeyValueStore.h"
+#include "platform/files/Folders.h"
+#include "platform/queues/DispatchQueue.h"
 
 #include <memory>
 #include <mutex>

@@ -4,7 +4,7 @@
 #include "demo/DemoFiles.h"
 #include "demo/ScheduleGenerator.h"
 #include "demo/Town.h"
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QDir>
 #include <QtDebug>

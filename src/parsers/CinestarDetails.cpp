@@ -1,6 +1,6 @@
 #include "parsers/CinestarDetails.h"
 
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 #include <QStringList>
 

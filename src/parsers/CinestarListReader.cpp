@@ -3,7 +3,7 @@
 #include "parsers/DateText.h"
 #include "parsers/ReaderPages.h"
 #include "parsers/ZoneClock.h"
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "parsers/DetailPage.h"
 
 #include "sources/WebURL.h"
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 namespace guide {
 

@@ -4,7 +4,7 @@
 #include "parsers/PageSource.h"
 #include "sources/SourceHostTable.h"
 #include "store/TVEntrySupplementalData.h"
-#include "text/TVListingsCategory.h"
+#include "text/categories/TVListingsCategory.h"
 
 #include <QByteArray>
 #include <QLocale>

@@ -2,8 +2,8 @@
 
 #include "parsers/ReaderPages.h"
 #include "parsers/ZoneClock.h"
-#include "text/Capitalisation.h"
-#include "text/MarkupText.h"
+#include "text/cleaning/Capitalisation.h"
+#include "text/cleaning/MarkupText.h"
 
 #include <array>
 

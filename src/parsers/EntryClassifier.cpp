@@ -1,6 +1,6 @@
 #include "parsers/EntryClassifier.h"
 
-#include "text/ShowClassifier.h"
+#include "text/categories/ShowClassifier.h"
 
 namespace guide {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "store/TVEntry.h"
-#include "text/TVListingsCategory.h"
+#include "text/categories/TVListingsCategory.h"
 
 namespace guide {
 

@@ -1,9 +1,9 @@
 #include "parsers/FeedShow.h"
 
 #include "parsers/ParsersLog.h"
-#include "platform/Utf8.h"
-#include "text/CategoryMapping.h"
-#include "text/FeedTextCleaning.h"
+#include "platform/encoding/Utf8.h"
+#include "text/categories/CategoryMapping.h"
+#include "text/cleaning/FeedTextCleaning.h"
 
 #include <QUrl>
 

@@ -3,7 +3,7 @@
 #include "parsers/FeedMemo.h"
 #include "platform/Moment.h"
 #include "store/ShowItem.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 #include <QLocale>
 #include <QString>

@@ -1,6 +1,6 @@
 #include "parsers/HBODetails.h"
 
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

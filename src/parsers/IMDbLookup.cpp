@@ -3,7 +3,7 @@
 #include "parsers/MarkerWalk.h"
 #include "parsers/ParsersLog.h"
 #include "parsers/ReaderPages.h"
-#include "platform/Utf8.h"
+#include "platform/encoding/Utf8.h"
 #include "sources/WebURL.h"
 
 namespace guide {

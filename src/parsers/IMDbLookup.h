@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/DispatchQueue.h"
-#include "platform/HTTPClient.h"
+#include "platform/http/HTTPClient.h"
+#include "platform/queues/DispatchQueue.h"
 #include "sources/HTTPUserAgent.h"
 #include "sources/SourceHostTable.h"
 #include "store/ShowItem.h"

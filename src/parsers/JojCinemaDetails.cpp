@@ -1,6 +1,6 @@
 #include "parsers/JojCinemaDetails.h"
 
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 namespace guide {
 

@@ -6,7 +6,7 @@
 #include "sources/SourceHostTable.h"
 #include "store/ListMerge.h"
 #include "store/ShowItem.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 #include <QByteArray>
 #include <QLocale>

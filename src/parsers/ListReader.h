@@ -5,7 +5,7 @@
 #include "platform/Moment.h"
 #include "sources/SourceHostTable.h"
 #include "store/ShowItem.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 #include <QByteArray>
 #include <QLocale>

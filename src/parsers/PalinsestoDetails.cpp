@@ -1,7 +1,7 @@
 #include "parsers/PalinsestoDetails.h"
 
 #include "parsers/PlainText.h"
-#include "text/Capitalisation.h"
+#include "text/cleaning/Capitalisation.h"
 
 #include <QStringList>
 

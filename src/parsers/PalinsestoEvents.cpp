@@ -5,7 +5,7 @@
 #include "parsers/MarkerWalk.h"
 #include "parsers/XMLSaxParser.h"
 #include "parsers/ZoneClock.h"
-#include "text/Capitalisation.h"
+#include "text/cleaning/Capitalisation.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 #include "parsers/FeedMemo.h"
 #include "store/ShowItem.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 #include <QByteArray>
 #include <QLocale>

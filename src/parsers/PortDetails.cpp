@@ -2,7 +2,7 @@
 
 #include "parsers/PlainText.h"
 #include "parsers/PortPopups.h"
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 #include <QStringList>
 

@@ -5,7 +5,7 @@
 #include "parsers/ReaderPages.h"
 #include "parsers/ZoneClock.h"
 #include "sources/WebURL.h"
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 #include <algorithm>
 

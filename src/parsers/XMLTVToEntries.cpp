@@ -2,7 +2,7 @@
 
 #include "parsers/ParsersLog.h"
 #include "parsers/XMLTVDate.h"
-#include "text/CategoryMapping.h"
+#include "text/categories/CategoryMapping.h"
 
 namespace guide {
 

@@ -1,7 +1,7 @@
 #include "probe/ProbePages.h"
 
-#include "platform/Decompression.h"
-#include "platform/ResponseCache.h"
+#include "platform/encoding/Decompression.h"
+#include "platform/http/ResponseCache.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/EventLoopQueues.h"
 #include "platform/memory/ManualClock.h"

@@ -1,7 +1,7 @@
 #include "sources/PageText.h"
 
-#include "platform/CharacterSets.h"
-#include "platform/Decompression.h"
+#include "platform/encoding/CharacterSets.h"
+#include "platform/encoding/Decompression.h"
 
 namespace guide {
 

@@ -1,6 +1,6 @@
 #include "sources/SourceHealthRecords.h"
 
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QDateTime>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "store/ShowDigest.h"
 
-#include "platform/Utf8.h"
+#include "platform/encoding/Utf8.h"
 
 #include <QByteArray>
 #include <QCryptographicHash>

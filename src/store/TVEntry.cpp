@@ -1,7 +1,7 @@
 #include "store/TVEntry.h"
 
 #include "store/ShowDigest.h"
-#include "text/Transliteration.h"
+#include "text/display/Transliteration.h"
 
 namespace guide {
 

@@ -2,7 +2,7 @@
 
 #include "core/ObjectId.h"
 #include "platform/Moment.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 #include <QString>
 #include <QUrl>

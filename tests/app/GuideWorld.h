@@ -5,11 +5,11 @@
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeBackgroundTasks.h"
 #include "fakes/FakeDevice.h"
-#include "platform/ThreadedQueues.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/LinuxAudioSession.h"
 #include "platform/memory/MemoryKeyValueStore.h"
 #include "platform/memory/MemoryUserDefaults.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <QString>
 #include <QTemporaryDir>

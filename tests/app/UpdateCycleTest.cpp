@@ -2,7 +2,7 @@
 
 #include "app/UpdateWorld.h"
 #include "fakes/ManualQueues.h"
-#include "platform/ThreadedQueues.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "core/CatalogueFiles.h"
 
 #include "core/Catalogue.h"
-#include "platform/Archive.h"
-#include "platform/FileReplacement.h"
+#include "platform/archive/Archive.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QCborArray>
 #include <QCborMap>

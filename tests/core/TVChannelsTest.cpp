@@ -2,11 +2,11 @@
 
 #include "core/ListingsFile.h"
 #include "fakes/ManualQueues.h"
-#include "platform/Archive.h"
-#include "platform/FileReplacement.h"
-#include "platform/ThreadedQueues.h"
+#include "platform/archive/Archive.h"
+#include "platform/files/FileReplacement.h"
 #include "platform/memory/ManualClock.h"
 #include "platform/memory/MemoryKeyValueStore.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <QCborArray>
 #include <QDir>

@@ -6,7 +6,7 @@
 #include "demo/ScheduleGenerator.h"
 #include "demo/Town.h"
 #include "demo/Unpacking.h"
-#include "platform/CharacterSets.h"
+#include "platform/encoding/CharacterSets.h"
 #include "sources/URLPlanner.h"
 
 #include <QDir>

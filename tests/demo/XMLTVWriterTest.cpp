@@ -3,8 +3,8 @@
 #include "demo/ScheduleGenerator.h"
 #include "demo/TopicWords.h"
 #include "parsers/XMLTVToEntries.h"
-#include "platform/CharacterSets.h"
-#include "text/TVListingsCategory.h"
+#include "platform/encoding/CharacterSets.h"
+#include "text/categories/TVListingsCategory.h"
 
 #include <gtest/gtest.h>
 #include <map>

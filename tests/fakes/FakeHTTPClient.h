@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/HTTPClient.h"
+#include "platform/http/HTTPClient.h"
 
 #include <deque>
 #include <functional>

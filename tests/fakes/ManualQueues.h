@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/DispatchQueue.h"
-#include "platform/ThreadWaiting.h"
 #include "platform/memory/ManualClock.h"
+#include "platform/queues/DispatchQueue.h"
+#include "platform/queues/ThreadWaiting.h"
 
 #include <algorithm>
 #include <cstdint>

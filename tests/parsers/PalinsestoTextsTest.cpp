@@ -1,5 +1,5 @@
 #include "parsers/PalinsestoEvents.h"
-#include "text/Capitalisation.h"
+#include "text/cleaning/Capitalisation.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/CharacterSets.h"
+#include "platform/encoding/CharacterSets.h"
 
 #include <gtest/gtest.h>
 

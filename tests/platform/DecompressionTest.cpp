@@ -1,7 +1,7 @@
-#include "platform/Decompression.h"
+#include "platform/encoding/Decompression.h"
 
 #include "fakes/Packing.h"
-#include "platform/GzipInflate.h"
+#include "platform/encoding/GzipInflate.h"
 
 #include <QLoggingCategory>
 

@@ -1,4 +1,4 @@
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QDir>
 #include <QFile>

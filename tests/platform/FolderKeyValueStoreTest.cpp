@@ -1,7 +1,7 @@
 #include "platform/linux/FolderKeyValueStore.h"
 
 #include "fakes/ManualQueues.h"
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QCborArray>
 #include <QCborMap>

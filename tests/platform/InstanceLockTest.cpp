@@ -1,7 +1,7 @@
 #include "platform/linux/InstanceLock.h"
 
-#include "platform/ThreadedQueues.h"
 #include "platform/linux/LocalSocket.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
-#include "platform/KeyedArchiver.h"
+#include "platform/archive/KeyedArchiver.h"
 
-#include "platform/Archive.h"
-#include "platform/ArchiveContainer.h"
+#include "platform/archive/Archive.h"
+#include "platform/archive/ArchiveContainer.h"
 
 #include <QCborArray>
 #include <QCborMap>

@@ -1,8 +1,8 @@
 #include "platform/linux/LinuxBackgroundTasks.h"
 
 #include "fakes/ManualQueues.h"
-#include "platform/ThreadedQueues.h"
 #include "platform/linux/LinuxClock.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <gtest/gtest.h>
 #include <string>

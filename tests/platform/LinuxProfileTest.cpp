@@ -1,5 +1,5 @@
 #include "fakes/ManualQueues.h"
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 #include "platform/linux/LinuxFolders.h"
 #include "platform/linux/SettingsUserDefaults.h"
 

@@ -1,5 +1,5 @@
-#include "platform/MainBlock.h"
 #include "platform/linux/EventLoopQueues.h"
+#include "platform/queues/MainBlock.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>

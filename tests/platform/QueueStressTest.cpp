@@ -1,4 +1,4 @@
-#include "platform/ThreadedQueues.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <atomic>
 #include <gtest/gtest.h>

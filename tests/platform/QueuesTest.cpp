@@ -1,5 +1,5 @@
 #include "fakes/ManualQueues.h"
-#include "platform/ThreadedQueues.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <atomic>
 #include <future>

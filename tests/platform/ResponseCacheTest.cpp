@@ -1,4 +1,4 @@
-#include "platform/ResponseCache.h"
+#include "platform/http/ResponseCache.h"
 
 #include "platform/memory/ManualClock.h"
 

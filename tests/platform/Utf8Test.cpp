@@ -1,4 +1,4 @@
-#include "platform/Utf8.h"
+#include "platform/encoding/Utf8.h"
 
 #include <QStringDecoder>
 

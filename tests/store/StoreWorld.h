@@ -5,7 +5,7 @@
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeBackgroundTasks.h"
 #include "fakes/FakeDevice.h"
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 #include "platform/memory/MemoryKeyValueStore.h"
 #include "platform/memory/MemoryUserDefaults.h"
 #include "store/ShowCoding.h"

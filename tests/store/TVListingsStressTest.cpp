@@ -1,6 +1,6 @@
 #include "StoreWorld.h"
-#include "platform/ThreadedQueues.h"
 #include "platform/memory/ManualClock.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <condition_variable>
 #include <thread>

@@ -1,7 +1,7 @@
-#include "text/CategoryMapping.h"
+#include "text/categories/CategoryMapping.h"
 
-#include "text/CategoryTable.h"
-#include "text/CategoryText.h"
+#include "text/categories/CategoryTable.h"
+#include "text/categories/CategoryText.h"
 
 #include <gtest/gtest.h>
 

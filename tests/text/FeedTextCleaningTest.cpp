@@ -1,4 +1,4 @@
-#include "text/FeedTextCleaning.h"
+#include "text/cleaning/FeedTextCleaning.h"
 
 #include <gtest/gtest.h>
 

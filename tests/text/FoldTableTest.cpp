@@ -1,6 +1,6 @@
-#include "text/FoldTable.h"
+#include "text/search/FoldTable.h"
 
-#include "text/FoldedText.h"
+#include "text/search/FoldedText.h"
 
 #include <QList>
 

@@ -1,4 +1,4 @@
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 #include "GeneratedText.h"
 

@@ -1,4 +1,4 @@
-#include "text/MatchWord.h"
+#include "text/search/MatchWord.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "text/ShowClassifier.h"
+#include "text/categories/ShowClassifier.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "text/Transliteration.h"
+#include "text/display/Transliteration.h"
 
 #include "GeneratedText.h"
-#include "text/ShortTimeFormat.h"
+#include "text/display/ShortTimeFormat.h"
 
 #include <gtest/gtest.h>
 

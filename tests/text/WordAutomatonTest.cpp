@@ -1,4 +1,4 @@
-#include "text/WordAutomaton.h"
+#include "text/search/WordAutomaton.h"
 
 #include "GeneratedText.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/HTTPClient.h"
-#include "platform/ResponseCache.h"
+#include "platform/http/HTTPClient.h"
+#include "platform/http/ResponseCache.h"
 #include "platform/linux/CurlTransfer.h"
 #include "platform/linux/NetworkRoutes.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ThreadedQueues.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "platform/linux/FolderKeyValueStore.h"
 
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 #include "platform/linux/FolderWatcher.h"
 #include "platform/linux/KeyValueJson.h"
 

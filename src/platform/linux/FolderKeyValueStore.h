@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/DispatchQueue.h"
 #include "platform/KeyValueStore.h"
+#include "platform/queues/DispatchQueue.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/DispatchQueue.h"
 #include "platform/linux/FileDescriptor.h"
+#include "platform/queues/DispatchQueue.h"
 
 #include <QByteArray>
 #include <QString>

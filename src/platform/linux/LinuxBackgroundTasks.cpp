@@ -1,6 +1,6 @@
 #include "platform/linux/LinuxBackgroundTasks.h"
 
-#include "platform/ThreadWaiting.h"
+#include "platform/queues/ThreadWaiting.h"
 
 #include <algorithm>
 #include <condition_variable>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Folders.h"
+#include "platform/files/Folders.h"
 
 #include <QString>
 

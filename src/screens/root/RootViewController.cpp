@@ -4,7 +4,7 @@
 #include "screens/ShowRow.h"
 #include "screens/channel/ChannelViewController.h"
 #include "screens/kit/NavigationController.h"
-#include "text/Transliteration.h"
+#include "text/display/Transliteration.h"
 
 #include <algorithm>
 #include <utility>

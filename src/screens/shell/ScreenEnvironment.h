@@ -5,13 +5,13 @@
 #include "core/TVStationIcons.h"
 #include "platform/Clock.h"
 #include "platform/Device.h"
-#include "platform/DispatchQueue.h"
 #include "platform/LifeCycle.h"
+#include "platform/queues/DispatchQueue.h"
 #include "screens/AppActions.h"
 #include "screens/ShowPictures.h"
 #include "store/ShowQuestions.h"
 #include "store/TVListings.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 namespace guide {
 
