@@ -242,15 +242,9 @@ class ManualQueues final : public DispatchQueues, private ThreadWaiting {
         return static_cast<const ManualQueue&>(queue).isCurrent();
     }
 
-    /// Blocks that were submitted and have not begun, delayed ones not counted.
-    std::size_t pending() const {
-        return count([](const ManualQueue&) { return true; });
-    }
-    std::size_t pending(const std::string& label) const {
-        return count([&label](const ManualQueue& queue) { return queue.label() == label; });
-    }
     /// Blocks of asyncAfter whose moment has not come.
     std::size_t delayed() const { return m_state->timers.size(); }
+
     bool suspended(const std::string& label) const {
         return std::any_of(m_state->queues.begin(), m_state->queues.end(), [&label](const auto& queue) {
             return queue->label() == label && queue->suspended();
