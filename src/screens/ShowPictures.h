@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/MainBlock.h"
+#include "platform/queues/MainBlock.h"
 #include "store/ShowItem.h"
 
 #include <QImage>

@@ -1,6 +1,6 @@
 #include "screens/ShowRowText.h"
 
-#include "text/ShortTimeFormat.h"
+#include "text/display/ShortTimeFormat.h"
 
 #include <QDateTime>
 

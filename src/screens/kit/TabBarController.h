@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/DispatchQueue.h"
+#include "platform/queues/DispatchQueue.h"
 #include "screens/kit/Alert.h"
 #include "screens/kit/NavigationController.h"
 #include "screens/kit/Notice.h"

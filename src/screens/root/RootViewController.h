@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/DispatchQueue.h"
+#include "platform/queues/DispatchQueue.h"
 #include "screens/ShowRows.h"
 #include "screens/kit/LatestAnswer.h"
 #include "screens/shell/ListingsScreen.h"
