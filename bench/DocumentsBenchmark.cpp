@@ -1,7 +1,7 @@
-// The readers of sources that are no pages, against the parsers below them.
+// The readers of JSON and XML sources against the parsers that they use.
 
 #include "FamilyPages.h"
-#include "text/ShowClassifier.h"
+#include "text/categories/ShowClassifier.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kMegabyte = 1'000'000;
 
-/// What a show is classified by.
+/// The texts that a show is classified by.
 struct Texts {
     std::optional<QString> sourceId, details, title, description;
 };

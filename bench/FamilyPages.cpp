@@ -1,9 +1,9 @@
 #include "FamilyPages.h"
 
-#include "MadeShows.h"
-#include "demo/ScheduleGenerator.h"
-#include "demo/Town.h"
+#include "GeneratedShows.h"
+#include "demo/DemoSites.h"
 #include "demo/pages/Pages.h"
+#include "demo/schedule/ScheduleGenerator.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -19,13 +19,13 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Noon, with no change of a clock near.
-constexpr Moment kVisit = std::chrono::sys_days{std::chrono::year{2026} / 11 / 18} + 12h;
+/// Noon, far from any clock change.
+constexpr Moment kRequestTime = std::chrono::sys_days{std::chrono::year{2026} / 11 / 18} + 12h;
 constexpr auto kDay = 24h;
 
 class FixedClock final : public Clock {
   public:
-    Moment now() const override { return kVisit; }
+    Moment now() const override { return kRequestTime; }
 };
 
 std::string_view view(const QByteArray& page) {
@@ -44,7 +44,7 @@ std::size_t countIn(std::string_view text, std::string_view marker) {
 const SourceHostTable& hosts() {
     static const SourceHostTable table = [] {
         QJsonObject rows;
-        for (const auto& [key, value] : Town::hosts(u"https://town.example"_s)) {
+        for (const auto& [key, value] : DemoSites::hosts(u"https://sites.example"_s)) {
             rows[key] = value;
         }
         return *SourceHostTable::fromJson(QJsonDocument(rows).toJson());
@@ -52,13 +52,18 @@ const SourceHostTable& hosts() {
     return table;
 }
 
-/// Broadcasts of all kinds, a fortnight of many channels.
+/// Programmes of two weeks of all Czech and Slovak demo channels.
 const std::vector<Programme>& programmePool() {
     static const std::vector<Programme> pool = [] {
+        const auto texts = DemoTexts::load(QStringLiteral(QUELLIN_SOURCE_DATA "/demo"));
+        if (!texts) {
+            qFatal("no texts");
+        }
+        const ScheduleGenerator generator(texts);
         std::vector<Programme> all;
         for (const DemoChannel& channel : demoChannels()) {
             if (channel.spoken.front() == "cs"_L1 || channel.spoken.front() == "sk"_L1) {
-                std::vector<Programme> own = schedule(channel, QDate(2026, 11, 16), 14);
+                std::vector<Programme> own = generator.schedule(channel, QDate(2026, 11, 16), 14);
                 std::move(own.begin(), own.end(), std::back_inserter(all));
             }
         }
@@ -67,7 +72,7 @@ const std::vector<Programme>& programmePool() {
     return pool;
 }
 
-/// A broadcast each so many seconds, whatever the pool has next.
+/// A channel with a programme every `step`, taken from the pool in turn.
 SiteChannel siteChannel(const QString& sourceId, std::size_t number, std::chrono::seconds step) {
     return {sourceId, u"Kanál %1"_s.arg(number), [number, step](Moment from, Moment until) {
                 const std::vector<Programme>& pool = programmePool();
@@ -76,7 +81,7 @@ SiteChannel siteChannel(const QString& sourceId, std::size_t number, std::chrono
                 auto index = static_cast<std::size_t>((sinceEpoch + step - 1s) / step);
                 for (Moment start{index * step}; start < until; start += step) {
                     programmes.push_back(pool[(index + number * 997) % pool.size()]);
-                    // Titles come again and again, descriptions seldom.
+                    // As in real pages, titles repeat and descriptions rarely do.
                     programmes.back().description += u' ' + pool[index++ * 7919 % pool.size()].title;
                     programmes.back().start = start;
                     programmes.back().stop = start + step;
@@ -88,15 +93,15 @@ SiteChannel siteChannel(const QString& sourceId, std::size_t number, std::chrono
 struct Family {
     ListingsType type;
     QStringList sources;
-    /// How the site is asked: the pages' addresses from the moment of the visit on.
+    /// Requests the site's pages.
     std::function<std::vector<QByteArray>(const std::vector<SiteChannel>& channels)> pages;
-    /// Stands once in each broadcast.
+    /// Occurs once in each programme.
     std::string_view row;
 };
 
-/// One page of a site; the bench does not go on without it.
-QByteArray visited(SitePage site, const std::vector<SiteChannel>& channels, const QString& address,
-                   Moment now = kVisit) {
+/// One page of a site; aborts when it does not exist.
+QByteArray pageAt(SitePage site, const std::vector<SiteChannel>& channels, const QString& address,
+                  Moment now = kRequestTime) {
     const QString path = address.section(u'?', 0, 0);
     const auto page = site({channels, now, path, QUrlQuery(address.section(u'?', 1))});
     if (!page) {
@@ -106,7 +111,7 @@ QByteArray visited(SitePage site, const std::vector<SiteChannel>& channels, cons
 }
 
 QDate dateAfter(int days) {
-    return SiteClock("UTC").date(kVisit).addDays(days);
+    return SiteClock("UTC").date(kRequestTime).addDays(days);
 }
 
 FamilyPages madePages(const Family& family, std::size_t size) {
@@ -114,7 +119,7 @@ FamilyPages madePages(const Family& family, std::size_t size) {
     for (const QString& source : family.sources) {
         made.items.push_back({channelNumbered(static_cast<int>(made.items.size()) + 1), source, u"cs"_s});
     }
-    // From one an hour to several a minute, which a page without seconds tells as the same time.
+    // From one programme an hour to several a minute, which get the same time on a page without seconds.
     for (const int step :
          {3600, 1800, 1200, 900, 600, 480, 360, 300, 240, 180, 150, 120, 90, 60, 45, 30, 20, 15}) {
         std::vector<SiteChannel> channels;
@@ -130,13 +135,13 @@ FamilyPages madePages(const Family& family, std::size_t size) {
     return made;
 }
 
-/// Of so many days from `first` on; `address` has the date in the place of "%1".
+/// The pages of `count` days from `first` on; "%1" in `address` is the date.
 std::function<std::vector<QByteArray>(const std::vector<SiteChannel>&)>
 days(SitePage site, int first, int count, const QString& address, const QString& format) {
     return [=](const std::vector<SiteChannel>& channels) {
         std::vector<QByteArray> pages;
         for (int day = first; day < first + count; ++day) {
-            pages.push_back(visited(site, channels, address.arg(dateAfter(day).toString(format))));
+            pages.push_back(pageAt(site, channels, address.arg(dateAfter(day).toString(format))));
         }
         return pages;
     };
@@ -145,7 +150,7 @@ days(SitePage site, int first, int count, const QString& address, const QString&
 std::function<std::vector<QByteArray>(const std::vector<SiteChannel>&)> onePage(SitePage site,
                                                                                 const QString& address) {
     return [=](const std::vector<SiteChannel>& channels) {
-        return std::vector{visited(site, channels, address)};
+        return std::vector{pageAt(site, channels, address)};
     };
 }
 
@@ -183,7 +188,7 @@ ParsedLists FamilyPages::read(const std::vector<QByteArray>& others) const {
                                     .merge = nullptr,
                                     .locale = QLocale(QLocale::Czech, QLocale::CzechRepublic),
                                     .timeZone = [] { return QTimeZone("Europe/Prague"); }});
-    return driver.read(items, others, kVisit, type);
+    return driver.read(items, others, kRequestTime, type);
 }
 
 std::size_t showCount(const ParsedLists& lists) {
@@ -233,7 +238,7 @@ FamilyPages digiSportPages(std::size_t size) {
     FamilyPages made = madePages({ListingsType::DigiSport, numbered(u"dsk.Digi Sport %1"_s, 6),
                                   onePage(digiSportPage, u"/program/"_s), "<span><strong>"},
                                  size);
-    // Each tab takes the place of the one before it.
+    // Each tab replaces the one before it.
     made.shows = countIn(view(made.pages.front()).substr(view(made.pages.front()).rfind("id=\"tabs-")),
                          "<span><strong>");
     return made;
@@ -249,7 +254,7 @@ FamilyPages jojCinemaPages(std::size_t size) {
 
 FamilyPages primaMaxPages(std::size_t size) {
     return madePages({ListingsType::PrimaMax,
-                      {u"town.example/max"_s},
+                      {u"sites.example/max"_s},
                       days(primaMaxPage, 0, 14, u"/tv-program/%1"_s, u"yyyy-MM-dd"_s),
                       "<time>"},
                      size);
@@ -278,28 +283,28 @@ FamilyPages dolceSportPages(std::size_t size) {
 }
 
 FamilyPages cinestarPages(std::size_t size) {
-    const auto visits = [](const std::vector<SiteChannel>& channels) {
+    const auto request = [](const std::vector<SiteChannel>& channels) {
         std::vector<QByteArray> pages;
         for (int page = 1; page <= 7; ++page) {
-            pages.push_back(visited(cinestarPage, channels, u"/hr/raspored/?dan=%1"_s.arg(page)));
+            pages.push_back(pageAt(cinestarPage, channels, u"/hr/raspored/?dan=%1"_s.arg(page)));
         }
         return pages;
     };
-    return madePages({ListingsType::Cinestar, numbered(u"cinestar.hr.%1"_s, 8), visits, "<div class='card "},
+    return madePages({ListingsType::Cinestar, numbered(u"cinestar.hr.%1"_s, 8), request, "<div class='card "},
                      size);
 }
 
 FamilyPages comedyCentralPages(std::size_t size) {
-    // The site's pages are short: one after another makes a long one.
-    const auto visits = [size](const std::vector<SiteChannel>& channels) {
+    // The site's pages are short, so several are joined.
+    const auto request = [size](const std::vector<SiteChannel>& channels) {
         QByteArray page;
         for (int i = 0; std::size_t(page.size()) < size; ++i) {
-            page += visited(comedyCentralPage, channels, u"/program-tv?page=%1"_s.arg(i % 7),
-                            kVisit + kDay * (i / 7));
+            page += pageAt(comedyCentralPage, channels, u"/program-tv?page=%1"_s.arg(i % 7),
+                           kRequestTime + kDay * (i / 7));
         }
         return std::vector{page};
     };
-    return madePages({ListingsType::ComedyCentral, {u"cc.romania"_s}, visits, "data-time=\""}, size);
+    return madePages({ListingsType::ComedyCentral, {u"cc.romania"_s}, request, "data-time=\""}, size);
 }
 
 } // namespace guide::bench

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "parsers/ListDriver.h"
-#include "sources/SourceId.h"
+#include "parsers/SourceFormats.h"
 
 #include <QByteArray>
 
@@ -11,29 +11,29 @@
 
 namespace guide::bench {
 
-/// What the reader of a family is called with, and what it has to find. The pages are a site's own, with a
-/// broadcast so often that they come to the size asked for, and hold the same at every run.
+/// Input for the reader of a source family, and the result to expect. The pages are those of DemoSites, with
+/// as many programmes as the requested size needs; they are the same in every run.
 struct FamilyPages {
     ListingsType type;
     std::vector<LoadItem> items;
     std::vector<QByteArray> pages;
-    /// How many shows lie in them for the items.
+    /// Number of shows for the items.
     std::size_t shows;
 
     std::size_t size() const;
     std::size_t count(std::string_view marker) const;
-    /// What the driver reads out of them, or out of others in their place.
+    /// The driver's result for these pages, or for others in their place.
     ParsedLists read() const { return read(pages); }
     ParsedLists read(const std::vector<QByteArray>& others) const;
 };
 
 std::size_t showCount(const ParsedLists& lists);
 
-/// At least so many bytes, all pages of the family together.
+/// All pages of a family, at least `size` bytes together.
 FamilyPages portNetworkPages(std::size_t size);
-/// Nine channels, in a section a day and a channel.
+/// Nine channels, with one section per day and channel.
 FamilyPages sectionedPalinsesto(std::size_t size);
-/// Nine channels, each broadcast in the attributes of one element.
+/// Nine channels, each programme in the attributes of one element.
 FamilyPages flatPalinsesto(std::size_t size);
 FamilyPages barrandovPages(std::size_t size);
 FamilyPages digiSportPages(std::size_t size);

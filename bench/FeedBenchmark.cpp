@@ -1,15 +1,14 @@
-// From the bytes of a feed to the driver's lists, against unpacking alone and against the bare parser.
+// From the bytes of a feed to the driver's lists, against unpacking alone and against the parser alone.
 //
-// QUELLIN_FEED names a feed of one's own (plain, .gz or .xz) to be measured in the place of the generated
-// one.
+// QUELLIN_FEED names another feed (plain, .gz or .xz) to measure instead of the generated one.
 
 #include "GeneratedFeed.h"
-#include "fakes/ManualClock.h"
 #include "fakes/Packing.h"
 #include "parsers/ListDriver.h"
-#include "parsers/ProgrammeSkipScan.h"
-#include "parsers/XMLTVToEntries.h"
-#include "platform/Decompression.h"
+#include "parsers/xmltv/ProgrammeSkipScan.h"
+#include "parsers/xmltv/XMLTVToEntries.h"
+#include "platform/encoding/Decompression.h"
+#include "platform/memory/ManualClock.h"
 #include "sources/PageText.h"
 
 #include <QFile>
@@ -43,11 +42,11 @@ QByteArray readFeed(const QString& path) {
     return *std::move(page.text);
 }
 
-/// The feed that is measured, and what its lists have to hold.
+/// The measured feed and the expected lists.
 struct Subject {
     QByteArray plain;
     QByteArray packed;
-    /// Every channel that has shows, and how many.
+    /// The number of shows of each channel that has any.
     std::vector<QString> channels;
     std::vector<std::size_t> counts;
     ManualClock clock{Moment{}};

@@ -1,5 +1,5 @@
-// How far memory grows while a packed national feed loads for a dozen channels, against what the feed unpacks
-// to. Each load is a process of its own: a peak is never taken back.
+// Memory growth while a packed national feed loads for a dozen channels, against the feed's unpacked size.
+// Each load runs in its own process, because the peak of a process never falls.
 
 #include "GeneratedFeed.h"
 #include "parsers/ListDriver.h"
@@ -37,7 +37,7 @@ class FixedClock final : public Clock {
     std::exit(1);
 }
 
-/// A line of /proc/self/status, in bytes.
+/// The value of a line of /proc/self/status in bytes.
 double statusBytes(QByteArrayView key) {
     QFile file(u"/proc/self/status"_s);
     if (file.open(QIODevice::ReadOnly)) {
@@ -50,7 +50,7 @@ double statusBytes(QByteArrayView key) {
     fail("the kernel does not tell how much memory is used");
 }
 
-/// Writes the feed, packed; prints what it unpacks to.
+/// Writes the packed feed; prints its unpacked size.
 int make(const QString& path) {
     const QByteArray plain = generatedFeed({});
     const gzFile file = gzopen(QFile::encodeName(path).constData(), "wb6");
@@ -101,7 +101,7 @@ int load(const QString& path) {
     return 0;
 }
 
-/// What this program prints when it is started for a step of the measurement.
+/// The output of this program when started for one step of the measurement.
 double stepOf(const QString& step, const QString& path) {
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);

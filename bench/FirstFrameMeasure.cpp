@@ -1,5 +1,5 @@
-// From the start of the real program to the first frame that shows the shows of a dozen channels, whose lists
-// are on the disk, against the first frame of a guide that has nothing to show.
+// From the start of the program to the first frame with the shows of a dozen channels, whose lists are on
+// disk, against the first frame of a guide without channels.
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -33,7 +33,8 @@ QProcessEnvironment environment() {
     return environment;
 }
 
-/// Starts the guide until the log tells of the frame; milliseconds. `renderer` becomes the renderer's name.
+/// Starts the guide and waits until it logs the frame. Returns milliseconds; `renderer` is set to the
+/// renderer's name.
 double timeTo(const QByteArray& frame, const QStringList& words, QByteArray& renderer) {
     QProcess guide;
     guide.setProcessEnvironment(environment());
@@ -61,7 +62,7 @@ int measure() {
     const QTemporaryDir folder;
     const QString full = folder.filePath(u"full"_s);
     const QString empty = folder.filePath(u"empty"_s);
-    // One start on the demo, which ends by itself and leaves its lists behind.
+    // A first start with the demo writes the lists and exits.
     QProcess first;
     first.setProcessEnvironment(environment());
     first.start(QStringLiteral(QUELLIN_GUIDE),

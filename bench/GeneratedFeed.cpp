@@ -29,8 +29,7 @@ struct Language {
     /// Between the title and the number of an episode.
     std::string_view episode;
     std::string_view bracket;
-    /// What the description says before the cast and the director; empty where the feed has elements for
-    /// them.
+    /// The words before cast and director in a description; empty where the feed has elements for them.
     std::string_view cast;
     std::string_view director;
 };
@@ -147,7 +146,7 @@ const std::array<Language, 6>& languages() {
     return all;
 }
 
-/// Distributions of the standard library differ between libraries; the engine does not.
+/// The standard engine gives the same numbers everywhere, which its distributions do not.
 class Choice {
   public:
     explicit Choice(std::uint64_t seed)

@@ -7,19 +7,20 @@
 
 namespace guide::bench {
 
-/// What a generated feed is to hold.
+/// The size of a generated feed.
 struct FeedShape {
     int channels = 300;
     int days = 7;
-    /// Where the first programmes start: midnight, UTC, of a day far ahead, so that nothing is over.
+    /// Start of the first programmes: a midnight (UTC) far in the future, so that no show is over.
     Moment start = std::chrono::sys_days{std::chrono::year{2040} / 1 / 2};
 };
 
-/// A national feed as plain XMLTV: back to back programmes in Czech, Croatian, Hungarian, Italian, German and
-/// English, with what real feeds put around their texts. The same bytes for the same shape.
+/// A national feed as plain XMLTV: programmes without gaps in Czech, Croatian, Hungarian, Italian, German and
+/// English, in the proportions of real feeds (texts, credits, pictures). The same bytes for the same shape.
+/// The demo's feeds would not do: they have fewer languages and elements.
 QByteArray generatedFeed(const FeedShape& shape);
 
-/// The id that the feed gives its channel of this number, counted from 0.
+/// The feed's id of this channel, counted from 0.
 QString generatedChannelId(int number);
 
 } // namespace guide::bench

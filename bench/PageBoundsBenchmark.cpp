@@ -1,10 +1,10 @@
-// What no page may do to its reader: take it much longer a byte than other pages of its family, or longer
-// than twice the time when there is twice as much that is opened and never closed.
+// Bounds that hold for every page: reading takes not much longer per byte than for other pages of the family,
+// and twice as many unclosed markers take at most twice the time.
 
-#include "MadeShows.h"
+#include "GeneratedShows.h"
 #include "PageFormats.h"
-#include "parsers/DetailScraper.h"
-#include "parsers/RecordedCall.h"
+#include "parsers/details/DetailScraper.h"
+#include "parsers/formats/RecordedCall.h"
 
 #include <QLoggingCategory>
 
@@ -20,7 +20,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// Seconds of CPU that the call takes, of several tries the quickest.
+/// CPU seconds of the call, the fastest of several runs.
 template <class Call>
 double quickest(const Call& call) {
     constexpr int kTries = 9;
@@ -42,16 +42,16 @@ std::size_t storedCount(const MergeResult& merged) {
     return count;
 }
 
-/// A page as the family's reader gets it.
+/// Pages and how to read them.
 struct Page {
     std::shared_ptr<const test::RecordedCall> call;
     QString name;
     QByteArray text;
 
-    /// Less counts as much, so that what a call costs without any page is not taken for the page's.
+    /// Smaller pages count as this many bytes, so that the fixed cost of a call does not count as the page's.
     double bytes() const { return double(std::max<qsizetype>(text.size(), 4096)); }
     std::size_t read() const { return storedCount(call->lists({text})); }
-    /// Reads as often as makes a megabyte.
+    /// Reads until a megabyte has been read.
     std::size_t readMegabyte() const {
         std::size_t shows = 0;
         for (double read = 0; read < 1e6; read += bytes()) {
@@ -61,9 +61,9 @@ struct Page {
     }
 };
 
-/// Every recorded page of a family, and what a fuzzer found.
+/// Every recorded page of a family and its fuzzer regressions.
 std::vector<Page> pagesOf(const QString& family) {
-    // Between the pages of a find; behind them stands one byte more.
+    // Separates the pages of a regression; one more byte follows them.
     constexpr char kSeparator = '\x1e';
     std::vector<Page> pages;
     std::shared_ptr<const test::RecordedCall> call;
@@ -84,7 +84,7 @@ std::vector<Page> pagesOf(const QString& family) {
     return pages;
 }
 
-/// The pages of a family by the time that they take a byte.
+/// The pages of a family by their time per byte.
 const std::vector<Page>& pagesByTime(const QString& family) {
     static std::map<QString, std::vector<Page>> known;
     std::vector<Page>& pages = known[family];
@@ -125,10 +125,10 @@ void medianRecorded(benchmark::State& state, const QString& family) {
 /// A format whose pages are flooded with a marker.
 struct Flooded {
     std::string name;
-    /// Good pages, which lead to the markers.
+    /// Valid pages, so that the markers are reached.
     std::vector<QByteArray> pages;
     std::vector<std::string> markers;
-    /// What is found in the pages: how many shows, or how long the texts are.
+    /// The number of shows found, or the length of the texts.
     std::function<std::size_t(const std::vector<QByteArray>& pages)> read;
 };
 
@@ -138,7 +138,7 @@ Flooded floodedFamily(std::string name, FamilyPages family, std::vector<std::str
             [family = std::move(family)](const auto& others) { return showCount(family.read(others)); }};
 }
 
-/// A page of one show, scraped for its details; the same page comes for all that it points to.
+/// A show's page, scraped for details; every linked page is the same page.
 Flooded floodedDetails(const char* page, const char* sourceId, const char* url,
                        std::vector<std::string> markers) {
     auto entry = std::make_shared<TVEntry>(alphabet());
@@ -220,7 +220,7 @@ const std::vector<Flooded>& floodedFormats() {
     return all;
 }
 
-/// The pages up to the first such marker, from where on there is nothing but the marker.
+/// The pages up to the first occurrence of the marker, and after it only the marker, repeated.
 std::vector<QByteArray> flood(const std::vector<QByteArray>& good, const std::string& marker,
                               qsizetype count) {
     const QByteArray text = QByteArray::fromStdString(marker);
@@ -237,7 +237,7 @@ std::vector<QByteArray> flood(const std::vector<QByteArray>& good, const std::st
 
 constexpr qsizetype kHalf = 10'000;
 
-/// The pages of a format that take the longest of twice the markers, with half and with all of them.
+/// The pages of a format whose time grows most with twice the markers, with half and with all of them.
 struct Flood {
     std::string marker;
     std::vector<QByteArray> half;
@@ -255,7 +255,7 @@ const Flood& worstFlood(const Flooded& format) {
     for (const std::string& marker : format.markers) {
         std::vector<QByteArray> half = flood(format.pages, marker, kHalf);
         std::vector<QByteArray> whole = flood(format.pages, marker, 2 * kHalf);
-        // What takes no time does not grow.
+        // Too short to measure growth.
         const double growth =
             quickest([&] { format.read(whole); }) / (quickest([&] { format.read(half); }) + 1e-5);
         if (growth > worstGrowth) {

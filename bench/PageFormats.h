@@ -8,15 +8,15 @@
 
 namespace guide::bench {
 
-/// How a format writes its fields, and what its reader does with them beside finding them.
+/// How a format writes its fields, and what its reader does besides finding them.
 struct PageFormat {
     const char* name;
     FamilyPages (*make)(std::size_t size);
-    /// What stands before a time.
+    /// The text before a time.
     std::string_view time;
-    /// Every marker that the reader looks for, the changing ones as one of them.
+    /// Every marker that the reader searches for; of markers that vary, one.
     std::vector<std::string> markers;
-    /// Of the schedule; none where moments are numbers.
+    /// The zone of the schedule; none where times are numbers.
     const char* zone = nullptr;
     bool classifies = false;
     /// Which texts the reader trims.
@@ -26,7 +26,7 @@ struct PageFormat {
     bool casesTitles = false;
 };
 
-/// Those of pages that are walked from marker to marker.
+/// The formats that are read from marker to marker.
 const std::vector<PageFormat>& pageFormats();
 
 } // namespace guide::bench

@@ -1,12 +1,11 @@
-// The readers of pages, each on two megabytes of its own format. What walks a page without lifting anything
-// is the reader itself, on the page with its times made unreadable: it finds every field and makes nothing of
-// them.
+// The page readers, each on two megabytes of its format. The baseline for searching is the reader itself on
+// the same pages with unreadable times: it finds every field and creates no shows.
 
 #include "PageFormats.h"
-#include "parsers/ZoneClock.h"
-#include "text/Capitalisation.h"
-#include "text/MarkupText.h"
-#include "text/ShowClassifier.h"
+#include "parsers/markers/ZoneClock.h"
+#include "text/categories/ShowClassifier.h"
+#include "text/cleaning/Capitalisation.h"
+#include "text/cleaning/MarkupText.h"
 
 #include <QDateTime>
 
@@ -21,8 +20,8 @@ using namespace Qt::StringLiterals;
 
 constexpr std::size_t kSize = 2'000'000;
 
-/// The pages with each time's first digit made a letter, in which the reader finds everything and nothing to
-/// lift.
+/// The pages with the first digit of each time replaced by a letter: the reader finds every field and no
+/// show.
 std::vector<QByteArray> withoutTimes(const PageFormat& format, std::vector<QByteArray> pages) {
     const QByteArray marker(format.time.data(), static_cast<qsizetype>(format.time.size()));
     for (QByteArray& page : pages) {
@@ -39,7 +38,7 @@ std::vector<QByteArray> withoutTimes(const PageFormat& format, std::vector<QByte
     return pages;
 }
 
-/// All that a reader makes of its pages, taken apart: what it lifted, and what it asked.
+/// Everything a reader produces, split into texts and queries.
 struct Pieces {
     struct Texts {
         std::optional<QString> sourceId, details, title, description;
@@ -105,7 +104,7 @@ struct Pieces {
     }
 };
 
-/// What is measured of a format; made once.
+/// The input for a format; created once.
 struct Subject {
     const PageFormat& format;
     FamilyPages whole;

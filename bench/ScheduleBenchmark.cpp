@@ -1,8 +1,8 @@
-// The list of all shows and the searches in it.
+// The list of all shows and its searches.
 
-#include "MadeShows.h"
+#include "GeneratedShows.h"
 #include "store/AllShows.h"
-#include "text/FoldedText.h"
+#include "text/search/FoldedText.h"
 
 #include <benchmark/benchmark.h>
 #include <cstring>
@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 constexpr std::size_t kMostShows = 2000;
 
-/// The lists of 286 channels, 80,080 shows, and the same texts as the floors have them.
+/// The lists of 286 channels, 80,080 shows, and their texts for the baselines.
 struct Schedule {
     static constexpr int kChannels = 286;
 
@@ -40,7 +40,7 @@ struct Schedule {
         offsets.push_back(folded.size());
     }
 
-    /// Shows that hold the pattern, by one memmem after another over the texts of all shows in a row.
+    /// The number of shows that contain the pattern, by memmem over the joined texts of all shows.
     std::vector<const ShowItem*> search(const std::string& pattern) const {
         std::vector<const ShowItem*> found;
         const char* const begin = folded.data();
@@ -72,7 +72,7 @@ const Schedule& schedule() {
     return schedule;
 }
 
-/// A pattern of each sort: how it is typed, and folded.
+/// Patterns as typed and folded.
 struct Pattern {
     const char* name;
     QString typed;
@@ -112,7 +112,7 @@ void searchFloor(benchmark::State& state, const Pattern& pattern) {
 
 void allShowsGuide(benchmark::State& state) {
     const Schedule& data = schedule();
-    // A list that has a search text hands it on: the next one makes its own with its shows.
+    // A list passes its search text on when it has one; the next list builds its own.
     data.all->showsContaining("x", kNow, 1);
     Words words(2);
     std::optional<AllShows> all;

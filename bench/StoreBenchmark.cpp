@@ -1,19 +1,15 @@
-#include "MadeShows.h"
+#include "GeneratedShows.h"
 #include "StoreFloor.h"
-#include "core/ListingsFile.h"
-#include "fakes/FakeApplicationState.h"
-#include "fakes/FakeBackgroundTasks.h"
-#include "fakes/FakeDevice.h"
-#include "fakes/ManualClock.h"
-#include "fakes/MemoryKeyValueStore.h"
-#include "fakes/MemoryUserDefaults.h"
-#include "platform/FileReplacement.h"
-#include "platform/ThreadedQueues.h"
+#include "fakes/StoreFixture.h"
+#include "platform/files/FileReplacement.h"
+#include "platform/memory/ManualClock.h"
+#include "platform/memory/MemoryKeyValueStore.h"
+#include "platform/memory/MemoryUserDefaults.h"
+#include "platform/queues/ThreadedQueues.h"
 #include "store/ShowCoding.h"
 #include "store/TVListings.h"
 
-#include <QDir>
-#include <QTemporaryDir>
+#include <QFile>
 
 #include <benchmark/benchmark.h>
 #include <future>
@@ -23,76 +19,33 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class NoFavorites final : public FavoriteQuestions {
-  public:
-    bool containsFavoriteNamed(const QString&) const override { return false; }
-    bool hasFavorites() const override { return false; }
-};
-
-class NoPopularShows final : public PopularShows {
-  public:
-    ShowList popularShows() const override { return nullptr; }
-    bool contains(const ShowItem&) const override { return false; }
-    void refresh() override {}
-};
-
-class NoAlarms final : public AlarmSynchronisation {
-  public:
-    void setSynchronized(bool) override {}
-    void syncAlarms() override {}
-};
-
+/// A store on real queues.
 struct World {
     World(int channelCount, const QString& folder)
-        : folders{folder, folder, folder, folder, folder, folder}
-        , queues([] {})
-        , icons(folder, 1)
-        , channels(folders, keyValueStore, queues, catalogue)
-        , environment{clock,        device,   folders,    queues,          tasks,      applicationState,
-                      userDefaults, channels, icons,      catalogue,       alphabet(), favorites,
-                      popular,      alarms,   u"guide"_s, [] { return 4; }} {
-        std::vector<ObjectId> selected;
-        std::vector<CatalogueChannel> listed;
+        : store(clock, queues, folder) {
         for (int channel = 0; channel < channelCount; ++channel) {
-            selected.push_back(channelNumbered(channel));
-            listed.push_back({selected.back(), u"T"_s, u"cs"_s, u"x"_s, u"1"_s});
+            store.addChannel(channel);
         }
-        catalogue.replace(CatalogueSnapshot(listed));
-        channels.setSelected(selected);
-        own = queues.makeQueue("own", QueueKind::Serial);
+        store.makeChannels();
     }
     ~World() { queues.shutDown(); }
 
-    QString path(int channel) const {
-        return folders.caches + u'/' + listingsFileFromChannelIdentificator(channelNumbered(channel));
-    }
+    QString path(int channel) const { return store.listingsFile(channelNumbered(channel)); }
 
-    /// Waits for the answer on a queue of its own.
-    std::vector<ShowSpan> onAir(TVListings& listings) {
+    /// Runs on a separate queue and waits for the answer.
+    std::vector<ShowSpan> onAir() {
         std::promise<std::vector<ShowSpan>> answer;
-        listings.onAirShowsWithQueue(own,
-                                     [&answer](const std::vector<ObjectId>&, std::vector<ShowSpan> shows) {
-                                         answer.set_value(std::move(shows));
-                                     });
+        store.listings->onAirShowsWithQueue(
+            own, [&answer](const std::vector<ObjectId>&, std::vector<ShowSpan> shows) {
+                answer.set_value(std::move(shows));
+            });
         return answer.get_future().get();
     }
 
-    Folders folders;
     ManualClock clock{kNow};
-    FakeDevice device;
-    ThreadedQueues queues;
-    FakeBackgroundTasks tasks;
-    FakeApplicationState applicationState;
-    MemoryUserDefaults userDefaults;
-    MemoryKeyValueStore keyValueStore;
-    TVStationIcons icons;
-    Catalogue catalogue;
-    TVChannels channels;
-    NoFavorites favorites;
-    NoPopularShows popular;
-    NoAlarms alarms;
-    TVListingsEnvironment environment;
-    std::shared_ptr<DispatchQueue> own;
+    ThreadedQueues queues{[] {}};
+    test::StoreFixture store;
+    std::shared_ptr<DispatchQueue> own = queues.makeQueue("own", QueueKind::Serial);
 };
 
 std::vector<QByteArray> madeArchives(int count) {
@@ -120,14 +73,14 @@ void readGuide(benchmark::State& state) {
     }
     std::size_t shows = 0;
     for (auto _ : state) {
-        auto listings = std::make_unique<TVListings>(world.environment);
-        const std::vector<ShowSpan> onAir = world.onAir(*listings);
+        world.store.open();
+        const std::vector<ShowSpan> onAir = world.onAir();
         state.PauseTiming();
         shows = 0;
         for (const ShowSpan& span : onAir) {
             shows += span.size();
         }
-        listings.reset();
+        world.store.listings.reset();
         state.ResumeTiming();
     }
     if (shows != kFiles * 4) {
@@ -169,7 +122,7 @@ void onAirGuide(benchmark::State& state) {
     constexpr int kChannels = 300;
     QTemporaryDir folder;
     World world(kChannels, folder.path());
-    TVListings listings(world.environment);
+    TVListings& listings = world.store.open();
     Words words(4);
     std::vector<LoadItem> items;
     items.reserve(kChannels);
@@ -181,7 +134,7 @@ void onAirGuide(benchmark::State& state) {
     listings.merge(items, std::move(parsed), kNow, ListingsType::XMLTV);
     std::vector<ShowSpan> onAir;
     for (auto _ : state) {
-        onAir = world.onAir(listings);
+        onAir = world.onAir();
     }
     if (onAir.size() != kChannels || !std::all_of(onAir.begin(), onAir.end(), [](const ShowSpan& span) {
             return span.size() == 4 && !span[0].entry()->overAt(kNow);
@@ -211,7 +164,7 @@ void onAirFloor(benchmark::State& state) {
 void writeGuide(benchmark::State& state) {
     QTemporaryDir folder;
     World world(kFiles, folder.path());
-    TVListings listings(world.environment);
+    TVListings& listings = world.store.open();
     std::vector<LoadItem> items;
     items.reserve(kFiles);
     ParsedLists parsed;
@@ -226,7 +179,7 @@ void writeGuide(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
         for (int channel = 0; channel < kFiles; ++channel) {
-            // Whatever stands there in the end was written in the last pass.
+            // The final content was written in the last pass.
             QFile::remove(world.path(channel));
             listings.addToSaveSchedule(channelNumbered(channel));
         }

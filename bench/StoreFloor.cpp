@@ -1,6 +1,6 @@
 #include "StoreFloor.h"
 
-#include "platform/ArchiveContainer.h"
+#include "platform/archive/ArchiveContainer.h"
 
 #include <cstdio>
 #include <cstring>

@@ -11,7 +11,7 @@
 
 namespace guide::bench {
 
-/// The fields of a show, stored and derived, and nothing around them.
+/// The stored and derived fields of a show, without anything else.
 struct FloorShow {
     ObjectId::Bytes channel{};
     std::optional<QString> sourceId, language, title, instantDetails, subtitle, instantDescription, url;
@@ -22,11 +22,11 @@ struct FloorShow {
     std::optional<QString> description, episodeDescription, details, directedBy, roles, detailsLanguage;
 };
 
-/// The shows of a listing file, through a memory map, by a walk that believes every byte. Of archives without
+/// Reads the shows of a listing file through a memory map, without any checks. Only for archives without
 /// links and pictures.
 std::vector<FloorShow> floorShows(const QByteArray& path);
 
-/// A temporary file renamed over the path, nothing else.
+/// Writes a temporary file and renames it over the path.
 bool floorReplace(const QByteArray& path, const QByteArray& content);
 
 } // namespace guide::bench

@@ -1,7 +1,7 @@
-#include "text/FoldedText.h"
 #include "text/NaiveClassifier.h"
-#include "text/ShowClassifier.h"
-#include "text/ShowClassifierWords.h"
+#include "text/categories/ShowClassifier.h"
+#include "text/categories/ShowClassifierWords.h"
+#include "text/search/FoldedText.h"
 
 #include <QStringList>
 
@@ -27,7 +27,7 @@ struct Show {
     std::optional<QString> description;
 };
 
-/// What schedule pages write about a show: mostly words that no list has, in the letters of the sources.
+/// Texts like those of schedule pages: mostly words that are in no list, with the letters of the sources.
 class ShowWriter {
   public:
     ShowWriter() {
@@ -64,7 +64,7 @@ class ShowWriter {
   private:
     unsigned below(unsigned bound) { return static_cast<unsigned>(m_random() % bound); }
 
-    /// Of so many words one is known to the classifier.
+    /// One of this many words is known to the classifier.
     QString text(unsigned words, unsigned known) {
         QString made;
         for (unsigned i = 0; i < words; ++i) {
@@ -96,7 +96,8 @@ const std::vector<Show>& shows() {
     return kAll;
 }
 
-/// The automaton at its barest: a class a unit, a table of states by classes, a set of words where some end.
+/// A minimal automaton: a class per code unit, a table of states by class, and a set of words per final
+/// state.
 class DenseWalk {
   public:
     using Words = std::bitset<384>;

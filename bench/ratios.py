@@ -3,10 +3,10 @@
 
 usage: ratios.py FOLDER [FILTER]
 
-FOLDER holds the benchmark programs (`guide_*_benchmark`). A row is a pair of benchmarks, "ROW/guide" and "ROW/floor";
-the first carries the counter `atMost`, the ratio that it may reach. Medians of CPU time are compared, or of wall time
-where the name says real_time. A benchmark that found its result wrong ends as an error here, whatever its time.
-The other programs (`guide_*_measure`) print a row of their own as one JSON object, with both sides.
+FOLDER contains the benchmark programs (`guide_*_benchmark`). A row is a pair of benchmarks, "ROW/guide" and "ROW/floor";
+the counter `atMost` of the first is the highest ratio allowed. Medians of CPU time are compared, or of wall time
+where the name says real_time. A benchmark whose result was wrong is an error, whatever its time.
+The other programs (`guide_*_measure`) print one row with both sides as a JSON object.
 Exits with 1 when a result was wrong, a row has no pair or a ratio is above its bound.
 """
 import json
@@ -15,7 +15,7 @@ import re
 import subprocess
 import sys
 
-# Medians over so many runs of every benchmark, in random order.
+# Number of runs of every benchmark, in random order; medians are compared.
 REPETITIONS = 7
 
 
@@ -31,12 +31,12 @@ def measure(program: pathlib.Path, pattern: str) -> list[dict]:
     ran = subprocess.run(command, capture_output=True, text=True, check=False)
     if ran.returncode != 0:
         sys.exit(f"{program.name} ended with {ran.returncode}:\n{ran.stderr}")
-    # With no benchmark that fits the filter nothing is printed.
+    # No benchmark matches the filter.
     return json.loads(ran.stdout)["benchmarks"] if ran.stdout.strip() else []
 
 
 def split(name: str) -> tuple[str, str, str] | None:
-    """The row, the side and what follows of a benchmark's name."""
+    """The row, the side and the rest of a benchmark's name."""
     for side in ("guide", "floor"):
         row, mark, rest = name.rpartition("/" + side)
         if mark:

@@ -43,11 +43,19 @@ endif()
 target_compile_definitions(guide_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
                                                    QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH)
 
+# Compiles TARGET with the precompiled headers that all our targets share. Needs the target Qt6::Core.
 function(guide_precompile TARGET)
-    if(QUELLIN_PCH)
-        target_precompile_headers(${TARGET} PRIVATE <algorithm> <chrono> <functional> <memory> <mutex> <optional>
+    if(NOT QUELLIN_PCH)
+        return()
+    endif()
+    if(NOT TARGET guide_pch)
+        file(GENERATE OUTPUT ${CMAKE_BINARY_DIR}/pch/guide_pch.cpp CONTENT "")
+        add_library(guide_pch OBJECT ${CMAKE_BINARY_DIR}/pch/guide_pch.cpp)
+        target_link_libraries(guide_pch PRIVATE Qt6::Core guide_options)
+        target_precompile_headers(guide_pch PRIVATE <algorithm> <chrono> <functional> <memory> <mutex> <optional>
                                   <string> <string_view> <unordered_map> <vector> <QByteArray> <QString>)
     endif()
+    target_precompile_headers(${TARGET} REUSE_FROM guide_pch)
 endfunction()
 
 # guide_folder(NAME SOURCES … [LINKS …])

@@ -1,16 +1,16 @@
 #include "FuzzInput.h"
 #include "FuzzTarget.h"
-#include "parsers/RecordedCall.h"
-#include "platform/Archive.h"
-#include "platform/ArchiveContainer.h"
-#include "platform/PropertyList.h"
+#include "parsers/formats/RecordedCall.h"
+#include "platform/archive/Archive.h"
+#include "platform/archive/ArchiveContainer.h"
+#include "platform/archive/PropertyList.h"
 #include "store/ShowCoding.h"
 
 namespace guide::fuzz {
 
 namespace {
 
-/// An archive as it was found, or a list's file with a seal that fits, so that what lies behind it is
+/// Reads an arbitrary archive, or a list's file with a valid checksum, so that the code behind the check is
 /// reached.
 void readArchive(QByteArrayView bytes) {
     static const Alphabet alphabet;
@@ -30,7 +30,7 @@ void readArchive(QByteArrayView bytes) {
         require(show.entry()->identificator() && show.entry()->dateTime(), "a show has a title and a start");
     }
     const auto again = unarchivedShows(archivedShows(*shows), alphabet);
-    require(again && again->size() == shows->size(), "a list that was read can be kept");
+    require(again && again->size() == shows->size(), "a list that was read can be archived again");
 }
 
 void readPropertyList(QByteArrayView bytes) {
@@ -72,7 +72,7 @@ std::vector<FuzzTarget> archiveTargets() {
                  return std::vector<QByteArray>{fuzzInput({xml}), fuzzInput({binary})};
              },
          .literals = {"platform/PropertyList.cpp", "platform/PropertyListBounds.cpp"},
-         .mostMemoryPerByte = 400},
+         .maxMemoryPerByte = 400},
     };
 }
 

@@ -1,9 +1,9 @@
 #include "FuzzInput.h"
 #include "FuzzTarget.h"
-#include "parsers/DetailScraper.h"
-#include "parsers/IMDbLookup.h"
-#include "parsers/RecordedCall.h"
-#include "parsers/RecordedShows.h"
+#include "parsers/details/DetailScraper.h"
+#include "parsers/details/IMDbLookup.h"
+#include "parsers/details/RecordedShows.h"
+#include "parsers/formats/RecordedCall.h"
 #include "store/ShowCoding.h"
 
 #include <array>
@@ -12,13 +12,13 @@ namespace guide::fuzz {
 
 namespace {
 
-/// A show page and the two pages behind it.
-constexpr std::size_t kMostPages = 3;
+/// A show page and two linked pages.
+constexpr std::size_t kMaxPages = 3;
 
 struct Family {
     const char* sourceId;
     const char* url;
-    /// In tests/recorded-details/.
+    /// File in tests/recorded-details/.
     const char* page;
 };
 
@@ -37,7 +37,7 @@ QByteArray recordedPage(const char* name) {
                                  QString::fromLatin1(name));
 }
 
-/// Gives one page after the other, whatever is asked for.
+/// Returns the pages in order, whatever URL is requested.
 class PagesInTurn {
   public:
     explicit PagesInTurn(std::vector<QByteArray> pages)
@@ -46,8 +46,8 @@ class PagesInTurn {
     PageSource source() {
         return [this](const QUrl& url) -> std::optional<QByteArray> {
             require(url.isValid() && url.scheme().startsWith(QStringLiteral("http")),
-                    "what is fetched has an address of the web");
-            require(++m_asked <= kMostPages, "a show takes three fetches at most");
+                    "only http and https URLs are fetched");
+            require(++m_asked <= kMaxPages, "a show needs at most three fetches");
             return m_asked <= m_pages.size() ? std::optional(m_pages[m_asked - 1]) : std::nullopt;
         };
     }
@@ -61,7 +61,7 @@ void scrapeDetails(QByteArrayView bytes) {
     static const Alphabet alphabet;
     const FuzzInput input(bytes);
     const Family& family = kFamilies[input.choice(kFamilies.size())];
-    PagesInTurn pages(input.textParts(kMostPages));
+    PagesInTurn pages(input.textParts(kMaxPages));
     const auto entry = std::make_shared<TVEntry>(alphabet);
     entry->setSourceId(QString::fromLatin1(family.sourceId));
     entry->setUrl(QUrl(QString::fromLatin1(family.url)));
@@ -74,10 +74,10 @@ void scrapeDetails(QByteArrayView bytes) {
         return;
     }
     for (const QUrl& picture : show->pictures()) {
-        require(picture.isValid() && !picture.host().isEmpty(), "a picture has an address of the web");
+        require(picture.isValid() && !picture.host().isEmpty(), "a picture has a valid URL");
     }
     const auto read = unarchivedShows(archivedShows(std::array{*show}), alphabet);
-    require(read && read->size() == 1, "a show with details can be kept");
+    require(read && read->size() == 1, "a show with details can be archived");
 }
 
 void findRecordings(QByteArrayView bytes) {
@@ -91,7 +91,7 @@ void findFilm(QByteArrayView bytes) {
     const FuzzInput input(bytes);
     const IMDbAnswer answer = imdbAnswer(input.whole(), search, input.choice(2) == 1);
     if (answer.imdbURL) {
-        require(answer.imdbURL->host() == search.host(), "a film's page is on the site that was searched");
+        require(answer.imdbURL->host() == search.host(), "a film's page is on the searched site");
     }
 }
 
@@ -102,13 +102,13 @@ void searchFilms(QByteArrayView bytes) {
     const auto subtitle = texts.size() > 1 ? std::optional(QString::fromUtf8(texts[1])) : std::nullopt;
     const TVListingsCategory categories = input.choice(2) == 1 ? TVListingsCategorySeries : 0;
     const IMDbSearches searches = imdbSearches(title, subtitle, categories, test::recordedHosts());
-    require(searches.urls.size() <= 2, "a title and a subtitle are looked for");
-    require(searches.urls.empty() || categories != 0, "only films and series are looked for");
+    require(searches.urls.size() <= 2, "at most a title and a subtitle are searched");
+    require(searches.urls.empty() || categories != 0, "only films and series are searched");
     if (searches.started) {
         const QByteArray query = searches.urls[0].query(QUrl::FullyEncoded).toLatin1();
         require(QByteArray::fromPercentEncoding(query.mid(query.indexOf("q=") + 2)) ==
                     title.toUtf8() + "&s=tt",
-                "the search asks for the whole title");
+                "the search contains the whole title");
     }
 }
 
@@ -129,10 +129,10 @@ std::vector<FuzzTarget> detailTargets() {
                  }
                  return seeds;
              },
-         .literals = {"parsers/HBODetails.cpp", "parsers/ComedyCentralDetails.cpp",
-                      "parsers/CinestarDetails.cpp", "parsers/JojCinemaDetails.cpp",
-                      "parsers/PalinsestoDetails.cpp", "parsers/PortDetails.cpp", "parsers/PortPopups.cpp",
-                      "parsers/PlainText.cpp"}},
+         .literals = {"parsers/details/HBODetails.cpp", "parsers/details/ComedyCentralDetails.cpp",
+                      "parsers/details/CinestarDetails.cpp", "parsers/details/JojCinemaDetails.cpp",
+                      "parsers/details/PalinsestoDetails.cpp", "parsers/details/PortDetails.cpp",
+                      "parsers/details/PortPopups.cpp", "parsers/markers/PlainText.cpp"}},
         {.name = "recorded-shows",
          .run = findRecordings,
          .seeds =
@@ -141,7 +141,7 @@ std::vector<FuzzTarget> detailTargets() {
                      {R"(<a href="/enz/a/">Jutro</a><li><a class="x" href="/enz/dnevnik/">Dnevnik</a>)",
                       R"(<select id="d"><option value="1">Ned</option><option value="2">Pon</option></select>)"})};
              },
-         .literals = {"parsers/RecordedShows.cpp"}},
+         .literals = {"parsers/details/RecordedShows.cpp"}},
         {.name = "imdb-search",
          .run = searchFilms,
          .seeds =
@@ -150,7 +150,7 @@ std::vector<FuzzTarget> detailTargets() {
                      fuzzInput({"Žandarm & 100 % #1", "Le Gendarme à New York"}, 1),
                      fuzzInput({"Film", "A+B"}, 1)};
              },
-         .literals = {"parsers/IMDbLookup.cpp"}},
+         .literals = {"parsers/details/IMDbLookup.cpp"}},
         {.name = "imdb",
          .run = findFilm,
          .seeds =
@@ -159,7 +159,7 @@ std::vector<FuzzTarget> detailTargets() {
                      {R"(<tr><td class="primary_photo"> <a href="/title/tt1/" ><img src="https://x/a._V1_UX32_CR0,0,32,44_AL_.jpg"></a>A (TV Series)</tr>)"},
                      1)};
              },
-         .literals = {"parsers/IMDbLookup.cpp"}},
+         .literals = {"parsers/details/IMDbLookup.cpp"}},
     };
 }
 

@@ -1,9 +1,9 @@
 #include "FuzzInput.h"
 #include "FuzzTarget.h"
-#include "parsers/FeedListing.h"
-#include "parsers/ProgrammeSkipScan.h"
-#include "parsers/RecordedCall.h"
-#include "parsers/XMLTVDate.h"
+#include "parsers/formats/RecordedCall.h"
+#include "parsers/xmltv/FeedListing.h"
+#include "parsers/xmltv/ProgrammeSkipScan.h"
+#include "parsers/xmltv/XMLTVDate.h"
 
 #include <QDateTime>
 
@@ -21,7 +21,7 @@ const std::vector<std::vector<QString>>& wantedChannels() {
     return wanted;
 }
 
-/// Whatever is left out of a feed, the wanted shows stay.
+/// Skipping unwanted programmes must not change the wanted shows.
 void leaveOutUnwanted(QByteArrayView bytes) {
     static const Alphabet alphabet;
     static const Moment now = std::chrono::sys_days{std::chrono::year{2026} / 1 / 1};
@@ -33,10 +33,10 @@ void leaveOutUnwanted(QByteArrayView bytes) {
     if (!kept) {
         return;
     }
-    require(kept->size() < feed.size() + 16, "a feed without some of its programmes is shorter");
+    require(kept->size() < feed.size() + 16, "skipping programmes shortens a feed");
     const test::FeedListing whole = test::listing(feed, wanted, options);
     const test::FeedListing ours = test::listing(*kept, wanted, options);
-    require(test::isPrefix(whole, ours), "no show of the whole feed is lost");
+    require(test::isPrefix(whole, ours), "no wanted show is lost");
     if (test::isWellFormed(feed) && test::isWellFormed(*kept)) {
         require(whole == ours, "a well-formed feed gives the same shows");
     }
@@ -48,7 +48,7 @@ void readDate(QByteArrayView bytes) {
         const QByteArray digits = bytes.first(std::min<qsizetype>(bytes.size(), 14)).toByteArray();
         const QDateTime naive =
             QDateTime::fromString(QString::fromLatin1(digits) + u'Z', QStringLiteral("yyyyMMddHHmmsst"));
-        require(naive.isValid(), "a date that is read is one");
+        require(naive.isValid(), "an accepted date is valid");
         const auto offset = naive.toMSecsSinceEpoch() - date->time_since_epoch().count();
         require(std::abs(offset) <= 24 * 3600 * 1000, "an offset is less than a day");
     }
@@ -80,7 +80,7 @@ std::vector<FuzzTarget> feedTargets() {
     return {{.name = "programme-skip-scan",
              .run = leaveOutUnwanted,
              .seeds = seeds,
-             .literals = {"parsers/ProgrammeSkipScan.cpp", "parsers/XMLTVSaxParser.cpp"}},
+             .literals = {"parsers/xmltv/ProgrammeSkipScan.cpp", "parsers/xmltv/XMLTVSaxParser.cpp"}},
             {.name = "xmltv-date", .run = readDate, .seeds = [] {
                  return std::vector<QByteArray>{"20240101120000 +0100", "20240229235959 -05:45",
                                                 "20240101120000Z"};

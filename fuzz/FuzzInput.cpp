@@ -1,6 +1,6 @@
 #include "FuzzInput.h"
 
-#include "platform/Utf8.h"
+#include "platform/encoding/Utf8.h"
 
 #include <QString>
 

@@ -8,20 +8,20 @@
 
 namespace guide::fuzz {
 
-/// How the bytes of a fuzzer become arguments: parts with record separators between them, then one byte that
-/// chooses. Parts stand as they are, so that a page stays recognisable to whoever reads a find.
+/// Splits the fuzzer's bytes into arguments: parts between record separators and, at the end, one byte for a
+/// choice. Parts are not encoded, so that a page in a failing input remains readable.
 class FuzzInput {
   public:
     explicit FuzzInput(QByteArrayView bytes)
         : m_parts(bytes.empty() ? bytes : bytes.chopped(1))
         , m_choice(bytes.empty() ? 0 : static_cast<unsigned char>(bytes.back())) {}
 
-    /// Below `count`, which is not 0.
+    /// 0 to count - 1; count must be positive.
     std::size_t choice(std::size_t count) const { return m_choice % count; }
 
-    /// At most `most` of them, the last one with all that is left.
+    /// At most `most` parts; the last one contains the rest.
     std::vector<QByteArray> parts(std::size_t most) const;
-    /// The same as UTF-8, which pages and texts always are by the time they are read.
+    /// The same, converted to valid UTF-8, which is all that readers get.
     std::vector<QByteArray> textParts(std::size_t most) const;
     QByteArray whole() const { return m_parts.toByteArray(); }
 
@@ -30,7 +30,7 @@ class FuzzInput {
     unsigned char m_choice;
 };
 
-/// The bytes that FuzzInput takes apart into these.
+/// The inverse of FuzzInput.
 QByteArray fuzzInput(const std::vector<QByteArray>& parts, std::size_t choice = 0);
 
 } // namespace guide::fuzz

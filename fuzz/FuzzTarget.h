@@ -9,17 +9,17 @@
 
 namespace guide::fuzz {
 
-/// Something that eats bytes of strangers, and what a fuzzer needs to begin with it.
+/// Code that reads untrusted bytes, and what a fuzzer needs for it.
 struct FuzzTarget {
     std::string name;
-    /// Takes any bytes. Aborts, with a line on the standard error, when what comes out is wrong.
+    /// Aborts, with a line on standard error, when the result breaks an invariant.
     std::function<void(QByteArrayView input)> run;
-    /// Inputs that lead deep.
+    /// Valid inputs to start from.
     std::function<std::vector<QByteArray>()> seeds;
-    /// The files below src/ whose literal texts are worth mixing in: the markers of a format.
+    /// Files below src/ whose string literals go into the dictionary: the markers of a format.
     std::vector<std::string> literals = {};
-    /// Bytes that a run may hold at once for each byte of its input; 0 where unpacking has bounds of its own.
-    int mostMemoryPerByte = 100;
+    /// Bytes that a run may allocate at once per byte of input; 0 for targets with other bounds (unpacking).
+    int maxMemoryPerByte = 100;
 };
 
 std::vector<FuzzTarget> readerTargets();
@@ -32,7 +32,7 @@ std::vector<FuzzTarget> sourceTargets();
 /// All of the above.
 const std::vector<FuzzTarget>& fuzzTargets();
 
-/// Ends the process when `holds` is false.
+/// Aborts when `holds` is false.
 void require(bool holds, const char* what);
 
 } // namespace guide::fuzz

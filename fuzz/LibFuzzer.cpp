@@ -1,7 +1,8 @@
-// The program that libFuzzer drives: --target=NAME picks what is fuzzed, beside libFuzzer's own options.
-//   --list                one line for each target: its name, and the files below src/ whose literals are a
-//                         dictionary for it
-//   --seeds=FOLDER        writes the seeds of the target there, and ends
+// The libFuzzer program. Besides libFuzzer's options it knows:
+//   --target=NAME         what to fuzz
+//   --list                prints each target with the files below src/ whose string literals are its
+//   dictionary
+//   --seeds=FOLDER        writes the target's seeds and exits
 #include "FuzzTarget.h"
 #include "MemoryWatch.h"
 
@@ -18,11 +19,11 @@ namespace {
 
 using guide::fuzz::FuzzTarget;
 
-/// What a run may hold however short its input is: tables that are made once, buffers of libraries.
+/// Allowance independent of the input: tables created once, buffers of libraries.
 constexpr std::size_t kMemoryOfAnyRun = 2 << 20;
 
 const FuzzTarget* chosen = nullptr;
-/// The most that a run has held for each byte of an input of some size.
+/// The highest memory use per byte of input so far; inputs below a minimum size do not count.
 double mostPerByte = 0;
 
 [[noreturn]] void usage() {
@@ -82,7 +83,7 @@ extern "C" int LLVMFuzzerInitialize(int* count, char*** arguments) {
         writeSeeds(*chosen, QString::fromUtf8(folder.data(), static_cast<qsizetype>(folder.size())));
         std::exit(0);
     }
-    // What is made once is made now.
+    // Creates what is created only once.
     for (const QByteArray& seed : chosen->seeds()) {
         chosen->run(seed);
     }
@@ -94,10 +95,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QByteArrayView input(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     const guide::fuzz::MemoryWatch watch;
     chosen->run(input);
-    if (chosen->mostMemoryPerByte > 0) {
+    if (chosen->maxMemoryPerByte > 0) {
         const std::size_t peak = watch.peak();
-        const std::size_t bound =
-            kMemoryOfAnyRun + size * static_cast<std::size_t>(chosen->mostMemoryPerByte);
+        const std::size_t bound = kMemoryOfAnyRun + size * static_cast<std::size_t>(chosen->maxMemoryPerByte);
         if (peak > bound) {
             std::fprintf(stderr, "%zu bytes held for an input of %zu\n", peak, size);
         }

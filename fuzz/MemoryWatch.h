@@ -4,12 +4,12 @@
 
 namespace guide::fuzz {
 
-/// How much memory is held at once between two moments, by what this process allocates. Needs the address
-/// sanitizer's allocator; one at a time.
+/// Measures the peak of this process's allocations. Needs the address sanitizer's allocator; only one
+/// instance at a time.
 class MemoryWatch {
   public:
     MemoryWatch();
-    /// The most bytes that were held at once since the watch was made, beyond those that were held then.
+    /// The highest number of bytes allocated at once since construction, beyond those allocated before it.
     std::size_t peak() const;
 };
 

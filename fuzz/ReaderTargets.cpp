@@ -1,6 +1,6 @@
 #include "FuzzInput.h"
 #include "FuzzTarget.h"
-#include "parsers/RecordedCall.h"
+#include "parsers/formats/RecordedCall.h"
 #include "store/ShowCoding.h"
 
 #include <algorithm>
@@ -10,7 +10,7 @@ namespace guide::fuzz {
 
 namespace {
 
-/// More pages than any source plans.
+/// More pages than any source has.
 constexpr std::size_t kMostPages = 16;
 
 struct Format {
@@ -20,7 +20,7 @@ struct Format {
 
 using Calls = std::vector<test::RecordedCall>;
 
-/// A list as the store takes it, and keeps it through its file.
+/// A list that the store accepts must survive its file.
 void requireGoodList(const ShowList& list) {
     require(list && !list->empty(), "a stored list has shows");
     const auto start = [](const ShowItem& show) { return show.entry()->dateTime(); };
@@ -35,10 +35,10 @@ void requireGoodList(const ShowList& list) {
     const auto titled = std::count_if(list->begin(), list->end(), [](const ShowItem& show) {
         return show.entry()->identificator().has_value();
     });
-    require(std::ssize(*read) == titled, "the file of a list has its shows");
+    require(std::ssize(*read) == titled, "the file of a list contains its shows");
 }
 
-/// Any pages, for the channels and at the moment of one of the recorded calls.
+/// Reads arbitrary pages with the channels and the time of a recorded call.
 void readPages(const Calls& calls, QByteArrayView bytes) {
     const FuzzInput input(bytes);
     const test::RecordedCall& call = calls[input.choice(calls.size())];
@@ -78,18 +78,20 @@ FuzzTarget readerTarget(const Format& format) {
 
 std::vector<FuzzTarget> readerTargets() {
     const std::vector<Format> formats{
-        {"port-network", {"parsers/PortNetworkListReader.cpp"}},
-        {"xmltv", {"parsers/XMLTVSaxParser.cpp", "parsers/XMLTVToEntries.cpp", "parsers/FeedShow.cpp"}},
-        {"palinsesto", {"parsers/PalinsestoListReader.cpp", "parsers/PalinsestoEvents.cpp"}},
-        {"barrandov", {"parsers/BarrandovListReader.cpp"}},
-        {"digi-sport", {"parsers/DigiSportListReader.cpp"}},
-        {"joj-cinema", {"parsers/JojCinemaListReader.cpp"}},
-        {"prima-max", {"parsers/PrimaMaxListReader.cpp"}},
-        {"hbo", {"parsers/HBOListReader.cpp"}},
-        {"nova", {"parsers/NovaListReader.cpp"}},
-        {"dolce-sport", {"parsers/DolceSportListReader.cpp"}},
-        {"cinestar", {"parsers/CinestarListReader.cpp"}},
-        {"comedy-central", {"parsers/ComedyCentralListReader.cpp"}},
+        {"port-network", {"parsers/formats/PortNetworkListReader.cpp"}},
+        {"xmltv",
+         {"parsers/xmltv/XMLTVSaxParser.cpp", "parsers/xmltv/XMLTVToEntries.cpp",
+          "parsers/xmltv/FeedShow.cpp"}},
+        {"palinsesto", {"parsers/formats/PalinsestoListReader.cpp", "parsers/formats/PalinsestoEvents.cpp"}},
+        {"barrandov", {"parsers/formats/BarrandovListReader.cpp"}},
+        {"digi-sport", {"parsers/formats/DigiSportListReader.cpp"}},
+        {"joj-cinema", {"parsers/formats/JojCinemaListReader.cpp"}},
+        {"prima-max", {"parsers/formats/PrimaMaxListReader.cpp"}},
+        {"hbo", {"parsers/formats/HBOListReader.cpp"}},
+        {"nova", {"parsers/formats/NovaListReader.cpp"}},
+        {"dolce-sport", {"parsers/formats/DolceSportListReader.cpp"}},
+        {"cinestar", {"parsers/formats/CinestarListReader.cpp"}},
+        {"comedy-central", {"parsers/formats/ComedyCentralListReader.cpp"}},
     };
     std::vector<FuzzTarget> targets;
     std::transform(formats.begin(), formats.end(), std::back_inserter(targets), readerTarget);

@@ -10,13 +10,13 @@ namespace guide::fuzz {
 
 namespace {
 
-/// Runs the input; a failure ends the process, and the trace tells which input it was.
+/// Runs the input. A failure aborts the process; the trace names the input.
 void run(const FuzzTarget& target, const QByteArray& input, const std::string& what) {
     const testing::ScopedTrace trace(__FILE__, __LINE__, target.name + ": " + what);
     target.run(input);
 }
 
-/// A few bytes of one seed changed, cut or doubled.
+/// The seed with some bytes changed, removed or repeated.
 QByteArray changed(QByteArray input, std::mt19937& random) {
     for (unsigned changes = 1 + random() % 4; changes > 0 && !input.isEmpty(); --changes) {
         const auto at = static_cast<qsizetype>(random() % static_cast<unsigned>(input.size()));
@@ -38,7 +38,7 @@ QByteArray changed(QByteArray input, std::mt19937& random) {
     return input;
 }
 
-TEST(Fuzz, SeedsAndWhatIsLikeThemDoNoHarm) {
+TEST(Fuzz, AcceptsSeedsAndTheirMutations) {
     constexpr int kChangesOfASeed = 40;
     std::mt19937 random(20261121);
     for (const FuzzTarget& target : fuzzTargets()) {
@@ -54,7 +54,7 @@ TEST(Fuzz, SeedsAndWhatIsLikeThemDoNoHarm) {
     }
 }
 
-TEST(Fuzz, FormerFindsStayMended) {
+TEST(Fuzz, AcceptsInputsThatOnceFailed) {
     for (const FuzzTarget& target : fuzzTargets()) {
         const QDir finds(QStringLiteral(QUELLIN_FUZZ_REGRESSIONS "/") + QString::fromStdString(target.name));
         for (const QString& name : finds.entryList(QDir::Files, QDir::Name)) {

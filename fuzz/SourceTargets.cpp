@@ -2,11 +2,10 @@
 #include "FuzzTarget.h"
 #include "core/SupportedChannelTypes.h"
 #include "fakes/Packing.h"
-#include "parsers/RecordedCall.h"
-#include "platform/Utf8.h"
+#include "parsers/URLPlanner.h"
+#include "parsers/formats/RecordedCall.h"
+#include "platform/encoding/Utf8.h"
 #include "sources/PageText.h"
-#include "sources/SourceId.h"
-#include "sources/URLPlanner.h"
 
 #include <QSet>
 
@@ -26,7 +25,7 @@ constexpr std::array<const char*, 9> kContentTypes{"",
                                                    "text/html; charset=utf-7",
                                                    "text/xml; charset="};
 
-/// A quarter of it is what unpacking may come to.
+/// Unpacking may use a quarter of it.
 constexpr std::uint64_t kMemory = 64 << 20;
 
 void makePage(QByteArrayView bytes) {
@@ -36,14 +35,14 @@ void makePage(QByteArrayView bytes) {
         response.headers.append({"Content-Type", type});
     }
     const PageText page = pageText(input.whole(), response, kMemory);
-    require(page.text.has_value() == (page.reason == PageReason::None), "no page has a reason");
+    require(page.text.has_value() == (page.reason == PageReason::None), "a missing page has a reason");
     if (page.text) {
         require(isValidUtf8(*page.text), "a page is UTF-8");
         require(static_cast<std::uint64_t>(page.text->size()) <= kMemory, "unpacking is bounded");
     }
 }
 
-/// Three parts: a host table, a source id, a table of languages.
+/// Parts: a host table, a source id, a table of languages.
 void plan(QByteArrayView bytes) {
     static const Moment now = std::chrono::sys_days{std::chrono::year{2026} / 10 / 25};
     const FuzzInput input(bytes);
@@ -56,7 +55,7 @@ void plan(QByteArrayView bytes) {
     listingsTypeForSourceId(sourceId, planner.hosts());
     const auto urls = planner.urlsForSourceId(sourceId, now, QTimeZone("Europe/Prague"));
     if (urls) {
-        require(QSet<QUrl>(urls->begin(), urls->end()).size() == urls->size(), "each page is planned once");
+        require(QSet<QUrl>(urls->begin(), urls->end()).size() == urls->size(), "no page is planned twice");
     }
 }
 
@@ -77,7 +76,7 @@ std::vector<FuzzTarget> sourceTargets() {
                  return seeds;
              },
          .literals = {"sources/PageText.cpp"},
-         .mostMemoryPerByte = 0},
+         .maxMemoryPerByte = 0},
         {.name = "planner",
          .run = plan,
          .seeds =
@@ -91,7 +90,8 @@ std::vector<FuzzTarget> sourceTargets() {
                  }
                  return seeds;
              },
-         .literals = {"sources/URLPlanner.cpp", "sources/SourceId.cpp", "sources/SourceHostTable.cpp"}},
+         .literals = {"parsers/SourceFormats.cpp", "parsers/xmltv/FeedPlans.cpp",
+                      "sources/SourceHostTable.cpp"}},
     };
 }
 

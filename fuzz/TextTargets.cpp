@@ -1,16 +1,16 @@
 #include "FuzzInput.h"
 #include "FuzzTarget.h"
-#include "platform/Utf8.h"
-#include "text/Capitalisation.h"
-#include "text/CategoryMapping.h"
-#include "text/FeedTextCleaning.h"
-#include "text/FoldedText.h"
-#include "text/MarkupText.h"
-#include "text/MatchWord.h"
+#include "platform/encoding/Utf8.h"
 #include "text/NaiveClassifier.h"
-#include "text/ShowClassifier.h"
-#include "text/TextPatterns.h"
-#include "text/Transliteration.h"
+#include "text/categories/CategoryMapping.h"
+#include "text/categories/ShowClassifier.h"
+#include "text/cleaning/Capitalisation.h"
+#include "text/cleaning/FeedTextCleaning.h"
+#include "text/cleaning/MarkupText.h"
+#include "text/cleaning/TextPatterns.h"
+#include "text/display/Transliteration.h"
+#include "text/search/FoldedText.h"
+#include "text/search/MatchWord.h"
 
 #include <array>
 #include <cstring>
@@ -19,10 +19,10 @@ namespace guide::fuzz {
 
 namespace {
 
-/// Above this the plain searches take too long.
-constexpr qsizetype kMostForNaive = 300;
+/// The plain searches are too slow for longer texts.
+constexpr qsizetype kMaxForNaive = 300;
 
-/// Texts of UTF-8, or any code units at all, lone surrogates among them.
+/// Texts from UTF-8, or from arbitrary code units, including lone surrogates.
 std::vector<QString> texts(const FuzzInput& input, std::size_t most) {
     std::vector<QString> texts;
     if (input.choice(4) == 3) {
@@ -44,7 +44,7 @@ void cleanTexts(QByteArrayView bytes) {
     const QLocale locale(QLocale::Turkish);
     for (const QString& text : given) {
         const QString title = showTitle(text, locale);
-        require(title.size() <= 3 * text.size(), "a title is no longer than what it is made of");
+        require(title.size() <= 3 * text.size(), "a title does not grow without bound");
         showInstantDescription(text);
         hasProductionNote(text);
         isRepeatMarked(text);
@@ -53,9 +53,9 @@ void cleanTexts(QByteArrayView bytes) {
     QString subtitle = given[0];
     if (const auto range = bracketRange(subtitle)) {
         require(range->start >= 0 && range->start + range->size <= subtitle.size(),
-                "a bracket lies within the text");
+                "a bracket is inside the text");
         const QString bracket = applySubtitleBracket(subtitle, range->start, range->size);
-        require(bracket.size() == range->size, "a bracket is taken whole");
+        require(bracket.size() == range->size, "a bracket is removed as a whole");
     }
     finishSubtitle(subtitle, given[1].size() % 2 == 1);
     const CleanedDescription cleaned =
@@ -63,7 +63,7 @@ void cleanTexts(QByteArrayView bytes) {
                           .roles = given[2].isEmpty() ? std::nullopt : std::optional(given[2]),
                           .directedBy = std::nullopt},
                          QStringLiteral("guide.example"));
-    require(cleaned.description->size() <= given[1].size() + 1, "a description gains a full stop at most");
+    require(cleaned.description->size() <= given[1].size() + 1, "a description grows by at most a full stop");
 }
 
 void decodeTexts(QByteArrayView bytes) {
@@ -85,9 +85,9 @@ void decodeTexts(QByteArrayView bytes) {
 void findWords(QByteArrayView bytes) {
     const std::vector<QString> given = texts(FuzzInput(bytes), 3);
     const QString folded = foldedText(given[0]);
-    require(foldedText(folded) == folded, "what is folded stays as it is");
+    require(foldedText(folded) == folded, "folding is idempotent");
     require(foldedText(given[0].normalized(QString::NormalizationForm_D)) == folded,
-            "decomposed and composed texts fold alike");
+            "decomposed and composed texts fold to the same");
     mapCategoryAttribute(given[0]);
     mapBracketCategories(given[0]);
     mapSubtitleWords(given[0], given[1]);
@@ -96,13 +96,13 @@ void findWords(QByteArrayView bytes) {
     mapCategoryText(given[0]);
     const auto found = classifyEntry(QStringLiteral("41"), {given[0], given[1], given[2]});
     require((found & TVListingsCategorySeries) == 0 || (found & TVListingsCategoryAllFilm) == 0,
-            "no series beside a film");
-    if (given[0].size() + given[1].size() + given[2].size() <= kMostForNaive) {
+            "a show is not both a series and a film");
+    if (given[0].size() + given[1].size() + given[2].size() <= kMaxForNaive) {
         require(found == naiveCategories(QStringLiteral("41"), given[0], given[1], given[2]),
-                "the categories are those of plain searches");
+                "the categories are those of the plain searches");
         if (given[1].size() < given[0].size()) {
             require(matchWord(given[0], given[1]) == naiveMatchWord(NaiveFold(given[0]), given[1]),
-                    "a word is found as by a plain search");
+                    "a word is found like by the plain search");
         }
     }
 }

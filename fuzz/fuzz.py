@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Fuzzes every target for a share of the time, and prints what was executed, covered and found.
+"""Fuzzes every target for an equal share of the time and prints executions, coverage and failures.
 
 usage: fuzz.py PROGRAM SECONDS [NAME...]
 
-PROGRAM is guide_fuzz; the names are targets of it, all of them when there is none. Corpora, dictionaries and finds
-stay in folders beside the program, and the next run goes on from there. Exits with 1 when something was found.
+PROGRAM is guide_fuzz; each NAME is one of its targets (default: all). Corpora, dictionaries and failing inputs are kept
+in folders beside the program and used by the next run. Exits with 1 when a target failed.
 """
 import concurrent.futures
 import os
@@ -18,7 +18,7 @@ LONGEST_INPUT = 64 * 1024
 SLOWEST_INPUT_SECONDS = 20
 MEMORY_MB = 2048
 
-# A literal of C++: raw, or quoted with escapes.
+# A C++ string literal, raw or quoted.
 LITERAL = re.compile(r'R"(?P<mark>[^()\s\\]{0,16})\((?P<raw>.*?)\)(?P=mark)"|"(?P<quoted>(?:[^"\\\n]|\\.)*)"', re.S)
 ESCAPE = re.compile(r'\\(x[0-9a-fA-F]{1,2}|[0-7]{1,3}|.)', re.S)
 NAMED = {"n": "\n", "t": "\t", "r": "\r", "0": "\0"}
@@ -40,7 +40,7 @@ def unescaped(text: str) -> bytes:
 
 
 def literals(source: pathlib.Path) -> set[bytes]:
-    """The texts of a source file, but for those of its includes."""
+    """The string literals of a source file, without its includes."""
     code = re.sub(r"^\s*(#include|//).*$", "", source.read_text(encoding="utf-8"), flags=re.M)
     found = set()
     for match in LITERAL.finditer(code):

@@ -28,24 +28,17 @@ bool SilentStretch::mayBeAlarmedAt(int minuteOfDay) const {
     return from < to ? !inside : inside;
 }
 
-bool SilentHours::enabled() const {
-    const auto value = m_store.valueForKey(u"noAlarmsSchedule"_s);
-    return value && value->toBool(false);
-}
-
-SilentStretch SilentHours::stretch() const {
-    const QTimeZone zone = m_device.timeZone();
-    const SilentStretch byDefault;
-    return {storedMinute(m_store, u"noAlarmsSchedule.0"_s, zone, byDefault.from),
-            storedMinute(m_store, u"noAlarmsSchedule.1"_s, zone, byDefault.to)};
+SilentHours::SilentHours(const KeyValueStore& store, const Device& device)
+    : m_zone(device.timeZone()) {
+    const auto value = store.valueForKey(u"noAlarmsSchedule"_s);
+    m_enabled = value && value->toBool(false);
+    m_stretch.from = storedMinute(store, u"noAlarmsSchedule.0"_s, m_zone, m_stretch.from);
+    m_stretch.to = storedMinute(store, u"noAlarmsSchedule.1"_s, m_zone, m_stretch.to);
 }
 
 bool SilentHours::mayBeAlarmedAt(Moment moment) const {
-    if (!enabled()) {
-        return true;
-    }
-    const auto local = QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC);
-    return stretch().mayBeAlarmedAt(minuteOfDay(local, m_device.timeZone()));
+    const auto utc = QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC);
+    return !m_enabled || m_stretch.mayBeAlarmedAt(minuteOfDay(utc, m_zone));
 }
 
 } // namespace guide

@@ -2,6 +2,8 @@
 
 #include "platform/Moment.h"
 
+#include <QTimeZone>
+
 namespace guide {
 
 class Device;
@@ -17,22 +19,22 @@ struct SilentStretch {
     bool mayBeAlarmedAt(int minuteOfDay) const;
 };
 
-/// The silent hours as the user has set them; they follow the user between devices. Any thread.
+/// The silent hours as the user has set them, at one moment and in one zone. They follow the user between
+/// devices. Immutable; any thread.
 class SilentHours {
   public:
-    SilentHours(const KeyValueStore& store, const Device& device)
-        : m_store(store)
-        , m_device(device) {}
+    /// Reads the settings; work that asks about many moments does so once per run.
+    SilentHours(const KeyValueStore& store, const Device& device);
 
-    bool enabled() const;
-    /// From 00:00 to 07:00 where nothing is set. Of a stored date only its clock time in the device's zone
-    /// counts.
-    SilentStretch stretch() const;
+    bool enabled() const { return m_enabled; }
+    /// From 00:00 to 07:00 where nothing is set. Of a stored date only its clock time in the zone counts.
+    const SilentStretch& stretch() const { return m_stretch; }
     bool mayBeAlarmedAt(Moment moment) const;
 
   private:
-    const KeyValueStore& m_store;
-    const Device& m_device;
+    QTimeZone m_zone;
+    bool m_enabled = false;
+    SilentStretch m_stretch;
 };
 
 } // namespace guide

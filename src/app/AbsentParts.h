@@ -1,37 +1,37 @@
 #pragma once
 
-#include "store/ShowQuestions.h"
+#include "alarms/AlarmSynchronisation.h"
+#include "alarms/Favorites.h"
+#include "alarms/PendingAlarms.h"
+#include "store/PopularShows.h"
 
 namespace guide {
 
-// The guide without alarms, favourites, popular shows and other devices: each answers that there is nothing,
-// which is the truth for as long as nothing can make any.
+// The guide without alarms, favourites, popular shows and other devices. Each answers that there is nothing,
+// which is true as long as nothing can add any.
 
 /// No show is a favourite.
-class NoFavorites final : public FavoriteQuestions {
+class NoFavorites final : public FavoritesSource {
   public:
-    bool containsFavoriteNamed(const QString&) const override { return false; }
-    bool hasFavorites() const override { return false; }
+    std::shared_ptr<const FavoritesSnapshot> snapshot() const override { return m_none; }
+
+  private:
+    const std::shared_ptr<const FavoritesSnapshot> m_none = std::make_shared<const FavoritesSnapshot>();
 };
 
-/// What the delegate asks of the calendar beside what rows ask.
-class AlarmCalendar : public AlarmQuestions, public AlarmSynchronisation {
+/// No show has an alarm, so there is nothing to synchronise.
+class NoAlarms final : public AlarmsSource, public AlarmSynchronisation {
   public:
-    /// Writes what the calendar has not written yet, in the background.
-    virtual void commit() = 0;
-};
-
-/// No show has an alarm, so there is nothing to bring into step.
-class NoAlarms final : public AlarmCalendar {
-  public:
-    int alarmedEntry(const TVEntry&) const override { return -1; }
-    int eventCount() const override { return 0; }
+    std::shared_ptr<const AlarmsSnapshot> snapshot() const override { return m_none; }
     void setSynchronized(bool) override {}
     void syncAlarms() override {}
     void commit() override {}
+
+  private:
+    const std::shared_ptr<const AlarmsSnapshot> m_none = std::make_shared<const AlarmsSnapshot>();
 };
 
-/// Nobody has counted what is watched.
+/// No show is known to be popular.
 class NoPopularShows final : public PopularShows {
   public:
     ShowList popularShows() const override { return nullptr; }
@@ -39,11 +39,11 @@ class NoPopularShows final : public PopularShows {
     void refresh() override {}
 };
 
-/// The values that other devices have written.
+/// The settings and lists that the user's other devices share.
 class CloudValues {
   public:
     virtual ~CloudValues() = default;
-    /// Takes over what has changed elsewhere. Main queue.
+    /// Applies what has changed elsewhere. Main queue.
     virtual void cloudDidChangeExternally() = 0;
 };
 

@@ -1,19 +1,19 @@
 #pragma once
 
 #include "app/Promotion.h"
+#include "parsers/URLPlanner.h"
 #include "platform/AudioSession.h"
 #include "platform/BackgroundTasks.h"
 #include "platform/Clock.h"
 #include "platform/Device.h"
-#include "platform/DispatchQueue.h"
-#include "platform/Folders.h"
-#include "platform/HTTPClient.h"
 #include "platform/KeyValueStore.h"
 #include "platform/LifeCycle.h"
-#include "platform/ResponseCache.h"
 #include "platform/UserDefaults.h"
+#include "platform/files/Folders.h"
+#include "platform/http/HTTPClient.h"
+#include "platform/http/ResponseCache.h"
+#include "platform/queues/DispatchQueue.h"
 #include "sources/SourceHostTable.h"
-#include "sources/URLPlanner.h"
 
 #include <QString>
 #include <QUrl>

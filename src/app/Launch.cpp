@@ -46,8 +46,6 @@ void QuellinGuideAppDelegate::makeSources() {
         queues,
         m_environment.networkActivityIndicator ? m_environment.networkActivityIndicator : [](bool) {});
     m_loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial, QueuePriority::Background);
-    m_loadSchedulesQueue =
-        queues.makeQueue("vorel.tv.loadSchedulesQueue", QueueKind::Serial, QueuePriority::Default);
     m_checkAndUpdateAllChannelsQueue =
         queues.makeQueue("vorel.tv.checkAndUpdateAllChannels", QueueKind::Serial, QueuePriority::Background);
     m_userAgent = std::make_unique<HTTPUserAgent>(m_environment.random);
@@ -92,17 +90,15 @@ void QuellinGuideAppDelegate::makeListings() {
         .queues = m_environment.queues,
         .backgroundTasks = m_environment.backgroundTasks,
         .applicationState = m_environment.applicationState,
-        .userDefaults = m_environment.userDefaults,
         .channels = *m_channels,
-        .icons = *m_icons,
-        .catalogue = m_catalogue,
         .alphabet = m_alphabet,
         .favorites = m_favorites,
         .popularShows = m_popularShows,
-        .alarms = m_alarms,
+        .observer = m_alarmUpdater,
         .scheme = m_environment.scheme,
         .showCount = [this] { return m_showCount.load(); },
     });
+    onMainQueue(&QuellinGuideAppDelegate::syncAlarms);
 }
 
 void QuellinGuideAppDelegate::makeUpdateCycle() {
@@ -133,9 +129,7 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
         .userAgent = *m_userAgent,
         .listings = *m_listings,
         .sourceHealth = *m_sourceHealth,
-        .netList = [this](const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
-                          Moment now,
-                          ListingsType type) { return m_listDriver->netList(items, pages, now, type); },
+        .listDriver = *m_listDriver,
         .showCount = [this] { return m_showCount.load(); },
         .offerTop =
             [this](const TopLists& top) {
@@ -161,10 +155,13 @@ void QuellinGuideAppDelegate::makeScreens() {
         .alphabet = m_alphabet,
         .favorites = m_favorites,
         .alarms = m_alarms,
+        .alarmSynchronisation = m_alarms,
         .popularShows = m_popularShows,
         .pictures = m_pictures,
         .pictureCache = m_pictureCache,
-        .app = *this,
+        .settings = *this,
+        .updates = *this,
+        .navigation = *this,
     }));
     m_screens = std::make_unique<ScreenBroadcast>(*m_tabBarController, m_environment.applicationState);
 }

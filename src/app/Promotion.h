@@ -2,24 +2,17 @@
 
 namespace guide {
 
-/// Advertising, measurement and consent, where a build has a provider of them. Main queue.
+/// Advertising, usage measurement and consent. Builds without a provider use it as it is: nothing is shown,
+/// measured or asked. Main queue.
 class Promotion {
   public:
     virtual ~Promotion() = default;
-    /// Before anything else of the launch that could be measured.
-    virtual void startMeasurementAndAds() = 0;
+    /// At the start of the launch, before anything that could be measured.
+    virtual void startMeasurementAndAds() {}
     /// At the end of the launch, when there is a window to ask in.
-    virtual void configureConsent() = 0;
+    virtual void configureConsent() {}
     /// At each activation.
-    virtual void prepareInterstitialWhenDue() = 0;
-};
-
-/// No provider: nothing is shown, measured or asked.
-class AbsentPromotion : public Promotion {
-  public:
-    void startMeasurementAndAds() override {}
-    void configureConsent() override {}
-    void prepareInterstitialWhenDue() override {}
+    virtual void prepareInterstitialWhenDue() {}
 };
 
 } // namespace guide

@@ -12,7 +12,9 @@ namespace guide {
 
 QuellinGuideAppDelegate::QuellinGuideAppDelegate(ApplicationEnvironment environment)
     : m_environment(std::move(environment))
-    , m_settings(m_environment.userDefaults) {}
+    , m_settings(m_environment.userDefaults)
+    , m_alarmUpdater(m_alarms, m_environment.queues.mainQueue(), m_environment.applicationState,
+                     m_environment.userDefaults) {}
 
 QuellinGuideAppDelegate::~QuellinGuideAppDelegate() = default;
 
@@ -21,17 +23,12 @@ void QuellinGuideAppDelegate::checkAndUpdateAllChannels() {
 }
 
 void QuellinGuideAppDelegate::updateBadge() {
-    const int count = m_alarms.eventCount();
+    const int count = static_cast<int>(m_alarms.snapshot()->eventCount());
     if (m_environment.applicationIconBadgeNumber) {
         m_environment.applicationIconBadgeNumber(count);
     }
     m_tabBarController->setBadgeValue(scheduleTabIndex(m_environment.device.userInterfaceIdiom()),
                                       count == 0 ? QString() : QString::number(count));
-}
-
-void QuellinGuideAppDelegate::resynchronizeAlarms() {
-    m_alarms.setSynchronized(false);
-    m_alarms.syncAlarms();
 }
 
 void QuellinGuideAppDelegate::playURL(const QUrl& url) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/AbsentParts.h"
+#include "app/AlarmUpdater.h"
 #include "app/ApplicationEnvironment.h"
 #include "app/InterruptibleWait.h"
 #include "app/UpdateCycle.h"
@@ -10,7 +11,7 @@
 #include "core/TVChannels.h"
 #include "core/TVStationIcons.h"
 #include "parsers/ListDriver.h"
-#include "screens/AppActions.h"
+#include "parsers/URLPlanner.h"
 #include "screens/GuidePictures.h"
 #include "screens/ShowPictures.h"
 #include "screens/kit/TabBarController.h"
@@ -20,9 +21,8 @@
 #include "sources/NetworkActivity.h"
 #include "sources/PageFetcher.h"
 #include "sources/SourceHealthRecords.h"
-#include "sources/URLPlanner.h"
 #include "store/TVListings.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 #include <atomic>
 #include <chrono>
@@ -32,7 +32,11 @@ namespace guide {
 
 /// The root of ownership: makes the catalogue, the store, the update cycle and the screens, wires them to one
 /// another and carries the device's events on. Main queue.
-class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActions, private AlertPresenter {
+class QuellinGuideAppDelegate final : public LifeCycleObserver,
+                                      private ScreenSettings,
+                                      private ListingsUpdates,
+                                      private AppNavigation,
+                                      private AlertPresenter {
   public:
     explicit QuellinGuideAppDelegate(ApplicationEnvironment environment);
     QuellinGuideAppDelegate(const QuellinGuideAppDelegate&) = delete;
@@ -66,14 +70,15 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActio
     bool shutDown(std::chrono::milliseconds atMost);
 
   private:
-    // AppActions
-    void resynchronizeAlarms() override;
-    void playURL(const QUrl& url) override;
+    // ScreenSettings
     bool imagesEnabled() const override { return m_imagesEnabled; }
     bool colorizedShows() const override { return m_colorizedShows; }
     std::chrono::seconds automaticUpdateInterval() const override {
         return m_settings.automaticUpdateInterval();
     }
+
+    // AppNavigation
+    void playURL(const QUrl& url) override;
 
     // AlertPresenter
     void presentAlert(const QString& title, const QString& message, Block okPressed) override;
@@ -88,6 +93,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActio
     void makeScreens();
     void setup();
     void cleanUpSelection();
+    void syncAlarms() { m_alarms.syncAlarms(); }
     void tellSelectionCleanedUp() { m_screens->selectionCleanedUp(); }
 
     void detectAlphabet();
@@ -110,6 +116,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActio
 
     NoFavorites m_favorites;
     NoAlarms m_alarms;
+    AlarmUpdater m_alarmUpdater;
     NoPopularShows m_popularShows;
     NoShowPictures m_pictures;
     ShowPictureCache m_pictureCache;
@@ -121,7 +128,6 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver, private AppActio
     std::unique_ptr<URLPlanner> m_planner;
     std::unique_ptr<PageFetcher> m_fetcher;
     std::shared_ptr<DispatchQueue> m_loadQueue;
-    std::shared_ptr<DispatchQueue> m_loadSchedulesQueue;
     std::shared_ptr<DispatchQueue> m_checkAndUpdateAllChannelsQueue;
 
     std::unique_ptr<TVStationIcons> m_icons;

@@ -2,7 +2,6 @@
 
 #include "app/ChannelLoad.h"
 #include "sources/SourceDay.h"
-#include "sources/SourceId.h"
 
 #include <QtGlobal>
 
@@ -58,7 +57,7 @@ class ListingsUpdateTask : public std::enable_shared_from_this<ListingsUpdateTas
     BackgroundTaskId m_task = kBackgroundTaskInvalid;
 };
 
-/// Marks the channels of a load as loading for as long as it is read, however the reading ends.
+/// Marks the channels of a load as loading for as long as it is read,
 class LoadingMark {
   public:
     LoadingMark(const TVChannels& channels, const std::vector<LoadItem>& items) {
@@ -155,7 +154,7 @@ class UpdateCycle::Check {
                 const Moment now = m_with.clock.now();
                 const QTimeZone zone = m_with.device.timeZone();
                 planned.emplace_back(id, planSources(*channel, [&](const QString& sourceId) {
-                                         return m_with.planner.urlsForSourceId(sourceId, now, zone);
+                                         return m_with.planner.plan(sourceId, now, zone);
                                      }));
             });
             m_loads.emplace(id, ChannelLoad(planned.back().second));
@@ -180,14 +179,13 @@ class UpdateCycle::Check {
     Moment dayBegan() const { return sourceDayBegan(m_with.clock.now(), m_with.device.timeZone()); }
 
     bool load(const UpdateStep& step) {
-        std::vector<LoadItem> items = loadItems(step, [this](const ObjectId& id) -> std::optional<QString> {
+        auto [items, type] = dueItems(step, [this](const ObjectId& id) -> std::optional<QString> {
             const std::shared_ptr<TVChannel> channel = m_with.channels.channelWithChannelId(id);
             return channel && reloadNeeded(*channel) ? std::optional(channel->language()) : std::nullopt;
         });
         if (items.empty()) {
             return true;
         }
-        const ListingsType type = listingsTypeForSourceId(items.front().sourceId, m_with.planner.hosts());
         // Many of the other pages leave it to their place what day they are of, or speak of today.
         const bool isDated = type == ListingsType::XMLTV;
         if (!isDated && dayBegan() != m_day) {
@@ -206,7 +204,7 @@ class UpdateCycle::Check {
             return true;
         }
         bool isOfToday = true;
-        m_with.loadQueue->sync([&] {
+        m_with.loadQueue->sync([&, &items = items, type = type] {
             isOfToday = isDated || dayBegan() == m_day;
             // Nobody reads or shows the list of a channel that was deselected meanwhile.
             std::erase_if(items, [this](const LoadItem& item) {
@@ -244,11 +242,9 @@ class UpdateCycle::Check {
 
     void parse(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, ListingsType type) {
         MergeResult result;
-        try {
+        {
             const LoadingMark mark(m_with.channels, items);
-            result = m_with.netList(items, pages, m_with.clock.now(), type);
-        } catch (...) {
-            qWarning("listings parsing exception!!!");
+            result = m_with.listDriver.netList(items, pages, m_with.clock.now(), type);
         }
         noteWhatWasRead(items, pages.size(), result);
         if (result.lists.empty()) {

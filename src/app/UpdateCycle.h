@@ -3,15 +3,16 @@
 #include "app/UpdatePlan.h"
 #include "core/Settings.h"
 #include "core/TVChannels.h"
+#include "parsers/ListDriver.h"
+#include "parsers/URLPlanner.h"
 #include "platform/BackgroundTasks.h"
 #include "platform/Clock.h"
 #include "platform/Device.h"
-#include "platform/DispatchQueue.h"
 #include "platform/LifeCycle.h"
+#include "platform/queues/DispatchQueue.h"
 #include "sources/HTTPUserAgent.h"
 #include "sources/PageFetcher.h"
 #include "sources/SourceHealthRecords.h"
-#include "sources/URLPlanner.h"
 #include "store/TVListings.h"
 
 #include <QByteArray>
@@ -44,10 +45,8 @@ struct UpdateCycleEnvironment {
     TVListings& listings;
     /// Told what each load did; read and written by checks.
     SourceHealthRecords& sourceHealth;
-    /// Reads pages, in the order of their URLs, and merges what they hold into the store. May throw.
-    std::function<MergeResult(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
-                              Moment now, ListingsType type)>
-        netList;
+    /// Reads pages and merges what they hold into the store.
+    const ListDriver& listDriver;
     /// How many shows a channel the now-on-air list wants.
     std::function<int()> showCount;
     /// Takes the first shows of each channel that a load has brought, on the main queue. Not called while the

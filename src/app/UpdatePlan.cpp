@@ -16,11 +16,12 @@ ChannelDecision decideChannel(const ChannelCondition& condition, unsigned wanted
     return decision;
 }
 
-std::vector<PlannedSource> planSources(const CatalogueChannel& channel, const URLsForSource& urlsForSource) {
+std::vector<PlannedSource> planSources(const CatalogueChannel& channel, const PlanSource& planSource) {
     std::vector<PlannedSource> sources;
     unsigned number = 0;
     for (const QString& sourceId : channel.sourceIds) {
-        sources.push_back({++number, sourceId, urlsForSource(sourceId).value_or(QList<QUrl>())});
+        SourcePlan plan = planSource(sourceId);
+        sources.push_back({++number, sourceId, plan.type, std::move(plan.urls).value_or(QList<QUrl>())});
     }
     return sources;
 }
@@ -44,7 +45,8 @@ planSteps(const std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>& ch
             const auto known = places.constFind(source.urls);
             if (known == places.cend()) {
                 places.insert(source.urls, placed.size());
-                placed.push_back({source.number, found, {source.urls, {{channel, source.sourceId}}}});
+                placed.push_back(
+                    {source.number, found, {source.urls, {{channel, source.sourceId, source.type}}}});
                 continue;
             }
             Placed& place = placed[*known];
@@ -53,7 +55,7 @@ planSteps(const std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>& ch
                 place.found = found;
             }
             // Only this channel's own pairs, which stand last, can equal this one.
-            const UpdateStep::Served pair{channel, source.sourceId};
+            const UpdateStep::Served pair{channel, source.sourceId, source.type};
             auto& served = place.step.served;
             const auto foreign = std::find_if(served.rbegin(), served.rend(), [&pair](const auto& other) {
                 return other == pair || other.channel != pair.channel;
@@ -74,16 +76,18 @@ planSteps(const std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>& ch
     return steps;
 }
 
-std::vector<LoadItem>
-loadItems(const UpdateStep& step,
-          const std::function<std::optional<QString>(const ObjectId&)>& languageOfDueChannel) {
-    std::vector<LoadItem> items;
+DueItems dueItems(const UpdateStep& step,
+                  const std::function<std::optional<QString>(const ObjectId&)>& languageOfDueChannel) {
+    DueItems due;
     for (const UpdateStep::Served& served : step.served) {
         if (auto language = languageOfDueChannel(served.channel)) {
-            items.push_back({served.channel, served.sourceId, std::move(*language)});
+            if (due.items.empty()) {
+                due.type = served.type;
+            }
+            due.items.push_back({served.channel, served.sourceId, std::move(*language)});
         }
     }
-    return items;
+    return due;
 }
 
 TopLists topLists(const std::vector<LoadItem>& items, const MergeResult& result, unsigned showCount) {

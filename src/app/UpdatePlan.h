@@ -2,6 +2,7 @@
 
 #include "core/CatalogueChannel.h"
 #include "core/ObjectId.h"
+#include "parsers/URLPlanner.h"
 #include "store/ListMerge.h"
 #include "store/ShowItem.h"
 
@@ -42,20 +43,22 @@ struct PlannedSource {
     /// 1 for the first choice.
     unsigned number = 0;
     QString sourceId;
-    /// None when it cannot be asked.
+    /// How its pages are read.
+    ListingsType type = ListingsType::XMLTV;
+    /// In the order of fetching; none when it cannot be asked.
     QList<QUrl> urls;
 };
 
-/// The URLs of a source, in the order of fetching; nothing when it cannot be asked.
-using URLsForSource = std::function<std::optional<QList<QUrl>>(const QString& sourceId)>;
+using PlanSource = std::function<SourcePlan(const QString& sourceId)>;
 
-std::vector<PlannedSource> planSources(const CatalogueChannel& channel, const URLsForSource& urlsForSource);
+std::vector<PlannedSource> planSources(const CatalogueChannel& channel, const PlanSource& planSource);
 
 /// One list of URLs, whose pages are fetched once, with everyone that it serves.
 struct UpdateStep {
     struct Served {
         ObjectId channel;
         QString sourceId;
+        ListingsType type = ListingsType::XMLTV;
 
         friend bool operator==(const Served&, const Served&) = default;
     };
@@ -70,11 +73,17 @@ struct UpdateStep {
 std::vector<UpdateStep>
 planSteps(const std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>& channels);
 
-/// What is left of a step when its turn comes. `languageOfDueChannel` answers nothing for a channel that is
-/// not due any more, because an earlier step has loaded it.
-std::vector<LoadItem>
-loadItems(const UpdateStep& step,
-          const std::function<std::optional<QString>(const ObjectId&)>& languageOfDueChannel);
+/// What is left of a step when its turn comes.
+struct DueItems {
+    std::vector<LoadItem> items;
+    /// Of the first item's source.
+    ListingsType type = ListingsType::XMLTV;
+};
+
+/// `languageOfDueChannel` answers nothing for a channel that is not due any more, because an earlier step has
+/// loaded it.
+DueItems dueItems(const UpdateStep& step,
+                  const std::function<std::optional<QString>(const ObjectId&)>& languageOfDueChannel);
 
 /// The first shows of each channel that a load has brought.
 using TopLists = std::vector<std::pair<ObjectId, ShowSpan>>;

@@ -1,12 +1,12 @@
-// quellin-guide: puts the program together for Linux.
+// quellin-guide: assembles the program for Linux.
 
 #include "app/CommandLine.h"
-#include "app/MemoryWarning.h"
+#include "app/DeviceWatch.h"
+#include "app/LaunchFiles.h"
 #include "app/PictureTour.h"
 #include "app/QuellinGuideAppDelegate.h"
-#include "app/SignificantTime.h"
-#include "core/CatalogueFiles.h"
-#include "demo/DemoWorld.h"
+#include "app/WindowState.h"
+#include "demo/DemoEnvironment.h"
 #include "platform/files/FileReplacement.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/DesktopMotion.h"
@@ -23,19 +23,13 @@
 #include "platform/linux/TerminationSignals.h"
 #include "ui/GuideWindow.h"
 
-#include <QDateTime>
 #include <QDesktopServices>
-#include <QFile>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
-#include <QTimer>
 
-#include <atomic>
 #include <cstdio>
-#include <ctime>
 
 namespace guide {
 
@@ -45,67 +39,20 @@ namespace {
 
 constexpr std::chrono::seconds kTimeToEnd{10};
 constexpr std::size_t kMostResponseCache = std::size_t(256) << 20;
-constexpr int kLookAtDeviceEvery = 20'000;
 constexpr auto kScheme = "quellin-guide"_L1;
-
-/// Whether the window is to be seen, as the screens and the store ask on any thread.
-class WindowState final : public ApplicationStateSource {
-  public:
-    ApplicationState applicationState() const override {
-        return m_visible ? ApplicationState::Active : ApplicationState::Background;
-    }
-    /// Whether that is a change.
-    bool setVisible(bool visible) { return m_visible.exchange(visible) != visible; }
-
-  private:
-    std::atomic<bool> m_visible{false};
-};
-
-std::chrono::milliseconds reading(clockid_t clock) {
-    timespec time{};
-    clock_gettime(clock, &time);
-    return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::seconds(time.tv_sec) +
-                                                                 std::chrono::nanoseconds(time.tv_nsec));
-}
-
-SignificantTime::Look lookAtClocks(const Clock& clock, const Device& device) {
-    const Moment now = clock.now();
-    const QTimeZone zone = device.timeZone();
-    return {now, QDateTime::fromMSecsSinceEpoch(now.time_since_epoch().count(), zone).date(), zone.id(),
-            reading(CLOCK_BOOTTIME), reading(CLOCK_MONOTONIC)};
-}
-
-/// What the kernel says of the machine's memory; nothing where there is no such file.
-QByteArray memoryInformation() {
-    QFile file(u"/proc/meminfo"_s);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// The host table: that of the option, or the installed one. Nothing when the option's cannot be read.
-std::optional<SourceHostTable> hostTable(const std::optional<QString>& path, const Folders& folders) {
-    return path ? SourceHostTable::fromFile(*path)
-                : SourceHostTable::installed(folders.bundle, folders.configuration);
-}
 
 int refuse(const char* why) {
     std::fprintf(stderr, "quellin-guide: %s\n", why);
     return 1;
 }
 
-/// The icons of a catalogue stand beside it, in "icons"; those of a catalogue without such a folder come with
-/// the program.
-QString iconFolder(const std::optional<QString>& cataloguePath, const Folders& folders) {
-    const QString beside = QFileInfo(cataloguePath.value_or(QString())).absolutePath() + "/icons"_L1;
-    return cataloguePath && QFileInfo(beside).isDir() ? beside : folders.bundle + "/icons"_L1;
-}
-
 int run(LaunchOptions options) {
-    // What is only tried gets folders that end with it.
+    // Options that only try something out get a profile that is deleted at the end.
     std::optional<QTemporaryDir> trial;
     if (!options.profile && options.impliesOwnProfile()) {
         trial.emplace();
         if (!trial->isValid()) {
-            return refuse("there is no room for a profile of its own");
+            return refuse("a temporary profile cannot be created");
         }
         options.profile = trial->path();
     }
@@ -114,41 +61,35 @@ int run(LaunchOptions options) {
         return refuse("the folders of the profile cannot be written");
     }
     if (folders->bundle.isEmpty()) {
-        return refuse("the data that belong to the program are missing");
+        return refuse("the data files of the program are missing");
     }
     InstanceLock instance(folders->documents, folders->runtime, options.url.value_or(QString()).toUtf8());
     if (instance.outcome() == InstanceLock::Outcome::HandedOver) {
         return 0;
     }
     if (instance.outcome() == InstanceLock::Outcome::Unavailable) {
-        return refuse("another guide has these folders and does not answer");
+        return refuse("another guide uses these folders and does not answer");
     }
-
     for (const QString& folder : {folders->caches, folders->documents, folders->keyValueStore}) {
         removeStaleReplacements(folder);
     }
 
     const LinuxClock clock(options.now);
     LinuxDevice device(options.form.value_or(UserInterfaceIdiom::Phone));
-    // Icons are made for the finest screen that the window can be moved to.
+    // Icons are scaled for the finest screen that the window can be moved to.
     device.setScreen(device.screenSize(), qGuiApp->devicePixelRatio());
-    std::unique_ptr<DemoWorld> demo;
+    std::unique_ptr<DemoEnvironment> demo;
     if (options.demo) {
-        demo = DemoWorld::create(*options.profile + "/demo"_L1, clock);
+        demo = DemoEnvironment::create(*options.profile + "/demo"_L1, folders->bundle + "/demo"_L1, clock);
         if (!demo) {
-            return refuse("the demo cannot be set up");
+            return refuse("the demo cannot be started");
         }
         options.catalogue = demo->cataloguePath();
         options.hosts = demo->hostsPath();
         options.select = demo->selectionPath();
     }
-    // A catalogue that was asked for is read whatever its date is, and its archive is none for later starts.
-    const QString archivePath = catalogueArchivePath(options.catalogue ? folders->runtime : folders->caches);
-    if (options.catalogue) {
-        QFile::remove(archivePath);
-    }
-    const auto hosts = hostTable(options.hosts, *folders);
-    if (!hosts) {
+    const auto files = launchFiles(options, *folders);
+    if (!files) {
         return refuse("the host table cannot be read");
     }
 
@@ -156,7 +97,7 @@ int run(LaunchOptions options) {
     SettingsUserDefaults userDefaults(
         folders->configuration + "/settings.ini"_L1,
         queues.makeQueue("settings", QueueKind::Serial, QueuePriority::Background));
-    FolderKeyValueStore keyValueStore(folders->keyValueStore);
+    FolderKeyValueStore keyValueStore(folders->keyValueStore, queues);
     LinuxBackgroundTasks backgroundTasks(queues);
     WindowState state;
     const Settings settings(userDefaults);
@@ -165,7 +106,7 @@ int run(LaunchOptions options) {
     ResponseCache responseCache(clock, cacheCapacity, [&] { return settings.automaticUpdateInterval(); });
     CurlHTTPClient httpClient(responseCache);
     LinuxAudioSession audioSession;
-    AbsentPromotion promotion;
+    Promotion promotion;
 
     QuellinGuideAppDelegate delegate({
         .clock = clock,
@@ -181,12 +122,12 @@ int run(LaunchOptions options) {
         .responseCacheCapacity = cacheCapacity,
         .audioSession = audioSession,
         .promotion = promotion,
-        .hosts = *hosts,
+        .hosts = files->hosts,
         .random = [](unsigned bound) { return QRandomGenerator::system()->bounded(bound); },
-        .cataloguePath = options.catalogue.value_or(folders->bundle + "/Data.plist"_L1),
-        .catalogueArchivePath = archivePath,
-        .iconFolder = iconFolder(options.catalogue, *folders),
-        .firstSelectionPath = options.select,
+        .cataloguePath = files->catalogue,
+        .catalogueArchivePath = files->catalogueArchive,
+        .iconFolder = files->icons,
+        .firstSelectionPath = files->firstSelection,
         .scheme = kScheme,
         .networkActivityIndicator = {},
         .applicationIconBadgeNumber = {},
@@ -232,20 +173,8 @@ int run(LaunchOptions options) {
     instance.listen(std::shared_ptr<DispatchQueue>(std::shared_ptr<void>(), &queues.mainQueue()),
                     [&](const QByteArray&) { window->show(); });
 
-    SignificantTime time(lookAtClocks(clock, device));
-    MemoryWarning memory;
-    QTimer looks;
-    looks.callOnTimeout([&] {
-        if (const auto available = availableMemory(memoryInformation());
-            available && memory.due(*available)) {
-            delegate.applicationDidReceiveMemoryWarning();
-        }
-        if (time.changed(lookAtClocks(clock, device)) &&
-            state.applicationState() == ApplicationState::Active) {
-            delegate.applicationSignificantTimeChange();
-        }
-    });
-    looks.start(kLookAtDeviceEvery);
+    DeviceWatch deviceWatch(clock, device, state, delegate);
+    deviceWatch.start();
     const TerminationSignals signals([] { QCoreApplication::quit(); });
 
     std::optional<PictureTour> tour;
@@ -258,7 +187,7 @@ int run(LaunchOptions options) {
     }
     const int status = QGuiApplication::exec();
 
-    // Whoever is started from here on is the next guide, not a request to this one.
+    // A guide started from here on runs by itself instead of handing its request to this one.
     instance.stopListening();
     if (state.setVisible(false)) {
         delegate.applicationDidEnterBackground();

@@ -1,8 +1,8 @@
 #include "core/CatalogueFiles.h"
 
-#include "platform/Archive.h"
-#include "platform/FileReplacement.h"
-#include "platform/PropertyList.h"
+#include "platform/archive/Archive.h"
+#include "platform/archive/PropertyList.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QCborArray>
 #include <QCborMap>

@@ -19,9 +19,9 @@ class ObjectId {
     explicit ObjectId(QByteArrayView data);
     explicit ObjectId(const Bytes& bytes)
         : m_bytes(bytes) {}
-    /// Exactly 24 characters, a pair a byte. A pair scans as hexadecimal with leading blanks skipped and
-    /// stops at the first other character ("1g" is 1); a pair that does not scan is 0, any other length is 12
-    /// zero bytes.
+    /// Exactly 24 characters, two for each byte. A pair is scanned as hexadecimal, skipping leading blanks,
+    /// and stops at the first other character ("1g" is 1); a pair that does not scan is 0, any other length
+    /// is 12 zero bytes.
     static ObjectId fromHex(const QString& hex);
 
     /// The pseudo-channel of the most watched shows, and that of all shows of all channels.

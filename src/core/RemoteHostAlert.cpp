@@ -30,7 +30,7 @@ struct RemoteHostAlert::State {
         lastAlert = moment;
     }
 
-    // True for the one caller that may tell the user. A clock that was set back does not prolong the silence.
+    // True for the one caller that may alert. Setting the clock back does not prolong the silence.
     bool claim() {
         const std::chrono::sys_seconds moment = now();
         const std::lock_guard lock(guard);
@@ -53,7 +53,7 @@ void RemoteHostAlert::noRemoteHostAlert(const TransferError& error) {
     }
     m_state->mainQueue.async([weakState = std::weak_ptr(m_state), error] {
         const std::shared_ptr<State> state = weakState.lock();
-        // One that nobody has answered yet says it already.
+        // An unanswered alert already says it.
         if (!state || std::exchange(state->presented, true)) {
             return;
         }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Clock.h"
-#include "platform/DispatchQueue.h"
-#include "platform/HTTPClient.h"
+#include "platform/http/HTTPClient.h"
+#include "platform/queues/DispatchQueue.h"
 
 #include <QString>
 
@@ -10,31 +10,31 @@
 
 namespace guide {
 
-/// Where alerts appear. Main queue.
+/// Shows alerts to the user. Main queue.
 class AlertPresenter {
   public:
     virtual ~AlertPresenter() = default;
     /// Shows an alert with the one action "OK"; the block is called, on the main queue, when it is pressed.
     virtual void presentAlert(const QString& title, const QString& message, Block okPressed) = 0;
-    /// Ends the player, where one is open.
+    /// Closes the player if one is open.
     virtual void moviePlayerPlaybackDidFinish() = 0;
 };
 
-/// Tells the user that a server cannot be reached, at most once in 60 seconds and by one alert at a time. May
-/// be used from any thread.
+/// Tells the user that a server cannot be reached, at most once in 60 seconds and with one alert at a time.
+/// Any thread.
 class RemoteHostAlert {
   public:
-    /// The presenter and the queue outlive what is posted to the queue.
+    /// The presenter and the queue must outlive every block posted to the queue.
     RemoteHostAlert(const Clock& clock, DispatchQueue& mainQueue, AlertPresenter& presenter);
     ~RemoteHostAlert();
 
-    /// To be called for a transfer that ended in an error and brought no body. Does nothing unless more than
+    /// Called for a transfer that ended in an error and brought no body. Does nothing unless more than
     /// 60 seconds have passed since the time stamp, which it then sets, or while the last alert is
     /// unanswered.
     void noRemoteHostAlert(const TransferError& error);
 
     /// Sets the time stamp of the last alert to now: at each activation, so that a device that has just woken
-    /// up gets its connection back in peace.
+    /// up has time to reconnect.
     void restartSilence();
 
   private:

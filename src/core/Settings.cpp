@@ -13,7 +13,7 @@ constexpr int kDefaultShowCount = 4;
 constexpr std::chrono::seconds kDefaultUpdateInterval{86'400};
 constexpr double kLongestUpdateInterval = 100.0 * 366 * 86'400;
 
-// In whole seconds, and within what can be taken from a date.
+// Truncated to whole seconds and limited to what can be subtracted from a date.
 std::chrono::seconds updateInterval(double seconds) {
     if (std::isnan(seconds)) {
         return kDefaultUpdateInterval;

@@ -15,7 +15,7 @@ struct SupportedChannelTypesPair {
     friend bool operator==(const SupportedChannelTypesPair&, const SupportedChannelTypesPair&) = default;
 };
 
-/// The pairs of language and region that this build serves; the first one is its home.
+/// The pairs of language and region that this build supports; the first one is the home pair.
 class SupportedChannelTypes {
   public:
     SupportedChannelTypes() = default;
@@ -25,7 +25,7 @@ class SupportedChannelTypes {
     /// Reads "supported-channel-types.json": an array of objects with "language" and "region". Without a
     /// readable file there are no pairs, and the log says so.
     static SupportedChannelTypes fromFile(const QString& path);
-    /// Nothing when the text is no such array.
+    /// Nothing when the text is not such an array.
     static std::optional<SupportedChannelTypes> fromJson(const QByteArray& json);
 
     const std::vector<SupportedChannelTypesPair>& pairs() const { return m_pairs; }

@@ -1,7 +1,7 @@
 #include "core/TVChannel.h"
 
 #include "core/ListingsFile.h"
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QDateTime>
 #include <QDebug>

@@ -12,8 +12,8 @@
 
 namespace guide {
 
-/// The run-time record of one selected channel: its display facts, whether it is being loaded, and when its
-/// listings were last stored. May be used from any thread.
+/// The run-time record of one selected channel: its catalogue entry, whether it is being loaded, and when its
+/// listings were last stored. Any thread.
 class TVChannel {
   public:
     /// `cachesFolder` holds the channel's listing file.
@@ -32,12 +32,12 @@ class TVChannel {
     std::optional<Moment> timeLoaded() const;
     void setTimeLoaded(std::optional<Moment> timeLoaded);
 
-    /// Makes the channel due, whatever the age of its list, until a load time is set. The listing file stays
-    /// until another list replaces it: a reload may bring nothing.
+    /// Makes the channel due, whatever the age of its list, until a load time is set. The listing file is
+    /// kept until another list replaces it: a reload may bring nothing.
     void requireReload();
 
-    /// Forgets the load time and deletes the listing file, which makes the channel due. For a file that holds
-    /// nothing any more.
+    /// Forgets the load time and deletes the listing file, which makes the channel due. Used when the list
+    /// has become empty.
     void unload();
 
     /// Takes over the load time, or the required reload, of an earlier record of the same channel.

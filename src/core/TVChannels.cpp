@@ -1,7 +1,7 @@
 #include "core/TVChannels.h"
 
-#include "platform/Archive.h"
-#include "platform/FileReplacement.h"
+#include "platform/archive/Archive.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QCborArray>
 #include <QDebug>
@@ -46,7 +46,7 @@ std::vector<ObjectId> readSelection(const QString& path) {
 } // namespace
 
 struct TVChannels::State final : CatalogueObserver {
-    /// What readers see: the selection and the records that go with it, never changed once it is published.
+    /// The selection and its records, immutable once published.
     struct Snapshot {
         std::vector<ObjectId> selected;
         ChannelMap channels;
@@ -113,7 +113,7 @@ struct TVChannels::State final : CatalogueObserver {
         return record;
     }
 
-    // The guard is held while the file is read, so that it is read once.
+    // Holds the guard while reading, so that the file is read only once.
     SharedSnapshot snapshot() {
         const std::lock_guard lock(guard);
         if (!current) {
@@ -122,7 +122,7 @@ struct TVChannels::State final : CatalogueObserver {
         return current;
     }
 
-    // On the writer queue. Writes the newest selection, so that of several changes in a row one is written.
+    // On the writer queue. Writes the newest selection, so that several changes in a row cost one write.
     bool write() {
         SharedSnapshot newest;
         {
@@ -154,7 +154,7 @@ TVChannels::TVChannels(const Folders& folders, KeyValueStore& keyValueStore, Dis
 TVChannels::~TVChannels() {
     m_state->catalogue.removeObserver(*m_state);
     finishWriting();
-    // A block that is still on the queue finds nothing to do.
+    // A block that is still queued must find nothing to write.
     const std::lock_guard lock(m_state->guard);
     m_state->unwritten = false;
 }
@@ -196,7 +196,7 @@ bool TVChannels::finishWriting() {
     }
     std::optional<bool> written;
     m_writer->sync([this, &written] { written = m_state->write(); });
-    // Where the queues have been shut down nobody else writes, and the block has been dropped.
+    // After the queues have shut down the block is dropped and no other thread writes.
     return written ? *written : m_state->write();
 }
 

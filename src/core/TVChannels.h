@@ -2,9 +2,9 @@
 
 #include "core/Catalogue.h"
 #include "core/TVChannel.h"
-#include "platform/DispatchQueue.h"
-#include "platform/Folders.h"
 #include "platform/KeyValueStore.h"
+#include "platform/files/Folders.h"
+#include "platform/queues/DispatchQueue.h"
 
 #include <memory>
 #include <mutex>
@@ -36,11 +36,11 @@ class TVChannels {
     /// The record of a selected channel; null when it is not selected or not in the catalogue. Any thread.
     std::shared_ptr<TVChannel> channelWithChannelId(const ObjectId& channel) const;
 
-    /// Tries once more, in the background, to write what could not be written.
+    /// Retries, in the background, a write that failed.
     void retryWriting();
 
-    /// Blocks until what setSelected has put off is written, and tries once more what could not be: for the
-    /// end of the program. False when the disk would not take it.
+    /// Blocks until the pending write is done, retrying one that failed. Called at shutdown. False when the
+    /// write failed again.
     bool finishWriting();
 
   private:

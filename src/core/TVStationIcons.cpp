@@ -2,6 +2,7 @@
 
 #include <QDirIterator>
 #include <QHash>
+#include <QImageReader>
 #include <QPainter>
 
 #include <algorithm>
@@ -26,12 +27,12 @@ bool isImageExtension(QStringView extension) {
     });
 }
 
-// Archives of other systems unpack to names whose marks stand apart from their letters.
+// Archives made on other systems contain file names in decomposed form.
 QString composed(const QString& name) {
     return name.normalized(QString::NormalizationForm_C);
 }
 
-// From the names under which an icon can be asked for, composed, to its file.
+// Maps each name that an icon can be requested by, in composed form, to its file.
 QHash<QString, QString> iconFilesOf(const QString& folder) {
     QHash<QString, QString> files;
     QHash<QString, QString> byStem;
@@ -56,6 +57,20 @@ QHash<QString, QString> iconFilesOf(const QString& folder) {
     return files;
 }
 
+QSize standardSize(double screenScale) {
+    return {std::max(1, static_cast<int>(std::lround(kIconWidth * screenScale))),
+            std::max(1, static_cast<int>(std::lround(kIconHeight * screenScale)))};
+}
+
+// SVG is rendered at the icon's final size, so that it is sharp at every scale.
+QImage readImage(const QString& path, double screenScale) {
+    QImageReader reader(path);
+    if (reader.format() == "svg" && !reader.size().isEmpty()) {
+        reader.setScaledSize(reader.size().scaled(standardSize(screenScale), Qt::KeepAspectRatio));
+    }
+    return reader.read();
+}
+
 } // namespace
 
 struct TVStationIcons::State {
@@ -64,9 +79,9 @@ struct TVStationIcons::State {
 
     std::mutex guard;
     QHash<QString, QImage> icons;                 // guarded
-    std::optional<QHash<QString, QString>> files; // guarded; the folder's content, read on first use
+    std::optional<QHash<QString, QString>> files; // guarded; the folder's files, read on first use
 
-    // With the guard held.
+    // Requires the guard.
     QString pathOf(const QString& name) {
         if (!files) {
             files = iconFilesOf(folder);
@@ -105,7 +120,7 @@ QImage TVStationIcons::iconNamed(const QString& name) {
         return {};
     }
     // Two threads may do this at once for one name; their images are equal.
-    const QImage icon = toIcon(QImage(path), m_state->screenScale);
+    const QImage icon = toIcon(readImage(path, m_state->screenScale), m_state->screenScale);
     if (!icon.isNull()) {
         const std::lock_guard lock(m_state->guard);
         m_state->icons.insert(name, icon);
@@ -122,8 +137,7 @@ QImage TVStationIcons::toIcon(const QImage& image, double screenScale) {
     if (image.isNull()) {
         return {};
     }
-    const QSize standard(std::max(1, static_cast<int>(std::lround(kIconWidth * screenScale))),
-                         std::max(1, static_cast<int>(std::lround(kIconHeight * screenScale))));
+    const QSize standard = standardSize(screenScale);
     if (image.size() == standard) {
         QImage icon = image;
         icon.setDevicePixelRatio(screenScale);

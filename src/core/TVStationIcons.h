@@ -7,24 +7,24 @@
 
 namespace guide {
 
-/// The channel icons by name, each brought to one size on first use: 50 by 36 points, letterboxed, at the
-/// main screen's scale. May be called from any thread.
+/// The channel icons by name, scaled to one size on first use: 50 by 36 points, letterboxed, at the
+/// main screen's scale. Any thread.
 class TVStationIcons {
   public:
-    /// `iconFolder` holds one image file an icon, named by the icon, with or without an image's extension.
+    /// `iconFolder` holds one image file for each icon, named after it, with or without an image extension.
     TVStationIcons(const QString& iconFolder, double screenScale);
     ~TVStationIcons();
 
-    /// Whether the folder holds a file for the icon, without a look into it.
+    /// Whether the folder holds a file for the icon; the file is not opened.
     bool hasIconFile(const QString& name);
 
     /// A null image when the name is empty or no such icon can be read.
     QImage iconNamed(const QString& name);
 
-    /// Drops what is loaded; it comes back icon by icon.
+    /// Drops the loaded images; each is loaded again when it is asked for.
     void dropIcons();
 
-    /// The image at the standard size; a null one stays null.
+    /// The image at the standard size; null for a null image.
     static QImage toIcon(const QImage& image, double screenScale);
 
   private:

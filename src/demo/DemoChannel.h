@@ -1,6 +1,6 @@
 #pragma once
 
-#include "demo/DayPlan.h"
+#include "demo/schedule/DayPlan.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,37 +9,37 @@
 
 namespace guide {
 
-/// A made-up channel, as the catalogue lists it and as its feed knows it.
+/// A channel of the demo, with what its row in the catalogue and its feed say.
 struct DemoChannel {
-    /// The names of its icon and of its feed's file, where it has one of its own.
+    /// Names its icon and, if it has one, its feed's file.
     QString key;
     QString title;
     /// 24 hexadecimal digits.
     QString location;
     QString language;
     QString region;
-    Character character = Character::General;
+    ChannelProfile profile = ChannelProfile::General;
     /// The languages of its shows, one or two.
     QStringList spoken;
-    /// IANA name of the zone whose mornings and evenings it keeps.
+    /// IANA name of the zone in which its days begin.
     QByteArray zone;
-    /// The grammar rules of its films, most frequent ones twice.
+    /// The text rules of its films; a rule listed twice is chosen twice as often.
     QStringList films;
-    /// Its source ids in order of preference, as sourceOnServer takes them.
+    /// Its source ids in order of preference, with the placeholders of sourceOnServer.
     QStringList sources;
-    /// How its feed names it.
+    /// Its id in its feed.
     QString feedId;
-    /// Its place among the channels, which keeps their series apart.
+    /// Its position among the channels, from 1; makes its series differ from theirs.
     int number = 0;
 };
 
 /// All channels of the demo, in the order of the catalogue.
 const std::vector<DemoChannel>& demoChannels();
 
-/// The source id with the server's base, or its host and port, in their places.
+/// The source id with the server's base URL for "%1" and its host and port for "%2".
 QString sourceOnServer(const QString& source, const QString& base);
 
-/// The identities that the demo selects first, in order.
+/// The identities of the channels that are selected at first, in order.
 QStringList demoSelection();
 
 } // namespace guide

@@ -1,8 +1,8 @@
 #include "demo/DemoFiles.h"
 
 #include "demo/DemoChannel.h"
-#include "demo/DemoFeed.h"
-#include "demo/Town.h"
+#include "demo/DemoSites.h"
+#include "demo/feeds/DemoFeed.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -60,7 +60,7 @@ QByteArray demoHosts(const QString& base) {
                       {u"BNetHost"_s, base},
                       {u"BNetDomain"_s, QString::fromLatin1(kDayFileDomain)},
                       {u"TVProfilHost"_s, base}};
-    for (const auto& [key, host] : Town::hosts(base)) {
+    for (const auto& [key, host] : DemoSites::hosts(base)) {
         hosts.insert(key, host);
     }
     return QJsonDocument(hosts).toJson();

@@ -5,7 +5,7 @@
 
 namespace guide {
 
-/// The three files that lead the guide to the demo's feeds on a server with this base URL.
+/// The catalogue and the host table for the demo's feeds on a server with this base URL, and its selection.
 QByteArray demoCatalogue(const QString& base);
 QByteArray demoHosts(const QString& base);
 QByteArray demoSelectionFile();

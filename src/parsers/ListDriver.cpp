@@ -1,50 +1,11 @@
 #include "parsers/ListDriver.h"
 
-#include "parsers/BarrandovListReader.h"
-#include "parsers/CinestarListReader.h"
-#include "parsers/ComedyCentralListReader.h"
-#include "parsers/DigiSportListReader.h"
-#include "parsers/DolceSportListReader.h"
-#include "parsers/HBOListReader.h"
-#include "parsers/JojCinemaListReader.h"
-#include "parsers/ListReader.h"
-#include "parsers/NovaListReader.h"
-#include "parsers/PalinsestoListReader.h"
 #include "parsers/ParsersLog.h"
-#include "parsers/PortNetworkListReader.h"
-#include "parsers/PrimaMaxListReader.h"
-#include "parsers/XMLTVListReader.h"
-#include "sources/SourceId.h"
+#include "parsers/SourceFormats.h"
 
-#include <algorithm>
-#include <array>
 #include <exception>
 
 namespace guide {
-
-namespace {
-
-struct TypeReader {
-    ListingsType type;
-    ListReader reader;
-};
-
-constexpr std::array kReaders{
-    TypeReader{ListingsType::PortNetwork, readPortNetworkLists},
-    TypeReader{ListingsType::XMLTV, readXMLTVLists},
-    TypeReader{ListingsType::Palinsesto, readPalinsestoLists},
-    TypeReader{ListingsType::Barrandov, readBarrandovLists},
-    TypeReader{ListingsType::DigiSport, readDigiSportLists},
-    TypeReader{ListingsType::JojCinema, readJojCinemaLists},
-    TypeReader{ListingsType::PrimaMax, readPrimaMaxLists},
-    TypeReader{ListingsType::HBO, readHBOLists},
-    TypeReader{ListingsType::Nova, readNovaLists},
-    TypeReader{ListingsType::DolceSport, readDolceSportLists},
-    TypeReader{ListingsType::Cinestar, readCinestarLists},
-    TypeReader{ListingsType::ComedyCentral, readComedyCentralLists},
-};
-
-} // namespace
 
 ListDriver::ListDriver(ListDriverEnvironment environment)
     : m_environment(std::move(environment)) {}
@@ -56,23 +17,20 @@ MergeResult ListDriver::netList(const std::vector<LoadItem>& items, const std::v
 
 ParsedLists ListDriver::read(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
                              Moment now, ListingsType type, MarkerTrace* trace) const {
-    MarkerTrace unasked;
+    MarkerTrace unused;
     ParsedLists lists;
-    const auto entry = std::find_if(kReaders.begin(), kReaders.end(),
-                                    [type](const TypeReader& candidate) { return candidate.type == type; });
-    if (entry == kReaders.end()) {
-        return lists;
-    }
-    if (items.empty()) {
+    const ListReader reader = listReaderForType(type);
+    if (!reader || items.empty()) {
         return lists;
     }
     lists.reserve(items.size());
+    // No input makes a reader throw. Should a fault in one do so, it must not end the program.
     try {
-        entry->reader({items, pages, now, m_environment.clock, m_environment.alphabet, m_environment.hosts,
-                       m_environment.locale,
-                       m_environment.timeZone ? m_environment.timeZone() : QTimeZone::systemTimeZone(),
-                       trace ? *trace : unasked},
-                      lists);
+        reader({items, pages, now, m_environment.clock, m_environment.alphabet, m_environment.hosts,
+                m_environment.locale,
+                m_environment.timeZone ? m_environment.timeZone() : QTimeZone::systemTimeZone(),
+                trace ? *trace : unused},
+               lists);
     } catch (const std::exception& exception) {
         qCWarning(parsersLog, "exception %s", exception.what());
     }

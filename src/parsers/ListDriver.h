@@ -1,12 +1,12 @@
 #pragma once
 
-#include "parsers/MarkerWalk.h"
+#include "parsers/markers/MarkerWalk.h"
 #include "platform/Clock.h"
 #include "platform/Moment.h"
 #include "sources/SourceHostTable.h"
 #include "store/ListMerge.h"
 #include "store/ShowItem.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 #include <QByteArray>
 #include <QLocale>
@@ -17,34 +17,35 @@
 
 namespace guide {
 
-/// What a driver works with; all that it refers to outlives the driver.
+/// Everything referred to must outlive the driver.
 struct ListDriverEnvironment {
     const Clock& clock;
     const Alphabet& alphabet;
     const SourceHostTable& hosts;
-    /// Takes the lists that a reader made, as the store's merge does.
+    /// Receives the lists that a reader made; the store's merge.
     std::function<MergeResult(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
                               ListingsType type)>
         merge;
-    /// The device's.
+    /// The device's locale.
     QLocale locale = {};
-    /// The device's, asked at each call. Empty is the system's.
+    /// The device's zone, queried at each call. When empty, the system's zone.
     std::function<QTimeZone()> timeZone = {};
 };
 
-/// The one door through which fetched pages become shows. Keeps nothing between two calls.
+/// Turns fetched pages into shows. Keeps no state between two calls.
 class ListDriver {
   public:
     explicit ListDriver(ListDriverEnvironment environment);
+    virtual ~ListDriver() = default;
 
-    /// Reads the pages, UTF-8 in the order of the URLs that the items share, by the listing type of the
-    /// items, and hands the lists to the merge, whatever was read. Blocks for the time of the parse. Every
-    /// byte array owns its bytes.
-    MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
-                        ListingsType type) const;
+    /// Reads the pages, UTF-8 in the order of the URLs that the items share, with the reader of the listing
+    /// type, and passes the lists to the merge even when nothing was read. Blocks while parsing. Every byte
+    /// array must own its bytes. Does not throw.
+    virtual MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
+                                Moment now, ListingsType type) const;
 
-    /// The reading alone: what netList hands to the merge. `trace`, where there is one, learns what the
-    /// reader looked for in vain.
+    /// Only reads: returns what netList passes to the merge. `trace`, if given, records
+    /// the markers that the reader did not find.
     ParsedLists read(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
                      ListingsType type, MarkerTrace* trace = nullptr) const;
 

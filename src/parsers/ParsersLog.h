@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// What the readers have to say; details of single shows only when debugging is asked for.
+/// The log of the readers; details of single shows are debug messages.
 Q_DECLARE_LOGGING_CATEGORY(parsersLog)
 
 } // namespace guide

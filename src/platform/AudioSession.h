@@ -3,13 +3,13 @@
 namespace guide {
 
 enum class AudioSessionCategory {
-    /// Sounds beside what else plays.
+    /// Plays together with other programs.
     Ambient,
-    /// Sounds in its place.
+    /// Plays instead of other programs.
     Playback,
 };
 
-/// How the program's sound gets along with that of others. Failures are the session's own affair.
+/// How the program's sound behaves towards that of other programs. Failures are not reported.
 class AudioSession {
   public:
     virtual ~AudioSession() = default;

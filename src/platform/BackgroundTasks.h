@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/DispatchQueue.h"
+#include "platform/queues/DispatchQueue.h"
 
 #include <QString>
 
@@ -15,8 +15,7 @@ inline constexpr BackgroundTaskId kBackgroundTaskInvalid = 0;
 class BackgroundTasks {
   public:
     virtual ~BackgroundTasks() = default;
-    /// The handler is called once, on any thread, when the device will wait no longer. It has to end the
-    /// task.
+    /// Calls the handler once, on any thread, when the device stops waiting. The handler must end the task.
     virtual BackgroundTaskId beginBackgroundTask(Block expirationHandler) = 0;
     /// Ending an invalid or ended task does nothing.
     virtual void endBackgroundTask(BackgroundTaskId task) = 0;

@@ -2,10 +2,18 @@
 
 #include <QCborValue>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
 namespace guide {
+
+class KeyValueStoreObserver {
+  public:
+    virtual ~KeyValueStoreObserver() = default;
+    /// Another device or program set or removed the values of these keys. Main thread.
+    virtual void valuesChangedExternally(const QStringList& keys) = 0;
+};
 
 /// Small values that follow the user between devices. A value is a boolean, an integer, a double, a string,
 /// bytes, a date or an array of these. May be called from any thread.
@@ -13,9 +21,13 @@ class KeyValueStore {
   public:
     virtual ~KeyValueStore() = default;
     virtual std::optional<QCborValue> valueForKey(const QString& key) const = 0;
-    /// False when the value could not be stored; the old one then stays.
+    /// False when the value could not be stored; the old one is then kept.
     virtual bool setValue(const QString& key, const QCborValue& value) = 0;
     virtual void removeKey(const QString& key) = 0;
+
+    /// From now on the observer receives the changes that are not made through this object; nullptr ends
+    /// that. The store does not own it. Main thread only.
+    virtual void setObserver(KeyValueStoreObserver* observer) = 0;
 };
 
 } // namespace guide

@@ -4,15 +4,15 @@ namespace guide {
 
 enum class ApplicationState { Active = 0, Inactive = 1, Background = 2 };
 
-/// Where the program is in its life, as the device tells it. May be asked from any thread.
+/// Life-cycle state of the program. May be called from any thread.
 class ApplicationStateSource {
   public:
     virtual ~ApplicationStateSource() = default;
     virtual ApplicationState applicationState() const = 0;
 };
 
-/// Receives the device's events, on the main queue. "Active" is the window visible again, not focused;
-/// midnight, a change of zone and waking from sleep are significant changes of time.
+/// Receives the device's events on the main queue. "Active" means that the window is visible, not that it has
+/// the focus. Midnight, a change of zone and waking from sleep are significant time changes.
 class LifeCycleObserver {
   public:
     virtual ~LifeCycleObserver() = default;

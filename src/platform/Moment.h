@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// An absolute time, to the millisecond. Display goes through the device's locale and zone.
+/// An absolute time in milliseconds. Only display uses the device's locale and zone.
 using Moment = std::chrono::sys_time<std::chrono::milliseconds>;
 
 } // namespace guide

@@ -7,8 +7,8 @@
 
 namespace guide {
 
-/// The user's settings by key. A key that is absent, or whose value is not of the asked kind, gives nothing;
-/// the caller knows its default. May be called from any thread.
+/// Settings by key. A key that is absent or has a value of another type gives nothing; the caller knows the
+/// default. May be called from any thread.
 class UserDefaults {
   public:
     virtual ~UserDefaults() = default;
@@ -21,7 +21,7 @@ class UserDefaults {
     virtual void setDouble(const QString& key, double value) = 0;
     virtual void setString(const QString& key, const QString& value) = 0;
     virtual void removeKey(const QString& key) = 0;
-    /// Writes what has not been written yet; false when that failed.
+    /// Writes pending changes; false when that failed.
     virtual bool synchronize() = 0;
 };
 

@@ -1,7 +1,7 @@
 #include "probe/Command.h"
 
 #include "parsers/ShowJSON.h"
-#include "text/Alphabet.h"
+#include "text/display/Alphabet.h"
 
 #include <QDateTime>
 

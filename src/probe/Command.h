@@ -27,7 +27,7 @@ using Outcome = std::variant<QJsonObject, Failure>;
 struct Context {
     Arguments arguments;
     Moment now;
-    ProbeDevice device;
+    FixedDevice device;
     SourceHostTable hosts;
     /// What came with the program: supported regions and the host table.
     QString bundleFolder;

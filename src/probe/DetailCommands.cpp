@@ -1,7 +1,7 @@
-#include "parsers/DetailScraper.h"
-#include "parsers/IMDbLookup.h"
-#include "parsers/RecordedShows.h"
 #include "parsers/ShowJSON.h"
+#include "parsers/details/DetailScraper.h"
+#include "parsers/details/IMDbLookup.h"
+#include "parsers/details/RecordedShows.h"
 #include "probe/Command.h"
 #include "probe/ProbePages.h"
 

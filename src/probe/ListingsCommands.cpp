@@ -1,11 +1,10 @@
 #include "parsers/ListDriver.h"
 #include "parsers/ShowJSON.h"
+#include "parsers/URLPlanner.h"
+#include "platform/memory/ManualClock.h"
 #include "probe/Command.h"
 #include "probe/ProbePages.h"
-#include "probe/StandingClock.h"
 #include "sources/PageFetcher.h"
-#include "sources/SourceId.h"
-#include "sources/URLPlanner.h"
 #include "store/ListMerge.h"
 
 #include <QJsonArray>
@@ -20,7 +19,7 @@ namespace {
 /// What the reader of the type makes of the pages. The shows refer to the alphabet.
 ParsedLists readPages(const Context& context, const Alphabet& alphabet, const std::vector<LoadItem>& items,
                       const std::vector<QByteArray>& pages, ListingsType type, MarkerTrace* trace = nullptr) {
-    const StandingClock clock(context.now);
+    const ManualClock clock(context.now);
     const ListDriver driver({.clock = clock,
                              .alphabet = alphabet,
                              .hosts = context.hosts,

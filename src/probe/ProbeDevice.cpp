@@ -4,8 +4,12 @@
 
 namespace guide::probe {
 
-std::uint64_t ProbeDevice::physicalMemory() const {
-    return std::uint64_t(sysconf(_SC_PHYS_PAGES)) * std::uint64_t(sysconf(_SC_PAGE_SIZE));
+FixedDevice probeDevice(const QTimeZone& zone, const QLocale& locale) {
+    FixedDevice device;
+    device.zone = zone;
+    device.deviceLocale = locale;
+    device.memory = std::uint64_t(sysconf(_SC_PHYS_PAGES)) * std::uint64_t(sysconf(_SC_PAGE_SIZE));
+    return device;
 }
 
 QLocale localeNamed(const QString& name) {

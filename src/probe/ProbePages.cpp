@@ -1,10 +1,10 @@
 #include "probe/ProbePages.h"
 
-#include "platform/Decompression.h"
-#include "platform/ResponseCache.h"
+#include "platform/encoding/Decompression.h"
+#include "platform/http/ResponseCache.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/EventLoopQueues.h"
-#include "probe/StandingClock.h"
+#include "platform/memory/ManualClock.h"
 #include "sources/NetworkActivity.h"
 
 #include <QFile>
@@ -60,7 +60,7 @@ PageSource givenPages(const std::vector<QByteArray>& pages) {
 
 void withNetwork(const Context& context, QString& why,
                  const std::function<void(const PageFetcher&, const HTTPUserAgent&)>& use) {
-    const StandingClock clock(context.now);
+    const ManualClock clock(context.now);
     ResponseCache cache(clock, 0, [] { return std::chrono::milliseconds(0); });
     CurlHTTPClient client(cache);
     EventLoopQueues queues;

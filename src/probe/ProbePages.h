@@ -1,6 +1,6 @@
 #pragma once
 
-#include "parsers/PageSource.h"
+#include "parsers/details/PageSource.h"
 #include "probe/Command.h"
 #include "sources/PageFetcher.h"
 

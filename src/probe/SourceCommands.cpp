@@ -1,9 +1,9 @@
 #include "alarms/AlarmMinutes.h"
 #include "alarms/SilentHours.h"
 #include "core/ObjectId.h"
+#include "parsers/URLPlanner.h"
 #include "probe/Command.h"
 #include "sources/SourceId.h"
-#include "sources/URLPlanner.h"
 #include "store/ShowDigest.h"
 
 #include <QJsonArray>
@@ -66,13 +66,16 @@ Outcome digest(Context& context) {
     return QJsonObject{{u"url"_s, url ? QJsonValue(url->toString()) : QJsonValue(QJsonValue::Null)}};
 }
 
+/// How the scale says that there is no alarm.
+constexpr qint64 kNoAlarm = -1;
+
 Outcome minutes(Context& context) {
     bool ok = false;
     const double number = context.arguments.operands[0].toDouble(&ok);
     if (!ok) {
         return Failure{u"\"%1\" is no number"_s.arg(context.arguments.operands[0]), true};
     }
-    return QJsonObject{{u"normalized"_s, qint64(normalizedMinutes(number))}};
+    return QJsonObject{{u"normalized"_s, qint64(normalizedMinutes(number).value_or(kNoAlarm))}};
 }
 
 std::optional<int> minuteOfDay(const std::optional<QString>& text) {

@@ -1,14 +1,14 @@
 #include "parsers/ShowJSON.h"
-#include "parsers/XMLTVDate.h"
+#include "parsers/xmltv/XMLTVDate.h"
 #include "probe/Command.h"
-#include "text/CategoryMapping.h"
-#include "text/CategoryText.h"
-#include "text/FeedTextCleaning.h"
-#include "text/MarkupText.h"
-#include "text/MatchWord.h"
-#include "text/ShortTimeFormat.h"
-#include "text/ShowClassifier.h"
-#include "text/Transliteration.h"
+#include "text/categories/CategoryMapping.h"
+#include "text/categories/CategoryText.h"
+#include "text/categories/ShowClassifier.h"
+#include "text/cleaning/FeedTextCleaning.h"
+#include "text/cleaning/MarkupText.h"
+#include "text/display/ShortTimeFormat.h"
+#include "text/display/Transliteration.h"
+#include "text/search/MatchWord.h"
 
 #include <QJsonArray>
 #include <QMap>

@@ -88,7 +88,7 @@ std::variant<Context, Failure> contextFor(const Arguments& arguments) {
     } else {
         hosts = SourceHostTable::installed(folders.bundle, folders.configuration);
     }
-    return Context{arguments, now, ProbeDevice(zone, locale), hosts, folders.bundle, standardInput};
+    return Context{arguments, now, probeDevice(zone, locale), hosts, folders.bundle, standardInput};
 }
 
 int run(const QStringList& words) {

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "core/Catalogue.h"
+#include "core/TVStationIcons.h"
 #include "screens/kit/RowId.h"
 #include "store/ShowItem.h"
 
 #include <QDate>
 #include <QLocale>
+#include <QString>
 #include <QTimeZone>
 
 #include <span>
@@ -12,18 +15,25 @@
 
 namespace guide {
 
-/// The shows that start on one day.
+/// The shows of one day.
 struct DaySection {
-    /// The ISO date.
-    SectionId id;
+    QDate day;
     /// The day in the locale's long form.
     QString title;
     ShowItems shows;
+
+    /// The ISO date.
+    SectionId id() const { return day.toString(Qt::ISODate); }
 };
 
-/// Groups the shows by the day of their start in the zone: days in the order of first appearance, shows in
-/// input order. A show without a start is left out.
+/// Groups shows by the day of their start in the zone: days in the order of first appearance, the shows of a
+/// day in the order given. A show without a start is left out.
 std::vector<DaySection> daySections(std::span<const ShowItem> shows, const QLocale& locale,
                                     const QTimeZone& zone);
+
+/// The shows whose channel is in the catalogue and has an icon, in the order given: the ones that a list of
+/// several channels can show. Looks at each channel once; icons are loaded on the way.
+ShowItems showsWithChannelIcon(std::span<const ShowItem> shows, const CatalogueSnapshot& channels,
+                               TVStationIcons& icons);
 
 } // namespace guide

@@ -36,17 +36,18 @@ const ShowItem* findShow(std::span<const ShowItem> shows, const ShowRowKey& key)
 ShowRows::ShowRows(const ScreenEnvironment& environment)
     : m_environment(environment)
     , m_now(environment.clock.now())
+    , m_marks(environment)
     , m_text(environment.device.locale(), environment.device.timeZone()) {}
 
 ShowRow ShowRows::condensed(const ShowItem& show, bool running) const {
     const TVEntry& entry = *show.entry();
-    const bool alarmed = m_environment.alarms.alarmedEntry(entry) >= 0;
-    const bool favourite = entry.title() && m_environment.favorites.containsFavoriteNamed(*entry.title());
+    const bool alarmed = m_marks.isAlarmed(entry);
+    const bool favourite = m_marks.isFavourite(entry);
 
     ColorRole color = ColorRole::SecondaryLabel;
     if (alarmed) {
         color = ColorRole::Alarm;
-    } else if (m_environment.app.colorizedShows() && (running || favourite)) {
+    } else if (m_environment.settings.colorizedShows() && (running || favourite)) {
         color = running ? ColorRole::Running : ColorRole::Favourite;
     }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/ShowMarks.h"
 #include "screens/ShowRowText.h"
 #include "screens/kit/Row.h"
 #include "screens/shell/ScreenEnvironment.h"
@@ -50,6 +51,7 @@ class ShowRows {
   private:
     const ScreenEnvironment& m_environment;
     const Moment m_now;
+    const ShowMarks m_marks;
     const ShowRowText m_text;
 };
 

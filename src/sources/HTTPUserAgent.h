@@ -6,8 +6,8 @@
 
 namespace guide {
 
-/// The browser that this run of the program says it is: one of fourteen, chosen when the object is made.
-/// There is one such object, and every request carries its value.
+/// The browser identity of this run: one of fourteen, chosen on construction. One object exists and every
+/// request carries its value.
 class HTTPUserAgent {
   public:
     static constexpr unsigned kCount = 14;

@@ -7,7 +7,7 @@ namespace guide {
 struct NetworkActivity::State {
     DispatchQueue& mainQueue;
     std::function<void(bool)> indicator; // main queue
-    std::uint32_t count = 0;             // on the serial queue alone
+    std::uint32_t count = 0;             // serial queue
 
     static void tell(const std::shared_ptr<State>& state, bool visible) {
         state->mainQueue.async([weakState = std::weak_ptr(state), visible] {

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/DispatchQueue.h"
+#include "platform/queues/DispatchQueue.h"
 
 #include <functional>
 #include <memory>
 
 namespace guide {
 
-/// Counts the running transfers and tells when there are any. May be called from any thread.
+/// Counts running transfers and reports when there are any. Any thread.
 class NetworkActivity {
   public:
     /// The indicator is called on the main queue, with true when the first transfer starts and with false
@@ -16,7 +16,7 @@ class NetworkActivity {
     ~NetworkActivity();
 
     void startNetworkActivity();
-    /// One without a start does nothing.
+    /// Does nothing without a matching start.
     void stopNetworkActivity();
 
   private:

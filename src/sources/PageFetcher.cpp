@@ -19,7 +19,7 @@ bool isGoodStatus(int status) {
     return status >= 200 && status < 300;
 }
 
-/// Where the answer sends us; nothing when it does not, or not to a web server.
+/// The target of a redirect; nothing when the answer is not one or the target is not a web server.
 std::optional<QUrl> redirection(const QUrl& from, const std::optional<HTTPResponse>& response) {
     const std::optional<QByteArray> location = response ? response->header("Location") : std::nullopt;
     if (!location) {
@@ -87,7 +87,7 @@ NetPage PageFetcher::netPageForRequest(HTTPRequest request, bool /*userIsWaiting
             if (transfer.body.isEmpty() && m_environment.noRemoteHostAlert) {
                 m_environment.noRemoteHostAlert(*transfer.error);
             }
-            // A page that broke off would put half a schedule in the place of a whole one.
+            // A partial body would replace a whole schedule with half of one, so it is discarded.
             transfer.body.clear();
         } else if (!isGoodStatus(answer.status)) {
             answer.reason = PageReason::Status;
@@ -100,7 +100,7 @@ NetPage PageFetcher::netPageForRequest(HTTPRequest request, bool /*userIsWaiting
         }
         if (attempt == 0) {
             if (answer.reason == PageReason::Empty) {
-                // Else the cache would answer the second time.
+                // Otherwise the cache would answer the second attempt.
                 m_environment.client.removeCachedResponse(request);
             }
             if (const std::optional<QUrl> target = redirection(request.url, transfer.response)) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/HTTPClient.h"
+#include "platform/http/HTTPClient.h"
 #include "sources/HTTPUserAgent.h"
 #include "sources/NetworkActivity.h"
 
@@ -16,7 +16,7 @@ namespace guide {
 
 /// Why there is no page.
 enum class PageReason {
-    /// There is one.
+    /// There is a page.
     None,
     /// The transfer ended in an error, without a usable body.
     Transfer,
@@ -24,11 +24,11 @@ enum class PageReason {
     Cancelled,
     /// The server answered with a status outside 200 to 299.
     Status,
-    /// The server answered well, with nothing.
+    /// The server answered successfully with an empty body.
     Empty,
     /// The body could not be unpacked.
     Compression,
-    /// The body is no text in the encoding that it is said to be in.
+    /// The body is not valid text in its declared encoding.
     Encoding,
 };
 
@@ -40,7 +40,7 @@ struct NetPage {
     PageReason reason = PageReason::None;
 };
 
-/// The request of a schedule page, as every caller of the fetcher makes it.
+/// The request for a schedule page, as every caller of the fetcher makes it.
 HTTPRequest pageRequest(const QUrl& url, const HTTPUserAgent& userAgent,
                         std::chrono::milliseconds timeout = std::chrono::seconds(20));
 
@@ -48,21 +48,21 @@ HTTPRequest pageRequest(const QUrl& url, const HTTPUserAgent& userAgent,
 struct PageFetcherEnvironment {
     HTTPClient& client;
     NetworkActivity& networkActivity;
-    /// Bytes; bounds what a packed page may grow to.
+    /// In bytes; limits the unpacked size of a page.
     std::uint64_t physicalMemory = 0;
-    /// Waits between two attempts; false, at once, when the program is shutting down.
+    /// Waits between two attempts. Returns false immediately when the program is shutting down.
     std::function<bool(std::chrono::milliseconds)> wait;
-    /// Told, on the fetching thread, of each transfer that failed without any body. May be empty.
+    /// Called on the fetching thread for each transfer that failed without a body. May be empty.
     std::function<void(const TransferError&)> noRemoteHostAlert;
 };
 
-/// Brings one page at a time down as text. Has no state of its own and may be used from several threads.
+/// Fetches one page at a time as text. Stateless; any thread.
 class PageFetcher {
   public:
     explicit PageFetcher(PageFetcherEnvironment environment);
 
-    /// Blocks until the page is in or two attempts are spent; never to be called on the main thread. One
-    /// redirect is followed, in the place of the second attempt.
+    /// Blocks until the page arrives or two attempts have failed; must not be called on the main thread.
+    /// Follows one redirect, in place of the second attempt.
     NetPage netPageForRequest(HTTPRequest request, bool userIsWaitingFor) const;
 
   private:

@@ -1,7 +1,7 @@
 #include "sources/PageText.h"
 
-#include "platform/CharacterSets.h"
-#include "platform/Decompression.h"
+#include "platform/encoding/CharacterSets.h"
+#include "platform/encoding/Decompression.h"
 
 namespace guide {
 
@@ -19,8 +19,8 @@ PageText unpacked(std::optional<QByteArray> content) {
     return textOf(utf8FromUtf8(*std::move(content)));
 }
 
-/// What follows "charset=", without quotes and without further parameters; nothing when there is no such
-/// marker, empty when hardly anything follows it.
+/// What follows "charset=", without quotes and further parameters. Nothing when the marker is missing,
+/// empty when too little follows it.
 std::optional<QString> declaredCharset(const QByteArray& contentType) {
     constexpr QByteArrayView kMarker = "charset=";
     const qsizetype marker = contentType.toLower().indexOf(kMarker);
@@ -51,7 +51,7 @@ PageText pageText(QByteArray body, const HTTPResponse& response, std::uint64_t p
         return unpacked(dataWithXzData(body, limits));
     }
     if (type == "application/x-gzip") {
-        // Some servers say of a gzip file that the transfer packed it, and the transfer has unpacked it then.
+        // Some servers declare a gzip file as a content encoding; the transfer has then unpacked it already.
         if (response.header("Content-Encoding") && !hasGzipSignature(body)) {
             return textOf(utf8FromUtf8(std::move(body)));
         }

@@ -10,15 +10,15 @@
 namespace guide {
 
 struct PageText {
-    /// Valid UTF-8; nothing when the body gives no text, for the reason beside it.
+    /// Valid UTF-8; nothing when the body is not text, for the reason in `reason`.
     std::optional<QByteArray> text;
     PageReason reason = PageReason::None;
 };
 
-/// Makes a page of the body of an answer, content encodings undone: unpacked, where its content type or its
-/// first bytes say that it is packed, and decoded by the charset that the content type names, or as UTF-8.
-/// What is packed may grow to a quarter of the physical memory, xz to 23 times its size as well; of an xz
-/// body that holds more, what fits is taken.
+/// Turns the body of an answer, content encodings already undone, into a page: unpacked when its content type
+/// or its first bytes say that it is packed, and decoded by the charset of the content type, UTF-8 by
+/// default. Unpacking is limited to a quarter of the physical memory, and for xz to 23 times the packed size;
+/// an xz body that holds more is truncated to the limit.
 PageText pageText(QByteArray body, const HTTPResponse& response, std::uint64_t physicalMemory);
 
 } // namespace guide

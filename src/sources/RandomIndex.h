@@ -4,10 +4,10 @@
 
 namespace guide {
 
-/// A uniformly random index below the bound, which is at least 1. May be called from any thread.
+/// A uniformly random index below the bound, which is at least 1. Any thread.
 using RandomIndex = std::function<unsigned(unsigned bound)>;
 
-/// The system's random numbers.
+/// Draws from the system's random generator.
 RandomIndex systemRandomIndex();
 
 } // namespace guide

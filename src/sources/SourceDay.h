@@ -6,8 +6,8 @@
 
 namespace guide {
 
-/// The last midnight up to `now`, be it on the device or in a country of the sources. What "today" is does
-/// not change between two of these: a page may be dated by its place among the days that were asked for.
+/// The last midnight up to `now`, on the device or in any country of the sources. "Today" does not change
+/// between two such midnights, so a page can be dated by its position among the requested days.
 Moment sourceDayBegan(Moment now, const QTimeZone& deviceZone);
 
 } // namespace guide

@@ -12,11 +12,11 @@ namespace guide {
 
 /// Why a load went on to the channel's next source.
 enum class PassedOverReason {
-    /// The source's id leads to no page: nobody knows it, or its host is not in the table.
+    /// No URL can be planned: the id is malformed or its host is not in the table.
     NoPlan,
-    /// Its first page did not come.
+    /// Its first page could not be fetched.
     NoPage,
-    /// Its pages hold no show of the channel.
+    /// Its pages contain no show of the channel.
     NoShows,
     /// All shows of its pages are over.
     OnlyPastShows,
@@ -25,23 +25,23 @@ enum class PassedOverReason {
 struct PassedOverSource {
     QString sourceId;
     PassedOverReason reason = PassedOverReason::NoPlan;
-    /// Of the page that did not come: the status of the last answer, 0 when there was none, and why.
+    /// For a page that could not be fetched: the status of the last answer, or 0, and the reason.
     int status = 0;
     PageReason pageReason = PageReason::None;
 
     friend bool operator==(const PassedOverSource&, const PassedOverSource&) = default;
 };
 
-/// The source that a channel's shows are from.
+/// The source of a channel's current shows.
 struct UsedSource {
     QString sourceId;
     /// When its list was read.
     Moment at;
-    /// Pages that came; fewer than planned when a later one did not.
+    /// Pages fetched; fewer than planned when a later one failed.
     int pages = 0;
     /// Shows that were stored.
     int shows = 0;
-    /// The end of the last one, or its start where it has no end.
+    /// The end of the last show, or its start when it has no end.
     std::optional<Moment> reachesUntil;
 
     friend bool operator==(const UsedSource&, const UsedSource&) = default;
@@ -49,11 +49,11 @@ struct UsedSource {
 
 /// What a channel's last load did.
 struct SourceHealth {
-    /// When it was over.
+    /// When it finished.
     Moment at;
-    /// Of this load, or of an earlier one when this one has brought nothing; nothing when none ever has.
+    /// From this load, or from an earlier one when this one stored nothing; nothing when none ever did.
     std::optional<UsedSource> used;
-    /// The sources that this load asked before, in their order: all of them when it has brought nothing.
+    /// The sources that this load tried before, in order; all of them when it stored nothing.
     std::vector<PassedOverSource> passedOver;
 
     bool hasLoaded() const { return used && used->at == at; }

@@ -1,6 +1,6 @@
 #include "sources/SourceHealthRecords.h"
 
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -19,12 +19,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kVersion = 1;
-/// Far more than the channels of every catalogue together come to.
+/// Far more than the size of any real file.
 constexpr qint64 kMostBytes = 16 << 20;
 
-/// By the order of PassedOverReason.
+/// In the order of PassedOverReason.
 constexpr std::array kReasons{"noPlan"_L1, "noPage"_L1, "noShows"_L1, "onlyPastShows"_L1};
-/// By the order of PageReason.
+/// In the order of PageReason.
 constexpr std::array kPageReasons{"none"_L1,  "transfer"_L1,    "cancelled"_L1, "status"_L1,
                                   "empty"_L1, "compression"_L1, "encoding"_L1};
 

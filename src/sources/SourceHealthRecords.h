@@ -13,15 +13,15 @@
 
 namespace guide {
 
-/// How the sources of each channel do, in memory and in one small file. Any thread.
+/// The health of each channel's sources, in memory and in one small file. Any thread.
 class SourceHealthRecords {
   public:
     using ByChannel = std::unordered_map<ObjectId, SourceHealth>;
 
-    /// Nothing is read yet.
+    /// Does not read the file.
     explicit SourceHealthRecords(QString path);
 
-    /// Takes over what the file knows, of channels that nothing is known of yet; at the first call alone. A
+    /// The first call reads the file and adds the channels that have no record yet; later calls do nothing. A
     /// file that is missing, damaged or of another version counts as empty. Blocks.
     void read();
 
@@ -29,11 +29,11 @@ class SourceHealthRecords {
     std::optional<SourceHealth> healthFor(const ObjectId& channel) const;
     ByChannel all() const;
 
-    /// A load that has brought nothing keeps the source of the one before it.
+    /// A load that stored nothing keeps the source of the previous record.
     void record(const ObjectId& channel, SourceHealth health);
 
-    /// Forgets all other channels and, where anything has changed since, replaces the file. Blocks. What
-    /// could not be written is tried again by the next call.
+    /// Forgets all other channels and replaces the file if anything has changed. Blocks. A failed write is
+    /// retried by the next call.
     void write(const std::vector<ObjectId>& selected);
 
   private:
@@ -44,9 +44,9 @@ class SourceHealthRecords {
     bool m_isWritten = true;
 };
 
-/// The content of the file: a JSON object with a version and, under "channels", an object a channel.
+/// The content of the file: a JSON object with a version and, under "channels", one object per channel.
 QByteArray sourceHealthJSON(const SourceHealthRecords::ByChannel& byChannel);
-/// Nothing when the bytes are no such file; channels that are damaged are left out.
+/// Nothing when the bytes are not such a file; damaged channels are left out.
 std::optional<SourceHealthRecords::ByChannel> sourceHealthFromJSON(const QByteArray& json);
 
 } // namespace guide

@@ -16,7 +16,7 @@ namespace {
 
 constexpr QLatin1StringView kSchemeEnd = "://"_L1;
 
-// Where the host begins in a value: behind its scheme, if it has one.
+// Where the host begins in a value: after the scheme, if it has one.
 qsizetype hostStart(const QString& value) {
     for (const QLatin1StringView scheme : {"http"_L1, "https"_L1}) {
         if (value.startsWith(scheme, Qt::CaseInsensitive) &&
@@ -33,14 +33,14 @@ QString withScheme(const QString& value, const QString& scheme) {
 
 } // namespace
 
-/// The keys of which the log has told that they have no value.
-struct SourceHostTable::Told {
+/// The keys whose missing value has been logged.
+struct SourceHostTable::ReportedKeys {
     std::mutex guard;
     QSet<QString> keys;
 };
 
 SourceHostTable::SourceHostTable()
-    : m_told(std::make_shared<Told>()) {}
+    : m_reported(std::make_shared<ReportedKeys>()) {}
 
 std::optional<SourceHostTable> SourceHostTable::fromJson(const QByteArray& json) {
     const QJsonDocument document = QJsonDocument::fromJson(json);
@@ -101,9 +101,9 @@ std::optional<QString> SourceHostTable::presentValue(const QString& key) const {
     if (value.size() > hostStart(value)) {
         return value;
     }
-    const std::lock_guard lock(m_told->guard);
-    if (!m_told->keys.contains(key)) {
-        m_told->keys.insert(key);
+    const std::lock_guard lock(m_reported->guard);
+    if (!m_reported->keys.contains(key)) {
+        m_reported->keys.insert(key);
         qWarning().noquote() << "SourceHostTable: no host for" << key;
     }
     return std::nullopt;

@@ -7,46 +7,6 @@ namespace guide {
 
 using namespace Qt::StringLiterals;
 
-ListingsType listingsTypeForSourceId(const QString& sourceId, const SourceHostTable& hosts) {
-    if (sourceId.endsWith(".tv"_L1)) {
-        return ListingsType::XMLTV;
-    }
-    if (sourceId.startsWith(u'_')) {
-        return ListingsType::Palinsesto;
-    }
-    if (sourceId.startsWith("barrandov."_L1)) {
-        return ListingsType::Barrandov;
-    }
-    if (sourceId.startsWith("dsk."_L1)) {
-        return ListingsType::DigiSport;
-    }
-    if (sourceId.startsWith("joj."_L1)) {
-        return ListingsType::JojCinema;
-    }
-    if (sourceId.startsWith("-hbo."_L1)) {
-        return ListingsType::HBO;
-    }
-    if (hosts.isPrimaMaxSourceId(sourceId)) {
-        return ListingsType::PrimaMax;
-    }
-    if (sourceId.startsWith("cz.nova."_L1)) {
-        return ListingsType::Nova;
-    }
-    if (sourceId.startsWith("dolce-sport."_L1)) {
-        return ListingsType::DolceSport;
-    }
-    if (sourceId.startsWith("cinestar."_L1)) {
-        return ListingsType::Cinestar;
-    }
-    if (sourceIdUsedByPortNetwork(sourceId)) {
-        return ListingsType::PortNetwork;
-    }
-    if (sourceId == "cc.romania"_L1) {
-        return ListingsType::ComedyCentral;
-    }
-    return ListingsType::XMLTV;
-}
-
 bool sourceIdUsedByPortNetwork(QStringView sourceId) {
     constexpr qsizetype kMostDigits = std::numeric_limits<std::int32_t>::digits10 + 1;
     if (sourceId.isEmpty() || sourceId.size() > kMostDigits || (sourceId.size() > 1 && sourceId[0] == u'0')) {

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "core/ListingsType.h"
-#include "sources/SourceHostTable.h"
-
 #include <QString>
 #include <QStringView>
 #include <QTimeZone>
@@ -11,14 +8,12 @@
 
 namespace guide {
 
-/// The listing type of a source id; XMLTV for one that nothing else claims. The order of its tests is its own
-/// and not that of the URL planner.
-ListingsType listingsTypeForSourceId(const QString& sourceId, const SourceHostTable& hosts);
-
-/// Whether the id is a number of the Port network: decimal digits as a 32-bit number is printed.
+/// Whether the id is a number of the Port network: decimal digits, written as a signed 32-bit number is
+/// printed.
 bool sourceIdUsedByPortNetwork(QStringView sourceId);
 
-/// The zone of the country whose two letters end the name of a server or a country alone; nothing for others.
+/// The zone of the country whose two letters end the server name; a bare country code also works. Nothing for
+/// other names.
 std::optional<QTimeZone> timeZoneForServer(QStringView serverName);
 
 } // namespace guide

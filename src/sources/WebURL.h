@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// Whether the address names a host of the web: the only ones that the guide asks for anything.
+/// Whether the URL is http or https and names a host; the guide requests nothing else.
 inline bool isWebURL(const QUrl& url) {
     const QString scheme = url.scheme();
     return url.isValid() && !url.host().isEmpty() &&

@@ -1,7 +1,7 @@
 #include "store/SaveSchedule.h"
 
 #include "core/ListingsFile.h"
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 #include "store/ScheduleQueries.h"
 #include "store/ShowCoding.h"
 

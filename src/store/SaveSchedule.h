@@ -3,8 +3,8 @@
 #include "core/ObjectId.h"
 #include "platform/BackgroundTasks.h"
 #include "platform/Clock.h"
-#include "platform/DispatchQueue.h"
-#include "platform/Folders.h"
+#include "platform/files/Folders.h"
+#include "platform/queues/DispatchQueue.h"
 #include "store/ChannelList.h"
 
 #include <atomic>

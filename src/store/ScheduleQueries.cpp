@@ -1,7 +1,6 @@
 #include "store/ScheduleQueries.h"
 
 #include "store/LocalTime.h"
-#include "store/ShowDigest.h"
 
 #include <algorithm>
 
@@ -25,7 +24,7 @@ ShowItems matchingShows(const AllShows& all, Test test) {
     return result;
 }
 
-bool hasFavoriteTitle(const ShowItem& show, const FavoriteQuestions& favorites) {
+bool hasFavoriteTitle(const ShowItem& show, const FavoriteTitles& favorites) {
     const std::optional<QString>& title = show.entry()->title();
     return title && favorites.containsFavoriteNamed(*title);
 }
@@ -59,21 +58,26 @@ ShowItems showsNotEnded(const ShowList& list, Moment now) {
     return result;
 }
 
-ShowItems favoritesSchedule(const AllShows& all, const FavoriteQuestions& favorites, Moment now) {
+ShowItems favoritesSchedule(const AllShows& all, const FavoriteTitles& favorites, Moment now) {
+    if (favorites.empty()) {
+        return {};
+    }
     return matchingShows(all, [&](const ShowItem& show) {
         return show.entry()->endsAfter(now) && hasFavoriteTitle(show, favorites);
     });
 }
 
-FavoritesToCome favoritesToCome(const AllShows& all, const FavoriteQuestions& favorites,
-                                const QString& scheme, Moment now) {
+FavoritesToCome favoritesToCome(const AllShows& all, const FavoriteTitles& favorites, Moment now) {
     FavoritesToCome result;
+    if (favorites.empty()) {
+        return result;
+    }
     result.shows = matchingShows(all, [&](const ShowItem& show) {
         return show.entry()->dateTime() > now && hasFavoriteTitle(show, favorites);
     });
     for (const ShowItem& show : result.shows) {
-        if (const std::optional<QUrl> url = show.entry()->urlDigestWithScheme(scheme)) {
-            result.byURL.insert_or_assign(url->toString(), show);
+        if (const std::optional<ShowDigest> digest = show.entry()->digest()) {
+            result.byDigest.insert_or_assign(*digest, show);
         }
     }
     return result;
@@ -99,16 +103,12 @@ std::optional<ShowItem> showWithURL(const AllShows& all, const QUrl& url, const 
     if (!digest) {
         return std::nullopt;
     }
-    // Digests are compared as bytes: URLs kept for every show would fill the memory.
-    for (const AllShows::Show& show : all.shows()) {
-        const TVEntry& entry = *show.item->entry();
-        if (entry.identificator() &&
-            showDigest(entry.channel(), entry.dateTime(), *entry.identificator()) == *digest &&
-            entry.urlDigestWithScheme(scheme) == url) {
-            return *show.item;
-        }
-    }
-    return std::nullopt;
+    // Compared as digests: URLs kept for every show would fill the memory.
+    const auto& shows = all.shows();
+    const auto found = std::ranges::find_if(
+        shows, [&digest](const AllShows::Show& show) { return show.item->entry()->digest() == digest; });
+    const bool matches = found != shows.end() && found->item->entry()->urlDigestWithScheme(scheme) == url;
+    return matches ? std::optional(*found->item) : std::nullopt;
 }
 
 std::size_t firstNotEnded(std::span<const ShowItem> list, Moment now) {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "store/AllShows.h"
+#include "store/FavoriteTitles.h"
 #include "store/ShowItem.h"
-#include "store/ShowQuestions.h"
 
 #include <QString>
 #include <QTimeZone>
@@ -29,16 +29,14 @@ ShowItems allShowsWithCategory(const AllShows& all, TVListingsCategory category,
 ShowItems showsNotEnded(const ShowList& list, Moment now);
 
 /// Shows with a favourite title that have not ended.
-ShowItems favoritesSchedule(const AllShows& all, const FavoriteQuestions& favorites, Moment now);
+ShowItems favoritesSchedule(const AllShows& all, const FavoriteTitles& favorites, Moment now);
 
 struct FavoritesToCome {
     ShowItems shows;
-    /// By the text of the show's digest URL.
-    std::unordered_map<QString, ShowItem> byURL;
+    std::unordered_map<ShowDigest, ShowItem, ShowDigestHash> byDigest;
 };
 /// Shows with a favourite title that have not begun.
-FavoritesToCome favoritesToCome(const AllShows& all, const FavoriteQuestions& favorites,
-                                const QString& scheme, Moment now);
+FavoritesToCome favoritesToCome(const AllShows& all, const FavoriteTitles& favorites, Moment now);
 
 /// Shows of exactly this title that are not over.
 ShowItems showScheduleForTitle(const AllShows& all, const QString& title, Moment now);

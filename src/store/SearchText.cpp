@@ -1,7 +1,7 @@
 #include "store/SearchText.h"
 
-#include "platform/Utf8.h"
-#include "text/FoldedText.h"
+#include "platform/encoding/Utf8.h"
+#include "text/search/FoldedText.h"
 
 #include <algorithm>
 #include <cstring>

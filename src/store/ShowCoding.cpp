@@ -1,6 +1,6 @@
 #include "store/ShowCoding.h"
 
-#include "platform/KeyedArchiver.h"
+#include "platform/archive/KeyedArchiver.h"
 
 #include <QDebug>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "store/ShowDigest.h"
 
-#include "platform/Utf8.h"
+#include "platform/encoding/Utf8.h"
 
 #include <QByteArray>
 #include <QCryptographicHash>
@@ -46,17 +46,18 @@ ShowDigest showDigest(const ObjectId& channel, const std::optional<Moment>& date
     return digest;
 }
 
-std::optional<QUrl> urlDigestFromChannel(const ObjectId& channel, const std::optional<Moment>& date,
-                                         const std::optional<QString>& identificator, const QString& scheme) {
-    if (!identificator) {
-        return std::nullopt;
-    }
-    const ShowDigest digest = showDigest(channel, date, *identificator);
+QUrl urlOfDigest(const ShowDigest& digest, const QString& scheme) {
     QByteArray digits = QByteArray(reinterpret_cast<const char*>(digest.data()), digest.size()).toHex();
     if (!beginsWithLetter(digits)) {
         digits.prepend('c');
     }
     return QUrl(scheme + "://"_L1 + QLatin1StringView(digits));
+}
+
+std::optional<QUrl> urlDigestFromChannel(const ObjectId& channel, const std::optional<Moment>& date,
+                                         const std::optional<QString>& identificator, const QString& scheme) {
+    return identificator ? std::optional(urlOfDigest(showDigest(channel, date, *identificator), scheme))
+                         : std::nullopt;
 }
 
 std::optional<ShowDigest> digestOfUrl(const QUrl& url) {

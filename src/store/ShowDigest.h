@@ -7,7 +7,9 @@
 #include <QUrl>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 
 namespace guide {
@@ -15,12 +17,23 @@ namespace guide {
 /// What names one broadcast in URLs: an MD5 of its channel, start and title.
 using ShowDigest = std::array<std::uint8_t, 16>;
 
+/// The bytes of a digest are random already.
+struct ShowDigestHash {
+    std::size_t operator()(const ShowDigest& digest) const {
+        std::size_t hash = 0;
+        std::memcpy(&hash, digest.data(), sizeof hash);
+        return hash;
+    }
+};
+
 /// A start that is unset counts as the reference date, 1 January 2001, 00:00 UTC.
 ShowDigest showDigest(const ObjectId& channel, const std::optional<Moment>& date,
                       const QString& identificator);
 
-/// "scheme://digest" in lowercase hexadecimal digits, with a "c" in front when the first one is no letter;
-/// nothing without a title.
+/// "scheme://digest" in lowercase hexadecimal digits, with a "c" in front when the first one is not a letter.
+QUrl urlOfDigest(const ShowDigest& digest, const QString& scheme);
+
+/// The URL of a broadcast; nothing without a title.
 std::optional<QUrl> urlDigestFromChannel(const ObjectId& channel, const std::optional<Moment>& date,
                                          const std::optional<QString>& identificator, const QString& scheme);
 

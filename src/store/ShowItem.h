@@ -2,7 +2,7 @@
 
 #include "store/TVEntry.h"
 #include "store/TVEntrySupplementalData.h"
-#include "text/TVListingsCategory.h"
+#include "text/categories/TVListingsCategory.h"
 
 #include <QSet>
 #include <QUrl>

@@ -1,7 +1,6 @@
 #include "store/TVEntry.h"
 
-#include "store/ShowDigest.h"
-#include "text/Transliteration.h"
+#include "text/display/Transliteration.h"
 
 namespace guide {
 
@@ -48,6 +47,9 @@ TVEntry::~TVEntry() {
 void TVEntry::forgetDerived() {
     if (m_fullInstantDetails.load(std::memory_order_relaxed) != nullptr) {
         delete m_fullInstantDetails.exchange(nullptr, std::memory_order_acquire);
+    }
+    if (m_digest.load(std::memory_order_relaxed) != nullptr) {
+        delete m_digest.exchange(nullptr, std::memory_order_acquire);
     }
     if (m_urlDigest.load(std::memory_order_relaxed) != nullptr) {
         delete m_urlDigest.exchange(nullptr, std::memory_order_acquire);
@@ -148,12 +150,21 @@ std::optional<QString> TVEntry::fullInstantDetails() const {
     return joined ? keptOnce(m_fullInstantDetails, *std::move(text)) : text;
 }
 
+std::optional<ShowDigest> TVEntry::digest() const {
+    if (const ShowDigest* kept = m_digest.load(std::memory_order_acquire)) {
+        return *kept;
+    }
+    return m_source.title
+               ? std::optional(keptOnce(m_digest, showDigest(m_channel, m_dateTime, *m_source.title)))
+               : std::nullopt;
+}
+
 std::optional<QUrl> TVEntry::urlDigestWithScheme(const QString& scheme) const {
     if (const QUrl* kept = m_urlDigest.load(std::memory_order_acquire)) {
         return *kept;
     }
-    std::optional<QUrl> url = urlDigestFromChannel(m_channel, m_dateTime, m_source.title, scheme);
-    return url ? std::optional(keptOnce(m_urlDigest, *std::move(url))) : std::nullopt;
+    const std::optional<ShowDigest> known = digest();
+    return known ? std::optional(keptOnce(m_urlDigest, urlOfDigest(*known, scheme))) : std::nullopt;
 }
 
 } // namespace guide

@@ -2,7 +2,8 @@
 
 #include "core/ObjectId.h"
 #include "platform/Moment.h"
-#include "text/Alphabet.h"
+#include "store/ShowDigest.h"
+#include "text/display/Alphabet.h"
 
 #include <QString>
 #include <QUrl>
@@ -77,6 +78,8 @@ class TVEntry {
     /// Joined once and kept.
     std::optional<QString> fullInstantDetails() const;
 
+    /// What identifies this broadcast; unset without a title. Computed once and kept.
+    std::optional<ShowDigest> digest() const;
     /// The stable URL of this broadcast in the application's scheme; nothing without a title. Made once and
     /// kept: a later call with another scheme answers the first one.
     std::optional<QUrl> urlDigestWithScheme(const QString& scheme) const;
@@ -111,6 +114,7 @@ class TVEntry {
     std::unique_ptr<Texts> m_display;
 
     mutable std::atomic<const QString*> m_fullInstantDetails{nullptr};
+    mutable std::atomic<const ShowDigest*> m_digest{nullptr};
     mutable std::atomic<const QUrl*> m_urlDigest{nullptr};
 };
 

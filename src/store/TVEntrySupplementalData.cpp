@@ -1,6 +1,6 @@
 #include "store/TVEntrySupplementalData.h"
 
-#include "text/Transliteration.h"
+#include "text/display/Transliteration.h"
 
 namespace guide {
 

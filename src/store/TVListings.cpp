@@ -148,8 +148,6 @@ void TVListings::State::commitFiles() {
 
 TVListings::TVListings(TVListingsEnvironment environment)
     : m_state(std::make_shared<State>(std::move(environment))) {
-    m_state->environment.queues.mainQueue().async(
-        [&alarms = m_state->environment.alarms] { alarms.syncAlarms(); });
     m_state->startFirstRead();
 }
 
@@ -178,13 +176,7 @@ MergeResult TVListings::merge(const std::vector<LoadItem>& items, ParsedLists pa
         }
         state.scheduleSaving(std::move(channels));
     });
-    m_state->environment.alarms.setSynchronized(false);
-    m_state->environment.queues.mainQueue().async([state = m_state] {
-        if (state->environment.applicationState.applicationState() == ApplicationState::Background) {
-            state->environment.userDefaults.synchronize();
-        }
-        state->environment.alarms.syncAlarms();
-    });
+    m_state->environment.observer.listingsReplaced();
     return result;
 }
 

@@ -1,21 +1,20 @@
 #pragma once
 
-#include "core/Catalogue.h"
 #include "core/ListingsType.h"
 #include "core/TVChannels.h"
-#include "core/TVStationIcons.h"
 #include "platform/BackgroundTasks.h"
 #include "platform/Clock.h"
 #include "platform/Device.h"
-#include "platform/DispatchQueue.h"
-#include "platform/Folders.h"
 #include "platform/LifeCycle.h"
-#include "platform/MainBlock.h"
-#include "platform/UserDefaults.h"
-#include "store/CompoundListings.h"
+#include "platform/files/Folders.h"
+#include "platform/queues/DispatchQueue.h"
+#include "platform/queues/MainBlock.h"
+#include "store/FavoriteTitles.h"
 #include "store/ListMerge.h"
+#include "store/ListingsObserver.h"
+#include "store/PopularShows.h"
+#include "store/ScheduleQueries.h"
 #include "store/ShowItem.h"
-#include "store/ShowQuestions.h"
 
 #include <functional>
 #include <memory>
@@ -32,14 +31,11 @@ struct TVListingsEnvironment {
     DispatchQueues& queues;
     BackgroundTasks& backgroundTasks;
     const ApplicationStateSource& applicationState;
-    UserDefaults& userDefaults;
     TVChannels& channels;
-    TVStationIcons& icons;
-    const Catalogue& catalogue;
     const Alphabet& alphabet;
-    const FavoriteQuestions& favorites;
+    const FavoriteTitlesSource& favorites;
     PopularShows& popularShows;
-    AlarmSynchronisation& alarms;
+    ListingsObserver& observer;
     /// The application's URL scheme; empty when it has none.
     QString scheme;
     /// How many shows a channel the screens want.
@@ -109,30 +105,23 @@ class TVListings {
                                               std::function<void(ShowCounts)> block);
     /// Shows that share a bit with the mask, series only where the mask asks for them.
     void showsWithCategory(TVListingsCategory category, QueuePriority priority,
-                           MainBlock<CompoundResult> mainBlock);
+                           MainBlock<ShowSpan> mainBlock);
     /// The shows of a selector: the most watched, those of the evening, or all.
     void allShowsWithCategory(TVListingsCategory category, QueuePriority priority,
-                              MainBlock<CompoundResult> mainBlock);
+                              MainBlock<ShowSpan> mainBlock);
     /// Shows with the pattern in one of their texts, without regard to case and diacritics. Answers on the
     /// global user-initiated queue.
     void showsContainingPattern(const QString& pattern, ShowsBlock highPriorityBlock);
     /// The show with this digest URL. The block is not called when there is none.
     void showWithURL(const QUrl& url, MainBlock<ShowItem> mainBlock);
-    void favoritesScheduleWithPriority(QueuePriority priority, MainBlock<CompoundResult> mainBlock);
+    void favoritesScheduleWithPriority(QueuePriority priority, MainBlock<ShowSpan> mainBlock);
     /// Answers on the access queue: the block must not wait for the store.
     void favoritesScheduleWithBlock(ShowsBlock block);
-    /// Favourites that have not begun, and the same by the text of their digest URL. With the first argument
-    /// false, nothing is looked for where there are no favourites. Answers on the access queue, as above.
-    void favoritesScheduleWithPartialAllowed(
-        bool partialAllowed, std::function<void(ShowItems, std::unordered_map<QString, ShowItem>)> URLBlock);
-    void showScheduleForTitle(const QString& title, QueuePriority priority,
-                              MainBlock<CompoundResult> mainBlock);
+    /// Favourites that have not begun. Answers on the access queue: the block must not wait for the store.
+    void favoritesScheduleWithURLBlock(std::function<void(FavoritesToCome)> URLBlock);
+    void showScheduleForTitle(const QString& title, QueuePriority priority, MainBlock<ShowSpan> mainBlock);
     /// Whether a show of this source title, a repeat or not, is running or to come.
     void broadcastForTitle(const QString& title, bool previouslyShown, MainBlock<bool> mainBlock);
-
-    /// Groups shows by their day, off the main queue.
-    void compoundListingsWithShows(ShowItems shows, QueuePriority priority,
-                                   MainBlock<CompoundResult> mainBlock);
 
   private:
     struct State;

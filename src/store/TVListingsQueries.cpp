@@ -20,17 +20,13 @@ std::vector<ShowSpan> TVListings::State::onAirShows(const std::vector<ObjectId>&
     return shows;
 }
 
-void TVListings::State::answerCompound(QueuePriority priority, MainBlock<CompoundResult> mainBlock,
-                                       std::function<ShowItems(const State&, const AllShows&)> find) {
+void TVListings::State::answerShows(
+    QueuePriority priority, MainBlock<ShowSpan> mainBlock,
+    std::function<ShowItems(const TVListingsEnvironment&, const AllShows&)> find) {
     queryAllShows(priority, [mainBlock = std::move(mainBlock),
                              find = std::move(find)](State& state, const AllShows& all) mutable {
-        mainBlock.post(state.mainQueue(), state.compound(find(state, all)));
+        mainBlock.post(state.mainQueue(), ShowSpan(find(state.environment, all)));
     });
-}
-
-CompoundResult TVListings::State::compound(const ShowItems& shows) const {
-    return compoundListings(shows, *environment.catalogue.snapshot(), environment.icons,
-                            environment.device.locale(), environment.device.timeZone());
 }
 
 void TVListings::onAirShowsWithQueue(
@@ -81,23 +77,23 @@ void TVListings::showCountForSelectedChannelsForQueue(std::shared_ptr<DispatchQu
 }
 
 void TVListings::showsWithCategory(TVListingsCategory category, QueuePriority priority,
-                                   MainBlock<CompoundResult> mainBlock) {
-    m_state->answerCompound(priority, std::move(mainBlock),
-                            [category](const State& state, const AllShows& all) {
-                                return guide::showsWithCategory(all, category, state.environment.clock.now());
-                            });
+                                   MainBlock<ShowSpan> mainBlock) {
+    m_state->answerShows(priority, std::move(mainBlock),
+                         [category](const TVListingsEnvironment& environment, const AllShows& all) {
+                             return guide::showsWithCategory(all, category, environment.clock.now());
+                         });
 }
 
 void TVListings::allShowsWithCategory(TVListingsCategory category, QueuePriority priority,
-                                      MainBlock<CompoundResult> mainBlock) {
-    m_state->answerCompound(
-        priority, std::move(mainBlock), [category](const State& state, const AllShows& all) {
-            const TVListingsEnvironment& environment = state.environment;
-            const Moment now = environment.clock.now();
-            return category == TVListingsCategoryMostWatched
-                       ? showsNotEnded(environment.popularShows.popularShows(), now)
-                       : guide::allShowsWithCategory(all, category, now, environment.device.timeZone());
-        });
+                                      MainBlock<ShowSpan> mainBlock) {
+    m_state->answerShows(priority, std::move(mainBlock),
+                         [category](const TVListingsEnvironment& environment, const AllShows& all) {
+                             const Moment now = environment.clock.now();
+                             return category == TVListingsCategoryMostWatched
+                                        ? showsNotEnded(environment.popularShows.popularShows(), now)
+                                        : guide::allShowsWithCategory(all, category, now,
+                                                                      environment.device.timeZone());
+                         });
 }
 
 void TVListings::showsContainingPattern(const QString& pattern, ShowsBlock highPriorityBlock) {
@@ -120,36 +116,33 @@ void TVListings::showWithURL(const QUrl& url, MainBlock<ShowItem> mainBlock) {
     });
 }
 
-void TVListings::favoritesScheduleWithPriority(QueuePriority priority, MainBlock<CompoundResult> mainBlock) {
-    m_state->answerCompound(priority, std::move(mainBlock), [](const State& state, const AllShows& all) {
-        return favoritesSchedule(all, state.environment.favorites, state.environment.clock.now());
-    });
+void TVListings::favoritesScheduleWithPriority(QueuePriority priority, MainBlock<ShowSpan> mainBlock) {
+    m_state->answerShows(
+        priority, std::move(mainBlock), [](const TVListingsEnvironment& environment, const AllShows& all) {
+            return favoritesSchedule(all, *environment.favorites.titles(), environment.clock.now());
+        });
 }
 
 void TVListings::favoritesScheduleWithBlock(ShowsBlock block) {
     m_state->query([block = std::move(block)](State& state) {
-        block(favoritesSchedule(*state.allShows, state.environment.favorites, state.environment.clock.now()));
+        block(favoritesSchedule(*state.allShows, *state.environment.favorites.titles(),
+                                state.environment.clock.now()));
     });
 }
 
-void TVListings::favoritesScheduleWithPartialAllowed(
-    bool partialAllowed, std::function<void(ShowItems, std::unordered_map<QString, ShowItem>)> URLBlock) {
-    m_state->query([partialAllowed, block = std::move(URLBlock)](State& state) {
-        const TVListingsEnvironment& environment = state.environment;
-        FavoritesToCome found;
-        if (partialAllowed || environment.favorites.hasFavorites()) {
-            found = favoritesToCome(*state.allShows, environment.favorites, environment.scheme,
-                                    environment.clock.now());
-        }
-        block(std::move(found.shows), std::move(found.byURL));
+void TVListings::favoritesScheduleWithURLBlock(std::function<void(FavoritesToCome)> URLBlock) {
+    m_state->query([block = std::move(URLBlock)](State& state) {
+        block(favoritesToCome(*state.allShows, *state.environment.favorites.titles(),
+                              state.environment.clock.now()));
     });
 }
 
 void TVListings::showScheduleForTitle(const QString& title, QueuePriority priority,
-                                      MainBlock<CompoundResult> mainBlock) {
-    m_state->answerCompound(priority, std::move(mainBlock), [title](const State& state, const AllShows& all) {
-        return guide::showScheduleForTitle(all, title, state.environment.clock.now());
-    });
+                                      MainBlock<ShowSpan> mainBlock) {
+    m_state->answerShows(priority, std::move(mainBlock),
+                         [title](const TVListingsEnvironment& environment, const AllShows& all) {
+                             return guide::showScheduleForTitle(all, title, environment.clock.now());
+                         });
 }
 
 void TVListings::broadcastForTitle(const QString& title, bool previouslyShown, MainBlock<bool> mainBlock) {
@@ -159,15 +152,6 @@ void TVListings::broadcastForTitle(const QString& title, bool previouslyShown, M
                                mainBlock.post(state.mainQueue(), isBroadcast(all, title, previouslyShown,
                                                                              state.environment.clock.now()));
                            });
-}
-
-void TVListings::compoundListingsWithShows(ShowItems shows, QueuePriority priority,
-                                           MainBlock<CompoundResult> mainBlock) {
-    m_state->underway.async(
-        m_state->environment.queues.globalQueue(priority),
-        [state = m_state, shows = std::move(shows), mainBlock = std::move(mainBlock)]() mutable {
-            mainBlock.post(state->mainQueue(), state->compound(shows));
-        });
 }
 
 } // namespace guide

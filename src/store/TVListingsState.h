@@ -26,10 +26,9 @@ struct TVListings::State : std::enable_shared_from_this<State> {
     /// Schedules the lists, and writes them when the program is in the background.
     void scheduleSaving(std::vector<ObjectId> channels);
     void commitFiles();
-    /// Answers the shows that `find` finds among all, grouped by day. `find` runs on the global queue.
-    void answerCompound(QueuePriority priority, MainBlock<CompoundResult> mainBlock,
-                        std::function<ShowItems(const State&, const AllShows&)> find);
-    CompoundResult compound(const ShowItems& shows) const;
+    /// Answers the shows that `find` finds among all. `find` runs on the global queue.
+    void answerShows(QueuePriority priority, MainBlock<ShowSpan> mainBlock,
+                     std::function<ShowItems(const TVListingsEnvironment&, const AllShows&)> find);
     DispatchQueue& mainQueue() const { return environment.queues.mainQueue(); }
     void setTimeLoaded(const ObjectId& channel) const;
     /// The list of the channel's file without what has ended; null when there is none.

@@ -1,7 +1,7 @@
 #include "alarms/SilentHours.h"
 
 #include "fakes/FakeDevice.h"
-#include "fakes/MemoryKeyValueStore.h"
+#include "platform/memory/MemoryKeyValueStore.h"
 
 #include <QDateTime>
 
@@ -35,24 +35,24 @@ TEST(SilentHours, ReadStoredDatesInTheDevicesZone) {
     MemoryKeyValueStore store;
     FakeDevice device;
     device.zone = QTimeZone("Europe/Prague");
-    const SilentHours hours(store, device);
+    const auto hours = [&] { return SilentHours(store, device); };
     const auto at = [](const char* utc) {
         return Moment(std::chrono::milliseconds(
             QDateTime::fromString(QString::fromLatin1(utc), Qt::ISODate).toMSecsSinceEpoch()));
     };
     const Moment night = at("2026-11-21T04:00:00Z");
-    EXPECT_TRUE(hours.mayBeAlarmedAt(night)) << "the feature is off";
+    EXPECT_TRUE(hours().mayBeAlarmedAt(night)) << "the feature is off";
 
     store.setValue(u"noAlarmsSchedule"_s, true);
-    EXPECT_FALSE(hours.mayBeAlarmedAt(night)) << "05:00 lies in the default stretch";
-    EXPECT_TRUE(hours.mayBeAlarmedAt(at("2026-11-21T06:00:00Z"))) << "07:00 is its end";
+    EXPECT_FALSE(hours().mayBeAlarmedAt(night)) << "05:00 lies in the default stretch";
+    EXPECT_TRUE(hours().mayBeAlarmedAt(at("2026-11-21T06:00:00Z"))) << "07:00 is its end";
 
     store.setValue(u"noAlarmsSchedule.0"_s,
                    QCborValue(QDateTime::fromString(u"2026-07-01T20:00:00Z"_s, Qt::ISODate)));
     store.setValue(u"noAlarmsSchedule.1"_s,
                    QCborValue(QDateTime::fromString(u"2026-07-01T21:30:00Z"_s, Qt::ISODate)));
-    EXPECT_TRUE(hours.mayBeAlarmedAt(night));
-    EXPECT_FALSE(hours.mayBeAlarmedAt(at("2026-11-21T21:30:00Z")))
+    EXPECT_TRUE(hours().mayBeAlarmedAt(night));
+    EXPECT_FALSE(hours().mayBeAlarmedAt(at("2026-11-21T21:30:00Z")))
         << "22:30 in Prague, between 22:00 and 23:30";
 }
 

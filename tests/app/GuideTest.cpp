@@ -1,10 +1,13 @@
 #include "app/GuideWorld.h"
 #include "core/ListingsFile.h"
+#include "fakes/Packing.h"
 #include "screens/kit/TableViewController.h"
 
 #include <QDir>
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <random>
 
 namespace guide {
 namespace {
@@ -15,7 +18,7 @@ using namespace std::chrono_literals;
 /// Past the end of the silence that follows an activation and an alert.
 constexpr auto kSilence = 61s;
 /// Half as much again as the world's small device unpacks of any page.
-constexpr std::uint64_t kBombSize = std::uint64_t(48) << 20;
+constexpr qsizetype kBombSize = qsizetype(48) << 20;
 
 TEST(Guide, LoadsShowsAndFindsThemAgainAfterARestart) {
     GuideWorld world;
@@ -38,35 +41,25 @@ TEST(Guide, LoadsShowsAndFindsThemAgainAfterARestart) {
     world.start();
     EXPECT_EQ(world.titles(u"first"_s).value(0), u"Morning 0"_s);
     ASSERT_TRUE(world.check());
-    EXPECT_EQ(world.server->requestCount(), 0) << "what is fresh is not asked for again";
+    EXPECT_TRUE(world.server->requests().empty()) << "what is fresh is not asked for again";
+}
+
+ServerReply page(const QByteArray& body, const QByteArray& type) {
+    return ServerReply::ok(body, {"Content-Type: " + type});
+}
+
+QByteArray randomBytes() {
+    QByteArray bytes(20'000, Qt::Uninitialized);
+    std::minstd_rand random;
+    std::generate(bytes.begin(), bytes.end(), [&random] { return char(random() >> 8); });
+    return bytes;
 }
 
 TEST(Guide, KeepsItsListsWhateverTheServerDoes) {
-    using Kind = Misbehaviour::Kind;
-    const struct {
-        const char* name;
-        Misbehaviour how;
-        /// Whether nothing at all came over the wire: what the person is told of.
-        bool alert;
-    } cases[] = {
-        {"not found", {Kind::Status, 404}, false},
-        {"server error", {Kind::Status, 503}, false},
-        {"redirects without end", {Kind::RedirectForever}, false},
-        {"empty body", {Kind::EmptyBody}, false},
-        {"dropped", {Kind::Drop}, true},
-        {"cut in the body", {Kind::CutBody}, true},
-        {"silent", {Kind::Stall}, true},
-        {"wrong charset", {Kind::WrongCharset}, false},
-        {"broken gzip", {Kind::BrokenGzip}, false},
-        {"broken xz", {Kind::BrokenXz}, false},
-        {"gzip bomb", {.kind = Kind::GzipBomb, .bombSize = kBombSize}, false},
-        {"xz bomb", {.kind = Kind::XzBomb, .bombSize = kBombSize}, false},
-        {"a web page", {Kind::HTML}, false},
-        {"garbage", {Kind::Garbage}, false},
-    };
     GuideWorld world;
-    world.serve(u"first"_s, 1, world.feed(u"Kept"_s, 12 * 24));
-    world.serve(u"second"_s, 1, world.feed(u"Kept"_s, 12 * 24));
+    const QByteArray feed = world.feed(u"Kept"_s, 12 * 24);
+    world.serve(u"first"_s, 1, feed);
+    world.serve(u"second"_s, 1, feed);
     world.serve(u"second"_s, 2, world.feed(u"Other"_s, 12 * 24));
     world.start();
     world.guide->applicationDidBecomeActive();
@@ -75,15 +68,43 @@ TEST(Guide, KeepsItsListsWhateverTheServerDoes) {
     TabBarController& tabs = world.guide->tabBarController();
     ASSERT_EQ(tabs.presentedAlert(), nullptr);
 
+    const QByteArray moved = world.server->base().toLatin1() + "/moved";
+    world.server->router().serveBelow("/moved", [&moved](const ServerRequest& request) {
+        return ServerReply::redirect(moved + request.target);
+    });
+    const QByteArray announced =
+        ServerReply::head(200, {"Content-Length: " + QByteArray::number(feed.size())});
+    const QByteArray large(kBombSize, ' ');
+    const struct {
+        const char* name;
+        ServerReply reply;
+        /// Whether the transfer brought nothing at all, which is what the user is alerted to.
+        bool alert;
+    } cases[] = {
+        {"not found", ServerReply::answer(404, feed), false},
+        {"server error", ServerReply::answer(503, feed), false},
+        {"redirects without end", ServerReply::redirect(moved), false},
+        {"empty body", page({}, "text/xml"), false},
+        {"dropped", {}, true},
+        {"cut in the body", ServerReply::raw(announced + feed.first(feed.size() / 2)), true},
+        {"silent", ServerReply::raw({}, ServerReply::End::Stall), true},
+        {"wrong charset", page("<tv><!-- P\xf8\xedli\x9a --></tv>", "text/xml; charset=utf-8"), false},
+        {"broken gzip", page(damaged(gzipped(feed)), "application/x-gzip"), false},
+        {"broken xz", page(damaged(xzPacked(feed)), "application/x-xz"), false},
+        {"gzip bomb", page(gzipped(large), "application/x-gzip"), false},
+        {"xz bomb", page(xzPacked(large, 0), "application/x-xz"), false},
+        {"a web page", page("<!DOCTYPE html>\n<html><p>Under construction<br></html>", "text/html"), false},
+        {"garbage", page(randomBytes(), "application/xml"), false},
+    };
     for (const auto& each : cases) {
         world.userDefaults.setInteger(u"data_update"_s, 3600);
         world.clock.advance(3601s);
         const QByteArrayList paths{GuideWorld::feedPath(u"first"_s, 1), GuideWorld::feedPath(u"first"_s, 2),
                                    GuideWorld::feedPath(u"second"_s, 1)};
         for (const QByteArray& path : paths) {
-            world.server->misbehave(path, each.how);
+            world.server->serve(path, each.reply);
         }
-        world.hopelessPaths = each.how.kind == Kind::Stall ? paths : QByteArrayList();
+        world.hopelessPaths = each.reply.end == ServerReply::End::Stall ? paths : QByteArrayList();
         world.serve(u"second"_s, 2, world.feed(u"Other"_s, 12 * 24));
         ASSERT_TRUE(world.check()) << each.name;
         EXPECT_TRUE(world.titles(u"first"_s).value(0).startsWith(u"Kept"_s)) << each.name;
@@ -94,7 +115,9 @@ TEST(Guide, KeepsItsListsWhateverTheServerDoes) {
             tabs.answerAlert(0);
             EXPECT_EQ(tabs.presentedAlert(), nullptr) << each.name << ": told once";
         }
-        world.server->behave();
+        world.serve(u"first"_s, 1, feed);
+        world.serve(u"second"_s, 1, feed);
+        world.server->router().remove(GuideWorld::feedPath(u"first"_s, 2));
     }
 }
 
@@ -108,7 +131,10 @@ TEST(Guide, AFailedReloadTakesNothingFromTheNextStart) {
     world.end();
 
     // The first list runs short, the second is to be loaded anew, and nobody has either of them.
-    world.server->misbehaveEverywhere({Misbehaviour::Kind::Status, 503});
+    for (const QString& key : {u"first"_s, u"second"_s}) {
+        world.server->serve(GuideWorld::feedPath(key, 1), ServerReply::answer(503, {}));
+        world.server->serve(GuideWorld::feedPath(key, 2), ServerReply::answer(503, {}));
+    }
     world.start();
     world.guide->channels().channelWithChannelId(GuideWorld::channel(u"second"_s))->requireReload();
     world.server->forgetRequests();

@@ -53,13 +53,14 @@ GuideWorld::GuideWorld() {
 GuideWorld::GuideWorld(const QStringList& sources) {
     std::vector<QStringList> single;
     for (const QString& source : sources) {
-        single.push_back({QString(source).replace("%1"_L1, server->base().section(u"//"_s, 1))});
+        single.push_back({QString(source).replace("%1"_L1, server->authority())});
     }
     furnish(single);
 }
 
 void GuideWorld::furnish(const std::vector<QStringList>& sources) {
-    // A small device, so that a bomb need not be large.
+    server->router().serveBelow("/", [](const ServerRequest&) { return ServerReply::answer(404, {}); });
+    // A small device, so that a decompression bomb can be small.
     device.memory = std::uint64_t(128) << 20;
     const QString root = m_folder.path();
     folders = {root + u"/caches"_s,  root + u"/documents"_s,  root + u"/configuration"_s,
@@ -110,7 +111,7 @@ QByteArray GuideWorld::feed(const QString& title, int count) const {
 }
 
 void GuideWorld::serve(const QString& key, int source, const QByteArray& feed) {
-    server->serve(feedPath(key, source), ServedResponse{200, "text/xml; charset=utf-8", feed});
+    server->serve(feedPath(key, source), ServerReply::ok(feed, {"Content-Type: text/xml; charset=utf-8"}));
 }
 
 void GuideWorld::wake() {

@@ -1,15 +1,15 @@
 #pragma once
 
 #include "app/QuellinGuideAppDelegate.h"
-#include "demo/DemoServer.h"
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeBackgroundTasks.h"
 #include "fakes/FakeDevice.h"
-#include "fakes/MemoryKeyValueStore.h"
-#include "fakes/MemoryUserDefaults.h"
-#include "platform/ThreadedQueues.h"
+#include "fakes/ScriptedServer.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/LinuxAudioSession.h"
+#include "platform/memory/MemoryKeyValueStore.h"
+#include "platform/memory/MemoryUserDefaults.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <QString>
 #include <QTemporaryDir>
@@ -39,13 +39,14 @@ class ImpatientHTTPClient final : public HTTPClient {
         : m_client(client)
         , m_hopelessPaths(hopelessPaths) {}
 
-    TransferResult perform(const HTTPRequest& request) override {
+    using HTTPClient::perform;
+    TransferResult perform(const HTTPRequest& request, const TakePiece& takePiece) override {
         HTTPRequest hasty = request;
         hasty.timeout = m_hopelessPaths.contains(request.url.path().toLatin1())
                             ? std::chrono::milliseconds(750)
                             : kPatience;
         hasty.resourceTimeout = hasty.timeout * 2;
-        return m_client.perform(hasty);
+        return m_client.perform(hasty, takePiece);
     }
     void removeCachedResponse(const HTTPRequest& request) override { m_client.removeCachedResponse(request); }
     void cancelAll() override { m_client.cancelAll(); }
@@ -99,7 +100,7 @@ class GuideWorld {
     MemoryUserDefaults userDefaults;
     MemoryKeyValueStore keyValueStore;
     FakeApplicationState state;
-    std::unique_ptr<DemoServer> server = DemoServer::start();
+    std::unique_ptr<ScriptedServer> server = std::make_unique<ScriptedServer>();
     std::unique_ptr<QuellinGuideAppDelegate> guide;
     Folders folders;
     SourceHostTable hosts;
@@ -116,7 +117,7 @@ class GuideWorld {
     bool m_awake = false;
     std::unique_ptr<FakeBackgroundTasks> m_tasks;
     LinuxAudioSession m_audio;
-    AbsentPromotion m_promotion;
+    Promotion m_promotion;
     std::unique_ptr<ThreadedQueues> m_queues;
     std::unique_ptr<ResponseCache> m_cache;
     std::unique_ptr<CurlHTTPClient> m_curl;

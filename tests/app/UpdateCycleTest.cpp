@@ -2,7 +2,7 @@
 
 #include "app/UpdateWorld.h"
 #include "fakes/ManualQueues.h"
-#include "platform/ThreadedQueues.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <gtest/gtest.h>
 
@@ -40,7 +40,7 @@ TEST_F(UpdateCycleTest, ChannelsOfOneFeedAreLoadedByOneRequestAndShown) {
     EXPECT_EQ(world.parses[0].items, "1 n.one sk, 2 n.two sk");
     EXPECT_TRUE(world.parses[0].allLoading);
     EXPECT_EQ(world.offered, "1:4 2:2 ") << "cut to what the list wants";
-    EXPECT_EQ(world.popular.refreshed, 1);
+    EXPECT_EQ(world.popular.refreshes, 1);
     EXPECT_EQ(world.tasks.begun(), 1U);
     EXPECT_EQ(world.tasks.running(), 0U);
 
@@ -66,7 +66,7 @@ TEST_F(UpdateCycleTest, ALaterSourceIsAskedOnlyForWhatTheEarlierOnesDidNotBring)
 
 TEST_F(UpdateCycleTest, AListIsDueByItsAge) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
-    world.defaults.setInteger(u"data_update"_s, 3600);
+    world.userDefaults.setInteger(u"data_update"_s, 3600);
     world.answer(kShared, "1 30");
     check(world);
     clock.advance(3600s);
@@ -91,7 +91,9 @@ TEST_F(UpdateCycleTest, AShortListIsAskedForAtEachCheckAndKeptWhenNothingComes) 
         EXPECT_TRUE(world.parses.empty());
         EXPECT_EQ(world.tasks.running(), 0U);
         EXPECT_EQ(onAir(world), "1:3 ");
-        EXPECT_TRUE(QFile::exists(world.listingsFile(1))) << "a failed load takes nothing away";
+        EXPECT_TRUE(QFile::exists(world.listingsFile(UpdateWorld::channelNumbered(1))))
+            << "a failed load takes nothing away";
+        EXPECT_EQ(world.popular.refreshes, 1) << "only a check that parsed something refreshes it";
     }
 }
 
@@ -156,15 +158,15 @@ TEST_F(UpdateCycleTest, ACheckOverMidnightPlansDayPagesAnew) {
     EXPECT_EQ(requests[14].cachedSince, Moment::min());
 }
 
-TEST_F(UpdateCycleTest, AReaderThatThrowsLosesItsOwnListAlone) {
+TEST_F(UpdateCycleTest, AnUnreadablePageLeavesNoChannelMarkedAsLoading) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}, {2, {u"s.two"_s}}});
-    world.answer(kShared, "throw");
+    world.answer(kShared, "unreadable");
     world.answer(kSecond, "2 5");
     check(world);
     EXPECT_EQ(world.offered, "2:4 ");
     world.answer(kShared, "1 5");
     check(world);
-    EXPECT_EQ(world.offered, "2:4 1:4 ") << "the channel is not taken for one that is being loaded";
+    EXPECT_EQ(world.offered, "2:4 1:4 ");
 }
 
 TEST_F(UpdateCycleTest, WhatARunningCheckLoadsIsNotLoadedAgainByTheNext) {
@@ -186,9 +188,10 @@ TEST_F(UpdateCycleTest, AChannelThatIsDeselectedMeanwhileIsNotStored) {
     world.answer(kShared, "1 5\n2 5");
     world.answer(kSecond, "3 5");
     world.client.onRequest([&](const HTTPRequest& request) {
-        world.channels.setSelected(request.url == QUrl(kShared)
-                                       ? std::vector{UpdateWorld::channel(2), UpdateWorld::channel(3)}
-                                       : std::vector{UpdateWorld::channel(2)});
+        world.channels->setSelected(
+            request.url == QUrl(kShared)
+                ? std::vector{UpdateWorld::channelNumbered(2), UpdateWorld::channelNumbered(3)}
+                : std::vector{UpdateWorld::channelNumbered(2)});
     });
     check(world);
     ASSERT_EQ(world.parses.size(), 1U);
@@ -244,8 +247,8 @@ TEST_F(UpdateCycleTest, WhatEachLoadDidIsKnownOfEverySource) {
     world.answer(kSecond, "1 5\n4 0");
     world.answerStatus(third, 404);
     check(world);
-    const auto health = [&](unsigned char channel) {
-        return world.sourceHealth.healthFor(UpdateWorld::channel(channel)).value_or(SourceHealth());
+    const auto health = [&](int channel) {
+        return world.sourceHealth.healthFor(UpdateWorld::channelNumbered(channel)).value_or(SourceHealth());
     };
     const auto used = [&](const QString& sourceId, int shows) {
         return UsedSource{sourceId, clock.now(), 1, shows, clock.now() + 60min * shows - 10min};
@@ -266,7 +269,7 @@ TEST_F(UpdateCycleTest, WhatEachLoadDidIsKnownOfEverySource) {
     const SourceHealth earlier = health(2);
     clock.advance(30 * 24h);
     world.answerNothing(kShared);
-    world.answer(kSecond, "throw");
+    world.answer(kSecond, "unreadable");
     check(world);
     EXPECT_EQ(health(2),
               (SourceHealth{clock.now(), earlier.used,
@@ -276,7 +279,7 @@ TEST_F(UpdateCycleTest, WhatEachLoadDidIsKnownOfEverySource) {
     EXPECT_EQ(health(2).used->at, before);
 
     // The file knows the same, of the selected channels.
-    world.channels.setSelected({UpdateWorld::channel(2), UpdateWorld::channel(3)});
+    world.channels->setSelected({UpdateWorld::channelNumbered(2), UpdateWorld::channelNumbered(3)});
     check(world);
     SourceHealthRecords read(world.folders.caches + u"/source-health.json"_s);
     read.read();
@@ -288,7 +291,7 @@ TEST_F(UpdateCycleTest, AnEndInTheMiddleIsNoFaultOfTheSource) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s, u"s.one"_s}}, {2, {u"s.two"_s}}});
     world.answerNothing(kShared);
     world.answer(kSecond, "1 5\n2 5");
-    const ObjectId one = UpdateWorld::channel(1);
+    const ObjectId one = UpdateWorld::channelNumbered(1);
     SourceHealthRecords earlier(world.folders.caches + u"/source-health.json"_s);
     earlier.record(one, {clock.now(), UsedSource{u"s.one"_s, clock.now(), 1, 5, std::nullopt}, {}});
     earlier.write({one});

@@ -48,8 +48,8 @@ TEST(UpdatePlanTest, PlansEverySource) {
     const auto sources = planSources(row, [&](const QString& sourceId) {
         asked << sourceId;
         return sourceId == u"none" || sourceId.isEmpty()
-                   ? std::nullopt
-                   : std::optional(QList{QUrl(u"http://"_s + sourceId)});
+                   ? SourcePlan()
+                   : SourcePlan{ListingsType::Nova, QList{QUrl(u"http://"_s + sourceId)}};
     });
     EXPECT_EQ(asked, row.sourceIds);
     ASSERT_EQ(sources.size(), 4U);
@@ -78,7 +78,7 @@ std::string described(const std::vector<UpdateStep>& steps) {
 
 TEST(UpdatePlanTest, OrdersTheListsBySourceNumberAndSharesEqualOnes) {
     const auto source = [](unsigned number, const char* id, std::initializer_list<const char*> hosts) {
-        PlannedSource planned{number, QString::fromLatin1(id), {}};
+        PlannedSource planned{number, QString::fromLatin1(id), ListingsType::XMLTV, {}};
         for (const char* host : hosts) {
             planned.urls << QUrl(u"http://"_s + QString::fromLatin1(host));
         }
@@ -121,11 +121,15 @@ TEST(UpdatePlanTest, OrdersTheListsBySourceNumberAndSharesEqualOnes) {
 }
 
 TEST(UpdatePlanTest, KeepsWhatIsStillDueWhenTheTurnComes) {
-    const UpdateStep step{{}, {{channel(1), u"a"_s}, {channel(2), u"b"_s}, {channel(3), u"c"_s}}};
-    const auto items = loadItems(
-        step, [](const ObjectId& id) { return id == channel(2) ? std::nullopt : std::optional(u"cs"_s); });
+    const UpdateStep step{{},
+                          {{channel(1), u"a"_s, ListingsType::XMLTV},
+                           {channel(2), u"b"_s, ListingsType::Nova},
+                           {channel(3), u"c"_s, ListingsType::HBO}}};
+    const auto [items, type] = dueItems(
+        step, [](const ObjectId& id) { return id == channel(1) ? std::nullopt : std::optional(u"cs"_s); });
+    EXPECT_EQ(type, ListingsType::Nova) << "of the first channel that is still due";
     ASSERT_EQ(items.size(), 2U);
-    EXPECT_EQ(items[0].channel, channel(1));
+    EXPECT_EQ(items[0].channel, channel(2));
     EXPECT_EQ(items[1].channel, channel(3));
     EXPECT_EQ(items[1].sourceId, u"c"_s);
     EXPECT_EQ(items[1].language, u"cs"_s);

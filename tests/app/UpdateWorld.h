@@ -1,41 +1,32 @@
 #pragma once
 
-#include "app/AbsentParts.h"
 #include "app/UpdateCycle.h"
-#include "core/ListingsFile.h"
-#include "core/TVStationIcons.h"
-#include "fakes/FakeApplicationState.h"
-#include "fakes/FakeBackgroundTasks.h"
-#include "fakes/FakeDevice.h"
 #include "fakes/FakeHTTPClient.h"
-#include "fakes/ManualClock.h"
-#include "fakes/MemoryKeyValueStore.h"
-#include "fakes/MemoryUserDefaults.h"
+#include "fakes/StoreFixture.h"
+#include "platform/memory/ManualClock.h"
 #include "sources/SourceId.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-
-#include <stdexcept>
 #include <string>
 
 namespace guide {
 
-struct CountedPopularShows final : PopularShows {
-    ShowList popularShows() const override { return nullptr; }
-    bool contains(const ShowItem&) const override { return false; }
-    void refresh() override { ++refreshed; }
+/// A store with channels by number, their sources, all of them selected.
+struct UpdateStore : test::StoreFixture {
+    using Selection = std::vector<std::pair<int, QStringList>>;
 
-    std::atomic<int> refreshed = 0;
+    UpdateStore(const Clock& ownClock, DispatchQueues& ownQueues, const Selection& selection)
+        : StoreFixture(ownClock, ownQueues) {
+        for (const auto& [number, sources] : selection) {
+            addChannel(number, {.language = QStringLiteral("sk"), .sourceIds = sources});
+        }
+        open();
+    }
 };
 
-/// Everything that the cycle works with on top of a faked device, with a reader of its own: a page says in
-/// each line a channel, how many shows of an hour it has, the first one running, and by how many hours they
-/// are moved. A page "throw" throws.
-class UpdateWorld {
+/// An update cycle over a store, with its own reader: each line of a page gives a channel, how many shows of
+/// an hour it has, the first one running, and by how many hours they are moved.
+class UpdateWorld : public UpdateStore {
   public:
-    using Selection = std::vector<std::pair<unsigned char, QStringList>>;
-
     struct Parse {
         std::string items;
         std::vector<QByteArray> pages;
@@ -43,21 +34,8 @@ class UpdateWorld {
         bool allLoading;
     };
 
-    /// Channels by the last byte of their identity, with their sources; all of them selected.
-    UpdateWorld(DispatchQueues& ownQueues, ManualClock& ownClock, Selection selection)
-        : clock(ownClock)
-        , queues(ownQueues)
-        , m_selection(std::move(selection)) {}
-
-    static ObjectId channel(unsigned char number) {
-        ObjectId::Bytes bytes{};
-        bytes.back() = number;
-        return ObjectId(bytes);
-    }
-
-    QString listingsFile(unsigned char number) const {
-        return folders.caches + u'/' + listingsFileFromChannelIdentificator(channel(number));
-    }
+    UpdateWorld(DispatchQueues& ownQueues, const Clock& ownClock, const Selection& selection)
+        : UpdateStore(ownClock, ownQueues, selection) {}
 
     void answer(const QString& url, const QByteArray& page) {
         client.answer(QUrl(url), FakeHTTPClient::response(200, page));
@@ -100,56 +78,8 @@ class UpdateWorld {
         });
     }
 
-    ManualClock& clock;
-    DispatchQueues& queues;
-
   private:
-    Selection m_selection;
-    QTemporaryDir m_folder;
     std::size_t m_requestsSeen = 0;
-
-    Folders makeFolders() const {
-        const QDir dir(m_folder.path());
-        dir.mkpath(QStringLiteral("caches"));
-        dir.mkpath(QStringLiteral("documents"));
-        Folders made;
-        made.caches = dir.filePath(QStringLiteral("caches"));
-        made.documents = dir.filePath(QStringLiteral("documents"));
-        return made;
-    }
-    CatalogueSnapshot listedChannels() const {
-        std::vector<CatalogueChannel> listed;
-        for (const auto& [number, sources] : m_selection) {
-            listed.push_back({channel(number), QString::number(number), QStringLiteral("sk"),
-                              QStringLiteral("Slovak"), QStringLiteral("icon"), sources});
-        }
-        return CatalogueSnapshot(listed);
-    }
-
-    std::unique_ptr<TVListings> makeListings() {
-        catalogue.replace(listedChannels());
-        std::vector<ObjectId> selected;
-        for (const auto& [number, sources] : m_selection) {
-            selected.push_back(channel(number));
-        }
-        channels.setSelected(std::move(selected));
-        return std::make_unique<TVListings>(TVListingsEnvironment{clock,
-                                                                  device,
-                                                                  folders,
-                                                                  queues,
-                                                                  tasks,
-                                                                  state,
-                                                                  defaults,
-                                                                  channels,
-                                                                  icons,
-                                                                  catalogue,
-                                                                  alphabet,
-                                                                  favorites,
-                                                                  popular,
-                                                                  alarms,
-                                                                  {},
-                                                                  [] { return 4; }});
-    }
 
     MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
                         ListingsType type) {
@@ -159,7 +89,7 @@ class UpdateWorld {
             const unsigned number = item.channel.bytes().back();
             parse.items += (parse.items.empty() ? "" : ", ") + std::to_string(number) + ' ' +
                            item.sourceId.toStdString() + ' ' + item.language.toStdString();
-            const auto record = channels.channelWithChannelId(item.channel);
+            const auto record = channels->channelWithChannelId(item.channel);
             parse.allLoading = parse.allLoading && record && record->loading();
             for (const QByteArray& page : pages) {
                 for (const QByteArray& line : page.split('\n')) {
@@ -178,11 +108,23 @@ class UpdateWorld {
             }
         }
         parses.push_back(std::move(parse));
-        if (pages.front() == "throw") {
-            throw std::runtime_error("reader");
-        }
         return listings->merge(items, std::move(lists), now, type);
     }
+
+    /// Reads the lines of this test's pages.
+    struct Reader final : ListDriver {
+        explicit Reader(UpdateWorld& ownWorld)
+            : ListDriver({.clock = ownWorld.clock,
+                          .alphabet = ownWorld.alphabet,
+                          .hosts = ownWorld.planner.hosts(),
+                          .merge = {}})
+            , world(ownWorld) {}
+        MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
+                            Moment now, ListingsType type) const override {
+            return world.netList(items, pages, now, type);
+        }
+        UpdateWorld& world;
+    };
 
     void offer(const TopLists& top) {
         for (const auto& [id, shows] : top) {
@@ -197,21 +139,7 @@ class UpdateWorld {
     }
 
   public:
-    FakeDevice device;
-    const Folders folders = makeFolders();
-    FakeBackgroundTasks tasks;
-    FakeApplicationState state;
-    MemoryUserDefaults defaults;
-    MemoryKeyValueStore keyValueStore;
-    Catalogue catalogue;
-    TVChannels channels{folders, keyValueStore, queues, catalogue};
-    TVStationIcons icons{folders.caches, 1.0};
-    Alphabet alphabet;
-    NoFavorites favorites;
-    CountedPopularShows popular;
-    NoAlarms alarms;
-    std::unique_ptr<TVListings> listings = makeListings();
-    Settings settings{defaults};
+    Settings settings{userDefaults};
     FakeHTTPClient client;
     NetworkActivity activity{queues, [](bool) {}};
     URLPlanner planner{hosts(), [](unsigned) { return 0U; }};
@@ -229,12 +157,11 @@ class UpdateWorld {
     /// "channel:shows " for each list that the screens were offered.
     std::string offered;
 
-    UpdateCycle cycle{UpdateCycleEnvironment{
-        clock, device, queues, checkQueue, loadQueue, tasks, state, channels, catalogue, settings, planner,
-        fetcher, userAgent, *listings, sourceHealth,
-        [this](const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
-               ListingsType type) { return netList(items, pages, now, type); },
-        [] { return 4; }, [this](const TopLists& top) { offer(top); }}};
+    const Reader reader{*this};
+    UpdateCycle cycle{UpdateCycleEnvironment{clock, device, queues, checkQueue, loadQueue, tasks, state,
+                                             *channels, catalogue, settings, planner, fetcher, userAgent,
+                                             *listings, sourceHealth, reader, [] { return 4; },
+                                             [this](const TopLists& top) { offer(top); }}};
 };
 
 } // namespace guide

@@ -1,8 +1,8 @@
 #include "core/CatalogueFiles.h"
 
 #include "core/Catalogue.h"
-#include "platform/Archive.h"
-#include "platform/FileReplacement.h"
+#include "platform/archive/Archive.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QCborArray>
 #include <QCborMap>
@@ -54,7 +54,7 @@ TEST_F(CatalogueFilesTest, UsesTheArchiveWhileItIsNewer) {
     EXPECT_EQ(iconsLooked, 1);
     supply("Dvě", kSupplied);
     EXPECT_EQ(load(), u"Jedna"_s) << "from the archive";
-    EXPECT_EQ(iconsLooked, 1) << "without a look at the icons";
+    EXPECT_EQ(iconsLooked, 1) << "icons are not loaded";
 
     const Moment archived = *fileModificationDate(archive);
     supply("Dvě", archived);

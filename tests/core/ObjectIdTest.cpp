@@ -18,7 +18,7 @@ TEST(ObjectIdTest, ReadsHexadecimalPairs) {
         {"digits of both cases", u"58F4ded60befe78cb336a80C"_s, u"58f4ded60befe78cb336a80c"_s},
         {"one character short", u"58f4ded60befe78cb336a80"_s, zero},
         {"one character long", u"58f4ded60befe78cb336a80c0"_s, zero},
-        {"a pair that is none", u"zzf4ded60befe78cb336a80c"_s, u"00f4ded60befe78cb336a80c"_s},
+        {"a pair that is not hexadecimal", u"zzf4ded60befe78cb336a80c"_s, u"00f4ded60befe78cb336a80c"_s},
         {"a pair that stops early", u"1gf4ded60befe78cb336a80c"_s, u"01f4ded60befe78cb336a80c"_s},
         {"a pair with a leading blank", u" 7f4ded60befe78cb336a80c"_s, u"07f4ded60befe78cb336a80c"_s},
         {"a pair of blanks", u"  f4ded60befe78cb336a80c"_s, u"00f4ded60befe78cb336a80c"_s},

@@ -1,7 +1,7 @@
 #include "core/RemoteHostAlert.h"
 
-#include "fakes/ManualClock.h"
 #include "fakes/ManualQueues.h"
+#include "platform/memory/ManualClock.h"
 
 #include <gtest/gtest.h>
 
@@ -39,18 +39,18 @@ class RemoteHostAlertTest : public testing::Test {
         std::make_unique<RemoteHostAlert>(clock, queues.mainQueue(), presenter);
 };
 
-TEST_F(RemoteHostAlertTest, TellsOnceInMoreThanSixtySeconds) {
+TEST_F(RemoteHostAlertTest, AlertsAtMostOnceInSixtySeconds) {
     EXPECT_EQ(alertsAfterFailure(), 1u);
     clock.advance(60s);
     EXPECT_EQ(alertsAfterFailure(), 1u);
     clock.advance(1s);
-    EXPECT_EQ(alertsAfterFailure(), 1u) << "the first one is still there to be read";
+    EXPECT_EQ(alertsAfterFailure(), 1u) << "the first alert is still open";
 
     clock.advance(100s);
     presenter.press();
     EXPECT_EQ(presenter.playersEnded, 1);
     clock.advance(60s);
-    EXPECT_EQ(alertsAfterFailure(), 1u) << "the minute runs from the press";
+    EXPECT_EQ(alertsAfterFailure(), 1u) << "the minute starts when OK is pressed";
     clock.advance(1s);
     EXPECT_EQ(alertsAfterFailure(), 2u);
     presenter.press();
@@ -61,10 +61,10 @@ TEST_F(RemoteHostAlertTest, TellsOnceInMoreThanSixtySeconds) {
     EXPECT_EQ(alertsAfterFailure(), 2u);
 
     clock.advance(-24h);
-    EXPECT_EQ(alertsAfterFailure(), 3u) << "a clock that was set back";
+    EXPECT_EQ(alertsAfterFailure(), 3u) << "the clock was set back";
 }
 
-TEST_F(RemoteHostAlertTest, FallsBackTextByText) {
+TEST_F(RemoteHostAlertTest, EachMissingTextHasADefault) {
     alertsAfterFailure();
     presenter.press();
     clock.advance(2min);
@@ -76,7 +76,7 @@ TEST_F(RemoteHostAlertTest, FallsBackTextByText) {
     EXPECT_EQ(presenter.alerts[1], std::pair(u"No route"_s, u"Move"_s));
 }
 
-TEST_F(RemoteHostAlertTest, ShowsNothingAfterItsEnd) {
+TEST_F(RemoteHostAlertTest, ShowsNothingAfterDestruction) {
     alert->noRemoteHostAlert({});
     alert.reset();
     queues.run("main");

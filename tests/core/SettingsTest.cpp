@@ -1,7 +1,7 @@
 #include "core/Settings.h"
 
-#include "fakes/MemoryUserDefaults.h"
 #include "platform/Moment.h"
+#include "platform/memory/MemoryUserDefaults.h"
 
 #include <gtest/gtest.h>
 #include <limits>

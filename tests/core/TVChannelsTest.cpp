@@ -1,12 +1,12 @@
 #include "core/TVChannels.h"
 
 #include "core/ListingsFile.h"
-#include "fakes/ManualClock.h"
 #include "fakes/ManualQueues.h"
-#include "fakes/MemoryKeyValueStore.h"
-#include "platform/Archive.h"
-#include "platform/FileReplacement.h"
-#include "platform/ThreadedQueues.h"
+#include "platform/archive/Archive.h"
+#include "platform/files/FileReplacement.h"
+#include "platform/memory/ManualClock.h"
+#include "platform/memory/MemoryKeyValueStore.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <QCborArray>
 #include <QDir>
@@ -56,7 +56,7 @@ TEST_F(TVChannelsTest, SelectionOutlivesTheProcessInItsOrder) {
         EXPECT_TRUE(channels.selected().empty());
         channels.setSelected({kB, kUnknown, kA});
         EXPECT_EQ(channels.selected(), (std::vector{kB, kUnknown, kA}));
-        EXPECT_FALSE(QFile::exists(path())) << "written behind the caller";
+        EXPECT_FALSE(QFile::exists(path())) << "written asynchronously";
         queues.runAll();
     }
     EXPECT_EQ(makeChannels().selected(), (std::vector{kB, kUnknown, kA}));
@@ -80,7 +80,7 @@ TEST_F(TVChannelsTest, AnEqualSelectionWritesNothing) {
     EXPECT_EQ(keyValueStore.valueForKey(u"SelectedChannels"_s), QCborValue(QCborArray{}));
 }
 
-TEST_F(TVChannelsTest, AFailedWriteIsNotMirroredAndIsTriedAgain) {
+TEST_F(TVChannelsTest, AFailedWriteIsNotMirroredAndIsRetried) {
     TVChannels channels = makeChannels();
     ASSERT_TRUE(QDir().mkdir(path()) && QDir(path()).mkdir(u"in the way"_s));
     channels.setSelected({kA});
@@ -97,7 +97,7 @@ TEST_F(TVChannelsTest, AFailedWriteIsNotMirroredAndIsTriedAgain) {
     EXPECT_EQ(keyValueStore.writeCount(), 1);
 }
 
-TEST_F(TVChannelsTest, WhatCannotBeReadIsNoSelection) {
+TEST_F(TVChannelsTest, AnUnreadableFileIsAnEmptySelection) {
     const QByteArray whole = archivedData(QCborArray{kA.data(), QByteArray(11, 'x'), 5, kB.data()});
     struct Row {
         const char* name;
@@ -133,7 +133,7 @@ TEST_F(TVChannelsTest, RecordsFollowTheSelection) {
     EXPECT_NE(channels.channelWithChannelId(kA), a);
     queues.runAll();
 
-    EXPECT_TRUE(makeChannels().channelWithChannelId(kA)) << "the first question, before selected";
+    EXPECT_TRUE(makeChannels().channelWithChannelId(kA)) << "before the first call of selected";
 }
 
 TEST_F(TVChannelsTest, RecordsFollowTheCatalogue) {
@@ -170,11 +170,11 @@ TEST_F(TVChannelsTest, AChannelIsDueByItsAge) {
     channel.setLoading(false);
 
     ASSERT_TRUE(QFile::remove(file));
-    EXPECT_FALSE(channel.reloadNeeded(now, 24h)) << "the date is remembered";
+    EXPECT_FALSE(channel.reloadNeeded(now, 24h)) << "the date is cached";
     ASSERT_TRUE(replaceFile(file, "list", now));
     channel.requireReload();
     EXPECT_TRUE(QFile::exists(file));
-    EXPECT_TRUE(channel.reloadNeeded(now, 24h)) << "the date of the file does not count";
+    EXPECT_TRUE(channel.reloadNeeded(now, 24h)) << "the file date is ignored";
     EXPECT_FALSE(channel.timeLoaded());
     channel.setTimeLoaded(now);
     EXPECT_FALSE(channel.reloadNeeded(now, 24h));
@@ -185,7 +185,7 @@ TEST_F(TVChannelsTest, AChannelIsDueByItsAge) {
     EXPECT_FALSE(channel.reloadNeeded(now, 24h));
 }
 
-TEST(TVChannelsThreadsTest, ReadersAndWritersOfManyThreads) {
+TEST(TVChannelsThreadsTest, ReadersAndWritersOnSeveralThreads) {
     const QTemporaryDir folder;
     const Folders folders{folder.path(), folder.path(), {}, {}, {}, {}};
     MemoryKeyValueStore keyValueStore;
@@ -215,7 +215,7 @@ TEST(TVChannelsThreadsTest, ReadersAndWritersOfManyThreads) {
     TVChannels channels(folders, keyValueStore, threads, catalogue);
     EXPECT_EQ(channels.selected(), (std::vector{kA, kB}));
     channels.setSelected({kB});
-    EXPECT_TRUE(channels.finishWriting()) << "also when the queues have ended";
+    EXPECT_TRUE(channels.finishWriting()) << "even after the queues have shut down";
 }
 
 } // namespace

@@ -17,7 +17,7 @@ QImage filled(int width, int height, Qt::GlobalColor color = Qt::red) {
     return image;
 }
 
-TEST(TVStationIconsTest, ReachesOneSizeByLetterboxing) {
+TEST(TVStationIconsTest, LetterboxesToOneSize) {
     struct Row {
         const char* name;
         QSize size;
@@ -29,7 +29,7 @@ TEST(TVStationIconsTest, ReachesOneSizeByLetterboxing) {
         {"tall", {36, 144}, 1, {21, 0, 9, 36}},
         {"small is enlarged", {25, 18}, 1, {0, 0, 50, 36}},
         {"three pixels a point", {30, 30}, 3, {21, 0, 108, 108}},
-        {"a hair", {1, 4000}, 1, {25, 0, 1, 36}},
+        {"very narrow", {1, 4000}, 1, {25, 0, 1, 36}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -57,6 +57,20 @@ TEST(TVStationIconsTest, KeepsABitmapOfTheRightSize) {
     EXPECT_EQ(icon.devicePixelRatio(), 2);
     EXPECT_EQ(icon.pixel(7, 7), qRgb(1, 2, 3));
     EXPECT_TRUE(TVStationIcons::toIcon(QImage(), 2).isNull());
+}
+
+TEST(TVStationIconsTest, RendersSVGAtTheIconsOwnSize) {
+    QTemporaryDir folder;
+    QFile svg(folder.filePath(u"halves.svg"_s));
+    ASSERT_TRUE(svg.open(QIODevice::WriteOnly));
+    svg.write(R"(<svg xmlns="http://www.w3.org/2000/svg" width="10" height="6" viewBox="0 0 10 6">)"
+              R"(<rect width="10" height="6" fill="#f00"/><rect width="5" height="6" fill="#00f"/></svg>)");
+    svg.close();
+    const QImage icon = TVStationIcons(folder.path(), 2).iconNamed(u"halves"_s);
+    ASSERT_EQ(icon.size(), QSize(100, 72));
+    EXPECT_EQ(icon.pixelColor(50, 4).alpha(), 0);
+    EXPECT_EQ(icon.pixelColor(48, 36), QColor(Qt::blue)) << "an enlarged bitmap would be blurred here";
+    EXPECT_EQ(icon.pixelColor(51, 36), QColor(Qt::red));
 }
 
 TEST(TVStationIconsTest, FindsIconsByName) {
@@ -87,9 +101,9 @@ TEST(TVStationIconsTest, FindsIconsByName) {
     EXPECT_FALSE(stationIcons.hasIconFile(u"none"_s));
 
     ASSERT_TRUE(QFile::remove(icons + u"/one.png"_s));
-    EXPECT_FALSE(stationIcons.iconNamed(u"one"_s).isNull()) << "kept";
+    EXPECT_FALSE(stationIcons.iconNamed(u"one"_s).isNull()) << "cached";
     stationIcons.dropIcons();
-    EXPECT_TRUE(stationIcons.iconNamed(u"one"_s).isNull()) << "read anew";
+    EXPECT_TRUE(stationIcons.iconNamed(u"one"_s).isNull()) << "read again";
 }
 
 } // namespace

@@ -1,10 +1,10 @@
-#include "demo/XMLTVWriter.h"
+#include "demo/feeds/XMLTVWriter.h"
 
-#include "demo/ScheduleGenerator.h"
-#include "demo/TopicWords.h"
-#include "parsers/XMLTVToEntries.h"
-#include "platform/CharacterSets.h"
-#include "text/TVListingsCategory.h"
+#include "demo/Texts.h"
+#include "demo/schedule/ScheduleGenerator.h"
+#include "parsers/xmltv/XMLTVToEntries.h"
+#include "platform/encoding/CharacterSets.h"
+#include "text/categories/TVListingsCategory.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -60,7 +60,7 @@ class EveryStyle : public testing::TestWithParam<Style> {
     }
 };
 
-TEST_P(EveryStyle, SaysAllThatTheReaderCanKnow) {
+TEST_P(EveryStyle, WritesEveryFieldThatTheReaderKnows) {
     const auto entries = read(document({{u"a&'\"<b"_s, u"A & B"_s, "Europe/Prague", {kAwkward}}}));
     ASSERT_EQ(entries.size(), 1U);
     const TVEntry& entry = *entries[0].basic;
@@ -77,10 +77,9 @@ TEST_P(EveryStyle, SaysAllThatTheReaderCanKnow) {
     EXPECT_EQ(entries[0].categories.value_or(0), GetParam().categories);
 }
 
-// Each show of every channel comes through the reader under its own title.
-TEST_P(EveryStyle, LosesNoShow) {
+TEST_P(EveryStyle, KeepsEveryTitleAndTime) {
     for (const DemoChannel& channel : demoChannels()) {
-        const auto programmes = schedule(channel, QDate(2026, 11, 20), 2);
+        const auto programmes = ScheduleGenerator(sourceTexts()).schedule(channel, QDate(2026, 11, 20), 2);
         const auto entries = read(document({{channel.feedId, channel.title, channel.zone, programmes}}));
         ASSERT_EQ(entries.size(), programmes.size()) << channel.key.toStdString();
         for (std::size_t i = 0; i < entries.size(); ++i) {
@@ -114,8 +113,8 @@ struct TopicRow {
     TVListingsCategory wanted;
 };
 
-// Bits that a topic's words must give, whatever else they give.
-TEST(TopicWords, AreWordsThatTheReaderKnows) {
+// Category bits that a topic's words must give, among others.
+TEST(TopicWords, GiveTheReaderTheRightCategories) {
     const std::vector<TopicRow> rows = {
         {Topic::Comedy, TVListingsCategoryMovies | TVListingsCategoryComedies},
         {Topic::Drama, TVListingsCategoryMovies | TVListingsCategoryDramas},

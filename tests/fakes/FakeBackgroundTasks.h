@@ -8,7 +8,7 @@
 
 namespace guide {
 
-/// Counts background tasks, and expires them when the test says so.
+/// Counts background tasks and expires them on request.
 class FakeBackgroundTasks final : public BackgroundTasks {
   public:
     BackgroundTaskId beginBackgroundTask(Block expirationHandler) override {
@@ -25,7 +25,7 @@ class FakeBackgroundTasks final : public BackgroundTasks {
         }
     }
 
-    /// How many tasks were ever begun.
+    /// The number of tasks ever begun.
     std::size_t begun() const {
         const std::lock_guard guard(m_guard);
         return static_cast<std::size_t>(m_last);
@@ -34,7 +34,7 @@ class FakeBackgroundTasks final : public BackgroundTasks {
         const std::lock_guard guard(m_guard);
         return m_running.size();
     }
-    /// Calls the handler of every running task, as a device does that waits no longer.
+    /// Calls the handler of every running task.
     void expireAll() {
         std::map<BackgroundTaskId, Block> expired;
         {

@@ -1,25 +1,19 @@
 #pragma once
 
-#include "platform/Device.h"
+#include "platform/memory/FixedDevice.h"
 
 namespace guide {
 
-/// A tablet in a zone of half-hour summer time, until the test says otherwise.
-class FakeDevice final : public Device {
+/// By default a tablet in a zone with half an hour of daylight saving.
+class FakeDevice final : public FixedDevice {
   public:
-    QTimeZone timeZone() const override { return zone; }
-    QLocale locale() const override { return deviceLocale; }
-    UserInterfaceIdiom userInterfaceIdiom() const override { return idiom; }
-    QSizeF screenSize() const override { return size; }
-    double screenScale() const override { return scale; }
-    std::uint64_t physicalMemory() const override { return memory; }
-
-    QTimeZone zone{"Australia/Lord_Howe"};
-    QLocale deviceLocale{QLocale::Slovenian, QLocale::Slovenia};
-    UserInterfaceIdiom idiom = UserInterfaceIdiom::Tablet;
-    QSizeF size{1024, 768};
-    double scale = 2.0;
-    std::uint64_t memory = std::uint64_t{4} << 30;
+    FakeDevice() {
+        zone = QTimeZone("Australia/Lord_Howe");
+        deviceLocale = QLocale(QLocale::Slovenian, QLocale::Slovenia);
+        idiom = UserInterfaceIdiom::Tablet;
+        size = {1024, 768};
+        scale = 2;
+    }
 };
 
 } // namespace guide

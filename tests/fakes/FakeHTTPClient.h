@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/HTTPClient.h"
+#include "platform/http/HTTPClient.h"
 
 #include <deque>
 #include <functional>
@@ -11,11 +11,13 @@
 
 namespace guide {
 
-/// Answers each request with what stands under its URL (again and again), else with the next of the queue,
-/// else with a refused connection. Keeps every request.
+/// Answers each request with the result set for its URL, else with the next result of the queue, else with a
+/// refused connection. Records every request.
 class FakeHTTPClient final : public HTTPClient {
   public:
-    TransferResult perform(const HTTPRequest& request) override {
+    using HTTPClient::perform;
+    /// Pieces are three bytes long.
+    TransferResult perform(const HTTPRequest& request, const TakePiece& takePiece) override {
         std::function<void(const HTTPRequest&)> asked;
         TransferResult answer = refused();
         {
@@ -33,6 +35,15 @@ class FakeHTTPClient final : public HTTPClient {
         }
         if (asked) {
             asked(request);
+        }
+        if (takePiece && !answer.error && answer.response->statusCode / 100 == 2) {
+            const QByteArray body = std::exchange(answer.body, {});
+            for (qsizetype at = 0; at < body.size(); at += 3) {
+                if (!takePiece(QByteArrayView(body.mid(at, 3)))) {
+                    answer.error = TransferError{QStringLiteral("ended by the receiver"), {}, {}, true};
+                    break;
+                }
+            }
         }
         return answer;
     }
@@ -53,7 +64,7 @@ class FakeHTTPClient final : public HTTPClient {
         const std::lock_guard guard(m_guard);
         m_queue.push_back(std::move(result));
     }
-    /// Called inside each request, without a lock held.
+    /// Called during each request, without holding a lock.
     void onRequest(std::function<void(const HTTPRequest&)> asked) {
         const std::lock_guard guard(m_guard);
         m_onRequest = std::move(asked);

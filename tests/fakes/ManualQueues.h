@@ -1,8 +1,8 @@
 #pragma once
 
-#include "fakes/ManualClock.h"
-#include "platform/DispatchQueue.h"
-#include "platform/ThreadWaiting.h"
+#include "platform/memory/ManualClock.h"
+#include "platform/queues/DispatchQueue.h"
+#include "platform/queues/ThreadWaiting.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -18,11 +18,11 @@ namespace guide {
 
 class ManualQueue;
 
-/// What the queues of one ManualQueues share.
+/// State shared by the queues of one ManualQueues.
 struct ManualQueuesState {
     struct Frame {
         const ManualQueue* queue;
-        /// False for a sync, which goes on on its caller's thread.
+        /// False for a sync, which runs on its caller's thread.
         bool ownThread;
     };
 
@@ -33,7 +33,7 @@ struct ManualQueuesState {
     const std::thread::id thread = std::this_thread::get_id();
     std::vector<std::shared_ptr<ManualQueue>> queues;
     std::multimap<Moment, std::pair<std::shared_ptr<ManualQueue>, Block>> timers;
-    /// The blocks that run now, innermost last.
+    /// The running blocks, innermost last.
     std::vector<Frame> frames;
     std::uint64_t submitted = 0;
     bool ended = false;
@@ -51,8 +51,7 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
     const std::string& label() const override { return m_label; }
     void async(Block block) override { submit(std::move(block), false); }
     void asyncBarrier(Block block) override { submit(std::move(block), true); }
-    void sync(const Block& block) override { runInline(block, false); }
-    void syncBarrier(const Block& block) override { runInline(block, true); }
+    void sync(const Block& block) override { runInline(block); }
 
     void asyncAfter(std::chrono::milliseconds delay, Block block) override {
         const auto state = checkedState();
@@ -72,14 +71,7 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
         return SuspensionToken([self = shared_from_this()] { --self->m_suspensions; });
     }
 
-    void assertCurrent() const override {
-        if (!isCurrent()) {
-            ADD_FAILURE() << "not on the queue " << m_label;
-        }
-    }
-
     bool suspended() const { return m_suspensions > 0; }
-    std::size_t pending() const { return m_pending.size(); }
 
     // ---- for ManualQueues
 
@@ -100,7 +92,7 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
                 return false;
             }
         }
-        // The body of a test stands for the main thread.
+        // The body of a test counts as the main thread.
         return m_kind == Kind::Main;
     }
     std::uint64_t frontOrder() const { return m_pending.front().order; }
@@ -131,7 +123,7 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
     std::shared_ptr<ManualQueuesState> checkedState() const {
         auto state = m_state.lock();
         if (state && state->thread != std::this_thread::get_id()) {
-            ADD_FAILURE() << "hand-cranked queue " << m_label << " used from a second thread";
+            ADD_FAILURE() << "manual queue " << m_label << " used from a second thread";
             std::abort();
         }
         return state;
@@ -146,7 +138,7 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
         }
     }
 
-    void runInline(const Block& block, bool barrier) {
+    void runInline(const Block& block) {
         const auto state = checkedState();
         if (!state) {
             return;
@@ -155,17 +147,17 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
             ADD_FAILURE() << "sync on the main queue";
         }
         if (m_suspensions > 0) {
-            ADD_FAILURE() << "sync on the suspended queue " << m_label << " would not return";
+            ADD_FAILURE() << "sync on the suspended queue " << m_label << " would deadlock";
         }
-        const bool nestedReader = !exclusive(barrier) && m_readersRunning > 0 && isCurrent();
+        const bool nestedReader = !exclusive(false) && m_readersRunning > 0 && isCurrent();
         // What a real queue would run before this block's turn.
         for (std::size_t ahead = nestedReader ? 0 : m_pending.size(); ahead > 0 && canRun(); --ahead) {
             runFront();
         }
-        if (m_exclusiveRunning || (exclusive(barrier) && m_readersRunning > 0)) {
+        if (m_exclusiveRunning) {
             ADD_FAILURE() << "sync on " << m_label << " from one of its own blocks would not return";
         }
-        run(block, exclusive(barrier), false);
+        run(block, exclusive(false), false);
     }
 
     void run(const Block& block, bool alone, bool ownThread) {
@@ -191,12 +183,12 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
     bool m_exclusiveRunning = false;
 };
 
-/// Queues that run nothing until the test cranks them, all on the test's own thread. Across queues, blocks
-/// run in the order of their submission, one at a time. asyncAfter submits when the manual clock has reached
-/// its moment. A sync runs what is pending on its queue and then its block, at once; where a real one would
-/// never return, it fails the test. A wait for a group cranks until the group is done.
+/// Queues that run blocks only when the test asks for it, all on the test's thread, one at a time and in the
+/// order of submission across queues. asyncAfter submits when the manual clock reaches its time. A sync first
+/// runs what is pending on its queue; where a real one would deadlock, it fails the test. Waiting for a group
+/// runs blocks until the group is done.
 ///
-/// Labels beside those given to makeQueue: "main", "global.background", "global.default",
+/// Labels besides those given to makeQueue: "main", "global.background", "global.default",
 /// "global.user-initiated".
 class ManualQueues final : public DispatchQueues, private ThreadWaiting {
   public:
@@ -232,35 +224,34 @@ class ManualQueues final : public DispatchQueues, private ThreadWaiting {
                    kind == QueueKind::Serial ? ManualQueue::Kind::Serial : ManualQueue::Kind::Concurrent);
     }
 
-    /// Runs the one block that was submitted first among those that may begin; false when there is none.
+    /// Runs the earliest submitted block that can start; false when there is none.
     bool runOne() {
         return runOneOf([](const ManualQueue&) { return true; });
     }
-    /// Runs until nothing may begin; answers how many blocks ran.
+    /// Runs until no block can start. Returns the number of blocks run.
     std::size_t runAll() {
         return runWhile([](const ManualQueue&) { return true; });
     }
-    /// The same for the queues of this label alone.
+    /// The same, for queues with this label only.
     std::size_t run(const std::string& label) {
         return runWhile([&label](const ManualQueue& queue) { return queue.label() == label; });
     }
 
-    /// Blocks that were submitted and have not begun, delayed ones not counted.
-    std::size_t pending() const {
-        return count([](const ManualQueue&) { return true; });
+    /// Whether the caller runs on this queue, one of these. The body of a test runs on the main queue.
+    static bool isCurrent(const DispatchQueue& queue) {
+        return static_cast<const ManualQueue&>(queue).isCurrent();
     }
-    std::size_t pending(const std::string& label) const {
-        return count([&label](const ManualQueue& queue) { return queue.label() == label; });
-    }
+
     /// Blocks of asyncAfter whose moment has not come.
     std::size_t delayed() const { return m_state->timers.size(); }
+
     bool suspended(const std::string& label) const {
         return std::any_of(m_state->queues.begin(), m_state->queues.end(), [&label](const auto& queue) {
             return queue->label() == label && queue->suspended();
         });
     }
 
-    /// Drops what has not begun, and from now on everything that is submitted.
+    /// Drops all blocks that have not started and all that are submitted from now on.
     void shutDown() {
         m_state->ended = true;
         const auto timers = std::exchange(m_state->timers, {});
@@ -303,30 +294,21 @@ class ManualQueues final : public DispatchQueues, private ThreadWaiting {
             ++ran;
         }
         if (ran == kEndless) {
-            ADD_FAILURE() << "blocks submit blocks without end";
+            ADD_FAILURE() << "blocks submit blocks endlessly";
         }
         return ran;
     }
-    template <class Takes>
-    std::size_t count(const Takes& takes) const {
-        std::size_t sum = 0;
-        for (const auto& queue : m_state->queues) {
-            sum += takes(*queue) ? queue->pending() : 0;
-        }
-        return sum;
-    }
-
     bool wait(std::unique_lock<std::mutex>& guard, std::condition_variable&,
               std::optional<std::chrono::milliseconds> atMost, const std::function<bool()>& done) override {
         while (!done()) {
             guard.unlock();
-            // A thread that waits runs nothing of its own.
+            // A waiting main thread runs none of its blocks.
             const bool ran = runOneOf(
                 [this](const ManualQueue& queue) { return &queue != m_main.get() || !m_main->isCurrent(); });
             guard.lock();
             if (!ran && !done()) {
                 if (!atMost) {
-                    ADD_FAILURE() << "a wait that would not return";
+                    ADD_FAILURE() << "a wait that would never end";
                 }
                 return false;
             }

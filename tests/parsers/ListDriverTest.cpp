@@ -1,8 +1,8 @@
 #include "parsers/ListDriver.h"
 
-#include "fakes/ManualClock.h"
-#include "parsers/XMLTVListReader.h"
-#include "sources/SourceId.h"
+#include "parsers/SourceFormats.h"
+#include "parsers/xmltv/XMLTVListReader.h"
+#include "platform/memory/ManualClock.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -79,7 +79,7 @@ class ListDriverTest : public ::testing::Test {
          }}};
 };
 
-TEST_F(ListDriverTest, FindsTheFeedsOwnIdsInSourceIds) {
+TEST_F(ListDriverTest, DerivesFeedIdsFromSourceIds) {
     struct Row {
         QString sourceId;
         std::vector<QString> wanted;
@@ -105,51 +105,57 @@ TEST_F(ListDriverTest, GivesEachChannelItsShows) {
     const std::vector<QByteArray> pages{feed(show("a", "A") + show("b", "B") + show("c", "C"))};
     EXPECT_EQ(titles({u"r.x.a"_s, u"r.x.c"_s}, pages), "0: A@a; 1: C@c");
     EXPECT_EQ(titles({u"n.b"_s}, pages), "0: B@b");
-    EXPECT_EQ(titles({u"s.a"_s, u"s.a"_s}, pages), "1: A@a") << "the last item that wants a channel has it";
+    EXPECT_EQ(titles({u"s.a"_s, u"s.a"_s}, pages), "1: A@a") << "the last item of a channel gets it";
     EXPECT_EQ(titles({u"x.tv"_s, u"y.tv"_s}, pages), "0: A@a B@b C@c")
-        << "nothing is filtered in a file of one channel";
+        << "a file of one channel is not filtered";
     EXPECT_EQ(titles({u"r.x.d"_s}, pages), "");
     EXPECT_EQ(titles({u"r.x"_s}, pages), "");
     EXPECT_EQ(titles({}, pages), "");
 }
 
-TEST_F(ListDriverTest, GrowsOneListOverPages) {
+TEST_F(ListDriverTest, ExtendsOneListOverSeveralPages) {
     EXPECT_EQ(titles({u"x.tv"_s},
                      {feed(show("a", "A")), QByteArray(), QByteArray("<html>no feed"),
                       feed(show("a", "B")) + '\0' + "no more", feed(show("a", "C")).replace("</tv>", "")}),
               "0: A@a B@a C@a");
 }
 
-TEST_F(ListDriverTest, HandsOverNothingWhenThereIsNoPage) {
-    // No format may take its first page for granted.
-    for (unsigned type = 0; type <= unsigned(ListingsType::ComedyCentral) + 1; ++type) {
-        const int merges = m_merges;
-        m_driver.netList(items({u"x.tv"_s}), {}, kNow, static_cast<ListingsType>(type));
-        EXPECT_EQ(m_merges, merges + 1) << type;
-    }
-}
-
-TEST_F(ListDriverTest, TakesImagesOfTheFamilyThatHasThem) {
+TEST_F(ListDriverTest, ReadsImagesOnlyForTheirFamily) {
     const std::vector<QByteArray> pages{feed(show("a", "A", "<image>1.png</image>"))};
     EXPECT_EQ(titles({u"x.tv"_s}, pages), "0: A@a+https://img.example/images/1.png");
     EXPECT_EQ(titles({u"s.a"_s}, pages), "0: A@a");
     EXPECT_EQ(titles({u"s.a"_s, u"x.tv"_s}, pages), "0: A@a+https://img.example/images/1.png");
 }
 
-TEST_F(ListDriverTest, DropsWhatIsOverByTheClock) {
+TEST_F(ListDriverTest, DropsEndedShows) {
     m_clock.set(kNow + std::chrono::hours{15});
     EXPECT_EQ(titles({u"x.tv"_s}, {feed(show("a", "A"))}), "");
 }
 
 TEST_F(ListDriverTest, MergesWhateverWasRead) {
-    const std::vector<QByteArray> pages{feed(show("a", "A"))};
-    for (const auto& [type, channels] :
-         std::vector<std::pair<unsigned, std::size_t>>{{1, 1}, {0, 0}, {11, 0}, {12, 0}}) {
-        m_merges = 0;
-        m_driver.netList(items({u"s.a"_s}), pages, kNow, static_cast<ListingsType>(type));
-        EXPECT_EQ(m_merges, 1) << type;
-        EXPECT_EQ(m_mergedChannels, channels) << type;
+    const std::vector<QByteArray> feedPages{feed(show("a", "A"))};
+    // The last number is not a type.
+    for (unsigned number = 0; number <= unsigned(ListingsType::ComedyCentral) + 1; ++number) {
+        const auto type = static_cast<ListingsType>(number);
+        for (const std::vector<QByteArray>& pages : {feedPages, std::vector<QByteArray>()}) {
+            m_merges = 0;
+            m_driver.netList(items({u"s.a"_s}), pages, kNow, type);
+            EXPECT_EQ(m_merges, 1) << number;
+            if (type == ListingsType::XMLTV) {
+                EXPECT_EQ(m_mergedChannels, pages.size());
+            }
+        }
     }
+}
+
+TEST_F(ListDriverTest, OffsetsOfThePortNetworkIncludeMinutes) {
+    const QByteArray page = R"({"1": {"channels": [{"programs": [
+        {"title": "A", "start_datetime": "2026-11-21T20:00:00+05:30"},
+        {"title": "B", "start_datetime": "2026-11-21T20:00:00-0330"}]}]}})";
+    const ParsedLists lists = m_driver.read(items({u"1"_s}), {page}, kNow, ListingsType::PortNetwork);
+    ASSERT_EQ(lists.at(channel(0)).size(), 2u);
+    EXPECT_EQ(lists.at(channel(0))[0].basic->dateTime(), kNow + std::chrono::minutes(14 * 60 + 30));
+    EXPECT_EQ(lists.at(channel(0))[1].basic->dateTime(), kNow + std::chrono::minutes(23 * 60 + 30));
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "platform/CharacterSets.h"
+#include "platform/encoding/CharacterSets.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace guide {
 namespace {
 
-TEST(CharacterSetsTest, DecodesByNameStrictly) {
+TEST(CharacterSetsTest, DecodesStrictlyByName) {
     struct Case {
         const char* name;
         QByteArray bytes;
@@ -30,17 +30,17 @@ TEST(CharacterSetsTest, DecodesByNameStrictly) {
                     4),
          u"UTF-16"_s, u"A"_s},
         {"UTF-8", "\xc4\x8d", u"UTF-8"_s, u"č"_s},
-        {"blanks around", "\xc4\x8d", u" utf-8 "_s, u"č"_s},
+        {"surrounding blanks", "\xc4\x8d", u" utf-8 "_s, u"č"_s},
         {"NUL", QByteArray("a\0b", 3), u"WINDOWS-1250"_s, u"a\0b"_s},
         {"empty body", "", u"UTF-8"_s, u""_s},
         {"broken UTF-8", "abc\xe9", u"UTF-8"_s, std::nullopt},
         {"broken UTF-16", QByteArray("\xfe\xff\xd8\x00\0A", 6), u"UTF-16"_s, std::nullopt},
-        {"half a character at the end", "\x93", u"SHIFT_JIS"_s, std::nullopt},
-        {"no such byte", "\xa1\xff", u"ISO-8859-7"_s, std::nullopt},
+        {"truncated character", "\x93", u"SHIFT_JIS"_s, std::nullopt},
+        {"undefined byte", "\xa1\xff", u"ISO-8859-7"_s, std::nullopt},
         {"not ASCII", "\xe9", u"US-ASCII"_s, std::nullopt},
         {"unknown name", "abc", u"KLINGON-1"_s, std::nullopt},
-        {"no name", "abc", u""_s, std::nullopt},
-        {"punctuation alone", "abc", u"\"\""_s, std::nullopt},
+        {"empty name", "abc", u""_s, std::nullopt},
+        {"only punctuation", "abc", u"\"\""_s, std::nullopt},
         {"converter options", "abc", u"ISO-2022,version=1"_s, std::nullopt},
         {"letters of another script", "abc", u"УТФ-8"_s, std::nullopt},
     };
@@ -50,14 +50,14 @@ TEST(CharacterSetsTest, DecodesByNameStrictly) {
     }
 }
 
-TEST(CharacterSetsTest, LongPagesConvertAcrossTheInnerBuffers) {
+TEST(CharacterSetsTest, ConvertsPagesLongerThanItsBuffers) {
     const QByteArray bytes = QByteArray("\xe8\xa9 abc ").repeated(50'000);
     const std::optional<QByteArray> page = utf8FromCharacterSet(bytes, u"iso-8859-2"_s);
     ASSERT_TRUE(page);
     EXPECT_EQ(*page, u"čŠ abc "_s.toUtf8().repeated(50'000));
 }
 
-TEST(CharacterSetsTest, UTF8IsNotCopied) {
+TEST(CharacterSetsTest, DoesNotCopyUTF8) {
     const QByteArray bytes = "\xef\xbb\xbf<tv/>";
     const std::optional<QByteArray> page = utf8FromCharacterSet(bytes, u"utf8"_s);
     ASSERT_TRUE(page);

@@ -1,9 +1,9 @@
 #include "platform/linux/CurlHTTPClient.h"
 
-#include "fakes/ManualClock.h"
 #include "fakes/Packing.h"
 #include "fakes/ScriptedServer.h"
 #include "platform/linux/GlobalLibraries.h"
+#include "platform/memory/ManualClock.h"
 
 #include <future>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ constexpr qint64 kBodyLimit = 100'000;
 class CurlHTTPClientTest : public testing::Test {
   protected:
     static void SetUpTestSuite() {
-        // Proxies of the machine have no business here.
+        // The machine's proxies must not interfere.
         for (const char* variable : {"http_proxy", "all_proxy", "ALL_PROXY"}) {
             qunsetenv(variable);
         }
@@ -46,7 +46,7 @@ class CurlHTTPClientTest : public testing::Test {
 };
 std::unique_ptr<GlobalLibraries> CurlHTTPClientTest::libraries;
 
-TEST_F(CurlHTTPClientTest, BringsResponsesAsTheyCome) {
+TEST_F(CurlHTTPClientTest, ReturnsResponses) {
     struct Case {
         const char* name;
         ScriptedReply reply;
@@ -56,15 +56,15 @@ TEST_F(CurlHTTPClientTest, BringsResponsesAsTheyCome) {
     const std::vector<Case> cases{
         {"found", ScriptedReply::ok("page", {"X-Kind: test"}), 200, "page"},
         {"not found, with a body", ScriptedReply::answer(404, "sorry", {"X-Kind: test"}), 404, "sorry"},
-        {"a redirect is not followed",
+        {"redirects are not followed",
          ScriptedReply::answer(301, "", {"X-Kind: test", "Location: /elsewhere"}), 301, ""},
-        {"a body until the end", ScriptedReply::raw(ScriptedReply::head(200, {"X-Kind: test"}) + "page"), 200,
-         "page"},
-        {"chunks",
+        {"body delimited by the end of the connection",
+         ScriptedReply::raw(ScriptedReply::head(200, {"X-Kind: test"}) + "page"), 200, "page"},
+        {"chunked",
          ScriptedReply::raw(ScriptedReply::head(200, {"X-Kind: test", "Transfer-Encoding: chunked"}) +
                             "2\r\npa\r\n2\r\nge\r\n0\r\n\r\n"),
          200, "page"},
-        {"an interim response before",
+        {"interim response",
          ScriptedReply::raw("HTTP/1.1 103 Early\r\nX-Kind: early\r\n\r\n" +
                             ScriptedReply::head(200, {"x-kind:  test ", "Content-Length: 4"}) + "page"),
          200, "page"},
@@ -81,7 +81,7 @@ TEST_F(CurlHTTPClientTest, BringsResponsesAsTheyCome) {
     EXPECT_EQ(server.requests().size(), cases.size());
 }
 
-TEST_F(CurlHTTPClientTest, HalfATransferIsAnErrorWithoutABody) {
+TEST_F(CurlHTTPClientTest, IncompleteTransfersAreErrorsWithoutABody) {
     const QByteArray promised = ScriptedReply::head(200, {"Content-Length: 100"});
     struct Case {
         const char* name;
@@ -89,15 +89,15 @@ TEST_F(CurlHTTPClientTest, HalfATransferIsAnErrorWithoutABody) {
         bool response;
     };
     const std::vector<Case> cases{
-        {"closed without a word", ScriptedReply{}, false},
-        {"reset without a word", ScriptedReply::raw("", End::Cut), false},
-        {"no HTTP", ScriptedReply::raw("SSH-2.0-Server\r\n\r\n"), false},
-        {"closed within the body", ScriptedReply::raw(promised + "half"), true},
-        {"closed within a chunk",
+        {"closed without a response", ScriptedReply{}, false},
+        {"reset without a response", ScriptedReply::raw("", End::Reset), false},
+        {"not HTTP", ScriptedReply::raw("SSH-2.0-Server\r\n\r\n"), false},
+        {"closed in the body", ScriptedReply::raw(promised + "half"), true},
+        {"closed in a chunk",
          ScriptedReply::raw(ScriptedReply::head(200, {"Transfer-Encoding: chunked"}) + "10\r\nhalf"), true},
-        {"longer than announced to be allowed",
+        {"announced length over the limit",
          ScriptedReply::raw(ScriptedReply::head(200, {"Content-Length: 100001"}) + "x", End::Stall), true},
-        {"longer than allowed",
+        {"length over the limit",
          ScriptedReply::raw(ScriptedReply::head(200) + QByteArray(kBodyLimit + 1, 'x')), true},
         {"stalls", ScriptedReply::raw(promised + "half", End::Stall), true},
         {"stalls before the head", ScriptedReply::raw("HTTP/1.1 2", End::Stall), false},
@@ -116,13 +116,13 @@ TEST_F(CurlHTTPClientTest, HalfATransferIsAnErrorWithoutABody) {
     EXPECT_EQ(get().body.size(), kBodyLimit);
 }
 
-TEST_F(CurlHTTPClientTest, TimeOutsAreForSilenceAndForTheWhole) {
+TEST_F(CurlHTTPClientTest, LimitsInactivityAndTotalTime) {
     ScriptedReply slow = ScriptedReply::raw(ScriptedReply::head(200, {"Content-Length: 4"}));
     slow.then("p", 40ms).then("a", 40ms).then("g", 40ms).then("e", 40ms);
     HTTPRequest patient = request();
     patient.timeout = 120ms;
     server.reply(slow);
-    EXPECT_EQ(client.perform(patient).body, "page") << "each wait is shorter than the time-out";
+    EXPECT_EQ(client.perform(patient).body, "page") << "each pause is shorter than the time-out";
 
     HTTPRequest hurried = patient;
     hurried.resourceTimeout = 100ms;
@@ -134,7 +134,7 @@ TEST_F(CurlHTTPClientTest, TimeOutsAreForSilenceAndForTheWhole) {
     EXPECT_LT(taken, 1s);
 }
 
-TEST_F(CurlHTTPClientTest, NobodyThere) {
+TEST_F(CurlHTTPClientTest, ReportsUnreachableServersAndUnsupportedURLs) {
     HTTPRequest asked = request();
     {
         const ScriptedServer gone;
@@ -150,7 +150,7 @@ TEST_F(CurlHTTPClientTest, NobodyThere) {
     }
 }
 
-TEST_F(CurlHTTPClientTest, WaitsForANetworkWhereThereIsNone) {
+TEST_F(CurlHTTPClientTest, WaitsForANetwork) {
     std::uint16_t port = 0;
     {
         const ScriptedServer gone;
@@ -167,7 +167,7 @@ TEST_F(CurlHTTPClientTest, WaitsForANetworkWhereThereIsNone) {
     asked.url = QUrl(u"http://far.example/"_s);
     hasNetwork = [] { return false; };
     EXPECT_TRUE(offline.perform(asked).error);
-    EXPECT_EQ(looks, 0) << "nobody asked to wait";
+    EXPECT_EQ(looks, 0) << "waiting was not requested";
 
     asked.waitsForConnectivity = true;
     asked.resourceTimeout = 50ms;
@@ -187,7 +187,7 @@ TEST_F(CurlHTTPClientTest, WaitsForANetworkWhereThereIsNone) {
     EXPECT_EQ(offline.perform(asked).body, "here");
     back.reset();
     hasNetwork = [] { return true; };
-    EXPECT_TRUE(offline.perform(asked).error) << "the server is away, the network is not";
+    EXPECT_TRUE(offline.perform(asked).error) << "the server is down, the network is up";
 
     hasNetwork = [] { return false; };
     looks = 0;
@@ -199,7 +199,7 @@ TEST_F(CurlHTTPClientTest, WaitsForANetworkWhereThereIsNone) {
     EXPECT_TRUE(waiting.get().error->cancelled);
 }
 
-TEST(NetworkRoutesTest, AWayToEverywhereIsANetwork) {
+TEST(NetworkRoutesTest, ADefaultRouteIsANetwork) {
     const QByteArray head =
         "Iface\tDestination\tGateway\tFlags\tRefCnt\tUse\tMetric\tMask\tMTU\tWindow\tIRTT\n";
     const QByteArray zeros(32, '0');
@@ -210,14 +210,14 @@ TEST(NetworkRoutesTest, AWayToEverywhereIsANetwork) {
         bool network;
     } rows[] = {
         {"nothing", "", "", false},
-        {"at home", head + "eth0\t00000000\t010200C0\t0003\t0\t0\t0\t00000000\t0\t0\t0\n", "", true},
-        {"only other programs' networks",
-         head + "docker0\t000011AC\t00000000\t0001\t0\t0\t0\t0000FFFF\t0\t0\t0\n", "", false},
-        {"IPv6 alone", head,
+        {"default route", head + "eth0\t00000000\t010200C0\t0003\t0\t0\t0\t00000000\t0\t0\t0\n", "", true},
+        {"only a local network", head + "docker0\t000011AC\t00000000\t0001\t0\t0\t0\t0000FFFF\t0\t0\t0\n", "",
+         false},
+        {"IPv6 only", head,
          zeros + " 00 " + zeros +
              " 00 fd000000000000000000000000000001 00000400 00000003 00000000 00000003     eth0\n",
          true},
-        {"IPv6 that is refused", head,
+        {"unreachable IPv6 route", head,
          zeros + " 00 " + zeros + " 00 " + zeros + " ffffffff 00000001 00000000 00200200       lo\n", false},
     };
     for (const auto& row : rows) {
@@ -225,7 +225,7 @@ TEST(NetworkRoutesTest, AWayToEverywhereIsANetwork) {
     }
 }
 
-TEST_F(CurlHTTPClientTest, SendsWhatTheRequestSays) {
+TEST_F(CurlHTTPClientTest, SendsMethodHeadersAndBody) {
     server.reply(ScriptedReply::ok(""));
     server.reply(ScriptedReply::ok(""));
     server.reply(ScriptedReply::ok(""));
@@ -258,22 +258,96 @@ TEST_F(CurlHTTPClientTest, SendsWhatTheRequestSays) {
     EXPECT_EQ(server.requests().size(), 3U);
 }
 
-TEST_F(CurlHTTPClientTest, ContentEncodingsThatWereAskedForAreUndone) {
+TEST_F(CurlHTTPClientTest, DecodesRequestedContentEncodings) {
     const QByteArray page = QByteArray("text ").repeated(1000);
     HTTPRequest asked = request();
     asked.headers = {{"accept-encoding", "gzip,deflate"}};
     server.reply(ScriptedReply::ok(gzipped(page), {"Content-Encoding: gzip"}));
     EXPECT_EQ(client.perform(asked).body, page);
     server.reply(ScriptedReply::ok(gzipped(QByteArray(kBodyLimit + 1, 'b')), {"Content-Encoding: gzip"}));
-    EXPECT_TRUE(client.perform(asked).error) << "the bound holds for what is unpacked";
+    EXPECT_TRUE(client.perform(asked).error) << "the limit applies to the decoded body";
     server.reply(ScriptedReply::ok("no gzip", {"Content-Encoding: gzip"}));
     EXPECT_TRUE(client.perform(asked).error);
     server.reply(ScriptedReply::ok(gzipped(page), {"Content-Type: application/x-gzip"}));
-    EXPECT_EQ(client.perform(asked).body, gzipped(page)) << "a packed file is not packed for the way";
+    EXPECT_EQ(client.perform(asked).body, gzipped(page)) << "a packed file is not a content encoding";
     for (int request = 0; request < 2; ++request) {
         server.reply(ScriptedReply::ok("as it is", {"Content-Encoding: xz"}));
     }
-    EXPECT_EQ(client.perform(asked).body, "as it is") << "what nobody can undo is what the file is";
+    EXPECT_EQ(client.perform(asked).body, "as it is") << "an unknown encoding is left alone";
+}
+
+TEST_F(CurlHTTPClientTest, DeliversBodiesInPieces) {
+    const QByteArray page = QByteArray("text ").repeated(19'000);
+    const QByteArray half = ScriptedReply::head(200, {"Content-Length: 10"}) + "half";
+    ScriptedReply slow = ScriptedReply::raw(ScriptedReply::head(200, {"Content-Length: 4"}) + "pa");
+    slow.then("ge", 20ms);
+    struct Case {
+        const char* name;
+        ScriptedReply reply;
+        QByteArray pieces;
+        QByteArray body;
+        bool error;
+    };
+    const std::vector<Case> cases{
+        {"with a pause", slow, "page", "", false},
+        {"with a content encoding", ScriptedReply::ok(gzipped(page), {"Content-Encoding: gzip"}), page, "",
+         false},
+        {"not found", ScriptedReply::answer(404, "sorry"), "", "sorry", false},
+        {"truncated", ScriptedReply::raw(half), "half", "", true},
+        {"no body", ScriptedReply::ok(""), "", "", false},
+    };
+    HTTPRequest asked = request();
+    asked.headers = {{"Accept-Encoding", "gzip"}};
+    QByteArray pieces;
+    const TakePiece collect = [&pieces](QByteArrayView piece) {
+        pieces += piece;
+        return true;
+    };
+    for (const Case& each : cases) {
+        server.reply(each.reply);
+        pieces.clear();
+        const TransferResult result = client.perform(asked, collect);
+        EXPECT_EQ(pieces, each.pieces) << each.name;
+        EXPECT_EQ(result.body, each.body) << each.name;
+        EXPECT_EQ(result.error.has_value(), each.error) << each.name;
+    }
+
+    pieces.clear();
+    server.reply(ScriptedReply::raw(ScriptedReply::head(200) + QByteArray(kBodyLimit + 1, 'x')));
+    EXPECT_TRUE(client.perform(asked, collect).error) << "the limit applies to the sum of the pieces";
+    EXPECT_LE(pieces.size(), kBodyLimit);
+
+    server.reply(ScriptedReply::raw(ScriptedReply::head(200) + "endless", End::Stall));
+    const TransferResult refused = client.perform(asked, [](QByteArrayView) { return false; });
+    EXPECT_TRUE(refused.error && refused.error->cancelled && refused.response);
+}
+
+TEST_F(CurlHTTPClientTest, BodiesInPiecesBypassTheCache) {
+    HTTPRequest asked = request();
+    asked.cachePolicy = CachePolicy::ReturnCacheDataElseLoad;
+    QByteArray pieces;
+    const TakePiece collect = [&pieces](QByteArrayView piece) {
+        pieces += piece;
+        return true;
+    };
+    server.reply(ScriptedReply::ok("one"));
+    client.perform(asked, collect);
+    server.reply(ScriptedReply::ok("two"));
+    EXPECT_EQ(client.perform(asked).body, "two") << "a body in pieces is not stored";
+    EXPECT_FALSE(client.perform(asked, collect).error);
+    EXPECT_EQ(pieces, "onetwo") << "a cached body is delivered";
+    EXPECT_TRUE(client.perform(asked, [](QByteArrayView) { return false; }).error->cancelled);
+
+    asked.cachePolicy = CachePolicy::ReloadIgnoringCache;
+    server.reply(ScriptedReply::answer(500, "broken"));
+    client.perform(asked, collect);
+    asked.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
+    EXPECT_EQ(client.perform(asked).body, "two") << "a failure leaves the older response";
+    asked.cachePolicy = CachePolicy::ReloadIgnoringCache;
+    server.reply(ScriptedReply::ok("three"));
+    client.perform(asked, collect);
+    asked.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
+    EXPECT_TRUE(client.perform(asked).error) << "an older response is forgotten";
 }
 
 TEST_F(CurlHTTPClientTest, CookiesAreKeptForTheProcess) {
@@ -290,7 +364,7 @@ TEST_F(CurlHTTPClientTest, CookiesAreKeptForTheProcess) {
     EXPECT_TRUE(requests[2].header("Cookie").isNull());
 }
 
-TEST_F(CurlHTTPClientTest, GoesThroughTheCacheAsThePolicySays) {
+TEST_F(CurlHTTPClientTest, FollowsTheCachePolicy) {
     HTTPRequest asked = request();
     const auto bodyBy = [&](CachePolicy policy) {
         asked.cachePolicy = policy;
@@ -314,7 +388,7 @@ TEST_F(CurlHTTPClientTest, GoesThroughTheCacheAsThePolicySays) {
     EXPECT_EQ(server.requests().size(), 4U);
 }
 
-TEST_F(CurlHTTPClientTest, CancellingEndsWhatRunsAndWhatComes) {
+TEST_F(CurlHTTPClientTest, CancelAllEndsRunningAndLaterTransfers) {
     std::vector<std::future<TransferResult>> running;
     running.reserve(3);
     for (int transfer = 0; transfer < 3; ++transfer) {
@@ -334,7 +408,7 @@ TEST_F(CurlHTTPClientTest, CancellingEndsWhatRunsAndWhatComes) {
     EXPECT_EQ(server.requests().size(), 3U);
 }
 
-TEST_F(CurlHTTPClientTest, ManyThreadsAtOnce) {
+TEST_F(CurlHTTPClientTest, SupportsConcurrentTransfers) {
     for (int page = 0; page < 8; ++page) {
         server.serve("/" + QByteArray::number(page),
                      ScriptedReply::ok("page " + QByteArray::number(page),

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A portal at the other end of a private bus.
+/// A portal on a private bus.
 struct Desktop {
     Desktop() {
         QObject::connect(&server, &QDBusServer::newConnection, &portal, [this](QDBusConnection connection) {
@@ -37,7 +37,7 @@ struct Desktop {
     bool connected = false;
 };
 
-struct Wish {
+struct Setting {
     const char* name;
     QString space;
     QString key;
@@ -45,25 +45,25 @@ struct Wish {
     QVariant more;
 };
 
-TEST(DesktopMotionTest, FollowsWhatTheDesktopAsksFor) {
+TEST(DesktopMotionTest, FollowsTheDesktopSettings) {
     int argc = 1;
     char name[] = "test";
     char* argv[] = {name, nullptr};
     const QCoreApplication application(argc, argv);
-    const std::vector<Wish> wishes{
-        {"common", u"org.freedesktop.appearance"_s, u"reduced-motion"_s, 1U, 0U},
+    const std::vector<Setting> settings{
+        {"common setting", u"org.freedesktop.appearance"_s, u"reduced-motion"_s, 1U, 0U},
         {"one desktop", u"org.gnome.desktop.interface"_s, u"enable-animations"_s, false, true},
         {"another one", u"org.kde.kdeglobals.KDE"_s, u"AnimationDurationFactor"_s, u"0"_s, u"0.5"_s}};
-    for (const Wish& wish : wishes) {
-        SCOPED_TRACE(wish.name);
+    for (const Setting& setting : settings) {
+        SCOPED_TRACE(setting.name);
         Desktop desktop;
-        desktop.portal.values.insert(wish.space + u'/' + wish.key, wish.less);
+        desktop.portal.values.insert(setting.space + u'/' + setting.key, setting.less);
         DesktopMotion motion(desktop.bus(), QString());
-        EXPECT_TRUE(motion.moves()) << "nobody waits for the answer";
+        EXPECT_TRUE(motion.moves()) << "the portal has not answered yet";
         EXPECT_TRUE(QTest::qWaitFor([&] { return !motion.moves(); }));
         Q_EMIT desktop.portal.SettingChanged(u"org.freedesktop.appearance"_s, u"color-scheme"_s,
                                              QDBusVariant(1U));
-        Q_EMIT desktop.portal.SettingChanged(wish.space, wish.key, QDBusVariant(wish.more));
+        Q_EMIT desktop.portal.SettingChanged(setting.space, setting.key, QDBusVariant(setting.more));
         EXPECT_TRUE(QTest::qWaitFor([&] { return motion.moves(); }));
     }
 }

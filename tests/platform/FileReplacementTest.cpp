@@ -1,4 +1,4 @@
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QDir>
 #include <QFile>
@@ -25,7 +25,7 @@ QStringList namesIn(const QTemporaryDir& folder) {
     return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden);
 }
 
-TEST(FileReplacementTest, ReplacesWholeAndSetsTheDate) {
+TEST(FileReplacementTest, ReplacesTheFileAndSetsTheDate) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"číslo 1.plist"_s);
     for (const Moment modified :
@@ -54,12 +54,12 @@ TEST(FileReplacementTest, KeepsThePermissionsOfTheOldFile) {
     EXPECT_EQ(mode(), 0644U);
 }
 
-TEST(FileReplacementTest, FullDiskLeavesTheOldFileAndNothingElse) {
+TEST(FileReplacementTest, AFailedWriteLeavesOnlyTheOldFile) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"file"_s);
     ASSERT_TRUE(replaceFile(path, "old"));
 
-    // A bound on the size of files fails a write half-way, as a full disk does.
+    // A file size limit makes a write fail half-way, like a full disk.
     const auto ignored = std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
@@ -73,13 +73,13 @@ TEST(FileReplacementTest, FullDiskLeavesTheOldFileAndNothingElse) {
     EXPECT_EQ(contentOf(path), "old");
     EXPECT_EQ(namesIn(folder), QStringList{u"file"_s});
     EXPECT_FALSE(replaceFile(folder.filePath(u"no such folder/file"_s), "new"));
-    // Something that cannot be replaced is in the way.
+    // A folder cannot be replaced by a file.
     ASSERT_TRUE(QDir(folder.path()).mkpath(u"taken/inside"_s));
     EXPECT_FALSE(replaceFile(folder.filePath(u"taken"_s), "new"));
     EXPECT_EQ(namesIn(folder), QStringList{u"file"_s});
 }
 
-TEST(FileReplacementTest, SweepsWhatDeadProcessesLeft) {
+TEST(FileReplacementTest, RemovesTemporaryFilesOfDeadProcesses) {
     const pid_t dead = ::fork();
     if (dead == 0) {
         ::_exit(0);

@@ -1,7 +1,7 @@
 #include "platform/linux/InstanceLock.h"
 
-#include "platform/ThreadedQueues.h"
 #include "platform/linux/LocalSocket.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <QDir>
 #include <QFile>
@@ -25,16 +25,16 @@ class InstanceLockTest : public testing::Test {
     }
 
     const QTemporaryDir folder;
-    // Longer than a socket's address may be.
+    // Longer than a socket address.
     const QTemporaryDir sockets{QDir::tempPath() + u'/' + QString(120, u's') + u"XXXXXX"_s};
     ThreadedQueues queues{[] {}};
     const std::shared_ptr<DispatchQueue> queue = queues.makeQueue("requests", QueueKind::Serial);
 };
 
-TEST_F(InstanceLockTest, TheSecondHandsItsRequestToTheFirst) {
+TEST_F(InstanceLockTest, TheSecondInstanceSendsItsRequestToTheFirst) {
     std::unique_ptr<InstanceLock> first = start();
     ASSERT_EQ(first->outcome(), Outcome::First);
-    // Comes before the first one listens, and waits for it.
+    // Connects before the first instance listens, and waits for it.
     std::future<Outcome> early = std::async(std::launch::async, [this] { return start("early")->outcome(); });
     std::vector<QByteArray> requests;
     first->listen(queue, [&](const QByteArray& request) { requests.push_back(request); });
@@ -44,18 +44,18 @@ TEST_F(InstanceLockTest, TheSecondHandsItsRequestToTheFirst) {
     queue->sync([] {});
     EXPECT_EQ(requests, (std::vector<QByteArray>{"early", "open guide://abc č", ""}));
 
-    // Other folders are another guide's, also with the same folder for sockets.
+    // Other folders belong to another instance, even with the same socket folder.
     const QTemporaryDir otherFolder;
     EXPECT_EQ(InstanceLock(otherFolder.path(), sockets.path(), "raise").outcome(), Outcome::First);
     EXPECT_EQ(start()->outcome(), Outcome::HandedOver);
     queue->sync([] {});
 }
 
-TEST_F(InstanceLockTest, TheNextOneIsFirstWhenTheFirstHasGone) {
+TEST_F(InstanceLockTest, TheLockIsFreeAfterTheFirstInstance) {
     start().reset();
     std::unique_ptr<InstanceLock> ending = start();
     ASSERT_EQ(ending->outcome(), Outcome::First);
-    ending->listen(queue, [](const QByteArray&) { ADD_FAILURE() << "taken by one that is ending"; });
+    ending->listen(queue, [](const QByteArray&) { ADD_FAILURE() << "sent to an instance that is ending"; });
     ending->stopListening();
     std::future<Outcome> next = std::async(std::launch::async, [this] { return start()->outcome(); });
     std::this_thread::sleep_for(30ms);
@@ -63,7 +63,7 @@ TEST_F(InstanceLockTest, TheNextOneIsFirstWhenTheFirstHasGone) {
     EXPECT_EQ(next.get(), Outcome::First) << "what ends without answering is waited for";
 }
 
-TEST_F(InstanceLockTest, ADeadProcessHoldsNothing) {
+TEST_F(InstanceLockTest, ADeadProcessHoldsNoLock) {
     const QByteArray path = QFile::encodeName(sockets.path()) + "/instance-dead.socket";
     {
         const FileDescriptor dead = listeningSocket(path);
@@ -78,7 +78,7 @@ TEST_F(InstanceLockTest, ADeadProcessHoldsNothing) {
     EXPECT_EQ(start()->outcome(), Outcome::HandedOver);
 }
 
-TEST_F(InstanceLockTest, ChattersAndSilentCallersDoNotBlockTheNext) {
+TEST_F(InstanceLockTest, EndlessAndSilentCallersDoNotBlockOthers) {
     std::unique_ptr<InstanceLock> first = start();
     std::vector<QByteArray> requests;
     first->listen(queue, [&](const QByteArray& request) { requests.push_back(request); });
@@ -100,7 +100,7 @@ TEST_F(InstanceLockTest, ChattersAndSilentCallersDoNotBlockTheNext) {
     EXPECT_LT(std::chrono::steady_clock::now() - begun, 500ms);
 }
 
-TEST_F(InstanceLockTest, FoldersThatAreNotThere) {
+TEST_F(InstanceLockTest, MissingFoldersAreUnavailable) {
     EXPECT_EQ(InstanceLock(folder.filePath(u"absent"_s), sockets.path(), "raise").outcome(),
               Outcome::Unavailable);
     EXPECT_EQ(InstanceLock(folder.path(), sockets.filePath(u"absent"_s), "raise").outcome(), Outcome::First);

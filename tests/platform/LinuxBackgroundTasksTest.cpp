@@ -1,8 +1,8 @@
 #include "platform/linux/LinuxBackgroundTasks.h"
 
 #include "fakes/ManualQueues.h"
-#include "platform/ThreadedQueues.h"
 #include "platform/linux/LinuxClock.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 namespace guide {
 namespace {
 
-TEST(LinuxBackgroundTasksTest, TheEndWaitsForTasksThatEndOnTheMainQueue) {
+TEST(LinuxBackgroundTasksTest, WaitsForTasksThatEndOnTheMainQueue) {
     ThreadedQueues queues([] {});
     LinuxBackgroundTasks tasks(queues);
     const BackgroundTaskId first = tasks.beginBackgroundTask(nullptr);
@@ -22,7 +22,7 @@ TEST(LinuxBackgroundTasksTest, TheEndWaitsForTasksThatEndOnTheMainQueue) {
     tasks.endBackgroundTask(first);
     tasks.endBackgroundTask(first);
     tasks.endBackgroundTask(kBackgroundTaskInvalid);
-    EXPECT_FALSE(tasks.waitUntilIdle(1ms)) << "the second one still runs";
+    EXPECT_FALSE(tasks.waitUntilIdle(1ms)) << "the second task still runs";
     EXPECT_FALSE(tasks.waitUntilIdle(1ms, [] {}));
     queues.globalQueue(QueuePriority::Background).async([&] {
         queues.mainQueue().async([&] { tasks.endBackgroundTask(second); });
@@ -30,7 +30,7 @@ TEST(LinuxBackgroundTasksTest, TheEndWaitsForTasksThatEndOnTheMainQueue) {
     EXPECT_TRUE(tasks.waitUntilIdle(10s, [&] { queues.runMainQueue(); }));
 }
 
-TEST(LinuxBackgroundTasksTest, ExpiresWhatRunsForTooLongOnce) {
+TEST(LinuxBackgroundTasksTest, ExpiresLongTasksOnce) {
     ManualClock clock;
     ManualQueues queues(clock);
     LinuxBackgroundTasks tasks(queues, 1min);
@@ -45,12 +45,12 @@ TEST(LinuxBackgroundTasksTest, ExpiresWhatRunsForTooLongOnce) {
     clock.advance(10min);
     queues.runAll();
     EXPECT_EQ(expired, "once ");
-    EXPECT_FALSE(tasks.waitUntilIdle(0ms)) << "only its owner ends a task";
+    EXPECT_FALSE(tasks.waitUntilIdle(0ms)) << "expiring does not end the task";
     tasks.endBackgroundTask(task);
     EXPECT_TRUE(tasks.waitUntilIdle(10s));
 }
 
-TEST(LinuxClockTest, StartsWhereItIsToldAndRunsOn) {
+TEST(LinuxClockTest, RunsOnFromTheGivenMoment) {
     const Moment start = std::chrono::sys_days(std::chrono::year(2025) / 6 / 30) + 20h;
     const LinuxClock clock(start);
     EXPECT_LT(clock.now() - start, 10s);

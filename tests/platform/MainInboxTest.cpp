@@ -1,5 +1,5 @@
-#include "platform/MainBlock.h"
 #include "platform/linux/EventLoopQueues.h"
+#include "platform/queues/MainBlock.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -23,11 +23,11 @@ struct MainInboxTest : testing::Test {
     }
 };
 
-TEST_F(MainInboxTest, RunsWhatWasThereAndAsksAgainForTheRest) {
+TEST_F(MainInboxTest, RunsPendingBlocksAndWakesUpForLaterOnes) {
     inbox->async([&] {
         log += 'a';
         inbox->async(note('c'));
-        // An event loop inside a block: neither the rest nor the block itself may run there.
+        // A nested event loop must run neither the remaining blocks nor this one.
         inbox->runPending();
     });
     inbox->async(note('b'));
@@ -42,7 +42,7 @@ TEST_F(MainInboxTest, RunsWhatWasThereAndAsksAgainForTheRest) {
     EXPECT_EQ(wakeUps, 3);
 }
 
-TEST_F(MainInboxTest, SuspensionHoldsTheRestBackAndItsEndAsksForIt) {
+TEST_F(MainInboxTest, ResumingWakesUpForPendingBlocks) {
     SuspensionToken token;
     inbox->async([&] { token = inbox->suspend(); });
     inbox->async(note('a'));
@@ -56,8 +56,8 @@ TEST_F(MainInboxTest, SuspensionHoldsTheRestBackAndItsEndAsksForIt) {
     EXPECT_EQ(log, "a");
 }
 
-TEST_F(MainInboxTest, ThrowingAwayDropsTheRestOfARunToo) {
-    inbox->async([&] { inbox->throwAway(); });
+TEST_F(MainInboxTest, DiscardingDropsTheRestOfARun) {
+    inbox->async([&] { inbox->discardAll(); });
     inbox->async(note('a'));
     inbox->runPending();
     inbox->async(note('b'));
@@ -66,7 +66,7 @@ TEST_F(MainInboxTest, ThrowingAwayDropsTheRestOfARunToo) {
     EXPECT_EQ(wakeUps, 1);
 }
 
-TEST_F(MainInboxTest, AnAnswerIsGivenOnceToAnOwnerThatLives) {
+TEST_F(MainInboxTest, MainBlockIsCalledOnceAndOnlyForALivingOwner) {
     auto screen = std::make_shared<std::string>();
     const auto held = std::make_shared<int>();
     const auto answer = [&] {
@@ -95,11 +95,12 @@ TEST(EventLoopQueuesTest, WorkersReachTheMainThreadThroughTheEventLoop) {
     char* argv[] = {name.data(), nullptr};
     const QCoreApplication application(argc, argv);
     EventLoopQueues queues;
+    const std::thread::id mainThread = std::this_thread::get_id();
     std::string log;
     QEventLoop outer;
     queues.globalQueue(QueuePriority::Background).async([&] {
         queues.mainQueue().async([&] {
-            queues.mainQueue().assertCurrent();
+            EXPECT_EQ(std::this_thread::get_id(), mainThread);
             log += 'a';
             queues.mainQueue().async([&] {
                 log += 'c';

@@ -1,4 +1,4 @@
-#include "platform/PropertyList.h"
+#include "platform/archive/PropertyList.h"
 
 #include <QDateTime>
 
@@ -36,7 +36,7 @@ const QByteArray kEveryKind =
     "<key>number</key><integer>-42</integer><key>real</key><real>1.5</real>"
     "<key>date</key><date>2025-12-31T18:30:00Z</date><key>data</key><data>AAEC</data></dict>";
 
-TEST(PropertyListTest, ReadsEveryKindFromBothForms) {
+TEST(PropertyListTest, ReadsEveryTypeFromBothFormats) {
     const QVariantMap expected{
         {u"Channels"_s, QVariantList{QVariantMap{{u"Title"_s, u"Č&T 📺"_s}}}},
         {u"empty"_s, u""_s},
@@ -50,17 +50,26 @@ TEST(PropertyListTest, ReadsEveryKindFromBothForms) {
     const QByteArray xml = xmlList(kEveryKind);
     EXPECT_EQ(propertyListFromData(xml), QVariant(expected));
     EXPECT_EQ(propertyListFromData(binaryList(xml)), QVariant(expected));
+
+    // Counts of one, two and four bytes.
+    for (const int count : {15, 255, 256, 70'000}) {
+        const QByteArray large = xmlList("<dict><key>" + QByteArray(count, 'k') + "</key><array>" +
+                                         QByteArray("<true/>").repeated(count) + "</array></dict>");
+        const std::optional<QVariant> read = propertyListFromData(binaryList(large));
+        EXPECT_TRUE(read) << count;
+        EXPECT_EQ(read, propertyListFromData(large)) << count;
+    }
 }
 
-TEST(PropertyListTest, DamageGivesNothing) {
+TEST(PropertyListTest, RefusesDamagedLists) {
     const QByteArray xml = xmlList(kEveryKind);
     const std::vector<std::pair<const char*, QByteArray>> cases{
-        {"nothing", ""},
+        {"no data", ""},
         {"text", "Channels"},
-        {"page", "<html><body>Not found</body></html>"},
-        {"cut XML", xml.left(xml.size() / 2)},
-        {"cut binary", binaryList(xml).chopped(40)},
-        {"binary header alone", "bplist00"},
+        {"HTML", "<html><body>Not found</body></html>"},
+        {"truncated XML", xml.left(xml.size() / 2)},
+        {"truncated binary", binaryList(xml).chopped(40)},
+        {"only the binary header", "bplist00"},
         {"NUL in a key", xmlList("<dict><key>a&#0;b</key><true/></dict>")},
         {"not UTF-8", xmlList("<string>\xe9</string>")},
     };
@@ -82,7 +91,7 @@ TEST(PropertyListTest, DamageNeverCrashes) {
     }
 }
 
-TEST(PropertyListTest, EndlessTreesAreRefused) {
+TEST(PropertyListTest, RefusesEndlessTrees) {
     const auto nested = [](int depth) {
         return xmlList(QByteArray("<array>").repeated(depth) + "<true/>" +
                        QByteArray("</array>").repeated(depth));
@@ -92,7 +101,7 @@ TEST(PropertyListTest, EndlessTreesAreRefused) {
     EXPECT_FALSE(propertyListFromData(nested(100'000)));
     EXPECT_FALSE(propertyListFromData(binaryList(nested(1'000))));
 
-    // Each object is an array of the next one twice: forty of them stand for 2^40 values.
+    // Each object is an array that contains the next one twice: forty of them expand to 2^40 values.
     QByteArray bomb = "bplist00";
     QByteArray offsets;
     constexpr char kObjects = 40;

@@ -1,6 +1,6 @@
-#include "platform/ResponseCache.h"
+#include "platform/http/ResponseCache.h"
 
-#include "fakes/ManualClock.h"
+#include "platform/memory/ManualClock.h"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +31,7 @@ class ResponseCacheTest : public testing::Test {
     ResponseCache cache{clock, 100'000, [this] { return maximumAge; }};
 };
 
-TEST_F(ResponseCacheTest, TakesWholeSuccessfulAnswersToGet) {
+TEST_F(ResponseCacheTest, StoresCompleteSuccessfulResponsesToGet) {
     TransferResult failed = answer(200);
     failed.error = TransferError{u"cut"_s, {}, {}, false};
     TransferResult silent;
@@ -45,10 +45,10 @@ TEST_F(ResponseCacheTest, TakesWholeSuccessfulAnswersToGet) {
     const std::vector<Case> cases{
         {"200", requestFor(u"a"_s), answer(200), true},
         {"299", requestFor(u"b"_s), answer(299), true},
-        {"a part", requestFor(u"c"_s), answer(206), false},
+        {"partial content", requestFor(u"c"_s), answer(206), false},
         {"a redirect", requestFor(u"d"_s), answer(301), false},
         {"not found", requestFor(u"e"_s), answer(404), false},
-        {"an answer to POST", requestFor(u"f"_s, "POST"), answer(200), false},
+        {"a response to POST", requestFor(u"f"_s, "POST"), answer(200), false},
         {"with an error", requestFor(u"g"_s), failed, false},
         {"without a response", requestFor(u"h"_s), silent, false},
     };
@@ -69,14 +69,14 @@ TEST_F(ResponseCacheTest, TakesWholeSuccessfulAnswersToGet) {
     EXPECT_FALSE(cache.cachedResponse(requestFor(u"a"_s)));
 }
 
-TEST_F(ResponseCacheTest, OldAnswersCountAsAbsent) {
+TEST_F(ResponseCacheTest, IgnoresOldResponses) {
     cache.store(requestFor(u"a"_s), answer(200));
     clock.advance(24h);
     EXPECT_TRUE(cache.cachedResponse(requestFor(u"a"_s)));
     maximumAge = 1h;
     EXPECT_FALSE(cache.cachedResponse(requestFor(u"a"_s)));
     maximumAge = 24h;
-    EXPECT_FALSE(cache.cachedResponse(requestFor(u"a"_s))) << "dropped by now";
+    EXPECT_FALSE(cache.cachedResponse(requestFor(u"a"_s))) << "evicted";
 
     HTTPRequest fresh = requestFor(u"b"_s);
     cache.store(fresh, answer(200));
@@ -90,7 +90,7 @@ TEST_F(ResponseCacheTest, OldAnswersCountAsAbsent) {
     EXPECT_FALSE(cache.cachedResponse(requestFor(u"b"_s))) << "from the future";
 }
 
-TEST_F(ResponseCacheTest, WhatWasUsedLongestAgoGoesFirst) {
+TEST_F(ResponseCacheTest, EvictsTheLeastRecentlyUsed) {
     for (const QString& path : {u"a"_s, u"b"_s, u"c"_s}) {
         cache.store(requestFor(path), answer(200, QByteArray(30'000, 'x')));
     }
@@ -100,17 +100,17 @@ TEST_F(ResponseCacheTest, WhatWasUsedLongestAgoGoesFirst) {
     EXPECT_TRUE(cache.cachedResponse(requestFor(u"a"_s)) && cache.cachedResponse(requestFor(u"c"_s)));
 
     cache.store(requestFor(u"a"_s), answer(200, QByteArray(200'000, 'x')));
-    EXPECT_FALSE(cache.cachedResponse(requestFor(u"a"_s))) << "too large, and the old one is out of date";
+    EXPECT_FALSE(cache.cachedResponse(requestFor(u"a"_s))) << "too large, and the old one is outdated";
     EXPECT_TRUE(cache.cachedResponse(requestFor(u"d"_s)));
 
-    // Replacing an entry again and again takes no more room.
+    // Replacing an entry repeatedly does not take more space.
     for (int round = 0; round < 10; ++round) {
         cache.store(requestFor(u"c"_s), answer(200, QByteArray(30'000, 'y')));
     }
     EXPECT_TRUE(cache.cachedResponse(requestFor(u"d"_s)));
 }
 
-TEST_F(ResponseCacheTest, NoCapacityDropsEverything) {
+TEST_F(ResponseCacheTest, StoresNothingWithoutCapacity) {
     cache.store(requestFor(u"a"_s), answer(200));
     cache.setMemoryCapacity(0);
     cache.store(requestFor(u"b"_s), answer(200));

@@ -1,4 +1,4 @@
-#include "platform/Utf8.h"
+#include "platform/encoding/Utf8.h"
 
 #include <QStringDecoder>
 
@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace guide {
 namespace {
 
-TEST(Utf8Test, AcceptsExactlyWellFormedBytesAtEveryOffset) {
+TEST(Utf8Test, AcceptsOnlyWellFormedBytesAtEveryOffset) {
     struct Case {
         const char* name;
         QByteArray bytes;
@@ -24,19 +24,19 @@ TEST(Utf8Test, AcceptsExactlyWellFormedBytesAtEveryOffset) {
         {"a noncharacter", "\xef\xbf\xbf", true},
         {"NUL", QByteArray("\0", 1), true},
         {"byte order mark", "\xef\xbb\xbf", true},
-        {"continuation alone", "\x80", false},
+        {"lone continuation", "\x80", false},
         {"overlong slash", "\xc0\xaf", false},
         {"overlong in two", "\xc1\xbf", false},
         {"overlong in three", "\xe0\x9f\xbf", false},
         {"overlong in four", "\xf0\x8f\xbf\xbf", false},
         {"high surrogate", "\xed\xa0\x80", false},
         {"low surrogate", "\xed\xbf\xbf", false},
-        {"past the last", "\xf4\x90\x80\x80", false},
-        {"no such byte", "\xf5\x80\x80\x80", false},
-        {"cut after one", "\xc4", false},
-        {"cut after two", "\xe2\x80", false},
-        {"cut after three", "\xf0\x9f\x93", false},
-        {"broken by ASCII", "\xe2\x80 x", false},
+        {"above the last character", "\xf4\x90\x80\x80", false},
+        {"invalid byte", "\xf5\x80\x80\x80", false},
+        {"truncated after one", "\xc4", false},
+        {"truncated after two", "\xe2\x80", false},
+        {"truncated after three", "\xf0\x9f\x93", false},
+        {"interrupted by ASCII", "\xe2\x80 x", false},
         {"Latin-1", "\xe9t\xe9", false},
     };
     for (const Case& each : cases) {

@@ -121,7 +121,7 @@ TEST_F(ChannelViewControllerTest, RecolorsOnTheNextMainQueueTurn) {
     EXPECT_EQ(showAt(screen->table(), 0).timeColor, ColorRole::Running);
     world.queues.runAll();
     EXPECT_EQ(showAt(screen->table(), 0).timeColor, ColorRole::SecondaryLabel);
-    world.alarms.titles = {u"A"_s};
+    world.setAlarm(channel, {0, 60, u"A"_s});
     world.broadcast->favoritesUpdated();
     EXPECT_EQ(showAt(screen->table(), 0).timeColor, ColorRole::Alarm);
     EXPECT_TRUE(showAt(screen->table(), 0).alarmed && showAt(screen->table(), 0).running);

@@ -120,8 +120,11 @@ TEST_F(RootViewControllerTest, TimeColoursAndProgress) {
     for (const Case& each : cases) {
         SCOPED_TRACE(each.name);
         world.app.colorized = each.colorized;
-        world.favorites.titles = each.favourite ? QSet{u"Show"_s} : QSet<QString>{};
-        world.alarms.titles = each.alarm ? QSet{u"Show"_s} : QSet<QString>{};
+        world.favorites.titles = each.favourite ? QStringList{u"show"_s} : QStringList();
+        world.alarms.events.clear();
+        if (each.alarm) {
+            world.setAlarm(channel, {each.from, each.until, u"Show"_s});
+        }
         root().reloadChannel(channel, world.list(channel, {{each.from, each.until, u"Show"_s}}));
         EXPECT_EQ(showAt(table(), 1).timeColor, each.color);
         EXPECT_EQ(showAt(table(), 1).progress, each.progress);
@@ -154,7 +157,7 @@ TEST_F(RootViewControllerTest, AFreshListChangesOnlyTheRowsThatDiffer) {
     root().reloadChannel(ScreenWorld::channelId(50), world.list(one, {{0, 1, u"A"_s}}));
     EXPECT_EQ(changes.log, QStringList());
 
-    world.alarms.titles = {u"Changed"_s};
+    world.setAlarm(two, {5, 9, u"Changed"_s});
     world.broadcast->notificationsSynched();
     EXPECT_EQ(std::exchange(changes.log, {}), QStringList({u"updated 3+1"_s}));
     world.app.colorized = false;

@@ -3,10 +3,11 @@
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeBackgroundTasks.h"
 #include "fakes/FakeDevice.h"
-#include "fakes/ManualClock.h"
+#include "fakes/FakeShowSources.h"
 #include "fakes/ManualQueues.h"
-#include "fakes/MemoryKeyValueStore.h"
-#include "fakes/MemoryUserDefaults.h"
+#include "platform/memory/ManualClock.h"
+#include "platform/memory/MemoryKeyValueStore.h"
+#include "platform/memory/MemoryUserDefaults.h"
 #include "screens/shell/GuideTabs.h"
 #include "screens/shell/ScreenBroadcast.h"
 #include "screens/shell/ScreenEnvironment.h"
@@ -47,40 +48,13 @@ inline const ChannelRow& channelAt(const Table& table, int row) {
     return std::get<ChannelRow>(table.rowAt(row).content);
 }
 
-struct WorldFavorites final : FavoriteQuestions {
-    bool containsFavoriteNamed(const QString& title) const override { return titles.contains(title); }
-    bool hasFavorites() const override { return !titles.isEmpty(); }
-    QSet<QString> titles;
-};
-
-struct WorldAlarms final : AlarmQuestions, AlarmSynchronisation {
-    int alarmedEntry(const TVEntry& entry) const override {
-        return entry.title() && titles.contains(*entry.title()) ? 0 : -1;
-    }
-    int eventCount() const override { return static_cast<int>(titles.size()); }
-    void setSynchronized(bool) override {}
-    void syncAlarms() override {}
-    QSet<QString> titles;
-};
-
-struct WorldPopularShows final : PopularShows {
-    ShowList popularShows() const override { return nullptr; }
-    bool contains(const ShowItem& item) const override {
-        return item.entry()->title() && titles.contains(*item.entry()->title());
-    }
-    void refresh() override {}
-    QSet<QString> titles;
-};
-
-struct WorldApp final : AppActions {
+/// The settings that screens read, and a log of what they ask of the application.
+struct WorldApp final : ScreenSettings, ListingsUpdates, AppNavigation, AlarmSynchronisation {
     void checkAndUpdateAllChannels() override { done << u"check"_s; }
-    void resynchronizeAlarms() override { done << u"alarms"_s; }
+    void setSynchronized(bool synchronized) override { m_synchronized = synchronized; }
+    void syncAlarms() override { done << (m_synchronized ? u"sync"_s : u"alarms"_s); }
+    void commit() override {}
     void playURL(const QUrl& url) override { done << u"play "_s + QString::fromLatin1(url.toEncoded()); }
-    std::vector<RowAction>
-    swipeActionsConfigurationForEntry(const std::shared_ptr<const TVEntry>& entry,
-                                      const std::shared_ptr<ViewController>&) override {
-        return swipeActions(*entry);
-    }
     bool imagesEnabled() const override { return images; }
     bool colorizedShows() const override { return colorized; }
     std::chrono::seconds automaticUpdateInterval() const override { return 24h; }
@@ -93,6 +67,9 @@ struct WorldApp final : AppActions {
     };
     bool images = true;
     bool colorized = true;
+
+  private:
+    bool m_synchronized = true;
 };
 
 /// Keeps the requests, so that a test can answer them.
@@ -150,12 +127,32 @@ class ScreenWorld {
         icons = std::make_unique<TVStationIcons>(m_iconFolder.isEmpty() ? path : m_iconFolder, 2);
         channels = std::make_unique<TVChannels>(folders, keyValueStore, queues, catalogue);
         channels->setSelected(m_selected);
-        listings = std::make_unique<TVListings>(TVListingsEnvironment{
-            clock, device, folders, queues, tasks, state, userDefaults, *channels, *icons, catalogue,
-            alphabet, favorites, popular, alarms, u"guide"_s, [this] { return showCount; }});
-        environment = std::make_shared<const ScreenEnvironment>(ScreenEnvironment{
-            clock, device, queues.mainQueue(), *loadQueue, state, *listings, *channels, *icons, catalogue,
-            alphabet, favorites, alarms, popular, pictures, pictureCache, app});
+        listings = std::make_unique<TVListings>(
+            TVListingsEnvironment{clock, device, folders, queues, tasks, state, *channels, alphabet,
+                                  favorites, popular, observer, u"guide"_s, [this] { return showCount; }});
+        environment = std::make_shared<const ScreenEnvironment>(
+            ScreenEnvironment{clock,
+                              device,
+                              queues.mainQueue(),
+                              *loadQueue,
+                              state,
+                              *listings,
+                              *channels,
+                              *icons,
+                              catalogue,
+                              alphabet,
+                              favorites,
+                              alarms,
+                              app,
+                              popular,
+                              pictures,
+                              pictureCache,
+                              app,
+                              app,
+                              app,
+                              [this](const std::shared_ptr<const TVEntry>& entry, const auto&) {
+                                  return app.swipeActions(*entry);
+                              }});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -172,6 +169,9 @@ class ScreenWorld {
         }
         auto extra = show.pictures.isEmpty() ? nullptr : std::make_shared<TVEntrySupplementalData>();
         return {std::move(basic), 0, std::move(extra), show.pictures};
+    }
+    void setAlarm(const ObjectId& channel, const WorldShow& show) {
+        alarms.events[*entry(channel, show).basic->digest()] = 0;
     }
     ShowSpan list(const ObjectId& channel, const std::vector<WorldShow>& shows) const {
         ShowItems items;
@@ -215,9 +215,10 @@ class ScreenWorld {
     MemoryUserDefaults userDefaults;
     MemoryKeyValueStore keyValueStore;
     Alphabet alphabet;
-    WorldFavorites favorites;
-    WorldAlarms alarms;
-    WorldPopularShows popular;
+    FakeFavorites favorites;
+    FakeAlarms alarms;
+    FakePopularShows popular;
+    CountingListingsObserver observer;
     WorldPictures pictures;
     ShowPictureCache pictureCache;
     WorldApp app;

@@ -10,24 +10,24 @@ namespace {
 TEST(NetworkActivityTest, IndicatorFollowsTheFirstAndTheLastTransfer) {
     ManualClock clock;
     ManualQueues queues(clock);
-    std::vector<bool> told;
+    std::vector<bool> shown;
     NetworkActivity activity(queues, [&](bool visible) {
-        queues.mainQueue().assertCurrent();
-        told.push_back(visible);
+        EXPECT_TRUE(ManualQueues::isCurrent(queues.mainQueue()));
+        shown.push_back(visible);
     });
     activity.stopNetworkActivity();
     activity.startNetworkActivity();
     activity.startNetworkActivity();
     activity.stopNetworkActivity();
     queues.runAll();
-    EXPECT_EQ(told, std::vector{true});
+    EXPECT_EQ(shown, std::vector{true});
     activity.stopNetworkActivity();
     queues.runAll();
-    EXPECT_EQ(told, (std::vector{true, false}));
+    EXPECT_EQ(shown, (std::vector{true, false}));
     activity.stopNetworkActivity();
     activity.startNetworkActivity();
     queues.runAll();
-    EXPECT_EQ(told, (std::vector{true, false, true})) << "a stop without a start does not count";
+    EXPECT_EQ(shown, (std::vector{true, false, true})) << "a stop without a start does not count";
 }
 
 } // namespace

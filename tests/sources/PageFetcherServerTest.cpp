@@ -42,11 +42,11 @@ class PageFetcherServerTest : public testing::Test {
     ScriptedServer server;
 };
 
-TEST_F(PageFetcherServerTest, WhateverTheServerDoesGivesAPageOrAReason) {
+TEST_F(PageFetcherServerTest, EveryAnswerGivesAPageOrAReason) {
     const QByteArray feed = "<tv>" + QByteArray("<programme channel=\"č\"/>").repeated(100) + "</tv>";
     const QByteArray gzip = gzipped(feed);
     const ScriptedReply cut = ScriptedReply::raw(
-        ScriptedReply::head(200, {"Content-Length: 1000"}) + feed.left(500), ScriptedReply::End::Cut);
+        ScriptedReply::head(200, {"Content-Length: 1000"}) + feed.left(500), ScriptedReply::End::Reset);
     struct Row {
         const char* name;
         std::vector<ScriptedReply> replies;
@@ -95,14 +95,14 @@ TEST_F(PageFetcherServerTest, WhateverTheServerDoesGivesAPageOrAReason) {
         EXPECT_EQ(alerts, row.alerts);
         const std::size_t attempts = std::max<std::size_t>(row.replies.size(), row.alerts);
         const bool spent = !row.page && attempts == 2;
-        EXPECT_EQ(waited, (spent ? 2 : attempts - 1) * 1s) << "a pause behind each empty attempt";
+        EXPECT_EQ(waited, (spent ? 2 : attempts - 1) * 1s) << "a pause after each empty attempt";
         EXPECT_EQ(server.requests().size() - asked, attempts);
     }
     EXPECT_EQ(server.requests().front().header("User-Agent"), userAgent.value());
     EXPECT_EQ(server.requests().front().header("Accept-Encoding"), "gzip,deflate");
 }
 
-TEST_F(PageFetcherServerTest, GoodPagesAreKeptAndOthersAreNot) {
+TEST_F(PageFetcherServerTest, OnlyGoodPagesAreCached) {
     server.serve("/good", ScriptedReply::ok("page"));
     EXPECT_EQ(fetch(server.url(u"/good"_s)).page, "page");
     EXPECT_EQ(fetch(server.url(u"/good#part"_s)).page, "page");

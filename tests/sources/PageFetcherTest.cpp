@@ -40,7 +40,7 @@ class PageFetcherTest : public testing::Test {
          .noRemoteHostAlert = [this](const TransferError& error) { alerts.push_back(error); }}};
 };
 
-TEST_F(PageFetcherTest, OneRedirectIsFollowedByHand) {
+TEST_F(PageFetcherTest, FollowsOneRedirect) {
     struct Row {
         const char* name;
         TransferResult first;
@@ -60,16 +60,16 @@ TEST_F(PageFetcherTest, OneRedirectIsFollowedByHand) {
         client.enqueue(row.first);
         client.enqueue(answer(301, "", "http://c.example/"));
         EXPECT_EQ(fetch().reason, PageReason::Status);
-        ASSERT_EQ(client.requests().size(), asked + 2) << "a second redirect is the end";
+        ASSERT_EQ(client.requests().size(), asked + 2) << "a second redirect is not followed";
         EXPECT_EQ(client.requests().back().url, row.second);
         EXPECT_EQ(client.requests().back().headers, client.requests().front().headers);
         EXPECT_EQ(client.forgotten().back(), row.second);
     }
     client.enqueue(answer(200, "page", "/elsewhere"));
-    EXPECT_EQ(fetch().page, "page") << "a page stays where it is";
+    EXPECT_EQ(fetch().page, "page") << "a successful answer is not redirected";
 }
 
-TEST_F(PageFetcherTest, ShuttingDownEndsAtOnceAndInSilence) {
+TEST_F(PageFetcherTest, ShutdownEndsImmediatelyWithoutAnAlert) {
     shuttingDown = true;
     client.enqueue(answer(503, ""));
     EXPECT_EQ(fetch().reason, PageReason::Cancelled);
@@ -80,7 +80,7 @@ TEST_F(PageFetcherTest, ShuttingDownEndsAtOnceAndInSilence) {
     EXPECT_EQ(client.requests().size(), 2u);
     EXPECT_TRUE(alerts.empty());
     queues.runAll();
-    EXPECT_EQ(indicatorChanges % 2, 0) << "every start has its stop";
+    EXPECT_EQ(indicatorChanges % 2, 0) << "every start has a stop";
 }
 
 } // namespace

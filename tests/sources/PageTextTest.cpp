@@ -64,11 +64,11 @@ TEST(PageTextTest, ContentTypeDecidesFirst) {
     }
 }
 
-TEST(PageTextTest, XzDeliversWhatFits) {
+TEST(PageTextTest, XzIsTruncatedToTheLimit) {
     const QByteArray packed = xzPacked(QByteArray(100'000, 'x'));
     EXPECT_EQ(pageText(packed, {}, kMemory).text, QByteArray(23 * packed.size(), 'x'));
 
-    // One of three shifts puts the cut at a border of the three-byte letters.
+    // At one of three shifts the cut falls between two three-byte characters.
     int whole = 0;
     for (int shift = 0; shift < 3; ++shift) {
         const QByteArray letters = QByteArray(shift, 'x') + QByteArray("€").repeated(50'000);
@@ -76,7 +76,7 @@ TEST(PageTextTest, XzDeliversWhatFits) {
         whole += text.text ? 1 : 0;
         EXPECT_EQ(text.reason, text.text ? PageReason::None : PageReason::Encoding);
     }
-    EXPECT_LT(whole, 3) << "a letter that is cut leaves no page";
+    EXPECT_LT(whole, 3) << "a character cut in half leaves no page";
 }
 
 } // namespace

@@ -36,21 +36,21 @@ struct SourceHealthRecordsTest : testing::Test {
     }
 };
 
-TEST_F(SourceHealthRecordsTest, KnowsTheSameFromItsFile) {
+TEST_F(SourceHealthRecordsTest, RestoresRecordsFromTheFile) {
     SourceHealthRecords records(path);
     records.record(kOne, failedLoad());
     records.record(kTwo, goodLoad());
     records.write({kOne, kTwo});
     EXPECT_EQ(kept(), records.all());
 
-    // What was found out before the file was read is newer.
+    // Records made before the file is read are newer.
     SourceHealthRecords other(path);
     other.record(kTwo, failedLoad());
     other.read();
     EXPECT_EQ(other.all(), (SourceHealthRecords::ByChannel{{kOne, failedLoad()}, {kTwo, failedLoad()}}));
 }
 
-TEST_F(SourceHealthRecordsTest, CountsADamagedFileAsEmptyAndWritesANewOne) {
+TEST_F(SourceHealthRecordsTest, ReplacesADamagedFile) {
     SourceHealthRecords records(path);
     records.record(kOne, goodLoad());
     const QByteArray whole = sourceHealthJSON(records.all());
@@ -67,7 +67,7 @@ TEST_F(SourceHealthRecordsTest, CountsADamagedFileAsEmptyAndWritesANewOne) {
     EXPECT_EQ(kept(), records.all());
 }
 
-TEST_F(SourceHealthRecordsTest, TriesAgainWhatCouldNotBeWritten) {
+TEST_F(SourceHealthRecordsTest, RetriesAFailedWrite) {
     const QString missing = folder.filePath(u"later/health.json"_s);
     SourceHealthRecords records(missing);
     records.record(kOne, goodLoad());

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 int warnings = 0;
 
-/// Counts the log lines of the test that holds one.
+/// Counts the log lines during its lifetime.
 class CountedWarnings {
   public:
     CountedWarnings() {
@@ -27,7 +27,7 @@ class CountedWarnings {
     QtMessageHandler m_previous;
 };
 
-TEST(SourceHostTableTest, SchemeIsKeptOrWritten) {
+TEST(SourceHostTableTest, KeepsTheSchemeOrAddsOne) {
     const SourceHostTable hosts = *SourceHostTable::fromJson(R"({
         "bare": "a.example", "port": "127.0.0.1:8080/", "http": "http://a.example", "path": " https://a.example/x/ ",
         "letters": "httpbin.example", "number": 5, "empty": "", "scheme": "http://"})");
@@ -73,7 +73,7 @@ TEST(SourceHostTableTest, OverrideReplacesKeyByKey) {
     ASSERT_TRUE(
         write(bundle.filePath(u"hosts.json"_s), R"({"A": "a.example", "B": "b.example", "C": "c.example"})"));
     EXPECT_EQ(SourceHostTable::installed(bundle.path(), configuration.path()).value(u"A"_s), u"a.example"_s);
-    EXPECT_EQ(warnings, 0) << "an override is a choice";
+    EXPECT_EQ(warnings, 0) << "an override is not logged";
 
     ASSERT_TRUE(write(configuration.filePath(u"hosts.json"_s), R"({"A": "own.example", "B": ""})"));
     const SourceHostTable table = SourceHostTable::installed(bundle.path(), configuration.path());

@@ -1,7 +1,7 @@
 #include "store/AllShows.h"
 
 #include "TestShows.h"
-#include "text/FoldedText.h"
+#include "text/search/FoldedText.h"
 
 #include <algorithm>
 #include <random>

@@ -1,6 +1,6 @@
 #include "StoreWorld.h"
-#include "fakes/ManualClock.h"
 #include "fakes/ManualQueues.h"
+#include "platform/memory/ManualClock.h"
 
 #include <csignal>
 #include <functional>
@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 struct Saver {
     explicit Saver(const QString& folder)
         : world(clock, queues, folder)
-        , listings(world.environment) {
+        , listings(world.open()) {
         queues.runAll();
     }
 
@@ -36,7 +36,7 @@ struct Saver {
     ManualClock clock;
     ManualQueues queues{clock};
     StoreWorld world;
-    TVListings listings;
+    TVListings& listings;
 };
 
 /// The number of the list in the file; nothing when the file is not one whole list.
@@ -116,7 +116,7 @@ TEST(ListingFilesTest, ATruncatedFileCountsAsAbsent) {
     QTemporaryDir folder;
     ASSERT_TRUE(Saver(folder.path()).save(1));
     Saver reader(folder.path());
-    QFile file(reader.world.path(channel(1)));
+    QFile file(reader.world.listingsFile(channel(1)));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray whole = file.readAll();
     for (qsizetype length = 0; length < whole.size(); length += 1 + length / 20) {
@@ -125,7 +125,7 @@ TEST(ListingFilesTest, ATruncatedFileCountsAsAbsent) {
         ASSERT_FALSE(storedNumber(folder.path()));
         Saver restarted(folder.path());
         EXPECT_FALSE(QFile::exists(file.fileName()));
-        EXPECT_EQ(restarted.world.channels.channelWithChannelId(channel(1))->timeLoaded(), std::nullopt);
+        EXPECT_EQ(restarted.world.channels->channelWithChannelId(channel(1))->timeLoaded(), std::nullopt);
     }
     ASSERT_TRUE(replaceFile(file.fileName(), whole));
     EXPECT_EQ(storedNumber(folder.path()), 1);

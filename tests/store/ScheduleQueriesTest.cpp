@@ -1,12 +1,7 @@
 #include "store/ScheduleQueries.h"
 
 #include "TestShows.h"
-#include "store/CompoundListings.h"
-
-#include <QDir>
-#include <QTemporaryDir>
-
-#include <set>
+#include "alarms/Favorites.h"
 
 namespace guide::test {
 namespace {
@@ -28,17 +23,6 @@ AllShows allOf(const std::vector<TestShow>& shows) {
         std::make_shared<const ChannelList>(std::make_shared<const ShowItems>(std::move(items)));
     return AllShows({list}, Moment::min());
 }
-
-class Favorites final : public FavoriteQuestions {
-  public:
-    explicit Favorites(std::set<QString> names)
-        : m_names(std::move(names)) {}
-    bool containsFavoriteNamed(const QString& title) const override { return m_names.contains(title); }
-    bool hasFavorites() const override { return !m_names.empty(); }
-
-  private:
-    const std::set<QString> m_names;
-};
 
 TEST(ScheduleQueriesTest, CategoriesKeepSeriesApart) {
     const AllShows all = allOf({{hour(-2), hour(-1), u"over"_s, 0x1000},
@@ -83,15 +67,13 @@ TEST(ScheduleQueriesTest, EndsAndOversAreToldApart) {
                                 {hour(0), hour(1), u"a"_s},
                                 {hour(1), hour(2), u"A"_s}});
     EXPECT_EQ(showScheduleForTitle(all, u"A"_s, kNow).size(), 3u);
-    const Favorites favorites({u"A"_s});
-    EXPECT_EQ(favoritesSchedule(all, favorites, kNow).size(), 2u);
-    const FavoritesToCome toCome = favoritesToCome(all, favorites, u"guide"_s, kNow);
+    const FavoritesSnapshot favorites({{u"A"_s, {}, {}, {}}});
+    EXPECT_EQ(favoritesSchedule(all, favorites, kNow).size(), 3u) << "case is ignored";
+    const FavoritesToCome toCome = favoritesToCome(all, favorites, kNow);
     ASSERT_EQ(toCome.shows.size(), 1u) << "what begins now has begun";
     EXPECT_EQ(toCome.shows[0].entry()->dateTime(), hour(1));
-    ASSERT_EQ(toCome.byURL.size(), 1u);
-    EXPECT_EQ(toCome.byURL.at(toCome.shows[0].entry()->urlDigestWithScheme(u"guide"_s)->toString()),
-              toCome.shows[0]);
-    EXPECT_TRUE(favoritesSchedule(all, Favorites({}), kNow).empty());
+    ASSERT_EQ(toCome.byDigest.size(), 1u);
+    EXPECT_EQ(toCome.byDigest.at(*toCome.shows[0].entry()->digest()), toCome.shows[0]);
     EXPECT_TRUE(isBroadcast(all, u"a"_s, false, kNow));
     EXPECT_FALSE(isBroadcast(all, u"a"_s, true, kNow));
     EXPECT_FALSE(isBroadcast(all, u"a"_s, false, hour(2)));
@@ -120,34 +102,6 @@ TEST(ScheduleQueriesTest, FindsTheShowOfAURL) {
                                  url.toString() + u'0', u"guide://"_s}) {
         EXPECT_FALSE(showWithURL(all, QUrl(other), u"guide"_s)) << other.toStdString();
     }
-}
-
-TEST(CompoundListingsTest, GroupsByDayAndLeavesOutWhatHasNoIcon) {
-    QTemporaryDir icons;
-    QImage image(8, 8, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    ASSERT_TRUE(image.save(icons.filePath(u"one.png"_s)));
-    TVStationIcons stationIcons(icons.path(), 1);
-    const CatalogueSnapshot channels({{channel(1), u"One"_s, u"cs"_s, u"x"_s, u"one.png"_s},
-                                      {channel(4), u"Four"_s, u"cs"_s, u"x"_s, u"absent.png"_s}});
-    const auto show = [](const char* start, int onChannel) {
-        return item({moment(start), {}, QString::fromLatin1(start), 0, channel(onChannel)});
-    };
-    // The day of Lord Howe begins at 13:00 UTC in summer.
-    const ShowItems shows{show("2025-12-30T12:59:00Z", 4), show("2025-12-31T12:59:00Z", 1),
-                          show("2025-12-31T13:00:00Z", 1), show("2025-12-31T13:30:00Z", 2),
-                          show("2025-12-31T13:30:00Z", 3), show("2025-12-31T13:30:00Z", 5),
-                          show("2025-12-31T12:00:00Z", 1)};
-    const CompoundResult result = compoundListings(shows, channels, stationIcons, QLocale(QLocale::Slovenian),
-                                                   QTimeZone("Australia/Lord_Howe"));
-    const QString first = u"sreda, 31. december 2025"_s;
-    const QString second = u"četrtek, 1. januar 2026"_s;
-    ASSERT_EQ(result.sectionTitles, (std::vector<QString>{first, second}));
-    EXPECT_EQ(titles(result.sections[first]), (Titles{"2025-12-31T12:59:00Z", "2025-12-31T12:00:00Z"}));
-    EXPECT_EQ(titles(result.sections[second]), (Titles{"2025-12-31T13:00:00Z"}));
-    ASSERT_EQ(result.channelIcons.size(), 1u);
-    EXPECT_EQ(result.channelIcons.at(channel(1)).size(), QSize(50, 36));
-    EXPECT_EQ(result.channelIconNames.at(channel(1)), u"one.png"_s);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "store/ShowCoding.h"
 
 #include "TestShows.h"
-#include "platform/KeyedArchiver.h"
+#include "platform/archive/KeyedArchiver.h"
 
 namespace guide::test {
 namespace {

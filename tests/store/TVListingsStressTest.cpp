@@ -1,6 +1,6 @@
 #include "StoreWorld.h"
-#include "fakes/ManualClock.h"
-#include "platform/ThreadedQueues.h"
+#include "platform/memory/ManualClock.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <condition_variable>
 #include <thread>
@@ -71,7 +71,7 @@ TEST(TVListingsStressTest, ChangesQueriesAndFilesMeetOnRealQueues) {
     std::atomic<int> answers = 0;
     std::atomic<int> asked = 0;
     {
-        TVListings listings(world.environment);
+        TVListings& listings = world.open();
         const std::shared_ptr<DispatchQueue> own = main.queues().makeQueue("check", QueueKind::Serial);
         std::thread changes([&] {
             for (int round = 1; round <= kRounds; ++round) {
@@ -115,8 +115,7 @@ TEST(TVListingsStressTest, ChangesQueriesAndFilesMeetOnRealQueues) {
                 }
                 ++answers;
             });
-            listings.showsWithCategory(1, QueuePriority::Background,
-                                       {[&](const CompoundResult&) { ++answers; }});
+            listings.showsWithCategory(1, QueuePriority::Background, {[&](const ShowSpan&) { ++answers; }});
             listings.favoritesScheduleWithBlock([&](const ShowItems&) { ++answers; });
             listings.broadcastForTitle(u"7"_s, false, {[&](bool) { ++answers; }});
             main.queues().runMainQueue();
@@ -138,7 +137,7 @@ TEST(TVListingsStressTest, FinishingIsBoundedInTime) {
     QTemporaryDir folder;
     Queues main;
     StoreWorld world(clock, main.queues(), folder.path());
-    TVListings listings(world.environment);
+    TVListings& listings = world.open();
     std::atomic<bool> release = false;
     listings.favoritesScheduleWithBlock([&](const ShowItems&) {
         while (!release) {

@@ -1,8 +1,8 @@
 #include "store/TVListings.h"
 
 #include "StoreWorld.h"
-#include "fakes/ManualClock.h"
 #include "fakes/ManualQueues.h"
+#include "platform/memory/ManualClock.h"
 
 namespace guide::test {
 namespace {
@@ -18,7 +18,7 @@ class TVListingsTest : public ::testing::Test {
 
     /// A store that has read its files.
     TVListings& made() {
-        listings = std::make_unique<TVListings>(world.environment);
+        world.open();
         queues.runAll();
         return *listings;
     }
@@ -38,7 +38,7 @@ class TVListingsTest : public ::testing::Test {
     std::vector<Titles> onAir() {
         std::vector<Titles> answer;
         listings->onAirShows({[&](const std::vector<ObjectId>& selected, const std::vector<ShowSpan>& shows) {
-            EXPECT_EQ(selected, world.channels.selected());
+            EXPECT_EQ(selected, world.channels->selected());
             for (const ShowSpan& span : shows) {
                 answer.push_back(titles(span));
             }
@@ -65,7 +65,7 @@ class TVListingsTest : public ::testing::Test {
     QTemporaryDir folder;
     const Moment start = clock.now();
     StoreWorld world{clock, queues, folder.path()};
-    std::unique_ptr<TVListings> listings;
+    std::unique_ptr<TVListings>& listings = world.listings;
 };
 
 TEST_F(TVListingsTest, FirstReadCutsWhatEndedAndForgetsEmptyChannels) {
@@ -75,26 +75,26 @@ TEST_F(TVListingsTest, FirstReadCutsWhatEndedAndForgetsEmptyChannels) {
                                  {hour(1), hour(2), u"B"_s}});
     world.writeFile(channel(2), {{hour(-1), hour(0), u"ends now"_s}});
     world.writeFile(ObjectId::popular(), {{hour(-1), hour(0), u"P"_s}});
-    world.channels.channelWithChannelId(channel(2))->setTimeLoaded(start);
-    EXPECT_TRUE(replaceFile(world.path(channel(3)), "damaged"));
+    world.channels->channelWithChannelId(channel(2))->setTimeLoaded(start);
+    EXPECT_TRUE(replaceFile(world.listingsFile(channel(3)), "damaged"));
     made();
     EXPECT_EQ(cachedList(1), (Titles{"A", "ended behind", "B"}));
     EXPECT_EQ(cachedList(2), Titles{});
-    EXPECT_FALSE(QFile::exists(world.path(channel(2))));
-    EXPECT_EQ(world.channels.channelWithChannelId(channel(2))->timeLoaded(), std::nullopt);
-    EXPECT_FALSE(QFile::exists(world.path(channel(3))));
-    EXPECT_TRUE(QFile::exists(world.path(ObjectId::popular())));
+    EXPECT_FALSE(QFile::exists(world.listingsFile(channel(2))));
+    EXPECT_EQ(world.channels->channelWithChannelId(channel(2))->timeLoaded(), std::nullopt);
+    EXPECT_FALSE(QFile::exists(world.listingsFile(channel(3))));
+    EXPECT_TRUE(QFile::exists(world.listingsFile(ObjectId::popular())));
     EXPECT_EQ(found(u"b"_s), Titles{"B"}) << "of all shows only what has not ended";
-    EXPECT_EQ(world.alarms.syncs, 1);
+    EXPECT_EQ(world.observer.replacements, 0);
 }
 
 TEST_F(TVListingsTest, QueriesWaitForTheFirstRead) {
     world.writeFile(channel(1), {{hour(0), hour(1), u"A"_s}});
-    listings = std::make_unique<TVListings>(world.environment);
+    world.open();
     EXPECT_EQ(onAir(), (std::vector<Titles>{{"A"}, {}, {}}));
 }
 
-TEST_F(TVListingsTest, MergeStoresSchedulesAndTellsTheAlarms) {
+TEST_F(TVListingsTest, MergeStoresSchedulesAndAnnounces) {
     made();
     clock.advance(std::chrono::minutes(5));
     const MergeResult result = merge({{hour(2), hour(3), u"B"_s},
@@ -107,12 +107,11 @@ TEST_F(TVListingsTest, MergeStoresSchedulesAndTellsTheAlarms) {
     EXPECT_EQ(titles(*result.lists.at(channel(1))), (Titles{"A", "B"}));
     EXPECT_EQ(result.lists.at(channel(1))->front().entry()->language(), u"cs"_s);
     // At once, before any queue has run.
-    EXPECT_EQ(world.channels.channelWithChannelId(channel(1))->timeLoaded(), clock.now());
-    EXPECT_EQ(world.channels.channelWithChannelId(channel(2))->timeLoaded(), std::nullopt);
-    EXPECT_FALSE(world.alarms.isSynchronized);
+    EXPECT_EQ(world.channels->channelWithChannelId(channel(1))->timeLoaded(), clock.now());
+    EXPECT_EQ(world.channels->channelWithChannelId(channel(2))->timeLoaded(), std::nullopt);
+    EXPECT_EQ(world.observer.replacements, 1);
 
     queues.runAll();
-    EXPECT_EQ(world.alarms.syncs, 2);
     EXPECT_TRUE(listings->isScheduledForSaving(channel(1)));
     EXPECT_FALSE(listings->isScheduledForSaving(channel(2)));
     EXPECT_EQ(onAir(), (std::vector<Titles>{{"A", "B"}, {}, {}}));
@@ -125,7 +124,7 @@ TEST_F(TVListingsTest, MergeStoresSchedulesAndTellsTheAlarms) {
     EXPECT_EQ(merge({}).outcomes.at(channel(1)), MergeOutcome::Empty);
     EXPECT_EQ(merge({{hour(-2), hour(-1), u"D"_s}}).outcomes.at(channel(1)), MergeOutcome::OnlyPast);
     EXPECT_EQ(cachedList(1), Titles{"C"});
-    EXPECT_EQ(world.alarms.syncs, 3);
+    EXPECT_EQ(world.observer.replacements, 2);
 }
 
 TEST_F(TVListingsTest, FilesAreWrittenOnCommitAndDatedByTheLoad) {
@@ -135,7 +134,7 @@ TEST_F(TVListingsTest, FilesAreWrittenOnCommitAndDatedByTheLoad) {
         {{hour(0), hour(1), u"A"_s}, {hour(1), hour(3), u"B"_s}, {hour(0), hour(1), u"C"_s, 0, channel(2)}});
     queues.runAll();
     clock.advance(std::chrono::hours(1));
-    world.channels.channelWithChannelId(channel(1))->requireReload(); // which brought nothing
+    world.channels->channelWithChannelId(channel(1))->requireReload(); // which brought nothing
     listings->commitFiles();
     EXPECT_EQ(queues.run(kAccess), 1u);
     EXPECT_EQ(queues.run(kFiles), 1u);
@@ -143,7 +142,7 @@ TEST_F(TVListingsTest, FilesAreWrittenOnCommitAndDatedByTheLoad) {
     queues.runAll();
     EXPECT_EQ(world.tasks.running(), 0u);
     EXPECT_EQ(world.fileTitles(channel(1)), Titles{"B"}) << "what ended is cut";
-    EXPECT_EQ(fileModificationDate(world.path(channel(1))), start);
+    EXPECT_EQ(fileModificationDate(world.listingsFile(channel(1))), start);
     EXPECT_EQ(world.fileTitles(channel(2)), Titles{"old file"}) << "an empty list writes nothing";
     EXPECT_FALSE(listings->isScheduledForSaving(channel(1)));
     EXPECT_FALSE(listings->isScheduledForSaving(channel(2)));
@@ -176,11 +175,11 @@ TEST_F(TVListingsTest, CommitBetweenMergeAndStoreLosesNothing) {
 TEST_F(TVListingsTest, AWriteThatFailedStaysScheduled) {
     made();
     merge({{hour(0), hour(1), u"A"_s}, {hour(0), hour(1), u"C"_s, 0, channel(2)}});
-    QDir().mkdir(world.path(channel(1))); // no file can be put in its place
+    QDir().mkdir(world.listingsFile(channel(1))); // no file can be put in its place
     EXPECT_FALSE(listings->finishWriting(std::chrono::milliseconds(0)));
     EXPECT_TRUE(listings->isScheduledForSaving(channel(1)));
     EXPECT_FALSE(listings->isScheduledForSaving(channel(2)));
-    QDir().rmdir(world.path(channel(1)));
+    QDir().rmdir(world.listingsFile(channel(1)));
     EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
     EXPECT_EQ(world.fileTitles(channel(1)), Titles{"A"});
 }
@@ -201,7 +200,7 @@ TEST_F(TVListingsTest, OnAirReadsTheFileOfAChannelThatIsNotStored) {
                                  {hour(0), hour(1), u"A"_s},
                                  {hour(1), hour(2), u"B"_s},
                                  {hour(2), hour(3), u"C"_s}});
-    world.channels.setSelected({channel(4), channel(1)});
+    world.channels->setSelected({channel(4), channel(1)});
     EXPECT_EQ(onAir(), (std::vector<Titles>{{"A", "B"}, {}}));
     EXPECT_EQ(cachedList(4), Titles{});
     world.writeFile(channel(4), {{hour(-2), hour(-1), u"older"_s}, {hour(-1), hour(0), u"ends now"_s}});
@@ -218,7 +217,7 @@ TEST_F(TVListingsTest, CountsWhatIsNotOverUpToTheScreensWish) {
     ShowCounts counts;
     std::shared_ptr<DispatchQueue> queue = queues.makeQueue("check", QueueKind::Serial);
     listings->showCountForSelectedChannelsForQueue(queue, [&](const ShowCounts& answer) {
-        queue->assertCurrent();
+        EXPECT_TRUE(ManualQueues::isCurrent(*queue));
         counts = answer;
     });
     queues.runAll();
@@ -228,7 +227,7 @@ TEST_F(TVListingsTest, CountsWhatIsNotOverUpToTheScreensWish) {
 TEST_F(TVListingsTest, AllShowsPutTheUsersFirstChannelFirst) {
     made();
     merge({{hour(0), hour(1), u"A1"_s}, {hour(0), hour(1), u"A2"_s, 0, channel(2)}});
-    world.channels.setSelected({channel(2), channel(1)});
+    world.channels->setSelected({channel(2), channel(1)});
     listings->saveAllShows();
     EXPECT_EQ(found(u"a"_s), (Titles{"A2", "A1"}));
     clock.set(hour(1));
@@ -239,13 +238,13 @@ TEST_F(TVListingsTest, AllShowsPutTheUsersFirstChannelFirst) {
 
 TEST_F(TVListingsTest, AListThatComesAfterItsChannelWasGivenUpIsNotStored) {
     made();
-    world.channels.setSelected({channel(2)});
+    world.channels->setSelected({channel(2)});
     listings->removeListingsForChannel(channel(1));
     merge({{hour(0), hour(1), u"A1"_s}, {hour(0), hour(1), u"A2"_s, 0, channel(2)}});
     listings->saveAllShows();
     EXPECT_EQ(found(u"a"_s), Titles{"A2"});
     EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
-    EXPECT_FALSE(QFile::exists(world.path(channel(1))));
+    EXPECT_FALSE(QFile::exists(world.listingsFile(channel(1))));
 }
 
 TEST_F(TVListingsTest, RemovedListsLeaveTheirFiles) {
@@ -254,7 +253,7 @@ TEST_F(TVListingsTest, RemovedListsLeaveTheirFiles) {
     listings->removeListingsForChannel(channel(1));
     EXPECT_EQ(cachedList(1), Titles{});
     EXPECT_EQ(found(u"a"_s), Titles{});
-    EXPECT_TRUE(QFile::exists(world.path(channel(1))));
+    EXPECT_TRUE(QFile::exists(world.listingsFile(channel(1))));
     EXPECT_EQ(world.popular.refreshes, 1);
     listings->updatePopularList();
     queues.runAll();
@@ -273,11 +272,11 @@ TEST_F(TVListingsTest, UpdatedShowsAreFoundWrittenAndLeaveOldListsAlone) {
     listings->updateDetails((*old)[0].entry(), details, {});
     EXPECT_EQ(found(u"zanda"_s), Titles{"A"});
     EXPECT_TRUE(listings->isScheduledForSaving(channel(1)));
-    EXPECT_EQ(world.channels.channelWithChannelId(channel(1))->timeLoaded(), clock.now());
+    EXPECT_EQ(world.channels->channelWithChannelId(channel(1))->timeLoaded(), clock.now());
     EXPECT_EQ((*old)[0].elementCount(), 2);
     listings->updateIMDBForChannel(channel(1), u"B"_s, 1, QUrl(u"https://i/1"_s), {QUrl(u"https://p/1"_s)});
     EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
-    const auto read = unarchivedShowsOfFile(world.path(channel(1)), latinAlphabet());
+    const auto read = unarchivedShowsOfFile(world.listingsFile(channel(1)), latinAlphabet());
     ASSERT_TRUE(read);
     EXPECT_EQ((*read)[0].details()->roles, u"Žanda"_s);
     EXPECT_EQ((*read)[1].details()->imdbURL, QUrl(u"https://i/1"_s));
@@ -300,15 +299,15 @@ TEST_F(TVListingsTest, AnswersRunWhereTheySay) {
     world.popular.list = std::make_shared<const ShowItems>(ShowItems{item({hour(0), hour(1), u"P"_s})});
     int answers = 0;
     const auto onMain = [&](const auto&...) {
-        queues.mainQueue().assertCurrent();
+        EXPECT_TRUE(ManualQueues::isCurrent(queues.mainQueue()));
         ++answers;
     };
     listings->showsContainingPattern(u"a"_s, [&](const ShowItems&) {
-        queues.globalQueue(QueuePriority::UserInitiated).assertCurrent();
+        EXPECT_TRUE(ManualQueues::isCurrent(queues.globalQueue(QueuePriority::UserInitiated)));
         ++answers;
     });
     listings->favoritesScheduleWithBlock([&](const ShowItems&) { ++answers; });
-    listings->favoritesScheduleWithPartialAllowed(true, [&](const ShowItems&, const auto&) { ++answers; });
+    listings->favoritesScheduleWithURLBlock([&](const FavoritesToCome&) { ++answers; });
     listings->showsWithCategory(1, QueuePriority::Background, {onMain});
     listings->allShowsWithCategory(TVListingsCategoryMostWatched, QueuePriority::Background, {onMain});
     listings->favoritesScheduleWithPriority(QueuePriority::Background, {onMain});

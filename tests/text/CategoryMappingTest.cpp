@@ -1,7 +1,7 @@
-#include "text/CategoryMapping.h"
+#include "text/categories/CategoryMapping.h"
 
-#include "text/CategoryTable.h"
-#include "text/CategoryText.h"
+#include "text/categories/CategoryTable.h"
+#include "text/categories/CategoryText.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ constexpr TVListingsCategory kMovies = TVListingsCategoryMovies;
 constexpr TVListingsCategory kDocumentaries = TVListingsCategoryDocumentaries;
 constexpr TVListingsCategory kEntertainment = TVListingsCategoryEntertainment;
 
-TEST(CategoryMappingTest, MapsTextsByTheirTables) {
+TEST(CategoryMappingTest, MapsTextsByTable) {
     const struct {
         TVListingsCategory (*map)(const QString&);
         QString text;
@@ -65,7 +65,7 @@ TEST(CategoryMappingTest, MapsTextsByTheirTables) {
     }
 }
 
-TEST(CategoryMappingTest, SubtitlesAndTitlesAreRecognised) {
+TEST(CategoryMappingTest, RecognisesSubtitlesAndTitles) {
     const struct {
         const char* name;
         std::optional<QString> subtitle;
@@ -82,8 +82,8 @@ TEST(CategoryMappingTest, SubtitlesAndTitlesAreRecognised) {
          TVListingsCategorySports | TVListingsCategoryMusic,
          true},
         {"a word in capitals", u"Komedija"_s, {}, 0, false},
-        {"a maker without a subtitle", {}, u"National Geographic"_s, kDocumentaries, true},
-        {"a maker in the subtitle", u"Viasat"_s, u"Naslov"_s, 0, false},
+        {"a producer without a subtitle", {}, u"National Geographic"_s, kDocumentaries, true},
+        {"a producer in the subtitle", u"Viasat"_s, u"Naslov"_s, 0, false},
         {"both", u"show"_s, u"Discovery"_s, kEntertainment | kDocumentaries, true},
     };
     for (const auto& row : rows) {
@@ -93,7 +93,7 @@ TEST(CategoryMappingTest, SubtitlesAndTitlesAreRecognised) {
     }
 }
 
-TEST(CategoryTableTest, EachKeyIgnoresWhatItSays) {
+TEST(CategoryTableTest, KeysHaveTheirOwnFoldModes) {
     const CategoryTable table({{1, {u"Éa"}},
                                {2, {{u"Éa", FoldMode::Case}}},
                                {4, {{u"Éa", FoldMode::Diacritics}}},
@@ -107,7 +107,7 @@ TEST(CategoryTableTest, EachKeyIgnoresWhatItSays) {
     }
 }
 
-TEST(CategoryTextTest, TheFirstBitInTheirOrderGivesTheTitle) {
+TEST(CategoryTextTest, ThePrecedenceOfBitsGivesTheTitle) {
     const std::pair<TVListingsCategory, QString> rows[] = {
         {TVListingsCategoryMostWatched, u"Most Watched"_s},
         {TVListingsCategoryEveningShows, u"Evening Shows"_s},

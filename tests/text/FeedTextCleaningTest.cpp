@@ -1,4 +1,4 @@
-#include "text/FeedTextCleaning.h"
+#include "text/cleaning/FeedTextCleaning.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 using Text = std::optional<QString>;
 
-TEST(TitleCleaningTest, TakesTitlesApart) {
+TEST(TitleCleaningTest, SplitsTitles) {
     const struct {
         QString title;
         QString shown;
@@ -57,7 +57,7 @@ TEST(TitleCleaningTest, CapitalisesByTheLocale) {
     }
 }
 
-TEST(TitleCleaningTest, ReadsNotesAndRepeatMarks) {
+TEST(TitleCleaningTest, RecognisesNotesAndRepeatMarks) {
     const struct {
         QString title;
         bool note;
@@ -77,7 +77,7 @@ TEST(TitleCleaningTest, ReadsNotesAndRepeatMarks) {
     }
 }
 
-TEST(SubtitleCleaningTest, TakesBracketsOut) {
+TEST(SubtitleCleaningTest, RemovesBrackets) {
     const struct {
         QString subtitle;
         QString left;
@@ -102,7 +102,7 @@ TEST(SubtitleCleaningTest, TakesBracketsOut) {
     }
 }
 
-TEST(SubtitleCleaningTest, Finishes) {
+TEST(SubtitleCleaningTest, DecidesWhatASubtitleIs) {
     const struct {
         Text subtitle;
         bool recognised;
@@ -136,7 +136,7 @@ TEST(SubtitleCleaningTest, Finishes) {
     }
 }
 
-TEST(DescriptionCleaningTest, TakesCreditsAndAttributionsOut) {
+TEST(DescriptionCleaningTest, RemovesCreditsAndAttributions) {
     const struct {
         const char* name;
         QString text;
@@ -148,16 +148,16 @@ TEST(DescriptionCleaningTest, TakesCreditsAndAttributionsOut) {
         {"empty", u""_s, {}, u""_s, {}, {}},
         {"only carriage returns", u"\r\r"_s, {}, u""_s, {}, {}},
         {"a full stop is added", u"Opis"_s, {}, u"Opis."_s, {}, {}},
-        {"also behind another sign", u"Opis!"_s, {}, u"Opis!."_s, {}, {}},
+        {"also after other punctuation", u"Opis!"_s, {}, u"Opis!."_s, {}, {}},
         {"line ends", u"\rA.\nB\nC\n\nD\rE\n\n\nF\r"_s, {}, u"A.\nB C\nD\nE\n F."_s, {}, {}},
-        {"a semicolon in front", u"; ; A"_s, {}, u"; A."_s, {}, {}},
+        {"a leading semicolon", u"; ; A"_s, {}, u"; A."_s, {}, {}},
         {"attributions",
          u"A (više na http://epg.example)(more at http://epg.example)B"_s,
          {},
          u"A B."_s,
          {},
          {}},
-        {"attributions that stay",
+        {"attributions that are kept",
          u"(više na https://epg.example) (more at http://other.example)"_s,
          {},
          u"(više na https://epg.example) (more at http://other.example)."_s,
@@ -175,7 +175,7 @@ TEST(DescriptionCleaningTest, TakesCreditsAndAttributionsOut) {
          u"Opis.\n."_s,
          u"A, B"_s,
          u"C"_s},
-        {"known cast stays", u"Uloge: A\nX"_s, u"Z Redatelj: Y"_s, u""_s, u"Z"_s, {}},
+        {"known cast is kept", u"Uloge: A\nX"_s, u"Z Redatelj: Y"_s, u""_s, u"Z"_s, {}},
         {"the director first", u"Režija: C\nUloge: A"_s, {}, u""_s, u"A"_s, u"C"_s},
         {"the longer director's label",
          u"Redatelj: C\nScenarist i redatelj: D\nUloge: A"_s,
@@ -192,7 +192,7 @@ TEST(DescriptionCleaningTest, TakesCreditsAndAttributionsOut) {
          u"Tekst."_s,
          u"Marko, Pero"_s,
          u"Ana, Ivo"_s},
-        {"listed credits behind a comma", u"Tekst, Regia - Ana\nMarko,"_s, u"Z"_s, u"Tekst."_s, u"Marko, "_s,
+        {"listed credits after a comma", u"Tekst, Regia - Ana\nMarko,"_s, u"Z"_s, u"Tekst."_s, u"Marko, "_s,
          u"Ana"_s},
         {"listed credits on a line", u"Tekst.\nRegia - Ana"_s, {}, u"Tekst."_s, {}, u"Ana"_s},
         {"no credits", u"TeleRegia - Ana, Marko"_s, {}, u"TeleRegia - Ana, Marko."_s, {}, {}},

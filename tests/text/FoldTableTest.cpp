@@ -1,6 +1,6 @@
-#include "text/FoldTable.h"
+#include "text/search/FoldTable.h"
 
-#include "text/FoldedText.h"
+#include "text/search/FoldedText.h"
 
 #include <QList>
 
@@ -15,7 +15,7 @@ QString fromCodePoint(char32_t character) {
     return QString::fromUcs4(&character, 1);
 }
 
-TEST(FoldTableTest, FoldsEveryCharacterLikeItsDecompositionWithoutMarks) {
+TEST(FoldTableTest, FoldsEveryCharacterToItsDecompositionWithoutMarks) {
     for (const FoldMode mode : {FoldMode::Diacritics, FoldMode::CaseAndDiacritics}) {
         for (char32_t character = 0; character <= 0x10FFFF; ++character) {
             if (QChar::isSurrogate(character)) {
@@ -43,7 +43,7 @@ TEST(FoldTableTest, FoldsTexts) {
         {"decomposed", u"Z\u030Clut\u030C"_s, u"zlut"_s},
         {"letters that do not decompose", u"Đłßı"_s, u"đłßı"_s},
         {"a dotted capital I", u"İ"_s, u"i"_s},
-        {"a mark alone", u"\u0301"_s, u""_s},
+        {"a lone mark", u"\u0301"_s, u""_s},
         {"lone surrogates", QString(QChar(0xD83D)) + u'A' + QChar(0xDE00),
          QString(QChar(0xD83D)) + u'a' + QChar(0xDE00)},
         {"characters that become longer, in the middle", u"É각😀각Ö𐐀É"_s,

@@ -7,7 +7,7 @@
 
 namespace guide {
 
-/// Texts put together from pieces at random; the same ones at every run.
+/// Random texts composed of pieces, the same in every run.
 class GeneratedText {
   public:
     explicit GeneratedText(QList<QString> pieces, unsigned seed = 1)

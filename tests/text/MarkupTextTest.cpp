@@ -1,4 +1,4 @@
-#include "text/MarkupText.h"
+#include "text/cleaning/MarkupText.h"
 
 #include "GeneratedText.h"
 
@@ -9,7 +9,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// One replacement after another, each on a text of its own.
+/// Applies the replacements one after another, each to the whole text.
 QString naiveDecode(QString text) {
     std::uint64_t start = 0;
     std::uint64_t end = 0;
@@ -87,7 +87,7 @@ TEST(MarkupTextTest, DecodesFragments) {
     }
 }
 
-TEST(MarkupTextTest, AgreesWithOneReplacementAfterAnother) {
+TEST(MarkupTextTest, AgreesWithSuccessiveReplacements) {
     GeneratedText generated({u"&"_s, u"&amp;"_s, u"amp;"_s, u"&lt;"_s, u"&gt;"_s, u"&apos;"_s, u"&quot"_s,
                              u"&#x"_s, u"&#"_s, u"#x"_s, u";"_s, u"26"_s, u"238"_s, u"4aG"_s, u"<![CDATA["_s,
                              u"]]>"_s, u"abcdefgh"_s, u"x"_s});

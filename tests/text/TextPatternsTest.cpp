@@ -1,7 +1,7 @@
-#include "text/TextPatterns.h"
+#include "text/cleaning/TextPatterns.h"
 
 #include "GeneratedText.h"
-#include "text/FeedTextCleaning.h"
+#include "text/cleaning/FeedTextCleaning.h"
 
 #include <QRegularExpression>
 

@@ -1,7 +1,7 @@
-#include "text/Transliteration.h"
+#include "text/display/Transliteration.h"
 
 #include "GeneratedText.h"
-#include "text/ShortTimeFormat.h"
+#include "text/display/ShortTimeFormat.h"
 
 #include <gtest/gtest.h>
 
@@ -41,10 +41,10 @@ TEST(TransliterationTest, DependsOnLanguageAndDevice) {
     alphabet.detectAlphabet(u"nedelja, 21. novembar 2026."_s);
     EXPECT_FALSE(alphabet.useCyrillic());
     alphabet.detectAlphabet(u"Κυριακή, 日曜日, ї"_s);
-    EXPECT_FALSE(alphabet.useCyrillic()) << "only letters that we write ourselves tell";
+    EXPECT_FALSE(alphabet.useCyrillic()) << "letters of other alphabets do not count";
     alphabet.detectAlphabet(u"субота"_s);
     alphabet.detectAlphabet(u"Saturday"_s);
-    EXPECT_TRUE(alphabet.useCyrillic()) << "once found it stays";
+    EXPECT_TRUE(alphabet.useCyrillic()) << "once true, it stays true";
     for (const QString& language : {u"sr"_s, u"bs-BA"_s, u"me"_s, u"ru"_s}) {
         EXPECT_EQ(latin2Cyrillic(u"b"_s, language, alphabet), u"б"_s) << language.toStdString();
     }
@@ -52,7 +52,7 @@ TEST(TransliterationTest, DependsOnLanguageAndDevice) {
     EXPECT_EQ(latin2Cyrillic(std::nullopt, u"mk"_s, alphabet), std::nullopt);
 }
 
-TEST(TransliterationTest, OnePassEqualsOneAKey) {
+TEST(TransliterationTest, OnePassEqualsOnePassPerKey) {
     const std::pair<QString, QString> keys[] = {
         {u"dzh"_s, u"џ"_s},     {u"Dzh"_s, u"Џ"_s},     {u"lj"_s, u"љ"_s},      {u"Lj"_s, u"Љ"_s},
         {u"nj"_s, u"њ"_s},      {u"Nj"_s, u"Њ"_s},      {u"dž"_s, u"џ"_s},      {u"Dž"_s, u"Џ"_s},

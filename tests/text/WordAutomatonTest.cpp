@@ -1,4 +1,4 @@
-#include "text/WordAutomaton.h"
+#include "text/search/WordAutomaton.h"
 
 #include "GeneratedText.h"
 
@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 
 using Found = std::set<std::tuple<int, qsizetype, qsizetype>>;
 
-/// Every stretch of whole characters that folds to a word and neither begins nor ends with one that folds to
-/// nothing.
+/// Every range of whole characters that folds to a word and neither begins nor ends with a character that
+/// folds to nothing.
 Found naiveOccurrences(const std::vector<QString>& words, FoldMode mode, const QString& text) {
     const FoldTable& table = FoldTable::of(mode);
     std::vector<std::pair<qsizetype, qsizetype>> characters;

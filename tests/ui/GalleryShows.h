@@ -51,7 +51,7 @@ inline void fillWithEvening(ScreenWorld& world) {
     world.start();
     world.favorites.titles = {u"Příliš žluťoučký kůň a jeho podivuhodná cesta kolem světa"_s,
                               u"Večerní zprávy"_s};
-    world.alarms.titles = {u"Ősi titkok nyomában"_s};
+    world.setAlarm(ids[1], {20, 110, u"Ősi titkok nyomában"_s});
     world.popular.titles = {u"Doktoři z pohoří"_s, u"Вечерний концерт для скрипки с оркестром"_s};
 
     std::vector<WorldShow> week{

@@ -12,7 +12,7 @@ QString heading(const QString& slug, const QString& name) {
     return u"<h3 class=\"program-channel__title program-channel__title--%1\">%2</h3>\n"_s.arg(slug, name);
 }
 
-/// The headings tell the channels apart by a word of their names.
+/// The class names of the headings contain a word of the channel's name.
 QString headingSlug(const QString& name) {
     if (name == "Barrandov Family"_L1) {
         return u"muzika"_s;
@@ -37,18 +37,18 @@ QString modal(const SiteClock& clock, const QString& id, const Programme& progra
 
 } // namespace
 
-// Links below the channels' headings open windows that stand at the page's end and say everything.
-std::optional<QByteArray> barrandovPage(const SiteVisit& visit) {
+// Links below the channels' headings open dialogs, written at the end of the page, with the details.
+std::optional<QByteArray> barrandovPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Prague");
-    const QString day = visit.query.queryItemValue(u"day"_s);
-    const QDate date = day.isEmpty() ? clock.date(visit.now) : QDate::fromString(day, Qt::ISODate);
-    if (visit.path != "/program/"_L1 || !date.isValid()) {
+    const QString day = request.query.queryItemValue(u"day"_s);
+    const QDate date = day.isEmpty() ? clock.date(request.now) : QDate::fromString(day, Qt::ISODate);
+    if (request.path != "/program/"_L1 || !date.isValid()) {
         return std::nullopt;
     }
     QString blocks;
     QString modals;
     int number = 10;
-    for (const SiteChannel& channel : visit.channels) {
+    for (const SiteChannel& channel : request.channels) {
         const QString name = channel.sourceId.section(u'.', 1);
         blocks += heading(headingSlug(name), name) + u"<ul class=\"program-channel__list\">\n"_s;
         for (const Programme& programme : clock.day(channel, date, 0, kEndOfNight)) {

@@ -9,7 +9,7 @@ namespace {
 constexpr int kMorning = 6;
 constexpr int kPages = 7;
 
-/// What the site calls what a film is about.
+/// The site's number of a genre.
 int genre(Topic topic) {
     switch (topic) {
     case Topic::Adventure:
@@ -37,7 +37,7 @@ int genre(Topic topic) {
     }
 }
 
-/// The first card of a channel is larger and has its time at the end.
+/// The first card of a channel has another layout, with the time at the end.
 QString card(const SiteClock& clock, const Programme& programme, bool first) {
     const QString time = clock.time(programme.start);
     const QString title = escapedMarkup(programme.title);
@@ -53,16 +53,17 @@ QString card(const SiteClock& clock, const Programme& programme, bool first) {
 
 } // namespace
 
-// "/COUNTRY/raspored/": seven days from yesterday on, each from six to six; today begins with what is on air.
-std::optional<QByteArray> cinestarPage(const SiteVisit& visit) {
-    const QString country = visit.path.section(u'/', 1, 1);
+// "/COUNTRY/raspored/": seven days from yesterday on, each from six to six; today's page begins with the show
+// on air.
+std::optional<QByteArray> cinestarPage(const SiteRequest& request) {
+    const QString country = request.path.section(u'/', 1, 1);
     const SiteClock clock(country == "hr"_L1 ? "Europe/Zagreb" : "Europe/Belgrade");
-    const QString number = visit.query.queryItemValue(u"dan"_s);
+    const QString number = request.query.queryItemValue(u"dan"_s);
     const int page = number.isEmpty() ? 1 : number.toInt();
-    if (visit.path.section(u'/', 2) != "raspored/"_L1 || page < 1 || page > kPages) {
+    if (request.path.section(u'/', 2) != "raspored/"_L1 || page < 1 || page > kPages) {
         return std::nullopt;
     }
-    const QDate today = clock.date(visit.now);
+    const QDate today = clock.date(request.now);
     const QDate date = today.addDays(page - 2);
     QString content = u"<ul class='days'>\n"_s;
     for (int i = 1; i <= kPages; ++i) {
@@ -70,14 +71,14 @@ std::optional<QByteArray> cinestarPage(const SiteVisit& visit) {
                                                                 today.addDays(i - 2).toString(u"dd.MM."_s));
     }
     content += u"</ul>\n<div class=\"date\">\n<span>%1</span>\n</div>\n"_s.arg(date.toString(u"dd.MM."_s));
-    for (const SiteChannel& channel : visit.channels) {
+    for (const SiteChannel& channel : request.channels) {
         if (channel.sourceId.section(u'.', 1, 1) != country) {
             continue;
         }
         content += u"<div class='kanal' id='kanal-C%1'>\n"_s.arg(channel.sourceId.section(u'.', 2));
         bool first = true;
         for (const Programme& programme : clock.day(channel, date, kMorning)) {
-            if (date != today || programme.stop > visit.now) {
+            if (date != today || programme.stop > request.now) {
                 content += card(clock, programme, first);
                 first = false;
             }

@@ -12,15 +12,15 @@ constexpr int kLongest = 14;
 
 } // namespace
 
-// One list from today's midnight on, cut into pages, its moments as seconds.
-std::optional<QByteArray> comedyCentralPage(const SiteVisit& visit) {
+// One list from today's midnight on, divided into pages, with times in seconds since the epoch.
+std::optional<QByteArray> comedyCentralPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Bucharest");
-    const int page = visit.query.queryItemValue(u"page"_s).toInt();
-    if (visit.path != "/program-tv"_L1 || visit.channels.empty() || page < 0 || page >= kPages) {
+    const int page = request.query.queryItemValue(u"page"_s).toInt();
+    if (request.path != "/program-tv"_L1 || request.channels.empty() || page < 0 || page >= kPages) {
         return std::nullopt;
     }
-    const SiteChannel& channel = visit.channels.front();
-    const QDate today = clock.date(visit.now);
+    const SiteChannel& channel = request.channels.front();
+    const QDate today = clock.date(request.now);
     const std::vector<Programme> programmes =
         channel.programmes(clock.at(today, 0), clock.at(today.addDays(kLongest), 0));
     QString rows;

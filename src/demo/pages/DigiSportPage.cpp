@@ -16,20 +16,20 @@ QString logo(const QString& name) {
 
 } // namespace
 
-// A tab a day from today on, each with all channels; the days turn at three.
-std::optional<QByteArray> digiSportPage(const SiteVisit& visit) {
+// One tab per day from today on, each with all channels; days begin at three.
+std::optional<QByteArray> digiSportPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Bratislava");
-    if (visit.path != "/program/"_L1) {
+    if (request.path != "/program/"_L1) {
         return std::nullopt;
     }
     QString buttons;
     QString tabs;
     for (int tab = 0; tab < kTabs; ++tab) {
-        const QDate date = clock.date(visit.now).addDays(tab);
+        const QDate date = clock.date(request.now).addDays(tab);
         buttons +=
             u"<li><a href=\"#tabs-%1\">%2</a></li>\n"_s.arg(QString::number(tab), date.toString(u"d.M."_s));
         tabs += u"<div id=\"tabs-%1\" class=\"day\">\n"_s.arg(tab);
-        for (const SiteChannel& channel : visit.channels) {
+        for (const SiteChannel& channel : request.channels) {
             tabs += logo(channel.sourceId.section(u'.', 1)) + u"<ul>\n"_s;
             for (const Programme& programme : clock.day(channel, date, kMorning)) {
                 tabs += u"<li><span><strong>%1</strong></span>\n"

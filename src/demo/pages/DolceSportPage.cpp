@@ -14,17 +14,17 @@ constexpr int kMorning = 8;
 
 } // namespace
 
-// A tab for each day of the week, each with the next such day; the days turn at eight.
-std::optional<QByteArray> dolceSportPage(const SiteVisit& visit) {
+// One tab per weekday, each with the next such day; days begin at eight.
+std::optional<QByteArray> dolceSportPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Bucharest");
     const auto channel =
-        std::find_if(visit.channels.begin(), visit.channels.end(), [&](const SiteChannel& each) {
-            return visit.path == "/program/"_L1 + each.sourceId.section(u'.', 1);
+        std::find_if(request.channels.begin(), request.channels.end(), [&](const SiteChannel& each) {
+            return request.path == "/program/"_L1 + each.sourceId.section(u'.', 1);
         });
-    if (channel == visit.channels.end()) {
+    if (channel == request.channels.end()) {
         return std::nullopt;
     }
-    const QDate today = clock.date(visit.now);
+    const QDate today = clock.date(request.now);
     const QLocale romanian(QLocale::Romanian);
     QString buttons;
     QString tabs;

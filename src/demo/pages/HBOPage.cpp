@@ -27,7 +27,7 @@ std::optional<Country> countryOf(const QString& code) {
     return country == countries.end() ? std::nullopt : std::optional(*country);
 }
 
-/// The day nearest to today that is written so.
+/// The date with this month and day that is nearest to today.
 QDate nearest(const QDate& today, int month, int day) {
     QDate best;
     for (int year = today.year() - 1; year <= today.year() + 1; ++year) {
@@ -53,21 +53,21 @@ QString show(const SiteClock& clock, const Programme& programme, Moment now) {
 } // namespace
 
 // "/COUNTRY/WORD/MONTH/DAY": all channels of a country on one day from six to six.
-std::optional<QByteArray> hboPage(const SiteVisit& visit) {
-    const QString code = visit.path.section(u'/', 1, 1);
+std::optional<QByteArray> hboPage(const SiteRequest& request) {
+    const QString code = request.path.section(u'/', 1, 1);
     const auto country = countryOf(code);
-    if (!country || visit.path.section(u'/', 2, 2) != country->word) {
+    if (!country || request.path.section(u'/', 2, 2) != country->word) {
         return std::nullopt;
     }
     const SiteClock clock(country->zone);
-    const QDate date = nearest(clock.date(visit.now), visit.path.section(u'/', 3, 3).toInt(),
-                               visit.path.section(u'/', 4, 4).toInt());
+    const QDate date = nearest(clock.date(request.now), request.path.section(u'/', 3, 3).toInt(),
+                               request.path.section(u'/', 4, 4).toInt());
     if (!date.isValid()) {
         return std::nullopt;
     }
     QString blocks = u"<script>\nsite.start(\"initVariables\", {\"day\": \"%1\", \"rows\": [1, 2]});\n"
                      "</script>\n<div class=\"channels\">\n"_s.arg(date.toString(Qt::ISODate));
-    for (const SiteChannel& channel : visit.channels) {
+    for (const SiteChannel& channel : request.channels) {
         if (channel.sourceId.section(u'.', 1, 1) != code) {
             continue;
         }
@@ -75,7 +75,7 @@ std::optional<QByteArray> hboPage(const SiteVisit& visit) {
             u"<div class=\"channel\">\n<div class=\"logo logo_index_%1\"></div>\n<div class=\"shows\">\n"_s
                 .arg(channel.sourceId.section(u'.', 2, 2));
         for (const Programme& programme : clock.day(channel, date, kMorning)) {
-            blocks += show(clock, programme, visit.now);
+            blocks += show(clock, programme, request.now);
         }
         blocks += u"</div>\n</div>\n"_s;
     }

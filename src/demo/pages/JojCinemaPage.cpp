@@ -10,15 +10,15 @@ constexpr int kMorning = 6;
 
 } // namespace
 
-// A day from six to six, below a row of links to the days around it.
-std::optional<QByteArray> jojCinemaPage(const SiteVisit& visit) {
+// One day from six to six, below links to the days around it.
+std::optional<QByteArray> jojCinemaPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Bratislava");
     const QString format = u"d-M-yyyy"_s;
-    const QDate date = QDate::fromString(visit.query.queryItemValue(u"day"_s), format);
-    if (visit.path != "/cz/cz-program/"_L1 || visit.channels.empty() || !date.isValid()) {
+    const QDate date = QDate::fromString(request.query.queryItemValue(u"day"_s), format);
+    if (request.path != "/cz/cz-program/"_L1 || request.channels.empty() || !date.isValid()) {
         return std::nullopt;
     }
-    const SiteChannel& channel = visit.channels.front();
+    const SiteChannel& channel = request.channels.front();
     QString days;
     for (int i = -3; i <= 3; ++i) {
         days += u"<li><a href=\"?day=%1\"%2>%3</a></li>\n"_s.arg(date.addDays(i).toString(format),

@@ -36,16 +36,16 @@ QString kindWord(Topic topic) {
 
 } // namespace
 
-// All channels of the group on one day from six to six.
-std::optional<QByteArray> novaPage(const SiteVisit& visit) {
+// All channels on one day from six to six.
+std::optional<QByteArray> novaPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Prague");
-    const QDate date = QDate::fromString(visit.query.queryItemValue(u"epg_date"_s), Qt::ISODate);
-    if (visit.path != "/program/"_L1 || !date.isValid()) {
+    const QDate date = QDate::fromString(request.query.queryItemValue(u"epg_date"_s), Qt::ISODate);
+    if (request.path != "/program/"_L1 || !date.isValid()) {
         return std::nullopt;
     }
     const QString format = u"yyyy-MM-dd HH:mm:ss"_s;
     QString blocks = u"<div class=\"channels\">\n"_s;
-    for (const SiteChannel& channel : visit.channels) {
+    for (const SiteChannel& channel : request.channels) {
         blocks +=
             u"<div class=\"channels-item\">\n<div class=\"channels-logo\">%1</div>\n<ul class=\"channels-content\">\n"_s
                 .arg(escapedMarkup(channel.sourceId.section(u'.', 2)));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "demo/pages/SiteVisit.h"
+#include "demo/pages/SiteRequest.h"
 
 #include <QByteArray>
 
@@ -8,20 +8,20 @@
 
 namespace guide {
 
-/// Each answers a request as a site of its family does; nothing for a page that the site has not.
-using SitePage = std::optional<QByteArray> (*)(const SiteVisit& visit);
+/// Generates the page as a site of its family would; nothing for a page that does not exist.
+using SitePage = std::optional<QByteArray> (*)(const SiteRequest& request);
 
-std::optional<QByteArray> portNetworkPage(const SiteVisit& visit);
-std::optional<QByteArray> freePalinsestoPage(const SiteVisit& visit);
-std::optional<QByteArray> payPalinsestoPage(const SiteVisit& visit);
-std::optional<QByteArray> dolceSportPage(const SiteVisit& visit);
-std::optional<QByteArray> comedyCentralPage(const SiteVisit& visit);
-std::optional<QByteArray> digiSportPage(const SiteVisit& visit);
-std::optional<QByteArray> jojCinemaPage(const SiteVisit& visit);
-std::optional<QByteArray> barrandovPage(const SiteVisit& visit);
-std::optional<QByteArray> hboPage(const SiteVisit& visit);
-std::optional<QByteArray> primaMaxPage(const SiteVisit& visit);
-std::optional<QByteArray> novaPage(const SiteVisit& visit);
-std::optional<QByteArray> cinestarPage(const SiteVisit& visit);
+std::optional<QByteArray> portNetworkPage(const SiteRequest& request);
+std::optional<QByteArray> freePalinsestoPage(const SiteRequest& request);
+std::optional<QByteArray> payPalinsestoPage(const SiteRequest& request);
+std::optional<QByteArray> dolceSportPage(const SiteRequest& request);
+std::optional<QByteArray> comedyCentralPage(const SiteRequest& request);
+std::optional<QByteArray> digiSportPage(const SiteRequest& request);
+std::optional<QByteArray> jojCinemaPage(const SiteRequest& request);
+std::optional<QByteArray> barrandovPage(const SiteRequest& request);
+std::optional<QByteArray> hboPage(const SiteRequest& request);
+std::optional<QByteArray> primaMaxPage(const SiteRequest& request);
+std::optional<QByteArray> novaPage(const SiteRequest& request);
+std::optional<QByteArray> cinestarPage(const SiteRequest& request);
 
 } // namespace guide

@@ -62,15 +62,15 @@ QString row(const SiteClock& clock, const Programme& programme) {
 
 } // namespace
 
-// A file without sections: every programme says all in its attributes.
-std::optional<QByteArray> freePalinsestoPage(const SiteVisit& visit) {
+// No sections: every programme has all its data in attributes.
+std::optional<QByteArray> freePalinsestoPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Rome");
-    if (visit.path != "/dati/palinsesto/palinsesto.xml"_L1) {
+    if (request.path != "/dati/palinsesto/palinsesto.xml"_L1) {
         return std::nullopt;
     }
     QString text = u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<palinsesto>\n<programmi>\n"_s;
-    const QDate today = clock.date(visit.now);
-    for (const SiteChannel& channel : visit.channels) {
+    const QDate today = clock.date(request.now);
+    for (const SiteChannel& channel : request.channels) {
         for (const Programme& programme : channel.programmes(clock.at(today.addDays(-1), kMorning),
                                                              clock.at(today.addDays(kDaysAhead), kMorning))) {
             text += u"<programma idref=\"%1\" timestamp=\"%2\" durata=\"%3\" titolo=\"%4\"/>\n"_s.arg(
@@ -84,17 +84,17 @@ std::optional<QByteArray> freePalinsestoPage(const SiteVisit& visit) {
     return (text + u"</programmi>\n</palinsesto>\n"_s).toUtf8();
 }
 
-// A section a day and, in it, a section a channel; a day lasts from six to six.
-std::optional<QByteArray> payPalinsestoPage(const SiteVisit& visit) {
+// One section per day, from six to six, and in it one section per channel.
+std::optional<QByteArray> payPalinsestoPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Rome");
-    if (visit.path != "/export/palinsesto.xml"_L1) {
+    if (request.path != "/export/palinsesto.xml"_L1) {
         return std::nullopt;
     }
     QString text = u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<palinsesto>\n"_s;
     for (int i = -1; i < kDaysAhead; ++i) {
-        const QDate date = clock.date(visit.now).addDays(i);
+        const QDate date = clock.date(request.now).addDays(i);
         text += u"<giorno data=\"%1\">\n"_s.arg(date.toString(u"yyyy/MM/dd"_s));
-        for (const SiteChannel& channel : visit.channels) {
+        for (const SiteChannel& channel : request.channels) {
             text += u"<canale id=\"%1\" nome=\"%2\">\n"_s.arg(channel.sourceId.sliced(1),
                                                               escapedMarkup(channel.title));
             for (const Programme& programme : clock.day(channel, date, kMorning)) {

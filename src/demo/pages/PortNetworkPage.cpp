@@ -37,17 +37,17 @@ QJsonObject show(const SiteClock& clock, const Programme& programme) {
 
 } // namespace
 
-// One document with an object for each day of the window.
-std::optional<QByteArray> portNetworkPage(const SiteVisit& visit) {
+// One document with an object for each requested day.
+std::optional<QByteArray> portNetworkPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Budapest");
-    const QString id = visit.query.queryItemValue(u"channel_id"_s);
-    const auto channel = std::find_if(visit.channels.begin(), visit.channels.end(), [&](const auto& each) {
-        return id == "tvchannel-"_L1 + each.sourceId;
-    });
-    const QDate from = QDate::fromString(visit.query.queryItemValue(u"i_datetime_from"_s), Qt::ISODate);
-    const QDate to = QDate::fromString(visit.query.queryItemValue(u"i_datetime_to"_s), Qt::ISODate);
-    if (visit.path != "/tvapi"_L1 || channel == visit.channels.end() || !from.isValid() || !to.isValid() ||
-        from.daysTo(to) > 31) {
+    const QString id = request.query.queryItemValue(u"channel_id"_s);
+    const auto channel =
+        std::find_if(request.channels.begin(), request.channels.end(),
+                     [&](const auto& each) { return id == "tvchannel-"_L1 + each.sourceId; });
+    const QDate from = QDate::fromString(request.query.queryItemValue(u"i_datetime_from"_s), Qt::ISODate);
+    const QDate to = QDate::fromString(request.query.queryItemValue(u"i_datetime_to"_s), Qt::ISODate);
+    if (request.path != "/tvapi"_L1 || channel == request.channels.end() || !from.isValid() ||
+        !to.isValid() || from.daysTo(to) > 31) {
         return std::nullopt;
     }
     QJsonObject days;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kEndOfNight = 6;
 
-/// One running text: what happens, the facts, the director, the cast.
+/// One text: description, facts, director, cast.
 QString block(const Programme& programme) {
     QString text = programme.description.isEmpty() ? programme.title + u'.' : programme.description;
     if (programme.year > 0) {
@@ -39,15 +39,15 @@ QString row(const SiteClock& clock, const Programme& programme) {
 
 } // namespace
 
-// A calendar day and the night behind it.
-std::optional<QByteArray> primaMaxPage(const SiteVisit& visit) {
+// A calendar day and the night after it.
+std::optional<QByteArray> primaMaxPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Prague");
-    const QString day = visit.path.section(u'/', 2, 2);
-    const QDate date = day.isEmpty() ? clock.date(visit.now) : QDate::fromString(day, Qt::ISODate);
-    if (visit.path.section(u'/', 1, 1) != "tv-program"_L1 || visit.channels.empty() || !date.isValid()) {
+    const QString day = request.path.section(u'/', 2, 2);
+    const QDate date = day.isEmpty() ? clock.date(request.now) : QDate::fromString(day, Qt::ISODate);
+    if (request.path.section(u'/', 1, 1) != "tv-program"_L1 || request.channels.empty() || !date.isValid()) {
         return std::nullopt;
     }
-    const SiteChannel& channel = visit.channels.front();
+    const SiteChannel& channel = request.channels.front();
     QString content = u"<div class=\"tabs\"><a class=\"tab\" href=\"/tv-program\">Dnes</a>"
                       "<a class=\"tab tab-active\">%1</a></div>\n"_s.arg(date.toString(u"d. M."_s));
     for (const Programme& programme : clock.day(channel, date, 0, kEndOfNight)) {

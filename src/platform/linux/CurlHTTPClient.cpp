@@ -1,6 +1,7 @@
 #include "platform/linux/CurlHTTPClient.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace guide {
 
@@ -22,7 +23,7 @@ TransferResult cancelledTransfer() {
     return failed(u"the transfer was cancelled"_s, true);
 }
 
-// Which no network is needed for.
+// Addresses that need no network.
 bool isThisMachine(const QUrl& url) {
     const QString host = url.host();
     return host == "localhost"_L1 || host.startsWith("127."_L1) || host == "::1"_L1;
@@ -30,7 +31,7 @@ bool isThisMachine(const QUrl& url) {
 
 } // namespace
 
-// A multi handle for the length of one transfer, known to whoever cancels. Null where none may be had.
+// Borrows a multi handle for one transfer and registers it for cancelAll. Null when the client is cancelled.
 class CurlHTTPClient::Lane {
   public:
     explicit Lane(CurlHTTPClient& client)
@@ -39,7 +40,7 @@ class CurlHTTPClient::Lane {
         if (client.m_cancelled.load()) {
             return;
         }
-        // The one used last has the freshest connections.
+        // The most recently used handle has the freshest connections.
         if (!client.m_idle.empty()) {
             m_multi = std::move(client.m_idle.back());
             client.m_idle.pop_back();
@@ -73,12 +74,18 @@ CurlHTTPClient::CurlHTTPClient(ResponseCache& cache, const CurlHTTPClientOptions
 
 CurlHTTPClient::~CurlHTTPClient() = default;
 
-TransferResult CurlHTTPClient::perform(const HTTPRequest& request) {
+TransferResult CurlHTTPClient::perform(const HTTPRequest& request, const TakePiece& takePiece) {
     if (m_cancelled.load()) {
         return cancelledTransfer();
     }
     if (request.cachePolicy != CachePolicy::ReloadIgnoringCache) {
         if (std::optional<TransferResult> cached = m_cache.cachedResponse(request)) {
+            if (takePiece) {
+                const QByteArray body = std::exchange(cached->body, {});
+                if (!body.isEmpty() && !takePiece(body)) {
+                    cached->error = refusedPiece();
+                }
+            }
             return *std::move(cached);
         }
         if (request.cachePolicy == CachePolicy::ReturnCacheDataDontLoad) {
@@ -88,34 +95,38 @@ TransferResult CurlHTTPClient::perform(const HTTPRequest& request) {
     if (const QString scheme = request.url.scheme(); scheme != "http"_L1 && scheme != "https"_L1) {
         return failed(u"only http and https are opened"_s);
     }
-    TransferResult result = transfer(request);
-    m_cache.store(request, result);
+    TransferResult result = transfer(request, takePiece);
+    if (!takePiece) {
+        m_cache.store(request, result);
+    } else if (result.response && isSuccess(result.response->statusCode)) {
+        m_cache.remove(request);
+    }
     return result;
 }
 
-TransferResult CurlHTTPClient::transfer(const HTTPRequest& request) {
+TransferResult CurlHTTPClient::transfer(const HTTPRequest& request, const TakePiece& takePiece) {
     const Lane lane(*this);
     if (lane.multi() == nullptr) {
         return failed(u"the transfer was cancelled"_s, m_cancelled.load());
     }
     const auto until = std::chrono::steady_clock::now() + request.resourceTimeout;
-    HTTPRequest asked = request;
+    HTTPRequest httpRequest = request;
     for (;;) {
-        CurlTransfer transfer(asked, m_settings);
+        CurlTransfer transfer(httpRequest, takePiece, m_settings);
         TransferResult result = transfer.run(lane.multi(), m_cancelled);
-        if (!request.waitsForConnectivity || !transfer.foundNoWay() || isThisMachine(request.url) ||
+        if (!request.waitsForConnectivity || !transfer.couldNotConnect() || isThisMachine(request.url) ||
             m_hasNetwork()) {
             return result;
         }
         if (!awaitNetwork(until)) {
             return m_cancelled.load() ? cancelledTransfer() : result;
         }
-        asked.resourceTimeout =
+        httpRequest.resourceTimeout =
             std::chrono::ceil<std::chrono::milliseconds>(until - std::chrono::steady_clock::now());
     }
 }
 
-// False when the time was up, or the end of the program came first.
+// False when the time is up or the client is cancelled first.
 bool CurlHTTPClient::awaitNetwork(std::chrono::steady_clock::time_point until) {
     qInfo("waiting for a network");
     std::unique_lock lock(m_mutex);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/HTTPClient.h"
-#include "platform/ResponseCache.h"
+#include "platform/http/HTTPClient.h"
+#include "platform/http/ResponseCache.h"
 #include "platform/linux/CurlTransfer.h"
 #include "platform/linux/NetworkRoutes.h"
 
@@ -15,30 +15,30 @@
 namespace guide {
 
 struct CurlHTTPClientOptions {
-    /// A longer body is an error, before and after content decoding. Bytes.
+    /// In bytes, before and after content decoding. A longer body is an error.
     qint64 maximumBodySize = qint64{512} << 20;
-    /// Where connections really go: "HOST:PORT:CONNECT-HOST:CONNECT-PORT", an empty host or port standing for
-    /// any.
+    /// Redirects connections: "HOST:PORT:CONNECT-HOST:CONNECT-PORT"; an empty host or port matches any.
     std::vector<QByteArray> connectTo;
-    /// Whether the device has a network, asked on the threads of transfers that found no way.
+    /// Whether the device has a network. Called on the threads of transfers that could not connect.
     std::function<bool()> hasNetwork = guide::hasNetwork;
 };
 
-/// Transfers by libcurl: proxies as the environment names them, certificates checked against the system's
-/// authorities, kept connections used again. GlobalLibraries has to live longer, and so has the cache.
+/// Transfers with libcurl. Proxies come from the environment, certificates are checked against the system's
+/// authorities, and connections are reused. GlobalLibraries and the cache must outlive the client.
 class CurlHTTPClient final : public HTTPClient {
   public:
     explicit CurlHTTPClient(ResponseCache& cache, const CurlHTTPClientOptions& options = {});
     ~CurlHTTPClient() override;
 
-    TransferResult perform(const HTTPRequest& request) override;
+    using HTTPClient::perform;
+    TransferResult perform(const HTTPRequest& request, const TakePiece& takePiece) override;
     void removeCachedResponse(const HTTPRequest& request) override;
     void cancelAll() override;
 
   private:
     class Lane;
 
-    TransferResult transfer(const HTTPRequest& request);
+    TransferResult transfer(const HTTPRequest& request, const TakePiece& takePiece);
     bool awaitNetwork(std::chrono::steady_clock::time_point until);
 
     ResponseCache& m_cache;
@@ -49,7 +49,7 @@ class CurlHTTPClient final : public HTTPClient {
 
     std::mutex m_mutex;
     std::condition_variable m_cancelling;
-    /// Each drives one transfer at a time and keeps its connections for the next one.
+    /// Each runs one transfer at a time and keeps its connections for the next one.
     std::vector<CurlMulti> m_idle;
     std::vector<CURLM*> m_running;
 };

@@ -22,8 +22,8 @@ struct CurlListDeleter {
 };
 using CurlList = std::unique_ptr<curl_slist, CurlListDeleter>;
 
-/// What transfers of all threads have in common: cookies, resolved names and TLS sessions, all in memory.
-/// (Connections are not among it: the library cannot share them between threads.)
+/// State that transfers on all threads share: cookies, resolved names and TLS sessions, all in memory.
+/// Connections are not included: libcurl cannot share them between threads.
 class CurlShare {
   public:
     CurlShare();

@@ -14,7 +14,7 @@ namespace {
 constexpr long kBufferSize = 256 * 1024;
 constexpr std::chrono::milliseconds kLongestWait{1000};
 
-// A line end in a header would let its text write headers of its own.
+// A line end in a value would inject further headers.
 bool isClean(const QByteArray& text) {
     return std::none_of(text.cbegin(), text.cend(),
                         [](char c) { return c == '\r' || c == '\n' || c == '\0'; });
@@ -30,7 +30,7 @@ bool append(CurlList& list, const QByteArray& line) {
     return true;
 }
 
-// Whether the library knows how to undo all of them.
+// Whether libcurl can decode all of them.
 bool areKnownEncodings(const QByteArray& encodings) {
     static const QSet<QByteArray> kKnown{"identity", "none", "gzip", "x-gzip", "deflate", "br", "zstd"};
     const QList<QByteArray> names = encodings.toLower().split(',');
@@ -40,8 +40,18 @@ bool areKnownEncodings(const QByteArray& encodings) {
 
 } // namespace
 
-CurlTransfer::CurlTransfer(const HTTPRequest& request, const CurlTransferSettings& settings)
+TransferError refusedPiece() {
+    return {u"the receiver of the body ended the transfer"_s, {}, {}, true};
+}
+
+bool isSuccess(int statusCode) {
+    return statusCode >= 200 && statusCode < 300;
+}
+
+CurlTransfer::CurlTransfer(const HTTPRequest& request, const TakePiece& takePiece,
+                           const CurlTransferSettings& settings)
     : m_request(request)
+    , m_takePiece(takePiece)
     , m_settings(settings)
     , m_easy(curl_easy_init()) {}
 
@@ -50,17 +60,18 @@ TransferResult CurlTransfer::run(CURLM* multi, const std::atomic<bool>& cancelle
         return result(Outcome::Broken);
     }
     Outcome outcome = drive(multi, cancelled);
-    if (outcome == Outcome::Done && m_code == CURLE_BAD_CONTENT_ENCODING && m_request.method == "GET" &&
+    if (outcome == Outcome::Done && m_code == CURLE_BAD_CONTENT_ENCODING && m_bodySize == 0 &&
+        m_request.method == "GET" &&
         !areKnownEncodings(m_response.header("Content-Encoding").value_or("none"))) {
-        // The library gives up on an encoding that it does not know. Often it only says what the file is: an
-        // xz file, say. So the body is asked for once more, to be taken as it comes.
+        // libcurl fails on an unknown encoding. It often only describes the file, such as xz. So the transfer
+        // is repeated without decoding.
         curl_easy_setopt(m_easy.get(), CURLOPT_HTTP_CONTENT_DECODING, 0L);
         outcome = drive(multi, cancelled);
     }
     return result(outcome);
 }
 
-bool CurlTransfer::foundNoWay() const {
+bool CurlTransfer::couldNotConnect() const {
     return m_code == CURLE_COULDNT_RESOLVE_HOST || m_code == CURLE_COULDNT_RESOLVE_PROXY ||
            m_code == CURLE_COULDNT_CONNECT;
 }
@@ -71,7 +82,7 @@ bool CurlTransfer::prepare() {
     bool ready = curl_easy_setopt(easy, CURLOPT_URL, url.constData()) == CURLE_OK &&
                  curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "http,https") == CURLE_OK && prepareHeaders();
     curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
-    // A name that is still being looked up does not hold up the end of a transfer.
+    // A pending name lookup must not delay the end of a transfer.
     curl_easy_setopt(easy, CURLOPT_QUICK_EXIT, 1L);
     curl_easy_setopt(easy, CURLOPT_SHARE, m_settings.share);
     curl_easy_setopt(easy, CURLOPT_COOKIEFILE, "");
@@ -103,7 +114,7 @@ bool CurlTransfer::prepareHeaders() {
             return false;
         }
         if (name.compare("Accept-Encoding", Qt::CaseInsensitive) == 0) {
-            // Said this way the library undoes what the server then applies.
+            // With this option libcurl also decodes the body.
             curl_easy_setopt(m_easy.get(), CURLOPT_ACCEPT_ENCODING, value.constData());
             continue;
         }
@@ -112,7 +123,7 @@ bool CurlTransfer::prepareHeaders() {
             return false;
         }
     }
-    // With a body the library would name a type of its own and ask before it sends.
+    // Otherwise libcurl adds a content type and waits for "100 Continue" before it sends a body.
     if (!m_request.body.isEmpty() &&
         (!append(m_headers, "Expect:") || (!hasContentType && !append(m_headers, "Content-Type:")))) {
         return false;
@@ -188,16 +199,16 @@ bool CurlTransfer::isDone(CURLM* multi) {
 
 TransferResult CurlTransfer::result(Outcome outcome) {
     TransferResult result;
-    long status = 0;
-    if (m_easy) {
-        curl_easy_getinfo(m_easy.get(), CURLINFO_RESPONSE_CODE, &status);
-    }
-    if (status != 0) {
-        m_response.statusCode = static_cast<int>(status);
+    if (const int status = statusCode(); status != 0) {
+        m_response.statusCode = status;
         result.response = std::move(m_response);
     }
     if (outcome == Outcome::Done && m_code == CURLE_OK) {
         result.body = std::move(m_body);
+        return result;
+    }
+    if (m_refused) {
+        result.error = refusedPiece();
         return result;
     }
     result.error = TransferError{describe(outcome), {}, {}, outcome == Outcome::Cancelled};
@@ -233,7 +244,8 @@ std::size_t CurlTransfer::onHeader(char* data, std::size_t size, std::size_t cou
 
 std::size_t CurlTransfer::onBody(char* data, std::size_t size, std::size_t count, void* self) {
     const std::size_t bytes = size * count;
-    return static_cast<CurlTransfer*>(self)->takeBody(data, bytes) ? bytes : CURL_WRITEFUNC_ERROR;
+    const QByteArrayView view(data, static_cast<qsizetype>(bytes));
+    return static_cast<CurlTransfer*>(self)->takeBody(view) ? bytes : CURL_WRITEFUNC_ERROR;
 }
 
 int CurlTransfer::onProgress(void* self, curl_off_t /*downloadTotal*/, curl_off_t downloaded,
@@ -248,7 +260,7 @@ int CurlTransfer::onProgress(void* self, curl_off_t /*downloadTotal*/, curl_off_
 
 void CurlTransfer::takeHeader(const QByteArray& line) {
     m_lastActivity = std::chrono::steady_clock::now();
-    // A new status line begins the next response: what came before was an interim one.
+    // A new status line begins the next response; the previous one was an interim one.
     if (line.startsWith("HTTP/")) {
         m_response.headers.clear();
         return;
@@ -259,20 +271,33 @@ void CurlTransfer::takeHeader(const QByteArray& line) {
     }
 }
 
-bool CurlTransfer::takeBody(const char* data, std::size_t size) {
-    m_lastActivity = std::chrono::steady_clock::now();
-    const auto count = static_cast<qsizetype>(size);
-    if (count > m_settings.maximumBodySize - m_body.size()) {
+bool CurlTransfer::takeBody(QByteArrayView bytes) {
+    if (bytes.size() > m_settings.maximumBodySize - m_bodySize) {
         m_tooLarge = true;
         return false;
     }
-    if (m_body.isNull()) {
-        curl_off_t announced = 0;
-        curl_easy_getinfo(m_easy.get(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
-        m_body.reserve(std::clamp<qint64>(announced, count, m_settings.maximumBodySize));
+    m_bodySize += bytes.size();
+    if (m_takePiece && isSuccess(statusCode())) {
+        m_refused = !m_takePiece(bytes);
+    } else {
+        if (m_body.isNull()) {
+            curl_off_t announced = 0;
+            curl_easy_getinfo(m_easy.get(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
+            m_body.reserve(std::clamp<qint64>(announced, bytes.size(), m_settings.maximumBodySize));
+        }
+        m_body.append(bytes);
     }
-    m_body.append(data, count);
-    return true;
+    // The receiver's time does not count as inactivity of the server.
+    m_lastActivity = std::chrono::steady_clock::now();
+    return !m_refused;
+}
+
+int CurlTransfer::statusCode() const {
+    long status = 0;
+    if (m_easy) {
+        curl_easy_getinfo(m_easy.get(), CURLINFO_RESPONSE_CODE, &status);
+    }
+    return static_cast<int>(status);
 }
 
 } // namespace guide

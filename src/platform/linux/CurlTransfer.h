@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/HTTPClient.h"
+#include "platform/http/HTTPClient.h"
 #include "platform/linux/CurlHandles.h"
 
 #include <QByteArray>
@@ -12,25 +12,31 @@
 
 namespace guide {
 
-/// What all transfers of one client have in common.
+/// Settings of all transfers of a client.
 struct CurlTransferSettings {
     CURLSH* share = nullptr;
     qint64 maximumBodySize = 0;
     std::vector<QByteArray> connectTo;
 };
 
-/// One transfer, on the caller's thread. The wake-up function of the multi handle ends its wait, and with the
-/// cancelled flag set the transfer.
+/// The error of a transfer whose receiver refused a piece.
+TransferError refusedPiece();
+
+bool isSuccess(int statusCode);
+
+/// A transfer on the calling thread. Waking up the multi handle with the cancelled flag set ends it.
 class CurlTransfer {
   public:
-    CurlTransfer(const HTTPRequest& request, const CurlTransferSettings& settings);
+    /// Without a `takePiece` the body is collected in the result. The arguments must outlive the transfer.
+    CurlTransfer(const HTTPRequest& request, const TakePiece& takePiece,
+                 const CurlTransferSettings& settings);
     CurlTransfer(const CurlTransfer&) = delete;
     CurlTransfer& operator=(const CurlTransfer&) = delete;
 
     TransferResult run(CURLM* multi, const std::atomic<bool>& cancelled);
 
-    /// Whether the transfer that has run found no way to the server.
-    bool foundNoWay() const;
+    /// Whether the finished transfer failed to resolve or connect to the server.
+    bool couldNotConnect() const;
 
   private:
     using SteadyTime = std::chrono::steady_clock::time_point;
@@ -50,9 +56,11 @@ class CurlTransfer {
     static int onProgress(void* self, curl_off_t downloadTotal, curl_off_t downloaded, curl_off_t uploadTotal,
                           curl_off_t uploaded);
     void takeHeader(const QByteArray& line);
-    bool takeBody(const char* data, std::size_t size);
+    bool takeBody(QByteArrayView bytes);
+    int statusCode() const;
 
     const HTTPRequest& m_request;
+    const TakePiece& m_takePiece;
     const CurlTransferSettings& m_settings;
     CurlEasy m_easy;
     CurlList m_headers;
@@ -62,7 +70,10 @@ class CurlTransfer {
 
     HTTPResponse m_response;
     QByteArray m_body;
+    /// Bytes of the body so far, collected or delivered.
+    qint64 m_bodySize = 0;
     bool m_tooLarge = false;
+    bool m_refused = false;
     SteadyTime m_lastActivity;
     curl_off_t m_moved = 0;
 };

@@ -16,11 +16,11 @@ namespace {
 struct Setting {
     QString space;
     QString key;
-    /// Whether the value asks for less motion.
+    /// Whether the value asks for reduced motion.
     bool (*less)(const QVariant& value);
 };
 
-// What desktops call it: the common name, and those of two that had it before.
+// The common setting, and the older ones of two desktops.
 const std::array<Setting, 3>& settings() {
     static const std::array<Setting, 3> all{
         {{u"org.freedesktop.appearance"_s, u"reduced-motion"_s,
@@ -34,7 +34,7 @@ const std::array<Setting, 3>& settings() {
     return all;
 }
 
-// The portal wraps what it reads once or twice.
+// The portal wraps values in one or two variants.
 QVariant unwrapped(QVariant value) {
     while (value.userType() == qMetaTypeId<QDBusVariant>()) {
         value = value.value<QDBusVariant>().variant();
@@ -65,7 +65,7 @@ DesktopMotion::DesktopMotion(QDBusConnection bus, const QString& service)
 }
 
 std::unique_ptr<DesktopMotion> DesktopMotion::ofSession() {
-    // Without an address the library would start a bus of its own.
+    // Without an address libdbus would start a bus.
     if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) {
         return nullptr;
     }
@@ -74,9 +74,9 @@ std::unique_ptr<DesktopMotion> DesktopMotion::ofSession() {
 }
 
 void DesktopMotion::settingChanged(const QDBusMessage& change) {
-    const QList<QVariant> told = change.arguments();
-    if (told.size() == 3) {
-        take(told[0].toString(), told[1].toString(), told[2]);
+    const QList<QVariant> arguments = change.arguments();
+    if (arguments.size() == 3) {
+        take(arguments[0].toString(), arguments[1].toString(), arguments[2]);
     }
 }
 

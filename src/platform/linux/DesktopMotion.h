@@ -11,16 +11,16 @@
 
 namespace guide {
 
-/// Whether the desktop asks its programs for less motion, as its settings portal tells. Until the portal has
-/// answered, and on a desktop without one, things move. Main thread.
+/// Whether the desktop asks programs to reduce motion, according to its settings portal. Motion is on until
+/// the portal has answered and on desktops without one. Main thread.
 class DesktopMotion : public QObject {
     Q_OBJECT
 
   public:
-    /// Asks over that bus, without waiting; `service` is empty where the portal itself is at the other end.
+    /// Asks asynchronously over the bus; `service` is empty when the portal itself is the peer.
     explicit DesktopMotion(QDBusConnection bus,
                            const QString& service = QStringLiteral("org.freedesktop.portal.Desktop"));
-    /// Nothing where the session has no bus.
+    /// Null when the session has no bus.
     static std::unique_ptr<DesktopMotion> ofSession();
 
     bool moves() const { return m_against.isEmpty(); }
@@ -35,7 +35,7 @@ class DesktopMotion : public QObject {
     void take(const QString& space, const QString& key, const QVariant& value);
 
     QDBusConnection m_bus;
-    /// The settings that ask for less.
+    /// Settings that ask for reduced motion.
     QSet<QString> m_against;
 };
 

@@ -17,7 +17,7 @@ constexpr int kBackgroundNice = 10;
 const QEvent::Type kWakeUpEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
 void startWorker(QueuePriority priority) {
-    // Names are cut at 15 bytes by the system. A failure of either call only costs convenience.
+    // The system limits names to 15 bytes. A failure of either call does no harm.
     switch (priority) {
     case QueuePriority::Background:
         pthread_setname_np(pthread_self(), "background");
@@ -34,7 +34,7 @@ void startWorker(QueuePriority priority) {
 
 } // namespace
 
-/// Receives the wake-ups. An event of its own kind, without content, is all that crosses threads through Qt.
+/// Receives the wake-ups as events without content.
 class EventLoopQueues::Loop final : public QObject {
   public:
     bool event(QEvent* event) override {

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/ThreadedQueues.h"
+#include "platform/queues/ThreadedQueues.h"
 
 #include <memory>
 
 namespace guide {
 
-/// The queues of the process with Qt's event loop of the thread that makes them as the main queue. Workers
-/// carry the name of their class; background ones leave the processor to the others.
+/// Queues whose main queue is Qt's event loop of the creating thread. Worker threads are named after their
+/// class; background workers run at a lower priority.
 class EventLoopQueues final : public DispatchQueues {
   public:
     EventLoopQueues();

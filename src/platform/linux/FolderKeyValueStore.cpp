@@ -1,16 +1,26 @@
 #include "platform/linux/FolderKeyValueStore.h"
 
-#include "platform/FileReplacement.h"
+#include "platform/files/FileReplacement.h"
+#include "platform/linux/FolderWatcher.h"
 #include "platform/linux/KeyValueJson.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
+#include <QHash>
+#include <QSet>
 
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+#include <mutex>
 #include <sys/stat.h>
+#include <utility>
 
 namespace guide {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -19,12 +29,153 @@ constexpr auto kSuffix = ".json"_L1;
 constexpr qsizetype kLongestName = 180;
 constexpr qsizetype kDigestDigits = 32;
 constexpr std::int64_t kLargestFile = 16 << 20;
+// A sync tool brings several files in one go.
+constexpr auto kSettlingTime = 250ms;
 
 } // namespace
 
+/// The values in the folder. May be used from any thread.
+class FolderKeyValueStore::Files {
+  public:
+    explicit Files(const QString& folder)
+        : m_folder(folder) {}
+
+    std::optional<QCborValue> value(const QString& key) {
+        const std::lock_guard lock(m_mutex);
+        return read(fileName(key)).value;
+    }
+
+    bool set(const QString& key, const QCborValue& value) {
+        const std::optional<QByteArray> json = keyValueJson(key, value);
+        if (!json) {
+            return false;
+        }
+        const QString name = fileName(key);
+        const std::lock_guard lock(m_mutex);
+        if (!replaceFile(path(name), *json)) {
+            return false;
+        }
+        m_files.insert(name, {stampOf(path(name)).value_or(Stamp{}), key, value});
+        m_announced.insert(key, value);
+        return true;
+    }
+
+    void remove(const QString& key) {
+        const QString name = fileName(key);
+        const std::lock_guard lock(m_mutex);
+        QFile::remove(path(name));
+        m_files.remove(name);
+        m_announced.remove(key);
+    }
+
+    /// The keys whose values changed since the last call, changes by set() and remove() not included.
+    QStringList changedKeys() {
+        const std::lock_guard lock(m_mutex);
+        const QDir folder(m_folder);
+        if (!folder.exists()) {
+            return {};
+        }
+        QHash<QString, QCborValue> values;
+        const QStringList names = folder.entryList({u"*"_s + kSuffix}, QDir::Files);
+        m_files.removeIf([present = QSet<QString>(names.begin(), names.end())](const auto& file) {
+            return !present.contains(file.key());
+        });
+        for (const QString& name : names) {
+            if (const File file = read(name); file.value) {
+                values.insert(file.key, *file.value);
+            }
+        }
+        QStringList changed;
+        for (auto value = values.cbegin(); value != values.cend(); ++value) {
+            const auto before = m_announced.constFind(value.key());
+            if (before == m_announced.constEnd() || *before != *value) {
+                changed.append(value.key());
+            }
+        }
+        for (auto before = m_announced.cbegin(); before != m_announced.cend(); ++before) {
+            if (!values.contains(before.key())) {
+                changed.append(before.key());
+            }
+        }
+        m_announced = std::move(values);
+        return changed;
+    }
+
+  private:
+    /// Differs between two states of a file.
+    struct Stamp {
+        std::int64_t modifiedSeconds = 0;
+        std::int64_t modifiedNanoseconds = 0;
+        std::int64_t size = -1;
+        std::uint64_t inode = 0;
+
+        friend bool operator==(const Stamp&, const Stamp&) = default;
+    };
+    struct File {
+        Stamp stamp;
+        QString key;
+        std::optional<QCborValue> value;
+    };
+
+    QString path(const QString& name) const { return m_folder + u'/' + name; }
+
+    static std::optional<Stamp> stampOf(const QString& path) {
+        struct stat found{};
+        if (::stat(QFile::encodeName(path).constData(), &found) != 0 || !S_ISREG(found.st_mode)) {
+            return std::nullopt;
+        }
+        return Stamp{found.st_mtim.tv_sec, found.st_mtim.tv_nsec, found.st_size, found.st_ino};
+    }
+
+    File read(const QString& name) {
+        const std::optional<Stamp> stamp = stampOf(path(name));
+        if (!stamp) {
+            m_files.remove(name);
+            return {};
+        }
+        File& file = m_files[name];
+        if (file.stamp == *stamp) {
+            return file;
+        }
+        QFile source(path(name));
+        if (stamp->size > kLargestFile || !source.open(QIODevice::ReadOnly)) {
+            return file;
+        }
+        // If the file is replaced meanwhile, its next stamp differs from this one.
+        file.stamp = *stamp;
+        if (std::optional<KeyValue> read = keyValueFromJson(source.readAll());
+            read && fileName(read->key) == name) {
+            file.key = std::move(read->key);
+            file.value = std::move(read->value);
+        }
+        return file;
+    }
+
+    const QString m_folder;
+    std::mutex m_mutex;
+    /// By name.
+    QHash<QString, File> m_files;
+    /// By key: the values that the observer knows of.
+    QHash<QString, QCborValue> m_announced;
+};
+
+/// Exists while there is an observer. Main thread.
+struct FolderKeyValueStore::Observation {
+    KeyValueStoreObserver& observer;
+    std::unique_ptr<FolderWatcher> watcher;
+};
+
+FolderKeyValueStore::FolderKeyValueStore(const QString& folder, DispatchQueues& queues)
+    : m_folder(folder)
+    , m_queues(queues)
+    , m_queue(queues.makeQueue("keyValueStore", QueueKind::Serial, QueuePriority::Background))
+    , m_files(std::make_shared<Files>(folder)) {}
+
+FolderKeyValueStore::~FolderKeyValueStore() = default;
+
 QString FolderKeyValueStore::fileName(const QString& key) {
     const QByteArray utf8 = key.toUtf8();
-    // Dots too: no name is hidden, and none means another folder.
+    // Dots too: no name is hidden or leads to another folder.
     QByteArray name = utf8.toPercentEncoding({}, ".~");
     if (name.size() > kLongestName) {
         const QByteArray digest = QCryptographicHash::hash(utf8, QCryptographicHash::Sha256).toHex();
@@ -34,52 +185,44 @@ QString FolderKeyValueStore::fileName(const QString& key) {
 }
 
 std::optional<QCborValue> FolderKeyValueStore::valueForKey(const QString& key) const {
-    const QString file = path(key);
-    const std::lock_guard lock(m_mutex);
-    const std::optional<Stamp> stamp = stampOf(file);
-    if (!stamp || stamp->size > kLargestFile) {
-        m_known.remove(key);
-        return std::nullopt;
-    }
-    if (const auto known = m_known.constFind(key); known != m_known.constEnd() && known->stamp == *stamp) {
-        return known->value;
-    }
-    QFile source(file);
-    if (!source.open(QIODevice::ReadOnly)) {
-        return std::nullopt;
-    }
-    std::optional<QCborValue> value = keyValueFromJson(key, source.readAll());
-    // A file that was replaced meanwhile has another stamp by now, and is read again the next time.
-    m_known.insert(key, {*stamp, value});
-    return value;
+    return m_files->value(key);
 }
 
 bool FolderKeyValueStore::setValue(const QString& key, const QCborValue& value) {
-    const std::optional<QByteArray> json = keyValueJson(key, value);
-    if (!json) {
-        return false;
-    }
-    const std::lock_guard lock(m_mutex);
-    m_known.remove(key);
-    return replaceFile(path(key), *json);
+    return m_files->set(key, value);
 }
 
 void FolderKeyValueStore::removeKey(const QString& key) {
-    const std::lock_guard lock(m_mutex);
-    m_known.remove(key);
-    QFile::remove(path(key));
+    m_files->remove(key);
 }
 
-QString FolderKeyValueStore::path(const QString& key) const {
-    return m_folder + u'/' + fileName(key);
-}
-
-std::optional<FolderKeyValueStore::Stamp> FolderKeyValueStore::stampOf(const QString& path) {
-    struct stat found{};
-    if (::stat(QFile::encodeName(path).constData(), &found) != 0 || !S_ISREG(found.st_mode)) {
-        return std::nullopt;
+void FolderKeyValueStore::setObserver(KeyValueStoreObserver* observer) {
+    m_observation.reset();
+    if (observer == nullptr) {
+        return;
     }
-    return Stamp{found.st_mtim.tv_sec, found.st_mtim.tv_nsec, found.st_size, found.st_ino};
+    // What is there now counts as known.
+    m_files->changedKeys();
+    m_observation = std::make_shared<Observation>(Observation{*observer, nullptr});
+    const std::weak_ptr<Observation> weak = m_observation;
+    const auto scheduled = std::make_shared<std::atomic<bool>>(false);
+    const auto look = [files = m_files, scheduled, weak, &main = m_queues.mainQueue()] {
+        scheduled->store(false);
+        const QStringList keys = files->changedKeys();
+        if (keys.isEmpty()) {
+            return;
+        }
+        main.async([weak, keys] {
+            if (const auto observation = weak.lock()) {
+                observation->observer.valuesChangedExternally(keys);
+            }
+        });
+    };
+    m_observation->watcher = std::make_unique<FolderWatcher>(m_folder, [scheduled, look, queue = m_queue] {
+        if (!scheduled->exchange(true)) {
+            queue->asyncAfter(kSettlingTime, look);
+        }
+    });
 }
 
 } // namespace guide

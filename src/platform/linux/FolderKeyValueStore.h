@@ -1,52 +1,47 @@
 #pragma once
 
 #include "platform/KeyValueStore.h"
+#include "platform/queues/DispatchQueue.h"
 
-#include <QHash>
-
-#include <cstdint>
-#include <mutex>
+#include <memory>
 
 namespace guide {
 
-/// A folder with one small JSON file a key, {"key": …, "value": …}, each replaced whole: where a file-sync
-/// tool replicates the folder, devices follow each other. Plain values are plain JSON; what JSON cannot say
-/// is an object of one member: {"bytes": hexadecimal digits}, {"date": ISO 8601}, {"double": text}. A file
-/// that was replaced from outside is read anew, a damaged one counts as absent.
+class FolderWatcher;
+
+/// A folder with one small JSON file per key, {"key": …, "value": …}, each replaced whole: where a file-sync
+/// tool replicates the folder, devices follow each other. Plain values are plain JSON; a value that JSON
+/// cannot express is an object with one member: {"bytes": hexadecimal digits}, {"date": ISO 8601},
+/// {"double": text}.
+///
+/// Files are read again when they change. A file that does not hold a whole value, because it is damaged or
+/// still being written, counts as unchanged: the value that this object last read from it stays. Files whose
+/// name is not fileName(key) of the key inside (temporary files, copies of sync tools) are ignored.
 class FolderKeyValueStore final : public KeyValueStore {
   public:
-    explicit FolderKeyValueStore(const QString& folder)
-        : m_folder(folder) {}
+    FolderKeyValueStore(const QString& folder, DispatchQueues& queues);
+    ~FolderKeyValueStore() override;
 
     std::optional<QCborValue> valueForKey(const QString& key) const override;
     bool setValue(const QString& key, const QCborValue& value) override;
     void removeKey(const QString& key) override;
+    /// Changes are announced together, shortly after the first one. While the folder is missing nothing is
+    /// announced; when it returns, what differs from before.
+    void setObserver(KeyValueStoreObserver* observer) override;
 
     /// The file of a key: letters, digits, "-" and "_" as they are, any other byte of its UTF-8 as "%" and
     /// two digits; long names are cut and end in "~" and a digest, the empty one is "~".
     static QString fileName(const QString& key);
 
   private:
-    /// What tells one state of a file from the next.
-    struct Stamp {
-        std::int64_t modifiedSeconds = 0;
-        std::int64_t modifiedNanoseconds = 0;
-        std::int64_t size = -1;
-        std::uint64_t inode = 0;
-
-        friend bool operator==(const Stamp&, const Stamp&) = default;
-    };
-    struct Known {
-        Stamp stamp;
-        std::optional<QCborValue> value;
-    };
-
-    QString path(const QString& key) const;
-    static std::optional<Stamp> stampOf(const QString& path);
+    class Files;
+    struct Observation;
 
     const QString m_folder;
-    mutable std::mutex m_mutex;
-    mutable QHash<QString, Known> m_known;
+    DispatchQueues& m_queues;
+    const std::shared_ptr<DispatchQueue> m_queue;
+    const std::shared_ptr<Files> m_files;
+    std::shared_ptr<Observation> m_observation;
 };
 
 } // namespace guide

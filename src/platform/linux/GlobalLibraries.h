@@ -2,8 +2,8 @@
 
 namespace guide {
 
-/// The libraries that want to be set up once, while no other thread runs. The first object that the program
-/// makes on its main thread, and the last one to go.
+/// Initialises libraries that require it to happen once, before other threads run. Must be the first object
+/// that the program creates on its main thread and the last one destroyed.
 class GlobalLibraries {
   public:
     GlobalLibraries();

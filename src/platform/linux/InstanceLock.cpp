@@ -81,13 +81,13 @@ void InstanceLock::stopListening() {
     }
 }
 
-// The kernel drops the lock with the process, however that ends. The file stays: one that comes and goes
-// could be locked twice.
+// The kernel releases the lock when the process ends in any way. The file is never removed: if it were, two
+// processes could each lock a file of that name.
 bool InstanceLock::lock() {
     return ::flock(m_lock.get(), LOCK_EX | LOCK_NB) == 0;
 }
 
-// The lock file says where the socket is: another session may have another folder for sockets.
+// The lock file contains the path of the socket: another session may use another socket folder.
 void InstanceLock::openSocket() {
     m_socket = listeningSocket(m_socketPath);
     const bool noted = m_socket && ::ftruncate(m_lock.get(), 0) == 0 &&

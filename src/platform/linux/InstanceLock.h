@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/DispatchQueue.h"
 #include "platform/linux/FileDescriptor.h"
+#include "platform/queues/DispatchQueue.h"
 
 #include <QByteArray>
 #include <QString>
@@ -13,25 +13,25 @@
 
 namespace guide {
 
-/// Sees to it that one process at a time works in a set of folders. The first one holds the lock for as long
-/// as this object lives, and is told the requests of those that come after it; a process that died holds
-/// nothing.
+/// Ensures that only one process at a time uses a set of folders. The first process holds the lock while this
+/// object lives and receives the requests of later ones. The lock of a process that died is free.
 class InstanceLock {
   public:
-    /// One line of the other instance's wish, without a line end.
+    /// The request of another instance: one line without a line end.
     using RequestHandler = std::function<void(const QByteArray& request)>;
 
     enum class Outcome {
-        /// The folders are ours.
+        /// This process holds the lock.
         First,
-        /// Another process has them and has taken the request: this one may end.
+        /// Another process holds the lock and has received the request: this one may end.
         HandedOver,
-        /// Another process has them and does not answer, or the folders cannot be locked.
+        /// Another process holds the lock and does not answer, or the folders cannot be locked.
         Unavailable,
     };
 
-    /// The lock lies in `lockFolder`, the socket in `socketFolder`. When another process is there, it is sent
-    /// `request` (one line, 64 KB at most); one that is just starting or ending is waited for, a few seconds.
+    /// Creates the lock in `lockFolder` and the socket in `socketFolder`. If another process holds the lock,
+    /// sends it `request` (one line, at most 64 KB). Waits a few seconds for a process that is starting or
+    /// ending.
     InstanceLock(const QString& lockFolder, const QString& socketFolder, const QByteArray& request);
     InstanceLock(const InstanceLock&) = delete;
     InstanceLock& operator=(const InstanceLock&) = delete;
@@ -39,13 +39,13 @@ class InstanceLock {
 
     Outcome outcome() const { return m_outcome; }
 
-    /// For the first one: from now on each request that comes is given to the handler, on the queue. Those
-    /// that came before wait. To be called once; after the end of this object the handler is not called any
-    /// more, if the end comes on that queue.
+    /// For the holder of the lock: calls the handler on the queue for each request, including those that
+    /// arrived earlier. May be called once. After the destruction of this object on that queue the handler is
+    /// not called any more.
     void listen(std::shared_ptr<DispatchQueue> queue, RequestHandler handler);
 
-    /// For the first one that is about to end: takes no request any more. Who comes now waits for the end,
-    /// and is the first one then. On the queue of the requests.
+    /// For a holder of the lock that is about to end: accepts no more requests. A process that starts now
+    /// waits for the lock. Must be called on the queue of the requests.
     void stopListening();
 
   private:

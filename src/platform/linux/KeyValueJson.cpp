@@ -33,7 +33,7 @@ std::optional<QJsonValue> toJson(const QCborValue& value, int depth) {
         return QJsonValue(value.toString());
     case QCborValue::Double: {
         const double number = value.toDouble();
-        // A whole number would come back as an integer.
+        // A whole number would be read back as an integer.
         if (std::isfinite(number) && number != std::trunc(number)) {
             return QJsonValue(number);
         }
@@ -76,7 +76,7 @@ std::optional<QCborValue> fromObject(const QJsonObject& object) {
     const QString text = object.begin()->toString();
     if (kind == kBytes) {
         const QByteArray bytes = QByteArray::fromHex(text.toLatin1());
-        // Anything but pairs of digits is passed over when they are read, and shows in the length.
+        // fromHex skips other characters, which changes the length.
         return bytes.size() * 2 == text.size() ? std::optional<QCborValue>(bytes) : std::nullopt;
     }
     if (kind == kDate) {
@@ -131,12 +131,16 @@ std::optional<QByteArray> keyValueJson(const QString& key, const QCborValue& val
     return QJsonDocument(QJsonObject{{kKey, key}, {kValue, *json}}).toJson();
 }
 
-std::optional<QCborValue> keyValueFromJson(const QString& key, const QByteArray& json) {
+std::optional<KeyValue> keyValueFromJson(const QByteArray& json) {
     const QJsonObject object = QJsonDocument::fromJson(json).object();
-    if (object.value(kKey) != key || !object.contains(kValue)) {
+    if (!object.value(kKey).isString() || !object.contains(kValue)) {
         return std::nullopt;
     }
-    return fromJson(object.value(kValue), 0);
+    std::optional<QCborValue> value = fromJson(object.value(kValue), 0);
+    if (!value) {
+        return std::nullopt;
+    }
+    return KeyValue{object.value(kKey).toString(), *std::move(value)};
 }
 
 } // namespace guide

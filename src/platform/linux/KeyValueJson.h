@@ -8,10 +8,15 @@
 
 namespace guide {
 
-/// The text of a key-value file; nothing when the value is of no kind that the store takes.
+/// The text of a key-value file; empty when the value has a type that the store does not support.
 std::optional<QByteArray> keyValueJson(const QString& key, const QCborValue& value);
 
-/// The value in the text of a key's file; nothing when the text is damaged or of another key.
-std::optional<QCborValue> keyValueFromJson(const QString& key, const QByteArray& json);
+struct KeyValue {
+    QString key;
+    QCborValue value;
+};
+
+/// Reads the text of a key-value file; empty when it is damaged.
+std::optional<KeyValue> keyValueFromJson(const QByteArray& json);
 
 } // namespace guide

@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// Linux mixes the sound of every program by itself: there is nothing to ask for.
+/// Linux mixes the sound of all programs by itself, so there is nothing to do.
 class LinuxAudioSession : public AudioSession {
   public:
     void setCategory(AudioSessionCategory, bool) override {}

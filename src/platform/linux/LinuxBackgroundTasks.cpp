@@ -1,6 +1,6 @@
 #include "platform/linux/LinuxBackgroundTasks.h"
 
-#include "platform/ThreadWaiting.h"
+#include "platform/queues/ThreadWaiting.h"
 
 #include <algorithm>
 #include <condition_variable>
@@ -18,7 +18,7 @@ constexpr std::chrono::milliseconds kBetweenCalls{10};
 struct LinuxBackgroundTasks::State {
     std::mutex mutex;
     std::condition_variable changed;
-    /// The handlers of the running tasks; an empty one has been called.
+    /// The handlers of the running tasks; empty after the call.
     std::map<BackgroundTaskId, Block> running;
     BackgroundTaskId last = kBackgroundTaskInvalid;
 };

@@ -6,19 +6,19 @@
 
 namespace guide {
 
-/// Nothing suspends a program here, so a background task is what the end of the program waits for, within
-/// bounds.
+/// Linux does not suspend programs in the background: a background task is work that the program waits for at
+/// its end, within a limit.
 class LinuxBackgroundTasks final : public BackgroundTasks {
   public:
-    /// A task that has run for so long is expired: its handler is called on the global default queue.
+    /// Expires a task after this time: its handler is called on the global default queue.
     explicit LinuxBackgroundTasks(DispatchQueues& queues,
                                   std::chrono::milliseconds expireAfter = std::chrono::minutes(10));
 
     BackgroundTaskId beginBackgroundTask(Block expirationHandler) override;
     void endBackgroundTask(BackgroundTaskId task) override;
 
-    /// Blocks until no task runs; false when the time was up first. Tasks are ended on the main queue as a
-    /// rule, so the main thread gives a function that empties it, which is called again and again meanwhile.
+    /// Blocks until no task runs; false when the time is up first. Tasks usually end on the main queue, so
+    /// the main thread passes a function that drains it, which is called repeatedly.
     bool waitUntilIdle(std::chrono::milliseconds atMost, const Block& meanwhile = nullptr);
 
   private:

@@ -6,7 +6,7 @@ namespace guide {
 
 namespace {
 
-/// Time since the machine started, sleep included; no change of the date moves it.
+/// Time since boot, including sleep; unaffected by changes of the date.
 std::chrono::milliseconds sinceBoot() {
     timespec time{};
     clock_gettime(CLOCK_BOOTTIME, &time);

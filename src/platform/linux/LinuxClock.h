@@ -7,8 +7,8 @@
 
 namespace guide {
 
-/// The system's clock; or one that starts at a given moment and runs on from there at the same pace, also
-/// while the machine sleeps.
+/// The system's clock, or one that starts at a given moment and runs at the same pace, also while the machine
+/// sleeps.
 class LinuxClock final : public Clock {
   public:
     explicit LinuxClock(std::optional<Moment> startAt = std::nullopt);

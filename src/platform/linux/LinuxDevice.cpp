@@ -8,7 +8,7 @@ namespace {
 
 constexpr QSizeF kPhoneScreen{390, 844};
 constexpr QSizeF kTabletScreen{1024, 768};
-// Finding the zone out reads files; rows ask for it again and again.
+// Cached because the look-up reads files and rows need the zone often.
 constexpr std::chrono::seconds kTimeZoneAge{1};
 
 std::uint64_t installedMemory() {
@@ -38,7 +38,7 @@ QTimeZone LinuxDevice::timeZone() const {
 
 QLocale LinuxDevice::locale() const {
     const QLocale system = QLocale::system();
-    // The locale of no language writes times and dates as no person does.
+    // The "C" locale has formats that nobody uses.
     return system.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedKingdom) : system;
 }
 

@@ -7,7 +7,7 @@
 
 namespace guide {
 
-/// This machine. Zone and locale are the session's; a change of zone shows within a second.
+/// Zone and locale are those of the session; a change of zone is visible within a second.
 class LinuxDevice final : public Device {
   public:
     explicit LinuxDevice(UserInterfaceIdiom idiom);
@@ -19,7 +19,7 @@ class LinuxDevice final : public Device {
     double screenScale() const override;
     std::uint64_t physicalMemory() const override { return m_physicalMemory; }
 
-    /// Told by whoever has the window. Until then the screen is of a size that is usual for the idiom.
+    /// Set by the owner of the window. Before that, the size is a typical one for the idiom.
     void setScreen(const QSizeF& size, double scale);
 
   private:

@@ -17,7 +17,7 @@ namespace {
 constexpr auto kName = "quellin-guide"_L1;
 constexpr auto kBundleMarker = "Data.plist"_L1;
 
-// A relative path counts as unset, as the rules for these variables have it.
+// The XDG specification ignores relative paths.
 QString fromEnvironment(const char* variable, const QString& otherwise) {
     const QString value = QFile::decodeName(qgetenv(variable));
     return QDir::cleanPath(value.startsWith(u'/') ? value : otherwise);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Folders.h"
+#include "platform/files/Folders.h"
 
 #include <QString>
 
@@ -9,17 +9,18 @@
 namespace guide {
 
 struct LinuxFolderOptions {
-    /// Everything but the bundle stands under this folder; empty for the folders that the desktop names.
+    /// Parent of all folders except the bundle; empty to use the XDG folders.
     QString profile;
-    /// Where the bundle's data are; empty for beside the program, or in the share folder of its prefix.
+    /// The bundle folder; empty to look beside the program and in the share folder of its prefix.
     QString bundle;
 };
 
-/// The folders of a profile, made where they are missing, for their owner alone. Nothing, and a log line,
-/// when one cannot be made or written. The bundle is only named, and empty when it is found nowhere.
+/// The folders of a profile. Missing ones are created, accessible only by their owner. Empty, with a log
+/// line, when one cannot be created or written. The bundle is not created; its path is empty when it is not
+/// found.
 std::optional<Folders> linuxFolders(const LinuxFolderOptions& options);
 
-/// The same folders, only named: nothing is made or looked at but the bundle.
+/// The same paths, without creating or checking anything but the bundle.
 Folders namedLinuxFolders(const LinuxFolderOptions& options);
 
 } // namespace guide

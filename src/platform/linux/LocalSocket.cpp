@@ -11,7 +11,7 @@ namespace guide {
 
 namespace {
 
-// A socket's address has room for about a hundred bytes: the folder goes by its descriptor.
+// A socket address holds about a hundred bytes, so the folder is referenced by its descriptor.
 struct Address {
     FileDescriptor folder;
     sockaddr_un address{};

@@ -9,16 +9,16 @@
 
 namespace guide {
 
-/// A stream socket at the path, which may be longer than a socket's address, listening; one that stands there
-/// is replaced.
+/// A listening stream socket at the path, which may exceed the length limit of a socket address. Replaces an
+/// existing socket.
 FileDescriptor listeningSocket(const QByteArray& path);
 /// A stream socket connected to the one at the path.
 FileDescriptor connectedSocket(const QByteArray& path);
-/// The other end belongs to the same user.
+/// Whether the peer belongs to the same user.
 bool isOwnUsers(const FileDescriptor& connection);
 
-/// Reads up to a line end, which is left out. Nothing when there is none within the limit and the time, or
-/// when the `stop` descriptor (-1 for none) can be read before.
+/// Reads a line without its line end. Empty when there is none within the limit and the time, or when the
+/// `stop` descriptor (-1 for none) becomes readable first.
 std::optional<QByteArray> readLine(const FileDescriptor& connection, qsizetype limit,
                                    std::chrono::milliseconds time, int stop = -1);
 bool writeLine(const FileDescriptor& connection, const QByteArray& line);

@@ -30,12 +30,12 @@ bool isAnywhere(const QByteArray& address) {
     return !address.isEmpty() && address.count('0') == address.size();
 }
 
-// Interface, destination, gateway, flags, three counts, mask, ...
+// Columns: interface, destination, gateway, flags, three counts, mask, ...
 bool isDefaultRoute(const QList<QByteArray>& fields) {
     return fields.size() > 7 && isAnywhere(fields[1]) && isAnywhere(fields[7]) && isOpen(fields[3]);
 }
 
-// Destination and its length, source and its length, next hop, three counts, flags, interface.
+// Columns: destination and its length, source and its length, next hop, three counts, flags, interface.
 bool isDefaultIPv6Route(const QList<QByteArray>& fields) {
     return fields.size() == 10 && isAnywhere(fields[0]) && isAnywhere(fields[1]) && isOpen(fields[8]) &&
            fields[9] != "lo";

@@ -4,11 +4,11 @@
 
 namespace guide {
 
-/// Whether one of the kernel's tables of routes has a way to everywhere, as the texts of /proc/net/route and
-/// /proc/net/ipv6_route say.
+/// Whether one of the routing tables has a default route. The arguments are the texts of /proc/net/route and
+/// /proc/net/ipv6_route.
 bool hasDefaultRoute(QByteArrayView routes, QByteArrayView ipv6Routes);
 
-/// The same of this machine as it is now; true where the system does not tell.
+/// The same for this machine now; true when it cannot be determined.
 bool hasNetwork();
 
 } // namespace guide

@@ -18,7 +18,7 @@ constexpr std::chrono::milliseconds kWriteDelay{500};
 
 } // namespace
 
-// The values as text, as the file has them: a value read back is then of the same kinds as one just set.
+// Values are kept as text, as in the file, so that a value read back has the same types as one just set.
 class SettingsUserDefaults::File {
   public:
     explicit File(const QString& path)
@@ -39,7 +39,7 @@ class SettingsUserDefaults::File {
         return found == m_values.constEnd() ? std::nullopt : std::optional(*found);
     }
 
-    // True when something changed and no write is on its way yet.
+    // True when something changed and no write is scheduled.
     bool set(const QString& key, const std::optional<QString>& value) {
         const std::lock_guard lock(m_mutex);
         const auto found = m_values.constFind(key);
@@ -67,7 +67,7 @@ class SettingsUserDefaults::File {
         if (changed.isEmpty() || store(changed)) {
             return true;
         }
-        // Still to be written, except where a newer value has come.
+        // Restores the failed changes, except where a newer value exists.
         const std::lock_guard lock(m_mutex);
         for (auto entry = changed.cbegin(); entry != changed.cend(); ++entry) {
             if (!m_changed.contains(entry.key())) {
@@ -88,7 +88,7 @@ class SettingsUserDefaults::File {
             }
         }
         settings.sync();
-        // A file that could not be read whole is still written.
+        // The file is written even if it could not be read completely.
         return settings.status() != QSettings::AccessError;
     }
 
@@ -109,7 +109,7 @@ SettingsUserDefaults::~SettingsUserDefaults() {
 }
 
 std::optional<bool> SettingsUserDefaults::boolForKey(const QString& key) const {
-    // Some of these are set by hand alone.
+    // Some settings are only ever edited by hand.
     static constexpr std::array kYes{"true"_L1, "1"_L1, "yes"_L1, "on"_L1};
     static constexpr std::array kNo{"false"_L1, "0"_L1, "no"_L1, "off"_L1};
     const QString value = m_file->value(key).value_or(QString());

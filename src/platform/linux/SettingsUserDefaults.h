@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/DispatchQueue.h"
 #include "platform/UserDefaults.h"
+#include "platform/queues/DispatchQueue.h"
 
 #include <QHash>
 
@@ -9,9 +9,9 @@
 
 namespace guide {
 
-/// Settings in an INI file. Values live in memory and are written soon after a change, on the given queue,
-/// and by synchronize; without a queue by synchronize alone, and at the end in any case. What others changed
-/// in the file is seen at the next start; writing touches the changed keys only.
+/// Settings in an INI file. Values live in memory. Changes are written shortly afterwards on the given queue,
+/// by synchronize, and by the destructor; without a queue only by the latter two. Changes that others make to
+/// the file are read at the next start. Only changed keys are written.
 class SettingsUserDefaults final : public UserDefaults {
   public:
     explicit SettingsUserDefaults(const QString& path, std::shared_ptr<DispatchQueue> writeQueue = nullptr);

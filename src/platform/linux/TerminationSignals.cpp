@@ -14,14 +14,14 @@ namespace {
 
 constexpr int kSignals[] = {SIGTERM, SIGINT, SIGHUP};
 
-// A signal handler can reach nothing but what lives for ever.
-int theSignalPipe[2] = {-1, -1};
+// A signal handler can only use static objects.
+int signalPipe[2] = {-1, -1};
 
 void onSignal(int signal) {
     const int savedError = errno;
     const char byte = 1;
-    // A full pipe has a signal in it already.
-    [[maybe_unused]] const auto written = ::write(theSignalPipe[1], &byte, 1);
+    // A full pipe contains a signal already.
+    [[maybe_unused]] const auto written = ::write(signalPipe[1], &byte, 1);
     std::signal(signal, SIG_DFL);
     errno = savedError;
 }
@@ -30,11 +30,11 @@ void onSignal(int signal) {
 
 TerminationSignals::TerminationSignals(std::function<void()> requested)
     : m_requested(std::move(requested)) {
-    if (::pipe2(theSignalPipe, O_CLOEXEC | O_NONBLOCK) != 0) {
+    if (::pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) {
         qWarning("Signals end the program at once: there is no pipe for them");
         return;
     }
-    m_notifier = new QSocketNotifier(theSignalPipe[0], QSocketNotifier::Read, this);
+    m_notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, this);
     connect(m_notifier, &QSocketNotifier::activated, this, [this] {
         m_notifier->setEnabled(false);
         m_requested();
@@ -49,7 +49,7 @@ TerminationSignals::~TerminationSignals() {
         std::signal(signal, SIG_DFL);
     }
     delete std::exchange(m_notifier, nullptr);
-    for (int& end : theSignalPipe) {
+    for (int& end : signalPipe) {
         if (end >= 0) {
             ::close(std::exchange(end, -1));
         }

@@ -8,8 +8,8 @@ class QSocketNotifier;
 
 namespace guide {
 
-/// SIGTERM, SIGINT and SIGHUP as an event of the main thread, once, so that the program ends by its ordinary
-/// road; a second signal ends it at once. One such object a process, on the main thread.
+/// Reports SIGTERM, SIGINT and SIGHUP once on the main thread, so that the program shuts down normally; a
+/// second signal ends it at once. At most one such object per process, on the main thread.
 class TerminationSignals final : public QObject {
   public:
     explicit TerminationSignals(std::function<void()> requested);

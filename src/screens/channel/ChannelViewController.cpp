@@ -44,10 +44,9 @@ void ChannelViewController::viewDidDisappear() {
 
 std::vector<RowAction> ChannelViewController::actionsForRow(const RowId& id) {
     const auto day = std::find_if(m_days.begin(), m_days.end(),
-                                  [&id](const DaySection& each) { return each.id == id.section; });
+                                  [&id](const DaySection& each) { return each.id() == id.section; });
     const ShowItem* show = day == m_days.end() ? nullptr : findShow(day->shows, *id.show());
-    return show ? m_environment->app.swipeActionsConfigurationForEntry(show->entry(), shared_from_this())
-                : std::vector<RowAction>();
+    return show ? m_environment->swipeActions(show->entry(), shared_from_this()) : std::vector<RowAction>();
 }
 
 void ChannelViewController::notificationsSynched() {
@@ -78,12 +77,11 @@ void ChannelViewController::reloadChannelData() {
 }
 
 bool ChannelViewController::dueForReload(const TVChannel& record) const {
-    return record.reloadNeeded(m_environment->clock.now(), m_environment->app.automaticUpdateInterval());
+    return record.reloadNeeded(m_environment->clock.now(), m_environment->settings.automaticUpdateInterval());
 }
 
 void ChannelViewController::initializeContentWithEntriesArray(const ShowSpan& entries) {
-    m_days = daySections({entries.begin(), entries.size()}, m_environment->device.locale(),
-                         m_environment->device.timeZone());
+    m_days = daySections(entries, m_environment->device.locale(), m_environment->device.timeZone());
 }
 
 void ChannelViewController::reloadTable() {
@@ -91,9 +89,9 @@ void ChannelViewController::reloadTable() {
     std::vector<Section> sections;
     sections.reserve(m_days.size());
     for (const DaySection& day : m_days) {
-        Section section{.id = day.id, .header = day.title};
+        Section section{.id = day.id(), .header = day.title};
         section.rows.reserve(day.shows.size());
-        ShowRowIds ids(day.id);
+        ShowRowIds ids(section.id);
         for (const ShowItem& show : day.shows) {
             const TVEntry& entry = *show.entry();
             const bool running = *entry.dateTime() <= showRows.now() && entry.endsAfter(showRows.now());
@@ -112,7 +110,7 @@ void ChannelViewController::refresh() {
     refreshActive();
     if (const auto record = m_environment->channels.channelWithChannelId(m_channel)) {
         record->requireReload();
-        m_environment->app.checkAndUpdateAllChannels();
+        m_environment->updates.checkAndUpdateAllChannels();
     }
 }
 
@@ -129,7 +127,7 @@ void ChannelViewController::setButtons(BarButton first) {
     std::vector<BarButton> buttons{std::move(first)};
     if (m_streamURL) {
         buttons.push_back({BarButton::Kind::Play, Localized::tr("Play"),
-                           [this] { m_environment->app.playURL(*m_streamURL); }});
+                           [this] { m_environment->navigation.playURL(*m_streamURL); }});
     }
     setRightBarButtons(std::move(buttons));
 }

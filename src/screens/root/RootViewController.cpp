@@ -26,8 +26,8 @@ void RootViewController::viewWillAppear() {
 void RootViewController::viewDidAppear() {
     selectedChannelsChanged();
     if (std::exchange(m_modifiedSelectedChannels, false)) {
-        m_environment->app.resynchronizeAlarms();
-        m_environment->app.checkAndUpdateAllChannels();
+        m_environment->alarmSynchronisation.resynchronize();
+        m_environment->updates.checkAndUpdateAllChannels();
     }
 }
 
@@ -165,7 +165,7 @@ void RootViewController::reloadRows(const std::unordered_set<ObjectId>& channels
 }
 
 std::vector<Row> RootViewController::rowsOf(const Channel& channel, const ShowRows& showRows) const {
-    const bool imagesEnabled = m_environment->app.imagesEnabled();
+    const bool imagesEnabled = m_environment->settings.imagesEnabled();
     std::vector<Row> rows;
     rows.reserve(channel.entries.size() + 1);
     rows.push_back(channelRow(channel));
@@ -207,14 +207,13 @@ void RootViewController::rowEvent(const RowId& id, const RowEvent& event) {
     if (std::holds_alternative<Tapped>(event)) {
         selectedChannel(*channel);
     } else if (std::holds_alternative<AccessoryTapped>(event) && channel->stream) {
-        m_environment->app.playURL(*channel->stream);
+        m_environment->navigation.playURL(*channel->stream);
     }
 }
 
 std::vector<RowAction> RootViewController::actionsForRow(const RowId& id) {
     const ShowItem* show = shownShow(id);
-    return show ? m_environment->app.swipeActionsConfigurationForEntry(show->entry(), shared_from_this())
-                : std::vector<RowAction>();
+    return show ? m_environment->swipeActions(show->entry(), shared_from_this()) : std::vector<RowAction>();
 }
 
 const ShowItem* RootViewController::shownShow(const RowId& id) {
@@ -263,7 +262,7 @@ void RootViewController::rowWillBeDisplayed(const RowId& id) {
     }
     const ShowItem& show = *found;
     const ObjectId& channel = id.show()->channel;
-    const bool imagesEnabled = m_environment->app.imagesEnabled();
+    const bool imagesEnabled = m_environment->settings.imagesEnabled();
     if (imagesEnabled && m_environment->pictureCache.find(channel, identificatorOf(show))) {
         return;
     }
@@ -275,7 +274,7 @@ void RootViewController::rowWillBeDisplayed(const RowId& id) {
     }
     const auto record = m_environment->channels.channelWithChannelId(channel);
     if (record &&
-        record->reloadNeeded(m_environment->clock.now(), m_environment->app.automaticUpdateInterval())) {
+        record->reloadNeeded(m_environment->clock.now(), m_environment->settings.automaticUpdateInterval())) {
         return;
     }
     m_channelsWithLoadedShowDetails.insert(channel);

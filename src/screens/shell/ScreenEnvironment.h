@@ -1,5 +1,8 @@
 #pragma once
 
+#include "alarms/AlarmSynchronisation.h"
+#include "alarms/Favorites.h"
+#include "alarms/PendingAlarms.h"
 #include "core/Catalogue.h"
 #include "core/TVChannels.h"
 #include "core/TVStationIcons.h"
@@ -7,12 +10,20 @@
 #include "platform/Device.h"
 #include "platform/LifeCycle.h"
 #include "platform/queues/DispatchQueue.h"
-#include "screens/AppActions.h"
+#include "screens/AppNavigation.h"
+#include "screens/ListingsUpdates.h"
+#include "screens/ScreenSettings.h"
 #include "screens/ShowPictureCache.h"
 #include "screens/ShowPictures.h"
-#include "store/ShowQuestions.h"
+#include "screens/kit/RowAction.h"
+#include "screens/kit/ViewController.h"
+#include "store/PopularShows.h"
 #include "store/TVListings.h"
 #include "text/display/Alphabet.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
 
 namespace guide {
 
@@ -29,12 +40,19 @@ struct ScreenEnvironment {
     TVStationIcons& icons;
     const Catalogue& catalogue;
     const Alphabet& alphabet;
-    const FavoriteQuestions& favorites;
-    const AlarmQuestions& alarms;
+    const FavoritesSource& favorites;
+    const AlarmsSource& alarms;
+    AlarmSynchronisation& alarmSynchronisation;
     const PopularShows& popularShows;
     ShowPictures& pictures;
     ShowPictureCache& pictureCache;
-    AppActions& app;
+    const ScreenSettings& settings;
+    ListingsUpdates& updates;
+    AppNavigation& navigation;
+    /// The actions on the row of a show. They may outlive the row.
+    std::function<std::vector<RowAction>(const std::shared_ptr<const TVEntry>&,
+                                         const std::shared_ptr<ViewController>&)>
+        swipeActions = [](const auto&, const auto&) { return std::vector<RowAction>(); };
 };
 
 } // namespace guide

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "core/ObjectId.h"
+#include "platform/Moment.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace guide {
+
+/// What a user can do to alarms. Main queue; the work is done in the background, and the screens are
+/// refreshed when it is done.
+///
+/// `sync` commits the change and refreshes the screens; who makes several changes commits once at the end.
+/// `manual` says that it is the user's own gesture on this show: it is counted, and silent hours do not hold
+/// it back.
+class AlarmActions {
+  public:
+    virtual ~AlarmActions() = default;
+
+    /// An alarm on one broadcast.
+    virtual void setAlarmForTitle(const QString& title, const ObjectId& onChannel, Moment at, Moment until,
+                                  int minutes, bool sync, bool manual) = 0;
+    virtual void removeAlarmForTitle(const QString& title, const ObjectId& onChannel, Moment at, bool sync,
+                                     bool manual) = 0;
+    /// A recurring alarm on a favourite: on any broadcast, or only on premieres (false) or replays (true).
+    virtual void setAlarmForTitle(const QString& title, int minutes, std::optional<bool> previouslyShown,
+                                  bool manual) = 0;
+    /// Ends a recurring alarm and removes all alarms of the title; the favourite stays.
+    virtual void removeAlarmForTitle(const QString& title, bool sync, bool manual) = 0;
+
+    /// The lead time of the last alarm that was set on one broadcast.
+    virtual int lastAlarmMinutes() const = 0;
+};
+
+/// What a user can do to favourites. Main queue.
+class FavoriteActions {
+  public:
+    virtual ~FavoriteActions() = default;
+    /// Does nothing but refresh the screens when there is a rule with the title.
+    virtual void addFavorite(const QString& title) = 0;
+    /// Removes the rule and all alarms of the title.
+    virtual void removeFavorite(const QString& title) = 0;
+};
+
+} // namespace guide

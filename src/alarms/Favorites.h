@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/Moment.h"
+#include "store/FavoriteTitles.h"
+
+#include <QHash>
+#include <QString>
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace guide {
+
+/// A rule on a show title.
+struct Favorite {
+    /// The title as the user added it.
+    QString identificator;
+    /// Lead time of the recurring alarm; unset when the rule has none.
+    std::optional<int> minutes;
+    /// When the rule was made or last replaced.
+    Moment date;
+    /// Unset for any broadcast, false for premieres only, true for replays only.
+    std::optional<bool> previouslyShown;
+};
+
+/// All rules at one moment, in the order in which they were added.
+class FavoritesSnapshot final : public FavoriteTitles {
+  public:
+    FavoritesSnapshot() = default;
+    explicit FavoritesSnapshot(std::vector<Favorite> rules);
+
+    const std::vector<Favorite>& rules() const { return m_rules; }
+    bool empty() const override { return m_rules.empty(); }
+    bool containsFavoriteNamed(const QString& title) const override { return ruleNamed(title) != nullptr; }
+    /// The first rule with the title, ignoring case; null when there is none.
+    const Favorite* ruleNamed(const QString& title) const;
+
+  private:
+    std::vector<Favorite> m_rules;
+    /// The index of the first rule of each lowercased title.
+    QHash<QString, std::size_t> m_byTitle;
+};
+
+/// Where everybody gets the favourites from. Answers from memory; any thread.
+class FavoritesSource : public FavoriteTitlesSource {
+  public:
+    /// Never null. A screen takes it once per rebuild, other work once per run.
+    virtual std::shared_ptr<const FavoritesSnapshot> snapshot() const = 0;
+    std::shared_ptr<const FavoriteTitles> titles() const final { return snapshot(); }
+};
+
+} // namespace guide

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "store/ShowDigest.h"
+#include "store/TVEntry.h"
+
+#include <memory>
+#include <optional>
+#include <unordered_map>
+
+namespace guide {
+
+/// The pending alarms at one moment, by the digest of their show. Immutable; any thread.
+class AlarmsSnapshot {
+  public:
+    /// Minutes between the alert and the show, on the scale of normalizedMinutes(); unset for an event whose
+    /// alarm was taken away in the calendar.
+    using MinutesByShow = std::unordered_map<ShowDigest, std::optional<int>, ShowDigestHash>;
+
+    AlarmsSnapshot() = default;
+    explicit AlarmsSnapshot(MinutesByShow events)
+        : m_events(std::move(events)) {}
+
+    /// Minutes between the alert and the show; unset when the show has no alarm.
+    std::optional<int> alarmedEntry(const TVEntry& entry) const {
+        if (m_events.empty()) {
+            return std::nullopt;
+        }
+        const std::optional<ShowDigest> digest = entry.digest();
+        const auto event = digest ? m_events.find(*digest) : m_events.end();
+        return event == m_events.end() ? std::nullopt : event->second;
+    }
+    /// The number of events, also of those without an alarm.
+    std::size_t eventCount() const { return m_events.size(); }
+
+  private:
+    MinutesByShow m_events;
+};
+
+/// Where everybody gets the pending alarms from. Answers from memory; any thread.
+class AlarmsSource {
+  public:
+    virtual ~AlarmsSource() = default;
+    /// Never null. A screen takes it once per rebuild.
+    virtual std::shared_ptr<const AlarmsSnapshot> snapshot() const = 0;
+};
+
+} // namespace guide

@@ -1,0 +1,63 @@
+#include "app/DeviceWatch.h"
+
+#include <QDateTime>
+#include <QFile>
+
+#include <ctime>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::seconds kPollEvery{20};
+
+std::chrono::milliseconds reading(clockid_t clock) {
+    timespec time{};
+    clock_gettime(clock, &time);
+    return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::seconds(time.tv_sec) +
+                                                                 std::chrono::nanoseconds(time.tv_nsec));
+}
+
+SignificantTime::Look lookAtClocks(const Clock& clock, const Device& device) {
+    const Moment now = clock.now();
+    const QTimeZone zone = device.timeZone();
+    return {now, QDateTime::fromMSecsSinceEpoch(now.time_since_epoch().count(), zone).date(), zone.id(),
+            reading(CLOCK_BOOTTIME), reading(CLOCK_MONOTONIC)};
+}
+
+/// What the kernel says about the machine's memory; empty where there is no such file.
+QByteArray memoryInformation() {
+    QFile file(u"/proc/meminfo"_s);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+DeviceWatch::DeviceWatch(const Clock& clock, const Device& device, const ApplicationStateSource& state,
+                         LifeCycleObserver& observer)
+    : m_clock(clock)
+    , m_device(device)
+    , m_state(state)
+    , m_observer(observer)
+    , m_time(lookAtClocks(clock, device)) {
+    m_timer.callOnTimeout([this] { poll(); });
+}
+
+void DeviceWatch::start() {
+    m_timer.start(kPollEvery);
+}
+
+void DeviceWatch::poll() {
+    if (const auto available = availableMemory(memoryInformation()); available && m_memory.due(*available)) {
+        m_observer.applicationDidReceiveMemoryWarning();
+    }
+    // In the background the next activation brings everything up to date.
+    if (m_time.changed(lookAtClocks(m_clock, m_device)) &&
+        m_state.applicationState() == ApplicationState::Active) {
+        m_observer.applicationSignificantTimeChange();
+    }
+}
+
+} // namespace guide

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/CommandLine.h"
+#include "platform/files/Folders.h"
+#include "sources/SourceHostTable.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace guide {
+
+/// The files that a launch reads: those that the options name, otherwise the installed ones.
+struct LaunchFiles {
+    QString catalogue;
+    /// In the runtime folder for a catalogue that the options name, so that later launches do not use it.
+    QString catalogueArchive;
+    /// The folder "icons" beside a catalogue that the options name, if there is one, otherwise the installed
+    /// one.
+    QString icons;
+    SourceHostTable hosts;
+    /// The selection for a profile that has none yet.
+    std::optional<QString> firstSelection;
+};
+
+/// Deletes the archive of a catalogue that the options name: that catalogue is always read anew. Nothing when
+/// the host table that the options name cannot be read.
+std::optional<LaunchFiles> launchFiles(const LaunchOptions& options, const Folders& folders);
+
+} // namespace guide

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "demo/schedule/Programme.h"
+
+#include <QByteArray>
+
+#include <vector>
+
+namespace guide {
+
+/// How a feed is written. Real feeds differ in the same ways.
+struct FeedStyle {
+    enum class Form {
+        /// The topic is in brackets before the sub-title; episode, year and repeat are part of the title.
+        Bracketed,
+        /// The topic is in `category`; the credits are part of the description.
+        Packed,
+        /// The topic is in an attribute of `category`; everything else has its element.
+        Attributes,
+    };
+    Form form = Form::Bracketed;
+    /// Times in UTC instead of the channel's zone.
+    bool utc = false;
+    /// No space between time and zone.
+    bool tightZone = false;
+    bool singleQuotes = false;
+    /// Descriptions in CDATA sections.
+    bool cdata = false;
+    /// Windows-1251 and character references instead of UTF-8.
+    bool cyrillicBytes = false;
+};
+
+struct FeedChannel {
+    QString id;
+    QString displayName;
+    QByteArray zone;
+    std::vector<Programme> programmes;
+};
+
+/// An XMLTV document with the programmes of one channel after the other.
+QByteArray xmltvDocument(const std::vector<FeedChannel>& channels, const FeedStyle& style);
+
+} // namespace guide

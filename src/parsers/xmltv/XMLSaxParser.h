@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace guide {
+
+/// The number of every element that was not requested or has a prefix.
+inline constexpr std::size_t kOtherXMLElement = static_cast<std::size_t>(-1);
+
+/// The attributes of a start tag; valid during the call.
+class XMLAttributes {
+  public:
+    virtual ~XMLAttributes() = default;
+    /// The value of an attribute without a prefix, in UTF-8 with references resolved. Valid until the next
+    /// call.
+    virtual std::optional<std::string_view> value(std::string_view name) const = 0;
+};
+
+/// Receives the contents of a document in order. Elements are numbered by their position among the requested
+/// names.
+class XMLEvents {
+  public:
+    virtual ~XMLEvents() = default;
+    virtual void started(std::size_t element, const XMLAttributes& attributes) = 0;
+    /// Text up to the next tag, reference, section or comment; UTF-8, never empty.
+    virtual void text(std::string_view piece) = 0;
+    virtual void ended(std::size_t element) = 0;
+};
+
+/// Parses a document up to its first zero byte or the first fatal error. Returns whether it was well-formed.
+///
+/// The document is UTF-8 regardless of its declaration. External resources are never read, and entity
+/// expansion is limited. `document` must end in a zero byte, as every QByteArray that owns its bytes does.
+bool parseXML(const QByteArray& document, std::span<const char* const> elementNames, XMLEvents& events);
+
+} // namespace guide

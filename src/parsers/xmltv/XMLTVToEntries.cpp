@@ -1,0 +1,182 @@
+#include "parsers/xmltv/XMLTVToEntries.h"
+
+#include "parsers/ParsersLog.h"
+#include "parsers/xmltv/XMLTVDate.h"
+#include "text/categories/CategoryMapping.h"
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Programmes of channels that repeat another one an hour later are listed an hour too late.
+constexpr std::string_view kShiftedChannel = "Plus1";
+constexpr std::chrono::hours kShift{1};
+
+std::optional<std::string> single(const std::vector<QString>& channels) {
+    return channels.size() == 1 ? std::optional(channels.front().toStdString()) : std::nullopt;
+}
+
+} // namespace
+
+XMLTVToEntries::XMLTVToEntries(const QByteArray& data, const std::vector<QString>& channels,
+                               XMLTVOptions options)
+    : m_options(std::move(options))
+    , m_maker(m_options.shows)
+    , m_wanted(channels)
+    , m_single(single(channels)) {
+    if (parsersLog().isInfoEnabled()) {
+        QStringList list(channels.begin(), channels.end());
+        qCInfo(parsersLog, "channels=%s", qUtf8Printable(list.join(u", "_s)));
+    }
+    parseXMLTV(data, *this);
+}
+
+void XMLTVToEntries::started(XMLTVElement element, const XMLTVAttributes& attributes) {
+    if (element == XMLTVElement::Programme) {
+        startProgramme(attributes);
+        return;
+    }
+    m_inside = element;
+    if (!m_hasShow) {
+        return;
+    }
+    switch (element) {
+    case XMLTVElement::PreviouslyShown:
+        m_show.previouslyShown = true;
+        break;
+    case XMLTVElement::EpisodeNum:
+    case XMLTVElement::SeriesId:
+        m_show.categories |= TVListingsCategorySeries;
+        break;
+    case XMLTVElement::Actor:
+        if (m_show.roles.isSet()) {
+            m_show.roles.append(", ");
+        }
+        break;
+    case XMLTVElement::Director:
+        if (m_show.directedBy.isSet()) {
+            m_show.directedBy.append(", ");
+        }
+        break;
+    case XMLTVElement::Icon:
+        if (const auto source = attributes.value("src")) {
+            m_show.icon.assign(*source);
+            m_show.iconIsImage = false;
+        }
+        break;
+    case XMLTVElement::Category:
+        if (const auto description = attributes.value("desc")) {
+            m_show.categories |= mapCategoryAttribute(
+                QString::fromUtf8(description->data(), static_cast<qsizetype>(description->size())));
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+void XMLTVToEntries::startProgramme(const XMLTVAttributes& attributes) {
+    m_category.clear();
+    const auto channel = attributes.value("channel");
+    if (!m_wanted.all() && (!channel || !m_wanted.contains(*channel))) {
+        m_inside.reset();
+        m_hasShow = false;
+        m_ignoreTitle = false;
+        return;
+    }
+    const bool isShifted = channel && channel->find(kShiftedChannel) != std::string_view::npos;
+    // The view of the channel is invalid after the next attribute is read.
+    std::string sourceId = m_single ? *m_single : std::string(channel.value_or(std::string_view{}));
+    m_inside = XMLTVElement::Programme;
+
+    const auto shifted = [isShifted](std::optional<Moment> moment) {
+        return moment && isShifted ? std::optional<Moment>(*moment - kShift) : moment;
+    };
+    const auto stopText = attributes.value("stop");
+    const auto stop = stopText ? shifted(parseXMLTVDate(*stopText)) : std::nullopt;
+    if (!stop || *stop <= m_options.now) {
+        return;
+    }
+    const auto startText = attributes.value("start");
+    m_show.clear();
+    m_hasShow = true;
+    m_show.sourceId = std::move(sourceId);
+    m_show.dateTime = startText ? shifted(parseXMLTVDate(*startText)) : std::nullopt;
+    m_show.endDateTime = *stop;
+}
+
+void XMLTVToEntries::text(std::string_view piece) {
+    if (!m_inside || !m_hasShow) {
+        return;
+    }
+    switch (*m_inside) {
+    case XMLTVElement::Title:
+        if (!m_ignoreTitle) {
+            m_show.title.append(piece);
+        }
+        break;
+    case XMLTVElement::SubTitle:
+        // Episode numbers.
+        if (piece.front() < '0' || piece.front() > '9') {
+            m_show.subtitle.append(piece);
+        }
+        break;
+    case XMLTVElement::Desc:
+        m_show.description.appendCollapsed(piece);
+        break;
+    case XMLTVElement::Actor:
+        m_show.roles.append(piece);
+        break;
+    case XMLTVElement::Director:
+        m_show.directedBy.append(piece);
+        break;
+    case XMLTVElement::Category:
+        m_category.append(piece);
+        break;
+    case XMLTVElement::Image:
+        if (m_options.useImage) {
+            m_show.icon.assign(piece);
+            m_show.iconIsImage = true;
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+void XMLTVToEntries::ended(XMLTVElement element) {
+    if (element == XMLTVElement::Programme) {
+        if (m_hasShow && m_show.title.isSet() && !finishShow()) {
+            return;
+        }
+        m_inside.reset();
+        m_ignoreTitle = false;
+        return;
+    }
+    if (m_inside) {
+        m_inside = XMLTVElement::Programme;
+    }
+    if (element == XMLTVElement::Title) {
+        m_ignoreTitle = true;
+    }
+}
+
+bool XMLTVToEntries::finishShow() {
+    std::optional<ExtendedTVEntry> entry = m_maker.make(m_show, m_category);
+    if (!entry) {
+        return false;
+    }
+    const auto [place, isNew] = m_channelIndices.try_emplace(m_show.sourceId, m_entries.size());
+    if (isNew) {
+        m_entries.push_back({QString::fromStdString(m_show.sourceId), {}});
+    }
+    FeedChannelEntries& channel = m_entries[place->second];
+    entry->basic->setSourceId(channel.sourceId);
+    channel.entries.push_back(*std::move(entry));
+    m_hasShow = false;
+    return true;
+}
+
+} // namespace guide

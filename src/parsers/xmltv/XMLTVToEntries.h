@@ -1,0 +1,75 @@
+#pragma once
+
+#include "parsers/xmltv/FeedShow.h"
+#include "parsers/xmltv/WantedChannels.h"
+#include "parsers/xmltv/XMLTVSaxParser.h"
+#include "platform/Moment.h"
+#include "store/ShowItem.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace guide {
+
+/// The context of reading a feed.
+struct XMLTVOptions {
+    FeedShowOptions shows;
+    /// Shows that ended before it are dropped.
+    Moment now;
+    /// Whether `image` elements are read as pictures.
+    bool useImage = false;
+};
+
+/// The shows of one channel of a feed, in document order.
+struct FeedChannelEntries {
+    /// The channel id of the feed; empty for programmes without a channel.
+    QString sourceId;
+    std::vector<ExtendedTVEntry> entries;
+};
+
+/// Reads a feed on construction: cleans, classifies and groups its shows. Keeps what precedes the first
+/// error.
+class XMLTVToEntries : private XMLTVEvents {
+  public:
+    /// `data` is UTF-8 and must own its bytes. No channels means all; with exactly one, all shows that pass
+    /// the filter are assigned to it.
+    XMLTVToEntries(const QByteArray& data, const std::vector<QString>& channels, XMLTVOptions options);
+
+    /// In the order in which the channels appear. The caller may move the entries out.
+    std::vector<FeedChannelEntries>& entries() { return m_entries; }
+
+  private:
+    void started(XMLTVElement element, const XMLTVAttributes& attributes) override;
+    void text(std::string_view piece) override;
+    void ended(XMLTVElement element) override;
+
+    void startProgramme(const XMLTVAttributes& attributes);
+    /// False when the show is a placeholder, whose end tag is then ignored.
+    bool finishShow();
+
+    const XMLTVOptions m_options;
+    FeedShowMaker m_maker;
+    const WantedChannels m_wanted;
+    /// The only wanted channel.
+    const std::optional<std::string> m_single;
+
+    std::optional<XMLTVElement> m_inside;
+    /// A second title is ignored.
+    bool m_ignoreTitle = false;
+    /// The current show; its buffers are reused.
+    FeedShow m_show;
+    bool m_hasShow = false;
+    /// The text of all category elements of the programme.
+    FeedText m_category;
+
+    std::vector<FeedChannelEntries> m_entries;
+    std::unordered_map<std::string, std::size_t> m_channelIndices;
+};
+
+} // namespace guide

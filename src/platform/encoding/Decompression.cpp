@@ -1,0 +1,237 @@
+#include "platform/encoding/Decompression.h"
+
+#include "platform/encoding/GzipInflate.h"
+
+#include <QDebug>
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstring>
+#include <lzma.h>
+#include <memory>
+#include <utility>
+
+namespace guide {
+
+namespace {
+
+constexpr std::uint64_t kGibibyte = std::uint64_t{1} << 30;
+constexpr std::uint64_t kSmallestRoom = 0x20000;
+constexpr std::size_t kWindowSize = 256 * 1024;
+// Deflate expands by at most 1,032.
+constexpr std::uint64_t kDeflateRatio = 1032;
+constexpr std::uint64_t kXzRatio = 23;
+constexpr qsizetype kSmallestGzipFile = 18;
+constexpr char kGzipSignature[] = {'\x1f', '\x8b'};
+constexpr char kXzSignature[] = {'\xfd', '7', 'z', 'X', 'Z', '\0'};
+
+template <std::size_t N>
+bool beginsWith(QByteArrayView data, const char (&signature)[N]) {
+    return data.size() >= static_cast<qsizetype>(N) && std::memcmp(data.data(), signature, N) == 0;
+}
+
+// One byte more than the limit distinguishes a file that ends at the limit from a longer one.
+std::uint64_t roomWithin(std::uint64_t wanted, std::uint64_t limit) {
+    return std::min(std::max(wanted, kSmallestRoom), limit + 1);
+}
+
+// The initial size: what the last four bytes of the file say about its last member, if plausible, and one
+// byte more so that the end is detected without growing.
+std::uint64_t firstRoom(QByteArrayView data, std::uint64_t limit) {
+    const auto packed = static_cast<std::uint64_t>(data.size());
+    std::uint64_t room = packed * 4;
+    if (data.size() >= kSmallestGzipFile) {
+        const std::uint64_t said = qFromLittleEndian<quint32>(data.data() + data.size() - 4);
+        if (said >= packed / 2 && said <= packed * kDeflateRatio) {
+            room = said + 1;
+        }
+    }
+    return roomWithin(room, limit);
+}
+
+// Both decoders write here, one after the other, when the first one gives up.
+class RestartableOutput : public GzipOutput {
+  public:
+    /// The same content follows again from its first byte.
+    virtual void restart() = 0;
+};
+
+class WholeOutput final : public RestartableOutput {
+  public:
+    WholeOutput(std::uint64_t firstRoom, std::uint64_t limit)
+        : m_bytes(static_cast<qsizetype>(firstRoom), Qt::Uninitialized)
+        , m_limit(limit) {}
+
+    std::span<char> room() override {
+        if (m_written == size()) {
+            m_bytes.resize(static_cast<qsizetype>(roomWithin(m_written * 2, m_limit)));
+        }
+        return {m_bytes.data() + m_written, size() - m_written};
+    }
+    bool take(std::size_t count) override {
+        m_written += count;
+        return m_written <= m_limit;
+    }
+    void restart() override { m_written = 0; }
+
+    QByteArray bytes() && {
+        m_bytes.truncate(static_cast<qsizetype>(m_written));
+        return std::move(m_bytes);
+    }
+
+  private:
+    std::uint64_t size() const { return static_cast<std::uint64_t>(m_bytes.size()); }
+
+    QByteArray m_bytes;
+    std::uint64_t m_limit;
+    std::uint64_t m_written = 0;
+};
+
+class WindowOutput final : public RestartableOutput {
+  public:
+    WindowOutput(const TakePiece& takePiece, std::uint64_t limit)
+        : m_takePiece(takePiece)
+        , m_limit(limit) {}
+
+    std::span<char> room() override { return {m_window.get(), kWindowSize}; }
+    bool take(std::size_t count) override {
+        m_position += count;
+        if (m_position > m_limit) {
+            return false;
+        }
+        if (m_position <= m_delivered) {
+            return true;
+        }
+        const std::size_t fresh = std::min<std::uint64_t>(count, m_position - m_delivered);
+        m_delivered = m_position;
+        m_refused = !m_takePiece(QByteArrayView(m_window.get() + (count - fresh), qsizetype(fresh)));
+        return !m_refused;
+    }
+    void restart() override { m_position = 0; }
+
+    bool refused() const { return m_refused; }
+
+  private:
+    const TakePiece& m_takePiece;
+    const std::uint64_t m_limit;
+    const std::unique_ptr<char[]> m_window{new char[kWindowSize]};
+    std::uint64_t m_position = 0;
+    std::uint64_t m_delivered = 0;
+    bool m_refused = false;
+};
+
+// zlib decides about every file that ISA-L does not find complete, so that a file gives the same result on
+// every machine.
+GzipEnd inflateGzip(QByteArrayView data, RestartableOutput& output) {
+    if (hasIsal()) {
+        const GzipEnd end = inflateWithIsal(data, output);
+        if (end == GzipEnd::Complete || end == GzipEnd::Stopped) {
+            return end;
+        }
+        output.restart();
+    }
+    return inflateWithZlib(data, output);
+}
+
+void logOverLimit(std::uint64_t limit) {
+    qInfo("gzip file unpacks to more than %llu bytes", static_cast<unsigned long long>(limit));
+}
+
+struct LzmaStream {
+    lzma_stream stream = LZMA_STREAM_INIT;
+    LzmaStream() = default;
+    LzmaStream(const LzmaStream&) = delete;
+    LzmaStream& operator=(const LzmaStream&) = delete;
+    ~LzmaStream() { lzma_end(&stream); }
+};
+
+// Skips the zero bytes that may separate two streams of a file.
+void skipPadding(lzma_stream& stream) {
+    while (stream.avail_in > 0 && *stream.next_in == 0) {
+        ++stream.next_in;
+        --stream.avail_in;
+    }
+}
+
+} // namespace
+
+std::uint64_t DecompressionLimits::gzipLimit() const {
+    return std::min(physicalMemory / 4, kGibibyte);
+}
+
+std::uint64_t DecompressionLimits::xzLimit(std::uint64_t packedSize) const {
+    return std::min(physicalMemory / 4, packedSize * kXzRatio);
+}
+
+bool hasGzipSignature(QByteArrayView data) {
+    return beginsWith(data, kGzipSignature);
+}
+
+bool hasXzSignature(QByteArrayView data) {
+    return beginsWith(data, kXzSignature);
+}
+
+std::optional<QByteArray> dataWithCompressedData(QByteArrayView data, const DecompressionLimits& limits) {
+    const std::uint64_t limit = limits.gzipLimit();
+    WholeOutput output(firstRoom(data, limit), limit);
+    switch (inflateGzip(data, output)) {
+    case GzipEnd::Complete:
+    case GzipEnd::CutShort:
+        return std::move(output).bytes();
+    case GzipEnd::Stopped:
+        logOverLimit(limit);
+        break;
+    case GzipEnd::Damaged:
+        break;
+    }
+    return std::nullopt;
+}
+
+bool unpackCompressedData(QByteArrayView data, const DecompressionLimits& limits,
+                          const TakePiece& takePiece) {
+    const std::uint64_t limit = limits.gzipLimit();
+    WindowOutput output(takePiece, limit);
+    const GzipEnd end = inflateGzip(data, output);
+    if (end == GzipEnd::Stopped && !output.refused()) {
+        logOverLimit(limit);
+    }
+    return end == GzipEnd::Complete || end == GzipEnd::CutShort;
+}
+
+std::optional<QByteArray> dataWithXzData(QByteArrayView data, const DecompressionLimits& limits) {
+    const std::uint64_t limit = limits.xzLimit(static_cast<std::uint64_t>(data.size()));
+    if (limit == 0) {
+        return std::nullopt;
+    }
+    // Untouched pages of a large block cost nothing, so the whole size is allocated at once.
+    QByteArray output(static_cast<qsizetype>(limit), Qt::Uninitialized);
+    LzmaStream decoder;
+    lzma_stream& stream = decoder.stream;
+    stream.next_in = reinterpret_cast<const std::uint8_t*>(data.data());
+    stream.avail_in = static_cast<std::size_t>(data.size());
+    stream.next_out = reinterpret_cast<std::uint8_t*>(output.data());
+    stream.avail_out = static_cast<std::size_t>(limit);
+    do {
+        if (lzma_stream_decoder(&stream, std::max<std::uint64_t>(limits.physicalMemory / 4, 1), 0) !=
+            LZMA_OK) {
+            return std::nullopt;
+        }
+        lzma_ret outcome = LZMA_OK;
+        while (outcome == LZMA_OK && stream.avail_out > 0) {
+            outcome = lzma_code(&stream, LZMA_FINISH);
+        }
+        if (outcome != LZMA_STREAM_END && (outcome != LZMA_OK || stream.avail_out > 0)) {
+            return std::nullopt;
+        }
+        skipPadding(stream);
+    } while (stream.avail_out > 0 &&
+             hasXzSignature(QByteArrayView(stream.next_in, static_cast<qsizetype>(stream.avail_in))));
+    const auto written = static_cast<qsizetype>(limit - stream.avail_out);
+    if (written == 0) {
+        return std::nullopt;
+    }
+    output.truncate(written);
+    return output;
+}
+
+} // namespace guide

@@ -1,0 +1,176 @@
+#include "platform/encoding/Utf8.h"
+
+#include <QStringEncoder>
+
+#include <array>
+#include <cstdint>
+#include <cstring>
+
+#ifdef __x86_64__
+#include <tmmintrin.h>
+#endif
+
+using namespace Qt::StringLiterals;
+
+namespace guide {
+
+namespace {
+
+#ifdef __x86_64__
+
+// Checks sixteen bytes a step without branching on them: each pair of neighbours is looked up in three tables
+// of what can be wrong with a pair, by the two halves of the first byte and the upper half of the second, and
+// the pair is wrong where all three agree. In addition the third and fourth bytes of a long character, and no
+// others, must follow a continuation byte.
+//
+// Qt's validation takes as long as this on plain ASCII, but leaves its fast path at every letter with a mark:
+// 12.5 MB of a Hungarian feed take it 10.3 ms and this 3.1 ms (Slovak: 2.5 and 0.7 ms for 2.8 MB). With it,
+// reading few channels of a packed feed takes 1.13 times zlib's unpacking alone, with this 1.04.
+constexpr std::uint8_t kTooShort = 1 << 0;
+constexpr std::uint8_t kTooLong = 1 << 1;
+constexpr std::uint8_t kOverlong3 = 1 << 2;
+constexpr std::uint8_t kTooLarge = 1 << 3;
+constexpr std::uint8_t kSurrogate = 1 << 4;
+constexpr std::uint8_t kOverlong2 = 1 << 5;
+constexpr std::uint8_t kTooLarge1000 = 1 << 6;
+constexpr std::uint8_t kOverlong4 = 1 << 6;
+constexpr std::uint8_t kTwoContinuations = 1 << 7;
+// Faults that do not depend on the lower half of the first byte.
+constexpr std::uint8_t kAnyLow = kTooShort | kTooLong | kTwoContinuations;
+
+using Table = std::array<std::uint8_t, 16>;
+
+alignas(16) constexpr Table kFirstHigh{kTooLong,
+                                       kTooLong,
+                                       kTooLong,
+                                       kTooLong,
+                                       kTooLong,
+                                       kTooLong,
+                                       kTooLong,
+                                       kTooLong,
+                                       kTwoContinuations,
+                                       kTwoContinuations,
+                                       kTwoContinuations,
+                                       kTwoContinuations,
+                                       kTooShort | kOverlong2,
+                                       kTooShort,
+                                       kTooShort | kOverlong3 | kSurrogate,
+                                       kTooShort | kTooLarge | kTooLarge1000 | kOverlong4};
+
+constexpr std::uint8_t kLarge = kAnyLow | kTooLarge | kTooLarge1000;
+alignas(16) constexpr Table kFirstLow{kAnyLow | kOverlong2 | kOverlong3 | kOverlong4,
+                                      kAnyLow | kOverlong2,
+                                      kAnyLow,
+                                      kAnyLow,
+                                      kAnyLow | kTooLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge,
+                                      kLarge | kSurrogate,
+                                      kLarge,
+                                      kLarge};
+
+constexpr std::uint8_t kContinuation = kTooLong | kOverlong2 | kTwoContinuations;
+alignas(16) constexpr Table kSecondHigh{kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kContinuation | kOverlong3 | kTooLarge1000 | kOverlong4,
+                                        kContinuation | kOverlong3 | kTooLarge,
+                                        kContinuation | kSurrogate | kTooLarge,
+                                        kContinuation | kSurrogate | kTooLarge,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort,
+                                        kTooShort};
+
+__attribute__((target("ssse3"))) inline __m128i look(const Table& table, __m128i halves) {
+    return _mm_shuffle_epi8(_mm_load_si128(reinterpret_cast<const __m128i*>(table.data())), halves);
+}
+
+// Non-zero where a byte of the block, or a pair that ends in it, is wrong.
+__attribute__((target("ssse3"))) inline __m128i faults(__m128i block, __m128i before) {
+    const __m128i lowHalf = _mm_set1_epi8(0x0f);
+    const __m128i back1 = _mm_alignr_epi8(block, before, 15);
+    const __m128i pair =
+        _mm_and_si128(_mm_and_si128(look(kFirstHigh, _mm_and_si128(_mm_srli_epi16(back1, 4), lowHalf)),
+                                    look(kFirstLow, _mm_and_si128(back1, lowHalf))),
+                      look(kSecondHigh, _mm_and_si128(_mm_srli_epi16(block, 4), lowHalf)));
+    // The top bit is set where the byte two or three before begins a character that reaches this one.
+    const __m128i third = _mm_subs_epu8(_mm_alignr_epi8(block, before, 14), _mm_set1_epi8(0xe0 - 0x80));
+    const __m128i fourth = _mm_subs_epu8(_mm_alignr_epi8(block, before, 13), _mm_set1_epi8(0xf0 - 0x80));
+    const __m128i due = _mm_and_si128(_mm_or_si128(third, fourth), _mm_set1_epi8(static_cast<char>(0x80)));
+    return _mm_xor_si128(due, pair);
+}
+
+__attribute__((target("ssse3"))) bool isValidByBlocks(QByteArrayView bytes) {
+    const char* at = bytes.data();
+    auto left = static_cast<std::size_t>(bytes.size());
+    __m128i before = _mm_setzero_si128();
+    __m128i wrong = _mm_setzero_si128();
+    const auto load = [](const char* from) {
+        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+    };
+    for (; left >= 64; at += 64, left -= 64) {
+        const __m128i blocks[] = {load(at), load(at + 16), load(at + 32), load(at + 48)};
+        const __m128i any =
+            _mm_or_si128(_mm_or_si128(blocks[0], blocks[1]), _mm_or_si128(blocks[2], blocks[3]));
+        wrong = _mm_or_si128(wrong, faults(blocks[0], before));
+        if (_mm_movemask_epi8(any) != 0) {
+            wrong = _mm_or_si128(wrong, faults(blocks[1], blocks[0]));
+            wrong = _mm_or_si128(wrong, faults(blocks[2], blocks[1]));
+            wrong = _mm_or_si128(wrong, faults(blocks[3], blocks[2]));
+        }
+        before = blocks[3];
+    }
+    // The rest, followed by zero bytes that no character may reach into.
+    alignas(16) std::array<char, 80> tail{};
+    std::memcpy(tail.data(), at, left);
+    for (std::size_t offset = 0; offset < tail.size(); offset += 16) {
+        const __m128i block = load(tail.data() + offset);
+        wrong = _mm_or_si128(wrong, faults(block, before));
+        before = block;
+    }
+    return _mm_movemask_epi8(_mm_cmpeq_epi8(wrong, _mm_setzero_si128())) == 0xffff;
+}
+
+#endif
+
+constexpr char kByteOrderMark[] = "\xef\xbb\xbf";
+
+} // namespace
+
+bool isValidUtf8(QByteArrayView bytes) {
+#ifdef __x86_64__
+    static const bool hasShuffle = __builtin_cpu_supports("ssse3") != 0;
+    constexpr qsizetype kSmallestForBlocks = 64;
+    if (hasShuffle && bytes.size() >= kSmallestForBlocks) {
+        return isValidByBlocks(bytes);
+    }
+#endif
+    return bytes.isValidUtf8();
+}
+
+bool readUtf8(QByteArrayView bytes, QString& text) {
+    text = bytes.isEmpty() ? u""_s : QString::fromUtf8(bytes);
+    if (bytes.startsWith(kByteOrderMark)) {
+        text.prepend(QChar(QChar::ByteOrderMark));
+    }
+    // Qt puts a replacement character in the place of each fault. The text may have some of its own.
+    return !text.contains(QChar(QChar::ReplacementCharacter)) || isValidUtf8(bytes);
+}
+
+char* writeUtf8(QStringView text, char* out) {
+    return QStringEncoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless).appendToBuffer(out, text);
+}
+
+} // namespace guide

@@ -1,7 +1,0 @@
-#include "text/TextLog.h"
-
-namespace guide {
-
-Q_LOGGING_CATEGORY(textLog, "guide.text", QtInfoMsg)
-
-} // namespace guide

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace guide {
+
+/// The format of times in rows, derived from a locale's short time format: without its first blank (any
+/// Unicode space) and with two digits for the hour: "H:mm" gives "HH:mm", "h:mm a" gives "hh:mma".
+QString rowTimeFormat(const QString& shortTimeFormat);
+
+} // namespace guide

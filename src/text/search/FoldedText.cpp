@@ -1,0 +1,11 @@
+#include "text/search/FoldedText.h"
+
+#include "text/search/FoldTable.h"
+
+namespace guide {
+
+QString foldedText(QStringView text) {
+    return FoldTable::of(FoldMode::CaseAndDiacritics).folded(text);
+}
+
+} // namespace guide

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace guide {
+
+/// The text as seen by searches that ignore case and diacritics: decomposed, without marks, case folded.
+/// Composed and decomposed input give the same result.
+QString foldedText(QStringView text);
+
+} // namespace guide

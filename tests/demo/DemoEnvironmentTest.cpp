@@ -1,0 +1,190 @@
+#include "demo/DemoEnvironment.h"
+
+#include "core/CatalogueFiles.h"
+#include "core/TVStationIcons.h"
+#include "demo/Client.h"
+#include "demo/DemoChannel.h"
+#include "demo/DemoSites.h"
+#include "demo/Texts.h"
+#include "demo/schedule/ScheduleGenerator.h"
+#include "parsers/URLPlanner.h"
+#include "platform/encoding/CharacterSets.h"
+#include "platform/encoding/Decompression.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTimeZone>
+
+#include <gtest/gtest.h>
+#include <libxml/parser.h>
+#include <libxml/tree.h>
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace guide {
+
+namespace {
+
+const QString kTexts = QStringLiteral(QUELLIN_SOURCE_DATA "/demo");
+
+// Six in the evening in Prague, two hours later in Moscow.
+constexpr Moment kNow{std::chrono::sys_days(std::chrono::year(2026) / 11 / 21) + std::chrono::hours(17)};
+
+struct StoppedClock final : Clock {
+    Moment now() const override { return kNow; }
+};
+
+struct XMLFree {
+    void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
+};
+
+QString attribute(xmlNode* node, const char* name) {
+    xmlChar* const value = xmlGetProp(node, reinterpret_cast<const xmlChar*>(name));
+    const QString text = QString::fromUtf8(reinterpret_cast<const char*>(value));
+    xmlFree(value);
+    return text;
+}
+
+/// Unpacks the page as the guide does and counts the programmes of each channel.
+std::map<QString, int> programmeCounts(const Fetched& got) {
+    const DecompressionLimits limits{.physicalMemory = std::uint64_t(1) << 30};
+    const QByteArray page = hasXzSignature(got.body) ? dataWithXzData(got.body, limits).value_or("")
+                            : hasGzipSignature(got.body)
+                                ? dataWithCompressedData(got.body, limits).value_or("")
+                                : got.body;
+    const std::unique_ptr<xmlDoc, XMLFree> document(
+        xmlReadMemory(page.constData(), int(page.size()), "feed", nullptr, XML_PARSE_NONET));
+    std::map<QString, int> counts;
+    if (!document) {
+        ADD_FAILURE() << "not well-formed";
+        return counts;
+    }
+    for (xmlNode* node = xmlDocGetRootElement(document.get())->children; node != nullptr; node = node->next) {
+        if (node->type == XML_ELEMENT_NODE &&
+            xmlStrEqual(node->name, reinterpret_cast<const xmlChar*>("programme"))) {
+            ++counts[attribute(node, "channel")];
+        }
+    }
+    return counts;
+}
+
+class DemoEnvironmentTest : public testing::Test {
+  protected:
+    void SetUp() override { ASSERT_TRUE(environment); }
+
+    const StoppedClock clock;
+    QTemporaryDir folder;
+    std::unique_ptr<DemoEnvironment> environment =
+        DemoEnvironment::create(folder.path() + u"/new/demo"_s, kTexts, clock);
+};
+
+// The guide's catalogue reader and planner find every channel's feeds and sites, and each feed has the
+// channel's whole schedule.
+TEST_F(DemoEnvironmentTest, ServesEverySourceOfEveryChannel) {
+    const auto rows = rowsOfPropertyList(environment->cataloguePath());
+    ASSERT_TRUE(rows);
+    ASSERT_EQ(rows->size(), demoChannels().size());
+    const auto hosts = SourceHostTable::fromFile(environment->hostsPath());
+    ASSERT_TRUE(hosts);
+    unsigned mirror = 0;
+    const URLPlanner planner(*hosts, [&mirror](unsigned bound) { return mirror++ % bound; });
+
+    for (std::size_t i = 0; i < rows->size(); ++i) {
+        const DemoChannel& channel = demoChannels()[i];
+        const QDate firstDay = broadcastDay(kNow, channel.zone).addDays(-1);
+        const auto all = ScheduleGenerator(sourceTexts()).schedule(channel, firstDay, 8);
+        int sources = 0;
+        for (const QString& source : (*rows)[i].channel.sourceIds) {
+            ++sources;
+            const auto urls = planner.urlsForSourceId(source, kNow, QTimeZone::utc());
+            ASSERT_TRUE(urls) << qUtf8Printable(source);
+            int count = 0;
+            for (const QUrl& url : *urls) {
+                const Fetched got = fetch(url.toString(QUrl::FullyEncoded));
+                EXPECT_EQ(got.status, 200) << qUtf8Printable(url.toString());
+                if (DemoSites::serves(source)) {
+                    EXPECT_GT(got.body.size(), 2000) << qUtf8Printable(url.toString());
+                    continue;
+                }
+                count += programmeCounts(got)[channel.feedId];
+            }
+            if (DemoSites::serves(source)) {
+                continue;
+            }
+            // Day files are planned for seven calendar days of the eight from six to six.
+            if (urls->size() == 1) {
+                EXPECT_EQ(count, int(all.size())) << qUtf8Printable(source);
+            } else {
+                EXPECT_EQ(urls->size(), 7);
+                EXPECT_GT(count, int(all.size()) * 3 / 4);
+                EXPECT_LT(count, int(all.size()));
+            }
+        }
+        EXPECT_GE(sources, 1);
+    }
+}
+
+TEST_F(DemoEnvironmentTest, SelectsTwelveOfItsChannelsEachWithAnIcon) {
+    const auto rows = rowsOfPropertyList(environment->cataloguePath());
+    ASSERT_TRUE(rows);
+    const auto types =
+        SupportedChannelTypes::fromFile(QStringLiteral(QUELLIN_SOURCE_DATA "/supported-channel-types.json"));
+    TVStationIcons icons(QStringLiteral(QUELLIN_SOURCE_DATA "/icons"), 2);
+    const auto kept = filteredChannels(
+        *rows, types, [&icons](const QString& name) { return !icons.iconNamed(name).isNull(); });
+    ASSERT_EQ(kept.size(), rows->size());
+    QSet<QString> known;
+    QSet<QString> languages;
+    for (const CatalogueRow& row : kept) {
+        known.insert(row.channel.id.hex());
+        languages.insert(row.channel.language);
+    }
+    EXPECT_GE(known.size(), 24);
+    EXPECT_EQ(languages, QSet<QString>({u"cs"_s, u"cs/sk"_s, u"sk"_s, u"en"_s, u"fr"_s, u"tr"_s, u"ru"_s}));
+
+    QFile file(environment->selectionPath());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonArray selection = QJsonDocument::fromJson(file.readAll()).array();
+    QSet<QString> selected;
+    for (const QJsonValue id : selection) {
+        EXPECT_TRUE(known.contains(id.toString()));
+        selected.insert(id.toString());
+    }
+    EXPECT_EQ(selected.size(), 12);
+}
+
+TEST(ShippedCatalogue, IsValidAndEmpty) {
+    const auto rows = rowsOfPropertyList(QStringLiteral(QUELLIN_SOURCE_DATA "/Data.plist"));
+    ASSERT_TRUE(rows);
+    EXPECT_TRUE(rows->empty());
+}
+
+TEST_F(DemoEnvironmentTest, DatesItsCatalogueLaterThanAnyArchive) {
+    const QDateTime later = QDateTime::fromMSecsSinceEpoch(kNow.time_since_epoch().count()).addDays(30);
+    EXPECT_GT(QFileInfo(environment->cataloguePath()).lastModified(), later);
+    EXPECT_GT(QFileInfo(environment->cataloguePath()).lastModified(),
+              QDateTime::currentDateTime().addDays(30));
+}
+
+TEST_F(DemoEnvironmentTest, EncodesRussianBytesAsItsHeaderSays) {
+    const Fetched got = fetch(environment->serverBase() + u"/feeds/kinovar.xml"_s);
+    EXPECT_EQ(got.contentType, "text/xml; charset=windows-1251");
+    const auto page = utf8FromCharacterSet(got.body, u"WINDOWS-1251"_s);
+    ASSERT_TRUE(page);
+    EXPECT_TRUE(QString::fromUtf8(*page).contains(u"Киноварь"_s));
+}
+
+TEST(DemoEnvironment, IsNullWhenFilesCannotBeWrittenOrTextsRead) {
+    EXPECT_FALSE(DemoEnvironment::create(u"/proc/nowhere"_s, kTexts, StoppedClock()));
+    const QTemporaryDir folder;
+    EXPECT_FALSE(DemoEnvironment::create(folder.path(), folder.path(), StoppedClock())) << "no texts";
+}
+
+} // namespace
+
+} // namespace guide

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "alarms/AlarmSynchronisation.h"
+#include "alarms/Favorites.h"
+#include "alarms/PendingAlarms.h"
+#include "store/ListingsObserver.h"
+#include "store/PopularShows.h"
+
+#include <QSet>
+#include <QStringList>
+
+#include <atomic>
+
+namespace guide::test {
+
+/// Rules without alarms on the titles.
+struct FakeFavorites final : FavoritesSource {
+    std::shared_ptr<const FavoritesSnapshot> snapshot() const override {
+        std::vector<Favorite> rules;
+        for (const QString& title : titles) {
+            rules.push_back({title, {}, {}, {}});
+        }
+        return std::make_shared<const FavoritesSnapshot>(std::move(rules));
+    }
+    QStringList titles;
+};
+
+struct FakePopularShows final : PopularShows {
+    ShowList popularShows() const override { return list; }
+    bool contains(const ShowItem& item) const override {
+        return item.entry()->title() && titles.contains(*item.entry()->title());
+    }
+    void refresh() override { ++refreshes; }
+
+    ShowList list;
+    QSet<QString> titles;
+    std::atomic<int> refreshes = 0;
+};
+
+struct FakeAlarms final : AlarmsSource, AlarmSynchronisation {
+    std::shared_ptr<const AlarmsSnapshot> snapshot() const override {
+        return std::make_shared<const AlarmsSnapshot>(events);
+    }
+    void setSynchronized(bool synchronized) override { isSynchronized = synchronized; }
+    void syncAlarms() override { ++syncs; }
+    void commit() override { ++commits; }
+
+    AlarmsSnapshot::MinutesByShow events;
+    std::atomic<bool> isSynchronized = true;
+    std::atomic<int> syncs = 0;
+    int commits = 0;
+};
+
+struct CountingListingsObserver final : ListingsObserver {
+    void listingsReplaced() override { ++replacements; }
+    std::atomic<int> replacements = 0;
+};
+
+} // namespace guide::test

@@ -1,0 +1,133 @@
+#include "fakes/FakeHTTPClient.h"
+#include "fakes/ManualQueues.h"
+#include "parsers/details/IMDbLookup.h"
+#include "parsers/details/RecordedShows.h"
+
+#include <gtest/gtest.h>
+
+namespace guide {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+using Labels = QMap<QString, QString>;
+
+TEST(RecordedShows, ReadsTheSelectBoxOfTheShow) {
+    const QByteArray index =
+        R"(<a href="/enz/a/">Jutro</a><li><a class="x" href="/enz/dnevnik/">Dnevnik</a>)";
+    const struct {
+        const char* name;
+        QString title;
+        QByteArray box;
+        std::optional<Labels> expected;
+    } cases[] = {
+        {"two under one label", u"Dnevnik"_s,
+         "<select id=\"d\"><option value=\"1\">Ned</option><option value=\"2\">Pon</option>"
+         "<option value=\"3\">Ned</option></select>",
+         Labels{{u"Ned"_s, u"3"_s}, {u"Pon"_s, u"2"_s}}},
+        {"no recordings", u"Dnevnik"_s, "<select id=\"d\"></select>", Labels{}},
+        {"another case", u"dnevnik"_s, "<select id=\"d\"></select>", std::nullopt},
+        {"a box without an end", u"Dnevnik"_s, "<select id=\"d\"><option value=\"1\">Ned</option>",
+         std::nullopt},
+        {"a broken option", u"Dnevnik"_s,
+         "<select id=\"d\"><option value=\"1\">Ned<option value=\"2</select>", std::nullopt},
+    };
+    const auto hosts = SourceHostTable::fromJson(R"({"HRTHost": "hrt.example"})");
+    for (const auto& each : cases) {
+        const auto found = recordedShowsWithTitle(each.title, *hosts, [&](const QUrl& url) {
+            return std::optional(url == QUrl(u"https://hrt.example/enz/"_s)           ? index
+                                 : url == QUrl(u"https://hrt.example/enz/dnevnik/"_s) ? each.box
+                                                                                      : QByteArray());
+        });
+        EXPECT_EQ(found, each.expected) << each.name;
+    }
+}
+
+TEST(IMDbLookup, SearchesOnlyForFilmsAndSeries) {
+    const auto hosts = SourceHostTable::fromJson(R"({"IMDbHost": "imdb.example"})");
+    const struct {
+        const char* name;
+        QString title;
+        QString subtitle;
+        TVListingsCategory categories;
+        std::size_t searches;
+    } cases[] = {
+        {"a film", u"Čas & #1"_s, u"Tri"_s, TVListingsCategoryMovies, 1},
+        {"with a subtitle", u"Čas & #1"_s, u"Dvoj"_s, TVListingsCategoryDramas, 2},
+        {"a placeholder", u"Film"_s, {}, TVListingsCategoryMovies, 0},
+        {"too short", u"Es"_s, {}, TVListingsCategoryMovies, 0},
+        {"news", u"Vijesti"_s, {}, TVListingsCategoryNews, 0},
+    };
+    for (const auto& each : cases) {
+        const auto found = imdbSearches(each.title, each.subtitle, each.categories, *hosts);
+        EXPECT_EQ(found.urls.size(), each.searches) << each.name;
+        EXPECT_EQ(found.started, each.searches > 0) << each.name;
+        if (found.started) {
+            EXPECT_EQ(found.urls[0].toEncoded(),
+                      "https://imdb.example/find?ref_=nv_sr_fn&q=%C4%8Cas%20&%20%231&s=tt");
+        }
+    }
+}
+
+TEST(IMDbLookup, ReadsTheFirstRow) {
+    const QUrl search(u"https://imdb.example/find?q=x"_s);
+    const QByteArray start = R"(<tr><td class="primary_photo"> <a href="/title/tt1/" ><img src=")";
+    const QByteArray photo = start + "https://x/a._V1_UX32_CR0,0,32,44_AL_.jpg\"></a>";
+    const IMDbAnswer link{QUrl(u"https://imdb.example/title/tt1/"_s), std::nullopt};
+    const IMDbAnswer both{link.imdbURL, QUrl(u"https://x/a._V1_.jpg"_s)};
+    const struct {
+        const char* name;
+        QByteArray page;
+        bool isSeries;
+        IMDbAnswer expected;
+    } cases[] = {
+        {"a film", photo + "A (TV Series)</tr>", false, both},
+        {"a series", photo + "A (TV Series)</tr>", true, both},
+        {"an episode", photo + "A (TV Episode)</tr>", false, {}},
+        {"a film for a series", photo + "A</tr>(TV Series)", true, {}},
+        {"a series whose row has no end", photo + "A (TV Series)", true, {}},
+        {"no picture", start + "https://x/nopicture.png\"></tr>", false, link},
+        {"no row", "<html>", false, {}},
+        {"no text", photo + "\xff</tr>", false, {}},
+    };
+    for (const auto& each : cases) {
+        EXPECT_EQ(imdbAnswer(each.page, search, each.isSeries), each.expected) << each.name;
+    }
+}
+
+TEST(IMDbLookup, AnswersEverySearchEvenAfterAFailure) {
+    ManualClock clock;
+    ManualQueues queues(clock);
+    FakeHTTPClient client;
+    const HTTPUserAgent userAgent([](unsigned) { return 3U; });
+    const auto hosts = SourceHostTable::fromJson(R"({"IMDbHost": "imdb.example"})");
+    const Alphabet alphabet;
+    ExtendedTVEntry show;
+    show.basic = std::make_shared<TVEntry>(alphabet);
+    show.basic->setIdentificator(u"Čas"_s);
+    show.basic->setSubtitle1(u"Dvoje"_s);
+    show.categories = TVListingsCategoryMovies;
+    client.answer(QUrl(u"https://imdb.example/find?ref_=nv_sr_fn&q=Dvoje&s=tt"_s),
+                  FakeHTTPClient::response(
+                      200, R"(class="primary_photo"> <a href="/title/tt2/" ><img src="nopicture"></tr>)"));
+
+    std::vector<std::pair<unsigned, IMDbAnswer>> answers;
+    const IMDbLookupEnvironment environment{client, userAgent, *hosts, queues};
+    EXPECT_TRUE(imdbLinkWithClosure(show, environment, [&](unsigned index, const IMDbAnswer& answer) {
+        answers.emplace_back(index, answer);
+    }));
+    EXPECT_TRUE(answers.empty()) << "does not block";
+    queues.runAll();
+
+    const std::vector<std::pair<unsigned, IMDbAnswer>> expected{
+        {0, {}}, {1, {QUrl(u"https://imdb.example/title/tt2/"_s), std::nullopt}}};
+    EXPECT_EQ(answers, expected);
+    ASSERT_EQ(client.requests().size(), 2U) << "no second attempt";
+    EXPECT_EQ(client.requests()[0].timeout, std::chrono::seconds(60));
+    EXPECT_EQ(client.requests()[0].headers[0].second, userAgent.value());
+}
+
+} // namespace
+
+} // namespace guide

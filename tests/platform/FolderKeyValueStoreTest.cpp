@@ -1,0 +1,216 @@
+#include "platform/linux/FolderKeyValueStore.h"
+
+#include "fakes/ManualQueues.h"
+#include "platform/files/FileReplacement.h"
+
+#include <QCborArray>
+#include <QCborMap>
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace guide {
+namespace {
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+class FolderKeyValueStoreTest : public testing::Test {
+  protected:
+    QString fileOf(const QString& key) const { return folder.filePath(FolderKeyValueStore::fileName(key)); }
+
+    const QTemporaryDir folder;
+    ManualClock clock;
+    ManualQueues queues{clock};
+    FolderKeyValueStore store{folder.path(), queues};
+    FolderKeyValueStore other{folder.path(), queues};
+};
+
+TEST_F(FolderKeyValueStoreTest, ValuesReachAnotherDevice) {
+    const QDateTime date(QDate(2025, 12, 31), QTime(18, 30, 1, 234), Qt::UTC);
+    const std::vector<std::pair<const char*, QCborValue>> values{
+        {"flag", true},
+        {"number", qint64{(qint64{1} << 60) + 1}},
+        {"fraction", -0.1},
+        {"whole fraction", 5.0},
+        {"large fraction", 1e300},
+        {"infinity", std::numeric_limits<double>::infinity()},
+        {"text", u"Večer \"x\" 📺"_s},
+        {"empty text", u""_s},
+        {"bytes", QByteArray("\0\1\xff", 3)},
+        {"no bytes", QByteArray()},
+        {"date", QCborValue(date)},
+        {"selection", QCborArray{QByteArray(12, '\x58'), QByteArray(12, '\0'), QCborArray{}}},
+    };
+    for (const auto& [name, value] : values) {
+        const QString key = QString::fromLatin1(name);
+        ASSERT_TRUE(store.setValue(key, value)) << name;
+        const std::optional<QCborValue> read = other.valueForKey(key);
+        ASSERT_TRUE(read) << name;
+        EXPECT_EQ(read->type(), value.type()) << name;
+        EXPECT_EQ(*read, value) << name;
+        store.removeKey(key);
+        EXPECT_FALSE(store.valueForKey(key)) << name;
+    }
+}
+
+TEST_F(FolderKeyValueStoreTest, ReadsFilesThatOthersReplaced) {
+    const QString key = u"SelectedChannels"_s;
+    ASSERT_TRUE(store.setValue(key, 1));
+    EXPECT_EQ(other.valueForKey(key), QCborValue(1));
+    const std::optional<Moment> date = fileModificationDate(fileOf(key));
+    ASSERT_TRUE(store.setValue(key, 2));
+    // A sync tool may keep the date; the size is equal too.
+    ASSERT_TRUE(replaceFile(fileOf(key), contentOf(fileOf(key)), date));
+    EXPECT_EQ(other.valueForKey(key), QCborValue(2));
+    ASSERT_TRUE(replaceFile(fileOf(key), "{\"key\": \"SelectedChannels\", \"value\": [3]}"));
+    EXPECT_EQ(other.valueForKey(key), QCborValue(QCborArray{3}));
+    ASSERT_TRUE(QFile::remove(fileOf(key)));
+    EXPECT_FALSE(other.valueForKey(key));
+}
+
+TEST_F(FolderKeyValueStoreTest, OnlyWholeValuesAreRead) {
+    const std::vector<std::pair<const char*, QByteArray>> files{
+        {"empty", ""},
+        {"truncated", "{\"key\": \"a\", \"val"},
+        {"of another key", "{\"key\": \"b\", \"value\": 1}"},
+        {"without a value", "{\"key\": \"a\"}"},
+        {"null", "{\"key\": \"a\", \"value\": null}"},
+        {"odd digits", "{\"key\": \"a\", \"value\": {\"bytes\": \"123\"}}"},
+        {"no digits", "{\"key\": \"a\", \"value\": {\"bytes\": \"zz\"}}"},
+        {"no date", "{\"key\": \"a\", \"value\": {\"date\": \"yesterday\"}}"},
+        {"unknown kind", "{\"key\": \"a\", \"value\": {\"colour\": \"red\"}}"},
+        {"deep", "{\"key\": \"a\", \"value\": " + QByteArray(500, '[') + QByteArray(500, ']') + "}"},
+        {"damage within", "{\"key\": \"a\", \"value\": [1, null]}"},
+    };
+    for (const auto& [name, content] : files) {
+        ASSERT_TRUE(replaceFile(fileOf(u"a"_s), content));
+        EXPECT_FALSE(store.valueForKey(u"a"_s)) << name;
+    }
+    EXPECT_TRUE(store.setValue(u"a"_s, 1));
+    EXPECT_EQ(other.valueForKey(u"a"_s), QCborValue(1));
+    for (const auto& [name, content] : files) {
+        ASSERT_TRUE(replaceFile(fileOf(u"a"_s), content));
+        EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(1)) << name;
+        EXPECT_EQ(other.valueForKey(u"a"_s), QCborValue(1)) << name;
+    }
+    EXPECT_FALSE(store.setValue(u"a"_s, QCborMap{{1, 2}}));
+    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(1)) << "the old value is kept";
+}
+
+TEST_F(FolderKeyValueStoreTest, EveryKeyHasItsOwnFileInTheFolder) {
+    const QString longKey(300, u'ž');
+    const QStringList keys{u"a"_s,  u"."_s,   u".."_s,   u"../a"_s, u"a/b"_s,   u"a%2Fb"_s, u""_s,
+                           u".a"_s, u"ž č"_s, u"a\nb"_s, u"a\0b"_s, u"CON~1"_s, longKey,    longKey + u'a'};
+    for (int index = 0; index < keys.size(); ++index) {
+        ASSERT_TRUE(store.setValue(keys[index], index)) << index;
+    }
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), keys.size());
+    for (int index = 0; index < keys.size(); ++index) {
+        EXPECT_EQ(other.valueForKey(keys[index]), QCborValue(index)) << index;
+    }
+}
+
+class WatchedFolderTest : public FolderKeyValueStoreTest, public KeyValueStoreObserver {
+  protected:
+    WatchedFolderTest() {
+        store.setValue(u"a"_s, 1);
+        store.setValue(u"b"_s, 1);
+        store.setObserver(this);
+    }
+    void valuesChangedExternally(const QStringList& keys) override { m_announced.append(keys); }
+
+    /// The keys that are announced after the next event from the folder.
+    QStringList announced() {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return queues.delayed() > 0; }, 10'000))
+            << "no event from the watcher";
+        clock.advance(std::chrono::milliseconds(250));
+        queues.runAll();
+        QStringList keys = std::exchange(m_announced, {});
+        keys.sort();
+        return keys;
+    }
+
+  private:
+    int m_argc = 1;
+    char m_name[5] = "test";
+    char* m_argv[2] = {m_name, nullptr};
+    const QCoreApplication m_application{m_argc, m_argv};
+    QStringList m_announced;
+};
+
+TEST_F(WatchedFolderTest, AnnouncesWhatOthersChange) {
+    other.setValue(u"a"_s, 2);
+    other.setValue(u"c"_s, 3);
+    other.removeKey(u"b"_s);
+    EXPECT_EQ(announced(), QStringList({u"a"_s, u"b"_s, u"c"_s})) << "together";
+    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(2));
+
+    other.setValue(u"a"_s, 4);
+    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(4));
+    EXPECT_EQ(announced(), QStringList(u"a"_s)) << "even if it was read already";
+
+    store.setObserver(nullptr);
+    other.setValue(u"a"_s, 5);
+    EXPECT_FALSE(QTest::qWaitFor([this] { return queues.delayed() > 0; }, 50));
+}
+
+TEST_F(WatchedFolderTest, DoesNotAnnounceOwnAndEqualValues) {
+    store.setValue(u"a"_s, 2);
+    store.removeKey(u"b"_s);
+    EXPECT_EQ(announced(), QStringList());
+    other.setValue(u"a"_s, 2);
+    EXPECT_EQ(announced(), QStringList()) << "the same value";
+    other.setValue(u"b"_s, 3);
+    store.setValue(u"b"_s, 4);
+    EXPECT_EQ(announced(), QStringList()) << "our value replaced the other one";
+}
+
+TEST_F(WatchedFolderTest, IgnoresUnfinishedAndForeignFiles) {
+    QFile unfinished(fileOf(u"a"_s));
+    ASSERT_TRUE(unfinished.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    unfinished.write("{\"key\": \"a\", ");
+    unfinished.flush();
+    const QByteArray temporary = "{\"key\": \"b\", \"value\": 9}";
+    for (const QString& name : {u".b.json"_s, u"b.json.tmp"_s, u"b.sync-conflict-20260101.json"_s, u"~b"_s}) {
+        ASSERT_TRUE(replaceFile(folder.filePath(name), temporary));
+    }
+    EXPECT_EQ(announced(), QStringList());
+    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(1));
+    unfinished.write("\"value\": 2}");
+    unfinished.close();
+    EXPECT_EQ(announced(), QStringList(u"a"_s));
+    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(2));
+}
+
+TEST_F(WatchedFolderTest, TheFolderMayVanishAndReturn) {
+    const QString elsewhere = folder.path() + u".away"_s;
+    ASSERT_TRUE(QDir().rename(folder.path(), elsewhere));
+    EXPECT_EQ(announced(), QStringList());
+    EXPECT_FALSE(store.valueForKey(u"a"_s));
+    EXPECT_FALSE(store.setValue(u"a"_s, 9));
+    FolderKeyValueStore(elsewhere, queues).setValue(u"b"_s, 2);
+    ASSERT_TRUE(QDir().rename(elsewhere, folder.path()));
+    EXPECT_EQ(announced(), QStringList(u"b"_s));
+    other.setValue(u"a"_s, 3);
+    EXPECT_EQ(announced(), QStringList(u"a"_s));
+
+    ASSERT_TRUE(QDir(folder.path()).removeRecursively());
+    EXPECT_EQ(announced(), QStringList());
+    ASSERT_TRUE(QDir().mkpath(folder.path()));
+    other.setValue(u"a"_s, 3);
+    EXPECT_EQ(announced(), QStringList(u"b"_s)) << "a has its old value, b is missing";
+}
+
+} // namespace
+} // namespace guide
