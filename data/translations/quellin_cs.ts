@@ -111,6 +111,38 @@
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Zavřít</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vymazat</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Hodiny</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuty</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Přesunout</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Odstranit</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Oblíbené u diváků</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Vybráno</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

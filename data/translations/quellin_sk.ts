@@ -111,6 +111,38 @@
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Zavrieť</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vymazať</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Hodiny</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minúty</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Presunúť</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Odstrániť</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Obľúbené u divákov</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Vybrané</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

@@ -1,8 +1,8 @@
 // What the drawing of a table keeps while the table changes, and what it reports of the user's actions.
 #include "GalleryRows.h"
 #include "WindowTest.h"
-#include "fakes/ManualClock.h"
 #include "fakes/ManualQueues.h"
+#include "platform/memory/ManualClock.h"
 #include "screens/kit/TabBarController.h"
 #include "ui/model/RowValues.h"
 
@@ -250,7 +250,7 @@ TEST_F(TableWindowTest, RowsAreDeletedAndReorderedInEditMode) {
     const QPoint handle(static_cast<int>(row(0)->mapToScene({row(0)->width() - 30, 0}).x()),
                         middle(row(0)).y() + 14);
     const int two = static_cast<int>(row(1)->height() + row(2)->height());
-    drag(handle, {0, two}, true);
+    drag(handle, {0, two + 24}, true);
     ASSERT_EQ(moves().size(), 1U);
     EXPECT_EQ(*moves()[0].next->name(), u"3"_s);
 

@@ -76,7 +76,10 @@ TableRow {
                 else
                     cell.rows.edit(cell.index, text, true)
             }
-            Keys.onEscapePressed: cell.list.forceActiveFocus()
+            Keys.onEscapePressed: {
+                focus = false
+                cell.list.forceActiveFocus()
+            }
 
             Accessible.role: Accessible.EditableText
             Accessible.name: cell.row.accessibleName

@@ -4,7 +4,7 @@ import Quellin
 // What rows of every kind have: the section's header and footer around it, the surface with the row's own content,
 // the actions that a swipe uncovers, and the controls of edit mode. In a section of tiles the first row of each line
 // has the line's height, and the others are drawn beside it and have none.
-Item {
+FocusScope {
     id: cell
 
     required property int index
