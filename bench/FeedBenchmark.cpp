@@ -18,6 +18,7 @@
 #include <libxml/parser.h>
 #include <memory>
 #include <string>
+#include <zlib.h>
 
 namespace guide {
 
@@ -92,14 +93,13 @@ const Subject& subject() {
     return subject;
 }
 
-constexpr unsigned kXMLTV = 1;
-
 void fewChannelsOfPackedFeed(benchmark::State& state) {
     const Subject& feed = subject();
     const std::vector<LoadItem> items = feed.items(kFewChannels);
     for ([[maybe_unused]] auto pass : state) {
         PageText page = pageText(feed.packed, HTTPResponse(), kMemory);
-        const ParsedLists lists = feed.driver.read(items, {*std::move(page.text)}, Moment{}, kXMLTV);
+        const ParsedLists lists =
+            feed.driver.read(items, {*std::move(page.text)}, Moment{}, ListingsType::XMLTV);
         if (!feed.isComplete(items, lists)) {
             state.SkipWithError("shows are missing");
         }
@@ -132,7 +132,7 @@ void allChannelsOfPlainFeed(benchmark::State& state) {
     const Subject& feed = subject();
     const std::vector<LoadItem> items = feed.items(feed.channels.size());
     for ([[maybe_unused]] auto pass : state) {
-        const ParsedLists lists = feed.driver.read(items, {feed.plain}, Moment{}, kXMLTV);
+        const ParsedLists lists = feed.driver.read(items, {feed.plain}, Moment{}, ListingsType::XMLTV);
         if (!feed.isComplete(items, lists)) {
             state.SkipWithError("shows are missing");
         }
