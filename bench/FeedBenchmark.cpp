@@ -28,8 +28,8 @@ using namespace Qt::StringLiterals;
 
 constexpr std::uint64_t kMemory = std::uint64_t{8} << 30;
 constexpr std::size_t kFewChannels = 12;
-constexpr double kMostOfUnpacking = 1.6;
-constexpr double kMostOfParsing = 2.4;
+constexpr double kMaxOfUnpacking = 1.6;
+constexpr double kMaxOfParsing = 2.4;
 
 QByteArray readFeed(const QString& path) {
     QFile file(path);
@@ -38,7 +38,7 @@ QByteArray readFeed(const QString& path) {
     }
     PageText page = pageText(file.readAll(), HTTPResponse(), kMemory);
     if (!page.text) {
-        qFatal("%s is no text", qUtf8Printable(path));
+        qFatal("%s is not text", qUtf8Printable(path));
     }
     return *std::move(page.text);
 }
@@ -104,7 +104,7 @@ void fewChannelsOfPackedFeed(benchmark::State& state) {
             state.SkipWithError("shows are missing");
         }
     }
-    state.counters["atMost"] = kMostOfUnpacking;
+    state.counters["atMost"] = kMaxOfUnpacking;
 }
 
 void unpackingAlone(benchmark::State& state) {
@@ -142,7 +142,7 @@ void allChannelsOfPlainFeed(benchmark::State& state) {
         }
         state.ResumeTiming();
     }
-    state.counters["atMost"] = kMostOfParsing;
+    state.counters["atMost"] = kMaxOfParsing;
 }
 
 void parsingAlone(benchmark::State& state) {

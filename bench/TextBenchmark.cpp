@@ -195,7 +195,7 @@ void classifyGuide(benchmark::State& state) {
     for (std::size_t i = 0; i < all.size(); i += 97) {
         if (categories[i] !=
             naiveCategories(all[i].sourceId, all[i].details, all[i].title, all[i].description)) {
-            state.SkipWithError("a show has other categories than by plain searches");
+            state.SkipWithError("other categories than the plain searches found");
         }
     }
     state.counters["atMost"] = 2;
@@ -225,7 +225,7 @@ void classifyFloor(benchmark::State& state) {
             const bool occurs = std::ranges::any_of(
                 folded[i], [&](const QString& text) { return text.contains(automaton.words()[word]); });
             if (occurs != found[i].test(static_cast<std::size_t>(word))) {
-                state.SkipWithError("other words than by plain searches");
+                state.SkipWithError("other words than the plain searches found");
             }
         }
     }
