@@ -21,7 +21,7 @@ struct Schedule {
     Schedule() {
         Words words(1);
         for (int channel = 0; channel < kChannels; ++channel) {
-            lists.push_back(madeList(channel, words));
+            lists.push_back(generatedList(channel, words));
         }
         all = std::make_shared<const AllShows>(lists, Moment::min());
         for (const AllShows::Show& show : all->shows()) {
@@ -120,7 +120,7 @@ void allShowsGuide(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
         all.reset();
-        lists[100] = madeList(100, words);
+        lists[100] = generatedList(100, words);
         state.ResumeTiming();
         all.emplace(lists, Moment::min(), data.all);
         benchmark::DoNotOptimize(all->shows().data());
