@@ -9,7 +9,6 @@
 #include <string>
 
 namespace guide {
-
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -235,5 +234,4 @@ TEST(XMLTVToEntries, ReadsLongTextsInLinearTime) {
 }
 
 } // namespace
-
 } // namespace guide
