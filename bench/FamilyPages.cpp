@@ -114,7 +114,7 @@ QDate dateAfter(int days) {
     return SiteClock("UTC").date(kRequestTime).addDays(days);
 }
 
-FamilyPages madePages(const Family& family, std::size_t size) {
+FamilyPages generatedPages(const Family& family, std::size_t size) {
     FamilyPages made{family.type, {}, {}, 0};
     for (const QString& source : family.sources) {
         made.items.push_back({channelNumbered(static_cast<int>(made.items.size()) + 1), source, u"cs"_s});
@@ -202,13 +202,13 @@ std::size_t showCount(const ParsedLists& lists) {
 FamilyPages portNetworkPages(std::size_t size) {
     const QString address =
         u"/tvapi?channel_id=tvchannel-10021&i_datetime_from=2026-11-18&i_datetime_to=2026-12-16"_s;
-    return madePages(
+    return generatedPages(
         {ListingsType::PortNetwork, {u"10021"_s}, onePage(portNetworkPage, address), "\"start_datetime\""},
         size);
 }
 
 FamilyPages sectionedPalinsesto(std::size_t size) {
-    return madePages(
+    return generatedPages(
         {ListingsType::Palinsesto,
          {u"_PA"_s, u"_PB"_s, u"_PC"_s, u"_PD"_s, u"_PE"_s, u"_KN"_s, u"_KP"_s, u"_DY"_s, u"_PF"_s},
          onePage(payPalinsestoPage, u"/export/palinsesto.xml"_s),
@@ -217,7 +217,7 @@ FamilyPages sectionedPalinsesto(std::size_t size) {
 }
 
 FamilyPages flatPalinsesto(std::size_t size) {
-    return madePages(
+    return generatedPages(
         {ListingsType::Palinsesto,
          {u"_C5"_s, u"_I1"_s, u"_I2"_s, u"_R4"_s, u"_KA"_s, u"_KQ"_s, u"_KI"_s, u"_BOING"_s, u"_CRTN"_s},
          onePage(freePalinsestoPage, u"/dati/palinsesto/palinsesto.xml"_s),
@@ -226,18 +226,18 @@ FamilyPages flatPalinsesto(std::size_t size) {
 }
 
 FamilyPages barrandovPages(std::size_t size) {
-    return madePages({ListingsType::Barrandov,
-                      {u"barrandov.Barrandov"_s, u"barrandov.Barrandov Krimi"_s,
-                       u"barrandov.Barrandov Family"_s, u"barrandov.Kino"_s},
-                      days(barrandovPage, 0, 2, u"/program/?day=%1"_s, u"yyyy-MM-dd"_s),
-                      "<a href=\"#modal"},
-                     size);
+    return generatedPages({ListingsType::Barrandov,
+                           {u"barrandov.Barrandov"_s, u"barrandov.Barrandov Krimi"_s,
+                            u"barrandov.Barrandov Family"_s, u"barrandov.Kino"_s},
+                           days(barrandovPage, 0, 2, u"/program/?day=%1"_s, u"yyyy-MM-dd"_s),
+                           "<a href=\"#modal"},
+                          size);
 }
 
 FamilyPages digiSportPages(std::size_t size) {
-    FamilyPages made = madePages({ListingsType::DigiSport, numbered(u"dsk.Digi Sport %1"_s, 6),
-                                  onePage(digiSportPage, u"/program/"_s), "<span><strong>"},
-                                 size);
+    FamilyPages made = generatedPages({ListingsType::DigiSport, numbered(u"dsk.Digi Sport %1"_s, 6),
+                                       onePage(digiSportPage, u"/program/"_s), "<span><strong>"},
+                                      size);
     // Each tab replaces the one before it.
     made.shows = countIn(view(made.pages.front()).substr(view(made.pages.front()).rfind("id=\"tabs-")),
                          "<span><strong>");
@@ -245,41 +245,43 @@ FamilyPages digiSportPages(std::size_t size) {
 }
 
 FamilyPages jojCinemaPages(std::size_t size) {
-    return madePages({ListingsType::JojCinema,
-                      {u"joj.cinema"_s},
-                      days(jojCinemaPage, -1, 7, u"/cz/cz-program/?day=%1"_s, u"d-M-yyyy"_s),
-                      "class=\"time\">"},
-                     size);
+    return generatedPages({ListingsType::JojCinema,
+                           {u"joj.cinema"_s},
+                           days(jojCinemaPage, -1, 7, u"/cz/cz-program/?day=%1"_s, u"d-M-yyyy"_s),
+                           "class=\"time\">"},
+                          size);
 }
 
 FamilyPages primaMaxPages(std::size_t size) {
-    return madePages({ListingsType::PrimaMax,
-                      {u"sites.example/max"_s},
-                      days(primaMaxPage, 0, 14, u"/tv-program/%1"_s, u"yyyy-MM-dd"_s),
-                      "<time>"},
-                     size);
+    return generatedPages({ListingsType::PrimaMax,
+                           {u"sites.example/max"_s},
+                           days(primaMaxPage, 0, 14, u"/tv-program/%1"_s, u"yyyy-MM-dd"_s),
+                           "<time>"},
+                          size);
 }
 
 FamilyPages hboPages(std::size_t size) {
-    FamilyPages made = madePages({ListingsType::HBO, numbered(u"-hbo.hu.%1"_s, 8),
-                                  days(hboPage, -1, 23, u"/hu/tvmusor/%1"_s, u"M/d"_s), "class=\"title\">"},
-                                 size);
+    FamilyPages made =
+        generatedPages({ListingsType::HBO, numbered(u"-hbo.hu.%1"_s, 8),
+                        days(hboPage, -1, 23, u"/hu/tvmusor/%1"_s, u"M/d"_s), "class=\"title\">"},
+                       size);
     made.shows -= made.count("class=\"show past\"");
     return made;
 }
 
 FamilyPages novaPages(std::size_t size) {
-    return madePages({ListingsType::Nova, numbered(u"cz.nova.Nova %1"_s, 8),
-                      days(novaPage, -1, 9, u"/program/?epg_date=%1"_s, u"yyyy-MM-dd"_s), "data-begin=\""},
-                     size);
+    return generatedPages({ListingsType::Nova, numbered(u"cz.nova.Nova %1"_s, 8),
+                           days(novaPage, -1, 9, u"/program/?epg_date=%1"_s, u"yyyy-MM-dd"_s),
+                           "data-begin=\""},
+                          size);
 }
 
 FamilyPages dolceSportPages(std::size_t size) {
-    return madePages({ListingsType::DolceSport,
-                      {u"dolce-sport.dolce-1"_s},
-                      onePage(dolceSportPage, u"/program/dolce-1"_s),
-                      " class=\"time\">"},
-                     size);
+    return generatedPages({ListingsType::DolceSport,
+                           {u"dolce-sport.dolce-1"_s},
+                           onePage(dolceSportPage, u"/program/dolce-1"_s),
+                           " class=\"time\">"},
+                          size);
 }
 
 FamilyPages cinestarPages(std::size_t size) {
@@ -290,8 +292,8 @@ FamilyPages cinestarPages(std::size_t size) {
         }
         return pages;
     };
-    return madePages({ListingsType::Cinestar, numbered(u"cinestar.hr.%1"_s, 8), request, "<div class='card "},
-                     size);
+    return generatedPages(
+        {ListingsType::Cinestar, numbered(u"cinestar.hr.%1"_s, 8), request, "<div class='card "}, size);
 }
 
 FamilyPages comedyCentralPages(std::size_t size) {
@@ -304,7 +306,7 @@ FamilyPages comedyCentralPages(std::size_t size) {
         }
         return std::vector{page};
     };
-    return madePages({ListingsType::ComedyCentral, {u"cc.romania"_s}, request, "data-time=\""}, size);
+    return generatedPages({ListingsType::ComedyCentral, {u"cc.romania"_s}, request, "data-time=\""}, size);
 }
 
 } // namespace guide::bench

@@ -18,6 +18,7 @@
 #include <libxml/parser.h>
 #include <memory>
 #include <string>
+#include <zlib.h>
 
 namespace guide {
 
@@ -27,8 +28,8 @@ using namespace Qt::StringLiterals;
 
 constexpr std::uint64_t kMemory = std::uint64_t{8} << 30;
 constexpr std::size_t kFewChannels = 12;
-constexpr double kMostOfUnpacking = 1.6;
-constexpr double kMostOfParsing = 2.4;
+constexpr double kMaxOfUnpacking = 1.6;
+constexpr double kMaxOfParsing = 2.4;
 
 QByteArray readFeed(const QString& path) {
     QFile file(path);
@@ -37,7 +38,7 @@ QByteArray readFeed(const QString& path) {
     }
     PageText page = pageText(file.readAll(), HTTPResponse(), kMemory);
     if (!page.text) {
-        qFatal("%s is no text", qUtf8Printable(path));
+        qFatal("%s is not text", qUtf8Printable(path));
     }
     return *std::move(page.text);
 }
@@ -92,19 +93,18 @@ const Subject& subject() {
     return subject;
 }
 
-constexpr unsigned kXMLTV = 1;
-
 void fewChannelsOfPackedFeed(benchmark::State& state) {
     const Subject& feed = subject();
     const std::vector<LoadItem> items = feed.items(kFewChannels);
     for ([[maybe_unused]] auto pass : state) {
         PageText page = pageText(feed.packed, HTTPResponse(), kMemory);
-        const ParsedLists lists = feed.driver.read(items, {*std::move(page.text)}, Moment{}, kXMLTV);
+        const ParsedLists lists =
+            feed.driver.read(items, {*std::move(page.text)}, Moment{}, ListingsType::XMLTV);
         if (!feed.isComplete(items, lists)) {
             state.SkipWithError("shows are missing");
         }
     }
-    state.counters["atMost"] = kMostOfUnpacking;
+    state.counters["atMost"] = kMaxOfUnpacking;
 }
 
 void unpackingAlone(benchmark::State& state) {
@@ -132,7 +132,7 @@ void allChannelsOfPlainFeed(benchmark::State& state) {
     const Subject& feed = subject();
     const std::vector<LoadItem> items = feed.items(feed.channels.size());
     for ([[maybe_unused]] auto pass : state) {
-        const ParsedLists lists = feed.driver.read(items, {feed.plain}, Moment{}, kXMLTV);
+        const ParsedLists lists = feed.driver.read(items, {feed.plain}, Moment{}, ListingsType::XMLTV);
         if (!feed.isComplete(items, lists)) {
             state.SkipWithError("shows are missing");
         }
@@ -142,7 +142,7 @@ void allChannelsOfPlainFeed(benchmark::State& state) {
         }
         state.ResumeTiming();
     }
-    state.counters["atMost"] = kMostOfParsing;
+    state.counters["atMost"] = kMaxOfParsing;
 }
 
 void parsingAlone(benchmark::State& state) {

@@ -25,7 +25,6 @@ constexpr std::uint64_t kMemory = std::uint64_t{8} << 30;
 constexpr int kFewChannels = 12;
 constexpr double kAtMost = 1.3;
 constexpr int kLoads = 5;
-constexpr unsigned kXMLTV = 1;
 
 class FixedClock final : public Clock {
   public:
@@ -91,7 +90,7 @@ int load(const QString& path) {
         }
         pages.push_back(*std::move(page.text));
     }
-    const ParsedLists lists = driver.read(items, pages, Moment{}, kXMLTV);
+    const ParsedLists lists = driver.read(items, pages, Moment{}, ListingsType::XMLTV);
     const double peak = statusBytes("VmHWM:");
     if (lists.size() != items.size() ||
         std::any_of(lists.begin(), lists.end(), [](const auto& list) { return list.second.size() < 100; })) {

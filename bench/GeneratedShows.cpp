@@ -13,11 +13,11 @@ ObjectId channelNumbered(int number) {
     return ObjectId::fromHex(QStringLiteral("%1").arg(number, 24, 16, QLatin1Char('0')));
 }
 
-std::vector<ExtendedTVEntry> madeShows(int channel, Words& words) {
+std::vector<ExtendedTVEntry> generatedShows(int channel, Words& words) {
     std::vector<ExtendedTVEntry> shows;
-    shows.reserve(kShowsOfAList);
+    shows.reserve(kShowsPerList);
     Moment start = kNow - std::chrono::minutes(channel % 20);
-    for (int i = 0; i < kShowsOfAList; ++i) {
+    for (int i = 0; i < kShowsPerList; ++i) {
         auto entry = std::make_shared<TVEntry>(alphabet());
         const auto length = std::chrono::minutes(20 + words.below(40));
         entry->setChannel(channelNumbered(channel));
@@ -53,9 +53,9 @@ ShowItems itemsOf(std::vector<ExtendedTVEntry> shows) {
     return items;
 }
 
-std::shared_ptr<const ChannelList> madeList(int channel, Words& words) {
+std::shared_ptr<const ChannelList> generatedList(int channel, Words& words) {
     return std::make_shared<const ChannelList>(
-        std::make_shared<const ShowItems>(itemsOf(madeShows(channel, words))));
+        std::make_shared<const ShowItems>(itemsOf(generatedShows(channel, words))));
 }
 
 } // namespace guide::bench

@@ -13,7 +13,7 @@ namespace guide::bench {
 
 using namespace Qt::StringLiterals;
 
-inline constexpr int kShowsOfAList = 280;
+inline constexpr int kShowsPerList = 280;
 /// Start of the first show of a list.
 inline constexpr Moment kNow = std::chrono::sys_days{std::chrono::year{2040} / 1 / 2};
 
@@ -57,8 +57,8 @@ class Words {
 };
 
 /// The list of one channel, without gaps from kNow on.
-std::vector<ExtendedTVEntry> madeShows(int channel, Words& words);
+std::vector<ExtendedTVEntry> generatedShows(int channel, Words& words);
 ShowItems itemsOf(std::vector<ExtendedTVEntry> shows);
-std::shared_ptr<const ChannelList> madeList(int channel, Words& words);
+std::shared_ptr<const ChannelList> generatedList(int channel, Words& words);
 
 } // namespace guide::bench

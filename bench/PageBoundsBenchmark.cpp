@@ -271,7 +271,7 @@ void readFlood(benchmark::State& state, const Flooded& format, const std::vector
     const std::size_t found = format.read(pages);
     for ([[maybe_unused]] auto pass : state) {
         if (format.read(pages) != found) {
-            state.SkipWithError("something else than before");
+            state.SkipWithError("another result than before");
         }
     }
     state.SetLabel(marker);

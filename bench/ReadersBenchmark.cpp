@@ -156,7 +156,7 @@ void walkFloor(benchmark::State& state, std::size_t number) {
                 }
             }
             if (count == 0) {
-                state.SkipWithError(("nowhere " + marker).c_str());
+                state.SkipWithError(("not found: " + marker).c_str());
             }
         }
     }

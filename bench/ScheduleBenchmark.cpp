@@ -12,7 +12,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr std::size_t kMostShows = 2000;
+constexpr std::size_t kMaxShows = 2000;
 
 /// The lists of 286 channels, 80,080 shows, and their texts for the baselines.
 struct Schedule {
@@ -21,7 +21,7 @@ struct Schedule {
     Schedule() {
         Words words(1);
         for (int channel = 0; channel < kChannels; ++channel) {
-            lists.push_back(madeList(channel, words));
+            lists.push_back(generatedList(channel, words));
         }
         all = std::make_shared<const AllShows>(lists, Moment::min());
         for (const AllShows::Show& show : all->shows()) {
@@ -45,7 +45,7 @@ struct Schedule {
         std::vector<const ShowItem*> found;
         const char* const begin = folded.data();
         std::size_t show = 0;
-        while (found.size() < kMostShows && show + 1 < offsets.size()) {
+        while (found.size() < kMaxShows && show + 1 < offsets.size()) {
             const void* hit = ::memmem(begin + offsets[show], folded.size() - offsets[show], pattern.data(),
                                        pattern.size());
             if (hit == nullptr) {
@@ -90,13 +90,13 @@ void searchGuide(benchmark::State& state, const Pattern& pattern) {
     const auto expected = data.search(foldedText(pattern.typed).toUtf8().toStdString());
     ShowItems found;
     for (auto _ : state) {
-        found = data.all->showsContaining(searchPattern(pattern.typed), kNow, kMostShows);
+        found = data.all->showsContaining(searchPattern(pattern.typed), kNow, kMaxShows);
         benchmark::DoNotOptimize(found);
     }
     const bool same = std::equal(found.begin(), found.end(), expected.begin(), expected.end(),
                                  [](const ShowItem& show, const ShowItem* other) { return show == *other; });
     if (!same) {
-        state.SkipWithError("other shows than the floor");
+        state.SkipWithError("other shows than the baseline found");
     }
     state.counters["hits"] = static_cast<double>(found.size());
     state.counters["atMost"] = 2;
@@ -120,14 +120,14 @@ void allShowsGuide(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
         all.reset();
-        lists[100] = madeList(100, words);
+        lists[100] = generatedList(100, words);
         state.ResumeTiming();
         all.emplace(lists, Moment::min(), data.all);
         benchmark::DoNotOptimize(all->shows().data());
     }
     const ShowItem& changed = (*lists[100]->shows())[7];
     const ShowItems found =
-        all->showsContaining(searchPattern(*changed.details()->description), kNow, kMostShows);
+        all->showsContaining(searchPattern(*changed.details()->description), kNow, kMaxShows);
     if (all->shows().size() != data.all->shows().size() || found != ShowItems{changed}) {
         state.SkipWithError("shows are missing");
     }

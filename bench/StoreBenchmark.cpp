@@ -20,15 +20,15 @@ namespace {
 using namespace Qt::StringLiterals;
 
 /// A store on real queues.
-struct World {
-    World(int channelCount, const QString& folder)
+struct StoreSetup {
+    StoreSetup(int channelCount, const QString& folder)
         : store(clock, queues, folder) {
         for (int channel = 0; channel < channelCount; ++channel) {
             store.addChannel(channel);
         }
         store.makeChannels();
     }
-    ~World() { queues.shutDown(); }
+    ~StoreSetup() { queues.shutDown(); }
 
     QString path(int channel) const { return store.listingsFile(channelNumbered(channel)); }
 
@@ -53,7 +53,7 @@ std::vector<QByteArray> madeArchives(int count) {
     std::vector<QByteArray> archives;
     archives.reserve(static_cast<std::size_t>(count));
     for (int channel = 0; channel < count; ++channel) {
-        archives.push_back(archivedShows(itemsOf(madeShows(channel, words))));
+        archives.push_back(archivedShows(itemsOf(generatedShows(channel, words))));
     }
     return archives;
 }
@@ -67,20 +67,20 @@ const std::vector<QByteArray>& archives() {
 
 void readGuide(benchmark::State& state) {
     QTemporaryDir folder;
-    World world(kFiles, folder.path());
+    StoreSetup setup(kFiles, folder.path());
     for (int i = 0; i < kFiles; ++i) {
-        replaceFile(world.path(i), archives()[static_cast<std::size_t>(i)]);
+        replaceFile(setup.path(i), archives()[static_cast<std::size_t>(i)]);
     }
     std::size_t shows = 0;
     for (auto _ : state) {
-        world.store.open();
-        const std::vector<ShowSpan> onAir = world.onAir();
+        setup.store.open();
+        const std::vector<ShowSpan> onAir = setup.onAir();
         state.PauseTiming();
         shows = 0;
         for (const ShowSpan& span : onAir) {
             shows += span.size();
         }
-        world.store.listings.reset();
+        setup.store.listings.reset();
         state.ResumeTiming();
     }
     if (shows != kFiles * 4) {
@@ -113,7 +113,7 @@ void readFloor(benchmark::State& state) {
         lists.clear();
         state.ResumeTiming();
     }
-    if (shows != kFiles * kShowsOfAList) {
+    if (shows != kFiles * kShowsPerList) {
         state.SkipWithError("shows are missing");
     }
 }
@@ -121,20 +121,20 @@ void readFloor(benchmark::State& state) {
 void onAirGuide(benchmark::State& state) {
     constexpr int kChannels = 300;
     QTemporaryDir folder;
-    World world(kChannels, folder.path());
-    TVListings& listings = world.store.open();
+    StoreSetup setup(kChannels, folder.path());
+    TVListings& listings = setup.store.open();
     Words words(4);
     std::vector<LoadItem> items;
     items.reserve(kChannels);
     ParsedLists parsed;
     for (int channel = 0; channel < kChannels; ++channel) {
         items.push_back({channelNumbered(channel), u"x"_s, u"cs"_s});
-        parsed.emplace(channelNumbered(channel), madeShows(channel, words));
+        parsed.emplace(channelNumbered(channel), generatedShows(channel, words));
     }
     listings.merge(items, std::move(parsed), kNow, ListingsType::XMLTV);
     std::vector<ShowSpan> onAir;
     for (auto _ : state) {
-        onAir = world.onAir();
+        onAir = setup.onAir();
     }
     if (onAir.size() != kChannels || !std::all_of(onAir.begin(), onAir.end(), [](const ShowSpan& span) {
             return span.size() == 4 && !span[0].entry()->overAt(kNow);
@@ -149,7 +149,7 @@ void onAirFloor(benchmark::State& state) {
     lists.reserve(300);
     Words words(4);
     for (int channel = 0; channel < 300; ++channel) {
-        lists.push_back(itemsOf(madeShows(channel, words)));
+        lists.push_back(itemsOf(generatedShows(channel, words)));
     }
     for (auto _ : state) {
         std::vector<ShowItems> onAir;
@@ -163,15 +163,15 @@ void onAirFloor(benchmark::State& state) {
 
 void writeGuide(benchmark::State& state) {
     QTemporaryDir folder;
-    World world(kFiles, folder.path());
-    TVListings& listings = world.store.open();
+    StoreSetup setup(kFiles, folder.path());
+    TVListings& listings = setup.store.open();
     std::vector<LoadItem> items;
     items.reserve(kFiles);
     ParsedLists parsed;
     Words words(3);
     for (int channel = 0; channel < kFiles; ++channel) {
         items.push_back({channelNumbered(channel), u"x"_s, u"cs"_s});
-        parsed.emplace(channelNumbered(channel), madeShows(channel, words));
+        parsed.emplace(channelNumbered(channel), generatedShows(channel, words));
     }
     listings.merge(items, std::move(parsed), kNow, ListingsType::XMLTV);
     listings.finishWriting(std::chrono::minutes(1));
@@ -180,7 +180,7 @@ void writeGuide(benchmark::State& state) {
         state.PauseTiming();
         for (int channel = 0; channel < kFiles; ++channel) {
             // The final content was written in the last pass.
-            QFile::remove(world.path(channel));
+            QFile::remove(setup.path(channel));
             listings.addToSaveSchedule(channelNumbered(channel));
         }
         listings.isScheduledForSaving(channelNumbered(0));
@@ -188,17 +188,17 @@ void writeGuide(benchmark::State& state) {
         written = listings.finishWriting(std::chrono::minutes(1)) && written;
         state.PauseTiming();
         for (int channel = 0; channel < kFiles; ++channel) {
-            written = written && QFile::exists(world.path(channel));
+            written = written && QFile::exists(setup.path(channel));
         }
         state.ResumeTiming();
     }
     for (int channel = 0; channel < kFiles; ++channel) {
-        QFile file(world.path(channel));
+        QFile file(setup.path(channel));
         written = written && file.open(QIODevice::ReadOnly) &&
                   file.readAll() == archives()[static_cast<std::size_t>(channel)];
     }
     if (!written) {
-        state.SkipWithError("files are not what was to be written");
+        state.SkipWithError("files have other content than was written");
     }
     state.counters["atMost"] = 2;
 }

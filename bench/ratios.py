@@ -85,7 +85,7 @@ def main() -> int:
             continue
         guide, floor = sides["guide"], sides["floor"]
         if guide["time_unit"] != floor["time_unit"]:
-            print(f"{row}: its two sides are in different units")
+            print(f"{row}: the two sides have different units")
             faults += 1
             continue
         unit = guide["time_unit"]

@@ -71,7 +71,7 @@ std::vector<FuzzTarget> archiveTargets() {
                                                                "00000000000000000011");
                  return std::vector<QByteArray>{fuzzInput({xml}), fuzzInput({binary})};
              },
-         .literals = {"platform/PropertyList.cpp", "platform/PropertyListBounds.cpp"},
+         .literals = {"platform/archive/PropertyList.cpp", "platform/archive/PropertyListBounds.cpp"},
          .maxMemoryPerByte = 400},
     };
 }

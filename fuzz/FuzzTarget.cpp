@@ -11,8 +11,8 @@ const std::vector<FuzzTarget>& fuzzTargets() {
         std::vector<FuzzTarget> targets;
         for (const auto& group :
              {readerTargets, feedTargets, detailTargets, textTargets, archiveTargets, sourceTargets}) {
-            std::vector<FuzzTarget> some = group();
-            std::move(some.begin(), some.end(), std::back_inserter(targets));
+            std::vector<FuzzTarget> added = group();
+            std::move(added.begin(), added.end(), std::back_inserter(targets));
         }
         return targets;
     }();
@@ -21,7 +21,7 @@ const std::vector<FuzzTarget>& fuzzTargets() {
 
 void require(bool holds, const char* what) {
     if (!holds) {
-        std::fprintf(stderr, "does not hold: %s\n", what);
+        std::fprintf(stderr, "violated: %s\n", what);
         std::abort();
     }
 }

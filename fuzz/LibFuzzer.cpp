@@ -1,7 +1,6 @@
 // The libFuzzer program. Besides libFuzzer's options it knows:
 //   --target=NAME         what to fuzz
-//   --list                prints each target with the files below src/ whose string literals are its
-//   dictionary
+//   --list                prints each target and the files below src/ with its dictionary
 //   --seeds=FOLDER        writes the target's seeds and exits
 #include "FuzzTarget.h"
 #include "MemoryWatch.h"
@@ -20,11 +19,11 @@ namespace {
 using guide::fuzz::FuzzTarget;
 
 /// Allowance independent of the input: tables created once, buffers of libraries.
-constexpr std::size_t kMemoryOfAnyRun = 2 << 20;
+constexpr std::size_t kFixedMemory = 2 << 20;
 
 const FuzzTarget* chosen = nullptr;
 /// The highest memory use per byte of input so far; inputs below a minimum size do not count.
-double mostPerByte = 0;
+double peakPerByte = 0;
 
 [[noreturn]] void usage() {
     std::fputs("--target=NAME, one of --list, is missing\n", stderr);
@@ -83,11 +82,11 @@ extern "C" int LLVMFuzzerInitialize(int* count, char*** arguments) {
         writeSeeds(*chosen, QString::fromUtf8(folder.data(), static_cast<qsizetype>(folder.size())));
         std::exit(0);
     }
-    // Creates what is created only once.
+    // Creates caches and tables, so that no measured run does.
     for (const QByteArray& seed : chosen->seeds()) {
         chosen->run(seed);
     }
-    std::atexit([] { std::fprintf(stderr, "most memory for a byte of input: %.1f\n", mostPerByte); });
+    std::atexit([] { std::fprintf(stderr, "peak memory per byte of input: %.1f\n", peakPerByte); });
     return 0;
 }
 
@@ -97,13 +96,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     chosen->run(input);
     if (chosen->maxMemoryPerByte > 0) {
         const std::size_t peak = watch.peak();
-        const std::size_t bound = kMemoryOfAnyRun + size * static_cast<std::size_t>(chosen->maxMemoryPerByte);
+        const std::size_t bound = kFixedMemory + size * static_cast<std::size_t>(chosen->maxMemoryPerByte);
         if (peak > bound) {
-            std::fprintf(stderr, "%zu bytes held for an input of %zu\n", peak, size);
+            std::fprintf(stderr, "%zu bytes allocated for an input of %zu\n", peak, size);
         }
         guide::fuzz::require(peak <= bound, "memory is a small multiple of the input");
         if (size >= 4096) {
-            mostPerByte = std::max(mostPerByte, static_cast<double>(peak) / static_cast<double>(size));
+            peakPerByte = std::max(peakPerByte, static_cast<double>(peak) / static_cast<double>(size));
         }
     }
     return 0;

@@ -11,7 +11,7 @@ namespace guide::fuzz {
 namespace {
 
 /// More pages than any source has.
-constexpr std::size_t kMostPages = 16;
+constexpr std::size_t kMaxPages = 16;
 
 struct Format {
     const char* folder;
@@ -29,7 +29,7 @@ void requireGoodList(const ShowList& list) {
     }
     require(std::is_sorted(list->begin(), list->end(),
                            [&](const ShowItem& a, const ShowItem& b) { return start(a) < start(b); }),
-            "a stored list is in the order of its starts");
+            "a stored list is sorted by start");
     const auto read = unarchivedShows(archivedShows(*list), Alphabet());
     require(read.has_value(), "the file of a list can be read");
     const auto titled = std::count_if(list->begin(), list->end(), [](const ShowItem& show) {
@@ -42,12 +42,12 @@ void requireGoodList(const ShowList& list) {
 void readPages(const Calls& calls, QByteArrayView bytes) {
     const FuzzInput input(bytes);
     const test::RecordedCall& call = calls[input.choice(calls.size())];
-    const MergeResult merged = call.lists(input.textParts(kMostPages));
+    const MergeResult merged = call.lists(input.textParts(kMaxPages));
     require(merged.outcomes.size() == std::min(merged.outcomes.size(), call.items().size()),
-            "outcomes are of channels");
+            "every outcome belongs to a channel");
     for (const auto& [channel, outcome] : merged.outcomes) {
         require((outcome == MergeOutcome::Stored) == merged.lists.contains(channel),
-                "what is stored has a list");
+                "every stored channel has a list");
     }
     for (const auto& [channel, list] : merged.lists) {
         requireGoodList(list);

@@ -17,7 +17,7 @@ void run(const FuzzTarget& target, const QByteArray& input, const std::string& w
 }
 
 /// The seed with some bytes changed, removed or repeated.
-QByteArray changed(QByteArray input, std::mt19937& random) {
+QByteArray mutated(QByteArray input, std::mt19937& random) {
     for (unsigned changes = 1 + random() % 4; changes > 0 && !input.isEmpty(); --changes) {
         const auto at = static_cast<qsizetype>(random() % static_cast<unsigned>(input.size()));
         const auto length = std::min<qsizetype>(input.size() - at, static_cast<qsizetype>(random() % 64));
@@ -39,15 +39,20 @@ QByteArray changed(QByteArray input, std::mt19937& random) {
 }
 
 TEST(Fuzz, AcceptsSeedsAndTheirMutations) {
-    constexpr int kChangesOfASeed = 40;
+    constexpr int kMutationsPerSeed = 40;
     std::mt19937 random(20261121);
     for (const FuzzTarget& target : fuzzTargets()) {
         const std::vector<QByteArray> seeds = target.seeds();
         EXPECT_FALSE(seeds.empty()) << target.name;
+        for (const std::string& file : target.literals) {
+            EXPECT_TRUE(
+                QFile::exists(QStringLiteral(QUELLIN_SOURCE_DATA "/../src/") + QString::fromStdString(file)))
+                << file;
+        }
         for (std::size_t i = 0; i < seeds.size(); ++i) {
             run(target, seeds[i], "seed " + std::to_string(i));
-            for (int change = 0; change < kChangesOfASeed; ++change) {
-                run(target, changed(seeds[i], random), "a change of seed " + std::to_string(i));
+            for (int change = 0; change < kMutationsPerSeed; ++change) {
+                run(target, mutated(seeds[i], random), "mutation of seed " + std::to_string(i));
             }
         }
         run(target, {}, "nothing");
@@ -56,9 +61,10 @@ TEST(Fuzz, AcceptsSeedsAndTheirMutations) {
 
 TEST(Fuzz, AcceptsInputsThatOnceFailed) {
     for (const FuzzTarget& target : fuzzTargets()) {
-        const QDir finds(QStringLiteral(QUELLIN_FUZZ_REGRESSIONS "/") + QString::fromStdString(target.name));
-        for (const QString& name : finds.entryList(QDir::Files, QDir::Name)) {
-            QFile file(finds.filePath(name));
+        const QDir regressions(QStringLiteral(QUELLIN_FUZZ_REGRESSIONS "/") +
+                               QString::fromStdString(target.name));
+        for (const QString& name : regressions.entryList(QDir::Files, QDir::Name)) {
+            QFile file(regressions.filePath(name));
             ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
             run(target, file.readAll(), name.toStdString());
         }

@@ -1,7 +1,6 @@
 #include "FuzzInput.h"
 #include "FuzzTarget.h"
 #include "platform/encoding/Utf8.h"
-#include "text/NaiveClassifier.h"
 #include "text/categories/CategoryMapping.h"
 #include "text/categories/ShowClassifier.h"
 #include "text/cleaning/Capitalisation.h"
@@ -18,9 +17,6 @@
 namespace guide::fuzz {
 
 namespace {
-
-/// The plain searches are too slow for longer texts.
-constexpr qsizetype kMaxForNaive = 300;
 
 /// Texts from UTF-8, or from arbitrary code units, including lone surrogates.
 std::vector<QString> texts(const FuzzInput& input, std::size_t most) {
@@ -97,14 +93,13 @@ void findWords(QByteArrayView bytes) {
     const auto found = classifyEntry(QStringLiteral("41"), {given[0], given[1], given[2]});
     require((found & TVListingsCategorySeries) == 0 || (found & TVListingsCategoryAllFilm) == 0,
             "a show is not both a series and a film");
-    if (given[0].size() + given[1].size() + given[2].size() <= kMaxForNaive) {
-        require(found == naiveCategories(QStringLiteral("41"), given[0], given[1], given[2]),
-                "the categories are those of the plain searches");
-        if (given[1].size() < given[0].size()) {
-            require(matchWord(given[0], given[1]) == naiveMatchWord(NaiveFold(given[0]), given[1]),
-                    "a word is found like by the plain search");
-        }
-    }
+    const auto decomposed = [&given](std::size_t i) {
+        return given[i].normalized(QString::NormalizationForm_D);
+    };
+    require(found == classifyEntry(QStringLiteral("41"), {decomposed(0), decomposed(1), decomposed(2)}),
+            "decomposed and composed texts have the same categories");
+    require(!matchWord(given[0], given[1]) || folded.contains(foldedText(given[1])),
+            "a matched word is part of the text");
 }
 
 std::vector<QByteArray> feedTexts() {
@@ -133,15 +128,16 @@ std::vector<FuzzTarget> textTargets() {
         {.name = "text-cleaning",
          .run = cleanTexts,
          .seeds = feedTexts,
-         .literals = {"text/TitleCleaning.cpp", "text/SubtitleCleaning.cpp", "text/DescriptionCleaning.cpp"}},
+         .literals = {"text/cleaning/TitleCleaning.cpp", "text/cleaning/SubtitleCleaning.cpp",
+                      "text/cleaning/DescriptionCleaning.cpp"}},
         {.name = "markup-text",
          .run = decodeTexts,
          .seeds = markup,
-         .literals = {"text/MarkupText.cpp", "text/Transliteration.cpp"}},
+         .literals = {"text/cleaning/MarkupText.cpp", "text/display/Transliteration.cpp"}},
         {.name = "text-words",
          .run = findWords,
          .seeds = words,
-         .literals = {"text/ShowClassifierWords.cpp", "text/CategoryMapping.cpp"}},
+         .literals = {"text/categories/ShowClassifierWords.cpp", "text/categories/CategoryMapping.cpp"}},
     };
 }
 

@@ -99,7 +99,7 @@ def fuzz(program: pathlib.Path, name: str, files: list[str], seconds: int) -> di
         "rate": last(r"stat::average_exec_per_sec:\s*(\d+)"),
         "edges": last(r"cov: (\d+)"),
         "features": last(r"ft: (\d+)"),
-        "memory": last(r"most memory for a byte of input: ([\d.]+)"),
+        "memory": last(r"peak memory per byte of input: ([\d.]+)"),
         "found": "" if ran.returncode == 0 else f"  FOUND: {last(r'Test unit written to (.*)')}, see {log}",
         "failed": ran.returncode != 0,
     }

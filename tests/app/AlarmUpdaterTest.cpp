@@ -2,8 +2,8 @@
 
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeShowSources.h"
-#include "platform/memory/ManualClock.h"
 #include "fakes/ManualQueues.h"
+#include "platform/memory/ManualClock.h"
 #include "platform/memory/MemoryUserDefaults.h"
 
 #include <gtest/gtest.h>

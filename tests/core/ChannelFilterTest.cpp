@@ -69,7 +69,7 @@ TEST(ChannelFilterTest, KeepsTheBetterVersionOfAChannel) {
     };
     const Row rows[] = {
         {"home first", {czech(kA, u"home"_s), other(kA, u"other"_s)}, u"home"_s},
-        {"home last goes to the end",
+        {"home last moves to the end",
          {other(kA, u"other"_s), czech(kB, u"b"_s), czech(kA, u"home"_s), czech(kC, u"c"_s)},
          u"b home c"_s},
         {"equal versions", {other(kA, u"first"_s), other(kA, u"second"_s)}, u"first"_s},

@@ -8,7 +8,6 @@
 #include <string>
 
 namespace guide {
-
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -159,5 +158,4 @@ TEST_F(ListDriverTest, OffsetsOfThePortNetworkIncludeMinutes) {
 }
 
 } // namespace
-
 } // namespace guide

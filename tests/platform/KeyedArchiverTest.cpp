@@ -153,8 +153,8 @@ TEST(KeyedArchiverTest, FailsOnValuesOfAnotherKind) {
         {"text under a flag's key", QCborMap{{u"a"_s, u"true"_s}}, readRecord},
     };
     for (const Case& each : cases) {
-        const QByteArray content = each.value.toCbor();
-        KeyedUnarchiver in = KeyedUnarchiver::overContent(content);
+        const QByteArray archive = archivedData(each.value);
+        KeyedUnarchiver in(archive);
         each.read(in);
         EXPECT_TRUE(in.failed()) << each.name;
     }
@@ -313,15 +313,17 @@ TEST(KeyedArchiverTest, RefusesEveryTruncationAndBitFlip) {
 
 TEST(KeyedArchiverTest, NeverReadsOutsideDamagedContent) {
     const QByteArray content = archiveOf(someShows()).mid(kArchiveHeaderSize);
-    const auto read = [](const QByteArray& bytes) {
+    const auto read = [](const QByteArray& damagedContent) {
+        QByteArray archive = QByteArray(kArchiveHeaderSize, '\0') + damagedContent;
+        sealArchive(archive);
         // An exact copy, so that the sanitizer detects reads past its end.
-        const std::vector<char> exact(bytes.begin(), bytes.end());
+        const std::vector<char> exact(archive.begin(), archive.end());
         const QByteArrayView view(exact.data(), static_cast<qsizetype>(exact.size()));
-        KeyedUnarchiver asShows = KeyedUnarchiver::overContent(view);
+        KeyedUnarchiver asShows(view);
         EXPECT_LE(readShows(asShows).size(), exact.size());
-        KeyedUnarchiver asTree = KeyedUnarchiver::overContent(view);
+        KeyedUnarchiver asTree(view);
         readTree(asTree);
-        KeyedUnarchiver passing = KeyedUnarchiver::overContent(view);
+        KeyedUnarchiver passing(view);
         passing.skip();
     };
     for (qsizetype size = 0; size < content.size(); ++size) {

@@ -239,7 +239,7 @@ TEST_F(ThreadedQueuesTest, ShutDownReleasesWaitingCallers) {
 TEST_F(ThreadedQueuesTest, MisuseEndsTheProcess) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_DEATH(serial->sync([&] { serial->sync([] {}); }), "sync from a block of the same queue");
-    EXPECT_DEATH(kind.queues.mainQueue().sync([] {}), "queue main: waited for");
+    EXPECT_DEATH(kind.queues.mainQueue().sync([] {}), "queue main: sync on the main queue");
     EXPECT_DEATH(std::thread([&] { kind.queues.shutDown(); }).join(), "queue main: not on the main thread");
 }
 

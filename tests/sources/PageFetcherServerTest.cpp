@@ -56,7 +56,7 @@ TEST_F(PageFetcherServerTest, EveryAnswerGivesAPageOrAReason) {
     };
     const Row rows[] = {
         {"plain", {ScriptedReply::ok(feed)}, feed},
-        {"packed, and said to be packed on the way",
+        {"packed, with a content encoding",
          {ScriptedReply::ok(gzip, {"Content-Type: application/x-gzip", "Content-Encoding: gzip"})},
          feed},
         {"damaged",

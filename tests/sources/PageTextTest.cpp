@@ -30,13 +30,13 @@ TEST(PageTextTest, ContentTypeDecidesFirst) {
     };
     const Row rows[] = {
         {"declared", "text/html; charset=windows-1250", windows, utf8},
-        {"declared UTF-8 that is none", "text/html; charset=utf-8", windows, {}, PageReason::Encoding},
+        {"declared UTF-8 but invalid", "text/html; charset=utf-8", windows, {}, PageReason::Encoding},
         {"no charset", "text/html", utf8, utf8},
         {"no charset and no UTF-8", "text/html", windows, {}, PageReason::Encoding},
         {"empty charset", "text/html; charset=", utf8, utf8},
         {"charset of one letter", "text/html; charset=x", utf8, utf8},
         {"unknown charset", "text/html; charset=klingon", utf8, {}, PageReason::Encoding},
-        {"quoted, with a parameter behind", "text/html; Charset=\"Windows-1250\"; x=y", windows, utf8},
+        {"quoted, followed by a parameter", "text/html; Charset=\"Windows-1250\"; x=y", windows, utf8},
         {"no content type", {}, utf8, utf8},
         {"gzip", "application/x-gzip", gzip, utf8},
         {"empty gzip", "application/x-gzip", gzipped({}), QByteArray()},
@@ -46,7 +46,7 @@ TEST(PageTextTest, ContentTypeDecidesFirst) {
         {"gzip by its looks", "application/gzip", gzip, utf8},
         {"xz by its looks", "application/octet-stream", xz, utf8},
         {"charset on top of gzip", "application/x-gzip; charset=utf-8", gzip, {}, PageReason::Encoding},
-        {"gzip that the transfer undid", "application/x-gzip", utf8, utf8, PageReason::None, true},
+        {"gzip already unpacked by the transfer", "application/x-gzip", utf8, utf8, PageReason::None, true},
         {"gzip in gzip", "application/x-gzip", gzip, utf8, PageReason::None, true},
     };
     for (const Row& row : rows) {

@@ -171,9 +171,9 @@ std::optional<QString> actors(const DetailPage& page) {
         const MarkerWalk row = walk.part(walk.position(), walk.findOrLimit(hasItems ? "</li>" : kName));
         const QString name = pageString(row.part(row.position(), row.findOrLimit("<")).rest()).trimmed();
         QString part;
-        MarkerWalk behind = row;
-        if (behind.contains(kPart) && behind.pass(kPart)) {
-            part = pageString(behind.part(behind.position(), behind.findOrLimit("<")).rest()).trimmed();
+        MarkerWalk inner = row;
+        if (inner.contains(kPart) && inner.pass(kPart)) {
+            part = pageString(inner.part(inner.position(), inner.findOrLimit("<")).rest()).trimmed();
         }
         if (part.startsWith(u'(') && part.endsWith(u')')) {
             part = part.sliced(1, part.size() - 2);

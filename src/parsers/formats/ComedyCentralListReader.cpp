@@ -48,9 +48,9 @@ class Links {
             const std::size_t place = walk.position();
             walk.moveTo(place + kLink.size());
             // At least one character must follow the "/" before a quote on the same line.
-            MarkerWalk behind = walk.part(walk.position() + 1);
-            behind.moveTo(behind.position() + behind.characters(1).size());
-            const auto quote = behind.find("\"");
+            MarkerWalk afterPath = walk.part(walk.position() + 1);
+            afterPath.moveTo(afterPath.position() + afterPath.characters(1).size());
+            const auto quote = afterPath.find("\"");
             if (!quote) {
                 break;
             }

@@ -141,10 +141,6 @@ KeyedUnarchiver::KeyedUnarchiver(QByteArrayView archive) {
     }
 }
 
-KeyedUnarchiver::KeyedUnarchiver(QByteArrayView content, Unchecked)
-    : m_at(content.data())
-    , m_end(content.data() + content.size()) {}
-
 KeyedUnarchiver::Kind KeyedUnarchiver::kind() const {
     if (m_at == m_end) {
         return Kind::End;

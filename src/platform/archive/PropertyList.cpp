@@ -30,14 +30,14 @@ template <class T>
 using Allocated = std::unique_ptr<T, FreeDeleter>;
 
 // libplist parses decimals in the locale of the thread.
-class NumbersAsInC {
+class CNumericLocale {
   public:
-    NumbersAsInC()
+    CNumericLocale()
         : m_numbers(::newlocale(LC_NUMERIC_MASK, "C", ::duplocale(::uselocale(nullptr))))
         , m_before(m_numbers != nullptr ? ::uselocale(m_numbers) : nullptr) {}
-    NumbersAsInC(const NumbersAsInC&) = delete;
-    NumbersAsInC& operator=(const NumbersAsInC&) = delete;
-    ~NumbersAsInC() {
+    CNumericLocale(const CNumericLocale&) = delete;
+    CNumericLocale& operator=(const CNumericLocale&) = delete;
+    ~CNumericLocale() {
         if (m_numbers != nullptr) {
             ::uselocale(m_before);
             ::freelocale(m_numbers);
@@ -170,7 +170,7 @@ std::optional<QVariant> propertyListFromData(const QByteArray& data) {
         if (!xmlPropertyListIsBounded(data)) {
             return std::nullopt;
         }
-        const NumbersAsInC numbers;
+        const CNumericLocale numbers;
         plist_from_xml(data.constData(), size, &parsed);
     }
     const Plist root(parsed);

@@ -93,7 +93,7 @@ TransferResult CurlHTTPClient::perform(const HTTPRequest& request, const TakePie
         }
     }
     if (const QString scheme = request.url.scheme(); scheme != "http"_L1 && scheme != "https"_L1) {
-        return failed(u"only http and https are opened"_s);
+        return failed(u"only http and https are supported"_s);
     }
     TransferResult result = transfer(request, takePiece);
     if (!takePiece) {

@@ -220,7 +220,7 @@ QString CurlTransfer::describe(Outcome outcome) const {
     case Outcome::Cancelled:
         return u"the transfer was cancelled"_s;
     case Outcome::Inactive:
-        return u"nothing came for %1 ms"_s.arg(m_request.timeout.count());
+        return u"no data for %1 ms"_s.arg(m_request.timeout.count());
     case Outcome::OutOfTime:
         return u"the transfer took longer than %1 ms"_s.arg(m_request.resourceTimeout.count());
     case Outcome::Done:

@@ -9,7 +9,7 @@ namespace guide {
 
 GlobalLibraries::GlobalLibraries() {
     if (curl_global_init(CURL_GLOBAL_DEFAULT) != CURLE_OK) {
-        qFatal("the transfer library cannot be set up");
+        qFatal("libcurl cannot be initialised");
     }
     xmlInitParser();
 }

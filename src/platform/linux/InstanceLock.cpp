@@ -94,7 +94,7 @@ void InstanceLock::openSocket() {
                        ::pwrite(m_lock.get(), m_socketPath.constData(),
                                 static_cast<std::size_t>(m_socketPath.size()), 0) == m_socketPath.size();
     if (!noted) {
-        qWarning("no socket for requests at %s", m_socketPath.constData());
+        qWarning("cannot listen for requests at %s", m_socketPath.constData());
     }
 }
 
@@ -107,7 +107,7 @@ bool InstanceLock::handOver(const QByteArray& request, std::chrono::milliseconds
     const FileDescriptor connection = connectedSocket(QByteArray(path, length));
     QByteArray line = request.left(kLongestRequest);
     line.replace('\n', ' ');
-    return connection && isOwnUsers(connection) && writeLine(connection, line) &&
+    return connection && isSameUser(connection) && writeLine(connection, line) &&
            readLine(connection, sizeof kTaken, time) == QByteArray(kTaken);
 }
 
@@ -132,7 +132,7 @@ void InstanceLock::serve(const FileDescriptor& socket, int stop, const std::shar
             return;
         }
         const FileDescriptor connection(::accept4(socket.get(), nullptr, nullptr, SOCK_CLOEXEC));
-        if (!connection || !isOwnUsers(connection)) {
+        if (!connection || !isSameUser(connection)) {
             continue;
         }
         std::optional<QByteArray> request = readLine(connection, kLongestRequest, kReadTime, stop);

@@ -6,8 +6,7 @@
 
 namespace guide {
 
-/// Linux does not suspend programs in the background: a background task is work that the program waits for at
-/// its end, within a limit.
+/// Linux does not suspend programs in the background, so a task simply runs until it ends or expires.
 class LinuxBackgroundTasks final : public BackgroundTasks {
   public:
     /// Expires a task after this time: its handler is called on the global default queue.
@@ -16,10 +15,6 @@ class LinuxBackgroundTasks final : public BackgroundTasks {
 
     BackgroundTaskId beginBackgroundTask(Block expirationHandler) override;
     void endBackgroundTask(BackgroundTaskId task) override;
-
-    /// Blocks until no task runs; false when the time is up first. Tasks usually end on the main queue, so
-    /// the main thread passes a function that drains it, which is called repeatedly.
-    bool waitUntilIdle(std::chrono::milliseconds atMost, const Block& meanwhile = nullptr);
 
   private:
     struct State;

@@ -90,7 +90,7 @@ std::optional<Folders> linuxFolders(const LinuxFolderOptions& options) {
     for (const QString& folder :
          {folders.caches, folders.documents, folders.configuration, folders.runtime, folders.keyValueStore}) {
         if (!makeFolder(folder)) {
-            qWarning("the folder %s cannot be made or written", qUtf8Printable(folder));
+            qWarning("cannot create or write the folder %s", qUtf8Printable(folder));
             return std::nullopt;
         }
     }

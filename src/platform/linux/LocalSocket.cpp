@@ -19,9 +19,9 @@ struct Address {
     explicit Address(const QByteArray& path) {
         const qsizetype nameAt = path.lastIndexOf('/') + 1;
         folder = FileDescriptor(::open(path.left(nameAt).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-        const QByteArray way = "/proc/self/fd/" + QByteArray::number(folder.get()) + '/' + path.mid(nameAt);
+        const QByteArray link = "/proc/self/fd/" + QByteArray::number(folder.get()) + '/' + path.mid(nameAt);
         address.sun_family = AF_UNIX;
-        qstrncpy(address.sun_path, way.constData(), sizeof address.sun_path);
+        qstrncpy(address.sun_path, link.constData(), sizeof address.sun_path);
     }
     const sockaddr* get() const { return reinterpret_cast<const sockaddr*>(&address); }
 };
@@ -53,7 +53,7 @@ FileDescriptor connectedSocket(const QByteArray& path) {
     return connection;
 }
 
-bool isOwnUsers(const FileDescriptor& connection) {
+bool isSameUser(const FileDescriptor& connection) {
     ucred peer{};
     socklen_t size = sizeof peer;
     return ::getsockopt(connection.get(), SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&

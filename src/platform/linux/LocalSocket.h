@@ -15,7 +15,7 @@ FileDescriptor listeningSocket(const QByteArray& path);
 /// A stream socket connected to the one at the path.
 FileDescriptor connectedSocket(const QByteArray& path);
 /// Whether the peer belongs to the same user.
-bool isOwnUsers(const FileDescriptor& connection);
+bool isSameUser(const FileDescriptor& connection);
 
 /// Reads a line without its line end. Empty when there is none within the limit and the time, or when the
 /// `stop` descriptor (-1 for none) becomes readable first.

@@ -31,7 +31,7 @@ void onSignal(int signal) {
 TerminationSignals::TerminationSignals(std::function<void()> requested)
     : m_requested(std::move(requested)) {
     if (::pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) {
-        qWarning("Signals end the program at once: there is no pipe for them");
+        qWarning("cannot create a pipe for signals; they will end the program at once");
         return;
     }
     m_notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, this);

@@ -64,7 +64,7 @@ void MainInbox::asyncAfter(std::chrono::milliseconds delay, Block block) {
 }
 
 void MainInbox::sync(const Block&) {
-    queueFault(*this, "waited for");
+    queueFault(*this, "sync on the main queue");
 }
 
 SuspensionToken MainInbox::suspend() {

@@ -13,7 +13,7 @@ namespace {
 /// Characters that may remain in front of a subtitle when its bracket is removed.
 constexpr std::array kPrefixes{" . "_L1, ", "_L1, " "_L1, ". "_L1};
 
-/// Removes these characters from both ends and returns how many were removed.
+/// Removes the character from both ends and returns how many were removed.
 int trimSign(QStringView& text, QChar sign) {
     const qsizetype before = text.size();
     while (text.startsWith(sign)) {

@@ -17,7 +17,7 @@ constexpr std::array<QStringView, 6> kProtectedTitles{
     u"Draga, smanjili smo se",  u"2,4 djeteta",   u"Zvonili ste, milorde?",
 };
 
-QString withoutStretches(const QString& text) {
+QString withoutBracketedParts(const QString& text) {
     return withoutBrackets(withoutParentheses(text));
 }
 
@@ -41,7 +41,7 @@ QString showTitle(const QString& text, const QLocale& locale) {
             return title.toString();
         }
     }
-    QString title = withoutStretches(text);
+    QString title = withoutBracketedParts(text);
     if (const qsizetype comma = title.indexOf(u','); comma >= 0) {
         title.truncate(comma);
     }
@@ -57,7 +57,7 @@ std::optional<QString> showInstantDescription(const QString& text) {
     if (!text.contains(u',')) {
         return std::nullopt;
     }
-    const qsizetype comma = withoutStretches(text).indexOf(", "_L1);
+    const qsizetype comma = withoutBracketedParts(text).indexOf(", "_L1);
     if (comma < 0) {
         return std::nullopt;
     }

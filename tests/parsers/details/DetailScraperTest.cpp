@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 namespace guide {
-
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -145,5 +144,4 @@ TEST(DetailScraper, ReadsThePagesOfEachFamily) {
 }
 
 } // namespace
-
 } // namespace guide

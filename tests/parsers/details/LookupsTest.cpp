@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 namespace guide {
-
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -129,5 +128,4 @@ TEST(IMDbLookup, AnswersEverySearchEvenAfterAFailure) {
 }
 
 } // namespace
-
 } // namespace guide

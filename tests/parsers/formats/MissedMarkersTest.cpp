@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 namespace guide {
-
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -69,5 +68,4 @@ TEST(MissedMarkers, NameTheRenamedMarker) {
 }
 
 } // namespace
-
 } // namespace guide

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 namespace guide {
-
 namespace {
 
 // Capitalising and caching word by word must equal capitalising the whole text.
@@ -33,5 +32,4 @@ TEST(PalinsestoTexts, CapitaliseLikeTheWholeText) {
 }
 
 } // namespace
-
 } // namespace guide

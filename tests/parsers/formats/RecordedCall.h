@@ -47,7 +47,7 @@ inline const SourceHostTable& recordedHosts() {
     return hosts;
 }
 
-/// One call of the driver: STEM.items.json says when and for whom, and which pages of the folder it gets.
+/// One recorded call of the driver. STEM.items.json contains its time, its items and the names of its pages.
 /// Reading one that lacks any of it throws.
 class RecordedCall {
   public:
@@ -83,7 +83,7 @@ class RecordedCall {
         return pages;
     }
 
-    /// What the driver makes of the pages, its own or any others.
+    /// The lists that the driver reads from these pages, which may differ from the recorded ones.
     MergeResult lists(const std::vector<QByteArray>& pages, MarkerTrace* trace = nullptr) const {
         const ManualClock clock(m_now);
         // The shows refer to it.

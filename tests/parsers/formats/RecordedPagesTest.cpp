@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 namespace guide {
-
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -41,5 +40,4 @@ TEST(RecordedPages, GiveTheListsThatWereExpected) {
 }
 
 } // namespace
-
 } // namespace guide

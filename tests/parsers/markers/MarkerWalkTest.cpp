@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 namespace guide {
-
 namespace {
 
 TEST(MarkerWalk, DoesNotMoveWhenAMarkerIsMissing) {
@@ -63,5 +62,4 @@ TEST(MarkedFields, FindFieldsFromAnyPosition) {
 }
 
 } // namespace
-
 } // namespace guide

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 namespace guide {
-
 namespace {
 
 using namespace std::chrono_literals;
@@ -70,5 +69,4 @@ TEST(ZoneClock, ReadsTimesOfDay) {
 }
 
 } // namespace
-
 } // namespace guide

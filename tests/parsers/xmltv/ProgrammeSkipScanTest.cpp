@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 namespace guide {
-
 namespace {
 
 using test::FeedListing;
@@ -217,5 +216,4 @@ TEST(ProgrammeSkipScan, GivesUpWhenNothingCanBeLeftOut) {
 }
 
 } // namespace
-
 } // namespace guide

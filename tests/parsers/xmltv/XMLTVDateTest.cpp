@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 namespace guide {
-
 namespace {
 
 struct Row {
@@ -51,5 +50,4 @@ TEST(XMLTVDate, AcceptsOnlyDatesWithAnOffset) {
 }
 
 } // namespace
-
 } // namespace guide

@@ -7,7 +7,6 @@
 #include <string>
 
 namespace guide {
-
 namespace {
 
 /// Records events: titles as "<title>", other elements as "<>", the end of each as "/".
@@ -159,5 +158,4 @@ TEST(XMLTVSaxParser, SurvivesMalformedInput) {
 }
 
 } // namespace
-
 } // namespace guide

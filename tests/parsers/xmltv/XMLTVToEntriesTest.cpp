@@ -9,7 +9,6 @@
 #include <string>
 
 namespace guide {
-
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -100,7 +99,7 @@ TEST(XMLTVToEntries, FiltersAndAssignsShows) {
         {"a second title", {}, show("a", "A</title><title>B"), "a: A 14:00-15:00"},
         {"text after a child", {}, show("a", "A<b>x</b>y"), "a: A 14:00-15:00"},
         {"no title", {}, programme(kLater, "<desc>D</desc>") + show("a", "A"), "a: A 14:00-15:00"},
-        {"a title that comes with a programme of no stop",
+        {"a title in a programme without a stop",
          {},
          programme(kLater, "<desc>D</desc>") + programme("channel=\"b\"", "<title>B</title>"),
          "a: B 16:00-17:00"},
@@ -235,5 +234,4 @@ TEST(XMLTVToEntries, ReadsLongTextsInLinearTime) {
 }
 
 } // namespace
-
 } // namespace guide
