@@ -1,8 +1,5 @@
-#include "screens/kit/Table.h"
-
+#include "TableReplay.h"
 #include "screens/kit/TableChanges.h"
-
-#include <QStringList>
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -25,115 +22,6 @@ Section section(const QString& id, const QStringList& names, const QString& head
     }
     return section;
 }
-
-// Replays the announcements of a table, and checks after each one that the table is in the announced state.
-class Replay final : public TableObserver {
-  public:
-    explicit Replay(Table& table)
-        : m_table(table) {
-        m_table.setObserver(this);
-    }
-    ~Replay() override { m_table.setObserver(nullptr); }
-
-    void tableWillChange() override {
-        EXPECT_FALSE(m_changing);
-        m_changing = true;
-        check();
-    }
-    void tableDidChange() override {
-        m_changing = false;
-        check();
-    }
-    void rowsWillBeRemoved(int first, int count) override {
-        begin(u"remove %1+%2"_s.arg(first).arg(count));
-        m_rows.erase(m_rows.begin() + first, m_rows.begin() + first + count);
-        m_headers.remove(first, count);
-    }
-    void rowsRemoved() override { check(); }
-    void rowWillMove(int from, int to) override {
-        begin(u"move %1>%2"_s.arg(from).arg(to));
-        const Row row = m_rows[static_cast<std::size_t>(from)];
-        m_rows.erase(m_rows.begin() + from);
-        m_rows.insert(m_rows.begin() + to, row);
-        m_headers.move(from, to);
-    }
-    void rowMoved() override { check(); }
-    void rowsWillBeInserted(int first, int count) override {
-        begin(u"insert %1+%2"_s.arg(first).arg(count));
-        m_inserted = {first, count};
-    }
-    void rowsInserted() override {
-        for (int row = m_inserted.first; row < m_inserted.first + m_inserted.count; ++row) {
-            m_rows.insert(m_rows.begin() + row, m_table.rowAt(row));
-            m_headers.insert(row, m_table.sectionAt(row).header);
-        }
-        check();
-    }
-    void rowsUpdated(int first, int count) override {
-        log << u"update %1+%2"_s.arg(first).arg(count);
-        for (int row = first; row < first + count; ++row) {
-            Row& shown = m_rows[static_cast<std::size_t>(row)];
-            EXPECT_NE(shown, m_table.rowAt(row)) << "announced without need";
-            EXPECT_EQ(shown.kind(), m_table.rowAt(row).kind());
-            shown = m_table.rowAt(row);
-        }
-        check();
-    }
-    void sectionsUpdated(int first, int count) override {
-        log << u"headings %1+%2"_s.arg(first).arg(count);
-        for (int row = first; row < first + count; ++row) {
-            EXPECT_NE(std::exchange(m_headers[row], m_table.sectionAt(row).header),
-                      m_table.sectionAt(row).header);
-        }
-    }
-    void rowSelectionChanged(std::optional<int> before, std::optional<int> after) override {
-        log << u"select %1>%2"_s.arg(before.value_or(-1)).arg(after.value_or(-1));
-    }
-    void emptyNoteChanged() override { log << u"note"_s; }
-    void editingChanged() override { log << u"editing"_s; }
-
-    void expectComplete() const {
-        EXPECT_FALSE(m_changing);
-        QStringList headers;
-        std::size_t place = 0;
-        for (const Section& each : m_table.sections()) {
-            for (const Row& row : each.rows) {
-                headers << each.header;
-                ASSERT_LT(place, m_rows.size());
-                EXPECT_EQ(m_rows[place++], row);
-            }
-        }
-        EXPECT_EQ(m_headers, headers);
-        for (int row = 0; row < m_table.rowCount(); ++row) {
-            EXPECT_EQ(m_table.indexOf(m_table.rowAt(row).id), row);
-        }
-    }
-
-    QStringList log;
-    /// Called at the first step of the next change.
-    std::function<void()> atFirstStep;
-
-  private:
-    void begin(const QString& step) {
-        check();
-        log << step;
-        if (const auto call = std::exchange(atFirstStep, nullptr)) {
-            call();
-        }
-    }
-    void check() const {
-        ASSERT_EQ(static_cast<std::size_t>(m_table.rowCount()), m_rows.size());
-        for (int row = 0; row < m_table.rowCount(); ++row) {
-            ASSERT_EQ(m_table.rowAt(row), m_rows[static_cast<std::size_t>(row)]) << row;
-        }
-    }
-
-    Table& m_table;
-    bool m_changing = false;
-    std::vector<Row> m_rows;
-    QStringList m_headers;
-    TableChanges::Run m_inserted;
-};
 
 TEST(TableTest, AnnouncesOnlyTheDifference) {
     struct Case {
@@ -180,7 +68,7 @@ TEST(TableTest, AnnouncesOnlyTheDifference) {
     for (const Case& each : cases) {
         SCOPED_TRACE(each.name);
         Table table;
-        Replay replay(table);
+        TableReplay replay(table);
         table.setSections(each.before);
         replay.log.clear();
         table.setSections(each.after);
@@ -217,7 +105,7 @@ std::vector<Section> randomSections(std::mt19937& random) {
 TEST(TableTest, ReplayedAnnouncementsGiveTheNewTable) {
     std::mt19937 random(20'261'121);
     Table table;
-    Replay replay(table);
+    TableReplay replay(table);
     for (int pair = 0; pair < 4000; ++pair) {
         SCOPED_TRACE(pair);
         table.setSections(randomSections(random));
@@ -246,7 +134,7 @@ TEST(TableTest, ManyMovesBecomeRemovalsAndInsertions) {
 
 TEST(TableTest, SelectionFollowsItsRow) {
     Table table;
-    Replay replay(table);
+    TableReplay replay(table);
     table.setSections({section(u"1"_s, {u"a"_s, u"b"_s, u"c"_s})});
     table.selectRow({u"1"_s, u"c"_s});
     table.selectRow({u"1"_s, u"unknown"_s});
@@ -261,7 +149,7 @@ TEST(TableTest, SelectionFollowsItsRow) {
 
 TEST(TableTest, SingleSectionsAndRowsAreReplaced) {
     Table table;
-    Replay replay(table);
+    TableReplay replay(table);
     table.setSections({section(u"1"_s, {u"a"_s}), section(u"2"_s, {u"b"_s, u"c"_s})});
     replay.log.clear();
     table.setRow(textRow(u"2"_s, u"c"_s, u"new"_s));
@@ -276,7 +164,7 @@ TEST(TableTest, SingleSectionsAndRowsAreReplaced) {
 
 TEST(TableTest, ChangesMadeByAnObserverComeAfterThePresentOne) {
     Table table;
-    Replay replay(table);
+    TableReplay replay(table);
     table.setSections({section(u"1"_s, {u"a"_s, u"b"_s})});
     replay.log.clear();
     // An input that loses the focus with its row commits its text, for example.
