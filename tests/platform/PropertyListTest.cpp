@@ -93,8 +93,8 @@ TEST(PropertyListTest, DamageNeverCrashes) {
     }
 }
 
-/// A binary list in which each object but the last is an array that refers to the next object so many times;
-/// `head` is the marker and count of these arrays.
+/// A binary list in which each object but the last is an array that refers to the next object `references`
+/// times; `head` is the marker and count of these arrays.
 QByteArray bomb(const QByteArray& head, int references, char objects) {
     QByteArray list = "bplist00";
     QByteArray offsets;
