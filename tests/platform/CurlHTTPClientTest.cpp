@@ -104,9 +104,9 @@ TEST_F(CurlHTTPClientTest, IncompleteTransfersAreErrorsWithoutABody) {
     };
     for (const Case& each : cases) {
         server.reply(each.reply);
-        HTTPRequest asked = request();
-        asked.timeout = 60ms;
-        const TransferResult result = client.perform(asked);
+        HTTPRequest httpRequest = request();
+        httpRequest.timeout = 60ms;
+        const TransferResult result = client.perform(httpRequest);
         EXPECT_EQ(result.response.has_value(), each.response) << each.name;
         EXPECT_TRUE(result.body.isEmpty()) << each.name;
         ASSERT_TRUE(result.error) << each.name;
@@ -135,18 +135,18 @@ TEST_F(CurlHTTPClientTest, LimitsInactivityAndTotalTime) {
 }
 
 TEST_F(CurlHTTPClientTest, ReportsUnreachableServersAndUnsupportedURLs) {
-    HTTPRequest asked = request();
+    HTTPRequest httpRequest = request();
     {
         const ScriptedServer gone;
-        asked.url = gone.url();
+        httpRequest.url = gone.url();
     }
-    const TransferResult refused = client.perform(asked);
+    const TransferResult refused = client.perform(httpRequest);
     EXPECT_TRUE(refused.error && !refused.error->description.isEmpty() && !refused.response);
 
     for (const QString& url : {u"file:///etc/hostname"_s, u"ftp://127.0.0.1/"_s, u"data:text/plain,x"_s,
                                u"/page"_s, u""_s, u"http://"_s}) {
-        asked.url = QUrl(url);
-        EXPECT_TRUE(client.perform(asked).error) << url.toStdString();
+        httpRequest.url = QUrl(url);
+        EXPECT_TRUE(client.perform(httpRequest).error) << url.toStdString();
     }
 }
 
@@ -163,19 +163,19 @@ TEST_F(CurlHTTPClientTest, WaitsForANetwork) {
                                        ++looks;
                                        return hasNetwork();
                                    }});
-    HTTPRequest asked = request();
-    asked.url = QUrl(u"http://far.example/"_s);
+    HTTPRequest httpRequest = request();
+    httpRequest.url = QUrl(u"http://far.example/"_s);
     hasNetwork = [] { return false; };
-    EXPECT_TRUE(offline.perform(asked).error);
+    EXPECT_TRUE(offline.perform(httpRequest).error);
     EXPECT_EQ(looks, 0) << "waiting was not requested";
 
-    asked.waitsForConnectivity = true;
-    asked.resourceTimeout = 50ms;
+    httpRequest.waitsForConnectivity = true;
+    httpRequest.resourceTimeout = 50ms;
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_TRUE(offline.perform(asked).error);
+    EXPECT_TRUE(offline.perform(httpRequest).error);
     EXPECT_GE(std::chrono::steady_clock::now() - start, 50ms);
 
-    asked.resourceTimeout = 10s;
+    httpRequest.resourceTimeout = 10s;
     hasNetwork = [&] {
         if (looks > 1 && !back) {
             back = std::make_unique<ScriptedServer>(port);
@@ -184,14 +184,14 @@ TEST_F(CurlHTTPClientTest, WaitsForANetwork) {
         return back != nullptr;
     };
     looks = 0;
-    EXPECT_EQ(offline.perform(asked).body, "here");
+    EXPECT_EQ(offline.perform(httpRequest).body, "here");
     back.reset();
     hasNetwork = [] { return true; };
-    EXPECT_TRUE(offline.perform(asked).error) << "the server is down, the network is up";
+    EXPECT_TRUE(offline.perform(httpRequest).error) << "the server is down, the network is up";
 
     hasNetwork = [] { return false; };
     looks = 0;
-    auto waiting = std::async(std::launch::async, [&] { return offline.perform(asked); });
+    auto waiting = std::async(std::launch::async, [&] { return offline.perform(httpRequest); });
     while (looks == 0) {
         std::this_thread::yield();
     }
@@ -229,17 +229,17 @@ TEST_F(CurlHTTPClientTest, SendsMethodHeadersAndBody) {
     server.reply(ScriptedReply::ok(""));
     server.reply(ScriptedReply::ok(""));
     server.reply(ScriptedReply::ok(""));
-    HTTPRequest asked;
-    asked.cachePolicy = CachePolicy::ReloadIgnoringCache;
-    asked.url = QUrl(u"http://feeds.example/č ?q=1#part"_s);
-    asked.headers = {{"User-Agent", "Guide"}, {"X-Empty", ""}, {"Accept-Encoding", "gzip,deflate"}};
-    EXPECT_FALSE(client.perform(asked).error);
-    asked.method = "PROPFIND";
-    asked.body = QByteArray("a\0b", 3);
-    EXPECT_FALSE(client.perform(asked).error);
-    asked.method = "HEAD";
-    asked.body.clear();
-    EXPECT_FALSE(client.perform(asked).error);
+    HTTPRequest httpRequest;
+    httpRequest.cachePolicy = CachePolicy::ReloadIgnoringCache;
+    httpRequest.url = QUrl(u"http://feeds.example/č ?q=1#part"_s);
+    httpRequest.headers = {{"User-Agent", "Guide"}, {"X-Empty", ""}, {"Accept-Encoding", "gzip,deflate"}};
+    EXPECT_FALSE(client.perform(httpRequest).error);
+    httpRequest.method = "PROPFIND";
+    httpRequest.body = QByteArray("a\0b", 3);
+    EXPECT_FALSE(client.perform(httpRequest).error);
+    httpRequest.method = "HEAD";
+    httpRequest.body.clear();
+    EXPECT_FALSE(client.perform(httpRequest).error);
 
     const std::vector<ScriptedServer::Request> requests = server.requests();
     ASSERT_EQ(requests.size(), 3U);
@@ -253,27 +253,27 @@ TEST_F(CurlHTTPClientTest, SendsMethodHeadersAndBody) {
     EXPECT_TRUE(requests[1].header("Content-Type").isNull() && requests[1].header("Expect").isNull());
     EXPECT_EQ(requests[2].method, "HEAD");
 
-    asked.headers = {{"X-Injected", "a\r\nHost: other"}};
-    EXPECT_TRUE(client.perform(asked).error);
+    httpRequest.headers = {{"X-Injected", "a\r\nHost: other"}};
+    EXPECT_TRUE(client.perform(httpRequest).error);
     EXPECT_EQ(server.requests().size(), 3U);
 }
 
 TEST_F(CurlHTTPClientTest, DecodesRequestedContentEncodings) {
     const QByteArray page = QByteArray("text ").repeated(1000);
-    HTTPRequest asked = request();
-    asked.headers = {{"accept-encoding", "gzip,deflate"}};
+    HTTPRequest httpRequest = request();
+    httpRequest.headers = {{"accept-encoding", "gzip,deflate"}};
     server.reply(ScriptedReply::ok(gzipped(page), {"Content-Encoding: gzip"}));
-    EXPECT_EQ(client.perform(asked).body, page);
+    EXPECT_EQ(client.perform(httpRequest).body, page);
     server.reply(ScriptedReply::ok(gzipped(QByteArray(kBodyLimit + 1, 'b')), {"Content-Encoding: gzip"}));
-    EXPECT_TRUE(client.perform(asked).error) << "the limit applies to the decoded body";
+    EXPECT_TRUE(client.perform(httpRequest).error) << "the limit applies to the decoded body";
     server.reply(ScriptedReply::ok("no gzip", {"Content-Encoding: gzip"}));
-    EXPECT_TRUE(client.perform(asked).error);
+    EXPECT_TRUE(client.perform(httpRequest).error);
     server.reply(ScriptedReply::ok(gzipped(page), {"Content-Type: application/x-gzip"}));
-    EXPECT_EQ(client.perform(asked).body, gzipped(page)) << "a packed file is not a content encoding";
+    EXPECT_EQ(client.perform(httpRequest).body, gzipped(page)) << "a packed file is not a content encoding";
     for (int request = 0; request < 2; ++request) {
         server.reply(ScriptedReply::ok("as it is", {"Content-Encoding: xz"}));
     }
-    EXPECT_EQ(client.perform(asked).body, "as it is") << "an unknown encoding is left alone";
+    EXPECT_EQ(client.perform(httpRequest).body, "as it is") << "an unknown encoding is left alone";
 }
 
 TEST_F(CurlHTTPClientTest, DeliversBodiesInPieces) {
@@ -296,8 +296,8 @@ TEST_F(CurlHTTPClientTest, DeliversBodiesInPieces) {
         {"truncated", ScriptedReply::raw(half), "half", "", true},
         {"no body", ScriptedReply::ok(""), "", "", false},
     };
-    HTTPRequest asked = request();
-    asked.headers = {{"Accept-Encoding", "gzip"}};
+    HTTPRequest httpRequest = request();
+    httpRequest.headers = {{"Accept-Encoding", "gzip"}};
     QByteArray pieces;
     const TakePiece collect = [&pieces](QByteArrayView piece) {
         pieces += piece;
@@ -306,7 +306,7 @@ TEST_F(CurlHTTPClientTest, DeliversBodiesInPieces) {
     for (const Case& each : cases) {
         server.reply(each.reply);
         pieces.clear();
-        const TransferResult result = client.perform(asked, collect);
+        const TransferResult result = client.perform(httpRequest, collect);
         EXPECT_EQ(pieces, each.pieces) << each.name;
         EXPECT_EQ(result.body, each.body) << each.name;
         EXPECT_EQ(result.error.has_value(), each.error) << each.name;
@@ -314,40 +314,40 @@ TEST_F(CurlHTTPClientTest, DeliversBodiesInPieces) {
 
     pieces.clear();
     server.reply(ScriptedReply::raw(ScriptedReply::head(200) + QByteArray(kBodyLimit + 1, 'x')));
-    EXPECT_TRUE(client.perform(asked, collect).error) << "the limit applies to the sum of the pieces";
+    EXPECT_TRUE(client.perform(httpRequest, collect).error) << "the limit applies to the sum of the pieces";
     EXPECT_LE(pieces.size(), kBodyLimit);
 
     server.reply(ScriptedReply::raw(ScriptedReply::head(200) + "endless", End::Stall));
-    const TransferResult refused = client.perform(asked, [](QByteArrayView) { return false; });
+    const TransferResult refused = client.perform(httpRequest, [](QByteArrayView) { return false; });
     EXPECT_TRUE(refused.error && refused.error->cancelled && refused.response);
 }
 
 TEST_F(CurlHTTPClientTest, BodiesInPiecesBypassTheCache) {
-    HTTPRequest asked = request();
-    asked.cachePolicy = CachePolicy::ReturnCacheDataElseLoad;
+    HTTPRequest httpRequest = request();
+    httpRequest.cachePolicy = CachePolicy::ReturnCacheDataElseLoad;
     QByteArray pieces;
     const TakePiece collect = [&pieces](QByteArrayView piece) {
         pieces += piece;
         return true;
     };
     server.reply(ScriptedReply::ok("one"));
-    client.perform(asked, collect);
+    client.perform(httpRequest, collect);
     server.reply(ScriptedReply::ok("two"));
-    EXPECT_EQ(client.perform(asked).body, "two") << "a body in pieces is not stored";
-    EXPECT_FALSE(client.perform(asked, collect).error);
+    EXPECT_EQ(client.perform(httpRequest).body, "two") << "a body in pieces is not stored";
+    EXPECT_FALSE(client.perform(httpRequest, collect).error);
     EXPECT_EQ(pieces, "onetwo") << "a cached body is delivered";
-    EXPECT_TRUE(client.perform(asked, [](QByteArrayView) { return false; }).error->cancelled);
+    EXPECT_TRUE(client.perform(httpRequest, [](QByteArrayView) { return false; }).error->cancelled);
 
-    asked.cachePolicy = CachePolicy::ReloadIgnoringCache;
+    httpRequest.cachePolicy = CachePolicy::ReloadIgnoringCache;
     server.reply(ScriptedReply::answer(500, "broken"));
-    client.perform(asked, collect);
-    asked.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
-    EXPECT_EQ(client.perform(asked).body, "two") << "a failure leaves the older response";
-    asked.cachePolicy = CachePolicy::ReloadIgnoringCache;
+    client.perform(httpRequest, collect);
+    httpRequest.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
+    EXPECT_EQ(client.perform(httpRequest).body, "two") << "a failure leaves the older response";
+    httpRequest.cachePolicy = CachePolicy::ReloadIgnoringCache;
     server.reply(ScriptedReply::ok("three"));
-    client.perform(asked, collect);
-    asked.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
-    EXPECT_TRUE(client.perform(asked).error) << "an older response is forgotten";
+    client.perform(httpRequest, collect);
+    httpRequest.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
+    EXPECT_TRUE(client.perform(httpRequest).error) << "an older response is forgotten";
 }
 
 TEST_F(CurlHTTPClientTest, CookiesAreKeptForTheProcess) {
@@ -365,14 +365,14 @@ TEST_F(CurlHTTPClientTest, CookiesAreKeptForTheProcess) {
 }
 
 TEST_F(CurlHTTPClientTest, FollowsTheCachePolicy) {
-    HTTPRequest asked = request();
+    HTTPRequest httpRequest = request();
     const auto bodyBy = [&](CachePolicy policy) {
-        asked.cachePolicy = policy;
-        return client.perform(asked).body;
+        httpRequest.cachePolicy = policy;
+        return client.perform(httpRequest).body;
     };
     server.reply(ScriptedReply::ok("one"));
     EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataDontLoad), "");
-    EXPECT_TRUE(client.perform(asked).error);
+    EXPECT_TRUE(client.perform(httpRequest).error);
     EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataElseLoad), "one");
     EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataElseLoad), "one");
     EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataDontLoad), "one");
@@ -382,7 +382,7 @@ TEST_F(CurlHTTPClientTest, FollowsTheCachePolicy) {
     server.reply(ScriptedReply::answer(500, "broken"));
     EXPECT_EQ(bodyBy(CachePolicy::ReloadIgnoringCache), "broken");
     EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataElseLoad), "two");
-    client.removeCachedResponse(asked);
+    client.removeCachedResponse(httpRequest);
     server.reply(ScriptedReply::ok("three"));
     EXPECT_EQ(bodyBy(CachePolicy::ReturnCacheDataElseLoad), "three");
     EXPECT_EQ(server.requests().size(), 4U);
@@ -420,10 +420,10 @@ TEST_F(CurlHTTPClientTest, SupportsConcurrentTransfers) {
         threads.push_back(std::async(std::launch::async, [this, thread] {
             for (int round = 0; round < 12; ++round) {
                 const int page = (thread + round) % 8;
-                HTTPRequest asked = request(u"/%1"_s.arg(page));
-                asked.cachePolicy =
+                HTTPRequest httpRequest = request(u"/%1"_s.arg(page));
+                httpRequest.cachePolicy =
                     round % 2 == 0 ? CachePolicy::ReloadIgnoringCache : CachePolicy::ReturnCacheDataElseLoad;
-                EXPECT_EQ(client.perform(asked).body, "page " + QByteArray::number(page));
+                EXPECT_EQ(client.perform(httpRequest).body, "page " + QByteArray::number(page));
             }
         }));
     }

@@ -1,5 +1,7 @@
 #include "platform/archive/PropertyList.h"
 
+#include "platform/archive/PropertyListBounds.h"
+
 #include <QDateTime>
 
 #include <cstdlib>
@@ -91,6 +93,28 @@ TEST(PropertyListTest, DamageNeverCrashes) {
     }
 }
 
+/// A binary list in which each object but the last is an array that refers to the next object `references`
+/// times; `head` is the marker and count of these arrays.
+QByteArray bomb(const QByteArray& head, int references, char objects) {
+    QByteArray list = "bplist00";
+    QByteArray offsets;
+    const auto number = [](qsizetype value, int size) {
+        QByteArray bytes;
+        for (int byte = size - 1; byte >= 0; --byte) {
+            bytes += byte < 4 ? static_cast<char>(value >> 8 * byte) : '\0';
+        }
+        return bytes;
+    };
+    for (char object = 0; object < objects; ++object) {
+        offsets += number(list.size(), 2);
+        const char next = static_cast<char>(object + 1);
+        list += next < objects ? head + QByteArray(references, next) : QByteArray("\x09");
+    }
+    const qsizetype table = list.size();
+    return list + offsets + QByteArray(6, '\0') + '\2' + '\1' + number(objects, 8) + number(0, 8) +
+           number(table, 8);
+}
+
 TEST(PropertyListTest, RefusesEndlessTrees) {
     const auto nested = [](int depth) {
         return xmlList(QByteArray("<array>").repeated(depth) + "<true/>" +
@@ -101,19 +125,13 @@ TEST(PropertyListTest, RefusesEndlessTrees) {
     EXPECT_FALSE(propertyListFromData(nested(100'000)));
     EXPECT_FALSE(propertyListFromData(binaryList(nested(1'000))));
 
-    // Each object is an array that contains the next one twice: forty of them expand to 2^40 values.
-    QByteArray bomb = "bplist00";
-    QByteArray offsets;
-    constexpr char kObjects = 40;
-    for (char object = 0; object < kObjects; ++object) {
-        offsets += static_cast<char>(bomb.size());
-        const char next = static_cast<char>(object + 1);
-        bomb += object + 1 < kObjects ? QByteArray("\xa2") + next + next : QByteArray("\x09");
-    }
-    const char table = static_cast<char>(bomb.size());
-    bomb += offsets + QByteArray(6, '\0') + '\1' + '\1' + QByteArray(7, '\0') + kObjects +
-            QByteArray(8, '\0') + QByteArray(7, '\0') + table;
-    EXPECT_FALSE(propertyListFromData(bomb));
+    // Arrays of few and of many elements, with counts in the marker and of one, two and four bytes.
+    EXPECT_FALSE(binaryPropertyListIsBounded(bomb("\xa2", 2, 40)));
+    EXPECT_FALSE(binaryPropertyListIsBounded(bomb("\xaf\x10\x28", 40, 8)));
+    EXPECT_FALSE(binaryPropertyListIsBounded(bomb("\xaf\x11\x01\x2c", 300, 6)));
+    EXPECT_FALSE(binaryPropertyListIsBounded(bomb(QByteArray("\xaf\x12\0\0\x01\x2c", 6), 300, 6)));
+    EXPECT_TRUE(binaryPropertyListIsBounded(bomb("\xa2", 2, 5)));
+    EXPECT_FALSE(propertyListFromData(bomb("\xa2", 2, 40)));
 }
 
 } // namespace

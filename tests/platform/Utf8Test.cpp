@@ -24,6 +24,7 @@ TEST(Utf8Test, AcceptsOnlyWellFormedBytesAtEveryOffset) {
         {"a noncharacter", "\xef\xbf\xbf", true},
         {"NUL", QByteArray("\0", 1), true},
         {"byte order mark", "\xef\xbb\xbf", true},
+        {"replacement character", "\xef\xbf\xbd", true},
         {"lone continuation", "\x80", false},
         {"overlong slash", "\xc0\xaf", false},
         {"overlong in two", "\xc1\xbf", false},

@@ -165,7 +165,7 @@ bool readUtf8(QByteArrayView bytes, QString& text) {
     if (bytes.startsWith(kByteOrderMark)) {
         text.prepend(QChar(QChar::ByteOrderMark));
     }
-    // Qt puts a replacement character in the place of each fault. The text may have some of its own.
+    // Qt replaces each fault by a replacement character, but the text may also contain genuine ones.
     return !text.contains(QChar(QChar::ReplacementCharacter)) || isValidUtf8(bytes);
 }
 

@@ -48,7 +48,7 @@ FolderWatcher::FolderWatcher(const QString& folder, std::function<void()> change
 }
 
 void FolderWatcher::watch() {
-    // The folder may appear between the look and the watch on its parent, hence the second look.
+    // Checks again afterwards: the folder may appear before its parent is watched.
     for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
         const Identity identity = identityOf(m_folder);
         if (identity != m_identity || !m_watcher.directories().contains(m_folder)) {

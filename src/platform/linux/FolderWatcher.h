@@ -26,7 +26,7 @@ class FolderWatcher {
     const QString m_folder;
     const std::function<void()> m_changed;
     QFileSystemWatcher m_watcher;
-    /// Device and inode of the folder that is watched; zeros while there is none.
+    /// Device and inode of the watched folder; zeros while it is missing.
     Identity m_identity;
 };
 

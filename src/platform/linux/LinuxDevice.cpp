@@ -38,7 +38,7 @@ QTimeZone LinuxDevice::timeZone() const {
 
 QLocale LinuxDevice::locale() const {
     const QLocale system = QLocale::system();
-    // The "C" locale has formats that nobody uses.
+    // The formats of the "C" locale are not meant for display.
     return system.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedKingdom) : system;
 }
 

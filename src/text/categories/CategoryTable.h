@@ -36,7 +36,7 @@ class CategoryTable {
 
     explicit CategoryTable(const std::vector<CategoryRow>& rows);
 
-    /// The rows with a key that occurs in the text: bit i stands for row i.
+    /// The rows with a key that occurs in the text: bit i is row i.
     std::uint64_t rowsFoundIn(const QString& text) const;
 
     /// The combined bits of the rows.

@@ -64,7 +64,7 @@ class FoldTable {
     std::unique_ptr<std::array<char16_t, 0x10000>> m_units;
 };
 
-/// The code point at the position, which moves past it. A lone surrogate is a code point of its own.
+/// The code point at the position, which moves past it. A lone surrogate counts as a code point.
 char32_t takeCodePoint(QStringView text, qsizetype& position);
 
 } // namespace guide
