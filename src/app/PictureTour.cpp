@@ -12,9 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kLookEvery = 100;
-constexpr int kMostLooks = 300;
-/// Time for the drawing to follow, also by the software renderer.
+constexpr int kPollInterval = 100;
+constexpr int kMaxPolls = 300;
+/// Time for the renderer to finish, including the software renderer.
 constexpr int kSettle = 400;
 
 } // namespace
@@ -29,12 +29,12 @@ PictureTour::PictureTour(TabBarController& tabs, GuideWindow& window, QString fo
 
 void PictureTour::start() {
     if (!QDir().mkpath(m_folder)) {
-        qWarning("The folder %s cannot be made", qPrintable(m_folder));
+        qWarning("The folder %s cannot be created", qPrintable(m_folder));
         m_done(false);
         return;
     }
     m_timer.callOnTimeout([this] { step(); });
-    m_timer.start(kLookEvery);
+    m_timer.start(kPollInterval);
 }
 
 bool PictureTour::channelsLoaded() const {
@@ -44,7 +44,7 @@ bool PictureTour::channelsLoaded() const {
 }
 
 void PictureTour::step() {
-    if (!channelsLoaded() && ++m_looks < kMostLooks) {
+    if (!channelsLoaded() && ++m_polls < kMaxPolls) {
         return;
     }
     m_timer.stop();
@@ -69,7 +69,7 @@ void PictureTour::drawCurrently() {
     m_complete = saveBoth(u"currently"_s);
     NavigationController& navigation = m_tabs.selectedNavigationController();
     if (navigation.topViewController()->table().rowCount(0) < 2) {
-        qWarning("No channel has shows: there is no schedule to draw");
+        qWarning("No channel has shows, so there is no schedule to save");
         m_done(false);
         return;
     }

@@ -14,7 +14,7 @@ using test::Answer;
 using test::object;
 using test::probe;
 
-TEST(Probe, AnswersEachCommandWithOneObject) {
+TEST(Probe, PrintsOneObjectPerCommand) {
     const struct {
         QStringList words;
         QByteArray input;
@@ -66,7 +66,7 @@ TEST(Probe, AnswersEachCommandWithOneObject) {
     }
 }
 
-TEST(Probe, TellsUnusableArgumentsFromWhatCannotBeDone) {
+TEST(Probe, DistinguishesUnusableArgumentsFromFailures) {
     const struct {
         QStringList words;
         int status;
@@ -107,7 +107,8 @@ TEST(Probe, ParsesAFeedForTwoChannels) {
                                  u"58f4ded60befe78cb336a80d,r.CZ.nobody,cs"_s, page});
     ASSERT_EQ(answer.status, 0) << answer.errors.toStdString();
     const QJsonObject channels = answer.json[u"channels"_s].toObject();
-    ASSERT_EQ(channels.keys(), QStringList{u"58f4ded60befe78cb336a80c"_s}) << "nobody's list is left out";
+    ASSERT_EQ(channels.keys(), QStringList{u"58f4ded60befe78cb336a80c"_s})
+        << "a list without a channel is left out";
     const QJsonArray shows = channels.begin()->toArray();
     ASSERT_EQ(shows.size(), 1);
     const QJsonObject show = shows[0].toObject();
@@ -120,7 +121,7 @@ TEST(Probe, ParsesAFeedForTwoChannels) {
     EXPECT_TRUE(show[u"details"_s].isObject());
 }
 
-TEST(Probe, FiltersACatalogueByTheIconsThatTheGuideWouldFind) {
+TEST(Probe, FiltersACatalogueByAvailableIcons) {
     const test::ProbeFiles files;
     const auto channel = [](const char* location, const char* icon) {
         return QByteArray("<dict><key>Location</key><string>") + location +
