@@ -14,8 +14,6 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-/// Longer than the period without alerts after an activation or an alert.
-constexpr auto kSilence = 61s;
 /// One and a half times the most that the small device of these tests unpacks.
 constexpr qsizetype kBombSize = qsizetype(48) << 20;
 
@@ -117,33 +115,6 @@ TEST(Guide, KeepsItsListsWhateverTheServerDoes) {
     }
 }
 
-TEST(Guide, AFailedReloadLosesNothingAtTheNextStart) {
-    GuideWorld world;
-    world.serve(u"first"_s, 1, world.feed(u"Last"_s, 2));
-    world.serve(u"second"_s, 1, world.feed(u"Many"_s, 12));
-    world.start();
-    world.guide->applicationDidBecomeActive();
-    ASSERT_TRUE(world.check());
-    world.end();
-
-    // The first list is too short and the second one is due, but no source has either of them.
-    for (const QString& key : {u"first"_s, u"second"_s}) {
-        world.server->serve(GuideWorld::feedPath(key, 1), ServerReply::answer(503, {}));
-        world.server->serve(GuideWorld::feedPath(key, 2), ServerReply::answer(503, {}));
-    }
-    world.start();
-    world.guide->channels().channelWithChannelId(GuideWorld::channel(u"second"_s))->requireReload();
-    world.server->forgetRequests();
-    ASSERT_TRUE(world.check());
-    EXPECT_EQ(world.server->requestCount(GuideWorld::feedPath(u"first"_s, 2)), 2);
-    EXPECT_EQ(world.server->requestCount(GuideWorld::feedPath(u"second"_s, 2)), 2);
-    world.end();
-
-    world.start();
-    EXPECT_EQ(world.titles(u"first"_s), (QStringList{u"Last 0"_s, u"Last 1"_s}));
-    EXPECT_EQ(world.titles(u"second"_s).size(), 12);
-}
-
 TEST(Guide, WritesItsListsWhenMemoryIsShort) {
     GuideWorld world;
     world.serve(u"first"_s, 1, world.feed(u"Morning"_s, 6));
@@ -156,28 +127,6 @@ TEST(Guide, WritesItsListsWhenMemoryIsShort) {
     world.guide->applicationDidReceiveMemoryWarning();
     EXPECT_TRUE(world.runUntil([&] { return QFile::exists(file); }));
     EXPECT_EQ(world.titles(u"first"_s).size(), 6);
-}
-
-TEST(Guide, AlertsAtMostOnceAMinuteWithoutAServer) {
-    GuideWorld world;
-    world.start();
-    world.guide->applicationDidBecomeActive();
-    world.server->stop();
-    ASSERT_TRUE(world.check());
-    TabBarController& tabs = world.guide->tabBarController();
-    EXPECT_EQ(tabs.presentedAlert(), nullptr) << "not right after the activation";
-    world.clock.advance(kSilence);
-    ASSERT_TRUE(world.check());
-    ASSERT_NE(tabs.presentedAlert(), nullptr);
-    EXPECT_EQ(tabs.presentedAlert()->title, u"Unable to establish connection to remote server"_s);
-    tabs.answerAlert(0);
-    EXPECT_EQ(tabs.presentedAlert(), nullptr) << "four transfers with two attempts each raise one alert";
-    world.clock.advance(30s);
-    ASSERT_TRUE(world.check());
-    EXPECT_EQ(tabs.presentedAlert(), nullptr);
-    world.clock.advance(kSilence);
-    ASSERT_TRUE(world.check());
-    EXPECT_NE(tabs.presentedAlert(), nullptr);
 }
 
 TEST(Guide, EndsAtOnceWhileAScreenSuspendsTheLoadQueue) {

@@ -150,25 +150,6 @@ TEST(Probe, FiltersACatalogueByAvailableIcons) {
     EXPECT_EQ(locations(probe({u"filter"_s, catalogue, u"--icons"_s, icons})), u"123"_s);
 }
 
-TEST(Probe, ShowsTitlesInTheAlphabetOfTheDevice) {
-    const test::ProbeFiles files;
-    const QString page = files.write(u"feed.xml"_s, R"(<tv>
-<programme start="20261121180000 +0000" stop="20261121190000 +0000" channel="a"><title>Njujork</title></programme>
-</tv>)");
-    const struct {
-        QString locale;
-        QString title;
-    } cases[] = {{u"sr_RS@cyrillic"_s, u"Њуjoрк"_s}, {u"sr_RS@latin"_s, u"Njujork"_s}};
-    for (const auto& each : cases) {
-        const Answer answer =
-            probe({u"parse"_s, u"--locale"_s, each.locale, u"--now"_s, u"2026-11-21T18:10:00Z"_s, u"--type"_s,
-                   u"1"_s, u"--item"_s, u"58f4ded60befe78cb336a80c,r.RS.a,sr"_s, page});
-        const QJsonObject show = answer.json[u"channels"_s][u"58f4ded60befe78cb336a80c"_s][0].toObject();
-        EXPECT_EQ(show[u"title"_s], each.title);
-        EXPECT_EQ(show[u"identificator"_s], u"Njujork"_s);
-    }
-}
-
 } // namespace
 
 } // namespace guide
