@@ -10,7 +10,7 @@ std::optional<long long> normalizedMinutes(double minutes) {
     if (std::isnan(minutes)) {
         return std::nullopt;
     }
-    // The largest double below 2^63: beyond it a rounded number has no integer.
+    // The largest double below 2^63; larger ones do not fit into the result.
     constexpr double kLargest = 9223372036854774784.0;
     const auto rounded = static_cast<long long>(std::round(std::clamp(minutes, -kLargest, kLargest)));
     if (rounded < 0) {

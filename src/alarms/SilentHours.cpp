@@ -23,7 +23,7 @@ int storedMinute(const KeyValueStore& store, const QString& key, const QTimeZone
 
 } // namespace
 
-bool SilentStretch::mayBeAlarmedAt(int minuteOfDay) const {
+bool SilentPeriod::mayBeAlarmedAt(int minuteOfDay) const {
     const bool inside = from < minuteOfDay && minuteOfDay < to;
     return from < to ? !inside : inside;
 }
@@ -32,13 +32,13 @@ SilentHours::SilentHours(const KeyValueStore& store, const Device& device)
     : m_zone(device.timeZone()) {
     const auto value = store.valueForKey(u"noAlarmsSchedule"_s);
     m_enabled = value && value->toBool(false);
-    m_stretch.from = storedMinute(store, u"noAlarmsSchedule.0"_s, m_zone, m_stretch.from);
-    m_stretch.to = storedMinute(store, u"noAlarmsSchedule.1"_s, m_zone, m_stretch.to);
+    m_period.from = storedMinute(store, u"noAlarmsSchedule.0"_s, m_zone, m_period.from);
+    m_period.to = storedMinute(store, u"noAlarmsSchedule.1"_s, m_zone, m_period.to);
 }
 
 bool SilentHours::mayBeAlarmedAt(Moment moment) const {
     const auto utc = QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC);
-    return !m_enabled || m_stretch.mayBeAlarmedAt(minuteOfDay(utc, m_zone));
+    return !m_enabled || m_period.mayBeAlarmedAt(minuteOfDay(utc, m_zone));
 }
 
 } // namespace guide

@@ -9,13 +9,13 @@ namespace guide {
 class Device;
 class KeyValueStore;
 
-/// A daily stretch of time, in minutes of the day, in which generated alarms must not ring.
-struct SilentStretch {
+/// A daily period, in minutes of the day, in which generated alarms must not ring.
+struct SilentPeriod {
     int from = 0;
     int to = 7 * 60;
 
-    /// Whether an alarm may ring at the minute of the day. Both ends are allowed. A stretch that does not end
-    /// after it begins, as one across midnight, refuses every minute.
+    /// Whether an alarm may ring at the minute of the day. Both ends are allowed. A period that does not end
+    /// after its start, such as one across midnight, refuses every minute.
     bool mayBeAlarmedAt(int minuteOfDay) const;
 };
 
@@ -28,13 +28,13 @@ class SilentHours {
 
     bool enabled() const { return m_enabled; }
     /// From 00:00 to 07:00 where nothing is set. Of a stored date only its clock time in the zone counts.
-    const SilentStretch& stretch() const { return m_stretch; }
+    const SilentPeriod& period() const { return m_period; }
     bool mayBeAlarmedAt(Moment moment) const;
 
   private:
     QTimeZone m_zone;
     bool m_enabled = false;
-    SilentStretch m_stretch;
+    SilentPeriod m_period;
 };
 
 } // namespace guide

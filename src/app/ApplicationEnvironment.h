@@ -25,7 +25,7 @@
 
 namespace guide {
 
-/// The device and the data that the application is started on. What is referred to outlives the application.
+/// The device and the data that the application runs on. What is referred to must outlive the application.
 struct ApplicationEnvironment {
     const Clock& clock;
     const Device& device;
@@ -37,30 +37,30 @@ struct ApplicationEnvironment {
     const ApplicationStateSource& applicationState;
     HTTPClient& httpClient;
     ResponseCache& responseCache;
-    /// What the response cache holds in ordinary times, in bytes.
+    /// The normal capacity of the response cache, in bytes.
     std::size_t responseCacheCapacity = 0;
     AudioSession& audioSession;
     Promotion& promotion;
 
     SourceHostTable hosts;
     RandomIndex random;
-    /// The catalogue's property list, where what the filter leaves of it is kept, and where its icons are.
+    /// The catalogue's property list, the archive of its filtered form, and the folder of its icons.
     QString cataloguePath;
     QString catalogueArchivePath;
     QString iconFolder;
-    /// A selection for a profile that has none yet.
+    /// The selection for a profile that has none yet.
     std::optional<QString> firstSelectionPath;
     /// The application's URL scheme; empty when it has none.
     QString scheme;
 
-    /// Bounds the pauses between two attempts of a transfer.
+    /// Limits the pause between two attempts of a transfer.
     std::chrono::milliseconds longestPause = std::chrono::hours(1);
 
-    /// Told on the main queue whether anything is being transferred. May be empty.
+    /// Called on the main queue with whether a transfer is in progress. May be empty.
     std::function<void(bool visible)> networkActivityIndicator;
-    /// Told on the main queue how many alarms are pending. May be empty.
+    /// Called on the main queue with the number of pending alarms. May be empty.
     std::function<void(int count)> applicationIconBadgeNumber;
-    /// Opens an http or https URL with what the person uses for it. Main queue. May be empty.
+    /// Opens an http or https URL in the user's default program. Main queue. May be empty.
     std::function<void(const QUrl& url)> openExternally;
 };
 

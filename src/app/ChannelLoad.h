@@ -9,20 +9,20 @@
 
 namespace guide {
 
-/// What a check finds out about the sources of one channel, one after the other.
+/// Collects what a check learns about the sources of one channel.
 class ChannelLoad {
   public:
     /// Sources without URLs count as passed over.
     explicit ChannelLoad(const std::vector<PlannedSource>& sources);
 
-    /// The first page of the source did not come.
+    /// The first page of the source could not be fetched.
     void noPage(const QString& sourceId, const NetPage& answer);
-    /// The pages of the source were read. `list` is what was stored, null unless the outcome says so.
+    /// The pages of the source were read. `list` is the stored list, null for other outcomes than Stored.
     void read(const QString& sourceId, std::size_t pages, MergeOutcome outcome, const ShowList& list,
               Moment at);
 
-    /// Once a source was used, or all were passed over: what the load did. Nothing while one is still to be
-    /// asked, and for a channel without sources.
+    /// The result of the load, once a source was used or all were passed over. Unset before that, and for a
+    /// channel without sources.
     std::optional<SourceHealth> health(Moment now) const;
 
   private:
@@ -32,7 +32,7 @@ class ChannelLoad {
     };
     void passOver(const PassedOverSource& passedOver);
 
-    /// In the order of the channel's own numbers.
+    /// In the channel's order.
     std::vector<Source> m_sources;
     std::optional<UsedSource> m_used;
 };

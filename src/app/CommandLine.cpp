@@ -15,20 +15,20 @@ QString usage() {
            "What is on television now, and what comes next.\n"
            "\n"
            "  --profile FOLDER      keep all folders, settings and the key-value store under FOLDER\n"
-           "  --demo                made-up channels, served by the program itself\n"
-           "  --catalogue FILE      the channels to know, a property list\n"
+           "  --demo                use made-up channels, served by the program itself\n"
+           "  --catalogue FILE      the channel catalogue, a property list\n"
            "  --hosts FILE          the table of source hosts, a JSON object\n"
-           "  --select FILE         the channels to show where there is no selection yet, a JSON array\n"
-           "  --now TIME            start the clock there, as in 2025-12-31T19:30:00Z\n"
-           "  --form phone|tablet   which layout\n"
-           "  --screenshots FOLDER  draw every screen into FOLDER and end\n"
+           "  --select FILE         the channels to select if none are selected yet, a JSON array\n"
+           "  --now TIME            the initial time of the clock, as in 2025-12-31T19:30:00Z\n"
+           "  --form phone|tablet   the layout\n"
+           "  --screenshots FOLDER  save a picture of every screen in FOLDER and exit\n"
            "  --help                this text\n"
            "\n"
            "The options from --demo to --now work in a profile of their own, unless --profile names one.\n"_s;
 }
 
 CommandLineText refusal(const QString& why) {
-    return {u"quellin-guide: %1; quellin-guide --help tells how it is called\n"_s.arg(why), 2};
+    return {u"quellin-guide: %1; see quellin-guide --help\n"_s.arg(why), 2};
 }
 
 } // namespace
@@ -46,7 +46,7 @@ std::variant<LaunchOptions, CommandLineText> parseCommandLine(const QStringList&
         }
         if (!word.startsWith(u'-')) {
             if (options.url) {
-                return refusal(u"one URL can be opened, \"%1\" is a second"_s.arg(word));
+                return refusal(u"only one URL can be opened, \"%1\" is another"_s.arg(word));
             }
             options.url = word;
             continue;
@@ -75,17 +75,17 @@ std::variant<LaunchOptions, CommandLineText> parseCommandLine(const QStringList&
         } else if (name == "--now"_L1) {
             const QDateTime moment = QDateTime::fromString(value, Qt::ISODateWithMs);
             if (!moment.isValid()) {
-                return refusal(u"\"%1\" is no time like 2025-12-31T19:30:00Z"_s.arg(value));
+                return refusal(u"\"%1\" is not a time like 2025-12-31T19:30:00Z"_s.arg(value));
             }
             options.now = Moment(std::chrono::milliseconds(moment.toMSecsSinceEpoch()));
         } else if (value == "phone"_L1 || value == "tablet"_L1) {
             options.form = value == "phone"_L1 ? UserInterfaceIdiom::Phone : UserInterfaceIdiom::Tablet;
         } else {
-            return refusal(u"--form is phone or tablet, not \"%1\""_s.arg(value));
+            return refusal(u"--form must be phone or tablet, not \"%1\""_s.arg(value));
         }
     }
     if (options.demo && (options.catalogue || options.hosts || options.select)) {
-        return refusal(u"--demo brings its own catalogue, hosts and selection"_s);
+        return refusal(u"--demo has its own catalogue, hosts and selection"_s);
     }
     return options;
 }

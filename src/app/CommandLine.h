@@ -11,32 +11,32 @@
 
 namespace guide {
 
-/// How the guide was asked to start. Paths are absolute.
+/// The options of a launch. Paths are absolute.
 struct LaunchOptions {
     std::optional<QString> profile;
     bool demo = false;
     std::optional<QString> catalogue;
     std::optional<QString> hosts;
     std::optional<QString> select;
-    /// The clock starts there.
+    /// The initial time of the clock.
     std::optional<Moment> now;
     std::optional<UserInterfaceIdiom> form;
     std::optional<QString> screenshots;
-    /// A URL of the application's scheme, to be opened once the guide stands.
+    /// A URL of the application's scheme, to be opened after the launch.
     std::optional<QString> url;
 
-    /// Whether the guide has to stay off the user's own profile: something is only being tried.
+    /// Whether the options only try something out and must not touch the user's profile.
     bool impliesOwnProfile() const { return demo || catalogue || hosts || select || now; }
 };
 
-/// What the words of the command line come to: options to start with, or a text to print and end.
+/// A text to print instead of a launch.
 struct CommandLineText {
     QString text;
-    /// 0 for the help that was asked for, 2 for words that cannot be used.
+    /// 0 for the help, 2 for unusable arguments.
     int exitStatus = 0;
 };
 
-/// Takes the words behind the program's name apart. Relative paths are taken from the working folder.
+/// Parses the arguments after the program's name. Relative paths are resolved against the working folder.
 std::variant<LaunchOptions, CommandLineText> parseCommandLine(const QStringList& words);
 
 } // namespace guide

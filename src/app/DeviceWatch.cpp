@@ -13,18 +13,18 @@ namespace {
 
 constexpr std::chrono::seconds kPollEvery{20};
 
-std::chrono::milliseconds reading(clockid_t clock) {
+std::chrono::milliseconds timeOf(clockid_t clock) {
     timespec time{};
     clock_gettime(clock, &time);
     return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::seconds(time.tv_sec) +
                                                                  std::chrono::nanoseconds(time.tv_nsec));
 }
 
-SignificantTime::Look lookAtClocks(const Clock& clock, const Device& device) {
+SignificantTime::Reading readClocks(const Clock& clock, const Device& device) {
     const Moment now = clock.now();
     const QTimeZone zone = device.timeZone();
     return {now, QDateTime::fromMSecsSinceEpoch(now.time_since_epoch().count(), zone).date(), zone.id(),
-            reading(CLOCK_BOOTTIME), reading(CLOCK_MONOTONIC)};
+            timeOf(CLOCK_BOOTTIME), timeOf(CLOCK_MONOTONIC)};
 }
 
 /// What the kernel says about the machine's memory; empty where there is no such file.
@@ -41,7 +41,7 @@ DeviceWatch::DeviceWatch(const Clock& clock, const Device& device, const Applica
     , m_device(device)
     , m_state(state)
     , m_observer(observer)
-    , m_time(lookAtClocks(clock, device)) {
+    , m_time(readClocks(clock, device)) {
     m_timer.callOnTimeout([this] { poll(); });
 }
 
@@ -54,7 +54,7 @@ void DeviceWatch::poll() {
         m_observer.applicationDidReceiveMemoryWarning();
     }
     // In the background the next activation brings everything up to date.
-    if (m_time.changed(lookAtClocks(m_clock, m_device)) &&
+    if (m_time.changed(readClocks(m_clock, m_device)) &&
         m_state.applicationState() == ApplicationState::Active) {
         m_observer.applicationSignificantTimeChange();
     }

@@ -27,14 +27,15 @@ std::optional<std::vector<ObjectId>> selectionFromFile(const QString& path) {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
     if (!document.isArray()) {
-        qWarning("The selection %s is no JSON array: %s", qPrintable(path), qPrintable(error.errorString()));
+        qWarning("The selection %s is not a JSON array: %s", qPrintable(path),
+                 qPrintable(error.errorString()));
         return std::nullopt;
     }
     std::vector<ObjectId> selected;
     for (const QJsonValue value : document.array()) {
         const QString hex = value.toString();
         if (!isIdentity(hex)) {
-            qWarning("The selection %s names a channel by something else than 24 hexadecimal digits: \"%s\"",
+            qWarning("The selection %s has an entry that is not 24 hexadecimal digits: \"%s\"",
                      qPrintable(path), qPrintable(hex));
             continue;
         }

@@ -9,9 +9,8 @@
 
 namespace guide {
 
-/// The channels that a selection file names: a JSON array of identities, 24 hexadecimal digits each, in the
-/// order in which they are to be shown. Nothing, with a log line, when the file cannot be read or is no such
-/// array.
+/// The channels in a selection file: a JSON array of identities, 24 hexadecimal digits each, in display
+/// order. Nothing, and a log line, when the file cannot be read or is not an array.
 std::optional<std::vector<ObjectId>> selectionFromFile(const QString& path);
 
 } // namespace guide

@@ -6,16 +6,16 @@
 
 namespace guide {
 
-/// Pauses of background work that the end of the program cuts short. Any thread.
+/// Pauses background work; the end of the program interrupts the pauses. Any thread.
 class InterruptibleWait {
   public:
-    /// Blocks for the time; false, at once, when interrupted.
+    /// Blocks for the time. Returns false immediately when interrupted.
     bool wait(std::chrono::milliseconds time) {
         std::unique_lock guard(m_mutex);
         return !m_changed.wait_for(guard, time, [this] { return m_interrupted; });
     }
 
-    /// Ends every running and every later pause.
+    /// Ends all current and future pauses.
     void interrupt() {
         const std::lock_guard guard(m_mutex);
         m_interrupted = true;

@@ -1,4 +1,4 @@
-// The launch of the application, step by step.
+// The steps of the launch.
 
 #include "app/FirstSelection.h"
 #include "app/QuellinGuideAppDelegate.h"
@@ -14,19 +14,19 @@ namespace guide {
 using namespace Qt::StringLiterals;
 
 void QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBarController&)>& showWindow) {
-    // Beside what plays, until the launch is over.
+    // Does not interrupt other audio during the launch.
     m_environment.audioSession.setCategory(AudioSessionCategory::Ambient, true);
     m_environment.promotion.startMeasurementAndAds();
     detectAlphabet();
     readSettings();
     makeSources();
-    // Before the catalogue, whose filter looks at every icon.
+    // Before the catalogue, whose filter tests every icon.
     m_icons = std::make_unique<TVStationIcons>(m_environment.iconFolder, m_environment.device.screenScale());
     makeCatalogue();
     makeSelection();
-    // After the launch, when the store exists.
+    // Runs after the launch, when the store exists.
     onMainQueue(&QuellinGuideAppDelegate::cleanUpSelection);
-    // Begins to read the listing files.
+    // Starts reading the listing files.
     makeListings();
     makeUpdateCycle();
     makeScreens();
@@ -180,7 +180,7 @@ void QuellinGuideAppDelegate::setup() {
 }
 
 void QuellinGuideAppDelegate::cleanUpSelection() {
-    // A catalogue that could not be read says nothing about the channels.
+    // A catalogue that could not be read proves nothing about the channels.
     const SharedCatalogueSnapshot catalogue = m_catalogue.snapshot();
     if (catalogue->empty()) {
         return;

@@ -1,4 +1,4 @@
-// What the application does at the device's events.
+// Handling of the device's events.
 
 #include "app/QuellinGuideAppDelegate.h"
 
@@ -29,7 +29,7 @@ void QuellinGuideAppDelegate::applicationDidEnterBackground() {
 void QuellinGuideAppDelegate::applicationWillTerminate() {
     m_alarms.commit();
     m_environment.userDefaults.synchronize();
-    // A load that has ended since the transition to the background would be lost otherwise.
+    // Otherwise a load that ended after the transition to the background would be lost.
     m_listings->commitFiles();
 }
 

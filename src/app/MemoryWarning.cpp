@@ -11,7 +11,7 @@ namespace {
 constexpr double kShort = 0.05;
 constexpr double kPlenty = 0.1;
 
-/// The number of kibibytes behind "name:"; 0 when there is none.
+/// The number of kibibytes after the name; 0 when there is none.
 double amount(QByteArrayView meminfo, QByteArrayView name) {
     const qsizetype at = meminfo.indexOf(name);
     if (at < 0) {

@@ -6,14 +6,14 @@
 
 namespace guide {
 
-/// The share of the machine's memory that programs can still have, from 0 to 1, of the text of /proc/meminfo;
-/// nothing when it does not say.
+/// The available share of the machine's memory, from 0 to 1, from the text of /proc/meminfo; unset when the
+/// text does not contain it.
 std::optional<double> availableMemory(QByteArrayView meminfo);
 
-/// Notices, from looks at the memory that is left, when the guide should give some back.
+/// Decides, from repeated readings of the available memory, when the guide should release some.
 class MemoryWarning {
   public:
-    /// Whether memory has become short with this look. Told once, until there is plenty again.
+    /// Whether memory has become short with this reading. True once, until plenty is available again.
     bool due(double available);
 
   private:

@@ -14,9 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kLookEvery = 100;
-constexpr int kMostLooks = 300;
-/// Time for the drawing to follow, also by the software renderer.
+constexpr int kPollInterval = 100;
+constexpr int kMaxPolls = 300;
+/// Time for the renderer to finish, including the software renderer.
 constexpr int kSettle = 400;
 
 /// The visible screen, which the tour expects to be a table.
@@ -36,12 +36,12 @@ PictureTour::PictureTour(TabBarController& tabs, GuideWindow& window, QString fo
 
 void PictureTour::start() {
     if (!QDir().mkpath(m_folder)) {
-        qWarning("The folder %s cannot be made", qPrintable(m_folder));
+        qWarning("The folder %s cannot be created", qPrintable(m_folder));
         m_done(false);
         return;
     }
     m_timer.callOnTimeout([this] { step(); });
-    m_timer.start(kLookEvery);
+    m_timer.start(kPollInterval);
 }
 
 bool PictureTour::channelsLoaded() const {
@@ -52,7 +52,7 @@ bool PictureTour::channelsLoaded() const {
 }
 
 void PictureTour::step() {
-    if (!channelsLoaded() && ++m_looks < kMostLooks) {
+    if (!channelsLoaded() && ++m_polls < kMaxPolls) {
         return;
     }
     m_timer.stop();
@@ -77,7 +77,7 @@ void PictureTour::drawCurrently() {
     m_complete = saveBoth(u"currently"_s);
     TableViewController* screen = topTable(m_tabs);
     if (!screen || screen->table().rowCount() < 2) {
-        qWarning("No channel has shows: there is no schedule to draw");
+        qWarning("No channel has shows, so there is no schedule to save");
         m_done(false);
         return;
     }

@@ -11,15 +11,15 @@
 
 namespace guide {
 
-/// Walks through the screens and draws each into a folder, in both colour schemes: what is on now, and the
-/// schedule of the first channel. Main thread.
+/// Opens the screens one after the other and saves a picture of each in both colour schemes: what is on now,
+/// and the schedule of the first channel. Main thread.
 class PictureTour {
   public:
-    /// `prefix` begins each file's name. `done` is called once, with whether every picture was written.
+    /// File names start with `prefix`. `done` is called once, with whether every picture was written.
     PictureTour(TabBarController& tabs, GuideWindow& window, QString folder, QString prefix,
                 std::function<void(bool complete)> done);
 
-    /// Begins as soon as the channels have their shows, or after a while without them.
+    /// Waits until the channels have their shows, but not forever.
     void start();
 
   private:
@@ -36,7 +36,7 @@ class PictureTour {
     const QString m_prefix;
     const std::function<void(bool)> m_done;
     QTimer m_timer;
-    int m_looks = 0;
+    int m_polls = 0;
     bool m_complete = true;
 };
 

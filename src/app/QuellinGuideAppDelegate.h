@@ -30,8 +30,8 @@
 
 namespace guide {
 
-/// The root of ownership: makes the catalogue, the store, the update cycle and the screens, wires them to one
-/// another and carries the device's events on. Main queue.
+/// The root of ownership: creates the catalogue, the store, the update cycle and the screens, connects them
+/// and forwards the device's events. Main queue.
 class QuellinGuideAppDelegate final : public LifeCycleObserver,
                                       private ScreenSettings,
                                       private ListingsUpdates,
@@ -43,8 +43,8 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     QuellinGuideAppDelegate& operator=(const QuellinGuideAppDelegate&) = delete;
     ~QuellinGuideAppDelegate() override;
 
-    /// Everything between the start of the process and the first frame, in its order. `showWindow` is called
-    /// when the screens can be shown.
+    /// Runs the steps between the start of the process and the first frame. Calls `showWindow` when the
+    /// screens can be shown.
     void didFinishLaunching(const std::function<void(TabBarController&)>& showWindow);
 
     TabBarController& tabBarController() { return *m_tabBarController; }
@@ -52,7 +52,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     PictureProvider& pictures() { return *m_guidePictures; }
     TVListings& listings() { return *m_listings; }
     TVChannels& channels() { return *m_channels; }
-    /// What the last load of each selected channel did.
+    /// The result of the last load of each selected channel.
     const SourceHealthRecords& sourceHealth() const { return *m_sourceHealth; }
 
     void applicationDidBecomeActive() override;
@@ -62,11 +62,11 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void applicationSignificantTimeChange() override;
 
     void checkAndUpdateAllChannels() override;
-    /// The number of pending alarms, on the application and on its tab.
+    /// Shows the number of pending alarms on the application and on its tab.
     void updateBadge();
 
-    /// Ends everything in its order: screens, transfers and pauses, the check, the lists' files. The queues
-    /// are still running, and the owner ends them next. False when the files were not written in time.
+    /// Ends, in this order, screens, transfers and pauses, the check, and the writing of files. The queues
+    /// must still be running; the owner ends them next. False when the files were not written in time.
     bool shutDown(std::chrono::milliseconds atMost);
 
   private:
@@ -104,7 +104,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     Settings m_settings;
     Alphabet m_alphabet;
     InterruptibleWait m_pauses;
-    /// Blocks on the main queue hold it weakly: those that come after the end do nothing.
+    /// Blocks on the main queue hold it weakly, so that they do nothing after the end.
     const std::shared_ptr<const void> m_alive = std::make_shared<char>();
 
     bool m_imagesEnabled = true;

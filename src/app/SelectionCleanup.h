@@ -6,9 +6,9 @@
 
 namespace guide {
 
-/// What a new catalogue leaves of the selection.
+/// How a new catalogue changes the selection.
 struct SelectionCleanup {
-    /// The selection without the channels that the catalogue no longer lists, in its order.
+    /// The channels that the catalogue still lists, in their order.
     std::vector<ObjectId> kept;
     std::vector<ObjectId> removed;
 };

@@ -6,20 +6,20 @@ namespace guide {
 
 namespace {
 
-/// Less sleep than that is none that a person would notice.
+/// Shorter sleep is not noticeable to the user.
 constexpr std::chrono::seconds kShortSleep{30};
-/// How far the clock may run from the time that has passed before it counts as set.
+/// How far the clock may deviate from the elapsed time before it counts as set.
 constexpr std::chrono::seconds kClockDrift{30};
 
 } // namespace
 
-bool SignificantTime::changed(const Look& look) {
-    const Look last = std::exchange(m_last, look);
-    const auto passed = look.sinceStart - last.sinceStart;
-    const auto slept = passed - (look.awake - last.awake);
-    const auto drift = (look.now - last.now) - passed;
-    return look.date != last.date || look.zone != last.zone || slept > kShortSleep || drift > kClockDrift ||
-           drift < -kClockDrift;
+bool SignificantTime::changed(const Reading& reading) {
+    const Reading last = std::exchange(m_last, reading);
+    const auto passed = reading.sinceStart - last.sinceStart;
+    const auto slept = passed - (reading.awake - last.awake);
+    const auto drift = (reading.now - last.now) - passed;
+    return reading.date != last.date || reading.zone != last.zone || slept > kShortSleep ||
+           drift > kClockDrift || drift < -kClockDrift;
 }
 
 } // namespace guide

@@ -9,29 +9,29 @@
 
 namespace guide {
 
-/// Notices, from looks at the device's clocks, what counts as a significant change of time: midnight, another
+/// Detects, from repeated readings of the device's clocks, significant changes of time: midnight, another
 /// zone, a clock that was set, and waking from sleep.
 class SignificantTime {
   public:
-    /// One look at the clocks.
-    struct Look {
+    /// One reading of the clocks.
+    struct Reading {
         Moment now;
-        /// The date there, in the device's zone.
+        /// The date in the device's zone.
         QDate date;
         QByteArray zone;
-        /// Since the machine started: with the time that it slept, and without.
+        /// Since the machine started, with and without the time that it slept.
         std::chrono::milliseconds sinceStart;
         std::chrono::milliseconds awake;
     };
 
-    explicit SignificantTime(Look first)
+    explicit SignificantTime(Reading first)
         : m_last(std::move(first)) {}
 
-    /// Whether anything significant lies between the last look and this one.
-    bool changed(const Look& look);
+    /// Whether anything significant happened since the last reading.
+    bool changed(const Reading& reading);
 
   private:
-    Look m_last;
+    Reading m_last;
 };
 
 } // namespace guide

@@ -18,7 +18,7 @@ struct UpdateCycle::State {
 
     const UpdateCycleEnvironment environment;
     std::atomic<bool> cancelled = false;
-    /// A check has been asked for and has not begun.
+    /// A check was requested and has not started.
     std::atomic<bool> waiting = false;
 };
 
@@ -32,7 +32,7 @@ class ListingsUpdateTask : public std::enable_shared_from_this<ListingsUpdateTas
         , m_tasks(tasks) {}
 
     void begin() {
-        // Held until the identity is known, for the device may be quick to expire the task.
+        // Held until the id is stored, because the device may expire the task at once.
         const std::lock_guard guard(m_mutex);
         m_task = m_tasks.beginBackgroundTask([self = shared_from_this()] { self->endOnMainQueue(); });
     }
@@ -88,41 +88,43 @@ class UpdateCycle::Check {
   public:
     explicit Check(State& state)
         : m_state(state)
-        , m_with(state.environment) {}
+        , m_environment(state.environment) {}
 
     void run(const ShowCounts& counts) {
-        const auto task = std::make_shared<ListingsUpdateTask>(m_with.queues, m_with.backgroundTasks);
+        const auto task =
+            std::make_shared<ListingsUpdateTask>(m_environment.queues, m_environment.backgroundTasks);
         task->begin();
-        m_with.sourceHealth.read();
+        m_environment.sourceHealth.read();
         std::vector<ObjectId> wanted = wantedChannels(counts);
         while (!loadFromSources(wanted)) {
-            // A day has begun: the rest is planned anew, for pages of the day before would be misdated.
+            // A day has begun. The rest is planned again, because pages of the day before would be misdated.
             std::erase_if(wanted, [this](const ObjectId& id) {
-                const std::shared_ptr<TVChannel> channel = m_with.channels.channelWithChannelId(id);
+                const std::shared_ptr<TVChannel> channel = m_environment.channels.channelWithChannelId(id);
                 return !channel || !reloadNeeded(*channel);
             });
         }
         recordHealth();
         task->endOnMainQueue();
         if (m_anythingParsed && !m_state.cancelled) {
-            m_with.loadQueue->sync([this] { m_with.listings.updatePopularList(); });
+            m_environment.loadQueue->sync([this] { m_environment.listings.updatePopularList(); });
         }
     }
 
   private:
     using PlannedChannels = std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>;
 
-    unsigned showCount() const { return static_cast<unsigned>(std::max(0, m_with.showCount())); }
+    unsigned showCount() const { return static_cast<unsigned>(std::max(0, m_environment.showCount())); }
 
     bool reloadNeeded(const TVChannel& channel) const {
-        return channel.reloadNeeded(m_with.clock.now(), m_with.settings.automaticUpdateInterval());
+        return channel.reloadNeeded(m_environment.clock.now(),
+                                    m_environment.settings.automaticUpdateInterval());
     }
 
-    /// The selected channels that are to be planned.
+    /// The selected channels to plan.
     std::vector<ObjectId> wantedChannels(const ShowCounts& counts) const {
         std::vector<ObjectId> wanted;
-        for (const ObjectId& id : m_with.channels.selected()) {
-            const std::shared_ptr<TVChannel> channel = m_with.channels.channelWithChannelId(id);
+        for (const ObjectId& id : m_environment.channels.selected()) {
+            const std::shared_ptr<TVChannel> channel = m_environment.channels.channelWithChannelId(id);
             if (!channel) {
                 continue;
             }
@@ -150,11 +152,11 @@ class UpdateCycle::Check {
             if (!channel || m_state.cancelled) {
                 continue;
             }
-            m_with.loadQueue->sync([&] {
-                const Moment now = m_with.clock.now();
-                const QTimeZone zone = m_with.device.timeZone();
+            m_environment.loadQueue->sync([&] {
+                const Moment now = m_environment.clock.now();
+                const QTimeZone zone = m_environment.device.timeZone();
                 planned.emplace_back(id, planSources(*channel, [&](const QString& sourceId) {
-                                         return m_with.planner.plan(sourceId, now, zone);
+                                         return m_environment.planner.plan(sourceId, now, zone);
                                      }));
             });
             m_loads.emplace(id, ChannelLoad(planned.back().second));
@@ -162,7 +164,7 @@ class UpdateCycle::Check {
         return planned;
     }
 
-    /// False when a day began on the way, and something is left that it makes a difference to.
+    /// False when a day began meanwhile that matters to the remaining steps.
     bool loadFromSources(const std::vector<ObjectId>& wanted) {
         m_day = dayBegan();
         for (const UpdateStep& step : planSteps(plannedChannels(wanted))) {
@@ -176,24 +178,26 @@ class UpdateCycle::Check {
         return true;
     }
 
-    Moment dayBegan() const { return sourceDayBegan(m_with.clock.now(), m_with.device.timeZone()); }
+    Moment dayBegan() const {
+        return sourceDayBegan(m_environment.clock.now(), m_environment.device.timeZone());
+    }
 
     bool load(const UpdateStep& step) {
         auto [items, type] = dueItems(step, [this](const ObjectId& id) -> std::optional<QString> {
-            const std::shared_ptr<TVChannel> channel = m_with.channels.channelWithChannelId(id);
+            const std::shared_ptr<TVChannel> channel = m_environment.channels.channelWithChannelId(id);
             return channel && reloadNeeded(*channel) ? std::optional(channel->language()) : std::nullopt;
         });
         if (items.empty()) {
             return true;
         }
-        // Many of the other pages leave it to their place what day they are of, or speak of today.
+        // Many other pages are dated only by their position, or relative to today.
         const bool isDated = type == ListingsType::XMLTV;
         if (!isDated && dayBegan() != m_day) {
             return false;
         }
         NetPage missing;
         const std::vector<QByteArray> pages = fetch(step.urls, isDated ? Moment::min() : m_day, missing);
-        // Pages that the end of the program cut off must not take the place of a whole list.
+        // Pages cut off by the end of the program must not replace a whole list.
         if (m_state.cancelled) {
             return true;
         }
@@ -204,11 +208,11 @@ class UpdateCycle::Check {
             return true;
         }
         bool isOfToday = true;
-        m_with.loadQueue->sync([&, &items = items, type = type] {
+        m_environment.loadQueue->sync([&, &items = items, type = type] {
             isOfToday = isDated || dayBegan() == m_day;
-            // Nobody reads or shows the list of a channel that was deselected meanwhile.
+            // A channel may have been deselected meanwhile; its list would be parsed for nothing.
             std::erase_if(items, [this](const LoadItem& item) {
-                return !m_with.channels.channelWithChannelId(item.channel);
+                return !m_environment.channels.channelWithChannelId(item.channel);
             });
             if (isOfToday && !items.empty()) {
                 parse(items, pages, type);
@@ -217,7 +221,8 @@ class UpdateCycle::Check {
         return isOfToday;
     }
 
-    /// The pages up to the first that does not come, the answer of which is `missing`; empty ones count.
+    /// The pages before the first that cannot be fetched, whose answer is stored in `missing`. Empty pages
+    /// count.
     std::vector<QByteArray> fetch(const QList<QUrl>& urls, Moment cachedSince, NetPage& missing) {
         std::vector<QByteArray> pages;
         pages.reserve(static_cast<std::size_t>(urls.size()));
@@ -225,9 +230,9 @@ class UpdateCycle::Check {
             if (m_state.cancelled) {
                 break;
             }
-            HTTPRequest request = pageRequest(url, m_with.userAgent);
+            HTTPRequest request = pageRequest(url, m_environment.userAgent);
             request.cachedSince = cachedSince;
-            NetPage answer = m_with.fetcher.netPageForRequest(std::move(request), false);
+            NetPage answer = m_environment.fetcher.netPageForRequest(std::move(request), false);
             if (!answer.page) {
                 if (answer.reason == PageReason::Cancelled) {
                     m_state.cancelled = true;
@@ -243,26 +248,26 @@ class UpdateCycle::Check {
     void parse(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, ListingsType type) {
         MergeResult result;
         {
-            const LoadingMark mark(m_with.channels, items);
-            result = m_with.listDriver.netList(items, pages, m_with.clock.now(), type);
+            const LoadingMark mark(m_environment.channels, items);
+            result = m_environment.listDriver.netList(items, pages, m_environment.clock.now(), type);
         }
-        noteWhatWasRead(items, pages.size(), result);
+        recordSources(items, pages.size(), result);
         if (result.lists.empty()) {
             return;
         }
         m_anythingParsed = true;
-        m_with.listings.saveAllShows();
-        m_with.queues.mainQueue().async([&applicationState = m_with.applicationState,
-                                         offerTop = m_with.offerTop,
-                                         top = topLists(items, result, showCount())] {
+        m_environment.listings.saveAllShows();
+        m_environment.queues.mainQueue().async([&applicationState = m_environment.applicationState,
+                                                offerTop = m_environment.offerTop,
+                                                top = topLists(items, result, showCount())] {
             if (applicationState.applicationState() != ApplicationState::Background) {
                 offerTop(top);
             }
         });
     }
 
-    void noteWhatWasRead(const std::vector<LoadItem>& items, std::size_t pages, const MergeResult& result) {
-        const Moment now = m_with.clock.now();
+    void recordSources(const std::vector<LoadItem>& items, std::size_t pages, const MergeResult& result) {
+        const Moment now = m_environment.clock.now();
         for (const LoadItem& item : items) {
             const auto outcome = result.outcomes.find(item.channel);
             const auto list = result.lists.find(item.channel);
@@ -274,20 +279,20 @@ class UpdateCycle::Check {
     }
 
     void recordHealth() {
-        const Moment now = m_with.clock.now();
+        const Moment now = m_environment.clock.now();
         for (const auto& [channel, channelLoad] : m_loads) {
             if (auto health = channelLoad.health(now)) {
-                m_with.sourceHealth.record(channel, *std::move(health));
+                m_environment.sourceHealth.record(channel, *std::move(health));
             }
         }
-        m_with.sourceHealth.write(m_with.channels.selected());
+        m_environment.sourceHealth.write(m_environment.channels.selected());
     }
 
     State& m_state;
-    const UpdateCycleEnvironment& m_with;
-    const SharedCatalogueSnapshot m_catalogue = m_with.catalogue.snapshot();
+    const UpdateCycleEnvironment& m_environment;
+    const SharedCatalogueSnapshot m_catalogue = m_environment.catalogue.snapshot();
     std::unordered_map<ObjectId, ChannelLoad> m_loads;
-    /// When the day began that the plan is of.
+    /// When the day of the plan began.
     Moment m_day = Moment::min();
     bool m_anythingParsed = false;
 };
@@ -299,7 +304,7 @@ void UpdateCycle::checkAndUpdateAllChannels() {
     if (m_state->waiting.exchange(true)) {
         return;
     }
-    // The shows are counted behind the running check: what that one loads would be loaded again otherwise.
+    // The shows are counted after the running check; otherwise what it loads would be loaded again.
     m_state->environment.checkQueue->async([state = m_state] {
         const UpdateCycleEnvironment& with = state->environment;
         with.listings.showCountForSelectedChannelsForQueue(with.checkQueue,

@@ -24,15 +24,15 @@
 
 namespace guide {
 
-/// What the cycle works with; all of it outlives the last block on its queues.
+/// What the cycle works with. All of it must outlive the last block on its queues.
 struct UpdateCycleEnvironment {
     const Clock& clock;
     const Device& device;
     DispatchQueues& queues;
-    /// Serial, background class: checks, one after the other, and their transfers.
+    /// Serial, background class: runs the checks and their transfers.
     std::shared_ptr<DispatchQueue> checkQueue;
-    /// Serial, background class: planning and parsing. Waited for by the check queue, never the other way
-    /// round; whoever suspends it holds a load back before its lists reach the screens.
+    /// Serial, background class: planning and parsing. The check queue waits for it, never the other way
+    /// round. Suspending it holds a load back before its lists reach the screens.
     std::shared_ptr<DispatchQueue> loadQueue;
     BackgroundTasks& backgroundTasks;
     const ApplicationStateSource& applicationState;
@@ -43,30 +43,28 @@ struct UpdateCycleEnvironment {
     const PageFetcher& fetcher;
     const HTTPUserAgent& userAgent;
     TVListings& listings;
-    /// Told what each load did; read and written by checks.
+    /// Records the result of each load. Only checks read and write its file.
     SourceHealthRecords& sourceHealth;
     /// Reads pages and merges what they hold into the store.
     const ListDriver& listDriver;
-    /// How many shows a channel the now-on-air list wants.
+    /// How many shows per channel the now-on-air list wants.
     std::function<int()> showCount;
-    /// Takes the first shows of each channel that a load has brought, on the main queue. Not called while the
-    /// program is in the background.
+    /// Receives the first shows of each loaded channel, on the main queue. Not called while the application
+    /// is in the background.
     std::function<void(const TopLists&)> offerTop;
 };
 
-/// Loads the selected channels that are due, from the first of their sources that has anything. There is no
-/// timer: a check is run when something makes one worth while, and is cheap when nothing is due.
+/// Loads the selected channels that are due, each from the first of its sources that has shows. There is no
+/// timer: events start a check, which is cheap when nothing is due.
 class UpdateCycle {
   public:
     explicit UpdateCycle(UpdateCycleEnvironment environment);
 
-    /// Starts a check, which waits for the running one; one that is still waiting serves every caller. Any
-    /// thread.
+    /// Starts a check after the running one. Does nothing if a check is already waiting. Any thread.
     void checkAndUpdateAllChannels();
 
-    /// Ends the running check before its next step, and makes every later one do nothing; then waits until it
-    /// has ended. False when the time was up first. For the end of the program, when transfers are already
-    /// cancelled and nobody holds the load queue back.
+    /// Ends the running check before its next step, disables later ones, and waits for the end; false when
+    /// the time is up first. Transfers must have been cancelled, and the load queue must not be suspended.
     bool finish(std::chrono::milliseconds atMost);
 
   private:

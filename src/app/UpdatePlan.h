@@ -15,24 +15,23 @@
 #include <utility>
 #include <vector>
 
-// What a check of the channels decides, as functions from what it knows to what it does. Nothing here reads a
-// clock, a disk or a network.
+// The decisions of a check, as pure functions. Nothing here reads a clock, a disk or the network.
 
 namespace guide {
 
-/// What a check knows of a selected channel.
+/// What a check knows about a selected channel.
 struct ChannelCondition {
-    /// Shows in the store that are not over; nothing when the store has not counted the channel.
+    /// Shows in the store that are not over; unset when the store has not counted the channel.
     std::optional<unsigned> showCount;
     bool loading = false;
-    /// By the age of its list.
+    /// Whether its list is too old.
     bool reloadNeeded = false;
 };
 
 struct ChannelDecision {
-    /// The list runs short: it is to be loaded again, whatever its age.
+    /// The list has too few shows and must be loaded again, whatever its age.
     bool requireReload = false;
-    /// URLs are to be planned for the channel.
+    /// URLs must be planned for the channel.
     bool plan = false;
 };
 
@@ -53,7 +52,7 @@ using PlanSource = std::function<SourcePlan(const QString& sourceId)>;
 
 std::vector<PlannedSource> planSources(const CatalogueChannel& channel, const PlanSource& planSource);
 
-/// One list of URLs, whose pages are fetched once, with everyone that it serves.
+/// One list of URLs, whose pages are fetched once, with the channels that it serves.
 struct UpdateStep {
     struct Served {
         ObjectId channel;
@@ -67,9 +66,9 @@ struct UpdateStep {
     std::vector<Served> served;
 };
 
-/// All the first sources before any second one; within one number in the order of the channels. Sources that
-/// cannot be asked are stepped over. A list that serves several channels, or one channel under several
-/// numbers, stands once, at its first place.
+/// All first sources before any second one, and within one number in the order of the channels. Sources that
+/// cannot be asked are skipped. A list that serves several channels, or one channel under several numbers,
+/// appears once, at its earliest position.
 std::vector<UpdateStep>
 planSteps(const std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>& channels);
 
@@ -85,10 +84,10 @@ struct DueItems {
 DueItems dueItems(const UpdateStep& step,
                   const std::function<std::optional<QString>(const ObjectId&)>& languageOfDueChannel);
 
-/// The first shows of each channel that a load has brought.
+/// The first shows of each loaded channel.
 using TopLists = std::vector<std::pair<ObjectId, ShowSpan>>;
 
-/// In the order of the load items, at most so many shows a channel.
+/// In the order of the load items, at most `showCount` shows per channel.
 TopLists topLists(const std::vector<LoadItem>& items, const MergeResult& result, unsigned showCount);
 
 } // namespace guide

@@ -8,7 +8,7 @@
 
 namespace guide::probe {
 
-/// How a command is called: its operands for the usage line, the options with a value and those without.
+/// The arguments that a command takes.
 struct CommandShape {
     QString operands;
     QStringList valueOptions;
@@ -18,11 +18,10 @@ struct CommandShape {
     int mostOperands = 0;
 };
 
-/// A command line taken apart. An operand may begin with a dash: only a word that begins with two is an
-/// option.
+/// A parsed command line. Only words that begin with two dashes are options.
 struct Arguments {
     QStringList operands;
-    /// The values of each option in the order given, by its name without the dashes; a flag has no values.
+    /// The values of each option in the order given, by name without the dashes. A flag has no values.
     QMap<QString, QStringList> options;
 
     bool has(const QString& option) const { return options.contains(option); }
@@ -30,7 +29,7 @@ struct Arguments {
     std::optional<QString> value(const QString& option) const;
 };
 
-/// Takes the words behind the command apart. Nothing when they do not fit the shape; `fault` then says why.
+/// Parses the words after the command. Nothing when they do not fit the shape; `fault` then says why.
 std::optional<Arguments> parseArguments(const QStringList& words, const CommandShape& shape, QString& fault);
 
 } // namespace guide::probe

@@ -35,7 +35,7 @@ QJsonValue jsonMoment(const std::optional<Moment>& moment) {
 
 std::optional<Moment> momentFromText(const QString& text) {
     const QDateTime moment = QDateTime::fromString(text, Qt::ISODateWithMs);
-    // Without a zone it would be another moment on each device.
+    // Without a zone the moment would depend on the device.
     if (!moment.isValid() || moment.timeSpec() == Qt::LocalTime) {
         return std::nullopt;
     }

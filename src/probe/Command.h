@@ -15,7 +15,7 @@
 
 namespace guide::probe {
 
-/// Why a command did not run: unusable arguments, or something that it could not do.
+/// Why a command did not run.
 struct Failure {
     QString why;
     bool badArguments = false;
@@ -23,15 +23,15 @@ struct Failure {
 
 using Outcome = std::variant<QJsonObject, Failure>;
 
-/// What every command is given.
+/// The input of every command.
 struct Context {
     Arguments arguments;
     Moment now;
     FixedDevice device;
     SourceHostTable hosts;
-    /// What came with the program: supported regions and the host table.
+    /// The folder of the program's data files.
     QString bundleFolder;
-    /// Standard input, one trailing line feed removed; read when it is asked for.
+    /// Reads standard input and removes one trailing line feed.
     std::function<QString()> input;
 };
 
@@ -43,7 +43,7 @@ struct Command {
     std::function<Outcome(Context&)> run;
 };
 
-/// Whether the device of the context writes its dates, and so all that it shows, in Cyrillic.
+/// Whether the device of the context writes dates, and therefore all texts, in Cyrillic.
 bool writesCyrillic(const Context& context);
 
 /// Every command, in the order of the help text.
@@ -55,10 +55,10 @@ std::vector<Command> catalogueCommands();
 std::vector<Command> listingsCommands();
 std::vector<Command> detailCommands();
 
-/// "2026-11-21T10:00:00Z", with milliseconds only where there are any; null for nothing.
+/// "2026-11-21T10:00:00Z", with milliseconds only if there are any; null when unset.
 QJsonValue jsonMoment(const std::optional<Moment>& moment);
 
-/// An ISO 8601 time with its zone; nothing for another text.
+/// Accepts ISO 8601 times with a zone; nothing for any other text.
 std::optional<Moment> momentFromText(const QString& text);
 
 } // namespace guide::probe

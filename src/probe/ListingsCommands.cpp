@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the reader of the type makes of the pages. The shows refer to the alphabet.
+/// The shows that the reader of the type finds in the pages. They refer to the alphabet.
 ParsedLists readPages(const Context& context, const Alphabet& alphabet, const std::vector<LoadItem>& items,
                       const std::vector<QByteArray>& pages, ListingsType type, MarkerTrace* trace = nullptr) {
     const ManualClock clock(context.now);
@@ -29,7 +29,7 @@ ParsedLists readPages(const Context& context, const Alphabet& alphabet, const st
     return driver.read(items, pages, context.now, type, trace);
 }
 
-/// CHANNEL,SOURCE_ID,LANGUAGE: the source id may hold commas.
+/// CHANNEL,SOURCE_ID,LANGUAGE: the source id may contain commas.
 std::optional<LoadItem> loadItem(const QString& text) {
     const qsizetype first = text.indexOf(u',');
     const qsizetype last = text.lastIndexOf(u',');
@@ -43,7 +43,7 @@ std::optional<LoadItem> loadItem(const QString& text) {
 Outcome parse(Context& context) {
     const Arguments& arguments = context.arguments;
     bool isNumber = false;
-    // A number that names no type has no reader.
+    // An unknown number has no reader.
     const auto type =
         static_cast<ListingsType>(arguments.value(u"type"_s).value_or(QString()).toUInt(&isNumber));
     if (!isNumber) {
@@ -69,8 +69,7 @@ Outcome parse(Context& context) {
     return listsJSON(mergedLists(items, std::move(read), context.now, type));
 }
 
-/// Fetches the pages of the URLs as a check does, up to the first that does not come. `why` says why it did
-/// not.
+/// Fetches the pages of the URLs as a check does, up to the first that fails. Stores in `why` why it failed.
 std::vector<QByteArray> fetchPages(const Context& context, const QList<QUrl>& urls, QString& why) {
     std::vector<QByteArray> pages;
     withNetwork(context, why, [&](const PageFetcher& fetcher, const HTTPUserAgent& userAgent) {
@@ -128,7 +127,7 @@ Outcome check(Context& context) {
         report[u"first"_s] = jsonMoment(list->second->front().entry()->dateTime());
         report[u"last"_s] = jsonMoment(list->second->back().entry()->dateTime());
     } else if (const std::string& marker = trace.changed(pages); !isAnyRead && !marker.empty()) {
-        // Shows that are over were read, and need no mending.
+        // Shows that are over were read successfully.
         report[u"lastMissed"_s] = QString::fromStdString(marker);
     }
     return report;

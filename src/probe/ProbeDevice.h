@@ -8,7 +8,7 @@ namespace guide::probe {
 /// this machine.
 FixedDevice probeDevice(const QTimeZone& zone, const QLocale& locale);
 
-/// The locale with a name as systems write it: "sr_RS@cyrillic" names its script behind the "@".
+/// The locale of a POSIX name, in which "@" introduces the script, as in "sr_RS@cyrillic".
 QLocale localeNamed(const QString& name);
 
 } // namespace guide::probe

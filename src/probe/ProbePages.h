@@ -14,14 +14,14 @@
 
 namespace guide::probe {
 
-/// The pages of these files, unpacked where their names say so.
+/// Reads pages from files and unpacks them according to their names.
 std::variant<std::vector<QByteArray>, Failure> pagesFromFiles(const QStringList& paths,
                                                               const Context& context);
 
-/// A source that answers whatever is asked with these pages, one after the other; it refers to them.
+/// A source that returns these pages one after the other, whatever the request. Refers to the pages.
 PageSource givenPages(const std::vector<QByteArray>& pages);
 
-/// Calls `use` with a fetcher of the network. `why` learns why a transfer brought nothing.
+/// Calls `use` with a fetcher on the network. Stores in `why` why a transfer failed.
 void withNetwork(const Context& context, QString& why,
                  const std::function<void(const PageFetcher&, const HTTPUserAgent&)>& use);
 

@@ -66,7 +66,7 @@ Outcome digest(Context& context) {
     return QJsonObject{{u"url"_s, url ? QJsonValue(url->toString()) : QJsonValue(QJsonValue::Null)}};
 }
 
-/// How the scale says that there is no alarm.
+/// The number that stands for no alarm.
 constexpr qint64 kNoAlarm = -1;
 
 Outcome minutes(Context& context) {
@@ -90,7 +90,7 @@ Outcome silent(Context& context) {
     if (!from || !to || !at) {
         return Failure{u"--from, --to and --at each want a time like 07:00"_s, true};
     }
-    return QJsonObject{{u"allowed"_s, SilentStretch{*from, *to}.mayBeAlarmedAt(*at)}};
+    return QJsonObject{{u"allowed"_s, SilentPeriod{*from, *to}.mayBeAlarmedAt(*at)}};
 }
 
 } // namespace

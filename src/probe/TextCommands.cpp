@@ -62,7 +62,7 @@ QJsonObject finished(const Context& context, const QString& text) {
 }
 
 QJsonObject transliterated(const Context& context, const QString& text) {
-    // The system's own locale does not count here: what is not asked for is Latin.
+    // Latin unless requested; the system's locale does not count here.
     const Alphabet alphabet(context.arguments.has(u"cyrillic"_s) ||
                             (context.arguments.has(u"locale"_s) && writesCyrillic(context)));
     return result(latin2Cyrillic(text, context.arguments.value(u"language"_s).value_or(QString()), alphabet));

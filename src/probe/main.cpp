@@ -1,4 +1,4 @@
-// quellin-probe: the guide's engine from a shell. One call, one JSON object on standard output.
+// quellin-probe: the guide's engine on the command line. Prints one JSON object per call.
 
 #include "platform/linux/GlobalLibraries.h"
 #include "platform/linux/LinuxFolders.h"
@@ -57,7 +57,7 @@ QString standardInput() {
     return QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom)(bytes);
 }
 
-/// The context that the common options ask for.
+/// The context given by the common options.
 std::variant<Context, Failure> contextFor(const Arguments& arguments) {
     Moment now{std::chrono::milliseconds(QDateTime::currentMSecsSinceEpoch())};
     if (const auto text = arguments.value(u"now"_s)) {

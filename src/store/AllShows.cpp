@@ -15,28 +15,28 @@ bool earlier(const AllShows::Show& a, const AllShows::Show& b) {
     return std::tie(a.start, a.list) < std::tie(b.start, b.list);
 }
 
-/// What became of the lists of a former state: their numbers in the new one, or kGone.
-std::vector<std::uint32_t> newNumbers(const AllShows::Lists& former, const AllShows::Lists& lists) {
+/// For each list of the state before, its index in the new state, or kGone.
+std::vector<std::uint32_t> newNumbers(const AllShows::Lists& before, const AllShows::Lists& lists) {
     std::unordered_map<const ChannelList*, std::uint32_t> numbers;
     for (std::uint32_t i = 0; i < lists.size(); ++i) {
         numbers.emplace(lists[i].get(), i);
     }
     std::vector<std::uint32_t> result;
-    result.reserve(former.size());
-    for (const auto& list : former) {
+    result.reserve(before.size());
+    for (const auto& list : before) {
         const auto number = numbers.find(list.get());
         result.push_back(number == numbers.end() ? kGone : number->second);
     }
     return result;
 }
 
-/// Whether the lists that are left stand in the same order as before.
+/// Whether the remaining lists are in the same order as before.
 bool orderKept(std::vector<std::uint32_t> newNumbers) {
     std::erase(newNumbers, kGone);
     return std::is_sorted(newNumbers.begin(), newNumbers.end());
 }
 
-/// Merges neighbouring sorted runs until one is left. `borders` are the indices between runs, with both ends.
+/// Merges adjacent sorted runs until one is left. `borders` are the bounds of the runs, both ends included.
 void mergeRuns(std::vector<AllShows::Show>& shows, std::vector<std::size_t> borders) {
     std::vector<AllShows::Show> other(borders.size() > 2 ? shows.size() : 0);
     const auto at = [](std::vector<AllShows::Show>& of, std::size_t index) {
@@ -61,24 +61,24 @@ void mergeRuns(std::vector<AllShows::Show>& shows, std::vector<std::size_t> bord
 AllShows::AllShows(Lists lists, Moment endingAfter, const std::shared_ptr<const AllShows>& previous)
     : m_lists(std::move(lists))
     , m_endingAfter(endingAfter)
-    , m_base(previous ? previous->lastMade(previous) : nullptr) {}
+    , m_base(previous ? previous->lastBuilt(previous) : nullptr) {}
 
-std::shared_ptr<const AllShows> AllShows::lastMade(std::shared_ptr<const AllShows> self) const {
+std::shared_ptr<const AllShows> AllShows::lastBuilt(std::shared_ptr<const AllShows> self) const {
     const std::lock_guard guard(m_guard);
-    return m_showsMade ? std::move(self) : m_base;
+    return m_showsBuilt ? std::move(self) : m_base;
 }
 
 const std::vector<AllShows::Show>& AllShows::shows() const {
-    std::call_once(m_makingShows, [this] {
+    std::call_once(m_buildShows, [this] {
         std::shared_ptr<const AllShows> base;
         {
             const std::lock_guard guard(m_guard);
             base = m_base;
         }
-        make(base.get());
+        build(base.get());
         const std::lock_guard guard(m_guard);
-        m_showsMade = true;
-        m_textMade = m_text != nullptr;
+        m_showsBuilt = true;
+        m_textBuilt = m_text != nullptr;
         m_base.reset();
     });
     return m_shows;
@@ -86,7 +86,7 @@ const std::vector<AllShows::Show>& AllShows::shows() const {
 
 const SearchText& AllShows::searchText() const {
     shows();
-    std::call_once(m_makingText, [this] {
+    std::call_once(m_buildText, [this] {
         if (m_text) {
             return;
         }
@@ -97,14 +97,14 @@ const SearchText& AllShows::searchText() const {
         }
         m_text = std::move(text);
         const std::lock_guard guard(m_guard);
-        m_textMade = true;
+        m_textBuilt = true;
     });
     return *m_text;
 }
 
-const SearchText* AllShows::searchTextIfMade() const {
+const SearchText* AllShows::searchTextIfBuilt() const {
     const std::lock_guard guard(m_guard);
-    return m_textMade ? m_text.get() : nullptr;
+    return m_textBuilt ? m_text.get() : nullptr;
 }
 
 std::vector<AllShows::Show> AllShows::mergedShows(const std::vector<bool>& ofLists) const {
@@ -126,10 +126,10 @@ std::vector<AllShows::Show> AllShows::mergedShows(const std::vector<bool>& ofLis
     return shows;
 }
 
-void AllShows::make(const AllShows* base) const {
+void AllShows::build(const AllShows* base) const {
     std::vector<std::uint32_t> numbers =
         base ? newNumbers(base->m_lists, m_lists) : std::vector<std::uint32_t>();
-    // A clock that was set back brings shows back that the base has no more.
+    // After the clock was set back, shows count again that the base has dropped.
     if (base && (base->m_endingAfter > m_endingAfter || !orderKept(numbers))) {
         base = nullptr;
         numbers.clear();
@@ -149,14 +149,14 @@ void AllShows::make(const AllShows* base) const {
 
 void AllShows::mergeWithBase(const AllShows& base, const std::vector<std::uint32_t>& numbers,
                              const std::vector<Show>& added) const {
-    const std::vector<Show>& former = base.m_shows;
-    const SearchText* const formerText = base.searchTextIfMade();
+    const std::vector<Show>& before = base.m_shows;
+    const SearchText* const formerText = base.searchTextIfBuilt();
     auto text = formerText ? std::make_unique<SearchText>() : nullptr;
-    m_shows.reserve(former.size() + added.size());
+    m_shows.reserve(before.size() + added.size());
     if (text) {
-        text->reserve(former.size() + added.size(), formerText->bytes() + formerText->bytes() / 16);
+        text->reserve(before.size() + added.size(), formerText->bytes() + formerText->bytes() / 16);
     }
-    // The texts of former shows that stay neighbours are taken over in one piece.
+    // The texts of shows that stay adjacent are copied in one piece.
     std::size_t piece = 0;
     const auto endPiece = [&](std::size_t end) {
         if (text) {
@@ -171,8 +171,8 @@ void AllShows::mergeWithBase(const AllShows& base, const std::vector<std::uint32
             text->append(*show.item);
         }
     };
-    for (std::size_t i = 0; i < former.size(); ++i) {
-        Show show = former[i];
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        Show show = before[i];
         show.list = numbers[show.list];
         if (show.list == kGone || show.end <= m_endingAfter) {
             endPiece(i);
@@ -185,7 +185,7 @@ void AllShows::mergeWithBase(const AllShows& base, const std::vector<std::uint32
         }
         m_shows.push_back(show);
     }
-    endPiece(former.size());
+    endPiece(before.size());
     std::for_each(next, added.end(), append);
     m_text = std::move(text);
 }

@@ -16,7 +16,7 @@ ChannelList::ChannelList(ShowList shows)
 }
 
 std::size_t ChannelList::firstNotOver(Moment now) const {
-    // A list begins with what ran when it was stored, so the answer is near the front.
+    // A list begins with the show that was running when it was stored, so the answer is near the front.
     constexpr std::size_t kNear = 4;
     const std::size_t near = std::min(kNear, m_times.size());
     for (std::size_t i = 0; i < near; ++i) {
@@ -39,7 +39,7 @@ ShowSpan ChannelList::notOver(Moment now, std::size_t limit) const {
     if (end - first == limit || end == m_times.size()) {
         return {m_shows, first, end - first};
     }
-    // A show that is over stands between others.
+    // A show that is over lies between others.
     ShowItems shows;
     for (std::size_t i = first; i < m_times.size() && shows.size() < limit; ++i) {
         if (m_times[i].end >= now) {

@@ -9,12 +9,13 @@
 
 namespace guide {
 
-/// The stored list of one channel, with what queries need of it close together. Immutable; any thread.
+/// The stored list of one channel, with the times that queries need in contiguous memory. Immutable; any
+/// thread.
 class ChannelList {
   public:
     static constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
-    /// A list of shows that all have a start, in its order.
+    /// Every show must have a start.
     explicit ChannelList(ShowList shows);
 
     const ShowList& shows() const { return m_shows; }
@@ -23,7 +24,7 @@ class ChannelList {
     Moment startOf(std::size_t index) const { return m_times[index].start; }
     Moment endOf(std::size_t index) const { return m_times[index].end; }
 
-    /// The shows that are not over at the moment, in order, at most so many.
+    /// The first `limit` shows that are not over.
     ShowSpan notOver(Moment now, std::size_t limit = kNoLimit) const;
     std::size_t countNotOver(Moment now, std::size_t limit) const;
 
@@ -31,7 +32,7 @@ class ChannelList {
     struct Times {
         Moment start;
         Moment end;
-        /// The latest end of the shows up to this one: never falls, while ends may.
+        /// The latest end of the shows up to this one; unlike the ends it never decreases.
         Moment latestEnd;
     };
 
@@ -41,7 +42,7 @@ class ChannelList {
     std::vector<Times> m_times;
 };
 
-/// The store's contents at one time.
+/// The contents of the store.
 using ChannelLists = std::unordered_map<ObjectId, std::shared_ptr<const ChannelList>>;
 
 } // namespace guide

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::chrono::seconds kLengthOfLastShow{7200};
 
-/// The pages of all other types say only when a show begins.
+/// The pages of all other types give only the starts.
 bool hasEnds(ListingsType type) {
     return type == ListingsType::PortNetwork || type == ListingsType::XMLTV;
 }

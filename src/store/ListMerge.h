@@ -8,12 +8,12 @@
 
 namespace guide {
 
-/// What the merge made of one channel's freshly read list.
+/// The result of merging one channel's freshly read list.
 enum class MergeOutcome {
     Stored,
     /// The reader found nothing for the channel.
     Empty,
-    /// Everything that was found is over.
+    /// Every show that was found has ended.
     OnlyPast,
 };
 
@@ -24,7 +24,7 @@ struct MergeResult {
     std::unordered_map<ObjectId, MergeOutcome> outcomes;
 };
 
-/// Whether the title is what a source calls an empty slot.
+/// Whether the title is a source's placeholder for an empty slot.
 bool isEmptySlotTitle(QStringView title);
 
 struct MergedList {

@@ -21,7 +21,7 @@ std::chrono::seconds LocalTime::offsetAt(Moment moment) {
         const QDateTime time = QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC);
         const auto from = m_zone.previousTransition(time.addMSecs(1));
         const auto until = m_zone.nextTransition(time);
-        // Where the zone tells of no change, nothing is known of the moments around.
+        // Where the zone knows no transition, the offset is valid for this moment only.
         m_from = from.atUtc.isValid() ? momentOf(from.atUtc) : moment;
         m_until = until.atUtc.isValid() ? momentOf(until.atUtc) : moment + std::chrono::milliseconds(1);
         m_offset = std::chrono::seconds(m_zone.offsetFromUtc(time));

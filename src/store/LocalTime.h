@@ -9,13 +9,13 @@ namespace guide {
 
 inline constexpr qint64 kJulianDayOf1970 = 2'440'588;
 
-/// Where the date begins in UTC.
+/// Midnight UTC of the date.
 inline std::chrono::sys_days utcDay(const QDate& date) {
     return std::chrono::sys_days(std::chrono::days(date.toJulianDay() - kJulianDayOf1970));
 }
 
-/// The wall clock of one zone. Quick for moments that lie near to each other: the zone is asked once for all
-/// of them between two changes of its clock. For one thread.
+/// The wall clock of one zone. Fast for moments that are close together: it queries the zone once for each
+/// period between two changes of its offset. For one thread.
 class LocalTime {
   public:
     explicit LocalTime(const QTimeZone& zone);
@@ -23,14 +23,14 @@ class LocalTime {
     QDate dateAt(Moment moment);
     /// 0 to 23.
     int hourAt(Moment moment);
-    /// What the clock is ahead of UTC.
+    /// Positive when the clock is ahead of UTC.
     std::chrono::seconds offsetAt(Moment moment);
 
   private:
     std::chrono::seconds localSecondsAt(Moment moment);
 
     QTimeZone m_zone;
-    /// The moments at which the clock is ahead by the offset.
+    /// The period in which the offset applies.
     Moment m_from = Moment::max();
     Moment m_until = Moment::min();
     std::chrono::seconds m_offset{0};

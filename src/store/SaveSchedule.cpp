@@ -11,7 +11,8 @@ namespace guide {
 
 namespace {
 
-/// A background task for as long as it lives; ended on the main queue, then or when the device will not wait.
+/// Holds a background task while it lives. The task ends on the main queue, when this is destroyed or when
+/// the device expires it.
 class WritingTask {
   public:
     WritingTask(BackgroundTasks& tasks, DispatchQueue& mainQueue)

@@ -14,8 +14,8 @@
 
 namespace guide {
 
-/// Which lists have changed since their files were written, and the writing of the files, on a serial
-/// background queue. What it is made of outlives its last block. Any thread.
+/// Keeps track of the lists that have changed since their files were written, and writes the files on a
+/// serial background queue. What it is given must outlive that queue's last block. Any thread.
 class SaveSchedule : public std::enable_shared_from_this<SaveSchedule> {
   public:
     SaveSchedule(DispatchQueues& queues, const Clock& clock, const Folders& folders,
@@ -23,17 +23,17 @@ class SaveSchedule : public std::enable_shared_from_this<SaveSchedule> {
 
     DispatchQueue& queue() { return *m_queue; }
 
-    /// Schedules the lists, in the background. Their files will bear the date of this moment.
+    /// Schedules the lists, asynchronously. Their files get the current time as their date.
     void add(std::vector<ObjectId> channels);
     /// Blocks on the queue.
     bool contains(const ObjectId& channel);
     bool empty();
 
-    /// Writes the files of the scheduled lists, under a background task. On the queue. A list without shows
-    /// that have not ended leaves its file alone. A list that could not be written stays scheduled.
+    /// Writes the files of the scheduled lists under a background task. Must run on the queue. The file of a
+    /// list whose shows have all ended is left alone; a list that could not be written stays scheduled.
     void write(const ChannelLists& lists);
 
-    /// While it is set, a writing ends behind the file that it is at, and the other lists stay scheduled.
+    /// While set, write() stops after the current file, and the remaining lists stay scheduled.
     void setAbandoned(bool abandoned) { m_abandoned.store(abandoned, std::memory_order_relaxed); }
 
   private:
@@ -45,7 +45,7 @@ class SaveSchedule : public std::enable_shared_from_this<SaveSchedule> {
     const QString m_cachesFolder;
     BackgroundTasks& m_backgroundTasks;
     const std::shared_ptr<DispatchQueue> m_queue;
-    /// When each list was loaded: a later start reads it from the file's date. On the queue.
+    /// The load time of each list, which becomes its file's date. Used on the queue.
     std::unordered_map<ObjectId, Moment> m_scheduled;
     std::atomic<bool> m_abandoned{false};
 };

@@ -14,18 +14,18 @@
 
 namespace guide {
 
-/// The most shows that a query over all shows answers.
+/// The most shows that a query over all shows returns.
 inline constexpr std::size_t kMostShows = 2000;
 
 /// Shows that share a bit with the mask, have not ended, and are series if and only if the mask asks for
 /// series.
 ShowItems showsWithCategory(const AllShows& all, TVListingsCategory category, Moment now);
 
-/// Shows that are not over; for the selector "Evening Shows" those that start at 19 o'clock or later.
+/// Shows that are not over; for the selector "Evening Shows" only those that start at 19:00 or later.
 ShowItems allShowsWithCategory(const AllShows& all, TVListingsCategory category, Moment now,
                                const QTimeZone& zone);
 
-/// The shows of the list that have not ended, however many; none of a null list.
+/// The shows of the list that have not ended, without a limit. The list may be null.
 ShowItems showsNotEnded(const ShowList& list, Moment now);
 
 /// Shows with a favourite title that have not ended.
@@ -41,7 +41,7 @@ FavoritesToCome favoritesToCome(const AllShows& all, const FavoriteTitles& favor
 /// Shows of exactly this title that are not over.
 ShowItems showScheduleForTitle(const AllShows& all, const QString& title, Moment now);
 
-/// Whether a show with this source title, a repeat or not, is not over.
+/// Whether a show with this source title and this flag is not over.
 bool isBroadcast(const AllShows& all, const QString& identificator, bool previouslyShown, Moment now);
 
 /// The first show whose digest URL this is.

@@ -10,10 +10,10 @@ namespace guide {
 
 namespace {
 
-/// Stands behind each text; no UTF-8 holds it.
+/// Follows each text; does not occur in UTF-8.
 constexpr char kTextEnd = '\xff';
 
-/// The most that a unit of a text takes as UTF-8.
+/// The most bytes that one UTF-16 unit takes in UTF-8.
 constexpr qsizetype kBytesPerUnit = 3;
 
 } // namespace
@@ -82,7 +82,7 @@ std::size_t SearchText::find(const QByteArray& searchPattern, std::size_t from) 
     if (found == nullptr) {
         return size();
     }
-    // The show is looked for in steps that double: of a frequent pattern it is near.
+    // Gallops: the matches of a frequent pattern are close together.
     const auto at = static_cast<std::size_t>(static_cast<const char*>(found) - text);
     std::size_t low = from;
     std::size_t step = 1;

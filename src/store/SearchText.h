@@ -10,12 +10,12 @@
 
 namespace guide {
 
-/// A pattern as searches compare it: without case and diacritics. Empty when nothing is left of it, and then
-/// it is found nowhere.
+/// A pattern in the form that searches compare: without case and diacritics. When nothing is left it is
+/// empty, and find() never finds it.
 QByteArray searchPattern(const QString& pattern);
 
-/// The texts of shows, without case and diacritics, in one piece of memory. A pattern is found within one
-/// text of one show, never across two.
+/// The texts of shows, without case and diacritics, in one buffer. A pattern is found only within a single
+/// text.
 class SearchText {
   public:
     std::size_t size() const { return m_ends.size(); }
@@ -25,10 +25,10 @@ class SearchText {
 
     /// Folds the texts of one more show.
     void append(const ShowItem& show);
-    /// Takes over the texts of shows that were folded before.
+    /// Copies texts that are already folded.
     void append(const SearchText& other, std::size_t first, std::size_t count);
 
-    /// The index of the first show at or behind `from` that holds the pattern; size() when none does.
+    /// The index of the first show at or after `from` that contains the pattern; size() when none does.
     std::size_t find(const QByteArray& searchPattern, std::size_t from) const;
 
   private:

@@ -40,14 +40,14 @@ void encode(KeyedArchiver& archiver, const TVEntrySupplementalData& details) {
     archiver.endRecord();
 }
 
-/// Reads the shows of one archive; remembers the texts that every show of a list repeats.
+/// Reads the shows of one archive and shares the texts that they have in common.
 class ShowDecoder {
   public:
     ShowDecoder(KeyedUnarchiver& unarchiver, const Alphabet& alphabet)
         : m_unarchiver(unarchiver)
         , m_alphabet(alphabet) {}
 
-    /// Reads one show, whole; nothing when it has no title or no start, or when the reading failed.
+    /// Reads one show; nothing when it has no title or no start, or when reading fails.
     std::optional<ShowItem> decode() {
         constexpr std::size_t kMostParts = 4;
         const std::size_t count = m_unarchiver.array();
@@ -92,7 +92,7 @@ class ShowDecoder {
 
         const auto readChannel = [&](KeyedUnarchiver& unarchiver) {
             if (unarchiver.kind() == KeyedUnarchiver::Kind::Text) {
-                // The old form of the file.
+                // The format of older files.
                 QString hex;
                 unarchiver.decode(hex);
                 channel = ObjectId::fromHex(hex).bytes();

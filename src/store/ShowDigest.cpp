@@ -16,10 +16,10 @@ namespace {
 
 constexpr Moment kReferenceDate{std::chrono::seconds(978'307'200)};
 constexpr qsizetype kDigestDigits = 32;
-/// Behind the channel and the start.
+/// After the channel and the start.
 constexpr qsizetype kTitleAt = 12 + 4;
 
-/// Whole seconds since the reference date, halves away from zero, as they fit into 32 bits.
+/// Seconds since the reference date, rounded with halves away from zero and truncated to 32 bits.
 std::int32_t secondsSinceReferenceDate(const std::optional<Moment>& date) {
     const std::int64_t milliseconds = date ? (*date - kReferenceDate).count() : 0;
     const std::int64_t half = milliseconds < 0 ? -500 : 500;
@@ -38,7 +38,7 @@ ShowDigest showDigest(const ObjectId& channel, const std::optional<Moment>& date
     QByteArray buffer(kTitleAt + kMostBytesPerUnit * identificator.size(), Qt::Uninitialized);
     char* at = std::copy(channel.bytes().begin(), channel.bytes().end(), buffer.data());
     qToBigEndian(qint32{secondsSinceReferenceDate(date)}, at);
-    // Written as listing files write it, so that a show that is read back has the digest that it had.
+    // Encoded as in listing files, so that a show keeps its digest when it is read back.
     buffer.truncate(writeUtf8(identificator, buffer.data() + kTitleAt) - buffer.constData());
     const QByteArray hash = QCryptographicHash::hash(buffer, QCryptographicHash::Md5);
     ShowDigest digest{};

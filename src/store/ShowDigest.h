@@ -14,10 +14,10 @@
 
 namespace guide {
 
-/// What names one broadcast in URLs: an MD5 of its channel, start and title.
+/// Identifies one broadcast: the MD5 of its channel, start and title.
 using ShowDigest = std::array<std::uint8_t, 16>;
 
-/// The bytes of a digest are random already.
+/// Takes the first bytes, which are evenly distributed.
 struct ShowDigestHash {
     std::size_t operator()(const ShowDigest& digest) const {
         std::size_t hash = 0;
@@ -37,7 +37,7 @@ QUrl urlOfDigest(const ShowDigest& digest, const QString& scheme);
 std::optional<QUrl> urlDigestFromChannel(const ObjectId& channel, const std::optional<Moment>& date,
                                          const std::optional<QString>& identificator, const QString& scheme);
 
-/// The digest that a URL of this form names, whatever its scheme; nothing when it is of another form.
+/// The digest in a URL of this form, whatever its scheme; nothing for a URL of another form.
 std::optional<ShowDigest> digestOfUrl(const QUrl& url);
 
 } // namespace guide

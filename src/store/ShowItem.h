@@ -17,7 +17,7 @@
 
 namespace guide {
 
-/// A show while it is being made by a reader: its entry may still change.
+/// A show that a reader is building; its entry may still change.
 struct ExtendedTVEntry {
     std::shared_ptr<TVEntry> basic;
     /// Unset makes a show item of one element.
@@ -28,11 +28,11 @@ struct ExtendedTVEntry {
     QSet<QUrl> pictures;
 };
 
-/// What a reader hands to the merge: for each channel its shows in the order of reading.
+/// The result of a reader: the shows of each channel in the order of reading.
 using ParsedLists = std::unordered_map<ObjectId, std::vector<ExtendedTVEntry>>;
 
-/// One show of a list: the entry, and up to three parts more. Immutable; a copy is one shared pointer. A
-/// default-made item has no parts and must not be asked for them.
+/// One show of a list: the entry, and up to three further parts. Immutable and cheap to copy. The accessors
+/// must not be called on a default-constructed item.
 class ShowItem {
   public:
     ShowItem() = default;
@@ -40,7 +40,7 @@ class ShowItem {
                       std::optional<TVListingsCategory> categories = std::nullopt,
                       std::shared_ptr<const TVEntrySupplementalData> details = nullptr,
                       QSet<QUrl> pictures = {});
-    /// Takes over what a reader made.
+    /// From what a reader has built.
     explicit ShowItem(ExtendedTVEntry show);
 
     explicit operator bool() const { return m_parts != nullptr; }
@@ -48,13 +48,13 @@ class ShowItem {
     const std::shared_ptr<const TVEntry>& entry() const { return m_parts->entry; }
     const std::optional<TVListingsCategory>& categories() const { return m_parts->categories; }
     const std::shared_ptr<const TVEntrySupplementalData>& details() const { return m_parts->details; }
-    /// Any member serves as the picture of a row.
+    /// Any of them can serve as the picture of a row.
     const QSet<QUrl>& pictures() const { return m_parts->pictures; }
 
-    /// 1 to 4: how far the parts go.
+    /// 1 to 4: the position of the last part that is present.
     int elementCount() const;
 
-    /// Whether both are the same item, not whether their parts are equal.
+    /// Compares identity, not contents.
     friend bool operator==(const ShowItem&, const ShowItem&) = default;
 
   private:
@@ -69,11 +69,11 @@ class ShowItem {
 
 using ShowItems = std::vector<ShowItem>;
 
-/// A list of shows in ascending start time. The vector never changes: a change replaces the list. Null is no
+/// A list of shows in ascending start time. It never changes: a change replaces it. Null when there is no
 /// list.
 using ShowList = std::shared_ptr<const ShowItems>;
 
-/// A stretch of a list, which it keeps alive. Cheap to make and to copy, whatever its length.
+/// A range of a list, which it keeps alive. Cheap to make and to copy, whatever its length.
 class ShowSpan {
   public:
     ShowSpan() = default;
@@ -83,7 +83,7 @@ class ShowSpan {
         , m_count(m_list ? m_list->size() : 0) {}
     explicit ShowSpan(ShowItems items)
         : ShowSpan(std::make_shared<const ShowItems>(std::move(items))) {}
-    /// `first` and `count` lie within the list.
+    /// The range must lie within the list.
     ShowSpan(ShowList list, std::size_t first, std::size_t count)
         : m_list(std::move(list))
         , m_first(first)
@@ -95,7 +95,7 @@ class ShowSpan {
     bool empty() const { return m_count == 0; }
     const ShowItem& operator[](std::size_t index) const { return begin()[index]; }
 
-    /// The first so many shows, or all when there are fewer.
+    /// The first `count` shows, or all when there are fewer.
     ShowSpan prefix(std::size_t count) const { return {m_list, m_first, std::min(count, m_count)}; }
     ShowItems items() const { return {begin(), end()}; }
 
@@ -105,7 +105,7 @@ class ShowSpan {
     std::size_t m_count = 0;
 };
 
-/// One channel that a set of pages is read for.
+/// One channel for which a set of pages is read.
 struct LoadItem {
     ObjectId channel;
     QString sourceId;

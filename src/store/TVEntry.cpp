@@ -8,13 +8,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The channel whose shows all carry one title and are told apart by their subtitles.
+/// The channel whose shows all have the same title and differ in their subtitles.
 const ObjectId& channelTitledBySubtitle() {
     static const ObjectId channel = ObjectId::fromHex(u"58f4ded60befe78cb336a80b"_s);
     return channel;
 }
 
-/// Keeps the value as the one that every thread sees; the first to come wins.
+/// Publishes the value to all threads unless another thread was first; returns the published one.
 template <class T>
 const T& keptOnce(std::atomic<const T*>& place, T value) {
     const T* kept = nullptr;
@@ -84,7 +84,7 @@ void TVEntry::derive(std::optional<QString> Texts::* text) {
         shown = latin2Cyrillic(*source, m_language ? *m_language : kNoLanguage, *m_alphabet);
     }
     if (!m_display) {
-        // A text that is not converted comes back as the very one.
+        // A text that needs no conversion is returned as the same shared string.
         if (!source || shown->constData() == source->constData() || *shown == *source) {
             return;
         }
@@ -146,7 +146,7 @@ std::optional<QString> TVEntry::fullInstantDetails() const {
         joined = text && !text->isEmpty();
         text = joined ? *text + ", "_L1 + **part : **part;
     }
-    // A text that is one of the parts costs nothing to answer again.
+    // A text that equals one of the parts is not worth caching.
     return joined ? keptOnce(m_fullInstantDetails, *std::move(text)) : text;
 }
 

@@ -17,16 +17,15 @@ namespace guide {
 /// One broadcast of one channel.
 ///
 /// The texts come in pairs: a source form with the suffix 1 (and `identificator`), which is stored, and a
-/// display form, which the setter of the source form derives by the alphabet and the language, and which
-/// setLanguage derives anew for all four. While it is being made, an entry belongs to one thread; once in a
-/// list it is shared as a pointer to const and never changes, but for two derived values that are written
-/// once.
+/// display form, which the setter of the source form derives from the alphabet and the language.
+/// setLanguage() derives all four again. An entry belongs to one thread until it is in a list; then it is
+/// shared as a pointer to const, and only its cached values are still written, once each.
 class TVEntry {
   public:
-    /// The alphabet outlives the entry.
+    /// The alphabet must outlive the entry.
     explicit TVEntry(const Alphabet& alphabet)
         : m_alphabet(&alphabet) {}
-    /// A copy to be changed; the derived values are not taken along.
+    /// For a copy that is to be changed; cached values are not copied.
     TVEntry(const TVEntry& other);
     TVEntry& operator=(const TVEntry&) = delete;
     ~TVEntry();
@@ -42,20 +41,19 @@ class TVEntry {
     /// The source that supplied the show.
     const std::optional<QString>& sourceId() const { return m_sourceId; }
     void setSourceId(std::optional<QString> sourceId) { m_sourceId = std::move(sourceId); }
-    /// The detail page of the show at its source. It is kept as its encoded text, which costs less in a long
-    /// list.
+    /// The page with the show's details. Stored as encoded text, which takes less memory in a long list.
     std::optional<QUrl> url() const;
-    /// An address that is empty or invalid is none.
+    /// An empty or invalid URL counts as unset.
     void setUrl(const std::optional<QUrl>& url);
     const std::optional<QString>& encodedUrl() const { return m_encodedUrl; }
     void setEncodedUrl(std::optional<QString> url) { m_encodedUrl = std::move(url); }
     bool previouslyShown() const { return m_previouslyShown; }
     void setPreviouslyShown(bool previouslyShown) { m_previouslyShown = previouslyShown; }
 
-    /// The title as the source gave it, less every pair of a backslash and an n.
+    /// The title as the source gave it, without any backslash followed by an n.
     const std::optional<QString>& identificator() const { return m_source.title; }
     void setIdentificator(std::optional<QString> identificator);
-    /// For comparisons; made when it is asked for.
+    /// For comparisons. Not cached.
     QString lowercasedIdentificator() const;
 
     const std::optional<QString>& instantDetails1() const { return m_source.instantDetails; }
@@ -65,7 +63,7 @@ class TVEntry {
     const std::optional<QString>& instantDescription1() const { return m_source.instantDescription; }
     void setInstantDescription1(std::optional<QString> instantDescription1);
 
-    /// The display title: the subtitle for the one channel whose titles all say the same.
+    /// The display title; the subtitle for the one channel whose titles are all the same.
     const std::optional<QString>& title() const;
     const std::optional<QString>& instantDetails() const { return shown().instantDetails; }
     const std::optional<QString>& subtitle() const { return shown().subtitle; }
@@ -74,19 +72,18 @@ class TVEntry {
     const std::optional<QString>& language() const { return m_language; }
     void setLanguage(std::optional<QString> language);
 
-    /// The details, subtitle and description that are there, joined by ", "; nothing when there is none.
-    /// Joined once and kept.
+    /// The details, subtitle and description that are set, joined by ", "; unset when none is. Cached.
     std::optional<QString> fullInstantDetails() const;
 
-    /// What identifies this broadcast; unset without a title. Computed once and kept.
+    /// Unset without a title. Cached.
     std::optional<ShowDigest> digest() const;
-    /// The stable URL of this broadcast in the application's scheme; nothing without a title. Made once and
-    /// kept: a later call with another scheme answers the first one.
+    /// The stable URL of this broadcast in the application's scheme; unset without a title. Cached: a later
+    /// call with another scheme returns the first URL.
     std::optional<QUrl> urlDigestWithScheme(const QString& scheme) const;
 
-    /// Whether the show ends after the moment; one without an end does not.
+    /// False for a show without an end.
     bool endsAfter(Moment now) const { return m_endDateTime && *m_endDateTime > now; }
-    /// Whether the show is over: it ended before the moment, or has no end.
+    /// True for a show that ended before the moment or has no end.
     bool overAt(Moment now) const { return !m_endDateTime || *m_endDateTime < now; }
 
   private:
@@ -110,7 +107,7 @@ class TVEntry {
     std::optional<QString> m_language;
     std::optional<QString> m_encodedUrl;
     Texts m_source;
-    /// Null where the display forms are the source forms.
+    /// Null when the display forms equal the source forms.
     std::unique_ptr<Texts> m_display;
 
     mutable std::atomic<const QString*> m_fullInstantDetails{nullptr};

@@ -9,7 +9,7 @@ namespace guide {
 
 class Alphabet;
 
-/// The long details of a show, all optional. Shared as a pointer to const once it is in a list.
+/// The long details of a show. Shared as a pointer to const once it is in a list.
 struct TVEntrySupplementalData {
     std::optional<QString> description;
     std::optional<QString> episodeDescription;
@@ -23,7 +23,7 @@ struct TVEntrySupplementalData {
     /// True when every field is unset.
     bool empty() const;
 
-    /// The same details with their five texts in the display form of their language.
+    /// A copy with its five texts in the display form of their language.
     TVEntrySupplementalData updateAlphabet(const Alphabet& alphabet) const;
 
     friend bool operator==(const TVEntrySupplementalData&, const TVEntrySupplementalData&) = default;

@@ -39,7 +39,7 @@ void TVListings::State::query(std::function<void(State&)> block) {
 
 void TVListings::State::queryAllShows(QueuePriority priority,
                                       std::function<void(State&, const AllShows&)> block) {
-    // The block is moved on, never copied: what it holds for the main queue must not be let go of here.
+    // The block is moved, never copied: what it captured for the main queue must not be released here.
     query([priority, block = std::move(block)](State& state) mutable {
         state.underway.async(state.environment.queues.globalQueue(priority),
                              [self = state.shared_from_this(), all = state.allShows,
@@ -82,7 +82,7 @@ std::shared_ptr<const ChannelList> TVListings::State::readList(const ObjectId& c
 }
 
 void TVListings::State::saveAllShows(bool updatePopular) {
-    // Of shows that start together, the one on the channel that the user put first comes first.
+    // Shows that start at the same time are ordered by the user's order of channels.
     AllShows::Lists ordered;
     std::unordered_set<ObjectId> placed{ObjectId::popular()};
     for (const ObjectId& channel : environment.channels.selected()) {
@@ -139,7 +139,7 @@ void TVListings::State::scheduleSaving(std::vector<ObjectId> channels) {
 void TVListings::State::commitFiles() {
     saveSchedule->setAbandoned(false);
     query([](State& state) {
-        // What is scheduled on the file queue by now is in the lists that are handed to it.
+        // Every list that is already scheduled on the file queue is among these.
         state.underway.async(
             state.saveSchedule->queue(),
             [self = state.shared_from_this(), lists = state.lists] { self->saveSchedule->write(lists); });
@@ -167,7 +167,7 @@ MergeResult TVListings::merge(const std::vector<LoadItem>& items, ParsedLists pa
     m_state->change([made = std::move(made)](State& state) {
         std::vector<ObjectId> channels;
         for (const auto& [channel, list] : made) {
-            // Its pages may have been under way when the user gave the channel up.
+            // The user may have deselected the channel while its pages were being loaded.
             if (!state.environment.channels.channelWithChannelId(channel)) {
                 continue;
             }

@@ -23,7 +23,7 @@
 
 namespace guide {
 
-/// What the store is made of and asks; all of it outlives the last block of the store's queues.
+/// What the store works with. All of it must outlive the last block on the store's queues.
 struct TVListingsEnvironment {
     const Clock& clock;
     const Device& device;
@@ -38,62 +38,62 @@ struct TVListingsEnvironment {
     ListingsObserver& observer;
     /// The application's URL scheme; empty when it has none.
     QString scheme;
-    /// How many shows a channel the screens want.
+    /// How many shows per channel the screens want.
     std::function<int()> showCount;
 };
 
 using ShowCounts = std::unordered_map<ObjectId, unsigned>;
 using ShowsBlock = std::function<void(ShowItems)>;
 
-/// The one store of schedules: a list of shows for each channel, a file for each list, and every query over
-/// them. All operations may be called from any thread; none blocks, save where it says so. A query asked
-/// before the first read is done waits for it.
+/// The store of schedules: a list of shows for each channel, a file for each list, and all queries over them.
+/// Any thread. Operations do not block unless they say so. Queries asked before the first read is complete
+/// wait for it.
 class TVListings {
   public:
-    /// Starts to read the listing files of the selected channels in the background.
+    /// Starts reading the listing files of the selected channels in the background.
     explicit TVListings(TVListingsEnvironment environment);
     ~TVListings();
 
     // ---- changes
 
-    /// Puts freshly read lists in the place of the stored ones: sorted, without double start times and
-    /// closing placeholders, with end times by the rule of the listing type, without what is over. A channel
-    /// whose list is empty or past keeps what it has, one that is selected no more gets nothing. The load
-    /// time of every stored channel is set when this returns.
+    /// Replaces the stored lists by freshly read ones: sorted, without duplicate starts and closing
+    /// placeholders, with the end times of the listing type, without what is over. A channel whose list is
+    /// empty or past keeps its old one; a channel that is no longer selected gets none. The load time of
+    /// every stored channel is set on return.
     MergeResult merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, ListingsType type);
 
-    /// Forgets the list; its file stays.
+    /// Removes the list but not its file.
     void removeListingsForChannel(const ObjectId& channel);
-    /// Makes the list of all shows anew; the second also starts the refresh of the most watched shows.
+    /// Rebuild the list of all shows; the second also starts a refresh of the most watched shows.
     void saveAllShows();
     void updatePopularList();
 
-    /// Gives one show of a stored list other details, and pictures when there are any. Does nothing when the
-    /// list holds this very entry no more.
+    /// Replaces the details of one stored show, and its pictures when any are given. Does nothing when the
+    /// list no longer holds this very entry.
     void updateDetails(std::shared_ptr<const TVEntry> entry,
                        std::shared_ptr<const TVEntrySupplementalData> details, const QSet<QUrl>& pictures);
-    /// Sets the IMDb page, and the pictures when there are any, on every show of the channel with exactly
+    /// Sets the IMDb page, and the pictures when any are given, on every show of the channel with exactly
     /// this mask and title.
     void updateIMDBForChannel(const ObjectId& channel, const QString& identificator,
                               TVListingsCategory category, const QUrl& url, const QSet<QUrl>& pictureURLs);
 
     // ---- files
 
-    /// Sets the channel's load time to now at once, and schedules its list; in the background it is written
-    /// soon.
+    /// Sets the channel's load time at once and schedules its list for saving. While the application is in
+    /// the background, the list is written soon.
     void addToSaveSchedule(const ObjectId& channel);
     /// Blocks on the file queue.
     bool isScheduledForSaving(const ObjectId& channel);
-    /// Writes the lists that are scheduled, in the background. What could not be written stays scheduled.
+    /// Starts writing the scheduled lists. What cannot be written stays scheduled.
     void commitFiles();
-    /// Blocks until every change and query that was asked for is done and every scheduled list is written, or
-    /// the time is up: then no further file is begun. True when nothing is left to be written.
+    /// Blocks until all pending changes and queries are done and all scheduled lists are written, or until
+    /// the time is up; then no further file is started. True when nothing is left to write.
     bool finishWriting(std::chrono::milliseconds atMost);
 
     // ---- queries
 
-    /// One list for each selected channel, in the selected order, also an empty one; at most showCount shows
-    /// that are not over.
+    /// One list for each selected channel, in the selected order, with the first showCount shows that are not
+    /// over; the list may be empty.
     void
     onAirShowsWithQueue(std::shared_ptr<DispatchQueue> queue,
                         std::function<void(std::vector<ObjectId> selected, std::vector<ShowSpan>)> block);
@@ -103,24 +103,24 @@ class TVListings {
     /// For each selected channel how many shows are not over, counted up to showCount.
     void showCountForSelectedChannelsForQueue(std::shared_ptr<DispatchQueue> queue,
                                               std::function<void(ShowCounts)> block);
-    /// Shows that share a bit with the mask, series only where the mask asks for them.
+    /// Shows that share a bit with the mask; series only if the mask includes them.
     void showsWithCategory(TVListingsCategory category, QueuePriority priority,
                            MainBlock<ShowSpan> mainBlock);
     /// The shows of a selector: the most watched, those of the evening, or all.
     void allShowsWithCategory(TVListingsCategory category, QueuePriority priority,
                               MainBlock<ShowSpan> mainBlock);
-    /// Shows with the pattern in one of their texts, without regard to case and diacritics. Answers on the
-    /// global user-initiated queue.
+    /// Shows that contain the pattern in one of their texts, ignoring case and diacritics. The block runs on
+    /// the global user-initiated queue.
     void showsContainingPattern(const QString& pattern, ShowsBlock highPriorityBlock);
     /// The show with this digest URL. The block is not called when there is none.
     void showWithURL(const QUrl& url, MainBlock<ShowItem> mainBlock);
     void favoritesScheduleWithPriority(QueuePriority priority, MainBlock<ShowSpan> mainBlock);
-    /// Answers on the access queue: the block must not wait for the store.
+    /// The block runs on the access queue and must not wait for the store.
     void favoritesScheduleWithBlock(ShowsBlock block);
-    /// Favourites that have not begun. Answers on the access queue: the block must not wait for the store.
+    /// Favourites that have not begun. The block runs on the access queue and must not wait for the store.
     void favoritesScheduleWithURLBlock(std::function<void(FavoritesToCome)> URLBlock);
     void showScheduleForTitle(const QString& title, QueuePriority priority, MainBlock<ShowSpan> mainBlock);
-    /// Whether a show of this source title, a repeat or not, is running or to come.
+    /// Whether a show with this source title and this flag is running or to come.
     void broadcastForTitle(const QString& title, bool previouslyShown, MainBlock<bool> mainBlock);
 
   private:

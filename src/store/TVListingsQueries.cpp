@@ -111,7 +111,7 @@ void TVListings::showWithURL(const QUrl& url, MainBlock<ShowItem> mainBlock) {
             mainBlock.post(state.mainQueue(), *std::move(show));
             return;
         }
-        // What the block holds belongs to the main queue, also when it is not called.
+        // What the block captured is released on the main queue even if the block is not called.
         state.mainQueue().async([unused = std::move(mainBlock)] {});
     });
 }

@@ -7,31 +7,31 @@
 
 namespace guide {
 
-/// What the blocks of one store share. The members below the queue belong to it: blocks read them, barriers
-/// write them.
+/// What the blocks of one store share. The access queue guards the members declared after it: blocks read
+/// them, barriers write them.
 struct TVListings::State : std::enable_shared_from_this<State> {
     explicit State(TVListingsEnvironment environment);
 
-    // ---- from any thread
+    // ---- any thread
 
     /// Reads the listing files of the selected channels, in one barrier that waits for all of them.
     void startFirstRead();
     /// Submits a change as a barrier.
     void change(std::function<void(State&)> block);
-    /// Runs the block on the access queue, beside other queries.
+    /// Runs the block on the access queue, concurrently with other queries.
     void query(std::function<void(State&)> block);
-    /// Runs the block on the global queue of the priority, with all shows as a query on the access queue
-    /// found them.
+    /// Runs the block on the global queue of the priority, with the list of all shows that a query on the
+    /// access queue has read.
     void queryAllShows(QueuePriority priority, std::function<void(State&, const AllShows&)> block);
-    /// Schedules the lists, and writes them when the program is in the background.
+    /// Schedules the lists, and writes them if the application is in the background.
     void scheduleSaving(std::vector<ObjectId> channels);
     void commitFiles();
-    /// Answers the shows that `find` finds among all. `find` runs on the global queue.
+    /// Answers with the shows that `find` returns. `find` runs on the global queue.
     void answerShows(QueuePriority priority, MainBlock<ShowSpan> mainBlock,
                      std::function<ShowItems(const TVListingsEnvironment&, const AllShows&)> find);
     DispatchQueue& mainQueue() const { return environment.queues.mainQueue(); }
     void setTimeLoaded(const ObjectId& channel) const;
-    /// The list of the channel's file without what has ended; null when there is none.
+    /// The list in the channel's file without what has ended; null when nothing is left.
     std::shared_ptr<const ChannelList> readList(const ObjectId& channel) const;
 
     // ---- on the access queue
@@ -44,7 +44,7 @@ struct TVListings::State : std::enable_shared_from_this<State> {
     TVListingsEnvironment environment;
     const std::shared_ptr<DispatchQueue> access;
     const std::shared_ptr<SaveSchedule> saveSchedule;
-    /// All that is under way but the changes.
+    /// All pending work except changes.
     DispatchGroup underway;
 
     ChannelLists lists;

@@ -12,7 +12,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-TEST(SilentStretch, AllowsItsEndsAndWhatLiesOutside) {
+TEST(SilentPeriod, AllowsItsEndsAndEverythingOutside) {
     const struct {
         const char* name;
         int from, to, at;
@@ -27,7 +27,7 @@ TEST(SilentStretch, AllowsItsEndsAndWhatLiesOutside) {
         {"nothing between", 600, 600, 300, false},
     };
     for (const auto& each : cases) {
-        EXPECT_EQ((SilentStretch{each.from, each.to}.mayBeAlarmedAt(each.at)), each.allowed) << each.name;
+        EXPECT_EQ((SilentPeriod{each.from, each.to}.mayBeAlarmedAt(each.at)), each.allowed) << each.name;
     }
 }
 
@@ -44,7 +44,7 @@ TEST(SilentHours, ReadStoredDatesInTheDevicesZone) {
     EXPECT_TRUE(hours().mayBeAlarmedAt(night)) << "the feature is off";
 
     store.setValue(u"noAlarmsSchedule"_s, true);
-    EXPECT_FALSE(hours().mayBeAlarmedAt(night)) << "05:00 lies in the default stretch";
+    EXPECT_FALSE(hours().mayBeAlarmedAt(night)) << "05:00 lies in the default period";
     EXPECT_TRUE(hours().mayBeAlarmedAt(at("2026-11-21T06:00:00Z"))) << "07:00 is its end";
 
     store.setValue(u"noAlarmsSchedule.0"_s,

@@ -18,7 +18,7 @@ LaunchOptions accepted(const QStringList& words) {
     return std::get<LaunchOptions>(parsed);
 }
 
-TEST(CommandLine, TakesBothWaysToGiveAValue) {
+TEST(CommandLine, AcceptsBothFormsOfAValue) {
     const auto options =
         accepted({u"--catalogue=a.plist"_s, u"--hosts"_s, u"/etc/h.json"_s, u"--form"_s, u"tablet"_s,
                   u"--now"_s, u"2025-12-31T20:30:00+01:00"_s, u"guide://c0ffee"_s});
@@ -30,13 +30,13 @@ TEST(CommandLine, TakesBothWaysToGiveAValue) {
     EXPECT_TRUE(options.impliesOwnProfile());
 }
 
-TEST(CommandLine, KeepsToThePersonsOwnProfileUntilSomethingIsTried) {
+TEST(CommandLine, OptionsThatTrySomethingImplyATemporaryProfile) {
     EXPECT_FALSE(accepted({}).impliesOwnProfile());
     EXPECT_FALSE(accepted({u"--form"_s, u"phone"_s, u"--screenshots"_s, u"p"_s}).impliesOwnProfile());
     EXPECT_TRUE(accepted({u"--demo"_s}).impliesOwnProfile());
 }
 
-TEST(CommandLine, RefusesWhatItCannotUse) {
+TEST(CommandLine, RefusesUnusableArguments) {
     const struct {
         const char* name;
         QStringList words;

@@ -15,12 +15,10 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-/// Past the end of the silence that follows an activation and an alert.
-constexpr auto kSilence = 61s;
-/// Half as much again as the world's small device unpacks of any page.
+/// One and a half times the most that the small device of these tests unpacks.
 constexpr qsizetype kBombSize = qsizetype(48) << 20;
 
-TEST(Guide, LoadsShowsAndFindsThemAgainAfterARestart) {
+TEST(Guide, LoadsShowsAndHasThemAfterARestart) {
     GuideWorld world;
     world.serve(u"first"_s, 1, world.feed(u"Morning"_s, 6));
     world.serve(u"second"_s, 1, world.feed(u"Evening"_s, 6));
@@ -41,7 +39,7 @@ TEST(Guide, LoadsShowsAndFindsThemAgainAfterARestart) {
     world.start();
     EXPECT_EQ(world.titles(u"first"_s).value(0), u"Morning 0"_s);
     ASSERT_TRUE(world.check());
-    EXPECT_TRUE(world.server->requests().empty()) << "what is fresh is not asked for again";
+    EXPECT_TRUE(world.server->requests().empty()) << "fresh lists are not requested again";
 }
 
 ServerReply page(const QByteArray& body, const QByteArray& type) {
@@ -109,43 +107,16 @@ TEST(Guide, KeepsItsListsWhateverTheServerDoes) {
         ASSERT_TRUE(world.check()) << each.name;
         EXPECT_TRUE(world.titles(u"first"_s).value(0).startsWith(u"Kept"_s)) << each.name;
         EXPECT_EQ(world.titles(u"second"_s).value(0), u"Other 0"_s)
-            << each.name << ": the second source takes over";
+            << each.name << ": the second source is used";
         EXPECT_EQ(tabs.presentedAlert() != nullptr, each.alert) << each.name;
         if (tabs.presentedAlert()) {
             tabs.answerAlert(0);
-            EXPECT_EQ(tabs.presentedAlert(), nullptr) << each.name << ": told once";
+            EXPECT_EQ(tabs.presentedAlert(), nullptr) << each.name << ": shown once";
         }
         world.serve(u"first"_s, 1, feed);
         world.serve(u"second"_s, 1, feed);
         world.server->router().remove(GuideWorld::feedPath(u"first"_s, 2));
     }
-}
-
-TEST(Guide, AFailedReloadTakesNothingFromTheNextStart) {
-    GuideWorld world;
-    world.serve(u"first"_s, 1, world.feed(u"Last"_s, 2));
-    world.serve(u"second"_s, 1, world.feed(u"Many"_s, 12));
-    world.start();
-    world.guide->applicationDidBecomeActive();
-    ASSERT_TRUE(world.check());
-    world.end();
-
-    // The first list runs short, the second is to be loaded anew, and nobody has either of them.
-    for (const QString& key : {u"first"_s, u"second"_s}) {
-        world.server->serve(GuideWorld::feedPath(key, 1), ServerReply::answer(503, {}));
-        world.server->serve(GuideWorld::feedPath(key, 2), ServerReply::answer(503, {}));
-    }
-    world.start();
-    world.guide->channels().channelWithChannelId(GuideWorld::channel(u"second"_s))->requireReload();
-    world.server->forgetRequests();
-    ASSERT_TRUE(world.check());
-    EXPECT_EQ(world.server->requestCount(GuideWorld::feedPath(u"first"_s, 2)), 2);
-    EXPECT_EQ(world.server->requestCount(GuideWorld::feedPath(u"second"_s, 2)), 2);
-    world.end();
-
-    world.start();
-    EXPECT_EQ(world.titles(u"first"_s), (QStringList{u"Last 0"_s, u"Last 1"_s}));
-    EXPECT_EQ(world.titles(u"second"_s).size(), 12);
 }
 
 TEST(Guide, WritesItsListsWhenMemoryIsShort) {
@@ -162,50 +133,28 @@ TEST(Guide, WritesItsListsWhenMemoryIsShort) {
     EXPECT_EQ(world.titles(u"first"_s).size(), 6);
 }
 
-TEST(Guide, TellsOnceAMinuteThatNoServerAnswers) {
+TEST(Guide, EndsAtOnceWhileAScreenSuspendsTheLoadQueue) {
     GuideWorld world;
     world.start();
     world.guide->applicationDidBecomeActive();
-    world.server->stop();
-    ASSERT_TRUE(world.check());
-    TabBarController& tabs = world.guide->tabBarController();
-    EXPECT_EQ(tabs.presentedAlert(), nullptr) << "just after the activation the connection may need a while";
-    world.clock.advance(kSilence);
-    ASSERT_TRUE(world.check());
-    ASSERT_NE(tabs.presentedAlert(), nullptr);
-    EXPECT_EQ(tabs.presentedAlert()->title, u"Unable to establish connection to remote server"_s);
-    tabs.answerAlert(0);
-    EXPECT_EQ(tabs.presentedAlert(), nullptr) << "four transfers, each tried twice, are one alert";
-    world.clock.advance(30s);
-    ASSERT_TRUE(world.check());
-    EXPECT_EQ(tabs.presentedAlert(), nullptr);
-    world.clock.advance(kSilence);
-    ASSERT_TRUE(world.check());
-    EXPECT_NE(tabs.presentedAlert(), nullptr);
-}
-
-TEST(Guide, EndsAtOnceWhileAScreenHoldsALoadBack) {
-    GuideWorld world;
-    world.start();
-    world.guide->applicationDidBecomeActive();
-    // The screen's answer lies on the main queue, which runs no more.
+    // The answer for the screen is on the main queue, which no longer runs.
     world.waitForCheck();
     const auto begun = std::chrono::steady_clock::now();
     world.end();
     EXPECT_LT(std::chrono::steady_clock::now() - begun, 5s);
 }
 
-TEST(Guide, ForgetsAChannelThatTheCatalogueHasLost) {
+TEST(Guide, DeselectsAChannelThatLeftTheCatalogue) {
     GuideWorld world;
     world.start();
     const ObjectId lost = ObjectId::fromHex(u"58f4ded60befe78cb3360099"_s);
     world.guide->channels().setSelected({lost, GuideWorld::channel(u"first"_s)});
     ASSERT_TRUE(world.runUntil([&] { return world.guide->channels().selected().size() == 1; }))
-        << "the clean-up runs behind the launch";
+        << "the clean-up runs after the launch";
     EXPECT_EQ(world.guide->channels().selected().front(), GuideWorld::channel(u"first"_s));
 }
 
-TEST(Guide, OpensOnTheListOfChannelsWhileNoneIsSelected) {
+TEST(Guide, OpensOnTheListOfChannelsWithoutASelection) {
     GuideWorld world;
     QFile::remove(world.folders.caches + u"/../selection.json"_s);
     world.start();

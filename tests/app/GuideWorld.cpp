@@ -195,7 +195,7 @@ void GuideWorld::waitForCheck() const {
 bool GuideWorld::check() {
     const std::size_t begun = m_tasks->begun();
     guide->checkAndUpdateAllChannels();
-    // A check begins one background task and ends it, on the main queue, as its last step.
+    // The last step of a check ends its background task on the main queue.
     return runUntil([&] { return m_tasks->begun() > begun && m_tasks->running() == 0; });
 }
 

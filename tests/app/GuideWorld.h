@@ -31,10 +31,10 @@ class SharedClock final : public Clock {
     std::atomic<std::int64_t> m_now{1'798'700'000'000};
 };
 
-/// Real transfers that soon give up on the paths of which no answer is expected, and never on others.
+/// Real transfers with a short timeout for paths that will not answer and a long one for the others.
 class ImpatientHTTPClient final : public HTTPClient {
   public:
-    /// The paths change only while nothing is transferred.
+    /// The list of paths must not change during a transfer.
     ImpatientHTTPClient(HTTPClient& client, const QByteArrayList& hopelessPaths)
         : m_client(client)
         , m_hopelessPaths(hopelessPaths) {}
@@ -58,15 +58,14 @@ class ImpatientHTTPClient final : public HTTPClient {
     const QByteArrayList& m_hopelessPaths;
 };
 
-/// The whole guide without its window: real queues, real transfers from a server on loopback, real files;
-/// only the clock, the settings and the facts of the device are the test's. The test's thread is the main
-/// thread.
+/// The whole guide without its window, on real queues, files and transfers from a server on loopback. Only
+/// the clock, the settings and the device are faked. The test's thread is the main thread.
 class GuideWorld {
   public:
     /// Two channels, "first" and "second", each with the sources /KEY-1.xml and /KEY-2.xml.
     GuideWorld();
-    /// A channel for each of the source ids, in which "%1" stands for the server's host and port. All are
-    /// selected; channels are counted from 1.
+    /// One selected channel for each source id, numbered from 1. "%1" is replaced by the server's host and
+    /// port.
     explicit GuideWorld(const QStringList& sources);
     ~GuideWorld();
 
@@ -75,24 +74,24 @@ class GuideWorld {
     static ObjectId channel(const QString& key);
     static QByteArray feedPath(const QString& key, int source);
 
-    /// A feed with so many hour-long shows from now on, of this title with a number behind it.
+    /// A feed with `count` shows of one hour from now on, titled "title 0", "title 1", ...
     QByteArray feed(const QString& title, int count) const;
     void serve(const QString& key, int source, const QByteArray& feed);
 
     /// Starts the guide in this world's folders; at most one at a time.
     void start();
-    /// Ends it as the program's end does.
+    /// Ends it as the program does.
     void end();
 
-    /// Runs the main queue until the condition holds; false when ten seconds were not enough.
+    /// Runs the main queue until the condition holds; false after 60 seconds.
     bool runUntil(const std::function<bool()>& condition);
-    /// Runs a check, and what it hands to the main queue, to its end.
+    /// Runs a check and its blocks on the main queue to the end.
     bool check();
-    /// Waits until a check has begun, without running the main queue.
+    /// Waits until a check has started, without running the main queue.
     void waitForCheck() const;
-    /// The titles that the store has of a channel now.
+    /// The titles in the store for a channel.
     QStringList titles(const QString& key);
-    /// All that the store has of a channel now, with the starts.
+    /// The starts and titles in the store for a channel.
     std::vector<std::pair<Moment, QString>> shows(const ObjectId& channel);
 
     SharedClock clock;
@@ -104,7 +103,7 @@ class GuideWorld {
     std::unique_ptr<QuellinGuideAppDelegate> guide;
     Folders folders;
     SourceHostTable hosts;
-    /// Paths whose transfers may be given up soon.
+    /// Paths that will not answer.
     QByteArrayList hopelessPaths;
 
   private:

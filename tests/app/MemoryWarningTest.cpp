@@ -5,7 +5,7 @@
 namespace guide {
 namespace {
 
-TEST(MemoryWarning, IsGivenOnceUntilThereIsPlentyAgain) {
+TEST(MemoryWarning, IsDueOnceUntilPlentyIsAvailableAgain) {
     const struct {
         double available;
         bool due;
@@ -17,7 +17,7 @@ TEST(MemoryWarning, IsGivenOnceUntilThereIsPlentyAgain) {
     }
 }
 
-TEST(MemoryWarning, ReadsWhatTheSystemSaysOfItsMemory) {
+TEST(MemoryWarning, ReadsTheSystemsMemoryInformation) {
     EXPECT_EQ(availableMemory("MemTotal:       16000000 kB\nMemFree:          100000 kB\n"
                               "MemAvailable:    4000000 kB\nBuffers: 1 kB\n"),
               0.25);

@@ -31,7 +31,7 @@ struct UpdateCycleTest : testing::Test {
     }
 };
 
-TEST_F(UpdateCycleTest, ChannelsOfOneFeedAreLoadedByOneRequestAndShown) {
+TEST_F(UpdateCycleTest, ChannelsOfOneFeedAreLoadedByOneRequest) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s, u"s.one"_s}}, {2, {u"n.two"_s, u"s.two"_s}}});
     world.answer(kShared, "1 6\n2 2");
     check(world);
@@ -39,18 +39,18 @@ TEST_F(UpdateCycleTest, ChannelsOfOneFeedAreLoadedByOneRequestAndShown) {
     ASSERT_EQ(world.parses.size(), 1U);
     EXPECT_EQ(world.parses[0].items, "1 n.one sk, 2 n.two sk");
     EXPECT_TRUE(world.parses[0].allLoading);
-    EXPECT_EQ(world.offered, "1:4 2:2 ") << "cut to what the list wants";
+    EXPECT_EQ(world.offered, "1:4 2:2 ") << "at most showCount shows";
     EXPECT_EQ(world.popular.refreshes, 1);
     EXPECT_EQ(world.tasks.begun(), 1U);
     EXPECT_EQ(world.tasks.running(), 0U);
 
     world.clearLog();
     check(world);
-    EXPECT_EQ(world.requests(), QStringList{kShared}) << "the second one has less than the list wants";
+    EXPECT_EQ(world.requests(), QStringList{kShared}) << "the second channel has too few shows";
     EXPECT_EQ(world.parses.at(0).items, "2 n.two sk");
 }
 
-TEST_F(UpdateCycleTest, ALaterSourceIsAskedOnlyForWhatTheEarlierOnesDidNotBring) {
+TEST_F(UpdateCycleTest, ALaterSourceIsAskedOnlyForChannelsWithoutShows) {
     UpdateWorld world(queues, clock,
                       {{1, {u"http://one.test/"_s, u"s.one"_s, u"http://third.test/"_s}},
                        {2, {u"n.two"_s, u"s.two"_s}},
@@ -77,7 +77,7 @@ TEST_F(UpdateCycleTest, AListIsDueByItsAge) {
     EXPECT_EQ(world.parses.size(), 2U);
 }
 
-TEST_F(UpdateCycleTest, AShortListIsAskedForAtEachCheckAndKeptWhenNothingComes) {
+TEST_F(UpdateCycleTest, AShortListIsReloadedAtEachCheckAndKeptOnFailure) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
     world.answer(kShared, "1 3");
     check(world);
@@ -92,12 +92,12 @@ TEST_F(UpdateCycleTest, AShortListIsAskedForAtEachCheckAndKeptWhenNothingComes) 
         EXPECT_EQ(world.tasks.running(), 0U);
         EXPECT_EQ(onAir(world), "1:3 ");
         EXPECT_TRUE(QFile::exists(world.listingsFile(UpdateWorld::channelNumbered(1))))
-            << "a failed load takes nothing away";
+            << "a failed load removes nothing";
         EXPECT_EQ(world.popular.refreshes, 1) << "only a check that parsed something refreshes it";
     }
 }
 
-TEST_F(UpdateCycleTest, PagesUpToTheFirstThatFailsAreParsedAndEmptyOnesCount) {
+TEST_F(UpdateCycleTest, PagesBeforeTheFirstFailureAreParsedAlsoEmptyOnes) {
     UpdateWorld world(queues, clock, {{1, {u"joj.one"_s}}});
     const auto urls = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), world.device.timeZone());
     ASSERT_EQ(urls->size(), 7);
@@ -111,7 +111,7 @@ TEST_F(UpdateCycleTest, PagesUpToTheFirstThatFailsAreParsedAndEmptyOnesCount) {
     EXPECT_EQ(world.parses[0].type, ListingsType::JojCinema);
     EXPECT_EQ(onAir(world), "1:4 ");
 
-    // A first page that fails leaves nothing to parse; one that is empty is a page.
+    // After a failed first page nothing is parsed; an empty first page is parsed.
     world.clearLog();
     clock.advance(30 * 24h);
     check(world);
@@ -124,7 +124,7 @@ TEST_F(UpdateCycleTest, PagesUpToTheFirstThatFailsAreParsedAndEmptyOnesCount) {
     EXPECT_EQ(world.offered, "");
 }
 
-TEST_F(UpdateCycleTest, ACheckOverMidnightPlansDayPagesAnew) {
+TEST_F(UpdateCycleTest, ACheckOverMidnightPlansDayPagesAgain) {
     const Moment midnight = std::chrono::sys_days(std::chrono::year(2026) / 3 / 28) + 23h; // in Bratislava
     clock.set(midnight - 1min);
     UpdateWorld world(queues, clock, {{1, {u"joj.one"_s}}, {2, {u"n.two"_s}}});
@@ -153,7 +153,7 @@ TEST_F(UpdateCycleTest, ACheckOverMidnightPlansDayPagesAnew) {
     }
     ASSERT_EQ(world.parses.size(), 2U);
     EXPECT_EQ(world.parses[0].pages, std::vector<QByteArray>(7, "1 7"));
-    // What a page calls today is that only until midnight; a file of dates may be older.
+    // Day pages must be of today; a feed with dates may be older.
     EXPECT_EQ(requests[7].cachedSince, midnight);
     EXPECT_EQ(requests[14].cachedSince, Moment::min());
 }
@@ -169,7 +169,7 @@ TEST_F(UpdateCycleTest, AnUnreadablePageLeavesNoChannelMarkedAsLoading) {
     EXPECT_EQ(world.offered, "2:4 1:4 ");
 }
 
-TEST_F(UpdateCycleTest, WhatARunningCheckLoadsIsNotLoadedAgainByTheNext) {
+TEST_F(UpdateCycleTest, TheNextCheckDoesNotLoadAgainWhatTheRunningOneLoads) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
     world.answer(kShared, "1 6");
     world.client.onRequest([&](const HTTPRequest&) {
@@ -183,7 +183,7 @@ TEST_F(UpdateCycleTest, WhatARunningCheckLoadsIsNotLoadedAgainByTheNext) {
     EXPECT_EQ(world.tasks.begun(), 2U);
 }
 
-TEST_F(UpdateCycleTest, AChannelThatIsDeselectedMeanwhileIsNotStored) {
+TEST_F(UpdateCycleTest, AChannelDeselectedDuringTheLoadIsNotStored) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}, {2, {u"n.two"_s}}, {3, {u"s.three"_s}}});
     world.answer(kShared, "1 5\n2 5");
     world.answer(kSecond, "3 5");
@@ -199,7 +199,7 @@ TEST_F(UpdateCycleTest, AChannelThatIsDeselectedMeanwhileIsNotStored) {
     EXPECT_EQ(world.offered, "2:4 ");
 }
 
-TEST_F(UpdateCycleTest, InTheBackgroundListsAreStoredAndScreensLeftAlone) {
+TEST_F(UpdateCycleTest, InTheBackgroundListsAreStoredButNotOffered) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
     world.answer(kShared, "1 5");
     world.state.state = ApplicationState::Background;
@@ -208,7 +208,7 @@ TEST_F(UpdateCycleTest, InTheBackgroundListsAreStoredAndScreensLeftAlone) {
     EXPECT_EQ(onAir(world), "1:4 ");
 }
 
-TEST_F(UpdateCycleTest, AnExpiredTaskIsEndedOnceAndTheCheckGoesOn) {
+TEST_F(UpdateCycleTest, AnExpiredTaskEndsOnceAndTheCheckGoesOn) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
     world.answer(kShared, "1 5");
     world.client.onRequest([&](const HTTPRequest&) {
@@ -221,7 +221,7 @@ TEST_F(UpdateCycleTest, AnExpiredTaskIsEndedOnceAndTheCheckGoesOn) {
     EXPECT_EQ(world.tasks.running(), 0U);
 }
 
-TEST_F(UpdateCycleTest, AnEndInTheMiddleOfAListKeepsTheStoredOne) {
+TEST_F(UpdateCycleTest, AShutdownDuringAListKeepsTheStoredOne) {
     UpdateWorld world(queues, clock, {{1, {u"joj.one"_s}}, {2, {u"s.two"_s}}});
     const auto urls = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), world.device.timeZone());
     world.answer(urls->at(0).toString(), "1 5");
@@ -233,10 +233,10 @@ TEST_F(UpdateCycleTest, AnEndInTheMiddleOfAListKeepsTheStoredOne) {
     EXPECT_TRUE(world.cycle.finish(1s));
     world.clearLog();
     check(world);
-    EXPECT_EQ(world.tasks.begun(), 1U) << "no check begins after the end";
+    EXPECT_EQ(world.tasks.begun(), 1U) << "no check starts after the shutdown";
 }
 
-TEST_F(UpdateCycleTest, WhatEachLoadDidIsKnownOfEverySource) {
+TEST_F(UpdateCycleTest, RecordsTheResultOfEverySource) {
     const QString third = u"http://third.test/"_s;
     UpdateWorld world(queues, clock,
                       {{1, {u"cc.romania"_s, u"n.one"_s, u"s.one"_s, third}}, // the first one has no host
@@ -264,7 +264,7 @@ TEST_F(UpdateCycleTest, WhatEachLoadDidIsKnownOfEverySource) {
     EXPECT_EQ(health(4), (SourceHealth{clock.now(), std::nullopt,
                                        Sources{missing, {u"s.four"_s, PassedOverReason::NoShows}}}));
 
-    // A load that brings nothing tells so, and of the source that the shows are still from.
+    // A failed load is recorded, together with the source of the shows that are still stored.
     const Moment before = clock.now();
     const SourceHealth earlier = health(2);
     clock.advance(30 * 24h);
@@ -278,7 +278,7 @@ TEST_F(UpdateCycleTest, WhatEachLoadDidIsKnownOfEverySource) {
     EXPECT_FALSE(health(2).hasLoaded());
     EXPECT_EQ(health(2).used->at, before);
 
-    // The file knows the same, of the selected channels.
+    // The file has the same records, but only of selected channels.
     world.channels->setSelected({UpdateWorld::channelNumbered(2), UpdateWorld::channelNumbered(3)});
     check(world);
     SourceHealthRecords read(world.folders.caches + u"/source-health.json"_s);
@@ -287,7 +287,7 @@ TEST_F(UpdateCycleTest, WhatEachLoadDidIsKnownOfEverySource) {
     EXPECT_EQ(read.all().size(), 2U);
 }
 
-TEST_F(UpdateCycleTest, AnEndInTheMiddleIsNoFaultOfTheSource) {
+TEST_F(UpdateCycleTest, AShutdownIsNotRecordedAsAFailureOfTheSource) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s, u"s.one"_s}}, {2, {u"s.two"_s}}});
     world.answerNothing(kShared);
     world.answer(kSecond, "1 5\n2 5");
@@ -296,14 +296,14 @@ TEST_F(UpdateCycleTest, AnEndInTheMiddleIsNoFaultOfTheSource) {
     earlier.record(one, {clock.now(), UsedSource{u"s.one"_s, clock.now(), 1, 5, std::nullopt}, {}});
     earlier.write({one});
     world.client.onRequest([&](const HTTPRequest&) {
-        EXPECT_EQ(world.sourceHealth.all(), earlier.all()) << "known before the first page is in";
+        EXPECT_EQ(world.sourceHealth.all(), earlier.all()) << "read before the first page arrives";
         world.client.cancelAll();
     });
     check(world);
     EXPECT_EQ(world.sourceHealth.all(), earlier.all());
 }
 
-TEST(UpdateCycleThreadsTest, ASuspendedLoadQueueHoldsTheCheckBack) {
+TEST(UpdateCycleThreadsTest, ASuspendedLoadQueueDelaysTheCheck) {
     ManualClock clock;
     ThreadedQueues queues([] {});
     {

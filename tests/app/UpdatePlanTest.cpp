@@ -59,7 +59,7 @@ TEST(UpdatePlanTest, PlansEverySource) {
     EXPECT_EQ(sources[2].urls, QList{QUrl(u"http://c"_s)});
 }
 
-/// "feed:1a 2a | page:1b" for a feed that serves the channels 1 and 2 under the source a, before a page.
+/// "feed:1a 2a | page:1b": a feed that serves channels 1 and 2 as their source a, then a page.
 std::string described(const std::vector<UpdateStep>& steps) {
     std::string text;
     for (const UpdateStep& step : steps) {
@@ -76,7 +76,7 @@ std::string described(const std::vector<UpdateStep>& steps) {
     return text;
 }
 
-TEST(UpdatePlanTest, OrdersTheListsBySourceNumberAndSharesEqualOnes) {
+TEST(UpdatePlanTest, OrdersListsBySourceNumberAndMergesEqualOnes) {
     const auto source = [](unsigned number, const char* id, std::initializer_list<const char*> hosts) {
         PlannedSource planned{number, QString::fromLatin1(id), ListingsType::XMLTV, {}};
         for (const char* host : hosts) {
@@ -120,7 +120,7 @@ TEST(UpdatePlanTest, OrdersTheListsBySourceNumberAndSharesEqualOnes) {
     }
 }
 
-TEST(UpdatePlanTest, KeepsWhatIsStillDueWhenTheTurnComes) {
+TEST(UpdatePlanTest, KeepsOnlyChannelsThatAreStillDue) {
     const UpdateStep step{{},
                           {{channel(1), u"a"_s, ListingsType::XMLTV},
                            {channel(2), u"b"_s, ListingsType::Nova},
@@ -133,20 +133,6 @@ TEST(UpdatePlanTest, KeepsWhatIsStillDueWhenTheTurnComes) {
     EXPECT_EQ(items[1].channel, channel(3));
     EXPECT_EQ(items[1].sourceId, u"c"_s);
     EXPECT_EQ(items[1].language, u"cs"_s);
-}
-
-TEST(UpdatePlanTest, CutsTheTopOfEachList) {
-    const auto list = [](std::size_t count) { return std::make_shared<const ShowItems>(count); };
-    MergeResult result;
-    result.lists = {{channel(1), list(7)}, {channel(2), list(2)}};
-    const std::vector<LoadItem> items{
-        {channel(2), {}, {}}, {channel(3), {}, {}}, {channel(1), {}, {}}, {channel(2), {}, {}}};
-    const TopLists top = topLists(items, result, 4);
-    ASSERT_EQ(top.size(), 2U);
-    EXPECT_EQ(top[0].first, channel(2));
-    EXPECT_EQ(top[0].second.size(), 2U);
-    EXPECT_EQ(top[1].first, channel(1));
-    EXPECT_EQ(top[1].second.size(), 4U);
 }
 
 } // namespace

@@ -10,7 +10,7 @@
 
 namespace guide {
 
-/// A store with channels by number, their sources, all of them selected.
+/// A store whose channels are all selected.
 struct UpdateStore : test::StoreFixture {
     using Selection = std::vector<std::pair<int, QStringList>>;
 
@@ -44,14 +44,14 @@ class UpdateWorld : public UpdateStore {
         client.answer(QUrl(url), FakeHTTPClient::response(status, "<html>"));
     }
     void answerNothing(const QString& url) { client.answer(QUrl(url), FakeHTTPClient::refused()); }
-    /// A packed file of no bytes: the one page that is empty and yet a page.
+    /// An empty file, packed: the only way to get an empty page that is not a failure.
     void answerEmptyFile(const QString& url) {
         client.answer(QUrl(url), FakeHTTPClient::response(
                                      200, QByteArray::fromHex("1f8b080000000000000303000000000000000000"),
                                      {{"Content-Type", "application/x-gzip"}}));
     }
 
-    /// What was asked for; attempts at once after one another count once.
+    /// The requested URLs; consecutive attempts count once.
     QStringList requests() const {
         QStringList urls;
         const std::vector<QUrl> all = client.requestedURLs();
@@ -68,7 +68,7 @@ class UpdateWorld : public UpdateStore {
         m_requestsSeen = client.requests().size();
     }
 
-    /// Puts "channel:shows " into the text for each channel, at most 4 shows a channel.
+    /// Appends "channel:shows " for each channel, with at most 4 shows per channel.
     void askOnAir(std::string& text) {
         listings->onAirShowsWithQueue(checkQueue, [&text](const std::vector<ObjectId>& ids,
                                                           const auto& lists) {
@@ -154,7 +154,7 @@ class UpdateWorld : public UpdateStore {
     SourceHealthRecords sourceHealth{folders.caches + QStringLiteral("/source-health.json")};
 
     std::vector<Parse> parses;
-    /// "channel:shows " for each list that the screens were offered.
+    /// "channel:shows " for each list offered to the screens.
     std::string offered;
 
     const Reader reader{*this};

@@ -20,7 +20,7 @@ QByteArray recordedPage(const QString& name) {
     return file.readAll();
 }
 
-/// A site of nine day pages and the probe's view of it.
+/// A site with nine day pages.
 class CheckCommand : public testing::Test {
   protected:
     void give(const QByteArray& page) {
@@ -50,7 +50,7 @@ class CheckCommand : public testing::Test {
     test::ProbeFiles m_files;
 };
 
-TEST_F(CheckCommand, TellsWhatASourceHas) {
+TEST_F(CheckCommand, ReportsWhatASourceHas) {
     give("<html>");
     give(recordedPage(u"2027-03-27.html"_s));
     for (int day = 1; day <= 7; ++day) {
@@ -66,7 +66,7 @@ TEST_F(CheckCommand, TellsWhatASourceHas) {
         << answer.output.toStdString();
 }
 
-TEST_F(CheckCommand, TellsWhichMarkerAPageHasNoLonger) {
+TEST_F(CheckCommand, ReportsTheMarkerThatIsMissing) {
     for (int day = -1; day <= 7; ++day) {
         give(recordedPage(u"2027-03-27.html"_s).replace("class=\"channels-content-show\"", "class=\"show\""));
     }
@@ -92,7 +92,7 @@ TEST_F(CheckCommand, MissesNothingInShowsThatAreOver) {
     EXPECT_FALSE(answer.json.contains(u"lastMissed"_s)) << answer.output.toStdString();
 }
 
-TEST_F(CheckCommand, ReadsThePagesBeforeTheFirstThatDoesNotCome) {
+TEST_F(CheckCommand, ReadsThePagesBeforeTheFirstFailure) {
     give("<html>");
     give(recordedPage(u"2027-03-27.html"_s));
     m_server.reply(ScriptedReply::answer(404, "gone"));
@@ -104,14 +104,14 @@ TEST_F(CheckCommand, ReadsThePagesBeforeTheFirstThatDoesNotCome) {
     EXPECT_TRUE(answer.errors.contains("epg_date=2027-03-28: status 404")) << answer.errors.toStdString();
 }
 
-TEST_F(CheckCommand, FailsWhenNothingComes) {
+TEST_F(CheckCommand, FailsWithoutAnyPage) {
     const Answer answer = check();
     EXPECT_EQ(answer.status, 1);
     EXPECT_TRUE(answer.output.isEmpty());
     EXPECT_FALSE(answer.errors.isEmpty());
 }
 
-TEST_F(CheckCommand, AsksForNothingThatCannotBePlanned) {
+TEST_F(CheckCommand, RequestsNothingWithoutAPlan) {
     const Answer answer = check(u"r.foo"_s);
     EXPECT_EQ(answer.status, 0) << answer.errors.toStdString();
     EXPECT_EQ(answer.json,

@@ -12,14 +12,14 @@
 namespace guide::test {
 
 struct Answer {
-    /// -1 when it did not end in order.
+    /// -1 when the probe crashed or did not end.
     int status = -1;
     QJsonObject json;
     QByteArray output;
     QByteArray errors;
 };
 
-/// Runs the probe to its end.
+/// Runs the probe and waits for it to end.
 inline Answer probe(const QStringList& words, const QByteArray& input = {}) {
     QProcess process;
     process.start(QStringLiteral(QUELLIN_PROBE), words);
@@ -39,10 +39,10 @@ inline QJsonObject object(const QByteArray& json) {
     return QJsonDocument::fromJson(json).object();
 }
 
-/// Files for the probe, gone with this object.
+/// Temporary input files.
 class ProbeFiles {
   public:
-    /// The path of a new file that holds this.
+    /// The path of a new file with this content.
     QString write(const QString& name, const QByteArray& content) const {
         QFile file(m_folder.filePath(name));
         if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {

@@ -57,7 +57,7 @@ AllShows::Lists randomLists(std::mt19937& random, int channels) {
     return lists;
 }
 
-ShowItems sortedPlainly(const AllShows::Lists& lists, Moment endingAfter) {
+ShowItems sortedLinearly(const AllShows::Lists& lists, Moment endingAfter) {
     ShowItems shows;
     for (const auto& list : lists) {
         std::copy_if(list->shows()->begin(), list->shows()->end(), std::back_inserter(shows),
@@ -69,7 +69,7 @@ ShowItems sortedPlainly(const AllShows::Lists& lists, Moment endingAfter) {
     return shows;
 }
 
-ShowItems searchedPlainly(const ShowItems& all, const QString& pattern, Moment now, std::size_t limit) {
+ShowItems searchedLinearly(const ShowItems& all, const QString& pattern, Moment now, std::size_t limit) {
     const QString folded = foldedText(pattern);
     const auto holds = [&](const std::optional<QString>& text) {
         return !folded.isEmpty() && text && foldedText(*text).contains(folded);
@@ -89,10 +89,10 @@ ShowItems searchedPlainly(const ShowItems& all, const QString& pattern, Moment n
     return found;
 }
 
-/// Expects the shows and what searches find to be those of a plain walk.
-void expectLikeAPlainWalk(const AllShows& all, const AllShows::Lists& lists, Moment endingAfter,
-                          bool search) {
-    const ShowItems expected = sortedPlainly(lists, endingAfter);
+/// Compares the shows and the results of searches with those of a linear scan.
+void expectLikeALinearScan(const AllShows& all, const AllShows::Lists& lists, Moment endingAfter,
+                           bool search) {
+    const ShowItems expected = sortedLinearly(lists, endingAfter);
     ShowItems merged;
     for (const AllShows::Show& show : all.shows()) {
         merged.push_back(*show.item);
@@ -107,22 +107,22 @@ void expectLikeAPlainWalk(const AllShows& all, const AllShows::Lists& lists, Mom
                                    u""_s, u"\u0301"_s, QString(QChar(0xff)), QString(QChar(0))}) {
         for (const std::size_t limit : {1000u, 3u, 0u}) {
             EXPECT_EQ(all.showsContaining(searchPattern(pattern), now, limit),
-                      searchedPlainly(expected, pattern, now, limit))
+                      searchedLinearly(expected, pattern, now, limit))
                 << pattern.toStdString() << ' ' << limit;
         }
     }
 }
 
-TEST(AllShowsTest, MergesAndSearchesLikeAPlainWalk) {
+TEST(AllShowsTest, MergesAndSearchesLikeALinearScan) {
     std::mt19937 random(20251231);
     for (const int channels : {0, 1, 2, 3, 8, 61}) {
         SCOPED_TRACE(channels);
         const AllShows::Lists lists = randomLists(random, channels);
-        expectLikeAPlainWalk(AllShows(lists, kNow), lists, kNow, true);
+        expectLikeALinearScan(AllShows(lists, kNow), lists, kNow, true);
     }
 }
 
-TEST(AllShowsTest, AChangedStateIsMadeOfTheOneBefore) {
+TEST(AllShowsTest, AChangedStateIsBuiltFromTheOneBefore) {
     std::mt19937 random(20260101);
     const auto pick = [&](std::size_t below) { return random() % below; };
     AllShows::Lists lists = randomLists(random, 6);
@@ -148,32 +148,32 @@ TEST(AllShowsTest, AChangedStateIsMadeOfTheOneBefore) {
         default:
             lists[pick(lists.size())] = randomLists(random, 1).front();
         }
-        // Now and then the clock is set back.
+        // The clock is sometimes set back.
         endingAfter += std::chrono::minutes(step % 50 == 49 ? -30 : step % 7 == 0 ? 5 : 0);
         all = std::make_shared<const AllShows>(lists, endingAfter, all);
-        // A state is asked for its shows, for a search, or for nothing.
+        // Some states are asked for their shows, some for a search, some for nothing.
         if (const auto asked = pick(3); asked > 0) {
-            expectLikeAPlainWalk(*all, lists, endingAfter, asked == 2);
+            expectLikeALinearScan(*all, lists, endingAfter, asked == 2);
         }
     }
 }
 
-TEST(AllShowsTest, StatesThatNobodyAskedAreNotKept) {
+TEST(AllShowsTest, UnusedStatesAreNotKept) {
     std::mt19937 random(1);
     const AllShows::Lists lists = randomLists(random, 3);
     auto all = std::make_shared<const AllShows>(lists, kNow);
     all->shows();
-    const std::weak_ptr<const AllShows> made = all;
+    const std::weak_ptr<const AllShows> built = all;
     all = std::make_shared<const AllShows>(lists, kNow, all);
-    const std::weak_ptr<const AllShows> unasked = all;
+    const std::weak_ptr<const AllShows> unused = all;
     all = std::make_shared<const AllShows>(lists, kNow, all);
-    EXPECT_TRUE(unasked.expired());
-    EXPECT_FALSE(made.expired());
+    EXPECT_TRUE(unused.expired());
+    EXPECT_FALSE(built.expired());
     all->shows();
-    EXPECT_TRUE(made.expired());
+    EXPECT_TRUE(built.expired());
 }
 
-TEST(ChannelListTest, AnswersWhatIsNotOver) {
+TEST(ChannelListTest, FindsTheShowsThatAreNotOver) {
     const auto hour = [](int hours) { return kNow + std::chrono::hours(hours); };
     struct Row {
         const char* name;

@@ -99,7 +99,7 @@ TEST(ListMergeTest, SortsAndCuts) {
     }
 }
 
-TEST(ListMergeTest, ReadersWithoutEndsGetThemFromTheNextStart) {
+TEST(ListMergeTest, MissingEndsAreTakenFromTheNextStart) {
     const std::vector<TestShow> shows = {
         {hour(3), hour(9), u"Nema podataka"_s}, {hour(0), hour(9), u"A"_s}, {hour(1), hour(9), u"B"_s}};
     const MergedList kept = mergedList(parsed(shows), u"hr"_s, kNow, ListingsType::XMLTV);
@@ -110,7 +110,7 @@ TEST(ListMergeTest, ReadersWithoutEndsGetThemFromTheNextStart) {
     EXPECT_EQ((*set.list)[1].entry()->endDateTime(), hour(3));
 }
 
-TEST(ShowUpdatesTest, DetailsGrowTheShowOfTheEntry) {
+TEST(ShowUpdatesTest, DetailsExtendTheShowOfTheEntry) {
     const auto details = std::make_shared<const TVEntrySupplementalData>();
     const QSet<QUrl> pictures{QUrl(u"http://a/1"_s)};
     const QSet<QUrl> otherPictures{QUrl(u"http://a/2"_s)};

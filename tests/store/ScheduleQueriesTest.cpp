@@ -46,8 +46,8 @@ TEST(ScheduleQueriesTest, CategoriesKeepSeriesApart) {
               (Titles{"ends now", "drama", "series", "bare series", "none", "one element"}));
 }
 
-TEST(ScheduleQueriesTest, EveningBeginsAtNineteenOnTheWallClock) {
-    // Clocks go back by half an hour here, at 15:00 UTC on 4 April 2026.
+TEST(ScheduleQueriesTest, TheEveningStartsAtNineteenLocalTime) {
+    // Clocks go back by half an hour in this zone at 15:00 UTC on 4 April 2026.
     const QTimeZone zone("Australia/Lord_Howe");
     const Moment end = moment("2030-01-01T00:00:00Z");
     const AllShows all = allOf({{moment("2026-04-04T07:59:59Z"), end, u"summer 18:59"_s},
@@ -60,7 +60,7 @@ TEST(ScheduleQueriesTest, EveningBeginsAtNineteenOnTheWallClock) {
               (Titles{"summer 19:00", "summer 23:59", "winter 19:00"}));
 }
 
-TEST(ScheduleQueriesTest, EndsAndOversAreToldApart) {
+TEST(ScheduleQueriesTest, EndedAndOverAreDifferent) {
     const AllShows all = allOf({{hour(-2), hour(-1), u"A"_s},
                                 {hour(-1), hour(0), u"A"_s},
                                 {hour(0), hour(1), u"A"_s},
@@ -70,7 +70,7 @@ TEST(ScheduleQueriesTest, EndsAndOversAreToldApart) {
     const FavoritesSnapshot favorites({{u"A"_s, {}, {}, {}}});
     EXPECT_EQ(favoritesSchedule(all, favorites, kNow).size(), 3u) << "case is ignored";
     const FavoritesToCome toCome = favoritesToCome(all, favorites, kNow);
-    ASSERT_EQ(toCome.shows.size(), 1u) << "what begins now has begun";
+    ASSERT_EQ(toCome.shows.size(), 1u) << "a show that starts now has started";
     EXPECT_EQ(toCome.shows[0].entry()->dateTime(), hour(1));
     ASSERT_EQ(toCome.byDigest.size(), 1u);
     EXPECT_EQ(toCome.byDigest.at(*toCome.shows[0].entry()->digest()), toCome.shows[0]);

@@ -13,7 +13,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-TEST(TVEntryTest, DigestIsTakenOfChannelStartAndTitle) {
+TEST(TVEntryTest, DigestCoversChannelStartAndTitle) {
     struct Row {
         const char* name;
         std::optional<Moment> start;
@@ -39,7 +39,7 @@ TEST(TVEntryTest, DigestIsTakenOfChannelStartAndTitle) {
     EXPECT_EQ(urlDigestFromChannel(channel(1), Moment{}, std::nullopt, u"guide"_s), std::nullopt);
     EXPECT_EQ(showDigest(channel(1), Moment{}, u"A"_s + QChar(0xd800)),
               showDigest(channel(1), Moment{}, u"A\ufffd"_s))
-        << "what half a character becomes in a listing file";
+        << "how a listing file encodes a lone surrogate";
 }
 
 TEST(TVEntryTest, DigestIsReadBackFromItsURL) {
@@ -59,7 +59,7 @@ TEST(TVEntryTest, DigestIsReadBackFromItsURL) {
     }
 }
 
-TEST(TVEntryTest, KeepsTheFirstDigestUntilItIsChanged) {
+TEST(TVEntryTest, CachesTheFirstURLUntilAChange) {
     TVEntry entry(latinAlphabet());
     EXPECT_EQ(entry.urlDigestWithScheme(u"guide"_s), std::nullopt);
     entry.setIdentificator(u"News"_s);
@@ -70,7 +70,7 @@ TEST(TVEntryTest, KeepsTheFirstDigestUntilItIsChanged) {
     EXPECT_NE(entry.urlDigestWithScheme(u"guide"_s), first);
 }
 
-TEST(TVEntryTest, TitleLosesBackslashAndN) {
+TEST(TVEntryTest, TitleDropsBackslashN) {
     TVEntry entry(latinAlphabet());
     entry.setIdentificator(u"\\nA\\n\\nB\\N\\\\nC"_s);
     EXPECT_EQ(entry.identificator(), u"AB\\N\\C"_s);
@@ -111,7 +111,7 @@ TEST(TVEntryTest, DisplayFormsFollowLanguageAndAlphabet) {
     EXPECT_EQ(details.updateAlphabet(latinAlphabet()).roles, copy.title());
 }
 
-TEST(TVEntryTest, OneChannelIsTitledByItsSubtitles) {
+TEST(TVEntryTest, OneChannelUsesItsSubtitlesAsTitles) {
     TVEntry entry(latinAlphabet());
     entry.setIdentificator(u"Programme"_s);
     entry.setChannel(ObjectId::fromHex(u"58f4ded60befe78cb336a80b"_s));
@@ -122,7 +122,7 @@ TEST(TVEntryTest, OneChannelIsTitledByItsSubtitles) {
     EXPECT_EQ(entry.title(), u"Programme"_s);
 }
 
-TEST(TVEntryTest, FullInstantDetailsJoinsWhatIsThere) {
+TEST(TVEntryTest, FullInstantDetailsJoinsTheSetParts) {
     using Text = std::optional<QString>;
     struct Row {
         const char* name;
@@ -151,7 +151,7 @@ TEST(TVEntryTest, FullInstantDetailsJoinsWhatIsThere) {
     }
 }
 
-TEST(TVEntryTest, DerivedValuesAreOneForAllThreads) {
+TEST(TVEntryTest, AllThreadsSeeTheSameCachedValues) {
     for (int round = 0; round < 50; ++round) {
         const auto entry = extended({Moment{}, Moment{}, u"News"_s}).basic;
         entry->setSubtitle1(u"Part 1"_s);

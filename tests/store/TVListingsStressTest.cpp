@@ -10,7 +10,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// Real queues whose main queue is run by the test's own thread.
+/// Real queues; the test's thread runs the main queue.
 class Queues {
   public:
     Queues()
@@ -53,7 +53,7 @@ std::vector<ExtendedTVEntry> listNumbered(int number, const ObjectId& onChannel,
     return shows;
 }
 
-/// A list that is seen is always one whole list.
+/// All shows of a list must come from the same merge.
 template <class Shows>
 void expectOneList(const Shows& shows) {
     for (const ShowItem& show : shows) {
@@ -61,7 +61,7 @@ void expectOneList(const Shows& shows) {
     }
 }
 
-TEST(TVListingsStressTest, ChangesQueriesAndFilesMeetOnRealQueues) {
+TEST(TVListingsStressTest, ChangesQueriesAndWritesRunConcurrently) {
     constexpr int kRounds = 40;
     const ManualClock clock;
     QTemporaryDir folder;

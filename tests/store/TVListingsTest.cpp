@@ -16,7 +16,7 @@ class TVListingsTest : public ::testing::Test {
   protected:
     Moment hour(int hours) const { return start + std::chrono::hours(hours); }
 
-    /// A store that has read its files.
+    /// Opens the store and lets it read its files.
     TVListings& made() {
         world.open();
         queues.runAll();
@@ -68,7 +68,7 @@ class TVListingsTest : public ::testing::Test {
     std::unique_ptr<TVListings>& listings = world.listings;
 };
 
-TEST_F(TVListingsTest, FirstReadCutsWhatEndedAndForgetsEmptyChannels) {
+TEST_F(TVListingsTest, FirstReadCutsEndedShowsAndUnloadsEmptyChannels) {
     world.writeFile(channel(1), {{hour(-2), hour(-1), u"old"_s},
                                  {hour(-1), hour(1), u"A"_s},
                                  {hour(-1), hour(0), u"ended behind"_s},
@@ -84,7 +84,7 @@ TEST_F(TVListingsTest, FirstReadCutsWhatEndedAndForgetsEmptyChannels) {
     EXPECT_EQ(world.channels->channelWithChannelId(channel(2))->timeLoaded(), std::nullopt);
     EXPECT_FALSE(QFile::exists(world.listingsFile(channel(3))));
     EXPECT_TRUE(QFile::exists(world.listingsFile(ObjectId::popular())));
-    EXPECT_EQ(found(u"b"_s), Titles{"B"}) << "of all shows only what has not ended";
+    EXPECT_EQ(found(u"b"_s), Titles{"B"}) << "all shows are those that have not ended";
     EXPECT_EQ(world.observer.replacements, 0);
 }
 
@@ -116,7 +116,7 @@ TEST_F(TVListingsTest, MergeStoresSchedulesAndAnnounces) {
     EXPECT_FALSE(listings->isScheduledForSaving(channel(2)));
     EXPECT_EQ(onAir(), (std::vector<Titles>{{"A", "B"}, {}, {}}));
     EXPECT_EQ(world.fileTitles(channel(1)), std::nullopt) << "written in the foreground";
-    EXPECT_EQ(found(u"b"_s), Titles{}) << "all shows are made anew when the caller says so";
+    EXPECT_EQ(found(u"b"_s), Titles{}) << "the caller decides when all shows are rebuilt";
     listings->saveAllShows();
     EXPECT_EQ(found(u"b"_s), Titles{"B"});
 
@@ -127,7 +127,7 @@ TEST_F(TVListingsTest, MergeStoresSchedulesAndAnnounces) {
     EXPECT_EQ(world.observer.replacements, 2);
 }
 
-TEST_F(TVListingsTest, FilesAreWrittenOnCommitAndDatedByTheLoad) {
+TEST_F(TVListingsTest, CommitWritesFilesDatedByTheLoad) {
     world.writeFile(channel(2), {{hour(0), hour(1), u"old file"_s}});
     made();
     merge(
@@ -141,7 +141,7 @@ TEST_F(TVListingsTest, FilesAreWrittenOnCommitAndDatedByTheLoad) {
     EXPECT_EQ(world.tasks.running(), 1u);
     queues.runAll();
     EXPECT_EQ(world.tasks.running(), 0u);
-    EXPECT_EQ(world.fileTitles(channel(1)), Titles{"B"}) << "what ended is cut";
+    EXPECT_EQ(world.fileTitles(channel(1)), Titles{"B"}) << "ended shows are cut";
     EXPECT_EQ(fileModificationDate(world.listingsFile(channel(1))), start);
     EXPECT_EQ(world.fileTitles(channel(2)), Titles{"old file"}) << "an empty list writes nothing";
     EXPECT_FALSE(listings->isScheduledForSaving(channel(1)));
@@ -152,7 +152,7 @@ TEST_F(TVListingsTest, FilesAreWrittenOnCommitAndDatedByTheLoad) {
     EXPECT_EQ(world.tasks.running(), 0u);
 }
 
-TEST_F(TVListingsTest, InTheBackgroundEveryScheduleIsWrittenSoon) {
+TEST_F(TVListingsTest, InTheBackgroundScheduledListsAreWrittenSoon) {
     made();
     world.state.state = ApplicationState::Background;
     merge({{hour(0), hour(1), u"A"_s}});
@@ -172,7 +172,7 @@ TEST_F(TVListingsTest, CommitBetweenMergeAndStoreLosesNothing) {
     EXPECT_EQ(world.fileTitles(channel(1)), Titles{"A"});
 }
 
-TEST_F(TVListingsTest, AWriteThatFailedStaysScheduled) {
+TEST_F(TVListingsTest, AFailedWriteStaysScheduled) {
     made();
     merge({{hour(0), hour(1), u"A"_s}, {hour(0), hour(1), u"C"_s, 0, channel(2)}});
     QDir().mkdir(world.listingsFile(channel(1))); // no file can be put in its place
@@ -184,7 +184,7 @@ TEST_F(TVListingsTest, AWriteThatFailedStaysScheduled) {
     EXPECT_EQ(world.fileTitles(channel(1)), Titles{"A"});
 }
 
-TEST_F(TVListingsTest, WritingGivesUpTheTaskWhenTheDeviceWaitsNoLonger) {
+TEST_F(TVListingsTest, AnExpiredWritingTaskIsEnded) {
     made();
     listings->commitFiles();
     queues.run(kAccess);
@@ -207,7 +207,7 @@ TEST_F(TVListingsTest, OnAirReadsTheFileOfAChannelThatIsNotStored) {
     EXPECT_EQ(onAir(), (std::vector<Titles>{{}, {}}));
 }
 
-TEST_F(TVListingsTest, CountsWhatIsNotOverUpToTheScreensWish) {
+TEST_F(TVListingsTest, CountsShowsThatAreNotOverUpToShowCount) {
     made();
     merge({{hour(-1), hour(0), u"old"_s},
            {hour(0), hour(1), u"A"_s},
@@ -231,12 +231,12 @@ TEST_F(TVListingsTest, AllShowsPutTheUsersFirstChannelFirst) {
     listings->saveAllShows();
     EXPECT_EQ(found(u"a"_s), (Titles{"A2", "A1"}));
     clock.set(hour(1));
-    EXPECT_EQ(found(u"a"_s).size(), 2u) << "what ends now is not over";
+    EXPECT_EQ(found(u"a"_s).size(), 2u) << "a show that ends now is not over";
     listings->saveAllShows();
     EXPECT_EQ(found(u"a"_s), Titles{}) << "but it has ended";
 }
 
-TEST_F(TVListingsTest, AListThatComesAfterItsChannelWasGivenUpIsNotStored) {
+TEST_F(TVListingsTest, AListOfADeselectedChannelIsNotStored) {
     made();
     world.channels->setSelected({channel(2)});
     listings->removeListingsForChannel(channel(1));
@@ -260,7 +260,7 @@ TEST_F(TVListingsTest, RemovedListsLeaveTheirFiles) {
     EXPECT_EQ(world.popular.refreshes, 2);
 }
 
-TEST_F(TVListingsTest, UpdatedShowsAreFoundWrittenAndLeaveOldListsAlone) {
+TEST_F(TVListingsTest, UpdatedShowsAreFoundAndWrittenAndOldListsStayTheSame) {
     made();
     const ShowList old =
         merge({{hour(0), hour(1), u"A"_s}, {hour(1), hour(2), u"B"_s, 1}}).lists.at(channel(1));
@@ -288,10 +288,11 @@ TEST_F(TVListingsTest, UpdatedShowsAreFoundWrittenAndLeaveOldListsAlone) {
     listings->updateDetails((*old)[0].entry(), details, {});
     listings->updateIMDBForChannel(channel(3), u"B"_s, 1, QUrl(), {});
     queues.runAll();
-    EXPECT_FALSE(listings->isScheduledForSaving(channel(1))) << "the entry is of a list that was replaced";
+    EXPECT_FALSE(listings->isScheduledForSaving(channel(1)))
+        << "the entry belongs to a list that was replaced";
 }
 
-TEST_F(TVListingsTest, AnswersRunWhereTheySay) {
+TEST_F(TVListingsTest, BlocksRunOnTheDocumentedQueues) {
     made();
     merge({{hour(0), hour(1), u"A"_s}});
     listings->saveAllShows();
