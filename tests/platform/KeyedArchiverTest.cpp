@@ -16,82 +16,13 @@ namespace {
 
 using Id = std::array<std::uint8_t, 12>;
 
-struct Show {
-    Id channel{};
-    std::optional<QString> source;
-    std::optional<QString> title;
-    std::optional<Moment> start;
-    std::optional<QUrl> url;
-    bool repeated = false;
-    std::uint32_t categories = 0;
-
-    friend bool operator==(const Show&, const Show&) = default;
-};
-
-std::vector<Show> someShows() {
-    const Moment start(std::chrono::milliseconds(1'767'200'400'123));
-    std::vector<Show> shows(3);
-    shows[0] = {{1, 2, 3, 255, 0, 5},
-                u"feed"_s,
-                u"Večerní zprávy – živě 📺"_s,
-                start,
-                QUrl(u"http://a.example/č?x=1"_s),
-                true,
-                0xffff'ffff};
-    shows[1] = {{}, u"feed"_s, u""_s, Moment(std::chrono::milliseconds(-5)), std::nullopt, false, 0};
-    shows[2] = {{9}, std::nullopt, u"a\0b"_s, std::nullopt, std::nullopt, false, 24};
-    return shows;
-}
-
-QByteArray archiveOf(const std::vector<Show>& shows) {
+/// A record with a field of every type, after one with the same text in "source".
+QByteArray someRecords() {
     KeyedArchiver out;
-    out.beginArray(shows.size());
-    for (const Show& show : shows) {
-        out.beginArray(2);
-        out.beginRecord();
-        out.encode("channel", show.channel);
-        out.encode("source", show.source);
-        out.encode("title", show.title);
-        out.encode("dateTime", show.start);
-        out.encode("url", show.url);
-        out.encode("previouslyShown", show.repeated);
-        out.endRecord();
-        out.append(show.categories);
-    }
-    return std::move(out).finish();
-}
-
-std::vector<Show> readShows(KeyedUnarchiver& in) {
-    std::vector<Show> shows;
-    RepeatedText source;
-    const std::size_t count = in.array();
-    shows.reserve(count);
-    for (std::size_t index = 0; index < count && !in.failed(); ++index) {
-        Show& show = shows.emplace_back();
-        in.array();
-        const auto readSource = [&](KeyedUnarchiver& at) {
-            at.decode(source);
-            show.source = source.text;
-        };
-        in.record(field("channel", show.channel), field("source", readSource), field("title", show.title),
-                  field("dateTime", show.start), field("url", show.url),
-                  field("previouslyShown", show.repeated));
-        in.decode(show.categories);
-    }
-    return shows;
-}
-
-TEST(KeyedArchiverTest, ReadsWhatWasWritten) {
-    const QByteArray archive = archiveOf(someShows());
-    KeyedUnarchiver in(archive);
-    const std::vector<Show> read = readShows(in);
-    EXPECT_EQ(read, someShows());
-    EXPECT_TRUE(in.finished());
-    EXPECT_EQ(read[0].source->constData(), read[1].source->constData()) << "repeated texts share a string";
-}
-
-TEST(KeyedArchiverTest, FieldsMayBeInAnyOrderUnknownOrOfAnotherLength) {
-    KeyedArchiver out;
+    out.beginArray(2);
+    out.beginRecord();
+    out.encode("source", u"feed"_s);
+    out.endRecord();
     out.beginRecord();
     out.encode("previouslyShown", true);
     out.key("unknown");
@@ -100,21 +31,47 @@ TEST(KeyedArchiverTest, FieldsMayBeInAnyOrderUnknownOrOfAnotherLength) {
     out.beginRecord();
     out.encode("title", u"not this one"_s);
     out.endRecord();
-    out.encode("title", u"Title"_s);
-    out.encode("later", -1);
-    out.encode("channel", Id{7});
+    out.encode("source", u"feed"_s);
+    out.encode("title", std::optional(u"Večerní zprávy 📺"_s));
+    out.encode("subtitle", std::optional<QString>());
+    out.encode("dateTime", Moment(std::chrono::milliseconds(-5)));
+    out.encode("url", QUrl(u"http://a.example/č?x=1"_s));
+    out.encode("categories", 0xffff'ffffU);
+    out.encode("channel", Id{7, 255});
     out.encode("short", QByteArray("eleven byte"));
     out.endRecord();
-    const QByteArray archive = std::move(out).finish();
+    return std::move(out).finish();
+}
 
-    Show show;
-    Id unchanged{1, 2, 3};
+TEST(KeyedArchiverTest, ReadsFieldsInAnyOrder) {
+    const QByteArray archive = someRecords();
     KeyedUnarchiver in(archive);
-    in.record(field("channel", show.channel), field("source", show.source), field("title", show.title),
-              field("previouslyShown", show.repeated), field("short", unchanged));
+    RepeatedText source;
+    Id channel{};
+    Id unchanged{1, 2, 3};
+    std::optional<QString> title;
+    std::optional<QString> subtitle;
+    std::optional<Moment> start;
+    std::optional<QUrl> url;
+    std::uint32_t categories = 0;
+    bool repeated = false;
+    EXPECT_EQ(in.array(), 2U);
+    in.record(field("source", source));
+    const QString first = source.text;
+    in.record(field("channel", channel), field("short", unchanged), field("source", source),
+              field("title", title), field("subtitle", subtitle), field("dateTime", start), field("url", url),
+              field("categories", categories), field("previouslyShown", repeated));
     EXPECT_TRUE(in.finished());
+    EXPECT_EQ(first, u"feed"_s);
+    EXPECT_EQ(source.text.constData(), first.constData()) << "repeated texts share a string";
+    EXPECT_EQ(title, u"Večerní zprávy 📺"_s);
+    EXPECT_EQ(subtitle, std::nullopt);
+    EXPECT_EQ(start, Moment(std::chrono::milliseconds(-5)));
+    EXPECT_EQ(url, QUrl(u"http://a.example/č?x=1"_s));
+    EXPECT_EQ(categories, 0xffff'ffffU);
+    EXPECT_EQ(channel, (Id{7, 255}));
     EXPECT_EQ(unchanged, (Id{1, 2, 3})) << "bytes of another length";
-    EXPECT_EQ(show, (Show{Id{7}, std::nullopt, u"Title"_s, std::nullopt, std::nullopt, true, 0}));
+    EXPECT_TRUE(repeated);
 }
 
 TEST(KeyedArchiverTest, FailsOnValuesOfAnotherKind) {
@@ -157,6 +114,15 @@ TEST(KeyedArchiverTest, FailsOnValuesOfAnotherKind) {
         KeyedUnarchiver in(archive);
         each.read(in);
         EXPECT_TRUE(in.failed()) << each.name;
+    }
+    // Declared lengths without content, and endless nesting.
+    for (const char* content :
+         {"9bffffffffffffffff", "bbffffffffffffffff", "7bffffffffffffffff61", "8181818181"}) {
+        QByteArray archive = QByteArray(kArchiveHeaderSize, '\0') + QByteArray::fromHex(content);
+        sealArchive(archive);
+        KeyedUnarchiver in(archive);
+        in.skip();
+        EXPECT_TRUE(in.failed()) << content;
     }
 }
 
@@ -296,7 +262,7 @@ TEST(KeyedArchiverTest, AgreesWithQtOnRandomTrees) {
 }
 
 TEST(KeyedArchiverTest, RefusesEveryTruncationAndBitFlip) {
-    const QByteArray archive = archiveOf(someShows());
+    const QByteArray archive = someRecords();
     const auto isRefused = [](const QByteArray& damaged) {
         return KeyedUnarchiver(damaged).failed() && !unarchivedRoot(damaged);
     };
@@ -309,40 +275,6 @@ TEST(KeyedArchiverTest, RefusesEveryTruncationAndBitFlip) {
         ASSERT_TRUE(isRefused(damaged)) << bit;
     }
     EXPECT_TRUE(isRefused(archive + '\0'));
-}
-
-TEST(KeyedArchiverTest, NeverReadsOutsideDamagedContent) {
-    const QByteArray content = archiveOf(someShows()).mid(kArchiveHeaderSize);
-    const auto read = [](const QByteArray& damagedContent) {
-        QByteArray archive = QByteArray(kArchiveHeaderSize, '\0') + damagedContent;
-        sealArchive(archive);
-        // An exact copy, so that the sanitizer detects reads past its end.
-        const std::vector<char> exact(archive.begin(), archive.end());
-        const QByteArrayView view(exact.data(), static_cast<qsizetype>(exact.size()));
-        KeyedUnarchiver asShows(view);
-        EXPECT_LE(readShows(asShows).size(), exact.size());
-        KeyedUnarchiver asTree(view);
-        readTree(asTree);
-        KeyedUnarchiver passing(view);
-        passing.skip();
-    };
-    for (qsizetype size = 0; size < content.size(); ++size) {
-        read(content.left(size));
-    }
-    std::mt19937 random(1);
-    for (int round = 0; round < 4000; ++round) {
-        QByteArray damaged = content;
-        for (unsigned change = 0; change <= random() % 3; ++change) {
-            damaged[static_cast<qsizetype>(random() % static_cast<unsigned>(damaged.size()))] =
-                static_cast<char>(random());
-        }
-        read(damaged);
-    }
-    // Declared lengths without content.
-    read(QByteArray::fromHex("9bffffffffffffffff"));
-    read(QByteArray::fromHex("bbffffffffffffffff"));
-    read(QByteArray::fromHex("7bffffffffffffffff61"));
-    read(QByteArray(100'000, '\x81'));
 }
 
 } // namespace

@@ -63,21 +63,6 @@ TYPED_TEST(QueuesTest, SyncRunsOnTheCallingThreadInOrder) {
     EXPECT_EQ(this->log, "abcd");
 }
 
-TYPED_TEST(QueuesTest, BarriersSeparateEarlierAndLaterBlocks) {
-    std::atomic<int> before = 0;
-    std::atomic<int> after = 0;
-    for (int reader = 0; reader < 3; ++reader) {
-        this->concurrent->async([&] { ++before; });
-    }
-    this->concurrent->asyncBarrier([&] { EXPECT_TRUE(before == 3 && after == 0); });
-    DispatchGroup group;
-    for (int reader = 0; reader < 3; ++reader) {
-        group.async(*this->concurrent, [&] { ++after; });
-    }
-    EXPECT_TRUE(group.wait());
-    EXPECT_EQ(after, 3);
-}
-
 TYPED_TEST(QueuesTest, AReaderMayReadAgainWhileABarrierWaits) {
     bool ran = false;
     this->concurrent->sync([&] {

@@ -79,22 +79,10 @@ TEST(Utf8Test, AgreesWithQtOnDamagedText) {
 }
 
 TEST(Utf8Test, WritesLoneSurrogatesAsTheReplacementCharacter) {
-    const auto written = [](const QString& text) {
-        QByteArray bytes(text.size() * 3, 'x');
-        bytes.truncate(writeUtf8(text, bytes.data()) - bytes.constData());
-        return bytes;
-    };
-    const QChar high(0xd83d);
-    const QChar low(0xdcfa);
-    for (int before = 0; before < 20; ++before) {
-        const QString text = QString(before, u'a') + u"ač–📺 abcdefghijklm"_s;
-        EXPECT_EQ(written(text), text.toUtf8());
-    }
-    EXPECT_EQ(written(u"a"_s + high), "a\xef\xbf\xbd");
-    EXPECT_EQ(written(high + u"b"_s), "\xef\xbf\xbd"
-                                      "b");
-    EXPECT_EQ(written(u"a"_s + low + high), "a\xef\xbf\xbd\xef\xbf\xbd");
-    EXPECT_EQ(written(QString(high) + high + low), "\xef\xbf\xbd\xf0\x9f\x93\xba");
+    const QString text = u"ač–📺"_s + QChar(0xd83d) + u'b' + QChar(0xdcfa);
+    QByteArray bytes(text.size() * 3, 'x');
+    bytes.truncate(writeUtf8(text, bytes.data()) - bytes.constData());
+    EXPECT_EQ(bytes, u"ač–📺\uFFFDb\uFFFD"_s.toUtf8());
 }
 
 } // namespace

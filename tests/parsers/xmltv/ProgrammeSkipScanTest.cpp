@@ -48,7 +48,7 @@ const std::array<Piece, 6> kStates{{
 }};
 
 /// Programmes, most of them unwanted, with everything that XML allows.
-const std::array<Piece, 22> kSkippable{{
+const std::array<Piece, 23> kSkippable{{
     {"plain", show("u", "Skipped")},
     {"no channel", programme("@", "<title>Skipped</title>")},
     {"empty", "<programme channel=\"u\"/>"},
@@ -66,6 +66,7 @@ const std::array<Piece, 22> kSkippable{{
     {"a numbered tab in the id", programme("@ channel=\"w&#9;1\"", "<title>S</title>")},
     {"a numbered id", show("&#x77;", "Wanted")},
     {"a decimal id", show("&#119;", "Wanted")},
+    {"an id with hexadecimal letters", show("&#x6a;&#x6F;", "Wanted")},
     {"a reference in the id", show("v&amp;&lt;&gt;&quot;&apos;", "Wanted")},
     {"other elements of like names",
      programme("@ channel=\"u\"", "<programmes/><programme-id></programme-id><title>S</title>")},
@@ -137,7 +138,7 @@ std::string foot(const Piece& head) {
 const std::array<std::vector<QString>, 3> kWanted{
     {{QStringLiteral("w")},
      {QStringLiteral("w"), QStringLiteral("w 1")},
-     {QStringLiteral("v&<>\"'"), QStringLiteral("w"), QStringLiteral("w\t1")}}};
+     {QStringLiteral("v&<>\"'"), QStringLiteral("w"), QStringLiteral("w\t1"), QStringLiteral("jo")}}};
 
 /// Expects the scan and the parser together to give the shows of the parser alone. Returns whether anything
 /// was left out.
