@@ -52,7 +52,7 @@ struct Exhibit {
     QString name;
     std::vector<Section> sections;
     int height = 844;
-    /// Brings the screen into its state before the window opens, and the drawn one into its after it.
+    /// Brings the screen into its state, and then what is drawn of it.
     std::function<void(World&, GalleryScreen&)> prepare = [](World&, GalleryScreen&) {};
     std::function<void(QQuickItem& list)> act = [](QQuickItem&) {};
     /// Wider than a tablet.
@@ -96,10 +96,10 @@ QImage drawn(const Exhibit& exhibit, UserInterfaceIdiom idiom, ColorScheme schem
     GalleryPictures pictures;
     const auto screen = std::make_shared<GalleryScreen>(exhibit.name, exhibit.sections);
     World world(idiom, screen);
-    exhibit.prepare(world, *screen);
     GuideWindow window(
         world.tabs, {.form = idiom, .scheme = scheme, .size = size, .motion = false, .pictures = &pictures});
     window.show();
+    exhibit.prepare(world, *screen);
     settle(150);
     auto* quick = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().constLast());
     if (QQuickItem* list = visibleList(quick->contentItem())) {
@@ -228,6 +228,7 @@ int main(int argc, char** argv) {
         std::cerr << "usage: guide_ui_gallery FOLDER [SCREEN…]\n";
         return 2;
     }
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
     QDir().mkpath(arguments[1]);
     bool complete = true;
     for (const Exhibit& exhibit : exhibits()) {

@@ -1,6 +1,7 @@
 #include "ui/model/AccessibleName.h"
 
 #include "screens/Localized.h"
+#include "text/display/ShortTimeFormat.h"
 
 #include <QLocale>
 #include <QStringList>
@@ -65,7 +66,9 @@ QString accessibleName(const RowContent& content) {
 }
 
 QString shortTime(const QTime& time) {
-    return time.isValid() ? QLocale().toString(time, QLocale::ShortFormat) : QString();
+    return time.isValid()
+               ? QLocale().toString(time, rowTimeFormat(QLocale().timeFormat(QLocale::ShortFormat)))
+               : QString();
 }
 
 } // namespace guide

@@ -20,6 +20,16 @@ T.Popup {
     readonly property bool popover: stack !== null && stack.popover
     readonly property bool narrow: windowWidth < 600
 
+    function follow() {
+        if (presenter.presented) {
+            drop()
+            stack = presenter.presented
+            open()
+        } else {
+            close()
+        }
+    }
+
     function drop() {
         if (stack && stack !== presenter.presented) {
             stack.release()
@@ -27,6 +37,8 @@ T.Popup {
         }
     }
 
+    Component.onCompleted: if (presenter.presented)
+        follow()
     onUsableChanged: if (!usable)
         presenter.dismiss()
 
@@ -34,13 +46,7 @@ T.Popup {
         target: panel.presenter
 
         function onPresentedChanged() {
-            if (panel.presenter.presented) {
-                panel.drop()
-                panel.stack = panel.presenter.presented
-                panel.open()
-            } else {
-                panel.close()
-            }
+            panel.follow()
         }
     }
 

@@ -18,6 +18,8 @@ T.Popup {
     modal: true
     focus: true
     padding: 8
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
 
     background: Rectangle {

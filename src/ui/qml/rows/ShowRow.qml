@@ -71,14 +71,20 @@ TableRow {
         target: title
 
         function onLineLaidOut(line) {
-            marks.x = title.x + Math.min(line.implicitWidth, title.width) + 6
-            marks.y = title.y + line.y + (line.height - marks.height) / 2
+            marks.lineEnd = line.implicitWidth
+            marks.lineMiddle = line.y + line.height / 2
         }
     }
 
     ShowMarks {
         id: marks
 
+        // Of the title's last line.
+        property double lineEnd: 0
+        property double lineMiddle: 0
+
+        x: title.x + Math.min(lineEnd, title.width) + 6
+        y: title.y + lineMiddle - height / 2
         popular: cell.row.popular
         favourite: cell.row.favourite
         alarmed: cell.row.alarmed

@@ -52,6 +52,8 @@ Row {
             }
 
             contentItem: Text {
+                leftPadding: 6
+                rightPadding: 6
                 text: action.text
                 textFormat: Text.PlainText
                 color: Theme.background

@@ -32,7 +32,7 @@ TableRow {
             textFormat: Text.PlainText
             color: Theme.label
             font: Theme.bodyFont
-            elide: Text.ElideRight
+            wrapMode: cell.valueBelow ? Text.Wrap : Text.NoWrap
         }
 
         Text {
@@ -40,12 +40,12 @@ TableRow {
 
             x: cell.valueBelow ? 0 : parent.width - width
             y: cell.valueBelow ? caption.y + caption.height + 2 : (parent.height - height) / 2
-            width: Math.min(implicitWidth, parent.width)
+            width: cell.valueBelow ? parent.width : implicitWidth
             text: cell.value
             textFormat: Text.PlainText
             color: Theme.tint
             font: Theme.bodyFont
-            elide: Text.ElideRight
+            wrapMode: cell.valueBelow ? Text.Wrap : Text.NoWrap
         }
     }
 
