@@ -209,18 +209,5 @@ TEST(XMLTVToEntries, ImagesNeedTheOptionAndABase) {
     EXPECT_TRUE(read(programmes, {}, withoutBase)[0].entries[0].pictures.isEmpty());
 }
 
-/// Quadratic work would take minutes here.
-TEST(XMLTVToEntries, ReadsLongTextsInLinearTime) {
-    const auto repeated = [](const char* text, int times) {
-        return QByteArray(text).repeated(times).toStdString();
-    };
-    for (const char* text : {"[", "[]\n", "] [", " &#32;", "\\\\nn", "Uloge: ", ", Regia - ", "(", "\t("}) {
-        const std::string value = repeated(text, 200'000);
-        read(show("a", "A" + value) + programme(kLater, "<title>B</title><sub-title>x" + value +
-                                                            "</sub-title><desc>" + value + "</desc>"),
-             {});
-    }
-}
-
 } // namespace
 } // namespace guide
