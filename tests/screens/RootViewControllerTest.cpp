@@ -30,6 +30,7 @@ TEST_F(RootViewControllerTest, ShowsASectionForEachSelectedChannelInOrder) {
     world.addChannel(u"Only live"_s, true, u"http://x/only"_s);
     world.addChannel(u"Unselected"_s, false);
     world.showCount = 2;
+    world.popular.titles = {u"Next"_s};
     world.start();
     world.load(one, {{-30, 30, u"Now"_s, u"Facts"_s}, {30, 60, u"Next"_s}, {60, 90, u"Later"_s}});
     world.load(two, {{-5, 5, u"Other"_s}});
@@ -41,6 +42,7 @@ TEST_F(RootViewControllerTest, ShowsASectionForEachSelectedChannelInOrder) {
     EXPECT_EQ(table().rowAt(1).id.section, one.hex());
     EXPECT_EQ(showAt(table(), 1).endTime, u"08:00pm"_s);
     EXPECT_EQ(showAt(table(), 1).details, u"Facts"_s);
+    EXPECT_TRUE(showAt(table(), 2).popular && !showAt(table(), 1).popular);
     EXPECT_EQ(channelAt(table(), 0).subtitle, u"Updated 12/31/25 7:30 PM"_s);
     EXPECT_EQ(channelAt(table(), 5).subtitle, QString()) << "never loaded";
     EXPECT_EQ(channelAt(table(), 0).accessory, Accessory::Disclosure);
@@ -106,16 +108,6 @@ TEST_F(RootViewControllerTest, TimeColoursAndProgress) {
         EXPECT_EQ(showAt(table(), 1).timeColor, each.color);
         EXPECT_EQ(showAt(table(), 1).progress, each.progress);
     }
-}
-
-TEST_F(RootViewControllerTest, MarksPopularShows) {
-    const ObjectId channel = world.addChannel(u"Jedna"_s);
-    world.popular.titles = {u"Loved"_s};
-    world.start();
-    world.load(channel, {{-5, 5, u"Loved"_s}, {5, 9, u"Other"_s}});
-    world.show();
-    EXPECT_TRUE(showAt(table(), 1).popular);
-    EXPECT_FALSE(showAt(table(), 2).popular);
 }
 
 TEST_F(RootViewControllerTest, AFreshListChangesOnlyTheRowsThatDiffer) {

@@ -47,15 +47,6 @@ TEST(ShowRowTextTest, TimesFollowTheLocaleWithTwoDigitsOfHour) {
     }
 }
 
-TEST(ShowRowTextTest, AShowWithNothingButATitle) {
-    const Alphabet alphabet;
-    TVEntry entry(alphabet);
-    entry.setIdentificator(u"Title"_s);
-    const ShowRowText text(QLocale::c(), QTimeZone::utc());
-    const ShowRow expected{.title = u"Title"_s, .timeColor = ColorRole::Label};
-    EXPECT_EQ(text.humanWithColor(entry, ColorRole::Label, false), expected);
-}
-
 TEST(ShowRowIdsTest, ShowsOfOneChannelThatStartTogetherDiffer) {
     const Alphabet alphabet;
     const ObjectId one = ObjectId::fromHex(u"000000000000000000000001"_s);

@@ -209,29 +209,5 @@ TEST(XMLTVToEntries, ImagesNeedTheOptionAndABase) {
     EXPECT_TRUE(read(programmes, {}, withoutBase)[0].entries[0].pictures.isEmpty());
 }
 
-TEST(XMLTVToEntries, FindsWordsAnywhereInALongDescription) {
-    const std::string filler(300, 'x');
-    for (std::size_t place = 0; place <= filler.size(); ++place) {
-        std::string description = filler;
-        description.insert(place, "Sci-Fi");
-        const auto channels = read(show("a", "A</title><desc>" + description + "</desc><title>"), {});
-        EXPECT_EQ(channels[0].entries[0].categories, TVListingsCategoryMovies | TVListingsCategorySF)
-            << place;
-    }
-}
-
-/// Quadratic work would take minutes here.
-TEST(XMLTVToEntries, ReadsLongTextsInLinearTime) {
-    const auto repeated = [](const char* text, int times) {
-        return QByteArray(text).repeated(times).toStdString();
-    };
-    for (const char* text : {"[", "[]\n", "] [", " &#32;", "\\\\nn", "Uloge: ", ", Regia - ", "(", "\t("}) {
-        const std::string value = repeated(text, 200'000);
-        read(show("a", "A" + value) + programme(kLater, "<title>B</title><sub-title>x" + value +
-                                                            "</sub-title><desc>" + value + "</desc>"),
-             {});
-    }
-}
-
 } // namespace
 } // namespace guide
