@@ -1,5 +1,6 @@
 #include "platform/queues/ThreadedQueues.h"
 
+#include <array>
 #include <atomic>
 #include <gtest/gtest.h>
 #include <random>
@@ -12,7 +13,7 @@ namespace {
 /// A queue and plain values that only its blocks access; the thread sanitizer checks that.
 struct Guarded {
     std::shared_ptr<DispatchQueue> queue;
-    bool serial;
+    bool serial = false;
     long written = 0;
     std::atomic<int> readers = 0;
     std::atomic<int> writers = 0;
@@ -31,79 +32,58 @@ struct Guarded {
     }
 };
 
-/// Random numbers that are the same in every run.
-class RandomNumbers {
-  public:
-    explicit RandomNumbers(unsigned seed)
-        : m_numbers(seed) {}
-    unsigned operator()(unsigned sides) { return static_cast<unsigned>(m_numbers() % sides); }
-
-  private:
-    std::minstd_rand m_numbers;
-};
-
 TEST(QueueStressTest, KeepsItsGuaranteesUnderLoadAndShutDown) {
-    constexpr int kRounds = 3;
+    constexpr unsigned kQueues = 4;
     constexpr unsigned kThreads = 4;
-    constexpr int kSteps = 1500;
-    for (unsigned round = 0; round < kRounds; ++round) {
+    // The first round runs to completion; in the others the queues are shut down under load.
+    for (unsigned round = 0; round < 3; ++round) {
         ThreadedQueues queues([] {});
-        std::vector<std::unique_ptr<Guarded>> all;
-        for (unsigned i = 0; i < 4; ++i) {
-            const bool serial = i % 2 == 0;
-            all.push_back(std::make_unique<Guarded>());
-            all.back()->serial = serial;
-            all.back()->queue = queues.makeQueue(
-                "queue " + std::to_string(i), serial ? QueueKind::Serial : QueueKind::Concurrent,
-                i < 2 ? QueuePriority::Background : QueuePriority::UserInitiated);
+        std::array<Guarded, kQueues> all;
+        for (unsigned i = 0; i < kQueues; ++i) {
+            all[i].serial = i % 2 == 0;
+            all[i].queue = queues.makeQueue("queue " + std::to_string(i),
+                                            all[i].serial ? QueueKind::Serial : QueueKind::Concurrent,
+                                            i < 2 ? QueuePriority::Background : QueuePriority::UserInitiated);
         }
-        std::atomic<long> writes = 0;
-        const auto step = [&](RandomNumbers& random) {
-            const unsigned index = random(4);
-            Guarded& guarded = *all[index];
-            const auto write = [&guarded, &writes] {
-                guarded.write();
-                ++writes;
-            };
+        const auto step = [&](std::minstd_rand& random) {
+            const unsigned index = random() % kQueues;
+            Guarded& guarded = all[index];
+            const auto write = [&guarded] { guarded.write(); };
             const auto read = [&guarded] { guarded.serial ? guarded.write() : guarded.read(); };
-            switch (random(9)) {
+            SuspensionToken token;
+            DispatchGroup group;
+            switch (random() % 8) {
             case 0:
                 guarded.queue->sync(read);
                 break;
             case 1:
+                token = guarded.queue->suspend();
+                [[fallthrough]];
             case 2:
                 guarded.queue->asyncBarrier(write);
                 break;
             case 3:
-                guarded.queue->asyncAfter(std::chrono::milliseconds(random(3)), read);
+                guarded.queue->asyncAfter(std::chrono::milliseconds(random() % 3), read);
                 break;
-            case 4: {
-                const auto token = guarded.queue->suspend();
-                guarded.queue->asyncBarrier(write);
-                break;
-            }
-            case 5: {
-                DispatchGroup group;
+            case 4:
                 group.async(*guarded.queue, read);
                 group.async(queues.globalQueue(QueuePriority::Default), [] {});
                 EXPECT_TRUE(group.wait());
                 break;
-            }
-            case 6:
+            case 5:
                 // Waits for a queue further on, as the update check waits for the load queue.
                 guarded.queue->async([&all, index] {
-                    for (std::size_t next = index + 1; next < all.size(); ++next) {
-                        all[next]->queue->sync(
-                            [&] { all[next]->serial ? all[next]->write() : all[next]->read(); });
+                    for (unsigned next = index + 1; next < all.size(); ++next) {
+                        all[next].queue->sync(
+                            [&] { all[next].serial ? all[next].write() : all[next].read(); });
                     }
                 });
                 break;
-            case 7: {
+            case 6:
                 // A suspension that ends on another queue.
-                auto token = std::make_shared<SuspensionToken>(guarded.queue->suspend());
-                queues.globalQueue(QueuePriority::Background).async([token = std::move(token)] {});
+                queues.globalQueue(QueuePriority::Background)
+                    .async([held = std::make_shared<SuspensionToken>(guarded.queue->suspend())] {});
                 break;
-            }
             default:
                 guarded.queue->async(read);
             }
@@ -112,30 +92,28 @@ TEST(QueueStressTest, KeepsItsGuaranteesUnderLoadAndShutDown) {
         threads.reserve(kThreads);
         for (unsigned t = 0; t < kThreads; ++t) {
             threads.emplace_back([&, t] {
-                RandomNumbers random(1 + round * kThreads + t);
-                for (int i = 0; i < kSteps; ++i) {
+                std::minstd_rand random(1 + round * kThreads + t);
+                for (int i = 0; i < 1500; ++i) {
                     step(random);
                 }
             });
         }
-        if (round == 0) {
-            // The first round runs to completion; in the others the queues are shut down under load.
+        const auto joinAll = [&threads] {
             for (std::thread& thread : threads) {
                 thread.join();
             }
-            for (const auto& guarded : all) {
+            threads.clear();
+        };
+        if (round == 0) {
+            joinAll();
+            for (Guarded& guarded : all) {
                 DispatchGroup last;
-                last.async(*guarded->queue, [] {});
+                last.async(*guarded.queue, [&guarded] { EXPECT_GT(guarded.written, 0); });
                 last.wait();
             }
-            EXPECT_GT(writes, 0);
         }
         queues.shutDown();
-        for (std::thread& thread : threads) {
-            if (thread.joinable()) {
-                thread.join();
-            }
-        }
+        joinAll();
     }
 }
 
