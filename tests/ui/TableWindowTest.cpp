@@ -1,7 +1,7 @@
 // What the drawing of a table keeps while the table changes, and what it reports of the user's actions.
-#include "GalleryRows.h"
 #include "WindowTest.h"
 #include "fakes/ManualQueues.h"
+#include "gallery/GalleryRows.h"
 #include "platform/memory/ManualClock.h"
 #include "screens/kit/TabBarController.h"
 #include "ui/model/RowValues.h"
@@ -37,11 +37,18 @@ class Screen final : public TableViewController {
         return found;
     }
 
+    /// What a tap opens.
+    std::shared_ptr<ViewController> next;
     std::vector<Sent> sent;
     QStringList searched;
 
   protected:
-    void rowEvent(const RowId& id, const RowEvent& event) override { sent.push_back({*id.name(), event}); }
+    void rowEvent(const RowId& id, const RowEvent& event) override {
+        sent.push_back({*id.name(), event});
+        if (next) {
+            navigationController()->pushFrom(*this, std::move(next));
+        }
+    }
     std::vector<RowAction> actionsForRow(const RowId&) override {
         return {{u"Remove"_s, {}, ColorRole::Alarm, [] {}}};
     }
@@ -296,7 +303,8 @@ TEST_F(TableWindowTest, WideWindowsShowTwoScreens) {
     NavigationController& stack = tabs->selectedNavigationController();
     ASSERT_EQ(lists().size(), 1);
     EXPECT_EQ(lists()[0]->width(), 720);
-    stack.push(std::make_shared<Screen>(lines(4)));
+    const auto left = std::make_shared<Screen>(lines(4));
+    stack.push(left);
     settle();
     stack.push(std::make_shared<Screen>(lines(5)));
     settle();
@@ -305,6 +313,14 @@ TEST_F(TableWindowTest, WideWindowsShowTwoScreens) {
     EXPECT_LT(both[0]->mapToScene({}).x() + both[0]->width(), both[1]->mapToScene({}).x() + 1);
     EXPECT_EQ(both[0]->property("count").toInt(), 4);
     EXPECT_EQ(both[1]->property("count").toInt(), 5);
+
+    left->next = std::make_shared<Screen>(lines(6));
+    QQuickItem* leftRow = nullptr;
+    QMetaObject::invokeMethod(both[0], "itemAtIndex", Q_RETURN_ARG(QQuickItem*, leftRow), Q_ARG(int, 1));
+    click(leftRow);
+    ASSERT_EQ(lists().size(), 2);
+    EXPECT_EQ(stack.viewControllers().size(), 3U) << "the screen at the right was replaced";
+    EXPECT_EQ(lists()[1]->property("count").toInt(), 6);
     press(Qt::Key_Escape);
     EXPECT_EQ(stack.viewControllers().size(), 2U);
     quickWindow->resize(1000, 800);

@@ -48,6 +48,22 @@ void NavigationController::push(std::shared_ptr<ViewController> viewController) 
     }
 }
 
+void NavigationController::pushFrom(const ViewController& opener,
+                                    std::shared_ptr<ViewController> viewController) {
+    if (!shows(opener)) {
+        return;
+    }
+    if (topViewController().get() != &opener) {
+        pop();
+    }
+    push(std::move(viewController));
+}
+
+bool NavigationController::shows(const ViewController& viewController) const {
+    return topViewController().get() == &viewController ||
+           (m_sideBySide && m_stack.size() > 1 && m_stack[m_stack.size() - 2].get() == &viewController);
+}
+
 void NavigationController::pop() {
     popTo(m_stack.size() - 1);
 }

@@ -43,6 +43,9 @@ class NavigationController {
     void show(std::shared_ptr<ViewController> viewController, Presentation presentation,
               const Anchor& anchor = {});
     void push(std::shared_ptr<ViewController> viewController);
+    /// Opens a screen from another one: what is above `opener` is popped first. Does nothing when `opener` is
+    /// no longer visible.
+    void pushFrom(const ViewController& opener, std::shared_ptr<ViewController> viewController);
     /// Does nothing on the root.
     void pop();
     void popToRoot();
@@ -52,6 +55,10 @@ class NavigationController {
 
     /// The top screen, and what is presented, appear and disappear with the stack.
     void setVisible(bool visible);
+    /// Whether the window shows the screen below the top one beside it.
+    void setSideBySide(bool sideBySide) { m_sideBySide = sideBySide; }
+    /// Whether it is the top screen, or the one beside it.
+    bool shows(const ViewController& viewController) const;
 
   private:
     void popTo(std::size_t count);
@@ -60,6 +67,7 @@ class NavigationController {
     std::vector<std::shared_ptr<ViewController>> m_stack;
     const UserInterfaceIdiom m_idiom;
     bool m_visible = false;
+    bool m_sideBySide = false;
     std::unique_ptr<NavigationController> m_presented;
     /// The stack that presents this one.
     NavigationController* m_presenter = nullptr;

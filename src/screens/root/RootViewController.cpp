@@ -229,15 +229,15 @@ void RootViewController::selectedChannel(const Channel& channel) {
                                             iconName = channel.iconName](const ShowSpan& entries) {
             NavigationController* navigation = navigationController();
             // The user may have opened another screen before the answer came.
-            if (!navigation || navigation->topViewController().get() != this) {
+            if (!navigation || !navigation->shows(*this)) {
                 return;
             }
             if (entries.empty()) {
                 table().deselectRow();
                 return;
             }
-            navigation->push(std::make_shared<ChannelViewController>(m_environment, title, entries, iconName,
-                                                                     identificator));
+            navigation->pushFrom(*this, std::make_shared<ChannelViewController>(m_environment, title, entries,
+                                                                                iconName, identificator));
         }));
 }
 

@@ -96,6 +96,12 @@ void PageStack::dropLeaving() {
     }
 }
 
+void PageStack::setSideBySide(bool sideBySide) {
+    if (m_navigationController) {
+        m_navigationController->setSideBySide(sideBySide);
+    }
+}
+
 // ---- popovers and sheets
 
 void PageStack::presented(Presentation presentation, const Anchor& anchor) {

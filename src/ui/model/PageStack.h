@@ -44,6 +44,8 @@ class PageStack : public QAbstractListModel, private NavigationObserver {
     AnchorKind anchorKind() const { return m_anchorKind; }
     int anchorIndex() const { return m_anchorIndex; }
 
+    /// Whether the two top screens are drawn beside each other.
+    Q_INVOKABLE void setSideBySide(bool sideBySide);
     /// Closes what the stack presents.
     Q_INVOKABLE void dismiss();
     /// Pages that were popped need not be drawn any more.

@@ -14,6 +14,8 @@ FocusScope {
     readonly property bool divided: sideBySide && stack.depth > 1
     readonly property double half: Math.floor(width / 2)
 
+    onSideBySideChanged: stack.setSideBySide(sideBySide)
+    Component.onCompleted: stack.setSideBySide(sideBySide)
     clip: true
 
     Repeater {
