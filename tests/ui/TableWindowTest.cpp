@@ -1,7 +1,7 @@
 // What the drawing of a table keeps while the table changes, and what it reports of the user's actions.
-#include "GalleryRows.h"
 #include "WindowTest.h"
 #include "fakes/ManualQueues.h"
+#include "gallery/GalleryRows.h"
 #include "platform/memory/ManualClock.h"
 #include "screens/kit/TabBarController.h"
 #include "ui/model/RowValues.h"
