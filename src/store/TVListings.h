@@ -99,7 +99,7 @@ class TVListings {
                         std::function<void(std::vector<ObjectId> selected, std::vector<ShowSpan>)> block);
     void onAirShows(MainBlock<std::vector<ObjectId>, std::vector<ShowSpan>> mainBlock);
     /// The shows of the channel that are not over.
-    void cachedListForChannel(const ObjectId& channel, QueuePriority priority, MainBlock<ShowSpan> mainBlock);
+    void cachedListForChannel(const ObjectId& channel, MainBlock<ShowSpan> mainBlock);
     /// For each selected channel how many shows are not over, counted up to showCount.
     void showCountForSelectedChannelsForQueue(std::shared_ptr<DispatchQueue> queue,
                                               std::function<void(ShowCounts)> block);

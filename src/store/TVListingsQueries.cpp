@@ -49,7 +49,7 @@ void TVListings::onAirShows(MainBlock<std::vector<ObjectId>, std::vector<ShowSpa
     });
 }
 
-void TVListings::cachedListForChannel(const ObjectId& channel, QueuePriority, MainBlock<ShowSpan> mainBlock) {
+void TVListings::cachedListForChannel(const ObjectId& channel, MainBlock<ShowSpan> mainBlock) {
     m_state->query([channel, mainBlock = std::move(mainBlock)](State& state) mutable {
         const auto list = state.lists.find(channel);
         mainBlock.post(state.mainQueue(), list == state.lists.end()

@@ -202,14 +202,14 @@ bool GuideWorld::check() {
 std::vector<std::pair<Moment, QString>> GuideWorld::shows(const ObjectId& channel) {
     std::vector<std::pair<Moment, QString>> found;
     bool answered = false;
-    guide->listings().cachedListForChannel(
-        channel, QueuePriority::Default, MainBlock<ShowSpan>([&](const ShowSpan& shows) {
-            for (const ShowItem& show : shows) {
-                found.emplace_back(show.entry()->dateTime().value_or(Moment()),
-                                   show.entry()->title().value_or(QString()));
-            }
-            answered = true;
-        }));
+    guide->listings().cachedListForChannel(channel, MainBlock<ShowSpan>([&](const ShowSpan& shows) {
+                                               for (const ShowItem& show : shows) {
+                                                   found.emplace_back(
+                                                       show.entry()->dateTime().value_or(Moment()),
+                                                       show.entry()->title().value_or(QString()));
+                                               }
+                                               answered = true;
+                                           }));
     EXPECT_TRUE(runUntil([&] { return answered; }));
     return found;
 }

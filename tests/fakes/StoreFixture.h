@@ -39,12 +39,15 @@ struct StoreFixture {
 
     /// Its title and icon are the number.
     void addChannel(int number, const StoreChannel& channel = {}) {
-        const ObjectId id = channelNumbered(number);
-        m_listed.push_back({id, QString::number(number), channel.language, QStringLiteral("x"),
-                            QString::number(number), channel.sourceIds});
-        if (channel.selected) {
-            m_selected.push_back(id);
+        addChannel({channelNumbered(number), QString::number(number), channel.language, QStringLiteral("x"),
+                    QString::number(number), channel.sourceIds},
+                   channel.selected);
+    }
+    void addChannel(CatalogueChannel channel, bool selected) {
+        if (selected) {
+            m_selected.push_back(channel.id);
         }
+        m_listed.push_back(std::move(channel));
     }
 
     /// Makes the catalogue and the selection.

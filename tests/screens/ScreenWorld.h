@@ -1,13 +1,8 @@
 #pragma once
 
-#include "fakes/FakeApplicationState.h"
-#include "fakes/FakeBackgroundTasks.h"
-#include "fakes/FakeDevice.h"
-#include "fakes/FakeShowSources.h"
 #include "fakes/ManualQueues.h"
+#include "fakes/StoreFixture.h"
 #include "platform/memory/ManualClock.h"
-#include "platform/memory/MemoryKeyValueStore.h"
-#include "platform/memory/MemoryUserDefaults.h"
 #include "screens/shell/GuideTabs.h"
 #include "screens/shell/ScreenBroadcast.h"
 #include "screens/shell/ScreenEnvironment.h"
@@ -93,11 +88,22 @@ struct WorldShow {
     QSet<QUrl> pictures = {};
 };
 
+/// A temporary folder, a manual clock and manual queues.
+struct ManualSurroundings {
+    const QTemporaryDir folder;
+    ManualClock clock;
+    ManualQueues queues{clock};
+};
+
 /// The screens of a guide on manual queues, over a real store in a temporary folder.
-class ScreenWorld {
+class ScreenWorld : public ManualSurroundings, public StoreFixture {
   public:
+    using ManualSurroundings::clock;
+    using ManualSurroundings::queues;
+
     explicit ScreenWorld(UserInterfaceIdiom idiom = UserInterfaceIdiom::Phone,
-                         const QString& iconFolder = QString()) {
+                         const QString& iconFolder = QString())
+        : StoreFixture(ManualSurroundings::clock, ManualSurroundings::queues, folder.path()) {
         device.idiom = idiom;
         m_iconFolder = iconFolder;
     }
@@ -106,30 +112,18 @@ class ScreenWorld {
         queues.runAll();
     }
 
-    static ObjectId channelId(int number) {
-        return ObjectId::fromHex(u"%1"_s.arg(number, 24, 16, QLatin1Char('0')));
-    }
+    static ObjectId channelId(int number) { return channelNumbered(number); }
 
     /// To be called before start().
     ObjectId addChannel(const QString& title, bool select = true, std::optional<QString> stream = {}) {
-        const ObjectId id = channelId(static_cast<int>(m_listed.size()) + 1);
-        m_listed.push_back({id, title, u"cs"_s, u"x"_s, title, {}, std::move(stream)});
-        if (select) {
-            m_selected.push_back(id);
-        }
+        const ObjectId id = channelId(++m_channelCount);
+        StoreFixture::addChannel({id, title, u"cs"_s, u"x"_s, title, {}, std::move(stream)}, select);
         return id;
     }
 
     void start() {
-        const QString path = folder.path();
-        folders = {path, path, path, path, path, path};
-        catalogue.replace(CatalogueSnapshot(m_listed));
-        icons = std::make_unique<TVStationIcons>(m_iconFolder.isEmpty() ? path : m_iconFolder, 2);
-        channels = std::make_unique<TVChannels>(folders, keyValueStore, queues, catalogue);
-        channels->setSelected(m_selected);
-        listings = std::make_unique<TVListings>(
-            TVListingsEnvironment{clock, device, folders, queues, tasks, state, *channels, alphabet,
-                                  favorites, popular, observer, u"guide"_s, [this] { return showCount; }});
+        icons = std::make_unique<TVStationIcons>(m_iconFolder.isEmpty() ? folder.path() : m_iconFolder, 2);
+        open();
         environment = std::make_shared<const ScreenEnvironment>(
             ScreenEnvironment{clock,
                               device,
@@ -205,38 +199,20 @@ class ScreenWorld {
 
     ViewController& top() const { return *tabs->selectedNavigationController().topViewController(); }
 
-    const QTemporaryDir folder;
-    ManualClock clock;
     const Moment begin = clock.now();
-    ManualQueues queues{clock};
-    FakeDevice device;
-    FakeApplicationState state;
-    FakeBackgroundTasks tasks;
-    MemoryUserDefaults userDefaults;
-    MemoryKeyValueStore keyValueStore;
-    Alphabet alphabet;
-    FakeFavorites favorites;
     FakeAlarms alarms;
-    FakePopularShows popular;
-    CountingListingsObserver observer;
     WorldPictures pictures;
     ShowPictureCache pictureCache;
     WorldApp app;
-    int showCount = 4;
-    Folders folders;
     std::shared_ptr<DispatchQueue> loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial);
     std::unique_ptr<TVStationIcons> icons;
-    Catalogue catalogue;
-    std::unique_ptr<TVChannels> channels;
-    std::unique_ptr<TVListings> listings;
     std::shared_ptr<const ScreenEnvironment> environment;
     std::unique_ptr<TabBarController> tabs;
     std::unique_ptr<ScreenBroadcast> broadcast;
 
   private:
     QString m_iconFolder;
-    std::vector<CatalogueChannel> m_listed;
-    std::vector<ObjectId> m_selected;
+    int m_channelCount = 0;
 };
 
 } // namespace guide::test

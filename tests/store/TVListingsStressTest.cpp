@@ -103,7 +103,7 @@ TEST(TVListingsStressTest, ChangesQueriesAndWritesRunConcurrently) {
                 ++answers;
             });
             listings.onAirShows({[&](const auto&, const auto&) { ++answers; }});
-            listings.cachedListForChannel(channel(1), QueuePriority::Default, {[&](const ShowSpan& shows) {
+            listings.cachedListForChannel(channel(1), {[&](const ShowSpan& shows) {
                                               expectOneList(shows);
                                               ++answers;
                                           }});

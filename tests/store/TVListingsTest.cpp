@@ -48,7 +48,7 @@ class TVListingsTest : public ::testing::Test {
     }
     Titles cachedList(int number) {
         Titles answer{"no answer"};
-        listings->cachedListForChannel(channel(number), QueuePriority::Default,
+        listings->cachedListForChannel(channel(number),
                                        {[&](const ShowSpan& shows) { answer = titles(shows); }});
         queues.runAll();
         return answer;

@@ -1,7 +1,7 @@
 // Draws every kind of row in every state, and what lies over the rows, and writes one picture per screen and
-// form: light and dark, each at 100 and 200 per cent text. Usage: guide_ui_gallery FOLDER [SCREEN…]
-#include "fakes/ManualQueues.h"
+// form: light and dark, each at 100 and 200 per cent text. Usage: guide_gallery FOLDER [SCREEN…]
 #include "gallery/GalleryRows.h"
+#include "fakes/ManualQueues.h"
 #include "platform/memory/ManualClock.h"
 #include "screens/kit/TabBarController.h"
 #include "ui/GuideWindow.h"
@@ -225,7 +225,7 @@ int main(int argc, char** argv) {
     QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();
     if (arguments.size() < 2) {
-        std::cerr << "usage: guide_ui_gallery FOLDER [SCREEN…]\n";
+        std::cerr << "usage: guide_gallery FOLDER [SCREEN…]\n";
         return 2;
     }
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));

@@ -69,7 +69,7 @@ void ChannelViewController::reloadChannelData() {
         return;
     }
     m_environment->listings.cachedListForChannel(
-        m_channel, QueuePriority::Default, m_list.expect(weak_from_this(), [this](const ShowSpan& entries) {
+        m_channel, m_list.expect(weak_from_this(), [this](const ShowSpan& entries) {
             initializeContentWithEntriesArray(entries);
             reloadTable();
             refreshDone();

@@ -11,7 +11,7 @@ namespace guide {
 /// Drops the answers to questions that a newer one has overtaken. A screen has one of these for each kind of
 /// question that it asks, and wraps each answer:
 ///
-///     listings.cachedListForChannel(channel, priority, m_list.expect(weak_from_this(), [this](...) {...}));
+///     listings.cachedListForChannel(channel, m_list.expect(weak_from_this(), [this](...) {...}));
 ///
 /// Main queue.
 class LatestAnswer {

@@ -223,7 +223,7 @@ const ShowItem* RootViewController::shownShow(const RowId& id) {
 
 void RootViewController::selectedChannel(const Channel& channel) {
     m_environment->listings.cachedListForChannel(
-        channel.identificator, QueuePriority::UserInitiated,
+        channel.identificator,
         m_opening.expect(weak_from_this(), [this, identificator = channel.identificator,
                                             title = channel.title,
                                             iconName = channel.iconName](const ShowSpan& entries) {

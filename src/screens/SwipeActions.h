@@ -1,0 +1,31 @@
+#pragma once
+
+#include "alarms/AlarmActions.h"
+#include "alarms/Favorites.h"
+#include "alarms/PendingAlarms.h"
+#include "platform/Clock.h"
+#include "screens/kit/Alert.h"
+#include "screens/kit/RowAction.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace guide {
+
+/// What the actions on shows work with. All of it must outlive the actions.
+struct SwipeActionsEnvironment {
+    const Clock& clock;
+    const FavoritesSource& favorites;
+    const AlarmsSource& alarms;
+    AlarmActions& alarmActions;
+    FavoriteActions& favoriteActions;
+    std::function<void(Alert)> presentAlert;
+};
+
+/// The actions on the row of a show: remove the alarm or the favourite, set an alarm, add a favourite, as far
+/// as each applies. Main queue.
+std::vector<RowAction> swipeActions(const SwipeActionsEnvironment& environment,
+                                    const std::shared_ptr<const TVEntry>& entry);
+
+} // namespace guide
