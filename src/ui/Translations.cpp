@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 void installTranslations(const QLocale& locale) {
     auto* translator = new QTranslator(QCoreApplication::instance());
-    // By the one language: whoever has set English first is not given a later choice.
+    // Only the first language counts: a user whose first language is English gets no other one of their list.
     const QString name = u"quellin_"_s + QLocale::languageToCode(locale.language());
     if (translator->load(name, u":/translations"_s)) {
         QCoreApplication::installTranslator(translator);

@@ -156,7 +156,7 @@ TEST_P(GuideWindowTest, ASwipeUncoversTheActionsOnAShow) {
         };
         const QList<QQuickItem*> both = offered();
         drag(middle(*std::ranges::max_element(both, atEdge)), {}, byFinger);
-        EXPECT_EQ(done, QStringList{title}) << "the first one stands at the edge";
+        EXPECT_EQ(done, QStringList{title}) << "the first one is at the edge";
         EXPECT_TRUE(offered().isEmpty());
         done.clear();
     }

@@ -20,7 +20,7 @@ double contrast(const QColor& one, const QColor& other) {
     return (light + 0.05) / (dark + 0.05);
 }
 
-TEST(PaletteTest, EveryTextCanBeReadOnEverySurfaceThatItStandsOn) {
+TEST(PaletteTest, EveryTextIsReadableOnEverySurface) {
     for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
         const Palette& palette = paletteOf(scheme);
         const std::vector<std::pair<const char*, QColor>> texts{

@@ -272,7 +272,7 @@ TEST_F(TableWindowTest, RowsAreDeletedAndReorderedInEditMode) {
     EXPECT_EQ(screen->of<Deleted>().size(), 2U);
 }
 
-TEST_F(TableWindowTest, TilesStandInLinesAndAreReadInOrder) {
+TEST_F(TableWindowTest, TilesFormLinesAndAreReadInOrder) {
     std::vector<Section> sections = lines(7);
     sections[0].layout = SectionLayout::Tiles;
     open(sections);

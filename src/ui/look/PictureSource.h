@@ -7,7 +7,7 @@
 
 namespace guide {
 
-/// Resolves `image://guide/…` through the kit's provider, on threads of its own.
+/// Resolves `image://guide/…` through the kit's provider, on its own threads.
 class PictureSource : public QQuickAsyncImageProvider {
   public:
     /// The provider must outlive the source; null for no pictures.

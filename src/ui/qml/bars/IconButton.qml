@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Quellin
 
-// A button that a symbol stands for; `text` is its accessible name.
+// A button with a symbol; `text` is its accessible name.
 T.AbstractButton {
     id: button
 

@@ -112,6 +112,8 @@ ListView {
     // A line of tiles belongs to its first row: it must not be dropped while the line can still be seen.
     displayMarginBeginning: tileHeight + tileGap
     bottomMargin: 16
+    // A reused row must have its new height at once, or the list places the rows after it by the old one. Rows
+    // therefore compute their heights in bindings: a Column would only update its height when the scene is polished.
     reuseItems: true
 
     Accessible.role: Accessible.List

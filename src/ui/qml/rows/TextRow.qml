@@ -1,7 +1,7 @@
 import QtQuick
 import Quellin
 
-// A line of text; in a tile, the icon stands over it.
+// A line of text; in a tile, the icon is above it.
 TableRow {
     id: cell
 
