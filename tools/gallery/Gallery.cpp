@@ -1,7 +1,7 @@
 // Draws every kind of row in every state, and what lies over the rows, and writes one picture per screen and
 // form: light and dark, each at 100 and 200 per cent text. Usage: guide_gallery FOLDER [SCREEN…]
-#include "gallery/GalleryRows.h"
 #include "fakes/ManualQueues.h"
+#include "gallery/GalleryRows.h"
 #include "platform/memory/ManualClock.h"
 #include "screens/kit/TabBarController.h"
 #include "ui/GuideWindow.h"
