@@ -8,7 +8,7 @@
 #include <QQmlEngine>
 
 /// The kit's enumerations under the name `Kit` in QML. Each enumerator takes its value from the kit's, so
-/// that the two cannot differ; the assertions below find enumerators that are missing here.
+/// that the two cannot differ; QML cannot name one that is missing here.
 namespace guide::kit {
 Q_NAMESPACE
 QML_NAMED_ELEMENT(Kit)
@@ -27,6 +27,7 @@ enum class RowKind {
     Picture = int(guide::RowKind::Picture),
 };
 Q_ENUM_NS(RowKind)
+static_assert(std::size_t(RowKind::Picture) + 1 == std::variant_size_v<RowContent>);
 
 enum class Accessory {
     None = int(guide::Accessory::None),

@@ -90,10 +90,6 @@ QVariant TableModel::sectionValue(int index) const {
     return QVariant::fromValue(value);
 }
 
-QString TableModel::headerAt(int index) const {
-    return isRow(index) ? table().sectionAt(index).header : QString();
-}
-
 QStringList TableModel::indexTitles() const {
     QStringList titles;
     for (const Section& section : table().sections()) {

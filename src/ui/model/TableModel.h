@@ -102,8 +102,6 @@ class TableModel : public QAbstractListModel, private TableObserver {
 
     /// The first row of the section with that mark of the index strip.
     Q_INVOKABLE int rowOfIndexTitle(int mark) const;
-    /// The header of the row's section.
-    Q_INVOKABLE QString headerAt(int index) const;
 
   Q_SIGNALS:
     /// Around all changes that come together.
