@@ -25,8 +25,8 @@ class KeyValueStore {
     virtual bool setValue(const QString& key, const QCborValue& value) = 0;
     virtual void removeKey(const QString& key) = 0;
 
-    /// From now on the observer receives the changes that are not made through this object; nullptr ends
-    /// that. The store does not own it. Main thread only.
+    /// Sets the observer of later changes that are not made through this object; nullptr removes it. The
+    /// store does not own it. Main thread only.
     virtual void setObserver(KeyValueStoreObserver* observer) = 0;
 };
 

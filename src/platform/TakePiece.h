@@ -6,8 +6,8 @@
 
 namespace guide {
 
-/// Takes the next piece of something that arrives in order. The bytes are valid during the call only. False
-/// ends it: no further piece comes.
+/// Receives the next piece of a byte sequence, in order. The bytes are valid only during the call. Returning
+/// false stops the delivery.
 using TakePiece = std::function<bool(QByteArrayView)>;
 
 } // namespace guide

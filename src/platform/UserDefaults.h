@@ -7,8 +7,8 @@
 
 namespace guide {
 
-/// Settings by key. A key that is absent or has a value of another type gives nothing; the caller knows the
-/// default. May be called from any thread.
+/// Settings by key. The getters return nothing for a key that is absent or has a value of another type; the
+/// caller supplies the default. May be called from any thread.
 class UserDefaults {
   public:
     virtual ~UserDefaults() = default;

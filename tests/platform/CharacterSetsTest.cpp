@@ -23,8 +23,8 @@ TEST(CharacterSetsTest, DecodesStrictlyByName) {
         {"Latin-1 by alias", "\xe9", u"latin1"_s, u"é"_s},
         {"KOI8-R", "\xf0", u"KOI8-R"_s, u"П"_s},
         {"Shift_JIS", "\x93\xfa", u"SHIFT_JIS"_s, u"日"_s},
-        {"UTF-16 by its mark", QByteArray("\xfe\xff\0A", 4), u"UTF-16"_s, u"A"_s},
-        {"UTF-16 the other way",
+        {"big-endian UTF-16", QByteArray("\xfe\xff\0A", 4), u"UTF-16"_s, u"A"_s},
+        {"little-endian UTF-16",
          QByteArray("\xff\xfe"
                     "A\0",
                     4),

@@ -92,8 +92,8 @@ TEST_F(CurlHTTPClientTest, IncompleteTransfersAreErrorsWithoutABody) {
         {"closed without a response", ScriptedReply{}, false},
         {"reset without a response", ScriptedReply::raw("", End::Reset), false},
         {"not HTTP", ScriptedReply::raw("SSH-2.0-Server\r\n\r\n"), false},
-        {"closed in the body", ScriptedReply::raw(promised + "half"), true},
-        {"closed in a chunk",
+        {"closed within the body", ScriptedReply::raw(promised + "half"), true},
+        {"closed within a chunk",
          ScriptedReply::raw(ScriptedReply::head(200, {"Transfer-Encoding: chunked"}) + "10\r\nhalf"), true},
         {"announced length over the limit",
          ScriptedReply::raw(ScriptedReply::head(200, {"Content-Length: 100001"}) + "x", End::Stall), true},
@@ -122,7 +122,7 @@ TEST_F(CurlHTTPClientTest, LimitsInactivityAndTotalTime) {
     HTTPRequest patient = request();
     patient.timeout = 120ms;
     server.reply(slow);
-    EXPECT_EQ(client.perform(patient).body, "page") << "each pause is shorter than the time-out";
+    EXPECT_EQ(client.perform(patient).body, "page") << "each pause is shorter than the timeout";
 
     HTTPRequest hurried = patient;
     hurried.resourceTimeout = 100ms;
@@ -269,11 +269,11 @@ TEST_F(CurlHTTPClientTest, DecodesRequestedContentEncodings) {
     server.reply(ScriptedReply::ok("no gzip", {"Content-Encoding: gzip"}));
     EXPECT_TRUE(client.perform(httpRequest).error);
     server.reply(ScriptedReply::ok(gzipped(page), {"Content-Type: application/x-gzip"}));
-    EXPECT_EQ(client.perform(httpRequest).body, gzipped(page)) << "a packed file is not a content encoding";
+    EXPECT_EQ(client.perform(httpRequest).body, gzipped(page)) << "the file itself is packed";
     for (int request = 0; request < 2; ++request) {
         server.reply(ScriptedReply::ok("as it is", {"Content-Encoding: xz"}));
     }
-    EXPECT_EQ(client.perform(httpRequest).body, "as it is") << "an unknown encoding is left alone";
+    EXPECT_EQ(client.perform(httpRequest).body, "as it is") << "an unknown encoding is not decoded";
 }
 
 TEST_F(CurlHTTPClientTest, DeliversBodiesInPieces) {
@@ -342,12 +342,12 @@ TEST_F(CurlHTTPClientTest, BodiesInPiecesBypassTheCache) {
     server.reply(ScriptedReply::answer(500, "broken"));
     client.perform(httpRequest, collect);
     httpRequest.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
-    EXPECT_EQ(client.perform(httpRequest).body, "two") << "a failure leaves the older response";
+    EXPECT_EQ(client.perform(httpRequest).body, "two") << "a failure keeps the older response";
     httpRequest.cachePolicy = CachePolicy::ReloadIgnoringCache;
     server.reply(ScriptedReply::ok("three"));
     client.perform(httpRequest, collect);
     httpRequest.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
-    EXPECT_TRUE(client.perform(httpRequest).error) << "an older response is forgotten";
+    EXPECT_TRUE(client.perform(httpRequest).error) << "the older response was removed";
 }
 
 TEST_F(CurlHTTPClientTest, CookiesAreKeptForTheProcess) {

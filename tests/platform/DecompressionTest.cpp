@@ -120,7 +120,7 @@ QByteArray mutated(const std::vector<QByteArray>& files, std::minstd_rand& rando
     case 1:
         return file.left(below(file.size() + 1));
     case 2:
-        // Faults in header and trailer are not covered by the checksum of the content.
+        // The checksum of the content does not cover header and trailer.
         return flipped(file, below(std::min<qsizetype>(12, file.size())));
     case 3:
         return flipped(file, file.size() - 1 - below(10));
@@ -203,7 +203,7 @@ TEST(DecompressionTest, Xz) {
     for (const Case& each : cases) {
         EXPECT_EQ(dataWithXzData(each.data, kLimits), each.expected) << each.name;
     }
-    // A machine with less memory than the decoder needs, and one with room for a part.
+    // Less memory than the decoder needs, and enough for a part of the content.
     EXPECT_FALSE(dataWithXzData(packed, {1'000'000}));
     const QByteArray noise = gzipped(feed(1'000'000));
     const std::optional<QByteArray> part =

@@ -52,8 +52,8 @@ TEST(DesktopMotionTest, FollowsTheDesktopSettings) {
     const QCoreApplication application(argc, argv);
     const std::vector<Setting> settings{
         {"common setting", u"org.freedesktop.appearance"_s, u"reduced-motion"_s, 1U, 0U},
-        {"one desktop", u"org.gnome.desktop.interface"_s, u"enable-animations"_s, false, true},
-        {"another one", u"org.kde.kdeglobals.KDE"_s, u"AnimationDurationFactor"_s, u"0"_s, u"0.5"_s}};
+        {"GNOME", u"org.gnome.desktop.interface"_s, u"enable-animations"_s, false, true},
+        {"KDE", u"org.kde.kdeglobals.KDE"_s, u"AnimationDurationFactor"_s, u"0"_s, u"0.5"_s}};
     for (const Setting& setting : settings) {
         SCOPED_TRACE(setting.name);
         Desktop desktop;

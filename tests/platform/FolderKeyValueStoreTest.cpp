@@ -51,13 +51,13 @@ TEST_F(FolderKeyValueStoreTest, ValuesReachAnotherDevice) {
         {"flag", true},
         {"number", qint64{(qint64{1} << 60) + 1}},
         {"fraction", -0.1},
-        {"whole fraction", 5.0},
-        {"large fraction", 1e300},
+        {"integral double", 5.0},
+        {"large double", 1e300},
         {"infinity", std::numeric_limits<double>::infinity()},
         {"text", u"Večer \"x\" 📺"_s},
         {"empty text", u""_s},
         {"bytes", QByteArray("\0\1\xff", 3)},
-        {"no bytes", QByteArray()},
+        {"empty bytes", QByteArray()},
         {"date", QCborValue(date)},
         {"selection", QCborArray{QByteArray(12, '\x58'), QByteArray(12, '\0'), QCborArray{}}},
     };
@@ -95,12 +95,12 @@ TEST_F(FolderKeyValueStoreTest, OnlyWholeValuesAreRead) {
         {"of another key", "{\"key\": \"b\", \"value\": 1}"},
         {"without a value", "{\"key\": \"a\"}"},
         {"null", "{\"key\": \"a\", \"value\": null}"},
-        {"odd digits", "{\"key\": \"a\", \"value\": {\"bytes\": \"123\"}}"},
-        {"no digits", "{\"key\": \"a\", \"value\": {\"bytes\": \"zz\"}}"},
-        {"no date", "{\"key\": \"a\", \"value\": {\"date\": \"yesterday\"}}"},
+        {"odd number of digits", "{\"key\": \"a\", \"value\": {\"bytes\": \"123\"}}"},
+        {"not hexadecimal", "{\"key\": \"a\", \"value\": {\"bytes\": \"zz\"}}"},
+        {"not a date", "{\"key\": \"a\", \"value\": {\"date\": \"yesterday\"}}"},
         {"unknown kind", "{\"key\": \"a\", \"value\": {\"colour\": \"red\"}}"},
-        {"deep", "{\"key\": \"a\", \"value\": " + QByteArray(500, '[') + QByteArray(500, ']') + "}"},
-        {"damage within", "{\"key\": \"a\", \"value\": [1, null]}"},
+        {"too deep", "{\"key\": \"a\", \"value\": " + QByteArray(500, '[') + QByteArray(500, ']') + "}"},
+        {"invalid element", "{\"key\": \"a\", \"value\": [1, null]}"},
     };
     for (const auto& [name, content] : files) {
         ASSERT_TRUE(replaceFile(fileOf(u"a"_s), content));
@@ -139,7 +139,7 @@ class WatchedFolderTest : public FolderKeyValueStoreTest, public KeyValueStoreOb
     }
     void valuesChangedExternally(const QStringList& keys) override { m_announced.append(keys); }
 
-    /// The keys that are announced after the next event from the folder and those that follow at once.
+    /// The keys that are announced after the next event from the folder and those that closely follow it.
     QStringList announced() {
         EXPECT_TRUE(hasEvent(10'000)) << "no event from the watcher";
         do {
@@ -206,7 +206,7 @@ TEST_F(WatchedFolderTest, IgnoresUnfinishedAndForeignFiles) {
     EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(2));
 }
 
-TEST_F(WatchedFolderTest, TheFolderMayVanishAndReturn) {
+TEST_F(WatchedFolderTest, TheFolderMayDisappearAndReappear) {
     ASSERT_TRUE(QDir().rename(folder.path(), root.filePath(u"away"_s)));
     EXPECT_EQ(announced(), QStringList());
     EXPECT_FALSE(store.valueForKey(u"a"_s));

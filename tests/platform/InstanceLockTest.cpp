@@ -25,7 +25,7 @@ class InstanceLockTest : public testing::Test {
     }
 
     const QTemporaryDir folder;
-    // Longer than a socket address.
+    // Longer than a socket address can be.
     const QTemporaryDir sockets{QDir::tempPath() + u'/' + QString(120, u's') + u"XXXXXX"_s};
     ThreadedQueues queues{[] {}};
     const std::shared_ptr<DispatchQueue> queue = queues.makeQueue("requests", QueueKind::Serial);
@@ -60,7 +60,7 @@ TEST_F(InstanceLockTest, TheLockIsFreeAfterTheFirstInstance) {
     std::future<Outcome> next = std::async(std::launch::async, [this] { return start()->outcome(); });
     std::this_thread::sleep_for(30ms);
     ending.reset();
-    EXPECT_EQ(next.get(), Outcome::First) << "what ends without answering is waited for";
+    EXPECT_EQ(next.get(), Outcome::First) << "waits for an instance that is ending";
 }
 
 TEST_F(InstanceLockTest, ADeadProcessHoldsNoLock) {

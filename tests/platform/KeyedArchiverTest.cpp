@@ -70,7 +70,7 @@ TEST(KeyedArchiverTest, ReadsFieldsInAnyOrder) {
     EXPECT_EQ(url, QUrl(u"http://a.example/č?x=1"_s));
     EXPECT_EQ(categories, 0xffff'ffffU);
     EXPECT_EQ(channel, (Id{7, 255}));
-    EXPECT_EQ(unchanged, (Id{1, 2, 3})) << "bytes of another length";
+    EXPECT_EQ(unchanged, (Id{1, 2, 3})) << "the length differs";
     EXPECT_TRUE(repeated);
 }
 
@@ -102,7 +102,7 @@ TEST(KeyedArchiverTest, FailsOnValuesOfAnotherKind) {
         {"bytes for text", QByteArray("text"), readText},
         {"text for number", u"5"_s, readNumber},
         {"negative for unsigned", -1, readNumber},
-        {"past 32 bits", qint64{0x1'0000'0000}, readNumber},
+        {"more than 32 bits", qint64{0x1'0000'0000}, readNumber},
         {"number for flag", 1, readBool},
         {"null for flag", nullptr, readBool},
         {"record for array", QCborMap{}, readArray},

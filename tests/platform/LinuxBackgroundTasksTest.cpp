@@ -32,7 +32,7 @@ TEST(LinuxBackgroundTasksTest, ExpiresLongTasksOnce) {
     tasks.endBackgroundTask(kBackgroundTaskInvalid);
 }
 
-TEST(LinuxClockTest, RunsOnFromTheGivenMoment) {
+TEST(LinuxClockTest, ContinuesFromTheGivenMoment) {
     const Moment start = std::chrono::sys_days(std::chrono::year(2025) / 6 / 30) + 20h;
     const LinuxClock clock(start);
     EXPECT_LT(clock.now() - start, 10s);

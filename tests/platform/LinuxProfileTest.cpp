@@ -121,7 +121,7 @@ TEST(SettingsUserDefaultsTest, ReadsHandWrittenValues) {
     EXPECT_FALSE(defaults.boolForKey(u"odd"_s) || defaults.boolForKey(u"empty"_s));
 }
 
-TEST(SettingsUserDefaultsTest, WritesChangedKeysOnly) {
+TEST(SettingsUserDefaultsTest, WritesOnlyChangedKeys) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"settings.ini"_s);
     ASSERT_TRUE(replaceFile(path, "[General]\ncurrently_show_count=5\nlist=a, b\n"));

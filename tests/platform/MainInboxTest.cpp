@@ -80,13 +80,13 @@ TEST_F(MainInboxTest, MainBlockIsCalledOnceAndOnlyForALivingOwner) {
     block.post(*inbox, 3);
     inbox->runPending();
     EXPECT_EQ(*screen, "1");
-    EXPECT_EQ(held.use_count(), 1) << "released when answered";
+    EXPECT_EQ(held.use_count(), 1) << "released after the call";
 
     MainBlock<int> late = answer();
     late.post(*inbox, 4);
     screen.reset();
     inbox->runPending();
-    EXPECT_EQ(held.use_count(), 1) << "released though never called";
+    EXPECT_EQ(held.use_count(), 1) << "released even though it was never called";
 }
 
 TEST(EventLoopQueuesTest, WorkersReachTheMainThreadThroughTheEventLoop) {

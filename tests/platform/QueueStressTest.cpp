@@ -71,7 +71,7 @@ TEST(QueueStressTest, KeepsItsGuaranteesUnderLoadAndShutDown) {
                 EXPECT_TRUE(group.wait());
                 break;
             case 5:
-                // Waits for a queue further on, as the update check waits for the load queue.
+                // Waits only for later queues, as the update check waits for the load queue.
                 guarded.queue->async([&all, index] {
                     for (unsigned next = index + 1; next < all.size(); ++next) {
                         all[next].queue->sync(

@@ -13,7 +13,7 @@ namespace {
 
 constexpr auto kNotYet = 30ms;
 
-/// The two kinds of queues; `pass` lets time pass and runs what is due.
+/// The two implementations; `pass` lets time pass and runs the blocks that are due.
 struct Threaded {
     ThreadedQueues queues{[] {}};
 
@@ -81,7 +81,7 @@ TYPED_TEST(QueuesTest, SuspensionsNest) {
     first.release();
     EXPECT_FALSE(group.wait(kNotYet));
     SuspensionToken moved = std::move(second);
-    second.release(); // NOLINT(bugprone-use-after-move): a token that was moved from holds nothing
+    second.release(); // NOLINT(bugprone-use-after-move): a moved-from token holds nothing
     EXPECT_FALSE(group.wait(kNotYet));
     moved = {};
     EXPECT_TRUE(group.wait(10s));
@@ -202,7 +202,7 @@ TEST_F(ThreadedQueuesTest, ShutDownReleasesWaitingCallers) {
     serial->async([&] {
         begun.set_value();
         open.get_future().wait();
-        // Either would deadlock if the shutdown left a waiter behind.
+        // Either would deadlock if the shutdown did not release a waiter.
         DispatchGroup group;
         group.async(*concurrent, [&] { dropped = false; });
         EXPECT_TRUE(group.wait());

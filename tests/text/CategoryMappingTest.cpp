@@ -107,7 +107,7 @@ TEST(CategoryTableTest, KeysHaveTheirOwnFoldModes) {
     }
 }
 
-TEST(CategoryTextTest, ThePrecedenceOfBitsGivesTheTitle) {
+TEST(CategoryTextTest, TheFirstBitInPrecedenceGivesTheTitle) {
     const std::pair<TVListingsCategory, QString> rows[] = {
         {TVListingsCategoryMostWatched, u"Most Watched"_s},
         {TVListingsCategoryEveningShows, u"Evening Shows"_s},

@@ -102,7 +102,7 @@ TEST(SubtitleCleaningTest, RemovesBrackets) {
     }
 }
 
-TEST(SubtitleCleaningTest, DecidesWhatASubtitleIs) {
+TEST(SubtitleCleaningTest, SeparatesSubtitlesFromDetails) {
     const struct {
         Text subtitle;
         bool recognised;
@@ -169,7 +169,7 @@ TEST(DescriptionCleaningTest, RemovesCreditsAndAttributions) {
          u"Opis filma. ."_s,
          u"A, B"_s,
          u"C"_s},
-        {"cast up to the next label",
+        {"the cast ends at the next label",
          u"Opis.\nUloge: A, B Redatelj: C Glazba: D"_s,
          {},
          u"Opis.\n."_s,
@@ -194,7 +194,7 @@ TEST(DescriptionCleaningTest, RemovesCreditsAndAttributions) {
          u"Ana, Ivo"_s},
         {"listed credits after a comma", u"Tekst, Regia - Ana\nMarko,"_s, u"Z"_s, u"Tekst."_s, u"Marko, "_s,
          u"Ana"_s},
-        {"listed credits on a line", u"Tekst.\nRegia - Ana"_s, {}, u"Tekst."_s, {}, u"Ana"_s},
+        {"listed credits on a separate line", u"Tekst.\nRegia - Ana"_s, {}, u"Tekst."_s, {}, u"Ana"_s},
         {"no credits", u"TeleRegia - Ana, Marko"_s, {}, u"TeleRegia - Ana, Marko."_s, {}, {}},
         {"credits read from the first of their kind",
          u"TeleRegia - Ana, x Regia - Ivo"_s,

@@ -10,7 +10,7 @@ namespace guide {
 
 namespace {
 
-// The first byte cannot occur in text, and translated line ends break the signature.
+// The first byte cannot occur in text, and a conversion of line ends breaks the signature.
 constexpr std::array<char, 8> kSignature{'\x89', 'G', 'u', 'i', 'd', 'e', '\r', '\n'};
 constexpr std::uint32_t kVersion = 1;
 constexpr std::size_t kVersionOffset = 8;

@@ -174,7 +174,7 @@ KeyedUnarchiver::Head KeyedUnarchiver::head() {
     if (small < 24) {
         return {kind, small};
     }
-    // 28 to 30 are reserved, 31 means an indefinite length; neither is written by us.
+    // 28 to 30 are reserved, 31 means an indefinite length; KeyedArchiver writes neither.
     if (small > 27 || remaining() < std::size_t{1} << (small - 24)) {
         fail();
         return {};

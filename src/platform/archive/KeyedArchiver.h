@@ -24,8 +24,8 @@ inline constexpr std::size_t kArchiveKeyLimit = 23;
 /// lengths; a moment is its milliseconds since 1970, a URL its encoded text.
 ///
 /// QCborStreamWriter is not used: it needs the number of fields before the first one, and for 200 lists of
-/// 280 shows takes 68 ms of CPU where this class takes 35. Writing 200 lists would then exceed its bound,
-/// twice the time of writing their bytes.
+/// 280 shows it takes 68 ms of CPU where this class takes 35. Writing 200 lists would then exceed its
+/// budget, which is twice the time of writing their bytes.
 class KeyedArchiver {
   public:
     KeyedArchiver();
@@ -136,7 +136,7 @@ KeyedField<N, Target> field(const char (&key)[N], Target& target) {
 
 /// Reads what KeyedArchiver wrote, value by value. The bytes must outlive the reader; texts are copied.
 /// Reading stops at the first value that is damaged, truncated or of an unexpected kind: from then on every
-/// call returns nothing and failed() is true. Reading never recurses by itself.
+/// call returns nothing and failed() is true. Reading itself never recurses.
 class KeyedUnarchiver {
   public:
     enum class Kind { Integer, Bytes, Text, Array, Record, Bool, Other, End };

@@ -40,7 +40,7 @@ class BinaryList {
     }
 
   private:
-    // The references of one array or dictionary that remain; those to keys come first.
+    // The remaining references of one array or dictionary; references to keys come first.
     struct Level {
         std::uint64_t nextReference;
         std::uint64_t left;

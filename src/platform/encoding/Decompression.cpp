@@ -18,7 +18,7 @@ namespace {
 constexpr std::uint64_t kGibibyte = std::uint64_t{1} << 30;
 constexpr std::uint64_t kSmallestRoom = 0x20000;
 constexpr std::size_t kWindowSize = 256 * 1024;
-// Deflate expands by at most 1,032.
+// Deflate expands by a factor of at most 1,032.
 constexpr std::uint64_t kDeflateRatio = 1032;
 constexpr std::uint64_t kXzRatio = 23;
 constexpr qsizetype kSmallestGzipFile = 18;
@@ -35,8 +35,8 @@ std::uint64_t roomWithin(std::uint64_t wanted, std::uint64_t limit) {
     return std::min(std::max(wanted, kSmallestRoom), limit + 1);
 }
 
-// The initial size: what the last four bytes of the file say about its last member, if plausible, and one
-// byte more so that the end is detected without growing.
+// The initial size: the size of the last member, which the last four bytes of the file state, if plausible,
+// plus one byte so that the end is detected without growing.
 std::uint64_t firstRoom(QByteArrayView data, std::uint64_t limit) {
     const auto packed = static_cast<std::uint64_t>(data.size());
     std::uint64_t room = packed * 4;
@@ -49,10 +49,10 @@ std::uint64_t firstRoom(QByteArrayView data, std::uint64_t limit) {
     return roomWithin(room, limit);
 }
 
-// Both decoders write here, one after the other, when the first one gives up.
+// An output that the second decoder fills again from the start if the first one gives up.
 class RestartableOutput : public GzipOutput {
   public:
-    /// The same content follows again from its first byte.
+    /// Called before the same content is written again from its first byte.
     virtual void restart() = 0;
 };
 
@@ -120,8 +120,8 @@ class WindowOutput final : public RestartableOutput {
     bool m_refused = false;
 };
 
-// zlib decides about every file that ISA-L does not find complete, so that a file gives the same result on
-// every machine.
+// Every file that ISA-L does not read as complete is decoded again with zlib, so that a file gives the same
+// result on every machine.
 GzipEnd inflateGzip(QByteArrayView data, RestartableOutput& output) {
     if (hasIsal()) {
         const GzipEnd end = inflateWithIsal(data, output);

@@ -16,7 +16,7 @@ struct DecompressionLimits {
     std::uint64_t physicalMemory = 0;
 
     /// The largest unpacked size of a gzip file: a quarter of the memory, at most 1 GiB. A larger one is
-    /// taken for a bomb.
+    /// treated as a decompression bomb.
     std::uint64_t gzipLimit() const;
     /// The largest unpacked size of an xz file of the given size: a quarter of the memory or 23 times the
     /// packed size, whichever is less.

@@ -7,36 +7,35 @@
 
 namespace guide {
 
-/// Where a decoder puts what it unpacks.
+/// Receives the unpacked bytes from a decoder.
 class GzipOutput {
   public:
     virtual ~GzipOutput() = default;
-    /// Where the next bytes go. Not empty.
+    /// The buffer for the next bytes; never empty.
     virtual std::span<char> room() = 0;
-    /// Takes the first `count` bytes of the room; false ends the unpacking.
+    /// Takes the first `count` bytes of the last room; returning false stops the decoder.
     virtual bool take(std::size_t count) = 0;
 };
 
 enum class GzipEnd {
     /// Every member was read to its checksum.
     Complete,
-    /// The output ended it.
+    /// The output stopped the decoder.
     Stopped,
-    /// The input ended within a member; everything that it holds was unpacked.
+    /// The input ended within a member; everything in it was unpacked.
     CutShort,
     Damaged,
 };
 
-/// Unpacks every member of a gzip file, and leaves what follows the last one.
+/// Unpacks every member of a gzip file and ignores the bytes after the last one.
 GzipEnd inflateWithZlib(QByteArrayView data, GzipOutput& output);
 
-/// The same at two to three times the speed. A file that is not complete ends as Damaged, with an unspecified
-/// part unpacked; so does one with header fields that this decoder does not check (a checksum of the header,
-/// reserved flags). Of the code tables of a block, some that zlib rejects are accepted, where every checksum
-/// fits nevertheless.
+/// The same at two to three times the speed. Returns Damaged for an incomplete file, after unpacking an
+/// unspecified part of it, and for header fields that this decoder does not check (header checksum, reserved
+/// flags). Accepts some code tables that zlib rejects, provided that every checksum matches.
 GzipEnd inflateWithIsal(QByteArrayView data, GzipOutput& output);
 
-/// False in a build without the library; inflateWithIsal then always ends as Damaged.
+/// False in a build without the library; inflateWithIsal then always returns Damaged.
 bool hasIsal();
 
 } // namespace guide

@@ -40,7 +40,7 @@ GzipEnd inflateWithIsal(QByteArrayView data, GzipOutput& output) {
     isal_inflate_init(state.get());
     state->crc_flag = ISAL_GZIP;
     state->next_in =
-        const_cast<std::uint8_t*>(reinterpret_cast<const std::uint8_t*>(data.data())); // NOLINT: it reads
+        const_cast<std::uint8_t*>(reinterpret_cast<const std::uint8_t*>(data.data())); // NOLINT: only read
     auto left = static_cast<std::uint64_t>(data.size());
     for (;;) {
         if (state->avail_in == 0) {

@@ -10,7 +10,7 @@ namespace guide {
 
 namespace {
 
-// A gzip wrapper and nothing else.
+// Accepts only the gzip wrapper.
 constexpr int kGzipWindowBits = 31;
 // zlib counts available bytes in 32 bits.
 constexpr std::uint64_t kLargestStep = std::uint64_t{1} << 30;
@@ -24,7 +24,7 @@ struct ZlibStream {
     ZlibStream() = default;
     ZlibStream(const ZlibStream&) = delete;
     ZlibStream& operator=(const ZlibStream&) = delete;
-    // Does nothing to a stream that was not opened.
+    // Does nothing if inflateInit2 failed.
     ~ZlibStream() { inflateEnd(&stream); }
 };
 
@@ -37,7 +37,7 @@ GzipEnd inflateWithZlib(QByteArrayView data, GzipOutput& output) {
         qInfo("ret != Z_OK");
         return GzipEnd::Damaged;
     }
-    stream.next_in = const_cast<Bytef*>(reinterpret_cast<const Bytef*>(data.data())); // NOLINT: zlib reads
+    stream.next_in = const_cast<Bytef*>(reinterpret_cast<const Bytef*>(data.data())); // NOLINT: only read
     auto left = static_cast<std::uint64_t>(data.size());
     bool anything = false;
     for (;;) {

@@ -53,7 +53,7 @@ struct TransferError {
     bool cancelled = false;
 };
 
-/// The result of a transfer: a response and its body, content encodings undone; or an error, the response if
+/// The result of a transfer: a response and its body, content encodings decoded; or an error, the response if
 /// one arrived, and an empty body. Partial bodies are discarded.
 struct TransferResult {
     std::optional<HTTPResponse> response;
@@ -70,12 +70,12 @@ class HTTPClient {
     virtual ~HTTPClient() = default;
     TransferResult perform(const HTTPRequest& request) { return perform(request, nullptr); }
 
-    /// With a `takePiece`, the body of a response with a status of success (200 to 299) goes to `takePiece`
-    /// as it arrives, on the calling thread, and the result's body is empty. Content encodings are undone and
-    /// the size bound counts all pieces. An error afterwards means that the pieces are not the whole body.
-    /// When `takePiece` returns false the transfer ends with a cancelled error. Bodies of other statuses are
-    /// collected in the result. A cached response arrives as one piece; a response that is delivered in
-    /// pieces is not stored, and an older one of the same URL is forgotten.
+    /// With a `takePiece`, the body of a response with a success status (200 to 299) goes to `takePiece`
+    /// as it arrives, on the calling thread, and the result's body is empty. Content encodings are decoded
+    /// and the size limit counts all pieces. An error afterwards means that the pieces are not the whole
+    /// body. When `takePiece` returns false the transfer ends with a cancelled error. Bodies of other
+    /// statuses are collected in the result. A cached response arrives as one piece; a response that is
+    /// delivered in pieces is not stored, and an older one for the same URL is removed.
     virtual TransferResult perform(const HTTPRequest& request, const TakePiece& takePiece) = 0;
 
     /// Removes the cached response for the request's URL.

@@ -14,7 +14,7 @@
 
 namespace guide {
 
-/// Responses in memory, by URL. Stores only complete responses to GET with a status of success. Bounded in
+/// Responses in memory, by URL. Stores only complete responses to GET with a success status. Bounded in
 /// bytes; the least recently used response is evicted first. Responses older than the maximum age are
 /// ignored. May be used from any thread.
 class ResponseCache {

@@ -23,7 +23,7 @@ TransferResult cancelledTransfer() {
     return failed(u"the transfer was cancelled"_s, true);
 }
 
-// Addresses that need no network.
+// Whether the URL can be reached without a network.
 bool isThisMachine(const QUrl& url) {
     const QString host = url.host();
     return host == "localhost"_L1 || host.startsWith("127."_L1) || host == "::1"_L1;
@@ -40,7 +40,7 @@ class CurlHTTPClient::Lane {
         if (client.m_cancelled.load()) {
             return;
         }
-        // The most recently used handle has the freshest connections.
+        // The most recently used handle is the most likely to have open connections.
         if (!client.m_idle.empty()) {
             m_multi = std::move(client.m_idle.back());
             client.m_idle.pop_back();

@@ -63,8 +63,8 @@ TransferResult CurlTransfer::run(CURLM* multi, const std::atomic<bool>& cancelle
     if (outcome == Outcome::Done && m_code == CURLE_BAD_CONTENT_ENCODING && m_bodySize == 0 &&
         m_request.method == "GET" &&
         !areKnownEncodings(m_response.header("Content-Encoding").value_or("none"))) {
-        // libcurl fails on an unknown encoding. It often only describes the file, such as xz. So the transfer
-        // is repeated without decoding.
+        // libcurl fails on an unknown encoding. The header often only describes the file, such as "xz", so
+        // the transfer is repeated without decoding.
         curl_easy_setopt(m_easy.get(), CURLOPT_HTTP_CONTENT_DECODING, 0L);
         outcome = drive(multi, cancelled);
     }

@@ -20,7 +20,7 @@ struct Setting {
     bool (*less)(const QVariant& value);
 };
 
-// The common setting, and the older ones of two desktops.
+// The common setting of all desktops, and the older settings of two of them.
 const std::array<Setting, 3>& settings() {
     static const std::array<Setting, 3> all{
         {{u"org.freedesktop.appearance"_s, u"reduced-motion"_s,

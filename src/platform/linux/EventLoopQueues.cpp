@@ -34,7 +34,7 @@ void startWorker(QueuePriority priority) {
 
 } // namespace
 
-/// Receives the wake-ups as events without content.
+/// Receives the wake-ups as events without data.
 class EventLoopQueues::Loop final : public QObject {
   public:
     bool event(QEvent* event) override {

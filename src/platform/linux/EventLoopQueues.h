@@ -7,7 +7,7 @@
 namespace guide {
 
 /// Queues whose main queue is Qt's event loop of the creating thread. Worker threads are named after their
-/// class; background workers run at a lower priority.
+/// service class; background workers run at a lower priority.
 class EventLoopQueues final : public DispatchQueues {
   public:
     EventLoopQueues();

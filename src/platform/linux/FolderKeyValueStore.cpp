@@ -25,11 +25,11 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto kSuffix = ".json"_L1;
-// Leaves room for the suffix, and for what sync tools put into the names of their copies.
+// Leaves room for the suffix, and for what sync tools add to the names of their copies.
 constexpr qsizetype kLongestName = 180;
 constexpr qsizetype kDigestDigits = 32;
 constexpr std::int64_t kLargestFile = 16 << 20;
-// A sync tool brings several files in one go.
+// A sync tool often writes several files in quick succession.
 constexpr auto kSettlingTime = 250ms;
 
 } // namespace
@@ -155,7 +155,7 @@ class FolderKeyValueStore::Files {
     std::mutex m_mutex;
     /// By name.
     QHash<QString, File> m_files;
-    /// By key: the values that the observer knows of.
+    /// By key: the values that need no announcement.
     QHash<QString, QCborValue> m_announced;
 };
 
@@ -175,7 +175,7 @@ FolderKeyValueStore::~FolderKeyValueStore() = default;
 
 QString FolderKeyValueStore::fileName(const QString& key) {
     const QByteArray utf8 = key.toUtf8();
-    // Dots too: no name is hidden or leads to another folder.
+    // Encodes dots too, so that no name is hidden or refers to another folder.
     QByteArray name = utf8.toPercentEncoding({}, ".~");
     if (name.size() > kLongestName) {
         const QByteArray digest = QCryptographicHash::hash(utf8, QCryptographicHash::Sha256).toHex();
@@ -201,7 +201,7 @@ void FolderKeyValueStore::setObserver(KeyValueStoreObserver* observer) {
     if (observer == nullptr) {
         return;
     }
-    // What is there now counts as known.
+    // Values that are present now are not announced.
     m_files->changedKeys();
     m_observation = std::make_shared<Observation>(Observation{*observer, nullptr});
     const std::weak_ptr<Observation> weak = m_observation;

@@ -9,13 +9,13 @@ namespace guide {
 
 class FolderWatcher;
 
-/// A folder with one small JSON file per key, {"key": …, "value": …}, each replaced whole: where a file-sync
-/// tool replicates the folder, devices follow each other. Plain values are plain JSON; a value that JSON
+/// A folder with one small JSON file per key, {"key": …, "value": …}, each replaced atomically. A file-sync
+/// tool may replicate the folder between devices. Plain values are plain JSON; a value that JSON
 /// cannot express is an object with one member: {"bytes": hexadecimal digits}, {"date": ISO 8601},
 /// {"double": text}.
 ///
 /// Files are read again when they change. A file that does not hold a whole value, because it is damaged or
-/// still being written, counts as unchanged: the value that this object last read from it stays. Files whose
+/// still being written, counts as unchanged: the value last read from it is kept. Files whose
 /// name is not fileName(key) of the key inside (temporary files, copies of sync tools) are ignored.
 class FolderKeyValueStore final : public KeyValueStore {
   public:
@@ -25,12 +25,12 @@ class FolderKeyValueStore final : public KeyValueStore {
     std::optional<QCborValue> valueForKey(const QString& key) const override;
     bool setValue(const QString& key, const QCborValue& value) override;
     void removeKey(const QString& key) override;
-    /// Changes are announced together, shortly after the first one. While the folder is missing nothing is
-    /// announced; when it returns, what differs from before.
+    /// Changes are announced together, shortly after the first one. While the folder is missing, nothing
+    /// is announced; when it reappears, the keys whose values differ are.
     void setObserver(KeyValueStoreObserver* observer) override;
 
     /// The file of a key: letters, digits, "-" and "_" as they are, any other byte of its UTF-8 as "%" and
-    /// two digits; long names are cut and end in "~" and a digest, the empty one is "~".
+    /// two digits; long names are truncated and end in "~" and a digest; that of the empty key is "~".
     static QString fileName(const QString& key);
 
   private:

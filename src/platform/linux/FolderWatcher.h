@@ -10,7 +10,7 @@
 namespace guide {
 
 /// Calls a function when something in a folder may have changed: a file was added, removed, renamed or
-/// written to, or the folder itself vanished or returned. May call it when nothing changed. Main thread.
+/// written to, or the folder itself disappeared or reappeared. May call it when nothing changed. Main thread.
 class FolderWatcher {
   public:
     FolderWatcher(const QString& folder, std::function<void()> changed);

@@ -81,7 +81,7 @@ void InstanceLock::stopListening() {
     }
 }
 
-// The kernel releases the lock when the process ends in any way. The file is never removed: if it were, two
+// The kernel releases the lock however the process ends. The file is never removed: if it were, two
 // processes could each lock a file of that name.
 bool InstanceLock::lock() {
     return ::flock(m_lock.get(), LOCK_EX | LOCK_NB) == 0;

@@ -23,7 +23,7 @@ class InstanceLock {
     enum class Outcome {
         /// This process holds the lock.
         First,
-        /// Another process holds the lock and has received the request: this one may end.
+        /// Another process holds the lock and has received the request; this one may exit.
         HandedOver,
         /// Another process holds the lock and does not answer, or the folders cannot be locked.
         Unavailable,
@@ -40,8 +40,8 @@ class InstanceLock {
     Outcome outcome() const { return m_outcome; }
 
     /// For the holder of the lock: calls the handler on the queue for each request, including those that
-    /// arrived earlier. May be called once. After the destruction of this object on that queue the handler is
-    /// not called any more.
+    /// arrived earlier. May be called once. Once this object has been destroyed on that queue, the handler
+    /// is not called again.
     void listen(std::shared_ptr<DispatchQueue> queue, RequestHandler handler);
 
     /// For a holder of the lock that is about to end: accepts no more requests. A process that starts now

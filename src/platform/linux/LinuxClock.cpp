@@ -6,7 +6,7 @@ namespace guide {
 
 namespace {
 
-/// Time since boot, including sleep; unaffected by changes of the date.
+/// Time since boot, including sleep; unaffected by changes to the system time.
 std::chrono::milliseconds sinceBoot() {
     timespec time{};
     clock_gettime(CLOCK_BOOTTIME, &time);

@@ -7,7 +7,7 @@
 
 namespace guide {
 
-/// The system's clock, or one that starts at a given moment and runs at the same pace, also while the machine
+/// The system's clock, or one that starts at a given moment and runs at the same pace, even while the machine
 /// sleeps.
 class LinuxClock final : public Clock {
   public:

@@ -17,7 +17,7 @@ namespace {
 constexpr auto kName = "quellin-guide"_L1;
 constexpr auto kBundleMarker = "Data.plist"_L1;
 
-// The XDG specification ignores relative paths.
+// The XDG specification says to ignore relative paths.
 QString fromEnvironment(const char* variable, const QString& otherwise) {
     const QString value = QFile::decodeName(qgetenv(variable));
     return QDir::cleanPath(value.startsWith(u'/') ? value : otherwise);

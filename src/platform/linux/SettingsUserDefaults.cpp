@@ -109,7 +109,7 @@ SettingsUserDefaults::~SettingsUserDefaults() {
 }
 
 std::optional<bool> SettingsUserDefaults::boolForKey(const QString& key) const {
-    // Some settings are only ever edited by hand.
+    // Accepts common spellings, because some settings are only ever edited by hand.
     static constexpr std::array kYes{"true"_L1, "1"_L1, "yes"_L1, "on"_L1};
     static constexpr std::array kNo{"false"_L1, "0"_L1, "no"_L1, "off"_L1};
     const QString value = m_file->value(key).value_or(QString());

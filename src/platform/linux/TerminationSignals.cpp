@@ -20,7 +20,7 @@ int signalPipe[2] = {-1, -1};
 void onSignal(int signal) {
     const int savedError = errno;
     const char byte = 1;
-    // A full pipe contains a signal already.
+    // A full pipe already contains a signal.
     [[maybe_unused]] const auto written = ::write(signalPipe[1], &byte, 1);
     std::signal(signal, SIG_DFL);
     errno = savedError;

@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// A device with the facts that it was given: a phone, unless changed.
+/// A device with settable properties; a phone by default.
 class FixedDevice : public Device {
   public:
     QTimeZone timeZone() const override { return zone; }

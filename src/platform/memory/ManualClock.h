@@ -25,7 +25,7 @@ class ManualClock final : public Clock {
     }
     void advance(std::chrono::milliseconds span) { set(m_now + span); }
 
-    /// Calls the function after every move.
+    /// Calls the function after every change.
     void onMove(std::function<void()> moved) { m_moved.push_back(std::move(moved)); }
 
   private:

@@ -46,7 +46,7 @@ class MemoryKeyValueStore final : public KeyValueStore {
         }
     }
 
-    /// How many values were set so far, external ones not included.
+    /// How often setValue stored a value.
     int writeCount() const {
         const std::lock_guard guard(m_guard);
         return m_writes;

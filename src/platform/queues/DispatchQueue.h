@@ -59,7 +59,7 @@ class DispatchQueue {
     virtual void asyncAfter(std::chrono::milliseconds delay, Block block) = 0;
 
     /// Runs the block on the calling thread when its turn comes, and returns when it has run. Needs no
-    /// worker. A reader may read again from within; any other sync from a block of the same queue, and any
+    /// worker. A reader may call sync again; any other sync from a block of the same queue, and any
     /// sync on the main queue, would deadlock and ends the process with a message.
     virtual void sync(const Block& block) = 0;
 

@@ -11,8 +11,8 @@ namespace guide {
 
 /// The main queue: an inbox that the main thread's event loop drains. Belongs to the thread that creates it.
 ///
-/// `wakeUp` is called on any thread when there is something to run, at most once before runPending answers
-/// it. It must cause a call of runPending on the main thread soon.
+/// `wakeUp` is called on any thread when there is something to run, at most once until runPending
+/// has run. It must soon cause a call of runPending on the main thread.
 class MainInbox final : public DispatchQueue, public std::enable_shared_from_this<MainInbox> {
   public:
     /// Submits a delayed block to this queue when it is due.

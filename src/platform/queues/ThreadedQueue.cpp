@@ -94,7 +94,7 @@ void ThreadedQueue::sync(const Block& block) {
     case QueueFrame::Access::None:
         break;
     case QueueFrame::Access::Shared:
-        // Runs as part of the enclosing reader: queued behind a barrier that waits for that reader it would
+        // Runs as part of the enclosing reader: queued after a barrier that waits for that reader, it would
         // deadlock.
         block();
         return;

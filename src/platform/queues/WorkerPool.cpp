@@ -53,7 +53,7 @@ class WorkerPool::ServiceClass final : public ThreadWaiting {
     }
 
   private:
-    /// Excludes the calling worker from the number at work while it waits.
+    /// Excludes the calling worker from m_atWork while it waits.
     class Away {
       public:
         explicit Away(ServiceClass& own)
@@ -131,9 +131,9 @@ class WorkerPool::ServiceClass final : public ThreadWaiting {
     std::condition_variable m_changed;
     std::deque<std::shared_ptr<Work>> m_work;
     std::vector<std::thread> m_threads;
-    /// Workers that look for work, including those being created.
+    /// Workers that wait for work, including those being created.
     std::size_t m_idle = 0;
-    /// Workers that run something and do not wait. Temporarily exceeds the limit when one returns from
+    /// Workers that run work and do not wait in it. Temporarily exceeds the limit when one returns from
     /// waiting.
     std::size_t m_atWork = 0;
     bool m_stopping = false;

@@ -6,7 +6,7 @@ namespace guide {
 
 namespace {
 
-/// Whether the unit may compose with the preceding one. Among the characters of our texts only marks do.
+/// Whether the unit may compose with the preceding one. Among the characters of feed texts only marks do.
 unsigned mayCompose(char16_t unit) {
     const auto isWithin = [unit](char16_t first, char16_t behind) {
         return static_cast<unsigned>(unit >= first) & static_cast<unsigned>(unit < behind);

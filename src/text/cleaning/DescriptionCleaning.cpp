@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A marker and a character of it that few texts contain, which is searched for first.
+/// A marker, and the character in it that few texts contain, which is searched for first.
 struct Marker {
     QStringView text;
     QChar sign;

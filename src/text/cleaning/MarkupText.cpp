@@ -24,7 +24,7 @@ struct ProtectedSpan {
 };
 
 /// Removes the wrapper of the first CDATA section. The end of the span is not the position of the closing
-/// marker but the number of units after it, counted from the start, as an unsigned number.
+/// marker: it is its start plus the number of units after the marker, less three, as an unsigned number.
 ProtectedSpan unwrapSection(QString& text) {
     const qsizetype start = text.indexOf(kSectionStart);
     if (start < 0) {
@@ -41,9 +41,9 @@ ProtectedSpan unwrapSection(QString& text) {
     return {first, first + static_cast<std::uint64_t>(text.size()) - static_cast<std::uint64_t>(closing + 3)};
 }
 
-/// Searches the text for the key and replaces it outside the protected range. `replacement(rest, keySize)`
-/// receives the rest of the text, which begins with the key, and returns how many units become the one unit
-/// that it stores, or 0 to end the pass. The search continues at the replacement.
+/// Searches the text for the key and replaces it outside the protected range. `replacement(rest, unit)`
+/// receives the rest of the text, which begins with the key, sets `unit`, and returns how many units it
+/// replaces, or 0 to end the pass. The search continues at the replacement.
 template <class Replacement>
 void decode(QString& text, QLatin1StringView key, const ProtectedSpan& span, Replacement&& replacement) {
     if (!text.contains(key)) {

@@ -8,7 +8,7 @@ namespace guide {
 
 /// Decodes a fragment of a page: removes its CDATA wrapper and decodes its references, up to 10,000 units.
 /// The content of the first CDATA section is left alone. Quirks that the pages rely on are kept: "&quot" does
-/// not take its ";", a numeric reference leaves its ";", and a decimal one loses its first digit.
+/// not consume its ";", a numeric reference leaves its ";", and a decimal one loses its first digit.
 QString decodeMarkup(const QString& text);
 
 /// Trims leading white space and punctuation and trailing white space, and replaces each pair of blanks by

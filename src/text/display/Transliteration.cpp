@@ -54,15 +54,15 @@ constexpr std::array kReplacements{
     Replacement{u"Sh", u"\u0428"},
     Replacement{u"\u017A", u"\u0437\u0301"},
     Replacement{u"\u0179", u"\u0417\u0301"},
-    // Become "ć" and "Ć", which then have a letter in the alphabet.
+    // The same letters as for "ć" and "Ć".
     Replacement{u"\u015B", u"\u045B"},
     Replacement{u"\u015A", u"\u040B"},
     // Replaced last, but nothing before it affects it.
     Replacement{u"J\u030C", u"\u0408"},
 };
 
-/// The replacement of each unit and the keys that begin with it. Characters above these pages are unchanged:
-/// the last Latin letter of the alphabet is below U+1F00.
+/// The replacement of each unit and the keys that begin with it. Characters from U+1F00 on are unchanged: all
+/// Latin letters of the alphabet are below it.
 struct UnitTable {
     static constexpr std::size_t kUnits = 0x1F00;
 

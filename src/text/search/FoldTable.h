@@ -64,7 +64,8 @@ class FoldTable {
     std::unique_ptr<std::array<char16_t, 0x10000>> m_units;
 };
 
-/// The code point at the position, which moves past it. A lone surrogate counts as a code point.
+/// Returns the code point at the position and advances the position past it. A lone surrogate counts as a
+/// code point.
 char32_t takeCodePoint(QStringView text, qsizetype& position);
 
 } // namespace guide

@@ -26,7 +26,7 @@ class WordAutomaton {
     struct Occurrence {
         int word;
         qsizetype end;
-        /// From here to the end, each unit of the text is one folded unit.
+        /// From here to `end`, each unit of the text folds to one unit.
         qsizetype plainFrom;
     };
 
@@ -58,7 +58,7 @@ class WordAutomaton {
 
     /// Calls `found(word)` for each word that occurs, in no particular order and possibly several times. Each
     /// step of a walk depends on the previous one, so if nothing is folded a long text is walked in four
-    /// places at once.
+    /// parts at once.
     template <class Found>
     void findWords(QStringView text, Found&& found) const {
         constexpr qsizetype kPlaces = 4;
@@ -136,7 +136,7 @@ class WordAutomaton {
     std::uint8_t foldedClass(char16_t unit) const;
 
     const FoldTable* m_table;
-    /// Without folding: the class of each unit of a text.
+    /// Whether nothing is folded.
     bool m_isPlain;
     /// The class of each unit of a text, folding included; 0 for units that no word contains.
     std::unique_ptr<std::array<std::uint8_t, 0x10000>> m_classes;
