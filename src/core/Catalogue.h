@@ -15,7 +15,7 @@ namespace guide {
 class CatalogueSnapshot {
   public:
     CatalogueSnapshot() = default;
-    /// Of two channels with one identity the later one is kept.
+    /// Of two channels with the same identity the later one is kept.
     explicit CatalogueSnapshot(const std::vector<CatalogueChannel>& channels);
 
     /// Null when the catalogue does not list the channel. Valid as long as the snapshot.
@@ -31,15 +31,15 @@ class CatalogueSnapshot {
 
 using SharedCatalogueSnapshot = std::shared_ptr<const CatalogueSnapshot>;
 
-/// Is called, on the thread that replaces the catalogue, after the new snapshot has become visible. Must not
-/// add or remove observers.
+/// Called on the thread that replaces the catalogue, after the new snapshot has become visible. Must not add
+/// or remove observers.
 class CatalogueObserver {
   public:
     virtual ~CatalogueObserver() = default;
     virtual void catalogueReplaced() = 0;
 };
 
-/// The current catalogue. Any thread. A run of work takes one snapshot and uses it to its end.
+/// The current catalogue. Any thread. An operation takes one snapshot and uses it throughout.
 class Catalogue {
   public:
     /// Never null; empty before the first replace.

@@ -12,7 +12,7 @@ std::vector<CatalogueRow> filteredChannels(std::vector<CatalogueRow> rows, const
         return {};
     }
     const SupportedChannelTypesPair& home = types.pairs().front();
-    std::vector<CatalogueRow*> kept; // null where a better version has taken over
+    std::vector<CatalogueRow*> kept; // null where a better version replaced it
     kept.reserve(rows.size());
     std::unordered_map<ObjectId, std::size_t> seen; // index into `kept`
     seen.reserve(rows.size());
@@ -33,7 +33,7 @@ std::vector<CatalogueRow> filteredChannels(std::vector<CatalogueRow> rows, const
                 continue;
             }
         }
-        // The last test, because it loads an image.
+        // Tested last because it loads an image.
         if (!hasIcon(channel.icon)) {
             continue;
         }

@@ -8,7 +8,7 @@
 
 namespace guide {
 
-/// Whether an icon of this name can be shown. Never asked with an empty name.
+/// Whether an icon of this name can be shown. Never called with an empty name.
 using HasIcon = std::function<bool(const QString& iconName)>;
 
 /// The channels of the supported pairs that have an icon, each identity once. Of two versions of a channel

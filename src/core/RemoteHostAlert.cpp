@@ -53,7 +53,7 @@ void RemoteHostAlert::noRemoteHostAlert(const TransferError& error) {
     }
     m_state->mainQueue.async([weakState = std::weak_ptr(m_state), error] {
         const std::shared_ptr<State> state = weakState.lock();
-        // An unanswered alert already says it.
+        // An alert is still open.
         if (!state || std::exchange(state->presented, true)) {
             return;
         }

@@ -28,7 +28,7 @@ class RemoteHostAlert {
     RemoteHostAlert(const Clock& clock, DispatchQueue& mainQueue, AlertPresenter& presenter);
     ~RemoteHostAlert();
 
-    /// Called for a transfer that ended in an error and brought no body. Does nothing unless more than
+    /// Called for a transfer that ended in an error without a body. Does nothing unless more than
     /// 60 seconds have passed since the time stamp, which it then sets, or while the last alert is
     /// unanswered.
     void noRemoteHostAlert(const TransferError& error);

@@ -27,13 +27,13 @@ class TVChannel {
     bool loading() const;
     void setLoading(bool loading);
 
-    /// When the channel's list was last stored: remembered, or else the modification date of its listing
+    /// When the channel's list was last stored: the cached time, or else the modification date of its listing
     /// file. Nothing when there is no such file, or while a reload is required.
     std::optional<Moment> timeLoaded() const;
     void setTimeLoaded(std::optional<Moment> timeLoaded);
 
     /// Makes the channel due, whatever the age of its list, until a load time is set. The listing file is
-    /// kept until another list replaces it: a reload may bring nothing.
+    /// kept until another list replaces it: a reload may find nothing.
     void requireReload();
 
     /// Forgets the load time and deletes the listing file, which makes the channel due. Used when the list

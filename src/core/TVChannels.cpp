@@ -154,7 +154,7 @@ TVChannels::TVChannels(const Folders& folders, KeyValueStore& keyValueStore, Dis
 TVChannels::~TVChannels() {
     m_state->catalogue.removeObserver(*m_state);
     finishWriting();
-    // A block that is still queued must find nothing to write.
+    // Leaves nothing to write for a block that is still queued.
     const std::lock_guard lock(m_state->guard);
     m_state->unwritten = false;
 }

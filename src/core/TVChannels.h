@@ -16,13 +16,13 @@ namespace guide {
 
 /// The user's selection of channels, in the user's order, kept in the documents folder and mirrored to the
 /// key-value store, with a record for each selected channel that the catalogue knows. A replaced catalogue
-/// makes, renews and drops records; the selection stays.
+/// creates, renews and drops records; the selection does not change.
 ///
 /// Readers get a snapshot and never wait for a write to the disk; a change is visible when setSelected
 /// returns and is written afterwards, in order.
 class TVChannels {
   public:
-    /// The key-value store and the catalogue outlive this object.
+    /// The key-value store and the catalogue must outlive this object.
     TVChannels(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues,
                const Catalogue& catalogue);
     ~TVChannels();

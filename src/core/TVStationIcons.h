@@ -21,7 +21,7 @@ class TVStationIcons {
     /// A null image when the name is empty or no such icon can be read.
     QImage iconNamed(const QString& name);
 
-    /// Drops the loaded images; each is loaded again when it is asked for.
+    /// Drops the loaded images; each is loaded again when it is requested.
     void dropIcons();
 
     /// The image at the standard size; null for a null image.

@@ -24,7 +24,7 @@ ParsedLists ListDriver::read(const std::vector<LoadItem>& items, const std::vect
         return lists;
     }
     lists.reserve(items.size());
-    // No input makes a reader throw. Should a fault in one do so, it must not end the program.
+    // Readers do not throw on any input. If a bug makes one throw, the program must not terminate.
     try {
         reader({items, pages, now, m_environment.clock, m_environment.alphabet, m_environment.hosts,
                 m_environment.locale,

@@ -19,7 +19,7 @@ bool isGoodStatus(int status) {
     return status >= 200 && status < 300;
 }
 
-/// The target of a redirect; nothing when the answer is not one or the target is not a web server.
+/// The address in the answer's "Location" header; nothing when there is none or it is not a web URL.
 std::optional<QUrl> redirection(const QUrl& from, const std::optional<HTTPResponse>& response) {
     const std::optional<QByteArray> location = response ? response->header("Location") : std::nullopt;
     if (!location) {

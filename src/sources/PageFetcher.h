@@ -44,7 +44,7 @@ struct NetPage {
 HTTPRequest pageRequest(const QUrl& url, const HTTPUserAgent& userAgent,
                         std::chrono::milliseconds timeout = std::chrono::seconds(20));
 
-/// What the fetcher works with; all of it outlives the fetcher.
+/// What the fetcher works with; all of it must outlive the fetcher.
 struct PageFetcherEnvironment {
     HTTPClient& client;
     NetworkActivity& networkActivity;

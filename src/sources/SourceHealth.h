@@ -51,9 +51,9 @@ struct UsedSource {
 struct SourceHealth {
     /// When it finished.
     Moment at;
-    /// From this load, or from an earlier one when this one stored nothing; nothing when none ever did.
+    /// From this load, or from an earlier one when this one stored nothing; unset when no load stored any.
     std::optional<UsedSource> used;
-    /// The sources that this load tried before, in order; all of them when it stored nothing.
+    /// The sources that this load passed over, in order; all of them when it stored nothing.
     std::vector<PassedOverSource> passedOver;
 
     bool hasLoaded() const { return used && used->at == at; }

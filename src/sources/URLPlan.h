@@ -16,7 +16,7 @@
 
 namespace guide {
 
-/// What the pages of a source are planned from; all of it outlives the call.
+/// What the pages of a source are planned from; all of it must outlive the call.
 struct PlanRequest {
     const QString& sourceId;
     Moment now;

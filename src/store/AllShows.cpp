@@ -129,7 +129,7 @@ std::vector<AllShows::Show> AllShows::mergedShows(const std::vector<bool>& ofLis
 void AllShows::build(const AllShows* base) const {
     std::vector<std::uint32_t> numbers =
         base ? newNumbers(base->m_lists, m_lists) : std::vector<std::uint32_t>();
-    // After the clock was set back, shows count again that the base has dropped.
+    // After the clock was set back, shows that the base has dropped are current again.
     if (base && (base->m_endingAfter > m_endingAfter || !orderKept(numbers))) {
         base = nullptr;
         numbers.clear();

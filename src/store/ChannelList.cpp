@@ -39,7 +39,7 @@ ShowSpan ChannelList::notOver(Moment now, std::size_t limit) const {
     if (end - first == limit || end == m_times.size()) {
         return {m_shows, first, end - first};
     }
-    // A show that is over lies between others.
+    // A show that is over lies between shows that are not.
     ShowItems shows;
     for (std::size_t i = first; i < m_times.size() && shows.size() < limit; ++i) {
         if (m_times[i].end >= now) {

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::chrono::seconds kLengthOfLastShow{7200};
 
-/// The pages of all other types give only the starts.
+/// The pages of all other types contain only start times.
 bool hasEnds(ListingsType type) {
     return type == ListingsType::PortNetwork || type == ListingsType::XMLTV;
 }

@@ -33,14 +33,14 @@ struct MergedList {
     MergeOutcome outcome = MergeOutcome::Empty;
 };
 
-/// Makes a list to be stored of one that a reader made: in stable order of start, without shows that have
-/// none, without a closing placeholder and later shows of an equal start, with end times by the next show's
-/// start for listing types other than PortNetwork and XMLTV, without what ended by `now`, with the language
-/// set.
+/// Prepares the list that a reader made for storing: sorts it stably by start, drops shows without a start, a
+/// final placeholder and all but the first of several shows with the same start, sets the end times from the
+/// next show's start for listing types other than PortNetwork and XMLTV, drops the shows before the first one
+/// that ends after `now`, and sets the language.
 MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& language, Moment now,
                       ListingsType type);
 
-/// Does so for every load item; of items of one channel the first counts.
+/// Does the same for every load item; of several items for one channel only the first is used.
 MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
                         ListingsType type);
 

@@ -6,7 +6,7 @@ namespace guide {
 class ListingsObserver {
   public:
     virtual ~ListingsObserver() = default;
-    /// Lists were replaced; queries asked from now on find the new ones. Called on the thread that merged
+    /// Lists were replaced; queries made from now on find the new ones. Called on the thread that merged
     /// them, which it must not block.
     virtual void listingsReplaced() = 0;
 };

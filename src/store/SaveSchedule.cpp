@@ -11,8 +11,8 @@ namespace guide {
 
 namespace {
 
-/// Holds a background task while it lives. The task ends on the main queue, when this is destroyed or when
-/// the device expires it.
+/// Owns a background task. The task ends on the main queue, when this is destroyed or when the device expires
+/// it.
 class WritingTask {
   public:
     WritingTask(BackgroundTasks& tasks, DispatchQueue& mainQueue)

@@ -15,7 +15,8 @@
 namespace guide {
 
 /// Keeps track of the lists that have changed since their files were written, and writes the files on a
-/// serial background queue. What it is given must outlive that queue's last block. Any thread.
+/// serial background queue. The constructor's arguments must outlive the last block on that queue. Any
+/// thread.
 class SaveSchedule : public std::enable_shared_from_this<SaveSchedule> {
   public:
     SaveSchedule(DispatchQueues& queues, const Clock& clock, const Folders& folders,

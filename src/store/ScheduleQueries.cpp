@@ -103,7 +103,7 @@ std::optional<ShowItem> showWithURL(const AllShows& all, const QUrl& url, const 
     if (!digest) {
         return std::nullopt;
     }
-    // Compared as digests: URLs kept for every show would fill the memory.
+    // Compares digests, because caching a URL for every show would take too much memory.
     const auto& shows = all.shows();
     const auto found = std::ranges::find_if(
         shows, [&digest](const AllShows::Show& show) { return show.item->entry()->digest() == digest; });

@@ -44,7 +44,7 @@ ShowItems showScheduleForTitle(const AllShows& all, const QString& title, Moment
 /// Whether a show with this source title and this flag is not over.
 bool isBroadcast(const AllShows& all, const QString& identificator, bool previouslyShown, Moment now);
 
-/// The first show whose digest URL this is.
+/// The first show with this digest URL.
 std::optional<ShowItem> showWithURL(const AllShows& all, const QUrl& url, const QString& scheme);
 
 /// The index of the first show that ends after the moment; the number of shows when none does.

@@ -46,8 +46,8 @@ using ShowCounts = std::unordered_map<ObjectId, unsigned>;
 using ShowsBlock = std::function<void(ShowItems)>;
 
 /// The store of schedules: a list of shows for each channel, a file for each list, and all queries over them.
-/// Any thread. Operations do not block unless they say so. Queries asked before the first read is complete
-/// wait for it.
+/// Any thread. Operations do not block unless documented. Queries made before the first read is complete wait
+/// for it.
 class TVListings {
   public:
     /// Starts reading the listing files of the selected channels in the background.
@@ -56,10 +56,9 @@ class TVListings {
 
     // ---- changes
 
-    /// Replaces the stored lists by freshly read ones: sorted, without duplicate starts and closing
-    /// placeholders, with the end times of the listing type, without what is over. A channel whose list is
-    /// empty or past keeps its old one; a channel that is no longer selected gets none. The load time of
-    /// every stored channel is set on return.
+    /// Replaces the stored lists with freshly read ones, prepared as described for mergedList(). A channel
+    /// whose new list is empty or entirely past keeps its old one; a channel that is no longer selected gets
+    /// none. The load time of every stored channel is set on return.
     MergeResult merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, ListingsType type);
 
     /// Removes the list but not its file.

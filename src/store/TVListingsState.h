@@ -31,7 +31,7 @@ struct TVListings::State : std::enable_shared_from_this<State> {
                      std::function<ShowItems(const TVListingsEnvironment&, const AllShows&)> find);
     DispatchQueue& mainQueue() const { return environment.queues.mainQueue(); }
     void setTimeLoaded(const ObjectId& channel) const;
-    /// The list in the channel's file without what has ended; null when nothing is left.
+    /// The list in the channel's file without ended shows; null when none is left.
     std::shared_ptr<const ChannelList> readList(const ObjectId& channel) const;
 
     // ---- on the access queue

@@ -79,7 +79,7 @@ TEST(ChannelFilterTest, KeepsTheBetterVersionOfAChannel) {
         {"improved twice",
          {other(kA, u"en"_s, u"en"_s), other(kA, u"cs"_s), czech(kA, u"home"_s), czech(kA, u"again"_s)},
          u"home"_s},
-        {"the same identity in other letters",
+        {"the same identity in another case",
          {czech(kA, u"first"_s), czech(kA.toUpper(), u"second"_s)},
          u"first"_s},
     };
@@ -91,7 +91,7 @@ TEST(ChannelFilterTest, KeepsTheBetterVersionOfAChannel) {
     }
 }
 
-TEST(ChannelFilterTest, AVersionWithoutIconReplacesNothing) {
+TEST(ChannelFilterTest, AVersionWithoutAnIconReplacesNothing) {
     const auto result = filteredChannels(
         {channel(kA, u"kept"_s, u"cs"_s, u"Other/a"_s), channel(kA, u"bare"_s, u"cs"_s, u"Czech/b"_s)},
         installedTypes(), [](const QString& name) { return name == u"a"_s; });

@@ -16,8 +16,8 @@ TEST(ObjectIdTest, ReadsHexadecimalPairs) {
     const QString zero(24, u'0');
     const Row rows[] = {
         {"digits of both cases", u"58F4ded60befe78cb336a80C"_s, u"58f4ded60befe78cb336a80c"_s},
-        {"one character short", u"58f4ded60befe78cb336a80"_s, zero},
-        {"one character long", u"58f4ded60befe78cb336a80c0"_s, zero},
+        {"one character too few", u"58f4ded60befe78cb336a80"_s, zero},
+        {"one character too many", u"58f4ded60befe78cb336a80c0"_s, zero},
         {"a pair that is not hexadecimal", u"zzf4ded60befe78cb336a80c"_s, u"00f4ded60befe78cb336a80c"_s},
         {"a pair that stops early", u"1gf4ded60befe78cb336a80c"_s, u"01f4ded60befe78cb336a80c"_s},
         {"a pair with a leading blank", u" 7f4ded60befe78cb336a80c"_s, u"07f4ded60befe78cb336a80c"_s},
@@ -41,7 +41,7 @@ TEST(ObjectIdTest, TakesTwelveBytesOnly) {
 }
 
 TEST(ObjectIdTest, HashWrapsAtSixtyFourBits) {
-    // Reference values of an arbitrary-precision calculation, reduced modulo 2 to the 64.
+    // Reference values from an arbitrary-precision calculation, reduced modulo 2^64.
     EXPECT_EQ(ObjectId(QByteArray(12, '\0')).hash(), 9795860139169989765u);
     EXPECT_EQ(ObjectId(QByteArray(12, '\xff')).hash(), 4640110637742037049u);
     EXPECT_EQ(ObjectId::popular().hash(), 14648937563642513295u);

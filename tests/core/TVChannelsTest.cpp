@@ -50,7 +50,7 @@ class TVChannelsTest : public testing::Test {
     Catalogue catalogue;
 };
 
-TEST_F(TVChannelsTest, SelectionOutlivesTheProcessInItsOrder) {
+TEST_F(TVChannelsTest, SelectionAndItsOrderOutliveTheProcess) {
     {
         TVChannels channels = makeChannels();
         EXPECT_TRUE(channels.selected().empty());
@@ -106,10 +106,10 @@ TEST_F(TVChannelsTest, AnUnreadableFileIsAnEmptySelection) {
     };
     const Row rows[] = {
         {"other values", whole, {kA, ObjectId(QByteArray(12, '\0')), kB}},
-        {"cut short", whole.left(whole.size() - 3), {}},
-        {"no archive", "<plist/>", {}},
+        {"truncated", whole.left(whole.size() - 3), {}},
+        {"not an archive", "<plist/>", {}},
         {"empty", "", {}},
-        {"no array", archivedData(QCborValue(7)), {}},
+        {"not an array", archivedData(QCborValue(7)), {}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

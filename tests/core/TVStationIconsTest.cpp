@@ -27,8 +27,8 @@ TEST(TVStationIconsTest, LetterboxesToOneSize) {
     const Row rows[] = {
         {"wide", {400, 72}, 1, {0, 14, 50, 9}},
         {"tall", {36, 144}, 1, {21, 0, 9, 36}},
-        {"small is enlarged", {25, 18}, 1, {0, 0, 50, 36}},
-        {"three pixels a point", {30, 30}, 3, {21, 0, 108, 108}},
+        {"a small image is enlarged", {25, 18}, 1, {0, 0, 50, 36}},
+        {"three pixels per point", {30, 30}, 3, {21, 0, 108, 108}},
         {"very narrow", {1, 4000}, 1, {25, 0, 1, 36}},
     };
     for (const Row& row : rows) {

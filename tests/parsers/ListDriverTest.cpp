@@ -131,7 +131,7 @@ TEST_F(ListDriverTest, DropsEndedShows) {
     EXPECT_EQ(titles({u"x.tv"_s}, {feed(show("a", "A"))}), "");
 }
 
-TEST_F(ListDriverTest, MergesWhateverWasRead) {
+TEST_F(ListDriverTest, MergesEvenWhenNothingWasRead) {
     const std::vector<QByteArray> feedPages{feed(show("a", "A"))};
     // The last number is not a type.
     for (unsigned number = 0; number <= unsigned(ListingsType::ComedyCentral) + 1; ++number) {

@@ -30,7 +30,7 @@ const QString kNewYear = u"2026-12-31T23:30:00Z"_s;
 
 class URLPlannerTest : public testing::Test {
   protected:
-    /// The URLs as they are asked for, "nothing" when no URL can be planned.
+    /// The planned URLs, or "nothing" when no URL can be planned.
     QStringList plan(const QString& sourceId, const QString& now = kNewYear) {
         const auto moment =
             Moment(std::chrono::milliseconds(QDateTime::fromString(now, Qt::ISODate).toMSecsSinceEpoch()));
@@ -203,7 +203,7 @@ TEST_F(URLPlannerTest, ChannelsOfAFeedShareOneList) {
     EXPECT_EQ(plan(u"-hbo.hu.1"_s), plan(u"-hbo.hu.2"_s));
 }
 
-TEST_F(URLPlannerTest, AFamilyWithoutHostPlansNothing) {
+TEST_F(URLPlannerTest, AFamilyWithoutAHostPlansNothing) {
     URLPlanner bare(*SourceHostTable::fromJson(R"({"NFeedHost": "", "RytecMirrorA": "a.example"})"),
                     [](unsigned) { return 0u; });
     for (const QString& id :

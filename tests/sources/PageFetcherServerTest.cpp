@@ -63,7 +63,7 @@ TEST_F(PageFetcherServerTest, EveryAnswerGivesAPageOrAReason) {
          {ScriptedReply::ok("no xz", {"Content-Type: application/x-xz"})},
          {},
          PageReason::Compression},
-        {"packed on the way", {ScriptedReply::ok(gzip, {"Content-Encoding: gzip"})}, feed},
+        {"packed for the transfer", {ScriptedReply::ok(gzip, {"Content-Encoding: gzip"})}, feed},
         {"error pages",
          {ScriptedReply::answer(404, feed), ScriptedReply::answer(500, feed)},
          {},
@@ -76,9 +76,9 @@ TEST_F(PageFetcherServerTest, EveryAnswerGivesAPageOrAReason) {
          PageReason::Status},
         {"empty", {ScriptedReply::ok({}), ScriptedReply::ok({})}, {}, PageReason::Empty},
         {"empty, then good", {ScriptedReply::ok({}), ScriptedReply::ok(feed)}, feed},
-        {"cut", {cut, cut}, {}, PageReason::Transfer, 2},
-        {"not a word", {}, {}, PageReason::Transfer, 2},
-        {"cut, then good", {cut, ScriptedReply::ok(feed)}, feed, PageReason::None, 1},
+        {"truncated", {cut, cut}, {}, PageReason::Transfer, 2},
+        {"no answer", {}, {}, PageReason::Transfer, 2},
+        {"truncated, then good", {cut, ScriptedReply::ok(feed)}, feed, PageReason::None, 1},
     };
     int number = 0;
     for (const Row& row : rows) {

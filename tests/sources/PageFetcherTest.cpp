@@ -50,9 +50,9 @@ TEST_F(PageFetcherTest, FollowsOneRedirect) {
         {"absolute", answer(301, "moved", "https://b.example/x"), QUrl(u"https://b.example/x"_s)},
         {"relative to the page", answer(302, "", "other?y=2"), QUrl(u"http://a.example/dir/other?y=2"_s)},
         {"relative to the host", answer(307, "", "/top"), QUrl(u"http://a.example/top"_s)},
-        {"a good status with nothing", answer(200, "", "/top"), QUrl(u"http://a.example/top"_s)},
+        {"a good status with an empty body", answer(200, "", "/top"), QUrl(u"http://a.example/top"_s)},
         {"to a file", answer(301, "", "file:///etc/passwd"), kURL},
-        {"to nowhere", answer(301, "", "http://"), kURL},
+        {"without a host", answer(301, "", "http://"), kURL},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

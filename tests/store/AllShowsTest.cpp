@@ -122,7 +122,7 @@ TEST(AllShowsTest, MergesAndSearchesLikeALinearScan) {
     }
 }
 
-TEST(AllShowsTest, AChangedStateIsBuiltFromTheOneBefore) {
+TEST(AllShowsTest, AChangedStateIsBuiltFromThePreviousOne) {
     std::mt19937 random(20260101);
     const auto pick = [&](std::size_t below) { return random() % below; };
     AllShows::Lists lists = randomLists(random, 6);
@@ -151,7 +151,7 @@ TEST(AllShowsTest, AChangedStateIsBuiltFromTheOneBefore) {
         // The clock is sometimes set back.
         endingAfter += std::chrono::minutes(step % 50 == 49 ? -30 : step % 7 == 0 ? 5 : 0);
         all = std::make_shared<const AllShows>(lists, endingAfter, all);
-        // Some states are asked for their shows, some for a search, some for nothing.
+        // Some states build their shows, some also run a search, some do neither.
         if (const auto asked = pick(3); asked > 0) {
             expectLikeALinearScan(*all, lists, endingAfter, asked == 2);
         }
@@ -185,7 +185,7 @@ TEST(ChannelListTest, FindsTheShowsThatAreNotOver) {
         {"none over", {{0, 1}, {1, 2}}, {"0", "1"}},
         {"ends now", {{-2, -1}, {-1, 0}, {0, 1}}, {"1", "2"}},
         {"all over", {{-9, -1}, {-8, -2}, {-7, -3}}, {}},
-        {"a long one in front", {{-9, 1}, {-8, -2}, {-7, -3}, {0, 1}, {1, 2}}, {"0", "3", "4"}},
+        {"a long one first", {{-9, 1}, {-8, -2}, {-7, -3}, {0, 1}, {1, 2}}, {"0", "3", "4"}},
         {"one over in the middle", {{-9, -8}, {-8, 5}, {1, 2}, {1, -3}, {3, 4}}, {"1", "2", "4"}},
         {"many over", {{-9, -8}, {-8, -7}, {-7, -6}, {-6, -5}, {-5, -4}, {-4, -3}, {-3, -2}, {-2, 1}}, {"7"}},
     };

@@ -40,7 +40,7 @@ TEST(ListMergeTest, SortsAndCuts) {
          XMLTV,
          MergeOutcome::Stored,
          {"A", "B"}},
-        {"the first read of a start stays",
+        {"the first of equal starts stays",
          {{hour(1), hour(2), u"A"_s},
           {hour(0), hour(1), u"0"_s},
           {hour(1), hour(2), u"B"_s},
@@ -49,12 +49,12 @@ TEST(ListMergeTest, SortsAndCuts) {
          XMLTV,
          MergeOutcome::Stored,
          {"0", "A", "D"}},
-        {"ended now is ended",
+        {"a show that ends now has ended",
          {{hour(-1), hour(0), u"A"_s}, {hour(0), hour(1), u"B"_s}},
          XMLTV,
          MergeOutcome::Stored,
          {"B"}},
-        {"what is behind a running show stays",
+        {"shows after a running one stay",
          {{hour(-3), hour(1), u"A"_s}, {hour(-2), hour(-1), u"B"_s}},
          XMLTV,
          MergeOutcome::Stored,
@@ -64,13 +64,13 @@ TEST(ListMergeTest, SortsAndCuts) {
          XMLTV,
          MergeOutcome::OnlyPast,
          {}},
-        {"no end counts as ended", {{hour(1), {}, u"A"_s}}, XMLTV, MergeOutcome::OnlyPast, {}},
-        {"a placeholder closes",
+        {"a show without an end has ended", {{hour(1), {}, u"A"_s}}, XMLTV, MergeOutcome::OnlyPast, {}},
+        {"a final placeholder is dropped",
          {{hour(2), hour(3), u"Nema podataka"_s}, {hour(1), hour(2), u"A"_s}},
          XMLTV,
          MergeOutcome::Stored,
          {"A"}},
-        {"one placeholder alone is dropped",
+        {"only one placeholder is dropped",
          {{hour(1), hour(2), u"No information"_s}, {hour(2), hour(3), u"Není informace"_s}},
          XMLTV,
          MergeOutcome::Stored,
@@ -136,7 +136,7 @@ TEST(ShowUpdatesTest, DetailsExtendTheShowOfTheEntry) {
     EXPECT_FALSE(listWithDetails(list, *entryOf(9), details, {}));
 }
 
-TEST(ShowUpdatesTest, IMDbPageGoesToEveryShowOfMaskAndTitle) {
+TEST(ShowUpdatesTest, IMDbPageIsSetOnEveryShowOfMaskAndTitle) {
     const QUrl page(u"https://imdb/x"_s);
     auto details = std::make_shared<TVEntrySupplementalData>();
     details->roles = u"X"_s;

@@ -74,7 +74,7 @@ TEST(ShowCodingTest, EveryFormOfShowIsReadBack) {
     EXPECT_TRUE(unarchivedShows(archivedShows({}), latinAlphabet())->empty());
 }
 
-TEST(ShowCodingTest, ATruncatedArchiveIsRefused) {
+TEST(ShowCodingTest, ATruncatedArchiveIsRejected) {
     const QByteArray archive = archivedShows(everyForm());
     for (qsizetype length = 0; length < archive.size(); ++length) {
         ASSERT_FALSE(unarchivedShows(archive.first(length), latinAlphabet())) << length;
@@ -125,7 +125,7 @@ TEST(ShowCodingTest, OldAndIncompleteShowsAreRead) {
     ASSERT_TRUE(read);
     EXPECT_EQ(titles(*read), (Titles{"earlier", "later", "of tomorrow"}));
     EXPECT_EQ((*read)[1].entry()->channel(), channel(0xabc));
-    EXPECT_EQ((*read)[1].entry()->language(), std::nullopt) << "taken from the show before";
+    EXPECT_EQ((*read)[1].entry()->language(), std::nullopt) << "taken from the previous show";
     EXPECT_EQ((*read)[2].elementCount(), 3);
     EXPECT_EQ((*read)[2].categories(), 3u);
 }

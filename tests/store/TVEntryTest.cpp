@@ -26,7 +26,7 @@ TEST(TVEntryTest, DigestCoversChannelStartAndTitle) {
         {"a half goes up", moment("2001-01-01T00:00:01.500Z"), QByteArray::fromHex("00000002")},
         {"a half before the date goes down", moment("2000-12-31T23:59:58.500Z"),
          QByteArray::fromHex("fffffffe")},
-        {"big end first", moment("2025-12-31T18:30:00Z"), QByteArray::fromHex("2f05a328")},
+        {"big-endian", moment("2025-12-31T18:30:00Z"), QByteArray::fromHex("2f05a328")},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

@@ -134,7 +134,7 @@ TEST_F(TVListingsTest, CommitWritesFilesDatedByTheLoad) {
         {{hour(0), hour(1), u"A"_s}, {hour(1), hour(3), u"B"_s}, {hour(0), hour(1), u"C"_s, 0, channel(2)}});
     queues.runAll();
     clock.advance(std::chrono::hours(1));
-    world.channels->channelWithChannelId(channel(1))->requireReload(); // which brought nothing
+    world.channels->channelWithChannelId(channel(1))->requireReload(); // which found nothing
     listings->commitFiles();
     EXPECT_EQ(queues.run(kAccess), 1u);
     EXPECT_EQ(queues.run(kFiles), 1u);
@@ -164,7 +164,7 @@ TEST_F(TVListingsTest, InTheBackgroundScheduledListsAreWrittenSoon) {
 TEST_F(TVListingsTest, CommitBetweenMergeAndStoreLosesNothing) {
     made();
     listings->commitFiles();
-    queues.run(kAccess); // the commit has taken the lists of before
+    queues.run(kAccess); // the commit has taken the old lists
     merge({{hour(0), hour(1), u"A"_s}});
     queues.runAll();
     EXPECT_TRUE(listings->isScheduledForSaving(channel(1)));
@@ -175,7 +175,7 @@ TEST_F(TVListingsTest, CommitBetweenMergeAndStoreLosesNothing) {
 TEST_F(TVListingsTest, AFailedWriteStaysScheduled) {
     made();
     merge({{hour(0), hour(1), u"A"_s}, {hour(0), hour(1), u"C"_s, 0, channel(2)}});
-    QDir().mkdir(world.listingsFile(channel(1))); // no file can be put in its place
+    QDir().mkdir(world.listingsFile(channel(1))); // a directory, so that writing the file fails
     EXPECT_FALSE(listings->finishWriting(std::chrono::milliseconds(0)));
     EXPECT_TRUE(listings->isScheduledForSaving(channel(1)));
     EXPECT_FALSE(listings->isScheduledForSaving(channel(2)));

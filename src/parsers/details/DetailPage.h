@@ -17,7 +17,7 @@
 
 namespace guide {
 
-/// The input of a detail reader; everything referred to outlives the call.
+/// The input of a detail reader; everything referred to must outlive the call.
 struct DetailPage {
     /// UTF-8.
     std::string_view text;

@@ -30,7 +30,7 @@ std::optional<QString> objectIdIn(MarkerWalk link) {
     return textUnlessEmpty(pageString(rest.substr(0, static_cast<std::size_t>(end - rest.begin()))));
 }
 
-/// The number of the show's pictures from the link to them: after the mark, or else before it.
+/// The number of the show's pictures in the link to them: the one after the mark, or else the one before it.
 std::optional<QString> objectId(const DetailPage& page) {
     const MarkerWalk walk = page.walk();
     const auto mark = walk.find("i_is_picture=2");

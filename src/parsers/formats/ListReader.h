@@ -15,7 +15,7 @@
 
 namespace guide {
 
-/// The input of a reader; everything referred to outlives the call.
+/// The input of a reader; everything referred to must outlive the call.
 struct ListReaderInput {
     /// All items have the same URLs.
     const std::vector<LoadItem>& items;
@@ -34,7 +34,7 @@ struct ListReaderInput {
 };
 
 /// Adds the shows of the pages to the lists of the items' channels, in the order of reading. Skips what it
-/// cannot read, and keeps what it has added when it has to stop.
+/// cannot read, and keeps what it has added when it stops early.
 using ListReader = void (*)(const ListReaderInput& input, ParsedLists& lists);
 
 } // namespace guide

@@ -18,7 +18,7 @@ inline std::string_view pageText(const QByteArray& page) {
 
 /// A show of the item's channel at that moment; the reader sets title and source id.
 std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, Moment start);
-/// The same with a title.
+/// The same, with a title.
 std::shared_ptr<TVEntry> newEntry(const ListReaderInput& input, const LoadItem& item, const QString& title,
                                   Moment start);
 

@@ -59,7 +59,7 @@ class MarkerWalk {
     std::optional<std::size_t> find(std::string_view marker) const;
     /// The start of the last such marker between position and limit. Does not move.
     std::optional<std::size_t> findLast(std::string_view marker) const;
-    /// As find, but the limit when there is none, which is not recorded as missing.
+    /// Like find, but returns the limit when there is no such marker; does not record it as missing.
     std::size_t findOrLimit(std::string_view marker) const;
     bool contains(std::string_view marker) const;
 

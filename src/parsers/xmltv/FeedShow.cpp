@@ -24,7 +24,7 @@ QString fromUtf8(std::string_view bytes) {
     return isValid ? text : QString();
 }
 
-/// Titles of slots that the feed knows nothing about.
+/// Titles of slots for which the feed has no information.
 constexpr std::array kPlaceholderTitles{"NEMA INFORMACIJA"_L1, "Nema informacija o programu"_L1};
 
 /// More than any real subtitle has; limits the work for hostile input.

@@ -63,9 +63,9 @@ struct FeedShow {
     void clear();
 };
 
-/// The context of cleaning the shows of a feed.
+/// What is needed to clean the shows of a feed.
 struct FeedShowOptions {
-    /// Outlives the shows.
+    /// Must outlive the shows.
     const Alphabet& alphabet;
     /// The device's locale, for titles in capitals.
     QLocale locale = {};

@@ -34,7 +34,7 @@ bool endsName(char character) {
 }
 
 /// The end of the comment, CDATA section or processing instruction that opens at `at`; null when it has no
-/// end or is none of these.
+/// end or is something else.
 const char* asideEnd(const char* at) {
     struct Aside {
         std::string_view opening;
@@ -306,7 +306,7 @@ class Scan {
             return nullptr;
         }
         if (*unwanted) {
-            // A run continues while only blanks separate its programmes.
+            // A run continues as long as only blanks separate its programmes.
             if (m_kept.empty() || skipBlanks(m_keptFrom) != mark) {
                 keep(mark);
                 m_kept.push_back(kPlaceholder);

@@ -17,7 +17,7 @@
 
 namespace guide::test {
 
-/// The bytes of a file that has to be there.
+/// The bytes of a file that must exist.
 inline QByteArray recordedContent(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {

@@ -10,7 +10,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-TEST(RecordedPages, GiveTheListsThatWereExpected) {
+TEST(RecordedPages, GiveTheExpectedLists) {
     const QStringList formats =
         test::recordedFolder().entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     ASSERT_FALSE(formats.isEmpty());

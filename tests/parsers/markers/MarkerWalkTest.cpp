@@ -17,12 +17,12 @@ TEST(MarkerWalk, DoesNotMoveWhenAMarkerIsMissing) {
     EXPECT_EQ(walk.rest(), "open");
 }
 
-TEST(MarkerWalk, StaysWithinItsPart) {
+TEST(MarkerWalk, StaysWithinThePart) {
     MarkerTrace trace;
     const MarkerWalk page("a|bc|d|", trace);
     MarkerWalk part = page.part(2, 4);
     EXPECT_FALSE(part.find("|"));
-    EXPECT_FALSE(part.find("c|")) << "a marker has to end within the part";
+    EXPECT_FALSE(part.find("c|")) << "a marker must end within the part";
     EXPECT_EQ(part.find("c"), 3U);
     EXPECT_EQ(part.find("bc"), 2U) << "a marker may fill the part";
     EXPECT_EQ(part.findOrLimit("d"), 4U);
@@ -56,7 +56,7 @@ TEST(MarkedFields, FindFieldsFromAnyPosition) {
     EXPECT_EQ(fields.next(1)->text, "<a>2") << "the first opening marker counts";
     EXPECT_EQ(fields.next(10)->text, "2");
     EXPECT_TRUE(fields.next(0, 8));
-    EXPECT_FALSE(fields.next(0, 7)) << "the closing marker has to end before the limit";
+    EXPECT_FALSE(fields.next(0, 7)) << "the closing marker must end before the limit";
     EXPECT_FALSE(fields.next(13));
     EXPECT_FALSE(fields.next(100));
 }

@@ -68,7 +68,7 @@ const std::array<Piece, 23> kSkippable{{
     {"a decimal id", show("&#119;", "Wanted")},
     {"an id with hexadecimal letters", show("&#x6a;&#x6F;", "Wanted")},
     {"a reference in the id", show("v&amp;&lt;&gt;&quot;&apos;", "Wanted")},
-    {"other elements of like names",
+    {"elements with similar names",
      programme("@ channel=\"u\"", "<programmes/><programme-id></programme-id><title>S</title>")},
     {"a prefixed name", "<x:programme xmlns:x=\"y\" channel=\"w\"><title>None</title></x:programme>"},
     {"a prefixed id", "<programme xmlns:x=\"y\" x:channel=\"w\"><title>None</title></programme>"},
@@ -76,7 +76,7 @@ const std::array<Piece, 23> kSkippable{{
      programme("@ channel=\"u\"", "<category desc=\"News\">x</category><previously-shown/><sub-title>y"
                                   "</sub-title><actor>z</actor><icon src=\"http://h/i\"/>")},
     {"wanted", show("w", "Wanted &amp; kept")},
-    {"other letters", show("ů", "Šťastná")},
+    {"non-ASCII letters", show("ů", "Šťastná")},
 }};
 
 /// Input for which the scan gives up.
@@ -103,7 +103,7 @@ const std::array<Piece, 20> kDoubtful{{
     {"a slash in the tag", "<programme channel=\"u\" / ></programme>"},
 }};
 
-/// Not well-formed, but without doubt about where a programme ends.
+/// Not well-formed, but it is certain where each programme ends.
 const std::array<Piece, 6> kMalformed{{
     {"crossed tags", programme("@ channel=\"u\"", "<title>T")},
     {"crossed tags of a wanted one", programme("@ channel=\"w\"", "<title>T")},

@@ -17,7 +17,7 @@ class Transcript : public XMLTVEvents {
     }
 
     const std::string& events() const { return m_events; }
-    /// The texts, separated by strokes.
+    /// The texts, separated by vertical bars.
     const std::string& pieces() const { return m_pieces; }
 
   private:
