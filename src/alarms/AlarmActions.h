@@ -12,9 +12,9 @@ namespace guide {
 /// What a user can do to alarms. Main queue; the work is done in the background, and the screens are
 /// refreshed when it is done.
 ///
-/// `sync` commits the change and refreshes the screens; who makes several changes commits once at the end.
-/// `manual` says that it is the user's own gesture on this show: it is counted, and silent hours do not hold
-/// it back.
+/// `sync` commits the change and refreshes the screens; a caller that makes several changes passes true only
+/// for the last. `manual` means that the user acted on this show directly: the action is counted, and silent
+/// hours do not apply.
 class AlarmActions {
   public:
     virtual ~AlarmActions() = default;
@@ -38,7 +38,7 @@ class AlarmActions {
 class FavoriteActions {
   public:
     virtual ~FavoriteActions() = default;
-    /// Does nothing but refresh the screens when there is a rule with the title.
+    /// Only refreshes the screens if there is already a rule with the title.
     virtual void addFavorite(const QString& title) = 0;
     /// Removes the rule and all alarms of the title.
     virtual void removeFavorite(const QString& title) = 0;

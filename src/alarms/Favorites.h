@@ -19,7 +19,7 @@ struct Favorite {
     QString identificator;
     /// Lead time of the recurring alarm; unset when the rule has none.
     std::optional<int> minutes;
-    /// When the rule was made or last replaced.
+    /// When the rule was created or last replaced.
     Moment date;
     /// Unset for any broadcast, false for premieres only, true for replays only.
     std::optional<bool> previouslyShown;
@@ -43,7 +43,7 @@ class FavoritesSnapshot final : public FavoriteTitles {
     QHash<QString, std::size_t> m_byTitle;
 };
 
-/// Where everybody gets the favourites from. Answers from memory; any thread.
+/// Provides the current favourites from memory. Any thread.
 class FavoritesSource : public FavoriteTitlesSource {
   public:
     /// Never null. A screen takes it once per rebuild, other work once per run.

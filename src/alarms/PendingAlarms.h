@@ -13,7 +13,7 @@ namespace guide {
 class AlarmsSnapshot {
   public:
     /// Minutes between the alert and the show, on the scale of normalizedMinutes(); unset for an event whose
-    /// alarm was taken away in the calendar.
+    /// alarm was removed in the calendar.
     using MinutesByShow = std::unordered_map<ShowDigest, std::optional<int>, ShowDigestHash>;
 
     AlarmsSnapshot() = default;
@@ -29,14 +29,14 @@ class AlarmsSnapshot {
         const auto event = digest ? m_events.find(*digest) : m_events.end();
         return event == m_events.end() ? std::nullopt : event->second;
     }
-    /// The number of events, also of those without an alarm.
+    /// The number of events, including those without an alarm.
     std::size_t eventCount() const { return m_events.size(); }
 
   private:
     MinutesByShow m_events;
 };
 
-/// Where everybody gets the pending alarms from. Answers from memory; any thread.
+/// Provides the current pending alarms from memory. Any thread.
 class AlarmsSource {
   public:
     virtual ~AlarmsSource() = default;

@@ -19,15 +19,15 @@ struct SilentPeriod {
     bool mayBeAlarmedAt(int minuteOfDay) const;
 };
 
-/// The silent hours as the user has set them, at one moment and in one zone. They follow the user between
-/// devices. Immutable; any thread.
+/// The silent hours as the user has set them, at one moment and in one zone. They are shared between the
+/// user's devices. Immutable; any thread.
 class SilentHours {
   public:
-    /// Reads the settings; work that asks about many moments does so once per run.
+    /// Reads the settings; to check many moments, create one instance per run.
     SilentHours(const KeyValueStore& store, const Device& device);
 
     bool enabled() const { return m_enabled; }
-    /// From 00:00 to 07:00 where nothing is set. Of a stored date only its clock time in the zone counts.
+    /// From 00:00 to 07:00 where nothing is set. Only the time of day of a stored date counts, in the zone.
     const SilentPeriod& period() const { return m_period; }
     bool mayBeAlarmedAt(Moment moment) const;
 

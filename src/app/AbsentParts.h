@@ -7,8 +7,8 @@
 
 namespace guide {
 
-// The guide without alarms, favourites, popular shows and other devices. Each answers that there is nothing,
-// which is true as long as nothing can add any.
+// Implementations for a guide without alarms, favourites, popular shows and other devices: all of them are
+// empty.
 
 /// No show is a favourite.
 class NoFavorites final : public FavoritesSource {
@@ -43,7 +43,7 @@ class NoPopularShows final : public PopularShows {
 class CloudValues {
   public:
     virtual ~CloudValues() = default;
-    /// Applies what has changed elsewhere. Main queue.
+    /// Applies changes made on other devices. Main queue.
     virtual void cloudDidChangeExternally() = 0;
 };
 

@@ -8,7 +8,7 @@
 
 namespace guide {
 
-/// Synchronises the alarms with the listings whenever these change. Everything it is given must outlive the
+/// Synchronises the alarms with the listings whenever these change. Its dependencies must outlive the
 /// blocks on the main queue.
 class AlarmUpdater final : public ListingsObserver {
   public:
@@ -20,7 +20,7 @@ class AlarmUpdater final : public ListingsObserver {
         , m_userDefaults(userDefaults) {}
 
     void listingsReplaced() override {
-        // At once: should the process end before the run, the next start makes up for it.
+        // Immediately, so that the next start synchronises if the process ends before the run.
         m_alarms.setSynchronized(false);
         m_mainQueue.async([&alarms = m_alarms, &state = m_applicationState, &defaults = m_userDefaults] {
             if (state.applicationState() == ApplicationState::Background) {

@@ -25,7 +25,7 @@
 
 namespace guide {
 
-/// The device and the data that the application runs on. What is referred to must outlive the application.
+/// The device and the data that the application runs on. Referenced objects must outlive the application.
 struct ApplicationEnvironment {
     const Clock& clock;
     const Device& device;

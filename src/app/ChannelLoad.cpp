@@ -37,7 +37,7 @@ void ChannelLoad::read(const QString& sourceId, std::size_t pages, MergeOutcome 
 }
 
 void ChannelLoad::passOver(const PassedOverSource& passedOver) {
-    // A channel may name a source twice.
+    // A channel may list a source twice.
     for (Source& each : m_sources) {
         if (!each.isAsked && each.passedOver.sourceId == passedOver.sourceId) {
             each = {.passedOver = passedOver, .isAsked = true};

@@ -17,7 +17,7 @@ class ChannelLoad {
 
     /// The first page of the source could not be fetched.
     void noPage(const QString& sourceId, const NetPage& answer);
-    /// The pages of the source were read. `list` is the stored list, null for other outcomes than Stored.
+    /// The pages of the source were read. `list` is the stored list, null unless the outcome is Stored.
     void read(const QString& sourceId, std::size_t pages, MergeOutcome outcome, const ShowList& list,
               Moment at);
 

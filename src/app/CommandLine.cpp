@@ -24,7 +24,7 @@ QString usage() {
            "  --screenshots FOLDER  save a picture of every screen in FOLDER and exit\n"
            "  --help                this text\n"
            "\n"
-           "The options from --demo to --now work in a profile of their own, unless --profile names one.\n"_s;
+           "The options from --demo to --now use a temporary profile, unless --profile names one.\n"_s;
 }
 
 CommandLineText refusal(const QString& why) {

@@ -27,7 +27,7 @@ SignificantTime::Reading readClocks(const Clock& clock, const Device& device) {
             timeOf(CLOCK_BOOTTIME), timeOf(CLOCK_MONOTONIC)};
 }
 
-/// What the kernel says about the machine's memory; empty where there is no such file.
+/// The kernel's report on the machine's memory; empty where there is no such file.
 QByteArray memoryInformation() {
     QFile file(u"/proc/meminfo"_s);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -53,7 +53,7 @@ void DeviceWatch::poll() {
     if (const auto available = availableMemory(memoryInformation()); available && m_memory.due(*available)) {
         m_observer.applicationDidReceiveMemoryWarning();
     }
-    // In the background the next activation brings everything up to date.
+    // After a change in the background, the next activation updates everything.
     if (m_time.changed(readClocks(m_clock, m_device)) &&
         m_state.applicationState() == ApplicationState::Active) {
         m_observer.applicationSignificantTimeChange();

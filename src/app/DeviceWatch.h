@@ -10,8 +10,8 @@
 
 namespace guide {
 
-/// Polls the device's clocks and memory, and reports significant changes of time to an active application and
-/// short memory to any. Main thread; what it is given must outlive it.
+/// Polls the device's clocks and memory. Reports significant changes of time while the application is active,
+/// and low memory in any state. Main thread. The arguments must outlive it.
 class DeviceWatch {
   public:
     DeviceWatch(const Clock& clock, const Device& device, const ApplicationStateSource& state,

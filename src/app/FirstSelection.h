@@ -10,7 +10,7 @@
 namespace guide {
 
 /// The channels in a selection file: a JSON array of identities, 24 hexadecimal digits each, in display
-/// order. Nothing, and a log line, when the file cannot be read or is not an array.
+/// order. Unset, with a log line, when the file cannot be read or is not an array.
 std::optional<std::vector<ObjectId>> selectionFromFile(const QString& path);
 
 } // namespace guide

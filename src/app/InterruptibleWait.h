@@ -6,10 +6,10 @@
 
 namespace guide {
 
-/// Pauses background work; the end of the program interrupts the pauses. Any thread.
+/// Pauses background work until shutdown interrupts the pauses. Any thread.
 class InterruptibleWait {
   public:
-    /// Blocks for the time. Returns false immediately when interrupted.
+    /// Blocks for the given time. Returns false immediately when interrupted.
     bool wait(std::chrono::milliseconds time) {
         std::unique_lock guard(m_mutex);
         return !m_changed.wait_for(guard, time, [this] { return m_interrupted; });

@@ -23,7 +23,7 @@ struct LaunchFiles {
     std::optional<QString> firstSelection;
 };
 
-/// Deletes the archive of a catalogue that the options name: that catalogue is always read anew. Nothing when
+/// Deletes the archive of a catalogue that the options name, so that the catalogue itself is read. Unset when
 /// the host table that the options name cannot be read.
 std::optional<LaunchFiles> launchFiles(const LaunchOptions& options, const Folders& folders);
 

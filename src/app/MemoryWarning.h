@@ -13,7 +13,8 @@ std::optional<double> availableMemory(QByteArrayView meminfo);
 /// Decides, from repeated readings of the available memory, when the guide should release some.
 class MemoryWarning {
   public:
-    /// Whether memory has become short with this reading. True once, until plenty is available again.
+    /// Whether memory has become short with this reading. True once, then not until plenty was available
+    /// again.
     bool due(double available);
 
   private:

@@ -19,7 +19,7 @@ class PictureTour {
     PictureTour(TabBarController& tabs, GuideWindow& window, QString folder, QString prefix,
                 std::function<void(bool complete)> done);
 
-    /// Waits until the channels have their shows, but not forever.
+    /// Waits, for a limited time, until the channels have their shows.
     void start();
 
   private:

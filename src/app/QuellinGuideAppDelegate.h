@@ -62,11 +62,12 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void applicationSignificantTimeChange() override;
 
     void checkAndUpdateAllChannels() override;
-    /// Shows the number of pending alarms on the application and on its tab.
+    /// Shows the number of pending alarms on the application's icon and on the schedule tab.
     void updateBadge();
 
-    /// Ends, in this order, screens, transfers and pauses, the check, and the writing of files. The queues
-    /// must still be running; the owner ends them next. False when the files were not written in time.
+    /// Ends, in this order, the screens, transfers and pauses, the check, and the writing of files. The
+    /// queues must still be running; the caller shuts them down next. Returns false when the check did not
+    /// end or the files were not written in time.
     bool shutDown(std::chrono::milliseconds atMost);
 
   private:
@@ -104,7 +105,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     Settings m_settings;
     Alphabet m_alphabet;
     InterruptibleWait m_pauses;
-    /// Blocks on the main queue hold it weakly, so that they do nothing after the end.
+    /// Blocks on the main queue hold it weakly, so that they do nothing after the destruction.
     const std::shared_ptr<const void> m_alive = std::make_shared<char>();
 
     bool m_imagesEnabled = true;

@@ -8,7 +8,7 @@ namespace guide {
 
 /// How a new catalogue changes the selection.
 struct SelectionCleanup {
-    /// The channels that the catalogue still lists, in their order.
+    /// The channels that the catalogue still lists, in the order of the selection.
     std::vector<ObjectId> kept;
     std::vector<ObjectId> removed;
 };

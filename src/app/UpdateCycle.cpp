@@ -57,7 +57,7 @@ class ListingsUpdateTask : public std::enable_shared_from_this<ListingsUpdateTas
     BackgroundTaskId m_task = kBackgroundTaskInvalid;
 };
 
-/// Marks the channels of a load as loading for as long as it is read,
+/// Marks the channels of a load as loading while its pages are read.
 class LoadingMark {
   public:
     LoadingMark(const TVChannels& channels, const std::vector<LoadItem>& items) {
@@ -97,7 +97,7 @@ class UpdateCycle::Check {
         m_environment.sourceHealth.read();
         std::vector<ObjectId> wanted = wantedChannels(counts);
         while (!loadFromSources(wanted)) {
-            // A day has begun. The rest is planned again, because pages of the day before would be misdated.
+            // A new day has begun. The rest is planned again; pages of the previous day would be misdated.
             std::erase_if(wanted, [this](const ObjectId& id) {
                 const std::shared_ptr<TVChannel> channel = m_environment.channels.channelWithChannelId(id);
                 return !channel || !reloadNeeded(*channel);
@@ -164,7 +164,7 @@ class UpdateCycle::Check {
         return planned;
     }
 
-    /// False when a day began meanwhile that matters to the remaining steps.
+    /// Returns false when a new day has begun and a step depends on the day.
     bool loadFromSources(const std::vector<ObjectId>& wanted) {
         m_day = dayBegan();
         for (const UpdateStep& step : planSteps(plannedChannels(wanted))) {
@@ -210,7 +210,7 @@ class UpdateCycle::Check {
         bool isOfToday = true;
         m_environment.loadQueue->sync([&, &items = items, type = type] {
             isOfToday = isDated || dayBegan() == m_day;
-            // A channel may have been deselected meanwhile; its list would be parsed for nothing.
+            // Avoids parsing the lists of channels that have been deselected meanwhile.
             std::erase_if(items, [this](const LoadItem& item) {
                 return !m_environment.channels.channelWithChannelId(item.channel);
             });
@@ -221,8 +221,8 @@ class UpdateCycle::Check {
         return isOfToday;
     }
 
-    /// The pages before the first that cannot be fetched, whose answer is stored in `missing`. Empty pages
-    /// count.
+    /// Fetches pages up to the first failure, whose answer is stored in `missing`. An empty page is not a
+    /// failure.
     std::vector<QByteArray> fetch(const QList<QUrl>& urls, Moment cachedSince, NetPage& missing) {
         std::vector<QByteArray> pages;
         pages.reserve(static_cast<std::size_t>(urls.size()));

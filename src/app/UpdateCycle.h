@@ -24,7 +24,7 @@
 
 namespace guide {
 
-/// What the cycle works with. All of it must outlive the last block on its queues.
+/// The dependencies of the cycle. All of them must outlive the last block on its queues.
 struct UpdateCycleEnvironment {
     const Clock& clock;
     const Device& device;
@@ -32,7 +32,7 @@ struct UpdateCycleEnvironment {
     /// Serial, background class: runs the checks and their transfers.
     std::shared_ptr<DispatchQueue> checkQueue;
     /// Serial, background class: planning and parsing. The check queue waits for it, never the other way
-    /// round. Suspending it holds a load back before its lists reach the screens.
+    /// round. Suspending it delays a load before its lists reach the screens.
     std::shared_ptr<DispatchQueue> loadQueue;
     BackgroundTasks& backgroundTasks;
     const ApplicationStateSource& applicationState;
@@ -45,9 +45,9 @@ struct UpdateCycleEnvironment {
     TVListings& listings;
     /// Records the result of each load. Only checks read and write its file.
     SourceHealthRecords& sourceHealth;
-    /// Reads pages and merges what they hold into the store.
+    /// Reads pages and merges their shows into the store.
     const ListDriver& listDriver;
-    /// How many shows per channel the now-on-air list wants.
+    /// How many shows per channel the list of what is on now shows.
     std::function<int()> showCount;
     /// Receives the first shows of each loaded channel, on the main queue. Not called while the application
     /// is in the background.
@@ -63,8 +63,8 @@ class UpdateCycle {
     /// Starts a check after the running one. Does nothing if a check is already waiting. Any thread.
     void checkAndUpdateAllChannels();
 
-    /// Ends the running check before its next step, disables later ones, and waits for the end; false when
-    /// the time is up first. Transfers must have been cancelled, and the load queue must not be suspended.
+    /// Ends the running check before its next step, disables later ones, and waits for the end. Returns false
+    /// on timeout. Transfers must have been cancelled, and the load queue must not be suspended.
     bool finish(std::chrono::milliseconds atMost);
 
   private:

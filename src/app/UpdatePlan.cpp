@@ -54,7 +54,7 @@ planSteps(const std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>& ch
                 place.number = source.number;
                 place.found = found;
             }
-            // Only this channel's pairs, which are the last ones, can equal this one.
+            // Only pairs of this channel can equal this one, and they are the last ones.
             const UpdateStep::Served pair{channel, source.sourceId, source.type};
             auto& served = place.step.served;
             const auto foreign = std::find_if(served.rbegin(), served.rend(), [&pair](const auto& other) {

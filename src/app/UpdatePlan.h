@@ -44,7 +44,7 @@ struct PlannedSource {
     QString sourceId;
     /// How its pages are read.
     ListingsType type = ListingsType::XMLTV;
-    /// In the order of fetching; none when it cannot be asked.
+    /// In fetch order; empty when the source cannot be asked.
     QList<QUrl> urls;
 };
 
@@ -72,14 +72,14 @@ struct UpdateStep {
 std::vector<UpdateStep>
 planSteps(const std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>& channels);
 
-/// What is left of a step when its turn comes.
+/// The items of a step that are still due when the step begins.
 struct DueItems {
     std::vector<LoadItem> items;
     /// Of the first item's source.
     ListingsType type = ListingsType::XMLTV;
 };
 
-/// `languageOfDueChannel` answers nothing for a channel that is not due any more, because an earlier step has
+/// `languageOfDueChannel` returns nothing for a channel that is no longer due, because an earlier step has
 /// loaded it.
 DueItems dueItems(const UpdateStep& step,
                   const std::function<std::optional<QString>(const ObjectId&)>& languageOfDueChannel);

@@ -76,7 +76,7 @@ int run(LaunchOptions options) {
 
     const LinuxClock clock(options.now);
     LinuxDevice device(options.form.value_or(UserInterfaceIdiom::Phone));
-    // Icons are scaled for the finest screen that the window can be moved to.
+    // Icons are scaled for the screen with the highest density that the window can be moved to.
     device.setScreen(device.screenSize(), qGuiApp->devicePixelRatio());
     std::unique_ptr<DemoEnvironment> demo;
     if (options.demo) {

@@ -25,7 +25,7 @@ Outcome filter(Context& context) {
     HasIcon hasIcon = [](const QString&) { return true; };
     if (const auto folder = context.arguments.value(u"icons"_s)) {
         if (!QDir(*folder).exists()) {
-            return Failure{u"%1 is no folder"_s.arg(*folder)};
+            return Failure{u"%1 is not a folder"_s.arg(*folder)};
         }
         hasIcon = [icons = std::make_shared<TVStationIcons>(*folder, 1)](const QString& name) {
             return icons->hasIconFile(name);

@@ -58,7 +58,7 @@ Outcome recorded(Context& context) {
         });
     }
     if (!why.isEmpty()) {
-        return Failure{u"nothing came: %1"_s.arg(why)};
+        return Failure{u"a page could not be fetched: %1"_s.arg(why)};
     }
     if (!shows) {
         return QJsonObject{{u"recorded"_s, QJsonValue::Null}};
@@ -80,7 +80,7 @@ Outcome imdb(Context& context) {
     const TVListingsCategory categories =
         arguments.value(u"categories"_s).value_or(QString()).toUInt(&isNumber, 0);
     if (!isNumber || !arguments.has(u"title"_s)) {
-        return Failure{u"--title and --categories, a number, are wanted"_s, true};
+        return Failure{u"--title and a number for --categories are needed"_s, true};
     }
     const auto pages = pagesFromFiles(arguments.operands, context);
     if (const auto* failure = std::get_if<Failure>(&pages)) {
@@ -113,11 +113,11 @@ std::vector<Command> detailCommands() {
           {},
           1,
           -1},
-         u"what a show's page, and the pages that it leads to, tell of the show"_s,
+         u"the details of a show on its page and on the pages that it leads to"_s,
          detail},
         {u"recorded"_s,
          {u"--title T [INDEX_PAGE [SHOW_PAGE]]"_s, {u"title"_s}, {}, 0, 2},
-         u"the past broadcasts of a show in the archive; without pages, of the network"_s,
+         u"the past broadcasts of a show in the archive; without pages, from the network"_s,
          recorded},
         {u"imdb"_s,
          {u"--title T [--subtitle S] --categories N PAGE..."_s,
@@ -125,7 +125,7 @@ std::vector<Command> detailCommands() {
           {},
           0,
           -1},
-         u"the searches for a film or series, and what their pages answer"_s,
+         u"the searches for a film or series, and the results on their pages"_s,
          imdb},
     };
 }

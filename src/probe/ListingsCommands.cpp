@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The shows that the reader of the type finds in the pages. They refer to the alphabet.
+/// The shows that the reader of the type finds in the pages. They keep references to the alphabet.
 ParsedLists readPages(const Context& context, const Alphabet& alphabet, const std::vector<LoadItem>& items,
                       const std::vector<QByteArray>& pages, ListingsType type, MarkerTrace* trace = nullptr) {
     const ManualClock clock(context.now);
@@ -47,13 +47,13 @@ Outcome parse(Context& context) {
     const auto type =
         static_cast<ListingsType>(arguments.value(u"type"_s).value_or(QString()).toUInt(&isNumber));
     if (!isNumber) {
-        return Failure{u"--type wants the number of a listing type"_s, true};
+        return Failure{u"--type needs the number of a listing type"_s, true};
     }
     std::vector<LoadItem> items;
     for (const QString& text : arguments.options.value(u"item"_s)) {
         const auto item = loadItem(text);
         if (!item) {
-            return Failure{u"--item wants CHANNEL,SOURCE_ID,LANGUAGE, not \"%1\""_s.arg(text), true};
+            return Failure{u"--item needs CHANNEL,SOURCE_ID,LANGUAGE, not \"%1\""_s.arg(text), true};
         }
         items.push_back(*item);
     }
@@ -69,7 +69,7 @@ Outcome parse(Context& context) {
     return listsJSON(mergedLists(items, std::move(read), context.now, type));
 }
 
-/// Fetches the pages of the URLs as a check does, up to the first that fails. Stores in `why` why it failed.
+/// Fetches the pages of the URLs as a check does, up to the first failure, whose reason it stores in `why`.
 std::vector<QByteArray> fetchPages(const Context& context, const QList<QUrl>& urls, QString& why) {
     std::vector<QByteArray> pages;
     withNetwork(context, why, [&](const PageFetcher& fetcher, const HTTPUserAgent& userAgent) {
@@ -108,7 +108,7 @@ Outcome check(Context& context) {
     QString why;
     const std::vector<QByteArray> pages = fetchPages(context, *urls, why);
     if (pages.empty()) {
-        return Failure{u"nothing came of %1"_s.arg(why)};
+        return Failure{u"nothing was fetched: %1"_s.arg(why)};
     }
     if (!why.isEmpty()) {
         qWarning("%s", qUtf8Printable(why));

@@ -18,10 +18,11 @@ namespace guide::probe {
 std::variant<std::vector<QByteArray>, Failure> pagesFromFiles(const QStringList& paths,
                                                               const Context& context);
 
-/// A source that returns these pages one after the other, whatever the request. Refers to the pages.
+/// A source that returns these pages one after the other, whatever the request. Keeps a reference to the
+/// pages.
 PageSource givenPages(const std::vector<QByteArray>& pages);
 
-/// Calls `use` with a fetcher on the network. Stores in `why` why a transfer failed.
+/// Calls `use` with a fetcher that uses the network. Stores in `why` the reason for a failed transfer.
 void withNetwork(const Context& context, QString& why,
                  const std::function<void(const PageFetcher&, const HTTPUserAgent&)>& use);
 

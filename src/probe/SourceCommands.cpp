@@ -58,7 +58,7 @@ Outcome digest(Context& context) {
     }
     const auto date = momentFromText(*arguments.value(u"date"_s));
     if (!date) {
-        return Failure{u"\"%1\" is no time like 2026-11-21T10:00:00Z"_s.arg(*arguments.value(u"date"_s)),
+        return Failure{u"\"%1\" is not a time like 2026-11-21T10:00:00Z"_s.arg(*arguments.value(u"date"_s)),
                        true};
     }
     const auto url = urlDigestFromChannel(ObjectId::fromHex(*arguments.value(u"channel"_s)), *date,
@@ -66,14 +66,14 @@ Outcome digest(Context& context) {
     return QJsonObject{{u"url"_s, url ? QJsonValue(url->toString()) : QJsonValue(QJsonValue::Null)}};
 }
 
-/// The number that stands for no alarm.
+/// The number that means no alarm.
 constexpr qint64 kNoAlarm = -1;
 
 Outcome minutes(Context& context) {
     bool ok = false;
     const double number = context.arguments.operands[0].toDouble(&ok);
     if (!ok) {
-        return Failure{u"\"%1\" is no number"_s.arg(context.arguments.operands[0]), true};
+        return Failure{u"\"%1\" is not a number"_s.arg(context.arguments.operands[0]), true};
     }
     return QJsonObject{{u"normalized"_s, qint64(normalizedMinutes(number).value_or(kNoAlarm))}};
 }
@@ -88,7 +88,7 @@ Outcome silent(Context& context) {
     const auto to = minuteOfDay(context.arguments.value(u"to"_s));
     const auto at = minuteOfDay(context.arguments.value(u"at"_s));
     if (!from || !to || !at) {
-        return Failure{u"--from, --to and --at each want a time like 07:00"_s, true};
+        return Failure{u"--from, --to and --at each need a time like 07:00"_s, true};
     }
     return QJsonObject{{u"allowed"_s, SilentPeriod{*from, *to}.mayBeAlarmedAt(*at)}};
 }

@@ -62,7 +62,7 @@ QJsonObject finished(const Context& context, const QString& text) {
 }
 
 QJsonObject transliterated(const Context& context, const QString& text) {
-    // Latin unless requested; the system's locale does not count here.
+    // Latin unless requested; the system's locale is ignored here.
     const Alphabet alphabet(context.arguments.has(u"cyrillic"_s) ||
                             (context.arguments.has(u"locale"_s) && writesCyrillic(context)));
     return result(latin2Cyrillic(text, context.arguments.value(u"language"_s).value_or(QString()), alphabet));
@@ -144,7 +144,7 @@ Outcome categoryText(Context& context) {
     bool ok = false;
     const qlonglong number = value.toLongLong(&ok, hexadecimal ? 16 : 10);
     if (!ok || number < -0x80000000LL || number > 0xffffffffLL) {
-        return Failure{u"\"%1\" is no 32-bit number"_s.arg(value), true};
+        return Failure{u"\"%1\" is not a 32-bit number"_s.arg(value), true};
     }
     return QJsonObject{{u"text"_s, textForCategory(static_cast<TVListingsCategory>(number))}};
 }
@@ -175,7 +175,7 @@ std::vector<Command> textCommands() {
           {u"cyrillic"_s, u"recognised"_s},
           1,
           1},
-         u"what an operation makes of the text on standard input"_s,
+         u"the result of an operation on the text on standard input"_s,
          text},
         {u"words"_s,
          {u"TABLE [--title T]"_s, {u"title"_s}, {}, 1, 1},

@@ -39,8 +39,8 @@ QString usage() {
             "  --now TIME     the moment that counts as now, as in 2026-11-21T10:00:00Z\n"
             "  --zone ID      the device's time zone, an IANA name\n"
             "  --locale NAME  the device's locale, as in cs_CZ or sr_RS@cyrillic\n"
-            "  --help         how the command is called\n\n"
-            "Status: 0 it ran, also when it found nothing; 1 it could not run; 2 unusable arguments.\n"_s;
+            "  --help         how to call the command\n\n"
+            "Status: 0 it ran, even if it found nothing; 1 it could not run; 2 unusable arguments.\n"_s;
     return text;
 }
 
@@ -63,7 +63,7 @@ std::variant<Context, Failure> contextFor(const Arguments& arguments) {
     if (const auto text = arguments.value(u"now"_s)) {
         const auto moment = momentFromText(*text);
         if (!moment) {
-            return Failure{u"\"%1\" is no time like 2026-11-21T10:00:00Z"_s.arg(*text), true};
+            return Failure{u"\"%1\" is not a time like 2026-11-21T10:00:00Z"_s.arg(*text), true};
         }
         now = *moment;
     }

@@ -32,7 +32,7 @@ std::vector<DaySection> daySections(std::span<const ShowItem> shows, const QLoca
                                     const QTimeZone& zone);
 
 /// The shows whose channel is in the catalogue and has an icon, in the order given: the ones that a list of
-/// several channels can show. Looks at each channel once; icons are loaded on the way.
+/// several channels can show. Looks up each channel once and loads its icon.
 ShowItems showsWithChannelIcon(std::span<const ShowItem> shows, const CatalogueSnapshot& channels,
                                TVStationIcons& icons);
 

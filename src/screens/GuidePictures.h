@@ -9,7 +9,7 @@ namespace guide {
 /// Resolves the keys of channel icons and of shows' pictures.
 class GuidePictures final : public PictureProvider {
   public:
-    /// Both outlive the provider.
+    /// Both must outlive the provider.
     GuidePictures(TVStationIcons& icons, ShowPictureCache& shows)
         : m_icons(icons)
         , m_shows(shows) {}

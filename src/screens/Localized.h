@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// The string table of everything that a person reads, keyed by the English text:
+/// The string table of all user-visible text, keyed by the English text:
 /// `Localized::tr("Currently")`.
 class Localized {
     Q_DECLARE_TR_FUNCTIONS(Guide)

@@ -6,7 +6,7 @@
 
 namespace guide {
 
-/// What marks shows in a list. A screen takes it once per rebuild.
+/// The favourites and alarms that are marked in a list of shows. Screens create one per rebuild.
 struct ShowMarks {
     explicit ShowMarks(const ScreenEnvironment& environment)
         : favorites(environment.favorites.snapshot())

@@ -15,7 +15,7 @@
 
 namespace guide {
 
-/// A bounded cache of the pictures of shows, by channel and identificator. Drops the least recently used
+/// A bounded cache of the pictures of shows, by channel and show identifier. Drops the least recently used
 /// ones. Any thread.
 class ShowPictureCache {
   public:
@@ -24,7 +24,7 @@ class ShowPictureCache {
     explicit ShowPictureCache(qsizetype maxBytes = kMaxBytes)
         : m_maxBytes(maxBytes) {}
 
-    /// Nothing when the picture was never inserted or was dropped; an empty key when the show has none.
+    /// Unset when the picture was never inserted or was dropped; an empty key when the show has none.
     std::optional<PictureKey> find(const ObjectId& channel, const QString& showIdentifier) const;
     /// A null image records that the show has no picture. A picture that replaces another one gets a new key.
     void insert(const ObjectId& channel, const QString& showIdentifier, const QImage& image);

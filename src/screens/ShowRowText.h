@@ -14,7 +14,7 @@ class ShowRowText {
   public:
     ShowRowText(const QLocale& locale, const QTimeZone& zone);
 
-    /// A row with start time, end time and title; `popular` makes no difference in this form.
+    /// A row with start time, end time and title; `popular` is ignored in this form.
     ShowRow humanWithColor(const TVEntry& entry, ColorRole color, bool popular) const;
     /// A row with start time and title, which may be popular.
     ShowRow humanCondensedWithColor(const TVEntry& entry, ColorRole color, bool popular) const;

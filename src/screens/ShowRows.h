@@ -15,7 +15,7 @@
 
 namespace guide {
 
-/// The elapsed share of the show: below 0 before its start, above 1 after its end; nothing without a start
+/// The elapsed share of the show: below 0 before its start, above 1 after its end; unset without a start
 /// and a later end.
 std::optional<double> showProgress(const TVEntry& entry, Moment now);
 
@@ -58,7 +58,7 @@ class ShowRows {
 /// The moment in the device's zone.
 QDateTime localTime(const Device& device, Moment moment);
 
-/// The address of the channel's live stream; nothing for a channel without one.
+/// The URL of the channel's live stream; unset for a channel without one.
 std::optional<QUrl> streamURLOf(const CatalogueSnapshot& channels, const ObjectId& channel);
 
 } // namespace guide

@@ -13,7 +13,7 @@
 
 namespace guide {
 
-/// What the actions on shows work with. All of it must outlive the actions.
+/// The dependencies of the actions on shows. All of them must outlive the actions.
 struct SwipeActionsEnvironment {
     const Clock& clock;
     const FavoritesSource& favorites;
@@ -23,8 +23,8 @@ struct SwipeActionsEnvironment {
     std::function<void(Alert)> presentAlert;
 };
 
-/// The actions on the row of a show: remove the alarm or the favourite, set an alarm, add a favourite, as far
-/// as each applies. Main queue.
+/// The applicable actions on the row of a show: remove the alarm or the favourite, set an alarm, add a
+/// favourite. Main queue.
 std::vector<RowAction> swipeActions(const SwipeActionsEnvironment& environment,
                                     const std::shared_ptr<const TVEntry>& entry);
 

@@ -24,7 +24,7 @@ TEST(SilentPeriod, AllowsItsEndsAndEverythingOutside) {
         {"at the end", 0, 420, 420, true},
         {"noon, across midnight", 1380, 420, 720, false},
         {"midnight, across midnight", 1380, 420, 0, false},
-        {"nothing between", 600, 600, 300, false},
+        {"empty period", 600, 600, 300, false},
     };
     for (const auto& each : cases) {
         EXPECT_EQ((SilentPeriod{each.from, each.to}.mayBeAlarmedAt(each.at)), each.allowed) << each.name;
@@ -44,7 +44,7 @@ TEST(SilentHours, ReadStoredDatesInTheDevicesZone) {
     EXPECT_TRUE(hours().mayBeAlarmedAt(night)) << "the feature is off";
 
     store.setValue(u"noAlarmsSchedule"_s, true);
-    EXPECT_FALSE(hours().mayBeAlarmedAt(night)) << "05:00 lies in the default period";
+    EXPECT_FALSE(hours().mayBeAlarmedAt(night)) << "05:00 is in the default period";
     EXPECT_TRUE(hours().mayBeAlarmedAt(at("2026-11-21T06:00:00Z"))) << "07:00 is its end";
 
     store.setValue(u"noAlarmsSchedule.0"_s,

@@ -11,7 +11,7 @@
 namespace guide {
 namespace {
 
-TEST(AlarmUpdaterTest, MarksAtOnceAndSynchronisesOnTheMainQueue) {
+TEST(AlarmUpdaterTest, MarksImmediatelyAndSynchronisesOnTheMainQueue) {
     ManualClock clock;
     ManualQueues queues(clock);
     test::FakeAlarms alarms;

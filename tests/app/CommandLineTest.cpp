@@ -44,8 +44,8 @@ TEST(CommandLine, RefusesUnusableArguments) {
         {"unknown option", {u"--demos"_s}},
         {"value missing at the end", {u"--hosts"_s}},
         {"value empty", {u"--hosts="_s}},
-        {"no time", {u"--now"_s, u"tonight"_s}},
-        {"no form", {u"--form"_s, u"watch"_s}},
+        {"not a time", {u"--now"_s, u"tonight"_s}},
+        {"not a form", {u"--form"_s, u"watch"_s}},
         {"two URLs", {u"guide://a"_s, u"guide://b"_s}},
         {"a demo with a catalogue", {u"--demo"_s, u"--catalogue"_s, u"c"_s}},
     };

@@ -15,10 +15,10 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-/// One and a half times the most that the small device of these tests unpacks.
+/// One and a half times the unpacking limit of the small device in these tests.
 constexpr qsizetype kBombSize = qsizetype(48) << 20;
 
-TEST(Guide, LoadsShowsAndHasThemAfterARestart) {
+TEST(Guide, LoadsShowsAndKeepsThemAcrossARestart) {
     GuideWorld world;
     world.serve(u"first"_s, 1, world.feed(u"Morning"_s, 6));
     world.serve(u"second"_s, 1, world.feed(u"Evening"_s, 6));
@@ -76,15 +76,15 @@ TEST(Guide, KeepsItsListsWhateverTheServerDoes) {
     const struct {
         const char* name;
         ServerReply reply;
-        /// Whether the transfer brought nothing at all, which is what the user is alerted to.
+        /// Whether the connection fails, which the user is alerted to.
         bool alert;
     } cases[] = {
         {"not found", ServerReply::answer(404, feed), false},
         {"server error", ServerReply::answer(503, feed), false},
-        {"redirects without end", ServerReply::redirect(moved), false},
+        {"endless redirects", ServerReply::redirect(moved), false},
         {"empty body", page({}, "text/xml"), false},
         {"dropped", {}, true},
-        {"cut in the body", ServerReply::raw(announced + feed.first(feed.size() / 2)), true},
+        {"cut off in the body", ServerReply::raw(announced + feed.first(feed.size() / 2)), true},
         {"silent", ServerReply::raw({}, ServerReply::End::Stall), true},
         {"wrong charset", page("<tv><!-- P\xf8\xedli\x9a --></tv>", "text/xml; charset=utf-8"), false},
         {"broken gzip", page(damaged(gzipped(feed)), "application/x-gzip"), false},
@@ -133,11 +133,11 @@ TEST(Guide, WritesItsListsWhenMemoryIsShort) {
     EXPECT_EQ(world.titles(u"first"_s).size(), 6);
 }
 
-TEST(Guide, EndsAtOnceWhileAScreenSuspendsTheLoadQueue) {
+TEST(Guide, ShutsDownQuicklyWhileAScreenSuspendsTheLoadQueue) {
     GuideWorld world;
     world.start();
     world.guide->applicationDidBecomeActive();
-    // The answer for the screen is on the main queue, which no longer runs.
+    // The answer for the screen is on the main queue, which is not running.
     world.waitForCheck();
     const auto begun = std::chrono::steady_clock::now();
     world.end();
@@ -154,7 +154,7 @@ TEST(Guide, DeselectsAChannelThatLeftTheCatalogue) {
     EXPECT_EQ(world.guide->channels().selected().front(), GuideWorld::channel(u"first"_s));
 }
 
-TEST(Guide, OpensOnTheListOfChannelsWithoutASelection) {
+TEST(Guide, WithoutASelectionOpensOnTheListOfChannels) {
     GuideWorld world;
     QFile::remove(world.folders.caches + u"/../selection.json"_s);
     world.start();

@@ -80,7 +80,7 @@ class GuideWorld {
 
     /// Starts the guide in this world's folders; at most one at a time.
     void start();
-    /// Ends it as the program does.
+    /// Shuts the guide down as the program does.
     void end();
 
     /// Runs the main queue until the condition holds; false after 60 seconds.

@@ -44,7 +44,7 @@ TEST_F(LaunchFilesTest, WithoutOptionsTheInstalledFilesAreRead) {
     EXPECT_EQ(files->firstSelection, std::nullopt);
 }
 
-TEST_F(LaunchFilesTest, ANamedCatalogueIsReadAnewWithTheIconsBesideIt) {
+TEST_F(LaunchFilesTest, ANamedCatalogueIgnoresItsArchiveAndUsesTheIconsBesideIt) {
     LaunchOptions options;
     options.catalogue = path(u"own/List.plist"_s);
     options.select = path(u"own/selection.json"_s);

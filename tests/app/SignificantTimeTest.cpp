@@ -22,7 +22,7 @@ TEST(SignificantTime, IsDetectedBetweenTwoReadings) {
         SignificantTime::Reading reading;
         bool significant;
     } cases[] = {
-        {"twenty seconds of any evening", later([](auto&) {}), false},
+        {"twenty ordinary seconds", later([](auto&) {}), false},
         {"midnight", later([](auto& reading) { reading.date = QDate(2026, 11, 22); }), true},
         {"another zone", later([](auto& reading) { reading.zone = "Europe/Athens"; }), true},
         {"a night's sleep", later([](auto& reading) {
@@ -30,7 +30,7 @@ TEST(SignificantTime, IsDetectedBetweenTwoReadings) {
              reading.sinceStart += 7h;
          }),
          true},
-        {"a blink", later([](auto& reading) {
+        {"a short sleep", later([](auto& reading) {
              reading.now += 5s;
              reading.sinceStart += 5s;
          }),

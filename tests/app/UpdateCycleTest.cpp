@@ -97,7 +97,7 @@ TEST_F(UpdateCycleTest, AShortListIsReloadedAtEachCheckAndKeptOnFailure) {
     }
 }
 
-TEST_F(UpdateCycleTest, PagesBeforeTheFirstFailureAreParsedAlsoEmptyOnes) {
+TEST_F(UpdateCycleTest, PagesBeforeTheFirstFailureAreParsedEvenEmptyOnes) {
     UpdateWorld world(queues, clock, {{1, {u"joj.one"_s}}});
     const auto urls = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), world.device.timeZone());
     ASSERT_EQ(urls->size(), 7);
@@ -124,7 +124,7 @@ TEST_F(UpdateCycleTest, PagesBeforeTheFirstFailureAreParsedAlsoEmptyOnes) {
     EXPECT_EQ(world.offered, "");
 }
 
-TEST_F(UpdateCycleTest, ACheckOverMidnightPlansDayPagesAgain) {
+TEST_F(UpdateCycleTest, ACheckAcrossMidnightPlansDayPagesAgain) {
     const Moment midnight = std::chrono::sys_days(std::chrono::year(2026) / 3 / 28) + 23h; // in Bratislava
     clock.set(midnight - 1min);
     UpdateWorld world(queues, clock, {{1, {u"joj.one"_s}}, {2, {u"n.two"_s}}});
@@ -221,7 +221,7 @@ TEST_F(UpdateCycleTest, AnExpiredTaskEndsOnceAndTheCheckGoesOn) {
     EXPECT_EQ(world.tasks.running(), 0U);
 }
 
-TEST_F(UpdateCycleTest, AShutdownDuringAListKeepsTheStoredOne) {
+TEST_F(UpdateCycleTest, AShutdownDuringATransferParsesNothing) {
     UpdateWorld world(queues, clock, {{1, {u"joj.one"_s}}, {2, {u"s.two"_s}}});
     const auto urls = world.planner.urlsForSourceId(u"joj.one"_s, clock.now(), world.device.timeZone());
     world.answer(urls->at(0).toString(), "1 5");

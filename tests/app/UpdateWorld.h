@@ -23,8 +23,8 @@ struct UpdateStore : test::StoreFixture {
     }
 };
 
-/// An update cycle over a store, with its own reader: each line of a page gives a channel, how many shows of
-/// an hour it has, the first one running, and by how many hours they are moved.
+/// An update cycle over a store, with its own reader. Each line of a page gives a channel, its number of
+/// one-hour shows, the first of which is running, and an optional shift of all shows in hours.
 class UpdateWorld : public UpdateStore {
   public:
     struct Parse {

@@ -81,7 +81,7 @@ TEST_F(CheckCommand, ReportsTheMarkerThatIsMissing) {
         << answer.output.toStdString();
 }
 
-TEST_F(CheckCommand, MissesNothingInShowsThatAreOver) {
+TEST_F(CheckCommand, ReportsNoMissingMarkerWhenAllShowsAreOver) {
     for (int day = -1; day <= 7; ++day) {
         give(recordedPage(u"evening.html"_s));
     }

@@ -70,7 +70,7 @@ TEST(TableViewControllerTest, PassesEventsOnlyToRowsThatAcceptThem) {
         {"choice", row(choice), Chosen{1}, numberOf<Chosen>()},
         {"choice that does not exist", row(choice), Chosen{2}, -1},
         {"time", row(TimeRow()), TimePicked{QTime(1, 2)}, numberOf<TimePicked>()},
-        {"no time", row(TimeRow()), TimePicked{}, -1},
+        {"invalid time", row(TimeRow()), TimePicked{}, -1},
         {"input", row(InputRow()), TextEdited{u"x"_s}, numberOf<TextEdited>()},
         {"delete", row(TextRow()), Deleted{}, numberOf<Deleted>()},
         {"a row that is not deletable", row(TextRow(), false), Deleted{}, -1},
@@ -136,7 +136,7 @@ TEST(NavigationControllerTest, OnlyTheTopOfAVisibleStackAppears) {
     EXPECT_TRUE(events.isEmpty());
 }
 
-TEST(NavigationControllerTest, PopoversAndSheetsHaveStacksWithinTheStack) {
+TEST(NavigationControllerTest, PopoversAndSheetsHaveTheirOwnStacks) {
     QStringList events;
     const auto screen = [&events](const QString& name) { return std::make_shared<Screen>(name, events); };
     NavigationController phone(screen(u"root"_s), UserInterfaceIdiom::Phone);
@@ -194,7 +194,7 @@ TEST_F(TabBarControllerTest, TabsAndTheirStacks) {
     tabs.selectedNavigationController().push(std::make_shared<Screen>(u"d"_s, events));
     tabs.tapTab(2);
     EXPECT_EQ(tabs.selectedNavigationController().viewControllers().size(), 1U)
-        << "the selected tab keeps working, and leads back to its root";
+        << "a tap on the selected tab returns to its root";
 
     tabs.enableTabs();
     tabs.tapTab(0);
@@ -243,7 +243,7 @@ TEST_F(TabBarControllerTest, ShowsEachNoticeForItsTime) {
     tabs.dismissNotice();
 }
 
-TEST(LatestAnswerTest, DropsOvertakenAnswersAndThoseOfOwnersThatAreGone) {
+TEST(LatestAnswerTest, DropsSupersededAnswersAndThoseOfDestroyedOwners) {
     ManualClock clock;
     ManualQueues queues(clock);
     struct Owner {

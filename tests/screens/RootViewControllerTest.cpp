@@ -83,15 +83,15 @@ TEST_F(RootViewControllerTest, TimeColoursAndProgress) {
         std::optional<double> progress;
     };
     const std::vector<Case> cases{
-        {"to come", 1, 10, true, false, false, ColorRole::SecondaryLabel, {}},
+        {"upcoming", 1, 10, true, false, false, ColorRole::SecondaryLabel, {}},
         {"begins now", 0, 10, true, false, false, ColorRole::Running, 0.0},
         {"running", -5, 15, true, false, false, ColorRole::Running, 0.25},
         {"ends now: still running", -10, 0, true, false, false, ColorRole::Running, 1.0},
-        {"a favourite that runs is green", -5, 15, true, true, false, ColorRole::Running, 0.25},
+        {"a running favourite is green", -5, 15, true, true, false, ColorRole::Running, 0.25},
         {"favourite", 1, 10, true, true, false, ColorRole::Favourite, {}},
         {"an alarm wins over everything", -5, 15, true, true, true, ColorRole::Alarm, 0.25},
-        {"no colours wanted", -5, 15, false, true, false, ColorRole::SecondaryLabel, 0.25},
-        {"no colours wanted, but an alarm", 1, 10, false, false, true, ColorRole::Alarm, {}},
+        {"colours off", -5, 15, false, true, false, ColorRole::SecondaryLabel, 0.25},
+        {"colours off, but an alarm", 1, 10, false, false, true, ColorRole::Alarm, {}},
     };
     const ObjectId channel = world.addChannel(u"Jedna"_s);
     world.start();

@@ -65,7 +65,7 @@ class TableReplay final : public TableObserver {
         log << u"update %1+%2"_s.arg(first).arg(count);
         for (int row = first; row < first + count; ++row) {
             Row& shown = m_rows[static_cast<std::size_t>(row)];
-            EXPECT_NE(shown, m_table.rowAt(row)) << "announced without need";
+            EXPECT_NE(shown, m_table.rowAt(row)) << "announced although unchanged";
             EXPECT_EQ(shown.kind(), m_table.rowAt(row).kind());
             shown = m_table.rowAt(row);
         }

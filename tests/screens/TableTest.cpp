@@ -56,7 +56,7 @@ TEST(TableTest, AnnouncesOnlyTheDifference) {
          {section(u"1"_s, {u"a"_s}), section(u"2"_s, {u"b"_s, u"c"_s}, u"old"_s)},
          {section(u"1"_s, {u"a"_s}), section(u"2"_s, {u"b"_s, u"c"_s}, u"new"_s)},
          {u"headings 1+2"_s}},
-        {"sections change places",
+        {"sections swap places",
          {section(u"1"_s, {u"a"_s, u"b"_s}), section(u"2"_s, {u"c"_s})},
          {section(u"2"_s, {u"c"_s}), section(u"1"_s, {u"a"_s, u"b"_s})},
          {u"move 2>0"_s}},
@@ -162,12 +162,12 @@ TEST(TableTest, SingleSectionsAndRowsAreReplaced) {
     replay.expectComplete();
 }
 
-TEST(TableTest, ChangesMadeByAnObserverComeAfterThePresentOne) {
+TEST(TableTest, ChangesMadeByAnObserverFollowTheCurrentOne) {
     Table table;
     TableReplay replay(table);
     table.setSections({section(u"1"_s, {u"a"_s, u"b"_s})});
     replay.log.clear();
-    // An input that loses the focus with its row commits its text, for example.
+    // For example, an input commits its text when it loses the focus because its row is removed.
     replay.atFirstStep = [&table] { table.setRow(textRow(u"1"_s, u"b"_s, u"committed"_s)); };
     table.setSections({section(u"1"_s, {u"b"_s, u"c"_s})});
     EXPECT_EQ(replay.log, QStringList({u"remove 0+1"_s, u"insert 1+1"_s, u"update 0+1"_s}));

@@ -16,7 +16,7 @@ namespace guide {
 /// The whole remaining schedule of one channel, a section for each day.
 class ChannelViewController final : public ListingsScreen {
   public:
-    /// `entries` is what the opener already has of the schedule.
+    /// `entries` is the part of the schedule that the opener already has.
     ChannelViewController(std::shared_ptr<const ScreenEnvironment> environment, const QString& title,
                           const ShowSpan& entries, const QString& channelIconName, const ObjectId& channel);
 

@@ -8,7 +8,7 @@ namespace guide {
 
 /// A button of the navigation bar.
 struct BarButton {
-    /// What is drawn: the title, a symbol, or an indicator of work under way.
+    /// What is drawn: the title, a symbol, or an activity indicator.
     enum class Kind { Title, Refresh, Play, Activity };
 
     Kind kind = Kind::Title;

@@ -8,8 +8,8 @@
 
 namespace guide {
 
-/// Drops the answers to questions that a newer one has overtaken. A screen has one of these for each kind of
-/// question that it asks, and wraps each answer:
+/// Drops the answers to all but the latest request. A screen has one of these for each kind of request that
+/// it makes, and wraps each callback:
 ///
 ///     listings.cachedListForChannel(channel, m_list.expect(weak_from_this(), [this](...) {...}));
 ///
@@ -21,14 +21,14 @@ class LatestAnswer {
         Answer answer;
 
         template <class... Args>
-        operator MainBlock<Args...>() && { // NOLINT(google-explicit-constructor): made to be passed on
+        operator MainBlock<Args...>() && { // NOLINT(google-explicit-constructor): implicit by design
             return {owner, std::move(answer)};
         }
     };
 
   public:
-    /// Counts as a new question. Its answer is dropped also when the owner, which contains this object, is
-    /// gone.
+    /// Counts as a new request. Its answer is also dropped when the owner, which contains this object, has
+    /// been destroyed.
     template <class Answer>
     auto expect(const std::weak_ptr<const void>& owner, Answer answer) {
         auto unlessOvertaken = [this, question = ++m_latest,

@@ -43,14 +43,14 @@ class NavigationController {
     void show(std::shared_ptr<ViewController> viewController, Presentation presentation,
               const Anchor& anchor = {});
     void push(std::shared_ptr<ViewController> viewController);
-    /// Opens a screen from another one: what is above `opener` is popped first. Does nothing when `opener` is
-    /// no longer visible.
+    /// Opens a screen from another one: screens above `opener` are popped first. Does nothing when `opener`
+    /// is no longer visible.
     void pushFrom(const ViewController& opener, std::shared_ptr<ViewController> viewController);
     /// Does nothing on the root.
     void pop();
     void popToRoot();
     /// Closes what this stack presents; when it presents nothing and is itself presented, closes this stack,
-    /// which is destroyed by it.
+    /// which destroys it.
     void dismiss();
 
     /// The top screen, and what is presented, appear and disappear with the stack.

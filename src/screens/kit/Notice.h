@@ -6,8 +6,8 @@
 
 namespace guide {
 
-/// A short message at the bottom of the window, usually with a button that undoes what was just done. It goes
-/// away by itself.
+/// A short message at the bottom of the window, usually with a button that undoes what was just done. It
+/// closes by itself.
 struct Notice {
     QString text;
     /// Empty for no button.

@@ -24,7 +24,7 @@ struct ShowRow {
     QString endTime = {};
     QString title = {};
     QString details = {};
-    /// Whether the details may take as many lines as they need, rather than the first few.
+    /// Whether all lines of the details are shown, rather than the first few.
     bool allDetails = false;
     /// Of the start time: alarm, running, favourite or secondary label.
     ColorRole timeColor = ColorRole::SecondaryLabel;
@@ -34,16 +34,16 @@ struct ShowRow {
     bool popular = false;
     /// Elapsed share of the show, 0 to 1, while it is running.
     std::optional<double> progress = {};
-    /// Leading edge, where channels are mixed.
+    /// At the leading edge, in lists of several channels.
     PictureKey channelIcon = {};
-    /// Trailing edge.
+    /// At the trailing edge.
     PictureKey picture = {};
     Accessory accessory = Accessory::None;
 
     friend bool operator==(const ShowRow&, const ShowRow&) = default;
 };
 
-/// The head of a channel's shows, or a channel to choose.
+/// The heading of a channel's shows, or a channel to choose.
 struct ChannelRow {
     QString title = {};
     /// For example when the schedule was updated.
@@ -55,7 +55,8 @@ struct ChannelRow {
     friend bool operator==(const ChannelRow&, const ChannelRow&) = default;
 };
 
-/// A line of text with what commonly goes with it. A disclosure indicator means that a tap opens a screen.
+/// Text with an optional icon, check mark and accessory. A disclosure indicator means that a tap opens a
+/// screen.
 struct TextRow {
     QString title = {};
     QString subtitle = {};
@@ -88,7 +89,7 @@ struct ChoiceRow {
     friend bool operator==(const ChoiceRow&, const ChoiceRow&) = default;
 };
 
-/// A time of day, which a tap opens in a time picker.
+/// A time of day. A tap opens a time picker.
 struct TimeRow {
     QString title = {};
     QTime time = {};
@@ -97,7 +98,7 @@ struct TimeRow {
     friend bool operator==(const TimeRow&, const TimeRow&) = default;
 };
 
-/// A field to type in. While it has the focus, an update does not replace its text.
+/// A text field. While it has the focus, an update does not replace its text.
 struct InputRow {
     enum class Kind { Text, URL, Password, Number };
 
@@ -105,7 +106,7 @@ struct InputRow {
     QString title = {};
     QString text = {};
     QString placeholder = {};
-    /// Shown below the field; empty when what was typed is acceptable.
+    /// Shown below the field; empty when the text is valid.
     QString error = {};
     bool enabled = true;
 
@@ -122,7 +123,7 @@ struct ButtonRow {
     friend bool operator==(const ButtonRow&, const ButtonRow&) = default;
 };
 
-/// Work under way; without `fraction` it is not known how far it has come.
+/// The progress of running work, which is unknown when `fraction` is unset.
 struct ProgressRow {
     QString title = {};
     std::optional<double> fraction = {};
@@ -130,13 +131,13 @@ struct ProgressRow {
     friend bool operator==(const ProgressRow&, const ProgressRow&) = default;
 };
 
-/// A picture across the row: the head of a detail page, or a QR code.
+/// A picture across the row: the header of a detail page, or a QR code.
 struct PictureRow {
     enum class Shape { Wide, Square };
 
     PictureKey picture = {};
     Shape shape = Shape::Wide;
-    /// What the picture shows, for people who cannot see it.
+    /// What the picture shows, for screen readers.
     QString description = {};
 
     friend bool operator==(const PictureRow&, const PictureRow&) = default;

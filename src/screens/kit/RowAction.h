@@ -12,7 +12,7 @@ namespace guide {
 /// menu key.
 struct RowAction {
     QString title;
-    /// The title in words, where the title is a sign.
+    /// The title in words, when the title is a symbol.
     QString name;
     ColorRole color = ColorRole::Tint;
     /// Main queue.

@@ -16,7 +16,7 @@ struct AccessoryTapped {};
 struct Toggled {
     bool on = false;
 };
-/// Of a ChoiceRow: the number of the choice.
+/// Of a ChoiceRow: the index of the choice.
 struct Chosen {
     int choice = 0;
 };
@@ -31,7 +31,7 @@ struct TextEdited {
 };
 /// In edit mode.
 struct Deleted {};
-/// In edit mode: the row is to come before `next`, or to the end of its section.
+/// In edit mode: the row moves before `next`, or to the end of its section when unset.
 struct MovedBefore {
     std::optional<RowId> next;
 };

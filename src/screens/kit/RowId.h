@@ -12,7 +12,8 @@
 
 namespace guide {
 
-/// A section's identity within its table: a channel's hexadecimal id, an ISO date, or a name of the screen's.
+/// A section's identity within its table: a channel's hexadecimal id, an ISO date, or a name that the screen
+/// chooses.
 using SectionId = QString;
 
 /// Identifies the show of a row. Shows of one channel that start together differ in `ordinal`.

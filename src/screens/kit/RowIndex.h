@@ -8,7 +8,8 @@
 
 namespace guide {
 
-/// Finds rows by their ids: a hash table of row numbers that reads the ids through a function of its owner.
+/// Finds rows by their ids: a hash table of row numbers that reads the ids through a function that its owner
+/// passes.
 class RowIndex {
   public:
     bool empty() const { return m_slots.empty(); }
@@ -49,7 +50,7 @@ class RowIndex {
         int place = -1;
     };
 
-    /// A power of two of them, at most half of them used.
+    /// Their number is a power of two, and at most half of them are used.
     std::vector<Slot> m_slots;
     std::size_t m_mask = 0;
 };

@@ -23,7 +23,7 @@ struct TabBarItem {
     bool enabled = true;
     /// Empty for none.
     QString badgeValue = {};
-    /// Replaces the title where tabs are narrow; empty for the title.
+    /// Replaces the title where tabs are narrow; empty to use the title.
     QString shortTitle = {};
 };
 
@@ -33,9 +33,9 @@ class TabBarObserver {
     /// A tab was enabled or disabled, or its badge changed.
     virtual void tabBarItemChanged(int index) = 0;
     virtual void selectedTabChanged() = 0;
-    /// presentedAlert() is another one.
+    /// presentedAlert() changed.
     virtual void alertChanged() = 0;
-    /// presentedNotice() is another one.
+    /// presentedNotice() changed.
     virtual void noticeChanged() = 0;
 };
 
@@ -56,7 +56,7 @@ class TabBarController {
     TabBarController(const TabBarController&) = delete;
     TabBarController& operator=(const TabBarController&) = delete;
 
-    /// All tabs are added before the window is shown.
+    /// All tabs must be added before the window is shown.
     void addTab(TabBarItem item, std::shared_ptr<ViewController> root);
     const std::vector<Tab>& tabs() const { return m_tabs; }
 
@@ -66,8 +66,8 @@ class TabBarController {
     NavigationController& selectedNavigationController() const;
     /// Also selects a tab that is disabled; an index past the tabs is ignored.
     void setSelectedIndex(int index);
-    /// What a tap on a tab does: nothing on a disabled one; on the selected one its stack goes back to its
-    /// root.
+    /// Handles a tap on a tab: ignored when the tab is disabled; pops the stack to its root when the tab is
+    /// already selected.
     void tapTab(int index);
 
     void setTabEnabled(int index, bool enabled);
@@ -75,7 +75,7 @@ class TabBarController {
     void setBadgeValue(int index, const QString& badgeValue);
 
     void enableTabs();
-    /// Selects the last tab and disables the others: while no channel is selected.
+    /// Selects the last tab and disables the others. Used while no channel is selected.
     void disableTabs();
 
     /// To be called when the window opens: the selected tab's screen loads and appears.
@@ -85,7 +85,7 @@ class TabBarController {
     void presentAlert(Alert alert);
     /// Null when there is none.
     const Alert* presentedAlert() const;
-    /// Closes the alert and runs the action of that number.
+    /// Closes the alert and runs the action with that index.
     void answerAlert(std::size_t action);
 
     /// Shows the notice for kNoticeTime, after those that are already waiting.

@@ -278,7 +278,7 @@ void Table::apply(const TableChanges& changes, const std::vector<Line>& lines, i
 
 void Table::updateLines(const std::vector<Line>& lines, const CommonEnds& ends, Announcement& announcement) {
     std::vector<TableChanges::Run> updatedSections;
-    // The sections compared last.
+    // The sections that were compared last.
     Line before{nullptr, nullptr};
     Line after{nullptr, nullptr};
     bool headingChanged = false;

@@ -39,9 +39,9 @@ struct EmptyNote {
     std::function<void()> action = {};
 };
 
-/// Follows a table as one list of rows, numbered through all sections. Each change comes as a pair of calls
-/// around it, and between two pairs the table is consistent: its rows are those of the changes announced so
-/// far. Replaying the announcements on the old rows gives the new ones.
+/// Follows a table as one list of rows, numbered across all sections. Each removal, move or insertion is
+/// surrounded by a pair of calls, and between two pairs the table is consistent: it reflects the changes
+/// announced so far. Replaying the announcements on the old rows gives the new ones.
 class TableObserver {
   public:
     virtual ~TableObserver() = default;
@@ -52,7 +52,7 @@ class TableObserver {
 
     virtual void rowsWillBeRemoved(int first, int count) = 0;
     virtual void rowsRemoved() = 0;
-    /// `to` counts the rows as they are without the moved one: where that row is afterwards.
+    /// `to` is the index of the row after the move.
     virtual void rowWillMove(int from, int to) = 0;
     virtual void rowMoved() = 0;
     virtual void rowsWillBeInserted(int first, int count) = 0;
@@ -114,11 +114,11 @@ class Table final : public Content {
         const Section* section;
         Row* row;
     };
-    /// The rows at the beginning and at the end that stay the same rows.
+    /// The numbers of rows at the beginning and at the end whose id and kind do not change.
     struct CommonEnds {
         int prefix = 0;
         int suffix = 0;
-        /// For each row of the prefix whether its content changed, so that each row is read once.
+        /// For each row of the prefix, whether its content changed. Avoids a second comparison.
         std::vector<bool> updated;
     };
     class Announcement;
@@ -126,7 +126,7 @@ class Table final : public Content {
     const Line& line(int index) const { return m_lines[static_cast<std::size_t>(index)]; }
     const RowId& idAt(int index) const { return line(index).row->id; }
     static std::vector<Line> linesOf(std::vector<Section>& sections);
-    /// The base for a change of single rows.
+    /// The sections that setRow and setRows modify.
     const std::vector<Section>& latestSections() const { return m_waiting ? *m_waiting : m_sections; }
 
     /// Fills the index. Returns whether rows were dropped, which makes the lines and the index invalid.

@@ -13,10 +13,10 @@ std::size_t at(int place) {
 
 // The new places of the known rows outside the longest increasing subsequence of old places.
 std::vector<int> movedRows(const std::vector<int>& oldPlaces) {
-    // For each length of a subsequence, less 1, the new place of its last row: the one with the least old
-    // place.
+    // Indexed by the length of a subsequence minus 1: among the last rows of all subsequences of that length,
+    // the new place of the one with the smallest old place.
     std::vector<int> ends;
-    // For each row its predecessor in the best subsequence that it ends.
+    // For each row its predecessor in the longest subsequence that ends with it.
     std::vector<int> previous(oldPlaces.size(), -1);
     for (int row = 0; at(row) < oldPlaces.size(); ++row) {
         if (oldPlaces[at(row)] < 0) {

@@ -4,8 +4,8 @@
 
 namespace guide {
 
-/// How one list of rows becomes another, in the order of the members. Each step counts the rows as the steps
-/// before it left them.
+/// How one list of rows becomes another, in the order of the members. The indexes of each step refer
+/// to the rows after the preceding steps.
 struct TableChanges {
     struct Run {
         int first = 0;
@@ -13,7 +13,7 @@ struct TableChanges {
     };
     struct Move {
         int from = 0;
-        /// Counted without the moved row.
+        /// The index after the move.
         int to = 0;
     };
 
@@ -24,7 +24,7 @@ struct TableChanges {
     std::vector<Run> insertions;
 };
 
-/// Beyond this number of moves, rows that change their order are removed and inserted.
+/// If a change needs more moves than this, those rows are removed and inserted instead.
 inline constexpr int kMaxMoves = 50;
 
 /// `oldPlaces` has, for each new row, its place among the `oldCount` old rows, or -1 for a row that is new.

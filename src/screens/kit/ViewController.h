@@ -19,7 +19,7 @@ struct SearchField {
     QString text = {};
 };
 
-/// The thin bar under a screen's title while something is under way.
+/// The thin bar under a screen's title while work is in progress.
 struct Progress {
     /// 0 to 1; empty while unknown.
     std::optional<double> fraction = {};
@@ -35,7 +35,7 @@ class ViewControllerObserver {
     virtual void barButtonsChanged() = 0;
     virtual void refreshingChanged() = 0;
     virtual void progressChanged() = 0;
-    /// Not called for what the user types.
+    /// Not called for text that the user types.
     virtual void searchFieldChanged() = 0;
 };
 
@@ -54,7 +54,7 @@ class ViewController : public std::enable_shared_from_this<ViewController> {
     const std::vector<BarButton>& leftBarButtons() const { return m_leftBarButtons; }
     /// From the trailing edge inwards.
     const std::vector<BarButton>& rightBarButtons() const { return m_rightBarButtons; }
-    /// Whether a pull at the top refreshes.
+    /// Whether pulling down at the top refreshes.
     bool hasRefreshControl() const { return m_hasRefreshControl; }
     bool refreshing() const { return m_refreshing; }
     const std::optional<Progress>& progress() const { return m_progress; }

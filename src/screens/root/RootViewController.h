@@ -19,8 +19,8 @@
 
 namespace guide {
 
-/// What is on now: a section for each selected channel, named by its hexadecimal id, with the channel's own
-/// row first and its current and next shows below.
+/// What is on now: a section for each selected channel, identified by its hexadecimal id, with the channel's
+/// own row first and its current and next shows below.
 class RootViewController final : public ListingsScreen {
   public:
     explicit RootViewController(std::shared_ptr<const ScreenEnvironment> environment);
@@ -30,7 +30,8 @@ class RootViewController final : public ListingsScreen {
     void selectedChannelsChanged();
     /// Replaces the shows of one channel. Does nothing when the list is empty or the channel has no section.
     void reloadChannel(const ObjectId& channel, const ShowSpan& entries);
-    /// Sets the picture of the shows with that identificator on the channel; a null image: they have none.
+    /// Sets the picture of the shows with that identifier on the channel; a null image means that they have
+    /// none.
     void setShowImage(const QImage& image, const ObjectId& channel, const QString& showIdentifier);
 
     void applicationDidBecomeActive() override;
@@ -67,7 +68,7 @@ class RootViewController final : public ListingsScreen {
     Channel* shownChannel(const ObjectId& identificator);
     /// Null for a row that is not a show.
     const ShowItem* shownShow(const RowId& id);
-    /// Whether the channel's list was replaced.
+    /// Returns whether the channel's list was replaced.
     bool takeList(const ObjectId& channel, const ShowSpan& entries);
     bool applicationActive() const;
 
@@ -87,7 +88,7 @@ class RootViewController final : public ListingsScreen {
 
     const std::shared_ptr<const ScreenEnvironment> m_environment;
     std::vector<Channel> m_channels;
-    /// By channel, the identificators of the shows whose pictures were requested.
+    /// By channel, the identifiers of the shows whose pictures were requested.
     std::unordered_map<ObjectId, QSet<QString>> m_askedPictures;
     std::unordered_set<ObjectId> m_channelsWithLoadedShowDetails;
     bool m_modifiedSelectedChannels = false;

@@ -23,7 +23,7 @@ class ScreenBroadcast {
     void recolor();
     void favoritesUpdated();
     void notificationsSynched();
-    /// The first screens rebuild after the selection lost channels.
+    /// Called after channels were removed from the selection.
     void selectionCleanedUp();
     void setModifiedSelectedChannels();
 

@@ -27,7 +27,7 @@
 
 namespace guide {
 
-/// The services that screens use. All of them outlive the screens.
+/// The services that screens use. All of them must outlive the screens.
 struct ScreenEnvironment {
     const Clock& clock;
     const Device& device;
