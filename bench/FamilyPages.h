@@ -22,7 +22,7 @@ struct FamilyPages {
 
     std::size_t size() const;
     std::size_t count(std::string_view marker) const;
-    /// The driver's result for these pages, or for others in their place.
+    /// The driver's result for these pages, or for other pages instead.
     ParsedLists read() const { return read(pages); }
     ParsedLists read(const std::vector<QByteArray>& others) const;
 };

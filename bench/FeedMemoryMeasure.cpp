@@ -46,7 +46,7 @@ double statusBytes(QByteArrayView key) {
             }
         }
     }
-    fail("the kernel does not tell how much memory is used");
+    fail("the kernel does not report the memory used");
 }
 
 /// Writes the packed feed; prints its unpacked size.
@@ -86,7 +86,7 @@ int load(const QString& path) {
     {
         PageText page = pageText(file.readAll(), HTTPResponse(), kMemory);
         if (!page.text) {
-            fail("the feed is no text");
+            fail("the feed is not text");
         }
         pages.push_back(*std::move(page.text));
     }

@@ -146,7 +146,7 @@ const std::array<Language, 6>& languages() {
     return all;
 }
 
-/// The standard engine gives the same numbers everywhere, which its distributions do not.
+/// The standard engine yields the same numbers everywhere; the standard distributions do not.
 class Choice {
   public:
     explicit Choice(std::uint64_t seed)

@@ -17,7 +17,7 @@ struct FeedShape {
 
 /// A national feed as plain XMLTV: programmes without gaps in Czech, Croatian, Hungarian, Italian, German and
 /// English, in the proportions of real feeds (texts, credits, pictures). The same bytes for the same shape.
-/// The demo's feeds would not do: they have fewer languages and elements.
+/// The demo's feeds have too few languages and elements for this.
 QByteArray generatedFeed(const FeedShape& shape);
 
 /// The feed's id of this channel, counted from 0.

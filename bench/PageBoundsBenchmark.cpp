@@ -1,4 +1,4 @@
-// Bounds that hold for every page: reading takes not much longer per byte than for other pages of the family,
+// Bounds that hold for every page: its time per byte is not much above that of other pages of the family,
 // and twice as many unclosed markers take at most twice the time.
 
 #include "GeneratedShows.h"
@@ -63,7 +63,7 @@ struct Page {
 
 /// Every recorded page of a family and its fuzzer regressions.
 std::vector<Page> pagesOf(const QString& family) {
-    // Separates the pages of a regression; one more byte follows them.
+    // Separates the pages of a regression; one choice byte follows them.
     constexpr char kSeparator = '\x1e';
     std::vector<Page> pages;
     std::shared_ptr<const test::RecordedCall> call;
@@ -106,7 +106,7 @@ void readRecorded(benchmark::State& state, const Page& page) {
     const std::size_t shows = page.readMegabyte();
     for ([[maybe_unused]] auto pass : state) {
         if (page.readMegabyte() != shows) {
-            state.SkipWithError("other shows than before");
+            state.SkipWithError("different shows than before");
         }
     }
     state.SetLabel(page.name.toStdString());
@@ -237,7 +237,8 @@ std::vector<QByteArray> flood(const std::vector<QByteArray>& good, const std::st
 
 constexpr qsizetype kHalf = 10'000;
 
-/// The pages of a format whose time grows most with twice the markers, with half and with all of them.
+/// The flooded pages of a format whose time grows most with twice the markers: `whole` has twice as many as
+/// `half`.
 struct Flood {
     std::string marker;
     std::vector<QByteArray> half;
@@ -271,7 +272,7 @@ void readFlood(benchmark::State& state, const Flooded& format, const std::vector
     const std::size_t found = format.read(pages);
     for ([[maybe_unused]] auto pass : state) {
         if (format.read(pages) != found) {
-            state.SkipWithError("another result than before");
+            state.SkipWithError("a different result than before");
         }
     }
     state.SetLabel(marker);

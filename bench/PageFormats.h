@@ -8,13 +8,13 @@
 
 namespace guide::bench {
 
-/// How a format writes its fields, and what its reader does besides finding them.
+/// How a format writes its fields, and what its reader does apart from finding them.
 struct PageFormat {
     const char* name;
     FamilyPages (*make)(std::size_t size);
     /// The text before a time.
     std::string_view time;
-    /// Every marker that the reader searches for; of markers that vary, one.
+    /// Every marker that the reader searches for; one example of each marker that varies.
     std::vector<std::string> markers;
     /// The zone of the schedule; none where times are numbers.
     const char* zone = nullptr;

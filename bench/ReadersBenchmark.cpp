@@ -20,8 +20,8 @@ using namespace Qt::StringLiterals;
 
 constexpr std::size_t kSize = 2'000'000;
 
-/// The pages with the first digit of each time replaced by a letter: the reader finds every field and no
-/// show.
+/// The pages with the first digit of each time replaced by a letter: the reader finds every field
+/// and creates no shows.
 std::vector<QByteArray> withoutTimes(const PageFormat& format, std::vector<QByteArray> pages) {
     const QByteArray marker(format.time.data(), static_cast<qsizetype>(format.time.size()));
     for (QByteArray& page : pages) {

@@ -40,7 +40,7 @@ struct Schedule {
         offsets.push_back(folded.size());
     }
 
-    /// The number of shows that contain the pattern, by memmem over the joined texts of all shows.
+    /// The first kMaxShows shows that contain the folded pattern, by memmem over the joined texts.
     std::vector<const ShowItem*> search(const std::string& pattern) const {
         std::vector<const ShowItem*> found;
         const char* const begin = folded.data();
@@ -72,7 +72,7 @@ const Schedule& schedule() {
     return schedule;
 }
 
-/// Patterns as typed and folded.
+/// A pattern as the user types it.
 struct Pattern {
     const char* name;
     QString typed;
@@ -96,7 +96,7 @@ void searchGuide(benchmark::State& state, const Pattern& pattern) {
     const bool same = std::equal(found.begin(), found.end(), expected.begin(), expected.end(),
                                  [](const ShowItem& show, const ShowItem* other) { return show == *other; });
     if (!same) {
-        state.SkipWithError("other shows than the baseline found");
+        state.SkipWithError("different shows than the baseline found");
     }
     state.counters["hits"] = static_cast<double>(found.size());
     state.counters["atMost"] = 2;
@@ -112,7 +112,7 @@ void searchFloor(benchmark::State& state, const Pattern& pattern) {
 
 void allShowsGuide(benchmark::State& state) {
     const Schedule& data = schedule();
-    // A list passes its search text on when it has one; the next list builds its own.
+    // Builds the search text: a list derives its own from that of the previous list, if that has one.
     data.all->showsContaining("x", kNow, 1);
     Words words(2);
     std::optional<AllShows> all;

@@ -1,5 +1,5 @@
 // Scrolls through 10,000 rows and measures the main thread's work for a frame, up to the point where the
-// scene graph has taken the changes over; drawing itself is left out. The floor is a list of bare texts.
+// scene graph has taken over the changes; drawing itself is not counted. The floor is a list of bare texts.
 
 #include "platform/queues/ThreadedQueues.h"
 #include "screens/kit/TabBarController.h"
@@ -27,7 +27,7 @@ constexpr double kAtMost = 8;
 constexpr int kRows = 10'000;
 constexpr int kSections = 100;
 constexpr int kFrames = 1'500;
-/// A fast flick: most of a row with each frame.
+/// A fast flick: most of a row per frame.
 constexpr double kStep = 45;
 
 [[noreturn]] void fail(const char* why) {
@@ -77,7 +77,7 @@ qint64 threadTime() {
     return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
 }
 
-/// The 99th percentile, in milliseconds.
+/// The 99th percentile of the main thread's work per frame, in milliseconds.
 double scroll(QQuickWindow& window, QQuickItem& list) {
     qint64 synchronized = 0;
     qint64 swapped = 0;
@@ -103,7 +103,7 @@ double scroll(QQuickWindow& window, QQuickItem& list) {
         work.push_back(static_cast<double>(end - begin - (swapped - synchronized)) / 1e6);
     }
     if (list.property("contentY").toDouble() < y - 1) {
-        fail("the list did not follow");
+        fail("the list did not scroll");
     }
     std::ranges::sort(work);
     return work[work.size() * 99 / 100];
@@ -129,7 +129,7 @@ double scrollGuide() {
                               Q_ARG(double, list->property("contentY").toDouble() + 1));
     const int index = top ? top->property("index").toInt() : -1;
     if (index < kFrames / 4 || top->property("row").value<ShowRowValue>().title != u"Show %1"_s.arg(index)) {
-        fail("the row at the top is not the one that belongs there");
+        fail("the wrong row is at the top");
     }
     return time;
 }
@@ -144,7 +144,7 @@ double scrollTexts() {
         QUrl());
     auto* list = qobject_cast<QQuickItem*>(component.create());
     if (!list) {
-        fail("the bare list cannot be made");
+        fail("the bare list cannot be created");
     }
     view.resize(390, 844);
     view.setContent(QUrl(), &component, list);

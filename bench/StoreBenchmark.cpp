@@ -198,7 +198,7 @@ void writeGuide(benchmark::State& state) {
                   file.readAll() == archives()[static_cast<std::size_t>(channel)];
     }
     if (!written) {
-        state.SkipWithError("files have other content than was written");
+        state.SkipWithError("the files do not contain what was written");
     }
     state.counters["atMost"] = 2;
 }

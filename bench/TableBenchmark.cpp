@@ -1,4 +1,4 @@
-// A table of 2,000 shows of which one has changed.
+// A table of 2,000 shows, one of which has changed.
 
 #include "screens/kit/Table.h"
 
@@ -62,8 +62,8 @@ class Counter final : public TableObserver {
     int others = 0;
 };
 
-/// Two tables that differ in one row. What is measured takes copies, which share the texts, so that making
-/// and freeing texts is not measured.
+/// Two tables that differ in one row. The measured code takes copies, which share the texts, so that
+/// allocating and freeing texts is not measured.
 const std::array<std::vector<Section>, 2>& versions() {
     static const std::array<std::vector<Section>, 2> both{madeSections(0), madeSections(1)};
     return both;
@@ -83,7 +83,7 @@ void setSections(benchmark::State& state) {
     }
     table.setObserver(nullptr);
     if (counter.updated != changes || counter.others != 0) {
-        state.SkipWithError("not exactly one update a change");
+        state.SkipWithError("not exactly one update per change");
     }
     state.counters["atMost"] = 3;
 }

@@ -26,7 +26,8 @@ struct Show {
     std::optional<QString> description;
 };
 
-/// Texts like those of schedule pages: mostly words that are in no list, with the letters of the sources.
+/// Texts like those of schedule pages: mostly words that are in no list, with the letters that sources
+/// use.
 class ShowWriter {
   public:
     ShowWriter() {
@@ -222,7 +223,7 @@ void classifyFloor(benchmark::State& state) {
             const bool occurs = std::ranges::any_of(
                 folded[i], [&](const QString& text) { return text.contains(automaton.words()[word]); });
             if (occurs != found[i].test(static_cast<std::size_t>(word))) {
-                state.SkipWithError("other words than the plain searches found");
+                state.SkipWithError("different words than the plain searches found");
             }
         }
     }

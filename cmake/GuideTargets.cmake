@@ -26,7 +26,7 @@ add_library(guide_options INTERFACE)
 target_compile_options(guide_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
                                                -Woverloaded-virtual -Wcast-qual -Wimplicit-fallthrough)
 if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-    # clang warns about the inside of the standard library's stable_sort; g++ still checks our own calls.
+    # clang warns about the implementation of the standard library's stable_sort; g++ still checks our own calls.
     target_compile_options(guide_options INTERFACE -Wno-deprecated-declarations)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
@@ -61,7 +61,7 @@ endfunction()
 # guide_folder(NAME SOURCES … [LINKS …])
 #
 # Defines the static library guide_NAME of the folder src/NAME. Its headers are included as "NAME/Header.h", and only
-# targets that link it can find them: each folder is exposed through a separate link below the build folder.
+# targets that link it can find them: each folder is exposed through a separate link in the build folder.
 function(guide_folder NAME)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     string(REPLACE "/" "_" TARGET_NAME ${NAME})

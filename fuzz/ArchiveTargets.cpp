@@ -10,7 +10,7 @@ namespace guide::fuzz {
 
 namespace {
 
-/// Reads an arbitrary archive, or a list's file with a valid checksum, so that the code behind the check is
+/// Reads an arbitrary archive, or a list's file with a valid checksum, so that the code after the check is
 /// reached.
 void readArchive(QByteArrayView bytes) {
     static const Alphabet alphabet;

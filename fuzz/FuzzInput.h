@@ -21,7 +21,7 @@ class FuzzInput {
 
     /// At most `most` parts; the last one contains the rest.
     std::vector<QByteArray> parts(std::size_t most) const;
-    /// The same, converted to valid UTF-8, which is all that readers get.
+    /// The same, converted to valid UTF-8; readers get nothing else.
     std::vector<QByteArray> textParts(std::size_t most) const;
     QByteArray whole() const { return m_parts.toByteArray(); }
 

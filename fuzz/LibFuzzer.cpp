@@ -1,4 +1,4 @@
-// The libFuzzer program. Besides libFuzzer's options it knows:
+// The libFuzzer program. Besides libFuzzer's options it accepts:
 //   --target=NAME         what to fuzz
 //   --list                prints each target and the files below src/ with its dictionary
 //   --seeds=FOLDER        writes the target's seeds and exits

@@ -20,7 +20,7 @@ struct Format {
 
 using Calls = std::vector<test::RecordedCall>;
 
-/// A list that the store accepts must survive its file.
+/// A list that the store accepts must survive being written to its file and read again.
 void requireGoodList(const ShowList& list) {
     require(list && !list->empty(), "a stored list has shows");
     const auto start = [](const ShowItem& show) { return show.entry()->dateTime(); };

@@ -10,7 +10,7 @@ namespace guide::fuzz {
 
 namespace {
 
-/// Runs the input. A failure aborts the process; the trace names the input.
+/// Runs the input. A violated invariant aborts the process.
 void run(const FuzzTarget& target, const QByteArray& input, const std::string& what) {
     const testing::ScopedTrace trace(__FILE__, __LINE__, target.name + ": " + what);
     target.run(input);
@@ -55,7 +55,7 @@ TEST(Fuzz, AcceptsSeedsAndTheirMutations) {
                 run(target, mutated(seeds[i], random), "mutation of seed " + std::to_string(i));
             }
         }
-        run(target, {}, "nothing");
+        run(target, {}, "empty input");
     }
 }
 

@@ -25,7 +25,7 @@ constexpr std::array<const char*, 9> kContentTypes{"",
                                                    "text/html; charset=utf-7",
                                                    "text/xml; charset="};
 
-/// Unpacking may use a quarter of it.
+/// The memory that is passed to pageText; unpacking may use a quarter of it.
 constexpr std::uint64_t kMemory = 64 << 20;
 
 void makePage(QByteArrayView bytes) {

@@ -4,7 +4,7 @@
 usage: fuzz.py PROGRAM SECONDS [NAME...]
 
 PROGRAM is guide_fuzz; each NAME is one of its targets (default: all). Corpora, dictionaries and failing inputs are kept
-in folders beside the program and used by the next run. Exits with 1 when a target failed.
+in folders next to the program and used by the next run. Exits with 1 when a target failed.
 """
 import concurrent.futures
 import os
@@ -113,7 +113,7 @@ def main() -> int:
     targets = {name: files for name, *files in map(str.split, listed.splitlines())}
     wanted = sys.argv[3:] or list(targets)
     if unknown := set(wanted) - set(targets):
-        sys.exit(f"no such target: {', '.join(sorted(unknown))}; there are {', '.join(targets)}")
+        sys.exit(f"no such target: {', '.join(sorted(unknown))}; the targets are {', '.join(targets)}")
     at_once = min(len(wanted), os.cpu_count() or 1)
     rounds = -(-len(wanted) // at_once)
     seconds = max(1, int(sys.argv[2]) // rounds)

@@ -5,9 +5,10 @@
 
 namespace guide::test {
 
-/// A zone and a locale in which careless code shows, and no window; before anything else of the program.
+/// Sets a time zone and a locale that expose careless code, and a platform that shows no windows. Must be the
+/// first call in main().
 inline void useTestEnvironment() {
-    // Its clocks change by half an hour.
+    // Daylight saving time is half an hour there.
     setenv("TZ", "Australia/Lord_Howe", 1);
     tzset();
     setenv("LC_ALL", "C.UTF-8", 1);

@@ -1,4 +1,4 @@
-// Of every test program that has none of its own.
+// main() for the test programs that do not define one.
 #include "TestEnvironment.h"
 
 #include <gtest/gtest.h>

@@ -89,7 +89,7 @@ class Feed:
         return [each for each in known + [each for each in self.shows if each not in self.names] if each]
 
     def evening(self):
-        """19:30 UTC of the day on which most channels have a show on air then."""
+        """19:30 UTC on the day when the most channels have a show on air at that time."""
         days = Counter()
         for shows in self.shows.values():
             for day in {start.date() + datetime.timedelta(days=i) for start, _ in shows for i in (0, 1)}:

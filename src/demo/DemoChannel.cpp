@@ -27,8 +27,8 @@ constexpr QStringView kEveryFilm =
     u"comedy drama crime adventure romance thriller scifi fantasy horror western drama comedy";
 constexpr QStringView kOldFilms = u"comedy romance crime adventure western drama";
 
-// The source ids decide which feed or site a channel is in; its id there is its key and ".demo". Placeholders
-// are those of sourceOnServer.
+// The source ids decide which feed or site a channel is in; its id there is its key plus ".demo".
+// Placeholders are those of sourceOnServer.
 constexpr std::array kRows = {
     Row{u"vyhled", u"Výhled", u"cs", u"Czech", ChannelProfile::General, u"cs", "Europe/Prague", kAllFilms,
         u"r.domov.vyhled.demo n.vyhled.demo"},

@@ -9,9 +9,9 @@
 
 namespace guide {
 
-/// A channel of the demo, with what its row in the catalogue and its feed say.
+/// A channel of the demo: the data of its catalogue row and of its feed.
 struct DemoChannel {
-    /// Names its icon and, if it has one, its feed's file.
+    /// The name of its icon and, if it has one, of its feed's file.
     QString key;
     QString title;
     /// 24 hexadecimal digits.
@@ -29,7 +29,7 @@ struct DemoChannel {
     QStringList sources;
     /// Its id in its feed.
     QString feedId;
-    /// Its position among the channels, from 1; makes its series differ from theirs.
+    /// Its position among the channels, from 1; makes its series differ from those of other channels.
     int number = 0;
 };
 

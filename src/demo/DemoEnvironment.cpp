@@ -39,7 +39,7 @@ std::vector<SiteChannel> siteChannels(const ScheduleGenerator& generator, const 
     std::vector<SiteChannel> channels;
     for (const DemoChannel& channel : demoChannels()) {
         for (const QString& source : channel.sources) {
-            // The guide keeps only the last day of such a page, so the page has only today.
+            // The guide keeps only the last day of such a page, so the page covers only today.
             const bool onlyToday = source.startsWith("dsk."_L1);
             const SiteClock local(channel.zone.constData());
             channels.push_back({source, channel.title,

@@ -9,12 +9,12 @@
 namespace guide {
 
 /// Everything that the demo runs on: a loopback server with generated feeds of eight days and with the pages
-/// of DemoSites, and the three files that lead the guide there. Serves until it is destroyed.
+/// of DemoSites, and the three files that point the guide to it. Serves until it is destroyed.
 class DemoEnvironment {
   public:
     /// Writes the files into `folder`, which is created if needed, and starts the server. `textFolder` is
-    /// data/demo. The feeds cover the clock's now, from the day before to six days ahead, and are the same
-    /// for the same day; the sites follow the clock, which must outlive the environment. Null, with a log
+    /// data/demo. The feeds cover eight days, from yesterday by the clock on, and are the same for the
+    /// same day; the sites follow the clock, which must outlive the environment. Null, with a log
     /// line, when a text is missing or malformed, a file cannot be written or no port is free.
     static std::unique_ptr<DemoEnvironment> create(const QString& folder, const QString& textFolder,
                                                    const Clock& clock);

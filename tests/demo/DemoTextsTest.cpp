@@ -24,19 +24,19 @@ TEST(TextGrammar, NamesFileAndLineOfEveryError) {
         QString error;
     };
     const Row rows[] = {
-        {"good", u"# note\na=\n  one {b.2} {x:b} {^x.2} {#5-6} {channel} @ {a}\n\nb=\n  c/cs\n"_s, {}},
+        {"valid", u"# note\na=\n  one {b.2} {x:b} {^x.2} {#5-6} {channel} @ {a}\n\nb=\n  c/cs\n"_s, {}},
         {"unknown rule", u"a=\n  one {b}\n"_s, u"f:2: {b.1} does not exist"_s},
         {"unknown form", u"a=\n  b/c\n  d\nb=\n  {a.2}\n"_s, u"f:5: {a.2} does not exist"_s},
         {"form of a variable", u"a=\n  {x:b} {x.2}\nb=\n  c\n"_s, u"f:2: {x.2} does not exist"_s},
         {"form zero", u"a=\n  {a.0}\n"_s, u"f:2: {a.0} does not exist"_s},
-        {"range", u"a=\n  {#5-5}\n"_s, u"f:2: not a range of numbers"_s},
+        {"empty range", u"a=\n  {#5-5}\n"_s, u"f:2: not a range of numbers"_s},
         {"half a range", u"a=\n  {#5}\n"_s, u"f:2: not a range of numbers"_s},
         {"open brace", u"a=\n  one {a\n  two\n"_s, u"f:2: unbalanced braces"_s},
-        {"brace over fields", u"a=\n  one {a @ b}\n  two\n"_s, u"f:2: unbalanced braces"_s},
-        {"no rule", u"  one\n"_s, u"f:1: alternative without a rule"_s},
+        {"brace across fields", u"a=\n  one {a @ b}\n  two\n"_s, u"f:2: unbalanced braces"_s},
+        {"alternative without a rule", u"  one\n"_s, u"f:1: alternative without a rule"_s},
         {"no equals sign", u"a\n"_s, u"f:1: neither a rule nor an alternative"_s},
-        {"twice", u"a=\n  b\na=\n  c\n"_s, u"f:3: rule is defined twice"_s},
-        {"empty", u"a=\n"_s, u"rule a has no alternatives"_s},
+        {"rule defined twice", u"a=\n  b\na=\n  c\n"_s, u"f:3: rule is defined twice"_s},
+        {"rule without alternatives", u"a=\n"_s, u"rule a has no alternatives"_s},
     };
     for (const Row& row : rows) {
         TextGrammar grammar;
@@ -58,7 +58,7 @@ TEST(TextGenerator, ExpandsReferences) {
     EXPECT_LT(generator.expand(u"loop"_s).size(), 100);
 }
 
-TEST(DemoTexts, AreRefusedWhenAFileIsMissingOrMalformed) {
+TEST(DemoTexts, AreRejectedWhenAFileIsMissingOrMalformed) {
     const QDir source(QStringLiteral(QUELLIN_SOURCE_DATA "/demo"));
     QTemporaryDir copy;
     for (const QString& name : source.entryList({u"*.txt"_s})) {

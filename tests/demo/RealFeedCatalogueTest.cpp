@@ -1,4 +1,4 @@
-// Reads what tools/real_feed_catalogue.py writes with the guide's readers.
+// Reads the output of tools/real_feed_catalogue.py with the guide's own readers.
 #include "core/CatalogueFiles.h"
 #include "core/TVStationIcons.h"
 #include "demo/Texts.h"
@@ -50,7 +50,7 @@ void PrintTo(const Packed& packed, std::ostream* out) {
 
 class RealFeedCatalogue : public testing::TestWithParam<Packed> {};
 
-TEST_P(RealFeedCatalogue, LeadsTheGuideToTheFeed) {
+TEST_P(RealFeedCatalogue, PointsTheGuideToTheFeed) {
     const QTemporaryDir folder;
     const QString source = folder.filePath(u"any-name"_s);
     const QByteArray packed = GetParam().pack(feed());
@@ -71,7 +71,7 @@ TEST_P(RealFeedCatalogue, LeadsTheGuideToTheFeed) {
     ASSERT_TRUE(rows && hosts);
     const auto types =
         SupportedChannelTypes::fromFile(QStringLiteral(QUELLIN_SOURCE_DATA "/supported-channel-types.json"));
-    // Icons with letters need a font database.
+    // Icons that contain text need a font database.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     int count = 1;
     char program[] = "test";

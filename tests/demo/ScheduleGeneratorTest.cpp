@@ -50,7 +50,7 @@ TEST(ScheduleGenerator, FillsItsDaysWithoutGapOrOverlap) {
     }
 }
 
-TEST(ScheduleGenerator, GeneratesTheSameDayHoweverItIsAskedFor) {
+TEST(ScheduleGenerator, GeneratesTheSameDayForEveryRange) {
     for (const DemoChannel& channel : demoChannels()) {
         const auto week = schedule(channel, kFirstDay, kDays);
         const auto day = schedule(channel, kFirstDay.addDays(3), 1);
@@ -62,7 +62,7 @@ TEST(ScheduleGenerator, GeneratesTheSameDayHoweverItIsAskedFor) {
     }
 }
 
-TEST(ScheduleGenerator, GeneratesTextsThatTheReaderKeepsWhole) {
+TEST(ScheduleGenerator, GeneratesTextsThatTheReaderDoesNotShorten) {
     for (const DemoChannel& channel : demoChannels()) {
         for (const Programme& programme : schedule(channel, kFirstDay, kDays)) {
             const std::string title = programme.title.toStdString();
@@ -112,7 +112,7 @@ TEST(ScheduleGenerator, HasEveryTopicAndManyTitles) {
     EXPECT_GT(overMidnight, 100);
 }
 
-TEST(ScheduleGenerator, NewsBeginOnTheHour) {
+TEST(ScheduleGenerator, StartsNewsOnTheHour) {
     const auto news =
         std::find_if(demoChannels().begin(), demoChannels().end(),
                      [](const DemoChannel& channel) { return channel.profile == ChannelProfile::News; });
@@ -138,7 +138,7 @@ TEST(ScheduleGenerator, BroadcastDayEndsAtSix) {
     EXPECT_EQ(broadcastDay(at(6, 0), "Europe/Prague"), QDate(2026, 11, 21));
 }
 
-TEST(BlockFitting, FillsExactlyTheMinutes) {
+TEST(BlockFitting, FillsTheMinutesExactly) {
     Random random(1);
     const auto item = [](const char* kind, bool filling = false) {
         return PlannedItem{.kind = QString::fromLatin1(kind), .filling = filling};

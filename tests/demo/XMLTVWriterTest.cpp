@@ -113,8 +113,8 @@ struct TopicRow {
     TVListingsCategory wanted;
 };
 
-// Category bits that a topic's words must give, among others.
-TEST(TopicWords, GiveTheReaderTheRightCategories) {
+// Category bits that a topic's words must yield; other bits may be set as well.
+TEST(TopicWords, YieldTheRightCategories) {
     const std::vector<TopicRow> rows = {
         {Topic::Comedy, TVListingsCategoryMovies | TVListingsCategoryComedies},
         {Topic::Drama, TVListingsCategoryMovies | TVListingsCategoryDramas},

@@ -4,7 +4,7 @@
 
 namespace guide {
 
-/// By default a tablet in a zone with half an hour of daylight saving.
+/// By default a tablet in a zone whose daylight saving time is half an hour.
 class FakeDevice final : public FixedDevice {
   public:
     FakeDevice() {

@@ -13,7 +13,7 @@
 
 namespace guide::test {
 
-/// Rules without alarms on the titles.
+/// Favourite rules for the titles, without alarms.
 struct FakeFavorites final : FavoritesSource {
     std::shared_ptr<const FavoritesSnapshot> snapshot() const override {
         std::vector<Favorite> rules;

@@ -150,7 +150,7 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
             ADD_FAILURE() << "sync on the suspended queue " << m_label << " would deadlock";
         }
         const bool nestedReader = !exclusive(false) && m_readersRunning > 0 && isCurrent();
-        // What a real queue would run before this block's turn.
+        // A real queue would run these blocks first.
         for (std::size_t ahead = nestedReader ? 0 : m_pending.size(); ahead > 0 && canRun(); --ahead) {
             runFront();
         }
@@ -185,8 +185,8 @@ class ManualQueue final : public DispatchQueue, public std::enable_shared_from_t
 
 /// Queues that run blocks only when the test asks for it, all on the test's thread, one at a time and in the
 /// order of submission across queues. asyncAfter submits when the manual clock reaches its time. A sync first
-/// runs what is pending on its queue; where a real one would deadlock, it fails the test. Waiting for a group
-/// runs blocks until the group is done.
+/// runs what is pending on its queue; where a real queue would deadlock, it fails the test. Waiting for a
+/// group runs blocks until the group is done.
 ///
 /// Labels besides those given to makeQueue: "main", "global.background", "global.default",
 /// "global.user-initiated".
@@ -237,12 +237,13 @@ class ManualQueues final : public DispatchQueues, private ThreadWaiting {
         return runWhile([&label](const ManualQueue& queue) { return queue.label() == label; });
     }
 
-    /// Whether the caller runs on this queue, one of these. The body of a test runs on the main queue.
+    /// Whether the caller runs on this queue, which must belong to a ManualQueues. The body of a test runs on
+    /// the main queue.
     static bool isCurrent(const DispatchQueue& queue) {
         return static_cast<const ManualQueue&>(queue).isCurrent();
     }
 
-    /// Blocks of asyncAfter whose moment has not come.
+    /// The number of asyncAfter blocks whose time has not come.
     std::size_t delayed() const { return m_state->timers.size(); }
 
     bool suspended(const std::string& label) const {

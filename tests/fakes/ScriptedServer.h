@@ -10,9 +10,9 @@ namespace guide {
 
 using ScriptedReply = ServerReply;
 
-/// The demo's HTTP server, scripted by a test. A target with a reply of its own always gets that one, any
-/// other request gets the next reply of the queue; when the queue is empty, the connection is closed without
-/// a reply. Thread-safe.
+/// The demo's HTTP server, scripted by a test. A target given to serve() always gets that reply; any other
+/// request gets the next reply from the queue. When the queue is empty, the connection is closed without a
+/// reply. Thread-safe.
 class ScriptedServer {
   public:
     using Request = ServerRequest;

@@ -23,7 +23,7 @@ struct StoreChannel {
     bool selected = true;
 };
 
-/// A store on a faked device, with its files in one folder. First come the channels, then open().
+/// A store on a faked device, with its files in one folder. Add the channels first, then call open().
 struct StoreFixture {
     /// Without a folder the files go into a temporary one.
     StoreFixture(const Clock& ownClock, DispatchQueues& ownQueues, const QString& folder = {})
@@ -37,7 +37,7 @@ struct StoreFixture {
         return ObjectId::fromHex(QStringLiteral("%1").arg(number, 24, 16, QLatin1Char('0')));
     }
 
-    /// Its title and icon are the number.
+    /// The channel's title and icon are the number.
     void addChannel(int number, const StoreChannel& channel = {}) {
         addChannel({channelNumbered(number), QString::number(number), channel.language, QStringLiteral("x"),
                     QString::number(number), channel.sourceIds},
@@ -50,13 +50,13 @@ struct StoreFixture {
         m_listed.push_back(std::move(channel));
     }
 
-    /// Makes the catalogue and the selection.
+    /// Creates the catalogue and the selection.
     void makeChannels() {
         catalogue.replace(CatalogueSnapshot(m_listed));
         channels = std::make_unique<TVChannels>(folders, keyValueStore, queues, catalogue);
         channels->setSelected(m_selected);
     }
-    /// Makes the store, which starts to read its files. May be called again for a second store.
+    /// Creates the store, which starts to read its files. May be called again for a second store.
     TVListings& open() {
         if (!channels) {
             makeChannels();

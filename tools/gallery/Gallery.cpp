@@ -1,5 +1,5 @@
-// Draws every kind of row in every state, and what lies over the rows, and writes one picture per screen and
-// form: light and dark, each at 100 and 200 per cent text. Usage: guide_gallery FOLDER [SCREEN…]
+// Draws every kind of row in every state, and everything that covers rows, and writes one picture per screen
+// and form: light and dark, each at 100 and 200 per cent text. Usage: guide_gallery FOLDER [SCREEN…]
 #include "fakes/ManualQueues.h"
 #include "gallery/GalleryRows.h"
 #include "platform/memory/ManualClock.h"
@@ -52,7 +52,7 @@ struct Exhibit {
     QString name;
     std::vector<Section> sections;
     int height = 844;
-    /// Brings the screen into its state, and then what is drawn of it.
+    /// Sets the state of the screen; afterwards, `act` sets that of the list as drawn.
     std::function<void(World&, GalleryScreen&)> prepare = [](World&, GalleryScreen&) {};
     std::function<void(QQuickItem& list)> act = [](QQuickItem&) {};
     /// Wider than a tablet.
@@ -111,7 +111,7 @@ QImage drawn(const Exhibit& exhibit, UserInterfaceIdiom idiom, ColorScheme schem
     return window.savePicture(path) ? QImage(path) : QImage();
 }
 
-/// Light and dark beside each other, ordinary text before large text.
+/// Light and dark side by side, ordinary text before large text.
 bool draw(const Exhibit& exhibit, UserInterfaceIdiom idiom, const QString& path) {
     const bool phone = idiom == UserInterfaceIdiom::Phone;
     const QSize size(phone ? 390 : exhibit.wide ? 1280 : 820, exhibit.height);

@@ -57,7 +57,7 @@ struct GalleryPictures final : PictureProvider {
     }
 };
 
-/// A screen with the sections that it is given.
+/// A screen with fixed sections.
 class GalleryScreen final : public TableViewController {
   public:
     GalleryScreen(const QString& title, std::vector<Section> sections) {
@@ -86,7 +86,7 @@ inline PictureKey showPicture(const QString& name) {
     return {PictureKey::Kind::Show, name};
 }
 
-/// Gives the rows ids by their numbers.
+/// A section whose rows have their positions as ids.
 inline Section section(const QString& id, const QString& header, std::vector<RowContent> contents,
                        const QString& footer = {}) {
     Section made{id, header, footer};
@@ -170,7 +170,7 @@ inline std::vector<Section> galleryChannels() {
 
 inline std::vector<Section> gallerySettings() {
     const QString explanation =
-        u"Pictures are loaded when the row comes into sight. Without them the guide needs far less data."_s;
+        u"Pictures are loaded when the row comes into view. Without them the guide needs far less data."_s;
     Section texts = section(
         u"text"_s, u"Text"_s,
         {TextRow{u"Title only"_s},

@@ -50,11 +50,11 @@ struct PlacedFeed {
     std::shared_ptr<DemoFeed> feed;
 };
 
-/// The feeds of all source ids of the demo's channels, without those that DemoSites serves. `authority` is
+/// The feeds of all source ids of the demo's channels, except those that DemoSites serves. `authority` is
 /// the server's host and port.
 std::vector<PlacedFeed> demoFeeds(const ScheduleGenerator& generator, Moment now, const QString& authority);
 
-/// What the host table has in place of a domain in the names of day files.
+/// The host table's value for the domain in the names of day files.
 inline constexpr const char* kDayFileDomain = "demo";
 
 } // namespace guide

@@ -6,7 +6,7 @@
 
 namespace guide {
 
-/// The words that a feed has for a topic; empty where it has none.
+/// The words that a feed uses for a topic; empty where it has none.
 struct TopicWords {
     /// In brackets before the sub-title, in the programme's language ("cs", "sk" or "fr").
     QString bracket;

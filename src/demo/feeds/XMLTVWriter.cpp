@@ -34,7 +34,7 @@ QString episodeTail(const Programme& programme) {
     return programme.language == "ru"_L1 ? number + u"-я серия"_s : u"episode "_s + number;
 }
 
-/// Windows-1251, with character references for the rest.
+/// Windows-1251, with character references for all other characters.
 QByteArray cyrillicBytes(const QString& text) {
     QByteArray bytes;
     bytes.reserve(text.size());
@@ -173,7 +173,7 @@ QString Document::subtitle(const Programme& programme) const {
 QString Document::description(const Programme& programme) const {
     QString text = programme.description;
     if (m_style.form == FeedStyle::Form::Packed && !programme.actors.isEmpty()) {
-        // The reader keeps the text before the credits as it is, so nothing is added between.
+        // The reader keeps the text before the credits as it is, so no separator is added.
         text += u"Uloge: "_s + programme.actors.join(u", "_s) + u"\nRedatelj: "_s + programme.director;
     }
     return text;

@@ -15,7 +15,7 @@ struct FeedStyle {
         Bracketed,
         /// The topic is in `category`; the credits are part of the description.
         Packed,
-        /// The topic is in an attribute of `category`; everything else has its element.
+        /// The topic is in an attribute of `category`; everything else has its own element.
         Attributes,
     };
     Form form = Form::Bracketed;
@@ -37,7 +37,7 @@ struct FeedChannel {
     std::vector<Programme> programmes;
 };
 
-/// An XMLTV document with the programmes of one channel after the other.
+/// An XMLTV document with the programmes grouped by channel.
 QByteArray xmltvDocument(const std::vector<FeedChannel>& channels, const FeedStyle& style);
 
 } // namespace guide

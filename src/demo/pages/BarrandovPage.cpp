@@ -37,7 +37,7 @@ QString modal(const SiteClock& clock, const QString& id, const Programme& progra
 
 } // namespace
 
-// Links below the channels' headings open dialogs, written at the end of the page, with the details.
+// Links below the channels' headings open dialogs with the details, which are at the end of the page.
 std::optional<QByteArray> barrandovPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Prague");
     const QString day = request.query.queryItemValue(u"day"_s);

@@ -9,7 +9,7 @@ namespace {
 constexpr int kMorning = 6;
 constexpr int kPages = 7;
 
-/// The site's number of a genre.
+/// The site's number for a genre.
 int genre(Topic topic) {
     switch (topic) {
     case Topic::Adventure:

@@ -14,7 +14,7 @@ constexpr int kMorning = 8;
 
 } // namespace
 
-// One tab per weekday, each with the next such day; days begin at eight.
+// One tab per weekday, each for its next date, today included; days begin at eight.
 std::optional<QByteArray> dolceSportPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Bucharest");
     const auto channel =

@@ -10,7 +10,7 @@ constexpr int kMorning = 6;
 
 } // namespace
 
-// One day from six to six, below links to the days around it.
+// One day from six to six, after links to the neighbouring days.
 std::optional<QByteArray> jojCinemaPage(const SiteRequest& request) {
     const SiteClock clock("Europe/Bratislava");
     const QString format = u"d-M-yyyy"_s;

@@ -15,7 +15,7 @@ namespace guide {
 
 /// A channel of a site.
 struct SiteChannel {
-    /// As in the catalogue; contains the site's name of the channel.
+    /// As in the catalogue; contains the site's name for the channel.
     QString sourceId;
     QString title;
     /// The programmes that begin in [from, until), in order. Called on the server's threads.
@@ -27,7 +27,7 @@ struct SiteRequest {
     /// The channels of the site.
     const std::vector<SiteChannel>& channels;
     Moment now;
-    /// The path below the site's own, with a leading slash.
+    /// The path relative to the site's, with a leading slash.
     QString path;
     QUrlQuery query;
 };

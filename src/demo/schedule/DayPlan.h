@@ -6,7 +6,7 @@
 
 namespace guide {
 
-/// What kind of day a channel has.
+/// The kind of schedule that a channel has.
 enum class ChannelProfile {
     General,
     GeneralWest,
@@ -26,10 +26,10 @@ enum class ChannelProfile {
 /// A programme in a plan: its kind, or "film" for one of the channel's genres.
 struct PlannedItem {
     QString kind;
-    /// Tells apart programmes of one kind on one channel: its second quiz, its late film. 0 to 8, or
+    /// Distinguishes programmes of one kind on one channel: its second quiz, its late film. 0 to 8, or
     /// kWeeklyOrdinals plus the weekday.
     int ordinal = 0;
-    /// Repeats what was in this place a day ago.
+    /// Repeats the programme at this place in the previous day's plan.
     bool repeat = false;
     /// Is repeated until the next fixed time.
     bool filling = false;
@@ -37,7 +37,7 @@ struct PlannedItem {
 
 /// The programmes between two fixed times.
 struct PlannedBlock {
-    /// Minutes after the midnight at which the day began: kDayBegins or more.
+    /// Minutes after midnight of the day's date; kDayBegins or more.
     int from = 0;
     std::vector<PlannedItem> items;
 };
@@ -47,7 +47,8 @@ inline constexpr int kWeeklyOrdinals = 8;
 
 inline constexpr int kDayBegins = 360;
 
-/// The day of a channel with this profile, from six in the morning to six. `weekday` is 1 for Monday to 7.
+/// The plan for a day, from six in the morning to six, on a channel with this profile. `weekday` is 1
+/// (Monday) to 7.
 std::vector<PlannedBlock> dayPlan(ChannelProfile profile, int weekday);
 
 } // namespace guide

@@ -29,7 +29,7 @@ bool showsSeriesOnWeekdaysOnly(const DemoChannel& channel) {
     }
 }
 
-/// On how many days since the epoch of Julian days the channel had this item in its plan.
+/// The number of days since the first Julian day on which this item was in the channel's plan.
 int daysShown(const DemoChannel& channel, const PlannedItem& item, const QDate& day) {
     const int week = int(day.toJulianDay() / kDaysOfWeek);
     if (item.ordinal > kWeeklyOrdinals) {
@@ -130,7 +130,7 @@ void ProgrammeGenerator::addEpisode(Programme& programme, const ProgrammeKind& k
     programme.season = number / kind.seasonLength % 6 + 1;
 }
 
-/// Adds year and country and returns the language of the film makers' names. A film whose title has a place
+/// Adds year and country and returns the language of the film makers' names. A film whose title names a place
 /// of its language ("home") was made there.
 QString ProgrammeGenerator::addFacts(Programme& programme, const ProgrammeKind& kind,
                                      TextGenerator& generator) const {

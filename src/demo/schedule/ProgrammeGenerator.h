@@ -40,7 +40,7 @@ class ProgrammeGenerator {
     QDate m_day;
     int m_occurrence;
     int m_occurrences;
-    /// Of everything that stays the same from day to day.
+    /// For everything that stays the same from day to day.
     std::uint64_t m_permanentSeed = 0;
     std::uint64_t m_daySeed = 0;
 };

@@ -24,7 +24,7 @@ class Random {
     std::size_t below(std::size_t bound) { return std::size_t(next() % bound); }
     /// first to last, inclusive.
     int between(int first, int last) { return first + int(below(std::size_t(last - first) + 1)); }
-    /// True with this chance in per cent.
+    /// True with this probability in per cent.
     bool percent(int chance) { return int(below(100)) < chance; }
 
   private:

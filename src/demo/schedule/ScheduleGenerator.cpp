@@ -18,7 +18,7 @@ Moment morningOf(const QDate& day, const QByteArray& zone) {
     return Moment(std::chrono::milliseconds(morning.toMSecsSinceEpoch()));
 }
 
-/// Tells apart the items of a day that count their occurrences separately.
+/// Items of a day with different keys count their occurrences separately.
 QString placeInPlan(const PlannedItem& item, bool repeat) {
     return item.kind + QChar(u'0' + item.ordinal) + QChar(repeat ? u'~' : u' ');
 }

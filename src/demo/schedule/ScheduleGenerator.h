@@ -18,7 +18,7 @@ class ScheduleGenerator {
         : m_texts(std::move(texts)) {}
 
     /// The channel's programmes of `days` days, each from six in the morning to six in the channel's zone:
-    /// in order, without gaps or overlaps. A day is always the same, however it is asked for.
+    /// in order, without gaps or overlaps. A day does not depend on the requested range.
     std::vector<Programme> schedule(const DemoChannel& channel, const QDate& firstDay, int days) const;
 
   private:

@@ -158,7 +158,7 @@ void HTTPServer::accept() {
                 m_changed.notify_all();
             });
         } catch (const std::system_error&) {
-            // Out of threads: this client is turned away.
+            // No thread could be started: the client is disconnected.
             ::close(socket);
             m_open.erase(self);
         }

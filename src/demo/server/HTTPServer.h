@@ -15,17 +15,17 @@
 
 namespace guide {
 
-/// An HTTP/1.1 server on 127.0.0.1: one request a connection, one thread a connection, a bounded number of
+/// An HTTP/1.1 server on 127.0.0.1: one request and one thread per connection, a bounded number of
 /// connections, a deadline for each request. Sends the bytes that the handler returns, so that it can also
 /// break the protocol. Needs no event loop.
 class HTTPServer {
   public:
-    /// Called on the connections' threads, also concurrently.
+    /// Called on the connections' threads, possibly concurrently.
     using Handler = std::function<ServerReply(const ServerRequest&)>;
 
     /// Listens on the port, or on any free one. Null, with a log line, when that fails.
     static std::unique_ptr<HTTPServer> start(Handler handler, std::uint16_t port = 0);
-    /// Stops.
+    /// Calls stop().
     ~HTTPServer();
 
     HTTPServer(const HTTPServer&) = delete;
@@ -34,7 +34,7 @@ class HTTPServer {
     std::uint16_t port() const { return m_port; }
     /// "127.0.0.1:PORT"
     QString authority() const;
-    /// "http://127.0.0.1:PORT", without a slash at the end.
+    /// "http://127.0.0.1:PORT", without a trailing slash.
     QString base() const;
 
     /// Closes the port and all connections and joins the threads.

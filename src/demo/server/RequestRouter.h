@@ -11,14 +11,14 @@ class RequestRouter {
   public:
     using Handler = HTTPServer::Handler;
 
-    /// Answers the target (path and query) from now on.
+    /// Handles requests for exactly this target (path and query).
     void serve(const QByteArray& target, Handler handler);
     void serve(const QByteArray& target, const ServerReply& reply);
-    /// Answers targets with this prefix that have no handler of their own; the longest prefix wins.
+    /// Answers targets with this prefix without an exact handler; the longest prefix wins.
     void serveBelow(const QByteArray& prefix, Handler handler);
     void remove(const QByteArray& target);
 
-    /// Nothing for a target without a handler.
+    /// Returns nothing for a target without a handler.
     std::optional<ServerReply> reply(const ServerRequest& request) const;
 
   private:

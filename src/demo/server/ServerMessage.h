@@ -16,16 +16,16 @@ struct ServerRequest {
     QByteArray head;
     QByteArray body;
 
-    /// The value of the first header of this name, compared without case; null when it is missing.
+    /// The value of the first header of this name, compared case-insensitively; null when it is missing.
     QByteArray header(const QByteArray& name) const;
 };
 
-/// The bytes that a connection gets, status line and headers included, and how it ends.
+/// The bytes sent on a connection, status line and headers included, and how the connection ends.
 struct ServerReply {
     enum class End {
         Close,
         Reset,
-        /// Sends nothing more; the connection stays open until the client leaves or the server stops.
+        /// Sends nothing more; the connection stays open until the client disconnects or the server stops.
         Stall,
     };
     struct Piece {

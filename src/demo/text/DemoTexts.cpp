@@ -14,7 +14,7 @@ namespace {
 
 constexpr qint64 kMaxFileSize = 1024 * 1024;
 
-// A file's language is what its name begins with.
+// A file's name begins with its language.
 constexpr std::array kFiles{"cs-people.txt"_L1,
                             "cs-films.txt"_L1,
                             "cs-series.txt"_L1,

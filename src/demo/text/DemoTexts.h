@@ -8,7 +8,7 @@
 
 namespace guide {
 
-/// The grammars of the languages that the demo's channels speak.
+/// The grammars of the demo channels' languages.
 class DemoTexts {
   public:
     /// Reads the files of data/demo. Null when one is missing or malformed, with a log line for each error.

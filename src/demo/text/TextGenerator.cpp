@@ -4,7 +4,7 @@ namespace guide {
 
 namespace {
 
-/// Ends a rule that refers to itself.
+/// Stops the expansion of a rule that refers to itself.
 constexpr int kMaxDepth = 20;
 
 } // namespace

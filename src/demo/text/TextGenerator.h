@@ -5,7 +5,7 @@
 
 namespace guide {
 
-/// Expands rules of a grammar into texts. Variables that one text binds are known to the next.
+/// Expands rules of a grammar into texts. Variables bound in one text keep their values in the next.
 class TextGenerator {
   public:
     TextGenerator(const TextGrammar& grammar, Random& random)

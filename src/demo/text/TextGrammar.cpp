@@ -104,7 +104,7 @@ const std::vector<TextGrammar::Alternative>& TextGrammar::alternatives(const QSt
 
 QStringList TextGrammar::errors() const {
     QStringList errors = m_syntaxErrors;
-    // How many forms every alternative of the rule has.
+    // The number of forms of each rule: that of the alternative with the fewest.
     QHash<QString, int> forms;
     for (auto rule = m_rules.begin(); rule != m_rules.end(); ++rule) {
         int fewest = std::numeric_limits<int>::max();
@@ -125,7 +125,7 @@ QStringList TextGrammar::errors() const {
             }
         }
     };
-    // A variable has as many forms as any of the rules that it is bound to.
+    // The number of forms of each variable: that of the rule with the fewest among those it is bound to.
     QHash<QString, int> variables;
     for (const QString& name : namesOfTheProgram()) {
         variables.insert(name, 1);

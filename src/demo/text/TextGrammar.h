@@ -29,8 +29,8 @@ class TextGrammar {
     /// Empty for an unknown rule.
     const std::vector<Alternative>& alternatives(const QString& rule) const;
 
-    /// Syntax errors and references to missing rules or forms, one line each. Call it when all files are
-    /// added.
+    /// Syntax errors and references to missing rules or forms, one line each. Call it after adding all
+    /// files.
     QStringList errors() const;
 
   private:
@@ -38,7 +38,7 @@ class TextGrammar {
     QStringList m_syntaxErrors;
 };
 
-/// What is written between braces.
+/// The text between braces.
 struct TextReference {
     bool capital = false;
     QString variable;
