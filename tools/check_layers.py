@@ -15,12 +15,11 @@ ALLOWED = {
     "sources": "core platform text",
     "parsers": "core platform sources store text",
     "alarms": "core platform sources store text",
-    "cloud": "alarms core platform store text",
-    "screens": "alarms cloud core platform sources store text",
+    "screens": "alarms core platform sources store text",
     "ui": "core platform screens store text",
     "demo": "core platform sources store text",
-    "app": "alarms cloud core demo parsers platform platform/linux platform/memory screens sources store text ui",
-    "probe": "alarms cloud core parsers platform platform/linux platform/memory sources store text",
+    "app": "alarms core demo parsers platform platform/linux platform/memory screens sources store text ui",
+    "probe": "alarms core parsers platform platform/linux platform/memory sources store text",
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"')
 

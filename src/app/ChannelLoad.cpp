@@ -10,15 +10,15 @@ ChannelLoad::ChannelLoad(const std::vector<PlannedSource>& sources) {
     }
 }
 
-void ChannelLoad::noPage(const QString& sourceId, const NetPage& answer) {
+void ChannelLoad::recordMissingPage(const QString& sourceId, const NetPage& answer) {
     passOver({.sourceId = sourceId,
               .reason = PassedOverReason::NoPage,
               .status = answer.status,
               .pageReason = answer.reason});
 }
 
-void ChannelLoad::read(const QString& sourceId, std::size_t pages, MergeOutcome outcome, const ShowList& list,
-                       Moment at) {
+void ChannelLoad::recordPages(const QString& sourceId, std::size_t pages, MergeOutcome outcome,
+                              const ShowList& list, Moment at) {
     if (m_used) {
         return;
     }
@@ -28,7 +28,7 @@ void ChannelLoad::read(const QString& sourceId, std::size_t pages, MergeOutcome 
                             .at = at,
                             .pages = static_cast<int>(pages),
                             .shows = static_cast<int>(list->size()),
-                            .reachesUntil = last.endDateTime() ? last.endDateTime() : last.dateTime()};
+                            .coveredUntil = last.endDateTime() ? last.endDateTime() : last.dateTime()};
         return;
     }
     passOver({.sourceId = sourceId,

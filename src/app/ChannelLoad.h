@@ -16,10 +16,10 @@ class ChannelLoad {
     explicit ChannelLoad(const std::vector<PlannedSource>& sources);
 
     /// The first page of the source could not be fetched.
-    void noPage(const QString& sourceId, const NetPage& answer);
+    void recordMissingPage(const QString& sourceId, const NetPage& answer);
     /// The pages of the source were read. `list` is the stored list, null unless the outcome is Stored.
-    void read(const QString& sourceId, std::size_t pages, MergeOutcome outcome, const ShowList& list,
-              Moment at);
+    void recordPages(const QString& sourceId, std::size_t pages, MergeOutcome outcome, const ShowList& list,
+                     Moment at);
 
     /// The result of the load, once a source was used or all were passed over. Unset before that, and for a
     /// channel without sources.

@@ -26,7 +26,7 @@ struct LaunchOptions {
     std::optional<QString> url;
 
     /// Whether the options only try something out and must not touch the user's profile.
-    bool impliesOwnProfile() const { return demo || catalogue || hosts || select || now; }
+    bool usesSeparateProfile() const { return demo || catalogue || hosts || select || now; }
 };
 
 /// A text to print instead of a launch.

@@ -197,7 +197,7 @@ void QuellinGuideAppDelegate::cleanUpSelection() {
     if (plan.kept.empty()) {
         m_tabBarController->disableTabs();
     }
-    onMainQueue(&QuellinGuideAppDelegate::tellSelectionCleanedUp);
+    onMainQueue(&QuellinGuideAppDelegate::notifySelectionCleanedUp);
     m_alarms.syncAlarms();
 }
 

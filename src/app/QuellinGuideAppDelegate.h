@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/AbsentParts.h"
 #include "app/AlarmUpdater.h"
 #include "app/ApplicationEnvironment.h"
 #include "app/InterruptibleWait.h"
+#include "app/NullServices.h"
 #include "app/UpdateCycle.h"
 #include "core/Catalogue.h"
 #include "core/RemoteHostAlert.h"
@@ -95,7 +95,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void setup();
     void cleanUpSelection();
     void syncAlarms() { m_alarms.syncAlarms(); }
-    void tellSelectionCleanedUp() { m_screens->selectionCleanedUp(); }
+    void notifySelectionCleanedUp() { m_screens->selectionCleanedUp(); }
 
     void detectAlphabet();
     void readSettings();

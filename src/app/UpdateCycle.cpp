@@ -179,7 +179,7 @@ class UpdateCycle::Check {
     }
 
     Moment dayBegan() const {
-        return sourceDayBegan(m_environment.clock.now(), m_environment.device.timeZone());
+        return startOfSourceDay(m_environment.clock.now(), m_environment.device.timeZone());
     }
 
     bool load(const UpdateStep& step) {
@@ -203,7 +203,7 @@ class UpdateCycle::Check {
         }
         if (pages.empty()) {
             for (const LoadItem& item : items) {
-                m_loads.at(item.channel).noPage(item.sourceId, missing);
+                m_loads.at(item.channel).recordMissingPage(item.sourceId, missing);
             }
             return true;
         }
@@ -272,9 +272,9 @@ class UpdateCycle::Check {
             const auto outcome = result.outcomes.find(item.channel);
             const auto list = result.lists.find(item.channel);
             m_loads.at(item.channel)
-                .read(item.sourceId, pages,
-                      outcome == result.outcomes.end() ? MergeOutcome::Empty : outcome->second,
-                      list == result.lists.end() ? nullptr : list->second, now);
+                .recordPages(item.sourceId, pages,
+                             outcome == result.outcomes.end() ? MergeOutcome::Empty : outcome->second,
+                             list == result.lists.end() ? nullptr : list->second, now);
         }
     }
 

@@ -49,7 +49,7 @@ int refuse(const char* why) {
 int run(LaunchOptions options) {
     // Options that only try something out get a profile that is deleted at the end.
     std::optional<QTemporaryDir> trial;
-    if (!options.profile && options.impliesOwnProfile()) {
+    if (!options.profile && options.usesSeparateProfile()) {
         trial.emplace();
         if (!trial->isValid()) {
             return refuse("a temporary profile cannot be created");

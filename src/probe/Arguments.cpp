@@ -44,12 +44,12 @@ std::optional<Arguments> parseArguments(const QStringList& words, const CommandS
     if (arguments.has(u"help"_s)) {
         return arguments;
     }
-    if (arguments.operands.size() < shape.leastOperands) {
+    if (arguments.operands.size() < shape.minOperands) {
         fault = u"an operand is missing"_s;
         return std::nullopt;
     }
-    if (shape.mostOperands >= 0 && arguments.operands.size() > shape.mostOperands) {
-        fault = u"\"%1\" is one operand too many"_s.arg(arguments.operands[shape.mostOperands]);
+    if (shape.maxOperands >= 0 && arguments.operands.size() > shape.maxOperands) {
+        fault = u"\"%1\" is one operand too many"_s.arg(arguments.operands[shape.maxOperands]);
         return std::nullopt;
     }
     return arguments;

@@ -13,9 +13,9 @@ struct CommandShape {
     QString operands;
     QStringList valueOptions;
     QStringList flags;
-    int leastOperands = 0;
+    int minOperands = 0;
     /// Negative: any number.
-    int mostOperands = 0;
+    int maxOperands = 0;
 };
 
 /// A parsed command line. Only words that begin with two dashes are options.

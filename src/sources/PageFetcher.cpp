@@ -29,7 +29,7 @@ std::optional<QUrl> redirection(const QUrl& from, const std::optional<HTTPRespon
     return isWebURL(target) ? std::optional(target) : std::nullopt;
 }
 
-QString whyThereIsNone(const NetPage& answer, const TransferResult& transfer) {
+QString missingReason(const NetPage& answer, const TransferResult& transfer) {
     switch (answer.reason) {
     case PageReason::Transfer:
         return transfer.error ? transfer.error->description : QString();
@@ -50,7 +50,7 @@ QString whyThereIsNone(const NetPage& answer, const TransferResult& transfer) {
 
 void logMissing(const QUrl& url, const NetPage& answer, const TransferResult& transfer) {
     qInfo().noquote().nospace() << "netPageForRequest: no page from " << url.toDisplayString() << ": "
-                                << whyThereIsNone(answer, transfer);
+                                << missingReason(answer, transfer);
 }
 
 } // namespace

@@ -8,7 +8,7 @@
 
 namespace guide {
 
-Moment sourceDayBegan(Moment now, const QTimeZone& deviceZone) {
+Moment startOfSourceDay(Moment now, const QTimeZone& deviceZone) {
     // The other countries of the sources share the first zone.
     static const QTimeZone kCentral = timeZoneForServer(u"cz").value_or(QTimeZone::utc());
     static const QTimeZone kEastern = timeZoneForServer(u"ro").value_or(QTimeZone::utc());

@@ -8,6 +8,6 @@ namespace guide {
 
 /// The last midnight up to `now`, on the device or in any country of the sources. "Today" does not change
 /// between two such midnights, so a page can be dated by its position among the requested days.
-Moment sourceDayBegan(Moment now, const QTimeZone& deviceZone);
+Moment startOfSourceDay(Moment now, const QTimeZone& deviceZone);
 
 } // namespace guide

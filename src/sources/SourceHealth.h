@@ -42,7 +42,7 @@ struct UsedSource {
     /// Shows that were stored.
     int shows = 0;
     /// The end of the last show, or its start when it has no end.
-    std::optional<Moment> reachesUntil;
+    std::optional<Moment> coveredUntil;
 
     friend bool operator==(const UsedSource&, const UsedSource&) = default;
 };

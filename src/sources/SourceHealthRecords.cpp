@@ -55,8 +55,8 @@ QJsonObject jsonOf(const UsedSource& used) {
                      {u"at"_s, textOf(used.at)},
                      {u"pages"_s, used.pages},
                      {u"shows"_s, used.shows}};
-    if (used.reachesUntil) {
-        json.insert(u"reachesUntil"_s, textOf(*used.reachesUntil));
+    if (used.coveredUntil) {
+        json.insert(u"coveredUntil"_s, textOf(*used.coveredUntil));
     }
     return json;
 }
@@ -70,7 +70,7 @@ std::optional<UsedSource> usedSource(const QJsonObject& json) {
                       .at = *at,
                       .pages = json[u"pages"_s].toInt(),
                       .shows = json[u"shows"_s].toInt(),
-                      .reachesUntil = momentOf(json[u"reachesUntil"_s])};
+                      .coveredUntil = momentOf(json[u"coveredUntil"_s])};
 }
 
 QJsonObject jsonOf(const PassedOverSource& source) {

@@ -27,13 +27,13 @@ TEST(CommandLine, AcceptsBothFormsOfAValue) {
     EXPECT_EQ(options.form, UserInterfaceIdiom::Tablet);
     EXPECT_EQ(options.now, Moment(std::chrono::seconds(1767209400)));
     EXPECT_EQ(options.url, u"guide://c0ffee"_s);
-    EXPECT_TRUE(options.impliesOwnProfile());
+    EXPECT_TRUE(options.usesSeparateProfile());
 }
 
 TEST(CommandLine, OptionsThatTrySomethingImplyATemporaryProfile) {
-    EXPECT_FALSE(accepted({}).impliesOwnProfile());
-    EXPECT_FALSE(accepted({u"--form"_s, u"phone"_s, u"--screenshots"_s, u"p"_s}).impliesOwnProfile());
-    EXPECT_TRUE(accepted({u"--demo"_s}).impliesOwnProfile());
+    EXPECT_FALSE(accepted({}).usesSeparateProfile());
+    EXPECT_FALSE(accepted({u"--form"_s, u"phone"_s, u"--screenshots"_s, u"p"_s}).usesSeparateProfile());
+    EXPECT_TRUE(accepted({u"--demo"_s}).usesSeparateProfile());
 }
 
 TEST(CommandLine, RefusesUnusableArguments) {

@@ -47,7 +47,7 @@ GuideWorld::GuideWorld() {
         sources.push_back({server->base() + QString::fromLatin1(feedPath(key, 1)),
                            server->base() + QString::fromLatin1(feedPath(key, 2))});
     }
-    furnish(sources);
+    fillProfile(sources);
 }
 
 GuideWorld::GuideWorld(const QStringList& sources) {
@@ -55,10 +55,10 @@ GuideWorld::GuideWorld(const QStringList& sources) {
     for (const QString& source : sources) {
         single.push_back({QString(source).replace("%1"_L1, server->authority())});
     }
-    furnish(single);
+    fillProfile(single);
 }
 
-void GuideWorld::furnish(const std::vector<QStringList>& sources) {
+void GuideWorld::fillProfile(const std::vector<QStringList>& sources) {
     server->router().serveBelow("/", [](const ServerRequest&) { return ServerReply::answer(404, {}); });
     // A small device, so that a decompression bomb can be small.
     device.memory = std::uint64_t(128) << 20;
@@ -126,7 +126,7 @@ void GuideWorld::start() {
     m_cache = std::make_unique<ResponseCache>(
         clock, std::size_t(1) << 24, [this] { return Settings(userDefaults).automaticUpdateInterval(); });
     m_curl = std::make_unique<CurlHTTPClient>(*m_cache);
-    m_client = std::make_unique<ImpatientHTTPClient>(*m_curl, hopelessPaths);
+    m_client = std::make_unique<ImpatientHTTPClient>(*m_curl, unwritablePaths);
     const QString root = m_folder.path();
     guide = std::make_unique<QuellinGuideAppDelegate>(ApplicationEnvironment{
         .clock = clock,

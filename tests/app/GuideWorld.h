@@ -35,9 +35,9 @@ class SharedClock final : public Clock {
 class ImpatientHTTPClient final : public HTTPClient {
   public:
     /// The list of paths must not change during a transfer.
-    ImpatientHTTPClient(HTTPClient& client, const QByteArrayList& hopelessPaths)
+    ImpatientHTTPClient(HTTPClient& client, const QByteArrayList& unwritablePaths)
         : m_client(client)
-        , m_hopelessPaths(hopelessPaths) {}
+        , m_hopelessPaths(unwritablePaths) {}
 
     using HTTPClient::perform;
     TransferResult perform(const HTTPRequest& request, const TakePiece& takePiece) override {
@@ -104,10 +104,10 @@ class GuideWorld {
     Folders folders;
     SourceHostTable hosts;
     /// Paths that will not answer.
-    QByteArrayList hopelessPaths;
+    QByteArrayList unwritablePaths;
 
   private:
-    void furnish(const std::vector<QStringList>& sources);
+    void fillProfile(const std::vector<QStringList>& sources);
     void wake();
 
     QTemporaryDir m_folder;

@@ -24,7 +24,7 @@ struct Threaded {
     }
 };
 
-struct HandCranked {
+struct Manual {
     ManualClock clock;
     ManualQueues queues{clock};
 
@@ -47,7 +47,7 @@ struct QueuesTest : testing::Test {
         return [this, letter] { log += letter; };
     }
 };
-using Kinds = testing::Types<Threaded, HandCranked>;
+using Kinds = testing::Types<Threaded, Manual>;
 TYPED_TEST_SUITE(QueuesTest, Kinds);
 
 TYPED_TEST(QueuesTest, SyncRunsOnTheCallingThreadInOrder) {

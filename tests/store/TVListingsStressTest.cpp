@@ -1,4 +1,4 @@
-#include "StoreWorld.h"
+#include "FileStoreFixture.h"
 #include "platform/memory/ManualClock.h"
 #include "platform/queues/ThreadedQueues.h"
 
@@ -66,7 +66,7 @@ TEST(TVListingsStressTest, ChangesQueriesAndWritesRunConcurrently) {
     const ManualClock clock;
     QTemporaryDir folder;
     Queues main;
-    StoreWorld world(clock, main.queues(), folder.path());
+    FileStoreFixture world(clock, main.queues(), folder.path());
     world.writeFile(channel(1), {{clock.now(), clock.now() + std::chrono::hours(1), u"0"_s}});
     std::atomic<int> answers = 0;
     std::atomic<int> asked = 0;
@@ -136,7 +136,7 @@ TEST(TVListingsStressTest, FinishingIsBoundedInTime) {
     const ManualClock clock;
     QTemporaryDir folder;
     Queues main;
-    StoreWorld world(clock, main.queues(), folder.path());
+    FileStoreFixture world(clock, main.queues(), folder.path());
     TVListings& listings = world.open();
     std::atomic<bool> release = false;
     listings.favoritesScheduleWithBlock([&](const ShowItems&) {

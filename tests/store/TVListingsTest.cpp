@@ -1,6 +1,6 @@
 #include "store/TVListings.h"
 
-#include "StoreWorld.h"
+#include "FileStoreFixture.h"
 #include "fakes/ManualQueues.h"
 #include "platform/memory/ManualClock.h"
 
@@ -64,7 +64,7 @@ class TVListingsTest : public ::testing::Test {
     ManualQueues queues{clock};
     QTemporaryDir folder;
     const Moment start = clock.now();
-    StoreWorld world{clock, queues, folder.path()};
+    FileStoreFixture world{clock, queues, folder.path()};
     std::unique_ptr<TVListings>& listings = world.listings;
 };
 

@@ -48,7 +48,7 @@ struct World {
 };
 
 /// One picture of the gallery.
-struct Exhibit {
+struct Specimen {
     QString name;
     std::vector<Section> sections;
     int height = 844;
@@ -88,22 +88,22 @@ QVariant rowItem(QQuickItem& list, int row) {
     return QVariant::fromValue(item);
 }
 
-QImage drawn(const Exhibit& exhibit, UserInterfaceIdiom idiom, ColorScheme scheme, int textPixels,
+QImage drawn(const Specimen& specimen, UserInterfaceIdiom idiom, ColorScheme scheme, int textPixels,
              const QSize& size) {
     QFont font = QGuiApplication::font();
     font.setPixelSize(textPixels);
     QGuiApplication::setFont(font);
     GalleryPictures pictures;
-    const auto screen = std::make_shared<GalleryScreen>(exhibit.name, exhibit.sections);
+    const auto screen = std::make_shared<GalleryScreen>(specimen.name, specimen.sections);
     World world(idiom, screen);
     GuideWindow window(
         world.tabs, {.form = idiom, .scheme = scheme, .size = size, .motion = false, .pictures = &pictures});
     window.show();
-    exhibit.prepare(world, *screen);
+    specimen.prepare(world, *screen);
     settle(150);
     auto* quick = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().constLast());
     if (QQuickItem* list = visibleList(quick->contentItem())) {
-        exhibit.act(*list);
+        specimen.act(*list);
         settle(150);
     }
     const QTemporaryDir folder;
@@ -112,9 +112,9 @@ QImage drawn(const Exhibit& exhibit, UserInterfaceIdiom idiom, ColorScheme schem
 }
 
 /// Light and dark side by side, ordinary text before large text.
-bool draw(const Exhibit& exhibit, UserInterfaceIdiom idiom, const QString& path) {
+bool draw(const Specimen& specimen, UserInterfaceIdiom idiom, const QString& path) {
     const bool phone = idiom == UserInterfaceIdiom::Phone;
-    const QSize size(phone ? 390 : exhibit.wide ? 1280 : 820, exhibit.height);
+    const QSize size(phone ? 390 : specimen.wide ? 1280 : 820, specimen.height);
     constexpr int kGap = 8;
     QImage sheet(4 * size.width() + 3 * kGap, size.height(), QImage::Format_RGB32);
     sheet.fill(QColor(0x80, 0x80, 0x80));
@@ -122,7 +122,7 @@ bool draw(const Exhibit& exhibit, UserInterfaceIdiom idiom, const QString& path)
     int x = 0;
     for (const int pixels : {kOrdinaryText, kLargeText}) {
         for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
-            const QImage image = drawn(exhibit, idiom, scheme, pixels, size);
+            const QImage image = drawn(specimen, idiom, scheme, pixels, size);
             if (image.isNull()) {
                 return false;
             }
@@ -134,7 +134,7 @@ bool draw(const Exhibit& exhibit, UserInterfaceIdiom idiom, const QString& path)
     return sheet.save(path);
 }
 
-std::vector<Exhibit> exhibits() {
+std::vector<Specimen> specimens() {
     const auto pushed = [](World& world, GalleryScreen&) {
         auto below = std::make_shared<GalleryScreen>(u"A screen on top of another one"_s, galleryShows());
         below->setRightBarButtons(
@@ -231,14 +231,14 @@ int main(int argc, char** argv) {
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
     QDir().mkpath(arguments[1]);
     bool complete = true;
-    for (const Exhibit& exhibit : exhibits()) {
-        if (arguments.size() > 2 && !arguments.contains(exhibit.name)) {
+    for (const Specimen& specimen : specimens()) {
+        if (arguments.size() > 2 && !arguments.contains(specimen.name)) {
             continue;
         }
         for (const UserInterfaceIdiom idiom : {UserInterfaceIdiom::Phone, UserInterfaceIdiom::Tablet}) {
             const QString form = idiom == UserInterfaceIdiom::Phone ? u"phone"_s : u"tablet"_s;
-            const QString path = u"%1/%2-%3.png"_s.arg(arguments[1], exhibit.name, form);
-            if (!draw(exhibit, idiom, path)) {
+            const QString path = u"%1/%2-%3.png"_s.arg(arguments[1], specimen.name, form);
+            if (!draw(specimen, idiom, path)) {
                 std::cerr << "could not draw " << path.toStdString() << '\n';
                 complete = false;
             }

@@ -17,7 +17,7 @@ struct Bounds {
 };
 
 /// "film" is any of the genres.
-Bounds boundsOf(const PlannedItem& item) {
+Bounds durationBounds(const PlannedItem& item) {
     if (item.kind == u"film") {
         return {85, 125};
     }
@@ -25,10 +25,10 @@ Bounds boundsOf(const PlannedItem& item) {
     return kind == nullptr ? Bounds{} : Bounds{kind->shortest, kind->longest};
 }
 
-Bounds sumOf(const std::vector<PlannedItem>& items) {
+Bounds totalBounds(const std::vector<PlannedItem>& items) {
     Bounds sum;
     for (const PlannedItem& item : items) {
-        const Bounds bounds = boundsOf(item);
+        const Bounds bounds = durationBounds(item);
         sum.shortest += bounds.shortest;
         sum.longest += bounds.longest;
     }
@@ -52,8 +52,8 @@ std::vector<FittedItem> fitBlock(const std::vector<PlannedItem>& items, int minu
     std::vector<PlannedItem> chosen = repeated(items, fills ? 0 : 1);
     for (int times = 1; fills; ++times) {
         std::vector<PlannedItem> longer = repeated(items, times);
-        const Bounds now = sumOf(chosen);
-        const Bounds next = sumOf(longer);
+        const Bounds now = totalBounds(chosen);
+        const Bounds next = totalBounds(longer);
         const bool closer = std::abs(next.shortest + next.longest - 2 * minutes) <
                             std::abs(now.shortest + now.longest - 2 * minutes);
         if (next.shortest > minutes || (now.longest >= minutes && !closer)) {
@@ -61,23 +61,23 @@ std::vector<FittedItem> fitBlock(const std::vector<PlannedItem>& items, int minu
         }
         chosen = std::move(longer);
     }
-    while (!chosen.empty() && sumOf(chosen).shortest > minutes) {
+    while (!chosen.empty() && totalBounds(chosen).shortest > minutes) {
         chosen.pop_back();
     }
-    while (sumOf(chosen).longest < minutes) {
+    while (totalBounds(chosen).longest < minutes) {
         chosen.push_back({.kind = QStringLiteral("short")});
     }
 
     std::vector<FittedItem> fitted;
     int over = -minutes;
     for (const PlannedItem& item : chosen) {
-        const Bounds bounds = boundsOf(item);
+        const Bounds bounds = durationBounds(item);
         fitted.push_back({item, random.between(bounds.shortest / kStep, bounds.longest / kStep) * kStep});
         over += fitted.back().minutes;
     }
     while (over != 0) {
         FittedItem& item = fitted[random.below(fitted.size())];
-        const Bounds bounds = boundsOf(item.item);
+        const Bounds bounds = durationBounds(item.item);
         if (over > 0 && item.minutes > bounds.shortest) {
             item.minutes -= kStep;
             over -= kStep;

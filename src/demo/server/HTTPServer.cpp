@@ -151,7 +151,7 @@ void HTTPServer::accept() {
         const auto self = m_open.insert(m_open.end(), Connection{socket, {}});
         try {
             self->thread = std::thread([this, self, socket] {
-                converse(socket);
+                serveConnection(socket);
                 const std::lock_guard guard(m_mutex);
                 ::close(socket);
                 m_ended.splice(m_ended.end(), m_open, self);
@@ -165,7 +165,7 @@ void HTTPServer::accept() {
     }
 }
 
-void HTTPServer::converse(int socket) {
+void HTTPServer::serveConnection(int socket) {
     setTimeout(socket, SO_RCVTIMEO, kTransferTimeout);
     setTimeout(socket, SO_SNDTIMEO, kTransferTimeout);
     const std::optional<ServerRequest> request = receivedRequest(socket);

@@ -48,7 +48,7 @@ class HTTPServer {
 
     HTTPServer(Handler handler, int listener, std::uint16_t port);
     void accept();
-    void converse(int socket);
+    void serveConnection(int socket);
     bool send(int socket, const ServerReply::Piece& piece);
 
     const Handler m_handler;

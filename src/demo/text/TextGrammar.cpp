@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Names that the program binds before a text is expanded; each has one form.
-const QStringList& namesOfTheProgram() {
+const QStringList& programmeNames() {
     static const QStringList names{u"channel"_s, u"year"_s};
     return names;
 }
@@ -127,7 +127,7 @@ QStringList TextGrammar::errors() const {
     };
     // The number of forms of each variable: that of the rule with the fewest among those it is bound to.
     QHash<QString, int> variables;
-    for (const QString& name : namesOfTheProgram()) {
+    for (const QString& name : programmeNames()) {
         variables.insert(name, 1);
     }
     forEach([&](const TextReference& reference, const QString&) {

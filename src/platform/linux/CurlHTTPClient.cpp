@@ -9,8 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::size_t kIdleLanes = 6;
-constexpr long kConnectionsOfLane = 4;
+constexpr std::size_t kIdleMultis = 6;
+constexpr long kConnectionsPerMulti = 4;
 constexpr std::chrono::milliseconds kLookForNetworkEvery{500};
 
 TransferResult failed(const QString& description, bool cancelled = false) {
@@ -32,9 +32,9 @@ bool isThisMachine(const QUrl& url) {
 } // namespace
 
 // Borrows a multi handle for one transfer and registers it for cancelAll. Null when the client is cancelled.
-class CurlHTTPClient::Lane {
+class CurlHTTPClient::BorrowedMulti {
   public:
-    explicit Lane(CurlHTTPClient& client)
+    explicit BorrowedMulti(CurlHTTPClient& client)
         : m_client(client) {
         const std::lock_guard lock(client.m_mutex);
         if (client.m_cancelled.load()) {
@@ -46,21 +46,21 @@ class CurlHTTPClient::Lane {
             client.m_idle.pop_back();
         } else {
             m_multi.reset(curl_multi_init());
-            curl_multi_setopt(m_multi.get(), CURLMOPT_MAXCONNECTS, kConnectionsOfLane);
+            curl_multi_setopt(m_multi.get(), CURLMOPT_MAXCONNECTS, kConnectionsPerMulti);
         }
         client.m_running.push_back(m_multi.get());
     }
-    Lane(const Lane&) = delete;
-    Lane& operator=(const Lane&) = delete;
-    ~Lane() {
+    BorrowedMulti(const BorrowedMulti&) = delete;
+    BorrowedMulti& operator=(const BorrowedMulti&) = delete;
+    ~BorrowedMulti() {
         const std::lock_guard lock(m_client.m_mutex);
         std::erase(m_client.m_running, m_multi.get());
-        if (m_multi && m_client.m_idle.size() < kIdleLanes) {
+        if (m_multi && m_client.m_idle.size() < kIdleMultis) {
             m_client.m_idle.push_back(std::move(m_multi));
         }
     }
 
-    CURLM* multi() const { return m_multi.get(); }
+    CURLM* handle() const { return m_multi.get(); }
 
   private:
     CurlHTTPClient& m_client;
@@ -105,15 +105,15 @@ TransferResult CurlHTTPClient::perform(const HTTPRequest& request, const TakePie
 }
 
 TransferResult CurlHTTPClient::transfer(const HTTPRequest& request, const TakePiece& takePiece) {
-    const Lane lane(*this);
-    if (lane.multi() == nullptr) {
+    const BorrowedMulti multi(*this);
+    if (multi.handle() == nullptr) {
         return failed(u"the transfer was cancelled"_s, m_cancelled.load());
     }
     const auto until = std::chrono::steady_clock::now() + request.resourceTimeout;
     HTTPRequest httpRequest = request;
     for (;;) {
         CurlTransfer transfer(httpRequest, takePiece, m_settings);
-        TransferResult result = transfer.run(lane.multi(), m_cancelled);
+        TransferResult result = transfer.run(multi.handle(), m_cancelled);
         if (!request.waitsForConnectivity || !transfer.couldNotConnect() || isThisMachine(request.url) ||
             m_hasNetwork()) {
             return result;

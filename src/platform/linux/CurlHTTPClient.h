@@ -36,7 +36,7 @@ class CurlHTTPClient final : public HTTPClient {
     void cancelAll() override;
 
   private:
-    class Lane;
+    class BorrowedMulti;
 
     TransferResult transfer(const HTTPRequest& request, const TakePiece& takePiece);
     bool awaitNetwork(std::chrono::steady_clock::time_point until);

@@ -20,7 +20,7 @@ namespace guide {
 namespace {
 
 constexpr qsizetype kLongestRequest = 64 * 1024;
-constexpr std::chrono::milliseconds kPatience{3000};
+constexpr std::chrono::milliseconds kHandOverTimeout{3000};
 constexpr std::chrono::milliseconds kRetryInterval{20};
 constexpr std::chrono::milliseconds kReadTime{1000};
 constexpr char kTaken[] = "taken";
@@ -47,7 +47,7 @@ InstanceLock::InstanceLock(const QString& lockFolder, const QString& socketFolde
     if (!m_lock) {
         return;
     }
-    const auto end = std::chrono::steady_clock::now() + kPatience;
+    const auto end = std::chrono::steady_clock::now() + kHandOverTimeout;
     do {
         if (lock()) {
             m_outcome = Outcome::First;

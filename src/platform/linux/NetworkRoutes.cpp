@@ -13,32 +13,32 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-template <class IsWay>
-bool anyLine(QByteArrayView table, IsWay isWay) {
+template <class Matches>
+bool anyLine(QByteArrayView table, Matches matches) {
     const QList<QByteArray> lines = table.toByteArray().split('\n');
     return std::any_of(lines.cbegin(), lines.cend(),
-                       [&](const QByteArray& line) { return isWay(line.simplified().split(' ')); });
+                       [&](const QByteArray& line) { return matches(line.simplified().split(' ')); });
 }
 
-bool isOpen(const QByteArray& flags) {
+bool isUsable(const QByteArray& flags) {
     bool read = false;
     const uint value = flags.toUInt(&read, 16);
     return read && (value & RTF_UP) != 0 && (value & RTF_REJECT) == 0;
 }
 
-bool isAnywhere(const QByteArray& address) {
+bool isUnspecified(const QByteArray& address) {
     return !address.isEmpty() && address.count('0') == address.size();
 }
 
 // Columns: interface, destination, gateway, flags, three counts, mask, ...
 bool isDefaultRoute(const QList<QByteArray>& fields) {
-    return fields.size() > 7 && isAnywhere(fields[1]) && isAnywhere(fields[7]) && isOpen(fields[3]);
+    return fields.size() > 7 && isUnspecified(fields[1]) && isUnspecified(fields[7]) && isUsable(fields[3]);
 }
 
 // Columns: destination and its length, source and its length, next hop, three counts, flags, interface.
 bool isDefaultIPv6Route(const QList<QByteArray>& fields) {
-    return fields.size() == 10 && isAnywhere(fields[0]) && isAnywhere(fields[1]) && isOpen(fields[8]) &&
-           fields[9] != "lo";
+    return fields.size() == 10 && isUnspecified(fields[0]) && isUnspecified(fields[1]) &&
+           isUsable(fields[8]) && fields[9] != "lo";
 }
 
 std::optional<QByteArray> contentOf(const QString& path) {

@@ -31,13 +31,13 @@ class LatestAnswer {
     /// been destroyed.
     template <class Answer>
     auto expect(const std::weak_ptr<const void>& owner, Answer answer) {
-        auto unlessOvertaken = [this, question = ++m_latest,
-                                answer = std::move(answer)](const auto&... values) {
+        auto unlessSuperseded = [this, question = ++m_latest,
+                                 answer = std::move(answer)](const auto&... values) {
             if (question == m_latest) {
                 answer(values...);
             }
         };
-        return Expected<decltype(unlessOvertaken)>{owner, std::move(unlessOvertaken)};
+        return Expected<decltype(unlessSuperseded)>{owner, std::move(unlessSuperseded)};
     }
 
   private:

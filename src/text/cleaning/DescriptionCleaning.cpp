@@ -141,7 +141,7 @@ void takeListedCredits(CleanedDescription& show, QString& text) {
 
 /// A blank line, a line end after a full stop and a carriage return each become one line end; every other
 /// line end becomes a blank.
-void mendLineEnds(QString& text) {
+void normaliseLineEnds(QString& text) {
     if (!text.contains(u'\n') && !text.contains(u'\r')) {
         return;
     }
@@ -177,7 +177,7 @@ CleanedDescription cleanDescription(CleanedDescription show, const QString& site
         takeListedCredits(show, text);
     }
     QString& description = show.description.emplace(std::move(text));
-    mendLineEnds(description);
+    normaliseLineEnds(description);
     if (description.startsWith("; "_L1)) {
         description.remove(0, 2);
     }

@@ -13,8 +13,8 @@
 namespace guide::test {
 
 /// A store in a given folder whose user has selected channels 1 to 3 of the four in the catalogue.
-struct StoreWorld : StoreFixture {
-    StoreWorld(const Clock& ownClock, DispatchQueues& ownQueues, const QString& folder)
+struct FileStoreFixture : StoreFixture {
+    FileStoreFixture(const Clock& ownClock, DispatchQueues& ownQueues, const QString& folder)
         : StoreFixture(ownClock, ownQueues, folder) {
         for (int number = 1; number <= 4; ++number) {
             addChannel(number, {.selected = number < 4});
