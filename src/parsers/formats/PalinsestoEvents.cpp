@@ -256,7 +256,38 @@ class Rows final : public XMLEvents {
     bool m_inUnusableShow = false;
 };
 
+// Most words consist of unaccented letters and are capitalised without a look-up. False for any other word.
+bool appendPlainWord(std::string_view word, QString& out) {
+    std::array<char16_t, 24> capitalized{};
+    if (word.size() > capitalized.size()) {
+        return false;
+    }
+    std::size_t size = 0;
+    for (const char letter : word) {
+        const char lower = static_cast<char>(letter | 0x20);
+        const bool isLetter = lower >= 'a' && lower <= 'z';
+        // The blank after the word.
+        if (!isLetter && (letter != ' ' || size + 1 < word.size())) {
+            return false;
+        }
+        capitalized[size] = static_cast<char16_t>(!isLetter ? letter : size == 0 ? lower & ~0x20 : lower);
+        ++size;
+    }
+    out.append(QStringView(capitalized.data(), static_cast<qsizetype>(size)));
+    return true;
+}
+
+// Whether the case of a to z does not depend on the language: i has a dot in some, ij is one letter in
+// others.
+bool hasPlainLetters(QLocale::Language language) {
+    return language != QLocale::Turkish && language != QLocale::Azerbaijani && language != QLocale::Dutch;
+}
+
 } // namespace
+
+PalinsestoTexts::PalinsestoTexts(QLocale locale)
+    : m_locale(std::move(locale))
+    , m_hasPlainLetters(hasPlainLetters(m_locale.language())) {}
 
 QString PalinsestoTexts::capitalizedWords(std::string_view text) {
     // Titles repeat; descriptions rarely do.
@@ -271,9 +302,12 @@ QString PalinsestoTexts::capitalizedWords(std::string_view text) {
     for (std::size_t start = 0; start < text.size();) {
         const std::size_t end = std::min(text.find(' ', start), text.size() - 1) + 1;
         const std::string_view word = text.substr(start, end - start);
+        start = end;
+        if (m_hasPlainLetters && appendPlainWord(word, result)) {
+            continue;
+        }
         const QString* known = m_words.find(word);
         result += known ? *known : m_words.add(word, guide::capitalizedWords(pageString(word), m_locale));
-        start = end;
     }
     return isTitle ? m_texts.add(text, std::move(result)) : result;
 }

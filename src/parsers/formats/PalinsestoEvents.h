@@ -23,14 +23,14 @@ using PalinsestoCodes = std::map<std::string, QString, std::less<>>;
 /// memory.
 class PalinsestoTexts {
   public:
-    explicit PalinsestoTexts(QLocale locale)
-        : m_locale(std::move(locale)) {}
+    explicit PalinsestoTexts(QLocale locale);
 
     QString capitalizedWords(std::string_view text);
     QString sentenceCase(std::string_view text);
 
   private:
-    QLocale m_locale;
+    const QLocale m_locale;
+    const bool m_hasPlainLetters;
     FeedMemo<QString> m_texts;
     /// The words of the texts, each with the blank after it.
     FeedMemo<QString> m_words;
