@@ -256,24 +256,24 @@ class Rows final : public XMLEvents {
     bool m_inUnusableShow = false;
 };
 
-// Most words consist of unaccented letters and are capitalised without a look-up. False for any other word.
-bool appendPlainWord(std::string_view word, QString& out) {
-    std::array<char16_t, 24> capitalized{};
-    if (word.size() > capitalized.size()) {
-        return false;
-    }
-    std::size_t size = 0;
+// Most words consist of unaccented letters, with punctuation and a blank after them, and are capitalised
+// without a look-up. False for any other word; `out` has room for it.
+bool capitalizePlainWord(std::string_view word, QChar* out) {
+    bool isFirst = true;
+    bool isEnding = false;
     for (const char letter : word) {
         const char lower = static_cast<char>(letter | 0x20);
-        const bool isLetter = lower >= 'a' && lower <= 'z';
-        // The blank after the word.
-        if (!isLetter && (letter != ' ' || size + 1 < word.size())) {
+        if (!isEnding && lower >= 'a' && lower <= 'z') {
+            *out++ = QLatin1Char(isFirst ? static_cast<char>(lower & ~0x20) : lower);
+            isFirst = false;
+            continue;
+        }
+        isEnding = true;
+        if (letter != ' ' && letter != ',' && letter != '.') {
             return false;
         }
-        capitalized[size] = static_cast<char16_t>(!isLetter ? letter : size == 0 ? lower & ~0x20 : lower);
-        ++size;
+        *out++ = QLatin1Char(letter);
     }
-    out.append(QStringView(capitalized.data(), static_cast<qsizetype>(size)));
     return true;
 }
 
@@ -297,18 +297,29 @@ QString PalinsestoTexts::capitalizedWords(std::string_view text) {
         return *known;
     }
     // Words end at blanks and are capitalised independently of each other.
-    QString result;
-    result.reserve(static_cast<qsizetype>(text.size()));
+    QString result(static_cast<qsizetype>(text.size()), Qt::Uninitialized);
+    QChar* out = result.data();
     for (std::size_t start = 0; start < text.size();) {
         const std::size_t end = std::min(text.find(' ', start), text.size() - 1) + 1;
         const std::string_view word = text.substr(start, end - start);
+        const auto wordSize = static_cast<qsizetype>(word.size());
         start = end;
-        if (m_hasPlainLetters && appendPlainWord(word, result)) {
+        if (m_hasPlainLetters && capitalizePlainWord(word, out)) {
+            out += wordSize;
             continue;
         }
         const QString* known = m_words.find(word);
-        result += known ? *known : m_words.add(word, guide::capitalizedWords(pageString(word), m_locale));
+        if (!known) {
+            known = &m_words.add(word, guide::capitalizedWords(pageString(word), m_locale));
+        }
+        if (known->size() > wordSize) {
+            const qsizetype written = out - result.data();
+            result.resize(result.size() + known->size() - wordSize);
+            out = result.data() + written;
+        }
+        out = std::copy(known->cbegin(), known->cend(), out);
     }
+    result.truncate(out - result.data());
     return isTitle ? m_texts.add(text, std::move(result)) : result;
 }
 
