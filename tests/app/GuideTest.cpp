@@ -102,7 +102,7 @@ TEST(Guide, KeepsItsListsWhateverTheServerDoes) {
         for (const QByteArray& path : paths) {
             world.server->serve(path, each.reply);
         }
-        world.unwritablePaths = each.reply.end == ServerReply::End::Stall ? paths : QByteArrayList();
+        world.silentPaths = each.reply.end == ServerReply::End::Stall ? paths : QByteArrayList();
         world.serve(u"second"_s, 2, world.feed(u"Other"_s, 12 * 24));
         ASSERT_TRUE(world.check()) << each.name;
         EXPECT_TRUE(world.titles(u"first"_s).value(0).startsWith(u"Kept"_s)) << each.name;

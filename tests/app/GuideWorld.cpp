@@ -126,7 +126,7 @@ void GuideWorld::start() {
     m_cache = std::make_unique<ResponseCache>(
         clock, std::size_t(1) << 24, [this] { return Settings(userDefaults).automaticUpdateInterval(); });
     m_curl = std::make_unique<CurlHTTPClient>(*m_cache);
-    m_client = std::make_unique<ImpatientHTTPClient>(*m_curl, unwritablePaths);
+    m_client = std::make_unique<ImpatientHTTPClient>(*m_curl, silentPaths);
     const QString root = m_folder.path();
     guide = std::make_unique<QuellinGuideAppDelegate>(ApplicationEnvironment{
         .clock = clock,

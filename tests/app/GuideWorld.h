@@ -35,14 +35,14 @@ class SharedClock final : public Clock {
 class ImpatientHTTPClient final : public HTTPClient {
   public:
     /// The list of paths must not change during a transfer.
-    ImpatientHTTPClient(HTTPClient& client, const QByteArrayList& unwritablePaths)
+    ImpatientHTTPClient(HTTPClient& client, const QByteArrayList& silentPaths)
         : m_client(client)
-        , m_hopelessPaths(unwritablePaths) {}
+        , m_silentPaths(silentPaths) {}
 
     using HTTPClient::perform;
     TransferResult perform(const HTTPRequest& request, const TakePiece& takePiece) override {
         HTTPRequest hasty = request;
-        hasty.timeout = m_hopelessPaths.contains(request.url.path().toLatin1())
+        hasty.timeout = m_silentPaths.contains(request.url.path().toLatin1())
                             ? std::chrono::milliseconds(750)
                             : kPatience;
         hasty.resourceTimeout = hasty.timeout * 2;
@@ -55,7 +55,7 @@ class ImpatientHTTPClient final : public HTTPClient {
     static constexpr std::chrono::milliseconds kPatience{30'000};
 
     HTTPClient& m_client;
-    const QByteArrayList& m_hopelessPaths;
+    const QByteArrayList& m_silentPaths;
 };
 
 /// The whole guide without its window, on real queues, files and transfers from a server on loopback. Only
@@ -104,7 +104,7 @@ class GuideWorld {
     Folders folders;
     SourceHostTable hosts;
     /// Paths that will not answer.
-    QByteArrayList unwritablePaths;
+    QByteArrayList silentPaths;
 
   private:
     void fillProfile(const std::vector<QStringList>& sources);
