@@ -132,7 +132,7 @@ void GuideWorld::start() {
         .clock = clock,
         .device = device,
         .folders = folders,
-        .queues = *m_queues,
+        .queues = adaptQueues ? adaptQueues(*m_queues) : *m_queues,
         .userDefaults = userDefaults,
         .keyValueStore = keyValueStore,
         .backgroundTasks = *m_tasks,
@@ -184,6 +184,16 @@ bool GuideWorld::runUntil(const std::function<bool()>& condition) {
         }
         m_awake = false;
     }
+}
+
+void GuideWorld::runFor(std::chrono::milliseconds span) {
+    const auto end = std::chrono::steady_clock::now() + span;
+    do {
+        m_queues->runMainQueue();
+        std::unique_lock guard(m_mutex);
+        m_woken.wait_until(guard, end, [this] { return m_awake; });
+        m_awake = false;
+    } while (std::chrono::steady_clock::now() < end);
 }
 
 void GuideWorld::waitForCheck() const {

@@ -42,9 +42,8 @@ class ImpatientHTTPClient final : public HTTPClient {
     using HTTPClient::perform;
     TransferResult perform(const HTTPRequest& request, const TakePiece& takePiece) override {
         HTTPRequest hasty = request;
-        hasty.timeout = m_silentPaths.contains(request.url.path().toLatin1())
-                            ? std::chrono::milliseconds(750)
-                            : kPatience;
+        hasty.timeout = m_silentPaths.contains(request.url.path().toLatin1()) ? std::chrono::milliseconds(750)
+                                                                              : kPatience;
         hasty.resourceTimeout = hasty.timeout * 2;
         return m_client.perform(hasty, takePiece);
     }
@@ -83,6 +82,8 @@ class GuideWorld {
     /// Shuts the guide down as the program does.
     void end();
 
+    /// Runs the main queue for that long.
+    void runFor(std::chrono::milliseconds span);
     /// Runs the main queue until the condition holds; false after 60 seconds.
     bool runUntil(const std::function<bool()>& condition);
     /// Runs a check and its blocks on the main queue to the end.
@@ -103,6 +104,8 @@ class GuideWorld {
     std::unique_ptr<QuellinGuideAppDelegate> guide;
     Folders folders;
     SourceHostTable hosts;
+    /// When set before start(), replaces the guide's queues.
+    std::function<DispatchQueues&(DispatchQueues& queues)> adaptQueues = {};
     /// Paths that will not answer.
     QByteArrayList silentPaths;
 
