@@ -142,6 +142,7 @@ int run(LaunchOptions options) {
                                                          .scheme = {},
                                                          .size = {},
                                                          .motion = !options.screenshots,
+                                                         .locale = device.locale(),
                                                          .pictures = &delegate.pictures(),
                                                          .visibilityChanged =
                                                              [&](bool visible) {

@@ -6,34 +6,10 @@
 
 namespace guide {
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-// Writes AM and PM in lower case in every locale. Quoted text stays as it is.
-QString withLowerCaseDayPeriods(const QString& format) {
-    QString result;
-    bool quoted = false;
-    for (qsizetype index = 0; index < format.size(); ++index) {
-        const QChar unit = format[index];
-        quoted = quoted != (unit == u'\'');
-        if (!quoted && (unit == u'A' || unit == u'a')) {
-            result += "ap"_L1;
-            const bool pair = index + 1 < format.size() && format[index + 1].toLower() == u'p';
-            index += pair ? 1 : 0;
-        } else {
-            result += unit;
-        }
-    }
-    return result;
-}
-
-} // namespace
-
 ShowRowText::ShowRowText(const QLocale& locale, const QTimeZone& zone)
     : m_locale(locale)
     , m_zone(zone)
-    , m_timeFormat(withLowerCaseDayPeriods(rowTimeFormat(locale.timeFormat(QLocale::ShortFormat)))) {}
+    , m_timeFormat(rowTimeFormat(locale)) {}
 
 ShowRow ShowRowText::humanWithColor(const TVEntry& entry, ColorRole color, bool) const {
     ShowRow row = humanCondensedWithColor(entry, color, false);

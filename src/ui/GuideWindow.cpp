@@ -56,6 +56,7 @@ class GuideWindow::Parts : public QQuickView {
         }
         m_theme->setScheme(m_options.scheme);
         m_theme->setMoves(m_options.motion);
+        m_theme->setLocale(m_options.locale);
         m_shell = std::make_unique<Shell>(m_tabBarController, m_options.form, *m_theme, nullptr);
 
         m_frameLog.emplace(*this, [this] { return isFilled(m_tabBarController); });

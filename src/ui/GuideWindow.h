@@ -4,6 +4,7 @@
 #include "screens/kit/PictureProvider.h"
 #include "screens/kit/TabBarController.h"
 
+#include <QLocale>
 #include <QSize>
 #include <QString>
 
@@ -23,6 +24,8 @@ struct GuideWindowOptions {
     std::optional<QSize> size = std::nullopt;
     /// False with reduced motion, and for screenshots.
     bool motion = true;
+    /// The device's, for the texts that the window formats itself.
+    QLocale locale = QLocale();
     /// Resolves the pictures of the rows, which stay empty without it. Must outlive the window.
     PictureProvider* pictures = nullptr;
     /// Called when the window becomes visible and when it no longer is (minimised, hidden, closed).

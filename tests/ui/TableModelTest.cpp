@@ -16,6 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QLocale kLocale(QLocale::English, QLocale::UnitedStates);
+
 class Screen final : public TableViewController {
   public:
     QStringList events;
@@ -117,7 +119,7 @@ struct View {
 TEST(TableModelTest, FollowsTheTableThroughAnyChanges) {
     std::mt19937 random(7);
     const auto screen = std::make_shared<Screen>();
-    TableModel model(screen, nullptr);
+    TableModel model(screen, kLocale, nullptr);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     View view(model);
     for (int step = 0; step < 500; ++step) {
@@ -141,7 +143,7 @@ TEST(TableModelTest, ChangesOfOneRowAreAnnouncedForThatRow) {
         section.rows.back().selectable = true;
     }
     screen->table().setSections({section});
-    TableModel model(screen, nullptr);
+    TableModel model(screen, kLocale, nullptr);
     QStringList changes;
     QObject::connect(&model, &QAbstractItemModel::dataChanged, &model,
                      [&](const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) {
@@ -169,7 +171,7 @@ TEST(TableModelTest, RowsMoveWithinTheirSectionOnly) {
     }
     screen->table().setSections(sections);
     screen->table().setEditing(true);
-    TableModel model(screen, nullptr);
+    TableModel model(screen, kLocale, nullptr);
     const struct {
         int row;
         int next;
@@ -214,10 +216,11 @@ TEST(AccessibleNameTest, SaysWhatTheColoursAndSymbolsShow) {
         {ChoiceRow{.title = u"Order"_s, .choices = {u"A"_s, u"B"_s}, .chosen = 1}, u"Order, B"_s},
         {ChoiceRow{.title = u"Order"_s, .choices = {u"A"_s}}, u"Order"_s},
         {InputRow{.title = {}, .placeholder = u"Address"_s, .error = u"No host"_s}, u"Address, No host"_s},
+        {TimeRow{u"From"_s, QTime(6, 0)}, u"From, 06:00am"_s},
         {ProgressRow{u"Loading"_s, 0.25}, u"Loading, 25%"_s},
     };
     for (const auto& each : cases) {
-        EXPECT_EQ(accessibleName(each.content), each.name);
+        EXPECT_EQ(accessibleName(each.content, kLocale), each.name);
     }
 }
 

@@ -24,6 +24,7 @@ using namespace guide::test;
 
 constexpr int kOrdinaryText = 13;
 constexpr int kLargeText = 27;
+const QLocale kLocale(QLocale::English, QLocale::UnitedKingdom);
 
 /// The tabs of a guide with one screen on the first of them.
 struct World {
@@ -96,8 +97,12 @@ QImage drawn(const Specimen& specimen, UserInterfaceIdiom idiom, ColorScheme sch
     GalleryPictures pictures;
     const auto screen = std::make_shared<GalleryScreen>(specimen.name, specimen.sections);
     World world(idiom, screen);
-    GuideWindow window(
-        world.tabs, {.form = idiom, .scheme = scheme, .size = size, .motion = false, .pictures = &pictures});
+    GuideWindow window(world.tabs, {.form = idiom,
+                                    .scheme = scheme,
+                                    .size = size,
+                                    .motion = false,
+                                    .locale = kLocale,
+                                    .pictures = &pictures});
     window.show();
     specimen.prepare(world, *screen);
     settle(150);
@@ -228,7 +233,6 @@ int main(int argc, char** argv) {
         std::cerr << "usage: guide_gallery FOLDER [SCREEN…]\n";
         return 2;
     }
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
     QDir().mkpath(arguments[1]);
     bool complete = true;
     for (const Specimen& specimen : specimens()) {

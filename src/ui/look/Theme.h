@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QFont>
 #include <QList>
+#include <QLocale>
 #include <QObject>
 #include <QQmlEngine>
 
@@ -17,7 +18,7 @@ namespace guide {
 QFont themeFont(double pixels, QFont::Weight weight);
 
 /// The look of one window, for QML: the colours of the scheme, the fonts at the system's text size, and
-/// durations.
+/// durations; and the locale of its models.
 class Theme : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -104,6 +105,9 @@ class Theme : public QObject {
     int pictureMotion() const { return m_moves ? 120 : 0; }
     bool moves() const { return m_moves; }
 
+    const QLocale& locale() const { return m_locale; }
+    /// To be called before the first page is made.
+    void setLocale(const QLocale& locale) { m_locale = locale; }
     /// The system's scheme where unset.
     void setScheme(std::optional<ColorScheme> scheme);
     void setMoves(bool moves);
@@ -120,6 +124,7 @@ class Theme : public QObject {
     QFont font(double points, QFont::Weight weight) const;
     void followSystem();
 
+    QLocale m_locale;
     std::optional<ColorScheme> m_forcedScheme;
     ColorScheme m_scheme = ColorScheme::Light;
     double m_textScale = 1;

@@ -3,7 +3,6 @@
 #include "screens/Localized.h"
 #include "text/display/ShortTimeFormat.h"
 
-#include <QLocale>
 #include <QStringList>
 
 namespace guide {
@@ -17,32 +16,34 @@ QString joined(QStringList parts) {
     return parts.join(", "_L1);
 }
 
-QString whether(bool holds, const char* text) {
-    return holds ? Localized::tr(text) : QString();
+QString textIf(bool condition, const char* text) {
+    return condition ? Localized::tr(text) : QString();
 }
 
 QString accessoryName(Accessory accessory) {
-    return whether(accessory == Accessory::Spinner, QT_TRANSLATE_NOOP("Guide", "Loading"));
+    return textIf(accessory == Accessory::Spinner, QT_TRANSLATE_NOOP("Guide", "Loading"));
 }
 
-QString percentOf(std::optional<double> fraction) {
-    return fraction ? QLocale().toString(qRound(*fraction * 100)) + QLocale().percent() : QString();
+QString percentOf(std::optional<double> fraction, const QLocale& locale) {
+    return fraction ? locale.toString(qRound(*fraction * 100)) + locale.percent() : QString();
 }
 
 struct Name {
+    const QLocale& locale;
+
     QString operator()(const ShowRow& row) const {
         const QString times = row.endTime.isEmpty() ? row.startTime : row.startTime + u'–' + row.endTime;
-        return joined({times, row.title, whether(row.running, QT_TRANSLATE_NOOP("Guide", "On now")),
-                       whether(row.favourite, QT_TRANSLATE_NOOP("Guide", "Favourite")),
-                       whether(row.alarmed, QT_TRANSLATE_NOOP("Guide", "Alarm set")),
-                       whether(row.popular, QT_TRANSLATE_NOOP("Guide", "Popular")), row.details});
+        return joined({times, row.title, textIf(row.running, QT_TRANSLATE_NOOP("Guide", "On now")),
+                       textIf(row.favourite, QT_TRANSLATE_NOOP("Guide", "Favourite")),
+                       textIf(row.alarmed, QT_TRANSLATE_NOOP("Guide", "Alarm set")),
+                       textIf(row.popular, QT_TRANSLATE_NOOP("Guide", "Popular")), row.details});
     }
     QString operator()(const ChannelRow& row) const {
-        return joined({row.title, whether(row.checked, QT_TRANSLATE_NOOP("Guide", "Selected")),
+        return joined({row.title, textIf(row.checked, QT_TRANSLATE_NOOP("Guide", "Selected")),
                        accessoryName(row.accessory), row.subtitle});
     }
     QString operator()(const TextRow& row) const {
-        return joined({row.title, row.detail, whether(row.checked, QT_TRANSLATE_NOOP("Guide", "Selected")),
+        return joined({row.title, row.detail, textIf(row.checked, QT_TRANSLATE_NOOP("Guide", "Selected")),
                        accessoryName(row.accessory), row.subtitle});
     }
     QString operator()(const SwitchRow& row) const { return joined({row.title, row.subtitle}); }
@@ -50,25 +51,25 @@ struct Name {
         const auto chosen = static_cast<std::size_t>(row.chosen.value_or(-1));
         return joined({row.title, chosen < row.choices.size() ? row.choices[chosen] : QString()});
     }
-    QString operator()(const TimeRow& row) const { return joined({row.title, shortTime(row.time)}); }
+    QString operator()(const TimeRow& row) const { return joined({row.title, shortTime(row.time, locale)}); }
     QString operator()(const InputRow& row) const {
         return joined({row.title.isEmpty() ? row.placeholder : row.title, row.error});
     }
     QString operator()(const ButtonRow& row) const { return row.title; }
-    QString operator()(const ProgressRow& row) const { return joined({row.title, percentOf(row.fraction)}); }
+    QString operator()(const ProgressRow& row) const {
+        return joined({row.title, percentOf(row.fraction, locale)});
+    }
     QString operator()(const PictureRow& row) const { return row.description; }
 };
 
 } // namespace
 
-QString accessibleName(const RowContent& content) {
-    return std::visit(Name{}, content);
+QString accessibleName(const RowContent& content, const QLocale& locale) {
+    return std::visit(Name{locale}, content);
 }
 
-QString shortTime(const QTime& time) {
-    return time.isValid()
-               ? QLocale().toString(time, rowTimeFormat(QLocale().timeFormat(QLocale::ShortFormat)))
-               : QString();
+QString shortTime(const QTime& time, const QLocale& locale) {
+    return time.isValid() ? locale.toString(time, rowTimeFormat(locale)) : QString();
 }
 
 } // namespace guide

@@ -29,7 +29,7 @@ Page::Page(std::shared_ptr<ViewController> viewController, const ViewController*
     , m_canGoBack(below != nullptr)
     , m_symbol(symbol) {
     if (auto table = std::dynamic_pointer_cast<TableViewController>(m_viewController)) {
-        m_rows = std::make_unique<TableModel>(std::move(table), nullptr);
+        m_rows = std::make_unique<TableModel>(std::move(table), theme.locale(), nullptr);
         const auto setFonts = [this, &theme] { m_rows->setTimeFonts(theme.timeFont(), theme.endTimeFont()); };
         setFonts();
         connect(&theme, &Theme::fontsChanged, this, setFonts);

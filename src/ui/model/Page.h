@@ -43,7 +43,7 @@ class Page : public QObject, private ViewControllerObserver {
     Q_PROPERTY(QList<guide::BarButtonValue> rightButtons READ rightButtons NOTIFY buttonsUpdated)
     Q_PROPERTY(bool canRefresh READ canRefresh CONSTANT)
     Q_PROPERTY(bool refreshing READ refreshing NOTIFY refreshingUpdated)
-    /// Whether something is under way; `progress` is 0 to 1, or -1 while it is not known.
+    /// Whether work is in progress; `progress` is 0 to 1, or -1 while unknown.
     Q_PROPERTY(bool busy READ busy NOTIFY progressUpdated)
     Q_PROPERTY(double progress READ progress NOTIFY progressUpdated)
     Q_PROPERTY(bool searchable READ searchable NOTIFY searchUpdated)

@@ -3,16 +3,14 @@
 #include "ui/look/PictureUrl.h"
 #include "ui/model/AccessibleName.h"
 
-#include <QLocale>
-
 namespace guide {
 
-RowValue::RowValue(const Row& row, bool isSelected)
+RowValue::RowValue(const Row& row, bool isSelected, const QLocale& locale)
     : selectable(row.selectable)
     , selected(isSelected)
     , deletable(row.deletable)
     , movable(row.movable)
-    , accessibleName(guide::accessibleName(row.content)) {}
+    , accessibleName(guide::accessibleName(row.content, locale)) {}
 
 QUrl ShowRowValue::channelIconUrl() const {
     return pictureUrlOf(channelIcon);
@@ -39,49 +37,37 @@ QString ChoiceRowValue::chosenText() const {
     return index < choices.size() ? choices[index] : QString();
 }
 
-QString TimeRowValue::timeText() const {
-    return shortTime(time);
-}
-
 namespace {
-
-template <class Value, class Content>
-QVariant made(const Row& row, bool selected, const Content& content) {
-    return QVariant::fromValue(Value{{row, selected}, content});
-}
 
 struct Make {
     const Row& row;
     bool selected;
+    const QLocale& locale;
 
-    QVariant operator()(const ShowRow& content) const { return made<ShowRowValue>(row, selected, content); }
-    QVariant operator()(const ChannelRow& content) const {
-        return made<ChannelRowValue>(row, selected, content);
+    QVariant operator()(const ShowRow& content) const { return made<ShowRowValue>(content); }
+    QVariant operator()(const ChannelRow& content) const { return made<ChannelRowValue>(content); }
+    QVariant operator()(const TextRow& content) const { return made<TextRowValue>(content); }
+    QVariant operator()(const SwitchRow& content) const { return made<SwitchRowValue>(content); }
+    QVariant operator()(const ChoiceRow& content) const { return made<ChoiceRowValue>(content); }
+    QVariant operator()(const TimeRow& content) const {
+        return made<TimeRowValue>(content, shortTime(content.time, locale));
     }
-    QVariant operator()(const TextRow& content) const { return made<TextRowValue>(row, selected, content); }
-    QVariant operator()(const SwitchRow& content) const {
-        return made<SwitchRowValue>(row, selected, content);
-    }
-    QVariant operator()(const ChoiceRow& content) const {
-        return made<ChoiceRowValue>(row, selected, content);
-    }
-    QVariant operator()(const TimeRow& content) const { return made<TimeRowValue>(row, selected, content); }
-    QVariant operator()(const InputRow& content) const { return made<InputRowValue>(row, selected, content); }
-    QVariant operator()(const ButtonRow& content) const {
-        return made<ButtonRowValue>(row, selected, content);
-    }
-    QVariant operator()(const ProgressRow& content) const {
-        return made<ProgressRowValue>(row, selected, content);
-    }
-    QVariant operator()(const PictureRow& content) const {
-        return made<PictureRowValue>(row, selected, content);
+    QVariant operator()(const InputRow& content) const { return made<InputRowValue>(content); }
+    QVariant operator()(const ButtonRow& content) const { return made<ButtonRowValue>(content); }
+    QVariant operator()(const ProgressRow& content) const { return made<ProgressRowValue>(content); }
+    QVariant operator()(const PictureRow& content) const { return made<PictureRowValue>(content); }
+
+  private:
+    template <class Value, class... Fields>
+    QVariant made(Fields... fields) const {
+        return QVariant::fromValue(Value{{row, selected, locale}, std::move(fields)...});
     }
 };
 
 } // namespace
 
-QVariant rowValue(const Row& row, bool selected) {
-    return std::visit(Make{row, selected}, row.content);
+QVariant rowValue(const Row& row, bool selected, const QLocale& locale) {
+    return std::visit(Make{row, selected, locale}, row.content);
 }
 
 } // namespace guide

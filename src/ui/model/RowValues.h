@@ -3,6 +3,7 @@
 #include "screens/kit/Row.h"
 #include "screens/kit/Table.h"
 
+#include <QLocale>
 #include <QObject>
 #include <QQmlEngine>
 #include <QStringList>
@@ -13,7 +14,7 @@
 namespace guide {
 
 /// What QML sees of a row, whatever its kind: the role `row`. One type per kind adds the fields of the kit's
-/// struct. Values are copies, so that a delegate never looks into a table that is changing.
+/// struct. Values are copies, so that a delegate never reads a table that is changing.
 struct RowValue {
     Q_GADGET
     Q_PROPERTY(bool selectable MEMBER selectable CONSTANT FINAL)
@@ -24,7 +25,7 @@ struct RowValue {
 
   public:
     RowValue() = default;
-    RowValue(const Row& row, bool isSelected);
+    RowValue(const Row& row, bool isSelected, const QLocale& locale);
 
     bool selectable = false;
     bool selected = false;
@@ -133,15 +134,16 @@ struct TimeRowValue : RowValue, TimeRow {
     Q_GADGET
     QML_VALUE_TYPE(timeRow)
     Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
-    Q_PROPERTY(QString timeText READ timeText CONSTANT FINAL)
+    Q_PROPERTY(QString timeText MEMBER timeText CONSTANT FINAL)
     Q_PROPERTY(int hour READ hour CONSTANT FINAL)
     Q_PROPERTY(int minute READ minute CONSTANT FINAL)
     Q_PROPERTY(bool enabled MEMBER enabled CONSTANT FINAL)
 
   public:
-    QString timeText() const;
     int hour() const { return time.hour(); }
     int minute() const { return time.minute(); }
+
+    QString timeText;
 
     friend bool operator==(const TimeRowValue&, const TimeRowValue&) = default;
 };
@@ -179,7 +181,7 @@ struct ProgressRowValue : RowValue, ProgressRow {
     Q_GADGET
     QML_VALUE_TYPE(progressRow)
     Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
-    /// -1 while it is not known.
+    /// -1 while unknown.
     Q_PROPERTY(double fraction READ shownFraction CONSTANT FINAL)
 
   public:
@@ -227,6 +229,6 @@ struct SectionValue {
 };
 
 /// The row as the value type of its kind.
-QVariant rowValue(const Row& row, bool selected);
+QVariant rowValue(const Row& row, bool selected, const QLocale& locale);
 
 } // namespace guide

@@ -17,9 +17,10 @@ constexpr double kBetweenTimes = 4;
 
 } // namespace
 
-TableModel::TableModel(std::shared_ptr<TableViewController> viewController, QObject* parent)
+TableModel::TableModel(std::shared_ptr<TableViewController> viewController, QLocale locale, QObject* parent)
     : QAbstractListModel(parent)
-    , m_viewController(std::move(viewController)) {
+    , m_viewController(std::move(viewController))
+    , m_locale(std::move(locale)) {
     indexSections();
     measureTimes(0, table().rowCount());
     m_viewController->table().setObserver(this);
@@ -44,7 +45,7 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     case SectionRole:
         return sectionValue(index.row());
     case RowRole:
-        return rowValue(row, table().selectedRow() == row.id);
+        return rowValue(row, table().selectedRow() == row.id, m_locale);
     default:
         return {};
     }
@@ -81,7 +82,7 @@ QVariant TableModel::sectionValue(int index) const {
     value.header = section.header;
     value.footer = section.footer;
     value.tiles = section.layout == SectionLayout::Tiles;
-    // While changes are being announced this is the place of before; tableDidChange() makes up for it.
+    // While changes are being announced this is the old place; tableDidChange() announces the new one.
     const auto next = std::ranges::upper_bound(m_starts, index);
     if (next != m_starts.end()) {
         value.place = index - *std::prev(next);
@@ -168,7 +169,7 @@ void TableModel::tableWillChange() {
 void TableModel::tableDidChange() {
     if (std::exchange(m_structureChanged, false)) {
         indexSections();
-        // The places of rows in their sections; a view reads those of the rows in sight.
+        // The places of rows in their sections changed. A view reads only those of visible rows.
         if (table().rowCount() > 0) {
             Q_EMIT dataChanged(index(0), index(table().rowCount() - 1), {SectionRole});
         } else {
@@ -237,8 +238,8 @@ void TableModel::setTimeFonts(const QFont& startFont, const QFont& endFont) {
     measureColumn();
 }
 
-// The column grows with the rows that come, and starts anew when the table is emptied: times of one locale
-// are of about one length, and a column that shrank would move every title.
+// The column grows with new rows and is reset when the table is emptied. Times of one locale have about the
+// same length, and a shrinking column would move every title.
 void TableModel::measureTimes(int first, int count) {
     const auto keepLonger = [](QString& longest, const QString& text) {
         if (text.size() > longest.size()) {

@@ -4,6 +4,7 @@
 
 #include <QAbstractListModel>
 #include <QFont>
+#include <QLocale>
 #include <QQmlEngine>
 #include <QStringList>
 
@@ -55,7 +56,7 @@ class TableModel : public QAbstractListModel, private TableObserver {
         RowRole,
     };
 
-    TableModel(std::shared_ptr<TableViewController> viewController, QObject* parent);
+    TableModel(std::shared_ptr<TableViewController> viewController, QLocale locale, QObject* parent);
     ~TableModel() override;
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -88,23 +89,23 @@ class TableModel : public QAbstractListModel, private TableObserver {
         send(index, TextEdited{text, finished});
     }
     Q_INVOKABLE void remove(int index) { send(index, Deleted{}); }
-    /// Moves a row before the one at `next`, which counts the rows as they are; true when both are rows of
-    /// one section, or `next` is just past its end.
+    /// Moves a row before the one at `next`, an index before the move. Possible when both are rows of one
+    /// section, or `next` is just past its end.
     Q_INVOKABLE bool canMoveBefore(int index, int next) const;
     Q_INVOKABLE void moveBefore(int index, int next);
 
-    /// What can be done with the row; performed by its number until the next call.
+    /// The actions on the row. performAction() takes an index into the latest answer.
     Q_INVOKABLE QList<guide::RowActionValue> actions(int index);
     Q_INVOKABLE void performAction(int action);
     Q_INVOKABLE void pressEmptyButton() { m_viewController->pressEmptyNoteButton(); }
-    /// The row came into sight, or changed while in sight.
+    /// The row became visible, or changed while visible.
     Q_INVOKABLE void shown(int index);
 
     /// The first row of the section with that mark of the index strip.
     Q_INVOKABLE int rowOfIndexTitle(int mark) const;
 
   Q_SIGNALS:
-    /// Around all changes that come together.
+    /// Emitted before and after all changes that belong together.
     void aboutToChange();
     void hasChanged();
     void timeColumnChanged();
@@ -136,13 +137,14 @@ class TableModel : public QAbstractListModel, private TableObserver {
     void measureColumn();
 
     const std::shared_ptr<TableViewController> m_viewController;
-    /// The number of the first row of each section, then that of all rows.
+    const QLocale m_locale;
+    /// The index of the first row of each section, then the number of all rows.
     std::vector<int> m_starts;
     bool m_structureChanged = false;
     int m_insertedFirst = 0;
     int m_insertedCount = 0;
     std::vector<RowAction> m_actions;
-    /// The longest times so far; digits are of one width, so that the longest text is the widest.
+    /// The longest times so far. Digits have equal widths, so the longest text is the widest.
     QString m_longestStart;
     QString m_longestEnd;
     QFont m_startFont;
