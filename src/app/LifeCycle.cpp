@@ -40,6 +40,7 @@ void QuellinGuideAppDelegate::applicationDidReceiveMemoryWarning() {
     }
     m_listings->commitFiles();
     m_icons->dropIcons();
+    m_pictureCache.clear();
     m_environment.responseCache.setMemoryCapacity(0);
     m_environment.responseCache.setMemoryCapacity(m_environment.responseCacheCapacity);
 }

@@ -47,6 +47,14 @@ void ShowPictureCache::forgetChannel(const ObjectId& channel) {
     }
 }
 
+void ShowPictureCache::clear() {
+    const std::lock_guard lock(m_guard);
+    m_byName.clear();
+    m_byShow.clear();
+    m_pictures.clear();
+    m_bytes = 0;
+}
+
 QImage ShowPictureCache::image(const QString& name) {
     const std::lock_guard lock(m_guard);
     const auto found = m_byName.constFind(name);

@@ -29,6 +29,7 @@ class ShowPictureCache {
     /// A null image records that the show has no picture. A picture that replaces another one gets a new key.
     void insert(const ObjectId& channel, const QString& showIdentifier, const QImage& image);
     void forgetChannel(const ObjectId& channel);
+    void clear();
 
     /// The image of a key's name; null when it was dropped.
     QImage image(const QString& name);

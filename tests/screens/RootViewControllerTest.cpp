@@ -233,6 +233,13 @@ TEST_F(RootViewControllerTest, LoadsThePicturesOfDisplayedRowsOnce) {
     EXPECT_TRUE(showAt(table(), 2).picture.empty());
     EXPECT_FALSE(showAt(table(), 3).picture.empty()) << "all shows with the same title share the picture";
 
+    world.pictures.pictures.clear();
+    world.pictureCache.clear();
+    display(1);
+    world.clock.advance(200ms);
+    world.queues.runAll();
+    EXPECT_EQ(world.pictures.pictures.size(), 1U) << "the cache dropped it";
+
     world.load(channel, {{-5, 5, u"A"_s}});
     EXPECT_TRUE(showAt(table(), 1).picture.empty()) << "a fresh list drops the pictures of the old one";
 }

@@ -69,7 +69,7 @@ TEST(ShowRowIdsTest, ShowsOfOneChannelThatStartTogetherDiffer) {
     EXPECT_EQ(findShow(shows, {two, ids[3].show()->start, 0}), nullptr);
 }
 
-TEST(ShowPictureCacheTest, KeepsTheImagesUsedLast) {
+TEST(ShowPictureCacheTest, KeepsTheMostRecentlyUsedImages) {
     const ObjectId channel = ObjectId::fromHex(u"000000000000000000000001"_s);
     QImage image(50, 50, QImage::Format_RGB32);
     ShowPictureCache cache(25'000);
@@ -91,6 +91,12 @@ TEST(ShowPictureCacheTest, KeepsTheImagesUsedLast) {
     EXPECT_TRUE(pictures.picture({PictureKey::Kind::ChannelIcon, u"x"_s}, {}).isNull());
     cache.forgetChannel(channel);
     EXPECT_FALSE(cache.find(channel, u"none"_s));
+    cache.insert(channel, u"a"_s, image);
+    cache.clear();
+    EXPECT_FALSE(cache.find(channel, u"a"_s));
+    cache.insert(channel, u"a"_s, image);
+    cache.insert(channel, u"b"_s, image);
+    EXPECT_TRUE(cache.find(channel, u"a"_s)) << "there is room for two again";
 }
 
 } // namespace

@@ -129,7 +129,7 @@ bool RootViewController::takeList(const ObjectId& channel, const ShowSpan& entri
         return false;
     }
     m_environment->pictureCache.forgetChannel(channel);
-    m_askedPictures.erase(channel);
+    m_loadingPictures.erase(channel);
     shown->entries = entries.items();
     return true;
 }
@@ -290,11 +290,11 @@ void RootViewController::rowWillBeDisplayed(const RowId& id) {
 
 void RootViewController::loadPicture(const QUrl& url, const ObjectId& channel,
                                      const QString& showIdentifier) {
-    QSet<QString>& asked = m_askedPictures[channel];
-    if (asked.contains(showIdentifier)) {
+    QSet<QString>& loading = m_loadingPictures[channel];
+    if (loading.contains(showIdentifier)) {
         return;
     }
-    asked.insert(showIdentifier);
+    loading.insert(showIdentifier);
     m_environment->mainQueue.asyncAfter(
         kPictureDelay, [weak = weakFromThis<RootViewController>(), url, channel, showIdentifier] {
             const auto self = weak.lock();
@@ -303,6 +303,11 @@ void RootViewController::loadPicture(const QUrl& url, const ObjectId& channel,
             }
             self->m_environment->pictures.asyncLoadOfShowImageAtURL(
                 url, {weak, [raw = self.get(), channel, showIdentifier](const QImage& image) {
+                          // The cache has the answer from now on, and may drop it.
+                          if (const auto shows = raw->m_loadingPictures.find(channel);
+                              shows != raw->m_loadingPictures.end()) {
+                              shows->second.remove(showIdentifier);
+                          }
                           raw->setShowImage(image, channel, showIdentifier);
                       }});
         });

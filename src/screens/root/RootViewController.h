@@ -88,8 +88,8 @@ class RootViewController final : public ListingsScreen {
 
     const std::shared_ptr<const ScreenEnvironment> m_environment;
     std::vector<Channel> m_channels;
-    /// By channel, the identifiers of the shows whose pictures were requested.
-    std::unordered_map<ObjectId, QSet<QString>> m_askedPictures;
+    /// By channel, the identifiers of the shows whose pictures are being loaded.
+    std::unordered_map<ObjectId, QSet<QString>> m_loadingPictures;
     std::unordered_set<ObjectId> m_channelsWithLoadedShowDetails;
     bool m_modifiedSelectedChannels = false;
     LatestAnswer m_rebuild;
