@@ -136,6 +136,42 @@ TEST(NavigationControllerTest, OnlyTheTopOfAVisibleStackAppears) {
     EXPECT_TRUE(events.isEmpty());
 }
 
+TEST(NavigationControllerTest, ScreensSideBySideAreBothVisible) {
+    QStringList events;
+    const auto screen = [&events](const QString& name) { return std::make_shared<Screen>(name, events); };
+    const auto root = screen(u"root"_s);
+    const auto one = screen(u"one"_s);
+    NavigationController stack(root, UserInterfaceIdiom::Tablet);
+    stack.setSideBySide(true);
+    stack.setVisible(true);
+    root->table().setSections({{.id = u"s"_s, .rows = {{.id = {u"s"_s, u"row"_s}}}}});
+    root->table().selectRow({u"s"_s, u"row"_s});
+    const struct {
+        const char* name;
+        std::function<void()> change;
+        QString events;
+    } cases[] = {
+        {"the lower one stays", [&] { stack.push(one); }, u"one loads, one appears"_s},
+        {"a third one hides the lowest", [&] { stack.push(screen(u"two"_s)); },
+         u"two loads, two appears, root disappears"_s},
+        {"another one from the left", [&] { stack.pushFrom(*one, screen(u"three"_s)); },
+         u"three loads, three appears, two disappears"_s},
+        {"a narrower window", [&] { stack.setSideBySide(false); }, u"one disappears"_s},
+        {"a wider window", [&] { stack.setSideBySide(true); }, u"one appears"_s},
+        {"another tab", [&] { stack.setVisible(false); }, u"one disappears, three disappears"_s},
+        {"and back", [&] { stack.setVisible(true); }, u"one appears, three appears"_s},
+        {"back by one", [&] { stack.pop(); }, u"root appears, three disappears"_s},
+        {"to the root", [&] { stack.pop(); }, u"one disappears"_s},
+    };
+    for (const auto& each : cases) {
+        EXPECT_TRUE(root->table().selectedRow()) << each.name;
+        events.clear();
+        each.change();
+        EXPECT_EQ(events.join(u", "_s), each.events) << each.name;
+    }
+    EXPECT_FALSE(root->table().selectedRow()) << "what it opened is closed";
+}
+
 TEST(NavigationControllerTest, PopoversAndSheetsHaveTheirOwnStacks) {
     QStringList events;
     const auto screen = [&events](const QString& name) { return std::make_shared<Screen>(name, events); };

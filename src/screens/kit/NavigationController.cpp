@@ -1,5 +1,6 @@
 #include "screens/kit/NavigationController.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace guide {
@@ -34,18 +35,9 @@ void NavigationController::show(std::shared_ptr<ViewController> viewController, 
 
 void NavigationController::push(std::shared_ptr<ViewController> viewController) {
     dismissPresented();
-    const std::shared_ptr<ViewController> covered = topViewController();
-    viewController->m_navigationController = this;
-    m_stack.push_back(std::move(viewController));
-    if (m_visible) {
-        topViewController()->appear();
-    }
-    if (m_observer) {
-        m_observer->pushed();
-    }
-    if (m_visible) {
-        covered->disappear();
-    }
+    const Screens before = visibleScreens();
+    put(std::move(viewController), before);
+    letDisappear(before);
 }
 
 void NavigationController::pushFrom(const ViewController& opener,
@@ -53,16 +45,89 @@ void NavigationController::pushFrom(const ViewController& opener,
     if (!shows(opener)) {
         return;
     }
+    dismissPresented();
+    // As one change, so that a screen that is visible only between the two steps does not appear.
+    const Screens before = visibleScreens();
     if (topViewController().get() != &opener) {
-        pop();
+        take(m_stack.size() - 1);
+        if (m_observer) {
+            m_observer->popped(1);
+        }
     }
-    push(std::move(viewController));
+    put(std::move(viewController), before);
+    letDisappear(before);
+}
+
+void NavigationController::put(std::shared_ptr<ViewController> viewController, const Screens& before) {
+    viewController->m_navigationController = this;
+    m_stack.push_back(std::move(viewController));
+    letAppear(before);
+    if (m_observer) {
+        m_observer->pushed();
+    }
+}
+
+void NavigationController::take(std::size_t count) {
+    for (std::size_t index = count; index < m_stack.size(); ++index) {
+        m_stack[index]->m_navigationController = nullptr;
+    }
+    m_stack.resize(count);
 }
 
 bool NavigationController::shows(const ViewController& viewController) const {
-    return topViewController().get() == &viewController ||
-           (m_sideBySide && m_stack.size() > 1 && m_stack[m_stack.size() - 2].get() == &viewController);
+    return std::ranges::any_of(
+        topScreens(), [&viewController](const auto& screen) { return screen.get() == &viewController; });
 }
+
+// ---- appearing and disappearing
+
+NavigationController::Screens NavigationController::topScreens() const {
+    const std::ptrdiff_t count = m_sideBySide && m_stack.size() > 1 ? 2 : 1;
+    return {m_stack.end() - count, m_stack.end()};
+}
+
+NavigationController::Screens NavigationController::visibleScreens() const {
+    return m_visible ? topScreens() : Screens();
+}
+
+void NavigationController::letAppear(const Screens& before) {
+    for (const auto& screen : visibleScreens()) {
+        if (std::ranges::find(before, screen) == before.end()) {
+            screen->appear();
+        }
+    }
+}
+
+void NavigationController::letDisappear(const Screens& before) {
+    const Screens now = visibleScreens();
+    for (const auto& screen : before) {
+        if (std::ranges::find(now, screen) == now.end()) {
+            screen->disappear();
+        }
+    }
+}
+
+void NavigationController::setSideBySide(bool sideBySide) {
+    const Screens before = visibleScreens();
+    m_sideBySide = sideBySide;
+    letAppear(before);
+    letDisappear(before);
+}
+
+void NavigationController::setVisible(bool visible) {
+    if (visible == m_visible) {
+        return;
+    }
+    const Screens before = visibleScreens();
+    m_visible = visible;
+    letAppear(before);
+    letDisappear(before);
+    if (m_presented) {
+        m_presented->setVisible(visible);
+    }
+}
+
+// ---- closing
 
 void NavigationController::pop() {
     popTo(m_stack.size() - 1);
@@ -77,20 +142,16 @@ void NavigationController::popTo(std::size_t count) {
     if (count < 1 || count >= m_stack.size()) {
         return;
     }
+    const Screens before = visibleScreens();
     const std::size_t gone = m_stack.size() - count;
-    const std::shared_ptr<ViewController> top = topViewController();
-    for (std::size_t index = count; index < m_stack.size(); ++index) {
-        m_stack[index]->m_navigationController = nullptr;
-    }
-    m_stack.resize(count);
-    if (m_visible) {
-        topViewController()->appear();
-    }
+    take(count);
+    letAppear(before);
     if (m_observer) {
         m_observer->popped(static_cast<int>(gone));
     }
-    if (m_visible) {
-        top->disappear();
+    letDisappear(before);
+    if (std::ranges::find(before, topViewController()) != before.end()) {
+        topViewController()->screenBesideClosed();
     }
 }
 
@@ -109,22 +170,6 @@ void NavigationController::dismissPresented() {
         }
         gone->dismissPresented();
         gone->setVisible(false);
-    }
-}
-
-void NavigationController::setVisible(bool visible) {
-    if (visible == m_visible) {
-        return;
-    }
-    m_visible = visible;
-    const std::shared_ptr<ViewController> top = topViewController();
-    if (visible) {
-        top->appear();
-    } else {
-        top->disappear();
-    }
-    if (m_presented) {
-        m_presented->setVisible(visible);
     }
 }
 

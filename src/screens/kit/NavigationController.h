@@ -23,8 +23,9 @@ class NavigationObserver {
     virtual void dismissed() = 0;
 };
 
-/// A stack of screens, never empty, of which the top one is visible. It can present a second stack in a
-/// popover or a sheet, whose screens push within it. Main queue.
+/// A stack of screens, never empty, of which the top one is visible, and on a wide window also the one below
+/// it. Screens appear when they become visible and disappear when they no longer are. It can present a second
+/// stack in a popover or a sheet, whose screens push within it. Main queue.
 class NavigationController {
   public:
     NavigationController(std::shared_ptr<ViewController> root, UserInterfaceIdiom idiom);
@@ -53,14 +54,26 @@ class NavigationController {
     /// which destroys it.
     void dismiss();
 
-    /// The top screen, and what is presented, appear and disappear with the stack.
+    /// What is presented becomes visible and invisible with the stack.
     void setVisible(bool visible);
     /// Whether the window shows the screen below the top one beside it.
-    void setSideBySide(bool sideBySide) { m_sideBySide = sideBySide; }
+    void setSideBySide(bool sideBySide);
     /// Whether it is the top screen, or the one beside it.
     bool shows(const ViewController& viewController) const;
 
   private:
+    using Screens = std::vector<std::shared_ptr<ViewController>>;
+
+    /// The screens that are visible while the stack is, from the lower one up.
+    Screens topScreens() const;
+    Screens visibleScreens() const;
+    /// Called after a change, with the screens that were visible before it.
+    void letAppear(const Screens& before);
+    void letDisappear(const Screens& before);
+
+    void put(std::shared_ptr<ViewController> viewController, const Screens& before);
+    /// Keeps `count` screens.
+    void take(std::size_t count);
     void popTo(std::size_t count);
     void dismissPresented();
 

@@ -27,6 +27,9 @@ class TableViewController : public ViewController {
     void rowDisplayed(const RowId& id);
     void pressEmptyNoteButton();
 
+    /// The selected row is the one that opened the closed screen.
+    void screenBesideClosed() override { m_table.deselectRow(); }
+
   protected:
     virtual void rowEvent(const RowId&, const RowEvent&) {}
     virtual std::vector<RowAction> actionsForRow(const RowId&) { return {}; }

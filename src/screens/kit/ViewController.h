@@ -80,6 +80,8 @@ class ViewController : public std::enable_shared_from_this<ViewController> {
     void loadViewIfNeeded();
     void appear();
     void disappear();
+    /// The screen that was opened from this one, and shown beside it, was closed.
+    virtual void screenBesideClosed() {}
 
   protected:
     /// Once, before the screen appears for the first time.
