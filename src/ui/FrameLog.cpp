@@ -32,10 +32,10 @@ FrameLog::FrameLog(QQuickWindow& window, std::function<bool()> filled)
 }
 
 void FrameLog::drawn() {
-    if (!std::exchange(m_toldFirst, true)) {
+    if (!std::exchange(m_loggedFirst, true)) {
         qCDebug(framesLog, "first frame, %s", rendererName(m_window));
     }
-    if (m_nextIsFilled && !std::exchange(m_toldFilled, true)) {
+    if (m_nextIsFilled && !std::exchange(m_loggedFilled, true)) {
         qCDebug(framesLog, "filled frame, %s", rendererName(m_window));
     }
 }

@@ -8,11 +8,11 @@
 
 namespace guide {
 
-/// Tells the log when the first frame of a window has been drawn, and when the first one that is filled, each
-/// with the renderer's name. Only where the category "guide.frames" is turned on; it costs nothing otherwise.
+/// Logs when the first frame of a window has been drawn, and when the first filled one has been, each with
+/// the renderer's name. Costs nothing unless the category "guide.frames" is enabled.
 class FrameLog {
   public:
-    /// `filled`, asked on the main thread, is whether the next frame shows what the window is there for.
+    /// `filled` is called on the main thread and returns whether the next frame shows complete content.
     FrameLog(QQuickWindow& window, std::function<bool()> filled);
     FrameLog(const FrameLog&) = delete;
     FrameLog& operator=(const FrameLog&) = delete;
@@ -23,8 +23,8 @@ class FrameLog {
     QQuickWindow& m_window;
     const std::function<bool()> m_filled;
     std::atomic<bool> m_nextIsFilled{false};
-    bool m_toldFirst = false;
-    bool m_toldFilled = false;
+    bool m_loggedFirst = false;
+    bool m_loggedFilled = false;
 };
 
 } // namespace guide

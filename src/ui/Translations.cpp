@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 void installTranslations(const QLocale& locale) {
     auto* translator = new QTranslator(QCoreApplication::instance());
-    // Only the first language counts: a user whose first language is English gets no other one of their list.
+    // Only the first language counts: a user who prefers English gets English, not the next language listed.
     const QString name = u"quellin_"_s + QLocale::languageToCode(locale.language());
     if (translator->load(name, u":/translations"_s)) {
         QCoreApplication::installTranslator(translator);

@@ -63,7 +63,7 @@ TEST_P(GuideWindowTest, DrawsTheRowsAndTheTabs) {
     EXPECT_EQ(visibility, QList<bool>{true});
 }
 
-TEST_P(GuideWindowTest, ThePlaceInTheListStays) {
+TEST_P(GuideWindowTest, TheScrollPositionStays) {
     open();
     rows()->setProperty("contentY", 700);
     settle();
@@ -79,7 +79,7 @@ TEST_P(GuideWindowTest, ThePlaceInTheListStays) {
     EXPECT_EQ(rows()->property("count").toInt(), top().table().rowCount());
 }
 
-TEST_P(GuideWindowTest, TheKeyboardOpensAChannelAndLeadsBack) {
+TEST_P(GuideWindowTest, TheKeyboardOpensAChannelAndGoesBack) {
     open();
     rows()->forceActiveFocus(Qt::TabFocusReason);
     QTest::keyClick(quickWindow, Qt::Key_Down);
@@ -112,7 +112,7 @@ TEST_P(GuideWindowTest, APullAtTheTopRefreshesAChannel) {
         drag(top, {0, 90}, byFinger);
         EXPECT_FALSE(world.top().refreshing()) << "not far enough";
         drag(top, {-180, 160}, byFinger);
-        EXPECT_FALSE(world.top().refreshing()) << "aside";
+        EXPECT_FALSE(world.top().refreshing()) << "sideways";
         drag(top, {0, 400}, byFinger, [this] {
             const QQuickItem* sign = nullptr;
             for (QQuickItem* item : itemsWith("objectName")) {
@@ -144,7 +144,7 @@ TEST_P(GuideWindowTest, ASwipeUncoversTheActionsOnAShow) {
     for (const bool byFinger : {false, true}) {
         SCOPED_TRACE(byFinger ? "finger" : "mouse");
         drag(middle(row(0)), {-200, 0}, byFinger);
-        EXPECT_TRUE(offered().isEmpty()) << "a channel's own row has nothing to offer";
+        EXPECT_TRUE(offered().isEmpty()) << "the channel's row has no actions";
         drag(middle(row(1)), {-200, 40}, byFinger);
         ASSERT_EQ(offered().size(), 2);
         EXPECT_EQ(rows()->property("contentY").toDouble(), rows()->property("originY").toDouble());
@@ -195,7 +195,7 @@ TEST_P(GuideWindowTest, TabTitlesFitTheirLinesAtAnyTextSize) {
     settle();
 }
 
-TEST_P(GuideWindowTest, AScreenThatOpensInAHiddenTabLeavesTheKeyboardAlone) {
+TEST_P(GuideWindowTest, AScreenThatOpensInAHiddenTabDoesNotTakeTheFocus) {
     open();
     rows()->forceActiveFocus(Qt::TabFocusReason);
     tapFirstRow();
@@ -211,7 +211,8 @@ TEST_P(GuideWindowTest, AScreenThatOpensInAHiddenTabLeavesTheKeyboardAlone) {
     ASSERT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 2U);
     QTest::keyClick(quickWindow, Qt::Key_Escape);
     settle();
-    EXPECT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 1U) << "it has it now";
+    EXPECT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 1U)
+        << "it has the focus now";
 }
 
 TEST_P(GuideWindowTest, DayHeadersFollowTheirRows) {
@@ -219,7 +220,7 @@ TEST_P(GuideWindowTest, DayHeadersFollowTheirRows) {
     tapFirstRow();
     world.queues.runAll();
     settle();
-    // In the morning nothing of the first day is left.
+    // The next morning all shows of the first day are over.
     world.clock.set(world.begin + 12h);
     world.broadcast->reloadData();
     world.queues.runAll();
@@ -249,7 +250,7 @@ TEST_P(GuideWindowTest, AnAlertIsAnsweredByKeyboard) {
     settle();
     QTest::keyClick(quickWindow, Qt::Key_Tab);
     QTest::keyClick(quickWindow, Qt::Key_Return);
-    EXPECT_EQ(pressed, 2) << "whatever opens behind the alert";
+    EXPECT_EQ(pressed, 2) << "even when a screen opens behind the alert";
     EXPECT_EQ(world.tabs->presentedAlert(), nullptr);
 }
 
@@ -271,7 +272,7 @@ TEST_P(GuideWindowTest, FollowsTheSystemsSchemeUnlessForced) {
     settle();
 }
 
-TEST_P(GuideWindowTest, ReportsItsVisibilityAndItsEnd) {
+TEST_P(GuideWindowTest, ReportsItsVisibilityAndThatItIsClosed) {
     open();
     quickWindow->hide();
     quickWindow->show();

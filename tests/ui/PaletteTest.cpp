@@ -31,13 +31,22 @@ TEST(PaletteTest, EveryTextIsReadableOnEverySurface) {
         const std::vector<std::pair<const char*, QColor>> surfaces{
             {"background", palette.background},
             {"grouped background", palette.groupedBackground},
-            {"pressed", palette.pressed}};
+            {"pressed", palette.pressed},
+            {"raised", palette.raised}};
         for (const auto& [text, color] : texts) {
             for (const auto& [surface, below] : surfaces) {
                 EXPECT_GE(contrast(color, below), 4.5)
                     << text << " on " << surface << (scheme == ColorScheme::Dark ? ", dark" : ", light");
             }
         }
+        for (const QColor& surface : {palette.background, palette.groupedBackground, palette.raised}) {
+            EXPECT_GE(contrast(palette.fieldBorder, surface), 3) << "the outline of a field";
+        }
+        for (const QColor& action : {palette.tint, palette.favourite, palette.alarm}) {
+            EXPECT_GE(contrast(palette.background, action), 4.5) << "the title of a swipe action";
+        }
+        EXPECT_GE(contrast(palette.tintOnLabel, palette.label), 4.5);
+        EXPECT_GE(contrast(palette.onTint, palette.tint), 4.5);
         EXPECT_GE(contrast(palette.onAlarm, palette.alarm), 4.5);
         EXPECT_GE(contrast(palette.tint, palette.tintedFill), 4.5);
         EXPECT_GE(contrast(palette.running, palette.separator), 3) << "a bar against its track";

@@ -1,4 +1,4 @@
-// What the drawing of a table keeps while the table changes, and what it reports of the user's actions.
+// How a drawn table behaves while its rows change, and which events it reports.
 #include "WindowTest.h"
 #include "fakes/ManualQueues.h"
 #include "gallery/GalleryRows.h"
@@ -19,6 +19,8 @@ class Screen final : public TableViewController {
   public:
     explicit Screen(std::vector<Section> sections = {}) { table().setSections(std::move(sections)); }
 
+    using ViewController::setLeftBarButtons;
+    using ViewController::setRightBarButtons;
     using ViewController::setSearchField;
 
     void setText(int row, const RowContent& content) {
@@ -70,7 +72,7 @@ class TableWindowTest : public WindowTest {
         screen = std::make_shared<Screen>(std::move(sections));
         tabs = std::make_unique<TabBarController>(idiom, queues.mainQueue());
         tabs->addTab({u"One"_s}, screen);
-        openWindow(*tabs, {.form = idiom, .size = size, .motion = false, .pictures = &pictures});
+        openWindow(*tabs, {.form = idiom, .size = size, .motion = false, .pictures = provider});
     }
     void TearDown() override {
         WindowTest::TearDown();
@@ -81,6 +83,7 @@ class TableWindowTest : public WindowTest {
     ManualClock clock;
     ManualQueues queues{clock};
     GalleryPictures pictures;
+    PictureProvider* provider = &pictures;
     std::shared_ptr<Screen> screen;
     std::unique_ptr<TabBarController> tabs;
 };
@@ -102,7 +105,7 @@ TEST_F(TableWindowTest, ASwipeStaysOpenWhileOtherRowsChange) {
     EXPECT_EQ(buttons({u"Remove"_s}).constFirst()->mapToScene({}).y(), place);
     screen->setText(4, TextRow{u"Changed"_s});
     settle();
-    EXPECT_FALSE(open()) << "the actions may not fit what the row is now";
+    EXPECT_FALSE(open()) << "the actions may no longer apply to the row";
 }
 
 TEST_F(TableWindowTest, WhatIsBeingTypedSurvivesUpdates) {
@@ -126,7 +129,7 @@ TEST_F(TableWindowTest, WhatIsBeingTypedSurvivesUpdates) {
     settle();
     EXPECT_EQ(field->property("text"), u"oldx"_s);
     EXPECT_TRUE(field->hasActiveFocus());
-    // The row stays even while it is out of sight.
+    // The row is kept even while it is not visible.
     rows()->setProperty("contentY", 10'000);
     settle();
     EXPECT_TRUE(field->hasActiveFocus());
@@ -141,7 +144,7 @@ TEST_F(TableWindowTest, WhatIsBeingTypedSurvivesUpdates) {
     EXPECT_EQ(field->property("text"), u"accepted"_s);
 }
 
-TEST_F(TableWindowTest, ThePlaceStaysWhateverChangesAboveIt) {
+TEST_F(TableWindowTest, TheScrollPositionStaysWhenRowsAboveChange) {
     open(lines(60));
     rows()->setProperty("contentY", 1500);
     settle();
@@ -186,9 +189,8 @@ TEST_F(TableWindowTest, ThePlaceStaysWhateverChangesAboveIt) {
     }
 }
 
-TEST_F(TableWindowTest, ALongListReusesItsItemsAndKeepsItsPlace) {
+TEST_F(TableWindowTest, ALongListShowsTheRightRowsAtEveryPosition) {
     open(lines(500));
-    const QList<QQuickItem*> before = itemsWith("swiped");
     for (int y = 0; y < 20'000; y += 350) {
         rows()->setProperty("contentY", y);
         settle();
@@ -272,6 +274,34 @@ TEST_F(TableWindowTest, RowsAreDeletedAndReorderedInEditMode) {
     EXPECT_EQ(screen->of<Deleted>().size(), 2U);
 }
 
+TEST_F(TableWindowTest, ARowThatIsDraggedToAnEdgeScrollsTheList) {
+    std::vector<Section> sections = lines(60);
+    for (Row& row : sections[0].rows) {
+        row.movable = true;
+    }
+    open(sections);
+    screen->table().setEditing(true);
+    settle();
+    const auto top = [this] { return rows()->property("contentY").toDouble(); };
+    const auto handle = [this](int index) {
+        return middle(row(index)) + QPoint(int(rows()->width() / 2) - 30, 0);
+    };
+    const QPoint second = handle(2);
+    drag(second, QPoint(0, int(rows()->height()) - 20), true, [&] {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return top() > 1500; })) << "further than the list keeps its items";
+    });
+    ASSERT_EQ(screen->of<MovedBefore>().size(), 1U);
+    EXPECT_EQ(screen->sent[0].row, u"2"_s);
+    EXPECT_GT(screen->of<MovedBefore>()[0].next->name()->toInt(), 30);
+
+    const int lower = rowAtTop()->property("index").toInt() + 4;
+    drag(handle(lower), QPoint(0, -400), true, [&] {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return top() <= rows()->property("originY").toDouble(); }));
+    });
+    ASSERT_EQ(screen->of<MovedBefore>().size(), 2U);
+    EXPECT_EQ(*screen->of<MovedBefore>()[1].next->name(), u"0"_s);
+}
+
 TEST_F(TableWindowTest, TilesFormLinesAndAreReadInOrder) {
     std::vector<Section> sections = lines(7);
     sections[0].layout = SectionLayout::Tiles;
@@ -296,6 +326,42 @@ TEST_F(TableWindowTest, TilesFormLinesAndAreReadInOrder) {
         press(key);
         EXPECT_EQ(rows()->property("currentIndex").toInt(), index);
     }
+}
+
+/// Black and white columns, each one pixel wide.
+struct Stripes final : PictureProvider {
+    QImage picture(const PictureKey&, const QSize& pixels) override {
+        QImage image(pixels, QImage::Format_RGB32);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                image.setPixel(x, y, x % 2 == 0 ? 0xff000000 : 0xffffffff);
+            }
+        }
+        return image;
+    }
+};
+
+TEST_F(TableWindowTest, PicturesHaveThePixelsOfTheScreen) {
+    Stripes stripes;
+    provider = &stripes;
+    open({section(u"s"_s, {}, {ChannelRow{.title = u"One"_s, .icon = icon(u"x"_s)}})});
+    for (QScreen* const screen : QGuiApplication::screens()) {
+        SCOPED_TRACE(screen->devicePixelRatio());
+        quickWindow->setScreen(screen);
+        const auto sharp = [&] {
+            const QImage drawn = quickWindow->grabWindow();
+            const int scale = qRound(drawn.devicePixelRatio());
+            const QPoint at = itemsWith("sourceSize").value(0)->mapToScene({0, 18}).toPoint() * scale;
+            for (int x = 0; x < 50 * scale; ++x) {
+                if (qGray(drawn.pixel(at + QPoint(x, 0))) != (x % 2 == 0 ? 0 : 255)) {
+                    return false;
+                }
+            }
+            return scale == qRound(screen->devicePixelRatio());
+        };
+        EXPECT_TRUE(QTest::qWaitFor(sharp));
+    }
+    EXPECT_EQ(QGuiApplication::screens().constLast()->devicePixelRatio(), 2);
 }
 
 TEST_F(TableWindowTest, WideWindowsShowTwoScreens) {
@@ -326,6 +392,43 @@ TEST_F(TableWindowTest, WideWindowsShowTwoScreens) {
     quickWindow->resize(1000, 800);
     settle();
     EXPECT_EQ(lists().size(), 1);
+}
+
+TEST_F(TableWindowTest, APopoverIsNextToItsAnchor) {
+    open(lines(40), {1024, 768}, UserInterfaceIdiom::Tablet);
+    screen->setLeftBarButtons({{BarButton::Kind::Title, u"Edit"_s, [] {}}});
+    screen->setRightBarButtons(
+        {{BarButton::Kind::Title, u"Options"_s, [] {}}, {BarButton::Kind::Title, u"Add"_s, [] {}}});
+    settle();
+    const QRectF inside = QRectF(0, 0, 1024, 768).adjusted(16, 16, -16, -16);
+    const struct {
+        const char* name;
+        Anchor anchor;
+        std::function<QQuickItem*()> item;
+        bool below;
+    } cases[] = {
+        {"left button", BarButtonAnchor{true, 0}, [&] { return buttons({u"Edit"_s}).value(0); }, true},
+        {"right button", BarButtonAnchor{false, 1}, [&] { return buttons({u"Add"_s}).value(0); }, true},
+        {"row at the top", RowId{u"lines"_s, u"1"_s}, [&] { return row(1); }, true},
+        {"row at the bottom", RowId{u"lines"_s, u"10"_s}, [&] { return row(10); }, false},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        QQuickItem* const item = each.item();
+        ASSERT_TRUE(item);
+        const QRectF anchor = item->mapRectToScene(item->boundingRect());
+        tabs->selectedNavigationController().show(std::make_shared<Screen>(lines(4)), Presentation::Popover,
+                                                  each.anchor);
+        settle();
+        const QQuickItem* const content = itemsWith("presented").constLast();
+        const QQuickItem* const panel = content->parentItem()->parentItem()->parentItem();
+        const QRectF popover = panel->mapRectToScene(panel->boundingRect());
+        EXPECT_TRUE(inside.contains(popover));
+        EXPECT_GE(popover.height(), 320);
+        EXPECT_EQ(each.below ? popover.top() - anchor.bottom() : anchor.top() - popover.bottom(), 8);
+        EXPECT_TRUE(popover.left() <= anchor.center().x() && anchor.center().x() <= popover.right());
+        press(Qt::Key_Escape);
+    }
 }
 
 TEST_F(TableWindowTest, ASheetTakesTheKeyboardAndEscapeClosesIt) {

@@ -15,7 +15,7 @@ namespace guide::test {
 
 using namespace Qt::StringLiterals;
 
-/// A window, its items, and a hand to press and drag with. Fails for every warning that is logged.
+/// Opens a window, finds items in it, presses keys and drags. Fails for every warning that is logged.
 class WindowTest : public testing::Test {
   protected:
     void SetUp() override {

@@ -16,7 +16,7 @@ class Glyph : public QQuickPaintedItem {
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
 
   public:
-    /// The symbols of the tabs, with the kit's values, and those of the drawing.
+    /// The symbols of the tabs, with the kit's values, and those that only ui/ uses.
     enum Symbol {
         AllShows = int(guide::Symbol::AllShows),
         Currently = int(guide::Symbol::Currently),

@@ -7,7 +7,7 @@
 
 namespace guide {
 
-/// A colour for each role of the kit, and those that only the drawing needs.
+/// A colour for each role of the kit, and those that only ui/ uses.
 struct Palette {
     QColor label;
     QColor secondaryLabel;

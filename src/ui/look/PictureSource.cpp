@@ -17,7 +17,7 @@ class Response : public QQuickImageResponse {
     QQuickTextureFactory* textureFactory() const override {
         return QQuickTextureFactory::textureFactoryForImage(m_image);
     }
-    /// An item without a picture is left empty; the engine would log an error for each.
+    /// A missing picture leaves its item empty; the engine would log an error for a null image.
     void finish(QImage image) {
         m_image = image.isNull() ? emptyPicture() : std::move(image);
         Q_EMIT finished();

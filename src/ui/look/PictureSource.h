@@ -12,7 +12,7 @@ class PictureSource : public QQuickAsyncImageProvider {
   public:
     /// The provider must outlive the source; null for no pictures.
     explicit PictureSource(PictureProvider* provider);
-    /// Waits for the pictures that are being made.
+    /// Waits for the pictures that are being loaded.
     ~PictureSource() override;
 
     QQuickImageResponse* requestImageResponse(const QString& id, const QSize& requestedSize) override;

@@ -14,7 +14,7 @@ QUrl pictureUrlOf(const PictureKey& key) {
     if (key.empty()) {
         return {};
     }
-    // The engine decodes the URL before it hands the id over, so that the name is encoded twice.
+    // The engine decodes the URL before it passes the id on, so percent-encoding would not protect the name.
     const QByteArray name =
         key.name.toUtf8().toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
     return QUrl("image://"_L1 + kPictureProviderName + u'/' + QString::number(static_cast<int>(key.kind)) +

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The system's ordinary text, in pixels: what counts as a text scale of 1.
+// The pixel size of ordinary system text, which is a text scale of 1.
 constexpr double kOrdinaryPixels = 13.5;
 constexpr double kLargestScale = 2.5;
 

@@ -10,17 +10,17 @@
 namespace guide {
 
 /// A stack of screens, for QML: a list of pages from the root up. A page that was popped stays in the list,
-/// at its end, until its way out has been drawn.
+/// at its end, until its exit animation has ended.
 class PageStack : public QAbstractListModel, private NavigationObserver {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the shell")
 
-    /// Of the pages that are on the stack.
+    /// The number of pages on the stack, without those that were popped.
     Q_PROPERTY(int depth READ depth NOTIFY depthChanged)
-    /// What the stack shows in a popover or sheet; null for nothing.
+    /// The stack in a popover or sheet over this one; null when there is none.
     Q_PROPERTY(guide::PageStack* presented READ presented NOTIFY presentedChanged)
-    /// How this stack itself is presented.
+    /// How this stack is presented.
     Q_PROPERTY(bool popover READ popover CONSTANT)
     Q_PROPERTY(AnchorKind anchorKind READ anchorKind CONSTANT)
     /// The number of the bar button, or of the row.
@@ -48,9 +48,9 @@ class PageStack : public QAbstractListModel, private NavigationObserver {
     Q_INVOKABLE void setSideBySide(bool sideBySide);
     /// Closes what the stack presents.
     Q_INVOKABLE void dismiss();
-    /// Pages that were popped need not be drawn any more.
+    /// To be called when popped pages are no longer drawn.
     Q_INVOKABLE void dropLeaving();
-    /// A presented stack that was dismissed need not be drawn any more.
+    /// To be called when a dismissed stack is no longer drawn.
     Q_INVOKABLE void release() { deleteLater(); }
 
   Q_SIGNALS:

@@ -31,7 +31,7 @@ void PlaceKeeper::remember() {
     const double top = m_list->property("contentY").toDouble();
     const double bottom = top + m_list->height();
     int first = -1;
-    // A gap, as before a section, has no row.
+    // There is no row in a gap, such as the one before a section.
     for (double y = top; first < 0 && y < bottom; y += 8) {
         QMetaObject::invokeMethod(m_list, "indexAt", Q_RETURN_ARG(int, first),
                                   Q_ARG(double, m_list->width() / 2), Q_ARG(double, y));

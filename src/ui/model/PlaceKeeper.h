@@ -12,8 +12,8 @@
 
 namespace guide {
 
-/// Keeps what is in sight where it is while the rows of a list change: after the change, the first row in
-/// sight that is still there is drawn where it was. A list at its very beginning stays there.
+/// Keeps the scroll position of a list while its rows change: after the change, the first visible row that
+/// still exists is where it was. A list at its beginning stays there.
 class PlaceKeeper : public QObject {
     Q_OBJECT
     QML_ELEMENT

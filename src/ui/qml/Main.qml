@@ -20,7 +20,7 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
-        // Nothing behind an alert takes an event.
+        // Nothing behind an alert receives events.
         enabled: !main.shell.alertShown
         onEnabledChanged: if (enabled)
             forceActiveFocus()

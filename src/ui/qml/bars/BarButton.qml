@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Quellin
 
-// A button of the navigation bar: a symbol, a title, or an indicator of work under way.
+// A button of the navigation bar: a symbol, a title, or an activity indicator.
 T.AbstractButton {
     id: button
 

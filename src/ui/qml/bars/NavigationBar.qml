@@ -1,12 +1,12 @@
 import QtQuick
 import Quellin
 
-// A screen's title between its buttons, the search field below it, and the thin bar of what is under way.
+// A screen's title between its buttons, the search field below it, and a thin progress bar.
 Item {
     id: bar
 
     required property Page page
-    // Whether rows are below the bar.
+    // Whether rows have gone below the bar.
     property bool scrolled: false
     property bool canGoBack: page.canGoBack
     // Closes a popover or sheet.
@@ -16,11 +16,23 @@ Item {
     readonly property double between: width - titleLeft - 8 - rightButtons.width - 4
     readonly property double margin: width >= 600 ? 24 : 16
     readonly property double titleLeft: leftButtons.width > 0 ? leftButtons.width + 8 : margin
-    readonly property bool titleBelow: title.implicitWidth > between && between < width * 0.6
+    readonly property bool titleBelow: title.implicitWidth > between
+                                       && (between < width * 0.6 || Theme.textScale >= 1.5)
     readonly property double rowHeight: Math.max(60, titleBelow ? 0 : title.implicitHeight + 24)
 
     implicitHeight: rowHeight + (titleBelow ? title.height + 8 : 0) + (search.active ? search.height + 8 : 0)
     z: 1
+
+    // The item of a bar button, in its place; null when there is none.
+    function leftButton(index) {
+        leftButtons.ensurePolished()
+        return leftRepeater.itemAt(index)
+    }
+
+    function rightButton(index) {
+        rightButtons.ensurePolished()
+        return rightRepeater.itemAt(index)
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -42,6 +54,8 @@ Item {
         }
 
         Repeater {
+            id: leftRepeater
+
             model: bar.page.leftButtons
 
             BarButton {
@@ -90,6 +104,8 @@ Item {
         }
 
         Repeater {
+            id: rightRepeater
+
             model: bar.page.rightButtons
 
             BarButton {

@@ -36,7 +36,7 @@ T.TextField {
     Accessible.name: page.searchPlaceholder
     Accessible.searchEdit: true
 
-    // What the screen puts into the field.
+    // The screen sets the text.
     Connections {
         target: field.page
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Quellin
 
-// Turns while something is under way.
+// An activity indicator.
 Glyph {
     id: spinner
 

@@ -11,6 +11,9 @@ T.AbstractButton {
     required property bool current
     required property bool available
 
+    // Of the symbol, which grows with the title where there is room.
+    readonly property double scaling: Math.max(1, Math.min(1.5, font.pixelSize / 11, (width - 8) / 56))
+
     focusPolicy: Qt.TabFocus
     opacity: available ? 1 : 0.38
     enabled: available
@@ -44,16 +47,16 @@ T.AbstractButton {
             spacing: 4
 
             Rectangle {
-                width: 56
-                height: 30
-                radius: 15
+                width: Math.round(56 * button.scaling)
+                height: Math.round(30 * button.scaling)
+                radius: height / 2
                 anchors.horizontalCenter: parent.horizontalCenter
                 color: button.pressed ? Theme.pressed : button.current ? Theme.tintedFill : "transparent"
 
                 Glyph {
                     anchors.centerIn: parent
-                    width: 24
-                    height: 24
+                    width: Math.round(24 * button.scaling)
+                    height: width
                     symbol: button.symbol
                     color: label.color
                 }
@@ -61,7 +64,7 @@ T.AbstractButton {
                 Rectangle {
                     anchors {
                         left: parent.horizontalCenter
-                        leftMargin: 5
+                        leftMargin: Math.round(5 * button.scaling)
                         top: parent.top
                         topMargin: 1
                     }

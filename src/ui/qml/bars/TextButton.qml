@@ -21,10 +21,10 @@ T.AbstractButton {
 
     background: Rectangle {
         radius: button.primary ? 12 : height / 2
-        color: button.primary ? button.color : button.pressed ? Theme.pressed : "transparent"
+        color: button.primary ? button.color : button.pressed ? Qt.alpha(button.color, 0.16) : "transparent"
         opacity: button.primary && button.pressed ? 0.8 : 1
         border.width: button.visualFocus ? 2 : 0
-        border.color: button.primary ? Theme.onTint : Theme.tint
+        border.color: button.primary ? Theme.onTint : button.color
     }
 
     contentItem: Text {

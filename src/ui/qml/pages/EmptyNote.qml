@@ -1,7 +1,7 @@
 import QtQuick
 import Quellin
 
-// Why a table is empty, and a button that leads on.
+// Why a table is empty, and a button with the next step.
 Flickable {
     id: note
 

@@ -10,6 +10,21 @@ FocusScope {
     property bool closable: false
 
     readonly property int columnWidth: Math.min(width, 720)
+    readonly property ContentPage drawn: content.item as ContentPage
+
+    // What a popover points at; null when it is not drawn.
+    function anchorItem(kind, index) {
+        switch (kind) {
+        case PageStack.LeftButton:
+            return bar.leftButton(index)
+        case PageStack.RightButton:
+            return bar.rightButton(index)
+        case PageStack.RowAnchor:
+            return drawn ? drawn.rowItem(index) : null
+        default:
+            return null
+        }
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -28,7 +43,7 @@ FocusScope {
             page: view.page
             canGoBack: view.canGoBack
             closable: view.closable
-            scrolled: content.item !== null && content.item.scrolled
+            scrolled: view.drawn !== null && view.drawn.scrolled
         }
 
         Loader {
@@ -41,6 +56,7 @@ FocusScope {
                 right: parent.right
             }
             focus: true
+            onLoaded: view.drawn.inset = Qt.binding(() => view.width >= view.columnWidth + 32)
             Component.onCompleted: setSource(view.page.source, { "page": view.page, "focus": true })
         }
     }

@@ -2,45 +2,81 @@ import QtQuick
 import QtQuick.Templates as T
 import Quellin
 
-// The popover or sheet of a stack: at its anchor, from below on a narrow window, or in the middle.
+// The popover or sheet of a stack: a popover below or above its anchor, a sheet from below on a narrow window, and
+// either in the middle otherwise.
 T.Popup {
     id: panel
 
     required property PageStack presenter
+    // The screen that presents it.
+    property PageView presenterView: null
     property bool usable: true
 
     signal gone()
 
-    // What is drawn, also while it goes.
+    // What is drawn, also while it closes.
     property PageStack stack: null
+    // The anchor's place in the window; empty without an anchor.
+    property rect anchor: Qt.rect(0, 0, 0, 0)
 
     readonly property Item window: T.Overlay.overlay
     readonly property double windowWidth: window ? window.width : 0
     readonly property double windowHeight: window ? window.height : 0
     readonly property bool popover: stack !== null && stack.popover
     readonly property bool narrow: windowWidth < 600
+    readonly property bool anchored: popover && anchor.width > 0
+
+    readonly property double margin: 16
+    readonly property double gap: 8
+    readonly property double roomAbove: anchor.y - gap - margin
+    readonly property double roomBelow: windowHeight - margin - gap - (anchor.y + anchor.height)
+    readonly property double popoverHeight: Math.min(windowHeight - 96, 640)
+    // Below where that leaves enough of it to be seen.
+    readonly property bool below: roomBelow >= Math.min(popoverHeight, 320) || roomBelow >= roomAbove
 
     function follow() {
         if (presenter.presented) {
             drop()
             stack = presenter.presented
+            findAnchor()
             open()
         } else {
             close()
         }
     }
 
+    function findAnchor() {
+        const item = stack && presenterView ? presenterView.anchorItem(stack.anchorKind, stack.anchorIndex) : null
+        anchor = item ? item.mapToItem(window, 0, 0, item.width, item.height) : Qt.rect(0, 0, 0, 0)
+    }
+
+    function within(position, size, whole) {
+        return Math.max(margin, Math.min(whole - size - margin, position))
+    }
+
     function drop() {
         if (stack && stack !== presenter.presented) {
-            stack.release()
+            const gone = stack
             stack = null
+            gone.release()
         }
+    }
+
+    // The type is named by its file: a stack of pages contains this one.
+    onStackChanged: {
+        if (stack)
+            pages.setSource("StackPages.qml", { "stack": stack, "presented": true, "focus": true })
+        else
+            pages.source = ""
     }
 
     Component.onCompleted: if (presenter.presented)
         follow()
     onUsableChanged: if (!usable)
         presenter.dismiss()
+    // The anchor moves when the window has been laid out.
+    onWindowWidthChanged: Qt.callLater(findAnchor)
+    onWindowHeightChanged: Qt.callLater(findAnchor)
 
     Connections {
         target: panel.presenter
@@ -60,13 +96,14 @@ T.Popup {
         gone()
     }
 
-    width: popover ? Math.min(windowWidth - 32, 420) : narrow ? windowWidth : Math.min(windowWidth - 48, 560)
-    height: popover ? Math.min(windowHeight - 96, 640)
+    width: popover ? Math.min(windowWidth - 2 * margin, 420)
+           : narrow ? windowWidth : Math.min(windowWidth - 48, 560)
+    height: anchored ? Math.min(popoverHeight, Math.max(320, below ? roomBelow : roomAbove))
+            : popover ? popoverHeight
             : narrow ? windowHeight - 48 : Math.min(windowHeight - 96, 720)
-    x: !popover || stack.anchorKind === PageStack.NoAnchor || stack.anchorKind === PageStack.RowAnchor
-       ? (windowWidth - width) / 2
-       : stack.anchorKind === PageStack.RightButton ? windowWidth - width - 16 : 16
-    y: popover ? Math.min(68, windowHeight - height - 16) : narrow ? windowHeight - height : (windowHeight - height) / 2
+    x: anchored ? within(anchor.x + (anchor.width - width) / 2, width, windowWidth) : (windowWidth - width) / 2
+    y: anchored ? within(below ? anchor.y + anchor.height + gap : anchor.y - gap - height, height, windowHeight)
+       : narrow && !popover ? windowHeight - height : (windowHeight - height) / 2
 
     background: Rectangle {
         radius: 20
@@ -79,18 +116,17 @@ T.Popup {
         focus: true
 
         Loader {
+            id: pages
+
             anchors {
                 fill: parent
-                topMargin: 8
-                leftMargin: 1
-                rightMargin: 1
+                // The page's corners are not rounded.
+                topMargin: 12
+                leftMargin: 2
+                rightMargin: 2
                 bottomMargin: panel.narrow && !panel.popover ? 0 : 12
             }
-            active: panel.stack !== null
             focus: true
-            // The type is named by its file: a stack of pages contains this one.
-            onActiveChanged: if (active)
-                setSource("StackPages.qml", { "stack": panel.stack, "presented": true, "focus": true })
         }
     }
 

@@ -1,14 +1,14 @@
 import QtQuick
 import Quellin
 
-// Over a list that a pull at its top refreshes: follows the finger, without taking it from the list, and shows a sign
-// in the space that the list leaves. The list's own overshoot would end whenever a row is removed.
+// Lies over a list that is refreshed by a pull at its top: follows the finger without grabbing it, and shows a symbol
+// in the space above the list. The list's own overshoot would end whenever a row is removed.
 Item {
     id: pull
 
     property bool atTop: false
     property bool turning: false
-    // How far the list has to move down.
+    // How far to move the list down.
     property double reached: 0
 
     signal pulled()

@@ -19,6 +19,8 @@ FocusScope {
     clip: true
 
     Repeater {
+        id: screens
+
         model: view.stack
 
         PageView {
@@ -70,6 +72,7 @@ FocusScope {
 
     PresentedStack {
         presenter: view.stack
+        presenterView: screens.count > 0 ? screens.itemAt(view.stack.depth - 1) as PageView : null
         usable: view.visible && view.enabled
         onGone: if (usable)
             view.forceActiveFocus()

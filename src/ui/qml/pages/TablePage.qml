@@ -1,16 +1,18 @@
 import QtQuick
 import Quellin
 
-// Draws a table: its rows, the heading that stays at the top, the index strip, the pull that refreshes, and the note
-// of an empty one.
-FocusScope {
+// Draws a table: its rows, the heading that stays at the top, the index strip, pull to refresh, and the note of an
+// empty table.
+ContentPage {
     id: screen
 
-    required property Page page
+    // Without its section's header and footer.
+    function rowItem(index): Item {
+        const row = list.itemAtIndex(index) as TableRow
+        return row ? row.body : null
+    }
 
-    // Whether rows have gone above the top edge.
-    readonly property bool scrolled: list.contentY > list.originY
-    readonly property alias list: list
+    scrolled: list.contentY > list.originY
 
     TableList {
         id: list
@@ -18,7 +20,7 @@ FocusScope {
         anchors.fill: parent
         trailingInset: strip.visible ? strip.width - 8 : 0
         page: screen.page
-        bandRadius: screen.width >= 720 ? 12 : 0
+        bandRadius: screen.inset ? 12 : 0
         stickyHeight: sticky.visible ? sticky.height : 0
         transform: Translate { y: pull.reached }
     }

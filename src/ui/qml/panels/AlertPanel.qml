@@ -1,7 +1,7 @@
 import QtQuick
 import Quellin
 
-// The alert, which must be answered first: a sheet from below on a narrow window, a card in the middle otherwise.
+// The alert, which blocks everything else: a sheet from below on a narrow window, a card in the middle otherwise.
 FocusScope {
     id: alert
 
@@ -21,7 +21,7 @@ FocusScope {
         anchors.fill: parent
         color: Theme.dim
 
-        // Nothing behind the alert takes a press.
+        // Keeps presses from what is behind the alert.
         MouseArea {
             anchors.fill: parent
             hoverEnabled: true

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Quellin
 
-// A panel over everything else, closed by Escape or a press beside it.
+// A panel over everything else, closed by Escape or a press outside it.
 T.Popup {
     id: panel
 

@@ -13,7 +13,7 @@ Item {
     Rectangle {
         id: surface
 
-        readonly property double least: label.implicitWidth + (action.visible ? action.width + 8 : 16) + 16
+        readonly property double least: label.implicitWidth + (action.visible ? action.width + 8 : 8) + 24
         readonly property bool folded: action.visible && label.implicitWidth + action.implicitWidth + 40 > parent.width - 32
 
         anchors.horizontalCenter: parent.horizontalCenter

@@ -1,8 +1,7 @@
 import QtQuick
-import QtQuick.Templates as T
 import Quellin
 
-// Lets the user pick a time of day: two wheels, and a button that takes the time over.
+// Lets the user pick a time of day: two wheels, and a button that confirms the time.
 FloatingPanel {
     id: picker
 

@@ -22,8 +22,7 @@ TableRow {
         }
         visible: cell.primary
         radius: 12
-        color: Theme.tint
-        opacity: cell.row.enabled ? 1 : 0.4
+        color: cell.row.enabled ? Theme.tint : Theme.tintedFill
     }
 
     Text {
@@ -34,8 +33,8 @@ TableRow {
         anchors.verticalCenter: parent.verticalCenter
         text: cell.row.title
         textFormat: Text.PlainText
-        color: cell.primary ? Theme.onTint
-               : !cell.row.enabled ? Theme.secondaryLabel
+        color: !cell.row.enabled ? Theme.secondaryLabel
+               : cell.primary ? Theme.onTint
                : cell.row.style === Kit.ButtonStyle.Destructive ? Theme.alarm : Theme.tint
         font: Theme.buttonFont
         horizontalAlignment: cell.primary ? Text.AlignHCenter : Text.AlignLeft

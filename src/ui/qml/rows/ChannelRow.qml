@@ -6,7 +6,7 @@ TableRow {
     id: cell
 
     readonly property bool playable: row.accessory === Kit.Accessory.Play
-    // The channel heads its shows.
+    // Whether this is the heading of the channel's shows.
     readonly property bool heading: section.first && !section.last && section.header === ""
 
     activatable: row.selectable || playable

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Quellin
 
-// A field to type in, with its title above it and what is wrong with the text below.
+// A field to type in, with its title above and the error below.
 TableRow {
     id: cell
 
@@ -18,7 +18,7 @@ TableRow {
         field.forceActiveFocus(Qt.TabFocusReason)
     }
 
-    // What is being typed stays, whatever the screen says meanwhile.
+    // An update does not replace what the user is typing.
     onRowChanged: if (!field.activeFocus)
         field.text = row.text
 

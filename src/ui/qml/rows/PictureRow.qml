@@ -11,7 +11,7 @@ TableRow {
     contentHeight: row.square ? side + 32 : Math.round(surfaceWidth * 9 / 16)
     separatorInset: -1
 
-    // A square one is a code, which is read off a white ground.
+    // A square picture is a QR code, which needs a white background.
     Rectangle {
         anchors.centerIn: parent
         width: cell.side

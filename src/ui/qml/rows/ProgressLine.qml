@@ -1,7 +1,7 @@
 import QtQuick
 import Quellin
 
-// How far something has come, 0 to 1; below 0 it is not known, and a part of the line moves along it.
+// Progress from 0 to 1; below 0 it is unknown, and a short bar moves along the line.
 Item {
     id: line
 
@@ -34,7 +34,9 @@ Item {
             radius: 2
             color: line.color
 
-            NumberAnimation on moved {
+            NumberAnimation {
+                target: bar
+                property: "moved"
                 running: !line.known && line.visible && Theme.moves
                 from: 0
                 to: 1

@@ -1,7 +1,7 @@
 import QtQuick
 import Quellin
 
-// Work under way: how much of it is done, or only that it goes on.
+// Running work, and its progress where that is known.
 TableRow {
     id: cell
 

@@ -5,7 +5,7 @@ import Quellin
 Image {
     id: picture
 
-    // There is none, or not yet; a picture that does not exist is one pixel large.
+    // Missing or not yet loaded; a missing picture arrives as a single pixel.
     readonly property bool empty: status !== Image.Ready || implicitWidth <= 1
 
     asynchronous: true

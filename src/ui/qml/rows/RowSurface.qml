@@ -1,7 +1,7 @@
 import QtQuick
 import Quellin
 
-// A row's background, which answers to a tap, and the ring of the keyboard focus.
+// A row's background, which responds to taps, and the ring of the keyboard focus.
 Item {
     id: surface
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Quellin
 
-// One show: channel icon, times, title with its marks, details, and how much of it is over.
+// One show: channel icon, times, title with its marks, details, and progress.
 TableRow {
     id: cell
 
@@ -49,7 +49,7 @@ TableRow {
         font: Theme.endTimeFont
     }
 
-    // Heights are bindings rather than a positioner's: a reused row has to have its new height at once.
+    // Heights are bindings rather than a positioner's: a reused row must have its new height at once.
     Text {
         id: title
 

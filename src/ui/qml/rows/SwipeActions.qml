@@ -11,12 +11,12 @@ Row {
     required property double actionWidth
 
     signal chosen(int action)
-    signal givenUp()
+    signal cancelled()
 
     layoutDirection: Qt.RightToLeft
 
-    Keys.onEscapePressed: givenUp()
-    Keys.onRightPressed: givenUp()
+    Keys.onEscapePressed: cancelled()
+    Keys.onRightPressed: cancelled()
 
     Repeater {
         model: panel.actions

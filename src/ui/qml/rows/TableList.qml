@@ -13,7 +13,7 @@ ListView {
     // Bands across the column are rounded where the column does not fill the page.
     property int bandRadius: 0
 
-    // What the index strip covers.
+    // The width that the index strip covers.
     property double trailingInset: 0
 
     readonly property int tileColumns: Theme.textScale >= 1.5 ? 1 : width >= 700 ? 4 : width >= 600 ? 3 : 2
@@ -21,10 +21,11 @@ ListView {
     readonly property double tileWidth: Math.floor((width - trailingInset - 2 * sideMargin - (tileColumns - 1) * tileGap) / tileColumns)
     readonly property double tileHeight: Math.round(132 * Math.min(Theme.textScale, 1.5))
 
-    // The focus ring is for the keyboard: it goes with the next tap.
+    // The focus ring is for the keyboard: it disappears with the next tap.
     property bool keyboardUsed: false
-    // The row that is pushed aside; there is at most one.
+    // The row whose actions are uncovered; there is at most one.
     property TableRow swipedRow: null
+    readonly property TableRow currentRow: currentItem as TableRow
 
     function tileX(column) {
         return sideMargin + column * (tileWidth + tileGap)
@@ -71,32 +72,74 @@ ListView {
     // ---- reordering
 
     property TableRow dragged: null
+    property double dragStart: 0
     property int dropBefore: -1
+    // Near an edge the list scrolls, the faster the nearer the row is; in units per second.
+    readonly property double scrollSpeed: {
+        if (!dragged)
+            return 0
+        const top = dragged.draggedTop
+        const near = dragged.bodyHeight
+        if (top < dragStart)
+            return -900 * Math.max(0, Math.min(1, 1 - (top - stickyHeight) / near))
+        return 900 * Math.max(0, Math.min(1, 1 - (height - near - top) / near))
+    }
 
     function startReorder(row) {
+        // The current row is kept although it scrolls out of sight.
+        holdCurrent(row)
+        dragStart = row.y + row.bodyTop - contentY
+        row.draggedTop = dragStart
+        row.dragged = true
         dragged = row
         dropBefore = -1
         interactive = false
     }
 
     function reorderBy(distance) {
-        dragged.dragged = distance
-        const y = dragged.middle
+        if (dragged) {
+            dragged.draggedTop = dragStart + distance
+            findDrop()
+        }
+    }
+
+    function findDrop() {
+        const y = contentY + dragged.draggedTop + dragged.bodyHeight / 2
         const over = indexAt(width / 2, y)
         if (over < 0)
             return
-        const next = y > itemAtIndex(over).middle && over !== dragged.index ? over + 1 : over
+        const next = y > (itemAtIndex(over) as TableRow).middle && over !== dragged.index ? over + 1 : over
         dropBefore = page.rows.canMoveBefore(dragged.index, next) ? next : -1
     }
 
+    function scrollBy(distance) {
+        const end = originY + contentHeight + bottomMargin - height
+        const to = Math.max(originY, Math.min(end, contentY + distance))
+        if (to !== contentY) {
+            contentY = to
+            findDrop()
+        }
+    }
+
     function finishReorder() {
-        const index = dragged.index
-        dragged.dragged = 0
+        const index = dragged ? dragged.index : -1
+        const next = dropBefore
+        cancelReorder()
+        if (next >= 0)
+            page.rows.moveBefore(index, next)
+    }
+
+    function cancelReorder() {
+        if (dragged)
+            dragged.dragged = false
         dragged = null
-        interactive = true
-        if (dropBefore >= 0)
-            page.rows.moveBefore(index, dropBefore)
         dropBefore = -1
+        interactive = true
+    }
+
+    FrameAnimation {
+        running: view.scrollSpeed !== 0
+        onTriggered: view.scrollBy(view.scrollSpeed * frameTime)
     }
 
     objectName: "rows"
@@ -152,14 +195,14 @@ ListView {
     }
 
     function lineStep() {
-        return currentItem && currentItem.tiled ? tileColumns : 1
+        return currentRow && currentRow.tiled ? tileColumns : 1
     }
 
     // The heading at the top covers what is below it.
     function reveal() {
         positionViewAtIndex(currentIndex, ListView.Contain)
-        if (currentItem && !currentItem.section.first && currentItem.y - contentY < stickyHeight)
-            contentY = currentItem.y - stickyHeight
+        if (currentRow && !currentRow.section.first && currentRow.y - contentY < stickyHeight)
+            contentY = currentRow.y - stickyHeight
     }
 
     property double stickyHeight: 0
@@ -177,13 +220,13 @@ ListView {
             step(currentIndex < 0 ? 1 : lineStep())
     }
     Keys.onLeftPressed: {
-        if (currentItem && currentItem.tiled)
+        if (currentRow && currentRow.tiled)
             step(-1)
-        else if (currentItem)
-            currentItem.uncover()
+        else if (currentRow)
+            currentRow.uncover()
     }
     Keys.onRightPressed: {
-        if (currentItem && currentItem.tiled)
+        if (currentRow && currentRow.tiled)
             step(1)
         else
             closeSwiped()
@@ -191,9 +234,9 @@ ListView {
     Keys.onReturnPressed: activateCurrent()
     Keys.onEnterPressed: activateCurrent()
     Keys.onSpacePressed: activateCurrent()
-    Keys.onMenuPressed: if (currentItem)
-        openMenu(currentItem, currentItem.width / 2, currentItem.height / 2)
-    Keys.onDeletePressed: if (currentItem && currentItem.editing && currentItem.row.deletable)
+    Keys.onMenuPressed: if (currentRow)
+        openMenu(currentRow, currentRow.width / 2, currentRow.height / 2)
+    Keys.onDeletePressed: if (currentRow && currentRow.editing && currentRow.row.deletable)
         page.rows.remove(currentIndex)
     Keys.onPressed: event => {
         const page = Math.max(1, Math.floor(view.height / 72))
@@ -211,8 +254,8 @@ ListView {
     }
 
     function activateCurrent() {
-        if (currentItem && currentItem.activatable || currentItem && currentItem.takesText)
-            currentItem.activate()
+        if (currentRow && (currentRow.activatable || currentRow.takesText))
+            currentRow.activate()
     }
 
     function moveCurrent(by) {
@@ -223,12 +266,14 @@ ListView {
     }
 
     C.ScrollBar.vertical: C.ScrollBar {
+        id: scrollBar
+
         policy: C.ScrollBar.AsNeeded
         contentItem: Rectangle {
             implicitWidth: 4
             radius: 2
             color: Theme.secondaryLabel
-            opacity: parent.active ? 0.6 : 0
+            opacity: scrollBar.active ? 0.6 : 0
         }
     }
 

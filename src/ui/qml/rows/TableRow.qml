@@ -1,7 +1,7 @@
 import QtQuick
 import Quellin
 
-// What rows of every kind have: the section's header and footer around it, the surface with the row's own content,
+// Common to rows of every kind: the section's header and footer around it, the surface with the row's own content,
 // the actions that a swipe uncovers, and the controls of edit mode. In a section of tiles the first row of each line
 // has the line's height, and the others are drawn beside it and have none.
 FocusScope {
@@ -18,7 +18,7 @@ FocusScope {
     readonly property bool current: ListView.isCurrentItem
     readonly property double sideMargin: tiled ? 12 : list ? list.sideMargin : 16
 
-    // What a tap or Enter does, and whether there is such a thing.
+    // Whether a tap or Enter calls activate().
     property bool activatable: row.selectable
     // Whether Enter goes into a field.
     property bool takesText: false
@@ -33,19 +33,23 @@ FocusScope {
     default property alias content: surfaceContent.data
     // What is left for the row's content.
     readonly property double surfaceWidth: surfaceContent.width
-    // The middle of the row without header and footer, where it is dragged to.
-    readonly property double middle: y + body.y + body.height / 2
+    // The row without header and footer.
+    readonly property alias body: surfaceBody
+    readonly property double middle: y + bodyTop + bodyHeight / 2
 
     readonly property bool tiled: section.tiles && list !== null && list.tileColumns > 1
     readonly property int column: tiled ? section.place % list.tileColumns : 0
+    readonly property double bodyTop: column === 0 ? header.height + gap : -bodyHeight
     readonly property double bodyHeight: tiled ? list.tileHeight : Math.max(44, contentHeight)
 
     property bool swiped: false
     property var actions: []
     readonly property double actionWidth: Math.round(76 * Math.min(Theme.textScale, 1.5))
     readonly property bool editing: rows !== null && rows.editing && (row.deletable || row.movable)
-    // How far the reorder handle has dragged the row.
-    property double dragged: 0
+    // While the reorder handle drags the row, its body is drawn over the list, at this distance from the list's top
+    // edge.
+    property bool dragged: false
+    property double draggedTop: 0
 
     function activate() {
         rows.tap(index)
@@ -62,7 +66,7 @@ FocusScope {
         swiped = false
     }
 
-    // The actions of a row that is back in its place must not be found below it.
+    // A row that is back in its place has no actions below it.
     function dropActions() {
         if (surface.x === 0 && !push.held && !swiped)
             actions = []
@@ -71,7 +75,8 @@ FocusScope {
     function reset() {
         swiped = false
         actions = []
-        dragged = 0
+        if (dragged)
+            list.cancelReorder()
     }
 
     width: ListView.view ? ListView.view.width : 0
@@ -79,8 +84,6 @@ FocusScope {
     readonly property double gap: tiled ? list.tileGap : 0
 
     implicitHeight: (column === 0 ? header.height + gap + bodyHeight : 0) + (section.last ? gap : 0) + footer.height
-    z: dragged !== 0 ? 2 : 0
-
     Component.onCompleted: rows.shown(index)
     onRowChanged: {
         cover()
@@ -95,7 +98,7 @@ FocusScope {
         id: header
 
         width: parent.width
-        height: item ? item.implicitHeight : 0
+        height: item ? (item as Item).implicitHeight : 0
         active: cell.section.first && cell.section.header !== ""
         sourceComponent: SectionHeader {
             text: cell.section.header
@@ -105,11 +108,13 @@ FocusScope {
     }
 
     Item {
-        id: body
+        id: surfaceBody
 
+        parent: cell.dragged ? cell.list : cell
         x: cell.tiled ? cell.list.tileX(cell.column) : 0
-        y: (cell.column === 0 ? header.height + cell.gap : -cell.bodyHeight) + cell.dragged
-        width: cell.tiled ? cell.list.tileWidth : parent.width
+        y: cell.dragged ? cell.draggedTop : cell.bodyTop
+        z: cell.dragged ? 2 : 0
+        width: cell.tiled ? cell.list.tileWidth : cell.width
         height: cell.bodyHeight
         clip: panel.active
 
@@ -125,7 +130,7 @@ FocusScope {
             sourceComponent: SwipeActions {
                 actions: cell.actions
                 actionWidth: cell.actionWidth
-                onGivenUp: cell.cover()
+                onCancelled: cell.cover()
                 onChosen: action => {
                     cell.cover()
                     cell.rows.performAction(action)
@@ -226,7 +231,7 @@ FocusScope {
             enabled: !cell.editing
             target: null
             yAxis.enabled: false
-            // A list that could take the finger over would do so at the first step up or down.
+            // Otherwise the list would take over the touch at the first vertical movement.
             grabPermissions: PointerHandler.CanTakeOverFromAnything
             onActiveChanged: {
                 const width = cell.actions.length * cell.actionWidth
@@ -248,13 +253,13 @@ FocusScope {
 
         TapHandler {
             acceptedButtons: Qt.RightButton
-            onTapped: eventPoint => cell.list.openMenu(cell, eventPoint.position.x, eventPoint.position.y + body.y)
+            onTapped: eventPoint => cell.list.openMenu(cell, eventPoint.position.x, eventPoint.position.y + cell.bodyTop)
         }
 
         TapHandler {
             acceptedDevices: PointerDevice.TouchScreen
             enabled: !cell.editing
-            onLongPressed: cell.list.openMenu(cell, point.position.x, point.position.y + body.y)
+            onLongPressed: cell.list.openMenu(cell, point.position.x, point.position.y + cell.bodyTop)
         }
 
         TapHandler {
@@ -267,7 +272,7 @@ FocusScope {
         id: footer
 
         width: parent.width
-        height: item ? item.implicitHeight : 0
+        height: item ? (item as Item).implicitHeight : 0
         anchors.bottom: parent.bottom
         active: cell.section.last && cell.section.footer !== ""
         sourceComponent: SectionFooter {
