@@ -1,12 +1,45 @@
 #include "app/ChannelLoad.h"
 
+#include <algorithm>
+
 namespace guide {
+
+namespace {
+
+LoadFailureReason failureReason(const PassedOverSource& source) {
+    switch (source.reason) {
+    case PassedOverReason::NoPlan:
+        return LoadFailureReason::NoSource;
+    case PassedOverReason::NoShows:
+        return LoadFailureReason::NoShows;
+    case PassedOverReason::OnlyPastShows:
+        return LoadFailureReason::OnlyPastShows;
+    case PassedOverReason::NoPage:
+        break;
+    }
+    switch (source.pageReason) {
+    case PageReason::Status:
+        return LoadFailureReason::Status;
+    case PageReason::Empty:
+    case PageReason::Compression:
+    case PageReason::Encoding:
+        return LoadFailureReason::NotASchedule;
+    case PageReason::None:
+    case PageReason::Transfer:
+    case PageReason::Cancelled:
+        break;
+    }
+    return LoadFailureReason::NoAnswer;
+}
+
+} // namespace
 
 ChannelLoad::ChannelLoad(const std::vector<PlannedSource>& sources) {
     m_sources.reserve(sources.size());
     for (const PlannedSource& planned : sources) {
-        m_sources.push_back(
-            {.passedOver = {.sourceId = planned.sourceId}, .isAsked = planned.urls.isEmpty()});
+        m_sources.push_back({.passedOver = {.sourceId = planned.sourceId},
+                             .host = planned.urls.isEmpty() ? QString() : planned.urls.front().host(),
+                             .isAsked = planned.urls.isEmpty()});
     }
 }
 
@@ -40,7 +73,8 @@ void ChannelLoad::passOver(const PassedOverSource& passedOver) {
     // A channel may list a source twice.
     for (Source& each : m_sources) {
         if (!each.isAsked && each.passedOver.sourceId == passedOver.sourceId) {
-            each = {.passedOver = passedOver, .isAsked = true};
+            each.passedOver = passedOver;
+            each.isAsked = true;
         }
     }
 }
@@ -61,6 +95,21 @@ std::optional<SourceHealth> ChannelLoad::health(Moment now) const {
         }
     }
     return health;
+}
+
+std::optional<LoadFailure> ChannelLoad::failure() const {
+    if (m_used ||
+        !std::all_of(m_sources.begin(), m_sources.end(), [](const Source& each) { return each.isAsked; })) {
+        return std::nullopt;
+    }
+    const auto first = std::find_if(m_sources.begin(), m_sources.end(), [](const Source& each) {
+        return each.passedOver.reason != PassedOverReason::NoPlan;
+    });
+    if (first == m_sources.end()) {
+        return LoadFailure{};
+    }
+    return LoadFailure{
+        .reason = failureReason(first->passedOver), .host = first->host, .status = first->passedOver.status};
 }
 
 } // namespace guide

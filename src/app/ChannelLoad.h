@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/UpdatePlan.h"
+#include "core/LoadFailure.h"
 #include "sources/SourceHealth.h"
 #include "store/ListMerge.h"
 
@@ -25,9 +26,14 @@ class ChannelLoad {
     /// channel without sources.
     std::optional<SourceHealth> health(Moment now) const;
 
+    /// Why the load stored nothing, once all sources were passed over.
+    std::optional<LoadFailure> failure() const;
+
   private:
     struct Source {
         PassedOverSource passedOver;
+        /// Empty when the source cannot be asked.
+        QString host;
         bool isAsked = false;
     };
     void passOver(const PassedOverSource& passedOver);

@@ -137,6 +137,12 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
                     m_screens->offerTopShows(TopShows(top.begin(), top.end()));
                 }
             },
+        .loadsEnded =
+            [this](const std::unordered_set<ObjectId>& channels) {
+                if (m_screens) {
+                    m_screens->loadsEnded(channels);
+                }
+            },
     });
 }
 

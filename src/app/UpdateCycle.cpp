@@ -98,10 +98,7 @@ class UpdateCycle::Check {
         std::vector<ObjectId> wanted = wantedChannels(counts);
         while (!loadFromSources(wanted)) {
             // A new day has begun. The rest is planned again; pages of the previous day would be misdated.
-            std::erase_if(wanted, [this](const ObjectId& id) {
-                const std::shared_ptr<TVChannel> channel = m_environment.channels.channelWithChannelId(id);
-                return !channel || !reloadNeeded(*channel);
-            });
+            wanted = dueOf(std::move(wanted));
         }
         recordHealth();
         task->endOnMainQueue();
@@ -145,6 +142,32 @@ class UpdateCycle::Check {
         return wanted;
     }
 
+    /// Sets or clears the failure of each channel according to the state of its load: a load that begins has
+    /// none, unless no source can be asked.
+    void updateFailures(const std::vector<ObjectId>& ids) const {
+        std::unordered_set<ObjectId> changed;
+        for (const ObjectId& id : ids) {
+            const auto load = m_loads.find(id);
+            const std::shared_ptr<TVChannel> channel = m_environment.channels.channelWithChannelId(id);
+            if (load != m_loads.end() && channel && channel->setLoadFailure(load->second.failure())) {
+                changed.insert(id);
+            }
+        }
+        if (!changed.empty()) {
+            m_environment.queues.mainQueue().async([loadsEnded = m_environment.loadsEnded,
+                                                    changed = std::move(changed)] { loadsEnded(changed); });
+        }
+    }
+
+    void updateFailures(const std::vector<LoadItem>& items) const {
+        std::vector<ObjectId> ids;
+        ids.reserve(items.size());
+        for (const LoadItem& item : items) {
+            ids.push_back(item.channel);
+        }
+        updateFailures(ids);
+    }
+
     PlannedChannels plannedChannels(const std::vector<ObjectId>& wanted) {
         PlannedChannels planned;
         for (const ObjectId& id : wanted) {
@@ -164,10 +187,20 @@ class UpdateCycle::Check {
         return planned;
     }
 
+    std::vector<ObjectId> dueOf(std::vector<ObjectId> wanted) const {
+        std::erase_if(wanted, [this](const ObjectId& id) {
+            const std::shared_ptr<TVChannel> channel = m_environment.channels.channelWithChannelId(id);
+            return !channel || !reloadNeeded(*channel);
+        });
+        return wanted;
+    }
+
     /// Returns false when a new day has begun and a step depends on the day.
     bool loadFromSources(const std::vector<ObjectId>& wanted) {
         m_day = dayBegan();
-        for (const UpdateStep& step : planSteps(plannedChannels(wanted))) {
+        const std::vector<UpdateStep> steps = planSteps(plannedChannels(wanted));
+        updateFailures(dueOf(wanted));
+        for (const UpdateStep& step : steps) {
             if (m_state.cancelled) {
                 break;
             }
@@ -205,6 +238,7 @@ class UpdateCycle::Check {
             for (const LoadItem& item : items) {
                 m_loads.at(item.channel).recordMissingPage(item.sourceId, missing);
             }
+            updateFailures(items);
             return true;
         }
         bool isOfToday = true;
@@ -252,6 +286,7 @@ class UpdateCycle::Check {
             result = m_environment.listDriver.netList(items, pages, m_environment.clock.now(), type);
         }
         recordSources(items, pages.size(), result);
+        updateFailures(items);
         if (result.lists.empty()) {
             return;
         }

@@ -20,6 +20,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <unordered_set>
 #include <vector>
 
 namespace guide {
@@ -52,6 +53,8 @@ struct UpdateCycleEnvironment {
     /// Receives the first shows of each loaded channel, on the main queue. Not called while the application
     /// is in the background.
     std::function<void(const TopLists&)> offerTop;
+    /// Called on the main queue with the channels whose load failure has changed.
+    std::function<void(const std::unordered_set<ObjectId>&)> loadsEnded;
 };
 
 /// Loads the selected channels that are due, each from the first of its sources that has shows. There is no

@@ -7,6 +7,8 @@
 #include <QDebug>
 #include <QFile>
 
+#include <utility>
+
 namespace guide {
 
 using namespace Qt::StringLiterals;
@@ -23,6 +25,17 @@ bool TVChannel::loading() const {
 void TVChannel::setLoading(bool loading) {
     const std::lock_guard lock(m_guard);
     m_loading = loading;
+}
+
+std::optional<LoadFailure> TVChannel::loadFailure() const {
+    const std::lock_guard lock(m_guard);
+    return m_loadFailure;
+}
+
+bool TVChannel::setLoadFailure(std::optional<LoadFailure> failure) {
+    const std::lock_guard lock(m_guard);
+    const std::optional<LoadFailure> previous = std::exchange(m_loadFailure, std::move(failure));
+    return m_loadFailure != previous;
 }
 
 std::optional<Moment> TVChannel::timeLoaded() const {
@@ -51,10 +64,11 @@ void TVChannel::unload() {
     QFile::remove(m_listingsPath);
 }
 
-void TVChannel::takeLoadTimeFrom(const TVChannel& earlier) {
+void TVChannel::takeLoadStateFrom(const TVChannel& earlier) {
     const std::scoped_lock lock(m_guard, earlier.m_guard);
     m_timeLoadedCache = earlier.m_timeLoadedCache;
     m_reloadRequired = earlier.m_reloadRequired;
+    m_loadFailure = earlier.m_loadFailure;
 }
 
 bool TVChannel::reloadNeeded(Moment now, std::chrono::seconds automaticUpdateInterval) const {

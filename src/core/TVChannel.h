@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/CatalogueChannel.h"
+#include "core/LoadFailure.h"
 #include "platform/Clock.h"
 #include "platform/Moment.h"
 
@@ -27,6 +28,12 @@ class TVChannel {
     bool loading() const;
     void setLoading(bool loading);
 
+    /// Why the last load stored nothing; unset while the channel is being loaded and after a load that stored
+    /// a list. Not kept between runs of the program.
+    std::optional<LoadFailure> loadFailure() const;
+    /// Returns whether that is a change.
+    bool setLoadFailure(std::optional<LoadFailure> failure);
+
     /// When the channel's list was last stored: the cached time, or else the modification date of its listing
     /// file. Nothing when there is no such file, or while a reload is required.
     std::optional<Moment> timeLoaded() const;
@@ -40,8 +47,9 @@ class TVChannel {
     /// has become empty.
     void unload();
 
-    /// Takes over the load time, or the required reload, of an earlier record of the same channel.
-    void takeLoadTimeFrom(const TVChannel& earlier);
+    /// Takes over the load time, or the required reload, and the failure of an earlier record of the same
+    /// channel.
+    void takeLoadStateFrom(const TVChannel& earlier);
 
     /// Whether the list is missing or older than the interval. A list exactly as old as the interval is not
     /// due, nor is a channel that is being loaded.
@@ -55,6 +63,7 @@ class TVChannel {
     mutable std::optional<Moment> m_timeLoadedCache;
     bool m_reloadRequired = false;
     bool m_loading = false;
+    std::optional<LoadFailure> m_loadFailure;
 };
 
 } // namespace guide

@@ -107,7 +107,7 @@ struct TVChannels::State final : CatalogueObserver {
         qDebug().noquote().nospace() << "channelID=" << id.hex() << " put...";
         auto record = std::make_shared<TVChannel>(*channel, cachesFolder);
         if (earlier) {
-            record->takeLoadTimeFrom(*earlier);
+            record->takeLoadStateFrom(*earlier);
         }
         qDebug().noquote().nospace() << "channelID=" << id.hex() << " did put.";
         return record;

@@ -287,6 +287,40 @@ TEST_F(UpdateCycleTest, RecordsTheResultOfEverySource) {
     EXPECT_EQ(read.all().size(), 2U);
 }
 
+TEST_F(UpdateCycleTest, TellsWhyALoadStoredNothing) {
+    const QString third = u"http://third.test/"_s;
+    UpdateWorld world(queues, clock,
+                      {{1, {u"cc.romania"_s}}, // has no host
+                       {2, {u"cc.romania"_s, u"n.two"_s, third}},
+                       {3, {third, u"n.three"_s}},
+                       {4, {u"s.four"_s}},
+                       {5, {third, u"n.five"_s}}});
+    world.answer(kShared, "2 5 -48\n5 6");
+    world.answerStatus(third, 404);
+    using Reason = LoadFailureReason;
+    const auto failure = [&](int channel) {
+        return world.channels->channelWithChannelId(UpdateWorld::channelNumbered(channel))->loadFailure();
+    };
+    world.client.onRequest([&](const HTTPRequest& request) {
+        if (request.url == QUrl(kSecond)) {
+            EXPECT_EQ(failure(4), std::nullopt) << "while the load runs";
+        }
+    });
+    for (const bool again : {false, true}) {
+        check(world);
+        EXPECT_EQ(failure(1), LoadFailure{});
+        EXPECT_EQ(failure(2), (LoadFailure{Reason::OnlyPastShows, u"n.test"_s, 0}));
+        EXPECT_EQ(failure(3), (LoadFailure{Reason::Status, u"third.test"_s, 404})) << "of the first source";
+        EXPECT_EQ(failure(4), (LoadFailure{Reason::NoAnswer, u"s.test"_s, 0}));
+        EXPECT_EQ(failure(5), std::nullopt) << "its second source has shows";
+        EXPECT_EQ(world.announced, again ? "2 3 4 4 2 3 " : "1 4 2 3 ");
+        world.clearLog();
+    }
+    world.answer(kSecond, "4 5");
+    check(world);
+    EXPECT_EQ(failure(4), std::nullopt);
+}
+
 TEST_F(UpdateCycleTest, AShutdownIsNotRecordedAsAFailureOfTheSource) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s, u"s.one"_s}}, {2, {u"s.two"_s}}});
     world.answerNothing(kShared);

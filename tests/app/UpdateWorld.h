@@ -6,6 +6,7 @@
 #include "platform/memory/ManualClock.h"
 #include "sources/SourceId.h"
 
+#include <set>
 #include <string>
 
 namespace guide {
@@ -65,6 +66,7 @@ class UpdateWorld : public UpdateStore {
     void clearLog() {
         parses.clear();
         offered.clear();
+        announced.clear();
         m_requestsSeen = client.requests().size();
     }
 
@@ -154,14 +156,21 @@ class UpdateWorld : public UpdateStore {
     SourceHealthRecords sourceHealth{folders.caches + QStringLiteral("/source-health.json")};
 
     std::vector<Parse> parses;
+    /// "channel " for each changed load failure, in the order of the announcements.
+    std::string announced;
     /// "channel:shows " for each list offered to the screens.
     std::string offered;
 
     const Reader reader{*this};
-    UpdateCycle cycle{UpdateCycleEnvironment{clock, device, queues, checkQueue, loadQueue, tasks, state,
-                                             *channels, catalogue, settings, planner, fetcher, userAgent,
-                                             *listings, sourceHealth, reader, [] { return 4; },
-                                             [this](const TopLists& top) { offer(top); }}};
+    UpdateCycle cycle{
+        UpdateCycleEnvironment{clock, device, queues, checkQueue, loadQueue, tasks, state, *channels,
+                               catalogue, settings, planner, fetcher, userAgent, *listings, sourceHealth,
+                               reader, [] { return 4; }, [this](const TopLists& top) { offer(top); },
+                               [this](const std::unordered_set<ObjectId>& ids) {
+                                   for (const ObjectId& id : std::set<ObjectId>(ids.begin(), ids.end())) {
+                                       announced += std::to_string(id.bytes().back()) + ' ';
+                                   }
+                               }}};
 };
 
 } // namespace guide

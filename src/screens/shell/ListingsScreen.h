@@ -4,6 +4,7 @@
 #include "store/ShowItem.h"
 
 #include <unordered_map>
+#include <unordered_set>
 
 namespace guide {
 
@@ -16,6 +17,8 @@ class ListingsScreen : public TableViewController {
     virtual void applicationDidBecomeActive() {}
     /// The update cycle has stored new lists.
     virtual void offerTopShows(const TopShows&) {}
+    /// The load failure of these channels has changed.
+    virtual void loadsEnded(const std::unordered_set<ObjectId>&) {}
     virtual void reloadData() {}
     virtual void recolor() {}
     virtual void notificationsSynched() {}

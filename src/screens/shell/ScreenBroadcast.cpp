@@ -15,6 +15,12 @@ void ScreenBroadcast::offerTopShows(const TopShows& top) {
     }
 }
 
+void ScreenBroadcast::loadsEnded(const std::unordered_set<ObjectId>& channels) {
+    if (m_applicationState.applicationState() != ApplicationState::Background) {
+        forEachScreen([&channels](ListingsScreen& screen) { screen.loadsEnded(channels); });
+    }
+}
+
 void ScreenBroadcast::reloadData() {
     forEachScreen([](ListingsScreen& screen) { screen.reloadData(); });
 }

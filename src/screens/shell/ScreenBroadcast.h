@@ -19,6 +19,9 @@ class ScreenBroadcast {
     void applicationDidBecomeActive();
     /// Does nothing in the background, because the next activation refreshes the screens.
     void offerTopShows(const TopShows& top);
+    /// The load failure of these channels has changed: a load has begun, or ended without a list. Does
+    /// nothing in the background either.
+    void loadsEnded(const std::unordered_set<ObjectId>& channels);
     void reloadData();
     void recolor();
     void favoritesUpdated();
