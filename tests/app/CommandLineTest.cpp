@@ -37,10 +37,7 @@ TEST(CommandLine, OptionsThatTrySomethingImplyATemporaryProfile) {
 }
 
 TEST(CommandLine, RefusesUnusableArguments) {
-    const struct {
-        const char* name;
-        QStringList words;
-    } cases[] = {
+    const std::pair<const char*, QStringList> cases[] = {
         {"unknown option", {u"--demos"_s}},
         {"value missing at the end", {u"--hosts"_s}},
         {"value empty", {u"--hosts="_s}},
@@ -49,11 +46,11 @@ TEST(CommandLine, RefusesUnusableArguments) {
         {"two URLs", {u"guide://a"_s, u"guide://b"_s}},
         {"a demo with a catalogue", {u"--demo"_s, u"--catalogue"_s, u"c"_s}},
     };
-    for (const auto& each : cases) {
-        const auto parsed = parseCommandLine(each.words);
+    for (const auto& [name, words] : cases) {
+        const auto parsed = parseCommandLine(words);
         const auto* text = std::get_if<CommandLineText>(&parsed);
-        ASSERT_TRUE(text) << each.name;
-        EXPECT_EQ(text->exitStatus, 2) << each.name;
+        ASSERT_TRUE(text) << name;
+        EXPECT_EQ(text->exitStatus, 2) << name;
     }
     const auto help = parseCommandLine({u"--demo"_s, u"--help"_s});
     EXPECT_EQ(std::get<CommandLineText>(help).exitStatus, 0);

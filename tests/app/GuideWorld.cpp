@@ -1,9 +1,9 @@
 #include "app/GuideWorld.h"
 
 #include "core/CatalogueFiles.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QDir>
-#include <QFile>
 #include <QImage>
 
 #include <gtest/gtest.h>
@@ -15,12 +15,6 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-
-void write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
-    file.write(bytes);
-}
 
 QString stamp(Moment moment) {
     return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC)
@@ -87,12 +81,12 @@ void GuideWorld::fillProfile(const std::vector<QStringList>& sources) {
         }
         channels += u"</dict>"_s;
     }
-    write(
+    replaceFile(
         root + u"/Data.plist"_s,
         u"<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>Channels</key><array>%1</array></dict></plist>"_s
             .arg(channels)
             .toUtf8());
-    write(root + u"/selection.json"_s, u"[%1]"_s.arg(selection.join(u',')).toUtf8());
+    replaceFile(root + u"/selection.json"_s, u"[%1]"_s.arg(selection.join(u',')).toUtf8());
 }
 
 GuideWorld::~GuideWorld() {

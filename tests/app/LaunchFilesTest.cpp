@@ -1,5 +1,7 @@
 #include "app/LaunchFiles.h"
 
+#include "platform/files/FileReplacement.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -24,9 +26,7 @@ struct LaunchFilesTest : testing::Test {
     }
     QString path(const QString& name) const { return folder.filePath(name); }
     void write(const QString& name, const QByteArray& bytes) const {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+        ASSERT_TRUE(replaceFile(path(name), bytes));
     }
     const QTemporaryDir folder;
     Folders folders;

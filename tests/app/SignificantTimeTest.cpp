@@ -17,6 +17,12 @@ TEST(SignificantTime, IsDetectedBetweenTwoReadings) {
         change(reading);
         return reading;
     };
+    const auto afterSleep = [&](std::chrono::seconds span) {
+        return later([span](auto& reading) {
+            reading.now += span;
+            reading.sinceStart += span;
+        });
+    };
     const struct {
         const char* name;
         SignificantTime::Reading reading;
@@ -25,16 +31,8 @@ TEST(SignificantTime, IsDetectedBetweenTwoReadings) {
         {"twenty ordinary seconds", later([](auto&) {}), false},
         {"midnight", later([](auto& reading) { reading.date = QDate(2026, 11, 22); }), true},
         {"another zone", later([](auto& reading) { reading.zone = "Europe/Athens"; }), true},
-        {"a night's sleep", later([](auto& reading) {
-             reading.now += 7h;
-             reading.sinceStart += 7h;
-         }),
-         true},
-        {"a short sleep", later([](auto& reading) {
-             reading.now += 5s;
-             reading.sinceStart += 5s;
-         }),
-         false},
+        {"a night's sleep", afterSleep(7h), true},
+        {"a short sleep", afterSleep(5s), false},
         {"the clock set forward", later([](auto& reading) { reading.now += 1h; }), true},
         {"the clock set back", later([](auto& reading) { reading.now -= 1h; }), true},
     };

@@ -64,19 +64,6 @@ TEST_F(UpdateCycleTest, ALaterSourceIsAskedOnlyForChannelsWithoutShows) {
     EXPECT_EQ(world.offered, "2:4 1:4 3:4 ");
 }
 
-TEST_F(UpdateCycleTest, AListIsDueByItsAge) {
-    UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
-    world.userDefaults.setInteger(u"data_update"_s, 3600);
-    world.answer(kShared, "1 30");
-    check(world);
-    clock.advance(3600s);
-    check(world);
-    EXPECT_EQ(world.parses.size(), 1U);
-    clock.advance(1s);
-    check(world);
-    EXPECT_EQ(world.parses.size(), 2U);
-}
-
 TEST_F(UpdateCycleTest, AShortListIsReloadedAtEachCheckAndKeptOnFailure) {
     UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
     world.answer(kShared, "1 3");

@@ -39,11 +39,8 @@ TEST(UpdatePlanTest, DecidesWhatIsDue) {
 }
 
 TEST(UpdatePlanTest, PlansEverySource) {
-    const CatalogueChannel row{.id = channel(1),
-                               .title = u"One"_s,
-                               .language = u"sk"_s,
-                               .region = u"Slovak"_s,
-                               .sourceIds = {u"a"_s, u"none"_s, u"c"_s, u""_s}};
+    const CatalogueChannel row{channel(1),  u"One"_s, u"sk"_s,
+                               u"Slovak"_s, {},       {u"a"_s, u"none"_s, u"c"_s, u""_s}};
     QStringList asked;
     const auto sources = planSources(row, [&](const QString& sourceId) {
         asked << sourceId;
@@ -93,26 +90,26 @@ TEST(UpdatePlanTest, OrdersListsBySourceNumberAndMergesEqualOnes) {
     const Row rows[] = {
         {"nothing due", {}, ""},
         {"first sources before second ones",
-         {{channel(1), {source(1, "a", {"x"}), source(2, "b", {"y"})}},
-          {channel(2), {source(1, "c", {"z"})}}},
+         Channels{{channel(1), {source(1, "a", {"x"}), source(2, "b", {"y"})}},
+                  {channel(2), {source(1, "c", {"z"})}}},
          "x:1a | z:2c | y:1b"},
         {"one fetch for all that share a list",
-         {{channel(1), {source(1, "a", {"x", "y"})}}, {channel(2), {source(1, "b", {"x", "y"})}}},
+         Channels{{channel(1), {source(1, "a", {"x", "y"})}}, {channel(2), {source(1, "b", {"x", "y"})}}},
          "x+y:1a 2b"},
         {"another order is another list",
-         {{channel(1), {source(1, "a", {"x", "y"})}}, {channel(2), {source(1, "b", {"y", "x"})}}},
+         Channels{{channel(1), {source(1, "a", {"x", "y"})}}, {channel(2), {source(1, "b", {"y", "x"})}}},
          "x+y:1a | y+x:2b"},
         {"a list is placed by its lowest number",
-         {{channel(1), {source(1, "a", {"x"}), source(2, "b", {"y"})}},
-          {channel(2), {source(1, "c", {"z"})}},
-          {channel(3), {source(1, "d", {"y"})}}},
+         Channels{{channel(1), {source(1, "a", {"x"}), source(2, "b", {"y"})}},
+                  {channel(2), {source(1, "c", {"z"})}},
+                  {channel(3), {source(1, "d", {"y"})}}},
          "x:1a | z:2c | y:1b 3d"},
         {"a source that a channel lists twice counts once",
-         {{channel(1), {source(1, "a", {"x"}), source(2, "a", {"x"}), source(3, "b", {"x"})}},
-          {channel(2), {source(1, "a", {"x"})}}},
+         Channels{{channel(1), {source(1, "a", {"x"}), source(2, "a", {"x"}), source(3, "b", {"x"})}},
+                  {channel(2), {source(1, "a", {"x"})}}},
          "x:1a 1b 2a"},
         {"numbers may have gaps",
-         {{channel(1), {source(5, "a", {"x"})}}, {channel(2), {source(3, "b", {"y"})}}},
+         Channels{{channel(1), {source(5, "a", {"x"})}}, {channel(2), {source(3, "b", {"y"})}}},
          "y:2b | x:1a"},
     };
     for (const Row& row : rows) {

@@ -55,10 +55,10 @@ class UpdateWorld : public UpdateStore {
     /// The requested URLs; consecutive attempts count once.
     QStringList requests() const {
         QStringList urls;
-        const std::vector<QUrl> all = client.requestedURLs();
+        const std::vector<HTTPRequest> all = client.requests();
         for (std::size_t i = m_requestsSeen; i < all.size(); ++i) {
-            if (urls.isEmpty() || urls.last() != all[i].toString()) {
-                urls << all[i].toString();
+            if (urls.isEmpty() || urls.last() != all[i].url.toString()) {
+                urls << all[i].url.toString();
             }
         }
         return urls;

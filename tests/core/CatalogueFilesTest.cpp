@@ -1,12 +1,12 @@
 #include "core/CatalogueFiles.h"
 
 #include "core/Catalogue.h"
+#include "fakes/Files.h"
 #include "platform/archive/Archive.h"
 #include "platform/files/FileReplacement.h"
 
 #include <QCborArray>
 #include <QCborMap>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -68,9 +68,7 @@ TEST_F(CatalogueFilesTest, UsesTheArchiveWhileItIsNewer) {
 TEST_F(CatalogueFilesTest, ADamagedArchiveIsRebuilt) {
     supply("Jedna", kSupplied);
     load();
-    QFile file(archive);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.resize(file.size() - 1));
-    file.close();
+    ASSERT_TRUE(QFile::resize(archive, QFile(archive).size() - 1));
     supply("Dvě", kSupplied);
     EXPECT_EQ(load(), u"Dvě"_s);
     supply("Tři", kSupplied);
@@ -97,11 +95,10 @@ TEST_F(CatalogueFilesTest, AnEmptyCatalogueIsNotArchived) {
 TEST_F(CatalogueFilesTest, TheArchiveHoldsTheRowsAsSupplied) {
     supply("Jedna", kSupplied);
     load();
-    QFile file(archive);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QCborMap row{
         {u"Icon"_s, u"Czech/a"_s}, {u"Language"_s, u"cs"_s}, {u"Location"_s, kId}, {u"Title"_s, u"Jedna"_s}};
-    EXPECT_EQ(unarchivedRoot(file.readAll()), QCborValue(QCborMap{{u"Channels"_s, QCborArray{row}}}));
+    EXPECT_EQ(unarchivedRoot(test::contentOf(archive)),
+              QCborValue(QCborMap{{u"Channels"_s, QCborArray{row}}}));
 }
 
 TEST(CatalogueRowTest, ReadsTheValues) {

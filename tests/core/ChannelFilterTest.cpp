@@ -62,26 +62,26 @@ TEST(ChannelFilterTest, KeepsTheBetterVersionOfAChannel) {
     const auto other = [](const QString& id, const QString& title, const QString& language = u"cs"_s) {
         return channel(id, title, language, u"Other/a"_s);
     };
+    using Channels = std::vector<CatalogueRow>;
     struct Row {
         const char* name;
-        std::vector<CatalogueRow> channels;
+        Channels channels;
         QString titles;
     };
     const Row rows[] = {
         {"home first", {czech(kA, u"home"_s), other(kA, u"other"_s)}, u"home"_s},
         {"home last moves to the end",
-         {other(kA, u"other"_s), czech(kB, u"b"_s), czech(kA, u"home"_s), czech(kC, u"c"_s)},
+         Channels{other(kA, u"other"_s), czech(kB, u"b"_s), czech(kA, u"home"_s), czech(kC, u"c"_s)},
          u"b home c"_s},
         {"equal versions", {other(kA, u"first"_s), other(kA, u"second"_s)}, u"first"_s},
-        {"score 0 never replaces",
-         {other(kA, u"first"_s, u"en"_s), other(kA, u"second"_s, u"fr"_s)},
+        {"score 0 never replaces", Channels{other(kA, u"first"_s, u"en"_s), other(kA, u"second"_s, u"fr"_s)},
          u"first"_s},
         {"improved twice",
-         {other(kA, u"en"_s, u"en"_s), other(kA, u"cs"_s), czech(kA, u"home"_s), czech(kA, u"again"_s)},
+         Channels{other(kA, u"en"_s, u"en"_s), other(kA, u"cs"_s), czech(kA, u"home"_s),
+                  czech(kA, u"again"_s)},
          u"home"_s},
         {"the same identity in another case",
-         {czech(kA, u"first"_s), czech(kA.toUpper(), u"second"_s)},
-         u"first"_s},
+         Channels{czech(kA, u"first"_s), czech(kA.toUpper(), u"second"_s)}, u"first"_s},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

@@ -40,6 +40,11 @@ class TVChannelsTest : public testing::Test {
   protected:
     TVChannelsTest() { catalogue.replace(listed({kA, kB})); }
     TVChannels makeChannels() { return {folders, keyValueStore, queues, catalogue}; }
+    /// Sets the selection and lets it be written.
+    void select(TVChannels& channels, const std::vector<ObjectId>& ids) {
+        channels.setSelected(ids);
+        queues.runAll();
+    }
     QString path() const { return folders.documents + u"/selectedChannels.plist"_s; }
 
     QTemporaryDir folder;
@@ -66,25 +71,21 @@ TEST_F(TVChannelsTest, SelectionAndItsOrderOutliveTheProcess) {
 
 TEST_F(TVChannelsTest, AnEqualSelectionWritesNothing) {
     TVChannels channels = makeChannels();
-    channels.setSelected({kA});
-    queues.runAll();
+    select(channels, {kA});
     ASSERT_TRUE(QFile::remove(path()));
-    channels.setSelected({kA});
-    queues.runAll();
+    select(channels, {kA});
     EXPECT_FALSE(QFile::exists(path()));
     EXPECT_EQ(keyValueStore.writeCount(), 1);
 
     channels.setSelected({kB});
-    channels.setSelected({});
-    queues.runAll();
+    select(channels, {});
     EXPECT_EQ(keyValueStore.valueForKey(u"SelectedChannels"_s), QCborValue(QCborArray{}));
 }
 
 TEST_F(TVChannelsTest, AFailedWriteIsNotMirroredAndIsRetried) {
     TVChannels channels = makeChannels();
     ASSERT_TRUE(QDir().mkdir(path()) && QDir(path()).mkdir(u"in the way"_s));
-    channels.setSelected({kA});
-    queues.runAll();
+    select(channels, {kA});
     EXPECT_FALSE(channels.finishWriting());
     EXPECT_EQ(keyValueStore.writeCount(), 0);
     EXPECT_EQ(channels.selected(), std::vector{kA});

@@ -1,7 +1,8 @@
 #include "core/TVStationIcons.h"
 
+#include "platform/files/FileReplacement.h"
+
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -61,11 +62,10 @@ TEST(TVStationIconsTest, KeepsABitmapOfTheRightSize) {
 
 TEST(TVStationIconsTest, RendersSVGAtTheIconsOwnSize) {
     QTemporaryDir folder;
-    QFile svg(folder.filePath(u"halves.svg"_s));
-    ASSERT_TRUE(svg.open(QIODevice::WriteOnly));
-    svg.write(R"(<svg xmlns="http://www.w3.org/2000/svg" width="10" height="6" viewBox="0 0 10 6">)"
-              R"(<rect width="10" height="6" fill="#f00"/><rect width="5" height="6" fill="#00f"/></svg>)");
-    svg.close();
+    const QByteArray svg =
+        R"(<svg xmlns="http://www.w3.org/2000/svg" width="10" height="6" viewBox="0 0 10 6">)"
+        R"(<rect width="10" height="6" fill="#f00"/><rect width="5" height="6" fill="#00f"/></svg>)";
+    ASSERT_TRUE(replaceFile(folder.filePath(u"halves.svg"_s), svg));
     const QImage icon = TVStationIcons(folder.path(), 2).iconNamed(u"halves"_s);
     ASSERT_EQ(icon.size(), QSize(100, 72));
     EXPECT_EQ(icon.pixelColor(50, 4).alpha(), 0);
@@ -82,17 +82,13 @@ TEST(TVStationIconsTest, FindsIconsByName) {
     ASSERT_TRUE(filled(10, 10).save(icons + u"/cz.three.png"_s));
     ASSERT_TRUE(filled(10, 10).save(icons + u"/s\u030cport.png"_s));
     ASSERT_TRUE(filled(10, 10).save(folder.filePath(u"outside.png"_s)));
-    QFile broken(icons + u"/broken.png"_s);
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write("no image") > 0);
-    broken.close();
+    ASSERT_TRUE(replaceFile(icons + u"/broken.png"_s, "no image"));
 
     TVStationIcons stationIcons(icons, 1);
-    EXPECT_FALSE(stationIcons.iconNamed(u"one"_s).isNull());
-    EXPECT_FALSE(stationIcons.iconNamed(u"one.png"_s).isNull());
-    EXPECT_FALSE(stationIcons.iconNamed(u"two"_s).isNull());
-    EXPECT_FALSE(stationIcons.iconNamed(u"cz.three"_s).isNull());
-    EXPECT_FALSE(stationIcons.iconNamed(u"šport"_s).isNull());
-    EXPECT_FALSE(stationIcons.iconNamed(u"s\u030cport"_s).isNull());
+    for (const QString& name :
+         {u"one"_s, u"one.png"_s, u"two"_s, u"cz.three"_s, u"šport"_s, u"s\u030cport"_s}) {
+        EXPECT_FALSE(stationIcons.iconNamed(name).isNull()) << name.toStdString();
+    }
     EXPECT_TRUE(stationIcons.iconNamed(u"cz"_s).isNull());
     EXPECT_TRUE(stationIcons.iconNamed(QString()).isNull());
     EXPECT_TRUE(stationIcons.iconNamed(u"../outside"_s).isNull());

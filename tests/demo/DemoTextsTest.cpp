@@ -14,7 +14,6 @@
 using namespace Qt::StringLiterals;
 
 namespace guide {
-
 namespace {
 
 TEST(TextGrammar, NamesFileAndLineOfEveryError) {
@@ -96,5 +95,4 @@ TEST(DemoTexts, HaveARuleForEveryPlannedKind) {
 }
 
 } // namespace
-
 } // namespace guide

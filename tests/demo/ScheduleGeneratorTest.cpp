@@ -13,7 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace guide {
-
 namespace {
 
 constexpr int kDays = 8;
@@ -62,7 +61,7 @@ TEST(ScheduleGenerator, GeneratesTheSameDayForEveryRange) {
     }
 }
 
-TEST(ScheduleGenerator, GeneratesTextsThatTheReaderDoesNotShorten) {
+TEST(ScheduleGenerator, GeneratesCompleteTexts) {
     for (const DemoChannel& channel : demoChannels()) {
         for (const Programme& programme : schedule(channel, kFirstDay, kDays)) {
             const std::string title = programme.title.toStdString();
@@ -72,10 +71,6 @@ TEST(ScheduleGenerator, GeneratesTextsThatTheReaderDoesNotShorten) {
                 EXPECT_FALSE(text.contains(u'{') || text.contains(u'}') || text.contains(u'@') ||
                              text.contains("  "_L1))
                     << text.toStdString();
-            }
-            // A comma, a bracket or a parenthesis would cut the title short.
-            for (const QChar mark : {u',', u'(', u'['}) {
-                EXPECT_FALSE(programme.title.contains(mark)) << title;
             }
             EXPECT_TRUE(programme.description.isEmpty() || programme.description.endsWith(u'.')) << title;
             EXPECT_FALSE(!programme.subtitle.isEmpty() && programme.subtitle.front().isDigit()) << title;
@@ -88,20 +83,14 @@ TEST(ScheduleGenerator, HasEveryTopicAndManyTitles) {
     std::map<Topic, int> topics;
     QSet<QString> titles;
     int repeats = 0;
-    int overMidnight = 0;
     int episodes = 0;
     int total = 0;
     for (const DemoChannel& channel : demoChannels()) {
-        const QTimeZone zone(channel.zone);
         for (const Programme& programme : schedule(channel, kFirstDay, kDays)) {
             ++topics[programme.topic];
             titles.insert(programme.title);
             repeats += int(programme.repeat);
             episodes += int(programme.episode > 0);
-            const auto date = [&zone](Moment at) {
-                return QDateTime::fromMSecsSinceEpoch(at.time_since_epoch().count(), zone).date();
-            };
-            overMidnight += int(date(programme.start) != date(programme.stop));
             ++total;
         }
     }
@@ -109,7 +98,6 @@ TEST(ScheduleGenerator, HasEveryTopicAndManyTitles) {
     EXPECT_GT(titles.size(), 1000);
     EXPECT_GT(repeats, total / 20);
     EXPECT_GT(episodes, total / 5);
-    EXPECT_GT(overMidnight, 100);
 }
 
 TEST(ScheduleGenerator, StartsNewsOnTheHour) {
@@ -158,5 +146,4 @@ TEST(BlockFitting, FillsTheMinutesExactly) {
 }
 
 } // namespace
-
 } // namespace guide

@@ -12,7 +12,6 @@
 using namespace Qt::StringLiterals;
 
 namespace guide {
-
 namespace {
 
 constexpr Moment kLongAgo{};
@@ -39,83 +38,67 @@ const Programme kAwkward{.start = Moment(std::chrono::hours(500'000)),
                          .year = 1999,
                          .country = u"Česko"_s};
 
-struct Style {
+using Form = FeedStyle::Form;
+
+const struct Style {
     const char* name;
     FeedStyle style;
-    QStringView instantDescription;
-    TVListingsCategory categories;
+    QString instantDescription;
+} kStyles[] = {
+    {"bracketed", {.form = Form::Bracketed}, u"12. díl (R)"_s},
+    {"bracketed, UTC", {.form = Form::Bracketed, .utc = true, .tightZone = true}, u"12. díl (R)"_s},
+    {"packed", {.form = Form::Packed}, u"12. díl"_s},
+    {"attributes", {.form = Form::Attributes, .singleQuotes = true}, u""_s},
+    {"CDATA", {.form = Form::Attributes, .cdata = true}, u""_s},
+    {"Windows-1251", {.form = Form::Attributes, .cyrillicBytes = true}, u""_s},
 };
 
-void PrintTo(const Style& style, std::ostream* out) {
-    *out << style.name;
+QByteArray document(const FeedChannel& channel, const FeedStyle& style) {
+    const QByteArray bytes = xmltvDocument({channel}, style);
+    return style.cyrillicBytes ? utf8FromCharacterSet(bytes, u"windows-1251"_s).value_or("") : bytes;
 }
 
-class EveryStyle : public testing::TestWithParam<Style> {
-  protected:
-    static QByteArray document(const std::vector<FeedChannel>& channels) {
-        const FeedStyle& style = GetParam().style;
-        QByteArray bytes = xmltvDocument(channels, style);
-        return style.cyrillicBytes ? utf8FromCharacterSet(bytes, u"windows-1251"_s).value_or(QByteArray())
-                                   : bytes;
+TEST(XMLTVWriter, WritesEveryFieldThatTheReaderKnows) {
+    for (const Style& each : kStyles) {
+        SCOPED_TRACE(each.name);
+        const auto entries =
+            read(document({u"a&'\"<b"_s, u"A & B"_s, "Europe/Prague", {kAwkward}}, each.style));
+        ASSERT_EQ(entries.size(), 1U);
+        const TVEntry& entry = *entries[0].basic;
+        EXPECT_EQ(entry.sourceId(), u"a&'\"<b"_s);
+        EXPECT_EQ(entry.dateTime(), kAwkward.start);
+        EXPECT_EQ(entry.endDateTime(), kAwkward.stop);
+        EXPECT_EQ(entry.identificator(), kAwkward.title);
+        EXPECT_EQ(entry.subtitle1(), kAwkward.subtitle);
+        EXPECT_EQ(entry.instantDescription1().value_or(QString()), each.instantDescription);
+        EXPECT_TRUE(entry.previouslyShown());
+        EXPECT_EQ(entries[0].extra->description, kAwkward.description);
+        EXPECT_EQ(entries[0].extra->directedBy, kAwkward.director);
+        EXPECT_EQ(entries[0].extra->roles, kAwkward.actors.join(u", "_s));
+        EXPECT_EQ(entries[0].categories, TVListingsCategorySeries);
     }
-};
-
-TEST_P(EveryStyle, WritesEveryFieldThatTheReaderKnows) {
-    const auto entries = read(document({{u"a&'\"<b"_s, u"A & B"_s, "Europe/Prague", {kAwkward}}}));
-    ASSERT_EQ(entries.size(), 1U);
-    const TVEntry& entry = *entries[0].basic;
-    EXPECT_EQ(entry.sourceId(), u"a&'\"<b"_s);
-    EXPECT_EQ(entry.dateTime(), kAwkward.start);
-    EXPECT_EQ(entry.endDateTime(), kAwkward.stop);
-    EXPECT_EQ(entry.identificator(), kAwkward.title);
-    EXPECT_EQ(entry.subtitle1(), kAwkward.subtitle);
-    EXPECT_EQ(entry.instantDescription1().value_or(QString()), GetParam().instantDescription.toString());
-    EXPECT_TRUE(entry.previouslyShown());
-    EXPECT_EQ(entries[0].extra->description, kAwkward.description);
-    EXPECT_EQ(entries[0].extra->directedBy, kAwkward.director);
-    EXPECT_EQ(entries[0].extra->roles, kAwkward.actors.join(u", "_s));
-    EXPECT_EQ(entries[0].categories.value_or(0), GetParam().categories);
 }
 
-TEST_P(EveryStyle, KeepsEveryTitleAndTime) {
+TEST(XMLTVWriter, KeepsEveryTitleAndTime) {
     for (const DemoChannel& channel : demoChannels()) {
         const auto programmes = ScheduleGenerator(sourceTexts()).schedule(channel, QDate(2026, 11, 20), 2);
-        const auto entries = read(document({{channel.feedId, channel.title, channel.zone, programmes}}));
-        ASSERT_EQ(entries.size(), programmes.size()) << channel.key.toStdString();
-        for (std::size_t i = 0; i < entries.size(); ++i) {
-            EXPECT_EQ(entries[i].basic->identificator().value_or(QString()).toStdString(),
-                      programmes[i].title.toStdString());
-            EXPECT_EQ(entries[i].basic->dateTime(), programmes[i].start);
-            EXPECT_EQ(entries[i].basic->previouslyShown(), programmes[i].repeat);
+        for (const Style& each : kStyles) {
+            SCOPED_TRACE(channel.key.toStdString() + ", " + each.name);
+            const auto entries =
+                read(document({channel.feedId, channel.title, channel.zone, programmes}, each.style));
+            ASSERT_EQ(entries.size(), programmes.size());
+            for (std::size_t i = 0; i < entries.size(); ++i) {
+                EXPECT_EQ(entries[i].basic->identificator(), programmes[i].title);
+                EXPECT_EQ(entries[i].basic->dateTime(), programmes[i].start);
+                EXPECT_EQ(entries[i].basic->previouslyShown(), programmes[i].repeat);
+            }
         }
     }
 }
 
-using Form = FeedStyle::Form;
-
-INSTANTIATE_TEST_SUITE_P(
-    All, EveryStyle,
-    testing::Values(
-        Style{"Bracketed", {.form = Form::Bracketed}, u"12. díl (R)", TVListingsCategorySeries},
-        Style{"BracketedUTC",
-              {.form = Form::Bracketed, .utc = true, .tightZone = true},
-              u"12. díl (R)",
-              TVListingsCategorySeries},
-        Style{"Packed", {.form = Form::Packed}, u"12. díl", TVListingsCategorySeries},
-        Style{"Attributes", {.form = Form::Attributes, .singleQuotes = true}, u"", TVListingsCategorySeries},
-        Style{"CDATA", {.form = Form::Attributes, .cdata = true}, u"", TVListingsCategorySeries},
-        Style{
-            "Windows1251", {.form = Form::Attributes, .cyrillicBytes = true}, u"", TVListingsCategorySeries}),
-    [](const auto& row) { return std::string(row.param.name); });
-
-struct TopicRow {
-    Topic topic;
-    TVListingsCategory wanted;
-};
-
 // Category bits that a topic's words must yield; other bits may be set as well.
 TEST(TopicWords, YieldTheRightCategories) {
-    const std::vector<TopicRow> rows = {
+    const std::pair<Topic, TVListingsCategory> rows[] = {
         {Topic::Comedy, TVListingsCategoryMovies | TVListingsCategoryComedies},
         {Topic::Drama, TVListingsCategoryMovies | TVListingsCategoryDramas},
         {Topic::Crime, TVListingsCategoryMovies | TVListingsCategoryCrime},
@@ -140,9 +123,9 @@ TEST(TopicWords, YieldTheRightCategories) {
         {Topic::Sports, TVListingsCategorySports},
     };
     for (const QString& language : {u"cs"_s, u"sk"_s, u"fr"_s}) {
-        for (const TopicRow& row : rows) {
+        for (const auto& [topic, wanted] : rows) {
             Programme programme = kAwkward;
-            programme.topic = row.topic;
+            programme.topic = topic;
             programme.language = language;
             programme.subtitle.clear();
             programme.actors.clear();
@@ -150,12 +133,11 @@ TEST(TopicWords, YieldTheRightCategories) {
             programme.episode = 0;
             const auto entries = read(xmltvDocument({{u"c"_s, u"C"_s, "Europe/Prague", {programme}}}, {}));
             ASSERT_EQ(entries.size(), 1U);
-            EXPECT_EQ(entries[0].categories.value_or(0) & row.wanted, row.wanted)
-                << language.toStdString() << ' ' << int(row.topic);
+            EXPECT_EQ(entries[0].categories.value_or(0) & wanted, wanted)
+                << language.toStdString() << ' ' << int(topic);
         }
     }
 }
 
 } // namespace
-
 } // namespace guide

@@ -17,12 +17,10 @@ class FakeBackgroundTasks final : public BackgroundTasks {
         return m_last;
     }
     void endBackgroundTask(BackgroundTaskId task) override {
-        Block handler;
+        // Destroyed after the lock is released.
+        decltype(m_running)::node_type ended;
         const std::lock_guard guard(m_guard);
-        if (const auto found = m_running.find(task); found != m_running.end()) {
-            handler = std::move(found->second);
-            m_running.erase(found);
-        }
+        ended = m_running.extract(task);
     }
 
     /// The number of tasks ever begun.

@@ -74,15 +74,6 @@ class FakeHTTPClient final : public HTTPClient {
         const std::lock_guard guard(m_guard);
         return m_requests;
     }
-    std::vector<QUrl> requestedURLs() const {
-        const std::lock_guard guard(m_guard);
-        std::vector<QUrl> urls;
-        urls.reserve(m_requests.size());
-        for (const HTTPRequest& request : m_requests) {
-            urls.push_back(request.url);
-        }
-        return urls;
-    }
     /// URLs whose cached response was removed.
     std::vector<QUrl> forgotten() const {
         const std::lock_guard guard(m_guard);

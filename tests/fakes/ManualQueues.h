@@ -195,9 +195,12 @@ class ManualQueues final : public DispatchQueues, private ThreadWaiting {
     explicit ManualQueues(ManualClock& clock)
         : m_state(std::make_shared<ManualQueuesState>(clock)) {
         m_main = add("main", ManualQueue::Kind::Main);
-        m_background = add("global.background", ManualQueue::Kind::Concurrent);
-        m_default = add("global.default", ManualQueue::Kind::Concurrent);
-        m_userInitiated = add("global.user-initiated", ManualQueue::Kind::Concurrent);
+        for (const auto& [priority, label] :
+             {std::pair(QueuePriority::Background, "global.background"),
+              std::pair(QueuePriority::Default, "global.default"),
+              std::pair(QueuePriority::UserInitiated, "global.user-initiated")}) {
+            m_global[priority] = add(label, ManualQueue::Kind::Concurrent);
+        }
         clock.onMove([state = std::weak_ptr(m_state)] {
             if (const auto held = state.lock()) {
                 fireTimers(*held);
@@ -213,11 +216,7 @@ class ManualQueues final : public DispatchQueues, private ThreadWaiting {
     }
 
     DispatchQueue& mainQueue() override { return *m_main; }
-    DispatchQueue& globalQueue(QueuePriority priority) override {
-        return priority == QueuePriority::Background ? *m_background
-               : priority == QueuePriority::Default  ? *m_default
-                                                     : *m_userInitiated;
-    }
+    DispatchQueue& globalQueue(QueuePriority priority) override { return *m_global.at(priority); }
     std::shared_ptr<DispatchQueue> makeQueue(std::string label, QueueKind kind,
                                              QueuePriority = QueuePriority::Default) override {
         return add(std::move(label),
@@ -319,9 +318,7 @@ class ManualQueues final : public DispatchQueues, private ThreadWaiting {
 
     const std::shared_ptr<ManualQueuesState> m_state;
     std::shared_ptr<ManualQueue> m_main;
-    std::shared_ptr<ManualQueue> m_background;
-    std::shared_ptr<ManualQueue> m_default;
-    std::shared_ptr<ManualQueue> m_userInitiated;
+    std::map<QueuePriority, std::shared_ptr<ManualQueue>> m_global;
     ThreadWaiting* m_outerWaiting = nullptr;
 };
 

@@ -48,11 +48,6 @@ class ScriptedServer {
         const std::lock_guard lock(m_mutex);
         return m_requests;
     }
-    int requestCount(const QByteArray& target) const {
-        const std::lock_guard lock(m_mutex);
-        return int(std::count_if(m_requests.begin(), m_requests.end(),
-                                 [&](const Request& request) { return request.target == target; }));
-    }
     void forgetRequests() {
         const std::lock_guard lock(m_mutex);
         m_requests.clear();

@@ -79,11 +79,7 @@ class ListDriverTest : public ::testing::Test {
 };
 
 TEST_F(ListDriverTest, DerivesFeedIdsFromSourceIds) {
-    struct Row {
-        QString sourceId;
-        std::vector<QString> wanted;
-    };
-    const std::vector<Row> rows{
+    const std::pair<QString, std::vector<QString>> rows[] = {
         {u"r.ba.Sarajevo.ba"_s, {u"Sarajevo.ba"_s}},
         {u"r..x"_s, {u"x"_s}},
         {u"r.x"_s, {u""_s}},
@@ -95,8 +91,8 @@ TEST_F(ListDriverTest, DerivesFeedIdsFromSourceIds) {
         {u"https://h/a.xml"_s, {}},
         {u"tvp.x"_s, {}},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(wantedFeedChannels(items({row.sourceId})), row.wanted) << row.sourceId.toStdString();
+    for (const auto& [sourceId, wanted] : rows) {
+        EXPECT_EQ(wantedFeedChannels(items({sourceId})), wanted) << sourceId.toStdString();
     }
 }
 

@@ -56,12 +56,8 @@ class URLPlannerTest : public testing::Test {
 };
 
 TEST_F(URLPlannerTest, FamiliesWithoutDates) {
-    struct Row {
-        QString sourceId;
-        QStringList urls;
-    };
     const QStringList nothing{u"nothing"_s};
-    const Row rows[] = {
+    const std::pair<QString, QStringList> rows[] = {
         {u"r.cz-sk.CT1.cz"_s, {u"https://ra.example/ryteccz-sk.xz"_s}},
         {u"r..x"_s, {u"https://ra.example/rytec.xz"_s}},
         {u"r.foo"_s, nothing},
@@ -82,9 +78,9 @@ TEST_F(URLPlannerTest, FamiliesWithoutDates) {
         {u"hrt-1"_s, {u"http://profil.example:82/xmltv/data/hrt-1/weekly_hrt-1_profil.example:82.xml"_s}},
         {u"042"_s, {u"http://profil.example:82/xmltv/data/042/weekly_042_profil.example:82.xml"_s}},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(plan(row.sourceId), row.urls) << row.sourceId.toStdString();
-        EXPECT_EQ(plan(row.sourceId, kSpring), row.urls) << "at any time";
+    for (const auto& [sourceId, urls] : rows) {
+        EXPECT_EQ(plan(sourceId), urls) << sourceId.toStdString();
+        EXPECT_EQ(plan(sourceId, kSpring), urls) << "at any time";
     }
     const std::tuple<QString, QString, QString, int> numbered[] = {
         {u"cc.romania"_s, u"https://cc.example/program-tv"_s, u"?page="_s, 1},

@@ -24,11 +24,7 @@ TEST(CharacterSetsTest, DecodesStrictlyByName) {
         {"KOI8-R", "\xf0", u"KOI8-R"_s, u"П"_s},
         {"Shift_JIS", "\x93\xfa", u"SHIFT_JIS"_s, u"日"_s},
         {"big-endian UTF-16", QByteArray("\xfe\xff\0A", 4), u"UTF-16"_s, u"A"_s},
-        {"little-endian UTF-16",
-         QByteArray("\xff\xfe"
-                    "A\0",
-                    4),
-         u"UTF-16"_s, u"A"_s},
+        {"little-endian UTF-16", QByteArray("\xff\xfe\x41\0", 4), u"UTF-16"_s, u"A"_s},
         {"UTF-8", "\xc4\x8d", u"UTF-8"_s, u"č"_s},
         {"surrounding blanks", "\xc4\x8d", u" utf-8 "_s, u"č"_s},
         {"NUL", QByteArray("a\0b", 3), u"WINDOWS-1250"_s, u"a\0b"_s},

@@ -7,6 +7,7 @@
 
 #include <future>
 #include <gtest/gtest.h>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -36,8 +37,22 @@ class CurlHTTPClientTest : public testing::Test {
         return request;
     }
     TransferResult get(const QString& path = u"/"_s) { return client.perform(request(path)); }
+    /// The result of the request when the server replies like this.
+    TransferResult result(const ScriptedReply& reply, const HTTPRequest& httpRequest) {
+        server.reply(reply);
+        return client.perform(httpRequest);
+    }
+    TransferResult inPieces(const ScriptedReply& reply, const HTTPRequest& httpRequest) {
+        server.reply(reply);
+        return client.perform(httpRequest, collect);
+    }
 
     static std::unique_ptr<GlobalLibraries> libraries;
+    QByteArray pieces;
+    const TakePiece collect = [this](QByteArrayView piece) {
+        pieces += piece;
+        return true;
+    };
     ScriptedServer server;
     ManualClock clock;
     ResponseCache cache{clock, 1'000'000, [] { return 1h; }};
@@ -70,13 +85,13 @@ TEST_F(CurlHTTPClientTest, ReturnsResponses) {
          200, "page"},
     };
     for (const Case& each : cases) {
-        server.reply(each.reply);
-        const TransferResult result = get();
-        ASSERT_TRUE(result.response) << each.name;
-        EXPECT_FALSE(result.error) << each.name;
-        EXPECT_EQ(result.response->statusCode, each.status) << each.name;
-        EXPECT_EQ(result.response->header("X-Kind"), QByteArray("test")) << each.name;
-        EXPECT_EQ(result.body, each.body) << each.name;
+        SCOPED_TRACE(each.name);
+        const TransferResult found = result(each.reply, request());
+        ASSERT_TRUE(found.response);
+        EXPECT_FALSE(found.error);
+        EXPECT_EQ(found.response->statusCode, each.status);
+        EXPECT_EQ(found.response->header("X-Kind"), QByteArray("test"));
+        EXPECT_EQ(found.body, each.body);
     }
     EXPECT_EQ(server.requests().size(), cases.size());
 }
@@ -102,18 +117,17 @@ TEST_F(CurlHTTPClientTest, IncompleteTransfersAreErrorsWithoutABody) {
         {"stalls", ScriptedReply::raw(promised + "half", End::Stall), true},
         {"stalls before the head", ScriptedReply::raw("HTTP/1.1 2", End::Stall), false},
     };
+    HTTPRequest httpRequest = request();
+    httpRequest.timeout = 60ms;
     for (const Case& each : cases) {
-        server.reply(each.reply);
-        HTTPRequest httpRequest = request();
-        httpRequest.timeout = 60ms;
-        const TransferResult result = client.perform(httpRequest);
-        EXPECT_EQ(result.response.has_value(), each.response) << each.name;
-        EXPECT_TRUE(result.body.isEmpty()) << each.name;
-        ASSERT_TRUE(result.error) << each.name;
-        EXPECT_FALSE(result.error->description.isEmpty() || result.error->cancelled) << each.name;
+        SCOPED_TRACE(each.name);
+        const TransferResult found = result(each.reply, httpRequest);
+        EXPECT_EQ(found.response.has_value(), each.response);
+        EXPECT_TRUE(found.body.isEmpty());
+        ASSERT_TRUE(found.error);
+        EXPECT_FALSE(found.error->description.isEmpty() || found.error->cancelled);
     }
-    server.reply(ScriptedReply::ok(QByteArray(kBodyLimit, 'x')));
-    EXPECT_EQ(get().body.size(), kBodyLimit);
+    EXPECT_EQ(result(ScriptedReply::ok(QByteArray(kBodyLimit, 'x')), request()).body.size(), kBodyLimit);
 }
 
 TEST_F(CurlHTTPClientTest, LimitsInactivityAndTotalTime) {
@@ -121,14 +135,12 @@ TEST_F(CurlHTTPClientTest, LimitsInactivityAndTotalTime) {
     slow.then("p", 40ms).then("a", 40ms).then("g", 40ms).then("e", 40ms);
     HTTPRequest patient = request();
     patient.timeout = 120ms;
-    server.reply(slow);
-    EXPECT_EQ(client.perform(patient).body, "page") << "each pause is shorter than the timeout";
+    EXPECT_EQ(result(slow, patient).body, "page") << "each pause is shorter than the timeout";
 
     HTTPRequest hurried = patient;
     hurried.resourceTimeout = 100ms;
-    server.reply(slow);
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_TRUE(client.perform(hurried).error);
+    EXPECT_TRUE(result(slow, hurried).error);
     const auto taken = std::chrono::steady_clock::now() - start;
     EXPECT_GE(taken, 100ms);
     EXPECT_LT(taken, 1s);
@@ -136,10 +148,7 @@ TEST_F(CurlHTTPClientTest, LimitsInactivityAndTotalTime) {
 
 TEST_F(CurlHTTPClientTest, ReportsUnreachableServersAndUnsupportedURLs) {
     HTTPRequest httpRequest = request();
-    {
-        const ScriptedServer gone;
-        httpRequest.url = gone.url();
-    }
+    httpRequest.url = ScriptedServer().url();
     const TransferResult refused = client.perform(httpRequest);
     EXPECT_TRUE(refused.error && !refused.error->description.isEmpty() && !refused.response);
 
@@ -151,11 +160,7 @@ TEST_F(CurlHTTPClientTest, ReportsUnreachableServersAndUnsupportedURLs) {
 }
 
 TEST_F(CurlHTTPClientTest, WaitsForANetwork) {
-    std::uint16_t port = 0;
-    {
-        const ScriptedServer gone;
-        port = gone.port();
-    }
+    const std::uint16_t port = ScriptedServer().port();
     std::atomic<int> looks = 0;
     std::unique_ptr<ScriptedServer> back;
     std::function<bool()> hasNetwork;
@@ -226,20 +231,16 @@ TEST(NetworkRoutesTest, ADefaultRouteIsANetwork) {
 }
 
 TEST_F(CurlHTTPClientTest, SendsMethodHeadersAndBody) {
-    server.reply(ScriptedReply::ok(""));
-    server.reply(ScriptedReply::ok(""));
-    server.reply(ScriptedReply::ok(""));
-    HTTPRequest httpRequest;
-    httpRequest.cachePolicy = CachePolicy::ReloadIgnoringCache;
+    HTTPRequest httpRequest = request();
     httpRequest.url = QUrl(u"http://feeds.example/č ?q=1#part"_s);
     httpRequest.headers = {{"User-Agent", "Guide"}, {"X-Empty", ""}, {"Accept-Encoding", "gzip,deflate"}};
-    EXPECT_FALSE(client.perform(httpRequest).error);
+    EXPECT_FALSE(result(ScriptedReply::ok(""), httpRequest).error);
     httpRequest.method = "PROPFIND";
     httpRequest.body = QByteArray("a\0b", 3);
-    EXPECT_FALSE(client.perform(httpRequest).error);
+    EXPECT_FALSE(result(ScriptedReply::ok(""), httpRequest).error);
     httpRequest.method = "HEAD";
     httpRequest.body.clear();
-    EXPECT_FALSE(client.perform(httpRequest).error);
+    EXPECT_FALSE(result(ScriptedReply::ok(""), httpRequest).error);
 
     const std::vector<ScriptedServer::Request> requests = server.requests();
     ASSERT_EQ(requests.size(), 3U);
@@ -262,18 +263,19 @@ TEST_F(CurlHTTPClientTest, DecodesRequestedContentEncodings) {
     const QByteArray page = QByteArray("text ").repeated(1000);
     HTTPRequest httpRequest = request();
     httpRequest.headers = {{"accept-encoding", "gzip,deflate"}};
-    server.reply(ScriptedReply::ok(gzipped(page), {"Content-Encoding: gzip"}));
-    EXPECT_EQ(client.perform(httpRequest).body, page);
-    server.reply(ScriptedReply::ok(gzipped(QByteArray(kBodyLimit + 1, 'b')), {"Content-Encoding: gzip"}));
-    EXPECT_TRUE(client.perform(httpRequest).error) << "the limit applies to the decoded body";
-    server.reply(ScriptedReply::ok("no gzip", {"Content-Encoding: gzip"}));
-    EXPECT_TRUE(client.perform(httpRequest).error);
-    server.reply(ScriptedReply::ok(gzipped(page), {"Content-Type: application/x-gzip"}));
-    EXPECT_EQ(client.perform(httpRequest).body, gzipped(page)) << "the file itself is packed";
-    for (int request = 0; request < 2; ++request) {
-        server.reply(ScriptedReply::ok("as it is", {"Content-Encoding: xz"}));
-    }
-    EXPECT_EQ(client.perform(httpRequest).body, "as it is") << "an unknown encoding is not decoded";
+    const auto encoded = [&](const QByteArray& body, const QByteArray& header) {
+        return result(ScriptedReply::ok(body, {header}), httpRequest);
+    };
+    EXPECT_EQ(encoded(gzipped(page), "Content-Encoding: gzip").body, page);
+    EXPECT_TRUE(encoded(gzipped(QByteArray(kBodyLimit + 1, 'b')), "Content-Encoding: gzip").error)
+        << "the limit applies to the decoded body";
+    EXPECT_TRUE(encoded("no gzip", "Content-Encoding: gzip").error);
+    EXPECT_EQ(encoded(gzipped(page), "Content-Type: application/x-gzip").body, gzipped(page))
+        << "the file itself is packed";
+    // An unknown encoding is not decoded; it takes a second request.
+    const ScriptedReply xz = ScriptedReply::ok("as it is", {"Content-Encoding: xz"});
+    server.reply(xz);
+    EXPECT_EQ(result(xz, httpRequest).body, "as it is");
 }
 
 TEST_F(CurlHTTPClientTest, DeliversBodiesInPieces) {
@@ -298,23 +300,18 @@ TEST_F(CurlHTTPClientTest, DeliversBodiesInPieces) {
     };
     HTTPRequest httpRequest = request();
     httpRequest.headers = {{"Accept-Encoding", "gzip"}};
-    QByteArray pieces;
-    const TakePiece collect = [&pieces](QByteArrayView piece) {
-        pieces += piece;
-        return true;
-    };
     for (const Case& each : cases) {
-        server.reply(each.reply);
         pieces.clear();
-        const TransferResult result = client.perform(httpRequest, collect);
+        const TransferResult found = inPieces(each.reply, httpRequest);
         EXPECT_EQ(pieces, each.pieces) << each.name;
-        EXPECT_EQ(result.body, each.body) << each.name;
-        EXPECT_EQ(result.error.has_value(), each.error) << each.name;
+        EXPECT_EQ(found.body, each.body) << each.name;
+        EXPECT_EQ(found.error.has_value(), each.error) << each.name;
     }
 
     pieces.clear();
-    server.reply(ScriptedReply::raw(ScriptedReply::head(200) + QByteArray(kBodyLimit + 1, 'x')));
-    EXPECT_TRUE(client.perform(httpRequest, collect).error) << "the limit applies to the sum of the pieces";
+    const ScriptedReply tooLong =
+        ScriptedReply::raw(ScriptedReply::head(200) + QByteArray(kBodyLimit + 1, 'x'));
+    EXPECT_TRUE(inPieces(tooLong, httpRequest).error) << "the limit applies to the sum of the pieces";
     EXPECT_LE(pieces.size(), kBodyLimit);
 
     server.reply(ScriptedReply::raw(ScriptedReply::head(200) + "endless", End::Stall));
@@ -325,36 +322,24 @@ TEST_F(CurlHTTPClientTest, DeliversBodiesInPieces) {
 TEST_F(CurlHTTPClientTest, BodiesInPiecesBypassTheCache) {
     HTTPRequest httpRequest = request();
     httpRequest.cachePolicy = CachePolicy::ReturnCacheDataElseLoad;
-    QByteArray pieces;
-    const TakePiece collect = [&pieces](QByteArrayView piece) {
-        pieces += piece;
-        return true;
-    };
-    server.reply(ScriptedReply::ok("one"));
-    client.perform(httpRequest, collect);
-    server.reply(ScriptedReply::ok("two"));
-    EXPECT_EQ(client.perform(httpRequest).body, "two") << "a body in pieces is not stored";
+    inPieces(ScriptedReply::ok("one"), httpRequest);
+    EXPECT_EQ(result(ScriptedReply::ok("two"), httpRequest).body, "two") << "a body in pieces is not stored";
     EXPECT_FALSE(client.perform(httpRequest, collect).error);
     EXPECT_EQ(pieces, "onetwo") << "a cached body is delivered";
     EXPECT_TRUE(client.perform(httpRequest, [](QByteArrayView) { return false; }).error->cancelled);
 
-    httpRequest.cachePolicy = CachePolicy::ReloadIgnoringCache;
-    server.reply(ScriptedReply::answer(500, "broken"));
-    client.perform(httpRequest, collect);
-    httpRequest.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
-    EXPECT_EQ(client.perform(httpRequest).body, "two") << "a failure keeps the older response";
-    httpRequest.cachePolicy = CachePolicy::ReloadIgnoringCache;
-    server.reply(ScriptedReply::ok("three"));
-    client.perform(httpRequest, collect);
-    httpRequest.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
-    EXPECT_TRUE(client.perform(httpRequest).error) << "the older response was removed";
+    HTTPRequest onlyCached = httpRequest;
+    onlyCached.cachePolicy = CachePolicy::ReturnCacheDataDontLoad;
+    inPieces(ScriptedReply::answer(500, "broken"), request());
+    EXPECT_EQ(client.perform(onlyCached).body, "two") << "a failure keeps the older response";
+    inPieces(ScriptedReply::ok("three"), request());
+    EXPECT_TRUE(client.perform(onlyCached).error) << "the older response was removed";
 }
 
 TEST_F(CurlHTTPClientTest, CookiesAreKeptForTheProcess) {
-    server.reply(ScriptedReply::ok("", {"Set-Cookie: consent=yes; Path=/"}));
+    result(ScriptedReply::ok("", {"Set-Cookie: consent=yes; Path=/"}), request(u"/first"_s));
     server.reply(ScriptedReply::ok(""));
     server.reply(ScriptedReply::ok(""));
-    get(u"/first"_s);
     std::async(std::launch::async, [this] { get(u"/second"_s); }).wait();
     CurlHTTPClient other(cache);
     other.perform(request());
@@ -414,10 +399,10 @@ TEST_F(CurlHTTPClientTest, SupportsConcurrentTransfers) {
                      ScriptedReply::ok("page " + QByteArray::number(page),
                                        {"Set-Cookie: c" + QByteArray::number(page) + "=1"}));
     }
-    std::vector<std::future<void>> threads;
+    std::vector<std::jthread> threads;
     threads.reserve(4);
     for (int thread = 0; thread < 4; ++thread) {
-        threads.push_back(std::async(std::launch::async, [this, thread] {
+        threads.emplace_back([this, thread] {
             for (int round = 0; round < 12; ++round) {
                 const int page = (thread + round) % 8;
                 HTTPRequest httpRequest = request(u"/%1"_s.arg(page));
@@ -425,10 +410,7 @@ TEST_F(CurlHTTPClientTest, SupportsConcurrentTransfers) {
                     round % 2 == 0 ? CachePolicy::ReloadIgnoringCache : CachePolicy::ReturnCacheDataElseLoad;
                 EXPECT_EQ(client.perform(httpRequest).body, "page " + QByteArray::number(page));
             }
-        }));
-    }
-    for (std::future<void>& thread : threads) {
-        thread.wait();
+        });
     }
 }
 

@@ -10,10 +10,9 @@
 #include <gtest/gtest.h>
 
 namespace guide::test {
+namespace {
 
 using namespace Qt::StringLiterals;
-
-namespace {
 
 /// A portal on a private bus.
 struct Desktop {
@@ -69,5 +68,4 @@ TEST(DesktopMotionTest, FollowsTheDesktopSettings) {
 }
 
 } // namespace
-
 } // namespace guide::test

@@ -1,7 +1,8 @@
 #include "platform/files/FileReplacement.h"
 
+#include "fakes/Files.h"
+
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -13,13 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace guide {
+namespace guide::test {
 namespace {
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QStringList namesIn(const QTemporaryDir& folder) {
     return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden);
@@ -99,4 +95,4 @@ TEST(FileReplacementTest, RemovesTemporaryFilesOfDeadProcesses) {
 }
 
 } // namespace
-} // namespace guide
+} // namespace guide::test

@@ -1,5 +1,6 @@
 #include "platform/linux/FolderKeyValueStore.h"
 
+#include "fakes/Files.h"
 #include "fakes/ManualQueues.h"
 #include "platform/files/FileReplacement.h"
 
@@ -8,7 +9,6 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -17,13 +17,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace guide {
+namespace guide::test {
 namespace {
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 class FolderKeyValueStoreTest : public testing::Test {
   protected:
@@ -235,4 +230,4 @@ TEST_F(WatchedFolderTest, TheFolderMayDisappearAndReappear) {
 }
 
 } // namespace
-} // namespace guide
+} // namespace guide::test

@@ -1,10 +1,11 @@
 #include "platform/linux/InstanceLock.h"
 
+#include "fakes/Files.h"
+#include "platform/files/FileReplacement.h"
 #include "platform/linux/LocalSocket.h"
 #include "platform/queues/ThreadedQueues.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <future>
@@ -68,10 +69,7 @@ TEST_F(InstanceLockTest, ADeadProcessHoldsNoLock) {
     {
         const FileDescriptor dead = listeningSocket(path);
     }
-    QFile lock(folder.filePath(u"instance.lock"_s));
-    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
-    lock.write(path);
-    lock.close();
+    ASSERT_TRUE(replaceFile(folder.filePath(u"instance.lock"_s), path));
     std::unique_ptr<InstanceLock> first = start();
     EXPECT_EQ(first->outcome(), Outcome::First);
     first->listen(queue, [](const QByteArray&) {});
@@ -82,9 +80,7 @@ TEST_F(InstanceLockTest, EndlessAndSilentCallersDoNotBlockOthers) {
     std::unique_ptr<InstanceLock> first = start();
     std::vector<QByteArray> requests;
     first->listen(queue, [&](const QByteArray& request) { requests.push_back(request); });
-    QFile lock(folder.filePath(u"instance.lock"_s));
-    ASSERT_TRUE(lock.open(QIODevice::ReadOnly));
-    const QByteArray path = lock.readAll();
+    const QByteArray path = test::contentOf(folder.filePath(u"instance.lock"_s));
     {
         const FileDescriptor chatter = connectedSocket(path);
         ASSERT_TRUE(chatter);

@@ -74,23 +74,17 @@ TEST(KeyedArchiverTest, ReadsFieldsInAnyOrder) {
     EXPECT_TRUE(repeated);
 }
 
+template <class T>
+void readValue(KeyedUnarchiver& in) {
+    T value{};
+    in.decode(value);
+}
+
 TEST(KeyedArchiverTest, FailsOnValuesOfAnotherKind) {
     struct Case {
         const char* name;
         QCborValue value;
         void (*read)(KeyedUnarchiver&);
-    };
-    const auto readText = [](KeyedUnarchiver& in) {
-        QString text;
-        in.decode(text);
-    };
-    const auto readNumber = [](KeyedUnarchiver& in) {
-        std::uint32_t number;
-        in.decode(number);
-    };
-    const auto readBool = [](KeyedUnarchiver& in) {
-        bool flag;
-        in.decode(flag);
     };
     const auto readArray = [](KeyedUnarchiver& in) { EXPECT_EQ(in.array(), 0U); };
     const auto readRecord = [](KeyedUnarchiver& in) {
@@ -98,13 +92,13 @@ TEST(KeyedArchiverTest, FailsOnValuesOfAnotherKind) {
         in.record(field("a", flag));
     };
     const std::vector<Case> cases{
-        {"number for text", 5, readText},
-        {"bytes for text", QByteArray("text"), readText},
-        {"text for number", u"5"_s, readNumber},
-        {"negative for unsigned", -1, readNumber},
-        {"more than 32 bits", qint64{0x1'0000'0000}, readNumber},
-        {"number for flag", 1, readBool},
-        {"null for flag", nullptr, readBool},
+        {"number for text", 5, readValue<QString>},
+        {"bytes for text", QByteArray("text"), readValue<QString>},
+        {"text for number", u"5"_s, readValue<std::uint32_t>},
+        {"negative for unsigned", -1, readValue<std::uint32_t>},
+        {"more than 32 bits", qint64{0x1'0000'0000}, readValue<std::uint32_t>},
+        {"number for flag", 1, readValue<bool>},
+        {"null for flag", nullptr, readValue<bool>},
         {"record for array", QCborMap{}, readArray},
         {"array for record", QCborArray{}, readRecord},
         {"text under a flag's key", QCborMap{{u"a"_s, u"true"_s}}, readRecord},
@@ -133,28 +127,22 @@ class Tree {
         : m_random(seed) {}
 
     QCborValue write(KeyedArchiver& out, int depth) {
+        const auto both = [&out](const auto& value) {
+            out.append(value);
+            return QCborValue(value);
+        };
         switch (below(depth > 0 ? 7 : 5)) {
         case 0: {
-            const std::uint64_t bits = m_random() << below(64);
-            const auto number = static_cast<qint64>(bits);
+            const auto number = static_cast<qint64>(m_random() << below(64));
             out.append(std::int64_t{number});
             return number;
         }
-        case 1: {
-            const QString text = randomText();
-            out.append(text);
-            return text;
-        }
-        case 2: {
-            const QByteArray bytes = randomText().toUtf8();
-            out.append(bytes);
-            return bytes;
-        }
-        case 3: {
-            const bool flag = below(2) == 0;
-            out.append(flag);
-            return flag;
-        }
+        case 1:
+            return both(randomText());
+        case 2:
+            return both(randomText().toUtf8());
+        case 3:
+            return both(below(2) == 0);
         case 4: {
             const auto number = static_cast<std::uint32_t>(m_random());
             out.append(number);
@@ -201,27 +189,19 @@ class Tree {
 
 QCborValue readTree(KeyedUnarchiver& in, int depth = 20) {
     using Kind = KeyedUnarchiver::Kind;
+    const auto decoded = [&in](auto value) {
+        in.decode(value);
+        return value;
+    };
     switch (depth > 0 ? in.kind() : Kind::Other) {
-    case Kind::Integer: {
-        std::int64_t number = 0;
-        in.decode(number);
-        return qint64{number};
-    }
-    case Kind::Text: {
-        QString text;
-        in.decode(text);
-        return text;
-    }
-    case Kind::Bytes: {
-        QByteArray bytes;
-        in.decode(bytes);
-        return bytes;
-    }
-    case Kind::Bool: {
-        bool flag = false;
-        in.decode(flag);
-        return flag;
-    }
+    case Kind::Integer:
+        return qint64{decoded(std::int64_t())};
+    case Kind::Text:
+        return decoded(QString());
+    case Kind::Bytes:
+        return decoded(QByteArray());
+    case Kind::Bool:
+        return decoded(false);
     case Kind::Array: {
         QCborArray array;
         const std::size_t count = in.array();

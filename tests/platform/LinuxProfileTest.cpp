@@ -1,10 +1,10 @@
+#include "fakes/Files.h"
 #include "fakes/ManualQueues.h"
 #include "platform/files/FileReplacement.h"
 #include "platform/linux/LinuxFolders.h"
 #include "platform/linux/SettingsUserDefaults.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -13,13 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace guide {
+namespace guide::test {
 namespace {
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 class Environment {
   public:
@@ -79,9 +74,12 @@ TEST(LinuxFoldersTest, FailsWhenAFileIsInTheWay) {
     EXPECT_EQ(contentOf(root.filePath(u"profile"_s)), "a file");
 }
 
-TEST(SettingsUserDefaultsTest, ValuesKeepTheirTypes) {
+struct SettingsUserDefaultsTest : testing::Test {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"settings.ini"_s);
+};
+
+TEST_F(SettingsUserDefaultsTest, ValuesKeepTheirTypes) {
     const QString text = u"Večer; \"x\" = 1, 2 \\ 📺"_s;
     const auto check = [&](const UserDefaults& defaults) {
         EXPECT_EQ(defaults.boolForKey(u"show_img"_s), false);
@@ -111,9 +109,7 @@ TEST(SettingsUserDefaultsTest, ValuesKeepTheirTypes) {
     EXPECT_TRUE(SettingsUserDefaults(path).stringForKey(u"selectedCalendar"_s));
 }
 
-TEST(SettingsUserDefaultsTest, ReadsHandWrittenValues) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"settings.ini"_s);
+TEST_F(SettingsUserDefaultsTest, ReadsHandWrittenValues) {
     ASSERT_TRUE(replaceFile(path, "[General]\nshow_img=No\nbg_img = TRUE\nodd=perhaps\nempty=\n"));
     const SettingsUserDefaults defaults(path);
     EXPECT_EQ(defaults.boolForKey(u"show_img"_s), false);
@@ -121,9 +117,7 @@ TEST(SettingsUserDefaultsTest, ReadsHandWrittenValues) {
     EXPECT_FALSE(defaults.boolForKey(u"odd"_s) || defaults.boolForKey(u"empty"_s));
 }
 
-TEST(SettingsUserDefaultsTest, WritesOnlyChangedKeys) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"settings.ini"_s);
+TEST_F(SettingsUserDefaultsTest, WritesOnlyChangedKeys) {
     ASSERT_TRUE(replaceFile(path, "[General]\ncurrently_show_count=5\nlist=a, b\n"));
     SettingsUserDefaults defaults(path);
     EXPECT_EQ(defaults.integerForKey(u"currently_show_count"_s), 5);
@@ -135,22 +129,19 @@ TEST(SettingsUserDefaultsTest, WritesOnlyChangedKeys) {
     EXPECT_TRUE(contentOf(path).contains("list=a, b"));
 }
 
-TEST(SettingsUserDefaultsTest, RetriesAFailedWrite) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"inside/settings.ini"_s);
+TEST_F(SettingsUserDefaultsTest, RetriesAFailedWrite) {
+    const QString inside = folder.filePath(u"inside/settings.ini"_s);
     ASSERT_TRUE(replaceFile(folder.filePath(u"inside"_s), "a file in the way"));
-    SettingsUserDefaults defaults(path);
+    SettingsUserDefaults defaults(inside);
     defaults.setInteger(u"currently_show_count"_s, 3);
     EXPECT_FALSE(defaults.synchronize());
     EXPECT_EQ(defaults.integerForKey(u"currently_show_count"_s), 3);
     ASSERT_TRUE(QFile::remove(folder.filePath(u"inside"_s)));
     EXPECT_TRUE(defaults.synchronize());
-    EXPECT_EQ(SettingsUserDefaults(path).integerForKey(u"currently_show_count"_s), 3);
+    EXPECT_EQ(SettingsUserDefaults(inside).integerForKey(u"currently_show_count"_s), 3);
 }
 
-TEST(SettingsUserDefaultsTest, WritesChangesTogetherAfterADelay) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"settings.ini"_s);
+TEST_F(SettingsUserDefaultsTest, WritesChangesTogetherAfterADelay) {
     ManualClock clock;
     ManualQueues queues(clock);
     const auto queue = queues.makeQueue("settings", QueueKind::Serial);
@@ -170,4 +161,4 @@ TEST(SettingsUserDefaultsTest, WritesChangesTogetherAfterADelay) {
 }
 
 } // namespace
-} // namespace guide
+} // namespace guide::test

@@ -88,7 +88,7 @@ TEST(QueueStressTest, KeepsItsGuaranteesUnderLoadAndShutDown) {
                 guarded.queue->async(read);
             }
         };
-        std::vector<std::thread> threads;
+        std::vector<std::jthread> threads;
         threads.reserve(kThreads);
         for (unsigned t = 0; t < kThreads; ++t) {
             threads.emplace_back([&, t] {
@@ -98,14 +98,8 @@ TEST(QueueStressTest, KeepsItsGuaranteesUnderLoadAndShutDown) {
                 }
             });
         }
-        const auto joinAll = [&threads] {
-            for (std::thread& thread : threads) {
-                thread.join();
-            }
-            threads.clear();
-        };
         if (round == 0) {
-            joinAll();
+            threads.clear();
             for (Guarded& guarded : all) {
                 DispatchGroup last;
                 last.async(*guarded.queue, [&guarded] { EXPECT_GT(guarded.written, 0); });
@@ -113,7 +107,7 @@ TEST(QueueStressTest, KeepsItsGuaranteesUnderLoadAndShutDown) {
             }
         }
         queues.shutDown();
-        joinAll();
+        threads.clear();
     }
 }
 

@@ -123,14 +123,13 @@ using ThreadedQueuesTest = QueuesTest<Threaded>;
 
 TEST_F(ThreadedQueuesTest, BarriersRunAlone) {
     std::latch readersMeet(2);
-    std::promise<void> open;
-    const std::shared_future<void> opened = open.get_future().share();
+    std::latch open(1);
     std::atomic<int> readers = 0;
     DispatchGroup group;
     for (int i = 0; i < 2; ++i) {
         group.async(*concurrent, [&] {
             readersMeet.arrive_and_wait();
-            opened.wait();
+            open.wait();
             ++readers;
         });
     }
@@ -144,20 +143,19 @@ TEST_F(ThreadedQueuesTest, BarriersRunAlone) {
     auto lateReader =
         std::async(std::launch::async, [&] { concurrent->sync([&] { EXPECT_TRUE(barrierRan); }); });
     EXPECT_EQ(lateReader.wait_for(kNotYet), std::future_status::timeout);
-    open.set_value();
+    open.count_down();
     lateReader.wait();
     EXPECT_TRUE(group.wait());
 }
 
 TEST_F(ThreadedQueuesTest, SyncNeedsNoWorker) {
     const unsigned workers = WorkerPool::defaultAtWork();
-    std::promise<void> open;
-    const std::shared_future<void> opened = open.get_future().share();
+    std::latch open(1);
     std::latch busy(workers);
     for (unsigned i = 0; i < workers; ++i) {
         kind.queues.globalQueue(QueuePriority::Default).async([&] {
             busy.count_down();
-            opened.wait();
+            open.wait();
         });
     }
     busy.wait();
@@ -168,7 +166,7 @@ TEST_F(ThreadedQueuesTest, SyncNeedsNoWorker) {
     DispatchGroup group;
     group.async(kind.queues.globalQueue(QueuePriority::Background), [] {});
     EXPECT_TRUE(group.wait(10s));
-    open.set_value();
+    open.count_down();
     kind.queues.shutDown();
 }
 

@@ -1,3 +1,4 @@
+#include "fakes/Files.h"
 #include "fakes/ScriptedServer.h"
 #include "probe/RunProbe.h"
 
@@ -5,19 +6,11 @@
 
 #include <gtest/gtest.h>
 
-namespace guide {
-
+namespace guide::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-using test::Answer;
-using test::object;
-using test::probe;
-
 QByteArray recordedPage(const QString& name) {
-    QFile file(QStringLiteral(QUELLIN_TEST_DATA "/recorded/nova/") + name);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-    return file.readAll();
+    return contentOf(QStringLiteral(QUELLIN_TEST_DATA "/recorded/nova/") + name);
 }
 
 /// A site with nine day pages.
@@ -27,11 +20,13 @@ class CheckCommand : public testing::Test {
         m_server.reply(ScriptedReply::ok(page, {"Content-Type: text/html; charset=utf-8"}));
     }
 
-    Answer check(const QString& sourceId = u"cz.nova.Jedna"_s) const {
+    Answer check(const QString& sourceId = u"cz.nova.Jedna"_s, int status = 0) const {
         const QString hosts =
             m_files.write(u"hosts.json"_s, "{\"NovaHost\": \"" + m_server.url(u""_s).toEncoded() + "\"}");
-        return probe({u"check"_s, sourceId, u"--language"_s, u"cs"_s, u"--hosts"_s, hosts, u"--now"_s,
-                      u"2027-03-27T19:30:00Z"_s});
+        Answer answer = probe({u"check"_s, sourceId, u"--language"_s, u"cs"_s, u"--hosts"_s, hosts,
+                               u"--now"_s, u"2027-03-27T19:30:00Z"_s});
+        EXPECT_EQ(answer.status, status) << answer.errors.toStdString();
+        return answer;
     }
 
     QJsonArray plannedURLs() const {
@@ -47,7 +42,7 @@ class CheckCommand : public testing::Test {
     ScriptedServer m_server;
 
   private:
-    test::ProbeFiles m_files;
+    ProbeFiles m_files;
 };
 
 TEST_F(CheckCommand, ReportsWhatASourceHas) {
@@ -57,7 +52,6 @@ TEST_F(CheckCommand, ReportsWhatASourceHas) {
         give(recordedPage(u"2027-03-28-cut.html"_s));
     }
     const Answer answer = check();
-    EXPECT_EQ(answer.status, 0) << answer.errors.toStdString();
     EXPECT_EQ(answer.json, (QJsonObject{{u"urls"_s, plannedURLs()},
                                         {u"fetched"_s, 9},
                                         {u"shows"_s, 3},
@@ -71,14 +65,8 @@ TEST_F(CheckCommand, ReportsTheMarkerThatIsMissing) {
         give(recordedPage(u"2027-03-27.html"_s).replace("class=\"channels-content-show\"", "class=\"show\""));
     }
     const Answer answer = check();
-    EXPECT_EQ(answer.status, 0) << answer.errors.toStdString();
-    EXPECT_EQ(answer.json, (QJsonObject{{u"urls"_s, plannedURLs()},
-                                        {u"fetched"_s, 9},
-                                        {u"shows"_s, 0},
-                                        {u"first"_s, QJsonValue::Null},
-                                        {u"last"_s, QJsonValue::Null},
-                                        {u"lastMissed"_s, u"<li class=\"channels-content-show\""_s}}))
-        << answer.output.toStdString();
+    EXPECT_EQ(answer.json[u"shows"_s], 0) << answer.output.toStdString();
+    EXPECT_EQ(answer.json[u"lastMissed"_s], u"<li class=\"channels-content-show\""_s);
 }
 
 TEST_F(CheckCommand, ReportsNoMissingMarkerWhenAllShowsAreOver) {
@@ -86,7 +74,6 @@ TEST_F(CheckCommand, ReportsNoMissingMarkerWhenAllShowsAreOver) {
         give(recordedPage(u"evening.html"_s));
     }
     const Answer answer = check();
-    EXPECT_EQ(answer.status, 0) << answer.errors.toStdString();
     EXPECT_EQ(answer.json[u"fetched"_s], 9);
     EXPECT_EQ(answer.json[u"shows"_s], 0);
     EXPECT_FALSE(answer.json.contains(u"lastMissed"_s)) << answer.output.toStdString();
@@ -98,27 +85,23 @@ TEST_F(CheckCommand, ReadsThePagesBeforeTheFirstFailure) {
     m_server.reply(ScriptedReply::answer(404, "gone"));
     m_server.reply(ScriptedReply::answer(404, "gone"));
     const Answer answer = check();
-    EXPECT_EQ(answer.status, 0) << answer.errors.toStdString();
     EXPECT_EQ(answer.json[u"fetched"_s], 2);
     EXPECT_EQ(answer.json[u"shows"_s], 2);
     EXPECT_TRUE(answer.errors.contains("epg_date=2027-03-28: status 404")) << answer.errors.toStdString();
 }
 
 TEST_F(CheckCommand, FailsWithoutAnyPage) {
-    const Answer answer = check();
-    EXPECT_EQ(answer.status, 1);
+    const Answer answer = check(u"cz.nova.Jedna"_s, 1);
     EXPECT_TRUE(answer.output.isEmpty());
     EXPECT_FALSE(answer.errors.isEmpty());
 }
 
 TEST_F(CheckCommand, RequestsNothingWithoutAPlan) {
     const Answer answer = check(u"r.foo"_s);
-    EXPECT_EQ(answer.status, 0) << answer.errors.toStdString();
     EXPECT_EQ(answer.json,
               object(R"({"urls": null, "fetched": 0, "shows": 0, "first": null, "last": null})"));
     EXPECT_TRUE(m_server.requests().empty());
 }
 
 } // namespace
-
-} // namespace guide
+} // namespace guide::test

@@ -3,21 +3,15 @@
 
 #include <gtest/gtest.h>
 
-namespace guide {
-
+namespace guide::test {
 namespace {
-
-using namespace Qt::StringLiterals;
-using test::Answer;
-using test::object;
-using test::probe;
 
 QString recordedPage(const QString& name) {
     return QStringLiteral(QUELLIN_TEST_DATA "/recorded-details/") + name;
 }
 
 TEST(ProbeDetail, PrintsTheDetailsOnThePages) {
-    const test::ProbeFiles files;
+    const ProbeFiles files;
     const QString bottom = files.write(
         u"bottom.html"_s,
         R"("/pls/me/media.popup_top?i_area_id=17&amp;i_object_id=4711&amp;i_is_picture=2&amp;i_n=3")");
@@ -30,8 +24,8 @@ TEST(ProbeDetail, PrintsTheDetailsOnThePages) {
         const char* expected;
     } cases[] = {
         {"a page that leads to two more",
-         {u"--source-id"_s, u"10000"_s, u"--url"_s, u"https://p.example/f?i_perf_id=9"_s, u"--language"_s,
-          u"hu"_s, recordedPage(u"port.html"_s), bottom, top},
+         QStringList{u"--source-id"_s, u"10000"_s, u"--url"_s, u"https://p.example/f?i_perf_id=9"_s,
+                     u"--language"_s, u"hu"_s, recordedPage(u"port.html"_s), bottom, top},
          R"({"categories": 0, "pictures": ["https://p.example/pic/4711_0.jpg"],
              "details": {"description": "Egy sorozat.", "episodeDescription": "Sötétben & esőben.",
                          "details": "magyar krimi, 1999", "directedBy": "Kovács Éva\nNagy Pál",
@@ -56,7 +50,7 @@ TEST(ProbeRecorded, ReadsTheArchiveFromFilesAndFromTheNetwork) {
     const QByteArray showPage = "<select id=\"d\"><option value=\"1\">Pon</option>"
                                 "<option value=\"2\">Čet &amp; pet</option></select>";
     const QJsonObject expected = object(R"({"recorded": {"Pon": "1", "Čet &amp; pet": "2"}})");
-    const test::ProbeFiles files;
+    const ProbeFiles files;
     ScriptedServer server;
     server.serve("/enz/", ScriptedReply::ok(indexPage, {"Content-Type: text/html; charset=utf-8"}));
     server.serve("/enz/dnevnik/", ScriptedReply::ok(showPage, {"Content-Type: text/html; charset=utf-8"}));
@@ -68,7 +62,7 @@ TEST(ProbeRecorded, ReadsTheArchiveFromFilesAndFromTheNetwork) {
 }
 
 TEST(ProbeIMDb, FindsThePageOfEachSearch) {
-    const test::ProbeFiles files;
+    const ProbeFiles files;
     const QString hosts = files.write(u"hosts.json"_s, R"({"IMDbHost": "films.example"})");
     const QString page =
         files.write(u"found.html"_s,
@@ -80,15 +74,15 @@ TEST(ProbeIMDb, FindsThePageOfEachSearch) {
         const char* expected;
     } cases[] = {
         {"a series with a subtitle",
-         {u"--title"_s, u"Vlak & ja"_s, u"--subtitle"_s, u"Prvi dio"_s, u"--categories"_s, u"0x2"_s, page},
+         QStringList{u"--title"_s, u"Vlak & ja"_s, u"--subtitle"_s, u"Prvi dio"_s, u"--categories"_s,
+                     u"0x2"_s, page},
          R"({"started": true,
              "urls": ["https://films.example/find?ref_=nv_sr_fn&q=Vlak%20&%20ja&s=tt",
                       "https://films.example/find?ref_=nv_sr_fn&q=Prvi%20dio&s=tt"],
              "answers": [{"index": 0, "imdbURL": "https://films.example/title/tt1/",
                           "pictureURL": "https://x/a._V1_.jpg"},
                          {"index": 1, "imdbURL": null, "pictureURL": null}]})"},
-        {"no film",
-         {u"--title"_s, u"Vijesti"_s, u"--categories"_s, u"16"_s, page},
+        {"no film", QStringList{u"--title"_s, u"Vijesti"_s, u"--categories"_s, u"16"_s, page},
          R"({"started": false, "urls": [], "answers": []})"},
     };
     for (const auto& each : cases) {
@@ -100,5 +94,4 @@ TEST(ProbeIMDb, FindsThePageOfEachSearch) {
 }
 
 } // namespace
-
-} // namespace guide
+} // namespace guide::test

@@ -5,58 +5,51 @@
 
 #include <gtest/gtest.h>
 
-namespace guide {
-
+namespace guide::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-using test::Answer;
-using test::object;
-using test::probe;
+using Words = QStringList;
 
 TEST(Probe, PrintsOneObjectPerCommand) {
     const struct {
-        QStringList words;
-        QByteArray input;
+        Words words;
         const char* expected;
+        QByteArray input = {};
     } cases[] = {
-        {{u"type"_s, u"-hbo.hu.1"_s}, {}, R"({"sourceId": "-hbo.hu.1", "type": 7, "portNetwork": false})"},
-        {{u"type"_s, u"42"_s}, {}, R"({"sourceId": "42", "type": 0, "portNetwork": true})"},
-        {{u"zone"_s, u"example.cz"_s}, {}, R"({"zone": "Europe/Prague"})"},
-        {{u"zone"_s, u"x"_s}, {}, R"({"zone": null})"},
-        {{u"plan"_s, u"r.foo"_s}, {}, R"({"urls": null})"},
-        {{u"plan"_s, u"https://feeds.example/a.xml"_s}, {}, R"({"urls": ["https://feeds.example/a.xml"]})"},
-        {{u"classify"_s, u"--details"_s, u"Film, komedija"_s},
-         {},
+        {Words{u"type"_s, u"-hbo.hu.1"_s}, R"({"sourceId": "-hbo.hu.1", "type": 7, "portNetwork": false})"},
+        {Words{u"type"_s, u"42"_s}, R"({"sourceId": "42", "type": 0, "portNetwork": true})"},
+        {Words{u"zone"_s, u"example.cz"_s}, R"({"zone": "Europe/Prague"})"},
+        {Words{u"zone"_s, u"x"_s}, R"({"zone": null})"},
+        {Words{u"plan"_s, u"r.foo"_s}, R"({"urls": null})"},
+        {Words{u"plan"_s, u"https://feeds.example/a.xml"_s}, R"({"urls": ["https://feeds.example/a.xml"]})"},
+        {Words{u"classify"_s, u"--details"_s, u"Film, komedija"_s},
          R"({"categories": 257, "names": ["Movies", "Comedies"]})"},
-        {{u"match-word"_s, u"film"_s}, "filmovi\n", R"({"match": false})"},
-        {{u"text"_s, u"decodeMarkup"_s}, "&#165;", R"({"result": "A;"})"},
-        {{u"text"_s, u"showTitle"_s}, "DNEVNIK, 1. DIO", R"({"result": "Dnevnik"})"},
-        {{u"text"_s, u"hasProductionNote"_s}, "Film, drama (USA/1999)", R"({"result": true})"},
-        {{u"text"_s, u"finishSubtitle"_s, u"--recognised"_s},
-         "(Naslov)",
-         R"({"subtitle1": null, "instantDetails1": "Naslov"})"},
-        {{u"text"_s, u"applySubtitleBracket"_s},
-         "[film] Naslov",
-         R"({"result": "Naslov", "matched": "[film]"})"},
-        {{u"text"_s, u"cleanDescription"_s},
-         "Tekst. Regia - Ana, Regia - Ivo, Marko, Pero",
-         R"({"result": "Tekst.", "roles": "Marko, Pero", "directedBy": "Ana, Ivo"})"},
-        {{u"text"_s, u"latin2Cyrillic"_s, u"--language"_s, u"mk"_s}, "Njujork", R"({"result": "Њуjoрк"})"},
-        {{u"text"_s, u"xmltvDate"_s}, "20240101120000 +0130", R"({"result": "2024-01-01T10:30:00Z"})"},
-        {{u"text"_s, u"xmltvDate"_s}, "2024010112", R"({"result": null})"},
-        {{u"words"_s, u"bracket"_s}, "[Action, komedija]", R"({"categories": 257, "recognised": null})"},
-        {{u"words"_s, u"subtitle"_s, u"--title"_s, u"Geo"_s}, "", R"({"categories": 4, "recognised": true})"},
-        {{u"category-text"_s, u"-1"_s}, {}, R"({"text": "Evening Shows"})"},
-        {{u"category-text"_s, u"0x1ff01"_s}, {}, R"({"text": "Feature Films"})"},
-        {{u"object-id"_s, u"000000000000000000000000"_s},
-         {},
+        {Words{u"match-word"_s, u"film"_s}, R"({"match": false})", "filmovi\n"},
+        {Words{u"text"_s, u"decodeMarkup"_s}, R"({"result": "A;"})", "&#165;"},
+        {Words{u"text"_s, u"showTitle"_s}, R"({"result": "Dnevnik"})", "DNEVNIK, 1. DIO"},
+        {Words{u"text"_s, u"hasProductionNote"_s}, R"({"result": true})", "Film, drama (USA/1999)"},
+        {Words{u"text"_s, u"finishSubtitle"_s, u"--recognised"_s},
+         R"({"subtitle1": null, "instantDetails1": "Naslov"})", "(Naslov)"},
+        {Words{u"text"_s, u"applySubtitleBracket"_s}, R"({"result": "Naslov", "matched": "[film]"})",
+         "[film] Naslov"},
+        {Words{u"text"_s, u"cleanDescription"_s},
+         R"({"result": "Tekst.", "roles": "Marko, Pero", "directedBy": "Ana, Ivo"})",
+         "Tekst. Regia - Ana, Regia - Ivo, Marko, Pero"},
+        {Words{u"text"_s, u"latin2Cyrillic"_s, u"--language"_s, u"mk"_s}, R"({"result": "Њуjoрк"})",
+         "Njujork"},
+        {Words{u"text"_s, u"xmltvDate"_s}, R"({"result": "2024-01-01T10:30:00Z"})", "20240101120000 +0130"},
+        {Words{u"text"_s, u"xmltvDate"_s}, R"({"result": null})", "2024010112"},
+        {Words{u"words"_s, u"bracket"_s}, R"({"categories": 257, "recognised": null})", "[Action, komedija]"},
+        {Words{u"words"_s, u"subtitle"_s, u"--title"_s, u"Geo"_s},
+         R"({"categories": 4, "recognised": true})"},
+        {Words{u"category-text"_s, u"-1"_s}, R"({"text": "Evening Shows"})"},
+        {Words{u"category-text"_s, u"0x1ff01"_s}, R"({"text": "Feature Films"})"},
+        {Words{u"object-id"_s, u"000000000000000000000000"_s},
          R"({"hex": "000000000000000000000000", "hash": "9795860139169989765"})"},
-        {{u"minutes"_s, u"-7"_s}, {}, R"({"normalized": -1})"},
-        {{u"silent"_s, u"--from"_s, u"00:00"_s, u"--to"_s, u"07:00"_s, u"--at"_s, u"06:59"_s},
-         {},
+        {Words{u"minutes"_s, u"-7"_s}, R"({"normalized": -1})"},
+        {Words{u"silent"_s, u"--from"_s, u"00:00"_s, u"--to"_s, u"07:00"_s, u"--at"_s, u"06:59"_s},
          R"({"allowed": false})"},
-        {{u"time-format"_s, u"h:mm\u202Fa"_s}, {}, R"({"format": "hh:mma"})"},
+        {Words{u"time-format"_s, u"h:mm\u202Fa"_s}, R"({"format": "hh:mma"})"},
     };
     for (const auto& each : cases) {
         const Answer answer = probe(each.words, each.input);
@@ -67,10 +60,7 @@ TEST(Probe, PrintsOneObjectPerCommand) {
 }
 
 TEST(Probe, DistinguishesUnusableArgumentsFromFailures) {
-    const struct {
-        QStringList words;
-        int status;
-    } cases[] = {
+    const std::pair<Words, int> cases[] = {
         {{}, 2},
         {{u"types"_s}, 2},
         {{u"type"_s}, 2},
@@ -85,10 +75,10 @@ TEST(Probe, DistinguishesUnusableArgumentsFromFailures) {
         {{u"type"_s, u"a"_s, u"--hosts"_s, u"/nowhere"_s}, 1},
         {{u"filter"_s, u"/nowhere"_s}, 1},
     };
-    for (const auto& each : cases) {
-        const Answer answer = probe(each.words);
-        const std::string name = each.words.join(u' ').toStdString();
-        EXPECT_EQ(answer.status, each.status) << name;
+    for (const auto& [words, status] : cases) {
+        const Answer answer = probe(words);
+        const std::string name = words.join(u' ').toStdString();
+        EXPECT_EQ(answer.status, status) << name;
         EXPECT_TRUE(answer.output.isEmpty()) << name;
         EXPECT_FALSE(answer.errors.isEmpty()) << name;
     }
@@ -96,7 +86,7 @@ TEST(Probe, DistinguishesUnusableArgumentsFromFailures) {
 }
 
 TEST(Probe, ParsesAFeedForTwoChannels) {
-    const test::ProbeFiles files;
+    const ProbeFiles files;
     const QString page = files.write(u"feed.xml"_s, R"(<tv>
 <programme start="20261121180000 +0000" stop="20261121185500 +0000" channel="a,b.cz"><title>Zprávy, 3. díl</title></programme>
 <programme start="20261121170000 +0000" stop="20261121180000 +0000" channel="a,b.cz"><title>Včera</title></programme>
@@ -122,7 +112,7 @@ TEST(Probe, ParsesAFeedForTwoChannels) {
 }
 
 TEST(Probe, FiltersACatalogueByAvailableIcons) {
-    const test::ProbeFiles files;
+    const ProbeFiles files;
     const auto channel = [](const char* location, const char* icon) {
         return QByteArray("<dict><key>Location</key><string>") + location +
                "</string><key>Title</key><string>T</string><key>Language</key><string>cs</string>"
@@ -151,5 +141,4 @@ TEST(Probe, FiltersACatalogueByAvailableIcons) {
 }
 
 } // namespace
-
-} // namespace guide
+} // namespace guide::test

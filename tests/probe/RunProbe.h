@@ -11,6 +11,8 @@
 
 namespace guide::test {
 
+using namespace Qt::StringLiterals;
+
 struct Answer {
     /// -1 when the probe crashed or did not end.
     int status = -1;

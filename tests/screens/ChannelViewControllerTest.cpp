@@ -3,7 +3,6 @@
 #include "ScreenWorld.h"
 
 namespace guide::test {
-
 namespace {
 
 class ChannelViewControllerTest : public testing::Test {
@@ -22,14 +21,18 @@ class ChannelViewControllerTest : public testing::Test {
         world.tabs->selectedNavigationController().push(screen);
         return screen;
     }
-    static std::vector<BarButton::Kind> buttons(const ViewController& screen) {
-        std::vector<BarButton::Kind> kinds;
+    void reload(ChannelViewController& screen) {
+        screen.reloadChannelData();
+        world.queues.runAll();
+    }
+    using Kinds = std::vector<BarButton::Kind>;
+    static Kinds buttons(const ViewController& screen) {
+        Kinds kinds;
         for (const BarButton& button : screen.rightBarButtons()) {
             kinds.push_back(button.kind);
         }
         return kinds;
     }
-    using Kinds = std::vector<BarButton::Kind>;
     static constexpr auto kRefresh = BarButton::Kind::Refresh;
     static constexpr auto kActivity = BarButton::Kind::Activity;
     static constexpr auto kPlay = BarButton::Kind::Play;
@@ -79,12 +82,10 @@ TEST_F(ChannelViewControllerTest, OpensAsRefreshingWhileTheChannelIsLoadingOrDue
     world.channels->channelWithChannelId(channel)->setLoading(true);
     const auto screen = open({{0, 60, u"A"_s}});
     EXPECT_EQ(buttons(*screen), Kinds{kActivity});
-    screen->reloadChannelData();
-    world.queues.runAll();
+    reload(*screen);
     EXPECT_EQ(buttons(*screen), Kinds{kActivity});
     world.channels->channelWithChannelId(channel)->setLoading(false);
-    screen->reloadChannelData();
-    world.queues.runAll();
+    reload(*screen);
     EXPECT_EQ(buttons(*screen), Kinds{kRefresh});
 }
 
@@ -94,8 +95,7 @@ TEST_F(ChannelViewControllerTest, KeepsTheIndicatorWhenTheChannelIsNoLongerSelec
     const auto screen = open({{0, 60, u"A"_s}});
     world.channels->setSelected({});
     screen->pullToRefresh();
-    screen->reloadChannelData();
-    world.queues.runAll();
+    reload(*screen);
     EXPECT_EQ(buttons(*screen), Kinds{kActivity});
     EXPECT_TRUE(screen->refreshing());
     EXPECT_TRUE(world.app.done.isEmpty());
@@ -106,8 +106,7 @@ TEST_F(ChannelViewControllerTest, ShowsANoteWhenTheScheduleHasRunOut) {
     world.load(channel, {{0, 60, u"A"_s}});
     const auto screen = open({{0, 60, u"A"_s}});
     world.clock.advance(61min);
-    screen->reloadChannelData();
-    world.queues.runAll();
+    reload(*screen);
     EXPECT_TRUE(screen->table().sections().empty());
     EXPECT_TRUE(screen->table().emptyNote());
 }
@@ -128,5 +127,4 @@ TEST_F(ChannelViewControllerTest, RecolorsOnTheNextMainQueueTurn) {
 }
 
 } // namespace
-
 } // namespace guide::test

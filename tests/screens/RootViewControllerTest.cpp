@@ -5,7 +5,6 @@
 #include "screens/channel/ChannelViewController.h"
 
 namespace guide::test {
-
 namespace {
 
 class RootViewControllerTest : public testing::Test {
@@ -15,6 +14,16 @@ class RootViewControllerTest : public testing::Test {
             *world.tabs->tabs()[0].navigationController->viewControllers().front());
     }
     Table& table() { return root().table(); }
+    /// Opens the window of a guide with one channel, which has these shows.
+    ObjectId begin(const std::vector<WorldShow>& shows = {}) {
+        const ObjectId channel = world.addChannel(u"Jedna"_s);
+        world.start();
+        if (!shows.empty()) {
+            world.load(channel, shows);
+        }
+        world.show();
+        return channel;
+    }
     void send(int row, const RowEvent& event) { root().sendRowEvent(table().rowAt(row).id, event); }
     void display(int row) { root().rowDisplayed(table().rowAt(row).id); }
 
@@ -93,9 +102,7 @@ TEST_F(RootViewControllerTest, TimeColoursAndProgress) {
         {"colours off", -5, 15, false, true, false, ColorRole::SecondaryLabel, 0.25},
         {"colours off, but an alarm", 1, 10, false, false, true, ColorRole::Alarm, {}},
     };
-    const ObjectId channel = world.addChannel(u"Jedna"_s);
-    world.start();
-    world.show();
+    const ObjectId channel = begin();
     for (const Case& each : cases) {
         SCOPED_TRACE(each.name);
         world.app.colorized = each.colorized;
@@ -173,9 +180,7 @@ TEST_F(RootViewControllerTest, ChecksAModifiedSelectionOnceAtTheNextAppearance) 
 }
 
 TEST_F(RootViewControllerTest, IgnoresFreshListsInTheBackground) {
-    const ObjectId channel = world.addChannel(u"Jedna"_s);
-    world.start();
-    world.show();
+    const ObjectId channel = begin();
     world.state.state = ApplicationState::Background;
     world.load(channel, {{-5, 5, u"A"_s}});
     EXPECT_EQ(table().rowCount(), 1);
@@ -186,10 +191,7 @@ TEST_F(RootViewControllerTest, IgnoresFreshListsInTheBackground) {
 }
 
 TEST_F(RootViewControllerTest, AChannelOpensItsSchedule) {
-    const ObjectId channel = world.addChannel(u"Jedna"_s);
-    world.start();
-    world.load(channel, {{-5, 5, u"A"_s}});
-    world.show();
+    begin({{-5, 5, u"A"_s}});
     send(0, Tapped{});
     send(0, Tapped{});
     world.queues.runAll();
@@ -209,19 +211,14 @@ TEST_F(RootViewControllerTest, AChannelOpensItsSchedule) {
 
 TEST_F(RootViewControllerTest, LoadsThePicturesOfDisplayedRowsOnce) {
     const QUrl url(u"http://x/p.jpg"_s);
-    const ObjectId channel = world.addChannel(u"Jedna"_s);
-    world.start();
-    world.load(channel, {{-5, 5, u"A"_s, u""_s, {url}}, {5, 9, u"B"_s}, {9, 19, u"A"_s}});
-    world.show();
+    const ObjectId channel = begin({{-5, 5, u"A"_s, u""_s, {url}}, {5, 9, u"B"_s}, {9, 19, u"A"_s}});
     for (int times = 0; times < 3; ++times) {
         display(1);
         display(2);
     }
-    world.clock.advance(199ms);
-    world.queues.runAll();
+    world.wait(199ms);
     EXPECT_TRUE(world.pictures.pictures.empty());
-    world.clock.advance(1ms);
-    world.queues.runAll();
+    world.wait(1ms);
     ASSERT_EQ(world.pictures.pictures.size(), 1U);
     ASSERT_EQ(world.pictures.details.size(), 1U) << "one detail pass per channel";
 
@@ -245,13 +242,9 @@ TEST_F(RootViewControllerTest, LoadsThePicturesOfDisplayedRowsOnce) {
 }
 
 TEST_F(RootViewControllerTest, DropsDetailsOfAnOldList) {
-    const ObjectId channel = world.addChannel(u"Jedna"_s);
-    world.start();
-    world.load(channel, {{-5, 5, u"Old"_s}});
-    world.show();
+    const ObjectId channel = begin({{-5, 5, u"Old"_s}});
     display(1);
-    world.clock.advance(200ms);
-    world.queues.runAll();
+    world.wait(200ms);
     ASSERT_EQ(world.pictures.details.size(), 1U);
     world.load(channel, {{-5, 5, u"New"_s}});
     auto& [shows, block] = world.pictures.details.front();
@@ -262,26 +255,19 @@ TEST_F(RootViewControllerTest, DropsDetailsOfAnOldList) {
 
 TEST_F(RootViewControllerTest, FetchesNothingWithoutPicturesOrWhileTheChannelIsDue) {
     const QUrl url(u"http://x/p.jpg"_s);
-    const ObjectId channel = world.addChannel(u"Jedna"_s);
-    world.start();
-    world.load(channel, {{-5, 5000, u"A"_s, u""_s, {url}}});
-    world.show();
+    const ObjectId channel = begin({{-5, 5000, u"A"_s, u""_s, {url}}});
     world.app.images = false;
     display(1);
-    world.clock.advance(1s);
-    world.queues.runAll();
+    world.wait(1s);
     EXPECT_TRUE(world.pictures.pictures.empty() && world.pictures.details.empty());
 
-    const ObjectId& due = channel;
     world.app.images = true;
-    world.channels->channelWithChannelId(due)->unload();
-    root().setShowImage(QImage(), due, u"other"_s);
+    world.channels->channelWithChannelId(channel)->unload();
+    root().setShowImage(QImage(), channel, u"other"_s);
     display(1);
-    world.clock.advance(1s);
-    world.queues.runAll();
+    world.wait(1s);
     EXPECT_TRUE(world.pictures.details.empty()) << "no detail pass while the channel is due";
 }
 
 } // namespace
-
 } // namespace guide::test

@@ -124,29 +124,14 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
     void start() {
         icons = std::make_unique<TVStationIcons>(m_iconFolder.isEmpty() ? folder.path() : m_iconFolder, 2);
         open();
+        const auto swipeActions = [this](const std::shared_ptr<const TVEntry>& entry, const auto&) {
+            return app.swipeActions(*entry);
+        };
         environment = std::make_shared<const ScreenEnvironment>(
-            ScreenEnvironment{clock,
-                              device,
-                              queues.mainQueue(),
-                              *loadQueue,
-                              state,
-                              *listings,
-                              *channels,
-                              *icons,
-                              catalogue,
-                              alphabet,
-                              favorites,
-                              alarms,
-                              app,
-                              popular,
-                              pictures,
-                              pictureCache,
-                              app,
-                              app,
-                              app,
-                              [this](const std::shared_ptr<const TVEntry>& entry, const auto&) {
-                                  return app.swipeActions(*entry);
-                              }});
+            ScreenEnvironment{clock,     device,      queues.mainQueue(), *loadQueue,   state,     *listings,
+                              *channels, *icons,      catalogue,          alphabet,     favorites, alarms,
+                              app,       popular,     pictures,           pictureCache, app,       app,
+                              app,       swipeActions});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -191,6 +176,10 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
         queues.runAll();
     }
 
+    void wait(std::chrono::milliseconds time) {
+        clock.advance(time);
+        queues.runAll();
+    }
     /// Opens the window and runs all queues.
     void show() {
         tabs->makeVisible();

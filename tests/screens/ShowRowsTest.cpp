@@ -7,10 +7,9 @@
 #include <gtest/gtest.h>
 
 namespace guide::test {
+namespace {
 
 using namespace Qt::StringLiterals;
-
-namespace {
 
 Moment moment(const QString& text) {
     return Moment(std::chrono::milliseconds(QDateTime::fromString(text, Qt::ISODate).toMSecsSinceEpoch()));
@@ -100,5 +99,4 @@ TEST(ShowPictureCacheTest, KeepsTheMostRecentlyUsedImages) {
 }
 
 } // namespace
-
 } // namespace guide::test

@@ -47,38 +47,34 @@ TEST_F(PageFetcherServerTest, EveryAnswerGivesAPageOrAReason) {
     const QByteArray gzip = gzipped(feed);
     const ScriptedReply cut = ScriptedReply::raw(
         ScriptedReply::head(200, {"Content-Length: 1000"}) + feed.left(500), ScriptedReply::End::Reset);
+    using Replies = std::vector<ScriptedReply>;
+    constexpr auto kNone = std::nullopt;
     struct Row {
         const char* name;
-        std::vector<ScriptedReply> replies;
+        Replies replies;
         std::optional<QByteArray> page;
         PageReason reason = PageReason::None;
         int alerts = 0;
     };
     const Row rows[] = {
-        {"plain", {ScriptedReply::ok(feed)}, feed},
+        {"plain", Replies{ScriptedReply::ok(feed)}, feed},
         {"packed, with a content encoding",
-         {ScriptedReply::ok(gzip, {"Content-Type: application/x-gzip", "Content-Encoding: gzip"})},
+         Replies{ScriptedReply::ok(gzip, {"Content-Type: application/x-gzip", "Content-Encoding: gzip"})},
          feed},
-        {"damaged",
-         {ScriptedReply::ok("no xz", {"Content-Type: application/x-xz"})},
-         {},
+        {"damaged", Replies{ScriptedReply::ok("no xz", {"Content-Type: application/x-xz"})}, kNone,
          PageReason::Compression},
-        {"packed for the transfer", {ScriptedReply::ok(gzip, {"Content-Encoding: gzip"})}, feed},
-        {"error pages",
-         {ScriptedReply::answer(404, feed), ScriptedReply::answer(500, feed)},
-         {},
+        {"packed for the transfer", Replies{ScriptedReply::ok(gzip, {"Content-Encoding: gzip"})}, feed},
+        {"error pages", Replies{ScriptedReply::answer(404, feed), ScriptedReply::answer(500, feed)}, kNone,
          PageReason::Status},
-        {"error, then good", {ScriptedReply::answer(503, feed), ScriptedReply::ok(feed)}, feed},
-        {"the last good status", {ScriptedReply::answer(299, feed)}, feed},
-        {"the first bad one",
-         {ScriptedReply::answer(300, feed), ScriptedReply::answer(300, feed)},
-         {},
-         PageReason::Status},
-        {"empty", {ScriptedReply::ok({}), ScriptedReply::ok({})}, {}, PageReason::Empty},
-        {"empty, then good", {ScriptedReply::ok({}), ScriptedReply::ok(feed)}, feed},
-        {"truncated", {cut, cut}, {}, PageReason::Transfer, 2},
-        {"no answer", {}, {}, PageReason::Transfer, 2},
-        {"truncated, then good", {cut, ScriptedReply::ok(feed)}, feed, PageReason::None, 1},
+        {"error, then good", Replies{ScriptedReply::answer(503, feed), ScriptedReply::ok(feed)}, feed},
+        {"the last good status", Replies{ScriptedReply::answer(299, feed)}, feed},
+        {"the first bad one", Replies{ScriptedReply::answer(300, feed), ScriptedReply::answer(300, feed)},
+         kNone, PageReason::Status},
+        {"empty", Replies{ScriptedReply::ok({}), ScriptedReply::ok({})}, kNone, PageReason::Empty},
+        {"empty, then good", Replies{ScriptedReply::ok({}), ScriptedReply::ok(feed)}, feed},
+        {"truncated", Replies{cut, cut}, kNone, PageReason::Transfer, 2},
+        {"no answer", Replies(), kNone, PageReason::Transfer, 2},
+        {"truncated, then good", Replies{cut, ScriptedReply::ok(feed)}, feed, PageReason::None, 1},
     };
     int number = 0;
     for (const Row& row : rows) {

@@ -15,9 +15,7 @@ constexpr std::uint64_t kMemory = std::uint64_t{256} << 20;
 
 TEST(PageTextTest, ContentTypeDecidesFirst) {
     const QByteArray utf8 = "Žluťoučký kůň";
-    const QByteArray windows = "\x8e"
-                               "lu\x9d"
-                               "ou\xe8k\xfd k\xf9\xf2";
+    const QByteArray windows = "\x8elu\x9dou\xe8k\xfd k\xf9\xf2";
     const QByteArray gzip = gzipped(utf8);
     const QByteArray xz = xzPacked(utf8);
     struct Row {

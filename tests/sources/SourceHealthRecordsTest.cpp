@@ -1,6 +1,8 @@
 #include "sources/SourceHealthRecords.h"
 
-#include <QFile>
+#include "platform/files/FileReplacement.h"
+
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -57,10 +59,7 @@ TEST_F(SourceHealthRecordsTest, ReplacesADamagedFile) {
     QByteArray other = whole;
     other.replace("\"version\": 1", "\"version\": 2");
     for (const QByteArray& content : {QByteArray(), whole.chopped(3), QByteArray("[1]"), other}) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
+        ASSERT_TRUE(replaceFile(path, content));
         EXPECT_TRUE(kept().empty()) << content.toStdString();
     }
     records.write({kOne});

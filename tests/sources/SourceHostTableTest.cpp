@@ -1,6 +1,7 @@
 #include "sources/SourceHostTable.h"
 
-#include <QFile>
+#include "platform/files/FileReplacement.h"
+
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -63,25 +64,21 @@ TEST(SourceHostTableTest, KeepsTheSchemeOrAddsOne) {
 }
 
 TEST(SourceHostTableTest, OverrideReplacesKeyByKey) {
-    const auto write = [](const QString& path, const QByteArray& content) {
-        QFile file(path);
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-    };
     QTemporaryDir bundle;
     QTemporaryDir configuration;
     const CountedWarnings counted;
-    ASSERT_TRUE(
-        write(bundle.filePath(u"hosts.json"_s), R"({"A": "a.example", "B": "b.example", "C": "c.example"})"));
+    ASSERT_TRUE(replaceFile(bundle.filePath(u"hosts.json"_s),
+                            R"({"A": "a.example", "B": "b.example", "C": "c.example"})"));
     EXPECT_EQ(SourceHostTable::installed(bundle.path(), configuration.path()).value(u"A"_s), u"a.example"_s);
     EXPECT_EQ(warnings, 0) << "an override is not logged";
 
-    ASSERT_TRUE(write(configuration.filePath(u"hosts.json"_s), R"({"A": "own.example", "B": ""})"));
+    ASSERT_TRUE(replaceFile(configuration.filePath(u"hosts.json"_s), R"({"A": "own.example", "B": ""})"));
     const SourceHostTable table = SourceHostTable::installed(bundle.path(), configuration.path());
     EXPECT_EQ(table.value(u"A"_s), u"own.example"_s);
     EXPECT_EQ(table.base(u"B"_s), std::nullopt) << "switched off";
     EXPECT_EQ(table.value(u"C"_s), u"c.example"_s);
 
-    ASSERT_TRUE(write(configuration.filePath(u"hosts.json"_s), R"({"A": )"));
+    ASSERT_TRUE(replaceFile(configuration.filePath(u"hosts.json"_s), R"({"A": )"));
     EXPECT_EQ(SourceHostTable::installed(bundle.path(), configuration.path()).value(u"A"_s), u"a.example"_s);
 }
 

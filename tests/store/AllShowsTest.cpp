@@ -9,10 +9,6 @@
 namespace guide::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-constexpr Moment kNow{std::chrono::hours(1000)};
-
 std::shared_ptr<const ChannelList> listOf(ShowItems shows) {
     return std::make_shared<const ChannelList>(std::make_shared<const ShowItems>(std::move(shows)));
 }
@@ -174,7 +170,6 @@ TEST(AllShowsTest, UnusedStatesAreNotKept) {
 }
 
 TEST(ChannelListTest, FindsTheShowsThatAreNotOver) {
-    const auto hour = [](int hours) { return kNow + std::chrono::hours(hours); };
     struct Row {
         const char* name;
         std::vector<std::pair<int, int>> shows; // start and end

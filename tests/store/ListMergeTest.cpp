@@ -6,15 +6,9 @@
 namespace guide::test {
 namespace {
 
-using namespace Qt::StringLiterals;
+using Shows = std::vector<TestShow>;
 
-constexpr Moment kNow{std::chrono::hours(1000)};
-
-Moment hour(int hours) {
-    return kNow + std::chrono::hours(hours);
-}
-
-std::vector<ExtendedTVEntry> parsed(const std::vector<TestShow>& shows) {
+std::vector<ExtendedTVEntry> parsed(const Shows& shows) {
     std::vector<ExtendedTVEntry> result;
     result.reserve(shows.size());
     for (const TestShow& show : shows) {
@@ -26,66 +20,34 @@ std::vector<ExtendedTVEntry> parsed(const std::vector<TestShow>& shows) {
 TEST(ListMergeTest, SortsAndCuts) {
     struct Row {
         const char* name;
-        std::vector<TestShow> shows;
-        ListingsType type;
         MergeOutcome outcome;
         Titles expected;
+        Shows shows;
+        ListingsType type = ListingsType::XMLTV;
     };
-    using enum ListingsType;
+    using enum MergeOutcome;
     const Row rows[] = {
-        {"nothing", {}, XMLTV, MergeOutcome::Empty, {}},
-        {"no start", {{{}, hour(9), u"A"_s}}, XMLTV, MergeOutcome::Empty, {}},
-        {"sorted",
-         {{hour(2), hour(3), u"B"_s}, {hour(1), hour(2), u"A"_s}},
-         XMLTV,
-         MergeOutcome::Stored,
-         {"A", "B"}},
-        {"the first of equal starts stays",
-         {{hour(1), hour(2), u"A"_s},
-          {hour(0), hour(1), u"0"_s},
-          {hour(1), hour(2), u"B"_s},
-          {hour(1), hour(2), u"C"_s},
-          {hour(2), hour(3), u"D"_s}},
-         XMLTV,
-         MergeOutcome::Stored,
-         {"0", "A", "D"}},
-        {"a show that ends now has ended",
-         {{hour(-1), hour(0), u"A"_s}, {hour(0), hour(1), u"B"_s}},
-         XMLTV,
-         MergeOutcome::Stored,
-         {"B"}},
-        {"shows after a running one stay",
-         {{hour(-3), hour(1), u"A"_s}, {hour(-2), hour(-1), u"B"_s}},
-         XMLTV,
-         MergeOutcome::Stored,
-         {"A", "B"}},
-        {"only past",
-         {{hour(-2), hour(-1), u"A"_s}, {hour(-1), hour(0), u"B"_s}},
-         XMLTV,
-         MergeOutcome::OnlyPast,
-         {}},
-        {"a show without an end has ended", {{hour(1), {}, u"A"_s}}, XMLTV, MergeOutcome::OnlyPast, {}},
-        {"a final placeholder is dropped",
-         {{hour(2), hour(3), u"Nema podataka"_s}, {hour(1), hour(2), u"A"_s}},
-         XMLTV,
-         MergeOutcome::Stored,
-         {"A"}},
-        {"only one placeholder is dropped",
-         {{hour(1), hour(2), u"No information"_s}, {hour(2), hour(3), u"Není informace"_s}},
-         XMLTV,
-         MergeOutcome::Stored,
-         {"No information"}},
-        {"nothing but a placeholder",
-         {{hour(1), hour(2), u"Nincs információ"_s}},
-         XMLTV,
-         MergeOutcome::Empty,
-         {}},
-        {"a placeholder in another case stays",
-         {{hour(1), hour(2), u"no information"_s}},
-         XMLTV,
-         MergeOutcome::Stored,
-         {"no information"}},
-        {"no ends", {{hour(-3), {}, u"A"_s}, {hour(-2), {}, u"B"_s}}, Palinsesto, MergeOutcome::OnlyPast, {}},
+        {"nothing", Empty, Titles{}, Shows{}},
+        {"no start", Empty, Titles{}, Shows{{{}, hour(9), u"A"_s}}},
+        {"sorted", Stored, Titles{"A", "B"}, Shows{show(2, 3, u"B"_s), show(1, 2, u"A"_s)}},
+        {"the first of equal starts stays", Stored, Titles{"0", "A", "D"},
+         Shows{show(1, 2, u"A"_s), show(0, 1, u"0"_s), show(1, 2, u"B"_s), show(1, 2, u"C"_s),
+               show(2, 3, u"D"_s)}},
+        {"a show that ends now has ended", Stored, Titles{"B"},
+         Shows{show(-1, 0, u"A"_s), show(0, 1, u"B"_s)}},
+        {"shows after a running one stay", Stored, Titles{"A", "B"},
+         Shows{show(-3, 1, u"A"_s), show(-2, -1, u"B"_s)}},
+        {"only past", OnlyPast, Titles{}, Shows{show(-2, -1, u"A"_s), show(-1, 0, u"B"_s)}},
+        {"a show without an end has ended", OnlyPast, Titles{}, Shows{{hour(1), {}, u"A"_s}}},
+        {"a final placeholder is dropped", Stored, Titles{"A"},
+         Shows{show(2, 3, u"Nema podataka"_s), show(1, 2, u"A"_s)}},
+        {"only one placeholder is dropped", Stored, Titles{"No information"},
+         Shows{show(1, 2, u"No information"_s), show(2, 3, u"Není informace"_s)}},
+        {"nothing but a placeholder", Empty, Titles{}, Shows{show(1, 2, u"Nincs információ"_s)}},
+        {"a placeholder in another case stays", Stored, Titles{"no information"},
+         Shows{show(1, 2, u"no information"_s)}},
+        {"no ends", OnlyPast, Titles{}, Shows{{hour(-3), {}, u"A"_s}, {hour(-2), {}, u"B"_s}},
+         ListingsType::Palinsesto},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -100,8 +62,7 @@ TEST(ListMergeTest, SortsAndCuts) {
 }
 
 TEST(ListMergeTest, MissingEndsAreTakenFromTheNextStart) {
-    const std::vector<TestShow> shows = {
-        {hour(3), hour(9), u"Nema podataka"_s}, {hour(0), hour(9), u"A"_s}, {hour(1), hour(9), u"B"_s}};
+    const Shows shows = {show(3, 9, u"Nema podataka"_s), show(0, 9, u"A"_s), show(1, 9, u"B"_s)};
     const MergedList kept = mergedList(parsed(shows), u"hr"_s, kNow, ListingsType::XMLTV);
     EXPECT_EQ((*kept.list)[0].entry()->endDateTime(), hour(9));
     const MergedList set = mergedList(parsed(shows), u"hr"_s, kNow, ListingsType::Palinsesto);
@@ -114,7 +75,7 @@ TEST(ShowUpdatesTest, DetailsExtendTheShowOfTheEntry) {
     const auto details = std::make_shared<const TVEntrySupplementalData>();
     const QSet<QUrl> pictures{QUrl(u"http://a/1"_s)};
     const QSet<QUrl> otherPictures{QUrl(u"http://a/2"_s)};
-    const auto entryOf = [](int at) { return extended({hour(at), hour(at + 1)}).basic; };
+    const auto entryOf = [](int at) { return extended(show(at, at + 1)).basic; };
     const ShowItems list{
         ShowItem(entryOf(0)), ShowItem(entryOf(1), 4),
         ShowItem(entryOf(2), 4, std::make_shared<const TVEntrySupplementalData>()),
@@ -140,12 +101,10 @@ TEST(ShowUpdatesTest, IMDbPageIsSetOnEveryShowOfMaskAndTitle) {
     const QUrl page(u"https://imdb/x"_s);
     auto details = std::make_shared<TVEntrySupplementalData>();
     details->roles = u"X"_s;
-    const auto show = [](int at, const QString& title) {
-        return extended({hour(at), hour(at + 1), title}).basic;
-    };
-    const ShowItems list{ShowItem(show(0, u"A"_s), 1), ShowItem(show(1, u"A"_s), 2),
-                         ShowItem(show(2, u"B"_s), 1), ShowItem(show(3, u"A"_s), 1, details),
-                         ShowItem(show(4, u"A"_s))};
+    const auto entry = [](int at, const QString& title) { return extended(show(at, at + 1, title)).basic; };
+    const ShowItems list{ShowItem(entry(0, u"A"_s), 1), ShowItem(entry(1, u"A"_s), 2),
+                         ShowItem(entry(2, u"B"_s), 1), ShowItem(entry(3, u"A"_s), 1, details),
+                         ShowItem(entry(4, u"A"_s))};
     const auto updated = listWithIMDB(list, u"A"_s, 1, page, {});
     ASSERT_TRUE(updated);
     EXPECT_EQ((*updated)[0].details()->imdbURL, page);

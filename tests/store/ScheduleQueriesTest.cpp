@@ -6,14 +6,6 @@
 namespace guide::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-constexpr Moment kNow{std::chrono::hours(1000)};
-
-Moment hour(int hours) {
-    return kNow + std::chrono::hours(hours);
-}
-
 AllShows allOf(const std::vector<TestShow>& shows) {
     ShowItems items;
     for (const TestShow& show : shows) {
@@ -25,22 +17,15 @@ AllShows allOf(const std::vector<TestShow>& shows) {
 }
 
 TEST(ScheduleQueriesTest, CategoriesKeepSeriesApart) {
-    const AllShows all = allOf({{hour(-2), hour(-1), u"over"_s, 0x1000},
-                                {hour(-1), hour(0), u"ends now"_s, 0x1000},
-                                {hour(0), hour(1), u"drama"_s, 0x1000},
-                                {hour(1), hour(2), u"series"_s, 0x1002},
-                                {hour(2), hour(3), u"bare series"_s, 0x2},
-                                {hour(3), hour(4), u"none"_s, 0},
-                                {hour(4), hour(5), u"one element"_s, {}}});
-    struct Row {
-        TVListingsCategory mask;
-        Titles expected;
-    };
-    const Row rows[] = {
+    const AllShows all = allOf({show(-2, -1, u"over"_s, 0x1000), show(-1, 0, u"ends now"_s, 0x1000),
+                                show(0, 1, u"drama"_s, 0x1000), show(1, 2, u"series"_s, 0x1002),
+                                show(2, 3, u"bare series"_s, 0x2), show(3, 4, u"none"_s, 0),
+                                show(4, 5, u"one element"_s, {})});
+    const std::pair<TVListingsCategory, Titles> rows[] = {
         {0x1000, {"drama"}}, {0x1002, {"series", "bare series"}},    {0x2, {"series", "bare series"}},
         {0x1, {}},           {TVListingsCategoryAllFilm, {"drama"}}, {0, {}}};
-    for (const Row& row : rows) {
-        EXPECT_EQ(titles(showsWithCategory(all, row.mask, kNow)), row.expected) << row.mask;
+    for (const auto& [mask, expected] : rows) {
+        EXPECT_EQ(titles(showsWithCategory(all, mask, kNow)), expected) << mask;
     }
     EXPECT_EQ(titles(allShowsWithCategory(all, TVListingsCategoryAllShows, kNow, QTimeZone::utc())),
               (Titles{"ends now", "drama", "series", "bare series", "none", "one element"}));
@@ -61,11 +46,8 @@ TEST(ScheduleQueriesTest, TheEveningStartsAtNineteenLocalTime) {
 }
 
 TEST(ScheduleQueriesTest, EndedAndOverAreDifferent) {
-    const AllShows all = allOf({{hour(-2), hour(-1), u"A"_s},
-                                {hour(-1), hour(0), u"A"_s},
-                                {hour(0), hour(1), u"A"_s},
-                                {hour(0), hour(1), u"a"_s},
-                                {hour(1), hour(2), u"A"_s}});
+    const AllShows all = allOf({show(-2, -1, u"A"_s), show(-1, 0, u"A"_s), show(0, 1, u"A"_s),
+                                show(0, 1, u"a"_s), show(1, 2, u"A"_s)});
     EXPECT_EQ(showScheduleForTitle(all, u"A"_s, kNow).size(), 3u);
     const FavoritesSnapshot favorites({{u"A"_s, {}, {}, {}}});
     EXPECT_EQ(favoritesSchedule(all, favorites, kNow).size(), 3u) << "case is ignored";
@@ -82,7 +64,7 @@ TEST(ScheduleQueriesTest, EndedAndOverAreDifferent) {
 }
 
 TEST(ScheduleQueriesTest, StopsAtTheCap) {
-    std::vector<TestShow> many(kMostShows + 5, TestShow{hour(0), hour(1), u"A"_s, 1});
+    std::vector<TestShow> many(kMostShows + 5, show(0, 1, u"A"_s, 1));
     const AllShows all = allOf(many);
     EXPECT_EQ(showsWithCategory(all, 1, kNow).size(), kMostShows);
     EXPECT_EQ(showScheduleForTitle(all, u"A"_s, kNow).size(), kMostShows);
@@ -91,8 +73,7 @@ TEST(ScheduleQueriesTest, StopsAtTheCap) {
 }
 
 TEST(ScheduleQueriesTest, FindsTheShowOfAURL) {
-    const AllShows all =
-        allOf({{hour(-2), hour(-1), u"A"_s}, {hour(0), hour(1), u"A"_s}, {hour(0), hour(1), u"B"_s}});
+    const AllShows all = allOf({show(-2, -1, u"A"_s), show(0, 1, u"A"_s), show(0, 1, u"B"_s)});
     for (const AllShows::Show& show : all.shows()) {
         const QUrl url = *TVEntry(*show.item->entry()).urlDigestWithScheme(u"guide"_s);
         EXPECT_EQ(showWithURL(all, url, u"guide"_s), *show.item);

@@ -3,10 +3,10 @@
 #include "TestShows.h"
 #include "platform/archive/KeyedArchiver.h"
 
+#include <tuple>
+
 namespace guide::test {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 constexpr Moment kStart{std::chrono::milliseconds(1'767'205'800'123)};
 
@@ -38,28 +38,19 @@ ShowItems everyForm() {
             ShowItem(full, 0x11, details, {QUrl(u"http://p/1"_s), QUrl(u"http://p/2?a=ž"_s)})};
 }
 
+auto fieldsOf(const TVEntry& entry) {
+    return std::tuple(entry.channel(), entry.sourceId(), entry.language(), entry.dateTime(),
+                      entry.endDateTime(), entry.identificator(), entry.title(), entry.instantDetails1(),
+                      entry.subtitle1(), entry.instantDescription1(), entry.url(), entry.previouslyShown());
+}
+
 void expectEqual(const ShowItem& a, const ShowItem& b) {
     EXPECT_EQ(a.elementCount(), b.elementCount());
     EXPECT_EQ(a.categories(), b.categories());
     EXPECT_EQ(a.pictures(), b.pictures());
     ASSERT_EQ(a.details() != nullptr, b.details() != nullptr);
-    if (a.details()) {
-        EXPECT_EQ(*a.details(), *b.details());
-    }
-    const TVEntry& left = *a.entry();
-    const TVEntry& right = *b.entry();
-    EXPECT_EQ(left.channel(), right.channel());
-    EXPECT_EQ(left.sourceId(), right.sourceId());
-    EXPECT_EQ(left.language(), right.language());
-    EXPECT_EQ(left.dateTime(), right.dateTime());
-    EXPECT_EQ(left.endDateTime(), right.endDateTime());
-    EXPECT_EQ(left.identificator(), right.identificator());
-    EXPECT_EQ(left.title(), right.title());
-    EXPECT_EQ(left.instantDetails1(), right.instantDetails1());
-    EXPECT_EQ(left.subtitle1(), right.subtitle1());
-    EXPECT_EQ(left.instantDescription1(), right.instantDescription1());
-    EXPECT_EQ(left.url(), right.url());
-    EXPECT_EQ(left.previouslyShown(), right.previouslyShown());
+    EXPECT_TRUE(!a.details() || *a.details() == *b.details());
+    EXPECT_TRUE(fieldsOf(*a.entry()) == fieldsOf(*b.entry()));
 }
 
 TEST(ShowCodingTest, EveryFormOfShowIsReadBack) {
@@ -74,17 +65,13 @@ TEST(ShowCodingTest, EveryFormOfShowIsReadBack) {
     EXPECT_TRUE(unarchivedShows(archivedShows({}), latinAlphabet())->empty());
 }
 
-TEST(ShowCodingTest, ATruncatedArchiveIsRejected) {
+TEST(ShowCodingTest, ADamagedArchiveIsRejected) {
     const QByteArray archive = archivedShows(everyForm());
-    for (qsizetype length = 0; length < archive.size(); ++length) {
-        ASSERT_FALSE(unarchivedShows(archive.first(length), latinAlphabet())) << length;
+    QByteArray flipped = archive;
+    flipped.back() = static_cast<char>(flipped.back() ^ 0x20);
+    for (const QByteArray& damaged : {QByteArray(), archive.chopped(1), flipped, archive + '\0'}) {
+        EXPECT_FALSE(unarchivedShows(damaged, latinAlphabet())) << damaged.size();
     }
-    for (qsizetype at = 0; at < archive.size(); ++at) {
-        QByteArray damaged = archive;
-        damaged[at] = static_cast<char>(damaged[at] ^ 0x20);
-        ASSERT_FALSE(unarchivedShows(damaged, latinAlphabet())) << at;
-    }
-    EXPECT_FALSE(unarchivedShows(archive + '\0', latinAlphabet()));
 }
 
 TEST(ShowCodingTest, OldAndIncompleteShowsAreRead) {

@@ -11,8 +11,6 @@
 namespace guide::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 TEST(TVEntryTest, DigestCoversChannelStartAndTitle) {
     struct Row {
         const char* name;
@@ -158,7 +156,7 @@ TEST(TVEntryTest, AllThreadsSeeTheSameCachedValues) {
         entry->setInstantDetails1(u"Drama"_s);
         const TVEntry& shared = *entry;
         std::vector<QUrl> urls(4);
-        std::vector<std::thread> threads;
+        std::vector<std::jthread> threads;
         threads.reserve(urls.size());
         for (std::size_t i = 0; i < urls.size(); ++i) {
             threads.emplace_back([&shared, &url = urls[i], i] {
@@ -166,9 +164,7 @@ TEST(TVEntryTest, AllThreadsSeeTheSameCachedValues) {
                 EXPECT_EQ(shared.fullInstantDetails(), u"Drama, Part 1"_s);
             });
         }
-        for (std::thread& thread : threads) {
-            thread.join();
-        }
+        threads.clear();
         EXPECT_EQ(std::count(urls.begin(), urls.end(), urls.front()), 4);
     }
 }

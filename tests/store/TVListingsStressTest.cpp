@@ -2,46 +2,22 @@
 #include "platform/memory/ManualClock.h"
 #include "platform/queues/ThreadedQueues.h"
 
-#include <condition_variable>
+#include <atomic>
 #include <thread>
 
 namespace guide::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-/// Real queues; the test's thread runs the main queue.
-class Queues {
-  public:
-    Queues()
-        : m_queues([this] {
-            const std::lock_guard guard(m_guard);
-            m_woken = true;
-            m_wake.notify_one();
-        }) {}
-
-    ThreadedQueues& queues() { return m_queues; }
-
-    template <class Done>
-    void runUntil(Done done) {
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-        while (!done()) {
-            ASSERT_LT(std::chrono::steady_clock::now(), deadline);
-            {
-                std::unique_lock guard(m_guard);
-                m_wake.wait_for(guard, std::chrono::milliseconds(20), [this] { return m_woken; });
-                m_woken = false;
-            }
-            m_queues.runMainQueue();
-        }
+/// Runs the main queue until the condition holds.
+template <class Done>
+void runUntil(ThreadedQueues& queues, Done done) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+    while (!done()) {
+        ASSERT_LT(std::chrono::steady_clock::now(), deadline);
+        queues.runMainQueue();
+        std::this_thread::yield();
     }
-
-  private:
-    std::mutex m_guard;
-    std::condition_variable m_wake;
-    bool m_woken = false;
-    ThreadedQueues m_queues;
-};
+}
 
 std::vector<ExtendedTVEntry> listNumbered(int number, const ObjectId& onChannel, Moment from) {
     std::vector<ExtendedTVEntry> shows;
@@ -65,14 +41,14 @@ TEST(TVListingsStressTest, ChangesQueriesAndWritesRunConcurrently) {
     constexpr int kRounds = 40;
     const ManualClock clock;
     QTemporaryDir folder;
-    Queues main;
-    FileStoreFixture world(clock, main.queues(), folder.path());
+    ThreadedQueues queues([] {});
+    FileStoreFixture world(clock, queues, folder.path());
     world.writeFile(channel(1), {{clock.now(), clock.now() + std::chrono::hours(1), u"0"_s}});
     std::atomic<int> answers = 0;
     std::atomic<int> asked = 0;
     {
         TVListings& listings = world.open();
-        const std::shared_ptr<DispatchQueue> own = main.queues().makeQueue("check", QueueKind::Serial);
+        const std::shared_ptr<DispatchQueue> own = queues.makeQueue("check", QueueKind::Serial);
         std::thread changes([&] {
             for (int round = 1; round <= kRounds; ++round) {
                 ParsedLists parsed;
@@ -118,10 +94,10 @@ TEST(TVListingsStressTest, ChangesQueriesAndWritesRunConcurrently) {
             listings.showsWithCategory(1, QueuePriority::Background, {[&](const ShowSpan&) { ++answers; }});
             listings.favoritesScheduleWithBlock([&](const ShowItems&) { ++answers; });
             listings.broadcastForTitle(u"7"_s, false, {[&](bool) { ++answers; }});
-            main.queues().runMainQueue();
+            queues.runMainQueue();
         }
         changes.join();
-        main.runUntil([&] { return answers == asked; });
+        runUntil(queues, [&] { return answers == asked; });
         EXPECT_TRUE(listings.finishWriting(std::chrono::seconds(30)));
     }
     for (int number : {1, 3}) {
@@ -129,14 +105,14 @@ TEST(TVListingsStressTest, ChangesQueriesAndWritesRunConcurrently) {
         ASSERT_TRUE(stored);
         EXPECT_EQ(*stored, Titles(30, std::to_string(kRounds)));
     }
-    main.queues().shutDown();
+    queues.shutDown();
 }
 
 TEST(TVListingsStressTest, FinishingIsBoundedInTime) {
     const ManualClock clock;
     QTemporaryDir folder;
-    Queues main;
-    FileStoreFixture world(clock, main.queues(), folder.path());
+    ThreadedQueues queues([] {});
+    FileStoreFixture world(clock, queues, folder.path());
     TVListings& listings = world.open();
     std::atomic<bool> release = false;
     listings.favoritesScheduleWithBlock([&](const ShowItems&) {
@@ -149,9 +125,9 @@ TEST(TVListingsStressTest, FinishingIsBoundedInTime) {
     listings.merge({{channel(1), u"x"_s, u"cs"_s}}, std::move(parsed), clock.now(), ListingsType::XMLTV);
     EXPECT_FALSE(listings.finishWriting(std::chrono::milliseconds(30)));
     release = true;
-    main.runUntil([&] { return listings.finishWriting(std::chrono::seconds(10)); });
+    runUntil(queues, [&] { return listings.finishWriting(std::chrono::seconds(10)); });
     EXPECT_EQ(world.fileTitles(channel(1)), Titles(30, "1"));
-    main.queues().shutDown();
+    queues.shutDown();
 }
 
 } // namespace

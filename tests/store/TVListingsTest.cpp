@@ -7,15 +7,11 @@
 namespace guide::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 constexpr const char* kAccess = "vorel.listings.access";
 constexpr const char* kFiles = "vorel.listings.file.io";
 
 class TVListingsTest : public ::testing::Test {
   protected:
-    Moment hour(int hours) const { return start + std::chrono::hours(hours); }
-
     /// Opens the store and lets it read its files.
     TVListings& made() {
         world.open();
@@ -60,22 +56,19 @@ class TVListingsTest : public ::testing::Test {
         return answer;
     }
 
-    ManualClock clock;
+    ManualClock clock{kNow};
     ManualQueues queues{clock};
     QTemporaryDir folder;
-    const Moment start = clock.now();
     FileStoreFixture world{clock, queues, folder.path()};
     std::unique_ptr<TVListings>& listings = world.listings;
 };
 
 TEST_F(TVListingsTest, FirstReadCutsEndedShowsAndUnloadsEmptyChannels) {
-    world.writeFile(channel(1), {{hour(-2), hour(-1), u"old"_s},
-                                 {hour(-1), hour(1), u"A"_s},
-                                 {hour(-1), hour(0), u"ended behind"_s},
-                                 {hour(1), hour(2), u"B"_s}});
-    world.writeFile(channel(2), {{hour(-1), hour(0), u"ends now"_s}});
-    world.writeFile(ObjectId::popular(), {{hour(-1), hour(0), u"P"_s}});
-    world.channels->channelWithChannelId(channel(2))->setTimeLoaded(start);
+    world.writeFile(channel(1), {show(-2, -1, u"old"_s), show(-1, 1, u"A"_s), show(-1, 0, u"ended behind"_s),
+                                 show(1, 2, u"B"_s)});
+    world.writeFile(channel(2), {show(-1, 0, u"ends now"_s)});
+    world.writeFile(ObjectId::popular(), {show(-1, 0, u"P"_s)});
+    world.channels->channelWithChannelId(channel(2))->setTimeLoaded(kNow);
     EXPECT_TRUE(replaceFile(world.listingsFile(channel(3)), "damaged"));
     made();
     EXPECT_EQ(cachedList(1), (Titles{"A", "ended behind", "B"}));
@@ -89,7 +82,7 @@ TEST_F(TVListingsTest, FirstReadCutsEndedShowsAndUnloadsEmptyChannels) {
 }
 
 TEST_F(TVListingsTest, QueriesWaitForTheFirstRead) {
-    world.writeFile(channel(1), {{hour(0), hour(1), u"A"_s}});
+    world.writeFile(channel(1), {show(0, 1, u"A"_s)});
     world.open();
     EXPECT_EQ(onAir(), (std::vector<Titles>{{"A"}, {}, {}}));
 }
@@ -97,10 +90,9 @@ TEST_F(TVListingsTest, QueriesWaitForTheFirstRead) {
 TEST_F(TVListingsTest, MergeStoresSchedulesAndAnnounces) {
     made();
     clock.advance(std::chrono::minutes(5));
-    const MergeResult result = merge({{hour(2), hour(3), u"B"_s},
-                                      {hour(0), hour(1), u"A"_s},
-                                      {hour(-2), hour(-1), u"old"_s, 0, channel(2)},
-                                      {hour(0), hour(1), u"not asked for"_s, 0, channel(3)}});
+    const MergeResult result =
+        merge({show(2, 3, u"B"_s), show(0, 1, u"A"_s), show(-2, -1, u"old"_s, 0, channel(2)),
+               show(0, 1, u"not asked for"_s, 0, channel(3))});
     EXPECT_EQ(result.outcomes, (decltype(result.outcomes){{channel(1), MergeOutcome::Stored},
                                                           {channel(2), MergeOutcome::OnlyPast}}));
     ASSERT_EQ(result.lists.size(), 1u);
@@ -120,18 +112,17 @@ TEST_F(TVListingsTest, MergeStoresSchedulesAndAnnounces) {
     listings->saveAllShows();
     EXPECT_EQ(found(u"b"_s), Titles{"B"});
 
-    merge({{hour(0), hour(1), u"C"_s}});
+    merge({show(0, 1, u"C"_s)});
     EXPECT_EQ(merge({}).outcomes.at(channel(1)), MergeOutcome::Empty);
-    EXPECT_EQ(merge({{hour(-2), hour(-1), u"D"_s}}).outcomes.at(channel(1)), MergeOutcome::OnlyPast);
+    EXPECT_EQ(merge({show(-2, -1, u"D"_s)}).outcomes.at(channel(1)), MergeOutcome::OnlyPast);
     EXPECT_EQ(cachedList(1), Titles{"C"});
     EXPECT_EQ(world.observer.replacements, 2);
 }
 
 TEST_F(TVListingsTest, CommitWritesFilesDatedByTheLoad) {
-    world.writeFile(channel(2), {{hour(0), hour(1), u"old file"_s}});
+    world.writeFile(channel(2), {show(0, 1, u"old file"_s)});
     made();
-    merge(
-        {{hour(0), hour(1), u"A"_s}, {hour(1), hour(3), u"B"_s}, {hour(0), hour(1), u"C"_s, 0, channel(2)}});
+    merge({show(0, 1, u"A"_s), show(1, 3, u"B"_s), show(0, 1, u"C"_s, 0, channel(2))});
     queues.runAll();
     clock.advance(std::chrono::hours(1));
     world.channels->channelWithChannelId(channel(1))->requireReload(); // which found nothing
@@ -142,7 +133,7 @@ TEST_F(TVListingsTest, CommitWritesFilesDatedByTheLoad) {
     queues.runAll();
     EXPECT_EQ(world.tasks.running(), 0u);
     EXPECT_EQ(world.fileTitles(channel(1)), Titles{"B"}) << "ended shows are cut";
-    EXPECT_EQ(fileModificationDate(world.listingsFile(channel(1))), start);
+    EXPECT_EQ(fileModificationDate(world.listingsFile(channel(1))), kNow);
     EXPECT_EQ(world.fileTitles(channel(2)), Titles{"old file"}) << "an empty list writes nothing";
     EXPECT_FALSE(listings->isScheduledForSaving(channel(1)));
     EXPECT_FALSE(listings->isScheduledForSaving(channel(2)));
@@ -155,7 +146,7 @@ TEST_F(TVListingsTest, CommitWritesFilesDatedByTheLoad) {
 TEST_F(TVListingsTest, InTheBackgroundScheduledListsAreWrittenSoon) {
     made();
     world.state.state = ApplicationState::Background;
-    merge({{hour(0), hour(1), u"A"_s}});
+    merge({show(0, 1, u"A"_s)});
     queues.runAll();
     EXPECT_EQ(world.fileTitles(channel(1)), Titles{"A"});
     EXPECT_FALSE(listings->isScheduledForSaving(channel(1)));
@@ -165,7 +156,7 @@ TEST_F(TVListingsTest, CommitBetweenMergeAndStoreLosesNothing) {
     made();
     listings->commitFiles();
     queues.run(kAccess); // the commit has taken the old lists
-    merge({{hour(0), hour(1), u"A"_s}});
+    merge({show(0, 1, u"A"_s)});
     queues.runAll();
     EXPECT_TRUE(listings->isScheduledForSaving(channel(1)));
     EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
@@ -174,7 +165,7 @@ TEST_F(TVListingsTest, CommitBetweenMergeAndStoreLosesNothing) {
 
 TEST_F(TVListingsTest, AFailedWriteStaysScheduled) {
     made();
-    merge({{hour(0), hour(1), u"A"_s}, {hour(0), hour(1), u"C"_s, 0, channel(2)}});
+    merge({show(0, 1, u"A"_s), show(0, 1, u"C"_s, 0, channel(2))});
     QDir().mkdir(world.listingsFile(channel(1))); // a directory, so that writing the file fails
     EXPECT_FALSE(listings->finishWriting(std::chrono::milliseconds(0)));
     EXPECT_TRUE(listings->isScheduledForSaving(channel(1)));
@@ -196,24 +187,19 @@ TEST_F(TVListingsTest, AnExpiredWritingTaskIsEnded) {
 
 TEST_F(TVListingsTest, OnAirReadsTheFileOfAChannelThatIsNotStored) {
     made();
-    world.writeFile(channel(4), {{hour(-1), hour(0), u"old"_s},
-                                 {hour(0), hour(1), u"A"_s},
-                                 {hour(1), hour(2), u"B"_s},
-                                 {hour(2), hour(3), u"C"_s}});
+    world.writeFile(channel(4),
+                    {show(-1, 0, u"old"_s), show(0, 1, u"A"_s), show(1, 2, u"B"_s), show(2, 3, u"C"_s)});
     world.channels->setSelected({channel(4), channel(1)});
     EXPECT_EQ(onAir(), (std::vector<Titles>{{"A", "B"}, {}}));
     EXPECT_EQ(cachedList(4), Titles{});
-    world.writeFile(channel(4), {{hour(-2), hour(-1), u"older"_s}, {hour(-1), hour(0), u"ends now"_s}});
+    world.writeFile(channel(4), {show(-2, -1, u"older"_s), show(-1, 0, u"ends now"_s)});
     EXPECT_EQ(onAir(), (std::vector<Titles>{{}, {}}));
 }
 
 TEST_F(TVListingsTest, CountsShowsThatAreNotOverUpToShowCount) {
     made();
-    merge({{hour(-1), hour(0), u"old"_s},
-           {hour(0), hour(1), u"A"_s},
-           {hour(1), hour(2), u"B"_s},
-           {hour(2), hour(3), u"C"_s},
-           {hour(0), hour(1), u"D"_s, 0, channel(2)}});
+    merge({show(-1, 0, u"old"_s), show(0, 1, u"A"_s), show(1, 2, u"B"_s), show(2, 3, u"C"_s),
+           show(0, 1, u"D"_s, 0, channel(2))});
     ShowCounts counts;
     std::shared_ptr<DispatchQueue> queue = queues.makeQueue("check", QueueKind::Serial);
     listings->showCountForSelectedChannelsForQueue(queue, [&](const ShowCounts& answer) {
@@ -226,7 +212,7 @@ TEST_F(TVListingsTest, CountsShowsThatAreNotOverUpToShowCount) {
 
 TEST_F(TVListingsTest, AllShowsPutTheUsersFirstChannelFirst) {
     made();
-    merge({{hour(0), hour(1), u"A1"_s}, {hour(0), hour(1), u"A2"_s, 0, channel(2)}});
+    merge({show(0, 1, u"A1"_s), show(0, 1, u"A2"_s, 0, channel(2))});
     world.channels->setSelected({channel(2), channel(1)});
     listings->saveAllShows();
     EXPECT_EQ(found(u"a"_s), (Titles{"A2", "A1"}));
@@ -240,7 +226,7 @@ TEST_F(TVListingsTest, AListOfADeselectedChannelIsNotStored) {
     made();
     world.channels->setSelected({channel(2)});
     listings->removeListingsForChannel(channel(1));
-    merge({{hour(0), hour(1), u"A1"_s}, {hour(0), hour(1), u"A2"_s, 0, channel(2)}});
+    merge({show(0, 1, u"A1"_s), show(0, 1, u"A2"_s, 0, channel(2))});
     listings->saveAllShows();
     EXPECT_EQ(found(u"a"_s), Titles{"A2"});
     EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
@@ -248,7 +234,7 @@ TEST_F(TVListingsTest, AListOfADeselectedChannelIsNotStored) {
 }
 
 TEST_F(TVListingsTest, RemovedListsLeaveTheirFiles) {
-    world.writeFile(channel(1), {{hour(0), hour(1), u"A"_s}});
+    world.writeFile(channel(1), {show(0, 1, u"A"_s)});
     made();
     listings->removeListingsForChannel(channel(1));
     EXPECT_EQ(cachedList(1), Titles{});
@@ -262,8 +248,7 @@ TEST_F(TVListingsTest, RemovedListsLeaveTheirFiles) {
 
 TEST_F(TVListingsTest, UpdatedShowsAreFoundAndWrittenAndOldListsStayTheSame) {
     made();
-    const ShowList old =
-        merge({{hour(0), hour(1), u"A"_s}, {hour(1), hour(2), u"B"_s, 1}}).lists.at(channel(1));
+    const ShowList old = merge({show(0, 1, u"A"_s), show(1, 2, u"B"_s, 1)}).lists.at(channel(1));
     listings->commitFiles();
     queues.runAll();
     auto details = std::make_shared<TVEntrySupplementalData>();
@@ -282,7 +267,7 @@ TEST_F(TVListingsTest, UpdatedShowsAreFoundAndWrittenAndOldListsStayTheSame) {
     EXPECT_EQ((*read)[1].details()->imdbURL, QUrl(u"https://i/1"_s));
     EXPECT_EQ((*read)[1].elementCount(), 4);
 
-    const auto gone = merge({{hour(0), hour(1), u"A"_s}}).lists.at(channel(1));
+    const auto gone = merge({show(0, 1, u"A"_s)}).lists.at(channel(1));
     listings->commitFiles();
     queues.runAll();
     listings->updateDetails((*old)[0].entry(), details, {});
@@ -294,10 +279,10 @@ TEST_F(TVListingsTest, UpdatedShowsAreFoundAndWrittenAndOldListsStayTheSame) {
 
 TEST_F(TVListingsTest, BlocksRunOnTheDocumentedQueues) {
     made();
-    merge({{hour(0), hour(1), u"A"_s}});
+    merge({show(0, 1, u"A"_s)});
     listings->saveAllShows();
     queues.runAll();
-    world.popular.list = std::make_shared<const ShowItems>(ShowItems{item({hour(0), hour(1), u"P"_s})});
+    world.popular.list = std::make_shared<const ShowItems>(ShowItems{item(show(0, 1, u"P"_s))});
     int answers = 0;
     const auto onMain = [&](const auto&...) {
         EXPECT_TRUE(ManualQueues::isCurrent(queues.mainQueue()));
@@ -314,7 +299,7 @@ TEST_F(TVListingsTest, BlocksRunOnTheDocumentedQueues) {
     listings->favoritesScheduleWithPriority(QueuePriority::Background, {onMain});
     listings->showScheduleForTitle(u"A"_s, QueuePriority::Background, {onMain});
     listings->broadcastForTitle(u"A"_s, false, {onMain});
-    const auto url = TVEntry(*item({hour(0), hour(1), u"A"_s}).entry()).urlDigestWithScheme(u"guide"_s);
+    const auto url = TVEntry(*item(show(0, 1, u"A"_s)).entry()).urlDigestWithScheme(u"guide"_s);
     listings->showWithURL(*url, {onMain});
     const auto held = std::make_shared<int>();
     listings->showWithURL(QUrl(u"guide://absent"_s), {[&answers, held](const ShowItem&) { answers = -100; }});

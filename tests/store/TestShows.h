@@ -10,6 +10,8 @@
 
 namespace guide::test {
 
+using namespace Qt::StringLiterals;
+
 inline const Alphabet& latinAlphabet() {
     static const Alphabet alphabet;
     return alphabet;
@@ -32,6 +34,20 @@ struct TestShow {
     std::optional<TVListingsCategory> categories = 0;
     ObjectId onChannel = channel(1);
 };
+
+/// When the tests of the store begin.
+constexpr Moment kNow{std::chrono::hours(1000)};
+
+inline Moment hour(int afterNow) {
+    return kNow + std::chrono::hours(afterNow);
+}
+
+/// A show from one hour to another, counted from the beginning of the test.
+inline TestShow show(int from, int until, const QString& title = QStringLiteral("Show"),
+                     std::optional<TVListingsCategory> categories = 0,
+                     const ObjectId& onChannel = channel(1)) {
+    return {hour(from), hour(until), title, categories, onChannel};
+}
 
 inline ExtendedTVEntry extended(const TestShow& show) {
     auto entry = std::make_shared<TVEntry>(latinAlphabet());

@@ -3,6 +3,8 @@
 #include "text/categories/CategoryTable.h"
 #include "text/categories/CategoryText.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 namespace guide {
@@ -17,51 +19,44 @@ constexpr TVListingsCategory kEntertainment = TVListingsCategoryEntertainment;
 TEST(CategoryMappingTest, MapsTextsByTable) {
     const struct {
         TVListingsCategory (*map)(const QString&);
-        QString text;
         TVListingsCategory categories;
+        QStringList texts;
     } rows[] = {
-        {mapCategoryAttribute, u"Adventure"_s, kMovies | TVListingsCategoryAdventure},
-        {mapCategoryAttribute, u"Magazine"_s, kEntertainment},
-        {mapCategoryAttribute, u"Animated"_s, kMovies},
-        {mapCategoryAttribute, u"music"_s, 0},
-        {mapCategoryAttribute, u"Music "_s, 0},
-        {mapBracketCategories, u"[Action, komedija]"_s, kMovies | TVListingsCategoryComedies},
-        {mapBracketCategories, u"[serija]"_s, TVListingsCategorySeries},
-        {mapBracketCategories, u"[Serija]"_s, 0},
-        {mapBracketCategories, u"[sf]"_s, kMovies | TVListingsCategorySF},
-        {mapBracketCategories, u"[SF]"_s, kMovies | TVListingsCategorySF},
-        {mapBracketCategories, u"[Sf]"_s, 0},
-        {mapBracketCategories, u"[pesca]"_s, kDocumentaries | TVListingsCategorySports},
-        {mapBracketCategories, u"[Magazine des médias]"_s, TVListingsCategoryNews | kEntertainment},
-        {mapBracketCategories, u"[Docu]"_s, 0},
-        {mapBracketCategories, u"[Meteo]"_s, TVListingsCategoryNews},
-        {mapBracketCategories, u"[meteo]"_s, 0},
-        {mapBracketCategories, u"[SÉRIE]"_s, TVListingsCategorySeries},
-        {mapBracketCategories, u"[opéra OPERA]"_s, TVListingsCategoryMusic},
-        {mapBracketCategories, u"[AKČNÍ]"_s, kMovies},
-        {mapBracketCategories, u"[akcni]"_s, 0},
-        {mapBracketCategories, u"[Ak\u010Dni\u0301]"_s, kMovies},
-        {mapBracketCategories, u"[Kultura\u0301]"_s, kDocumentaries},
-        {mapBracketCategories, u"[Pop\u0301]"_s, 0},
-        {mapBracketCategories, u"„Talk”"_s, kEntertainment},
-        {mapDescriptionWords, u"Drama i dramska serija"_s,
-         kMovies | TVListingsCategoryDramas | TVListingsCategorySeries},
-        {mapDescriptionWords, u"drama, horror, comedy"_s, 0},
-        {mapDescriptionWords, u"sf film, dječak, zab."_s,
-         kMovies | TVListingsCategorySF | TVListingsCategoryForChildren | kEntertainment},
-        {mapInstantDescriptionWords, u"animirani film za djecu"_s, kMovies | TVListingsCategoryForChildren},
-        {mapInstantDescriptionWords, u"Film"_s, 0},
-        {mapCategoryText, u"dokumentarni film"_s, kMovies | kDocumentaries},
-        {mapCategoryText, u"SF film"_s, kMovies | TVListingsCategorySF},
-        {mapCategoryText, u"sf film"_s, kMovies},
-        {mapCategoryText, u"Fantastika"_s, kMovies | TVListingsCategoryFantasy},
-        {mapCategoryText, u"znanstvena FANTASTIKA"_s, kMovies | TVListingsCategorySF},
-        {mapCategoryText, u"SF, fantastika"_s, kMovies | TVListingsCategorySF},
-        {mapCategoryText, u"KRIMINALISTIČKI"_s, kMovies | TVListingsCategoryCrime},
-        {mapCategoryText, u""_s, 0},
+        {mapCategoryAttribute, kMovies | TVListingsCategoryAdventure, {u"Adventure"_s}},
+        {mapCategoryAttribute, kEntertainment, {u"Magazine"_s}},
+        {mapCategoryAttribute, kMovies, {u"Animated"_s}},
+        {mapCategoryAttribute, 0, {u"music"_s, u"Music "_s}},
+        {mapBracketCategories, kMovies | TVListingsCategoryComedies, {u"[Action, komedija]"_s}},
+        {mapBracketCategories, TVListingsCategorySeries, {u"[serija]"_s, u"[SÉRIE]"_s}},
+        {mapBracketCategories, 0,
+         QStringList{u"[Serija]"_s, u"[Sf]"_s, u"[Docu]"_s, u"[meteo]"_s, u"[akcni]"_s, u"[Pop\u0301]"_s}},
+        {mapBracketCategories, kMovies | TVListingsCategorySF, {u"[sf]"_s, u"[SF]"_s}},
+        {mapBracketCategories, kDocumentaries | TVListingsCategorySports, {u"[pesca]"_s}},
+        {mapBracketCategories, TVListingsCategoryNews | kEntertainment, {u"[Magazine des médias]"_s}},
+        {mapBracketCategories, TVListingsCategoryNews, {u"[Meteo]"_s}},
+        {mapBracketCategories, TVListingsCategoryMusic, {u"[opéra OPERA]"_s}},
+        {mapBracketCategories, kMovies, {u"[AKČNÍ]"_s, u"[Ak\u010Dni\u0301]"_s}},
+        {mapBracketCategories, kDocumentaries, {u"[Kultura\u0301]"_s}},
+        {mapBracketCategories, kEntertainment, {u"„Talk”"_s}},
+        {mapDescriptionWords, kMovies | TVListingsCategoryDramas | TVListingsCategorySeries,
+         QStringList{u"Drama i dramska serija"_s}},
+        {mapDescriptionWords, 0, {u"drama, horror, comedy"_s}},
+        {mapDescriptionWords, kMovies | TVListingsCategorySF | TVListingsCategoryForChildren | kEntertainment,
+         QStringList{u"sf film, dječak, zab."_s}},
+        {mapInstantDescriptionWords, kMovies | TVListingsCategoryForChildren, {u"animirani film za djecu"_s}},
+        {mapInstantDescriptionWords, 0, {u"Film"_s}},
+        {mapCategoryText, kMovies | kDocumentaries, {u"dokumentarni film"_s}},
+        {mapCategoryText, kMovies | TVListingsCategorySF,
+         QStringList{u"SF film"_s, u"znanstvena FANTASTIKA"_s, u"SF, fantastika"_s}},
+        {mapCategoryText, kMovies, {u"sf film"_s}},
+        {mapCategoryText, kMovies | TVListingsCategoryFantasy, {u"Fantastika"_s}},
+        {mapCategoryText, kMovies | TVListingsCategoryCrime, {u"KRIMINALISTIČKI"_s}},
+        {mapCategoryText, 0, {u""_s}},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(row.map(row.text), row.categories) << row.text.toStdString();
+        for (const QString& text : row.texts) {
+            EXPECT_EQ(row.map(text), row.categories) << text.toStdString();
+        }
     }
 }
 
@@ -76,11 +71,8 @@ TEST(CategoryMappingTest, RecognisesSubtitlesAndTitles) {
         {"nothing", {}, {}, 0, false},
         {"an unknown word", u"Epizoda"_s, u"Naslov"_s, 0, false},
         {"a word of the first rows", u"komedija"_s, {}, kMovies | TVListingsCategoryComedies, true},
-        {"a word of the last rows",
-         u"sport i glazba"_s,
-         {},
-         TVListingsCategorySports | TVListingsCategoryMusic,
-         true},
+        {"a word of the last rows", u"sport i glazba"_s, std::nullopt,
+         TVListingsCategorySports | TVListingsCategoryMusic, true},
         {"a word in capitals", u"Komedija"_s, {}, 0, false},
         {"a producer without a subtitle", {}, u"National Geographic"_s, kDocumentaries, true},
         {"a producer in the subtitle", u"Viasat"_s, u"Naslov"_s, 0, false},

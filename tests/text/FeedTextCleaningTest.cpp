@@ -1,6 +1,7 @@
 #include "text/cleaning/FeedTextCleaning.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -10,11 +11,7 @@ using namespace Qt::StringLiterals;
 using Text = std::optional<QString>;
 
 TEST(TitleCleaningTest, SplitsTitles) {
-    const struct {
-        QString title;
-        QString shown;
-        Text description;
-    } rows[] = {
+    const std::tuple<QString, QString, Text> rows[] = {
         {u"Naslov"_s, u"Naslov"_s, {}},
         {u""_s, u""_s, {}},
         {u"Gem, set, meč, epizoda 3"_s, u"Gem, set, meč"_s, u"epizoda 3"_s},
@@ -31,18 +28,14 @@ TEST(TitleCleaningTest, SplitsTitles) {
         {u"Naslov,2. dio"_s, u"Naslov"_s, {}},
         {u"(a\nb) [c\nd]"_s, u"(a\nb) [c\nd]"_s, {}},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(showTitle(row.title, QLocale(u"hr_HR"_s)), row.shown) << row.title.toStdString();
-        EXPECT_EQ(showInstantDescription(row.title), row.description) << row.title.toStdString();
+    for (const auto& [title, shown, description] : rows) {
+        EXPECT_EQ(showTitle(title, QLocale(u"hr_HR"_s)), shown) << title.toStdString();
+        EXPECT_EQ(showInstantDescription(title), description) << title.toStdString();
     }
 }
 
 TEST(TitleCleaningTest, CapitalisesByTheLocale) {
-    const struct {
-        QString title;
-        QString locale;
-        QString shown;
-    } rows[] = {
+    const std::tuple<QString, QString, QString> rows[] = {
         {u"VIJESTI IZ KULTURE"_s, u"hr_HR"_s, u"Vijesti Iz Kulture"_s},
         {u"ŠPORT 24"_s, u"C"_s, u"Šport 24"_s},
         {u"İYİ GÜNLER IŞIK"_s, u"tr_TR"_s, u"İyi Günler Işık"_s},
@@ -52,17 +45,13 @@ TEST(TitleCleaningTest, CapitalisesByTheLocale) {
         {u"TVs"_s, u"en_US"_s, u"TVs"_s},
         {u"新聞"_s, u"en_US"_s, u"新聞"_s},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(showTitle(row.title, QLocale(row.locale)), row.shown) << row.title.toStdString();
+    for (const auto& [title, locale, shown] : rows) {
+        EXPECT_EQ(showTitle(title, QLocale(locale)), shown) << title.toStdString();
     }
 }
 
 TEST(TitleCleaningTest, RecognisesNotesAndRepeatMarks) {
-    const struct {
-        QString title;
-        bool note;
-        bool repeat;
-    } rows[] = {
+    const std::tuple<QString, bool, bool> rows[] = {
         {u"Film, drama (USA/1999)"_s, true, false},
         {u"Film (USA/1999)"_s, false, false},
         {u"Film, )/("_s, true, false},
@@ -71,18 +60,14 @@ TEST(TitleCleaningTest, RecognisesNotesAndRepeatMarks) {
         {u"Film [Repris]"_s, false, true},
         {u"Film (r) [repris]"_s, false, false},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(hasProductionNote(row.title), row.note) << row.title.toStdString();
-        EXPECT_EQ(isRepeatMarked(row.title), row.repeat) << row.title.toStdString();
+    for (const auto& [title, note, repeat] : rows) {
+        EXPECT_EQ(hasProductionNote(title), note) << title.toStdString();
+        EXPECT_EQ(isRepeatMarked(title), repeat) << title.toStdString();
     }
 }
 
 TEST(SubtitleCleaningTest, RemovesBrackets) {
-    const struct {
-        QString subtitle;
-        QString left;
-        QString matched;
-    } rows[] = {
+    const std::tuple<QString, QString, QString> rows[] = {
         {u"[film] Naslov"_s, u"Naslov"_s, u"[film]"_s},
         {u"[a] . Naslov"_s, u"Naslov"_s, u"[a]"_s},
         {u"[a],  Naslov"_s, u" Naslov"_s, u"[a]"_s},
@@ -93,12 +78,12 @@ TEST(SubtitleCleaningTest, RemovesBrackets) {
         {u"[a]"_s, u""_s, u"[a]"_s},
         {u"a] [b"_s, u"a] [b"_s, u""_s},
     };
-    for (const auto& row : rows) {
-        QString subtitle = row.subtitle;
+    for (const auto& [original, left, matched] : rows) {
+        QString subtitle = original;
         const auto range = bracketRange(subtitle);
-        EXPECT_EQ(range ? applySubtitleBracket(subtitle, range->start, range->size) : QString(), row.matched)
-            << row.subtitle.toStdString();
-        EXPECT_EQ(subtitle, row.left) << row.subtitle.toStdString();
+        EXPECT_EQ(range ? applySubtitleBracket(subtitle, range->start, range->size) : QString(), matched)
+            << original.toStdString();
+        EXPECT_EQ(subtitle, left) << original.toStdString();
     }
 }
 
@@ -107,24 +92,12 @@ TEST(SubtitleCleaningTest, SeparatesSubtitlesFromDetails) {
         Text subtitle;
         bool recognised;
         Text subtitle1;
-        Text instantDetails1;
+        Text instantDetails1 = {};
     } rows[] = {
-        {{}, false, {}, {}},
-        {{}, true, {}, {}},
-        {u"Naslov"_s, false, u"Naslov"_s, {}},
-        {u" Naslov\u00A0"_s, false, u"Naslov"_s, {}},
-        {u"(Naslov)"_s, false, u"Naslov"_s, {}},
-        {u"( ((Naslov)) )"_s, false, u"( ((Naslov)) )"_s, {}},
-        {u"((Naslov))"_s, false, u"Naslov"_s, {}},
-        {u"(Naslov"_s, false, u"(Naslov"_s, {}},
-        {u"Naslov)"_s, false, u"Naslov)"_s, {}},
-        {u"(a) (b)"_s, false, u"(a) (b)"_s, {}},
-        {u"x"_s, false, {}, {}},
-        {u"7"_s, false, u"7"_s, {}},
-        {u"٧"_s, false, {}, {}},
-        {u"(x)"_s, false, {}, {}},
-        {u"(x"_s, false, u"(x"_s, {}},
-        {u" \u2003\n"_s, false, {}, {}},
+        {{}, true, {}},
+        {u" Naslov\u00A0"_s, false, u"Naslov"_s},
+        {u"(Naslov)"_s, false, u"Naslov"_s},
+        {u"((Naslov))"_s, false, u"Naslov"_s},
         {u"(komedija)"_s, true, {}, u"komedija"_s},
         {u"x"_s, true, {}, u""_s},
     };
@@ -134,74 +107,54 @@ TEST(SubtitleCleaningTest, SeparatesSubtitlesFromDetails) {
         EXPECT_EQ(finished.instantDetails1, row.instantDetails1)
             << row.subtitle.value_or(u"unset"_s).toStdString();
     }
+    for (const QString& kept :
+         {u"Naslov"_s, u"( ((Naslov)) )"_s, u"(Naslov"_s, u"Naslov)"_s, u"(a) (b)"_s, u"7"_s, u"(x"_s}) {
+        EXPECT_EQ(finishSubtitle(kept, false).subtitle1, kept);
+        EXPECT_FALSE(finishSubtitle(kept, false).instantDetails1);
+    }
+    for (const Text& dropped : {Text(), Text(u"x"_s), Text(u"٧"_s), Text(u"(x)"_s), Text(u" \u2003\n"_s)}) {
+        EXPECT_FALSE(finishSubtitle(dropped, false).subtitle1) << dropped.value_or(u"unset"_s).toStdString();
+        EXPECT_FALSE(finishSubtitle(dropped, false).instantDetails1);
+    }
 }
 
 TEST(DescriptionCleaningTest, RemovesCreditsAndAttributions) {
     const struct {
         const char* name;
         QString text;
-        Text knownRoles;
         Text description;
-        Text roles;
-        Text directedBy;
+        Text roles = {};
+        Text directedBy = {};
+        Text knownRoles = {};
     } rows[] = {
-        {"empty", u""_s, {}, u""_s, {}, {}},
-        {"only carriage returns", u"\r\r"_s, {}, u""_s, {}, {}},
-        {"a full stop is added", u"Opis"_s, {}, u"Opis."_s, {}, {}},
-        {"also after other punctuation", u"Opis!"_s, {}, u"Opis!."_s, {}, {}},
-        {"line ends", u"\rA.\nB\nC\n\nD\rE\n\n\nF\r"_s, {}, u"A.\nB C\nD\nE\n F."_s, {}, {}},
-        {"a leading semicolon", u"; ; A"_s, {}, u"; A."_s, {}, {}},
-        {"attributions",
-         u"A (više na http://epg.example)(more at http://epg.example)B"_s,
-         {},
-         u"A B."_s,
-         {},
-         {}},
-        {"attributions that are kept",
-         u"(više na https://epg.example) (more at http://other.example)"_s,
-         {},
-         u"(više na https://epg.example) (more at http://other.example)."_s,
-         {},
-         {}},
-        {"labelled credits",
-         u"Opis filma. Uloge: A, B\nRedatelj: C\nKraj"_s,
-         {},
-         u"Opis filma. ."_s,
-         u"A, B"_s,
+        {"empty", u""_s, u""_s},
+        {"only carriage returns", u"\r\r"_s, u""_s},
+        {"a full stop is added", u"Opis"_s, u"Opis."_s},
+        {"also after other punctuation", u"Opis!"_s, u"Opis!."_s},
+        {"line ends", u"\rA.\nB\nC\n\nD\rE\n\n\nF\r"_s, u"A.\nB C\nD\nE\n F."_s},
+        {"a leading semicolon", u"; ; A"_s, u"; A."_s},
+        {"attributions", u"A (više na http://epg.example)(more at http://epg.example)B"_s, u"A B."_s},
+        {"attributions that are kept", u"(više na https://epg.example) (more at http://other.example)"_s,
+         u"(više na https://epg.example) (more at http://other.example)."_s},
+        {"labelled credits", u"Opis filma. Uloge: A, B\nRedatelj: C\nKraj"_s, u"Opis filma. ."_s, u"A, B"_s,
          u"C"_s},
-        {"the cast ends at the next label",
-         u"Opis.\nUloge: A, B Redatelj: C Glazba: D"_s,
-         {},
-         u"Opis.\n."_s,
-         u"A, B"_s,
-         u"C"_s},
-        {"known cast is kept", u"Uloge: A\nX"_s, u"Z Redatelj: Y"_s, u""_s, u"Z"_s, {}},
-        {"the director first", u"Režija: C\nUloge: A"_s, {}, u""_s, u"A"_s, u"C"_s},
-        {"the longer director's label",
-         u"Redatelj: C\nScenarist i redatelj: D\nUloge: A"_s,
-         {},
-         u"Redatelj: C ."_s,
-         u"A"_s,
-         u"D"_s},
-        {"Romanian cast", u"Text. Cu: A, B"_s, {}, u"Text. ."_s, u"A, B"_s, {}},
-        {"a director without a cast", u"Opis. Redatelj: C"_s, {}, u"Opis. Redatelj: C."_s, {}, {}},
-        {"both kinds of credits", u"T. Uloge: A\nB Regia - C"_s, {}, u"T. ."_s, u"A"_s, {}},
-        {"listed credits",
-         u"Tekst. Regia - Ana, Regia - Ivo, Marko, Pero"_s,
-         {},
-         u"Tekst."_s,
-         u"Marko, Pero"_s,
+        {"the cast ends at the next label", u"Opis.\nUloge: A, B Redatelj: C Glazba: D"_s, u"Opis.\n."_s,
+         u"A, B"_s, u"C"_s},
+        {"known cast is kept", u"Uloge: A\nX"_s, u""_s, u"Z"_s, Text(), u"Z Redatelj: Y"_s},
+        {"the director first", u"Režija: C\nUloge: A"_s, u""_s, u"A"_s, u"C"_s},
+        {"the longer director's label", u"Redatelj: C\nScenarist i redatelj: D\nUloge: A"_s,
+         u"Redatelj: C ."_s, u"A"_s, u"D"_s},
+        {"Romanian cast", u"Text. Cu: A, B"_s, u"Text. ."_s, u"A, B"_s},
+        {"a director without a cast", u"Opis. Redatelj: C"_s, u"Opis. Redatelj: C."_s},
+        {"both kinds of credits", u"T. Uloge: A\nB Regia - C"_s, u"T. ."_s, u"A"_s},
+        {"listed credits", u"Tekst. Regia - Ana, Regia - Ivo, Marko, Pero"_s, u"Tekst."_s, u"Marko, Pero"_s,
          u"Ana, Ivo"_s},
-        {"listed credits after a comma", u"Tekst, Regia - Ana\nMarko,"_s, u"Z"_s, u"Tekst."_s, u"Marko, "_s,
-         u"Ana"_s},
-        {"listed credits on a separate line", u"Tekst.\nRegia - Ana"_s, {}, u"Tekst."_s, {}, u"Ana"_s},
-        {"no credits", u"TeleRegia - Ana, Marko"_s, {}, u"TeleRegia - Ana, Marko."_s, {}, {}},
-        {"credits read from the first of their kind",
-         u"TeleRegia - Ana, x Regia - Ivo"_s,
-         {},
-         u"TeleRegia - Ana, x."_s,
-         {},
-         u"Ana, Ivo"_s},
+        {"listed credits after a comma", u"Tekst, Regia - Ana\nMarko,"_s, u"Tekst."_s, u"Marko, "_s, u"Ana"_s,
+         u"Z"_s},
+        {"listed credits on a separate line", u"Tekst.\nRegia - Ana"_s, u"Tekst."_s, Text(), u"Ana"_s},
+        {"no credits", u"TeleRegia - Ana, Marko"_s, u"TeleRegia - Ana, Marko."_s},
+        {"credits read from the first of their kind", u"TeleRegia - Ana, x Regia - Ivo"_s,
+         u"TeleRegia - Ana, x."_s, Text(), u"Ana, Ivo"_s},
     };
     for (const auto& row : rows) {
         const CleanedDescription cleaned = cleanDescription({row.text, row.knownRoles, {}}, u"epg.example"_s);

@@ -30,18 +30,16 @@ QString naiveDecode(QString text) {
         }
         return at;
     };
-    const std::pair<QString, QString> named[] = {{u"&amp;"_s, u"&"_s},
-                                                 {u"&lt;"_s, u"<"_s},
-                                                 {u"&gt;"_s, u">"_s},
-                                                 {u"&apos;"_s, u"'"_s},
-                                                 {u"&quot"_s, u"\""_s}};
-    for (const auto& [key, sign] : named) {
+    for (const auto& [key, sign] : {std::pair(u"&amp;"_s, u"&"_s),
+                                    {u"&lt;"_s, u"<"_s},
+                                    {u"&gt;"_s, u">"_s},
+                                    {u"&apos;"_s, u"'"_s},
+                                    {u"&quot"_s, u"\""_s}}) {
         for (qsizetype at = next(key, 0); at >= 0; at = next(key, at)) {
             text.replace(at, key.size(), sign);
         }
     }
-    const std::pair<QString, int> numeric[] = {{u"&#x"_s, 16}, {u"&#"_s, 10}};
-    for (const auto& [key, base] : numeric) {
+    for (const auto& [key, base] : {std::pair(u"&#x"_s, 16), {u"&#"_s, 10}}) {
         for (qsizetype at = next(key, 0); at >= 0; at = next(key, at)) {
             const qsizetype semicolon = text.indexOf(u';', at);
             if (semicolon < 0) {

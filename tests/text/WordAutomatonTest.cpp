@@ -44,26 +44,10 @@ TEST(WordAutomatonTest, FindsWhatPlainSearchesFind) {
     const std::vector<QString> words{u"a"_s,     u"ab"_s, u"bab"_s, u"č"_s,   u"čč"_s,      u"Ba"_s,
                                      u"abcab"_s, u"đ"_s,  u"ß."_s,  u"i"_s,   u"\u0301"_s,  u""_s,
                                      u"ab"_s,    u"각"_s, u"😀a"_s, u"Éáb"_s, u"e\u0301a"_s};
-    GeneratedText generated({u"a"_s,
-                             u"b"_s,
-                             u"A"_s,
-                             u"B"_s,
-                             u"á"_s,
-                             u"a\u0301\u0327"_s,
-                             u"c"_s,
-                             u"č"_s,
-                             u"C\u030C"_s,
-                             u"đ"_s,
-                             u"ß"_s,
-                             u"."_s,
-                             u"İ"_s,
-                             u"ı"_s,
-                             u"각"_s,
-                             u"😀"_s,
-                             QString(QChar(0xD83D)),
-                             u"\u030C"_s,
-                             u"e"_s,
-                             u"É"_s});
+    GeneratedText generated({u"a"_s, u"b"_s, u"A"_s,       u"B"_s,  u"á"_s,      u"a\u0301\u0327"_s,
+                             u"c"_s, u"č"_s, u"C\u030C"_s, u"đ"_s,  u"ß"_s,      u"."_s,
+                             u"İ"_s, u"ı"_s, u"각"_s,      u"😀"_s, u"\xD83D"_s, u"\u030C"_s,
+                             u"e"_s, u"É"_s});
     for (const FoldMode mode :
          {FoldMode::None, FoldMode::Case, FoldMode::Diacritics, FoldMode::CaseAndDiacritics}) {
         const WordAutomaton automaton(words, mode);

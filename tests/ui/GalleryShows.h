@@ -58,9 +58,8 @@ inline void fillWithEvening(ScreenWorld& world) {
         {0, 65, u"Doktoři z pohoří"_s, u"Seriál ČR (2024), Návrat ztraceného syna (12/26)"_s},
         {65, 80, u"Večerní zprávy"_s, u"Události dne doma i ve světě"_s},
         {80, 190, u"Příliš žluťoučký kůň a jeho podivuhodná cesta kolem světa"_s,
-         u"Dobrodružný film ČR/Francie (2019). Mladý hřebec uteče ze stáda a vydá se za hlasem, který slyší "
-         u"jen "
-         u"on. Cestou potká lidi, kteří mu rozumějí víc, než čekal."_s},
+         u"Dobrodružný film ČR/Francie (2019). Mladý hřebec uteče ze stáda a vydá se za hlasem, který "
+         u"slyší jen on. Cestou potká lidi, kteří mu rozumějí víc, než čekal."_s},
         {190, 250, u"Noční proud"_s, {}},
     };
     for (int day = 0; day < 6; ++day) {

@@ -10,7 +10,6 @@
 #include <QTranslator>
 
 namespace guide::test {
-
 namespace {
 
 class GuideWindowTest : public WindowTest, public testing::WithParamInterface<UserInterfaceIdiom> {
@@ -24,11 +23,19 @@ class GuideWindowTest : public WindowTest, public testing::WithParamInterface<Us
                                  .motion = false,
                                  .visibilityChanged = [this](bool visible) { visibility << visible; },
                                  .closed = [this] { closed = true; }});
+        proceed();
+    }
+    /// Runs what is pending and draws.
+    void proceed() {
         world.queues.runAll();
         settle();
     }
     TableViewController& top() const { return dynamic_cast<TableViewController&>(world.top()); }
     void tapFirstRow() const { top().sendRowEvent(top().table().rowAt(0).id, Tapped{}); }
+    void openFirstRow() {
+        tapFirstRow();
+        proceed();
+    }
     /// The title of the row at the list's top edge.
     QString titleAtTop() const { return titleOf(rowAtTop()); }
     QString titleOf(const QQuickItem* row) const {
@@ -65,8 +72,7 @@ TEST_P(GuideWindowTest, DrawsTheRowsAndTheTabs) {
 
 TEST_P(GuideWindowTest, TheScrollPositionStays) {
     open();
-    rows()->setProperty("contentY", 700);
-    settle();
+    scrollTo(700);
     const QString before = titleAtTop();
     ASSERT_FALSE(before.isEmpty());
     const ObjectId first = ScreenWorld::channelId(1);
@@ -81,28 +87,24 @@ TEST_P(GuideWindowTest, TheScrollPositionStays) {
 
 TEST_P(GuideWindowTest, TheKeyboardOpensAChannelAndGoesBack) {
     open();
-    rows()->forceActiveFocus(Qt::TabFocusReason);
+    focus();
     QTest::keyClick(quickWindow, Qt::Key_Down);
     EXPECT_EQ(rows()->property("currentIndex").toInt(), 0);
     QTest::keyClick(quickWindow, Qt::Key_Return);
-    world.queues.runAll();
-    settle();
+    proceed();
     ASSERT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 2U);
     EXPECT_EQ(rows()->property("count").toInt(), top().table().rowCount());
     const QStringList days = headings();
     EXPECT_TRUE(days.contains(u"středa 31. prosince 2025"_s)) << days.join(u'|').toStdString();
 
-    QTest::keyClick(quickWindow, Qt::Key_Escape);
-    settle();
+    press(Qt::Key_Escape);
     EXPECT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 1U);
     EXPECT_EQ(rows()->property("count").toInt(), top().table().rowCount());
 }
 
 TEST_P(GuideWindowTest, APullAtTheTopRefreshesAChannel) {
     open();
-    tapFirstRow();
-    world.queues.runAll();
-    settle();
+    openFirstRow();
     ASSERT_TRUE(world.top().hasRefreshControl());
     ASSERT_FALSE(world.top().refreshing());
     QStringList checks;
@@ -162,7 +164,7 @@ TEST_P(GuideWindowTest, ASwipeUncoversTheActionsOnAShow) {
     }
 
     // The menu key opens the same actions as a menu.
-    rows()->forceActiveFocus(Qt::TabFocusReason);
+    focus();
     press(Qt::Key_Down);
     press(Qt::Key_Down);
     press(Qt::Key_Menu);
@@ -197,34 +199,29 @@ TEST_P(GuideWindowTest, TabTitlesFitTheirLinesAtAnyTextSize) {
 
 TEST_P(GuideWindowTest, AScreenThatOpensInAHiddenTabDoesNotTakeTheFocus) {
     open();
-    rows()->forceActiveFocus(Qt::TabFocusReason);
+    focus();
     tapFirstRow();
     world.tabs->setSelectedIndex(world.tabs->selectedIndex() + 1);
     settle();
-    world.queues.runAll();
-    settle();
+    proceed();
     ASSERT_TRUE(quickWindow->activeFocusItem());
     EXPECT_TRUE(quickWindow->activeFocusItem()->isVisible());
 
     world.tabs->setSelectedIndex(world.tabs->selectedIndex() - 1);
     settle();
     ASSERT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 2U);
-    QTest::keyClick(quickWindow, Qt::Key_Escape);
-    settle();
+    press(Qt::Key_Escape);
     EXPECT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 1U)
         << "it has the focus now";
 }
 
 TEST_P(GuideWindowTest, DayHeadersFollowTheirRows) {
     open();
-    tapFirstRow();
-    world.queues.runAll();
-    settle();
+    openFirstRow();
     // The next morning all shows of the first day are over.
     world.clock.set(world.begin + 12h);
     world.broadcast->reloadData();
-    world.queues.runAll();
-    settle();
+    proceed();
     const QStringList days = headings();
     EXPECT_FALSE(days.contains(u"středa 31. prosince 2025"_s)) << days.join(u'|').toStdString();
     EXPECT_TRUE(days.contains(u"čtvrtek 1. ledna 2026"_s)) << days.join(u'|').toStdString();
@@ -245,9 +242,7 @@ TEST_P(GuideWindowTest, AnAlertIsAnsweredByKeyboard) {
                               {{u"OK"_s, AlertAction::Style::Default, [&] { ++pressed; }},
                                {u"Cancel"_s, AlertAction::Style::Cancel, nullptr}}});
     settle();
-    tapFirstRow();
-    world.queues.runAll();
-    settle();
+    openFirstRow();
     QTest::keyClick(quickWindow, Qt::Key_Tab);
     QTest::keyClick(quickWindow, Qt::Key_Return);
     EXPECT_EQ(pressed, 2) << "even when a screen opens behind the alert";
@@ -291,16 +286,13 @@ TEST_P(GuideWindowTest, SavesPictures) {
 }
 
 TEST(TranslationsTest, TheDevicesLanguageOrEnglish) {
-    struct Case {
-        QLocale locale;
-        QString text;
-    };
-    const std::vector<Case> cases{{QLocale(QLocale::Czech, QLocale::Czechia), u"Právě běží"_s},
-                                  {QLocale(QLocale::Slovak, QLocale::Slovakia), u"Práve beží"_s},
-                                  {QLocale(QLocale::Hungarian, QLocale::Hungary), u"Currently"_s}};
-    for (const Case& each : cases) {
-        installTranslations(each.locale);
-        EXPECT_EQ(Localized::tr("Currently"), each.text);
+    const std::pair<QLocale, QString> cases[] = {
+        {QLocale(QLocale::Czech, QLocale::Czechia), u"Právě běží"_s},
+        {QLocale(QLocale::Slovak, QLocale::Slovakia), u"Práve beží"_s},
+        {QLocale(QLocale::Hungarian, QLocale::Hungary), u"Currently"_s}};
+    for (const auto& [locale, text] : cases) {
+        installTranslations(locale);
+        EXPECT_EQ(Localized::tr("Currently"), text);
         qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
     }
 }
@@ -312,5 +304,4 @@ INSTANTIATE_TEST_SUITE_P(Forms, GuideWindowTest,
                          });
 
 } // namespace
-
 } // namespace guide::test

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 namespace guide::test {
-
 namespace {
 
 double linear(double channel) {
@@ -68,5 +67,4 @@ TEST(PaletteTest, ColoursKeepTheirHueInEitherScheme) {
 }
 
 } // namespace
-
 } // namespace guide::test

@@ -1,5 +1,6 @@
 #include "ui/model/TableModel.h"
 
+#include "screens/RandomTables.h"
 #include "ui/model/AccessibleName.h"
 #include "ui/model/Kit.h"
 #include "ui/model/RowValues.h"
@@ -8,13 +9,11 @@
 #include <QStringList>
 
 #include <gtest/gtest.h>
-#include <random>
 
 namespace guide::test {
+namespace {
 
 using namespace Qt::StringLiterals;
-
-namespace {
 
 const QLocale kLocale(QLocale::English, QLocale::UnitedStates);
 
@@ -33,23 +32,8 @@ class Screen final : public TableViewController {
     }
 };
 
-Row textRow(const QString& section, const QString& name, const QString& title = {}) {
-    return {{section, name}, TextRow{title.isEmpty() ? name : title}};
-}
-
-Section randomSection(std::mt19937& random, const QString& id) {
-    Section section{id, QString::number(random() % 3)};
-    std::vector<int> names(6);
-    std::iota(names.begin(), names.end(), 0);
-    std::ranges::shuffle(names, random);
-    names.resize(random() % 6);
-    for (const int name : names) {
-        section.rows.push_back(textRow(id, QString::number(name), QString::number(random() % 2)));
-        if (random() % 8 == 0) {
-            section.rows.back().content = SwitchRow{u"switch"_s};
-        }
-    }
-    return section;
+QString line(const QString& header, qsizetype place, bool last, const QString& title) {
+    return u"%1 %2%3 %4"_s.arg(header).arg(place).arg(last ? u"*"_s : QString(), title);
 }
 
 QString lineOf(const QAbstractItemModel& model, int row) {
@@ -58,9 +42,7 @@ QString lineOf(const QAbstractItemModel& model, int row) {
     const QString title = model.index(row, 0).data(TableModel::KindRole) == static_cast<int>(RowKind::Text)
                               ? value.value<TextRowValue>().title
                               : value.value<SwitchRowValue>().title;
-    return u"%1 %2%3 %4"_s.arg(section.header)
-        .arg(section.place)
-        .arg(section.last ? u"*"_s : QString(), title);
+    return line(section.header, section.place, section.last, title);
 }
 
 QStringList linesOf(const QAbstractItemModel& model) {
@@ -77,10 +59,8 @@ QStringList linesOf(const Table& table) {
         for (std::size_t place = 0; place < section.rows.size(); ++place) {
             const RowContent& content = section.rows[place].content;
             const auto* text = std::get_if<TextRow>(&content);
-            lines << u"%1 %2%3 %4"_s.arg(section.header)
-                         .arg(place)
-                         .arg(place + 1 == section.rows.size() ? u"*"_s : QString(),
-                              text ? text->title : std::get<SwitchRow>(content).title);
+            lines << line(section.header, qsizetype(place), place + 1 == section.rows.size(),
+                          text ? text->title : std::get<SwitchRow>(content).title);
         }
     }
     return lines;
@@ -123,13 +103,7 @@ TEST(TableModelTest, FollowsTheTableThroughAnyChanges) {
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     View view(model);
     for (int step = 0; step < 500; ++step) {
-        std::vector<Section> sections;
-        for (const QString& id : {u"a"_s, u"b"_s, u"c"_s}) {
-            if (random() % 3 != 0) {
-                sections.push_back(randomSection(random, id));
-            }
-        }
-        screen->table().setSections(std::move(sections));
+        screen->table().setSections(randomSections(random));
         ASSERT_EQ(linesOf(model), linesOf(screen->table())) << "step " << step;
         ASSERT_EQ(view.shown, linesOf(screen->table())) << "step " << step;
     }
@@ -140,7 +114,6 @@ TEST(TableModelTest, ChangesOfOneRowAreAnnouncedForThatRow) {
     Section section{u"s"_s};
     for (int row = 0; row < 10; ++row) {
         section.rows.push_back(textRow(u"s"_s, QString::number(row)));
-        section.rows.back().selectable = true;
     }
     screen->table().setSections({section});
     TableModel model(screen, kLocale, nullptr);
@@ -197,10 +170,7 @@ TEST(TableModelTest, RowsMoveWithinTheirSectionOnly) {
 }
 
 TEST(AccessibleNameTest, SaysWhatTheColoursAndSymbolsShow) {
-    const struct {
-        RowContent content;
-        QString name;
-    } cases[] = {
+    const std::pair<RowContent, QString> cases[] = {
         {ShowRow{.startTime = u"20:15"_s,
                  .endTime = u"21:00"_s,
                  .title = u"Title"_s,
@@ -219,11 +189,10 @@ TEST(AccessibleNameTest, SaysWhatTheColoursAndSymbolsShow) {
         {TimeRow{u"From"_s, QTime(6, 0)}, u"From, 06:00am"_s},
         {ProgressRow{u"Loading"_s, 0.25}, u"Loading, 25%"_s},
     };
-    for (const auto& each : cases) {
-        EXPECT_EQ(accessibleName(each.content, kLocale), each.name);
+    for (const auto& [content, name] : cases) {
+        EXPECT_EQ(accessibleName(content, kLocale), name);
     }
 }
 
 } // namespace
-
 } // namespace guide::test

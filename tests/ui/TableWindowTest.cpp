@@ -7,7 +7,6 @@
 #include "ui/model/RowValues.h"
 
 namespace guide::test {
-
 namespace {
 
 struct Sent {
@@ -78,6 +77,10 @@ class TableWindowTest : public WindowTest {
         WindowTest::TearDown();
         tabs.reset();
     }
+    void replaceRows(const std::vector<Section>& sections) {
+        screen->table().setSections(sections);
+        settle();
+    }
     double offsetOf(int index) const { return row(index)->y() - rows()->property("contentY").toDouble(); }
 
     ManualClock clock;
@@ -99,8 +102,7 @@ TEST_F(TableWindowTest, ASwipeStaysOpenWhileOtherRowsChange) {
     EXPECT_TRUE(open()) << "another row was updated";
     std::vector<Section> fewer = screen->table().sections();
     fewer[0].rows.erase(fewer[0].rows.begin() + 7);
-    screen->table().setSections(fewer);
-    settle();
+    replaceRows(fewer);
     ASSERT_TRUE(open()) << "another row was removed";
     EXPECT_EQ(buttons({u"Remove"_s}).constFirst()->mapToScene({}).y(), place);
     screen->setText(4, TextRow{u"Changed"_s});
@@ -125,13 +127,11 @@ TEST_F(TableWindowTest, WhatIsBeingTypedSurvivesUpdates) {
     screen->setText(3, InputRow{.title = u"Name"_s, .text = u"from the screen"_s, .error = u"Too short"_s});
     std::vector<Section> moved = screen->table().sections();
     moved[0].rows.erase(moved[0].rows.begin());
-    screen->table().setSections(moved);
-    settle();
+    replaceRows(moved);
     EXPECT_EQ(field->property("text"), u"oldx"_s);
     EXPECT_TRUE(field->hasActiveFocus());
     // The row is kept even while it is not visible.
-    rows()->setProperty("contentY", 10'000);
-    settle();
+    scrollTo(10'000);
     EXPECT_TRUE(field->hasActiveFocus());
     EXPECT_EQ(field->property("text"), u"oldx"_s);
 
@@ -146,8 +146,7 @@ TEST_F(TableWindowTest, WhatIsBeingTypedSurvivesUpdates) {
 
 TEST_F(TableWindowTest, TheScrollPositionStaysWhenRowsAboveChange) {
     open(lines(60));
-    rows()->setProperty("contentY", 1500);
-    settle();
+    scrollTo(1500);
     const int seen = rowAtTop()->property("index").toInt() + 2;
     const QString name = *screen->table().rowAt(seen).id.name();
     const double offset = offsetOf(seen);
@@ -179,8 +178,7 @@ TEST_F(TableWindowTest, TheScrollPositionStaysWhenRowsAboveChange) {
     };
     for (const auto& each : cases) {
         each.apply();
-        screen->table().setSections(sections);
-        settle();
+        replaceRows(sections);
         ASSERT_TRUE(row(now())) << each.change;
         EXPECT_EQ(offsetOf(now()), offset) << each.change;
         if (sections.size() > 1) {
@@ -192,8 +190,7 @@ TEST_F(TableWindowTest, TheScrollPositionStaysWhenRowsAboveChange) {
 TEST_F(TableWindowTest, ALongListShowsTheRightRowsAtEveryPosition) {
     open(lines(500));
     for (int y = 0; y < 20'000; y += 350) {
-        rows()->setProperty("contentY", y);
-        settle();
+        scrollTo(y);
         const QQuickItem* top = rowAtTop();
         ASSERT_TRUE(top);
         const int index = top->property("index").toInt();
@@ -214,8 +211,7 @@ TEST_F(TableWindowTest, ControlsReportWhatTheUserDoes) {
                    TimeRow{u"Time"_s, QTime(22, 30)}, ButtonRow{u"Button"_s},
                    SwitchRow{u"Not available"_s, {}, false, false}})});
     const auto key = [this](int index) {
-        rows()->forceActiveFocus(Qt::TabFocusReason);
-        rows()->setProperty("currentIndex", index);
+        focus(index);
         press(Qt::Key_Return);
     };
     click(row(0));
@@ -263,8 +259,7 @@ TEST_F(TableWindowTest, RowsAreDeletedAndReorderedInEditMode) {
     ASSERT_EQ(moves().size(), 1U);
     EXPECT_EQ(*moves()[0].next->name(), u"3"_s);
 
-    rows()->forceActiveFocus(Qt::TabFocusReason);
-    rows()->setProperty("currentIndex", 3);
+    focus(3);
     press(Qt::Key_Up, Qt::AltModifier);
     press(Qt::Key_Down, Qt::AltModifier);
     ASSERT_EQ(moves().size(), 3U);
@@ -318,8 +313,7 @@ TEST_F(TableWindowTest, TilesFormLinesAndAreReadInOrder) {
         EXPECT_EQ(surface(index).size(), surface(0).size());
     }
     click(row(2));
-    rows()->forceActiveFocus(Qt::TabFocusReason);
-    rows()->setProperty("currentIndex", 0);
+    focus(0);
     for (const auto& [key, index] :
          {std::pair(Qt::Key_Right, 1), std::pair(Qt::Key_Right, 2), std::pair(Qt::Key_Down, 4),
           std::pair(Qt::Key_Left, 3), std::pair(Qt::Key_Up, 1)}) {
@@ -429,7 +423,7 @@ TEST_F(TableWindowTest, APopoverIsNextToItsAnchor) {
 TEST_F(TableWindowTest, ASheetTakesTheKeyboardAndEscapeClosesIt) {
     open(lines(3));
     NavigationController& stack = tabs->selectedNavigationController();
-    rows()->forceActiveFocus(Qt::TabFocusReason);
+    focus();
     const auto sheet = std::make_shared<Screen>(lines(4));
     stack.show(sheet, Presentation::Sheet);
     settle();
@@ -466,5 +460,4 @@ TEST_F(TableWindowTest, SearchFieldAndNotice) {
 }
 
 } // namespace
-
 } // namespace guide::test

@@ -10,6 +10,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <optional>
 
 namespace guide::test {
 
@@ -89,6 +90,18 @@ class WindowTest : public testing::Test {
     void click(const QQuickItem* item, Qt::MouseButton button = Qt::LeftButton) const {
         QTest::mouseClick(quickWindow, button, {}, middle(item));
         settle();
+    }
+    /// Scrolls the list that is in front.
+    void scrollTo(double y) const {
+        rows()->setProperty("contentY", y);
+        settle();
+    }
+    /// Gives the keyboard to a row of the list that is in front, or to the list.
+    void focus(std::optional<int> index = {}) const {
+        rows()->forceActiveFocus(Qt::TabFocusReason);
+        if (index) {
+            rows()->setProperty("currentIndex", *index);
+        }
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
         QTest::keyClick(quickWindow, key, modifiers);

@@ -87,10 +87,8 @@ TEST(IMDbLookup, ReadsTheFirstRow) {
         {"a film for a series", photo + "A</tr>(TV Series)", true, {}},
         {"a series whose row has no end", photo + "A (TV Series)", true, {}},
         {"no picture", start + "https://x/nopicture.png\"></tr>", false, link},
-        {"a picture that is not scaled",
-         start + "https://x/long-name.jpg\"></tr>",
-         false,
-         {link.imdbURL, QUrl(u"https://x/long-name.jpg"_s)}},
+        {"a picture that is not scaled", start + "https://x/long-name.jpg\"></tr>", false,
+         IMDbAnswer{link.imdbURL, QUrl(u"https://x/long-name.jpg"_s)}},
         {"no row", "<html>", false, {}},
         {"no text", photo + "\xff</tr>", false, {}},
     };

@@ -5,12 +5,8 @@
 #include <array>
 #include <gtest/gtest.h>
 
-namespace guide {
+namespace guide::test {
 namespace {
-
-using test::FeedListing;
-using test::isPrefix;
-using test::isWellFormed;
 
 const Alphabet kAlphabet;
 const Moment kNow = std::chrono::sys_days{std::chrono::year{2026} / 11 / 21};
@@ -152,8 +148,8 @@ bool expectSameShows(const std::string& document, const std::string& what) {
             continue;
         }
         hasSkipped = true;
-        const FeedListing whole = test::listing(feed, wanted, kOptions);
-        const FeedListing ours = test::listing(*kept, wanted, kOptions);
+        const FeedListing whole = listing(feed, wanted, kOptions);
+        const FeedListing ours = listing(*kept, wanted, kOptions);
         if (isXML) {
             EXPECT_EQ(whole, ours) << what << "\n" << document << "\n" << kept->toStdString();
         } else {
@@ -217,4 +213,4 @@ TEST(ProgrammeSkipScan, GivesUpWhenNothingCanBeLeftOut) {
 }
 
 } // namespace
-} // namespace guide
+} // namespace guide::test

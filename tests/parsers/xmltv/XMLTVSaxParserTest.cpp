@@ -1,6 +1,7 @@
 #include "parsers/xmltv/XMLTVSaxParser.h"
 
-#include <QFile>
+#include "platform/files/FileReplacement.h"
+
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -94,11 +95,9 @@ TEST(XMLTVSaxParser, DoesNotSplitText) {
 
 TEST(XMLTVSaxParser, ReadsNoExternalResource) {
     QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("secret")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("<!ENTITY hidden 'secret'><title>secret</title>");
-    file.close();
-    const std::string path = file.fileName().toStdString();
+    const QString file = folder.filePath(QStringLiteral("secret"));
+    ASSERT_TRUE(replaceFile(file, "<!ENTITY hidden 'secret'><title>secret</title>"));
+    const std::string path = file.toStdString();
     const std::vector<std::string> documents{
         "<!DOCTYPE a [<!ENTITY e SYSTEM 'file://" + path + "'>]><a>x&e;</a>",
         "<!DOCTYPE a [<!ENTITY % e SYSTEM '" + path + "'> %e;]><a>x&hidden;</a>",

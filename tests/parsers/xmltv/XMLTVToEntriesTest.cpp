@@ -22,7 +22,9 @@ XMLTVOptions options() {
         .now = kNow};
 }
 
-std::vector<FeedChannelEntries> read(const std::string& programmes, const std::vector<QString>& wanted,
+using Channels = std::vector<QString>;
+
+std::vector<FeedChannelEntries> read(const std::string& programmes, const Channels& wanted,
                                      const XMLTVOptions& how = options()) {
     XMLTVToEntries reader(QByteArray::fromStdString("<tv>" + programmes + "</tv>"), wanted, how);
     return std::move(reader.entries());
@@ -49,9 +51,11 @@ std::string programme(const std::string& attributes, const std::string& content)
     return "<programme " + attributes + ">" + content + "</programme>";
 }
 
+const std::string kStart = "start=\"20261121140000 Z\"";
+
 /// A show of the channel, from 14:00 to 15:00.
 std::string show(const std::string& channel, const std::string& title) {
-    return programme("start=\"20261121140000 Z\" stop=\"20261121150000 Z\" channel=\"" + channel + "\"",
+    return programme(kStart + " stop=\"20261121150000 Z\" channel=\"" + channel + "\"",
                      "<title>" + title + "</title>");
 }
 
@@ -61,73 +65,53 @@ const std::string kLater = "start=\"20261121160000 Z\" stop=\"20261121170000 Z\"
 TEST(XMLTVToEntries, FiltersAndAssignsShows) {
     struct Row {
         const char* name;
-        std::vector<QString> wanted;
         std::string programmes;
         const char* kept;
+        Channels wanted = {};
     };
     const std::vector<Row> rows{
-        {"no filter",
-         {},
-         show("b", "B") + show("a", "A") + show("b", "C"),
+        {"no filter", show("b", "B") + show("a", "A") + show("b", "C"),
          "b: B 14:00-15:00 C 14:00-15:00; a: A 14:00-15:00"},
-        {"no channel named",
-         {},
-         programme("stop=\"20261121150000 Z\"", "<title>N</title>"),
-         ": N none-15:00"},
-        {"one wanted", {u"a"_s}, show("b", "B") + show("a", "A"), "a: A 14:00-15:00"},
-        {"two wanted",
-         {u"a"_s, u"c"_s},
-         show("b", "B") + show("c", "C") + show("a", "A"),
-         "c: C 14:00-15:00; a: A 14:00-15:00"},
-        {"ends now", {}, programme(kEnded, "<title>E</title>"), ""},
-        {"no stop", {}, programme("start=\"20261121140000 Z\" channel=\"a\"", "<title>S</title>"), ""},
-        {"a bad stop",
-         {},
-         programme("start=\"20261121140000 Z\" stop=\"20261121150000\"", "<title>S</title>"),
-         ""},
+        {"no channel named", programme("stop=\"20261121150000 Z\"", "<title>N</title>"), ": N none-15:00"},
+        {"one wanted", show("b", "B") + show("a", "A"), "a: A 14:00-15:00", Channels{u"a"_s}},
+        {"two wanted", show("b", "B") + show("c", "C") + show("a", "A"), "c: C 14:00-15:00; a: A 14:00-15:00",
+         Channels{u"a"_s, u"c"_s}},
+        {"ends now", programme(kEnded, "<title>E</title>"), ""},
+        {"no stop", programme(kStart + " channel=\"a\"", "<title>S</title>"), ""},
+        {"a bad stop", programme(kStart + " stop=\"20261121150000\"", "<title>S</title>"), ""},
         {"a bad start",
-         {},
          programme("start=\"202611\" stop=\"20261121150000 Z\" channel=\"a\"", "<title>S</title>"),
          "a: S none-15:00"},
-        {"an hour earlier", {}, show("aPlus1", "P"), "aPlus1: P 13:00-14:00"},
+        {"an hour earlier", show("aPlus1", "P"), "aPlus1: P 13:00-14:00"},
         {"ended after the shift",
-         {},
          programme("start=\"20261121120000 Z\" stop=\"20261121130000 Z\" channel=\"aPlus1\"",
                    "<title>P</title>"),
          ""},
-        {"an unshifted name", {}, show("aplus1", "P"), "aplus1: P 14:00-15:00"},
-        {"a second title", {}, show("a", "A</title><title>B"), "a: A 14:00-15:00"},
-        {"text after a child", {}, show("a", "A<b>x</b>y"), "a: A 14:00-15:00"},
-        {"no title", {}, programme(kLater, "<desc>D</desc>") + show("a", "A"), "a: A 14:00-15:00"},
+        {"an unshifted name", show("aplus1", "P"), "aplus1: P 14:00-15:00"},
+        {"a second title", show("a", "A</title><title>B"), "a: A 14:00-15:00"},
+        {"text after a child", show("a", "A<b>x</b>y"), "a: A 14:00-15:00"},
+        {"no title", programme(kLater, "<desc>D</desc>") + show("a", "A"), "a: A 14:00-15:00"},
         {"a title in a programme without a stop",
-         {},
          programme(kLater, "<desc>D</desc>") + programme("channel=\"b\"", "<title>B</title>"),
          "a: B 16:00-17:00"},
-        {"a placeholder drops the next show",
-         {},
-         show("a", "NEMA INFORMACIJA") + show("b", "B") + show("a", "A"),
+        {"a placeholder drops the next show", show("a", "NEMA INFORMACIJA") + show("b", "B") + show("a", "A"),
          "a: A 14:00-15:00"},
-        {"the other placeholder", {}, show("a", "Nema informacija o programu") + show("b", "B"), ""},
-        {"a title that only begins like a placeholder",
-         {},
-         show("a", "NEMA INFORMACIJA 2"),
+        {"the other placeholder", show("a", "Nema informacija o programu") + show("b", "B"), ""},
+        {"a title that only begins like a placeholder", show("a", "NEMA INFORMACIJA 2"),
          "a: Nema Informacija 2 14:00-15:00"},
         {"a placeholder before an ended show",
-         {},
          show("a", "NEMA INFORMACIJA") + programme(kEnded, "<title>E</title>") + show("b", "B") +
              show("a", "A"),
          "a: A 14:00-15:00"},
         {"a placeholder before an unwanted show",
-         {u"a"_s},
-         show("a", "NEMA INFORMACIJA") + show("b", "B") + show("a", "A"),
-         "a: A 14:00-15:00"},
+         show("a", "NEMA INFORMACIJA") + show("b", "B") + show("a", "A"), "a: A 14:00-15:00",
+         Channels{u"a"_s}},
         {"a show without a title before an unwanted one",
-         {u"a"_s},
          programme(kLater, "<desc>D</desc>") + show("b", "B") +
              programme("channel=\"a\"", "<title>A</title>"),
-         ""},
-        {"stops at an error", {}, show("a", "A") + show("a", "B & C") + show("a", "D"), "a: A 14:00-15:00"},
-        {"an escaped line end", {}, show("a", "A\\nB"), "a: Ab 14:00-15:00"},
+         "", Channels{u"a"_s}},
+        {"stops at an error", show("a", "A") + show("a", "B & C") + show("a", "D"), "a: A 14:00-15:00"},
+        {"an escaped line end", show("a", "A\\nB"), "a: Ab 14:00-15:00"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(summary(read(row.programmes, row.wanted)), row.kept) << row.name;
@@ -137,59 +121,53 @@ TEST(XMLTVToEntries, FiltersAndAssignsShows) {
 TEST(XMLTVToEntries, AnalysesTexts) {
     struct Row {
         const char* name;
+        /// The title is "A" where none is given.
         std::string content;
         const char* key;
         /// As JSON.
         const char* value;
     };
-    constexpr auto kIcon = "<icon src=\"http://h/a.png\"/>";
+    const std::string kIcon = "<icon src=\"http://h/a.png\"/>";
     const std::vector<Row> rows{
         {"title", "<title>NOVA SERIJA, 2. dio (R)</title>", "identificator", R"("Nova Serija")"},
         {"tail of the title", "<title>Naslov, 2. dio (R)</title>", "instantDescription", "\"2. dio (R)\""},
         {"repeat by the title", "<title>Naslov (R)</title>", "previouslyShown", "true"},
-        {"repeat by an element", "<title>A</title><previously-shown/>", "previouslyShown", "true"},
-        {"no repeat", "<title>A</title>", "previouslyShown", "false"},
-        {"subtitle", "<title>A</title><sub-title>Bb</sub-title>", "subtitle", R"("Bb")"},
-        {"subtitle with a number ahead", "<title>A</title><sub-title>2. B</sub-title>", "subtitle", "null"},
-        {"pieces of a subtitle", "<title>A</title><sub-title>Bb&amp;2</sub-title>", "subtitle", R"("Bb&")"},
-        {"bracketed subtitle", "<title>A</title><sub-title>[film] Bb</sub-title>", "subtitle", R"("Bb")"},
-        {"brackets by line", "<title>A</title><sub-title>Bb [film]\n[sport]</sub-title>", "categories",
-         "129"},
-        {"category in the subtitle", "<title>A</title><sub-title>komedija</sub-title>", "instantDetails",
-         R"("komedija")"},
-        {"its subtitle", "<title>A</title><sub-title>komedija</sub-title>", "subtitle", "null"},
-        {"its categories", "<title>A</title><sub-title>komedija</sub-title>", "categories", "257"},
-        {"description", "<title>A</title><desc>a   b &amp;  c</desc>", "description", R"("a b & c.")"},
-        {"two descriptions", "<title>A</title><desc>a.</desc><desc>b.</desc>", "description", R"("a.b.")"},
-        {"cast in the description", "<title>A</title><desc>Tekst. Uloge: B, C\nRedatelj: D</desc>", "roles",
-         R"("B, C")"},
-        {"cast", "<title>A</title><actor>B</actor><actor>C</actor>", "roles", R"("B, C")"},
-        {"cast makes a film", "<title>A</title><actor>B</actor>", "categories", "1"},
-        {"director", "<title>A</title><director>B</director><director>C</director>", "directedBy",
-         R"("B, C")"},
-        {"category attribute", "<title>A</title><category desc=\"Comedy\"/>", "categories", "257"},
-        {"category texts join", "<title>A</title><category>spo</category><category>rt</category>",
-         "categories", "128"},
-        {"category of the previous programme", "<title>A</title>", "categories", "0"},
-        {"episodes", "<title>A</title><episode-num>1</episode-num><category>film</category>", "categories",
-         "2"},
-        {"series id", "<title>A</title><seriesid>1</seriesid>", "categories", "2"},
+        {"repeat by an element", "<previously-shown/>", "previouslyShown", "true"},
+        {"no repeat", "", "previouslyShown", "false"},
+        {"subtitle", "<sub-title>Bb</sub-title>", "subtitle", R"("Bb")"},
+        {"subtitle with a number ahead", "<sub-title>2. B</sub-title>", "subtitle", "null"},
+        {"pieces of a subtitle", "<sub-title>Bb&amp;2</sub-title>", "subtitle", R"("Bb&")"},
+        {"bracketed subtitle", "<sub-title>[film] Bb</sub-title>", "subtitle", R"("Bb")"},
+        {"brackets by line", "<sub-title>Bb [film]\n[sport]</sub-title>", "categories", "129"},
+        {"category in the subtitle", "<sub-title>komedija</sub-title>", "instantDetails", R"("komedija")"},
+        {"its subtitle", "<sub-title>komedija</sub-title>", "subtitle", "null"},
+        {"its categories", "<sub-title>komedija</sub-title>", "categories", "257"},
+        {"description", "<desc>a   b &amp;  c</desc>", "description", R"("a b & c.")"},
+        {"two descriptions", "<desc>a.</desc><desc>b.</desc>", "description", R"("a.b.")"},
+        {"cast in the description", "<desc>Tekst. Uloge: B, C\nRedatelj: D</desc>", "roles", R"("B, C")"},
+        {"cast", "<actor>B</actor><actor>C</actor>", "roles", R"("B, C")"},
+        {"cast makes a film", "<actor>B</actor>", "categories", "1"},
+        {"director", "<director>B</director><director>C</director>", "directedBy", R"("B, C")"},
+        {"category attribute", "<category desc=\"Comedy\"/>", "categories", "257"},
+        {"category texts join", "<category>spo</category><category>rt</category>", "categories", "128"},
+        {"category of the previous programme", "", "categories", "0"},
+        {"episodes", "<episode-num>1</episode-num><category>film</category>", "categories", "2"},
+        {"series id", "<seriesid>1</seriesid>", "categories", "2"},
         {"Romanian series", "<title>A Sezonul 2</title>", "categories", "2"},
         {"production note", "<title>A, film (SAD/VB, 1999)</title>", "categories", "2"},
         {"Documentary channel words", "<title>Discovery</title>", "categories", "4"},
-        {"icon", std::string("<title>A</title>") + kIcon, "pictures", R"(["http://h/a.png"])"},
-        {"icon without an address", std::string("<title>A</title>") + kIcon + "<icon src=\"\"/>", "pictures",
-         "null"},
-        {"an invalid icon address", std::string("<title>A</title>") + kIcon + "<icon src=\"http://h:x/\"/>",
-         "pictures", "null"},
-        {"image", "<title>A</title><image>a/b.png</image>", "pictures",
-         R"(["https://images.example/images/a/b.png"])"},
+        {"icon", kIcon, "pictures", R"(["http://h/a.png"])"},
+        {"icon without an address", kIcon + "<icon src=\"\"/>", "pictures", "null"},
+        {"an invalid icon address", kIcon + "<icon src=\"http://h:x/\"/>", "pictures", "null"},
+        {"image", "<image>a/b.png</image>", "pictures", R"(["https://images.example/images/a/b.png"])"},
     };
     const std::string before = programme(kLater, "<title>Before</title><category>film</category>");
     XMLTVOptions how = options();
     how.useImage = true;
     for (const Row& row : rows) {
-        std::vector<FeedChannelEntries> channels = read(before + programme(kLater, row.content), {}, how);
+        const char* title = row.content.starts_with("<title>") ? "" : "<title>A</title>";
+        std::vector<FeedChannelEntries> channels =
+            read(before + programme(kLater, title + row.content), {}, how);
         ASSERT_EQ(channels.size(), 1U) << row.name;
         ASSERT_EQ(channels[0].entries.size(), 2U) << row.name;
         const QJsonObject json = showJSON(ShowItem(std::move(channels[0].entries[1])));
