@@ -219,8 +219,8 @@ TEST(DecompressionTest, RecognisesSignatures) {
     EXPECT_TRUE(hasGzipSignature(gzipped("x")));
     EXPECT_TRUE(hasXzSignature(xzPacked("x")));
     EXPECT_FALSE(hasGzipSignature(xzPacked("x")) || hasXzSignature(gzipped("x")));
-    EXPECT_FALSE(hasGzipSignature("\x1f") || hasXzSignature("\xfd"
-                                                            "7zXZ"));
+    EXPECT_TRUE(hasGzipSignature("\x1f\x8b") && hasXzSignature({"\xfd\x37zXZ\0", 6}));
+    EXPECT_FALSE(hasGzipSignature("\x1f") || hasXzSignature({"\xfd\x37zXZ\0", 5}));
 }
 
 } // namespace

@@ -68,6 +68,7 @@ TEST_F(InstanceLockTest, ADeadProcessHoldsNoLock) {
     const QByteArray path = QFile::encodeName(sockets.path()) + "/instance-dead.socket";
     {
         const FileDescriptor dead = listeningSocket(path);
+        EXPECT_TRUE(writeLine(connectedSocket(path), "")) << "a line of one byte";
     }
     ASSERT_TRUE(replaceFile(folder.filePath(u"instance.lock"_s), path));
     std::unique_ptr<InstanceLock> first = start();

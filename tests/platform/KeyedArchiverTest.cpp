@@ -255,6 +255,9 @@ TEST(KeyedArchiverTest, RefusesEveryTruncationAndBitFlip) {
         ASSERT_TRUE(isRefused(damaged)) << bit;
     }
     EXPECT_TRUE(isRefused(archive + '\0'));
+    QByteArray noContent(kArchiveHeaderSize, '\0');
+    sealArchive(noContent);
+    EXPECT_EQ(archiveContent(noContent), QByteArrayView("")) << "a header is whole without content";
 }
 
 } // namespace

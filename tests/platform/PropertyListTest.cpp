@@ -102,6 +102,13 @@ QByteArray bomb(const QByteArray& head, int references, char objects) {
            number(table, 8);
 }
 
+TEST(PropertyListTest, RefusesReferencesAndOffsetsOutsideTheList) {
+    const QByteArray list = bomb("\xa1", 1, 2);
+    EXPECT_TRUE(binaryPropertyListIsBounded(list));
+    EXPECT_FALSE(binaryPropertyListIsBounded(QByteArray(list).replace(9, 1, "\2"))) << "an object too many";
+    EXPECT_FALSE(binaryPropertyListIsBounded(QByteArray(list).replace(14, 1, "\x0f"))) << "the trailer";
+}
+
 TEST(PropertyListTest, RefusesEndlessTrees) {
     const auto nested = [](int depth) {
         return xmlList(QByteArray("<array>").repeated(depth) + "<true/>" +

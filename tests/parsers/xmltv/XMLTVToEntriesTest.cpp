@@ -145,6 +145,8 @@ TEST(XMLTVToEntries, AnalysesTexts) {
         {"description", "<desc>a   b &amp;  c</desc>", "description", R"("a b & c.")"},
         {"two descriptions", "<desc>a.</desc><desc>b.</desc>", "description", R"("a.b.")"},
         {"cast in the description", "<desc>Tekst. Uloge: B, C\nRedatelj: D</desc>", "roles", R"("B, C")"},
+        {"a description alone makes no film", "<desc>a: b</desc>", "categories", "0"},
+        {"a cast label that stays makes a film", "<desc>a Uloge: </desc>", "categories", "1"},
         {"cast", "<actor>B</actor><actor>C</actor>", "roles", R"("B, C")"},
         {"cast makes a film", "<actor>B</actor>", "categories", "1"},
         {"director", "<director>B</director><director>C</director>", "directedBy", R"("B, C")"},
