@@ -16,6 +16,7 @@
 #include <atomic>
 #include <gtest/gtest.h>
 #include <thread>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -100,22 +101,17 @@ TEST_F(TVChannelsTest, AFailedWriteIsNotMirroredAndIsRetried) {
 
 TEST_F(TVChannelsTest, AnUnreadableFileIsAnEmptySelection) {
     const QByteArray whole = archivedData(QCborArray{kA.data(), QByteArray(11, 'x'), 5, kB.data()});
-    struct Row {
-        const char* name;
-        QByteArray file;
-        std::vector<ObjectId> selected;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, QByteArray, std::vector<ObjectId>> rows[] = {
         {"other values", whole, {kA, ObjectId(QByteArray(12, '\0')), kB}},
         {"truncated", whole.left(whole.size() - 3), {}},
         {"not an archive", "<plist/>", {}},
         {"empty", "", {}},
         {"not an array", archivedData(QCborValue(7)), {}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        ASSERT_TRUE(replaceFile(path(), row.file));
-        EXPECT_EQ(makeChannels().selected(), row.selected);
+    for (const auto& [name, file, selected] : rows) {
+        SCOPED_TRACE(name);
+        ASSERT_TRUE(replaceFile(path(), file));
+        EXPECT_EQ(makeChannels().selected(), selected);
     }
 }
 

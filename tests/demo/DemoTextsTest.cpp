@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -17,12 +18,7 @@ namespace guide {
 namespace {
 
 TEST(TextGrammar, NamesFileAndLineOfEveryError) {
-    struct Row {
-        const char* name;
-        QString source;
-        QString error;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, QString, QString> rows[] = {
         {"valid", u"# note\na=\n  one {b.2} {x:b} {^x.2} {#5-6} {channel} @ {a}\n\nb=\n  c/cs\n"_s, {}},
         {"unknown rule", u"a=\n  one {b}\n"_s, u"f:2: {b.1} does not exist"_s},
         {"unknown form", u"a=\n  b/c\n  d\nb=\n  {a.2}\n"_s, u"f:5: {a.2} does not exist"_s},
@@ -37,10 +33,10 @@ TEST(TextGrammar, NamesFileAndLineOfEveryError) {
         {"rule defined twice", u"a=\n  b\na=\n  c\n"_s, u"f:3: rule is defined twice"_s},
         {"rule without alternatives", u"a=\n"_s, u"rule a has no alternatives"_s},
     };
-    for (const Row& row : rows) {
+    for (const auto& [name, source, error] : rows) {
         TextGrammar grammar;
-        grammar.add(u"f"_s, row.source);
-        EXPECT_EQ(grammar.errors().value(0), row.error) << row.name;
+        grammar.add(u"f"_s, source);
+        EXPECT_EQ(grammar.errors().value(0), error) << name;
     }
 }
 

@@ -9,6 +9,7 @@
 #include <array>
 #include <gtest/gtest.h>
 #include <random>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -47,12 +48,7 @@ TEST(DecompressionTest, Gzip) {
     const QByteArray packed = gzipped(large);
     const QByteArray small = gzipped("small");
     const QByteArray chunk(0x20000, 'c');
-    struct Case {
-        const char* name;
-        QByteArray data;
-        std::optional<QByteArray> expected;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<const char*, QByteArray, std::optional<QByteArray>> cases[] = {
         {"one member", packed, large},
         {"empty content", gzipped(""), QByteArray()},
         {"exactly one chunk", gzipped(chunk), chunk},
@@ -70,9 +66,9 @@ TEST(DecompressionTest, Gzip) {
         {"no data", "", std::nullopt},
         {"missing checksum", packed.chopped(8), large},
     };
-    for (const Case& each : cases) {
-        EXPECT_EQ(dataWithCompressedData(each.data, kLimits), each.expected) << each.name;
-        EXPECT_EQ(inPieces(each.data, kLimits), each.expected) << each.name;
+    for (const auto& [name, data, expected] : cases) {
+        EXPECT_EQ(dataWithCompressedData(data, kLimits), expected) << name;
+        EXPECT_EQ(inPieces(data, kLimits), expected) << name;
     }
     const std::optional<QByteArray> part = dataWithCompressedData(packed.left(packed.size() / 2), kLimits);
     ASSERT_TRUE(part);
@@ -185,12 +181,7 @@ TEST(DecompressionTest, Xz) {
     const QByteArray large = feed(400'000);
     const QByteArray packed = xzPacked(large);
     const QByteArray bomb = xzPacked(QByteArray(400'000, 'b'));
-    struct Case {
-        const char* name;
-        QByteArray data;
-        std::optional<QByteArray> expected;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<const char*, QByteArray, std::optional<QByteArray>> cases[] = {
         {"one stream", packed, large},
         {"two streams, padded", packed + QByteArray(8, '\0') + packed, large + large},
         {"trailing garbage", packed + "garbage", large},
@@ -202,8 +193,8 @@ TEST(DecompressionTest, Xz) {
         {"not xz", large, std::nullopt},
         {"no data", "", std::nullopt},
     };
-    for (const Case& each : cases) {
-        EXPECT_EQ(dataWithXzData(each.data, kLimits), each.expected) << each.name;
+    for (const auto& [name, data, expected] : cases) {
+        EXPECT_EQ(dataWithXzData(data, kLimits), expected) << name;
     }
     // Less memory than the decoder needs, and enough for a part of the content.
     EXPECT_FALSE(dataWithXzData(packed, {1'000'000}));

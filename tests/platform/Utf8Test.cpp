@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <random>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -11,12 +12,7 @@ namespace guide {
 namespace {
 
 TEST(Utf8Test, AcceptsOnlyWellFormedBytesAtEveryOffset) {
-    struct Case {
-        const char* name;
-        QByteArray bytes;
-        bool valid;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<const char*, QByteArray, bool> cases[] = {
         {"two bytes", "\xc4\x8d", true},
         {"three bytes", "\xe2\x80\x93", true},
         {"four bytes", "\xf0\x9f\x93\xba", true},
@@ -40,16 +36,15 @@ TEST(Utf8Test, AcceptsOnlyWellFormedBytesAtEveryOffset) {
         {"interrupted by ASCII", "\xe2\x80 x", false},
         {"Latin-1", "\xe9t\xe9", false},
     };
-    for (const Case& each : cases) {
+    for (const auto& [name, bytes, valid] : cases) {
         for (const qsizetype before : {0, 1, 7, 8, 15, 16, 17, 40, 60, 61, 62, 63, 64, 127}) {
             for (const qsizetype after : {0, 1, 20, 80}) {
-                const QByteArray bytes = QByteArray(before, 'a') + each.bytes + QByteArray(after, 'z');
+                const QByteArray padded = QByteArray(before, 'a') + bytes + QByteArray(after, 'z');
                 QString text;
-                EXPECT_EQ(isValidUtf8(bytes), each.valid) << each.name << before << ' ' << after;
-                EXPECT_EQ(readUtf8(bytes, text), each.valid) << each.name << before << ' ' << after;
-                if (each.valid) {
-                    EXPECT_EQ(text, QString::fromUtf8("." + bytes).mid(1))
-                        << each.name << before << ' ' << after;
+                EXPECT_EQ(isValidUtf8(padded), valid) << name << before << ' ' << after;
+                EXPECT_EQ(readUtf8(padded, text), valid) << name << before << ' ' << after;
+                if (valid) {
+                    EXPECT_EQ(text, QString::fromUtf8("." + padded).mid(1)) << name << before << ' ' << after;
                 }
             }
         }

@@ -5,6 +5,7 @@
 #include <QList>
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -34,11 +35,7 @@ TEST(FoldTableTest, FoldsEveryCharacterToItsDecompositionWithoutMarks) {
 }
 
 TEST(FoldTableTest, FoldsTexts) {
-    const struct {
-        const char* name;
-        QString text;
-        QString folded;
-    } rows[] = {
+    const std::tuple<const char*, QString, QString> rows[] = {
         {"composed", u"ŽLUŤOUČKÝ Kůň"_s, u"zlutoucky kun"_s},
         {"decomposed", u"Z\u030Clut\u030C"_s, u"zlut"_s},
         {"letters that do not decompose", u"Đłßı"_s, u"đłßı"_s},
@@ -50,8 +47,8 @@ TEST(FoldTableTest, FoldsTexts) {
          u"e"_s + u"각"_s.normalized(QString::NormalizationForm_D) + u"😀"_s +
              u"각"_s.normalized(QString::NormalizationForm_D) + u"o𐐨e"_s},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(foldedText(row.text), row.folded) << row.name;
+    for (const auto& [name, text, folded] : rows) {
+        EXPECT_EQ(foldedText(text), folded) << name;
     }
 }
 
