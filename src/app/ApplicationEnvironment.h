@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Promotion.h"
+#include "core/ObjectId.h"
 #include "parsers/URLPlanner.h"
 #include "platform/AudioSession.h"
 #include "platform/BackgroundTasks.h"
@@ -22,6 +23,7 @@
 #include <cstddef>
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace guide {
 
@@ -49,7 +51,7 @@ struct ApplicationEnvironment {
     QString catalogueArchivePath;
     QString iconFolder;
     /// The selection for a profile that has none yet.
-    std::optional<QString> firstSelectionPath;
+    std::optional<std::vector<ObjectId>> firstSelection = {};
     /// The application's URL scheme; empty when it has none.
     QString scheme;
 

@@ -1,48 +1,50 @@
 #include "app/FirstSelection.h"
 
+#include "core/RowTally.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <algorithm>
+#include <unordered_set>
 
 namespace guide {
 
-namespace {
+using namespace Qt::StringLiterals;
 
-bool isIdentity(const QString& text) {
-    return text.size() == 24 && std::ranges::all_of(text, [](QChar c) {
-               return (c >= u'0' && c <= u'9') || (c.toLower() >= u'a' && c.toLower() <= u'f');
-           });
-}
-
-} // namespace
-
-std::optional<std::vector<ObjectId>> selectionFromFile(const QString& path) {
+std::optional<std::vector<ObjectId>> selectionFromFile(const QString& path, QString& why) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        qWarning("The selection %s cannot be read: %s", qPrintable(path), qPrintable(file.errorString()));
+        why = u"the selection %1 cannot be read: %2"_s.arg(path, file.errorString());
         return std::nullopt;
     }
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
     if (!document.isArray()) {
-        qWarning("The selection %s is not a JSON array: %s", qPrintable(path),
-                 qPrintable(error.errorString()));
+        why = u"the selection %1 is not a JSON array"_s.arg(path);
+        if (error.error != QJsonParseError::NoError) {
+            why += u": "_s + error.errorString();
+        }
         return std::nullopt;
     }
+    RowTally tally;
+    std::unordered_set<ObjectId> known;
     std::vector<ObjectId> selected;
-    for (const QJsonValue value : document.array()) {
-        const QString hex = value.toString();
-        if (!isIdentity(hex)) {
-            qWarning("The selection %s has an entry that is not 24 hexadecimal digits: \"%s\"",
-                     qPrintable(path), qPrintable(hex));
+    const QJsonArray entries = document.array();
+    for (const auto& entry : entries) {
+        tally.addRow();
+        const QString hex = entry.toString();
+        if (!ObjectId::isHex(hex)) {
+            tally.leaveOut(entry.isString() ? RowProblem::Identity : RowProblem::Type);
             continue;
         }
         const ObjectId channel = ObjectId::fromHex(hex);
-        if (std::ranges::find(selected, channel) == selected.end()) {
+        if (known.insert(channel).second) {
             selected.push_back(channel);
         }
+    }
+    if (const QString leftOut = tally.summary(u"channels"_s); !leftOut.isEmpty()) {
+        qWarning("%s: %s", qPrintable(path), qPrintable(leftOut));
     }
     return selected;
 }

@@ -1,6 +1,5 @@
 // The steps of the launch.
 
-#include "app/FirstSelection.h"
 #include "app/QuellinGuideAppDelegate.h"
 #include "app/SelectionCleanup.h"
 #include "core/CatalogueFiles.h"
@@ -13,7 +12,7 @@ namespace guide {
 
 using namespace Qt::StringLiterals;
 
-void QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBarController&)>& showWindow) {
+bool QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBarController&)>& showWindow) {
     // Does not interrupt other audio during the launch.
     m_environment.audioSession.setCategory(AudioSessionCategory::Ambient, true);
     m_environment.promotion.startMeasurementAndAds();
@@ -23,6 +22,9 @@ void QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBar
     // Before the catalogue, whose filter tests every icon.
     m_icons = std::make_unique<TVStationIcons>(m_environment.iconFolder, m_environment.device.screenScale());
     makeCatalogue();
+    if (m_catalogue.snapshot()->empty()) {
+        return false;
+    }
     makeSelection();
     // Runs after the launch, when the store exists.
     onMainQueue(&QuellinGuideAppDelegate::cleanUpSelection);
@@ -36,6 +38,7 @@ void QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBar
     setup();
     updateBadge();
     m_environment.promotion.configureConsent();
+    return true;
 }
 
 void QuellinGuideAppDelegate::makeSources() {
@@ -66,19 +69,22 @@ void QuellinGuideAppDelegate::makeSources() {
 void QuellinGuideAppDelegate::makeCatalogue() {
     const auto types =
         SupportedChannelTypes::fromFile(m_environment.folders.bundle + "/supported-channel-types.json"_L1);
-    m_catalogue.replace(CatalogueSnapshot(
-        catalogueChannels(m_environment.cataloguePath, m_environment.catalogueArchivePath, types,
-                          [this](const QString& name) { return !m_icons->iconNamed(name).isNull(); })));
+    const LoadedCatalogue loaded =
+        loadedCatalogue(m_environment.cataloguePath, m_environment.catalogueArchivePath, types,
+                        [this](const QString& name) { return !m_icons->iconNamed(name).isNull(); });
+    m_catalogueProblem = loaded.problem;
+    m_catalogue.replace(CatalogueSnapshot(loaded.channels));
 }
 
 void QuellinGuideAppDelegate::makeSelection() {
     m_channels = std::make_unique<TVChannels>(m_environment.folders, m_environment.keyValueStore,
                                               m_environment.queues, m_catalogue);
-    if (!m_environment.firstSelectionPath || !m_channels->selected().empty()) {
+    if (!m_environment.firstSelection) {
         return;
     }
-    if (auto selected = selectionFromFile(*m_environment.firstSelectionPath)) {
-        m_channels->setSelected(*std::move(selected));
+    m_firstSelectionIgnored = !m_channels->selected().empty();
+    if (!m_firstSelectionIgnored) {
+        m_channels->setSelected(*m_environment.firstSelection);
     }
 }
 

@@ -3,7 +3,6 @@
 #include "screens/kit/TableViewController.h"
 
 #include <QCoreApplication>
-#include <QDir>
 
 #include <algorithm>
 #include <utility>
@@ -35,11 +34,6 @@ PictureTour::PictureTour(TabBarController& tabs, GuideWindow& window, QString fo
     , m_done(std::move(done)) {}
 
 void PictureTour::start() {
-    if (!QDir().mkpath(m_folder)) {
-        qWarning("The folder %s cannot be created", qPrintable(m_folder));
-        m_done(false);
-        return;
-    }
     m_timer.callOnTimeout([this] { step(); });
     m_timer.start(kPollInterval);
 }

@@ -15,7 +15,8 @@ namespace guide {
 /// and the schedule of the first channel. Main thread.
 class PictureTour {
   public:
-    /// File names start with `prefix`. `done` is called once, with whether every picture was written.
+    /// The folder must exist; file names start with `prefix`. `done` is called once, with whether every
+    /// picture was written.
     PictureTour(TabBarController& tabs, GuideWindow& window, QString folder, QString prefix,
                 std::function<void(bool complete)> done);
 

@@ -44,8 +44,14 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     ~QuellinGuideAppDelegate() override;
 
     /// Runs the steps between the start of the process and the first frame. Calls `showWindow` when the
-    /// screens can be shown.
-    void didFinishLaunching(const std::function<void(TabBarController&)>& showWindow);
+    /// screens can be shown. False, before anything is written, when there is no channel to show.
+    bool didFinishLaunching(const std::function<void(TabBarController&)>& showWindow);
+
+    /// One line on what of the catalogue cannot be used; empty when all of it can.
+    const QString& catalogueProblem() const { return m_catalogueProblem; }
+
+    /// Whether the profile had a selection, so that the first selection was not used.
+    bool firstSelectionIgnored() const { return m_firstSelectionIgnored; }
 
     TabBarController& tabBarController() { return *m_tabBarController; }
     /// Any thread.
@@ -112,6 +118,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     bool m_showBgImages = true;
     bool m_colorizedShows = false;
     bool m_startTabChosen = false;
+    bool m_firstSelectionIgnored = false;
     /// Read by checks and queries on their own queues.
     std::atomic<int> m_showCount{4};
 
@@ -133,6 +140,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
 
     std::unique_ptr<TVStationIcons> m_icons;
     Catalogue m_catalogue;
+    QString m_catalogueProblem;
     std::unique_ptr<TVChannels> m_channels;
     std::unique_ptr<TVListings> m_listings;
     std::unique_ptr<ListDriver> m_listDriver;

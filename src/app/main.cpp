@@ -41,34 +41,47 @@ constexpr std::chrono::seconds kTimeToEnd{10};
 constexpr std::size_t kMostResponseCache = std::size_t(256) << 20;
 constexpr auto kScheme = "quellin-guide"_L1;
 
-int refuse(const char* why) {
-    std::fprintf(stderr, "quellin-guide: %s\n", why);
+void say(const QString& line) {
+    std::fprintf(stderr, "quellin-guide: %s\n", qPrintable(line));
+}
+
+int refuse(const QString& why) {
+    say(why);
     return 1;
 }
 
 int run(LaunchOptions options) {
+    if (options.screenshots && !preparePictureFolder(*options.screenshots)) {
+        return refuse(u"no pictures can be saved in %1"_s.arg(*options.screenshots));
+    }
     // Options that only try something out get a profile that is deleted at the end.
     std::optional<QTemporaryDir> trial;
     if (!options.profile && options.usesSeparateProfile()) {
         trial.emplace();
         if (!trial->isValid()) {
-            return refuse("a temporary profile cannot be created");
+            return refuse(u"a temporary profile cannot be created"_s);
         }
         options.profile = trial->path();
     }
     const auto folders = linuxFolders({options.profile.value_or(QString()), {}});
     if (!folders) {
-        return refuse("the folders of the profile cannot be written");
+        return refuse(u"the folders of the profile cannot be written"_s);
     }
     if (folders->bundle.isEmpty()) {
-        return refuse("the data files of the program are missing");
+        return refuse(u"the data files of the program are missing"_s);
     }
-    InstanceLock instance(folders->documents, folders->runtime, options.url.value_or(QString()).toUtf8());
+    // A guide that already runs can show its window for this one, but not save its pictures.
+    std::optional<QByteArray> request;
+    if (!options.screenshots) {
+        request = options.url.value_or(QString()).toUtf8();
+    }
+    InstanceLock instance(folders->documents, folders->runtime, request);
     if (instance.outcome() == InstanceLock::Outcome::HandedOver) {
         return 0;
     }
     if (instance.outcome() == InstanceLock::Outcome::Unavailable) {
-        return refuse("another guide uses these folders and does not answer");
+        return refuse(options.screenshots ? u"another guide uses this profile"_s
+                                          : u"another guide uses this profile and does not answer"_s);
     }
     for (const QString& folder : {folders->caches, folders->documents, folders->keyValueStore}) {
         removeStaleReplacements(folder);
@@ -82,15 +95,16 @@ int run(LaunchOptions options) {
     if (options.demo) {
         demo = DemoEnvironment::create(*options.profile + "/demo"_L1, folders->bundle + "/demo"_L1, clock);
         if (!demo) {
-            return refuse("the demo cannot be started");
+            return refuse(u"the demo cannot be started"_s);
         }
         options.catalogue = demo->cataloguePath();
         options.hosts = demo->hostsPath();
         options.select = demo->selectionPath();
     }
-    const auto files = launchFiles(options, *folders);
+    QString why;
+    const auto files = launchFiles(options, *folders, why);
     if (!files) {
-        return refuse("the host table cannot be read");
+        return refuse(why);
     }
 
     EventLoopQueues queues;
@@ -127,7 +141,7 @@ int run(LaunchOptions options) {
         .cataloguePath = files->catalogue,
         .catalogueArchivePath = files->catalogueArchive,
         .iconFolder = files->icons,
-        .firstSelectionPath = files->firstSelection,
+        .firstSelection = files->firstSelection,
         .scheme = kScheme,
         .networkActivityIndicator = {},
         .applicationIconBadgeNumber = {},
@@ -136,7 +150,7 @@ int run(LaunchOptions options) {
 
     installTranslations(device.locale());
     std::unique_ptr<GuideWindow> window;
-    delegate.didFinishLaunching([&](TabBarController& tabs) {
+    const bool launched = delegate.didFinishLaunching([&](TabBarController& tabs) {
         window = std::make_unique<GuideWindow>(tabs, GuideWindowOptions{
                                                          .form = device.userInterfaceIdiom(),
                                                          .scheme = {},
@@ -158,8 +172,20 @@ int run(LaunchOptions options) {
                                                          .closed = [] { QCoreApplication::quit(); },
                                                      });
     });
+    if (!launched) {
+        return refuse(options.catalogue
+                          ? delegate.catalogueProblem()
+                          : delegate.catalogueProblem() +
+                                u"; name a catalogue with --catalogue FILE (see README.md), or try --demo"_s);
+    }
+    if (!delegate.catalogueProblem().isEmpty()) {
+        say(delegate.catalogueProblem());
+    }
+    if (options.select && !options.demo && delegate.firstSelectionIgnored()) {
+        say(u"--select %1 is ignored: the profile has a selection already"_s.arg(*options.select));
+    }
     if (!window->loaded()) {
-        return refuse("the screens cannot be drawn");
+        return refuse(u"the screens cannot be drawn"_s);
     }
     const std::unique_ptr<DesktopMotion> desktopMotion =
         options.screenshots ? nullptr : DesktopMotion::ofSession();

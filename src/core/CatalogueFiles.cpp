@@ -9,6 +9,9 @@
 #include <QDebug>
 #include <QFile>
 
+#include <algorithm>
+#include <array>
+
 namespace guide {
 
 using namespace Qt::StringLiterals;
@@ -80,58 +83,91 @@ std::optional<std::vector<CatalogueChannel>> channelsOfArchive(const QString& pa
     return channels;
 }
 
+bool isCatalogueKey(const QString& key) {
+    static constexpr std::array kKeys{"Location"_L1, "Title"_L1, "Language"_L1, "Icon"_L1, "Stream"_L1};
+    return std::ranges::find(kKeys, key) != kKeys.end() ||
+           (key.size() == 9 && key.startsWith("Location"_L1) && key[8] >= u'1' && key[8] <= u'7');
+}
+
+std::optional<CatalogueRow> suppliedRow(const QVariant& channel, RowTally& tally) {
+    if (channel.typeId() != QMetaType::QVariantMap) {
+        tally.leaveOut(RowProblem::Type);
+        return std::nullopt;
+    }
+    bool hasOtherType = false;
+    ChannelDictionary values;
+    const QVariantMap supplied = channel.toMap();
+    for (const auto& [key, value] : supplied.asKeyValueRange()) {
+        if (value.typeId() == QMetaType::QString) {
+            values.insert(key, value.toString());
+        } else {
+            hasOtherType = hasOtherType || isCatalogueKey(key);
+        }
+    }
+    if (!hasOtherType) {
+        return catalogueRow(std::move(values), &tally);
+    }
+    std::optional<CatalogueRow> row = catalogueRow(std::move(values));
+    if (row) {
+        tally.accept(RowProblem::Type);
+    } else {
+        tally.leaveOut(RowProblem::Type);
+    }
+    return row;
+}
+
 } // namespace
 
 QString catalogueArchivePath(const QString& cachesFolder) {
     return cachesFolder + u"/5b65e9d23afbe36684bdfe2c.plist"_s;
 }
 
-std::optional<std::vector<CatalogueRow>> rowsOfPropertyList(const QString& path) {
+std::optional<std::vector<CatalogueRow>> rowsOfPropertyList(const QString& path, RowTally* tally) {
     const std::optional<QByteArray> content = contentOf(path);
     const std::optional<QVariant> root = content ? propertyListFromData(*content) : std::nullopt;
     const QVariant channels = root ? root->toMap().value(channelsKey()) : QVariant();
     if (channels.typeId() != QMetaType::QVariantList) {
         return std::nullopt;
     }
+    RowTally ignored;
+    RowTally& counts = tally ? *tally : ignored;
     std::vector<CatalogueRow> rows;
     const QVariantList list = channels.toList();
     for (const QVariant& channel : list) {
-        const QVariantMap supplied = channel.toMap();
-        ChannelDictionary values;
-        for (const auto& [key, value] : supplied.asKeyValueRange()) {
-            if (value.typeId() == QMetaType::QString) {
-                values.insert(key, value.toString());
-            }
-        }
-        if (std::optional<CatalogueRow> row = catalogueRow(std::move(values))) {
+        counts.addRow();
+        if (std::optional<CatalogueRow> row = suppliedRow(channel, counts)) {
             rows.push_back(*std::move(row));
         }
     }
     return rows;
 }
 
-std::vector<CatalogueChannel> catalogueChannels(const QString& propertyListPath, const QString& archivePath,
-                                                const SupportedChannelTypes& types, const HasIcon& hasIcon) {
+LoadedCatalogue loadedCatalogue(const QString& propertyListPath, const QString& archivePath,
+                                const SupportedChannelTypes& types, const HasIcon& hasIcon) {
     const std::optional<Moment> archived = fileModificationDate(archivePath);
     const std::optional<Moment> supplied = fileModificationDate(propertyListPath);
     if (archived && supplied && *archived > *supplied) {
         if (std::optional<std::vector<CatalogueChannel>> channels = channelsOfArchive(archivePath)) {
-            return *std::move(channels);
+            return {*std::move(channels)};
         }
         qWarning().noquote() << "Catalogue: cannot read" << archivePath;
     }
-    if (std::optional<std::vector<CatalogueRow>> all = rowsOfPropertyList(propertyListPath)) {
-        const std::vector<CatalogueRow> rows = filteredChannels(*std::move(all), types, hasIcon);
+    RowTally tally;
+    if (std::optional<std::vector<CatalogueRow>> all = rowsOfPropertyList(propertyListPath, &tally)) {
+        const std::vector<CatalogueRow> rows = filteredChannels(*std::move(all), types, hasIcon, &tally);
         // An empty result is not archived: when no icon was found at all, the next start tries again.
         if (!rows.empty() &&
             !replaceFile(archivePath, archivedData(archiveRoot(rows)), dateOfArchive(supplied))) {
             qWarning().noquote() << "Catalogue: cannot write" << archivePath;
         }
-        return channelsOf(rows);
+        const QString leftOut = tally.rows() == 0 ? u"no channels"_s : tally.summary(u"channels"_s);
+        return {channelsOf(rows), leftOut.isEmpty() ? QString() : propertyListPath + u": "_s + leftOut};
     }
-    qWarning().noquote() << "Catalogue: cannot read" << propertyListPath;
+    const QString problem = supplied ? u"%1 is not a catalogue: a property list with an array \"Channels\""_s
+                                     : u"the catalogue %1 cannot be found"_s;
     // An old catalogue is better than an empty one, which would cost the user the selection.
-    return channelsOfArchive(archivePath).value_or(std::vector<CatalogueChannel>());
+    return {channelsOfArchive(archivePath).value_or(std::vector<CatalogueChannel>()),
+            problem.arg(propertyListPath)};
 }
 
 } // namespace guide

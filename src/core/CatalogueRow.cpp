@@ -22,15 +22,26 @@ QStringList sourceIdsOf(const ChannelDictionary& values) {
 
 } // namespace
 
-std::optional<CatalogueRow> catalogueRow(ChannelDictionary values) {
+std::optional<CatalogueRow> catalogueRow(ChannelDictionary values, RowTally* tally) {
+    const auto leftOut = [tally](RowProblem problem) {
+        if (tally) {
+            tally->leaveOut(problem);
+        }
+        return std::nullopt;
+    };
     const QString icon = values.value(u"Icon"_s);
     const qsizetype slash = icon.indexOf(u'/');
     const QString title = values.value(u"Title"_s);
     const auto location = values.constFind(u"Location"_s);
     const auto language = values.constFind(u"Language"_s);
-    if (location == values.cend() || language == values.cend() || title.isEmpty() || slash <= 0 ||
-        slash == icon.size() - 1) {
-        return std::nullopt;
+    if (location == values.cend() || language == values.cend() || title.isEmpty() || icon.isEmpty()) {
+        return leftOut(RowProblem::Incomplete);
+    }
+    if (slash <= 0 || slash == icon.size() - 1) {
+        return leftOut(RowProblem::Icon);
+    }
+    if (tally && !ObjectId::isHex(*location)) {
+        tally->accept(RowProblem::Identity);
     }
     const auto stream = values.constFind(u"Stream"_s);
     CatalogueChannel channel{

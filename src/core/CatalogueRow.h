@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/CatalogueChannel.h"
+#include "core/RowTally.h"
 
 #include <QMap>
 #include <QString>
@@ -20,7 +21,8 @@ struct CatalogueRow {
 };
 
 /// Nothing when location, title, language or icon is missing, the title is empty, or the icon is not a region
-/// and a name with a slash between them. The sources end at the first missing number.
-std::optional<CatalogueRow> catalogueRow(ChannelDictionary values);
+/// and a name with a slash between them; the tally then counts the row as left out. The sources end at the
+/// first missing number.
+std::optional<CatalogueRow> catalogueRow(ChannelDictionary values, RowTally* tally = nullptr);
 
 } // namespace guide

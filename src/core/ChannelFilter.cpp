@@ -7,8 +7,14 @@
 namespace guide {
 
 std::vector<CatalogueRow> filteredChannels(std::vector<CatalogueRow> rows, const SupportedChannelTypes& types,
-                                           const HasIcon& hasIcon) {
+                                           const HasIcon& hasIcon, RowTally* tally) {
+    const auto leaveOut = [tally](RowProblem problem) {
+        if (tally) {
+            tally->leaveOut(problem);
+        }
+    };
     if (types.pairs().empty()) {
+        std::ranges::for_each(rows, [&](const CatalogueRow&) { leaveOut(RowProblem::Language); });
         return {};
     }
     const SupportedChannelTypesPair& home = types.pairs().front();
@@ -21,6 +27,7 @@ std::vector<CatalogueRow> filteredChannels(std::vector<CatalogueRow> rows, const
         const CatalogueChannel& channel = row.channel;
         const SupportedChannelTypesPair pair{channel.language, channel.region};
         if (std::ranges::find(types.pairs(), pair) == types.pairs().end()) {
+            leaveOut(RowProblem::Language);
             continue;
         }
         const auto earlier = seen.find(channel.id);
@@ -35,6 +42,7 @@ std::vector<CatalogueRow> filteredChannels(std::vector<CatalogueRow> rows, const
         }
         // Tested last because it loads an image.
         if (!hasIcon(channel.icon)) {
+            leaveOut(RowProblem::Icon);
             continue;
         }
         if (earlier != seen.end()) {

@@ -9,6 +9,8 @@ namespace {
 constexpr ObjectId::Bytes kPopular{0x59, 0xe1, 0xd5, 0xed, 0x80, 0xbc, 0xfc, 0xbc, 0x75, 0xd8, 0x9f, 0xae};
 constexpr ObjectId::Bytes kAll{0x59, 0xe1, 0xd5, 0xf2, 0x80, 0xbc, 0xfc, 0xbc, 0x75, 0xd8, 0x9f, 0xaf};
 
+constexpr qsizetype kDigits = 24;
+
 int hexDigit(QChar character) {
     const char16_t c = character.unicode();
     if (c >= u'0' && c <= u'9') {
@@ -43,8 +45,11 @@ ObjectId::ObjectId(QByteArrayView data) {
     }
 }
 
+bool ObjectId::isHex(const QString& text) {
+    return text.size() == kDigits && std::ranges::all_of(text, [](QChar c) { return hexDigit(c) >= 0; });
+}
+
 ObjectId ObjectId::fromHex(const QString& hex) {
-    constexpr qsizetype kDigits = 24;
     Bytes bytes{};
     if (hex.size() == kDigits) {
         auto byte = bytes.begin();

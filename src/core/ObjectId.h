@@ -23,6 +23,8 @@ class ObjectId {
     /// and stops at the first other character ("1g" is 1); a pair that does not scan is 0, any other length
     /// is 12 zero bytes.
     static ObjectId fromHex(const QString& hex);
+    /// Whether the text is exactly 24 hexadecimal digits, in either case.
+    static bool isHex(const QString& text);
 
     /// The pseudo-channel of the most watched shows, and that of all shows of all channels.
     static const ObjectId& popular();

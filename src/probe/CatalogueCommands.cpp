@@ -18,7 +18,8 @@ namespace {
 
 Outcome filter(Context& context) {
     const QString& path = context.arguments.operands[0];
-    auto rows = rowsOfPropertyList(path);
+    RowTally tally;
+    auto rows = rowsOfPropertyList(path, &tally);
     if (!rows) {
         return Failure{u"%1 cannot be read as a catalogue"_s.arg(path)};
     }
@@ -34,12 +35,15 @@ Outcome filter(Context& context) {
     const auto types =
         SupportedChannelTypes::fromFile(context.bundleFolder + "/supported-channel-types.json"_L1);
     QJsonArray list;
-    for (const CatalogueRow& kept : filteredChannels(*std::move(rows), types, hasIcon)) {
+    for (const CatalogueRow& kept : filteredChannels(*std::move(rows), types, hasIcon, &tally)) {
         QJsonObject row;
         for (const auto& [key, value] : kept.values.asKeyValueRange()) {
             row.insert(key, jsonText(value));
         }
         list.append(row);
+    }
+    if (const QString leftOut = tally.summary(u"channels"_s); !leftOut.isEmpty()) {
+        qWarning("%s", qUtf8Printable(leftOut));
     }
     return QJsonObject{{u"channels"_s, list}};
 }

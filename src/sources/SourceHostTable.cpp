@@ -42,15 +42,19 @@ struct SourceHostTable::ReportedKeys {
 SourceHostTable::SourceHostTable()
     : m_reported(std::make_shared<ReportedKeys>()) {}
 
-std::optional<SourceHostTable> SourceHostTable::fromJson(const QByteArray& json) {
+std::optional<SourceHostTable> SourceHostTable::fromJson(const QByteArray& json, RowTally* tally) {
     const QJsonDocument document = QJsonDocument::fromJson(json);
     if (!document.isObject()) {
         return std::nullopt;
     }
+    RowTally ignored;
+    RowTally& counts = tally ? *tally : ignored;
     SourceHostTable table;
     const QJsonObject object = document.object();
     for (auto entry = object.begin(); entry != object.end(); ++entry) {
+        counts.addRow();
         if (!entry->isString()) {
+            counts.leaveOut(RowProblem::Type);
             continue;
         }
         QString value = entry->toString().trimmed();
@@ -64,12 +68,15 @@ std::optional<SourceHostTable> SourceHostTable::fromJson(const QByteArray& json)
 
 std::optional<SourceHostTable> SourceHostTable::fromFile(const QString& path) {
     QFile file(path);
+    RowTally tally;
     std::optional<SourceHostTable> table;
     if (file.open(QIODevice::ReadOnly)) {
-        table = fromJson(file.readAll());
+        table = fromJson(file.readAll(), &tally);
     }
     if (!table) {
         qWarning().noquote() << "SourceHostTable: cannot read" << path;
+    } else if (const QString leftOut = tally.summary(u"hosts"_s); !leftOut.isEmpty()) {
+        qWarning().noquote().nospace() << path << ": " << leftOut;
     }
     return table;
 }

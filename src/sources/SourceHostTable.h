@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/RowTally.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QString>
@@ -16,9 +18,11 @@ class SourceHostTable {
   public:
     SourceHostTable();
 
-    /// A JSON object of strings; other values are left out. Nothing when the text is not a JSON object.
-    static std::optional<SourceHostTable> fromJson(const QByteArray& json);
-    /// As above; nothing, with a log line, when the file cannot be read.
+    /// A JSON object of strings; other values are left out and counted. Nothing when the text is not a JSON
+    /// object.
+    static std::optional<SourceHostTable> fromJson(const QByteArray& json, RowTally* tally = nullptr);
+    /// As above; nothing when the file cannot be read. Logs one line when it cannot be read or has values
+    /// that are left out.
     static std::optional<SourceHostTable> fromFile(const QString& path);
     /// "hosts.json" of the program's folder, overridden key by key by "hosts.json" of the configuration
     /// folder.

@@ -147,7 +147,7 @@ TEST(Guide, DeselectsAChannelThatLeftTheCatalogue) {
 
 TEST(Guide, WithoutASelectionOpensOnTheListOfChannels) {
     GuideWorld world;
-    QFile::remove(world.folders.caches + u"/../selection.json"_s);
+    world.firstSelection.clear();
     world.start();
     const auto& tabs = world.guide->tabBarController().tabs();
     EXPECT_EQ(world.guide->tabBarController().selectedIndex(), int(tabs.size()) - 1);

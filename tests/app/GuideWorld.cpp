@@ -68,10 +68,9 @@ void GuideWorld::fillProfile(const std::vector<QStringList>& sources) {
     icon.save(root + u"/icons/plain.png"_s);
 
     QString channels;
-    QStringList selection;
     for (std::size_t i = 0; i < sources.size(); ++i) {
         const QString identity = channel(int(i) + 1).hex();
-        selection.append(u"\"%1\""_s.arg(identity));
+        firstSelection.push_back(channel(int(i) + 1));
         channels += u"<dict><key>Location</key><string>%1</string><key>Title</key><string>Channel %2</string>"
                     "<key>Language</key><string>en</string><key>Icon</key><string>Other/plain</string>"_s.arg(
                         identity, QString::number(i + 1));
@@ -86,7 +85,6 @@ void GuideWorld::fillProfile(const std::vector<QStringList>& sources) {
         u"<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>Channels</key><array>%1</array></dict></plist>"_s
             .arg(channels)
             .toUtf8());
-    replaceFile(root + u"/selection.json"_s, u"[%1]"_s.arg(selection.join(u',')).toUtf8());
 }
 
 GuideWorld::~GuideWorld() {
@@ -141,7 +139,7 @@ void GuideWorld::start() {
         .cataloguePath = root + u"/Data.plist"_s,
         .catalogueArchivePath = catalogueArchivePath(folders.caches),
         .iconFolder = root + u"/icons"_s,
-        .firstSelectionPath = root + u"/selection.json"_s,
+        .firstSelection = firstSelection,
         .scheme = u"guide"_s,
         .longestPause = 5ms,
         .networkActivityIndicator = {},

@@ -104,6 +104,8 @@ class GuideWorld {
     std::unique_ptr<QuellinGuideAppDelegate> guide;
     Folders folders;
     SourceHostTable hosts;
+    /// The selection for the first start: every channel, in order.
+    std::vector<ObjectId> firstSelection;
     /// When set before start(), replaces the guide's queues.
     std::function<DispatchQueues&(DispatchQueues& queues)> adaptQueues = {};
     /// Paths that will not answer.

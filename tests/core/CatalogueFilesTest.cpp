@@ -31,10 +31,11 @@ QByteArray propertyList(const QByteArray& title) {
 class CatalogueFilesTest : public testing::Test {
   protected:
     QString load() {
-        const auto channels = catalogueChannels(supplied, archive, types, [this](const QString&) {
+        const auto [channels, why] = loadedCatalogue(supplied, archive, types, [this](const QString& name) {
             ++iconsLooked;
-            return true;
+            return name != u"absent"_s;
         });
+        problem = why;
         return channels.empty() ? u"nothing"_s : channels.front().title;
     }
     void supply(const QByteArray& title, Moment modified) {
@@ -46,6 +47,7 @@ class CatalogueFilesTest : public testing::Test {
     QString archive = catalogueArchivePath(folder.path());
     SupportedChannelTypes types{{{u"cs"_s, u"Czech"_s}}};
     int iconsLooked = 0;
+    QString problem;
 };
 
 TEST_F(CatalogueFilesTest, UsesTheArchiveWhileItIsNewer) {
@@ -77,10 +79,12 @@ TEST_F(CatalogueFilesTest, ADamagedArchiveIsRebuilt) {
 
 TEST_F(CatalogueFilesTest, AnUnreadableListFallsBackToAnOldArchive) {
     EXPECT_EQ(load(), u"nothing"_s);
+    EXPECT_TRUE(problem.contains(supplied));
     supply("Jedna", kSupplied);
     load();
     ASSERT_TRUE(replaceFile(supplied, "no property list", *fileModificationDate(archive) + 1s));
     EXPECT_EQ(load(), u"Jedna"_s);
+    EXPECT_TRUE(problem.contains(u"is not a catalogue"_s)) << problem.toStdString();
     ASSERT_TRUE(QFile::remove(supplied));
     EXPECT_EQ(load(), u"Jedna"_s);
 }
@@ -90,6 +94,44 @@ TEST_F(CatalogueFilesTest, AnEmptyCatalogueIsNotArchived) {
     EXPECT_EQ(load(), u"nothing"_s);
     supply("Jedna", kSupplied);
     EXPECT_EQ(load(), u"Jedna"_s);
+}
+
+TEST_F(CatalogueFilesTest, TellsWhyChannelsAreMissing) {
+    const QByteArray id = kId.toLatin1();
+    const auto row = [](const QByteArray& location, const QByteArray& language, const QByteArray& icon,
+                        const QByteArray& more = {}) {
+        return "<dict><key>Location</key><string>" + location +
+               "</string><key>Title</key><string>A</string>" + "<key>Language</key><string>" + language +
+               "</string><key>Icon</key><string>" + icon + "</string>" + more + "</dict>";
+    };
+    const struct {
+        const char* name;
+        QByteArray rows;
+        const char* problem;
+    } cases[] = {
+        {"all is used", row(id, "cs", "Czech/a", "<key>Number</key><integer>5</integer>"), ""},
+        {"empty", "", "no channels"},
+        {"no dictionaries", "<string>a</string><integer>1</integer>", "2 of 2 channels left out: 2 type"},
+        {"a required value of another type",
+         row(id, "cs", "Czech/a") + "<dict><key>Location</key><integer>1</integer></dict>",
+         "1 of 2 channels left out: 1 type"},
+        {"a source of another type", row(id, "cs", "Czech/a", "<key>Location1</key><integer>5</integer>"),
+         "1 of 1 channels doubtful: 1 type"},
+        {"no title", "<dict><key>Location</key><string>a</string></dict>",
+         "1 of 1 channels left out: 1 incomplete"},
+        {"other languages, absent icons and a bad identity",
+         row(id, "de", "Czech/a") + row(id, "cs", "czech/a") + row(id, "cs", "Czech/absent") +
+             row("one", "cs", "Czech/a") + row(id, "en", "Czech/a"),
+         "4 of 5 channels left out: 3 language, 1 icon; 1 of 5 channels doubtful: 1 identity"},
+    };
+    for (const auto& each : cases) {
+        ASSERT_TRUE(replaceFile(supplied, R"(<plist version="1.0"><dict><key>Channels</key><array>)" +
+                                              each.rows + "</array></dict></plist>"));
+        QFile::remove(archive);
+        load();
+        EXPECT_EQ(problem, each.problem[0] ? supplied + u": "_s + QLatin1StringView(each.problem) : QString())
+            << each.name;
+    }
 }
 
 TEST_F(CatalogueFilesTest, TheArchiveHoldsTheRowsAsSupplied) {

@@ -29,9 +29,12 @@ class CountedWarnings {
 };
 
 TEST(SourceHostTableTest, KeepsTheSchemeOrAddsOne) {
+    RowTally tally;
     const SourceHostTable hosts = *SourceHostTable::fromJson(R"({
         "bare": "a.example", "port": "127.0.0.1:8080/", "http": "http://a.example", "path": " https://a.example/x/ ",
-        "letters": "httpbin.example", "number": 5, "empty": "", "scheme": "http://"})");
+        "letters": "httpbin.example", "number": 5, "empty": "", "scheme": "http://"})",
+                                                             &tally);
+    EXPECT_EQ(tally.summary(u"hosts"_s), u"1 of 8 hosts left out: 1 type"_s);
     struct Row {
         QString key;
         std::optional<QString> base;

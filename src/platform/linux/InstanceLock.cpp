@@ -39,7 +39,7 @@ struct InstanceLock::Listener {
 };
 
 InstanceLock::InstanceLock(const QString& lockFolder, const QString& socketFolder,
-                           const QByteArray& request) {
+                           const std::optional<QByteArray>& request) {
     const QByteArray folder = QFile::encodeName(lockFolder);
     m_socketPath = QFile::encodeName(socketFolder) + '/' + socketName(folder);
     m_lock =
@@ -54,9 +54,12 @@ InstanceLock::InstanceLock(const QString& lockFolder, const QString& socketFolde
             openSocket();
             return;
         }
+        if (!request) {
+            return;
+        }
         const auto left =
             std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
-        if (handOver(request, left)) {
+        if (handOver(*request, left)) {
             m_outcome = Outcome::HandedOver;
             return;
         }

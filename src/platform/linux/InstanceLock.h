@@ -9,6 +9,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <thread>
 
 namespace guide {
@@ -30,9 +31,10 @@ class InstanceLock {
     };
 
     /// Creates the lock in `lockFolder` and the socket in `socketFolder`. If another process holds the lock,
-    /// sends it `request` (one line, at most 64 KB). Waits a few seconds for a process that is starting or
-    /// ending.
-    InstanceLock(const QString& lockFolder, const QString& socketFolder, const QByteArray& request);
+    /// sends it `request` (one line, at most 64 KB), waiting a few seconds for a process that is starting or
+    /// ending. Without a request it neither disturbs the other process nor waits: the outcome is Unavailable.
+    InstanceLock(const QString& lockFolder, const QString& socketFolder,
+                 const std::optional<QByteArray>& request);
     InstanceLock(const InstanceLock&) = delete;
     InstanceLock& operator=(const InstanceLock&) = delete;
     ~InstanceLock();
