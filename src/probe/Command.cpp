@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 const std::vector<Command>& allCommands() {
     static const std::vector<Command> kCommands = [] {
         std::vector<Command> all;
-        for (auto&& some :
-             {sourceCommands(), listingsCommands(), detailCommands(), textCommands(), catalogueCommands()}) {
+        for (auto&& some : {sourceCommands(), listingsCommands(), detailCommands(), textCommands(),
+                            catalogueCommands(), profileCommands()}) {
             all.insert(all.end(), some.begin(), some.end());
         }
         return all;

@@ -54,6 +54,7 @@ std::vector<Command> textCommands();
 std::vector<Command> catalogueCommands();
 std::vector<Command> listingsCommands();
 std::vector<Command> detailCommands();
+std::vector<Command> profileCommands();
 
 /// "2026-11-21T10:00:00Z", with milliseconds only if there are any; null when unset.
 QJsonValue jsonMoment(const std::optional<Moment>& moment);

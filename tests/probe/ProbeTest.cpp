@@ -1,5 +1,8 @@
+#include "platform/archive/Archive.h"
 #include "probe/RunProbe.h"
+#include "store/ShowCoding.h"
 
+#include <QCborArray>
 #include <QFileInfo>
 #include <QJsonArray>
 
@@ -138,6 +141,19 @@ TEST(Probe, FiltersACatalogueByAvailableIcons) {
     };
     EXPECT_EQ(locations(probe({u"filter"_s, catalogue})), u"1234"_s);
     EXPECT_EQ(locations(probe({u"filter"_s, catalogue, u"--icons"_s, icons})), u"123"_s);
+}
+
+TEST(Probe, TellsDamagedArchivesFromWholeOnes) {
+    const test::ProbeFiles files;
+    const QByteArray values = archivedData(QCborArray{1, 2, 3});
+    const QString whole = files.write(u"whole"_s, values);
+    const QString list = files.write(u"list"_s, archivedShows({}));
+    const QString cut = files.write(u"cut"_s, values.chopped(1));
+    const QJsonArray found = probe({u"archives"_s, whole, list, cut}).json[u"archives"_s].toArray();
+    EXPECT_EQ(found[0][u"content"_s], u"values"_s);
+    EXPECT_EQ(found[0][u"count"_s], 3);
+    EXPECT_EQ(found[1][u"content"_s], u"shows"_s);
+    EXPECT_TRUE(found[2][u"content"_s].isNull());
 }
 
 } // namespace
