@@ -5,14 +5,60 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <cerrno>
 #include <csignal>
 #include <gtest/gtest.h>
+#include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Receives the calls that matter after a power failure: "d"ata of a file, the file "s"ystem,
+/// "r"ename, a "f"older. May be null.
+std::string* fileSystemCalls = nullptr;
+
+void note(char call) {
+    if (fileSystemCalls != nullptr) {
+        fileSystemCalls->push_back(call);
+    }
+}
+bool failFlush = false;
+
+int flushResult(long result) {
+    if (failFlush) {
+        errno = EIO;
+        return -1;
+    }
+    return int(result);
+}
+
+} // namespace
+
+// These take the place of the C library's functions in this program.
+extern "C" {
+int fdatasync(int file) {
+    note('d');
+    return flushResult(::syscall(SYS_fdatasync, file));
+}
+int syncfs(int file) noexcept {
+    note('s');
+    return flushResult(::syscall(SYS_syncfs, file));
+}
+int fsync(int file) {
+    note('f');
+    return int(::syscall(SYS_fsync, file));
+}
+int renameat(int from, const char* name, int to, const char* newName) noexcept {
+    note('r');
+    return int(::syscall(SYS_renameat2, from, name, to, newName, 0));
+}
+}
 
 namespace guide::test {
 namespace {
@@ -50,22 +96,34 @@ TEST(FileReplacementTest, KeepsThePermissionsOfTheOldFile) {
     EXPECT_EQ(mode(), 0644U);
 }
 
+/// Limits the size of files while it lives: a write fails half-way, as on a full disk.
+class FileSizeLimit {
+  public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit tight{bytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &tight);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+    ~FileSizeLimit() {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_ignored);
+    }
+
+  private:
+    const sighandler_t m_ignored = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit m_before{};
+};
+
 TEST(FileReplacementTest, AFailedWriteLeavesOnlyTheOldFile) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"file"_s);
     ASSERT_TRUE(replaceFile(path, "old"));
-
-    // A file size limit makes a write fail half-way, like a full disk.
-    const auto ignored = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    const rlimit tight{4096, before.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &tight), 0);
-    const bool replaced = replaceFile(path, QByteArray(10'000, 'n'));
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, ignored);
-
-    EXPECT_FALSE(replaced);
+    {
+        const FileSizeLimit limit(4096);
+        EXPECT_FALSE(replaceFile(path, QByteArray(10'000, 'n')));
+    }
     EXPECT_EQ(contentOf(path), "old");
     EXPECT_EQ(namesIn(folder), QStringList{u"file"_s});
     EXPECT_FALSE(replaceFile(folder.filePath(u"no such folder/file"_s), "new"));
@@ -73,6 +131,63 @@ TEST(FileReplacementTest, AFailedWriteLeavesOnlyTheOldFile) {
     ASSERT_TRUE(QDir(folder.path()).mkpath(u"taken/inside"_s));
     EXPECT_FALSE(replaceFile(folder.filePath(u"taken"_s), "new"));
     EXPECT_EQ(namesIn(folder), QStringList{u"file"_s});
+}
+
+TEST(FileReplacementTest, ContentReachesTheDiskBeforeItsName) {
+    for (const int count : {1, 3, 40}) {
+        SCOPED_TRACE(count);
+        const QTemporaryDir folder;
+        ReplacementBatch batch(folder.path());
+        for (int i = 0; i < count; ++i) {
+            ASSERT_TRUE(batch.add(QString::number(i), "content"));
+        }
+        std::string calls;
+        fileSystemCalls = &calls;
+        EXPECT_EQ(batch.commit(), std::vector<bool>(std::size_t(count), true));
+        fileSystemCalls = nullptr;
+        const std::string flushes = count < 10 ? std::string(std::size_t(count), 'd') : "s";
+        EXPECT_EQ(calls, flushes + std::string(std::size_t(count), 'r') + 'f');
+        EXPECT_TRUE(batch.empty());
+    }
+}
+
+TEST(FileReplacementTest, ABatchReplacesAllFilesOrKeepsTheOldOnes) {
+    struct Row {
+        const char* name;
+        int count;
+        bool flushFails;
+        bool commits;
+    };
+    const Row rows[] = {{"few", 3, false, true},
+                        {"many", 40, false, true},
+                        {"few, flushing fails", 3, true, true},
+                        {"many, flushing fails", 40, true, true},
+                        {"discarded", 40, false, false}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const QTemporaryDir folder;
+        for (int i = 0; i < row.count; ++i) {
+            ASSERT_TRUE(replaceFile(folder.filePath(QString::number(i)), "old"));
+        }
+        {
+            ReplacementBatch batch(folder.path());
+            for (int i = 0; i < row.count; ++i) {
+                ASSERT_TRUE(batch.add(QString::number(i), "new"));
+            }
+            const FileSizeLimit limit(4096);
+            EXPECT_FALSE(batch.add(u"0"_s, QByteArray(10'000, 'n')));
+            failFlush = row.flushFails;
+            if (row.commits) {
+                EXPECT_EQ(batch.commit(), std::vector<bool>(std::size_t(row.count), !row.flushFails));
+            }
+            failFlush = false;
+        }
+        EXPECT_EQ(namesIn(folder).size(), row.count) << "no temporary file is left";
+        for (int i = 0; i < row.count; ++i) {
+            EXPECT_EQ(contentOf(folder.filePath(QString::number(i))),
+                      row.commits && !row.flushFails ? "new" : "old");
+        }
+    }
 }
 
 TEST(FileReplacementTest, RemovesTemporaryFilesOfDeadProcesses) {

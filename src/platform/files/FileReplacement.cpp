@@ -1,8 +1,8 @@
 #include "platform/files/FileReplacement.h"
 
-#include <QByteArray>
 #include <QFile>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <charconv>
@@ -15,6 +15,7 @@
 #include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace guide {
 
@@ -22,12 +23,20 @@ namespace {
 
 constexpr std::string_view kTemporaryPrefix = ".replacing-";
 
-// In the same folder, so that the rename stays within one file system. The name contains the process and a
-// number, so that replacements never collide and files of dead processes can be recognised.
-QByteArray temporaryPath(const QByteArray& path) {
+// Flushing the whole file system costs less than flushing many files, each of which waits for the journal
+// (200 lists on ext4: 410 ms against 950 while other programs write), but it also waits for the data of
+// others.
+constexpr std::size_t kMostFlushedOneByOne = 8;
+
+int openFolder(const QString& folder) {
+    return ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
+
+// The name contains the process and a number, so that replacements never collide and files of dead processes
+// can be recognised.
+QByteArray temporaryName() {
     static std::atomic<std::uint32_t> counter{0};
-    const qsizetype folderEnd = path.lastIndexOf('/') + 1;
-    return path.left(folderEnd) + QByteArray(kTemporaryPrefix.data(), qsizetype(kTemporaryPrefix.size())) +
+    return QByteArray(kTemporaryPrefix.data(), qsizetype(kTemporaryPrefix.size())) +
            QByteArray::number(qlonglong{::getpid()}) + '-' + QByteArray::number(counter++);
 }
 
@@ -56,10 +65,10 @@ timespec asTimespec(Moment moment) {
     return time;
 }
 
-bool fill(int file, const QByteArray& replaced, QByteArrayView content,
+bool fill(int file, int folder, const QByteArray& replaced, QByteArrayView content,
           const std::optional<Moment>& modified) {
     struct stat old{};
-    if (::stat(replaced.constData(), &old) == 0 && (old.st_mode & 07777) != 0600 &&
+    if (::fstatat(folder, replaced.constData(), &old, 0) == 0 && (old.st_mode & 07777) != 0600 &&
         ::fchmod(file, old.st_mode & 07777) != 0) {
         return false;
     }
@@ -71,6 +80,11 @@ bool fill(int file, const QByteArray& replaced, QByteArrayView content,
     }
     const timespec times[2] = {asTimespec(*modified), asTimespec(*modified)};
     return ::futimens(file, times) == 0;
+}
+
+// Some file systems cannot flush; there is nothing to wait for then.
+bool flushed(int result) {
+    return result == 0 || errno == EINVAL || errno == ENOSYS;
 }
 
 // The process that created a temporary file; 0 for any other file.
@@ -88,32 +102,92 @@ pid_t temporaryOwner(std::string_view name) {
 } // namespace
 
 bool replaceFile(const QString& path, QByteArrayView content, std::optional<Moment> modified) {
-    const QByteArray target = QFile::encodeName(path);
-    QByteArray temporary;
-    int file = -1;
+    const qsizetype nameAt = path.lastIndexOf(u'/') + 1;
+    ReplacementBatch batch(nameAt == 0 ? QStringLiteral(".") : path.left(nameAt));
+    return batch.add(path.mid(nameAt), content, modified) && batch.commit().front();
+}
+
+ReplacementBatch::ReplacementBatch(const QString& folder)
+    : m_folder(openFolder(folder)) {}
+
+ReplacementBatch::~ReplacementBatch() {
+    closeFiles();
+    for (const Written& written : m_written) {
+        ::unlinkat(m_folder, written.temporary.constData(), 0);
+    }
+    if (m_folder >= 0) {
+        ::close(m_folder);
+    }
+}
+
+bool ReplacementBatch::add(const QString& name, QByteArrayView content, std::optional<Moment> modified) {
+    Written written{.name = QFile::encodeName(name), .temporary = {}};
     // A name that exists belongs to a dead process with the same id.
-    for (int attempt = 0; attempt < 16 && file < 0; ++attempt) {
-        temporary = temporaryPath(target);
-        file = ::open(temporary.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-        if (file < 0 && errno != EEXIST) {
+    for (int attempt = 0; attempt < 16 && written.file < 0; ++attempt) {
+        // In the same folder, so that the rename stays within one file system.
+        written.temporary = temporaryName();
+        written.file =
+            ::openat(m_folder, written.temporary.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+        if (written.file < 0 && errno != EEXIST) {
             return false;
         }
     }
-    if (file < 0) {
+    if (written.file < 0) {
         return false;
     }
-    const bool filled = fill(file, target, content, modified);
-    const bool closed = ::close(file) == 0;
-    if (filled && closed && std::rename(temporary.constData(), target.constData()) == 0) {
-        return true;
+    if (!fill(written.file, m_folder, written.name, content, modified)) {
+        ::close(written.file);
+        ::unlinkat(m_folder, written.temporary.constData(), 0);
+        return false;
     }
-    ::unlink(temporary.constData());
-    return false;
+    m_written.push_back(std::move(written));
+    if (m_written.size() > kMostFlushedOneByOne) {
+        closeFiles();
+    }
+    return true;
+}
+
+std::vector<bool> ReplacementBatch::commit() {
+    std::vector<bool> replaced(m_written.size(), false);
+    if (!m_written.empty() && flush()) {
+        for (std::size_t i = 0; i < m_written.size(); ++i) {
+            Written& written = m_written[i];
+            replaced[i] =
+                ::renameat(m_folder, written.temporary.constData(), m_folder, written.name.constData()) == 0;
+        }
+        // Without this the old files may reappear after a power failure, but they are whole.
+        ::fsync(m_folder);
+    }
+    closeFiles();
+    for (std::size_t i = 0; i < m_written.size(); ++i) {
+        if (!replaced[i]) {
+            ::unlinkat(m_folder, m_written[i].temporary.constData(), 0);
+        }
+    }
+    m_written.clear();
+    return replaced;
+}
+
+// A file whose name reaches the disk before its content would be empty after a power failure.
+bool ReplacementBatch::flush() {
+    if (m_written.size() > kMostFlushedOneByOne) {
+        return flushed(::syncfs(m_folder));
+    }
+    return std::ranges::all_of(m_written,
+                               [](const Written& written) { return flushed(::fdatasync(written.file)); });
+}
+
+void ReplacementBatch::closeFiles() {
+    for (Written& written : m_written) {
+        if (written.file >= 0) {
+            ::close(std::exchange(written.file, -1));
+        }
+    }
 }
 
 std::optional<Moment> fileModificationDate(const QString& path) {
     struct stat found{};
-    if (::stat(QFile::encodeName(path).constData(), &found) != 0) {
+    if (::stat(QFile::encodeName(path).constData(), &found) != 0 || !S_ISREG(found.st_mode)) {
         return std::nullopt;
     }
     return Moment(std::chrono::seconds(found.st_mtim.tv_sec)) +
@@ -135,6 +209,13 @@ int removeStaleReplacements(const QString& folder) {
     }
     ::closedir(directory);
     return removed;
+}
+
+void syncFolder(const QString& folder) {
+    if (const int opened = openFolder(folder); opened >= 0) {
+        ::fsync(opened);
+        ::close(opened);
+    }
 }
 
 } // namespace guide
