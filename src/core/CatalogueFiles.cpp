@@ -2,12 +2,12 @@
 
 #include "platform/archive/Archive.h"
 #include "platform/archive/PropertyList.h"
+#include "platform/files/FileContent.h"
 #include "platform/files/FileReplacement.h"
 
 #include <QCborArray>
 #include <QCborMap>
 #include <QDebug>
-#include <QFile>
 
 #include <algorithm>
 #include <array>
@@ -23,11 +23,7 @@ QString channelsKey() {
 }
 
 std::optional<QByteArray> contentOf(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return std::nullopt;
-    }
-    return file.readAll();
+    return fileContent(path, 64 << 20);
 }
 
 QCborValue archiveRoot(const std::vector<CatalogueRow>& rows) {

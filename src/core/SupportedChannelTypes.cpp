@@ -1,7 +1,8 @@
 #include "core/SupportedChannelTypes.h"
 
+#include "platform/files/FileContent.h"
+
 #include <QDebug>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -9,6 +10,12 @@
 namespace guide {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kMostBytes = 1 << 20;
+
+} // namespace
 
 std::optional<SupportedChannelTypes> SupportedChannelTypes::fromJson(const QByteArray& json) {
     const QJsonDocument document = QJsonDocument::fromJson(json);
@@ -28,9 +35,8 @@ std::optional<SupportedChannelTypes> SupportedChannelTypes::fromJson(const QByte
 }
 
 SupportedChannelTypes SupportedChannelTypes::fromFile(const QString& path) {
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly)) {
-        if (std::optional<SupportedChannelTypes> types = fromJson(file.readAll())) {
+    if (const std::optional<QByteArray> content = fileContent(path, kMostBytes)) {
+        if (std::optional<SupportedChannelTypes> types = fromJson(*content)) {
             return *std::move(types);
         }
     }

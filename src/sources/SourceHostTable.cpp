@@ -1,5 +1,7 @@
 #include "sources/SourceHostTable.h"
 
+#include "platform/files/FileContent.h"
+
 #include <QDebug>
 #include <QFile>
 #include <QJsonDocument>
@@ -14,6 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr qint64 kMostBytes = 1 << 20;
 constexpr QLatin1StringView kSchemeEnd = "://"_L1;
 
 // Where the host begins in a value: after the scheme, if it has one.
@@ -67,12 +70,9 @@ std::optional<SourceHostTable> SourceHostTable::fromJson(const QByteArray& json,
 }
 
 std::optional<SourceHostTable> SourceHostTable::fromFile(const QString& path) {
-    QFile file(path);
     RowTally tally;
-    std::optional<SourceHostTable> table;
-    if (file.open(QIODevice::ReadOnly)) {
-        table = fromJson(file.readAll(), &tally);
-    }
+    const std::optional<QByteArray> content = fileContent(path, kMostBytes);
+    const std::optional<SourceHostTable> table = content ? fromJson(*content, &tally) : std::nullopt;
     if (!table) {
         qWarning().noquote() << "SourceHostTable: cannot read" << path;
     } else if (const QString leftOut = tally.summary(u"hosts"_s); !leftOut.isEmpty()) {

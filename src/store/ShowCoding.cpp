@@ -1,9 +1,9 @@
 #include "store/ShowCoding.h"
 
 #include "platform/archive/KeyedArchiver.h"
+#include "platform/files/FileContent.h"
 
 #include <QDebug>
-#include <QFile>
 
 #include <algorithm>
 
@@ -163,6 +163,9 @@ class ShowDecoder {
     RepeatedText m_language;
 };
 
+/// Far more than the file of any list that fits in memory.
+constexpr qint64 kMostBytes = 256 << 20;
+
 } // namespace
 
 QByteArray archivedShows(std::span<const ShowItem> shows) {
@@ -212,11 +215,11 @@ std::optional<ShowItems> unarchivedShows(QByteArrayView archive, const Alphabet&
 }
 
 std::optional<ShowItems> unarchivedShowsOfFile(const QString& path, const Alphabet& alphabet) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+    const std::optional<QByteArray> content = fileContent(path, kMostBytes);
+    if (!content) {
         return std::nullopt;
     }
-    std::optional<ShowItems> shows = unarchivedShows(file.readAll(), alphabet);
+    std::optional<ShowItems> shows = unarchivedShows(*content, alphabet);
     if (!shows) {
         qWarning().noquote() << "TVListings: no list of shows in" << path;
     }

@@ -1,5 +1,6 @@
 #include "platform/linux/FolderKeyValueStore.h"
 
+#include "platform/files/FileContent.h"
 #include "platform/files/FileReplacement.h"
 #include "platform/linux/FolderWatcher.h"
 #include "platform/linux/KeyValueJson.h"
@@ -137,14 +138,13 @@ class FolderKeyValueStore::Files {
         if (file.stamp == *stamp) {
             return file;
         }
-        QFile source(path(name));
-        if (stamp->size > kLargestFile || !source.open(QIODevice::ReadOnly)) {
+        const std::optional<QByteArray> content = fileContent(path(name), kLargestFile);
+        if (!content) {
             return file;
         }
         // If the file is replaced meanwhile, its next stamp differs from this one.
         file.stamp = *stamp;
-        if (std::optional<KeyValue> read = keyValueFromJson(source.readAll());
-            read && fileName(read->key) == name) {
+        if (std::optional<KeyValue> read = keyValueFromJson(*content); read && fileName(read->key) == name) {
             file.key = std::move(read->key);
             file.value = std::move(read->value);
         }

@@ -12,6 +12,7 @@
 #include <sys/eventfd.h>
 #include <sys/file.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
@@ -42,9 +43,10 @@ InstanceLock::InstanceLock(const QString& lockFolder, const QString& socketFolde
                            const std::optional<QByteArray>& request) {
     const QByteArray folder = QFile::encodeName(lockFolder);
     m_socketPath = QFile::encodeName(socketFolder) + '/' + socketName(folder);
-    m_lock =
-        FileDescriptor(::open((folder + "/instance.lock").constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
-    if (!m_lock) {
+    m_lock = FileDescriptor(::open((folder + "/instance.lock").constData(),
+                                   O_RDWR | O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, 0600));
+    struct stat found{};
+    if (!m_lock || ::fstat(m_lock.get(), &found) != 0 || !S_ISREG(found.st_mode)) {
         return;
     }
     const auto end = std::chrono::steady_clock::now() + kHandOverTimeout;
