@@ -143,6 +143,10 @@
         <source>Selected</source>
         <translation>Vybráno</translation>
     </message>
+    <message>
+        <source>This profile cannot be written. Changes will not be saved.</source>
+        <translation>Do tohoto profilu nelze zapisovat. Změny se neuloží.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

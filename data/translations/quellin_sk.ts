@@ -143,6 +143,10 @@
         <source>Selected</source>
         <translation>Vybrané</translation>
     </message>
+    <message>
+        <source>This profile cannot be written. Changes will not be saved.</source>
+        <translation>Do tohto profilu nemožno zapisovať. Zmeny sa neuložia.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

@@ -4,6 +4,7 @@
 #include "app/SelectionCleanup.h"
 #include "core/CatalogueFiles.h"
 #include "core/SupportedChannelTypes.h"
+#include "screens/Localized.h"
 #include "screens/shell/GuideTabs.h"
 
 #include <algorithm>
@@ -36,6 +37,10 @@ bool QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBar
     m_environment.audioSession.setCategory(AudioSessionCategory::Playback, false);
     m_environment.audioSession.setActive(true);
     setup();
+    if (!m_environment.folders.writable) {
+        m_tabBarController->presentNotice(
+            {.text = Localized::tr("This profile cannot be written. Changes will not be saved.")});
+    }
     updateBadge();
     m_environment.promotion.configureConsent();
     return true;
@@ -117,8 +122,8 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
         .locale = m_environment.device.locale(),
         .timeZone = [this] { return m_environment.device.timeZone(); },
     });
-    m_sourceHealth =
-        std::make_unique<SourceHealthRecords>(m_environment.folders.caches + u"/source-health.json"_s);
+    m_sourceHealth = std::make_unique<SourceHealthRecords>(
+        m_environment.folders.caches + u"/source-health.json"_s, m_environment.folders.writable);
     m_updateCycle = std::make_unique<UpdateCycle>(UpdateCycleEnvironment{
         .clock = m_environment.clock,
         .device = m_environment.device,

@@ -70,18 +70,22 @@ int run(LaunchOptions options) {
     if (folders->bundle.isEmpty()) {
         return refuse(u"the data files of the program are missing"_s);
     }
-    // A guide that already runs can show its window for this one, but not save its pictures.
-    std::optional<QByteArray> request;
-    if (!options.screenshots) {
-        request = options.url.value_or(QString()).toUtf8();
-    }
-    InstanceLock instance(folders->documents, folders->runtime, request);
-    if (instance.outcome() == InstanceLock::Outcome::HandedOver) {
-        return 0;
-    }
-    if (instance.outcome() == InstanceLock::Outcome::Unavailable) {
-        return refuse(options.screenshots ? u"another guide uses this profile"_s
-                                          : u"another guide uses this profile and does not answer"_s);
+    // Any number of guides may share a profile that none of them writes.
+    std::optional<InstanceLock> instance;
+    if (folders->writable) {
+        // A guide that already runs can show its window for this one, but not save its pictures.
+        std::optional<QByteArray> request;
+        if (!options.screenshots) {
+            request = options.url.value_or(QString()).toUtf8();
+        }
+        instance.emplace(folders->documents, folders->runtime, request);
+        if (instance->outcome() == InstanceLock::Outcome::HandedOver) {
+            return 0;
+        }
+        if (instance->outcome() == InstanceLock::Outcome::Unavailable) {
+            return refuse(options.screenshots ? u"another guide uses this profile"_s
+                                              : u"another guide uses this profile and does not answer"_s);
+        }
     }
     for (const QString& folder : {folders->caches, folders->documents, folders->keyValueStore}) {
         removeStaleReplacements(folder);
@@ -110,7 +114,7 @@ int run(LaunchOptions options) {
     EventLoopQueues queues;
     SettingsUserDefaults userDefaults(
         folders->configuration + "/settings.ini"_L1,
-        queues.makeQueue("settings", QueueKind::Serial, QueuePriority::Background));
+        queues.makeQueue("settings", QueueKind::Serial, QueuePriority::Background), folders->writable);
     FolderKeyValueStore keyValueStore(folders->keyValueStore, queues);
     LinuxBackgroundTasks backgroundTasks(queues);
     WindowState state;
@@ -197,8 +201,10 @@ int run(LaunchOptions options) {
         });
     }
     window->show();
-    instance.listen(std::shared_ptr<DispatchQueue>(std::shared_ptr<void>(), &queues.mainQueue()),
-                    [&](const QByteArray&) { window->show(); });
+    if (instance) {
+        instance->listen(std::shared_ptr<DispatchQueue>(std::shared_ptr<void>(), &queues.mainQueue()),
+                         [&](const QByteArray&) { window->show(); });
+    }
 
     DeviceWatch deviceWatch(clock, device, state, delegate);
     deviceWatch.start();
@@ -215,7 +221,9 @@ int run(LaunchOptions options) {
     const int status = QGuiApplication::exec();
 
     // A guide started from here on runs by itself instead of handing its request to this one.
-    instance.stopListening();
+    if (instance) {
+        instance->stopListening();
+    }
     if (state.setVisible(false)) {
         delegate.applicationDidEnterBackground();
     }

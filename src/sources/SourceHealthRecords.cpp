@@ -1,5 +1,6 @@
 #include "sources/SourceHealthRecords.h"
 
+#include "platform/files/FileContent.h"
 #include "platform/files/FileReplacement.h"
 
 #include <QDateTime>
@@ -110,8 +111,9 @@ std::optional<SourceHealth> sourceHealth(const QJsonObject& json) {
 
 } // namespace
 
-SourceHealthRecords::SourceHealthRecords(QString path)
-    : m_path(std::move(path)) {}
+SourceHealthRecords::SourceHealthRecords(QString path, bool writable)
+    : m_path(std::move(path))
+    , m_isWritable(writable) {}
 
 void SourceHealthRecords::read() {
     {
@@ -120,13 +122,11 @@ void SourceHealthRecords::read() {
             return;
         }
     }
-    QFile file(m_path);
-    if (!file.exists()) {
+    if (!QFile::exists(m_path)) {
         return;
     }
-    auto found = file.open(QIODevice::ReadOnly) && file.size() <= kMostBytes
-                     ? sourceHealthFromJSON(file.readAll())
-                     : std::nullopt;
+    const std::optional<QByteArray> content = fileContent(m_path, kMostBytes);
+    auto found = content ? sourceHealthFromJSON(*content) : std::nullopt;
     if (!found) {
         qInfo("source health: %s is not readable", qUtf8Printable(m_path));
         return;
@@ -165,7 +165,7 @@ void SourceHealthRecords::write(const std::vector<ObjectId>& selected) {
             0) {
             m_isWritten = false;
         }
-        if (std::exchange(m_isWritten, true)) {
+        if (std::exchange(m_isWritten, true) || !m_isWritable) {
             return;
         }
         content = sourceHealthJSON(m_byChannel);

@@ -18,8 +18,8 @@ class SourceHealthRecords {
   public:
     using ByChannel = std::unordered_map<ObjectId, SourceHealth>;
 
-    /// Does not read the file.
-    explicit SourceHealthRecords(QString path);
+    /// Does not read the file. It is never replaced where `writable` is false.
+    explicit SourceHealthRecords(QString path, bool writable = true);
 
     /// The first call reads the file and adds the channels that have no record yet; later calls do nothing. A
     /// file that is missing, damaged or of another version counts as empty. Blocks.
@@ -38,6 +38,7 @@ class SourceHealthRecords {
 
   private:
     const QString m_path;
+    const bool m_isWritable;
     mutable std::mutex m_guard;
     ByChannel m_byChannel;
     bool m_isRead = false;

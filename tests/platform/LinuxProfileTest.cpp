@@ -10,6 +10,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -47,6 +49,7 @@ TEST(LinuxFoldersTest, AProfileContainsAllFolders) {
         EXPECT_EQ(found.st_mode & 07777, 0700U) << folder.toStdString();
     }
     EXPECT_EQ(folders->bundle, root.path());
+    EXPECT_TRUE(folders->writable);
     EXPECT_TRUE(linuxFolders({profile, {}}));
 }
 
@@ -72,6 +75,41 @@ TEST(LinuxFoldersTest, FailsWhenAFileIsInTheWay) {
     ASSERT_TRUE(replaceFile(root.filePath(u"profile"_s), "a file"));
     EXPECT_FALSE(linuxFolders({root.filePath(u"profile"_s), {}}));
     EXPECT_EQ(contentOf(root.filePath(u"profile"_s)), "a file");
+}
+
+/// What `look` returns in a process without the rights of root.
+template <class Look>
+int asOrdinaryUser(const Look& look) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        constexpr uid_t kNobody = 65534;
+        const bool ordinary = ::getuid() != 0 || ::setresuid(kNobody, kNobody, kNobody) == 0;
+        ::_exit(ordinary ? look() : 100);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST(LinuxFoldersTest, AReadOnlyProfileHasWhatItContains) {
+    const QTemporaryDir root;
+    const QString profile = root.filePath(u"profile"_s);
+    ASSERT_TRUE(QDir().mkpath(profile + u"/documents"_s));
+    ASSERT_TRUE(QDir().mkpath(profile + u"/empty"_s));
+    for (const QString& folder : {root.path(), profile, profile + u"/documents"_s, profile + u"/empty"_s}) {
+        ASSERT_EQ(::chmod(QFile::encodeName(folder).constData(), 0555), 0);
+    }
+    EXPECT_EQ(asOrdinaryUser([&] {
+                  const auto folders = linuxFolders({profile, {}});
+                  return folders && !folders->writable && folders->documents.endsWith(u"/documents"_s) ? 0
+                                                                                                       : 1;
+              }),
+              0);
+    EXPECT_EQ(asOrdinaryUser([&] { return linuxFolders({profile + u"/empty"_s, {}}) ? 1 : 0; }), 0)
+        << "it has nothing to show";
+    for (const QString& folder : {root.path(), profile}) {
+        ::chmod(QFile::encodeName(folder).constData(), 0755);
+    }
 }
 
 struct SettingsUserDefaultsTest : testing::Test {
@@ -139,6 +177,17 @@ TEST_F(SettingsUserDefaultsTest, RetriesAFailedWrite) {
     ASSERT_TRUE(QFile::remove(folder.filePath(u"inside"_s)));
     EXPECT_TRUE(defaults.synchronize());
     EXPECT_EQ(SettingsUserDefaults(inside).integerForKey(u"currently_show_count"_s), 3);
+}
+
+TEST_F(SettingsUserDefaultsTest, AReadOnlyProfileKeepsChangesInMemory) {
+    ManualClock clock;
+    ManualQueues queues(clock);
+    SettingsUserDefaults defaults(path, queues.makeQueue("settings", QueueKind::Serial), false);
+    defaults.setInteger(u"currently_show_count"_s, 3);
+    EXPECT_EQ(defaults.integerForKey(u"currently_show_count"_s), 3);
+    EXPECT_EQ(queues.delayed(), 0U);
+    EXPECT_TRUE(defaults.synchronize());
+    EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST_F(SettingsUserDefaultsTest, WritesChangesTogetherAfterADelay) {

@@ -4,8 +4,7 @@
 
 namespace guide {
 
-/// The folders of one profile, absolute and without a trailing slash. All except `bundle` exist and are
-/// writable.
+/// The folders of one profile, absolute and without a trailing slash.
 struct Folders {
     /// Listing files and the catalogue archive; everything here can be regenerated.
     QString caches;
@@ -19,6 +18,9 @@ struct Folders {
     QString keyValueStore;
     /// Data installed with the program: catalogue, icons, host table, supported regions.
     QString bundle;
+    /// All folders except `bundle` exist and are writable. Otherwise the profile is read-only: some of them
+    /// may be missing, and nothing is written.
+    bool writable = true;
 };
 
 } // namespace guide

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <array>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -46,10 +48,18 @@ Folders desktopFolders() {
     return folders;
 }
 
-bool isWritableFolder(const QByteArray& path) {
+bool isFolder(const QByteArray& path, int access) {
     struct stat found{};
     return ::stat(path.constData(), &found) == 0 && S_ISDIR(found.st_mode) &&
-           ::access(path.constData(), R_OK | W_OK | X_OK) == 0;
+           ::access(path.constData(), access) == 0;
+}
+
+bool isReadableFolder(const QString& folder) {
+    return isFolder(QFile::encodeName(folder), R_OK | X_OK);
+}
+
+bool isWritableFolder(const QByteArray& path) {
+    return isFolder(path, R_OK | W_OK | X_OK);
 }
 
 bool makeFolder(const QString& folder) {
@@ -87,14 +97,19 @@ Folders namedLinuxFolders(const LinuxFolderOptions& options) {
 
 std::optional<Folders> linuxFolders(const LinuxFolderOptions& options) {
     Folders folders = namedLinuxFolders(options);
-    for (const QString& folder :
-         {folders.caches, folders.documents, folders.configuration, folders.runtime, folders.keyValueStore}) {
-        if (!makeFolder(folder)) {
-            qWarning("cannot create or write the folder %s", qUtf8Printable(folder));
-            return std::nullopt;
-        }
+    const std::array data{folders.caches, folders.documents, folders.configuration, folders.keyValueStore};
+    const auto refused = std::ranges::find_if_not(data, makeFolder);
+    folders.writable = refused == data.end();
+    if (folders.writable && makeFolder(folders.runtime)) {
+        return folders;
     }
-    return folders;
+    qWarning("cannot create or write the folder %s",
+             qUtf8Printable(folders.writable ? folders.runtime : *refused));
+    // A profile that holds anything can at least be looked at.
+    if (!folders.writable && std::ranges::any_of(data, isReadableFolder)) {
+        return folders;
+    }
+    return std::nullopt;
 }
 
 } // namespace guide

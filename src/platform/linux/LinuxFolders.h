@@ -15,9 +15,9 @@ struct LinuxFolderOptions {
     QString bundle;
 };
 
-/// The folders of a profile. Missing ones are created, accessible only by their owner. Empty, with a log
-/// line, when one cannot be created or written. The bundle is not created; its path is empty when it is not
-/// found.
+/// The folders of a profile. Missing ones are created, accessible only by their owner. When one cannot be
+/// created or written, the profile is not writable; empty if it has no folder that can be read. The
+/// bundle is not created; its path is empty when it is not found.
 std::optional<Folders> linuxFolders(const LinuxFolderOptions& options);
 
 /// The same paths, without creating or checking anything but the bundle.

@@ -1,5 +1,11 @@
 #include "platform/linux/SettingsUserDefaults.h"
 
+#include "platform/files/FileContent.h"
+#include "platform/files/FileReplacement.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 #include <QSettings>
 
@@ -15,14 +21,22 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::chrono::milliseconds kWriteDelay{500};
+constexpr qint64 kMostBytes = 1 << 20;
 
 } // namespace
 
 // Values are kept as text, as in the file, so that a value read back has the same types as one just set.
 class SettingsUserDefaults::File {
   public:
-    explicit File(const QString& path)
-        : m_path(path) {
+    File(const QString& path, bool writable)
+        : m_path(path)
+        , m_writable(writable) {
+        if (!isReadableFile(m_path, kMostBytes)) {
+            if (QFile::exists(m_path)) {
+                qWarning("the settings in %s cannot be read", qUtf8Printable(m_path));
+            }
+            return;
+        }
         const QSettings settings(m_path, QSettings::IniFormat);
         const QStringList keys = settings.allKeys();
         for (const QString& key : keys) {
@@ -50,6 +64,9 @@ class SettingsUserDefaults::File {
             m_values.insert(key, *value);
         } else {
             m_values.remove(key);
+        }
+        if (!m_writable) {
+            return false;
         }
         m_changed.insert(key, value);
         return !std::exchange(m_writeScheduled, true);
@@ -79,6 +96,10 @@ class SettingsUserDefaults::File {
 
   private:
     bool store(const QHash<QString, std::optional<QString>>& changed) const {
+        // QSettings reads the file again. It would wait for a pipe.
+        if (QFile::exists(m_path) && !isReadableFile(m_path, kMostBytes)) {
+            return false;
+        }
         QSettings settings(m_path, QSettings::IniFormat);
         for (auto entry = changed.cbegin(); entry != changed.cend(); ++entry) {
             if (entry.value()) {
@@ -89,10 +110,15 @@ class SettingsUserDefaults::File {
         }
         settings.sync();
         // The file is written even if it could not be read completely.
-        return settings.status() != QSettings::AccessError;
+        if (settings.status() == QSettings::AccessError) {
+            return false;
+        }
+        syncFolder(QFileInfo(m_path).path());
+        return true;
     }
 
     const QString m_path;
+    const bool m_writable;
     mutable std::mutex m_mutex;
     QHash<QString, QString> m_values;
     QHash<QString, std::optional<QString>> m_changed;
@@ -100,8 +126,9 @@ class SettingsUserDefaults::File {
     std::mutex m_writing;
 };
 
-SettingsUserDefaults::SettingsUserDefaults(const QString& path, std::shared_ptr<DispatchQueue> writeQueue)
-    : m_file(std::make_shared<File>(path))
+SettingsUserDefaults::SettingsUserDefaults(const QString& path, std::shared_ptr<DispatchQueue> writeQueue,
+                                           bool writable)
+    : m_file(std::make_shared<File>(path, writable))
     , m_writeQueue(std::move(writeQueue)) {}
 
 SettingsUserDefaults::~SettingsUserDefaults() {

@@ -11,10 +11,12 @@ namespace guide {
 
 /// Settings in an INI file. Values live in memory. Changes are written shortly afterwards on the given queue,
 /// by synchronize, and by the destructor; without a queue only by the latter two. Changes that others make to
-/// the file are read at the next start. Only changed keys are written.
+/// the file are read at the next start. Only changed keys are written, and nothing where `writable` is false.
+/// A file that is not a regular one or is larger than any of ours is left alone.
 class SettingsUserDefaults final : public UserDefaults {
   public:
-    explicit SettingsUserDefaults(const QString& path, std::shared_ptr<DispatchQueue> writeQueue = nullptr);
+    explicit SettingsUserDefaults(const QString& path, std::shared_ptr<DispatchQueue> writeQueue = nullptr,
+                                  bool writable = true);
     SettingsUserDefaults(const SettingsUserDefaults&) = delete;
     SettingsUserDefaults& operator=(const SettingsUserDefaults&) = delete;
     ~SettingsUserDefaults() override;
