@@ -1,11 +1,14 @@
 #include "core/TVChannels.h"
 
+#include "core/SelectionFile.h"
 #include "platform/archive/Archive.h"
+#include "platform/files/FileContent.h"
 #include "platform/files/FileReplacement.h"
 
-#include <QCborArray>
 #include <QDebug>
 #include <QFile>
+
+#include <utility>
 
 namespace guide {
 
@@ -15,37 +18,15 @@ namespace {
 
 using ChannelMap = std::unordered_map<ObjectId, std::shared_ptr<TVChannel>>;
 
-QCborArray encodedSelection(const std::vector<ObjectId>& selected) {
-    QCborArray array;
-    for (const ObjectId& id : selected) {
-        array.append(id.data());
-    }
-    return array;
-}
+constexpr qint64 kMostBytes = 1 << 20;
 
-std::vector<ObjectId> readSelection(const QString& path) {
-    QFile file(path);
-    const std::optional<QCborValue> root =
-        file.open(QIODevice::ReadOnly) ? unarchivedRoot(file.readAll()) : std::nullopt;
-    if (!root || !root->isArray()) {
-        qInfo("TVChannels: selectedChannels returned nil");
-        return {};
-    }
-    const QCborArray array = root->toArray();
-    qInfo().noquote().nospace() << "TVChannels: channelArray.count=" << array.size();
-    std::vector<ObjectId> selected;
-    selected.reserve(static_cast<std::size_t>(array.size()));
-    for (const auto& value : array) {
-        if (value.isByteArray()) {
-            selected.emplace_back(value.toByteArray());
-        }
-    }
-    return selected;
+QString mirrorKey() {
+    return u"SelectedChannels"_s;
 }
 
 } // namespace
 
-struct TVChannels::State final : CatalogueObserver {
+struct TVChannels::State final : CatalogueObserver, std::enable_shared_from_this<State> {
     /// The selection and its records, immutable once published.
     struct Snapshot {
         std::vector<ObjectId> selected;
@@ -55,18 +36,24 @@ struct TVChannels::State final : CatalogueObserver {
 
     QString path;
     QString cachesFolder;
+    const bool writable;
     KeyValueStore& keyValueStore;
     const Catalogue& catalogue;
+    const std::shared_ptr<DispatchQueue> writer;
 
     std::mutex guard;
     SharedSnapshot current; // guarded; null until the first read
     bool unwritten = false; // guarded
+    bool damaged = false;   // guarded; the file has to be kept when it is replaced
 
-    State(const Folders& folders, KeyValueStore& ownKeyValueStore, const Catalogue& ownCatalogue)
+    State(const Folders& folders, KeyValueStore& ownKeyValueStore, DispatchQueues& queues,
+          const Catalogue& ownCatalogue)
         : path(folders.documents + u"/selectedChannels.plist"_s)
         , cachesFolder(folders.caches)
+        , writable(folders.writable)
         , keyValueStore(ownKeyValueStore)
-        , catalogue(ownCatalogue) {}
+        , catalogue(ownCatalogue)
+        , writer(queues.makeQueue("selected", QueueKind::Serial, QueuePriority::Default)) {}
 
     void catalogueReplaced() override {
         const std::lock_guard lock(guard);
@@ -117,27 +104,65 @@ struct TVChannels::State final : CatalogueObserver {
     SharedSnapshot snapshot() {
         const std::lock_guard lock(guard);
         if (!current) {
-            current = makeSnapshot(readSelection(path), nullptr);
+            current = makeSnapshot(readSelection(), nullptr);
         }
         return current;
+    }
+
+    // Under the guard. The key-value store holds a copy for a file that is damaged; a file that is missing
+    // has never been written.
+    std::vector<ObjectId> readSelection() {
+        const std::optional<QByteArray> content = fileContent(path, kMostBytes);
+        auto selected = content ? selectionOfFile(*content) : std::nullopt;
+        if (!selected) {
+            qInfo("TVChannels: selectedChannels returned nil");
+            damaged = QFile::exists(path);
+            selected = damaged
+                           ? selectionOfValue(keyValueStore.valueForKey(mirrorKey()).value_or(QCborValue()))
+                           : std::nullopt;
+            if (!selected) {
+                return {};
+            }
+            qWarning().noquote() << "TVChannels:" << path << "is damaged, using the copy";
+            setUnwritten();
+        }
+        qInfo().noquote().nospace() << "TVChannels: channelArray.count=" << selected->size();
+        return *std::move(selected);
+    }
+
+    // Under the guard.
+    void setUnwritten() {
+        unwritten = writable;
+        submitWrite();
+    }
+
+    void submitWrite() {
+        if (writable) {
+            writer->asyncBarrier([state = shared_from_this()] { state->write(); });
+        }
     }
 
     // On the writer queue. Writes the newest selection, so that several changes in a row cost one write.
     bool write() {
         SharedSnapshot newest;
+        bool keep = false;
         {
             const std::lock_guard lock(guard);
             if (!unwritten) {
                 return true;
             }
             newest = current;
+            keep = std::exchange(damaged, false);
         }
-        const QCborArray array = encodedSelection(newest->selected);
-        if (!replaceFile(path, archivedData(array))) {
+        if (keep) {
+            keepDamagedFile(path);
+        }
+        const QCborValue value = selectionValue(newest->selected);
+        if (!replaceFile(path, archivedData(value))) {
             qWarning().noquote() << "TVChannels: cannot write" << path;
             return false;
         }
-        keyValueStore.setValue(u"SelectedChannels"_s, array);
+        keyValueStore.setValue(mirrorKey(), value);
         const std::lock_guard lock(guard);
         unwritten = current->selected != newest->selected;
         return true;
@@ -146,8 +171,7 @@ struct TVChannels::State final : CatalogueObserver {
 
 TVChannels::TVChannels(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues,
                        const Catalogue& catalogue)
-    : m_writer(queues.makeQueue("selected", QueueKind::Serial, QueuePriority::Default))
-    , m_state(std::make_shared<State>(folders, keyValueStore, catalogue)) {
+    : m_state(std::make_shared<State>(folders, keyValueStore, queues, catalogue)) {
     catalogue.addObserver(*m_state);
 }
 
@@ -165,16 +189,13 @@ std::vector<ObjectId> TVChannels::selected() const {
 
 void TVChannels::setSelected(std::vector<ObjectId> selected) {
     qInfo().noquote().nospace() << "TVChannels: newSelectedCount=" << selected.size();
-    {
-        const std::lock_guard lock(m_state->guard);
-        const State::SharedSnapshot previous = m_state->current;
-        if (previous && previous->selected == selected) {
-            return;
-        }
-        m_state->current = m_state->makeSnapshot(std::move(selected), previous.get());
-        m_state->unwritten = true;
+    const std::lock_guard lock(m_state->guard);
+    const State::SharedSnapshot previous = m_state->current;
+    if (previous && previous->selected == selected) {
+        return;
     }
-    m_writer->asyncBarrier([state = m_state] { state->write(); });
+    m_state->current = m_state->makeSnapshot(std::move(selected), previous.get());
+    m_state->setUnwritten();
 }
 
 std::shared_ptr<TVChannel> TVChannels::channelWithChannelId(const ObjectId& channel) const {
@@ -184,7 +205,7 @@ std::shared_ptr<TVChannel> TVChannels::channelWithChannelId(const ObjectId& chan
 }
 
 void TVChannels::retryWriting() {
-    m_writer->asyncBarrier([state = m_state] { state->write(); });
+    m_state->submitWrite();
 }
 
 bool TVChannels::finishWriting() {
@@ -195,7 +216,7 @@ bool TVChannels::finishWriting() {
         }
     }
     std::optional<bool> written;
-    m_writer->sync([this, &written] { written = m_state->write(); });
+    m_state->writer->sync([this, &written] { written = m_state->write(); });
     // After the queues have shut down the block is dropped and no other thread writes.
     return written ? *written : m_state->write();
 }

@@ -19,7 +19,7 @@ namespace guide {
 /// creates, renews and drops records; the selection does not change.
 ///
 /// Readers get a snapshot and never wait for a write to the disk; a change is visible when setSelected
-/// returns and is written afterwards, in order.
+/// returns and is written afterwards, in order. In a profile that cannot be written it lives in memory.
 class TVChannels {
   public:
     /// The key-value store and the catalogue must outlive this object.
@@ -27,7 +27,8 @@ class TVChannels {
                const Catalogue& catalogue);
     ~TVChannels();
 
-    /// The selected channels; empty when there are none or the file cannot be read. Any thread.
+    /// The selected channels; empty when there are none. A file that cannot be read is kept under another
+    /// name, and the copy in the key-value store takes its place. Any thread.
     std::vector<ObjectId> selected() const;
 
     /// Replaces the selection. An equal one writes nothing. Any thread.
@@ -45,7 +46,6 @@ class TVChannels {
 
   private:
     struct State;
-    std::shared_ptr<DispatchQueue> m_writer;
     std::shared_ptr<State> m_state;
 };
 
