@@ -105,6 +105,7 @@ class UpdateCycle::Check {
         if (m_anythingParsed && !m_state.cancelled) {
             m_environment.loadQueue->sync([this] { m_environment.listings.updatePopularList(); });
         }
+        m_environment.listings.checkEnded();
     }
 
   private:

@@ -82,7 +82,7 @@ bool TVChannel::reloadNeeded(Moment now, std::chrono::seconds automaticUpdateInt
     if (isLoading) {
         return false;
     }
-    return !loaded || now - automaticUpdateInterval > *loaded;
+    return !loaded || *loaded > now || now - automaticUpdateInterval > *loaded;
 }
 
 } // namespace guide

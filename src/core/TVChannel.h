@@ -44,15 +44,16 @@ class TVChannel {
     void requireReload();
 
     /// Forgets the load time and deletes the listing file, which makes the channel due. Used when the list
-    /// has become empty.
+    /// is long over.
     void unload();
 
     /// Takes over the load time, or the required reload, and the failure of an earlier record of the same
     /// channel.
     void takeLoadStateFrom(const TVChannel& earlier);
 
-    /// Whether the list is missing or older than the interval. A list exactly as old as the interval is not
-    /// due, nor is a channel that is being loaded.
+    /// Whether the list is missing or older than the interval, or has a load time in the future, which shows
+    /// only that a clock was wrong. A list exactly as old as the interval is not due, nor is a channel that
+    /// is being loaded.
     bool reloadNeeded(Moment now, std::chrono::seconds automaticUpdateInterval) const;
 
   private:

@@ -7,6 +7,9 @@
 
 #include <QDebug>
 
+#include <span>
+#include <vector>
+
 namespace guide {
 
 namespace {
@@ -32,6 +35,11 @@ class WritingTask {
     const Block m_end;
 };
 
+std::span<const ShowItem> notEnded(const ChannelList& list, Moment now) {
+    const std::span<const ShowItem> shows(*list.shows());
+    return shows.subspan(firstNotEnded(shows, now));
+}
+
 } // namespace
 
 SaveSchedule::SaveSchedule(DispatchQueues& queues, const Clock& clock, const Folders& folders,
@@ -39,14 +47,19 @@ SaveSchedule::SaveSchedule(DispatchQueues& queues, const Clock& clock, const Fol
     : m_queues(queues)
     , m_clock(clock)
     , m_cachesFolder(folders.caches)
+    , m_writable(folders.writable)
     , m_backgroundTasks(backgroundTasks)
     , m_queue(queues.makeQueue("vorel.listings.file.io", QueueKind::Serial, QueuePriority::Background)) {}
 
 void SaveSchedule::add(std::vector<ObjectId> channels) {
+    if (!m_writable) {
+        return;
+    }
     m_queue->async([self = shared_from_this(), channels = std::move(channels), loaded = m_clock.now()] {
         for (const ObjectId& channel : channels) {
             self->m_scheduled.insert_or_assign(channel, loaded);
         }
+        self->writeAfter(kLongestWait, self->m_periodic);
     });
 }
 
@@ -62,32 +75,80 @@ bool SaveSchedule::empty() {
     return empty;
 }
 
-SaveSchedule::Written SaveSchedule::writeList(const ObjectId& channel, const ChannelList& list, Moment loaded,
-                                              Moment now) const {
-    std::span<const ShowItem> shows(*list.shows());
-    shows = shows.subspan(firstNotEnded(shows, now));
-    if (shows.empty()) {
-        return Written::Done;
+void SaveSchedule::writeAfter(std::chrono::milliseconds time, bool& running) {
+    if (m_scheduled.empty() || running) {
+        return;
     }
-    const QString path = m_cachesFolder + u'/' + listingsFileFromChannelIdentificator(channel);
-    if (!replaceFile(path, archivedShows(shows), loaded)) {
-        qWarning().noquote() << "TVListings: could not write" << path;
-        return Written::Failed;
-    }
-    return Written::Done;
+    running = true;
+    m_queue->asyncAfter(time, [weak = weak_from_this(), &running] {
+        const auto self = weak.lock();
+        if (!self) {
+            return;
+        }
+        running = false;
+        if (!self->m_scheduled.empty()) {
+            self->m_due();
+        }
+    });
 }
 
 void SaveSchedule::write(const ChannelLists& lists) {
     const WritingTask task(m_backgroundTasks, m_queues.mainQueue());
     const Moment now = m_clock.now();
-    std::erase_if(m_scheduled, [&](const auto& scheduled) {
-        if (m_abandoned.load(std::memory_order_relaxed)) {
-            return false;
+    ReplacementBatch batch(m_cachesFolder);
+    std::vector<ObjectId> inBatch;
+    std::vector<ObjectId> done;
+    std::size_t failed = 0;
+    const auto commit = [&] {
+        const std::vector<bool> replaced = batch.commit();
+        for (std::size_t i = 0; i < replaced.size(); ++i) {
+            if (replaced[i]) {
+                done.push_back(inBatch[i]);
+            } else {
+                ++failed;
+            }
         }
-        const auto& [channel, loaded] = scheduled;
+        inBatch.clear();
+    };
+    for (const auto& [channel, loaded] : m_scheduled) {
+        if (m_abandoned.load(std::memory_order_relaxed)) {
+            break;
+        }
         const auto list = lists.find(channel);
-        return list == lists.end() || writeList(channel, *list->second, loaded, now) == Written::Done;
-    });
+        const std::span<const ShowItem> shows =
+            list == lists.end() ? std::span<const ShowItem>() : notEnded(*list->second, now);
+        if (shows.empty()) {
+            done.push_back(channel);
+            continue;
+        }
+        const QString name = listingsFileFromChannelIdentificator(channel);
+        const QByteArray archive = archivedShows(shows);
+        bool added = batch.add(name, archive, loaded);
+        if (!added && !batch.empty()) {
+            // On a nearly full disk, replacing the files written so far frees the space of the old ones.
+            commit();
+            added = batch.add(name, archive, loaded);
+        }
+        if (added) {
+            inBatch.push_back(channel);
+        } else {
+            ++failed;
+        }
+    }
+    commit();
+    for (const ObjectId& channel : done) {
+        m_scheduled.erase(channel);
+    }
+    report(failed);
+    writeAfter(kLongestWait, m_periodic);
+}
+
+// One line when writes begin to fail, not one every kLongestWait.
+void SaveSchedule::report(std::size_t failed) {
+    if (failed > 0 && !m_failing) {
+        qWarning().noquote() << "TVListings: could not write" << failed << "lists in" << m_cachesFolder;
+    }
+    m_failing = failed > 0;
 }
 
 } // namespace guide

@@ -1,11 +1,13 @@
 #include "store/TVListings.h"
 
 #include "core/ListingsFile.h"
+#include "platform/files/FileReplacement.h"
 #include "store/ScheduleQueries.h"
 #include "store/ShowCoding.h"
 #include "store/ShowUpdates.h"
 #include "store/TVListingsState.h"
 
+#include <algorithm>
 #include <map>
 #include <unordered_set>
 
@@ -19,6 +21,17 @@ QString listingsPath(const Folders& folders, const ObjectId& channel) {
 
 std::shared_ptr<const ChannelList> channelList(ShowItems shows) {
     return std::make_shared<const ChannelList>(std::make_shared<const ShowItems>(std::move(shows)));
+}
+
+/// How long the file of a list is kept after its last show.
+constexpr std::chrono::days kKeptAfterEnd{14};
+
+Moment latestEnd(const ShowItems& shows) {
+    Moment latest = Moment::min();
+    for (const ShowItem& show : shows) {
+        latest = std::max(latest, show.entry()->endDateTime().value_or(*show.entry()->dateTime()));
+    }
+    return latest;
 }
 
 } // namespace
@@ -50,35 +63,46 @@ void TVListings::State::queryAllShows(QueuePriority priority,
 void TVListings::State::startFirstRead() {
     std::vector<ObjectId> channels = environment.channels.selected();
     channels.push_back(ObjectId::popular());
+    saveSchedule->setDue([weak = weak_from_this()] {
+        if (const auto self = weak.lock()) {
+            self->writeScheduledLists();
+        }
+    });
     change([channels = std::move(channels)](State& state) {
-        std::vector<std::shared_ptr<const ChannelList>> read(channels.size());
+        std::vector<ReadList> read(channels.size());
         DispatchGroup reads;
         for (std::size_t i = 0; i < channels.size(); ++i) {
             reads.async(
                 state.environment.queues.globalQueue(QueuePriority::UserInitiated),
-                [&state, &channel = channels[i], &list = read[i]] { list = state.readList(channel); });
+                [&state, &channel = channels[i], &file = read[i]] { file = state.readList(channel); });
         }
         reads.wait();
+        std::vector<std::pair<ObjectId, std::optional<Moment>>> without;
         for (std::size_t i = 0; i < channels.size(); ++i) {
-            if (read[i]) {
-                state.lists.insert_or_assign(channels[i], std::move(read[i]));
+            if (read[i].list) {
+                state.lists.insert_or_assign(channels[i], std::move(read[i].list));
             } else if (channels[i] != ObjectId::popular()) {
-                state.unload(channels[i]);
+                without.emplace_back(channels[i], read[i].lastEnd);
             }
         }
+        state.unload(without);
         state.saveAllShows(false);
     });
 }
 
-std::shared_ptr<const ChannelList> TVListings::State::readList(const ObjectId& channel) const {
+TVListings::State::ReadList TVListings::State::readList(const ObjectId& channel) const {
     std::optional<ShowItems> shows =
         unarchivedShowsOfFile(listingsPath(environment.folders, channel), environment.alphabet);
-    if (!shows) {
-        return nullptr;
+    if (!shows || shows->empty()) {
+        return {};
     }
+    ReadList read{.list = nullptr, .lastEnd = latestEnd(*shows)};
     const std::size_t ended = firstNotEnded(*shows, environment.clock.now());
     shows->erase(shows->begin(), shows->begin() + static_cast<std::ptrdiff_t>(ended));
-    return shows->empty() ? nullptr : channelList(*std::move(shows));
+    if (!shows->empty()) {
+        read.list = channelList(*std::move(shows));
+    }
+    return read;
 }
 
 void TVListings::State::saveAllShows(bool updatePopular) {
@@ -112,9 +136,38 @@ void TVListings::State::replaceList(const ObjectId& channel, ShowItems shows) {
     scheduleSaving({channel});
 }
 
-void TVListings::State::unload(const ObjectId& channel) const {
-    if (const auto record = environment.channels.channelWithChannelId(channel)) {
-        record->unload();
+Moment TVListings::State::latestLoad() const {
+    const Moment now = environment.clock.now();
+    Moment latest = Moment(std::chrono::milliseconds(0));
+    for (const ObjectId& channel : environment.channels.selected()) {
+        const auto loaded = fileModificationDate(listingsPath(environment.folders, channel));
+        if (loaded && *loaded <= now) {
+            latest = std::max(latest, *loaded);
+        }
+    }
+    return latest;
+}
+
+// A clock that is ahead must not cost any list. A file is therefore deleted only when its last show ended
+// kKeptAfterEnd before the latest load time in the profile as well as before the time of the clock: the load
+// of another list shows that the time has really passed. Load times after that of the clock do not count. A
+// clock that was ahead leaves such times behind, but only until those lists are loaded again.
+void TVListings::State::unload(
+    const std::vector<std::pair<ObjectId, std::optional<Moment>>>& lastEnds) const {
+    std::optional<Moment> deletedBefore;
+    for (const auto& [channel, lastEnd] : lastEnds) {
+        const auto record = environment.channels.channelWithChannelId(channel);
+        if (!record) {
+            continue;
+        }
+        if (lastEnd && !deletedBefore) {
+            deletedBefore = latestLoad() - kKeptAfterEnd;
+        }
+        if (lastEnd && *lastEnd < *deletedBefore) {
+            record->unload();
+        } else {
+            record->requireReload();
+        }
     }
 }
 
@@ -138,6 +191,10 @@ void TVListings::State::scheduleSaving(std::vector<ObjectId> channels) {
 
 void TVListings::State::commitFiles() {
     saveSchedule->setAbandoned(false);
+    writeScheduledLists();
+}
+
+void TVListings::State::writeScheduledLists() {
     query([](State& state) {
         // Every list that is already scheduled on the file queue is among these.
         state.underway.async(
@@ -230,6 +287,13 @@ void TVListings::addToSaveSchedule(const ObjectId& channel) {
 
 bool TVListings::isScheduledForSaving(const ObjectId& channel) {
     return m_state->saveSchedule->contains(channel);
+}
+
+void TVListings::checkEnded() {
+    // Behind the changes of the check.
+    m_state->query([](State& state) {
+        state.saveSchedule->queue().async([schedule = state.saveSchedule] { schedule->checkEnded(); });
+    });
 }
 
 void TVListings::commitFiles() {

@@ -81,6 +81,8 @@ class TVListings {
     /// Sets the channel's load time at once and schedules its list for saving. While the application is in
     /// the background, the list is written soon.
     void addToSaveSchedule(const ObjectId& channel);
+    /// Writes the scheduled lists soon. Without this call each of them is written within ten minutes.
+    void checkEnded();
     /// Blocks on the file queue.
     bool isScheduledForSaving(const ObjectId& channel);
     /// Starts writing the scheduled lists. What cannot be written stays scheduled.

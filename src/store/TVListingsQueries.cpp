@@ -11,7 +11,7 @@ std::vector<ShowSpan> TVListings::State::onAirShows(const std::vector<ObjectId>&
     for (const ObjectId& channel : channels) {
         if (const auto stored = lists.find(channel); stored != lists.end()) {
             shows.push_back(stored->second->notOver(now, most));
-        } else if (const auto read = readList(channel)) {
+        } else if (const auto read = readList(channel).list) {
             shows.push_back(read->notOver(now, most));
         } else {
             shows.emplace_back();

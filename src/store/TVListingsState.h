@@ -26,19 +26,29 @@ struct TVListings::State : std::enable_shared_from_this<State> {
     /// Schedules the lists, and writes them if the application is in the background.
     void scheduleSaving(std::vector<ObjectId> channels);
     void commitFiles();
+    void writeScheduledLists();
     /// Answers with the shows that `find` returns. `find` runs on the global queue.
     void answerShows(QueuePriority priority, MainBlock<ShowSpan> mainBlock,
                      std::function<ShowItems(const TVListingsEnvironment&, const AllShows&)> find);
     DispatchQueue& mainQueue() const { return environment.queues.mainQueue(); }
     void setTimeLoaded(const ObjectId& channel) const;
-    /// The list in the channel's file without ended shows; null when none is left.
-    std::shared_ptr<const ChannelList> readList(const ObjectId& channel) const;
+    /// What a channel's file holds.
+    struct ReadList {
+        /// Without ended shows; null when none is left.
+        std::shared_ptr<const ChannelList> list;
+        /// When the last show ends, ended or not; nothing without a readable file.
+        std::optional<Moment> lastEnd;
+    };
+    ReadList readList(const ObjectId& channel) const;
 
     // ---- on the access queue
 
     void saveAllShows(bool updatePopular);
     void replaceList(const ObjectId& channel, ShowItems shows);
-    void unload(const ObjectId& channel) const;
+    /// The latest load time of the selected channels' files that is not after the time of the clock.
+    Moment latestLoad() const;
+    /// Makes channels due whose files hold no show to come, and deletes the files that are long over.
+    void unload(const std::vector<std::pair<ObjectId, std::optional<Moment>>>& lastEnds) const;
     std::vector<ShowSpan> onAirShows(const std::vector<ObjectId>& channels, int limit) const;
 
     TVListingsEnvironment environment;

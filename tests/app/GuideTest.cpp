@@ -124,6 +124,35 @@ TEST(Guide, WritesItsListsWhenMemoryIsShort) {
     EXPECT_EQ(world.titles(u"first"_s).size(), 6);
 }
 
+TEST(Guide, OpensAReadOnlyProfileAndSaysSoOnce) {
+    GuideWorld world;
+    world.serve(u"first"_s, 1, world.feed(u"Morning"_s, 6));
+    world.start();
+    ASSERT_TRUE(world.check());
+    EXPECT_EQ(world.guide->tabBarController().presentedNotice(), nullptr);
+    world.end();
+
+    world.folders.writable = false;
+    world.serve(u"second"_s, 1, world.feed(u"Noon"_s, 6));
+    const auto entries = [&] {
+        QStringList found;
+        for (const QFileInfo& info : QDir(world.folders.caches).entryInfoList(QDir::Files)) {
+            found.append(info.fileName() + info.lastModified().toString(Qt::ISODateWithMs));
+        }
+        return found;
+    };
+    const QStringList before = entries();
+    world.start();
+    ASSERT_NE(world.guide->tabBarController().presentedNotice(), nullptr);
+    EXPECT_EQ(world.titles(u"first"_s).value(0), u"Morning 0"_s);
+    world.guide->tabBarController().dismissNotice();
+    ASSERT_TRUE(world.check());
+    EXPECT_EQ(world.guide->tabBarController().presentedNotice(), nullptr);
+    EXPECT_EQ(world.titles(u"second"_s).size(), 6) << "kept in memory";
+    world.end();
+    EXPECT_EQ(entries(), before);
+}
+
 TEST(Guide, ShutsDownQuicklyWhileAScreenSuspendsTheLoadQueue) {
     GuideWorld world;
     world.start();

@@ -4,6 +4,8 @@
 #include "fakes/ManualQueues.h"
 #include "platform/queues/ThreadedQueues.h"
 
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -48,6 +50,17 @@ TEST_F(UpdateCycleTest, ChannelsOfOneFeedAreLoadedByOneRequest) {
     check(world);
     EXPECT_EQ(world.requests(), QStringList{kShared}) << "the second channel has too few shows";
     EXPECT_EQ(world.parses.at(0).items, "2 n.two sk");
+}
+
+TEST_F(UpdateCycleTest, ItsListsAreWrittenSoonAfterwards) {
+    UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
+    world.answer(kShared, "1 6");
+    check(world);
+    const QString file = world.listingsFile(UpdateWorld::channelNumbered(1));
+    EXPECT_FALSE(QFile::exists(file));
+    clock.advance(20s);
+    queues.runAll();
+    EXPECT_TRUE(QFile::exists(file));
 }
 
 TEST_F(UpdateCycleTest, ALaterSourceIsAskedOnlyForChannelsWithoutShows) {

@@ -3,6 +3,7 @@
 #include "core/ListingsFile.h"
 #include "fakes/ManualQueues.h"
 #include "platform/archive/Archive.h"
+#include "platform/files/FileContent.h"
 #include "platform/files/FileReplacement.h"
 #include "platform/memory/ManualClock.h"
 #include "platform/memory/MemoryKeyValueStore.h"
@@ -115,6 +116,40 @@ TEST_F(TVChannelsTest, AnUnreadableFileIsAnEmptySelection) {
     }
 }
 
+TEST_F(TVChannelsTest, TheCopyTakesThePlaceOfADamagedFile) {
+    keyValueStore.setValue(u"SelectedChannels"_s, QCborArray{kB.data(), kA.data()});
+    EXPECT_TRUE(makeChannels().selected().empty()) << "no file was ever written";
+    ASSERT_TRUE(replaceFile(path(), archivedData(QCborArray{})));
+    EXPECT_TRUE(makeChannels().selected().empty()) << "the user selected nothing";
+
+    for (int round = 1; round <= 5; ++round) {
+        ASSERT_TRUE(replaceFile(path(), QByteArray::number(round)));
+        EXPECT_EQ(makeChannels().selected(), (std::vector{kB, kA}));
+        EXPECT_EQ(fileContent(path() + u".damaged-1"_s, 100), QByteArray::number(round));
+        EXPECT_EQ(fileContent(path(), 100), archivedData(QCborArray{kB.data(), kA.data()}));
+    }
+    EXPECT_EQ(fileContent(path() + u".damaged-3"_s, 100), "3");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 4) << "the older ones are deleted";
+
+    ASSERT_TRUE(QFile::remove(path()) && QDir().mkpath(path() + u"/inside"_s));
+    EXPECT_EQ(makeChannels().selected(), (std::vector{kB, kA})) << "a folder in the way";
+    EXPECT_EQ(fileContent(path(), 100), archivedData(QCborArray{kB.data(), kA.data()}));
+}
+
+TEST_F(TVChannelsTest, AReadOnlyProfileKeepsChangesInMemory) {
+    keyValueStore.setValue(u"SelectedChannels"_s, QCborArray{kB.data()});
+    ASSERT_TRUE(replaceFile(path(), "damaged"));
+    folders.writable = false;
+    TVChannels channels = makeChannels();
+    EXPECT_EQ(channels.selected(), std::vector{kB});
+    channels.setSelected({kA});
+    EXPECT_EQ(channels.selected(), std::vector{kA});
+    EXPECT_TRUE(channels.finishWriting());
+    EXPECT_EQ(fileContent(path(), 100), "damaged");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+    EXPECT_EQ(keyValueStore.writeCount(), 1);
+}
+
 TEST_F(TVChannelsTest, RecordsFollowTheSelection) {
     TVChannels channels = makeChannels();
     channels.setSelected({kA, kB, kC, kUnknown});
@@ -162,6 +197,7 @@ TEST_F(TVChannelsTest, AChannelIsDueByItsAge) {
     ASSERT_TRUE(replaceFile(file, "list", now - 24h));
     EXPECT_FALSE(channel.reloadNeeded(now, 24h));
     EXPECT_TRUE(channel.reloadNeeded(now + 1s, 24h));
+    EXPECT_TRUE(channel.reloadNeeded(now - 24h - 1s, 24h)) << "loaded in the future";
     channel.setLoading(true);
     EXPECT_FALSE(channel.reloadNeeded(now + 1s, 24h));
     channel.setLoading(false);

@@ -73,12 +73,75 @@ TEST_F(TVListingsTest, FirstReadCutsEndedShowsAndUnloadsEmptyChannels) {
     made();
     EXPECT_EQ(cachedList(1), (Titles{"A", "ended behind", "B"}));
     EXPECT_EQ(cachedList(2), Titles{});
-    EXPECT_FALSE(QFile::exists(world.listingsFile(channel(2))));
-    EXPECT_EQ(world.channels->channelWithChannelId(channel(2))->timeLoaded(), std::nullopt);
-    EXPECT_FALSE(QFile::exists(world.listingsFile(channel(3))));
-    EXPECT_TRUE(QFile::exists(world.listingsFile(ObjectId::popular())));
+    EXPECT_EQ(world.channels->channelWithChannelId(channel(2))->timeLoaded(), std::nullopt) << "it is due";
+    EXPECT_EQ(world.channels->channelWithChannelId(channel(3))->timeLoaded(), std::nullopt);
     EXPECT_EQ(found(u"b"_s), Titles{"B"}) << "all shows are those that have not ended";
     EXPECT_EQ(world.observer.replacements, 0);
+}
+
+TEST_F(TVListingsTest, FilesAreDeletedOnlyWhenTheyAreLongOver) {
+    const auto day = [](int days) { return kNow + std::chrono::days(days); };
+    struct Row {
+        const char* name;
+        int now;
+        int lastEnd;
+        int loaded;
+        int otherLoaded;
+        bool kept;
+    };
+    const Row rows[] = {
+        {"over for 14 days", 14, 0, -7, 14, true},
+        {"for longer, as another load shows", 15, 0, -7, 15, false},
+        {"the other load was long ago", 15, 0, -7, 13, true},
+        {"only this list was ever loaded", 400, 0, -7, -7, true},
+        {"the clock is a year ahead", 365, 7, 0, 0, true},
+        {"a load with a clock that was ahead", 15, 7, 0, 365, true},
+        {"which no longer helps to keep files", 30, 0, -7, 15, false},
+        {"the clock is behind", -365, 7, 0, 0, true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        clock.set(day(row.now));
+        world.writeFile(channel(1), {{day(row.lastEnd) - std::chrono::hours(2), day(row.lastEnd), u"A"_s},
+                                     {day(row.lastEnd) - std::chrono::hours(1), {}, u"B"_s}});
+        const auto date = [this](int number, Moment loaded) {
+            const QString path = world.listingsFile(channel(number));
+            QFile file(path);
+            ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+            ASSERT_TRUE(replaceFile(path, file.readAll(), loaded));
+        };
+        date(1, day(row.loaded));
+        world.writeFile(channel(2), {{day(500), day(501), u"C"_s}});
+        date(2, day(row.otherLoaded));
+        made();
+        EXPECT_EQ(QFile::exists(world.listingsFile(channel(1))), row.kept);
+        QFile::remove(world.listingsFile(channel(1)));
+    }
+}
+
+TEST_F(TVListingsTest, AStartWithAClockThatIsAheadLosesNothing) {
+    made();
+    merge({show(0, 100, u"A"_s), show(1, 2, u"B"_s, 0, channel(2))});
+    EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
+
+    clock.set(kNow + std::chrono::days(365));
+    world.makeChannels();
+    made();
+    EXPECT_EQ(onAir(), (std::vector<Titles>{{}, {}, {}}));
+    merge({show(3, 4, u"C"_s)}); // What the source has today is a year old.
+    merge({show(365 * 24, 365 * 24 + 1, u"D"_s, 0, channel(2))});
+    EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
+
+    clock.set(kNow + std::chrono::hours(1));
+    world.makeChannels();
+    made();
+    EXPECT_EQ(onAir(), (std::vector<Titles>{{"A"}, {"D"}, {}}));
+    const auto due = [this](int number) {
+        return world.channels->channelWithChannelId(channel(number))
+            ->reloadNeeded(clock.now(), std::chrono::hours(24));
+    };
+    EXPECT_FALSE(due(1));
+    EXPECT_TRUE(due(2)) << "loaded in the future";
 }
 
 TEST_F(TVListingsTest, QueriesWaitForTheFirstRead) {
@@ -128,7 +191,7 @@ TEST_F(TVListingsTest, CommitWritesFilesDatedByTheLoad) {
     world.channels->channelWithChannelId(channel(1))->requireReload(); // which found nothing
     listings->commitFiles();
     EXPECT_EQ(queues.run(kAccess), 1u);
-    EXPECT_EQ(queues.run(kFiles), 1u);
+    EXPECT_EQ(queues.run(kFiles), 2u) << "the timer and the commit";
     EXPECT_EQ(world.tasks.running(), 1u);
     queues.runAll();
     EXPECT_EQ(world.tasks.running(), 0u);
@@ -139,7 +202,7 @@ TEST_F(TVListingsTest, CommitWritesFilesDatedByTheLoad) {
     EXPECT_FALSE(listings->isScheduledForSaving(channel(2)));
     listings->commitFiles();
     queues.runAll();
-    EXPECT_EQ(world.tasks.begun(), 2u);
+    EXPECT_EQ(world.tasks.begun(), 3u);
     EXPECT_EQ(world.tasks.running(), 0u);
 }
 
@@ -150,6 +213,61 @@ TEST_F(TVListingsTest, InTheBackgroundScheduledListsAreWrittenSoon) {
     queues.runAll();
     EXPECT_EQ(world.fileTitles(channel(1)), Titles{"A"});
     EXPECT_FALSE(listings->isScheduledForSaving(channel(1)));
+}
+
+TEST_F(TVListingsTest, ListsAreWrittenSoonAfterACheckAndOtherwiseEveryTenMinutes) {
+    using namespace std::chrono_literals;
+    const auto pass = [this](std::chrono::seconds time) {
+        clock.advance(time);
+        queues.runAll();
+        return world.tasks.begun();
+    };
+    made();
+    listings->checkEnded();
+    queues.runAll();
+    EXPECT_EQ(queues.delayed(), 0u) << "nothing to write";
+
+    merge({show(0, 2, u"A"_s)});
+    listings->checkEnded();
+    queues.runAll();
+    EXPECT_EQ(pass(19s), 0u);
+    EXPECT_EQ(pass(1s), 1u);
+    EXPECT_EQ(world.fileTitles(channel(1)), Titles{"A"});
+    EXPECT_EQ(pass(1h), 1u) << "written once";
+    EXPECT_EQ(queues.delayed(), 0u);
+
+    merge({show(0, 2, u"B"_s)});
+    queues.runAll();
+    pass(5min);
+    merge({show(0, 2, u"C"_s, 0, channel(2))});
+    queues.runAll();
+    QDir().mkdir(world.listingsFile(channel(2))); // so that writing the file fails
+    EXPECT_EQ(pass(5min), 2u);
+    EXPECT_EQ(world.fileTitles(channel(1)), Titles{"B"});
+    QDir().rmdir(world.listingsFile(channel(2)));
+    EXPECT_EQ(pass(10min), 3u);
+    EXPECT_EQ(world.fileTitles(channel(2)), Titles{"C"});
+    EXPECT_EQ(queues.delayed(), 0u);
+
+    merge({show(0, 2, u"D"_s)});
+    listings->checkEnded();
+    queues.runAll();
+    world.listings.reset();
+    pass(1h);
+    EXPECT_EQ(world.fileTitles(channel(1)), Titles{"B"}) << "timers do not outlive the store";
+}
+
+TEST_F(TVListingsTest, AReadOnlyProfileIsReadAndNothingIsWritten) {
+    world.writeFile(channel(1), {show(0, 1, u"A"_s)});
+    world.folders.writable = false;
+    made();
+    EXPECT_EQ(onAir(), (std::vector<Titles>{{"A"}, {}, {}}));
+    merge({show(0, 1, u"B"_s)});
+    listings->checkEnded();
+    EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
+    EXPECT_EQ(queues.delayed(), 0u);
+    EXPECT_EQ(onAir(), (std::vector<Titles>{{"B"}, {}, {}}));
+    EXPECT_EQ(world.fileTitles(channel(1)), Titles{"A"});
 }
 
 TEST_F(TVListingsTest, CommitBetweenMergeAndStoreLosesNothing) {
