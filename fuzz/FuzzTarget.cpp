@@ -9,8 +9,8 @@ namespace guide::fuzz {
 const std::vector<FuzzTarget>& fuzzTargets() {
     static const std::vector<FuzzTarget> all = [] {
         std::vector<FuzzTarget> targets;
-        for (const auto& group :
-             {readerTargets, feedTargets, detailTargets, textTargets, archiveTargets, sourceTargets}) {
+        for (const auto& group : {readerTargets, feedTargets, detailTargets, textTargets, archiveTargets,
+                                  sourceTargets, profileTargets}) {
             std::vector<FuzzTarget> added = group();
             std::move(added.begin(), added.end(), std::back_inserter(targets));
         }

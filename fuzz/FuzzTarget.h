@@ -28,6 +28,7 @@ std::vector<FuzzTarget> detailTargets();
 std::vector<FuzzTarget> textTargets();
 std::vector<FuzzTarget> archiveTargets();
 std::vector<FuzzTarget> sourceTargets();
+std::vector<FuzzTarget> profileTargets();
 
 /// All of the above.
 const std::vector<FuzzTarget>& fuzzTargets();
