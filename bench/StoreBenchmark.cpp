@@ -9,6 +9,7 @@
 #include "store/ShowCoding.h"
 #include "store/TVListings.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <benchmark/benchmark.h>
@@ -161,8 +162,17 @@ void onAirFloor(benchmark::State& state) {
     }
 }
 
-void writeGuide(benchmark::State& state) {
-    QTemporaryDir folder;
+/// In memory, where waiting for the disk takes no time.
+QString memoryFolder() {
+    return u"/dev/shm/lists-XXXXXX"_s;
+}
+/// Where temporary files are, normally on a disk.
+QString diskFolder() {
+    return QDir::tempPath() + u"/lists-XXXXXX"_s;
+}
+
+void writeGuide(benchmark::State& state, const QString& in) {
+    const QTemporaryDir folder(in);
     StoreSetup setup(kFiles, folder.path());
     TVListings& listings = setup.store.open();
     std::vector<LoadItem> items;
@@ -203,8 +213,8 @@ void writeGuide(benchmark::State& state) {
     state.counters["atMost"] = 2;
 }
 
-void writeFloor(benchmark::State& state) {
-    QTemporaryDir folder;
+void writeFloor(benchmark::State& state, const QString& in, Flush flush) {
+    const QTemporaryDir folder(in);
     std::vector<QByteArray> paths;
     paths.reserve(kFiles);
     for (int i = 0; i < kFiles; ++i) {
@@ -213,7 +223,7 @@ void writeFloor(benchmark::State& state) {
     bool written = true;
     for (auto _ : state) {
         for (std::size_t i = 0; i < paths.size(); ++i) {
-            written = floorReplace(paths[i], archives()[i]) && written;
+            written = floorReplace(paths[i], archives()[i], flush) && written;
         }
     }
     if (!written) {
@@ -225,8 +235,22 @@ BENCHMARK(readGuide)->Name("read200/guide")->MeasureProcessCPUTime()->Unit(bench
 BENCHMARK(readFloor)->Name("read200/floor")->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(onAirGuide)->Name("onAir/guide")->MeasureProcessCPUTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(onAirFloor)->Name("onAir/floor")->MeasureProcessCPUTime()->Unit(benchmark::kMicrosecond);
-BENCHMARK(writeGuide)->Name("write200/guide")->UseRealTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(writeFloor)->Name("write200/floor")->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(writeGuide, memory, memoryFolder())
+    ->Name("write200/guide")
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(writeFloor, memory, memoryFolder(), Flush::No)
+    ->Name("write200/floor")
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(writeGuide, disk, diskFolder())
+    ->Name("write200ToDisk/guide")
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(writeFloor, disk, diskFolder(), Flush::Yes)
+    ->Name("write200ToDisk/floor")
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace guide::bench

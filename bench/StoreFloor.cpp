@@ -107,11 +107,12 @@ std::vector<FloorShow> floorShows(const QByteArray& path) {
     return shows;
 }
 
-bool floorReplace(const QByteArray& path, const QByteArray& content) {
+bool floorReplace(const QByteArray& path, const QByteArray& content, Flush flush) {
     const QByteArray temporary = path + ".new";
     const int file = ::open(temporary.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
     const auto size = static_cast<std::size_t>(content.size());
-    const bool written = ::write(file, content.constData(), size) == static_cast<ssize_t>(size);
+    const bool written = ::write(file, content.constData(), size) == static_cast<ssize_t>(size) &&
+                         (flush == Flush::No || ::fdatasync(file) == 0);
     ::close(file);
     return written && std::rename(temporary.constData(), path.constData()) == 0;
 }

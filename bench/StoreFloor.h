@@ -26,7 +26,8 @@ struct FloorShow {
 /// links and pictures.
 std::vector<FloorShow> floorShows(const QByteArray& path);
 
-/// Writes a temporary file and renames it over the path.
-bool floorReplace(const QByteArray& path, const QByteArray& content);
+enum class Flush { No, Yes };
+/// Writes a temporary file, flushes it to the disk if asked to, and renames it over the path.
+bool floorReplace(const QByteArray& path, const QByteArray& content, Flush flush);
 
 } // namespace guide::bench
