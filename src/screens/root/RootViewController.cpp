@@ -187,7 +187,8 @@ Row RootViewController::channelRow(const Channel& channel) const {
     ChannelRow row{.title = channel.title, .icon = channel.icon};
     row.accessory = channel.stream ? Accessory::Play : hasShows ? Accessory::Disclosure : Accessory::Spinner;
     const auto record = m_environment->channels.channelWithChannelId(channel.identificator);
-    if (const auto loaded = record ? record->timeLoaded() : std::nullopt) {
+    if (const auto loaded = record ? record->timeLoaded() : std::nullopt;
+        loaded && *loaded <= m_environment->clock.now()) {
         row.subtitle = Localized::tr("Updated ") +
                        m_environment->device.locale().toString(localTime(m_environment->device, *loaded),
                                                                QLocale::ShortFormat);
