@@ -159,8 +159,9 @@ LoadedCatalogue loadedCatalogue(const QString& propertyListPath, const QString& 
         const QString leftOut = tally.rows() == 0 ? u"no channels"_s : tally.summary(u"channels"_s);
         return {channelsOf(rows), leftOut.isEmpty() ? QString() : propertyListPath + u": "_s + leftOut};
     }
-    const QString problem = supplied ? u"%1 is not a catalogue: a property list with an array \"Channels\""_s
-                                     : u"the catalogue %1 cannot be found"_s;
+    const QString problem =
+        supplied ? u"%1 cannot be read as a catalogue, a property list with an array \"Channels\""_s
+                 : u"the catalogue %1 cannot be found"_s;
     // An old catalogue is better than an empty one, which would cost the user the selection.
     return {channelsOfArchive(archivePath).value_or(std::vector<CatalogueChannel>()),
             problem.arg(propertyListPath)};

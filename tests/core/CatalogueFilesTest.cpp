@@ -84,7 +84,7 @@ TEST_F(CatalogueFilesTest, AnUnreadableListFallsBackToAnOldArchive) {
     load();
     ASSERT_TRUE(replaceFile(supplied, "no property list", *fileModificationDate(archive) + 1s));
     EXPECT_EQ(load(), u"Jedna"_s);
-    EXPECT_TRUE(problem.contains(u"is not a catalogue"_s)) << problem.toStdString();
+    EXPECT_TRUE(problem.contains(u"cannot be read as a catalogue"_s)) << problem.toStdString();
     ASSERT_TRUE(QFile::remove(supplied));
     EXPECT_EQ(load(), u"Jedna"_s);
 }
