@@ -120,6 +120,11 @@ NetPage PageFetcher::netPageForRequest(HTTPRequest request, bool /*userIsWaiting
     PageText text = pageText(std::move(transfer.body), *transfer.response, m_environment.physicalMemory);
     answer.page = std::move(text.text);
     answer.reason = text.reason;
+    answer.incomplete = text.incomplete;
+    if (!answer.page || answer.incomplete) {
+        // A later request may get a better answer from the server.
+        forget(request);
+    }
     if (!answer.page) {
         logMissing(request.url, answer, transfer);
     }

@@ -38,6 +38,8 @@ struct NetPage {
     /// The status of the last answer; 0 when there was none.
     int status = 0;
     PageReason reason = PageReason::None;
+    /// The page is the beginning of one that was cut off or damaged.
+    bool incomplete = false;
 };
 
 /// The request for a schedule page, as every caller of the fetcher makes it.
@@ -64,6 +66,9 @@ class PageFetcher {
     /// Blocks until the page arrives or two attempts have failed; must not be called on the main thread.
     /// Follows one redirect, in place of the second attempt.
     NetPage netPageForRequest(HTTPRequest request, bool userIsWaitingFor) const;
+
+    /// Removes the cached answer, so that the next request asks the server.
+    void forget(const HTTPRequest& request) const { m_environment.client.removeCachedResponse(request); }
 
   private:
     PageFetcherEnvironment m_environment;

@@ -2,6 +2,9 @@
 
 #include "platform/encoding/CharacterSets.h"
 #include "platform/encoding/Decompression.h"
+#include "platform/encoding/Utf8.h"
+
+#include <algorithm>
 
 namespace guide {
 
@@ -12,11 +15,50 @@ PageText textOf(std::optional<QByteArray> text) {
     return {std::move(text), reason};
 }
 
-PageText unpacked(std::optional<QByteArray> content) {
+/// The length of the longest valid beginning.
+qsizetype validLength(QByteArrayView bytes) {
+    constexpr qsizetype kShort = 64;
+    const auto isInsideCharacter = [&bytes](qsizetype at) {
+        return (static_cast<unsigned char>(bytes[at]) & 0xc0) == 0x80;
+    };
+    // What precedes `valid` is valid, and halves of the rest are examined until it is short.
+    qsizetype valid = 0;
+    qsizetype end = bytes.size();
+    while (end - valid > kShort) {
+        qsizetype middle = valid + (end - valid) / 2;
+        while (middle > valid && isInsideCharacter(middle)) {
+            --middle;
+        }
+        if (middle > valid && isValidUtf8(bytes.sliced(valid, middle - valid))) {
+            valid = middle;
+        } else {
+            end = std::max(middle, valid + kShort);
+        }
+    }
+    while (!isValidUtf8(bytes.sliced(valid, end - valid))) {
+        --end;
+    }
+    return end;
+}
+
+using Unpack = std::optional<QByteArray> (*)(QByteArrayView data, const DecompressionLimits& limits,
+                                             bool* incomplete);
+
+PageText unpacked(const QByteArray& body, const DecompressionLimits& limits, Unpack unpack) {
+    bool incomplete = false;
+    std::optional<QByteArray> content = unpack(body, limits, &incomplete);
+    if (content && incomplete) {
+        content->truncate(validLength(*content));
+        if (content->isEmpty()) {
+            content.reset();
+        }
+    }
     if (!content) {
         return {std::nullopt, PageReason::Compression};
     }
-    return textOf(utf8FromUtf8(*std::move(content)));
+    PageText text = textOf(utf8FromUtf8(*std::move(content)));
+    text.incomplete = incomplete;
+    return text;
 }
 
 /// What follows "charset=", without quotes and further parameters. Nothing when the marker is missing,
@@ -48,24 +90,24 @@ PageText pageText(QByteArray body, const HTTPResponse& response, std::uint64_t p
     const DecompressionLimits limits{physicalMemory};
     const QByteArray type = response.header("Content-Type").value_or(QByteArray());
     if (type == "application/x-xz") {
-        return unpacked(dataWithXzData(body, limits));
+        return unpacked(body, limits, dataWithXzData);
     }
     if (type == "application/x-gzip") {
         // Some servers declare a gzip file as a content encoding; the transfer has then unpacked it already.
         if (response.header("Content-Encoding") && !hasGzipSignature(body)) {
             return textOf(utf8FromUtf8(std::move(body)));
         }
-        return unpacked(dataWithCompressedData(body, limits));
+        return unpacked(body, limits, dataWithCompressedData);
     }
     if (const std::optional<QString> charset = declaredCharset(type)) {
         return textOf(charset->isEmpty() ? utf8FromUtf8(std::move(body))
                                          : utf8FromCharacterSet(std::move(body), *charset));
     }
     if (hasXzSignature(body)) {
-        return unpacked(dataWithXzData(body, limits));
+        return unpacked(body, limits, dataWithXzData);
     }
     if (hasGzipSignature(body)) {
-        return unpacked(dataWithCompressedData(body, limits));
+        return unpacked(body, limits, dataWithCompressedData);
     }
     return textOf(utf8FromUtf8(std::move(body)));
 }

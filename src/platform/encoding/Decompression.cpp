@@ -171,20 +171,23 @@ bool hasXzSignature(QByteArrayView data) {
     return beginsWith(data, kXzSignature);
 }
 
-std::optional<QByteArray> dataWithCompressedData(QByteArrayView data, const DecompressionLimits& limits) {
+std::optional<QByteArray> dataWithCompressedData(QByteArrayView data, const DecompressionLimits& limits,
+                                                 bool* incomplete) {
     const std::uint64_t limit = limits.gzipLimit();
     WholeOutput output(firstRoom(data, limit), limit);
-    switch (inflateGzip(data, output)) {
-    case GzipEnd::Complete:
-    case GzipEnd::CutShort:
-        return std::move(output).bytes();
-    case GzipEnd::Stopped:
+    const GzipEnd end = inflateGzip(data, output);
+    if (end == GzipEnd::Stopped) {
         logOverLimit(limit);
-        break;
-    case GzipEnd::Damaged:
-        break;
+        return std::nullopt;
     }
-    return std::nullopt;
+    QByteArray bytes = std::move(output).bytes();
+    if (end == GzipEnd::Damaged && (!incomplete || bytes.isEmpty())) {
+        return std::nullopt;
+    }
+    if (incomplete) {
+        *incomplete = end != GzipEnd::Complete;
+    }
+    return bytes;
 }
 
 bool unpackCompressedData(QByteArrayView data, const DecompressionLimits& limits,
@@ -198,7 +201,8 @@ bool unpackCompressedData(QByteArrayView data, const DecompressionLimits& limits
     return end == GzipEnd::Complete || end == GzipEnd::CutShort;
 }
 
-std::optional<QByteArray> dataWithXzData(QByteArrayView data, const DecompressionLimits& limits) {
+std::optional<QByteArray> dataWithXzData(QByteArrayView data, const DecompressionLimits& limits,
+                                         bool* incomplete) {
     const std::uint64_t limit = limits.xzLimit(static_cast<std::uint64_t>(data.size()));
     if (limit == 0) {
         return std::nullopt;
@@ -211,6 +215,7 @@ std::optional<QByteArray> dataWithXzData(QByteArrayView data, const Decompressio
     stream.avail_in = static_cast<std::size_t>(data.size());
     stream.next_out = reinterpret_cast<std::uint8_t*>(output.data());
     stream.avail_out = static_cast<std::size_t>(limit);
+    bool isDamaged = false;
     do {
         if (lzma_stream_decoder(&stream, std::max<std::uint64_t>(limits.physicalMemory / 4, 1), 0) !=
             LZMA_OK) {
@@ -220,15 +225,19 @@ std::optional<QByteArray> dataWithXzData(QByteArrayView data, const Decompressio
         while (outcome == LZMA_OK && stream.avail_out > 0) {
             outcome = lzma_code(&stream, LZMA_FINISH);
         }
-        if (outcome != LZMA_STREAM_END && (outcome != LZMA_OK || stream.avail_out > 0)) {
+        isDamaged = outcome != LZMA_STREAM_END && (outcome != LZMA_OK || stream.avail_out > 0);
+        if (isDamaged && !incomplete) {
             return std::nullopt;
         }
         skipPadding(stream);
-    } while (stream.avail_out > 0 &&
+    } while (!isDamaged && stream.avail_out > 0 &&
              hasXzSignature(QByteArrayView(stream.next_in, static_cast<qsizetype>(stream.avail_in))));
     const auto written = static_cast<qsizetype>(limit - stream.avail_out);
     if (written == 0) {
         return std::nullopt;
+    }
+    if (incomplete) {
+        *incomplete = isDamaged || stream.avail_out == 0;
     }
     output.truncate(written);
     return output;

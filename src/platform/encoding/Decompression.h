@@ -28,14 +28,20 @@ bool hasXzSignature(QByteArrayView data);
 
 /// Unpacks a gzip file: all members joined, bytes after the last one ignored. Of a truncated file it returns
 /// what could be unpacked. Empty, with a log line, when the data is damaged, not gzip, or over the limit.
-std::optional<QByteArray> dataWithCompressedData(QByteArrayView data, const DecompressionLimits& limits);
+///
+/// With `incomplete`, of a damaged file too it returns what could be unpacked, if there is any, and sets
+/// `incomplete` for both.
+std::optional<QByteArray> dataWithCompressedData(QByteArrayView data, const DecompressionLimits& limits,
+                                                 bool* incomplete = nullptr);
 
 /// Delivers the same content in order, in pieces of at most 256 KB. False when dataWithCompressedData would
 /// return nothing or a piece was refused; the pieces delivered until then are a prefix of the content.
 bool unpackCompressedData(QByteArrayView data, const DecompressionLimits& limits, const TakePiece& takePiece);
 
 /// Unpacks an xz file: all streams joined, truncated at the limit. Empty when the data is damaged, truncated
-/// or empty, or when unpacking needs more than a quarter of the memory.
-std::optional<QByteArray> dataWithXzData(QByteArrayView data, const DecompressionLimits& limits);
+/// or empty, or when unpacking needs more than a quarter of the memory. `incomplete` as above; it is also set
+/// for a file that exceeds the limit.
+std::optional<QByteArray> dataWithXzData(QByteArrayView data, const DecompressionLimits& limits,
+                                         bool* incomplete = nullptr);
 
 } // namespace guide
