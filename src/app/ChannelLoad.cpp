@@ -10,6 +10,8 @@ LoadFailureReason failureReason(const PassedOverSource& source) {
     switch (source.reason) {
     case PassedOverReason::NoPlan:
         return LoadFailureReason::NoSource;
+    case PassedOverReason::NotASchedule:
+        return LoadFailureReason::NotASchedule;
     case PassedOverReason::NoShows:
         return LoadFailureReason::NoShows;
     case PassedOverReason::OnlyPastShows:
@@ -50,23 +52,26 @@ void ChannelLoad::recordMissingPage(const QString& sourceId, const NetPage& answ
               .pageReason = answer.reason});
 }
 
-void ChannelLoad::recordPages(const QString& sourceId, std::size_t pages, MergeOutcome outcome,
-                              const ShowList& list, Moment at) {
+void ChannelLoad::recordPages(const LoadItem& item, std::size_t pages, const MergeResult& result, Moment at) {
     if (m_used) {
         return;
     }
-    if (outcome == MergeOutcome::Stored && list && !list->empty()) {
-        const TVEntry& last = *list->back().entry();
-        m_used = UsedSource{.sourceId = sourceId,
+    if (const auto list = result.lists.find(item.channel); list != result.lists.end()) {
+        const TVEntry& last = *list->second->back().entry();
+        m_used = UsedSource{.sourceId = item.sourceId,
                             .at = at,
                             .pages = static_cast<int>(pages),
-                            .shows = static_cast<int>(list->size()),
-                            .coveredUntil = last.endDateTime() ? last.endDateTime() : last.dateTime()};
+                            .shows = static_cast<int>(list->second->size()),
+                            .coveredUntil = last.endDateTime() ? last.endDateTime() : last.dateTime(),
+                            .incomplete = result.read.incomplete};
         return;
     }
-    passOver({.sourceId = sourceId,
-              .reason = outcome == MergeOutcome::OnlyPast ? PassedOverReason::OnlyPastShows
-                                                          : PassedOverReason::NoShows});
+    const auto outcome = result.outcomes.find(item.channel);
+    const bool isPast = outcome != result.outcomes.end() && outcome->second == MergeOutcome::OnlyPast;
+    passOver({.sourceId = item.sourceId,
+              .reason = isPast                    ? PassedOverReason::OnlyPastShows
+                        : !result.read.isSchedule ? PassedOverReason::NotASchedule
+                                                  : PassedOverReason::NoShows});
 }
 
 void ChannelLoad::passOver(const PassedOverSource& passedOver) {

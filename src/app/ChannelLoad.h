@@ -18,14 +18,14 @@ class ChannelLoad {
 
     /// The first page of the source could not be fetched.
     void recordMissingPage(const QString& sourceId, const NetPage& answer);
-    /// The pages of the source were read. `list` is the stored list, null unless the outcome is Stored.
-    void recordPages(const QString& sourceId, std::size_t pages, MergeOutcome outcome, const ShowList& list,
-                     Moment at);
+    /// The pages of the item's source were read and merged.
+    void recordPages(const LoadItem& item, std::size_t pages, const MergeResult& result, Moment at);
 
     /// The result of the load, once a source was used or all were passed over. Unset before that, and for a
     /// channel without sources.
     std::optional<SourceHealth> health(Moment now) const;
 
+    bool hasStored() const { return m_used.has_value(); }
     /// Why the load stored nothing, once all sources were passed over.
     std::optional<LoadFailure> failure() const;
 

@@ -117,10 +117,15 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
         .clock = m_environment.clock,
         .alphabet = m_alphabet,
         .hosts = m_environment.hosts,
-        .merge = [this](const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
-                        ListingsType type) { return m_listings->merge(items, std::move(parsed), now, type); },
+        .merge =
+            [this](const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, ListingsType type,
+                   const ReadOutcome& read) {
+                return m_listings->merge(items, std::move(parsed), now, type, read);
+            },
         .locale = m_environment.device.locale(),
         .timeZone = [this] { return m_environment.device.timeZone(); },
+        .physicalMemory = m_environment.device.physicalMemory(),
+        .stopped = [this] { return m_isShuttingDown.load(); },
     });
     m_sourceHealth = std::make_unique<SourceHealthRecords>(
         m_environment.folders.caches + u"/source-health.json"_s, m_environment.folders.writable);
@@ -149,9 +154,9 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
                 }
             },
         .loadsEnded =
-            [this](const std::unordered_set<ObjectId>& channels) {
+            [this](const LoadResults& results) {
                 if (m_screens) {
-                    m_screens->loadsEnded(channels);
+                    m_screens->loadsEnded(results.failureChanged);
                 }
             },
     });

@@ -75,6 +75,7 @@ bool QuellinGuideAppDelegate::shutDown(std::chrono::milliseconds atMost) {
     };
     m_screens.reset();
     m_tabBarController.reset();
+    m_isShuttingDown = true;
     m_environment.httpClient.cancelAll();
     m_pauses.interrupt();
     const bool checkEnded = !m_updateCycle || m_updateCycle->finish(left());

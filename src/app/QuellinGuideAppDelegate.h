@@ -121,6 +121,8 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     bool m_firstSelectionIgnored = false;
     /// Read by checks and queries on their own queues.
     std::atomic<int> m_showCount{4};
+    /// Ends a reader that is at work.
+    std::atomic<bool> m_isShuttingDown = false;
 
     NoFavorites m_favorites;
     NoAlarms m_alarms;

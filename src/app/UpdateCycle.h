@@ -25,12 +25,21 @@
 
 namespace guide {
 
+/// How loads have ended, or begun.
+struct LoadResults {
+    /// The channels whose load failure has changed; a load that begins clears it.
+    std::unordered_set<ObjectId> failureChanged;
+    /// The channels whose load stored nothing, and those that got a list.
+    std::vector<ObjectId> failed;
+    std::vector<ObjectId> stored;
+};
+
 /// The dependencies of the cycle. All of them must outlive the last block on its queues.
 struct UpdateCycleEnvironment {
     const Clock& clock;
     const Device& device;
     DispatchQueues& queues;
-    /// Serial, background class: runs the checks and their transfers.
+    /// Serial, background class: runs the checks.
     std::shared_ptr<DispatchQueue> checkQueue;
     /// Serial, background class: planning and parsing. The check queue waits for it, never the other way
     /// round. Suspending it delays a load before its lists reach the screens.
@@ -53,12 +62,13 @@ struct UpdateCycleEnvironment {
     /// Receives the first shows of each loaded channel, on the main queue. Not called while the application
     /// is in the background.
     std::function<void(const TopLists&)> offerTop;
-    /// Called on the main queue with the channels whose load failure has changed.
-    std::function<void(const std::unordered_set<ObjectId>&)> loadsEnded;
+    /// Called on the main queue, also in the background.
+    std::function<void(const LoadResults&)> loadsEnded;
 };
 
-/// Loads the selected channels that are due, each from the first of its sources that has shows. There is no
-/// timer: events start a check, which is cheap when nothing is due.
+/// Loads the selected channels that are due, each from the first of its sources that has shows. Up to four
+/// hosts are asked at the same time. There is no timer: events start a check, which is cheap when nothing is
+/// due.
 class UpdateCycle {
   public:
     explicit UpdateCycle(UpdateCycleEnvironment environment);
@@ -66,12 +76,11 @@ class UpdateCycle {
     /// Starts a check after the running one. Does nothing if a check is already waiting. Any thread.
     void checkAndUpdateAllChannels();
 
-    /// Ends the running check before its next step, disables later ones, and waits for the end. Returns false
-    /// on timeout. Transfers must have been cancelled, and the load queue must not be suspended.
+    /// Ends the running check before its next steps, disables later ones, and waits for the end. Returns
+    /// false on timeout. Transfers must have been cancelled, and the load queue must not be suspended.
     bool finish(std::chrono::milliseconds atMost);
 
   private:
-    class Check;
     struct State;
     std::shared_ptr<State> m_state;
 };

@@ -12,6 +12,7 @@
 #include <QLocale>
 #include <QTimeZone>
 
+#include <cstdint>
 #include <functional>
 #include <vector>
 
@@ -24,12 +25,16 @@ struct ListDriverEnvironment {
     const SourceHostTable& hosts;
     /// Receives the lists that a reader made; the store's merge.
     std::function<MergeResult(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
-                              ListingsType type)>
+                              ListingsType type, const ReadOutcome& read)>
         merge;
     /// The device's locale.
     QLocale locale = {};
     /// The device's zone, queried at each call. When empty, the system's zone.
     std::function<QTimeZone()> timeZone = {};
+    /// In bytes; a quarter of it is the most that the pages and shows of one load may take. 0 means no limit.
+    std::uint64_t physicalMemory = 0;
+    /// Whether the program is shutting down. Called often, while reading. May be empty.
+    std::function<bool()> stopped = {};
 };
 
 /// Turns fetched pages into shows. Keeps no state between two calls.
@@ -40,14 +45,15 @@ class ListDriver {
 
     /// Reads the pages, UTF-8 in the order of the URLs that the items share, with the reader of the listing
     /// type, and passes the lists to the merge even when nothing was read. Blocks while parsing. Every byte
-    /// array must own its bytes. Does not throw.
+    /// array must own its bytes. `incomplete` says that pages were cut off or damaged. When the program shuts
+    /// down while reading, nothing is merged and the result is empty. Does not throw.
     virtual MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
-                                Moment now, ListingsType type) const;
+                                Moment now, ListingsType type, bool incomplete = false) const;
 
     /// Only reads: returns what netList passes to the merge. `trace`, if given, records
-    /// the markers that the reader did not find.
+    /// the markers that the reader did not find; `outcome`, if given, receives what it found out.
     ParsedLists read(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages, Moment now,
-                     ListingsType type, MarkerTrace* trace = nullptr) const;
+                     ListingsType type, MarkerTrace* trace = nullptr, ReadOutcome* outcome = nullptr) const;
 
   private:
     ListDriverEnvironment m_environment;

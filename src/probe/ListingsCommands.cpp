@@ -23,9 +23,10 @@ ParsedLists readPages(const Context& context, const Alphabet& alphabet, const st
     const ListDriver driver({.clock = clock,
                              .alphabet = alphabet,
                              .hosts = context.hosts,
-                             .merge = mergedLists,
+                             .merge = {},
                              .locale = context.device.locale(),
-                             .timeZone = [&context] { return context.device.timeZone(); }});
+                             .timeZone = [&context] { return context.device.timeZone(); },
+                             .physicalMemory = context.device.physicalMemory()});
     return driver.read(items, pages, context.now, type, trace);
 }
 

@@ -20,6 +20,8 @@ enum class PassedOverReason {
     NoShows,
     /// All shows of its pages are over.
     OnlyPastShows,
+    /// Its pages cannot be read as a schedule at all.
+    NotASchedule,
 };
 
 struct PassedOverSource {
@@ -43,6 +45,8 @@ struct UsedSource {
     int shows = 0;
     /// The end of the last show, or its start when it has no end.
     std::optional<Moment> coveredUntil;
+    /// A page broke off, or had more shows than are kept.
+    bool incomplete = false;
 
     friend bool operator==(const UsedSource&, const UsedSource&) = default;
 };

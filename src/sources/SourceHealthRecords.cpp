@@ -24,7 +24,7 @@ constexpr int kVersion = 1;
 constexpr qint64 kMostBytes = 16 << 20;
 
 /// In the order of PassedOverReason.
-constexpr std::array kReasons{"noPlan"_L1, "noPage"_L1, "noShows"_L1, "onlyPastShows"_L1};
+constexpr std::array kReasons{"noPlan"_L1, "noPage"_L1, "noShows"_L1, "onlyPastShows"_L1, "notASchedule"_L1};
 /// In the order of PageReason.
 constexpr std::array kPageReasons{"none"_L1,  "transfer"_L1,    "cancelled"_L1, "status"_L1,
                                   "empty"_L1, "compression"_L1, "encoding"_L1};
@@ -59,6 +59,9 @@ QJsonObject jsonOf(const UsedSource& used) {
     if (used.coveredUntil) {
         json.insert(u"coveredUntil"_s, textOf(*used.coveredUntil));
     }
+    if (used.incomplete) {
+        json.insert(u"incomplete"_s, true);
+    }
     return json;
 }
 
@@ -71,7 +74,8 @@ std::optional<UsedSource> usedSource(const QJsonObject& json) {
                       .at = *at,
                       .pages = json[u"pages"_s].toInt(),
                       .shows = json[u"shows"_s].toInt(),
-                      .coveredUntil = momentOf(json[u"coveredUntil"_s])};
+                      .coveredUntil = momentOf(json[u"coveredUntil"_s]),
+                      .incomplete = json[u"incomplete"_s].toBool()};
 }
 
 QJsonObject jsonOf(const PassedOverSource& source) {

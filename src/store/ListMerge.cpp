@@ -25,6 +25,18 @@ void setEnds(std::vector<ExtendedTVEntry>& shows) {
     }
 }
 
+/// The stored shows that start after the last one that was read and are not over.
+ShowSpan storedAfter(Moment last, const ShowList& stored, Moment now) {
+    if (!stored) {
+        return {};
+    }
+    const auto rest = std::partition_point(stored->begin(), stored->end(), [&](const ShowItem& show) {
+        return show.entry()->dateTime() <= std::max(last, now);
+    });
+    const auto first = static_cast<std::size_t>(rest - stored->begin());
+    return {stored, first, stored->size() - first};
+}
+
 } // namespace
 
 bool isEmptySlotTitle(QStringView title) {
@@ -36,7 +48,7 @@ bool isEmptySlotTitle(QStringView title) {
 }
 
 MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& language, Moment now,
-                      ListingsType type) {
+                      ListingsType type, const ShowList& stored) {
     std::erase_if(parsed, [](const ExtendedTVEntry& show) { return !show.basic || !show.basic->dateTime(); });
     std::stable_sort(parsed.begin(), parsed.end(), [](const ExtendedTVEntry& a, const ExtendedTVEntry& b) {
         return startOf(a) < startOf(b);
@@ -61,25 +73,37 @@ MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& langua
     if (first == parsed.end()) {
         return {nullptr, MergeOutcome::OnlyPast};
     }
+    const ShowSpan rest = storedAfter(startOf(parsed.back()), stored, now);
+    if (!hasEnds(type) && !rest.empty()) {
+        parsed.back().basic->setEndDateTime(rest[0].entry()->dateTime());
+    }
     ShowItems items;
-    items.reserve(static_cast<std::size_t>(parsed.end() - first));
-    for (auto show = first; show != parsed.end(); ++show) {
+    const auto count = static_cast<std::size_t>(parsed.end() - first);
+    items.reserve(std::min(count + rest.size(), kMostShowsOfChannel));
+    for (auto show = first; show != parsed.end() && items.size() < kMostShowsOfChannel; ++show) {
         show->basic->setLanguage(language);
         items.emplace_back(std::move(*show));
     }
+    const ShowSpan kept = rest.prefix(kMostShowsOfChannel - items.size());
+    items.insert(items.end(), kept.begin(), kept.end());
     return {std::make_shared<const ShowItems>(std::move(items)), MergeOutcome::Stored};
 }
 
-MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
-                        ListingsType type) {
+MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, ListingsType type,
+                        const ReadOutcome& read, const std::unordered_map<ObjectId, ShowList>& stored) {
     MergeResult result;
+    result.read = read;
     for (const LoadItem& item : items) {
         if (result.outcomes.contains(item.channel)) {
             continue;
         }
         auto shows = parsed.extract(item.channel);
-        MergedList merged = mergedList(shows ? std::move(shows.mapped()) : std::vector<ExtendedTVEntry>(),
-                                       item.language, now, type);
+        result.read.incomplete =
+            result.read.incomplete || (shows && shows.mapped().size() > kMostShowsOfChannel);
+        const auto earlier = read.incomplete ? stored.find(item.channel) : stored.end();
+        MergedList merged =
+            mergedList(shows ? std::move(shows.mapped()) : std::vector<ExtendedTVEntry>(), item.language, now,
+                       type, earlier == stored.end() ? nullptr : earlier->second);
         result.outcomes.emplace(item.channel, merged.outcome);
         if (merged.list) {
             result.lists.emplace(item.channel, std::move(merged.list));

@@ -17,12 +17,24 @@ enum class MergeOutcome {
     OnlyPast,
 };
 
+/// What a reader found out about the pages that it made lists of.
+struct ReadOutcome {
+    /// A page broke off, or had more shows than are kept: the lists may lack their ends.
+    bool incomplete = false;
+    /// Something in the pages belongs to a schedule.
+    bool isSchedule = true;
+};
+
 struct MergeResult {
     /// The lists that were stored.
     std::unordered_map<ObjectId, ShowList> lists;
     /// For every load item.
     std::unordered_map<ObjectId, MergeOutcome> outcomes;
+    ReadOutcome read;
 };
+
+/// A list keeps no more shows than this; a schedule for three weeks in minutes has 30,000.
+inline constexpr std::size_t kMostShowsOfChannel = 200'000;
 
 /// Whether the title is a source's placeholder for an empty slot.
 bool isEmptySlotTitle(QStringView title);
@@ -36,12 +48,15 @@ struct MergedList {
 /// Prepares the list that a reader made for storing: sorts it stably by start, drops shows without a start, a
 /// final placeholder and all but the first of several shows with the same start, sets the end times from the
 /// next show's start for listing types other than PortNetwork and XMLTV, drops the shows before the first one
-/// that ends after `now`, and sets the language.
+/// that ends after `now`, and sets the language. Shows of `stored`, if given, that start after the last one
+/// are appended: they are what a page that broke off would have repeated.
 MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& language, Moment now,
-                      ListingsType type);
+                      ListingsType type, const ShowList& stored = nullptr);
 
-/// Does the same for every load item; of several items for one channel only the first is used.
-MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
-                        ListingsType type);
+/// Does the same for every load item; of several items for one channel only the first is used. `stored` is
+/// used for incomplete pages.
+MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, ListingsType type,
+                        const ReadOutcome& read = {},
+                        const std::unordered_map<ObjectId, ShowList>& stored = {});
 
 } // namespace guide

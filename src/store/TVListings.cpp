@@ -211,8 +211,18 @@ TVListings::TVListings(TVListingsEnvironment environment)
 TVListings::~TVListings() = default;
 
 MergeResult TVListings::merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
-                              ListingsType type) {
-    MergeResult result = mergedLists(items, std::move(parsed), now, type);
+                              ListingsType type, const ReadOutcome& read) {
+    std::unordered_map<ObjectId, ShowList> stored;
+    if (read.incomplete) {
+        m_state->access->sync([&] {
+            for (const LoadItem& item : items) {
+                if (const auto list = m_state->lists.find(item.channel); list != m_state->lists.end()) {
+                    stored.emplace(item.channel, list->second->shows());
+                }
+            }
+        });
+    }
+    MergeResult result = mergedLists(items, std::move(parsed), now, type, read, stored);
     ChannelLists made;
     for (const auto& [channel, list] : result.lists) {
         made.emplace(channel, std::make_shared<const ChannelList>(list));

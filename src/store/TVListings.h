@@ -59,7 +59,8 @@ class TVListings {
     /// Replaces the stored lists with freshly read ones, prepared as described for mergedList(). A channel
     /// whose new list is empty or entirely past keeps its old one; a channel that is no longer selected gets
     /// none. The load time of every stored channel is set on return.
-    MergeResult merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, ListingsType type);
+    MergeResult merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, ListingsType type,
+                      const ReadOutcome& read = {});
 
     /// Removes the list but not its file.
     void removeListingsForChannel(const ObjectId& channel);

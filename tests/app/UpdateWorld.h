@@ -122,7 +122,7 @@ class UpdateWorld : public UpdateStore {
                           .merge = {}})
             , world(ownWorld) {}
         MergeResult netList(const std::vector<LoadItem>& items, const std::vector<QByteArray>& pages,
-                            Moment now, ListingsType type) const override {
+                            Moment now, ListingsType type, bool) const override {
             return world.netList(items, pages, now, type);
         }
         UpdateWorld& world;
@@ -160,13 +160,18 @@ class UpdateWorld : public UpdateStore {
     std::string announced;
     /// "channel:shows " for each list offered to the screens.
     std::string offered;
+    std::function<void(const LoadResults&)> onLoadsEnded;
 
     const Reader reader{*this};
     UpdateCycle cycle{
         UpdateCycleEnvironment{clock, device, queues, checkQueue, loadQueue, tasks, state, *channels,
                                catalogue, settings, planner, fetcher, userAgent, *listings, sourceHealth,
                                reader, [] { return 4; }, [this](const TopLists& top) { offer(top); },
-                               [this](const std::unordered_set<ObjectId>& ids) {
+                               [this](const LoadResults& results) {
+                                   if (onLoadsEnded) {
+                                       onLoadsEnded(results);
+                                   }
+                                   const auto& ids = results.failureChanged;
                                    for (const ObjectId& id : std::set<ObjectId>(ids.begin(), ids.end())) {
                                        announced += std::to_string(id.bytes().back()) + ' ';
                                    }

@@ -67,15 +67,17 @@ class ListDriverTest : public ::testing::Test {
         *SourceHostTable::fromJson(R"({"FeedImageBase": "img.example", "FeedSiteHost": "site.example"})");
     std::size_t m_mergedChannels = 0;
     int m_merges = 0;
-    ListDriver m_driver{
-        {.clock = m_clock,
-         .alphabet = m_alphabet,
-         .hosts = m_hosts,
-         .merge = [this](const std::vector<LoadItem>&, const ParsedLists& parsed, Moment, ListingsType) {
-             m_mergedChannels = parsed.size();
-             ++m_merges;
-             return MergeResult{};
-         }}};
+    ReadOutcome m_outcome;
+    ListDriver m_driver{{.clock = m_clock,
+                         .alphabet = m_alphabet,
+                         .hosts = m_hosts,
+                         .merge = [this](const std::vector<LoadItem>&, const ParsedLists& parsed, Moment,
+                                         ListingsType, const ReadOutcome& outcome) {
+                             m_outcome = outcome;
+                             m_mergedChannels = parsed.size();
+                             ++m_merges;
+                             return MergeResult{};
+                         }}};
 };
 
 TEST_F(ListDriverTest, DerivesFeedIdsFromSourceIds) {
@@ -141,6 +143,62 @@ TEST_F(ListDriverTest, MergesEvenWhenNothingWasRead) {
             }
         }
     }
+}
+
+TEST_F(ListDriverTest, TellsHowCompleteTheFeedWas) {
+    const QByteArray whole = feed(show("u", "U") + show("a", "A") + show("a", "B"));
+    const struct {
+        const char* name;
+        QByteArray page;
+        bool incomplete;
+        bool isSchedule;
+    } rows[] = {
+        {"whole", whole, false, true},
+        {"no programmes", "<tv></tv>", false, true},
+        {"broken in a wanted programme", QByteArray(whole).replace(">B<", ">B&nbsp;<"), true, true},
+        {"broken in another one", QByteArray(whole).replace(">U<", ">U&nbsp;<"), false, true},
+        {"cut off", whole.chopped(20), true, true},
+        {"a web page", "<!DOCTYPE html><html><p>Log in<br></html>", true, false},
+        {"an XHTML page", "<html><p>Log in</p></html>", false, false},
+        {"an empty page", "", false, false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        m_driver.netList(items({u"s.a"_s}), {row.page}, kNow, ListingsType::XMLTV);
+        EXPECT_EQ(m_outcome.incomplete, row.incomplete);
+        EXPECT_EQ(m_outcome.isSchedule, row.isSchedule);
+    }
+    m_driver.netList(items({u"s.a"_s}), {whole}, kNow, ListingsType::XMLTV, true);
+    EXPECT_TRUE(m_outcome.incomplete) << "cut off before it was unpacked";
+}
+
+TEST_F(ListDriverTest, LimitsTheMemoryOfALoadAndStops) {
+    std::string many;
+    for (int i = 0; i < 2'000; ++i) {
+        many += show("a", "A");
+    }
+    std::size_t merged = 0;
+    bool stops = false;
+    ListDriverEnvironment environment{
+        .clock = m_clock, .alphabet = m_alphabet, .hosts = m_hosts, .merge = {}};
+    environment.merge = [&](const std::vector<LoadItem>&, const ParsedLists& parsed, Moment, ListingsType,
+                            const ReadOutcome& outcome) {
+        merged = parsed.empty() ? 0 : parsed.begin()->second.size();
+        m_outcome = outcome;
+        return MergeResult{};
+    };
+    environment.physicalMemory = std::uint64_t{4} << 20;
+    environment.stopped = [&] { return stops; };
+    const ListDriver driver(environment);
+    driver.netList(items({u"x.tv"_s}), {feed(many)}, kNow, ListingsType::XMLTV);
+    EXPECT_GT(merged, 500U);
+    EXPECT_LT(merged, 1'024U) << "a quarter of the memory";
+    EXPECT_TRUE(m_outcome.incomplete);
+
+    merged = 0;
+    stops = true;
+    driver.netList(items({u"x.tv"_s}), {feed(many)}, kNow, ListingsType::XMLTV);
+    EXPECT_EQ(merged, 0U) << "a list that was not read to its end is not stored";
 }
 
 TEST_F(ListDriverTest, OffsetsOfThePortNetworkIncludeMinutes) {

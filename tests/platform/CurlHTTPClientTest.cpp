@@ -130,6 +130,20 @@ TEST_F(CurlHTTPClientTest, IncompleteTransfersAreErrorsWithoutABody) {
     EXPECT_EQ(result(ScriptedReply::ok(QByteArray(kBodyLimit, 'x')), request()).body.size(), kBodyLimit);
 }
 
+TEST_F(CurlHTTPClientTest, EndsATransferThatCrawls) {
+    CurlHTTPClientOptions options;
+    options.leastSpeedTime = 1s;
+    CurlHTTPClient impatient(cache, options);
+    ScriptedReply drip = ScriptedReply::raw(ScriptedReply::head(200, {"Content-Length: 1000"}));
+    for (int i = 0; i < 200; ++i) {
+        drip.then("x", 100ms);
+    }
+    server.reply(drip);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(impatient.perform(request()).error);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 10s);
+}
+
 TEST_F(CurlHTTPClientTest, LimitsInactivityAndTotalTime) {
     ScriptedReply slow = ScriptedReply::raw(ScriptedReply::head(200, {"Content-Length: 4"}));
     slow.then("p", 40ms).then("a", 40ms).then("g", 40ms).then("e", 40ms);

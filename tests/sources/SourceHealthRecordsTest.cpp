@@ -20,11 +20,12 @@ SourceHealth failedLoad() {
     return {.at = kAt,
             .used = std::nullopt,
             .passedOver = {{u"č.1"_s, PassedOverReason::NoPage, 503, PageReason::Status},
-                           {u"n.1"_s, PassedOverReason::OnlyPastShows}}};
+                           {u"n.1"_s, PassedOverReason::OnlyPastShows},
+                           {u"n.3"_s, PassedOverReason::NotASchedule}}};
 }
 
 SourceHealth goodLoad() {
-    return {.at = kAt, .used = UsedSource{u"n.2"_s, kAt, 7, 280, std::nullopt}, .passedOver = {}};
+    return {.at = kAt, .used = UsedSource{u"n.2"_s, kAt, 7, 280, std::nullopt, true}, .passedOver = {}};
 }
 
 struct SourceHealthRecordsTest : testing::Test {

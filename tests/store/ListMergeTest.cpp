@@ -71,6 +71,46 @@ TEST(ListMergeTest, MissingEndsAreTakenFromTheNextStart) {
     EXPECT_EQ((*set.list)[1].entry()->endDateTime(), hour(3));
 }
 
+TEST(ListMergeTest, IncompletePagesKeepTheStoredRest) {
+    const std::vector<TestShow> stored{{hour(-2), hour(-1), u"old"_s},
+                                       {hour(0), hour(1), u"a"_s},
+                                       {hour(1), hour(2), u"b"_s},
+                                       {hour(2), hour(4), u"c"_s},
+                                       {hour(4), hour(5), u"d"_s}};
+    ShowItems storedItems;
+    for (const TestShow& show : stored) {
+        storedItems.push_back(item(show));
+    }
+    const auto list = std::make_shared<const ShowItems>(std::move(storedItems));
+    struct Row {
+        const char* name;
+        std::vector<TestShow> shows;
+        ListingsType type;
+        Titles expected;
+        Moment lastEnd;
+    };
+    using enum ListingsType;
+    const Row rows[] = {
+        {"the rest is kept",
+         {{hour(0), hour(1), u"A"_s}, {hour(1), hour(3), u"B"_s}},
+         XMLTV,
+         {"A", "B", "c", "d"},
+         hour(3)},
+        {"starts in between", {{hour(3), hour(4), u"C"_s}}, XMLTV, {"C", "d"}, hour(4)},
+        {"longer than the stored list", {{hour(8), hour(9), u"E"_s}}, XMLTV, {"E"}, hour(9)},
+        {"an end that was guessed", {{hour(1), {}, u"B"_s}}, Palinsesto, {"B", "c", "d"}, hour(2)},
+        {"only past shows", {{hour(-2), hour(-1), u"X"_s}}, XMLTV, {}, {}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const MergedList merged = mergedList(parsed(row.shows), u"cs"_s, kNow, row.type, list);
+        EXPECT_EQ(merged.list ? titles(*merged.list) : Titles(), row.expected);
+        if (merged.list) {
+            EXPECT_EQ((*merged.list)[row.shows.size() - 1].entry()->endDateTime(), row.lastEnd);
+        }
+    }
+}
+
 TEST(ShowUpdatesTest, DetailsExtendTheShowOfTheEntry) {
     const auto details = std::make_shared<const TVEntrySupplementalData>();
     const QSet<QUrl> pictures{QUrl(u"http://a/1"_s)};

@@ -182,6 +182,21 @@ TEST_F(TVListingsTest, MergeStoresSchedulesAndAnnounces) {
     EXPECT_EQ(world.observer.replacements, 2);
 }
 
+TEST_F(TVListingsTest, OnlyIncompletePagesKeepStoredShows) {
+    made();
+    const std::vector<LoadItem> items{{channel(1), u"one"_s, u"cs"_s}};
+    const std::vector<TestShow> whole{{hour(0), hour(1), u"A"_s}, {hour(1), hour(2), u"B"_s}};
+    const std::vector<TestShow> part{{hour(0), hour(1), u"A2"_s}};
+    merge(whole);
+    const MergeResult result =
+        listings->merge(items, parsed(part), clock.now(), ListingsType::XMLTV, {.incomplete = true});
+    EXPECT_TRUE(result.read.incomplete);
+    EXPECT_EQ(result.lists.at(channel(1))->size(), 2U);
+    EXPECT_EQ(cachedList(1), (Titles{"A2", "B"}));
+    listings->merge(items, parsed(part), clock.now(), ListingsType::XMLTV);
+    EXPECT_EQ(cachedList(1), Titles{"A2"});
+}
+
 TEST_F(TVListingsTest, CommitWritesFilesDatedByTheLoad) {
     world.writeFile(channel(2), {show(0, 1, u"old file"_s)});
     made();

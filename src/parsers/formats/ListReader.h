@@ -1,5 +1,6 @@
 #pragma once
 
+#include "parsers/ReadControl.h"
 #include "parsers/markers/MarkerWalk.h"
 #include "platform/Clock.h"
 #include "platform/Moment.h"
@@ -31,6 +32,8 @@ struct ListReaderInput {
     QTimeZone deviceZone;
     /// Records markers that were not found.
     MarkerTrace& trace;
+    /// Limits the reading and records how complete it was.
+    ReadControl& control;
 };
 
 /// Adds the shows of the pages to the lists of the items' channels, in the order of reading. Skips what it

@@ -1,5 +1,6 @@
 #include "parsers/formats/PalinsestoEvents.h"
 
+#include "parsers/ParsersLog.h"
 #include "parsers/formats/EntryClassifier.h"
 #include "parsers/markers/DateText.h"
 #include "parsers/markers/MarkerWalk.h"
@@ -330,9 +331,11 @@ QString PalinsestoTexts::sentenceCase(std::string_view text) {
 
 std::optional<std::vector<ExtendedTVEntry>> palinsestoRows(const QByteArray& document,
                                                            const PalinsestoCodes& wanted,
-                                                           const Alphabet& alphabet, PalinsestoTexts& texts) {
+                                                           const Alphabet& alphabet, PalinsestoTexts& texts,
+                                                           const std::function<bool()>& stopped) {
     Rows rows(wanted, alphabet, texts);
-    if (!parseXML(document, kElementNames, rows)) {
+    if (const auto end = parseXML(document, kElementNames, rows, stopped)) {
+        qCInfo(parsersLog, "the document broke off at byte %zu: %s", end->byte, end->message.c_str());
         return std::nullopt;
     }
     return rows.take();

@@ -42,6 +42,7 @@ class PalinsestoTexts {
 /// channel is wanted. The entries have no channel.
 std::optional<std::vector<ExtendedTVEntry>> palinsestoRows(const QByteArray& document,
                                                            const PalinsestoCodes& wanted,
-                                                           const Alphabet& alphabet, PalinsestoTexts& texts);
+                                                           const Alphabet& alphabet, PalinsestoTexts& texts,
+                                                           const std::function<bool()>& stopped = {});
 
 } // namespace guide

@@ -158,7 +158,8 @@ void readPalinsestoLists(const ListReaderInput& input, ParsedLists& lists) {
         all.push_back(&item);
     }
     const auto read = [&](const QByteArray& document, const PalinsestoCodes& wanted, const Items& items) {
-        auto rows = palinsestoRows(document, wanted, input.alphabet, texts);
+        auto rows = palinsestoRows(document, wanted, input.alphabet, texts,
+                                   [&input] { return input.control.isStopped(); });
         if (!rows) {
             return;
         }

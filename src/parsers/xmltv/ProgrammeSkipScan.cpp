@@ -257,8 +257,9 @@ const char* programmeEnd(const char* at) {
 /// Scans a feed once, from "<" to "<", and records the parts to keep.
 class Scan {
   public:
-    Scan(const char* feed, const WantedChannels& wanted)
+    Scan(const char* feed, const WantedChannels& wanted, std::uint64_t mostBytes)
         : m_wanted(wanted)
+        , m_mostBytes(mostBytes)
         , m_at(feed)
         , m_keptFrom(feed) {}
 
@@ -272,7 +273,7 @@ class Scan {
             } else {
                 m_at = mark + 1;
             }
-            if (!m_at) {
+            if (!m_at || !isSmall()) {
                 return false;
             }
         }
@@ -280,17 +281,18 @@ class Scan {
             return false;
         }
         keep(m_keptFrom + std::strlen(m_keptFrom));
-        return true;
+        return isSmall();
     }
 
-    QByteArray feed() const {
-        QByteArray feed;
-        feed.resize(m_size);
-        char* to = feed.data();
+    FilteredFeed feed() && {
+        FilteredFeed filtered;
+        filtered.feed.resize(m_size);
+        char* to = filtered.feed.data();
         for (const std::string_view stretch : m_kept) {
             to = static_cast<char*>(std::memcpy(to, stretch.data(), stretch.size())) + stretch.size();
         }
-        return feed;
+        filtered.parts = std::move(m_kept);
+        return filtered;
     }
 
   private:
@@ -333,12 +335,17 @@ class Scan {
         return m_lastUnwanted;
     }
 
+    bool isSmall() const {
+        return static_cast<std::uint64_t>(m_size) + m_kept.size() * sizeof(std::string_view) <= m_mostBytes;
+    }
+
     void keep(const char* to) {
         m_kept.emplace_back(m_keptFrom, static_cast<std::size_t>(to - m_keptFrom));
         m_size += to - m_keptFrom;
     }
 
     const WantedChannels& m_wanted;
+    const std::uint64_t m_mostBytes;
     const char* m_at;
     /// The start of the part that has not been recorded yet.
     const char* m_keptFrom;
@@ -350,12 +357,30 @@ class Scan {
 
 } // namespace
 
-std::optional<QByteArray> withoutUnwantedProgrammes(const QByteArray& feed, const WantedChannels& wanted) {
+std::size_t FilteredFeed::offsetInWhole(const QByteArray& whole, std::size_t offset) const {
+    const char* last = whole.constData();
+    for (const std::string_view part : parts) {
+        const bool isPlaceholder = part.data() == kPlaceholder.data();
+        if (offset < part.size() && !isPlaceholder) {
+            last = part.data() + offset;
+            break;
+        }
+        if (offset < part.size()) {
+            break;
+        }
+        offset -= part.size();
+        last = isPlaceholder ? last : part.data() + part.size();
+    }
+    return static_cast<std::size_t>(last - whole.constData());
+}
+
+std::optional<FilteredFeed> withoutUnwantedProgrammes(const QByteArray& feed, const WantedChannels& wanted,
+                                                      std::uint64_t mostBytes) {
     if (wanted.all()) {
         return std::nullopt;
     }
-    Scan scan(feed.constData(), wanted);
-    return scan.run() ? std::optional(scan.feed()) : std::nullopt;
+    Scan scan(feed.constData(), wanted, mostBytes);
+    return scan.run() ? std::optional(std::move(scan).feed()) : std::nullopt;
 }
 
 } // namespace guide

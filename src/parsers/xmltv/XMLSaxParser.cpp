@@ -28,6 +28,14 @@ constexpr std::size_t kLeastElementSize = std::string_view("<a/>").size();
 /// The library limits the expansion of general entities, but not the number of parameter references.
 constexpr int kMostParameterReferences = 1'000;
 
+/// Longer stretches without a "<" are looked at more closely.
+constexpr std::size_t kLongStretch = std::size_t{64} << 10;
+constexpr std::size_t kMostTagBytes = std::size_t{1} << 20;
+/// The library compares every attribute of a tag with every other one, and likewise the names in the
+/// declaration of an attribute.
+constexpr std::size_t kMostAttributes = 10'000;
+constexpr std::size_t kMostDeclarationBytes = std::size_t{128} << 10;
+
 struct FreeContext {
     void operator()(xmlParserCtxtPtr context) const {
         if (context->myDoc) {
@@ -45,6 +53,49 @@ struct FreeText {
 
 std::string_view view(const xmlChar* text, std::size_t size) {
     return {reinterpret_cast<const char*>(text), size};
+}
+
+/// Whether the library can read the tag, comment or instruction that begins the text in reasonable time.
+bool isReadable(std::string_view text) {
+    if (text.starts_with("<![CDATA[")) {
+        return true;
+    }
+    const bool isDeclaration = text.starts_with("<!") && !text.starts_with("<!--");
+    text = text.substr(0, isDeclaration ? kMostDeclarationBytes : kMostTagBytes);
+    if (text.starts_with("<!--") || text.starts_with("<?")) {
+        return text.find(text[1] == '?' ? "?>" : "-->") != std::string_view::npos;
+    }
+    std::size_t values = 0;
+    for (std::size_t at = text.find_first_of(">\"'"); at != std::string_view::npos;
+         at = text.find_first_of(">\"'", at + 1)) {
+        if (text[at] == '>') {
+            return values <= kMostAttributes;
+        }
+        ++values;
+        at = text.find(text[at], at + 1);
+        if (at == std::string_view::npos) {
+            break;
+        }
+    }
+    return false;
+}
+
+/// The offset of the first tag that must not reach the library. Tags contain no "<", so that only the last
+/// "<" of each stretch is looked for.
+std::optional<std::size_t> unreadableTag(std::string_view document) {
+    std::size_t mark = document.find('<');
+    while (mark != std::string_view::npos && document.size() - mark > kLongStretch) {
+        const std::size_t last = document.substr(mark, kLongStretch).rfind('<');
+        if (last > 0) {
+            mark += last;
+            continue;
+        }
+        if (!isReadable(document.substr(mark))) {
+            return mark;
+        }
+        mark = document.find('<', mark + kLongStretch);
+    }
+    return std::nullopt;
 }
 
 /// Attributes in the form of libxml2: five pointers each, for name, prefix, namespace, value and its end.
@@ -86,8 +137,9 @@ class Attributes final : public XMLAttributes {
 /// everything else is passed to the events.
 class Parse {
   public:
-    Parse(std::span<const char* const> elementNames, XMLEvents& events)
+    Parse(std::span<const char* const> elementNames, XMLEvents& events, const std::function<bool()>& stopped)
         : m_events(events)
+        , m_mustStop(stopped)
         , m_context(xmlNewParserCtxt()) {
         if (!m_context) {
             return;
@@ -102,9 +154,10 @@ class Parse {
         *m_context->sax = handler();
     }
 
-    bool run(const char* document) {
+    std::optional<XMLBreak> run(const char* document) {
+        constexpr auto kNoMemory = "out of memory";
         if (!m_context) {
-            return false;
+            return XMLBreak{0, kNoMemory};
         }
         m_document = document;
         m_bound = m_document.size() + kEntityAllowance;
@@ -112,14 +165,17 @@ class Parse {
         xmlParserInputPtr input =
             xmlNewStringInputStream(m_context.get(), reinterpret_cast<const xmlChar*>(document));
         if (!input) {
-            return false;
+            return XMLBreak{0, kNoMemory};
         }
         inputPush(m_context.get(), input);
         m_context->userData = this;
         xmlParseDocument(m_context.get());
         flushText();
         m_context->userData = nullptr;
-        return m_context->wellFormed && !m_stopped;
+        if (!m_context->wellFormed && !m_break) {
+            m_break = XMLBreak{m_document.size(), "the document is not well-formed"};
+        }
+        return std::move(m_break);
     }
 
   private:
@@ -151,9 +207,14 @@ class Parse {
         sax.getParameterEntity = [](void* user, const xmlChar* name) {
             Parse& parse = self(user);
             if (++parse.m_parameterReferences > kMostParameterReferences) {
-                parse.stop();
+                parse.stop("too many parameter references");
             }
             return parse.m_stopped ? nullptr : xmlSAX2GetParameterEntity(parse.m_context.get(), name);
+        };
+        sax.attributeDecl = [](void* user, const xmlChar*, const xmlChar*, int, int, const xmlChar*,
+                               xmlEnumerationPtr names) {
+            xmlFreeEnumeration(names);
+            self(user).stopIfAsked();
         };
         return sax;
     }
@@ -174,6 +235,7 @@ class Parse {
                         const xmlChar**, int attributeCount, int, const xmlChar** attributes) {
         Parse& parse = self(user);
         parse.flushText();
+        parse.stopIfAsked();
         if (parse.spend(kLeastElementSize)) {
             parse.m_events.started(parse.element(name, prefix),
                                    Attributes{parse.m_context.get(), attributeCount, attributes});
@@ -288,7 +350,7 @@ class Parse {
     static void failed(void* user, ErrorPointer error) {
         if (error->level == XML_ERR_FATAL) {
             self(user).flushText();
-            self(user).stop();
+            self(user).stop(error->message ? error->message : "");
         }
     }
 
@@ -296,12 +358,24 @@ class Parse {
     bool spend(std::size_t bytes) {
         m_delivered += bytes;
         if (m_delivered > m_bound) {
-            stop();
+            stop("the entities of the document are too large");
         }
         return !m_stopped;
     }
 
-    void stop() {
+    void stopIfAsked() {
+        if (!m_stopped && m_mustStop && m_mustStop()) {
+            stop("the reader stopped");
+        }
+    }
+
+    void stop(std::string_view why) {
+        if (!m_break) {
+            // Of the document, not of the entity that is being read.
+            const auto byte = m_context->inputNr > 0 ? offset(m_context->inputTab[0]->cur) : std::nullopt;
+            why = why.substr(0, why.find('\n'));
+            m_break = XMLBreak{byte.value_or(0), std::string(why)};
+        }
         m_stopped = true;
         // Inside a parameter entity the library still reads input that stopping would free. It is then
         // stopped at the next opportunity and delivers nothing until then.
@@ -311,7 +385,9 @@ class Parse {
     }
 
     XMLEvents& m_events;
+    const std::function<bool()>& m_mustStop;
     Context m_context;
+    std::optional<XMLBreak> m_break;
     std::vector<const xmlChar*> m_names;
     std::string_view m_document;
     /// Text not yet delivered: its span in the document, or a copy when carriage returns are in between.
@@ -327,10 +403,17 @@ class Parse {
 
 } // namespace
 
-bool parseXML(const QByteArray& document, std::span<const char* const> elementNames, XMLEvents& events) {
+std::optional<XMLBreak> parseXML(const QByteArray& document, std::span<const char* const> elementNames,
+                                 XMLEvents& events, const std::function<bool()>& stopped) {
     static std::once_flag initialised;
     std::call_once(initialised, xmlInitParser);
-    return Parse(elementNames, events).run(document.constData());
+    Parse parse(elementNames, events, stopped);
+    const auto tag = unreadableTag({document.constData(), std::strlen(document.constData())});
+    if (!tag) {
+        return parse.run(document.constData());
+    }
+    parse.run(document.left(static_cast<qsizetype>(*tag)).constData());
+    return XMLBreak{*tag, "a tag is longer than 1 MB or has too many attributes"};
 }
 
 } // namespace guide

@@ -3,8 +3,10 @@
 #include <QByteArray>
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -33,10 +35,21 @@ class XMLEvents {
     virtual void ended(std::size_t element) = 0;
 };
 
-/// Parses a document up to its first zero byte or the first fatal error. Returns whether it was well-formed.
+/// Where and why a parse ended before the end of its document.
+struct XMLBreak {
+    /// The offset of the byte that the parser had reached.
+    std::size_t byte = 0;
+    std::string message;
+};
+
+/// Parses a document up to its first zero byte or the first fatal error, which it returns; nothing when the
+/// document was well-formed. A start tag of more than 1 MB or with thousands of attributes, on which the
+/// library would spend minutes, counts as an error. `stopped`, if given, is called for every element and ends
+/// the parse when it returns true.
 ///
 /// The document is UTF-8 regardless of its declaration. External resources are never read, and entity
 /// expansion is limited. `document` must end in a zero byte, as every QByteArray that owns its bytes does.
-bool parseXML(const QByteArray& document, std::span<const char* const> elementNames, XMLEvents& events);
+std::optional<XMLBreak> parseXML(const QByteArray& document, std::span<const char* const> elementNames,
+                                 XMLEvents& events, const std::function<bool()>& stopped = {});
 
 } // namespace guide

@@ -1,5 +1,6 @@
 #include "parsers/xmltv/XMLTVListReader.h"
 
+#include "parsers/ParsersLog.h"
 #include "parsers/xmltv/ProgrammeSkipScan.h"
 #include "parsers/xmltv/XMLTVToEntries.h"
 
@@ -11,6 +12,14 @@ namespace guide {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Logs where a page broke off. `kept` is what was read of the page, if it was not the whole.
+void logBreak(const QByteArray& page, const std::optional<FilteredFeed>& kept, const XMLBreak& end) {
+    const std::size_t byte = kept ? kept->offsetInWhole(page, end.byte) : end.byte;
+    const auto line = std::count(page.cbegin(), page.cbegin() + static_cast<qsizetype>(byte), '\n') + 1;
+    qCInfo(parsersLog, "the feed broke off at line %lld, byte %zu: %s", static_cast<long long>(line), byte,
+           end.message.c_str());
+}
 
 /// The channel that gets the shows of `feedChannel`; nothing when it is unwanted.
 std::optional<ObjectId> channelOf(const QString& feedChannel, const std::vector<LoadItem>& items,
@@ -58,11 +67,22 @@ void readXMLTVLists(const ListReaderInput& input, ParsedLists& lists) {
                                          .imageBase = imageBase ? *imageBase + "/images/"_L1 : QString(),
                                          .siteHost = input.hosts.name(u"FeedSiteHost"_s).value_or(QString())},
                                .now = input.clock.now(),
-                               .useImage = useImage};
+                               .useImage = useImage,
+                               .control = &input.control};
 
+    bool isSchedule = false;
     for (const QByteArray& page : input.pages) {
-        const auto kept = withoutUnwantedProgrammes(page, filter);
-        XMLTVToEntries reader(kept ? *kept : page, wanted, options);
+        if (input.control.isStopped()) {
+            break;
+        }
+        // One half for the programmes to read, the other one for their shows.
+        const auto kept = withoutUnwantedProgrammes(page, filter, input.control.memoryLeft() / 2);
+        XMLTVToEntries reader(kept ? kept->feed : page, wanted, options);
+        isSchedule = isSchedule || reader.hasProgrammes() || page.contains("<tv");
+        if (reader.brokeOff() && !page.isEmpty()) {
+            logBreak(page, kept, *reader.brokeOff());
+            input.control.setIncomplete();
+        }
         for (FeedChannelEntries& feedChannel : reader.entries()) {
             const auto channel = channelOf(feedChannel.sourceId, input.items, wanted);
             if (!channel) {
@@ -75,6 +95,9 @@ void readXMLTVLists(const ListReaderInput& input, ParsedLists& lists) {
             }
             std::move(feedChannel.entries.begin(), feedChannel.entries.end(), std::back_inserter(list));
         }
+    }
+    if (!isSchedule) {
+        input.control.setNotASchedule();
     }
     if (lists.empty()) {
         input.trace.miss(wanted.empty() ? "<programme" : "channel=\"" + wanted.front().toStdString() + '"');

@@ -33,9 +33,10 @@ static_assert(kElementNames.size() == static_cast<std::size_t>(XMLTVElement::Ser
 
 } // namespace
 
-void parseXMLTV(const QByteArray& document, XMLTVEvents& events) {
+std::optional<XMLBreak> parseXMLTV(const QByteArray& document, XMLTVEvents& events,
+                                   const std::function<bool()>& stopped) {
     Events named(events);
-    parseXML(document, kElementNames, named);
+    return parseXML(document, kElementNames, named, stopped);
 }
 
 } // namespace guide

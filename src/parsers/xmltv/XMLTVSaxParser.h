@@ -37,6 +37,7 @@ class XMLTVEvents {
 };
 
 /// Parses a whole feed, as parseXML does.
-void parseXMLTV(const QByteArray& document, XMLTVEvents& events);
+std::optional<XMLBreak> parseXMLTV(const QByteArray& document, XMLTVEvents& events,
+                                   const std::function<bool()>& stopped = {});
 
 } // namespace guide

@@ -30,11 +30,13 @@ XMLTVToEntries::XMLTVToEntries(const QByteArray& data, const std::vector<QString
         QStringList list(channels.begin(), channels.end());
         qCInfo(parsersLog, "channels=%s", qUtf8Printable(list.join(u", "_s)));
     }
-    parseXMLTV(data, *this);
+    m_break = parseXMLTV(
+        data, *this, [this] { return m_isFull || (m_options.control && m_options.control->isStopped()); });
 }
 
 void XMLTVToEntries::started(XMLTVElement element, const XMLTVAttributes& attributes) {
     if (element == XMLTVElement::Programme) {
+        m_hasProgrammes = true;
         startProgramme(attributes);
         return;
     }
@@ -163,7 +165,32 @@ void XMLTVToEntries::ended(XMLTVElement element) {
     }
 }
 
+bool XMLTVToEntries::hasRoomForShow() {
+    if (!m_options.control) {
+        return true;
+    }
+    std::size_t textBytes = 0;
+    for (const FeedText* text : {&m_show.title, &m_show.subtitle, &m_show.description, &m_show.roles,
+                                 &m_show.directedBy, &m_show.icon}) {
+        textBytes += text->bytes().size();
+    }
+    const auto channel = m_channelIndices.find(m_show.sourceId);
+    const bool hasPlace =
+        channel == m_channelIndices.end() || m_entries[channel->second].entries.size() < kMostShowsOfChannel;
+    // Without memory for this show there is none for the following ones.
+    m_isFull = hasPlace && !m_options.control->countShow(textBytes);
+    if (hasPlace && !m_isFull) {
+        return true;
+    }
+    m_options.control->setIncomplete();
+    return false;
+}
+
 bool XMLTVToEntries::finishShow() {
+    if (!hasRoomForShow()) {
+        m_hasShow = false;
+        return true;
+    }
     std::optional<ExtendedTVEntry> entry = m_maker.make(m_show, m_category);
     if (!entry) {
         return false;

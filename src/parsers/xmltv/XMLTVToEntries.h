@@ -1,5 +1,6 @@
 #pragma once
 
+#include "parsers/ReadControl.h"
 #include "parsers/xmltv/FeedShow.h"
 #include "parsers/xmltv/WantedChannels.h"
 #include "parsers/xmltv/XMLTVSaxParser.h"
@@ -24,6 +25,8 @@ struct XMLTVOptions {
     Moment now;
     /// Whether `image` elements are read as pictures.
     bool useImage = false;
+    /// Limits the shows; may be null.
+    ReadControl* control = nullptr;
 };
 
 /// The shows of one channel of a feed, in document order.
@@ -44,6 +47,10 @@ class XMLTVToEntries : private XMLTVEvents {
     /// In the order in which the channels appear. The caller may move the entries out.
     std::vector<FeedChannelEntries>& entries() { return m_entries; }
 
+    /// Where the feed broke off.
+    const std::optional<XMLBreak>& brokeOff() const { return m_break; }
+    bool hasProgrammes() const { return m_hasProgrammes; }
+
   private:
     void started(XMLTVElement element, const XMLTVAttributes& attributes) override;
     void text(std::string_view piece) override;
@@ -52,6 +59,8 @@ class XMLTVToEntries : private XMLTVEvents {
     void startProgramme(const XMLTVAttributes& attributes);
     /// False when the show is a placeholder, whose end tag is then ignored.
     bool finishShow();
+    /// False when the show exceeds the limits.
+    bool hasRoomForShow();
 
     const XMLTVOptions m_options;
     FeedShowMaker m_maker;
@@ -67,6 +76,10 @@ class XMLTVToEntries : private XMLTVEvents {
     bool m_hasShow = false;
     /// The text of all category elements of the programme.
     FeedText m_category;
+
+    std::optional<XMLBreak> m_break;
+    bool m_hasProgrammes = false;
+    bool m_isFull = false;
 
     std::vector<FeedChannelEntries> m_entries;
     std::unordered_map<std::string, std::size_t> m_channelIndices;

@@ -69,7 +69,8 @@ class CurlHTTPClient::BorrowedMulti {
 
 CurlHTTPClient::CurlHTTPClient(ResponseCache& cache, const CurlHTTPClientOptions& options)
     : m_cache(cache)
-    , m_settings{m_share.handle(), options.maximumBodySize, options.connectTo}
+    , m_settings{m_share.handle(), options.maximumBodySize, options.leastSpeed, options.leastSpeedTime,
+                 options.connectTo}
     , m_hasNetwork(options.hasNetwork) {}
 
 CurlHTTPClient::~CurlHTTPClient() = default;

@@ -21,6 +21,9 @@ struct CurlHTTPClientOptions {
     std::vector<QByteArray> connectTo;
     /// Whether the device has a network. Called on the threads of transfers that could not connect.
     std::function<bool()> hasNetwork = guide::hasNetwork;
+    /// A transfer below this many bytes a second for this time fails.
+    long leastSpeed = 100;
+    std::chrono::seconds leastSpeedTime{20};
 };
 
 /// Transfers with libcurl. Proxies come from the environment, certificates are checked against the system's

@@ -90,6 +90,8 @@ bool CurlTransfer::prepare() {
     curl_easy_setopt(easy, CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
     curl_easy_setopt(easy, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(m_settings.maximumBodySize));
     curl_easy_setopt(easy, CURLOPT_BUFFERSIZE, kBufferSize);
+    curl_easy_setopt(easy, CURLOPT_LOW_SPEED_LIMIT, m_settings.leastSpeed);
+    curl_easy_setopt(easy, CURLOPT_LOW_SPEED_TIME, static_cast<long>(m_settings.leastSpeedTime.count()));
     curl_easy_setopt(easy, CURLOPT_ERRORBUFFER, m_errorText);
     curl_easy_setopt(easy, CURLOPT_HEADERFUNCTION, &CurlTransfer::onHeader);
     curl_easy_setopt(easy, CURLOPT_HEADERDATA, this);

@@ -16,6 +16,9 @@ namespace guide {
 struct CurlTransferSettings {
     CURLSH* share = nullptr;
     qint64 maximumBodySize = 0;
+    /// In bytes a second; a transfer that is slower for that time fails.
+    long leastSpeed = 0;
+    std::chrono::seconds leastSpeedTime{0};
     std::vector<QByteArray> connectTo;
 };
 

@@ -151,7 +151,7 @@ WorkerPool::~WorkerPool() {
 }
 
 unsigned WorkerPool::defaultAtWork() {
-    return std::max(4U, std::thread::hardware_concurrency());
+    return std::max(8U, std::thread::hardware_concurrency());
 }
 
 void WorkerPool::submit(QueuePriority priority, std::shared_ptr<Work> work) {

@@ -30,7 +30,7 @@ class WorkerPool {
     WorkerPool& operator=(const WorkerPool&) = delete;
     ~WorkerPool();
 
-    /// The number of processors, at least 4: some work waits for the network without reporting it.
+    /// The number of processors, at least 8: up to four transfers wait for the network without reporting it.
     static unsigned defaultAtWork();
 
     /// Runs in order of submission within a class. Does nothing after stop.

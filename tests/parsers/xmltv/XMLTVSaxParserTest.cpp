@@ -14,12 +14,13 @@ namespace {
 class Transcript : public XMLTVEvents {
   public:
     explicit Transcript(const std::string& document) {
-        parseXMLTV(QByteArray::fromStdString(document), *this);
+        m_break = parseXMLTV(QByteArray::fromStdString(document), *this);
     }
 
     const std::string& events() const { return m_events; }
     /// The texts, separated by vertical bars.
     const std::string& pieces() const { return m_pieces; }
+    const std::optional<XMLBreak>& brokeOff() const { return m_break; }
 
   private:
     void started(XMLTVElement element, const XMLTVAttributes& attributes) override {
@@ -38,6 +39,7 @@ class Transcript : public XMLTVEvents {
 
     std::string m_events;
     std::string m_pieces;
+    std::optional<XMLBreak> m_break;
 };
 
 std::string events(const std::string& document) {
@@ -73,6 +75,67 @@ TEST(XMLTVSaxParser, ReportsTheDocument) {
     for (const Row& row : rows) {
         EXPECT_EQ(events(row.document), row.events) << row.name;
     }
+}
+
+TEST(XMLTVSaxParser, TellsWhereADocumentBrokeOff) {
+    const std::string before = "<tv>\n<title>a</title>\n";
+    std::string many = "<a";
+    for (int i = 0; i < 20'000; ++i) {
+        many += " a" + std::to_string(i) + "=''";
+    }
+    const std::string filler(2'000'000, 'x');
+    const struct {
+        const char* name;
+        std::string rest;
+        bool breaks;
+        /// Part of the message.
+        const char* message;
+    } rows[] = {
+        {"well-formed", "</tv>", false, ""},
+        {"a bare ampersand", "A & B</tv>", true, "name"},
+        {"an HTML entity", "&nbsp;</tv>", true, "nbsp"},
+        {"a control character", "\x01</tv>", true, "PCDATA"},
+        {"a bare less-than", "1 < 2</tv>", true, "StartTag"},
+        {"cut off", "<title>b", true, "end of data"},
+        {"a huge value", "<a b='" + filler + "'/></tv>", true, "1 MB"},
+        {"a huge value with signs", "<a b='>" + filler + "\"'/></tv>", true, "1 MB"},
+        {"a huge tag without an end", "<a " + filler, true, "1 MB"},
+        {"too many attributes", many + "/></tv>", true, "attributes"},
+        {"a huge comment", "<!--" + filler + "--></tv>", true, "1 MB"},
+        {"a huge text", "<title>" + filler + "</title></tv>", false, ""},
+        {"a huge section", "<![CDATA[" + filler + "]]></tv>", false, ""},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const Transcript read(before + row.rest);
+        EXPECT_TRUE(read.events().starts_with("<>\n<title>a/"));
+        ASSERT_EQ(read.brokeOff().has_value(), row.breaks);
+        if (read.brokeOff()) {
+            EXPECT_NE(read.brokeOff()->message.find(row.message), std::string::npos)
+                << read.brokeOff()->message;
+            EXPECT_GE(read.brokeOff()->byte, before.size());
+            EXPECT_LE(read.brokeOff()->byte, before.size() + 10);
+        }
+    }
+}
+
+TEST(XMLTVSaxParser, EndsAtAHugeDeclaration) {
+    std::string names = "n";
+    for (int i = 0; i < 200'000; ++i) {
+        names += "|n" + std::to_string(i);
+    }
+    const Transcript read("<!DOCTYPE a [<!ATTLIST a b (" + names + ") #IMPLIED>]><a/>");
+    EXPECT_TRUE(read.brokeOff());
+    EXPECT_EQ(read.events(), "");
+}
+
+TEST(XMLTVSaxParser, StopsWhenAsked) {
+    int elements = 0;
+    Transcript events("<a/>");
+    const auto end = parseXMLTV("<a>" + QByteArray("<b/>").repeated(100) + "</a>", events,
+                                [&elements] { return ++elements == 10; });
+    EXPECT_TRUE(end);
+    EXPECT_EQ(elements, 10);
 }
 
 TEST(XMLTVSaxParser, DoesNotSplitText) {
