@@ -9,6 +9,7 @@
 #include "platform/Device.h"
 #include "platform/KeyValueStore.h"
 #include "platform/LifeCycle.h"
+#include "platform/NetworkWatch.h"
 #include "platform/UserDefaults.h"
 #include "platform/files/Folders.h"
 #include "platform/http/HTTPClient.h"
@@ -41,6 +42,8 @@ struct ApplicationEnvironment {
     ResponseCache& responseCache;
     /// The normal capacity of the response cache, in bytes.
     std::size_t responseCacheCapacity = 0;
+    /// Null when nothing reports that the device has got a network.
+    NetworkWatch* networkWatch = nullptr;
     AudioSession& audioSession;
     Promotion& promotion;
 

@@ -32,6 +32,7 @@ bool QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBar
     // Starts reading the listing files.
     makeListings();
     makeUpdateCycle();
+    makeRetries();
     makeScreens();
     showWindow(*m_tabBarController);
     m_environment.audioSession.setCategory(AudioSessionCategory::Playback, false);
@@ -155,11 +156,23 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
             },
         .loadsEnded =
             [this](const LoadResults& results) {
+                if (m_retries) {
+                    m_retries->loadsEnded(results);
+                }
                 if (m_screens) {
                     m_screens->loadsEnded(results.failureChanged);
                 }
             },
     });
+}
+
+void QuellinGuideAppDelegate::makeRetries() {
+    m_retries =
+        std::make_unique<LoadRetries>(m_environment.clock, m_environment.queues.mainQueue(), *m_channels,
+                                      [this] { m_updateCycle->checkAndUpdateAllChannels(); });
+    if (m_environment.networkWatch) {
+        m_environment.networkWatch->watch([this] { m_retries->networkAppeared(); });
+    }
 }
 
 void QuellinGuideAppDelegate::makeScreens() {

@@ -13,6 +13,7 @@ void QuellinGuideAppDelegate::applicationDidBecomeActive() {
     m_screens->applicationDidBecomeActive();
     m_alarms.syncAlarms();
     checkAndUpdateAllChannels();
+    m_retries->setActive(true);
 }
 
 void QuellinGuideAppDelegate::applicationSignificantTimeChange() {
@@ -20,6 +21,7 @@ void QuellinGuideAppDelegate::applicationSignificantTimeChange() {
 }
 
 void QuellinGuideAppDelegate::applicationDidEnterBackground() {
+    m_retries->setActive(false);
     m_alarms.commit();
     m_environment.userDefaults.synchronize();
     m_channels->retryWriting();

@@ -73,6 +73,10 @@ bool QuellinGuideAppDelegate::shutDown(std::chrono::milliseconds atMost) {
         return std::max(std::chrono::milliseconds(0), std::chrono::duration_cast<std::chrono::milliseconds>(
                                                           end - std::chrono::steady_clock::now()));
     };
+    if (m_environment.networkWatch) {
+        m_environment.networkWatch->watch(nullptr);
+    }
+    m_retries.reset();
     m_screens.reset();
     m_tabBarController.reset();
     m_isShuttingDown = true;

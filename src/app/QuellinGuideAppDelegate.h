@@ -3,6 +3,7 @@
 #include "app/AlarmUpdater.h"
 #include "app/ApplicationEnvironment.h"
 #include "app/InterruptibleWait.h"
+#include "app/LoadRetries.h"
 #include "app/NullServices.h"
 #include "app/UpdateCycle.h"
 #include "core/Catalogue.h"
@@ -97,6 +98,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void makeSelection();
     void makeListings();
     void makeUpdateCycle();
+    void makeRetries();
     void makeScreens();
     void setup();
     void cleanUpSelection();
@@ -148,6 +150,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     std::unique_ptr<ListDriver> m_listDriver;
     std::unique_ptr<SourceHealthRecords> m_sourceHealth;
     std::unique_ptr<UpdateCycle> m_updateCycle;
+    std::unique_ptr<LoadRetries> m_retries;
     std::unique_ptr<GuidePictures> m_guidePictures;
     std::unique_ptr<TabBarController> m_tabBarController;
     std::unique_ptr<ScreenBroadcast> m_screens;

@@ -19,6 +19,7 @@
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxDevice.h"
 #include "platform/linux/LinuxFolders.h"
+#include "platform/linux/LinuxNetworkWatch.h"
 #include "platform/linux/SettingsUserDefaults.h"
 #include "platform/linux/TerminationSignals.h"
 #include "ui/GuideWindow.h"
@@ -123,6 +124,7 @@ int run(LaunchOptions options) {
         std::min<std::size_t>(kMostResponseCache, std::size_t(device.physicalMemory() / 16));
     ResponseCache responseCache(clock, cacheCapacity, [&] { return settings.automaticUpdateInterval(); });
     CurlHTTPClient httpClient(responseCache);
+    LinuxNetworkWatch networkWatch;
     LinuxAudioSession audioSession;
     Promotion promotion;
 
@@ -138,6 +140,7 @@ int run(LaunchOptions options) {
         .httpClient = httpClient,
         .responseCache = responseCache,
         .responseCacheCapacity = cacheCapacity,
+        .networkWatch = &networkWatch,
         .audioSession = audioSession,
         .promotion = promotion,
         .hosts = files->hosts,

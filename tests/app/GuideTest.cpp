@@ -152,6 +152,19 @@ TEST(Guide, ASlowHostHoldsUpNoOther) {
     world.end();
 }
 
+TEST(Guide, LoadsWhatFailedWhenTheNetworkIsBack) {
+    GuideWorld world;
+    world.start();
+    world.guide->applicationDidBecomeActive();
+    const auto first = world.guide->channels().channelWithChannelId(GuideWorld::channel(1));
+    ASSERT_TRUE(world.runUntil([&] { return first->loadFailure().has_value(); }));
+    EXPECT_EQ(*first->loadFailure(), (LoadFailure{LoadFailureReason::Status, u"127.0.0.1"_s, 404}));
+    world.serve(u"first"_s, 1, world.feed(u"Back"_s, 6));
+    world.networkWatch.appear();
+    EXPECT_TRUE(world.runUntil([&] { return first->timeLoaded().has_value(); }));
+    EXPECT_EQ(first->loadFailure(), std::nullopt);
+}
+
 TEST(Guide, WritesItsListsWhenMemoryIsShort) {
     GuideWorld world;
     world.serve(u"first"_s, 1, world.feed(u"Morning"_s, 6));

@@ -132,6 +132,7 @@ void GuideWorld::start() {
         .httpClient = *m_client,
         .responseCache = *m_cache,
         .responseCacheCapacity = std::size_t(1) << 24,
+        .networkWatch = &networkWatch,
         .audioSession = m_audio,
         .promotion = m_promotion,
         .hosts = hosts,

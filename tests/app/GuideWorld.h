@@ -4,6 +4,7 @@
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeBackgroundTasks.h"
 #include "fakes/FakeDevice.h"
+#include "fakes/FakeNetworkWatch.h"
 #include "fakes/ScriptedServer.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/LinuxAudioSession.h"
@@ -100,6 +101,7 @@ class GuideWorld {
     MemoryUserDefaults userDefaults;
     MemoryKeyValueStore keyValueStore;
     FakeApplicationState state;
+    FakeNetworkWatch networkWatch;
     std::unique_ptr<ScriptedServer> server = std::make_unique<ScriptedServer>();
     std::unique_ptr<QuellinGuideAppDelegate> guide;
     Folders folders;
