@@ -3,7 +3,7 @@
 
     tools/kills.py [--kills 200]
 
-Each run starts the demo on a fresh profile or on one that was killed before, one day later by its own clock, so that
+Each run starts the demo on a fresh profile or on one that was killed before, a day later by its own clock, so that
 its lists are loaded again. Half of the runs are killed at a random moment, the other half while lists are written after
 a load. Then `quellin-probe archives` reads every list, selection and catalogue of the profile, and every JSON file is
 parsed. A load that ended 45 s before the kill must be in its list's file; the record of the sources, which is written
@@ -25,7 +25,8 @@ import tempfile
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-DAY = datetime.timedelta(days=1)
+# Later than when any list was loaded plus the guide's interval of a day, so that every list is due again.
+STEP = datetime.timedelta(hours=25)
 # The guide writes 20 s after a check, so a load must be in its file this long after it ended.
 MOST_BEHIND = datetime.timedelta(seconds=45)
 # A run that has not written by then is killed all the same.
@@ -83,12 +84,12 @@ class Profile:
         return damaged
 
     def behind(self, killed):
-        """How long before the kill the oldest load ended that is not in its list's file."""
+        """How long before the kill the oldest load of this run ended that is not in its list's file."""
         longest = datetime.timedelta(0)
         for channel, loaded in self.health().items():
             path = self.caches / f"{channel}.plist"
             written = path.stat().st_mtime if path.exists() else 0
-            if loaded.timestamp() - written > 1:
+            if loaded >= self.now and loaded.timestamp() - written > 1:
                 longest = max(longest, killed - loaded)
         return longest
 
@@ -162,7 +163,7 @@ def main():
         is_fresh, in_writing, at_end = number % 2 == 0, number // 2 % 2 == 1, number // 4 % 2 == 1
         profile = Profile(work / f"fresh-{number}", today) if is_fresh else old
         if not is_fresh:
-            old.now += DAY
+            old.now += STEP
         log_path = work / f"{number}.log"
         with log_path.open("wb") as log:
             run = Run(options.guide, profile, log)
