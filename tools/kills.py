@@ -137,7 +137,8 @@ def kill_while_writing(run, at_end, choose):
         run.process.terminate()
     writing = loaded and run.until(lambda: run.profile.is_writing(before), WRITE_TIMEOUT, 0 if at_end else 0.0005)
     if writing:
-        time.sleep(choose.uniform(0, 0.004))
+        # While the temporary files are written, or later, when they are flushed and renamed.
+        time.sleep(choose.uniform(0, choose.choice((0.004, 0.06))))
     return run.kill(), writing
 
 
