@@ -108,6 +108,9 @@ TEST(Guide, KeepsItsListsWhateverTheServerDoes) {
         EXPECT_EQ(world.titles(u"first"_s).size(), listed) << each.name;
         EXPECT_TRUE(world.titles(u"second"_s).value(0).startsWith(each.hasShows ? u"Kept"_s : u"Other 0"_s))
             << each.name;
+        EXPECT_EQ(world.guide->sourceHealth().healthFor(GuideWorld::channel(2))->used->incomplete,
+                  each.hasShows)
+            << each.name;
         EXPECT_EQ(tabs.presentedAlert() != nullptr, each.alert) << each.name;
         if (tabs.presentedAlert()) {
             tabs.answerAlert(0);

@@ -172,6 +172,21 @@ TEST_F(ListDriverTest, TellsHowCompleteTheFeedWas) {
     EXPECT_TRUE(m_outcome.incomplete) << "cut off before it was unpacked";
 }
 
+TEST_F(ListDriverTest, LimitsTheShowsOfAChannel) {
+    const std::string one = show("a", "A");
+    std::string many;
+    many.reserve((kMostShowsOfChannel + 2) * one.size());
+    for (std::size_t i = 0; i <= kMostShowsOfChannel; ++i) {
+        many += one;
+    }
+    ReadOutcome outcome;
+    const ParsedLists lists = m_driver.read(items({u"s.a"_s, u"s.b"_s}), {feed(many + show("b", "B"))}, kNow,
+                                            ListingsType::XMLTV, nullptr, &outcome);
+    EXPECT_EQ(lists.at(channel(0)).size(), kMostShowsOfChannel);
+    EXPECT_EQ(lists.at(channel(1)).size(), 1U) << "other channels are read on";
+    EXPECT_TRUE(outcome.incomplete);
+}
+
 TEST_F(ListDriverTest, LimitsTheMemoryOfALoadAndStops) {
     std::string many;
     for (int i = 0; i < 2'000; ++i) {

@@ -79,7 +79,7 @@ void readXMLTVLists(const ListReaderInput& input, ParsedLists& lists) {
         const auto kept = withoutUnwantedProgrammes(page, filter, input.control.memoryLeft() / 2);
         XMLTVToEntries reader(kept ? kept->feed : page, wanted, options);
         isSchedule = isSchedule || reader.hasProgrammes() || page.contains("<tv");
-        if (reader.brokeOff() && !page.isEmpty()) {
+        if (reader.brokeOff() && !page.isEmpty() && !input.control.isStopped()) {
             logBreak(page, kept, *reader.brokeOff());
             input.control.setIncomplete();
         }

@@ -182,6 +182,10 @@ bool XMLTVToEntries::hasRoomForShow() {
     if (hasPlace && !m_isFull) {
         return true;
     }
+    if (!m_isCut) {
+        qCInfo(parsersLog, "the feed has more shows than fit into %s", m_isFull ? "the memory" : "a list");
+        m_isCut = true;
+    }
     m_options.control->setIncomplete();
     return false;
 }

@@ -80,6 +80,7 @@ class XMLTVToEntries : private XMLTVEvents {
     std::optional<XMLBreak> m_break;
     bool m_hasProgrammes = false;
     bool m_isFull = false;
+    bool m_isCut = false;
 
     std::vector<FeedChannelEntries> m_entries;
     std::unordered_map<std::string, std::size_t> m_channelIndices;
