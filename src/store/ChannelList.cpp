@@ -1,5 +1,7 @@
 #include "store/ChannelList.h"
 
+#include "store/ShownEnds.h"
+
 #include <algorithm>
 
 namespace guide {
@@ -7,9 +9,12 @@ namespace guide {
 ChannelList::ChannelList(ShowList shows)
     : m_shows(std::move(shows)) {
     m_times.reserve(m_shows->size());
+    const ShownEnds ends(*m_shows);
     Moment latestEnd = Moment::min();
     for (const ShowItem& show : *m_shows) {
-        const Moment end = show.entry()->endDateTime().value_or(Moment::min());
+        const TVEntry& entry = *show.entry();
+        const std::optional<Moment> shownEnd = ends.endOf(entry);
+        const Moment end = shownEnd ? *shownEnd : entry.endDateTime().value_or(Moment::min());
         latestEnd = std::max(latestEnd, end);
         m_times.push_back({*show.entry()->dateTime(), end, latestEnd});
     }

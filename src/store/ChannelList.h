@@ -15,7 +15,8 @@ class ChannelList {
   public:
     static constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
-    /// Every show must have a start.
+    /// Every show must have a start. Wrong ends are replaced as ShownEnds does; a show whose end is unknown
+    /// keeps its own.
     explicit ChannelList(ShowList shows);
 
     const ShowList& shows() const { return m_shows; }

@@ -181,7 +181,8 @@ TEST(ChannelListTest, FindsTheShowsThatAreNotOver) {
         {"ends now", {{-2, -1}, {-1, 0}, {0, 1}}, {"1", "2"}},
         {"all over", {{-9, -1}, {-8, -2}, {-7, -3}}, {}},
         {"a long one first", {{-9, 1}, {-8, -2}, {-7, -3}, {0, 1}, {1, 2}}, {"0", "3", "4"}},
-        {"one over in the middle", {{-9, -8}, {-8, 5}, {1, 2}, {1, -3}, {3, 4}}, {"1", "2", "4"}},
+        {"one over in the middle", {{-9, -8}, {-8, 5}, {-7, -3}, {1, 2}, {3, 4}}, {"1", "3", "4"}},
+        {"ends before it starts, so the next one ends it", {{-4, -1}, {-2, -9}, {1, 2}}, {"1", "2"}},
         {"many over", {{-9, -8}, {-8, -7}, {-7, -6}, {-6, -5}, {-5, -4}, {-4, -3}, {-3, -2}, {-2, 1}}, {"7"}},
     };
     for (const Row& row : rows) {
