@@ -122,6 +122,40 @@ TEST(TableTest, SingleSectionsAndRowsAreReplaced) {
     replay.expectComplete();
 }
 
+TEST(TableTest, OnlyContentChangesWhileTheRowsAreHeld) {
+    Table table;
+    TableReplay replay(table);
+    table.setHeld(true);
+    table.setSections({section(u"1"_s, u"abc"_s)});
+    EXPECT_EQ(std::exchange(replay.log, {}), QStringList{u"insert 0+3"_s})
+        << "nothing was there to be touched";
+
+    Section next{.id = u"1"_s};
+    for (const auto& [name, text] : {std::pair(u"c"_s, u"c"_s), {u"b"_s, u"new"_s}, {u"d"_s, u"d"_s}}) {
+        next.rows.push_back(textRow(u"1"_s, name, text));
+    }
+    table.setSections({next});
+    EXPECT_EQ(std::exchange(replay.log, {}), QStringList{u"update 1+2"_s});
+    EXPECT_EQ(table.latestSections()[0].rows, next.rows);
+    table.setRow(textRow(u"1"_s, u"c"_s, u"newer"_s));
+    table.setRow(textRow(u"1"_s, u"d"_s, u"newer"_s));
+    EXPECT_EQ(std::exchange(replay.log, {}), QStringList{u"update 2+1"_s});
+    replay.expectComplete();
+
+    next = table.latestSections()[0];
+    table.setHeld(false);
+    EXPECT_EQ(table.sections()[0].rows, next.rows);
+    EXPECT_EQ(std::get<TextRow>(table.rowAt(2).content).title, u"newer"_s);
+    EXPECT_FALSE(replay.log.filter(u"update"_s).size()) << "the contents were up to date";
+    replay.expectComplete();
+    table.setHeld(true);
+    table.setSections({});
+    table.setSections({next});
+    replay.log.clear();
+    table.setHeld(false);
+    EXPECT_EQ(replay.log, QStringList()) << "a change that was taken back";
+}
+
 TEST(TableTest, ChangesMadeByAnObserverFollowTheCurrentOne) {
     Table table;
     TableReplay replay(table);

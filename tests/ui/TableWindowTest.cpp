@@ -91,6 +91,42 @@ class TableWindowTest : public WindowTest {
     std::unique_ptr<TabBarController> tabs;
 };
 
+TEST_F(TableWindowTest, RowsStayWhereTheyAreUnderTheFinger) {
+    open(lines(40));
+    std::vector<Section> sections = screen->table().sections();
+    const auto removeFirst = [&] {
+        sections[0].rows.erase(sections[0].rows.begin());
+        screen->table().setSections(sections);
+    };
+    const auto count = [this] { return static_cast<std::size_t>(rows()->property("count").toInt()); };
+    const struct {
+        const char* name;
+        bool byFinger;
+        QPoint by;
+    } cases[] = {{"mouse button", false, {}},
+                 {"scroll by mouse", false, {0, -200}},
+                 {"swipe by mouse", false, {-200, 0}},
+                 {"scroll by finger", true, {0, -200}},
+                 {"swipe by finger", true, {-200, 0}}};
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        const std::size_t before = count();
+        drag(middle(row(6)), each.by, each.byFinger, [&] {
+            removeFirst();
+            EXPECT_EQ(count(), before);
+        });
+        if (each.by.x() != 0) {
+            EXPECT_EQ(count(), before) << "the swipe is open";
+            click(row(6));
+        }
+        ASSERT_TRUE(QTest::qWaitFor([&] { return count() == sections[0].rows.size(); }));
+        rows()->setProperty("contentY", rows()->property("originY"));
+        settle();
+    }
+    removeFirst();
+    EXPECT_EQ(count(), sections[0].rows.size()) << "at once when nothing is touched";
+}
+
 TEST_F(TableWindowTest, ASwipeStaysOpenWhileOtherRowsChange) {
     open(lines(12));
     const auto open = [this] { return buttons({u"Remove"_s}).size() == 1; };
@@ -103,11 +139,27 @@ TEST_F(TableWindowTest, ASwipeStaysOpenWhileOtherRowsChange) {
     std::vector<Section> fewer = screen->table().sections();
     fewer[0].rows.erase(fewer[0].rows.begin() + 7);
     replaceRows(fewer);
-    ASSERT_TRUE(open()) << "another row was removed";
+    ASSERT_TRUE(open()) << "another row is to be removed";
     EXPECT_EQ(buttons({u"Remove"_s}).constFirst()->mapToScene({}).y(), place);
     screen->setText(4, TextRow{u"Changed"_s});
     settle();
     EXPECT_FALSE(open()) << "the actions may no longer apply to the row";
+    EXPECT_EQ(rows()->property("count"), 11);
+
+    ShowRow show{.startTime = u"20:00"_s, .title = u"Show"_s};
+    screen->setText(5, show);
+    settle();
+    drag(middle(row(5)), {-200, 0}, true);
+    ASSERT_TRUE(open());
+    show.running = true;
+    show.progress = 0.1;
+    screen->setText(5, show);
+    settle();
+    EXPECT_TRUE(open()) << "only time has passed";
+    show.favourite = true;
+    screen->setText(5, show);
+    settle();
+    EXPECT_FALSE(open());
 }
 
 TEST_F(TableWindowTest, WhatIsBeingTypedSurvivesUpdates) {

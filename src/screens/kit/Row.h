@@ -20,6 +20,8 @@ enum class Accessory { None, Disclosure, Play, Spinner };
 
 /// One broadcast. Times and day are in the device's locale and zone; empty texts are not drawn.
 struct ShowRow {
+    /// Below the start time.
+    QString day = {};
     QString startTime = {};
     QString endTime = {};
     QString title = {};

@@ -5,6 +5,7 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -90,17 +91,56 @@ const Row* Table::find(const RowId& id) const {
 
 // ---- changes
 
+const std::vector<Section>& Table::latestSections() const {
+    return m_waiting ? *m_waiting : m_afterHold ? *m_afterHold : m_sections;
+}
+
 void Table::setSections(std::vector<Section> sections) {
+    m_waiting = std::move(sections);
     if (m_changing) {
-        m_waiting = std::move(sections);
         return;
     }
     m_changing = true;
-    changeTo(std::move(sections));
     while (m_waiting) {
-        changeTo(*std::exchange(m_waiting, std::nullopt));
+        changeTo(showableNow(*std::exchange(m_waiting, std::nullopt)));
     }
     m_changing = false;
+}
+
+void Table::setHeld(bool held) {
+    m_held = held;
+    if (!held && m_afterHold && !m_waiting) {
+        setSections(*std::exchange(m_afterHold, std::nullopt));
+    }
+}
+
+std::vector<Section> Table::showableNow(std::vector<Section> sections) {
+    m_afterHold.reset();
+    if (!m_held || m_lines.empty()) {
+        return sections;
+    }
+    const std::vector<Line> lines = linesOf(sections);
+    if (std::ranges::equal(lines, m_lines, [](const Line& one, const Line& other) {
+            return sameRow(*one.row, *other.row);
+        })) {
+        return sections;
+    }
+    std::unordered_map<RowId, const Row*> rows;
+    rows.reserve(lines.size());
+    for (const Line& line : lines) {
+        rows.emplace(line.row->id, line.row);
+    }
+    std::vector<Section> shown = m_sections;
+    for (Section& section : shown) {
+        for (Row& row : section.rows) {
+            const auto latest = rows.find(row.id);
+            if (latest != rows.end() && sameRow(*latest->second, row)) {
+                row = *latest->second;
+            }
+        }
+    }
+    m_afterHold = std::move(sections);
+    return shown;
 }
 
 void Table::setRows(const SectionId& section, std::vector<Row> rows) {
@@ -114,7 +154,7 @@ void Table::setRows(const SectionId& section, std::vector<Row> rows) {
 }
 
 void Table::setRow(Row row) {
-    if (!m_changing) {
+    if (!m_changing && !m_afterHold) {
         const std::optional<int> place = indexOf(row.id);
         if (!place) {
             return;

@@ -73,8 +73,11 @@ class Table final : public Content {
   public:
     ContentKind kind() const override { return ContentKind::Table; }
 
-    /// The sections that were set last, even while the change is still being announced.
+    /// The sections that are shown, even while the change is still being announced.
     const std::vector<Section>& sections() const { return m_sections; }
+    /// The sections that were set last, from which the next ones are made. They differ from sections() while
+    /// the rest of a change waits for its turn.
+    const std::vector<Section>& latestSections() const;
 
     // ---- the rows as one list
 
@@ -92,12 +95,17 @@ class Table final : public Content {
 
     /// Replaces all sections and announces the difference: rows are matched by id and kind. Ids are unique;
     /// of rows with equal ids only the first is kept. The selection stays while its row does. When called
-    /// from an observer during announcements, it takes effect after them.
+    /// from an observer during announcements, it takes effect after them. While the rows are held, only the
+    /// content of rows that stay is updated, and the rest of the change waits.
     void setSections(std::vector<Section> sections);
     /// Replaces the rows of one section. Does nothing when there is no such section.
     void setRows(const SectionId& section, std::vector<Row> rows);
     /// Replaces the row with the same id. Does nothing when there is none.
     void setRow(Row row);
+
+    /// While held, no row is inserted, removed or moved: the user is touching the list. Rows are still
+    /// inserted into an empty table.
+    void setHeld(bool held);
 
     const std::optional<RowId>& selectedRow() const { return m_selectedRow; }
     void selectRow(const RowId& id);
@@ -126,12 +134,11 @@ class Table final : public Content {
     const Line& line(int index) const { return m_lines[static_cast<std::size_t>(index)]; }
     const RowId& idAt(int index) const { return line(index).row->id; }
     static std::vector<Line> linesOf(std::vector<Section>& sections);
-    /// The sections that setRow and setRows modify.
-    const std::vector<Section>& latestSections() const { return m_waiting ? *m_waiting : m_sections; }
-
     /// Fills the index. Returns whether rows were dropped, which makes the lines and the index invalid.
     static bool dropDuplicates(std::vector<Section>& sections, const std::vector<Line>& lines,
                                RowIndex& index);
+    /// The part of a change that may be shown now; keeps the change itself while the rows are held.
+    std::vector<Section> showableNow(std::vector<Section> sections);
     void changeTo(std::vector<Section> sections);
     CommonEnds commonEnds(const std::vector<Line>& lines) const;
     /// Turns m_lines into `lines` and announces each step.
@@ -151,6 +158,9 @@ class Table final : public Content {
     bool m_changing = false;
     /// Set by an observer during announcements.
     std::optional<std::vector<Section>> m_waiting;
+    bool m_held = false;
+    /// Set while the rows are held.
+    std::optional<std::vector<Section>> m_afterHold;
     std::optional<RowId> m_selectedRow;
     std::optional<EmptyNote> m_emptyNote;
     bool m_editing = false;

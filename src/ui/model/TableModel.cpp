@@ -15,6 +15,22 @@ namespace {
 
 constexpr double kBetweenTimes = 4;
 
+/// Whether two versions of a row differ at most in what time and loaded pictures change.
+bool sameButForTime(const RowContent& one, const RowContent& other) {
+    const auto* before = std::get_if<ShowRow>(&one);
+    const auto* after = std::get_if<ShowRow>(&other);
+    if (!before || !after) {
+        return one == other;
+    }
+    ShowRow same = *before;
+    same.day = after->day;
+    same.timeColor = after->timeColor;
+    same.running = after->running;
+    same.progress = after->progress;
+    same.picture = after->picture;
+    return same == *after;
+}
+
 } // namespace
 
 TableModel::TableModel(std::shared_ptr<TableViewController> viewController, QLocale locale, QObject* parent)
@@ -28,6 +44,7 @@ TableModel::TableModel(std::shared_ptr<TableViewController> viewController, QLoc
 
 TableModel::~TableModel() {
     m_viewController->table().setObserver(nullptr);
+    hold(false);
 }
 
 int TableModel::rowCount(const QModelIndex& parent) const {
@@ -138,12 +155,18 @@ void TableModel::moveBefore(int index, int next) {
 QList<RowActionValue> TableModel::actions(int index) {
     m_actions =
         isRow(index) ? m_viewController->rowActions(table().rowAt(index).id) : std::vector<RowAction>();
+    m_actionsRow = isRow(index) ? std::optional(table().rowAt(index)) : std::nullopt;
     QList<RowActionValue> actions;
     for (const RowAction& action : m_actions) {
         actions.push_back({action.title, action.name.isEmpty() ? action.title : action.name,
                            static_cast<int>(action.color)});
     }
     return actions;
+}
+
+bool TableModel::actionsApply(int index) const {
+    return m_actionsRow && isRow(index) && table().rowAt(index).id == m_actionsRow->id &&
+           sameButForTime(m_actionsRow->content, table().rowAt(index).content);
 }
 
 void TableModel::performAction(int action) {

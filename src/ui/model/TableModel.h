@@ -97,6 +97,10 @@ class TableModel : public QAbstractListModel, private TableObserver {
     /// The actions on the row. performAction() takes an index into the latest answer.
     Q_INVOKABLE QList<guide::RowActionValue> actions(int index);
     Q_INVOKABLE void performAction(int action);
+    /// Whether the latest actions() are for this row, and nothing but what time changes has changed in it.
+    Q_INVOKABLE bool actionsApply(int index) const;
+    /// While the user touches the list, its rows stay where they are.
+    Q_INVOKABLE void hold(bool held) { m_viewController->table().setHeld(held); }
     Q_INVOKABLE void pressEmptyButton() { m_viewController->pressEmptyNoteButton(); }
     /// The row became visible, or changed while visible.
     Q_INVOKABLE void shown(int index);
@@ -144,6 +148,8 @@ class TableModel : public QAbstractListModel, private TableObserver {
     int m_insertedFirst = 0;
     int m_insertedCount = 0;
     std::vector<RowAction> m_actions;
+    /// The row that they are for, as it was then.
+    std::optional<Row> m_actionsRow;
     /// The longest times so far. Digits have equal widths, so the longest text is the widest.
     QString m_longestStart;
     QString m_longestEnd;

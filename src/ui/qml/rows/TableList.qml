@@ -27,6 +27,9 @@ ListView {
     property TableRow swipedRow: null
     readonly property TableRow currentRow: currentItem as TableRow
 
+    // Rows stay where they are while the user touches or scrolls the list, or sees the actions of one.
+    readonly property bool touched: visible && (finger.active || moving || scrollBar.pressed || menu.opened || swipedRow !== null || dragged !== null)
+
     function tileX(column) {
         return sideMargin + column * (tileWidth + tileGap)
     }
@@ -183,6 +186,11 @@ ListView {
     }
 
     onMovementStarted: closeSwiped()
+    onTouchedChanged: page.rows.hold(touched)
+
+    PointHandler {
+        id: finger
+    }
 
     // ---- the keyboard
 

@@ -86,7 +86,8 @@ FocusScope {
     implicitHeight: (column === 0 ? header.height + gap + bodyHeight : 0) + (section.last ? gap : 0) + footer.height
     Component.onCompleted: rows.shown(index)
     onRowChanged: {
-        cover()
+        if (!rows || !rows.actionsApply(index))
+            cover()
         if (rows && index >= 0)
             rows.shown(index)
     }
