@@ -40,6 +40,50 @@
         <translation>Načítá se</translation>
     </message>
     <message>
+        <source>No source for this channel</source>
+        <translation>Kanál nemá žádný zdroj</translation>
+    </message>
+    <message>
+        <source>No answer from %1</source>
+        <translation>%1 neodpovídá</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Žádná odpověď</translation>
+    </message>
+    <message>
+        <source>Status %1 from %2</source>
+        <translation>%2 odpovídá stavem %1</translation>
+    </message>
+    <message>
+        <source>Not a schedule: %1</source>
+        <translation>Není to program: %1</translation>
+    </message>
+    <message>
+        <source>Not a schedule</source>
+        <translation>Není to program</translation>
+    </message>
+    <message>
+        <source>No shows of this channel from %1</source>
+        <translation>%1 nemá pořady tohoto kanálu</translation>
+    </message>
+    <message>
+        <source>No shows of this channel</source>
+        <translation>Žádné pořady tohoto kanálu</translation>
+    </message>
+    <message>
+        <source>Only past shows from %1</source>
+        <translation>%1 má jen minulé pořady</translation>
+    </message>
+    <message>
+        <source>Only past shows</source>
+        <translation>Jen minulé pořady</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Zkusit znovu</translation>
+    </message>
+    <message>
         <source>Updated </source>
         <translation>Aktualizováno </translation>
     </message>

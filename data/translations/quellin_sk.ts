@@ -40,6 +40,50 @@
         <translation>Načítava sa</translation>
     </message>
     <message>
+        <source>No source for this channel</source>
+        <translation>Kanál nemá žiadny zdroj</translation>
+    </message>
+    <message>
+        <source>No answer from %1</source>
+        <translation>%1 neodpovedá</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Žiadna odpoveď</translation>
+    </message>
+    <message>
+        <source>Status %1 from %2</source>
+        <translation>%2 odpovedá stavom %1</translation>
+    </message>
+    <message>
+        <source>Not a schedule: %1</source>
+        <translation>Nie je to program: %1</translation>
+    </message>
+    <message>
+        <source>Not a schedule</source>
+        <translation>Nie je to program</translation>
+    </message>
+    <message>
+        <source>No shows of this channel from %1</source>
+        <translation>%1 nemá relácie tohto kanála</translation>
+    </message>
+    <message>
+        <source>No shows of this channel</source>
+        <translation>Žiadne relácie tohto kanála</translation>
+    </message>
+    <message>
+        <source>Only past shows from %1</source>
+        <translation>%1 má len minulé relácie</translation>
+    </message>
+    <message>
+        <source>Only past shows</source>
+        <translation>Len minulé relácie</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Skúsiť znova</translation>
+    </message>
+    <message>
         <source>Updated </source>
         <translation>Aktualizované </translation>
     </message>

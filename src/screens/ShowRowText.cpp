@@ -13,7 +13,7 @@ ShowRowText::ShowRowText(const QLocale& locale, const QTimeZone& zone)
 
 ShowRow ShowRowText::humanWithColor(const TVEntry& entry, ColorRole color, bool) const {
     ShowRow row = humanCondensedWithColor(entry, color, false);
-    row.endTime = endTime(entry);
+    row.endTime = shortTime(entry.endDateTime());
     return row;
 }
 
@@ -32,6 +32,15 @@ QString ShowRowText::shortTime(const std::optional<Moment>& moment) const {
     }
     const qint64 milliseconds = moment->time_since_epoch().count();
     return m_locale.toString(QDateTime::fromMSecsSinceEpoch(milliseconds, m_zone), m_timeFormat);
+}
+
+QString ShowRowText::dayUnlessToday(const QDate& day, const QDate& today) const {
+    const qint64 ahead = today.daysTo(day);
+    if (ahead == 0) {
+        return {};
+    }
+    return ahead > 0 && ahead < 7 ? m_locale.standaloneDayName(day.dayOfWeek(), QLocale::ShortFormat)
+                                  : m_locale.toString(day, QLocale::ShortFormat);
 }
 
 } // namespace guide

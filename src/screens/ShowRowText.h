@@ -3,6 +3,7 @@
 #include "screens/kit/Row.h"
 #include "store/TVEntry.h"
 
+#include <QDate>
 #include <QLocale>
 #include <QTimeZone>
 
@@ -19,12 +20,12 @@ class ShowRowText {
     /// A row with start time and title, which may be popular.
     ShowRow humanCondensedWithColor(const TVEntry& entry, ColorRole color, bool popular) const;
 
-    /// Empty for a show without an end.
-    QString endTime(const TVEntry& entry) const { return shortTime(entry.endDateTime()); }
+    /// Empty for an unset moment.
+    QString shortTime(const std::optional<Moment>& moment) const;
+    /// The weekday of one of the six days after today, otherwise the date; empty for today.
+    QString dayUnlessToday(const QDate& day, const QDate& today) const;
 
   private:
-    QString shortTime(const std::optional<Moment>& moment) const;
-
     QLocale m_locale;
     QTimeZone m_zone;
     QString m_timeFormat;

@@ -6,12 +6,12 @@ namespace guide {
 
 using namespace Qt::StringLiterals;
 
-std::optional<double> showProgress(const TVEntry& entry, Moment now) {
-    if (!entry.dateTime() || !entry.endDateTime() || *entry.endDateTime() <= *entry.dateTime()) {
+std::optional<double> showProgress(const std::optional<Moment>& start, const std::optional<Moment>& end,
+                                   Moment now) {
+    if (!start || !end || *end <= *start) {
         return std::nullopt;
     }
-    const auto whole = static_cast<double>((*entry.endDateTime() - *entry.dateTime()).count());
-    return static_cast<double>((now - *entry.dateTime()).count()) / whole;
+    return static_cast<double>((now - *start).count()) / static_cast<double>((*end - *start).count());
 }
 
 RowId ShowRowIds::next(const TVEntry& entry) {
@@ -36,10 +36,11 @@ const ShowItem* findShow(std::span<const ShowItem> shows, const ShowRowKey& key)
 ShowRows::ShowRows(const ScreenEnvironment& environment)
     : m_environment(environment)
     , m_now(environment.clock.now())
+    , m_today(localTime(environment.device, m_now).date())
     , m_marks(environment)
     , m_text(environment.device.locale(), environment.device.timeZone()) {}
 
-ShowRow ShowRows::condensed(const ShowItem& show, bool running) const {
+ShowRow ShowRows::condensed(const ShowItem& show, const std::optional<Moment>& end, bool running) const {
     const TVEntry& entry = *show.entry();
     const bool alarmed = m_marks.isAlarmed(entry);
     const bool favourite = m_marks.isFavourite(entry);
@@ -52,15 +53,21 @@ ShowRow ShowRows::condensed(const ShowItem& show, bool running) const {
     }
 
     ShowRow row = m_text.humanCondensedWithColor(entry, color, m_environment.popularShows.contains(show));
-    row.endTime = m_text.endTime(entry);
+    row.endTime = m_text.shortTime(end);
     row.details = entry.fullInstantDetails().value_or(QString());
     row.alarmed = alarmed;
     row.favourite = favourite;
     row.running = running;
     if (running) {
-        row.progress = std::clamp(showProgress(entry, m_now).value_or(0), 0.0, 1.0);
+        row.progress = std::clamp(showProgress(entry.dateTime(), end, m_now).value_or(0), 0.0, 1.0);
     }
     return row;
+}
+
+QString ShowRows::dayUnlessToday(const TVEntry& entry) const {
+    return entry.dateTime()
+               ? m_text.dayUnlessToday(localTime(m_environment.device, *entry.dateTime()).date(), m_today)
+               : QString();
 }
 
 QDateTime localTime(const Device& device, Moment moment) {

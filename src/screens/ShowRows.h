@@ -17,7 +17,8 @@ namespace guide {
 
 /// The elapsed share of the show: below 0 before its start, above 1 after its end; unset without a start
 /// and a later end.
-std::optional<double> showProgress(const TVEntry& entry, Moment now);
+std::optional<double> showProgress(const std::optional<Moment>& start, const std::optional<Moment>& end,
+                                   Moment now);
 
 /// Makes the ids of the shows of one section. The shows are passed in ascending start time.
 class ShowRowIds {
@@ -25,6 +26,7 @@ class ShowRowIds {
     explicit ShowRowIds(SectionId section)
         : m_section(std::move(section)) {}
 
+    const SectionId& section() const { return m_section; }
     RowId next(const TVEntry& entry);
 
   private:
@@ -44,13 +46,17 @@ class ShowRows {
     explicit ShowRows(const ScreenEnvironment& environment);
 
     Moment now() const { return m_now; }
-    /// The condensed form, without picture and accessory. Screens differ in what counts as running; a running
-    /// show has `progress`.
-    ShowRow condensed(const ShowItem& show, bool running) const;
+    /// The condensed form, without picture, day and accessory. Screens differ in what counts as running; a
+    /// running show has `progress`. `end` is the end from ShownEnds.
+    ShowRow condensed(const ShowItem& show, const std::optional<Moment>& end, bool running) const;
+    /// The day of the show's start, for a list without headings; empty for today.
+    QString dayUnlessToday(const TVEntry& entry) const;
 
   private:
     const ScreenEnvironment& m_environment;
     const Moment m_now;
+    /// In the device's zone.
+    const QDate m_today;
     const ShowMarks m_marks;
     const ShowRowText m_text;
 };

@@ -245,6 +245,12 @@ class ManualQueues final : public DispatchQueues, private ThreadWaiting {
     /// The number of asyncAfter blocks whose time has not come.
     std::size_t delayed() const { return m_state->timers.size(); }
 
+    /// Whether a call of asyncAfter on this queue has not been submitted yet.
+    bool hasTimers(const std::string& label) const {
+        return std::ranges::any_of(
+            m_state->timers, [&label](const auto& timer) { return timer.second.first->label() == label; });
+    }
+
     bool suspended(const std::string& label) const {
         return std::any_of(m_state->queues.begin(), m_state->queues.end(), [&label](const auto& queue) {
             return queue->label() == label && queue->suspended();

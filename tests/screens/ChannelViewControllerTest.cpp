@@ -1,6 +1,7 @@
 #include "screens/channel/ChannelViewController.h"
 
 #include "ScreenWorld.h"
+#include "TableReplay.h"
 
 namespace guide::test {
 namespace {
@@ -109,6 +110,31 @@ TEST_F(ChannelViewControllerTest, ShowsANoteWhenTheScheduleHasRunOut) {
     reload(*screen);
     EXPECT_TRUE(screen->table().sections().empty());
     EXPECT_TRUE(screen->table().emptyNote());
+}
+
+TEST_F(ChannelViewControllerTest, OnlyRunningShowsChangeByTheMinute) {
+    begin();
+    const auto screen = open({{0, 2, u"A"_s}, {2, 60, u"B"_s}, {60, 90, u"C"_s}});
+    TableReplay changes(screen->table());
+    world.wait(61s);
+    EXPECT_EQ(std::exchange(changes.log, {}), QStringList{u"update 0+1"_s});
+    world.wait(60s);
+    EXPECT_EQ(changes.log, QStringList({u"update 0+1"_s, u"update 1+1"_s}));
+    EXPECT_FALSE(showAt(screen->table(), 0).running) << "it stays in the list";
+    EXPECT_TRUE(showAt(screen->table(), 1).running);
+}
+
+TEST_F(ChannelViewControllerTest, ARefreshThatFailsSaysWhy) {
+    begin();
+    world.load(channel, {{0, 60, u"A"_s}});
+    const auto screen = open({{0, 60, u"A"_s}});
+    screen->pullToRefresh();
+    world.fail(channel, LoadFailure{LoadFailureReason::NotASchedule, {}});
+    EXPECT_FALSE(screen->refreshing());
+    EXPECT_EQ(buttons(*screen), Kinds{kRefresh});
+    EXPECT_EQ(linesOf(screen->table()).first(), u"Not a schedule"_s);
+    world.fail(channel, std::nullopt);
+    EXPECT_TRUE(linesOf(screen->table()).first().startsWith(u'#'));
 }
 
 TEST_F(ChannelViewControllerTest, RecolorsOnTheNextMainQueueTurn) {

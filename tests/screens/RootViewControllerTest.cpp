@@ -207,6 +207,171 @@ TEST_F(RootViewControllerTest, AChannelOpensItsSchedule) {
     EXPECT_EQ(&world.top(), &root()) << "a schedule that has run out opens nothing";
 }
 
+// ---- time
+
+TEST_F(RootViewControllerTest, ShowsMoveOnByTheMinute) {
+    const ObjectId channel = world.addChannel(u"Jedna"_s);
+    world.showCount = 2;
+    world.start();
+    world.load(channel, {{-5, 5, u"A"_s}, {5, 9, u"B"_s}, {9, 19, u"C"_s}});
+    world.show();
+    world.wait(1ms);
+    TableReplay changes(table());
+    world.wait(59'999ms);
+    EXPECT_EQ(changes.log, QStringList()) << "not before the minute";
+    world.wait(1ms);
+    EXPECT_NEAR(showAt(table(), 1).progress.value(), 0.6, 1e-3);
+    EXPECT_EQ(std::exchange(changes.log, {}), QStringList{u"update 1+1"_s});
+
+    world.clock.advance(4min);
+    world.queues.run("main");
+    EXPECT_EQ(linesOf(table()).size(), 2) << "without an answer of the store";
+    EXPECT_TRUE(linesOf(table())[1].endsWith(u'B'));
+    EXPECT_TRUE(showAt(table(), 1).running);
+    EXPECT_FALSE(world.queues.suspended("vorel.tv.loadQueue"));
+    world.queues.runAll();
+    EXPECT_TRUE(linesOf(table()).last().endsWith(u'C'));
+    EXPECT_EQ(changes.log, QStringList({u"remove 1+1"_s, u"update 1+1"_s, u"insert 2+1"_s}));
+}
+
+TEST_F(RootViewControllerTest, FollowsAClockThatIsSet) {
+    const ObjectId channel = world.addChannel(u"Jedna"_s);
+    world.start();
+    world.load(channel, {{0, 60, u"A"_s}, {60, 120, u"B"_s}});
+    world.show();
+    world.wait(61min);
+    EXPECT_TRUE(linesOf(table())[1].endsWith(u'B'));
+    world.clock.advance(1min);
+    world.clock.set(world.begin + 30s);
+    world.queues.runAll();
+    EXPECT_TRUE(linesOf(table())[1].endsWith(u'A')) << "shows that are no longer over come back";
+    world.wait(30'001ms);
+    world.wait(1min);
+    EXPECT_NEAR(showAt(table(), 1).progress.value(), 2 / 60.0, 1e-3) << "on the minute again";
+}
+
+TEST_F(RootViewControllerTest, StandsStillInTheBackgroundAndWhenCovered) {
+    const ObjectId channel = world.addChannel(u"Jedna"_s);
+    world.start();
+    world.load(channel, {{0, 600, u"A"_s}});
+    world.show();
+    const auto progress = [this] { return showAt(table(), 1).progress.value(); };
+    world.state.state = ApplicationState::Background;
+    world.wait(2min);
+    EXPECT_EQ(progress(), 0);
+    EXPECT_FALSE(world.queues.hasTimers("main")) << "nothing wakes up in the background";
+    world.state.state = ApplicationState::Active;
+    world.broadcast->applicationDidBecomeActive();
+    world.queues.runAll();
+    const double now = progress();
+    EXPECT_GT(now, 0);
+    world.wait(61s);
+    EXPECT_GT(progress(), now);
+
+    world.tabs->setSelectedIndex(1);
+    world.wait(61s);
+    EXPECT_FALSE(world.queues.hasTimers("main"));
+    world.tabs->setSelectedIndex(0);
+    world.wait(1ms);
+    EXPECT_NEAR(progress(), 4 / 600.0, 1e-3);
+}
+
+TEST_F(RootViewControllerTest, NothingMovesWhileTheListIsTouched) {
+    const ObjectId channel = world.addChannel(u"Jedna"_s);
+    world.start();
+    world.load(channel, {{-5, 5, u"A"_s}, {0, 10, u"B"_s}, {9, 19, u"C"_s}});
+    world.show();
+    table().setHeld(true);
+    TableReplay changes(table());
+    world.wait(6min);
+    EXPECT_EQ(changes.log, QStringList{u"update 2+1"_s}) << "progress goes on";
+    EXPECT_NEAR(showAt(table(), 2).progress.value(), 0.6, 1e-3);
+    table().setHeld(false);
+    EXPECT_TRUE(changes.log.contains(u"remove 1+1"_s)) << changes.log.join(u'|').toStdString();
+    EXPECT_TRUE(linesOf(table())[1].endsWith(u'B'));
+}
+
+TEST_F(RootViewControllerTest, ShowsWithWrongEndsGiveWayToTheNextOne) {
+    const ObjectId channel = world.addChannel(u"Jedna"_s);
+    world.device.zone = QTimeZone("UTC");
+    world.device.deviceLocale = QLocale(QLocale::English, QLocale::UnitedKingdom);
+    world.start();
+    world.load(channel,
+               {{-600, 1'000'000, u"Always"_s}, {5, -1380, u"Backwards"_s}, {10, 40'000, u"Endless"_s}});
+    world.show();
+    EXPECT_EQ(linesOf(table()),
+              QStringList({u"Jedna"_s, u"08:30 Always"_s, u"18:35 Backwards"_s, u"18:40 Endless"_s}));
+    EXPECT_TRUE(showAt(table(), 1).running);
+    EXPECT_EQ(showAt(table(), 2).endTime, u"18:40"_s);
+    EXPECT_EQ(showAt(table(), 3).endTime, QString()) << "nobody knows";
+    world.wait(6min);
+    EXPECT_EQ(linesOf(table()).size(), 3);
+    EXPECT_EQ(showAt(table(), 1).startTime, u"18:35"_s);
+    EXPECT_NEAR(showAt(table(), 1).progress.value(), 0.2, 1e-3);
+}
+
+TEST_F(RootViewControllerTest, ShowsTheDayOfShowsThatAreNotOfToday) {
+    world.device.deviceLocale = QLocale(QLocale::English, QLocale::UnitedKingdom);
+    world.device.zone = QTimeZone("Europe/Prague");
+    const ObjectId channel = world.addChannel(u"Jedna"_s);
+    world.showCount = 5;
+    world.start();
+    // It is 19:30 on a Wednesday.
+    world.load(channel, {{-1200, 10, u"Since yesterday"_s},
+                         {10, 20, u"Today"_s},
+                         {270, 280, u"After midnight"_s},
+                         {6 * 1440, 6 * 1440 + 5, u"In six days"_s},
+                         {7 * 1440, 7 * 1440 + 5, u"In a week"_s}});
+    world.show();
+    const QStringList days{{}, {}, u"Thu"_s, u"Tue"_s, u"07/01/2026"_s};
+    for (int show = 0; show < days.size(); ++show) {
+        EXPECT_EQ(showAt(table(), show + 1).day, days[show]) << show;
+    }
+    world.wait(271min);
+    EXPECT_EQ(showAt(table(), 1).day, QString()) << "today is another day now";
+}
+
+// ---- loads that fail
+
+TEST_F(RootViewControllerTest, SaysWhyALoadFailedAndTriesAgain) {
+    world.device.deviceLocale = QLocale(QLocale::English, QLocale::UnitedStates);
+    world.device.zone = QTimeZone("UTC");
+    const ObjectId empty = world.addChannel(u"Jedna"_s);
+    const ObjectId filled = world.addChannel(u"Dva"_s);
+    world.start();
+    world.load(filled, {{-5, 500, u"A"_s}});
+    world.show();
+    const LoadFailure failure{LoadFailureReason::NoAnswer, u"feeds.example"_s};
+    world.fail(empty, failure);
+    world.fail(filled, LoadFailure{LoadFailureReason::Status, u"feeds.example"_s, 404});
+    const QStringList failed{u"Jedna"_s, u"[Try again]"_s, u"Dva"_s};
+    EXPECT_EQ(linesOf(table()).first(3), failed);
+    EXPECT_EQ(channelAt(table(), 0).subtitle, u"No answer from feeds.example"_s);
+    EXPECT_EQ(channelAt(table(), 0).accessory, Accessory::None);
+    EXPECT_EQ(channelAt(table(), 2).subtitle, u"Updated 12/31/25 6:30 PM · Status 404 from feeds.example"_s);
+    EXPECT_EQ(channelAt(table(), 2).accessory, Accessory::Disclosure);
+
+    const auto expectLoading = [this] {
+        EXPECT_EQ(channelAt(table(), 0).accessory, Accessory::Spinner);
+        EXPECT_EQ(linesOf(table())[1], u"Dva"_s) << "no button";
+    };
+    send(1, Tapped{});
+    EXPECT_EQ(world.app.done, QStringList{u"check"_s});
+    expectLoading();
+    world.fail(empty, std::nullopt);
+    expectLoading();
+    world.fail(empty, failure);
+    EXPECT_EQ(linesOf(table()).first(3), failed);
+
+    send(1, Tapped{});
+    world.wait(61s);
+    EXPECT_EQ(linesOf(table()).first(3), failed) << "no load has begun";
+    world.fail(empty, std::nullopt);
+    world.load(empty, {{-5, 5, u"B"_s}});
+    EXPECT_EQ(channelAt(table(), 0).accessory, Accessory::Disclosure);
+    EXPECT_TRUE(linesOf(table())[1].endsWith(u'B'));
+}
+
 // ---- pictures
 
 TEST_F(RootViewControllerTest, LoadsThePicturesOfDisplayedRowsOnce) {

@@ -31,6 +31,10 @@ inline QStringList linesOf(const Table& table) {
                 lines << show->startTime + u' ' + show->title;
             } else if (const auto* channel = std::get_if<ChannelRow>(&row.content)) {
                 lines << channel->title;
+            } else if (const auto* text = std::get_if<TextRow>(&row.content)) {
+                lines << text->title;
+            } else if (const auto* button = std::get_if<ButtonRow>(&row.content)) {
+                lines << u'[' + button->title + u']';
             }
         }
     }
@@ -176,10 +180,18 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
         queues.runAll();
     }
 
+    /// Moves the clock and runs all queues.
     void wait(std::chrono::milliseconds time) {
         clock.advance(time);
         queues.runAll();
     }
+
+    /// Sets the load failure and tells the screens, as the update cycle does.
+    void fail(const ObjectId& channel, std::optional<LoadFailure> failure) {
+        channels->channelWithChannelId(channel)->setLoadFailure(std::move(failure));
+        broadcast->loadsEnded({channel});
+    }
+
     /// Opens the window and runs all queues.
     void show() {
         tabs->makeVisible();

@@ -105,6 +105,13 @@ inline std::vector<Section> galleryShows() {
         u"jen on. "
         u"Cestou potká lidi, kteří mu rozumějí víc, než čekal, a pochopí, že domov je tam, kde na něj čekají."_s;
     const ShowRow plain{.startTime = u"18:00"_s, .endTime = u"18:45"_s, .title = u"Noční proud"_s};
+    const ShowRow tomorrow{
+        .day = u"Thu"_s, .startTime = u"00:10"_s, .endTime = u"01:00"_s, .title = u"Film po půlnoci"_s};
+    const ShowRow later{.day = u"31/12/2026"_s,
+                        .startTime = u"20:00"_s,
+                        .endTime = u"21:00"_s,
+                        .title = u"Silvestr"_s,
+                        .details = u"Zábavný pořad, živě ze všech studií"_s};
     ShowRow running{.startTime = u"18:45"_s,
                     .endTime = u"20:00"_s,
                     .title = u"Večerní zprávy"_s,
@@ -139,7 +146,8 @@ inline std::vector<Section> galleryShows() {
     full.picture = showPicture(u"Kůň"_s);
     full.popular = true;
     full.accessory = Accessory::Disclosure;
-    return {section(u"states"_s, u"Wednesday 31 December 2025"_s, {plain, running, favourite, alarmed}),
+    return {section(u"states"_s, u"Wednesday 31 December 2025"_s,
+                    {plain, running, favourite, alarmed, tomorrow, later}),
             section(u"pictures"_s, u"Thursday 1 January 2026"_s, {picture, mixed, full, allDetails})};
 }
 
@@ -152,6 +160,13 @@ inline std::vector<Section> galleryChannels() {
         section(u"play"_s, {},
                 {ChannelRow{u"Kino Večer"_s, {}, icon(u"Kino"_s), false, Accessory::Play},
                  ShowRow{.startTime = u"18:00"_s, .endTime = u"19:00"_s, .title = u"Café de la Gare"_s}}),
+        section(u"failed"_s, {},
+                {ChannelRow{u"Arte Nord"_s, u"No answer from feeds.example"_s, icon(u"Arte"_s)},
+                 ButtonRow{u"Try again"_s}}),
+        section(u"old"_s, {},
+                {ChannelRow{u"Duna"_s, u"Updated 31.12.2025 18:04 · Status 404 from feeds.example"_s,
+                            icon(u"Duna"_s), false, Accessory::Disclosure},
+                 ShowRow{.startTime = u"18:00"_s, .endTime = u"19:00"_s, .title = u"Híradó este"_s}}),
         section(
             u"choose"_s, u"Catalogue"_s,
             {ChannelRow{u"Televízia Šport a príroda s veľmi dlhým názvom kanála"_s, u"Slovak"_s,

@@ -1,12 +1,14 @@
 #include "screens/channel/ChannelViewController.h"
 
+#include "screens/LoadFailureText.h"
 #include "screens/Localized.h"
-#include "screens/ShowRows.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace guide {
+
+using namespace Qt::StringLiterals;
 
 ChannelViewController::ChannelViewController(std::shared_ptr<const ScreenEnvironment> environment,
                                              const QString& title, const ShowSpan& entries,
@@ -15,9 +17,10 @@ ChannelViewController::ChannelViewController(std::shared_ptr<const ScreenEnviron
     , m_channelTitle(title)
     , m_channelIconName(channelIconName)
     , m_channel(channel)
-    , m_streamURL(streamURLOf(*m_environment->catalogue.snapshot(), channel)) {
+    , m_streamURL(streamURLOf(*m_environment->catalogue.snapshot(), channel))
+    , m_minuteTick(m_environment->clock, m_environment->mainQueue, m_environment->applicationState) {
     const auto record = m_environment->channels.channelWithChannelId(m_channel);
-    if (record && (record->loading() || dueForReload(*record))) {
+    if (record && (record->loading() || (dueForReload(*record) && !record->loadFailure()))) {
         refreshActive();
     } else {
         refreshDone();
@@ -38,7 +41,12 @@ void ChannelViewController::viewWillAppear() {
     table().deselectRow();
 }
 
+void ChannelViewController::viewDidAppear() {
+    m_minuteTick.start(weak_from_this(), [this] { minuteBegan(); });
+}
+
 void ChannelViewController::viewDidDisappear() {
+    m_minuteTick.stop();
     table().deselectRow();
 }
 
@@ -47,6 +55,23 @@ std::vector<RowAction> ChannelViewController::actionsForRow(const RowId& id) {
                                   [&id](const DaySection& each) { return each.id() == id.section; });
     const ShowItem* show = day == m_days.end() ? nullptr : findShow(day->shows, *id.show());
     return show ? m_environment->swipeActions(show->entry(), shared_from_this()) : std::vector<RowAction>();
+}
+
+void ChannelViewController::applicationDidBecomeActive() {
+    m_minuteTick.resume();
+    reloadChannelData();
+}
+
+void ChannelViewController::loadsEnded(const std::unordered_set<ObjectId>& channels) {
+    if (!channels.contains(m_channel)) {
+        return;
+    }
+    if (!failure().isEmpty()) {
+        refreshDone();
+    }
+    if (viewLoaded()) {
+        reloadTable();
+    }
 }
 
 void ChannelViewController::notificationsSynched() {
@@ -76,32 +101,70 @@ void ChannelViewController::reloadChannelData() {
         }));
 }
 
+QString ChannelViewController::failure() const {
+    const auto record = m_environment->channels.channelWithChannelId(m_channel);
+    const auto failure = record ? record->loadFailure() : std::nullopt;
+    return failure ? loadFailureText(*failure) : QString();
+}
+
 bool ChannelViewController::dueForReload(const TVChannel& record) const {
     return record.reloadNeeded(m_environment->clock.now(), m_environment->settings.automaticUpdateInterval());
 }
 
 void ChannelViewController::initializeContentWithEntriesArray(const ShowSpan& entries) {
     m_days = daySections(entries, m_environment->device.locale(), m_environment->device.timeZone());
+    m_ends = ShownEnds(entries);
 }
 
 void ChannelViewController::reloadTable() {
     const ShowRows showRows(*m_environment);
     std::vector<Section> sections;
-    sections.reserve(m_days.size());
+    sections.reserve(m_days.size() + 1);
+    if (const QString text = failure(); !text.isEmpty()) {
+        const SectionId id = u"failure"_s;
+        sections.push_back(
+            {.id = id,
+             .rows = {{.id = {id, id},
+                       .content = TextRow{.title = text, .titleColor = ColorRole::SecondaryLabel}}}});
+    }
     for (const DaySection& day : m_days) {
         Section section{.id = day.id(), .header = day.title};
         section.rows.reserve(day.shows.size());
         ShowRowIds ids(section.id);
         for (const ShowItem& show : day.shows) {
-            const TVEntry& entry = *show.entry();
-            const bool running = *entry.dateTime() <= showRows.now() && entry.endsAfter(showRows.now());
-            ShowRow row = showRows.condensed(show, running);
-            row.allDetails = true;
-            section.rows.push_back({.id = ids.next(entry), .content = std::move(row)});
+            section.rows.push_back(showRow(ids.next(*show.entry()), show, showRows));
         }
         sections.push_back(std::move(section));
     }
     table().setSections(std::move(sections));
+}
+
+Row ChannelViewController::showRow(RowId id, const ShowItem& show, const ShowRows& showRows) const {
+    const TVEntry& entry = *show.entry();
+    ShowRow row = showRows.condensed(show, m_ends.endOf(entry), isRunning(entry, showRows.now()));
+    row.allDetails = true;
+    return {.id = std::move(id), .content = std::move(row)};
+}
+
+bool ChannelViewController::isRunning(const TVEntry& entry, Moment now) const {
+    return entry.dateTime() <= now && m_ends.endOf(entry) > now;
+}
+
+// Shows that have ended stay until the next list. Only the rows of running shows, and of those that were, are
+// made again: the schedule may be long.
+void ChannelViewController::minuteBegan() {
+    const ShowRows showRows(*m_environment);
+    for (const DaySection& day : m_days) {
+        ShowRowIds ids(day.id());
+        for (const ShowItem& show : day.shows) {
+            const RowId id = ids.next(*show.entry());
+            const Row* shown = table().find(id);
+            if (shown &&
+                (std::get<ShowRow>(shown->content).running || isRunning(*show.entry(), showRows.now()))) {
+                table().setRow(showRow(id, show, showRows));
+            }
+        }
+    }
 }
 
 // ---- refreshing

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "screens/DaySections.h"
+#include "screens/MinuteTick.h"
+#include "screens/ShowRows.h"
 #include "screens/kit/LatestAnswer.h"
 #include "screens/shell/ListingsScreen.h"
 #include "screens/shell/ScreenEnvironment.h"
+#include "store/ShownEnds.h"
 
 #include <QUrl>
 
@@ -25,8 +28,9 @@ class ChannelViewController final : public ListingsScreen {
     /// Shows what the update cycle has stored, unless the channel is still being loaded or due.
     void reloadChannelData();
 
-    void applicationDidBecomeActive() override { reloadChannelData(); }
+    void applicationDidBecomeActive() override;
     void offerTopShows(const TopShows&) override { reloadChannelData(); }
+    void loadsEnded(const std::unordered_set<ObjectId>& channels) override;
     void reloadData() override { reloadChannelData(); }
     void recolor() override;
     void notificationsSynched() override;
@@ -34,6 +38,7 @@ class ChannelViewController final : public ListingsScreen {
   protected:
     void viewDidLoad() override;
     void viewWillAppear() override;
+    void viewDidAppear() override;
     void viewDidDisappear() override;
     std::vector<RowAction> actionsForRow(const RowId& id) override;
     void didPullToRefresh() override { refresh(); }
@@ -41,6 +46,11 @@ class ChannelViewController final : public ListingsScreen {
   private:
     void initializeContentWithEntriesArray(const ShowSpan& entries);
     void reloadTable();
+    Row showRow(RowId id, const ShowItem& show, const ShowRows& showRows) const;
+    bool isRunning(const TVEntry& entry, Moment now) const;
+    void minuteBegan();
+    /// Empty unless the last load of the channel stored nothing.
+    QString failure() const;
     bool dueForReload(const TVChannel& record) const;
     void refresh();
     void refreshActive();
@@ -53,6 +63,8 @@ class ChannelViewController final : public ListingsScreen {
     const ObjectId m_channel;
     std::optional<QUrl> m_streamURL;
     std::vector<DaySection> m_days;
+    ShownEnds m_ends;
+    MinuteTick m_minuteTick;
     LatestAnswer m_list;
 };
 

@@ -1,8 +1,10 @@
 #include "screens/root/RootViewController.h"
 
+#include "screens/LoadFailureText.h"
 #include "screens/Localized.h"
 #include "screens/channel/ChannelViewController.h"
 #include "screens/kit/NavigationController.h"
+#include "store/ShownEnds.h"
 #include "text/display/Transliteration.h"
 
 #include <algorithm>
@@ -12,8 +14,16 @@ namespace guide {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The name of the row that loads a channel again.
+constexpr auto kTryAgain = "try again"_L1;
+
+} // namespace
+
 RootViewController::RootViewController(std::shared_ptr<const ScreenEnvironment> environment)
-    : m_environment(std::move(environment)) {}
+    : m_environment(std::move(environment))
+    , m_minuteTick(m_environment->clock, m_environment->mainQueue, m_environment->applicationState) {}
 
 void RootViewController::viewDidLoad() {
     setTitle(Localized::tr("Currently"));
@@ -24,6 +34,7 @@ void RootViewController::viewWillAppear() {
 }
 
 void RootViewController::viewDidAppear() {
+    m_minuteTick.start(weak_from_this(), [this] { minuteBegan(); });
     selectedChannelsChanged();
     if (std::exchange(m_modifiedSelectedChannels, false)) {
         m_environment->alarmSynchronisation.resynchronize();
@@ -32,10 +43,12 @@ void RootViewController::viewDidAppear() {
 }
 
 void RootViewController::viewDidDisappear() {
+    m_minuteTick.stop();
     table().deselectRow();
 }
 
 void RootViewController::applicationDidBecomeActive() {
+    m_minuteTick.resume();
     if (viewLoaded()) {
         selectedChannelsChanged();
     } else {
@@ -51,6 +64,11 @@ void RootViewController::offerTopShows(const TopShows& top) {
         }
     }
     reloadRows(changed);
+}
+
+void RootViewController::loadsEnded(const std::unordered_set<ObjectId>& channels) {
+    std::erase_if(m_tryingAgain, [&channels](const ObjectId& channel) { return channels.contains(channel); });
+    reloadRows(channels);
 }
 
 void RootViewController::notificationsSynched() {
@@ -91,12 +109,14 @@ void RootViewController::selectedChannelsChanged() {
 void RootViewController::setChannels(const std::vector<ObjectId>& selected,
                                      const std::vector<ShowSpan>& entries) {
     const SharedCatalogueSnapshot catalogue = m_environment->catalogue.snapshot();
+    const Moment now = m_environment->clock.now();
     m_channels.clear();
     m_channels.reserve(selected.size());
     for (std::size_t index = 0; index < selected.size() && index < entries.size(); ++index) {
         m_channels.push_back(channelNamed(selected[index], *catalogue));
-        m_channels.back().entries = entries[index].items();
+        m_channels.back().entries = showsNotOver(entries[index], now);
     }
+    m_upToDateAt = now;
     table().setEmptyNote(EmptyNote{
         Localized::tr("No channels yet"),
         Localized::tr("What is on now appears here once you have chosen channels under Selected Channels.")});
@@ -130,7 +150,7 @@ bool RootViewController::takeList(const ObjectId& channel, const ShowSpan& entri
     }
     m_environment->pictureCache.forgetChannel(channel);
     m_loadingPictures.erase(channel);
-    shown->entries = entries.items();
+    shown->entries = showsNotOver(entries, m_environment->clock.now());
     return true;
 }
 
@@ -139,6 +159,43 @@ RootViewController::Channel* RootViewController::shownChannel(const ObjectId& id
         std::find_if(m_channels.begin(), m_channels.end(),
                      [&identificator](const Channel& shown) { return shown.identificator == identificator; });
     return found == m_channels.end() ? nullptr : &*found;
+}
+
+// ---- time
+
+void RootViewController::minuteBegan() {
+    const Moment now = m_environment->clock.now();
+    const bool setBack = now < std::exchange(m_upToDateAt, now);
+    bool shorter = false;
+    for (Channel& channel : m_channels) {
+        ShowItems left = showsNotOver(channel.entries, now);
+        shorter = shorter || left.size() < channel.entries.size();
+        channel.entries = std::move(left);
+    }
+    // A load that has not begun by now was not due.
+    m_tryingAgain.clear();
+    reloadTable();
+    if (shorter || setBack) {
+        refill();
+    }
+}
+
+void RootViewController::refill() {
+    m_environment->listings.onAirShows(
+        m_refill.expect(weak_from_this(), [this](const std::vector<ObjectId>& selected,
+                                                 const std::vector<ShowSpan>& entries) {
+            const Moment now = m_environment->clock.now();
+            std::unordered_map<ObjectId, ShowSpan> fresh;
+            for (std::size_t index = 0; index < selected.size(); ++index) {
+                fresh.emplace(selected[index], entries[index]);
+            }
+            for (Channel& channel : m_channels) {
+                if (const auto shows = fresh.find(channel.identificator); shows != fresh.end()) {
+                    channel.entries = showsNotOver(shows->second, now);
+                }
+            }
+            reloadTable();
+        }));
 }
 
 // ---- rows
@@ -155,7 +212,7 @@ void RootViewController::reloadTable() {
 
 void RootViewController::reloadRows(const std::unordered_set<ObjectId>& channels) {
     const ShowRows showRows(*m_environment);
-    std::vector<Section> sections = table().sections();
+    std::vector<Section> sections = table().latestSections();
     for (std::size_t place = 0; place < m_channels.size() && place < sections.size(); ++place) {
         if (channels.contains(m_channels[place].identificator)) {
             sections[place].rows = rowsOf(m_channels[place], showRows);
@@ -170,14 +227,27 @@ std::vector<Row> RootViewController::rowsOf(const Channel& channel, const ShowRo
     rows.reserve(channel.entries.size() + 1);
     rows.push_back(channelRow(channel));
     ShowRowIds ids(rows.front().id.section);
+    const ShownEnds ends(channel.entries);
     for (const ShowItem& show : channel.entries) {
-        const std::optional<double> progress = showProgress(*show.entry(), showRows.now());
-        ShowRow row = showRows.condensed(show, progress && *progress >= 0 && *progress <= 1);
+        const TVEntry& entry = *show.entry();
+        const std::optional<Moment> end = ends.endOf(entry);
+        const std::optional<double> progress = showProgress(entry.dateTime(), end, showRows.now());
+        const bool running = progress && *progress >= 0 && *progress <= 1;
+        ShowRow row = showRows.condensed(show, end, running);
+        if (!running) {
+            row.day = showRows.dayUnlessToday(entry);
+        }
         if (imagesEnabled) {
             row.picture = m_environment->pictureCache.find(channel.identificator, identificatorOf(show))
                               .value_or(PictureKey());
         }
-        rows.push_back({.id = ids.next(*show.entry()), .content = std::move(row)});
+        rows.push_back({.id = ids.next(entry), .content = std::move(row)});
+    }
+    const auto record = m_environment->channels.channelWithChannelId(channel.identificator);
+    if (channel.entries.empty() && record && failureOf(*record)) {
+        rows.push_back({.id = {ids.section(), QString(kTryAgain)},
+                        .content = ButtonRow{Localized::tr("Try again")},
+                        .selectable = true});
     }
     return rows;
 }
@@ -185,22 +255,39 @@ std::vector<Row> RootViewController::rowsOf(const Channel& channel, const ShowRo
 Row RootViewController::channelRow(const Channel& channel) const {
     const bool hasShows = !channel.entries.empty();
     ChannelRow row{.title = channel.title, .icon = channel.icon};
-    row.accessory = channel.stream ? Accessory::Play : hasShows ? Accessory::Disclosure : Accessory::Spinner;
     const auto record = m_environment->channels.channelWithChannelId(channel.identificator);
+    const auto failure = record ? failureOf(*record) : std::nullopt;
+    row.accessory = channel.stream ? Accessory::Play
+                    : hasShows     ? Accessory::Disclosure
+                    : failure      ? Accessory::None
+                                   : Accessory::Spinner;
+    QStringList facts;
     if (const auto loaded = record ? record->timeLoaded() : std::nullopt;
         loaded && *loaded <= m_environment->clock.now()) {
-        row.subtitle = Localized::tr("Updated ") +
-                       m_environment->device.locale().toString(localTime(m_environment->device, *loaded),
-                                                               QLocale::ShortFormat);
+        facts << Localized::tr("Updated ") +
+                     m_environment->device.locale().toString(localTime(m_environment->device, *loaded),
+                                                             QLocale::ShortFormat);
     }
+    if (failure) {
+        facts << loadFailureText(*failure);
+    }
+    row.subtitle = facts.join(u" · "_s);
     return {.id = {channel.identificator.hex(), channel.identificator},
             .content = std::move(row),
             .selectable = hasShows};
 }
 
+std::optional<LoadFailure> RootViewController::failureOf(const TVChannel& record) const {
+    return m_tryingAgain.contains(record.identificator()) ? std::nullopt : record.loadFailure();
+}
+
 // ---- the user's events
 
 void RootViewController::rowEvent(const RowId& id, const RowEvent& event) {
+    if (id.name() && *id.name() == kTryAgain) {
+        tryAgain(ObjectId::fromHex(id.section));
+        return;
+    }
     const Channel* channel = id.channel() ? shownChannel(*id.channel()) : nullptr;
     if (!channel) {
         return;
@@ -240,6 +327,13 @@ void RootViewController::selectedChannel(const Channel& channel) {
             navigation->pushFrom(*this, std::make_shared<ChannelViewController>(m_environment, title, entries,
                                                                                 iconName, identificator));
         }));
+}
+
+void RootViewController::tryAgain(const ObjectId& channel) {
+    table().deselectRow();
+    m_tryingAgain.insert(channel);
+    reloadRows(channel);
+    m_environment->updates.checkAndUpdateAllChannels();
 }
 
 // ---- pictures

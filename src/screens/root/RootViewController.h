@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/queues/DispatchQueue.h"
+#include "screens/MinuteTick.h"
 #include "screens/ShowRows.h"
 #include "screens/kit/LatestAnswer.h"
 #include "screens/shell/ListingsScreen.h"
@@ -20,7 +21,8 @@
 namespace guide {
 
 /// What is on now: a section for each selected channel, identified by its hexadecimal id, with the channel's
-/// own row first and its current and next shows below.
+/// own row first and its current and next shows below. Shows that end give way on the minute while the screen
+/// is visible.
 class RootViewController final : public ListingsScreen {
   public:
     explicit RootViewController(std::shared_ptr<const ScreenEnvironment> environment);
@@ -36,6 +38,7 @@ class RootViewController final : public ListingsScreen {
 
     void applicationDidBecomeActive() override;
     void offerTopShows(const TopShows& top) override;
+    void loadsEnded(const std::unordered_set<ObjectId>& channels) override;
     void recolor() override;
     void notificationsSynched() override;
     void selectionCleanedUp() override;
@@ -72,13 +75,20 @@ class RootViewController final : public ListingsScreen {
     bool takeList(const ObjectId& channel, const ShowSpan& entries);
     bool applicationActive() const;
 
+    void minuteBegan();
+    /// Asks for the shows that take the place of those that have ended.
+    void refill();
+
     std::vector<Row> rowsOf(const Channel& channel, const ShowRows& showRows) const;
     Row channelRow(const Channel& channel) const;
+    /// Why the last load of the channel stored nothing, unless it is being tried again.
+    std::optional<LoadFailure> failureOf(const TVChannel& record) const;
     void reloadTable();
     void reloadRows(const std::unordered_set<ObjectId>& channels);
     void reloadRows(const ObjectId& channel) { reloadRows(std::unordered_set{channel}); }
 
     void selectedChannel(const Channel& channel);
+    void tryAgain(const ObjectId& channel);
 
     static QString identificatorOf(const ShowItem& show);
     void loadPicture(const QUrl& url, const ObjectId& channel, const QString& showIdentifier);
@@ -95,7 +105,13 @@ class RootViewController final : public ListingsScreen {
     LatestAnswer m_rebuild;
     /// Held until the latest rebuild is answered.
     SuspensionToken m_loadQueueSuspension;
+    LatestAnswer m_refill;
     LatestAnswer m_opening;
+    MinuteTick m_minuteTick;
+    /// When the shows that have ended were last removed.
+    Moment m_upToDateAt = Moment::min();
+    /// The channels that the user wants to load again, until their loads begin.
+    std::unordered_set<ObjectId> m_tryingAgain;
 };
 
 } // namespace guide

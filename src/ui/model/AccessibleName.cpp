@@ -33,7 +33,7 @@ struct Name {
 
     QString operator()(const ShowRow& row) const {
         const QString times = row.endTime.isEmpty() ? row.startTime : row.startTime + u'–' + row.endTime;
-        return joined({times, row.title, textIf(row.running, QT_TRANSLATE_NOOP("Guide", "On now")),
+        return joined({row.day, times, row.title, textIf(row.running, QT_TRANSLATE_NOOP("Guide", "On now")),
                        textIf(row.favourite, QT_TRANSLATE_NOOP("Guide", "Favourite")),
                        textIf(row.alarmed, QT_TRANSLATE_NOOP("Guide", "Alarm set")),
                        textIf(row.popular, QT_TRANSLATE_NOOP("Guide", "Popular")), row.details});

@@ -39,6 +39,7 @@ struct RowValue {
 struct ShowRowValue : RowValue, ShowRow {
     Q_GADGET
     QML_VALUE_TYPE(showRow)
+    Q_PROPERTY(QString day MEMBER day CONSTANT FINAL)
     Q_PROPERTY(QString startTime MEMBER startTime CONSTANT FINAL)
     Q_PROPERTY(QString endTime MEMBER endTime CONSTANT FINAL)
     Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)

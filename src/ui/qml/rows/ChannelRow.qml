@@ -62,7 +62,7 @@ TableRow {
             color: Theme.secondaryLabel
             font: Theme.detailsFont
             wrapMode: Text.Wrap
-            maximumLineCount: 2
+            maximumLineCount: Theme.textScale > 1.5 ? 6 : 2
             elide: Text.ElideRight
         }
     }

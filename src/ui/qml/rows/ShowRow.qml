@@ -14,7 +14,7 @@ TableRow {
     readonly property bool stacked: textRight - textStart - timeColumn - 12 < 150 * Theme.textScale
     readonly property double textLeft: textStart + (stacked || timeColumn === 0 ? 0 : timeColumn + 12)
 
-    contentHeight: Math.max(56, progress.y + progress.height + 10, hasPicture ? 60 : 0)
+    contentHeight: Math.max(56, cell.row.day === "" ? 0 : day.y + day.height + 10, progress.y + progress.height + 10, hasPicture ? 60 : 0)
     separatorInset: textLeft
 
     Loader {
@@ -40,10 +40,24 @@ TableRow {
     }
 
     Text {
+        id: end
+
         x: start.x + start.width + 4
         anchors.baseline: start.baseline
         anchors.baselineOffset: -Math.round(6 * Theme.textScale)
         text: cell.row.endTime
+        textFormat: Text.PlainText
+        color: Theme.secondaryLabel
+        font: Theme.endTimeFont
+    }
+
+    // Below the times, or behind them where they are above the title.
+    Text {
+        id: day
+
+        x: cell.stacked ? end.x + end.width + 8 : cell.textStart
+        y: cell.stacked ? start.y + start.baselineOffset - baselineOffset : start.y + start.height
+        text: cell.row.day
         textFormat: Text.PlainText
         color: Theme.secondaryLabel
         font: Theme.endTimeFont
