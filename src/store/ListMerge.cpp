@@ -30,8 +30,11 @@ ShowSpan storedAfter(Moment last, const ShowList& stored, Moment now) {
     if (!stored) {
         return {};
     }
-    const auto rest = std::partition_point(stored->begin(), stored->end(), [&](const ShowItem& show) {
-        return show.entry()->dateTime() <= std::max(last, now);
+    const auto later = std::partition_point(stored->begin(), stored->end(), [last](const ShowItem& show) {
+        return show.entry()->dateTime() <= last;
+    });
+    const auto rest = std::find_if(later, stored->end(), [now](const ShowItem& show) {
+        return show.entry()->dateTime() > now || show.entry()->endsAfter(now);
     });
     const auto first = static_cast<std::size_t>(rest - stored->begin());
     return {stored, first, stored->size() - first};
