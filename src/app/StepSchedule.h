@@ -23,7 +23,7 @@ class StepSchedule {
 
     const UpdateStep& step(std::size_t index) const { return m_nodes[index].step; }
 
-    /// The first step that may start now, which counts as running from here on; nothing when there is none.
+    /// Marks the first step that may start now as running and returns it; nothing when no step may.
     std::optional<std::size_t> start();
     /// Ends a step that was started.
     void finish(std::size_t index);

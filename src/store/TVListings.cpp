@@ -300,7 +300,7 @@ bool TVListings::isScheduledForSaving(const ObjectId& channel) {
 }
 
 void TVListings::checkEnded() {
-    // Behind the changes of the check.
+    // After the changes that the check made.
     m_state->query([](State& state) {
         state.saveSchedule->queue().async([schedule = state.saveSchedule] { schedule->checkEnded(); });
     });

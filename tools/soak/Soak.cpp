@@ -29,7 +29,7 @@ using namespace std::chrono_literals;
 
 constexpr int kChannels = 12;
 constexpr std::size_t kServers = 4;
-/// Of the screen, so that it is compared about 500 times in six hours.
+/// Between two comparisons of the screen: about 500 in six hours.
 constexpr std::chrono::seconds kMeanPause{43};
 constexpr std::chrono::milliseconds kStep{10};
 constexpr double kMostGrowth = 5.0;
@@ -59,7 +59,7 @@ struct Schedule {
     }
 };
 
-/// Answers one request in five with something else than the whole feed.
+/// Answers one request in five with something other than the whole feed.
 class FailingSites {
   public:
     FailingSites() {
@@ -90,7 +90,7 @@ class FailingSites {
         const QByteArray number = request.target.mid(1, request.target.indexOf('.') - 1);
         const QByteArray feed = Schedule{number.toInt()}.feed(m_clock->now());
         const int count = m_requests++;
-        // Not a multiple of the number of channels, so that each fails now and then.
+        // The number of channels is not a multiple of five, so every channel fails now and then.
         if (count % 5 != 4) {
             return ServerReply::ok(feed, {"Content-Type: text/xml"});
         }

@@ -177,7 +177,7 @@ bool XMLTVToEntries::hasRoomForShow() {
     const auto channel = m_channelIndices.find(m_show.sourceId);
     const bool hasPlace =
         channel == m_channelIndices.end() || m_entries[channel->second].entries.size() < kMostShowsOfChannel;
-    // Without memory for this show there is none for the following ones.
+    // When this show does not fit into the memory, reading the following ones is pointless.
     m_isFull = hasPlace && !m_options.control->countShow(textBytes);
     if (hasPlace && !m_isFull) {
         return true;
