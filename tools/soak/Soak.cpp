@@ -3,6 +3,7 @@
 // schedule, and memory, threads and open files at the end with those after the first hour.
 
 #include "app/GuideWorld.h"
+#include "platform/queues/WorkerPool.h"
 #include "screens/root/RootViewController.h"
 #include "soak/FastQueues.h"
 
@@ -15,6 +16,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <latch>
 #include <malloc.h>
 #include <optional>
 #include <random>
@@ -146,6 +148,7 @@ class Soak {
         : m_factor(factor) {
         m_sites.setClock(m_world.clock);
         m_world.adaptQueues = [this](DispatchQueues& queues) -> DispatchQueues& {
+            startAllWorkers(queues);
             return m_queues.emplace(queues, m_factor);
         };
         m_world.device.zone = QTimeZone("Europe/Prague");
@@ -156,6 +159,7 @@ class Soak {
     bool run() {
         setClock({QDate(2026, 10, 24), QTime(22, 30)});
         m_world.start();
+        m_world.guide->applicationDidBecomeActive();
         live(1h);
         const Resources early = resources();
         print("after the first hour", early);
@@ -182,6 +186,17 @@ class Soak {
     }
 
   private:
+    /// Workers are created on demand; with all of them there from the start, any further thread is a leak.
+    static void startAllWorkers(DispatchQueues& queues) {
+        for (const QueuePriority priority :
+             {QueuePriority::Background, QueuePriority::Default, QueuePriority::UserInitiated}) {
+            const auto all = std::make_shared<std::latch>(WorkerPool::defaultAtWork());
+            for (unsigned worker = 0; worker < WorkerPool::defaultAtWork(); ++worker) {
+                queues.globalQueue(priority).async([all] { all->arrive_and_wait(); });
+            }
+        }
+    }
+
     QDateTime localNow() const {
         return QDateTime::fromMSecsSinceEpoch(m_world.clock.now().time_since_epoch().count(),
                                               m_world.device.zone);
@@ -258,6 +273,9 @@ class Soak {
                                           [](const Row& each) { return each.id.show() != nullptr; });
             if (row == section.rows.end()) {
                 ++m_empty;
+                std::printf("%s: channel %d has no shows; its last row: %s\n",
+                            qPrintable(localNow().toString(Qt::ISODate)), channel,
+                            qPrintable(describe(section.rows.back())));
                 continue;
             }
             const Moment expected = Schedule{channel}.startOf(m_world.clock.now());
@@ -271,6 +289,13 @@ class Soak {
                             content.running ? "running" : "not running");
             }
         }
+    }
+
+    static QString describe(const Row& row) {
+        if (const auto* text = std::get_if<TextRow>(&row.content)) {
+            return text->title;
+        }
+        return row.kind() == RowKind::Channel ? u"the channel, loading"_s : u"a button"_s;
     }
 
     static void print(const char* when, const Resources& resources) {
