@@ -1,5 +1,7 @@
 #include "text/search/MatchWord.h"
 
+#include <QString>
+
 #include <gtest/gtest.h>
 
 namespace guide {
