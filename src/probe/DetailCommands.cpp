@@ -47,7 +47,7 @@ Outcome recorded(Context& context) {
     if (const auto* failure = std::get_if<Failure>(&pages)) {
         return *failure;
     }
-    std::optional<QMap<QString, QString>> shows;
+    std::optional<ArchivedShow> shows;
     QString why;
     if (!arguments.operands.isEmpty()) {
         shows = recordedShowsWithTitle(*title, context.hosts, givenPages(std::get<0>(pages)));
@@ -64,7 +64,7 @@ Outcome recorded(Context& context) {
         return QJsonObject{{u"recorded"_s, QJsonValue::Null}};
     }
     QJsonObject labels;
-    for (auto show = shows->cbegin(); show != shows->cend(); ++show) {
+    for (auto show = shows->broadcasts.cbegin(); show != shows->broadcasts.cend(); ++show) {
         labels.insert(show.key(), show.value());
     }
     return QJsonObject{{u"recorded"_s, labels}};

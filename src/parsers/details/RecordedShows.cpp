@@ -64,8 +64,8 @@ std::optional<QMap<QString, QString>> options(const QByteArray& page) {
 
 } // namespace
 
-std::optional<QMap<QString, QString>>
-recordedShowsWithTitle(const QString& title, const SourceHostTable& hosts, const PageSource& pages) {
+std::optional<ArchivedShow> recordedShowsWithTitle(const QString& title, const SourceHostTable& hosts,
+                                                   const PageSource& pages) {
     const auto base = hosts.base(u"HRTHost"_s);
     if (!base) {
         return std::nullopt;
@@ -79,7 +79,8 @@ recordedShowsWithTitle(const QString& title, const SourceHostTable& hosts, const
     }
     qCInfo(parsersLog, "URL2=%s", qUtf8Printable(show->toString()));
     const auto page = pages(*show);
-    return page ? options(*page) : std::nullopt;
+    auto broadcasts = page ? options(*page) : std::nullopt;
+    return broadcasts ? std::optional(ArchivedShow{*show, *std::move(broadcasts)}) : std::nullopt;
 }
 
 } // namespace guide

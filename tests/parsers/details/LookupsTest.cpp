@@ -39,7 +39,9 @@ TEST(RecordedShows, ReadsTheSelectBoxOfTheShow) {
                                  : url == QUrl(u"https://hrt.example/enz/dnevnik/"_s) ? each.box
                                                                                       : QByteArray());
         });
-        EXPECT_EQ(found, each.expected) << each.name;
+        EXPECT_EQ(found ? std::optional(found->broadcasts) : std::nullopt, each.expected) << each.name;
+        EXPECT_EQ(found ? found->page : QUrl(),
+                  each.expected ? QUrl(u"https://hrt.example/enz/dnevnik/"_s) : QUrl());
     }
 }
 
