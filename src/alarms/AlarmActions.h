@@ -1,9 +1,11 @@
 #pragma once
 
+#include "alarms/Favorites.h"
 #include "core/ObjectId.h"
 #include "platform/Moment.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -40,8 +42,12 @@ class FavoriteActions {
     virtual ~FavoriteActions() = default;
     /// Only refreshes the screens if there is already a rule with the title.
     virtual void addFavorite(const QString& title) = 0;
-    /// Removes the rule and all alarms of the title.
-    virtual void removeFavorite(const QString& title) = 0;
+    /// Removes the rules and all alarms of the titles, and refreshes the screens once.
+    virtual void removeFavorites(const QStringList& titles) = 0;
+    void removeFavorite(const QString& title) { removeFavorites({title}); }
+    /// Undoes a removal: the rules of the titles return with their settings to the places that they have in
+    /// `before`. A title that has a rule again keeps it.
+    virtual void restoreFavorites(const FavoritesSnapshot& before, const QStringList& titles) = 0;
 };
 
 } // namespace guide

@@ -11,6 +11,8 @@ class AlarmSynchronisation {
     virtual void setSynchronized(bool synchronized) = 0;
     /// Starts a run, which does little when the mark is set. Main queue.
     virtual void syncAlarms() = 0;
+    /// Whether a run is under way. Main queue.
+    virtual bool isRunning() const = 0;
     /// Starts writing the calendar's unsaved changes.
     virtual void commit() = 0;
 

@@ -23,6 +23,8 @@ struct Favorite {
     Moment date;
     /// Unset for any broadcast, false for premieres only, true for replays only.
     std::optional<bool> previouslyShown;
+
+    friend bool operator==(const Favorite&, const Favorite&) = default;
 };
 
 /// All rules at one moment, in the order in which they were added.

@@ -43,12 +43,14 @@ struct FakeAlarms final : AlarmsSource, AlarmSynchronisation {
     }
     void setSynchronized(bool synchronized) override { isSynchronized = synchronized; }
     void syncAlarms() override { ++syncs; }
+    bool isRunning() const override { return running; }
     void commit() override { ++commits; }
 
     AlarmsSnapshot::MinutesByShow events;
     std::atomic<bool> isSynchronized = true;
     std::atomic<int> syncs = 0;
     int commits = 0;
+    bool running = false;
 };
 
 struct CountingListingsObserver final : ListingsObserver {

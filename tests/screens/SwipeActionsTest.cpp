@@ -23,7 +23,8 @@ struct Calls final : AlarmActions, FavoriteActions {
     void removeAlarmForTitle(const QString&, bool, bool) override {}
     int lastAlarmMinutes() const override { return 10; }
     void addFavorite(const QString& title) override { log << u"add "_s + title; }
-    void removeFavorite(const QString& title) override { log << u"forget "_s + title; }
+    void removeFavorites(const QStringList& titles) override { log << u"forget "_s + titles.join(u", "_s); }
+    void restoreFavorites(const FavoritesSnapshot&, const QStringList&) override {}
 
     QStringList log;
 };

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "alarms/Favorites.h"
+
+#include <QByteArray>
+#include <QCborValue>
+
+#include <optional>
+#include <vector>
+
+namespace guide {
+
+/// The content of the file of rules: an archive of all of them, in their order.
+QByteArray favoritesFileContent(const std::vector<Favorite>& rules);
+/// The reverse; nothing when the content is damaged or a rule lacks its title, lead time or date.
+std::optional<std::vector<Favorite>> favoritesOfFile(const QByteArray& content);
+
+/// The form of the rules in the key-value store: an array with an archive of each rule.
+QCborValue favoritesMirror(const std::vector<Favorite>& rules);
+/// The reverse. An element that is not the archive of a rule is left out; nothing when the value is not an
+/// array.
+std::optional<std::vector<Favorite>> favoritesOfMirror(const QCborValue& value);
+
+} // namespace guide

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "alarms/Favorites.h"
+#include "platform/KeyValueStore.h"
+#include "platform/files/Folders.h"
+#include "platform/queues/DispatchQueue.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace guide {
+
+/// The user's rules on show titles, in the order in which they were added, kept in the documents folder and
+/// mirrored to the key-value store after every change.
+///
+/// Readers get a snapshot and never wait for a write to the disk; a change is visible when setFavorites
+/// returns and is written afterwards. In a profile that cannot be written it lives in memory.
+class TVShows final : public FavoritesSource {
+  public:
+    /// The key-value store must outlive this object.
+    TVShows(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues);
+    TVShows(const TVShows&) = delete;
+    TVShows& operator=(const TVShows&) = delete;
+    ~TVShows() override;
+
+    /// The rules. The first call reads the file; a file that is damaged is kept under another name, and the
+    /// copy in the key-value store takes its place. Nothing without a readable file and a copy: then the next
+    /// call tries again. Any thread.
+    std::optional<std::vector<Favorite>> favorites();
+
+    /// Replaces the rules. An equal list writes nothing. Any thread.
+    void setFavorites(std::vector<Favorite> rules);
+
+    /// What was read or set so far: empty until the first successful call of one of the functions above.
+    std::shared_ptr<const FavoritesSnapshot> snapshot() const override;
+
+    /// Retries, in the background, a write that failed.
+    void retryWriting();
+    /// Blocks until the pending write is done, retrying one that failed. Called at shutdown. False when the
+    /// write failed again.
+    bool finishWriting();
+
+  private:
+    struct State;
+    std::shared_ptr<State> m_state;
+};
+
+} // namespace guide
