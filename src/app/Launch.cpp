@@ -4,7 +4,9 @@
 #include "app/SelectionCleanup.h"
 #include "core/CatalogueFiles.h"
 #include "core/SupportedChannelTypes.h"
+#include "parsers/details/PageSource.h"
 #include "screens/Localized.h"
+#include "screens/SwipeActions.h"
 #include "screens/shell/GuideTabs.h"
 
 #include <algorithm>
@@ -12,6 +14,12 @@
 namespace guide {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::seconds kRecordedShowsTimeout{20};
+
+} // namespace
 
 bool QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBarController&)>& showWindow) {
     // Does not interrupt other audio during the launch.
@@ -29,6 +37,7 @@ bool QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBar
     makeSelection();
     // Runs after the launch, when the store exists.
     onMainQueue(&QuellinGuideAppDelegate::cleanUpSelection);
+    makeFavorites();
     // Starts reading the listing files.
     makeListings();
     makeUpdateCycle();
@@ -94,6 +103,26 @@ void QuellinGuideAppDelegate::makeSelection() {
     }
 }
 
+void QuellinGuideAppDelegate::makeFavorites() {
+    m_shows =
+        std::make_unique<TVShows>(m_environment.folders, m_environment.keyValueStore, m_environment.queues);
+    // Before the store and the screens, which look only at rules that have been read.
+    m_shows->favorites();
+    m_favoriteOperations = std::make_unique<FavoriteOperations>(FavoriteOperationsEnvironment{
+        .clock = m_environment.clock,
+        .mainQueue = m_environment.queues.mainQueue(),
+        .shows = *m_shows,
+        .alarmActions = m_alarmActions,
+        .counters = m_showCounters,
+        .favoritesUpdated =
+            [this, alive = std::weak_ptr(m_alive)] {
+                if (!alive.expired() && m_screens) {
+                    m_screens->favoritesUpdated();
+                }
+            },
+    });
+}
+
 void QuellinGuideAppDelegate::makeListings() {
     m_listings = std::make_unique<TVListings>(TVListingsEnvironment{
         .clock = m_environment.clock,
@@ -104,7 +133,7 @@ void QuellinGuideAppDelegate::makeListings() {
         .applicationState = m_environment.applicationState,
         .channels = *m_channels,
         .alphabet = m_alphabet,
-        .favorites = m_favorites,
+        .favorites = *m_shows,
         .popularShows = m_popularShows,
         .observer = m_alarmUpdater,
         .scheme = m_environment.scheme,
@@ -177,10 +206,14 @@ void QuellinGuideAppDelegate::makeRetries() {
 
 void QuellinGuideAppDelegate::makeScreens() {
     m_guidePictures = std::make_unique<GuidePictures>(*m_icons, m_pictureCache);
+    m_recordedShows = std::make_unique<RecordedShowsLookup>(
+        m_environment.queues, m_environment.hosts,
+        networkPageSource(*m_fetcher, *m_userAgent, kRecordedShowsTimeout));
     m_tabBarController = makeGuideTabs(std::make_shared<const ScreenEnvironment>(ScreenEnvironment{
         .clock = m_environment.clock,
         .device = m_environment.device,
         .mainQueue = m_environment.queues.mainQueue(),
+        .queues = m_environment.queues,
         .loadQueue = *m_loadQueue,
         .applicationState = m_environment.applicationState,
         .listings = *m_listings,
@@ -188,15 +221,26 @@ void QuellinGuideAppDelegate::makeScreens() {
         .icons = *m_icons,
         .catalogue = m_catalogue,
         .alphabet = m_alphabet,
-        .favorites = m_favorites,
+        .favorites = *m_shows,
         .alarms = m_alarms,
         .alarmSynchronisation = m_alarms,
+        .alertsSchedule = m_alarms,
+        .alarmActions = m_alarmActions,
+        .favoriteActions = *m_favoriteOperations,
+        .recordedShows = *m_recordedShows,
         .popularShows = m_popularShows,
         .pictures = m_pictures,
         .pictureCache = m_pictureCache,
         .settings = *this,
         .updates = *this,
         .navigation = *this,
+        .swipeActions =
+            [this](const std::shared_ptr<const TVEntry>& entry, const auto&) {
+                return swipeActions({m_environment.clock, *m_shows, m_alarms, m_alarmActions,
+                                     *m_favoriteOperations,
+                                     [this](Alert alert) { presentAlert(std::move(alert)); }},
+                                    entry);
+            },
     }));
     m_screens = std::make_unique<ScreenBroadcast>(*m_tabBarController, m_environment.applicationState);
 }

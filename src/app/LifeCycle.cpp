@@ -25,7 +25,9 @@ void QuellinGuideAppDelegate::applicationDidEnterBackground() {
     m_alarms.commit();
     m_environment.userDefaults.synchronize();
     m_channels->retryWriting();
+    m_shows->retryWriting();
     m_listings->commitFiles();
+    m_screens->applicationDidEnterBackground();
 }
 
 void QuellinGuideAppDelegate::applicationWillTerminate() {

@@ -2,6 +2,7 @@
 
 #include "screens/Localized.h"
 #include "screens/shell/GuideTabs.h"
+#include "sources/WebURL.h"
 
 #include <QDateTime>
 
@@ -13,6 +14,8 @@ namespace guide {
 QuellinGuideAppDelegate::QuellinGuideAppDelegate(ApplicationEnvironment environment)
     : m_environment(std::move(environment))
     , m_settings(m_environment.userDefaults)
+    , m_alarms(m_environment.queues.mainQueue())
+    , m_alarmActions(m_environment.keyValueStore)
     , m_alarmUpdater(m_alarms, m_environment.queues.mainQueue(), m_environment.applicationState,
                      m_environment.userDefaults) {}
 
@@ -32,18 +35,39 @@ void QuellinGuideAppDelegate::updateBadge() {
 }
 
 void QuellinGuideAppDelegate::playURL(const QUrl& url) {
-    const bool isWeb =
-        url.scheme() == QLatin1StringView("https") || url.scheme() == QLatin1StringView("http");
-    if (isWeb && m_environment.openExternally) {
+    openWebPage(url, {});
+}
+
+void QuellinGuideAppDelegate::openWebPage(const QUrl& url, const QString& /*title*/) {
+    if (isWebURL(url) && m_environment.openExternally) {
         m_environment.openExternally(url);
     }
 }
 
-void QuellinGuideAppDelegate::presentAlert(const QString& title, const QString& message, Block okPressed) {
+void QuellinGuideAppDelegate::presentAlert(Alert alert) {
     if (m_tabBarController) {
-        m_tabBarController->presentAlert(
-            {title, message, {{Localized::tr("OK"), AlertAction::Style::Default, std::move(okPressed)}}});
+        m_tabBarController->presentAlert(std::move(alert));
     }
+}
+
+void QuellinGuideAppDelegate::presentNotice(Notice notice) {
+    if (m_tabBarController) {
+        m_tabBarController->presentNotice(std::move(notice));
+    }
+}
+
+void QuellinGuideAppDelegate::selectTab(Symbol tab) {
+    const auto& tabs = m_tabBarController->tabs();
+    const auto found =
+        std::ranges::find(tabs, tab, [](const TabBarController::Tab& each) { return each.item.symbol; });
+    if (found != tabs.end()) {
+        m_tabBarController->setSelectedIndex(static_cast<int>(found - tabs.begin()));
+    }
+}
+
+void QuellinGuideAppDelegate::presentAlert(const QString& title, const QString& message, Block okPressed) {
+    presentAlert(
+        {title, message, {{Localized::tr("OK"), AlertAction::Style::Default, std::move(okPressed)}}});
 }
 
 void QuellinGuideAppDelegate::detectAlphabet() {
@@ -86,6 +110,9 @@ bool QuellinGuideAppDelegate::shutDown(std::chrono::milliseconds atMost) {
     const bool written = !m_listings || m_listings->finishWriting(left());
     if (m_channels) {
         m_channels->finishWriting();
+    }
+    if (m_shows) {
+        m_shows->finishWriting();
     }
     return m_environment.userDefaults.synchronize() && checkEnded && written;
 }

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "alarms/FavoriteOperations.h"
+#include "alarms/TVShows.h"
 #include "app/AlarmUpdater.h"
 #include "app/ApplicationEnvironment.h"
 #include "app/InterruptibleWait.h"
 #include "app/LoadRetries.h"
 #include "app/NullServices.h"
+#include "app/RecordedShowsLookup.h"
 #include "app/UpdateCycle.h"
 #include "core/Catalogue.h"
 #include "core/RemoteHostAlert.h"
@@ -87,6 +90,10 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
 
     // AppNavigation
     void playURL(const QUrl& url) override;
+    void openWebPage(const QUrl& url, const QString& title) override;
+    void presentAlert(Alert alert) override;
+    void presentNotice(Notice notice) override;
+    void selectTab(Symbol tab) override;
 
     // AlertPresenter
     void presentAlert(const QString& title, const QString& message, Block okPressed) override;
@@ -96,6 +103,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void makeSources();
     void makeCatalogue();
     void makeSelection();
+    void makeFavorites();
     void makeListings();
     void makeUpdateCycle();
     void makeRetries();
@@ -126,8 +134,9 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     /// Ends a reader that is at work.
     std::atomic<bool> m_isShuttingDown = false;
 
-    NoFavorites m_favorites;
     NoAlarms m_alarms;
+    NoAlarmActions m_alarmActions;
+    NoShowCounters m_showCounters;
     AlarmUpdater m_alarmUpdater;
     NoPopularShows m_popularShows;
     NoShowPictures m_pictures;
@@ -146,12 +155,15 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     Catalogue m_catalogue;
     QString m_catalogueProblem;
     std::unique_ptr<TVChannels> m_channels;
+    std::unique_ptr<TVShows> m_shows;
+    std::unique_ptr<FavoriteOperations> m_favoriteOperations;
     std::unique_ptr<TVListings> m_listings;
     std::unique_ptr<ListDriver> m_listDriver;
     std::unique_ptr<SourceHealthRecords> m_sourceHealth;
     std::unique_ptr<UpdateCycle> m_updateCycle;
     std::unique_ptr<LoadRetries> m_retries;
     std::unique_ptr<GuidePictures> m_guidePictures;
+    std::unique_ptr<RecordedShowsLookup> m_recordedShows;
     std::unique_ptr<TabBarController> m_tabBarController;
     std::unique_ptr<ScreenBroadcast> m_screens;
 };

@@ -34,8 +34,10 @@ const ShowItem* findShow(std::span<const ShowItem> shows, const ShowRowKey& key)
 }
 
 ShowRows::ShowRows(const ScreenEnvironment& environment)
-    : m_environment(environment)
+    : m_popularShows(environment.popularShows)
+    , m_colorizedShows(environment.settings.colorizedShows())
     , m_now(environment.clock.now())
+    , m_zone(environment.device.timeZone())
     , m_today(localTime(environment.device, m_now).date())
     , m_marks(environment)
     , m_text(environment.device.locale(), environment.device.timeZone()) {}
@@ -48,11 +50,11 @@ ShowRow ShowRows::condensed(const ShowItem& show, const std::optional<Moment>& e
     ColorRole color = ColorRole::SecondaryLabel;
     if (alarmed) {
         color = ColorRole::Alarm;
-    } else if (m_environment.settings.colorizedShows() && (running || favourite)) {
+    } else if (m_colorizedShows && (running || favourite)) {
         color = running ? ColorRole::Running : ColorRole::Favourite;
     }
 
-    ShowRow row = m_text.humanCondensedWithColor(entry, color, m_environment.popularShows.contains(show));
+    ShowRow row = m_text.humanCondensedWithColor(entry, color, m_popularShows.contains(show));
     row.endTime = m_text.shortTime(end);
     row.details = entry.fullInstantDetails().value_or(QString());
     row.alarmed = alarmed;
@@ -65,9 +67,11 @@ ShowRow ShowRows::condensed(const ShowItem& show, const std::optional<Moment>& e
 }
 
 QString ShowRows::dayUnlessToday(const TVEntry& entry) const {
-    return entry.dateTime()
-               ? m_text.dayUnlessToday(localTime(m_environment.device, *entry.dateTime()).date(), m_today)
-               : QString();
+    return entry.dateTime() ? m_text.dayUnlessToday(QDateTime::fromMSecsSinceEpoch(
+                                                        entry.dateTime()->time_since_epoch().count(), m_zone)
+                                                        .date(),
+                                                    m_today)
+                            : QString();
 }
 
 QDateTime localTime(const Device& device, Moment moment) {

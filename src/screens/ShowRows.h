@@ -40,7 +40,8 @@ class ShowRowIds {
 /// The show that has the key among the shows of a section; null when there is none.
 const ShowItem* findShow(std::span<const ShowItem> shows, const ShowRowKey& key);
 
-/// Makes the show rows for one rebuild of a screen.
+/// Makes the show rows for one rebuild of a screen, from the state of the guide at its construction. Any
+/// thread after that.
 class ShowRows {
   public:
     explicit ShowRows(const ScreenEnvironment& environment);
@@ -53,8 +54,10 @@ class ShowRows {
     QString dayUnlessToday(const TVEntry& entry) const;
 
   private:
-    const ScreenEnvironment& m_environment;
+    const PopularShows& m_popularShows;
+    const bool m_colorizedShows;
     const Moment m_now;
+    const QTimeZone m_zone;
     /// In the device's zone.
     const QDate m_today;
     const ShowMarks m_marks;

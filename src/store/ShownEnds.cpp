@@ -44,6 +44,12 @@ bool ShownEnds::overAt(const TVEntry& entry, Moment now) const {
     return end && *end < now;
 }
 
+std::optional<Moment> shownEnd(const TVEntry& entry) {
+    const auto& start = entry.dateTime();
+    const auto& end = entry.endDateTime();
+    return start && end && plausible(*start, *end) ? end : std::nullopt;
+}
+
 ShowItems showsNotOver(std::span<const ShowItem> shows, Moment now) {
     const ShownEnds ends(shows);
     ShowItems result;

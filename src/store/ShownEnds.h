@@ -31,6 +31,9 @@ class ShownEnds {
     std::unordered_map<const TVEntry*, std::optional<Moment>> m_replaced;
 };
 
+/// The end of a show whose list is not known: its own, or unset when that is wrong.
+std::optional<Moment> shownEnd(const TVEntry& entry);
+
 /// The list without the shows that are over at the moment.
 ShowItems showsNotOver(std::span<const ShowItem> shows, Moment now);
 

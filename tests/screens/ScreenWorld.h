@@ -48,12 +48,41 @@ inline const ChannelRow& channelAt(const Table& table, int row) {
 }
 
 /// The settings that screens read, and a log of what they ask of the application.
-struct WorldApp final : ScreenSettings, ListingsUpdates, AppNavigation, AlarmSynchronisation {
+struct WorldApp final : ScreenSettings,
+                        ListingsUpdates,
+                        AppNavigation,
+                        AlarmSynchronisation,
+                        AlarmActions,
+                        FavoriteActions {
     void checkAndUpdateAllChannels() override { done << u"check"_s; }
     void setSynchronized(bool synchronized) override { m_synchronized = synchronized; }
     void syncAlarms() override { done << (m_synchronized ? u"sync"_s : u"alarms"_s); }
+    bool isRunning() const override { return synchronising; }
     void commit() override {}
     void playURL(const QUrl& url) override { done << u"play "_s + QString::fromLatin1(url.toEncoded()); }
+    void openWebPage(const QUrl& url, const QString& title) override {
+        done << u"open %1 %2"_s.arg(QString::fromLatin1(url.toEncoded()), title);
+    }
+    void presentAlert(Alert alert) override { alerts.push_back(std::move(alert)); }
+    void presentNotice(Notice notice) override { notices.push_back(std::move(notice)); }
+    void selectTab(Symbol tab) override { done << u"tab %1"_s.arg(static_cast<int>(tab)); }
+    void setAlarmForTitle(const QString& title, const ObjectId&, Moment, Moment, int minutes, bool,
+                          bool) override {
+        done << u"alarm %1 %2"_s.arg(title).arg(minutes);
+    }
+    void removeAlarmForTitle(const QString& title, const ObjectId&, Moment, bool, bool) override {
+        done << u"no alarm "_s + title;
+    }
+    void setAlarmForTitle(const QString& title, int minutes, std::optional<bool>, bool) override {
+        done << u"alarms %1 %2"_s.arg(title).arg(minutes);
+    }
+    void removeAlarmForTitle(const QString& title, bool, bool) override { done << u"no alarms "_s + title; }
+    int lastAlarmMinutes() const override { return 0; }
+    void addFavorite(const QString& title) override { done << u"add "_s + title; }
+    void removeFavorites(const QStringList& titles) override { done << u"remove "_s + titles.join(u", "_s); }
+    void restoreFavorites(const FavoritesSnapshot&, const QStringList& titles) override {
+        done << u"restore "_s + titles.join(u", "_s);
+    }
     bool imagesEnabled() const override { return images; }
     bool colorizedShows() const override { return colorized; }
     std::chrono::seconds automaticUpdateInterval() const override { return 24h; }
@@ -64,8 +93,11 @@ struct WorldApp final : ScreenSettings, ListingsUpdates, AppNavigation, AlarmSyn
     std::function<std::vector<RowAction>(const TVEntry&)> swipeActions = [](const TVEntry&) {
         return std::vector<RowAction>();
     };
+    std::vector<Alert> alerts;
+    std::vector<Notice> notices;
     bool images = true;
     bool colorized = true;
+    bool synchronising = false;
 
   private:
     bool m_synchronized = true;
@@ -81,6 +113,26 @@ struct WorldPictures final : ShowPictures {
     }
     std::map<QString, MainBlock<QImage>> pictures;
     std::vector<std::pair<ShowItems, MainBlock<ShowItems, std::vector<QImage>>>> details;
+};
+
+/// Keeps the requests, so that a test can answer them.
+struct WorldArchive final : RecordedShowsSource {
+    void recordedShowsWithTitle(const QString& title,
+                                MainBlock<std::vector<RecordedShow>> mainBlock) override {
+        requests.emplace_back(title, std::move(mainBlock));
+    }
+    std::vector<std::pair<QString, MainBlock<std::vector<RecordedShow>>>> requests;
+};
+
+/// Answers with the shows that the test sets.
+struct WorldAlerts final : AlertsSchedule {
+    explicit WorldAlerts(DispatchQueue& ownMainQueue)
+        : mainQueue(ownMainQueue) {}
+    void alertsScheduleWithPriority(QueuePriority, MainBlock<ShowSpan> mainBlock) override {
+        mainBlock.post(mainQueue, shows);
+    }
+    DispatchQueue& mainQueue;
+    ShowSpan shows;
 };
 
 struct WorldShow {
@@ -132,10 +184,15 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
             return app.swipeActions(*entry);
         };
         environment = std::make_shared<const ScreenEnvironment>(
-            ScreenEnvironment{clock,     device,      queues.mainQueue(), *loadQueue,   state,     *listings,
-                              *channels, *icons,      catalogue,          alphabet,     favorites, alarms,
-                              app,       popular,     pictures,           pictureCache, app,       app,
-                              app,       swipeActions});
+            ScreenEnvironment{clock,       device,     queues.mainQueue(),
+                              queues,      *loadQueue, state,
+                              *listings,   *channels,  *icons,
+                              catalogue,   alphabet,   favorites,
+                              alarms,      app,        alerts,
+                              app,         app,        archive,
+                              popular,     pictures,   pictureCache,
+                              app,         app,        app,
+                              swipeActions});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -205,6 +262,8 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
     WorldPictures pictures;
     ShowPictureCache pictureCache;
     WorldApp app;
+    WorldArchive archive;
+    WorldAlerts alerts{queues.mainQueue()};
     std::shared_ptr<DispatchQueue> loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial);
     std::unique_ptr<TVStationIcons> icons;
     std::shared_ptr<const ScreenEnvironment> environment;

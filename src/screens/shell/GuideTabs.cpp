@@ -1,6 +1,7 @@
 #include "screens/shell/GuideTabs.h"
 
 #include "screens/Localized.h"
+#include "screens/compound/CompoundListingsViewController.h"
 #include "screens/root/RootViewController.h"
 #include "screens/shell/EmptyViewController.h"
 
@@ -23,20 +24,18 @@ std::unique_ptr<TabBarController> makeGuideTabs(std::shared_ptr<const ScreenEnvi
     const UserInterfaceIdiom idiom = environment->device.userInterfaceIdiom();
     auto tabs = std::make_unique<TabBarController>(idiom, environment->mainQueue);
     if (idiom == UserInterfaceIdiom::Tablet) {
-        addComingTab(*tabs, Localized::tr("All Shows"), Symbol::AllShows,
-                     Localized::tr("All shows of all your channels come with a later version. See Currently "
-                                   "for what is on now."));
+        tabs->addTab({Localized::tr("All Shows"), Symbol::AllShows, true, {}},
+                     std::make_shared<CompoundListingsViewController>(environment, CategoryListings{}));
     }
     tabs->addTab({Localized::tr("Currently"), Symbol::Currently, true, {}},
-                 std::make_shared<RootViewController>(std::move(environment)));
+                 std::make_shared<RootViewController>(environment));
     addComingTab(*tabs, Localized::tr("Categories"), Symbol::Categories,
                  Localized::tr("Films, series, sport and the other kinds of shows come with a later version. "
                                "See Currently for what is on now."));
     addComingTab(*tabs, Localized::tr("Search"), Symbol::Search,
                  Localized::tr("Searching comes with a later version. See Currently for what is on now."));
-    addComingTab(*tabs, Localized::tr("Schedule"), Symbol::Schedule,
-                 Localized::tr("The schedule of your alarms and favourites comes with a later version. See "
-                               "Currently for what is on now."));
+    tabs->addTab({Localized::tr("Schedule"), Symbol::Schedule, true, {}},
+                 std::make_shared<CompoundListingsViewController>(environment, FavoriteListings{}));
     addComingTab(*tabs, Localized::tr("Selected Channels"), Symbol::SelectedChannels,
                  Localized::tr("Choosing channels here comes with a later version. Until then the guide "
                                "takes them from a file when it starts."),

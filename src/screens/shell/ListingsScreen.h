@@ -15,6 +15,7 @@ using TopShows = std::unordered_map<ObjectId, ShowSpan>;
 class ListingsScreen : public TableViewController {
   public:
     virtual void applicationDidBecomeActive() {}
+    virtual void applicationDidEnterBackground() {}
     /// The update cycle has stored new lists.
     virtual void offerTopShows(const TopShows&) {}
     /// The load failure of these channels has changed.

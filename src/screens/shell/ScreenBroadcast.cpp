@@ -9,6 +9,10 @@ void ScreenBroadcast::applicationDidBecomeActive() {
     forEachScreen([](ListingsScreen& screen) { screen.applicationDidBecomeActive(); });
 }
 
+void ScreenBroadcast::applicationDidEnterBackground() {
+    forEachScreen([](ListingsScreen& screen) { screen.applicationDidEnterBackground(); });
+}
+
 void ScreenBroadcast::offerTopShows(const TopShows& top) {
     if (m_applicationState.applicationState() != ApplicationState::Background) {
         forEachScreen([&top](ListingsScreen& screen) { screen.offerTopShows(top); });

@@ -17,6 +17,7 @@ class ScreenBroadcast {
 
     /// Loaded screens rebuild now, the others when they appear.
     void applicationDidBecomeActive();
+    void applicationDidEnterBackground();
     /// Does nothing in the background, because the next activation refreshes the screens.
     void offerTopShows(const TopShows& top);
     /// The load failure of these channels has changed: a load has begun, or ended without a list. Does

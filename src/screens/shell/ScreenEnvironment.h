@@ -1,6 +1,8 @@
 #pragma once
 
+#include "alarms/AlarmActions.h"
 #include "alarms/AlarmSynchronisation.h"
+#include "alarms/AlertsSchedule.h"
 #include "alarms/Favorites.h"
 #include "alarms/PendingAlarms.h"
 #include "core/Catalogue.h"
@@ -12,6 +14,7 @@
 #include "platform/queues/DispatchQueue.h"
 #include "screens/AppNavigation.h"
 #include "screens/ListingsUpdates.h"
+#include "screens/RecordedShows.h"
 #include "screens/ScreenSettings.h"
 #include "screens/ShowPictureCache.h"
 #include "screens/ShowPictures.h"
@@ -32,6 +35,8 @@ struct ScreenEnvironment {
     const Clock& clock;
     const Device& device;
     DispatchQueue& mainQueue;
+    /// The queues of the process, for work in the background.
+    DispatchQueues& queues;
     /// Parses lists; suspended while the first screen rebuilds.
     DispatchQueue& loadQueue;
     const ApplicationStateSource& applicationState;
@@ -43,6 +48,10 @@ struct ScreenEnvironment {
     const FavoritesSource& favorites;
     const AlarmsSource& alarms;
     AlarmSynchronisation& alarmSynchronisation;
+    AlertsSchedule& alertsSchedule;
+    AlarmActions& alarmActions;
+    FavoriteActions& favoriteActions;
+    RecordedShowsSource& recordedShows;
     const PopularShows& popularShows;
     ShowPictures& pictures;
     ShowPictureCache& pictureCache;

@@ -1,0 +1,53 @@
+#include "screens/compound/CompoundRows.h"
+
+#include "store/ShownEnds.h"
+
+#include <utility>
+
+namespace guide {
+
+CompoundRows::CompoundRows(const ScreenEnvironment& environment)
+    : m_rows(environment)
+    , m_catalogue(environment.catalogue.snapshot())
+    , m_icons(environment.icons)
+    , m_locale(environment.device.locale())
+    , m_zone(environment.device.timeZone()) {}
+
+CompoundSections CompoundRows::sectionsOf(const ShowSpan& shows) const {
+    CompoundSections result;
+    result.days = daySections(showsWithChannelIcon(shows, *m_catalogue, m_icons), m_locale, m_zone);
+    result.sections.reserve(result.days.size());
+    for (const DaySection& day : result.days) {
+        Section section{.id = day.id(), .header = day.title};
+        section.rows.reserve(day.shows.size());
+        ShowRowIds ids(section.id);
+        for (const ShowItem& show : day.shows) {
+            section.rows.push_back(showRow(ids.next(*show.entry()), show));
+        }
+        result.sections.push_back(std::move(section));
+    }
+    return result;
+}
+
+Row CompoundRows::showRow(RowId id, const ShowItem& show) const {
+    const TVEntry& entry = *show.entry();
+    ShowRow row = m_rows.condensed(show, shownEnd(entry), isRunning(entry));
+    row.popular = false;
+    row.allDetails = true;
+    if (const CatalogueChannel* channel = m_catalogue->find(entry.channel())) {
+        row.channelIcon = {PictureKey::Kind::ChannelIcon, channel->icon};
+    }
+    return {.id = std::move(id), .content = std::move(row)};
+}
+
+bool CompoundRows::isRunning(const TVEntry& entry) const {
+    const std::optional<Moment> end = shownEnd(entry);
+    return entry.dateTime() <= m_rows.now() && end && *end > m_rows.now();
+}
+
+bool CompoundRows::isOver(const TVEntry& entry) const {
+    const std::optional<Moment> end = shownEnd(entry);
+    return end && *end <= m_rows.now();
+}
+
+} // namespace guide

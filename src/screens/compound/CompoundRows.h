@@ -1,0 +1,42 @@
+#pragma once
+
+#include "screens/DaySections.h"
+#include "screens/ShowRows.h"
+#include "screens/kit/Table.h"
+#include "screens/shell/ScreenEnvironment.h"
+
+#include <memory>
+#include <vector>
+
+namespace guide {
+
+/// Shows of several channels, grouped by day, and the rows made of them. There is a row for each show, in the
+/// same order.
+struct CompoundSections {
+    std::vector<DaySection> days;
+    std::vector<Section> sections;
+};
+
+/// Makes the rows of a list of several channels. Any thread after the construction, which takes the state of
+/// the guide that the rows show.
+class CompoundRows {
+  public:
+    explicit CompoundRows(const ScreenEnvironment& environment);
+
+    /// Leaves out shows whose channel is not in the catalogue or has no icon. Loads the icons.
+    CompoundSections sectionsOf(const ShowSpan& shows) const;
+    Row showRow(RowId id, const ShowItem& show) const;
+
+    /// A show that ends now is over here.
+    bool isRunning(const TVEntry& entry) const;
+    bool isOver(const TVEntry& entry) const;
+
+  private:
+    const ShowRows m_rows;
+    const SharedCatalogueSnapshot m_catalogue;
+    TVStationIcons& m_icons;
+    const QLocale m_locale;
+    const QTimeZone m_zone;
+};
+
+} // namespace guide
