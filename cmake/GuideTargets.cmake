@@ -1,5 +1,6 @@
 # Functions that define every target of the tree, with the same standard, warnings and include rules.
 option(QUELLIN_PCH "Precompile the standard and Qt Core headers" ON)
+option(QUELLIN_COMPILE_QML "Compile the QML files; otherwise they are compiled when the program starts" ON)
 option(QUELLIN_WERROR "Treat warnings as errors" ON)
 option(QUELLIN_BENCH "Build the benchmarks" OFF)
 set(QUELLIN_SANITIZE "" CACHE STRING "Sanitizers to build with, comma-separated: address,undefined or thread")
