@@ -15,6 +15,8 @@ class AlarmSynchronisation {
     virtual bool isRunning() const = 0;
     /// Starts writing the calendar's unsaved changes.
     virtual void commit() = 0;
+    /// Whether the user lets the guide read and write the calendar.
+    virtual bool hasCalendarAccess() const = 0;
 
     /// Starts a full run. Main queue.
     void resynchronize() {

@@ -5,6 +5,7 @@
 #include "parsers/URLPlanner.h"
 #include "platform/AudioSession.h"
 #include "platform/BackgroundTasks.h"
+#include "platform/Clipboard.h"
 #include "platform/Clock.h"
 #include "platform/Device.h"
 #include "platform/KeyValueStore.h"
@@ -45,6 +46,7 @@ struct ApplicationEnvironment {
     /// Null when nothing reports that the device has got a network.
     NetworkWatch* networkWatch = nullptr;
     AudioSession& audioSession;
+    Clipboard& clipboard;
     Promotion& promotion;
 
     SourceHostTable hosts;

@@ -234,6 +234,9 @@ void QuellinGuideAppDelegate::makeScreens() {
         .settings = *this,
         .updates = *this,
         .navigation = *this,
+        .showLookup = m_showLookup,
+        .clipboard = m_environment.clipboard,
+        .scheme = m_environment.scheme,
         .swipeActions =
             [this](const std::shared_ptr<const TVEntry>& entry, const auto&) {
                 return swipeActions({m_environment.clock, *m_shows, m_alarms, m_alarmActions,

@@ -29,6 +29,7 @@ class NoAlarms final : public AlarmsSource, public AlarmSynchronisation, public 
     void syncAlarms() override {}
     bool isRunning() const override { return false; }
     void commit() override {}
+    bool hasCalendarAccess() const override { return false; }
     void alertsScheduleWithPriority(QueuePriority, MainBlock<ShowSpan> mainBlock) override {
         mainBlock.post(m_mainQueue, ShowSpan());
     }

@@ -91,6 +91,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     // AppNavigation
     void playURL(const QUrl& url) override;
     void openWebPage(const QUrl& url, const QString& title) override;
+    void showPictures(const std::vector<QUrl>&) override {}
     void presentAlert(Alert alert) override;
     void presentNotice(Notice notice) override;
     void selectTab(Symbol tab) override;
@@ -140,6 +141,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     AlarmUpdater m_alarmUpdater;
     NoPopularShows m_popularShows;
     NoShowPictures m_pictures;
+    NoShowLookup m_showLookup;
     ShowPictureCache m_pictureCache;
     NoCloudValues m_cloud;
 

@@ -16,6 +16,7 @@
 #include "platform/linux/InstanceLock.h"
 #include "platform/linux/LinuxAudioSession.h"
 #include "platform/linux/LinuxBackgroundTasks.h"
+#include "platform/linux/LinuxClipboard.h"
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxDevice.h"
 #include "platform/linux/LinuxFolders.h"
@@ -126,6 +127,7 @@ int run(LaunchOptions options) {
     CurlHTTPClient httpClient(responseCache);
     LinuxNetworkWatch networkWatch;
     LinuxAudioSession audioSession;
+    LinuxClipboard clipboard;
     Promotion promotion;
 
     QuellinGuideAppDelegate delegate({
@@ -142,6 +144,7 @@ int run(LaunchOptions options) {
         .responseCacheCapacity = cacheCapacity,
         .networkWatch = &networkWatch,
         .audioSession = audioSession,
+        .clipboard = clipboard,
         .promotion = promotion,
         .hosts = files->hosts,
         .random = [](unsigned bound) { return QRandomGenerator::system()->bounded(bound); },

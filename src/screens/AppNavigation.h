@@ -7,6 +7,8 @@
 #include <QString>
 #include <QUrl>
 
+#include <vector>
+
 namespace guide {
 
 /// What screens open or show outside themselves. Main queue.
@@ -17,6 +19,8 @@ class AppNavigation {
     virtual void playURL(const QUrl& url) = 0;
     /// Opens a page of the web. Does nothing unless the URL is http or https.
     virtual void openWebPage(const QUrl& url, const QString& title) = 0;
+    /// Opens the pictures of a show at full size.
+    virtual void showPictures(const std::vector<QUrl>& urls) = 0;
     /// Shows the alert after those that are already waiting.
     virtual void presentAlert(Alert alert) = 0;
     /// Shows the notice after those that are already waiting.

@@ -134,6 +134,7 @@ void GuideWorld::start() {
         .responseCacheCapacity = std::size_t(1) << 24,
         .networkWatch = &networkWatch,
         .audioSession = m_audio,
+        .clipboard = m_clipboard,
         .promotion = m_promotion,
         .hosts = hosts,
         .random = [](unsigned) { return 0U; },

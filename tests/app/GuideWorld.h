@@ -8,6 +8,7 @@
 #include "fakes/ScriptedServer.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/LinuxAudioSession.h"
+#include "platform/memory/MemoryClipboard.h"
 #include "platform/memory/MemoryKeyValueStore.h"
 #include "platform/memory/MemoryUserDefaults.h"
 #include "platform/queues/ThreadedQueues.h"
@@ -123,6 +124,7 @@ class GuideWorld {
     bool m_awake = false;
     std::unique_ptr<FakeBackgroundTasks> m_tasks;
     LinuxAudioSession m_audio;
+    MemoryClipboard m_clipboard;
     Promotion m_promotion;
     std::unique_ptr<ThreadedQueues> m_queues;
     std::unique_ptr<ResponseCache> m_cache;

@@ -44,6 +44,7 @@ struct FakeAlarms final : AlarmsSource, AlarmSynchronisation {
     void setSynchronized(bool synchronized) override { isSynchronized = synchronized; }
     void syncAlarms() override { ++syncs; }
     bool isRunning() const override { return running; }
+    bool hasCalendarAccess() const override { return false; }
     void commit() override { ++commits; }
 
     AlarmsSnapshot::MinutesByShow events;

@@ -3,6 +3,7 @@
 #include "fakes/ManualQueues.h"
 #include "fakes/StoreFixture.h"
 #include "platform/memory/ManualClock.h"
+#include "platform/memory/MemoryClipboard.h"
 #include "screens/shell/GuideTabs.h"
 #include "screens/shell/ScreenBroadcast.h"
 #include "screens/shell/ScreenEnvironment.h"
@@ -59,6 +60,8 @@ struct WorldApp final : ScreenSettings,
     void syncAlarms() override { done << (m_synchronized ? u"sync"_s : u"alarms"_s); }
     bool isRunning() const override { return synchronising; }
     void commit() override {}
+    bool hasCalendarAccess() const override { return calendarAccess; }
+    void showPictures(const std::vector<QUrl>& urls) override { done << u"pictures %1"_s.arg(urls.size()); }
     void playURL(const QUrl& url) override { done << u"play "_s + QString::fromLatin1(url.toEncoded()); }
     void openWebPage(const QUrl& url, const QString& title) override {
         done << u"open %1 %2"_s.arg(QString::fromLatin1(url.toEncoded()), title);
@@ -96,6 +99,7 @@ struct WorldApp final : ScreenSettings,
     std::vector<Alert> alerts;
     std::vector<Notice> notices;
     bool images = true;
+    bool calendarAccess = false;
     bool colorized = true;
     bool synchronising = false;
 
@@ -133,6 +137,19 @@ struct WorldAlerts final : AlertsSchedule {
     }
     DispatchQueue& mainQueue;
     ShowSpan shows;
+};
+
+/// Keeps the latest questions, so that a test can answer them.
+struct WorldLookup final : ShowLookup {
+    void netDescriptionFor(const std::shared_ptr<const TVEntry>& entry,
+                           MainBlock<ShowItem> mainBlock) override {
+        descriptions.emplace_back(entry, std::move(mainBlock));
+    }
+    void imdbLink(const ShowItem& show, MainBlock<IMDbLink> mainBlock) override {
+        links.emplace_back(show, std::move(mainBlock));
+    }
+    std::vector<std::pair<std::shared_ptr<const TVEntry>, MainBlock<ShowItem>>> descriptions;
+    std::vector<std::pair<ShowItem, MainBlock<IMDbLink>>> links;
 };
 
 struct WorldShow {
@@ -192,6 +209,7 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
                               app,         app,        archive,
                               popular,     pictures,   pictureCache,
                               app,         app,        app,
+                              showLookup,  clipboard,  u"guide"_s,
                               swipeActions});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
@@ -260,6 +278,8 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
     const Moment begin = clock.now();
     FakeAlarms alarms;
     WorldPictures pictures;
+    WorldLookup showLookup;
+    MemoryClipboard clipboard;
     ShowPictureCache pictureCache;
     WorldApp app;
     WorldArchive archive;

@@ -8,6 +8,7 @@
 #include "core/Catalogue.h"
 #include "core/TVChannels.h"
 #include "core/TVStationIcons.h"
+#include "platform/Clipboard.h"
 #include "platform/Clock.h"
 #include "platform/Device.h"
 #include "platform/LifeCycle.h"
@@ -16,6 +17,7 @@
 #include "screens/ListingsUpdates.h"
 #include "screens/RecordedShows.h"
 #include "screens/ScreenSettings.h"
+#include "screens/ShowLookup.h"
 #include "screens/ShowPictureCache.h"
 #include "screens/ShowPictures.h"
 #include "screens/kit/RowAction.h"
@@ -58,6 +60,10 @@ struct ScreenEnvironment {
     const ScreenSettings& settings;
     ListingsUpdates& updates;
     AppNavigation& navigation;
+    ShowLookup& showLookup;
+    Clipboard& clipboard;
+    /// The application's URL scheme; empty when it has none.
+    QString scheme;
     /// The actions on the row of a show. They may outlive the row.
     std::function<std::vector<RowAction>(const std::shared_ptr<const TVEntry>&,
                                          const std::shared_ptr<ViewController>&)>

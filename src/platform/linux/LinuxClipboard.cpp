@@ -1,0 +1,12 @@
+#include "platform/linux/LinuxClipboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace guide {
+
+void LinuxClipboard::setText(const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+}
+
+} // namespace guide
