@@ -75,7 +75,7 @@ TableRow {
         color: Theme.label
         font: Theme.titleFont
         wrapMode: Text.Wrap
-        maximumLineCount: cell.row.allDetails || Theme.textScale > 1.5 ? 4 : 2
+        maximumLineCount: 4
         elide: Text.ElideRight
     }
 
@@ -106,6 +106,7 @@ TableRow {
 
     Text {
         id: details
+        objectName: "excerpt"
 
         readonly property double used: text === "" ? 0 : implicitHeight
 

@@ -49,6 +49,10 @@ ListView {
         }
     }
 
+    function notePlace() {
+        readingOrder.rowPlaced()
+    }
+
     // The current row is never reused, so that a field keeps its focus and text while its row is out of sight.
     function holdCurrent(row) {
         currentIndex = row.index
@@ -183,6 +187,13 @@ ListView {
     PlaceKeeper {
         list: view
         model: view.page.rows
+    }
+
+    ReadingOrder {
+        id: readingOrder
+
+        objectName: "readingOrder"
+        list: view
     }
 
     onMovementStarted: closeSwiped()

@@ -84,7 +84,12 @@ FocusScope {
     readonly property double gap: tiled ? list.tileGap : 0
 
     implicitHeight: (column === 0 ? header.height + gap + bodyHeight : 0) + (section.last ? gap : 0) + footer.height
-    Component.onCompleted: rows.shown(index)
+    Component.onCompleted: {
+        rows.shown(index)
+        list.notePlace()
+    }
+    onIndexChanged: if (list)
+        list.notePlace()
     onRowChanged: {
         if (!rows || !rows.actionsApply(index))
             cover()
@@ -94,6 +99,7 @@ FocusScope {
     onSwipedChanged: if (list)
         list.noteSwipe(cell)
     ListView.onPooled: reset()
+    ListView.onReused: list.notePlace()
 
     Loader {
         id: header
