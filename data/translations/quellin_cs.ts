@@ -28,6 +28,146 @@
         <translation>Právě běží</translation>
     </message>
     <message>
+        <source>All</source>
+        <translation>Vše</translation>
+    </message>
+    <message>
+        <source>Alerts</source>
+        <translation>Upozornění</translation>
+    </message>
+    <message>
+        <source>No TV shows in this category</source>
+        <translation>V této kategorii nejsou žádné pořady</translation>
+    </message>
+    <message>
+        <source>Currently, there are no TV shows in this category for the TV channels you have selected or have not being loaded yet.
+TV Shows are categorized heuristically.</source>
+        <translation>Na vybraných kanálech teď v této kategorii žádné pořady nejsou nebo se ještě nenačetly.
+Pořady se do kategorií řadí odhadem.</translation>
+    </message>
+    <message>
+        <source>There is nothing to show currently.
+Please wait until TV listings have loaded.</source>
+        <translation>Teď není co zobrazit.
+Počkejte, až se program načte.</translation>
+    </message>
+    <message>
+        <source>Past shows</source>
+        <translation>Odvysílané díly</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Upravit</translation>
+    </message>
+    <message>
+        <source>Updating alerts</source>
+        <translation>Upozornění se aktualizují</translation>
+    </message>
+    <message>
+        <source>No favourites yet</source>
+        <translation>Zatím žádné oblíbené</translation>
+    </message>
+    <message>
+        <source>The broadcasts of your favourites appear here. Swipe a show to the left, or right-click it, to make it a favourite.</source>
+        <translation>Zde se objeví vysílání vašich oblíbených pořadů. Mezi oblíbené pořad přidáte přejetím doleva nebo pravým tlačítkem myši.</translation>
+    </message>
+    <message>
+        <source>Swipe a show to the left, or right-click it, to make it a favourite.</source>
+        <translation>Mezi oblíbené pořad přidáte přejetím doleva nebo pravým tlačítkem myši.</translation>
+    </message>
+    <message>
+        <source>See what is on now</source>
+        <translation>Co právě běží</translation>
+    </message>
+    <message>
+        <source>No favourite is broadcast soon</source>
+        <translation>Žádný oblíbený pořad se brzy nevysílá</translation>
+    </message>
+    <message>
+        <source>The schedules of your channels do not list any of your favourites.</source>
+        <translation>V programu vašich kanálů není žádný z oblíbených pořadů.</translation>
+    </message>
+    <message>
+        <source>Edit favourites</source>
+        <translation>Upravit oblíbené</translation>
+    </message>
+    <message>
+        <source>Choose channels</source>
+        <translation>Vybrat kanály</translation>
+    </message>
+    <message>
+        <source>No broadcast to come</source>
+        <translation>Žádné další vysílání</translation>
+    </message>
+    <message>
+        <source>The schedules of your channels do not list “%1”.</source>
+        <translation>Program vašich kanálů pořad „%1“ neobsahuje.</translation>
+    </message>
+    <message>
+        <source>No alerts</source>
+        <translation>Žádná upozornění</translation>
+    </message>
+    <message>
+        <source>The shows that you are alerted to appear here.</source>
+        <translation>Zde se objeví pořady, na které vás průvodce upozorní.</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Oblíbené</translation>
+    </message>
+    <message>
+        <source>Alert at the beginning of every broadcast</source>
+        <translation>Upozornění na začátku každého vysílání</translation>
+    </message>
+    <message>
+        <source>Alert %1 min before every broadcast</source>
+        <translation>Upozornění %1 min před každým vysíláním</translation>
+    </message>
+    <message>
+        <source>Alert at the beginning of every replay</source>
+        <translation>Upozornění na začátku každé reprízy</translation>
+    </message>
+    <message>
+        <source>Alert %1 min before every replay</source>
+        <translation>Upozornění %1 min před každou reprízou</translation>
+    </message>
+    <message>
+        <source>Alert at the beginning of every premiere</source>
+        <translation>Upozornění na začátku každé premiéry</translation>
+    </message>
+    <message>
+        <source>Alert %1 min before every premiere</source>
+        <translation>Upozornění %1 min před každou premiérou</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Odebrat vše</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Odebrat</translation>
+    </message>
+    <message>
+        <source>“%1” is no longer a favourite</source>
+        <translation>„%1“ už není mezi oblíbenými</translation>
+    </message>
+    <message>
+        <source>All favourites removed</source>
+        <translation>Všechny oblíbené odebrány</translation>
+    </message>
+    <message>
+        <source>%1 favourites removed</source>
+        <translation>Odebráno oblíbených: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Vrátit zpět</translation>
+    </message>
+    <message>
+        <source>Remove all favorite shows?</source>
+        <translation>Odebrat všechny oblíbené pořady?</translation>
+    </message>
+    <message>
         <source>No channels yet</source>
         <translation>Zatím žádné kanály</translation>
     </message>
@@ -96,10 +236,6 @@
         <translation>Všechny pořady</translation>
     </message>
     <message>
-        <source>All shows of all your channels come with a later version. See Currently for what is on now.</source>
-        <translation>Všechny pořady všech vašich kanálů přinese některá z dalších verzí. Co právě běží, najdete na kartě Právě běží.</translation>
-    </message>
-    <message>
         <source>Categories</source>
         <translation>Kategorie</translation>
     </message>
@@ -118,10 +254,6 @@
     <message>
         <source>Schedule</source>
         <translation>Plán</translation>
-    </message>
-    <message>
-        <source>The schedule of your alarms and favourites comes with a later version. See Currently for what is on now.</source>
-        <translation>Plán vašich upozornění a oblíbených pořadů přinese některá z dalších verzí. Co právě běží, najdete na kartě Právě běží.</translation>
     </message>
     <message>
         <source>Selected Channels</source>

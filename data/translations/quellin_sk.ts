@@ -28,6 +28,146 @@
         <translation>Práve beží</translation>
     </message>
     <message>
+        <source>All</source>
+        <translation>Všetko</translation>
+    </message>
+    <message>
+        <source>Alerts</source>
+        <translation>Upozornenia</translation>
+    </message>
+    <message>
+        <source>No TV shows in this category</source>
+        <translation>V tejto kategórii nie sú žiadne relácie</translation>
+    </message>
+    <message>
+        <source>Currently, there are no TV shows in this category for the TV channels you have selected or have not being loaded yet.
+TV Shows are categorized heuristically.</source>
+        <translation>Na vybraných kanáloch teraz v tejto kategórii žiadne relácie nie sú alebo sa ešte nenačítali.
+Relácie sa do kategórií zaraďujú odhadom.</translation>
+    </message>
+    <message>
+        <source>There is nothing to show currently.
+Please wait until TV listings have loaded.</source>
+        <translation>Teraz nie je čo zobraziť.
+Počkajte, kým sa program načíta.</translation>
+    </message>
+    <message>
+        <source>Past shows</source>
+        <translation>Odvysielané diely</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Upraviť</translation>
+    </message>
+    <message>
+        <source>Updating alerts</source>
+        <translation>Upozornenia sa aktualizujú</translation>
+    </message>
+    <message>
+        <source>No favourites yet</source>
+        <translation>Zatiaľ žiadne obľúbené</translation>
+    </message>
+    <message>
+        <source>The broadcasts of your favourites appear here. Swipe a show to the left, or right-click it, to make it a favourite.</source>
+        <translation>Tu sa objavia vysielania vašich obľúbených relácií. Medzi obľúbené reláciu pridáte potiahnutím doľava alebo pravým tlačidlom myši.</translation>
+    </message>
+    <message>
+        <source>Swipe a show to the left, or right-click it, to make it a favourite.</source>
+        <translation>Medzi obľúbené reláciu pridáte potiahnutím doľava alebo pravým tlačidlom myši.</translation>
+    </message>
+    <message>
+        <source>See what is on now</source>
+        <translation>Čo práve beží</translation>
+    </message>
+    <message>
+        <source>No favourite is broadcast soon</source>
+        <translation>Žiadna obľúbená relácia sa čoskoro nevysiela</translation>
+    </message>
+    <message>
+        <source>The schedules of your channels do not list any of your favourites.</source>
+        <translation>V programe vašich kanálov nie je žiadna z obľúbených relácií.</translation>
+    </message>
+    <message>
+        <source>Edit favourites</source>
+        <translation>Upraviť obľúbené</translation>
+    </message>
+    <message>
+        <source>Choose channels</source>
+        <translation>Vybrať kanály</translation>
+    </message>
+    <message>
+        <source>No broadcast to come</source>
+        <translation>Žiadne ďalšie vysielanie</translation>
+    </message>
+    <message>
+        <source>The schedules of your channels do not list “%1”.</source>
+        <translation>Program vašich kanálov reláciu „%1“ neobsahuje.</translation>
+    </message>
+    <message>
+        <source>No alerts</source>
+        <translation>Žiadne upozornenia</translation>
+    </message>
+    <message>
+        <source>The shows that you are alerted to appear here.</source>
+        <translation>Tu sa objavia relácie, na ktoré vás sprievodca upozorní.</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Obľúbené</translation>
+    </message>
+    <message>
+        <source>Alert at the beginning of every broadcast</source>
+        <translation>Upozornenie na začiatku každého vysielania</translation>
+    </message>
+    <message>
+        <source>Alert %1 min before every broadcast</source>
+        <translation>Upozornenie %1 min pred každým vysielaním</translation>
+    </message>
+    <message>
+        <source>Alert at the beginning of every replay</source>
+        <translation>Upozornenie na začiatku každej reprízy</translation>
+    </message>
+    <message>
+        <source>Alert %1 min before every replay</source>
+        <translation>Upozornenie %1 min pred každou reprízou</translation>
+    </message>
+    <message>
+        <source>Alert at the beginning of every premiere</source>
+        <translation>Upozornenie na začiatku každej premiéry</translation>
+    </message>
+    <message>
+        <source>Alert %1 min before every premiere</source>
+        <translation>Upozornenie %1 min pred každou premiérou</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Odobrať všetko</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Odobrať</translation>
+    </message>
+    <message>
+        <source>“%1” is no longer a favourite</source>
+        <translation>„%1“ už nie je medzi obľúbenými</translation>
+    </message>
+    <message>
+        <source>All favourites removed</source>
+        <translation>Všetky obľúbené odobraté</translation>
+    </message>
+    <message>
+        <source>%1 favourites removed</source>
+        <translation>Odobratých obľúbených: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Vrátiť späť</translation>
+    </message>
+    <message>
+        <source>Remove all favorite shows?</source>
+        <translation>Odobrať všetky obľúbené relácie?</translation>
+    </message>
+    <message>
         <source>No channels yet</source>
         <translation>Zatiaľ žiadne kanály</translation>
     </message>
@@ -96,10 +236,6 @@
         <translation>Všetky relácie</translation>
     </message>
     <message>
-        <source>All shows of all your channels come with a later version. See Currently for what is on now.</source>
-        <translation>Všetky relácie všetkých vašich kanálov prinesie niektorá z ďalších verzií. Čo práve beží, nájdete na karte Práve beží.</translation>
-    </message>
-    <message>
         <source>Categories</source>
         <translation>Kategórie</translation>
     </message>
@@ -118,10 +254,6 @@
     <message>
         <source>Schedule</source>
         <translation>Plán</translation>
-    </message>
-    <message>
-        <source>The schedule of your alarms and favourites comes with a later version. See Currently for what is on now.</source>
-        <translation>Plán vašich upozornení a obľúbených relácií prinesie niektorá z ďalších verzií. Čo práve beží, nájdete na karte Práve beží.</translation>
     </message>
     <message>
         <source>Selected Channels</source>

@@ -1,11 +1,14 @@
 #include "screens/compound/CompoundListingsViewController.h"
 
 #include "screens/Localized.h"
+#include "screens/detail/DetailViewController.h"
 #include "screens/favorites/FavoritesViewController.h"
 #include "screens/kit/NavigationController.h"
+#include "store/ShownEnds.h"
 #include "text/categories/CategoryText.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace guide {
@@ -145,22 +148,22 @@ void CompoundListingsViewController::query(QueuePriority priority) {
 }
 
 void CompoundListingsViewController::group(const ShowSpan& shows, QueuePriority priority) {
-    MainBlock<std::shared_ptr<const CompoundSections>> answer =
-        m_latest.expect(weak_from_this(), [this](const std::shared_ptr<const CompoundSections>& groups) {
-            setGroups(*groups);
+    MainBlock<std::shared_ptr<CompoundSections>> answer =
+        m_latest.expect(weak_from_this(), [this](const std::shared_ptr<CompoundSections>& groups) {
+            setGroups(std::move(*groups));
             answered();
         });
     m_environment->queues.globalQueue(priority).async([&main = m_environment->mainQueue,
                                                        rows = CompoundRows(*m_environment), shows,
                                                        answer = std::move(answer)]() mutable {
-        answer.post(main, std::make_shared<const CompoundSections>(rows.sectionsOf(shows)));
+        answer.post(main, std::make_shared<CompoundSections>(rows.sectionsOf(shows)));
     });
 }
 
-void CompoundListingsViewController::setGroups(const CompoundSections& groups) {
-    m_days = groups.days;
+void CompoundListingsViewController::setGroups(CompoundSections groups) {
+    m_days = std::move(groups.days);
     table().setEmptyNote(emptyNote());
-    reloadTable(groups.sections);
+    reloadTable(std::move(groups.sections));
 }
 
 void CompoundListingsViewController::answered() {
@@ -186,34 +189,20 @@ void CompoundListingsViewController::reloadTable(std::vector<Section> days) {
     table().setSections(std::move(days));
 }
 
-// Only the rows of running shows, and of those that were, are made again.
 void CompoundListingsViewController::minuteBegan() {
-    const CompoundRows rows(*m_environment);
-    std::vector<Section> sections;
-    for (DaySection& day : m_days) {
-        Section section{.id = day.id(), .header = day.title};
-        section.rows.reserve(day.shows.size());
-        ShowItems left;
-        left.reserve(day.shows.size());
-        ShowRowIds ids(section.id);
-        for (const ShowItem& show : day.shows) {
-            const TVEntry& entry = *show.entry();
-            RowId id = ids.next(entry);
-            if (rows.isOver(entry)) {
-                continue;
-            }
-            left.push_back(show);
-            const Row* shown = table().find(id);
-            const bool same = shown && !rows.isRunning(entry) && !std::get<ShowRow>(shown->content).running;
-            section.rows.push_back(same ? *shown : rows.showRow(std::move(id), show));
-        }
-        day.shows = std::move(left);
-        if (!section.rows.empty()) {
-            sections.push_back(std::move(section));
-        }
+    if (m_asking) {
+        // Its rows will be current.
+        return;
     }
-    std::erase_if(m_days, [](const DaySection& day) { return day.shows.empty(); });
-    reloadTable(std::move(sections));
+    const Moment now = m_environment->clock.now();
+    ShowItems left;
+    for (const DaySection& day : m_days) {
+        std::ranges::copy_if(day.shows, std::back_inserter(left), [now](const ShowItem& show) {
+            const std::optional<Moment> end = shownEnd(*show.entry());
+            return !end || *end > now;
+        });
+    }
+    group(ShowSpan(std::move(left)), kVisible);
 }
 
 const ShowItem* CompoundListingsViewController::shownShow(const RowId& id) const {
@@ -226,13 +215,30 @@ const ShowItem* CompoundListingsViewController::shownShow(const RowId& id) const
 }
 
 void CompoundListingsViewController::rowEvent(const RowId& id, const RowEvent& event) {
-    if (!std::holds_alternative<Tapped>(event) || !id.name()) {
+    if (!std::holds_alternative<Tapped>(event)) {
+        return;
+    }
+    if (const ShowItem* show = shownShow(id)) {
+        openShow(*show);
+        return;
+    }
+    if (!id.name()) {
         return;
     }
     const auto place = static_cast<std::size_t>(id.name()->toULongLong());
     table().deselectRow();
     if (place < m_recordedShows.size() && m_recordedShows[place].url) {
         m_environment->navigation.openWebPage(*m_recordedShows[place].url, titleNow());
+    }
+}
+
+void CompoundListingsViewController::openShow(const ShowItem& show) {
+    const SharedCatalogueSnapshot catalogue = m_environment->catalogue.snapshot();
+    const CatalogueChannel* channel = catalogue->find(show.entry()->channel());
+    if (navigationController()) {
+        navigationController()->pushFrom(
+            *this,
+            std::make_shared<DetailViewController>(m_environment, show, channel ? channel->icon : QString()));
     }
 }
 

@@ -65,11 +65,12 @@ class CompoundListingsViewController final : public ListingsScreen {
     QString titleNow() const;
     void query(QueuePriority priority);
     void group(const ShowSpan& shows, QueuePriority priority);
-    void setGroups(const CompoundSections& groups);
+    void setGroups(CompoundSections groups);
     void answered();
     void reloadTable(std::vector<Section> days);
     void minuteBegan();
     void updateBusy();
+    void openShow(const ShowItem& show);
     const ShowItem* shownShow(const RowId& id) const;
 
     void lookForPastShows();

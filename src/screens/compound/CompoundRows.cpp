@@ -31,23 +31,16 @@ CompoundSections CompoundRows::sectionsOf(const ShowSpan& shows) const {
 
 Row CompoundRows::showRow(RowId id, const ShowItem& show) const {
     const TVEntry& entry = *show.entry();
-    ShowRow row = m_rows.condensed(show, shownEnd(entry), isRunning(entry));
+    const std::optional<Moment> end = shownEnd(entry);
+    const bool running = entry.dateTime() <= m_rows.now() && end && *end > m_rows.now();
+    ShowRow row = m_rows.condensed(show, end, running);
     row.popular = false;
     row.allDetails = true;
+    row.accessory = Accessory::Disclosure;
     if (const CatalogueChannel* channel = m_catalogue->find(entry.channel())) {
         row.channelIcon = {PictureKey::Kind::ChannelIcon, channel->icon};
     }
-    return {.id = std::move(id), .content = std::move(row)};
-}
-
-bool CompoundRows::isRunning(const TVEntry& entry) const {
-    const std::optional<Moment> end = shownEnd(entry);
-    return entry.dateTime() <= m_rows.now() && end && *end > m_rows.now();
-}
-
-bool CompoundRows::isOver(const TVEntry& entry) const {
-    const std::optional<Moment> end = shownEnd(entry);
-    return end && *end <= m_rows.now();
+    return {.id = std::move(id), .content = std::move(row), .selectable = true};
 }
 
 } // namespace guide

@@ -25,13 +25,10 @@ class CompoundRows {
 
     /// Leaves out shows whose channel is not in the catalogue or has no icon. Loads the icons.
     CompoundSections sectionsOf(const ShowSpan& shows) const;
-    Row showRow(RowId id, const ShowItem& show) const;
-
-    /// A show that ends now is over here.
-    bool isRunning(const TVEntry& entry) const;
-    bool isOver(const TVEntry& entry) const;
 
   private:
+    Row showRow(RowId id, const ShowItem& show) const;
+
     const ShowRows m_rows;
     const SharedCatalogueSnapshot m_catalogue;
     TVStationIcons& m_icons;

@@ -21,14 +21,14 @@ QString alarmText(const Favorite& rule) {
     const int minutes = *rule.minutes;
     if (!rule.previouslyShown) {
         return minutes == 0 ? Localized::tr("Alert at the beginning of every broadcast")
-                            : Localized::tr("Alert %n minute(s) before every broadcast", nullptr, minutes);
+                            : Localized::tr("Alert %1 min before every broadcast").arg(minutes);
     }
     if (*rule.previouslyShown) {
         return minutes == 0 ? Localized::tr("Alert at the beginning of every replay")
-                            : Localized::tr("Alert %n minute(s) before every replay", nullptr, minutes);
+                            : Localized::tr("Alert %1 min before every replay").arg(minutes);
     }
     return minutes == 0 ? Localized::tr("Alert at the beginning of every premiere")
-                        : Localized::tr("Alert %n minute(s) before every premiere", nullptr, minutes);
+                        : Localized::tr("Alert %1 min before every premiere").arg(minutes);
 }
 
 } // namespace
@@ -72,7 +72,8 @@ void FavoritesViewController::reloadTable() {
         rules.push_back(&rule);
     }
     std::ranges::stable_sort(rules, [](const Favorite* one, const Favorite* other) {
-        return one->identificator.compare(other->identificator, Qt::CaseInsensitive) < 0;
+        const int order = one->identificator.compare(other->identificator, Qt::CaseInsensitive);
+        return order != 0 ? order < 0 : one->identificator < other->identificator;
     });
     Section section{.id = u"favorites"_s};
     m_titles.clear();
@@ -123,9 +124,8 @@ void FavoritesViewController::remove(const QStringList& titles) {
     m_environment->favoriteActions.removeFavorites(titles);
     reloadTable();
     m_environment->navigation.presentNotice(
-        {.text = titles.size() == 1
-                     ? Localized::tr("“%1” is no longer a favourite").arg(titles.first())
-                     : Localized::tr("%n favourite(s) removed", nullptr, static_cast<int>(titles.size())),
+        {.text = titles.size() == 1 ? Localized::tr("“%1” is no longer a favourite").arg(titles.first())
+                                    : Localized::tr("All favourites removed"),
          .actionTitle = Localized::tr("Undo"),
          .action = [environment = m_environment, before, titles] {
              environment->favoriteActions.restoreFavorites(*before, titles);

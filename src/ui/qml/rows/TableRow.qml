@@ -235,7 +235,8 @@ FocusScope {
             property double begin: 0
             property double reached: 0
 
-            enabled: !cell.editing
+            // A row that moves is dragged by its handle.
+            enabled: !cell.editing || !cell.row.movable
             target: null
             yAxis.enabled: false
             // Otherwise the list would take over the touch at the first vertical movement.
