@@ -236,6 +236,9 @@ std::vector<QByteArray> flood(const std::vector<QByteArray>& good, const std::st
 }
 
 constexpr qsizetype kHalf = 10'000;
+constexpr qsizetype kMostMarkers = 640'000;
+/// In seconds.
+constexpr double kLongEnough = 1e-3;
 
 /// The flooded pages of a format whose time grows most with twice the markers: `whole` has twice as many as
 /// `half`.
@@ -263,6 +266,12 @@ const Flood& worstFlood(const Flooded& format) {
             worstGrowth = growth;
             worst = {marker, std::move(half), std::move(whole)};
         }
+    }
+    // Long enough for a ratio of times, if a reader goes through all of it.
+    for (qsizetype count = 4 * kHalf;
+         count <= kMostMarkers && quickest([&] { format.read(worst.half); }) < kLongEnough; count *= 4) {
+        worst.half = flood(format.pages, worst.marker, count);
+        worst.whole = flood(format.pages, worst.marker, 2 * count);
     }
     return known.emplace(format.name, std::move(worst)).first->second;
 }

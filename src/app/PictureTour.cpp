@@ -1,10 +1,9 @@
 #include "app/PictureTour.h"
 
-#include "screens/kit/TableViewController.h"
-
-#include <QCoreApplication>
+#include "screens/Localized.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace guide {
@@ -14,14 +13,32 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kPollInterval = 100;
-constexpr int kMaxPolls = 300;
+/// The first screen waits for its channels to load.
+constexpr int kMaxPollsAtStart = 300;
+constexpr int kMaxPolls = 50;
 /// Time for the renderer to finish, including the software renderer.
 constexpr int kSettle = 400;
 
-/// The visible screen, which the tour expects to be a table.
-TableViewController* topTable(const TabBarController& tabs) {
-    return dynamic_cast<TableViewController*>(tabs.selectedNavigationController().topViewController().get());
+bool isChannel(const Row& row) {
+    return row.kind() == RowKind::Channel;
 }
+bool isShow(const Row& row) {
+    return row.kind() == RowKind::Show;
+}
+
+struct Stop {
+    const char* name;
+    /// Opens the screen from the one before.
+    bool (*open)(PictureTour& tour);
+};
+
+constexpr std::array kStops{
+    Stop{"currently", [](PictureTour& tour) { return tour.selectTab(Symbol::Currently); }},
+    Stop{"channel", [](PictureTour& tour) { return tour.send(Tapped{}, isChannel); }},
+    Stop{"show", [](PictureTour& tour) { return tour.send(Tapped{}, isShow); }},
+    Stop{"schedule", [](PictureTour& tour) { return tour.selectTab(Symbol::Schedule); }},
+    Stop{"favourites", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Edit")); }},
+};
 
 } // namespace
 
@@ -34,59 +51,122 @@ PictureTour::PictureTour(TabBarController& tabs, GuideWindow& window, QString fo
     , m_done(std::move(done)) {}
 
 void PictureTour::start() {
-    m_timer.callOnTimeout([this] { step(); });
+    m_timer.callOnTimeout([this] { poll(); });
+    open();
+}
+
+bool PictureTour::selectTab(Symbol symbol) {
+    const auto& tabs = m_tabs.tabs();
+    const auto tab = std::ranges::find(tabs, symbol, [](const auto& each) { return each.item.symbol; });
+    if (tab == tabs.end() || !tab->item.enabled) {
+        return false;
+    }
+    tab->navigationController->popToRoot();
+    m_tabs.setSelectedIndex(static_cast<int>(tab - tabs.begin()));
+    return true;
+}
+
+bool PictureTour::back() {
+    m_tabs.selectedNavigationController().pop();
+    return true;
+}
+
+bool PictureTour::send(const RowEvent& event, const std::function<bool(const Row&)>& matches) {
+    TableViewController* screen = table();
+    for (int row = 0; screen && row < screen->table().rowCount(); ++row) {
+        if (matches(screen->table().rowAt(row))) {
+            screen->sendRowEvent(screen->table().rowAt(row).id, event);
+            return true;
+        }
+    }
+    return false;
+}
+
+bool PictureTour::search(const QString& text) {
+    if (!top().searchField()) {
+        return false;
+    }
+    top().editSearchText(text);
+    return true;
+}
+
+bool PictureTour::pressButton(const QString& title) {
+    const auto press = [&title](const std::vector<BarButton>& buttons) {
+        return std::ranges::find(buttons, title, &BarButton::title) - buttons.begin();
+    };
+    if (const auto right = static_cast<std::size_t>(press(top().rightBarButtons()));
+        right < top().rightBarButtons().size()) {
+        top().pressRightBarButton(right);
+        return true;
+    }
+    if (const auto left = static_cast<std::size_t>(press(top().leftBarButtons()));
+        left < top().leftBarButtons().size()) {
+        top().pressLeftBarButton(left);
+        return true;
+    }
+    return false;
+}
+
+void PictureTour::open() {
+    if (m_stop == kStops.size()) {
+        m_done(m_complete);
+        return;
+    }
+    if (!kStops[m_stop].open(*this)) {
+        qWarning("The screen for the picture %s did not open", kStops[m_stop].name);
+        m_complete = false;
+        ++m_stop;
+        open();
+        return;
+    }
+    m_polls = 0;
     m_timer.start(kPollInterval);
 }
 
-bool PictureTour::channelsLoaded() const {
-    const TableViewController* screen = topTable(m_tabs);
-    return screen && screen->table().rowCount() > 0 &&
-           std::ranges::none_of(screen->table().sections(),
-                                [](const Section& section) { return section.rows.size() < 2; });
-}
-
-void PictureTour::step() {
-    if (!channelsLoaded() && ++m_polls < kMaxPolls) {
+void PictureTour::poll() {
+    if (!loaded() && ++m_polls < (m_stop == 0 ? kMaxPollsAtStart : kMaxPolls)) {
         return;
     }
     m_timer.stop();
-    then(kSettle, &PictureTour::drawCurrently);
+    later(kSettle, &PictureTour::draw);
 }
 
-void PictureTour::then(int milliseconds, void (PictureTour::*next)()) {
-    QTimer::singleShot(milliseconds, &m_timer, [this, next] { (this->*next)(); });
-}
-
-bool PictureTour::saveBoth(const QString& name) {
-    bool saved = true;
+void PictureTour::draw() {
+    const QString name = QString::fromLatin1(kStops[m_stop].name);
     for (const auto& [scheme, word] :
          {std::pair(ColorScheme::Light, u"light"_s), std::pair(ColorScheme::Dark, u"dark"_s)}) {
         m_window.setColorScheme(scheme);
-        saved = m_window.savePicture(u"%1/%2-%3-%4.png"_s.arg(m_folder, m_prefix, name, word)) && saved;
+        m_complete =
+            m_window.savePicture(u"%1/%2-%3-%4.png"_s.arg(m_folder, m_prefix, name, word)) && m_complete;
     }
-    return saved;
+    ++m_stop;
+    open();
 }
 
-void PictureTour::drawCurrently() {
-    m_complete = saveBoth(u"currently"_s);
-    TableViewController* screen = topTable(m_tabs);
-    if (!screen || screen->table().rowCount() < 2) {
-        qWarning("No channel has shows, so there is no schedule to save");
-        m_done(false);
-        return;
-    }
-    screen->sendRowEvent(screen->table().rowAt(0).id, Tapped{});
-    then(kSettle, &PictureTour::drawChannel);
+void PictureTour::later(int milliseconds, void (PictureTour::*next)()) {
+    QTimer::singleShot(milliseconds, &m_timer, [this, next] { (this->*next)(); });
 }
 
-void PictureTour::drawChannel() {
-    if (m_tabs.selectedNavigationController().viewControllers().size() < 2) {
-        qWarning("The schedule of the first channel did not open");
-        m_done(false);
-        return;
+ViewController& PictureTour::top() const {
+    const NavigationController& stack = m_tabs.selectedNavigationController();
+    return *(stack.presentedStack() ? stack.presentedStack()->topViewController()
+                                    : stack.topViewController());
+}
+
+TableViewController* PictureTour::table() const {
+    return dynamic_cast<TableViewController*>(&top());
+}
+
+bool PictureTour::loaded() const {
+    const TableViewController* screen = table();
+    if (top().progress() || top().refreshing()) {
+        return false;
     }
-    m_complete = saveBoth(u"channel"_s) && m_complete;
-    m_done(m_complete);
+    // On the first screen a section without shows is still loading.
+    return !screen || m_stop > 0 ||
+           (screen->table().rowCount() > 0 &&
+            std::ranges::none_of(screen->table().sections(),
+                                 [](const Section& section) { return section.rows.size() < 2; }));
 }
 
 } // namespace guide

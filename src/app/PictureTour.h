@@ -1,35 +1,46 @@
 #pragma once
 
 #include "screens/kit/TabBarController.h"
+#include "screens/kit/TableViewController.h"
 #include "ui/GuideWindow.h"
 
 #include <QString>
 #include <QTimer>
 
+#include <cstddef>
 #include <functional>
-#include <vector>
 
 namespace guide {
 
-/// Opens the screens one after the other and saves a picture of each in both colour schemes: what is on now,
-/// and the schedule of the first channel. Main thread.
+/// Opens every screen, one after the other, and saves a picture of each in both colour schemes. Main thread.
 class PictureTour {
   public:
     /// The folder must exist; file names start with `prefix`. `done` is called once, with whether every
-    /// picture was written.
+    /// screen opened and every picture was written.
     PictureTour(TabBarController& tabs, GuideWindow& window, QString folder, QString prefix,
                 std::function<void(bool complete)> done);
 
     /// Waits, for a limited time, until the channels have their shows.
     void start();
 
+    // ---- the steps of the tour; false when there is nothing to act on
+
+    bool selectTab(Symbol symbol);
+    bool back();
+    /// To the first row for which `matches` holds.
+    bool send(const RowEvent& event, const std::function<bool(const Row&)>& matches);
+    bool search(const QString& text);
+    bool pressButton(const QString& title);
+
   private:
-    bool channelsLoaded() const;
-    void step();
-    bool saveBoth(const QString& name);
-    void then(int milliseconds, void (PictureTour::*next)());
-    void drawCurrently();
-    void drawChannel();
+    void open();
+    void poll();
+    void draw();
+    void later(int milliseconds, void (PictureTour::*next)());
+    ViewController& top() const;
+    /// Null when the screen is not a table.
+    TableViewController* table() const;
+    bool loaded() const;
 
     TabBarController& m_tabs;
     GuideWindow& m_window;
@@ -37,6 +48,7 @@ class PictureTour {
     const QString m_prefix;
     const std::function<void(bool)> m_done;
     QTimer m_timer;
+    std::size_t m_stop = 0;
     int m_polls = 0;
     bool m_complete = true;
 };
