@@ -38,9 +38,9 @@ TEST_F(FolderKeyValueStoreTest, ValuesReachAnotherDevice) {
     const QDateTime date(QDate(2025, 12, 31), QTime(18, 30, 1, 234), Qt::UTC);
     QCborArray deep;
     for (int arrays = 1; arrays < 16; ++arrays) {
-        deep = QCborArray{deep};
+        deep = QCborArray{QCborValue(deep)};
     }
-    EXPECT_FALSE(store.setValue(u"too deep"_s, QCborArray{deep}));
+    EXPECT_FALSE(store.setValue(u"too deep"_s, QCborArray{QCborValue(deep)}));
     const std::vector<std::pair<const char*, QCborValue>> values{
         {"deep", deep},
         {"flag", true},
