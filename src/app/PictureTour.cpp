@@ -26,18 +26,32 @@ bool isShow(const Row& row) {
     return row.kind() == RowKind::Show;
 }
 
+bool isText(const Row& row) {
+    return row.kind() == RowKind::Text;
+}
+
 struct Stop {
     const char* name;
     /// Opens the screen from the one before.
     bool (*open)(PictureTour& tour);
+    /// Without this tab the stop is left out.
+    Symbol tab = Symbol::Currently;
 };
 
 constexpr std::array kStops{
     Stop{"currently", [](PictureTour& tour) { return tour.selectTab(Symbol::Currently); }},
     Stop{"channel", [](PictureTour& tour) { return tour.send(Tapped{}, isChannel); }},
     Stop{"show", [](PictureTour& tour) { return tour.send(Tapped{}, isShow); }},
-    Stop{"schedule", [](PictureTour& tour) { return tour.selectTab(Symbol::Schedule); }},
+    Stop{"all-shows", [](PictureTour& tour) { return tour.selectTab(Symbol::AllShows); }, Symbol::AllShows},
+    Stop{"schedule-empty", [](PictureTour& tour) { return tour.selectTab(Symbol::Schedule); }},
+    Stop{"schedule",
+         [](PictureTour& tour) {
+             return tour.selectTab(Symbol::Currently) && tour.addFavourites() &&
+                    tour.selectTab(Symbol::Schedule);
+         }},
     Stop{"favourites", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Edit")); }},
+    Stop{"title", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }},
+    Stop{"favourites-removed", [](PictureTour& tour) { return tour.back() && tour.send(Deleted{}, isText); }},
 };
 
 } // namespace
@@ -82,6 +96,23 @@ bool PictureTour::send(const RowEvent& event, const std::function<bool(const Row
     return false;
 }
 
+bool PictureTour::addFavourites() {
+    TableViewController* screen = table();
+    for (int row = 0; screen && row < screen->table().rowCount(); row += 2) {
+        // The last action on a show that is no favourite yet.
+        const auto actions = screen->rowActions(screen->table().rowAt(row).id);
+        if (!actions.empty()) {
+            actions.back().action();
+        }
+    }
+    return screen;
+}
+
+bool PictureTour::hasTab(Symbol symbol) const {
+    return std::ranges::any_of(m_tabs.tabs(),
+                               [symbol](const auto& each) { return each.item.symbol == symbol; });
+}
+
 bool PictureTour::search(const QString& text) {
     if (!top().searchField()) {
         return false;
@@ -110,6 +141,11 @@ bool PictureTour::pressButton(const QString& title) {
 void PictureTour::open() {
     if (m_stop == kStops.size()) {
         m_done(m_complete);
+        return;
+    }
+    if (!hasTab(kStops[m_stop].tab)) {
+        ++m_stop;
+        open();
         return;
     }
     if (!kStops[m_stop].open(*this)) {

@@ -29,10 +29,13 @@ class PictureTour {
     bool back();
     /// To the first row for which `matches` holds.
     bool send(const RowEvent& event, const std::function<bool(const Row&)>& matches);
+    /// From the rows of the screen.
+    bool addFavourites();
     bool search(const QString& text);
     bool pressButton(const QString& title);
 
   private:
+    bool hasTab(Symbol symbol) const;
     void open();
     void poll();
     void draw();

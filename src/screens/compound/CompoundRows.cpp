@@ -36,7 +36,6 @@ Row CompoundRows::showRow(RowId id, const ShowItem& show) const {
     ShowRow row = m_rows.condensed(show, end, running);
     row.popular = false;
     row.allDetails = true;
-    row.accessory = Accessory::Disclosure;
     if (const CatalogueChannel* channel = m_catalogue->find(entry.channel())) {
         row.channelIcon = {PictureKey::Kind::ChannelIcon, channel->icon};
     }
