@@ -232,6 +232,13 @@ TEST_F(TableWindowTest, RowsAreDeletedAndReorderedInEditMode) {
     EXPECT_FALSE(moves()[2].next) << "to the end";
     press(Qt::Key_Delete);
     EXPECT_EQ(screen->of<Deleted>().size(), 2U);
+
+    drag(middle(row(2)), {-200, 0}, true);
+    EXPECT_TRUE(buttons({u"Remove"_s}).isEmpty()) << "a row that moves is not swiped in edit mode";
+    sections[0].rows[2].movable = false;
+    replaceRows(sections);
+    drag(middle(row(2)), {-200, 0}, true);
+    EXPECT_EQ(buttons({u"Remove"_s}).size(), 1);
 }
 
 TEST_F(TableWindowTest, ARowThatIsDraggedToAnEdgeScrollsTheList) {
