@@ -1,8 +1,10 @@
 #include "core/TVStationIcons.h"
 
+#include "core/PictureDecoding.h"
+
 #include <QDirIterator>
+#include <QFile>
 #include <QHash>
-#include <QImageReader>
 #include <QPainter>
 
 #include <algorithm>
@@ -64,11 +66,15 @@ QSize standardSize(double screenScale) {
 
 // SVG is rendered at the icon's final size, so that it is sharp at every scale.
 QImage readImage(const QString& path, double screenScale) {
-    QImageReader reader(path);
-    if (reader.format() == "svg" && !reader.size().isEmpty()) {
-        reader.setScaledSize(reader.size().scaled(standardSize(screenScale), Qt::KeepAspectRatio));
+    QFile file(path);
+    if (file.size() > kChannelIconLimits.bytes || !file.open(QIODevice::ReadOnly)) {
+        return {};
     }
-    return reader.read();
+    return decodedPicture(file.read(kChannelIconLimits.bytes), kChannelIconLimits,
+                          [screenScale](const QSize& own, bool isDrawing) {
+                              return isDrawing ? own.scaled(standardSize(screenScale), Qt::KeepAspectRatio)
+                                               : own;
+                          });
 }
 
 } // namespace
