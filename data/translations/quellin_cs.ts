@@ -323,6 +323,162 @@ Počkejte, až se program načte.</translation>
         <source>This profile cannot be written. Changes will not be saved.</source>
         <translation>Do tohoto profilu nelze zapisovat. Změny se neuloží.</translation>
     </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Včera</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Dnes</translation>
+    </message>
+    <message>
+        <source>Tomorrow</source>
+        <translation>Zítra</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Subheading:</source>
+        <translation>Podtitul:</translation>
+    </message>
+    <message>
+        <source>Details:</source>
+        <translation>Podrobnosti:</translation>
+    </message>
+    <message>
+        <source>Episode Description:</source>
+        <translation>Popis dílu:</translation>
+    </message>
+    <message>
+        <source>Directed By:(p)</source>
+        <translation>Režiséři:</translation>
+    </message>
+    <message>
+        <source>Directed By:</source>
+        <translation>Režie:</translation>
+    </message>
+    <message>
+        <source>Roles:</source>
+        <translation>Hrají:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Popis:</translation>
+    </message>
+    <message numerus="yes">
+        <source>Starts in %n min</source>
+        <translation>
+            <numerusform>Začíná za %n min</numerusform>
+            <numerusform>Začíná za %n min</numerusform>
+            <numerusform>Začíná za %n min</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Skončilo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n min left</source>
+        <translation>
+            <numerusform>zbývá %n min</numerusform>
+            <numerusform>zbývají %n min</numerusform>
+            <numerusform>zbývá %n min</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Replay</source>
+        <translation>Repríza</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Žádné</translation>
+    </message>
+    <message>
+        <source>At beginning of the show</source>
+        <translation>Na začátku pořadu</translation>
+    </message>
+    <message>
+        <source>%1h before</source>
+        <translation>%1 h předem</translation>
+    </message>
+    <message>
+        <source>%1min before</source>
+        <translation>%1 min předem</translation>
+    </message>
+    <message>
+        <source>%1 (any broadcast)</source>
+        <translation>%1 (každé vysílání)</translation>
+    </message>
+    <message>
+        <source>%1 (every replay)</source>
+        <translation>%1 (každá repríza)</translation>
+    </message>
+    <message>
+        <source>%1 (every premiere)</source>
+        <translation>%1 (každá premiéra)</translation>
+    </message>
+    <message>
+        <source>Favorite</source>
+        <translation>Oblíbené</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Upozornění</translation>
+    </message>
+    <message>
+        <source>Trailer</source>
+        <translation>Ukázka</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Obrázky</translation>
+    </message>
+    <message>
+        <source>More broadcasts</source>
+        <translation>Další vysílání</translation>
+    </message>
+    <message>
+        <source>Past broadcasts</source>
+        <translation>Minulá vysílání</translation>
+    </message>
+    <message>
+        <source>Copy link</source>
+        <translation>Kopírovat odkaz</translation>
+    </message>
+    <message>
+        <source>Link copied</source>
+        <translation>Odkaz zkopírován</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show all %n</source>
+        <translation>
+            <numerusform>Zobrazit všechny (%n)</numerusform>
+            <numerusform>Zobrazit všechny (%n)</numerusform>
+            <numerusform>Zobrazit všechny (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Chyba</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Akce</translation>
+    </message>
+    <message>
+        <source>You have to allow access to your calendars to be able to use alerts. Calendar data will only be used by the application on your device, and will not be sent to any other device or service. Go to &apos;Privacy&apos; in the &apos;Settings&apos; application.</source>
+        <translation>Abyste mohli používat upozornění, musíte povolit přístup ke svým kalendářům. Údaje z kalendáře používá aplikace jen ve vašem zařízení a neposílá je do žádného jiného zařízení ani služby. Přejděte do „Soukromí“ v aplikaci „Nastavení“.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

@@ -323,6 +323,162 @@ Počkajte, kým sa program načíta.</translation>
         <source>This profile cannot be written. Changes will not be saved.</source>
         <translation>Do tohto profilu nemožno zapisovať. Zmeny sa neuložia.</translation>
     </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Včera</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Dnes</translation>
+    </message>
+    <message>
+        <source>Tomorrow</source>
+        <translation>Zajtra</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Subheading:</source>
+        <translation>Podtitul:</translation>
+    </message>
+    <message>
+        <source>Details:</source>
+        <translation>Podrobnosti:</translation>
+    </message>
+    <message>
+        <source>Episode Description:</source>
+        <translation>Popis časti:</translation>
+    </message>
+    <message>
+        <source>Directed By:(p)</source>
+        <translation>Režiséri:</translation>
+    </message>
+    <message>
+        <source>Directed By:</source>
+        <translation>Réžia:</translation>
+    </message>
+    <message>
+        <source>Roles:</source>
+        <translation>Hrajú:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Popis:</translation>
+    </message>
+    <message numerus="yes">
+        <source>Starts in %n min</source>
+        <translation>
+            <numerusform>Začína o %n min</numerusform>
+            <numerusform>Začína o %n min</numerusform>
+            <numerusform>Začína o %n min</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Skončilo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n min left</source>
+        <translation>
+            <numerusform>zostáva %n min</numerusform>
+            <numerusform>zostávajú %n min</numerusform>
+            <numerusform>zostáva %n min</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Replay</source>
+        <translation>Repríza</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Žiadne</translation>
+    </message>
+    <message>
+        <source>At beginning of the show</source>
+        <translation>Na začiatku relácie</translation>
+    </message>
+    <message>
+        <source>%1h before</source>
+        <translation>%1 h vopred</translation>
+    </message>
+    <message>
+        <source>%1min before</source>
+        <translation>%1 min vopred</translation>
+    </message>
+    <message>
+        <source>%1 (any broadcast)</source>
+        <translation>%1 (každé vysielanie)</translation>
+    </message>
+    <message>
+        <source>%1 (every replay)</source>
+        <translation>%1 (každá repríza)</translation>
+    </message>
+    <message>
+        <source>%1 (every premiere)</source>
+        <translation>%1 (každá premiéra)</translation>
+    </message>
+    <message>
+        <source>Favorite</source>
+        <translation>Obľúbené</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Upozornenie</translation>
+    </message>
+    <message>
+        <source>Trailer</source>
+        <translation>Ukážka</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Obrázky</translation>
+    </message>
+    <message>
+        <source>More broadcasts</source>
+        <translation>Ďalšie vysielania</translation>
+    </message>
+    <message>
+        <source>Past broadcasts</source>
+        <translation>Minulé vysielania</translation>
+    </message>
+    <message>
+        <source>Copy link</source>
+        <translation>Kopírovať odkaz</translation>
+    </message>
+    <message>
+        <source>Link copied</source>
+        <translation>Odkaz skopírovaný</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show all %n</source>
+        <translation>
+            <numerusform>Zobraziť všetkých (%n)</numerusform>
+            <numerusform>Zobraziť všetkých (%n)</numerusform>
+            <numerusform>Zobraziť všetkých (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Chyba</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Akcie</translation>
+    </message>
+    <message>
+        <source>You have to allow access to your calendars to be able to use alerts. Calendar data will only be used by the application on your device, and will not be sent to any other device or service. Go to &apos;Privacy&apos; in the &apos;Settings&apos; application.</source>
+        <translation>Aby ste mohli používať upozornenia, musíte povoliť prístup k svojim kalendárom. Údaje z kalendára používa aplikácia len vo vašom zariadení a neposiela ich do žiadneho iného zariadenia ani služby. Prejdite do „Súkromia“ v aplikácii „Nastavenia“.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

@@ -168,6 +168,7 @@ std::vector<Specimen> specimens() {
         {u"settings"_s, gallerySettings(), 1900},
         {u"forms"_s, galleryForms(), 1500},
         {u"pictures"_s, galleryPictures(), 1100},
+        {u"show-page"_s, galleryShowPage(), 900},
         {u"tiles"_s, galleryTiles(), 1200},
         {u"bars"_s, galleryShows(), 844, bars},
         {u"pushed"_s, galleryChannels(), 844, pushed, [](QQuickItem&) {}, true},

@@ -249,6 +249,34 @@ inline std::vector<Section> galleryPictures() {
                     {PictureRow{{PictureKey::Kind::QRCode, u"x"_s}, Shape::Square, u"A code"_s}})};
 }
 
+inline std::vector<Section> galleryShowPage() {
+    std::vector<ActionButton> buttons{{ActionSymbol::Favourite, u"Favourite"_s, true},
+                                      {ActionSymbol::Alert, u"Alert"_s},
+                                      {ActionSymbol::Play, u"Play"_s},
+                                      {ActionSymbol::Trailer, u"Trailer"_s},
+                                      {ActionSymbol::Pictures, u"Pictures"_s},
+                                      {ActionSymbol::WebPage, u"IMDb"_s},
+                                      {ActionSymbol::Broadcasts, u"More broadcasts"_s},
+                                      {ActionSymbol::PastBroadcasts, u"Past broadcasts"_s},
+                                      {ActionSymbol::CopyLink, u"Copy link"_s}};
+    buttons.back().enabled = false;
+    Section actions = section(u"actions"_s, {}, {ActionsRow{std::move(buttons)}});
+    actions.rows.front().selectable = false;
+    return {
+        section(
+            u"head"_s, {},
+            {HeadRow{.picture = showPicture(u"Kůň"_s),
+                     .title = u"The Horse, the Lighthouse and a Very Long Way Home"_s,
+                     .channelIcon = icon(u"Jedn"_s),
+                     .facts = u"Jednička · Today · 20:15–22:00 · 1 h 45 min · Replay · British film, 2009"_s,
+                     .status = u"On now · 35 min left"_s,
+                     .running = true,
+                     .progress = 0.66}}),
+        std::move(actions),
+        section(u"description"_s, u"Description:"_s,
+                {ParagraphRow{u"A horse walks home along the coast.\nIt takes its time."_s}})};
+}
+
 inline std::vector<Section> galleryTiles() {
     Section tiles = section(
         u"tiles"_s, u"Categories"_s,

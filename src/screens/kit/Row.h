@@ -145,11 +145,79 @@ struct PictureRow {
     friend bool operator==(const PictureRow&, const PictureRow&) = default;
 };
 
+/// The head of a show's page, its first row. Empty texts are not drawn.
+struct HeadRow {
+    /// 16 to 9, above the texts; nothing is drawn in its place when there is none.
+    PictureKey picture = {};
+    QString title = {};
+    PictureKey channelIcon = {};
+    /// One line, behind the icon.
+    QString facts = {};
+    /// Whether the show is running, to come soon, or over.
+    QString status = {};
+    bool running = false;
+    /// Elapsed share of the show, 0 to 1, while it is running.
+    std::optional<double> progress = {};
+
+    friend bool operator==(const HeadRow&, const HeadRow&) = default;
+};
+
+/// The picture on a button of an ActionsRow.
+enum class ActionSymbol {
+    Favourite,
+    Alert,
+    Play,
+    Trailer,
+    Pictures,
+    WebPage,
+    Broadcasts,
+    PastBroadcasts,
+    CopyLink,
+};
+
+struct ActionButton {
+    ActionSymbol symbol = ActionSymbol::Play;
+    QString title = {};
+    /// Unset for a button that is not a switch.
+    std::optional<bool> on = {};
+    bool enabled = true;
+
+    friend bool operator==(const ActionButton&, const ActionButton&) = default;
+};
+
+/// What can be done with the show of the page, as round buttons.
+struct ActionsRow {
+    std::vector<ActionButton> buttons = {};
+
+    friend bool operator==(const ActionsRow&, const ActionsRow&) = default;
+};
+
+/// Running text in full.
+struct ParagraphRow {
+    QString text = {};
+
+    friend bool operator==(const ParagraphRow&, const ParagraphRow&) = default;
+};
+
 using RowContent = std::variant<ShowRow, ChannelRow, TextRow, SwitchRow, ChoiceRow, TimeRow, InputRow,
-                                ButtonRow, ProgressRow, PictureRow>;
+                                ButtonRow, ProgressRow, PictureRow, HeadRow, ActionsRow, ParagraphRow>;
 
 /// The alternatives of RowContent, in its order.
-enum class RowKind { Show, Channel, Text, Switch, Choice, Time, Input, Button, Progress, Picture };
+enum class RowKind {
+    Show,
+    Channel,
+    Text,
+    Switch,
+    Choice,
+    Time,
+    Input,
+    Button,
+    Progress,
+    Picture,
+    Head,
+    Actions,
+    Paragraph
+};
 
 /// None for a kind that has no accessory.
 inline Accessory accessoryOf(const RowContent& content) {
@@ -181,7 +249,7 @@ struct Row {
 template <RowKind kind>
 using RowContentOf = std::variant_alternative_t<static_cast<std::size_t>(kind), RowContent>;
 
-static_assert(std::variant_size_v<RowContent> == static_cast<std::size_t>(RowKind::Picture) + 1);
+static_assert(std::variant_size_v<RowContent> == static_cast<std::size_t>(RowKind::Paragraph) + 1);
 static_assert(std::is_same_v<RowContentOf<RowKind::Show>, ShowRow> &&
               std::is_same_v<RowContentOf<RowKind::Channel>, ChannelRow> &&
               std::is_same_v<RowContentOf<RowKind::Text>, TextRow> &&

@@ -16,7 +16,7 @@ struct AccessoryTapped {};
 struct Toggled {
     bool on = false;
 };
-/// Of a ChoiceRow: the index of the choice.
+/// Of a ChoiceRow or an ActionsRow: the index of the choice or the button.
 struct Chosen {
     int choice = 0;
 };

@@ -27,8 +27,11 @@ struct Takes {
     }
     bool operator()(const Toggled&) const { return enabled<SwitchRow>(); }
     bool operator()(const Chosen& event) const {
-        return enabled<ChoiceRow>() && event.choice >= 0 &&
-               static_cast<std::size_t>(event.choice) < content<ChoiceRow>()->choices.size();
+        const auto place = static_cast<std::size_t>(event.choice);
+        if (const auto* actions = content<ActionsRow>()) {
+            return place < actions->buttons.size() && actions->buttons[place].enabled;
+        }
+        return enabled<ChoiceRow>() && place < content<ChoiceRow>()->choices.size();
     }
     bool operator()(const TimePicked& event) const { return enabled<TimeRow>() && event.time.isValid(); }
     bool operator()(const TextEdited&) const { return enabled<InputRow>(); }

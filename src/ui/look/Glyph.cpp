@@ -31,6 +31,17 @@ void addArc(QPainterPath& path, double radius, double from, double sweep) {
     path.arcTo(circle, from, sweep);
 }
 
+void addHeart(QPainterPath& path) {
+    path.moveTo(12, 20.5);
+    path.cubicTo(5, 15.4, 2.8, 12.2, 2.8, 8.8);
+    path.cubicTo(2.8, 5.9, 5, 3.9, 7.5, 3.9);
+    path.cubicTo(9.4, 3.9, 11.1, 4.9, 12, 6.6);
+    path.cubicTo(12.9, 4.9, 14.6, 3.9, 16.5, 3.9);
+    path.cubicTo(19, 3.9, 21.2, 5.9, 21.2, 8.8);
+    path.cubicTo(21.2, 12.2, 19, 15.4, 12, 20.5);
+    path.closeSubpath();
+}
+
 QPainterPath strokesOf(Glyph::Symbol symbol) {
     QPainterPath path;
     switch (symbol) {
@@ -143,6 +154,44 @@ QPainterPath strokesOf(Glyph::Symbol symbol) {
         path.lineTo(16.4, 11.4);
         path.lineTo(20.4, 15.2);
         break;
+    case Glyph::HeartOutline:
+        addHeart(path);
+        break;
+    case Glyph::Film:
+        addRoundedRect(path, 3, 4.5, 18, 15, 2.5);
+        addLine(path, 7.5, 4.5, 7.5, 19.5);
+        addLine(path, 16.5, 4.5, 16.5, 19.5);
+        for (const double y : {9.5, 14.5}) {
+            addLine(path, 3, y, 7.5, y);
+            addLine(path, 16.5, y, 21, y);
+        }
+        break;
+    case Glyph::Globe:
+        addArc(path, 9, 0, 360);
+        path.addEllipse(QPointF(12, 12), 4, 9);
+        addLine(path, 3, 12, 21, 12);
+        break;
+    case Glyph::Past:
+        addArc(path, 8.5, 150, -300);
+        path.moveTo(3.2, 4.2);
+        path.lineTo(4, 8.6);
+        path.lineTo(8.4, 7.8);
+        path.moveTo(12, 7.2);
+        path.lineTo(12, 12);
+        path.lineTo(15.4, 14);
+        break;
+    case Glyph::Link:
+        path.moveTo(10, 14);
+        path.cubicTo(7.6, 11.6, 8.6, 9.6, 10, 8.2);
+        path.lineTo(13.4, 4.8);
+        path.cubicTo(16, 2.4, 21.6, 8, 19.2, 10.6);
+        path.lineTo(17, 12.8);
+        path.moveTo(14, 10);
+        path.cubicTo(16.4, 12.4, 15.4, 14.4, 14, 15.8);
+        path.lineTo(10.6, 19.2);
+        path.cubicTo(8, 21.6, 2.4, 16, 4.8, 13.4);
+        path.lineTo(7, 11.2);
+        break;
     case Glyph::Play:
     case Glyph::Heart:
     case Glyph::Star:
@@ -160,14 +209,7 @@ QPainterPath fillOf(Glyph::Symbol symbol) {
         path.lineTo(8, 18.5);
         path.closeSubpath();
     } else if (symbol == Glyph::Heart) {
-        path.moveTo(12, 20.5);
-        path.cubicTo(5, 15.4, 2.8, 12.2, 2.8, 8.8);
-        path.cubicTo(2.8, 5.9, 5, 3.9, 7.5, 3.9);
-        path.cubicTo(9.4, 3.9, 11.1, 4.9, 12, 6.6);
-        path.cubicTo(12.9, 4.9, 14.6, 3.9, 16.5, 3.9);
-        path.cubicTo(19, 3.9, 21.2, 5.9, 21.2, 8.8);
-        path.cubicTo(21.2, 12.2, 19, 15.4, 12, 20.5);
-        path.closeSubpath();
+        addHeart(path);
     } else if (symbol == Glyph::Star) {
         constexpr int kPoints = 5;
         for (int corner = 0; corner < 2 * kPoints; ++corner) {

@@ -39,6 +39,11 @@ class Glyph : public QQuickPaintedItem {
         Unfold,
         Warning,
         Picture,
+        HeartOutline,
+        Film,
+        Globe,
+        Past,
+        Link,
     };
     Q_ENUM(Symbol)
 

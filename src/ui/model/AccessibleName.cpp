@@ -60,6 +60,9 @@ struct Name {
         return joined({row.title, percentOf(row.fraction, locale)});
     }
     QString operator()(const PictureRow& row) const { return row.description; }
+    QString operator()(const HeadRow& row) const { return joined({row.title, row.facts, row.status}); }
+    QString operator()(const ActionsRow&) const { return Localized::tr("Actions"); }
+    QString operator()(const ParagraphRow& row) const { return row.text; }
 };
 
 } // namespace

@@ -25,9 +25,12 @@ enum class RowKind {
     Button = int(guide::RowKind::Button),
     Progress = int(guide::RowKind::Progress),
     Picture = int(guide::RowKind::Picture),
+    Head = int(guide::RowKind::Head),
+    Actions = int(guide::RowKind::Actions),
+    Paragraph = int(guide::RowKind::Paragraph),
 };
 Q_ENUM_NS(RowKind)
-static_assert(std::size_t(RowKind::Picture) + 1 == std::variant_size_v<RowContent>);
+static_assert(std::size_t(RowKind::Paragraph) + 1 == std::variant_size_v<RowContent>);
 
 enum class Accessory {
     None = int(guide::Accessory::None),

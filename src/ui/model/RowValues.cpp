@@ -32,6 +32,46 @@ QUrl PictureRowValue::pictureUrl() const {
     return pictureUrlOf(picture);
 }
 
+QUrl HeadRowValue::pictureUrl() const {
+    return pictureUrlOf(picture);
+}
+
+QUrl HeadRowValue::channelIconUrl() const {
+    return pictureUrlOf(channelIcon);
+}
+
+Glyph::Symbol ActionButtonValue::glyph() const {
+    switch (symbol) {
+    case ActionSymbol::Favourite:
+        return on.value_or(false) ? Glyph::Heart : Glyph::HeartOutline;
+    case ActionSymbol::Alert:
+        return Glyph::Bell;
+    case ActionSymbol::Play:
+        return Glyph::Play;
+    case ActionSymbol::Trailer:
+        return Glyph::Film;
+    case ActionSymbol::Pictures:
+        return Glyph::Picture;
+    case ActionSymbol::WebPage:
+        return Glyph::Globe;
+    case ActionSymbol::Broadcasts:
+        return Glyph::Schedule;
+    case ActionSymbol::PastBroadcasts:
+        return Glyph::Past;
+    case ActionSymbol::CopyLink:
+        return Glyph::Link;
+    }
+    return Glyph::Play;
+}
+
+QList<ActionButtonValue> ActionsRowValue::buttonList() const {
+    QList<ActionButtonValue> values;
+    for (const ActionButton& button : buttons) {
+        values.append({button});
+    }
+    return values;
+}
+
 QString ChoiceRowValue::chosenText() const {
     const auto index = static_cast<std::size_t>(chosen.value_or(-1));
     return index < choices.size() ? choices[index] : QString();
@@ -56,6 +96,9 @@ struct Make {
     QVariant operator()(const ButtonRow& content) const { return made<ButtonRowValue>(content); }
     QVariant operator()(const ProgressRow& content) const { return made<ProgressRowValue>(content); }
     QVariant operator()(const PictureRow& content) const { return made<PictureRowValue>(content); }
+    QVariant operator()(const HeadRow& content) const { return made<HeadRowValue>(content); }
+    QVariant operator()(const ActionsRow& content) const { return made<ActionsRowValue>(content); }
+    QVariant operator()(const ParagraphRow& content) const { return made<ParagraphRowValue>(content); }
 
   private:
     template <class Value, class... Fields>

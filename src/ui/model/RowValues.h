@@ -2,7 +2,9 @@
 
 #include "screens/kit/Row.h"
 #include "screens/kit/Table.h"
+#include "ui/look/Glyph.h"
 
+#include <QList>
 #include <QLocale>
 #include <QObject>
 #include <QQmlEngine>
@@ -203,6 +205,63 @@ struct PictureRowValue : RowValue, PictureRow {
     bool square() const { return shape == Shape::Square; }
 
     friend bool operator==(const PictureRowValue&, const PictureRowValue&) = default;
+};
+
+struct HeadRowValue : RowValue, HeadRow {
+    Q_GADGET
+    QML_VALUE_TYPE(headRow)
+    Q_PROPERTY(QUrl picture READ pictureUrl CONSTANT FINAL)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(QUrl channelIcon READ channelIconUrl CONSTANT FINAL)
+    Q_PROPERTY(QString facts MEMBER facts CONSTANT FINAL)
+    Q_PROPERTY(QString status MEMBER status CONSTANT FINAL)
+    Q_PROPERTY(bool running MEMBER running CONSTANT FINAL)
+    /// -1 while the show is not running.
+    Q_PROPERTY(double progress READ shownProgress CONSTANT FINAL)
+
+  public:
+    QUrl pictureUrl() const;
+    QUrl channelIconUrl() const;
+    double shownProgress() const { return progress.value_or(-1); }
+
+    friend bool operator==(const HeadRowValue&, const HeadRowValue&) = default;
+};
+
+struct ActionButtonValue : ActionButton {
+    Q_GADGET
+    QML_VALUE_TYPE(actionButton)
+    Q_PROPERTY(int glyph READ glyph CONSTANT FINAL)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(bool checkable READ checkable CONSTANT FINAL)
+    Q_PROPERTY(bool on READ isOn CONSTANT FINAL)
+    Q_PROPERTY(bool enabled MEMBER enabled CONSTANT FINAL)
+
+  public:
+    Glyph::Symbol glyph() const;
+    bool checkable() const { return on.has_value(); }
+    bool isOn() const { return on.value_or(false); }
+
+    friend bool operator==(const ActionButtonValue&, const ActionButtonValue&) = default;
+};
+
+struct ActionsRowValue : RowValue, ActionsRow {
+    Q_GADGET
+    QML_VALUE_TYPE(actionsRow)
+    Q_PROPERTY(QList<guide::ActionButtonValue> buttons READ buttonList CONSTANT FINAL)
+
+  public:
+    QList<ActionButtonValue> buttonList() const;
+
+    friend bool operator==(const ActionsRowValue&, const ActionsRowValue&) = default;
+};
+
+struct ParagraphRowValue : RowValue, ParagraphRow {
+    Q_GADGET
+    QML_VALUE_TYPE(paragraphRow)
+    Q_PROPERTY(QString text MEMBER text CONSTANT FINAL)
+
+  public:
+    friend bool operator==(const ParagraphRowValue&, const ParagraphRowValue&) = default;
 };
 
 /// A row's section and the row's place in it: the role `section`.

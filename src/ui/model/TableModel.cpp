@@ -84,6 +84,11 @@ QString TableModel::emptyButton() const {
     return table().emptyNote() ? table().emptyNote()->buttonTitle : QString();
 }
 
+QVariant TableModel::valueOf(int index, RowKind kind) const {
+    return isRow(index) && table().rowAt(index).kind() == kind ? data(this->index(index), RowRole)
+                                                               : QVariant();
+}
+
 // ---- sections
 
 void TableModel::indexSections() {

@@ -43,6 +43,10 @@ class TableModel : public QAbstractListModel, private TableObserver {
     Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY emptyNoteUpdated)
     /// Empty for no button.
     Q_PROPERTY(QString emptyButton READ emptyButton NOTIFY emptyNoteUpdated)
+    /// The value of the first row, and of the second one, of a show's page: its head and its actions.
+    /// Undefined for other pages.
+    Q_PROPERTY(QVariant head READ head NOTIFY hasChanged)
+    Q_PROPERTY(QVariant headActions READ headActions NOTIFY hasChanged)
     /// The marks of the index strip, one per section that has one.
     Q_PROPERTY(QStringList indexTitles READ indexTitles NOTIFY sectionsChanged)
 
@@ -68,6 +72,8 @@ class TableModel : public QAbstractListModel, private TableObserver {
     QString emptyTitle() const;
     QString emptyMessage() const;
     QString emptyButton() const;
+    QVariant head() const { return valueOf(0, RowKind::Head); }
+    QVariant headActions() const { return valueOf(1, RowKind::Actions); }
     QStringList indexTitles() const;
 
     /// -1 when there is no such row.
@@ -136,6 +142,8 @@ class TableModel : public QAbstractListModel, private TableObserver {
     bool isRow(int index) const { return index >= 0 && index < table().rowCount(); }
     void send(int index, const RowEvent& event);
     QVariant sectionValue(int index) const;
+    /// Unset unless the row has the kind.
+    QVariant valueOf(int index, RowKind kind) const;
     void indexSections();
     void measureTimes(int first, int count);
     void measureColumn();

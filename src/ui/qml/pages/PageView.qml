@@ -9,7 +9,8 @@ FocusScope {
     property bool canGoBack: page.canGoBack
     property bool closable: false
 
-    readonly property int columnWidth: Math.min(width, 720)
+    // A show's page has two columns where there is room.
+    readonly property int columnWidth: Math.min(width, page.rows && page.rows.head !== undefined ? 1080 : 720)
     readonly property ContentPage drawn: content.item as ContentPage
 
     // What a popover points at; null when it is not drawn.

@@ -12,17 +12,34 @@ ContentPage {
         return row ? row.body : null
     }
 
+    // A wide page has the picture and the actions of a show on the left.
+    readonly property bool hasAside: width >= 700 && page.rows.head !== undefined
+
     scrolled: list.contentY > list.originY
 
     TableList {
         id: list
 
         anchors.fill: parent
+        anchors.leftMargin: screen.hasAside ? 352 : 0
+        besideAside: screen.hasAside
         trailingInset: strip.visible ? strip.width - 8 : 0
         page: screen.page
         bandRadius: screen.inset ? 12 : 0
         stickyHeight: sticky.visible ? sticky.height : 0
         transform: Translate { y: pull.reached }
+    }
+
+    Loader {
+        x: list.sideMargin
+        y: 12
+        width: 320
+        height: parent.height - y
+        active: screen.hasAside
+        sourceComponent: PageAside {
+            rows: screen.page.rows
+            onEnded: list.forceActiveFocus()
+        }
     }
 
     SectionHeader {
@@ -37,6 +54,7 @@ ContentPage {
             nextRow = list.itemAt(list.width / 2, list.contentY + implicitHeight)
         }
 
+        x: list.x
         width: list.width
         y: nextRow && nextRow !== topRow && nextRow.section.first ? Math.min(0, nextRow.y - list.contentY - height) : 0
         visible: text !== "" && list.contentY > list.originY

@@ -8,10 +8,28 @@ Image {
     // Missing or not yet loaded; a missing picture arrives as a single pixel.
     readonly property bool empty: status !== Image.Ready || implicitWidth <= 1
 
+    property int radius: 0
+    // What is behind the picture.
+    property color around: Theme.background
+
     asynchronous: true
     sourceSize: Qt.size(width, height)
     fillMode: Image.PreserveAspectFit
     opacity: status === Image.Ready ? 1 : 0
+
+    // Rounds the corners by covering them, which costs nothing but this item.
+    Rectangle {
+        // More than what a circle leaves of a corner.
+        readonly property int cover: Math.ceil(picture.radius / 2)
+
+        anchors.fill: parent
+        anchors.margins: -cover
+        visible: picture.radius > 0
+        radius: picture.radius + cover
+        color: "transparent"
+        border.width: cover
+        border.color: picture.around
+    }
 
     Behavior on opacity {
         enabled: Theme.moves

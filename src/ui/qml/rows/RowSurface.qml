@@ -9,6 +9,7 @@ Item {
     property bool selected: false
     property bool focused: false
     property color color: Theme.background
+    readonly property color shownColor: (selectable && tap.pressed) || selected ? Theme.pressed : color
     property int radius: 0
 
     signal tapped()
@@ -16,7 +17,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: surface.radius
-        color: (surface.selectable && tap.pressed) || surface.selected ? Theme.pressed : surface.color
+        color: surface.shownColor
     }
 
     Rectangle {

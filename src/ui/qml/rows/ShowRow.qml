@@ -143,6 +143,8 @@ TableRow {
         sourceComponent: RowPicture {
             width: 64
             height: 36
+            radius: 6
+            around: cell.shownColor
             source: cell.row.picture
             fillMode: Image.PreserveAspectCrop
         }

@@ -13,6 +13,9 @@ ListView {
     // Bands across the column are rounded where the column does not fill the page.
     property int bandRadius: 0
 
+    // Whether the head's picture and actions are drawn beside the list.
+    property bool besideAside: false
+
     // The width that the index strip covers.
     property double trailingInset: 0
 
@@ -182,6 +185,9 @@ ListView {
         DelegateChoice { roleValue: Kit.RowKind.Button; ButtonRow {} }
         DelegateChoice { roleValue: Kit.RowKind.Progress; ProgressRow {} }
         DelegateChoice { roleValue: Kit.RowKind.Picture; PictureRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Head; HeadRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Actions; ActionsRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Paragraph; ParagraphRow {} }
     }
 
     PlaceKeeper {
@@ -210,6 +216,9 @@ ListView {
         keyboardUsed = true
         closeSwiped()
         currentIndex = Math.max(0, Math.min(count - 1, currentIndex + by))
+        // Beside an aside the actions are not drawn here.
+        if (currentRow && currentRow.leastHeight === 0 && currentRow.contentHeight === 0)
+            currentIndex = Math.max(0, Math.min(count - 1, currentIndex + (by < 0 ? -1 : 1)))
         reveal()
     }
 

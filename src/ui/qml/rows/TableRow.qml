@@ -29,7 +29,9 @@ FocusScope {
     property int surfaceRadius: tiled ? 12 : 0
     // Where the line below the row begins; negative for no line.
     property double separatorInset: sideMargin
+    readonly property alias shownColor: surface.shownColor
     property double contentHeight: 0
+    property double leastHeight: 44
     default property alias content: surfaceContent.data
     // What is left for the row's content.
     readonly property double surfaceWidth: surfaceContent.width
@@ -40,7 +42,7 @@ FocusScope {
     readonly property bool tiled: section.tiles && list !== null && list.tileColumns > 1
     readonly property int column: tiled ? section.place % list.tileColumns : 0
     readonly property double bodyTop: column === 0 ? header.height + gap : -bodyHeight
-    readonly property double bodyHeight: tiled ? list.tileHeight : Math.max(44, contentHeight)
+    readonly property double bodyHeight: tiled ? list.tileHeight : Math.max(leastHeight, contentHeight)
 
     property bool swiped: false
     property var actions: []

@@ -1,0 +1,109 @@
+import QtQuick
+import Quellin
+
+// The head of a show's page: picture, title, facts, and progress. Beside an aside, which has the picture, only the
+// texts.
+TableRow {
+    id: cell
+
+    readonly property bool hasPicture: row.picture.toString() !== "" && !besideAside
+    readonly property bool besideAside: list !== null && list.besideAside
+    readonly property double textRight: surfaceWidth - sideMargin - (edge.visible ? edge.width : 0)
+
+    contentHeight: progress.y + progress.height + 12
+    separatorInset: -1
+
+    HeadPicture {
+        id: picture
+
+        width: cell.surfaceWidth
+        height: visible ? Math.round(width * 9 / 16) : 0
+        visible: cell.hasPicture
+        source: cell.row.picture
+    }
+
+    Text {
+        id: title
+
+        x: cell.sideMargin
+        y: picture.height + 12
+        width: cell.textRight - x
+        text: cell.row.title
+        textFormat: Text.PlainText
+        color: Theme.label
+        font: Theme.barTitleFont
+        wrapMode: Text.Wrap
+        Accessible.ignored: true
+    }
+
+    Accessory {
+        id: edge
+
+        x: parent.width - width - cell.sideMargin + 8
+        y: title.y
+        visible: cell.row.selectable
+        height: title.height
+        kind: Kit.Accessory.Disclosure
+    }
+
+    RowPicture {
+        id: icon
+
+        x: cell.sideMargin
+        y: facts.y + (facts.firstLine - height) / 2
+        width: visible ? 33 : 0
+        height: 24
+        visible: cell.row.channelIcon.toString() !== ""
+        source: cell.row.channelIcon
+    }
+
+    Text {
+        id: facts
+
+        property double firstLine: 24
+
+        x: cell.sideMargin + (icon.visible ? icon.width + 8 : 0)
+        y: title.y + title.height + 8
+        width: parent.width - cell.sideMargin - x
+        text: cell.row.facts
+        textFormat: Text.PlainText
+        color: Theme.secondaryLabel
+        font: Theme.bodyFont
+        wrapMode: Text.Wrap
+        onLineLaidOut: line => {
+            if (line.number === 0)
+                firstLine = line.height
+        }
+        Accessible.ignored: true
+    }
+
+    Text {
+        id: status
+
+        readonly property double used: text === "" ? 0 : implicitHeight + 6
+
+        x: cell.sideMargin
+        y: facts.y + facts.height + 6
+        width: parent.width - 2 * x
+        text: cell.row.status
+        textFormat: Text.PlainText
+        color: cell.row.running ? Theme.running : Theme.secondaryLabel
+        font: Theme.headingFont
+        wrapMode: Text.Wrap
+        Accessible.ignored: true
+    }
+
+    Loader {
+        id: progress
+
+        x: cell.sideMargin
+        y: facts.y + facts.height + status.used
+        width: parent.width - 2 * x
+        height: active ? 10 : 0
+        active: cell.row.progress >= 0
+        sourceComponent: ProgressLine {
+            value: cell.row.progress
+            topPadding: 6
+        }
+    }
+}
