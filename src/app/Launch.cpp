@@ -42,6 +42,7 @@ bool QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBar
     makeListings();
     makeUpdateCycle();
     makeRetries();
+    makePictures();
     makeScreens();
     showWindow(*m_tabBarController);
     m_environment.audioSession.setCategory(AudioSessionCategory::Playback, false);
@@ -204,6 +205,39 @@ void QuellinGuideAppDelegate::makeRetries() {
     }
 }
 
+void QuellinGuideAppDelegate::makePictures() {
+    m_pictureFetcher = std::make_unique<PictureFetcher>(PictureFetcherEnvironment{
+        .clock = m_environment.clock,
+        .client = m_environment.httpClient,
+        .networkActivity = *m_networkActivity,
+        .userAgent = *m_userAgent,
+        .noRemoteHostAlert =
+            [this](const TransferError& error) { m_remoteHostAlert->noRemoteHostAlert(error); },
+    });
+    m_showLookup = std::make_unique<WebShowLookup>(
+        DetailScraperEnvironment{
+            .pages = networkPageSource(*m_fetcher, *m_userAgent, std::chrono::seconds(30)),
+            .hosts = m_environment.hosts,
+            .update =
+                [this](std::shared_ptr<const TVEntry> entry,
+                       std::shared_ptr<const TVEntrySupplementalData> details, const QSet<QUrl>& pictures) {
+                    m_listings->updateDetails(std::move(entry), std::move(details), pictures);
+                },
+            .locale = m_environment.device.locale(),
+        },
+        IMDbLookupEnvironment{m_environment.httpClient, *m_userAgent, m_environment.hosts,
+                              m_environment.queues});
+    m_pictures = std::make_unique<ShowPictureLoader>(ShowPictureLoaderEnvironment{
+        .queues = m_environment.queues,
+        .device = m_environment.device,
+        .fetcher = *m_pictureFetcher,
+        .lookup = *m_showLookup,
+        .listings = *m_listings,
+        .loadsSchedules = [this] { return m_updateCycle->isRunning(); },
+        .stopped = [this] { return m_isShuttingDown.load(); },
+    });
+}
+
 void QuellinGuideAppDelegate::makeScreens() {
     m_guidePictures = std::make_unique<GuidePictures>(*m_icons, m_pictureCache);
     m_recordedShows = std::make_unique<RecordedShowsLookup>(
@@ -229,12 +263,12 @@ void QuellinGuideAppDelegate::makeScreens() {
         .favoriteActions = *m_favoriteOperations,
         .recordedShows = *m_recordedShows,
         .popularShows = m_popularShows,
-        .pictures = m_pictures,
+        .pictures = *m_pictures,
         .pictureCache = m_pictureCache,
         .settings = *this,
         .updates = *this,
         .navigation = *this,
-        .showLookup = m_showLookup,
+        .showLookup = *m_showLookup,
         .clipboard = m_environment.clipboard,
         .scheme = m_environment.scheme,
         .swipeActions =

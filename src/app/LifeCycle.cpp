@@ -45,6 +45,7 @@ void QuellinGuideAppDelegate::applicationDidReceiveMemoryWarning() {
     m_listings->commitFiles();
     m_icons->dropIcons();
     m_pictureCache.clear();
+    m_pictureFetcher->dropFiles();
     m_environment.responseCache.setMemoryCapacity(0);
     m_environment.responseCache.setMemoryCapacity(m_environment.responseCacheCapacity);
 }

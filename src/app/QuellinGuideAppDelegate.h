@@ -8,7 +8,9 @@
 #include "app/LoadRetries.h"
 #include "app/NullServices.h"
 #include "app/RecordedShowsLookup.h"
+#include "app/ShowPictureLoader.h"
 #include "app/UpdateCycle.h"
+#include "app/WebShowLookup.h"
 #include "core/Catalogue.h"
 #include "core/RemoteHostAlert.h"
 #include "core/Settings.h"
@@ -17,13 +19,13 @@
 #include "parsers/ListDriver.h"
 #include "parsers/URLPlanner.h"
 #include "screens/GuidePictures.h"
-#include "screens/ShowPictures.h"
 #include "screens/kit/TabBarController.h"
 #include "screens/shell/ScreenBroadcast.h"
 #include "screens/shell/ScreenEnvironment.h"
 #include "sources/HTTPUserAgent.h"
 #include "sources/NetworkActivity.h"
 #include "sources/PageFetcher.h"
+#include "sources/PictureFetcher.h"
 #include "sources/SourceHealthRecords.h"
 #include "store/TVListings.h"
 #include "text/display/Alphabet.h"
@@ -108,6 +110,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void makeListings();
     void makeUpdateCycle();
     void makeRetries();
+    void makePictures();
     void makeScreens();
     void setup();
     void cleanUpSelection();
@@ -140,8 +143,6 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     NoShowCounters m_showCounters;
     AlarmUpdater m_alarmUpdater;
     NoPopularShows m_popularShows;
-    NoShowPictures m_pictures;
-    NoShowLookup m_showLookup;
     ShowPictureCache m_pictureCache;
     NoCloudValues m_cloud;
 
@@ -164,6 +165,9 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     std::unique_ptr<SourceHealthRecords> m_sourceHealth;
     std::unique_ptr<UpdateCycle> m_updateCycle;
     std::unique_ptr<LoadRetries> m_retries;
+    std::unique_ptr<PictureFetcher> m_pictureFetcher;
+    std::unique_ptr<WebShowLookup> m_showLookup;
+    std::unique_ptr<ShowPictureLoader> m_pictures;
     std::unique_ptr<GuidePictures> m_guidePictures;
     std::unique_ptr<RecordedShowsLookup> m_recordedShows;
     std::unique_ptr<TabBarController> m_tabBarController;

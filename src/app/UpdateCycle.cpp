@@ -9,8 +9,8 @@ struct UpdateCycle::State : UpdateWork {
 
     /// A check was requested and has not started.
     std::atomic<bool> waiting = false;
-    /// A check has been started and has not ended. Used on the check queue.
-    bool running = false;
+    /// A check has been started and has not ended. Changed on the check queue.
+    std::atomic<bool> running = false;
 
     /// On the check queue, while no check is running.
     static void start(const std::shared_ptr<State>& state) {
@@ -44,6 +44,10 @@ void UpdateCycle::checkAndUpdateAllChannels() {
             State::start(state);
         }
     });
+}
+
+bool UpdateCycle::isRunning() const {
+    return m_state->running;
 }
 
 bool UpdateCycle::finish(std::chrono::milliseconds atMost) {

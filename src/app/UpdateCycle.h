@@ -76,6 +76,9 @@ class UpdateCycle {
     /// Starts a check after the running one. Does nothing if a check is already waiting. Any thread.
     void checkAndUpdateAllChannels();
 
+    /// Whether a check is running. Any thread.
+    bool isRunning() const;
+
     /// Ends the running check before its next steps, disables later ones, and waits for the end. Returns
     /// false on timeout. Transfers must have been cancelled, and the load queue must not be suspended.
     bool finish(std::chrono::milliseconds atMost);

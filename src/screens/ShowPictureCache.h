@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QImage>
 #include <QString>
+#include <QUrl>
 
 #include <cstdint>
 #include <list>
@@ -15,8 +16,8 @@
 
 namespace guide {
 
-/// A bounded cache of the pictures of shows, by channel and show identifier. Drops the least recently used
-/// ones. Any thread.
+/// A bounded cache of the pictures of shows: of rows, by channel and show identifier, and of pages, by
+/// address. Drops the least recently used ones. Any thread.
 class ShowPictureCache {
   public:
     static constexpr qsizetype kMaxBytes = 32 * 1024 * 1024;
@@ -28,6 +29,9 @@ class ShowPictureCache {
     std::optional<PictureKey> find(const ObjectId& channel, const QString& showIdentifier) const;
     /// A null image records that the show has no picture. A picture that replaces another one gets a new key.
     void insert(const ObjectId& channel, const QString& showIdentifier, const QImage& image);
+    // No show is broadcast by the pseudo-channel.
+    std::optional<PictureKey> find(const QUrl& url) const { return find(ObjectId::all(), url.toString()); }
+    void insert(const QUrl& url, const QImage& image) { insert(ObjectId::all(), url.toString(), image); }
     void forgetChannel(const ObjectId& channel);
     void clear();
 

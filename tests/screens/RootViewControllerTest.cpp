@@ -3,6 +3,7 @@
 #include "ScreenWorld.h"
 #include "TableReplay.h"
 #include "screens/channel/ChannelViewController.h"
+#include "screens/detail/DetailViewController.h"
 
 namespace guide::test {
 namespace {
@@ -58,7 +59,6 @@ TEST_F(RootViewControllerTest, ShowsASectionForEachSelectedChannelInOrder) {
     EXPECT_EQ(channelAt(table(), 3).accessory, Accessory::Play);
     EXPECT_EQ(channelAt(table(), 5).accessory, Accessory::Spinner);
     EXPECT_FALSE(table().rowAt(5).selectable);
-    EXPECT_FALSE(table().rowAt(1).selectable) << "there is no detail screen yet";
 
     send(3, AccessoryTapped{});
     send(6, Tapped{});
@@ -188,6 +188,14 @@ TEST_F(RootViewControllerTest, IgnoresFreshListsInTheBackground) {
     world.broadcast->applicationDidBecomeActive();
     world.queues.runAll();
     EXPECT_EQ(table().rowCount(), 2);
+}
+
+TEST_F(RootViewControllerTest, AShowOpensItsPage) {
+    begin({{-5, 5, u"A"_s}, {5, 9, u"B"_s}});
+    send(2, Tapped{});
+    const auto* page = dynamic_cast<const DetailViewController*>(&world.top());
+    ASSERT_TRUE(page);
+    EXPECT_EQ(page->show().entry()->title(), u"B"_s);
 }
 
 TEST_F(RootViewControllerTest, AChannelOpensItsSchedule) {
@@ -416,6 +424,35 @@ TEST_F(RootViewControllerTest, DropsDetailsOfAnOldList) {
     block.post(world.queues.mainQueue(), shows, {QImage()});
     world.queues.runAll();
     EXPECT_TRUE(linesOf(table()).last().endsWith(u"New"_s));
+}
+
+TEST_F(RootViewControllerTest, DetailsThatWereLookedUpStayWhenAShowEnds) {
+    const ObjectId channel = begin({{-5, 5, u"A"_s}, {5, 9, u"B"_s}, {9, 19, u"C"_s}});
+    display(1);
+    world.wait(200ms);
+    ASSERT_EQ(world.pictures.details.size(), 1U);
+    auto& [shows, block] = world.pictures.details.front();
+    ShowItems completed;
+    for (const ShowItem& show : shows) {
+        completed.emplace_back(show.entry(), 0, std::make_shared<TVEntrySupplementalData>(),
+                               QSet<QUrl>{QUrl(u"http://x/"_s + *show.entry()->title())});
+    }
+    world.wait(6min);
+    EXPECT_EQ(linesOf(table()).size(), 3) << "the first show has ended before the answer";
+    block.post(world.queues.mainQueue(), completed, std::vector<QImage>(3));
+    world.queues.runAll();
+    world.wait(4min);
+    EXPECT_EQ(linesOf(table()).size(), 2);
+    world.pictures.pictures.clear();
+    display(1);
+    world.wait(200ms);
+    ASSERT_EQ(world.pictures.pictures.size(), 1U) << "the address from the details is known";
+    EXPECT_EQ(world.pictures.pictures.begin()->first, u"http://x/C"_s);
+
+    QImage image(10, 10, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    world.pictures.setShowImage(image, channel, u"C"_s);
+    EXPECT_FALSE(showAt(table(), 1).picture.empty()) << "a picture of IMDb, after the answer";
 }
 
 TEST_F(RootViewControllerTest, FetchesNothingWithoutPicturesOrWhileTheChannelIsDue) {

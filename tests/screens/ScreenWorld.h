@@ -112,9 +112,16 @@ struct WorldPictures final : ShowPictures {
     void asyncLoadOfShowImageAtURL(const QUrl& url, MainBlock<QImage> mainBlock) override {
         pictures.emplace(url.toString(), std::move(mainBlock));
     }
-    void loadDetailsOfShows(ShowItems shows, MainBlock<ShowItems, std::vector<QImage>> mainBlock) override {
+    void imageAtURL(const QUrl& url, const QSizeF&, MainBlock<QImage> mainBlock) override {
+        large.emplace_back(url.toString(), std::move(mainBlock));
+    }
+    void loadDetailsOfShows(ShowItems shows, SetShowImage ownSetShowImage,
+                            MainBlock<ShowItems, std::vector<QImage>> mainBlock) override {
+        setShowImage = std::move(ownSetShowImage);
         details.emplace_back(std::move(shows), std::move(mainBlock));
     }
+    std::vector<std::pair<QString, MainBlock<QImage>>> large;
+    SetShowImage setShowImage;
     std::map<QString, MainBlock<QImage>> pictures;
     std::vector<std::pair<ShowItems, MainBlock<ShowItems, std::vector<QImage>>>> details;
 };

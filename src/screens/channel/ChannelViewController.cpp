@@ -2,6 +2,8 @@
 
 #include "screens/LoadFailureText.h"
 #include "screens/Localized.h"
+#include "screens/detail/DetailViewController.h"
+#include "screens/kit/NavigationController.h"
 
 #include <algorithm>
 #include <utility>
@@ -50,10 +52,23 @@ void ChannelViewController::viewDidDisappear() {
     table().deselectRow();
 }
 
-std::vector<RowAction> ChannelViewController::actionsForRow(const RowId& id) {
+const ShowItem* ChannelViewController::shownShow(const RowId& id) const {
     const auto day = std::find_if(m_days.begin(), m_days.end(),
                                   [&id](const DaySection& each) { return each.id() == id.section; });
-    const ShowItem* show = day == m_days.end() ? nullptr : findShow(day->shows, *id.show());
+    return day == m_days.end() || !id.show() ? nullptr : findShow(day->shows, *id.show());
+}
+
+void ChannelViewController::rowEvent(const RowId& id, const RowEvent& event) {
+    const ShowItem* show = shownShow(id);
+    if (NavigationController* navigation = navigationController();
+        show && navigation && std::holds_alternative<Tapped>(event)) {
+        navigation->pushFrom(*this,
+                             std::make_shared<DetailViewController>(m_environment, *show, m_channelIconName));
+    }
+}
+
+std::vector<RowAction> ChannelViewController::actionsForRow(const RowId& id) {
+    const ShowItem* show = shownShow(id);
     return show ? m_environment->swipeActions(show->entry(), shared_from_this()) : std::vector<RowAction>();
 }
 
@@ -143,7 +158,7 @@ Row ChannelViewController::showRow(RowId id, const ShowItem& show, const ShowRow
     const TVEntry& entry = *show.entry();
     ShowRow row = showRows.condensed(show, m_ends.endOf(entry), isRunning(entry, showRows.now()));
     row.allDetails = true;
-    return {.id = std::move(id), .content = std::move(row)};
+    return {.id = std::move(id), .content = std::move(row), .selectable = true};
 }
 
 bool ChannelViewController::isRunning(const TVEntry& entry, Moment now) const {

@@ -40,10 +40,13 @@ class ChannelViewController final : public ListingsScreen {
     void viewWillAppear() override;
     void viewDidAppear() override;
     void viewDidDisappear() override;
+    void rowEvent(const RowId& id, const RowEvent& event) override;
     std::vector<RowAction> actionsForRow(const RowId& id) override;
     void didPullToRefresh() override { refresh(); }
 
   private:
+    /// Null for a row that is not a show.
+    const ShowItem* shownShow(const RowId& id) const;
     void initializeContentWithEntriesArray(const ShowSpan& entries);
     void reloadTable();
     Row showRow(RowId id, const ShowItem& show, const ShowRows& showRows) const;

@@ -3,6 +3,7 @@
 #include "screens/LoadFailureText.h"
 #include "screens/Localized.h"
 #include "screens/channel/ChannelViewController.h"
+#include "screens/detail/DetailViewController.h"
 #include "screens/kit/NavigationController.h"
 #include "store/ShownEnds.h"
 #include "text/display/Transliteration.h"
@@ -18,6 +19,23 @@ namespace {
 
 /// The name of the row that loads a channel again.
 constexpr auto kTryAgain = "try again"_L1;
+
+/// The shows of `list`, each in the version of `others` if that has the same broadcast and `isBetter` says
+/// so.
+ShowItems merged(ShowItems list, const ShowItems& others,
+                 bool (*isBetter)(const ShowItem& other, const ShowItem& own)) {
+    std::unordered_map<const TVEntry*, const ShowItem*> byEntry;
+    for (const ShowItem& other : others) {
+        byEntry.emplace(other.entry().get(), &other);
+    }
+    for (ShowItem& show : list) {
+        const auto other = byEntry.find(show.entry().get());
+        if (other != byEntry.end() && isBetter(*other->second, show)) {
+            show = *other->second;
+        }
+    }
+    return list;
+}
 
 } // namespace
 
@@ -191,7 +209,11 @@ void RootViewController::refill() {
             }
             for (Channel& channel : m_channels) {
                 if (const auto shows = fresh.find(channel.identificator); shows != fresh.end()) {
-                    channel.entries = showsNotOver(shows->second, now);
+                    // Details that were looked up stay.
+                    channel.entries = merged(showsNotOver(shows->second, now), channel.entries,
+                                             [](const ShowItem& other, const ShowItem& own) {
+                                                 return other.elementCount() > own.elementCount();
+                                             });
                 }
             }
             reloadTable();
@@ -241,7 +263,7 @@ std::vector<Row> RootViewController::rowsOf(const Channel& channel, const ShowRo
             row.picture = m_environment->pictureCache.find(channel.identificator, identificatorOf(show))
                               .value_or(PictureKey());
         }
-        rows.push_back({.id = ids.next(entry), .content = std::move(row)});
+        rows.push_back({.id = ids.next(entry), .content = std::move(row), .selectable = true});
     }
     const auto record = m_environment->channels.channelWithChannelId(channel.identificator);
     if (channel.entries.empty() && record && failureOf(*record)) {
@@ -288,6 +310,10 @@ void RootViewController::rowEvent(const RowId& id, const RowEvent& event) {
         tryAgain(ObjectId::fromHex(id.section));
         return;
     }
+    if (const ShowItem* show = shownShow(id)) {
+        openShow(*show);
+        return;
+    }
     const Channel* channel = id.channel() ? shownChannel(*id.channel()) : nullptr;
     if (!channel) {
         return;
@@ -327,6 +353,14 @@ void RootViewController::selectedChannel(const Channel& channel) {
             navigation->pushFrom(*this, std::make_shared<ChannelViewController>(m_environment, title, entries,
                                                                                 iconName, identificator));
         }));
+}
+
+void RootViewController::openShow(const ShowItem& show) {
+    const Channel* channel = shownChannel(show.entry()->channel());
+    if (NavigationController* navigation = navigationController(); navigation && channel) {
+        navigation->pushFrom(*this,
+                             std::make_shared<DetailViewController>(m_environment, show, channel->iconName));
+    }
 }
 
 void RootViewController::tryAgain(const ObjectId& channel) {
@@ -415,24 +449,28 @@ void RootViewController::startDetailPass(const ObjectId& channel) {
     }
     m_environment->pictures.loadDetailsOfShows(
         shown->entries,
-        {weak_from_this(), [this, channel, asked = shown->entries](const ShowItems& completed,
-                                                                   const std::vector<QImage>& images) {
+        [weak = weakFromThis<RootViewController>()](const QImage& image, const ObjectId& of,
+                                                    const QString& showIdentifier) {
+            if (const auto self = weak.lock(); self && self->applicationActive()) {
+                self->setShowImage(image, of, showIdentifier);
+            }
+        },
+        {weak_from_this(), [this, channel](const ShowItems& completed, const std::vector<QImage>& images) {
              if (applicationActive()) {
-                 detailsLoaded(channel, asked, completed, images);
+                 detailsLoaded(channel, completed, images);
              }
          }});
 }
 
-void RootViewController::detailsLoaded(const ObjectId& channel, const ShowItems& asked,
-                                       const ShowItems& completed, const std::vector<QImage>& images) {
+void RootViewController::detailsLoaded(const ObjectId& channel, const ShowItems& completed,
+                                       const std::vector<QImage>& images) {
     Channel* shown = shownChannel(channel);
     if (!shown) {
         return;
     }
-    // A list that arrived in the meantime is newer than these details.
-    if (shown->entries == asked && completed.size() == asked.size()) {
-        shown->entries = completed;
-    }
+    // Of a list that arrived in the meantime, only the same broadcasts get these details.
+    shown->entries =
+        merged(std::move(shown->entries), completed, [](const ShowItem&, const ShowItem&) { return true; });
     for (std::size_t index = 0; index < completed.size() && index < images.size(); ++index) {
         if (!images[index].isNull()) {
             m_environment->pictureCache.insert(channel, identificatorOf(completed[index]), images[index]);

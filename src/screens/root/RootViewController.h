@@ -88,12 +88,13 @@ class RootViewController final : public ListingsScreen {
     void reloadRows(const ObjectId& channel) { reloadRows(std::unordered_set{channel}); }
 
     void selectedChannel(const Channel& channel);
+    void openShow(const ShowItem& show);
     void tryAgain(const ObjectId& channel);
 
     static QString identificatorOf(const ShowItem& show);
     void loadPicture(const QUrl& url, const ObjectId& channel, const QString& showIdentifier);
     void startDetailPass(const ObjectId& channel);
-    void detailsLoaded(const ObjectId& channel, const ShowItems& asked, const ShowItems& completed,
+    void detailsLoaded(const ObjectId& channel, const ShowItems& completed,
                        const std::vector<QImage>& images);
 
     const std::shared_ptr<const ScreenEnvironment> m_environment;
