@@ -3,6 +3,7 @@
 #include "demo/DemoFiles.h"
 #include "demo/DemoSites.h"
 #include "demo/feeds/DemoFeed.h"
+#include "demo/pages/Pictures.h"
 #include "platform/files/FileReplacement.h"
 
 #include <QDir>
@@ -87,6 +88,9 @@ std::unique_ptr<DemoEnvironment> DemoEnvironment::create(const QString& folder, 
             state->router.serve(target, [feed = placed.feed](const ServerRequest&) { return feed->reply(); });
         }
     }
+    state->router.serveBelow("/pictures/", [](const ServerRequest& request) {
+        return ServerReply::ok(showPicture(request.target), {"Content-Type: image/svg+xml"});
+    });
     DemoSites::open(state->router, siteChannels(generator, clock), [&clock] { return clock.now(); });
 
     std::unique_ptr<DemoEnvironment> environment(new DemoEnvironment(std::move(state)));

@@ -2,6 +2,7 @@
 #include "demo/DemoSites.h"
 
 #include "app/GuideWorld.h"
+#include "screens/kit/TableViewController.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <limits>
+#include <string_view>
 
 namespace guide {
 namespace {
@@ -117,13 +119,16 @@ std::vector<std::string> expectedShows(const Family& family, const std::vector<P
     return lines;
 }
 
-void expectTheSameScheduleFromEverySite(Moment now) {
-    const std::vector<Family> all = families();
+QStringList sourcesOf(const std::vector<Family>& all) {
     QStringList sources;
     for (const Family& family : all) {
         sources += family.sources;
     }
-    GuideWorld world(sources);
+    return sources;
+}
+
+/// Opens the sites, starts the guide and loads everything. Returns the schedules of the sources in order.
+std::vector<std::vector<Programme>> openSites(GuideWorld& world, const std::vector<Family>& all, Moment now) {
     world.clock.advance(now - world.clock.now());
     world.device.zone = QTimeZone("Europe/Prague");
     QJsonObject hosts;
@@ -134,11 +139,10 @@ void expectTheSameScheduleFromEverySite(Moment now) {
 
     std::vector<std::vector<Programme>> schedules;
     std::vector<SiteChannel> channels;
-    const QString authority = world.server->authority();
     for (const Family& family : all) {
         for (const QString& source : family.sources) {
             schedules.push_back(scheduleAround(now, int(schedules.size()), family));
-            channels.push_back({QString(source).replace("%1"_L1, authority), u"Channel"_s,
+            channels.push_back({QString(source).replace("%1"_L1, world.server->authority()), u"Channel"_s,
                                 [schedule = schedules.back()](Moment from, Moment until) {
                                     std::vector<Programme> programmes = schedule;
                                     std::erase_if(programmes, [=](const Programme& programme) {
@@ -151,7 +155,15 @@ void expectTheSameScheduleFromEverySite(Moment now) {
     DemoSites::open(world.server->router(), channels, [&world] { return world.clock.now(); });
     world.start();
     world.guide->applicationDidBecomeActive();
-    ASSERT_TRUE(world.check());
+    EXPECT_TRUE(world.check());
+    return schedules;
+}
+
+void expectTheSameScheduleFromEverySite(Moment now) {
+    const std::vector<Family> all = families();
+    GuideWorld world(sourcesOf(all));
+    const QString authority = world.server->authority();
+    const std::vector<std::vector<Programme>> schedules = openSites(world, all, now);
 
     int number = 0;
     for (const Family& family : all) {
@@ -191,6 +203,34 @@ TEST(DemoSitesTest, EverySiteLeadsToTheSameSchedule) {
         SCOPED_TRACE(name);
         expectTheSameScheduleFromEverySite(Moment(std::chrono::milliseconds(time.toMSecsSinceEpoch())));
     }
+}
+
+TEST(DemoSitesTest, AShowHasAPageWithItsDetails) {
+    std::vector<Family> all = families();
+    std::erase_if(all, [](const Family& family) { return std::string_view(family.name) != "HBO"; });
+    GuideWorld world(sourcesOf(all));
+    openSites(
+        world, all,
+        Moment(std::chrono::milliseconds(
+            QDateTime(QDate(2026, 6, 15), QTime(12, 0), QTimeZone("Europe/Prague")).toMSecsSinceEpoch())));
+    const auto screen = [&world]() -> TableViewController& {
+        return dynamic_cast<TableViewController&>(
+            *world.guide->tabBarController().selectedNavigationController().topViewController());
+    };
+    ASSERT_TRUE(world.runUntil([&] { return screen().table().rowCount() > 1; }));
+    screen().sendRowEvent(screen().table().rowAt(1).id, Tapped{});
+    const auto texts = [&] {
+        QStringList found;
+        for (const Section& section : screen().table().sections()) {
+            if (const auto* text = std::get_if<ParagraphRow>(&section.rows.front().content)) {
+                found << section.header + u' ' + text->text;
+            }
+        }
+        return found;
+    };
+    EXPECT_TRUE(world.runUntil([&] { return texts().size() >= 3; }));
+    EXPECT_EQ(texts(), QStringList({u"Directed By: Jan Novák"_s, u"Roles: Eva Malá\nIvo Ryba"_s,
+                                    u"Description: Kdo ráno vstává, ten to ví."_s}));
 }
 
 } // namespace

@@ -134,7 +134,8 @@ std::vector<PlacedFeed> demoFeeds(const ScheduleGenerator& generator, Moment now
                 placeDayFiles(source, channel, generator, now, placed);
                 continue;
             }
-            const Place place = placeOf(source, channel, authority);
+            Place place = placeOf(source, channel, authority);
+            place.style.pictureServer = authority;
             shared.try_emplace(place.targets.front(), Shared{place, {}})
                 .first->second.channels.push_back(&channel);
         }

@@ -1,6 +1,7 @@
 #include "demo/feeds/XMLTVWriter.h"
 
 #include "demo/feeds/TopicWords.h"
+#include "demo/pages/Pictures.h"
 
 #include <QDateTime>
 #include <QTimeZone>
@@ -124,6 +125,12 @@ void Document::programme(const Programme& programme, const FeedChannel& channel)
     } else if (m_style.form == FeedStyle::Form::Attributes) {
         element("category"_L1, attribute("desc"_L1, words.attribute) + attribute("lang"_L1, u"en"_s),
                 escaped(words.attributeText));
+    }
+    if (!m_style.pictureServer.isEmpty() && programme.topic != Topic::None &&
+        programme.topic != Topic::News) {
+        const QString path = QString::fromLatin1(showPicturePath(programme.title));
+        m_text +=
+            u"    <icon"_s + attribute("src"_L1, u"http://"_s + m_style.pictureServer + path) + u"/>\n"_s;
     }
     element("country"_L1, {}, escaped(programme.country));
     if (programme.episode > 0 && m_style.form != FeedStyle::Form::Bracketed) {

@@ -28,6 +28,8 @@ struct FeedStyle {
     bool cdata = false;
     /// Windows-1251 and character references instead of UTF-8.
     bool cyrillicBytes = false;
+    /// The server of the shows' pictures; empty for a feed without pictures.
+    QString pictureServer = {};
 };
 
 struct FeedChannel {

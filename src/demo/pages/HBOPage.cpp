@@ -1,5 +1,9 @@
 #include "demo/pages/Pages.h"
+#include "demo/pages/Pictures.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QMap>
 
 #include <algorithm>
@@ -50,12 +54,44 @@ QString show(const SiteClock& clock, const Programme& programme, Moment now) {
          escapedMarkup(programme.title) + episode, escapedMarkup(programme.subtitle));
 }
 
+/// "/COUNTRY/show/SLUG": what the page of a show says to search engines.
+std::optional<QByteArray> showPage(const SiteRequest& request) {
+    const QString wanted = request.path.section(u'/', 3, 3);
+    for (const SiteChannel& channel : request.channels) {
+        for (const Programme& each :
+             channel.programmes(request.now - std::chrono::days(1), request.now + std::chrono::days(8))) {
+            if (slug(each.title) != wanted) {
+                continue;
+            }
+            QJsonArray actors;
+            for (const QString& actor : each.actors) {
+                actors.append(QJsonObject{{u"@type"_s, u"Person"_s}, {u"name"_s, actor}});
+            }
+            const QJsonObject image{{u"@type"_s, u"ImageObject"_s},
+                                    {u"url"_s, QString::fromLatin1(showPicturePath(each.title))}};
+            const QJsonObject director{{u"@type"_s, u"Person"_s}, {u"name"_s, each.director}};
+            const QJsonObject show{{u"@type"_s, each.episode > 0 ? u"TVSeries"_s : u"Movie"_s},
+                                   {u"description"_s, each.description},
+                                   {u"image"_s, QJsonArray{image}},
+                                   {u"director"_s, QJsonArray{director}},
+                                   {u"actor"_s, actors}};
+            return "<div class=\"rich-snippet\"><script type=\"application/ld+json\">" +
+                   QJsonDocument(show).toJson(QJsonDocument::Compact).replace('<', "\\u003c") +
+                   "</script></div>";
+        }
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 // "/COUNTRY/WORD/MONTH/DAY": all channels of a country on one day from six to six.
 std::optional<QByteArray> hboPage(const SiteRequest& request) {
     const QString code = request.path.section(u'/', 1, 1);
     const auto country = countryOf(code);
+    if (country && request.path.section(u'/', 2, 2) == "show"_L1) {
+        return showPage(request);
+    }
     if (!country || request.path.section(u'/', 2, 2) != country->word) {
         return std::nullopt;
     }
