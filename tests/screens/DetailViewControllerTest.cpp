@@ -82,7 +82,8 @@ TEST_F(DetailViewControllerTest, ShowsTheTextsThatTheShowHas) {
         show.extra->imdbURL = QUrl(u"http://x/title/tt1"_s);
     });
     EXPECT_EQ(head().title, u"Title"_s);
-    EXPECT_EQ(head().facts, u"Jedna · Today · 19:00–20:00 · 1 h · Replay · American film, 2009"_s);
+    EXPECT_EQ(QString(head().facts).replace(QChar(QChar::Nbsp), u' '),
+              u"Jedna · Today · 19:00–20:00 · 1 h · Replay · American film, 2009"_s);
     EXPECT_EQ(head().status, u"Starts in 30 min"_s);
     EXPECT_EQ(groups(), QStringList({u"Subheading: Part one"_s, u"Directed By: A One\nB Two"_s,
                                      u"Roles: C Three (the king, old)\nD Four"_s,

@@ -23,6 +23,8 @@ constexpr auto kActions = "actions"_L1;
 constexpr auto kAlarm = "alarm"_L1;
 constexpr auto kShowAll = "show all"_L1;
 constexpr qsizetype kPeopleShown = 10;
+/// The dot stays at the end of its line.
+constexpr QStringView kBetweenFacts = u"\u00a0· ";
 /// Of the one archive of past broadcasts.
 constexpr auto kArchiveLanguage = "hr"_L1;
 /// The width of a page, at most.
@@ -115,7 +117,7 @@ Row DetailViewController::headRow(Moment now) const {
             .content = HeadRow{.picture = m_picture,
                                .title = entry().title().value_or(QString()),
                                .channelIcon = m_channelIcon,
-                               .facts = facts.join(u" · "_s),
+                               .facts = facts.join(kBetweenFacts),
                                .status = state.text,
                                .running = state.running,
                                .progress = state.progress},

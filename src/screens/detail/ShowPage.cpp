@@ -105,7 +105,8 @@ QStringList showFacts(const TVEntry& entry, const std::optional<Moment>& end, Mo
         facts << dayText(localTime(device, *start).date(), localTime(device, now).date(), locale);
         facts << (end ? text.shortTime(start) + u'–' + text.shortTime(end) : text.shortTime(start));
         if (end && *end > *start) {
-            facts << durationText(std::chrono::round<std::chrono::minutes>(*end - *start));
+            facts << durationText(std::chrono::round<std::chrono::minutes>(*end - *start))
+                         .replace(u' ', QChar(QChar::Nbsp));
         }
     }
     if (entry.previouslyShown()) {

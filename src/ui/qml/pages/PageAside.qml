@@ -2,7 +2,7 @@ import QtQuick
 import Quellin
 
 // The picture and the actions of a show's page, beside its texts.
-Item {
+Flickable {
     id: aside
 
     required property TableModel rows
@@ -12,6 +12,10 @@ Item {
     signal ended()
 
     readonly property bool hasPicture: head !== undefined && head.picture.toString() !== ""
+
+    contentHeight: buttons.y + buttons.height + 16
+    boundsBehavior: Flickable.StopAtBounds
+    interactive: contentHeight > height
 
     HeadPicture {
         id: picture
@@ -24,6 +28,8 @@ Item {
     }
 
     ActionButtons {
+        id: buttons
+
         y: picture.height + (picture.visible ? 12 : 0)
         width: parent.width
         actions: aside.actions !== undefined ? aside.actions.buttons : []
