@@ -249,7 +249,7 @@ void Table::changeTo(std::vector<Section> sections) {
     RowIndex index;
     CommonEnds ends = commonEnds(lines);
     // When every row matches an old one, the ids are unique like the old ones.
-    const bool allMatch = static_cast<std::size_t>(ends.prefix + ends.suffix) == lines.size();
+    const bool allMatch = ends.prefix + ends.suffix == static_cast<int>(lines.size());
     if (!allMatch && dropDuplicates(sections, lines, index)) {
         lines = linesOf(sections);
         index.clear();
