@@ -31,14 +31,14 @@ void addArc(QPainterPath& path, double radius, double from, double sweep) {
     path.arcTo(circle, from, sweep);
 }
 
-void addHeart(QPainterPath& path) {
-    path.moveTo(12, 20.5);
-    path.cubicTo(5, 15.4, 2.8, 12.2, 2.8, 8.8);
-    path.cubicTo(2.8, 5.9, 5, 3.9, 7.5, 3.9);
-    path.cubicTo(9.4, 3.9, 11.1, 4.9, 12, 6.6);
-    path.cubicTo(12.9, 4.9, 14.6, 3.9, 16.5, 3.9);
-    path.cubicTo(19, 3.9, 21.2, 5.9, 21.2, 8.8);
-    path.cubicTo(21.2, 12.2, 19, 15.4, 12, 20.5);
+void addStar(QPainterPath& path) {
+    constexpr int kPoints = 5;
+    for (int corner = 0; corner < 2 * kPoints; ++corner) {
+        const double radius = corner % 2 == 0 ? 9.4 : 4.1;
+        const double angle = std::numbers::pi * (corner / double(kPoints) - 0.5);
+        const QPointF point(12 + radius * std::cos(angle), 12.6 + radius * std::sin(angle));
+        corner == 0 ? path.moveTo(point) : path.lineTo(point);
+    }
     path.closeSubpath();
 }
 
@@ -154,8 +154,8 @@ QPainterPath strokesOf(Glyph::Symbol symbol) {
         path.lineTo(16.4, 11.4);
         path.lineTo(20.4, 15.2);
         break;
-    case Glyph::HeartOutline:
-        addHeart(path);
+    case Glyph::StarOutline:
+        addStar(path);
         break;
     case Glyph::Film:
         addRoundedRect(path, 3, 4.5, 18, 15, 2.5);
@@ -209,16 +209,16 @@ QPainterPath fillOf(Glyph::Symbol symbol) {
         path.lineTo(8, 18.5);
         path.closeSubpath();
     } else if (symbol == Glyph::Heart) {
-        addHeart(path);
-    } else if (symbol == Glyph::Star) {
-        constexpr int kPoints = 5;
-        for (int corner = 0; corner < 2 * kPoints; ++corner) {
-            const double radius = corner % 2 == 0 ? 9.4 : 4.1;
-            const double angle = std::numbers::pi * (corner / double(kPoints) - 0.5);
-            const QPointF point(12 + radius * std::cos(angle), 12.6 + radius * std::sin(angle));
-            corner == 0 ? path.moveTo(point) : path.lineTo(point);
-        }
+        path.moveTo(12, 20.5);
+        path.cubicTo(5, 15.4, 2.8, 12.2, 2.8, 8.8);
+        path.cubicTo(2.8, 5.9, 5, 3.9, 7.5, 3.9);
+        path.cubicTo(9.4, 3.9, 11.1, 4.9, 12, 6.6);
+        path.cubicTo(12.9, 4.9, 14.6, 3.9, 16.5, 3.9);
+        path.cubicTo(19, 3.9, 21.2, 5.9, 21.2, 8.8);
+        path.cubicTo(21.2, 12.2, 19, 15.4, 12, 20.5);
         path.closeSubpath();
+    } else if (symbol == Glyph::Star) {
+        addStar(path);
     }
     return path;
 }

@@ -39,7 +39,7 @@ class Glyph : public QQuickPaintedItem {
         Unfold,
         Warning,
         Picture,
-        HeartOutline,
+        StarOutline,
         Film,
         Globe,
         Past,

@@ -43,7 +43,7 @@ QUrl HeadRowValue::channelIconUrl() const {
 Glyph::Symbol ActionButtonValue::glyph() const {
     switch (symbol) {
     case ActionSymbol::Favourite:
-        return on.value_or(false) ? Glyph::Heart : Glyph::HeartOutline;
+        return on.value_or(false) ? Glyph::Star : Glyph::StarOutline;
     case ActionSymbol::Alert:
         return Glyph::Bell;
     case ActionSymbol::Play:
