@@ -72,7 +72,8 @@ class DetailViewControllerTest : public testing::Test {
 TEST_F(DetailViewControllerTest, ShowsTheTextsThatTheShowHas) {
     open(30, [](ExtendedTVEntry& show) {
         show.basic->setSubtitle1(u"Part one"_s);
-        show.basic->setInstantDetails1(u"American film, 2009"_s);
+        show.basic->setInstantDetails1(u"American film ║ 2009"_s);
+        show.basic->setInstantDescription1(u"A sentence. "_s.repeated(9));
         show.basic->setPreviouslyShown(true);
         show.extra->description = u" Long ago.\nFar away. "_s;
         show.extra->directedBy = u"A One\nB Two"_s;
@@ -83,12 +84,14 @@ TEST_F(DetailViewControllerTest, ShowsTheTextsThatTheShowHas) {
     });
     EXPECT_EQ(head().title, u"Title"_s);
     EXPECT_EQ(QString(head().facts).replace(QChar(QChar::Nbsp), u' '),
-              u"Jedna · Today · 19:00–20:00 · 1 h · Replay · American film, 2009"_s);
+              u"Jedna · Today · 19:00–20:00 · 1 h · Replay · American film · 2009"_s);
     EXPECT_EQ(head().status, u"Starts in 30 min"_s);
-    EXPECT_EQ(groups(), QStringList({u"Subheading: Part one"_s, u"Directed By: A One\nB Two"_s,
-                                     u"Roles: C Three (the king, old)\nD Four"_s,
-                                     u"Description: Long ago.\nFar away."_s}));
-    EXPECT_EQ(showGroups(screen->show(), world.alphabet)[1].name, u"Directed By:(p)"_s);
+    EXPECT_EQ(
+        groups(),
+        QStringList({u"Subheading: Part one"_s, u"Details: "_s + u"A sentence. "_s.repeated(9).trimmed(),
+                     u"Directed By: A One\nB Two"_s, u"Roles: C Three (the king, old)\nD Four"_s,
+                     u"Description: Long ago.\nFar away."_s}));
+    EXPECT_EQ(showGroups(screen->show(), world.alphabet)[2].name, u"Directed By:(p)"_s);
     EXPECT_EQ(actions(),
               QStringList({u"Favourite"_s, u"Trailer"_s, u"IMDb"_s, u"More broadcasts"_s, u"Copy link"_s}));
 

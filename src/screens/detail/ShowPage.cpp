@@ -16,10 +16,23 @@ namespace {
 
 /// Longer texts would take long to lay out.
 constexpr qsizetype kLongestText = 20'000;
+constexpr qsizetype kLongestFact = 80;
 constexpr std::chrono::minutes kSoon{60};
 
 QString bounded(const QString& text) {
     return text.size() <= kLongestText ? text : text.first(kLongestText) + u'…';
+}
+
+/// What a source says in passing: a few words on genre, country and year, or whole sentences.
+QStringList remarks(const TVEntry& entry, bool isShort) {
+    QStringList found;
+    for (const auto& text : {entry.instantDetails(), entry.instantDescription()}) {
+        const QString remark = text.value_or(QString()).trimmed().replace(u'║', u'·');
+        if (!remark.isEmpty() && (remark.size() <= kLongestFact) == isShort) {
+            found << remark;
+        }
+    }
+    return found;
 }
 
 QString dayText(const QDate& day, const QDate& today, const QLocale& locale) {
@@ -60,11 +73,10 @@ std::vector<ShowGroup> showGroups(const ShowItem& show, const Alphabet& alphabet
         }
     };
     add(Localized::tr("Subheading:"), show.entry()->subtitle());
-    if (!show.details()) {
-        return groups;
-    }
-    const TVEntrySupplementalData details = show.details()->updateAlphabet(alphabet);
-    add(Localized::tr("Details:"), details.details);
+    const TVEntrySupplementalData details =
+        show.details() ? show.details()->updateAlphabet(alphabet) : TVEntrySupplementalData();
+    add(Localized::tr("Details:"),
+        (remarks(*show.entry(), false) << details.details.value_or(QString())).join(u'\n'));
     add(Localized::tr("Episode Description:"), details.episodeDescription);
     // A name of its own, because the plural differs from language to language.
     const bool severalDirectors = details.directedBy.value_or(QString()).trimmed().contains(u'\n');
@@ -112,13 +124,7 @@ QStringList showFacts(const TVEntry& entry, const std::optional<Moment>& end, Mo
     if (entry.previouslyShown()) {
         facts << Localized::tr("Replay");
     }
-    for (const auto& fact : {entry.instantDetails(), entry.instantDescription()}) {
-        if (fact) {
-            facts << bounded(fact->trimmed());
-        }
-    }
-    facts.removeAll(QString());
-    return facts;
+    return facts + remarks(entry, true);
 }
 
 QString leadTimeText(const Favorite* rule, std::optional<int> minutes) {

@@ -41,7 +41,7 @@ struct ShowState {
 };
 ShowState showState(const std::optional<Moment>& start, const std::optional<Moment>& end, Moment now);
 
-/// Day, times, duration, and what the source says in passing, such as country and year.
+/// Day, times, duration, and what the source says in a few words, such as country and year.
 QStringList showFacts(const TVEntry& entry, const std::optional<Moment>& end, Moment now,
                       const Device& device);
 
