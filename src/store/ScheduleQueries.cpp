@@ -29,24 +29,64 @@ bool hasFavoriteTitle(const ShowItem& show, const FavoriteTitles& favorites) {
     return title && favorites.containsFavoriteNamed(*title);
 }
 
+bool isOfCategory(const ShowItem& show, TVListingsCategory category) {
+    const TVListingsCategory mask = show.categories().value_or(0);
+    return (mask & category) != 0 && ((mask ^ category) & TVListingsCategorySeries) == 0;
+}
+
+/// Whether the query of the selector lists the show; never for the most watched shows, which have a list.
+bool isListed(const ShowItem& show, TVListingsCategory selector, Moment now, LocalTime& localTime) {
+    const TVEntry& entry = *show.entry();
+    switch (selector) {
+    case TVListingsCategoryMostWatched:
+        return false;
+    case TVListingsCategoryAllShows:
+        return !entry.overAt(now);
+    case TVListingsCategoryEveningShows:
+        return !entry.overAt(now) && localTime.hourAt(*entry.dateTime()) >= kEveningHour;
+    default:
+        return isOfCategory(show, selector) && entry.endsAfter(now);
+    }
+}
+
 } // namespace
 
 ShowItems showsWithCategory(const AllShows& all, TVListingsCategory category, Moment now) {
     return matchingShows(all, [&](const ShowItem& show) {
-        const TVListingsCategory mask = show.categories().value_or(0);
-        return (mask & category) != 0 && ((mask ^ category) & TVListingsCategorySeries) == 0 &&
-               show.entry()->endsAfter(now);
+        return isOfCategory(show, category) && show.entry()->endsAfter(now);
     });
 }
 
 ShowItems allShowsWithCategory(const AllShows& all, TVListingsCategory category, Moment now,
                                const QTimeZone& zone) {
     LocalTime localTime(zone);
-    const bool eveningOnly = category == TVListingsCategoryEveningShows;
-    return matchingShows(all, [&](const ShowItem& show) {
-        return !show.entry()->overAt(now) &&
-               (!eveningOnly || localTime.hourAt(*show.entry()->dateTime()) >= kEveningHour);
-    });
+    const TVListingsCategory selector = category == TVListingsCategoryEveningShows
+                                            ? TVListingsCategoryEveningShows
+                                            : TVListingsCategoryAllShows;
+    return matchingShows(all, [&](const ShowItem& show) { return isListed(show, selector, now, localTime); });
+}
+
+std::vector<int> showCounts(const AllShows& all, const ShowList& popular,
+                            std::span<const TVListingsCategory> selectors, Moment now, Moment until,
+                            const QTimeZone& zone) {
+    LocalTime localTime(zone);
+    std::vector<int> counts(selectors.size());
+    for (const AllShows::Show& show : all.shows()) {
+        if (show.start >= until) {
+            break;
+        }
+        for (std::size_t place = 0; place < selectors.size(); ++place) {
+            counts[place] += isListed(*show.item, selectors[place], now, localTime) ? 1 : 0;
+        }
+    }
+    const auto mostWatched = std::ranges::find(selectors, TVListingsCategoryMostWatched);
+    if (mostWatched != selectors.end()) {
+        const ShowItems shows = showsNotEnded(popular, now);
+        counts[static_cast<std::size_t>(mostWatched - selectors.begin())] =
+            static_cast<int>(std::ranges::count_if(
+                shows, [until](const ShowItem& show) { return show.entry()->dateTime() < until; }));
+    }
+    return counts;
 }
 
 ShowItems showsNotEnded(const ShowList& list, Moment now) {

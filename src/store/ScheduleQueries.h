@@ -11,6 +11,7 @@
 #include <optional>
 #include <span>
 #include <unordered_map>
+#include <vector>
 
 namespace guide {
 
@@ -24,6 +25,12 @@ ShowItems showsWithCategory(const AllShows& all, TVListingsCategory category, Mo
 /// Shows that are not over; for the selector "Evening Shows" only those that start at 19:00 or later.
 ShowItems allShowsWithCategory(const AllShows& all, TVListingsCategory category, Moment now,
                                const QTimeZone& zone);
+
+/// For each selector of a category screen, how many shows its query would list of those that start before
+/// `until`, without a limit. `popular` is the list of the most watched shows and may be null.
+std::vector<int> showCounts(const AllShows& all, const ShowList& popular,
+                            std::span<const TVListingsCategory> selectors, Moment now, Moment until,
+                            const QTimeZone& zone);
 
 /// The shows of the list that have not ended, without a limit. The list may be null.
 ShowItems showsNotEnded(const ShowList& list, Moment now);

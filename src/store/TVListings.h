@@ -111,6 +111,9 @@ class TVListings {
     /// The shows of a selector: the most watched, those of the evening, or all.
     void allShowsWithCategory(TVListingsCategory category, QueuePriority priority,
                               MainBlock<ShowSpan> mainBlock);
+    /// For each selector how many shows of today its query would list.
+    void showCountsOfToday(std::vector<TVListingsCategory> selectors, QueuePriority priority,
+                           MainBlock<std::vector<int>> mainBlock);
     /// Shows that contain the pattern in one of their texts, ignoring case and diacritics. The block runs on
     /// the global user-initiated queue.
     void showsContainingPattern(const QString& pattern, ShowsBlock highPriorityBlock);

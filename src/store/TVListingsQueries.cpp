@@ -1,6 +1,8 @@
 #include "store/ScheduleQueries.h"
 #include "store/TVListingsState.h"
 
+#include <QDateTime>
+
 namespace guide {
 
 std::vector<ShowSpan> TVListings::State::onAirShows(const std::vector<ObjectId>& channels, int limit) const {
@@ -94,6 +96,21 @@ void TVListings::allShowsWithCategory(TVListingsCategory category, QueuePriority
                                         : guide::allShowsWithCategory(all, category, now,
                                                                       environment.device.timeZone());
                          });
+}
+
+void TVListings::showCountsOfToday(std::vector<TVListingsCategory> selectors, QueuePriority priority,
+                                   MainBlock<std::vector<int>> mainBlock) {
+    m_state->queryAllShows(priority, [selectors = std::move(selectors), mainBlock = std::move(mainBlock)](
+                                         State& state, const AllShows& all) mutable {
+        const TVListingsEnvironment& environment = state.environment;
+        const Moment now = environment.clock.now();
+        const QTimeZone zone = environment.device.timeZone();
+        const QDate today = QDateTime::fromMSecsSinceEpoch(now.time_since_epoch().count(), zone).date();
+        const Moment midnight(
+            std::chrono::milliseconds(today.addDays(1).startOfDay(zone).toMSecsSinceEpoch()));
+        mainBlock.post(state.mainQueue(), showCounts(all, environment.popularShows.popularShows(), selectors,
+                                                     now, midnight, zone));
+    });
 }
 
 void TVListings::showsContainingPattern(const QString& pattern, ShowsBlock highPriorityBlock) {

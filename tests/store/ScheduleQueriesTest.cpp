@@ -63,6 +63,23 @@ TEST(ScheduleQueriesTest, EndedAndOverAreDifferent) {
     EXPECT_EQ(firstNotEnded(showScheduleForTitle(all, u"A"_s, kNow), kNow), 1u);
 }
 
+TEST(ScheduleQueriesTest, CountsWhatEachCategoryWouldList) {
+    const AllShows all =
+        allOf({show(-2, -1, u"over"_s, 0x1), show(-3, 0, u"ends now"_s, 0x1), show(-1, 1, u"film"_s, 0x101),
+               show(0, 1, u"series"_s, 0x1002), show(2, 3, u"film"_s, 0x1), show(3, 4, u"at 19:00"_s, 0x1),
+               show(4, 5, u"tomorrow"_s, 0x1)});
+    const auto popular = std::make_shared<const ShowItems>(ShowItems{
+        item(show(-2, -1, u"over"_s)), item(show(0, 1, u"series"_s)), item(show(4, 5, u"tomorrow"_s))});
+    const std::vector<TVListingsCategory> selectors{
+        TVListingsCategoryAllShows, TVListingsCategoryMostWatched, TVListingsCategoryEveningShows,
+        TVListingsCategoryAllFilm,  TVListingsCategorySeries,      TVListingsCategoryMusic};
+    const auto counts = [&](const ShowList& list) {
+        return showCounts(all, list, selectors, kNow, hour(4), QTimeZone::utc());
+    };
+    EXPECT_EQ(counts(popular), (std::vector<int>{5, 1, 1, 3, 1, 0}));
+    EXPECT_EQ(counts(nullptr)[1], 0);
+}
+
 TEST(ScheduleQueriesTest, StopsAtTheCap) {
     std::vector<TestShow> many(kMostShows + 5, show(0, 1, u"A"_s, 1));
     const AllShows all = allOf(many);
