@@ -271,6 +271,7 @@ void QuellinGuideAppDelegate::makeScreens() {
         .showLookup = *m_showLookup,
         .clipboard = m_environment.clipboard,
         .scheme = m_environment.scheme,
+        .userDefaults = m_environment.userDefaults,
         .swipeActions =
             [this](const std::shared_ptr<const TVEntry>& entry, const auto&) {
                 return swipeActions({m_environment.clock, *m_shows, m_alarms, m_alarmActions,

@@ -30,6 +30,11 @@ bool isText(const Row& row) {
     return row.kind() == RowKind::Text;
 }
 
+bool isFilms(const Row& row) {
+    const auto* tile = std::get_if<TileRow>(&row.content);
+    return tile && tile->symbol == Symbol::Films;
+}
+
 struct Stop {
     const char* name;
     /// Opens the screen from the one before.
@@ -42,6 +47,11 @@ constexpr std::array kStops{
     Stop{"currently", [](PictureTour& tour) { return tour.selectTab(Symbol::Currently); }},
     Stop{"channel", [](PictureTour& tour) { return tour.send(Tapped{}, isChannel); }},
     Stop{"show", [](PictureTour& tour) { return tour.send(Tapped{}, isShow); }},
+    Stop{"categories", [](PictureTour& tour) { return tour.selectTab(Symbol::Categories); }},
+    Stop{"films", [](PictureTour& tour) { return tour.send(Tapped{}, isFilms); }},
+    Stop{"search", [](PictureTour& tour) { return tour.selectTab(Symbol::Search); }},
+    // A syllable that titles of most languages contain.
+    Stop{"search-results", [](PictureTour& tour) { return tour.search(u"ni"_s); }},
     Stop{"all-shows", [](PictureTour& tour) { return tour.selectTab(Symbol::AllShows); }, Symbol::AllShows},
     Stop{"schedule-empty", [](PictureTour& tour) { return tour.selectTab(Symbol::Schedule); }},
     Stop{"schedule",

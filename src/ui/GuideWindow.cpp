@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QImage>
+#include <QInputEvent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -85,6 +86,7 @@ class GuideWindow::Parts : public QQuickView {
 
   protected:
     bool event(QEvent* event) override {
+        noteInput(*event);
         const bool handled = QQuickView::event(event);
         if (event->type() == QEvent::Close && m_options.closed) {
             m_options.closed();
@@ -93,6 +95,18 @@ class GuideWindow::Parts : public QQuickView {
     }
 
   private:
+    /// Tells touches from keys and pointers.
+    void noteInput(const QEvent& event) const {
+        if (!m_shell) {
+            return;
+        }
+        if (event.type() == QEvent::TouchBegin) {
+            m_shell->setTouching(true);
+        } else if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::KeyPress) {
+            const auto& input = static_cast<const QInputEvent&>(event);
+            m_shell->setTouching(input.deviceType() == QInputDevice::DeviceType::TouchScreen);
+        }
+    }
     void reportVisibility() {
         if (std::exchange(m_reportedVisible, seen()) != seen() && m_options.visibilityChanged) {
             m_options.visibilityChanged(seen());

@@ -85,7 +85,6 @@ TEST(TableViewControllerTest, PassesEventsOnlyToRowsThatAcceptThem) {
                   each.arrives && std::holds_alternative<Tapped>(*each.arrives));
         screen.table().setEditing(false);
         events.clear();
-        screen.sendRowEvent(each.row.id, Deleted{});
         screen.sendRowEvent(each.row.id, MovedBefore{});
         EXPECT_TRUE(events.isEmpty()) << "not in edit mode";
     }

@@ -34,6 +34,8 @@ inline QStringList linesOf(const Table& table) {
                 lines << channel->title;
             } else if (const auto* text = std::get_if<TextRow>(&row.content)) {
                 lines << text->title;
+            } else if (const auto* tile = std::get_if<TileRow>(&row.content)) {
+                lines << tile->title + u": "_s + tile->detail;
             } else if (const auto* button = std::get_if<ButtonRow>(&row.content)) {
                 lines << u'[' + button->title + u']';
             }
@@ -166,6 +168,8 @@ struct WorldShow {
     QString title;
     QString details = {};
     QSet<QUrl> pictures = {};
+    TVListingsCategory categories = 0;
+    QString description = {};
 };
 
 /// A temporary folder, a manual clock and manual queues.
@@ -217,7 +221,7 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
                               popular,     pictures,   pictureCache,
                               app,         app,        app,
                               showLookup,  clipboard,  u"guide"_s,
-                              swipeActions});
+                              userDefaults, swipeActions});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -232,8 +236,13 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
         if (!show.details.isEmpty()) {
             basic->setInstantDetails1(show.details);
         }
-        auto extra = show.pictures.isEmpty() ? nullptr : std::make_shared<TVEntrySupplementalData>();
-        return {std::move(basic), 0, std::move(extra), show.pictures};
+        auto extra = show.pictures.isEmpty() && show.description.isEmpty()
+                         ? nullptr
+                         : std::make_shared<TVEntrySupplementalData>();
+        if (!show.description.isEmpty()) {
+            extra->description = show.description;
+        }
+        return {std::move(basic), show.categories, std::move(extra), show.pictures};
     }
     void setAlarm(const ObjectId& channel, const WorldShow& show) {
         alarms.events[*entry(channel, show).basic->digest()] = 0;

@@ -104,6 +104,28 @@ TEST_P(EveryScreenTest, TextsFitAndRowsAreReadInOrder) {
     scrollTo(0);
     tapRow(0);
     check("channel");
+    world.tabs->setSelectedIndex(currentlyTabIndex(idiom()) + 1);
+    proceed();
+    check("categories");
+    tapRow(idiom() == UserInterfaceIdiom::Phone ? 3 : 2);
+    check("films");
+    world.tabs->setSelectedIndex(currentlyTabIndex(idiom()) + 2);
+    proceed();
+    check("search");
+    world.top().editSearchText(u"ni"_s);
+    proceed();
+    ASSERT_GT(top().table().rowCount(), 3);
+    check("results");
+    world.top().finishSearch();
+    world.top().editSearchText(u"nihilist"_s);
+    proceed();
+    check("nothing found");
+    world.top().cancelSearch();
+    proceed();
+    check("recent searches");
+    focus();
+    press(Qt::Key_Question, Qt::ShiftModifier);
+    check("keys");
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -52,6 +52,18 @@ TEST(PaletteTest, EveryTextIsReadableOnEverySurface) {
     }
 }
 
+TEST(PaletteTest, TilesOfEveryHueAreReadable) {
+    for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
+        const Palette& palette = paletteOf(scheme);
+        for (int hue = -10; hue < 370; hue += 5) {
+            const TileColors tile = tileColors(hue, scheme);
+            EXPECT_GE(contrast(palette.label, tile.fill), 4.5) << hue;
+            EXPECT_GE(contrast(palette.secondaryLabel, tile.fill), 4.5) << hue;
+            EXPECT_GE(contrast(tile.symbol, tile.fill), 4.5) << hue;
+        }
+    }
+}
+
 TEST(PaletteTest, ColoursKeepTheirHueInEitherScheme) {
     for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
         const Palette& palette = paletteOf(scheme);

@@ -1,11 +1,11 @@
 #include "screens/compound/CompoundListingsViewController.h"
 
+#include "screens/CategoryTitle.h"
 #include "screens/Localized.h"
 #include "screens/detail/DetailViewController.h"
 #include "screens/favorites/FavoritesViewController.h"
 #include "screens/kit/NavigationController.h"
 #include "store/ShownEnds.h"
-#include "text/categories/CategoryText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -72,19 +72,18 @@ void CompoundListingsViewController::viewDidDisappear() {
 }
 
 QString CompoundListingsViewController::titleNow() const {
-    return std::visit(
-        Overloaded{[](const FavoriteListings&) { return Localized::tr("Schedule"); },
-                   [this](const CategoryListings& listings) {
-                       if (isRoot()) {
-                           return Localized::tr("Schedule");
-                       }
-                       return listings.category == TVListingsCategoryAllFilm
-                                  ? Localized::tr("All")
-                                  : Localized::tr(textForCategory(listings.category).toUtf8().constData());
-                   },
-                   [](const TitleListings& listings) { return listings.title; },
-                   [](const AlertListings&) { return Localized::tr("Alerts"); }},
-        m_listings);
+    return std::visit(Overloaded{[](const FavoriteListings&) { return Localized::tr("Schedule"); },
+                                 [this](const CategoryListings& listings) {
+                                     if (isRoot()) {
+                                         return Localized::tr("Schedule");
+                                     }
+                                     return listings.category == TVListingsCategoryAllFilm
+                                                ? Localized::tr("All")
+                                                : categoryTitle(listings.category);
+                                 },
+                                 [](const TitleListings& listings) { return listings.title; },
+                                 [](const AlertListings&) { return Localized::tr("Alerts"); }},
+                      m_listings);
 }
 
 // ---- changes outside the screen

@@ -1,6 +1,7 @@
 #include "screens/compound/CompoundRows.h"
 
 #include "store/ShownEnds.h"
+#include "text/display/Transliteration.h"
 
 #include <utility>
 
@@ -10,12 +11,17 @@ CompoundRows::CompoundRows(const ScreenEnvironment& environment)
     : m_rows(environment)
     , m_catalogue(environment.catalogue.snapshot())
     , m_icons(environment.icons)
+    , m_alphabet(environment.alphabet)
     , m_locale(environment.device.locale())
     , m_zone(environment.device.timeZone()) {}
 
 CompoundSections CompoundRows::sectionsOf(const ShowSpan& shows) const {
+    return sectionsOfAll(showsWithChannelIcon(shows, *m_catalogue, m_icons));
+}
+
+CompoundSections CompoundRows::sectionsOfAll(const ShowItems& shows) const {
     CompoundSections result;
-    result.days = daySections(showsWithChannelIcon(shows, *m_catalogue, m_icons), m_locale, m_zone);
+    result.days = daySections(shows, m_locale, m_zone);
     result.sections.reserve(result.days.size());
     for (const DaySection& day : result.days) {
         Section section{.id = day.id(), .header = day.title};
@@ -37,7 +43,10 @@ Row CompoundRows::showRow(RowId id, const ShowItem& show) const {
     row.popular = false;
     row.allDetails = true;
     if (const CatalogueChannel* channel = m_catalogue->find(entry.channel())) {
-        row.channelIcon = {PictureKey::Kind::ChannelIcon, channel->icon};
+        row.channelName = latin2Cyrillic(channel->title, channel->language, m_alphabet);
+        if (m_icons.hasIconFile(channel->icon)) {
+            row.channelIcon = {PictureKey::Kind::ChannelIcon, channel->icon};
+        }
     }
     return {.id = std::move(id), .content = std::move(row), .selectable = true};
 }

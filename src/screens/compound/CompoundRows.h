@@ -25,6 +25,8 @@ class CompoundRows {
 
     /// Leaves out shows whose channel is not in the catalogue or has no icon. Loads the icons.
     CompoundSections sectionsOf(const ShowSpan& shows) const;
+    /// Of all shows: a row names its channel where that has no icon.
+    CompoundSections sectionsOfAll(const ShowItems& shows) const;
 
   private:
     Row showRow(RowId id, const ShowItem& show) const;
@@ -32,6 +34,7 @@ class CompoundRows {
     const ShowRows m_rows;
     const SharedCatalogueSnapshot m_catalogue;
     TVStationIcons& m_icons;
+    const Alphabet& m_alphabet;
     const QLocale m_locale;
     const QTimeZone m_zone;
 };

@@ -3,6 +3,8 @@
 #include "screens/kit/ColorRole.h"
 #include "screens/kit/PictureKey.h"
 #include "screens/kit/RowId.h"
+#include "screens/kit/Symbol.h"
+#include "text/search/TextMatches.h"
 
 #include <QString>
 #include <QTime>
@@ -38,6 +40,11 @@ struct ShowRow {
     std::optional<double> progress = {};
     /// At the leading edge, in lists of several channels.
     PictureKey channelIcon = {};
+    /// Spoken, and drawn in place of an icon that there is not.
+    QString channelName = {};
+    /// The parts of the title and of the details that were searched for.
+    std::vector<TextRange> titleMatches = {};
+    std::vector<TextRange> detailsMatches = {};
     /// At the trailing edge.
     PictureKey picture = {};
     Accessory accessory = Accessory::None;
@@ -68,6 +75,8 @@ struct TextRow {
     bool checked = false;
     Accessory accessory = Accessory::None;
     PictureKey icon = {};
+    /// In place of an icon.
+    std::optional<Symbol> symbol = {};
 
     friend bool operator==(const TextRow&, const TextRow&) = default;
 };
@@ -199,8 +208,22 @@ struct ParagraphRow {
     friend bool operator==(const ParagraphRow&, const ParagraphRow&) = default;
 };
 
-using RowContent = std::variant<ShowRow, ChannelRow, TextRow, SwitchRow, ChoiceRow, TimeRow, InputRow,
-                                ButtonRow, ProgressRow, PictureRow, HeadRow, ActionsRow, ParagraphRow>;
+/// A way to other rows, for sections of tiles.
+struct TileRow {
+    QString title = {};
+    /// For example how many rows it leads to.
+    QString detail = {};
+    Symbol symbol = Symbol::Categories;
+    /// Of the tile, in degrees; ui/ derives its colours from it.
+    int hue = 0;
+    bool enabled = true;
+
+    friend bool operator==(const TileRow&, const TileRow&) = default;
+};
+
+using RowContent =
+    std::variant<ShowRow, ChannelRow, TextRow, SwitchRow, ChoiceRow, TimeRow, InputRow, ButtonRow,
+                 ProgressRow, PictureRow, HeadRow, ActionsRow, ParagraphRow, TileRow>;
 
 /// The alternatives of RowContent, in its order.
 enum class RowKind {
@@ -216,7 +239,8 @@ enum class RowKind {
     Picture,
     Head,
     Actions,
-    Paragraph
+    Paragraph,
+    Tile
 };
 
 /// None for a kind that has no accessory.
@@ -237,8 +261,9 @@ struct Row {
     RowContent content = {};
     /// Whether a tap does something.
     bool selectable = false;
-    /// In edit mode.
+    /// By the Delete key, and by a button in edit mode.
     bool deletable = false;
+    /// In edit mode.
     bool movable = false;
 
     RowKind kind() const { return static_cast<RowKind>(content.index()); }
@@ -249,7 +274,7 @@ struct Row {
 template <RowKind kind>
 using RowContentOf = std::variant_alternative_t<static_cast<std::size_t>(kind), RowContent>;
 
-static_assert(std::variant_size_v<RowContent> == static_cast<std::size_t>(RowKind::Paragraph) + 1);
+static_assert(std::variant_size_v<RowContent> == static_cast<std::size_t>(RowKind::Tile) + 1);
 static_assert(std::is_same_v<RowContentOf<RowKind::Show>, ShowRow> &&
               std::is_same_v<RowContentOf<RowKind::Channel>, ChannelRow> &&
               std::is_same_v<RowContentOf<RowKind::Text>, TextRow> &&
@@ -259,6 +284,7 @@ static_assert(std::is_same_v<RowContentOf<RowKind::Show>, ShowRow> &&
               std::is_same_v<RowContentOf<RowKind::Input>, InputRow> &&
               std::is_same_v<RowContentOf<RowKind::Button>, ButtonRow> &&
               std::is_same_v<RowContentOf<RowKind::Progress>, ProgressRow> &&
-              std::is_same_v<RowContentOf<RowKind::Picture>, PictureRow>);
+              std::is_same_v<RowContentOf<RowKind::Picture>, PictureRow> &&
+              std::is_same_v<RowContentOf<RowKind::Tile>, TileRow>);
 
 } // namespace guide

@@ -29,7 +29,6 @@ struct TextEdited {
     QString text;
     bool finished = false;
 };
-/// In edit mode.
 struct Deleted {};
 /// In edit mode: the row moves before `next`, or to the end of its section when unset.
 struct MovedBefore {

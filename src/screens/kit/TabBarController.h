@@ -4,6 +4,7 @@
 #include "screens/kit/Alert.h"
 #include "screens/kit/NavigationController.h"
 #include "screens/kit/Notice.h"
+#include "screens/kit/Symbol.h"
 
 #include <QString>
 
@@ -13,9 +14,6 @@
 #include <vector>
 
 namespace guide {
-
-/// The picture on a tab.
-enum class Symbol { AllShows, Currently, Categories, Search, Schedule, SelectedChannels };
 
 struct TabBarItem {
     QString title;

@@ -35,7 +35,7 @@ struct Takes {
     }
     bool operator()(const TimePicked& event) const { return enabled<TimeRow>() && event.time.isValid(); }
     bool operator()(const TextEdited&) const { return enabled<InputRow>(); }
-    bool operator()(const Deleted&) const { return table.editing() && row.deletable; }
+    bool operator()(const Deleted&) const { return row.deletable; }
     bool operator()(const MovedBefore& event) const {
         return table.editing() && row.movable &&
                (!event.next || (event.next->section == row.id.section && table.find(*event.next)));

@@ -36,6 +36,9 @@ void ViewController::pullToRefresh() {
 void ViewController::editSearchText(const QString& text) {
     if (m_searchField && m_searchField->text != text) {
         m_searchField->text = text;
+        if (m_observer) {
+            m_observer->searchFieldChanged();
+        }
         searchTextEdited(text);
     }
 }
@@ -47,6 +50,12 @@ void ViewController::cancelSearch() {
             m_observer->searchFieldChanged();
         }
         searchTextEdited({});
+    }
+}
+
+void ViewController::finishSearch() {
+    if (m_searchField) {
+        searchFinished();
     }
 }
 

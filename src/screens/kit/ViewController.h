@@ -17,6 +17,8 @@ class NavigationController;
 struct SearchField {
     QString placeholder;
     QString text = {};
+    /// Whether it takes the keyboard when the user opens the screen's tab with a keyboard or a pointer.
+    bool focusOnOpening = false;
 };
 
 /// The thin bar under a screen's title while work is in progress.
@@ -35,7 +37,6 @@ class ViewControllerObserver {
     virtual void barButtonsChanged() = 0;
     virtual void refreshingChanged() = 0;
     virtual void progressChanged() = 0;
-    /// Not called for text that the user types.
     virtual void searchFieldChanged() = 0;
 };
 
@@ -74,6 +75,8 @@ class ViewController : public std::enable_shared_from_this<ViewController> {
     void editSearchText(const QString& text);
     /// Empties the search field.
     void cancelSearch();
+    /// Enter was pressed in the search field, or the field was left.
+    void finishSearch();
 
     // ---- called by the containing controllers
 
@@ -91,6 +94,7 @@ class ViewController : public std::enable_shared_from_this<ViewController> {
     virtual void viewDidDisappear() {}
     virtual void didPullToRefresh() {}
     virtual void searchTextEdited(const QString& /*text*/) {}
+    virtual void searchFinished() {}
 
     void setTitle(QString title);
     void setLeftBarButtons(std::vector<BarButton> buttons);

@@ -1,8 +1,10 @@
 #include "screens/shell/GuideTabs.h"
 
 #include "screens/Localized.h"
+#include "screens/categories/CategoriesViewController.h"
 #include "screens/compound/CompoundListingsViewController.h"
 #include "screens/root/RootViewController.h"
+#include "screens/search/SearchViewController.h"
 #include "screens/shell/EmptyViewController.h"
 
 #include <utility>
@@ -29,11 +31,10 @@ std::unique_ptr<TabBarController> makeGuideTabs(std::shared_ptr<const ScreenEnvi
     }
     tabs->addTab({Localized::tr("Currently"), Symbol::Currently, true, {}},
                  std::make_shared<RootViewController>(environment));
-    addComingTab(*tabs, Localized::tr("Categories"), Symbol::Categories,
-                 Localized::tr("Films, series, sport and the other kinds of shows come with a later version. "
-                               "See Currently for what is on now."));
-    addComingTab(*tabs, Localized::tr("Search"), Symbol::Search,
-                 Localized::tr("Searching comes with a later version. See Currently for what is on now."));
+    tabs->addTab({Localized::tr("Categories"), Symbol::Categories},
+                 std::make_shared<CategoriesViewController>(environment));
+    tabs->addTab({Localized::tr("Search"), Symbol::Search},
+                 std::make_shared<SearchViewController>(environment));
     tabs->addTab({Localized::tr("Schedule"), Symbol::Schedule, true, {}},
                  std::make_shared<CompoundListingsViewController>(environment, FavoriteListings{}));
     addComingTab(*tabs, Localized::tr("Selected Channels"), Symbol::SelectedChannels,

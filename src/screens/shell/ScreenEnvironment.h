@@ -12,6 +12,7 @@
 #include "platform/Clock.h"
 #include "platform/Device.h"
 #include "platform/LifeCycle.h"
+#include "platform/UserDefaults.h"
 #include "platform/queues/DispatchQueue.h"
 #include "screens/AppNavigation.h"
 #include "screens/ListingsUpdates.h"
@@ -64,6 +65,8 @@ struct ScreenEnvironment {
     Clipboard& clipboard;
     /// The application's URL scheme; empty when it has none.
     QString scheme;
+    /// Of this device.
+    UserDefaults& userDefaults;
     /// The actions on the row of a show. They may outlive the row.
     std::function<std::vector<RowAction>(const std::shared_ptr<const TVEntry>&,
                                          const std::shared_ptr<ViewController>&)>

@@ -1,5 +1,7 @@
 #include "ui/look/Glyph.h"
 
+#include "ui/look/CategoryStrokes.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -192,10 +194,26 @@ QPainterPath strokesOf(Glyph::Symbol symbol) {
         path.cubicTo(8, 21.6, 2.4, 16, 4.8, 13.4);
         path.lineTo(7, 11.2);
         break;
+    case Glyph::Info:
+        addArc(path, 9, 0, 360);
+        addLine(path, 12, 11, 12, 16.4);
+        addLine(path, 12, 7.6, 12, 7.7);
+        break;
+    case Glyph::Recent:
+        addArc(path, 8.5, 170, -300);
+        path.moveTo(2.6, 8.2);
+        path.lineTo(3.6, 11.6);
+        path.lineTo(7, 10.6);
+        path.moveTo(12, 7.5);
+        path.lineTo(12, 12.2);
+        path.lineTo(15.2, 14.2);
+        break;
     case Glyph::Play:
     case Glyph::Heart:
     case Glyph::Star:
         break;
+    default:
+        return categoryStrokes(static_cast<Symbol>(symbol));
     }
     return path;
 }

@@ -16,7 +16,7 @@ class Glyph : public QQuickPaintedItem {
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
 
   public:
-    /// The symbols of the tabs, with the kit's values, and those that only ui/ uses.
+    /// The symbols of the kit, with its values, and those that only ui/ uses.
     enum Symbol {
         AllShows = int(guide::Symbol::AllShows),
         Currently = int(guide::Symbol::Currently),
@@ -24,6 +24,26 @@ class Glyph : public QQuickPaintedItem {
         Search = int(guide::Symbol::Search),
         Schedule = int(guide::Symbol::Schedule),
         SelectedChannels = int(guide::Symbol::SelectedChannels),
+        MostWatched = int(guide::Symbol::MostWatched),
+        Evening = int(guide::Symbol::Evening),
+        Films = int(guide::Symbol::Films),
+        Series = int(guide::Symbol::Series),
+        Documentaries = int(guide::Symbol::Documentaries),
+        Children = int(guide::Symbol::Children),
+        News = int(guide::Symbol::News),
+        Entertainment = int(guide::Symbol::Entertainment),
+        Music = int(guide::Symbol::Music),
+        Sports = int(guide::Symbol::Sports),
+        Comedies = int(guide::Symbol::Comedies),
+        Adventure = int(guide::Symbol::Adventure),
+        Crime = int(guide::Symbol::Crime),
+        Westerns = int(guide::Symbol::Westerns),
+        Dramas = int(guide::Symbol::Dramas),
+        Thrillers = int(guide::Symbol::Thrillers),
+        ScienceFiction = int(guide::Symbol::ScienceFiction),
+        Fantasy = int(guide::Symbol::Fantasy),
+        Horrors = int(guide::Symbol::Horrors),
+        Recent = int(guide::Symbol::Recent),
         Refresh = 100,
         Play,
         Back,
@@ -44,6 +64,7 @@ class Glyph : public QQuickPaintedItem {
         Globe,
         Past,
         Link,
+        Info,
     };
     Q_ENUM(Symbol)
 

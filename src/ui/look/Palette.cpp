@@ -70,4 +70,14 @@ const Palette& paletteOf(ColorScheme scheme) {
     return scheme == ColorScheme::Dark ? dark : light;
 }
 
+TileColors tileColors(int hue, ColorScheme scheme) {
+    const auto color = [hue](double saturation, double lightness) {
+        return QColor::fromHslF(static_cast<float>(((hue % 360) + 360) % 360) / 360.F,
+                                static_cast<float>(saturation), static_cast<float>(lightness))
+            .toRgb();
+    };
+    return scheme == ColorScheme::Dark ? TileColors{color(0.28, 0.17), color(0.6, 0.74)}
+                                       : TileColors{color(0.6, 0.94), color(0.7, 0.25)};
+}
+
 } // namespace guide

@@ -41,4 +41,13 @@ struct Palette {
 
 const Palette& paletteOf(ColorScheme scheme);
 
+/// Of a tile, whose title has the label colour.
+struct TileColors {
+    QColor fill;
+    QColor symbol;
+};
+
+/// The hue in degrees.
+TileColors tileColors(int hue, ColorScheme scheme);
+
 } // namespace guide

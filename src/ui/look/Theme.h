@@ -105,6 +105,10 @@ class Theme : public QObject {
     int pictureMotion() const { return m_moves ? 120 : 0; }
     bool moves() const { return m_moves; }
 
+    /// A binding must also read `dark`, which they depend on.
+    Q_INVOKABLE QColor tileFill(int hue) const { return tileColors(hue, m_scheme).fill; }
+    Q_INVOKABLE QColor tileSymbol(int hue) const { return tileColors(hue, m_scheme).symbol; }
+
     const QLocale& locale() const { return m_locale; }
     /// To be called before the first page is made.
     void setLocale(const QLocale& locale) { m_locale = locale; }

@@ -33,7 +33,8 @@ struct Name {
 
     QString operator()(const ShowRow& row) const {
         const QString times = row.endTime.isEmpty() ? row.startTime : row.startTime + u'–' + row.endTime;
-        return joined({row.day, times, row.title, textIf(row.running, QT_TRANSLATE_NOOP("Guide", "On now")),
+        return joined({row.day, times, row.channelName, row.title,
+                       textIf(row.running, QT_TRANSLATE_NOOP("Guide", "On now")),
                        textIf(row.favourite, QT_TRANSLATE_NOOP("Guide", "Favourite")),
                        textIf(row.alarmed, QT_TRANSLATE_NOOP("Guide", "Alarm set")),
                        textIf(row.popular, QT_TRANSLATE_NOOP("Guide", "Popular")), row.details});
@@ -63,6 +64,7 @@ struct Name {
     QString operator()(const HeadRow& row) const { return joined({row.title, row.facts, row.status}); }
     QString operator()(const ActionsRow&) const { return Localized::tr("Actions"); }
     QString operator()(const ParagraphRow& row) const { return row.text; }
+    QString operator()(const TileRow& row) const { return joined({row.title, row.detail}); }
 };
 
 } // namespace

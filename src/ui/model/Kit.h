@@ -28,9 +28,10 @@ enum class RowKind {
     Head = int(guide::RowKind::Head),
     Actions = int(guide::RowKind::Actions),
     Paragraph = int(guide::RowKind::Paragraph),
+    Tile = int(guide::RowKind::Tile),
 };
 Q_ENUM_NS(RowKind)
-static_assert(std::size_t(RowKind::Paragraph) + 1 == std::variant_size_v<RowContent>);
+static_assert(std::size_t(RowKind::Tile) + 1 == std::variant_size_v<RowContent>);
 
 enum class Accessory {
     None = int(guide::Accessory::None),
@@ -59,6 +60,7 @@ enum class BarButtonKind {
     Title = int(guide::BarButton::Kind::Title),
     Refresh = int(guide::BarButton::Kind::Refresh),
     Play = int(guide::BarButton::Kind::Play),
+    Info = int(guide::BarButton::Kind::Info),
     Activity = int(guide::BarButton::Kind::Activity),
 };
 Q_ENUM_NS(BarButtonKind)

@@ -73,6 +73,10 @@ QString Page::searchText() const {
     return searchable() ? m_viewController->searchField()->text : QString();
 }
 
+bool Page::searchOnOpening() const {
+    return searchable() && m_viewController->searchField()->focusOnOpening;
+}
+
 void Page::goBack() {
     NavigationController* navigation = m_viewController->navigationController();
     if (!navigation || navigation->topViewController() != m_viewController) {
@@ -103,6 +107,10 @@ void Page::search(const QString& text) {
 
 void Page::cancelSearch() {
     m_viewController->cancelSearch();
+}
+
+void Page::finishSearch() {
+    m_viewController->finishSearch();
 }
 
 } // namespace guide

@@ -49,6 +49,8 @@ class Page : public QObject, private ViewControllerObserver {
     Q_PROPERTY(bool searchable READ searchable NOTIFY searchUpdated)
     Q_PROPERTY(QString searchPlaceholder READ searchPlaceholder NOTIFY searchUpdated)
     Q_PROPERTY(QString searchText READ searchText NOTIFY searchUpdated)
+    /// Whether the field takes the keyboard when its tab is opened.
+    Q_PROPERTY(bool searchOnOpening READ searchOnOpening NOTIFY searchUpdated)
     /// The symbol of its tab.
     Q_PROPERTY(int symbol READ symbol CONSTANT)
     /// The component that draws the content; it has the property `page`.
@@ -75,6 +77,7 @@ class Page : public QObject, private ViewControllerObserver {
     bool searchable() const { return m_viewController->searchField().has_value(); }
     QString searchPlaceholder() const;
     QString searchText() const;
+    bool searchOnOpening() const;
     int symbol() const { return static_cast<int>(m_symbol); }
     QUrl source() const;
     TableModel* rows() const { return m_rows.get(); }
@@ -86,6 +89,7 @@ class Page : public QObject, private ViewControllerObserver {
     Q_INVOKABLE void pull();
     Q_INVOKABLE void search(const QString& text);
     Q_INVOKABLE void cancelSearch();
+    Q_INVOKABLE void finishSearch();
 
   Q_SIGNALS:
     void titleUpdated();

@@ -1,5 +1,6 @@
 #include "ui/model/RowValues.h"
 
+#include "ui/look/MarkedText.h"
 #include "ui/look/PictureUrl.h"
 #include "ui/model/AccessibleName.h"
 
@@ -18,6 +19,14 @@ QUrl ShowRowValue::channelIconUrl() const {
 
 QUrl ShowRowValue::pictureUrl() const {
     return pictureUrlOf(picture);
+}
+
+QString ShowRowValue::markedTitle(const QColor& color) const {
+    return markedText(title, titleMatches, color);
+}
+
+QString ShowRowValue::markedDetails(const QColor& color) const {
+    return markedText(details, detailsMatches, color);
 }
 
 QUrl ChannelRowValue::iconUrl() const {
@@ -99,6 +108,7 @@ struct Make {
     QVariant operator()(const HeadRow& content) const { return made<HeadRowValue>(content); }
     QVariant operator()(const ActionsRow& content) const { return made<ActionsRowValue>(content); }
     QVariant operator()(const ParagraphRow& content) const { return made<ParagraphRowValue>(content); }
+    QVariant operator()(const TileRow& content) const { return made<TileRowValue>(content); }
 
   private:
     template <class Value, class... Fields>

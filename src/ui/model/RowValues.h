@@ -4,6 +4,7 @@
 #include "screens/kit/Table.h"
 #include "ui/look/Glyph.h"
 
+#include <QColor>
 #include <QList>
 #include <QLocale>
 #include <QObject>
@@ -55,6 +56,10 @@ struct ShowRowValue : RowValue, ShowRow {
     /// -1 while the show is not running.
     Q_PROPERTY(double progress READ shownProgress CONSTANT FINAL)
     Q_PROPERTY(QUrl channelIcon READ channelIconUrl CONSTANT FINAL)
+    Q_PROPERTY(QString channelName MEMBER channelName CONSTANT FINAL)
+    /// Whether parts of it are marked.
+    Q_PROPERTY(bool titleMarked READ titleMarked CONSTANT FINAL)
+    Q_PROPERTY(bool detailsMarked READ detailsMarked CONSTANT FINAL)
     Q_PROPERTY(QUrl picture READ pictureUrl CONSTANT FINAL)
     Q_PROPERTY(int accessory READ accessoryKind CONSTANT FINAL)
 
@@ -62,6 +67,11 @@ struct ShowRowValue : RowValue, ShowRow {
     int timeColorRole() const { return static_cast<int>(timeColor); }
     double shownProgress() const { return progress.value_or(-1); }
     QUrl channelIconUrl() const;
+    bool titleMarked() const { return !titleMatches.empty(); }
+    bool detailsMarked() const { return !detailsMatches.empty(); }
+    /// As styled text, with the marked parts bold and in the colour.
+    Q_INVOKABLE QString markedTitle(const QColor& color) const;
+    Q_INVOKABLE QString markedDetails(const QColor& color) const;
     QUrl pictureUrl() const;
     int accessoryKind() const { return static_cast<int>(accessory); }
 
@@ -94,11 +104,14 @@ struct TextRowValue : RowValue, TextRow {
     Q_PROPERTY(bool checked MEMBER checked CONSTANT FINAL)
     Q_PROPERTY(int accessory READ accessoryKind CONSTANT FINAL)
     Q_PROPERTY(QUrl icon READ iconUrl CONSTANT FINAL)
+    /// A Glyph.Symbol; -1 for none.
+    Q_PROPERTY(int symbol READ symbolNumber CONSTANT FINAL)
 
   public:
     int titleColorRole() const { return static_cast<int>(titleColor); }
     int accessoryKind() const { return static_cast<int>(accessory); }
     QUrl iconUrl() const;
+    int symbolNumber() const { return symbol ? static_cast<int>(*symbol) : -1; }
 
     friend bool operator==(const TextRowValue&, const TextRowValue&) = default;
 };
@@ -262,6 +275,22 @@ struct ParagraphRowValue : RowValue, ParagraphRow {
 
   public:
     friend bool operator==(const ParagraphRowValue&, const ParagraphRowValue&) = default;
+};
+
+struct TileRowValue : RowValue, TileRow {
+    Q_GADGET
+    QML_VALUE_TYPE(tileRow)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(QString detail MEMBER detail CONSTANT FINAL)
+    /// A Glyph.Symbol.
+    Q_PROPERTY(int symbol READ symbolNumber CONSTANT FINAL)
+    Q_PROPERTY(int hue MEMBER hue CONSTANT FINAL)
+    Q_PROPERTY(bool enabled MEMBER enabled CONSTANT FINAL)
+
+  public:
+    int symbolNumber() const { return static_cast<int>(symbol); }
+
+    friend bool operator==(const TileRowValue&, const TileRowValue&) = default;
 };
 
 /// A row's section and the row's place in it: the role `section`.

@@ -85,6 +85,13 @@ QFont Shell::tabFont(double width, double textScale) const {
     return themeFont(std::max(kSmallestTabFont, std::min(kTabFont * textScale, most)), QFont::DemiBold);
 }
 
+void Shell::setTouching(bool touching) {
+    if (touching != m_touching) {
+        m_touching = touching;
+        Q_EMIT touchingChanged();
+    }
+}
+
 QString Shell::alertTitle() const {
     const Alert* alert = m_tabBarController.presentedAlert();
     return alert ? alert->title : QString();
@@ -114,6 +121,18 @@ QString Shell::noticeText() const {
 QString Shell::noticeAction() const {
     const Notice* notice = m_tabBarController.presentedNotice();
     return notice ? notice->actionTitle : QString();
+}
+
+void Shell::openSearch() {
+    const auto& tabs = m_tabBarController.tabs();
+    const auto found = std::ranges::find_if(
+        tabs, [](const TabBarController::Tab& tab) { return tab.item.symbol == Symbol::Search; });
+    const int index = static_cast<int>(found - tabs.begin());
+    if (found == tabs.end() || !found->item.enabled) {
+        return;
+    }
+    m_tabBarController.setSelectedIndex(index);
+    found->navigationController->popToRoot();
 }
 
 void Shell::answerAlert(int action) {

@@ -35,6 +35,8 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     /// Tabs at the side rather than at the bottom.
     Q_PROPERTY(bool tablet READ tablet CONSTANT)
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedIndexChanged)
+    /// Whether the user last touched the screen, rather than using keys or a pointer.
+    Q_PROPERTY(bool touching READ touching NOTIFY touchingChanged)
     Q_PROPERTY(bool alertShown READ alertShown NOTIFY alertUpdated)
     Q_PROPERTY(QString alertTitle READ alertTitle NOTIFY alertUpdated)
     Q_PROPERTY(QString alertMessage READ alertMessage NOTIFY alertUpdated)
@@ -56,6 +58,8 @@ class Shell : public QAbstractListModel, private TabBarObserver {
 
     bool tablet() const { return m_form == UserInterfaceIdiom::Tablet; }
     int selectedIndex() const { return m_tabBarController.selectedIndex(); }
+    bool touching() const { return m_touching; }
+    void setTouching(bool touching);
     bool alertShown() const { return m_tabBarController.presentedAlert() != nullptr; }
     QString alertTitle() const;
     QString alertMessage() const;
@@ -69,6 +73,8 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     Q_INVOKABLE QFont tabFont(double width, double textScale) const;
 
     Q_INVOKABLE void tapTab(int index) { m_tabBarController.tapTab(index); }
+    /// Selects the search tab and its first screen, unless the tab is disabled.
+    Q_INVOKABLE void openSearch();
     Q_INVOKABLE void answerAlert(int action);
     /// Gives the answer that changes nothing: the cancelling one, or the only one.
     Q_INVOKABLE void escapeAlert();
@@ -77,6 +83,7 @@ class Shell : public QAbstractListModel, private TabBarObserver {
 
   Q_SIGNALS:
     void selectedIndexChanged();
+    void touchingChanged();
     void alertUpdated();
     void noticeUpdated();
 
@@ -89,6 +96,7 @@ class Shell : public QAbstractListModel, private TabBarObserver {
 
     TabBarController& m_tabBarController;
     const UserInterfaceIdiom m_form;
+    bool m_touching = false;
     std::vector<PageStack*> m_stacks;
 };
 

@@ -1,5 +1,6 @@
 #include "ui/model/TableModel.h"
 
+#include "text/search/FoldedText.h"
 #include "ui/model/Kit.h"
 #include "ui/model/RowValues.h"
 
@@ -128,6 +129,23 @@ int TableModel::rowOfIndexTitle(int mark) const {
     for (std::size_t number = 0; number < sections.size(); ++number) {
         if (!sections[number].indexTitle.isEmpty() && !sections[number].rows.empty() && mark-- == 0) {
             return m_starts[number];
+        }
+    }
+    return -1;
+}
+
+int TableModel::rowStartingWith(const QString& typed, int from) const {
+    const QString folded = foldedText(typed);
+    const int count = table().rowCount();
+    const int first = std::max(from, 0);
+    for (int step = 0; step < count && !folded.isEmpty(); ++step) {
+        const int index = (first + step) % count;
+        const RowContent& content = table().rowAt(index).content;
+        const auto* channel = std::get_if<ChannelRow>(&content);
+        const auto* tile = std::get_if<TileRow>(&content);
+        if ((channel && foldedText(channel->title).startsWith(folded)) ||
+            (tile && foldedText(tile->title).startsWith(folded))) {
+            return index;
         }
     }
     return -1;

@@ -111,6 +111,9 @@ class TableModel : public QAbstractListModel, private TableObserver {
     /// The row became visible, or changed while visible.
     Q_INVOKABLE void shown(int index);
 
+    /// The first row from `from` on, and then from the beginning, whose name begins with the text, ignoring
+    /// case and diacritics; -1 when there is none. Only channels and tiles are found by their names.
+    Q_INVOKABLE int rowStartingWith(const QString& typed, int from) const;
     /// The first row of the section with that mark of the index strip.
     Q_INVOKABLE int rowOfIndexTitle(int mark) const;
 

@@ -8,7 +8,76 @@ FocusScope {
 
     required property Shell shell
 
+    readonly property StackPages screens: {
+        const tab = tabs.count > shell.selectedIndex ? tabs.itemAt(shell.selectedIndex) as Loader : null
+        return tab ? tab.item as StackPages : null
+    }
+
+    function perform(action, number) {
+        switch (action) {
+        case KeyTable.SelectTab:
+            shell.tapTab(number)
+            break
+        case KeyTable.Find:
+            find()
+            break
+        case KeyTable.Refresh:
+            if (screens)
+                screens.refresh()
+            break
+        case KeyTable.Back:
+            if (screens)
+                screens.goBack()
+            break
+        case KeyTable.ShowKeys:
+            keysPanel.open()
+            break
+        case KeyTable.Quit:
+            Window.window.close()
+            break
+        }
+    }
+
+    // In the screen's own search field, or else in that of the search tab.
+    function find() {
+        if (screens && screens.focusSearch())
+            return
+        shell.openSearch()
+        if (screens)
+            screens.focusSearch()
+    }
+
     focus: true
+
+    // Later, when the tab is visible.
+    onScreensChanged: Qt.callLater(opened)
+
+    function opened() {
+        if (screens && !shell.touching)
+            screens.tabOpened()
+    }
+
+    Repeater {
+        model: KeyTable.windowKeys
+
+        Item {
+            id: shortcut
+
+            required property windowKey modelData
+
+            Shortcut {
+                sequence: shortcut.modelData.sequence
+                autoRepeat: false
+                enabled: !main.shell.alertShown || shortcut.modelData.action === KeyTable.Quit
+                onActivated: main.perform(shortcut.modelData.action, shortcut.modelData.number)
+            }
+        }
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.BackButton
+        onTapped: main.perform(KeyTable.Back, 0)
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -36,6 +105,8 @@ FocusScope {
             }
 
             Repeater {
+                id: tabs
+
                 model: main.shell
 
                 Loader {
@@ -89,6 +160,12 @@ FocusScope {
         y: pages.y + pages.height - height
         width: pages.width
         shell: main.shell
+    }
+
+    KeysPanel {
+        id: keysPanel
+
+        parent: content
     }
 
     AlertPanel {

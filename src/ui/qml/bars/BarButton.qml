@@ -28,6 +28,17 @@ T.AbstractButton {
         border.color: Theme.tint
     }
 
+    hoverEnabled: true
+
+    Loader {
+        active: button.hovered && !button.titled
+        sourceComponent: Hint {
+            parent: button
+            text: button.text
+            visible: button.hovered && !button.pressed && button.text !== ""
+        }
+    }
+
     contentItem: Item {
         Text {
             id: label
@@ -45,7 +56,8 @@ T.AbstractButton {
             width: 24
             height: 24
             visible: !button.titled && !button.busy
-            symbol: button.kind === Kit.BarButtonKind.Play ? Glyph.Play : Glyph.Refresh
+            symbol: button.kind === Kit.BarButtonKind.Play ? Glyph.Play
+                    : button.kind === Kit.BarButtonKind.Info ? Glyph.Info : Glyph.Refresh
             color: button.enabled ? Theme.tint : Theme.secondaryLabel
         }
 

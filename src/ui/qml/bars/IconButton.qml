@@ -26,6 +26,17 @@ T.AbstractButton {
         border.color: Theme.tint
     }
 
+    hoverEnabled: true
+
+    Loader {
+        active: button.hovered
+        sourceComponent: Hint {
+            parent: button
+            text: button.text
+            visible: button.hovered && !button.pressed && button.text !== ""
+        }
+    }
+
     contentItem: Item {
         Glyph {
             anchors.centerIn: parent

@@ -12,6 +12,10 @@ Item {
     // Closes a popover or sheet.
     property bool closable: false
 
+    signal searchEdited()
+    // The keyboard moves from the search field into the rows.
+    signal searchLeft()
+
     // With large text the title gets a line to itself where the buttons leave it too little room.
     readonly property double between: width - titleLeft - 8 - rightButtons.width - 4
     readonly property double margin: width >= 600 ? 24 : 16
@@ -32,6 +36,14 @@ Item {
     function rightButton(index) {
         rightButtons.ensurePolished()
         return rightRepeater.itemAt(index)
+    }
+
+    // Whether there is a search field.
+    function focusSearch(selecting) {
+        const field = search.item as SearchBar
+        if (field)
+            field.enter(selecting)
+        return field !== null
     }
 
     Rectangle {
@@ -129,6 +141,8 @@ Item {
         active: bar.page.searchable
         sourceComponent: SearchBar {
             page: bar.page
+            onTextEdited: bar.searchEdited()
+            onPassedOn: bar.searchLeft()
         }
     }
 

@@ -19,13 +19,27 @@ T.TextField {
     selectByMouse: true
     inputMethodHints: Qt.ImhNoPredictiveText
 
+    // The user wants to go on with the rows.
+    signal passedOn()
+
     function clear() {
         text = ""
         page.cancelSearch()
     }
 
+    function enter(selecting) {
+        forceActiveFocus(Qt.ShortcutFocusReason)
+        if (selecting)
+            selectAll()
+        else
+            cursorPosition = length
+    }
+
     Component.onCompleted: text = page.searchText
     onTextEdited: page.search(text)
+    onAccepted: passedOn()
+    onEditingFinished: page.finishSearch()
+    Keys.onDownPressed: passedOn()
     Keys.onEscapePressed: event => {
         event.accepted = text !== ""
         if (event.accepted)
@@ -41,7 +55,8 @@ T.TextField {
         target: field.page
 
         function onSearchUpdated() {
-            field.text = field.page.searchText
+            if (field.text !== field.page.searchText)
+                field.text = field.page.searchText
         }
     }
 

@@ -10,6 +10,18 @@ FocusScope {
     // Whether rows have gone above the top edge.
     property bool scrolled: false
 
+    // The keyboard moves up from the first row.
+    signal leftUpwards()
+
+    // The keyboard comes from above.
+    function enter() {
+        forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    // The user has changed what is searched for.
+    function searchEdited() {
+    }
+
     // The item of a row; null when it is not drawn.
     function rowItem(index): Item {
         return null

@@ -27,6 +27,11 @@ FocusScope {
         }
     }
 
+    // Whether the screen has a search field.
+    function focusSearch(selecting) {
+        return bar.focusSearch(selecting)
+    }
+
     Rectangle {
         anchors.fill: parent
         color: Theme.background
@@ -45,6 +50,10 @@ FocusScope {
             canGoBack: view.canGoBack
             closable: view.closable
             scrolled: view.drawn !== null && view.drawn.scrolled
+            onSearchEdited: if (view.drawn)
+                view.drawn.searchEdited()
+            onSearchLeft: if (view.drawn)
+                view.drawn.enter()
         }
 
         Loader {
@@ -57,7 +66,10 @@ FocusScope {
                 right: parent.right
             }
             focus: true
-            onLoaded: view.drawn.inset = Qt.binding(() => view.width >= view.columnWidth + 32)
+            onLoaded: {
+                view.drawn.inset = Qt.binding(() => view.width >= view.columnWidth + 32)
+                view.drawn.leftUpwards.connect(() => view.focusSearch(false))
+            }
             Component.onCompleted: setSource(view.page.source, { "page": view.page, "focus": true })
         }
     }
@@ -66,11 +78,5 @@ FocusScope {
     Keys.onEscapePressed: event => {
         event.accepted = page.canGoBack || closable
         page.goBack()
-    }
-    Keys.onPressed: event => {
-        if (event.matches(StandardKey.Refresh) && page.canRefresh) {
-            page.pull()
-            event.accepted = true
-        }
     }
 }

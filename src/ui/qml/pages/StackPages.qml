@@ -14,6 +14,28 @@ FocusScope {
     readonly property bool divided: sideBySide && stack.depth > 1
     readonly property double half: Math.floor(width / 2)
 
+    readonly property PageView topScreen: screens.count > 0 ? screens.itemAt(stack.depth - 1) as PageView : null
+
+    function goBack() {
+        if (topScreen)
+            topScreen.page.goBack()
+    }
+
+    function refresh() {
+        if (topScreen && topScreen.page.canRefresh)
+            topScreen.page.pull()
+    }
+
+    // Whether the top screen has a search field.
+    function focusSearch() {
+        return topScreen !== null && topScreen.focusSearch(true)
+    }
+
+    function tabOpened() {
+        if (topScreen && topScreen.page.searchOnOpening)
+            topScreen.focusSearch(true)
+    }
+
     onSideBySideChanged: stack.setSideBySide(sideBySide)
     Component.onCompleted: stack.setSideBySide(sideBySide)
     clip: true
@@ -72,7 +94,7 @@ FocusScope {
 
     PresentedStack {
         presenter: view.stack
-        presenterView: screens.count > 0 ? screens.itemAt(view.stack.depth - 1) as PageView : null
+        presenterView: view.topScreen
         usable: view.visible && view.enabled
         onGone: if (usable)
             view.forceActiveFocus()

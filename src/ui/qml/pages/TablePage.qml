@@ -15,6 +15,15 @@ ContentPage {
     // A wide page has the picture and the actions of a show on the left.
     readonly property bool hasAside: width >= 700 && page.rows.head !== undefined
 
+    function enter() {
+        list.enter()
+    }
+
+    function searchEdited() {
+        list.currentIndex = -1
+        list.positionViewAtBeginning()
+    }
+
     scrolled: list.contentY > list.originY
 
     TableList {
@@ -25,6 +34,7 @@ ContentPage {
         besideAside: screen.hasAside
         trailingInset: strip.visible ? strip.width - 8 : 0
         page: screen.page
+        onLeftUpwards: screen.leftUpwards()
         bandRadius: screen.inset ? 12 : 0
         stickyHeight: sticky.visible ? sticky.height : 0
         transform: Translate { y: pull.reached }

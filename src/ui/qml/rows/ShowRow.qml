@@ -8,13 +8,15 @@ TableRow {
     readonly property double timeColumn: list ? rows.timeColumn : 0
     readonly property bool hasIcon: row.channelIcon.toString() !== ""
     readonly property bool hasPicture: row.picture.toString() !== ""
-    readonly property double textStart: sideMargin + (hasIcon ? 62 : 0)
+    // The name is drawn where the channel has no icon.
+    readonly property bool hasName: !hasIcon && row.channelName !== ""
+    readonly property double textStart: sideMargin + (hasIcon || hasName ? 62 : 0)
     readonly property double textRight: surfaceWidth - edge.width - (hasPicture ? 76 : 0) - sideMargin
     // Where the times would leave the title too little room, as with large text, they go above it.
     readonly property bool stacked: textRight - textStart - timeColumn - 12 < 150 * Theme.textScale
     readonly property double textLeft: textStart + (stacked || timeColumn === 0 ? 0 : timeColumn + 12)
 
-    contentHeight: Math.max(56, cell.row.day === "" ? 0 : day.y + day.height + 10, progress.y + progress.height + 10, hasPicture ? 60 : 0)
+    contentHeight: Math.max(56, cell.row.day === "" ? 0 : day.y + day.height + 10, hasName ? nameLoader.y + nameLoader.height + 10 : 0, progress.y + progress.height + 10, hasPicture ? 60 : 0)
     separatorInset: textLeft
 
     Loader {
@@ -25,6 +27,24 @@ TableRow {
             width: 50
             height: 36
             source: cell.row.channelIcon
+        }
+    }
+
+    Loader {
+        id: nameLoader
+
+        x: cell.sideMargin
+        y: 10
+        active: cell.hasName
+        sourceComponent: Text {
+            width: 50
+            text: cell.row.channelName
+            textFormat: Text.PlainText
+            color: Theme.secondaryLabel
+            font: Theme.endTimeFont
+            wrapMode: Text.Wrap
+            maximumLineCount: 3
+            elide: Text.ElideRight
         }
     }
 
@@ -70,8 +90,8 @@ TableRow {
         x: cell.textLeft
         y: cell.stacked && cell.row.startTime !== "" ? 10 + start.height : 12
         width: cell.textRight - x - (marks.width > 0 ? marks.width + 6 : 0)
-        text: cell.row.title
-        textFormat: Text.PlainText
+        text: cell.row.titleMarked ? cell.row.markedTitle(Theme.tint) : cell.row.title
+        textFormat: cell.row.titleMarked ? Text.StyledText : Text.PlainText
         color: Theme.label
         font: Theme.titleFont
         wrapMode: Text.Wrap
@@ -113,8 +133,8 @@ TableRow {
         x: cell.textLeft
         y: title.y + title.height + 2
         width: cell.textRight - x
-        text: cell.row.details
-        textFormat: Text.PlainText
+        text: cell.row.detailsMarked ? cell.row.markedDetails(Theme.tint) : cell.row.details
+        textFormat: cell.row.detailsMarked ? Text.StyledText : Text.PlainText
         color: Theme.secondaryLabel
         font: Theme.detailsFont
         wrapMode: Text.Wrap

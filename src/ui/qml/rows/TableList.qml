@@ -9,6 +9,9 @@ ListView {
 
     required property Page page
 
+    // The keyboard moves up from the first row.
+    signal leftUpwards()
+
     readonly property double sideMargin: width >= 600 ? 24 : 16
     // Bands across the column are rounded where the column does not fill the page.
     property int bandRadius: 0
@@ -162,8 +165,10 @@ ListView {
     highlightFollowsCurrentItem: false
     boundsBehavior: Flickable.StopAtBounds
     cacheBuffer: 480
-    // A line of tiles belongs to its first row: it must not be dropped while the line can still be seen.
+    // A line of tiles belongs to its first row: it must not be dropped while the line can still be seen. The others have
+    // their places below the line.
     displayMarginBeginning: tileHeight + tileGap
+    displayMarginEnd: tileHeight + tileGap
     bottomMargin: 16
     // A reused row must have its new height at once, or the list places the rows after it by the old one. Rows
     // therefore compute their heights in bindings: a Column would only update its height when the scene is polished.
@@ -188,6 +193,7 @@ ListView {
         DelegateChoice { roleValue: Kit.RowKind.Head; HeadRow {} }
         DelegateChoice { roleValue: Kit.RowKind.Actions; ActionsRow {} }
         DelegateChoice { roleValue: Kit.RowKind.Paragraph; ParagraphRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.Tile; TileRow {} }
     }
 
     PlaceKeeper {
@@ -213,6 +219,8 @@ ListView {
 
     // Rows of a tile line are beside each other: Up and Down go by lines there.
     function step(by) {
+        if (count === 0)
+            return
         keyboardUsed = true
         closeSwiped()
         currentIndex = Math.max(0, Math.min(count - 1, currentIndex + by))
@@ -235,50 +243,94 @@ ListView {
 
     property double stickyHeight: 0
 
-    Keys.onUpPressed: event => {
-        if (event.modifiers & Qt.AltModifier)
-            moveCurrent(-1)
-        else
-            step(-lineStep())
-    }
-    Keys.onDownPressed: event => {
-        if (event.modifiers & Qt.AltModifier)
-            moveCurrent(1)
-        else
-            step(currentIndex < 0 ? 1 : lineStep())
-    }
-    Keys.onLeftPressed: {
-        if (currentRow && currentRow.tiled)
-            step(-1)
-        else if (currentRow)
-            currentRow.uncover()
-    }
-    Keys.onRightPressed: {
-        if (currentRow && currentRow.tiled)
-            step(1)
-        else
-            closeSwiped()
-    }
-    Keys.onReturnPressed: activateCurrent()
-    Keys.onEnterPressed: activateCurrent()
-    Keys.onSpacePressed: activateCurrent()
-    Keys.onMenuPressed: if (currentRow)
-        openMenu(currentRow, currentRow.width / 2, currentRow.height / 2)
-    Keys.onDeletePressed: if (currentRow && currentRow.editing && currentRow.row.deletable)
-        page.rows.remove(currentIndex)
     Keys.onPressed: event => {
-        const page = Math.max(1, Math.floor(view.height / 72))
-        if (event.key === Qt.Key_PageUp)
-            step(-page)
-        else if (event.key === Qt.Key_PageDown)
-            step(page)
-        else if (event.key === Qt.Key_Home)
-            step(-count)
-        else if (event.key === Qt.Key_End)
-            step(count)
-        else
-            return
+        const screenful = Math.max(1, Math.floor(view.height / 72))
         event.accepted = true
+        switch (KeyTable.listAction(event.key, event.modifiers)) {
+        case KeyTable.Up:
+            if (currentIndex <= 0)
+                leftUpwards()
+            step(-lineStep())
+            break
+        case KeyTable.Down:
+            step(currentIndex < 0 ? 1 : lineStep())
+            break
+        case KeyTable.Left:
+            if (currentRow && currentRow.tiled)
+                step(-1)
+            else if (currentRow)
+                currentRow.uncover()
+            break
+        case KeyTable.Right:
+            if (currentRow && currentRow.tiled)
+                step(1)
+            else
+                closeSwiped()
+            break
+        case KeyTable.PageUp:
+            step(-screenful)
+            break
+        case KeyTable.PageDown:
+            step(screenful)
+            break
+        case KeyTable.Home:
+            step(-count)
+            break
+        case KeyTable.End:
+            step(count)
+            break
+        case KeyTable.Activate:
+            // A space is part of a name that is being typed.
+            if (event.text !== " " || !typeAhead(event))
+                activateCurrent()
+            break
+        case KeyTable.Menu:
+            if (currentRow)
+                openMenu(currentRow, currentRow.width / 2, currentRow.height / 2)
+            break
+        case KeyTable.Delete:
+            if (currentRow && currentRow.row.deletable)
+                view.page.rows.remove(currentIndex)
+            break
+        case KeyTable.MoveUp:
+            moveCurrent(-1)
+            break
+        case KeyTable.MoveDown:
+            moveCurrent(1)
+            break
+        default:
+            event.accepted = typeAhead(event)
+        }
+    }
+
+    // ---- type-ahead
+
+    property string typed: ""
+
+    // Goes to the next row whose name begins with what was typed without a pause. Returns whether the key was used.
+    function typeAhead(event) {
+        if (event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier) || event.text < " " || event.text === "\u007f" || (typed === "" && event.text === " "))
+            return false
+        const index = page.rows.rowStartingWith(typed + event.text, typed === "" ? currentIndex + 1 : currentIndex)
+        if (index < 0)
+            return typed !== ""
+        typed += event.text
+        pause.restart()
+        step(index - currentIndex)
+        return true
+    }
+
+    Timer {
+        id: pause
+
+        interval: 1000
+        onTriggered: view.typed = ""
+    }
+
+    // The keyboard comes from above.
+    function enter() {
+        forceActiveFocus(Qt.TabFocusReason)
+        step(currentIndex < 0 ? 1 : 0)
     }
 
     function activateCurrent() {

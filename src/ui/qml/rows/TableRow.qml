@@ -100,8 +100,15 @@ FocusScope {
     }
     onSwipedChanged: if (list)
         list.noteSwipe(cell)
-    ListView.onPooled: reset()
-    ListView.onReused: list.notePlace()
+    // A row that waits for its next use is neither drawn nor read aloud.
+    ListView.onPooled: {
+        reset()
+        visible = false
+    }
+    ListView.onReused: {
+        visible = true
+        list.notePlace()
+    }
 
     Loader {
         id: header

@@ -6,6 +6,7 @@ TableRow {
     id: cell
 
     readonly property bool hasIcon: row.icon.toString() !== ""
+    readonly property bool hasSymbol: row.symbol >= 0
     // With large text the detail goes below the title.
     readonly property bool detailBelow: tiled || detailText.implicitWidth > surfaceWidth * 0.45
 
@@ -23,12 +24,23 @@ TableRow {
         source: cell.row.icon
     }
 
+    Glyph {
+        x: cell.sideMargin
+        y: (parent.height - height) / 2
+        width: 24
+        height: 24
+        visible: cell.hasSymbol
+        symbol: cell.hasSymbol ? cell.row.symbol : Glyph.Recent
+        color: Theme.secondaryLabel
+    }
+
     Item {
         id: texts
 
         readonly property double edgeStart: (check.visible ? check.x : edge.x) - 4
 
-        x: cell.tiled || !cell.hasIcon ? cell.sideMargin : icon.x + icon.width + 12
+        x: cell.hasSymbol ? cell.sideMargin + 36
+           : cell.tiled || !cell.hasIcon ? cell.sideMargin : icon.x + icon.width + 12
         y: cell.tiled ? parent.height - height - 12 : (parent.height - height) / 2
         width: (detailText.visible ? detailText.x - 12 : edgeStart) - x
         height: title.height + subtitle.used + lowerDetail.used
