@@ -240,16 +240,8 @@ Počkejte, až se program načte.</translation>
         <translation>Kategorie</translation>
     </message>
     <message>
-        <source>Films, series, sport and the other kinds of shows come with a later version. See Currently for what is on now.</source>
-        <translation>Filmy, seriály, sport a další druhy pořadů přinese některá z dalších verzí. Co právě běží, najdete na kartě Právě běží.</translation>
-    </message>
-    <message>
         <source>Search</source>
         <translation>Hledat</translation>
-    </message>
-    <message>
-        <source>Searching comes with a later version. See Currently for what is on now.</source>
-        <translation>Hledání přinese některá z dalších verzí. Co právě běží, najdete na kartě Právě běží.</translation>
     </message>
     <message>
         <source>Schedule</source>
@@ -478,6 +470,198 @@ Počkejte, až se program načte.</translation>
     <message>
         <source>You have to allow access to your calendars to be able to use alerts. Calendar data will only be used by the application on your device, and will not be sent to any other device or service. Go to &apos;Privacy&apos; in the &apos;Settings&apos; application.</source>
         <translation>Abyste mohli používat upozornění, musíte povolit přístup ke svým kalendářům. Údaje z kalendáře používá aplikace jen ve vašem zařízení a neposílá je do žádného jiného zařízení ani služby. Přejděte do „Soukromí“ v aplikaci „Nastavení“.</translation>
+    </message>
+    <message>
+        <source>Search pattern</source>
+        <translation>Hledaný text</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Informace</translation>
+    </message>
+    <message numerus="yes">
+        <source>Titles, descriptions and people in the shows of your %n channel(s) are searched.</source>
+        <translation>
+            <numerusform>Prohledávají se názvy, popisy a osoby v pořadech vašeho %n kanálu.</numerusform>
+            <numerusform>Prohledávají se názvy, popisy a osoby v pořadech vašich %n kanálů.</numerusform>
+            <numerusform>Prohledávají se názvy, popisy a osoby v pořadech vašich %n kanálů.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What are you looking for?</source>
+        <translation>Co hledáte?</translation>
+    </message>
+    <message>
+        <source>Recent searches</source>
+        <translation>Nedávná hledání</translation>
+    </message>
+    <message>
+        <source>Clear recent searches</source>
+        <translation>Vymazat nedávná hledání</translation>
+    </message>
+    <message>
+        <source>Recent searches cleared</source>
+        <translation>Nedávná hledání vymazána</translation>
+    </message>
+    <message numerus="yes">
+        <source>No show matches “%1” on your %n channel(s)</source>
+        <translation>
+            <numerusform>Na vašem %n kanálu žádný pořad neodpovídá textu „%1“</numerusform>
+            <numerusform>Na vašich %n kanálech žádný pořad neodpovídá textu „%1“</numerusform>
+            <numerusform>Na vašich %n kanálech žádný pořad neodpovídá textu „%1“</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only the shows of selected channels are searched.</source>
+        <translation>Prohledávají se jen pořady vybraných kanálů.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Poznámka</translation>
+    </message>
+    <message>
+        <source>Only selected channels will be searched.</source>
+        <translation>Budou prohledány jen vybrané kanály.</translation>
+    </message>
+    <message>
+        <source>No list yet</source>
+        <translation>Zatím bez seznamu</translation>
+    </message>
+    <message>
+        <source>Most Watched counts the alarms and favourites of everyone who shares a cloud store with you. No such list was received yet.</source>
+        <translation>Nejsledovanější se počítají z upozornění a oblíbených všech, kdo s vámi sdílejí cloudové úložiště. Takový seznam zatím nepřišel.</translation>
+    </message>
+    <message>
+        <source>None today</source>
+        <translation>Dnes nic</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n show(s) today</source>
+        <translation>
+            <numerusform>Dnes %n pořad</numerusform>
+            <numerusform>Dnes %n pořady</numerusform>
+            <numerusform>Dnes %n pořadů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Most Watched</source>
+        <translation>Nejsledovanější</translation>
+    </message>
+    <message>
+        <source>Evening Shows</source>
+        <translation>Večerní pořady</translation>
+    </message>
+    <message>
+        <source>Feature Films</source>
+        <translation>Celovečerní filmy</translation>
+    </message>
+    <message>
+        <source>TV Series</source>
+        <translation>Seriály</translation>
+    </message>
+    <message>
+        <source>Documentaries</source>
+        <translation>Dokumenty</translation>
+    </message>
+    <message>
+        <source>For Children</source>
+        <translation>Pro děti</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Zpravodajství</translation>
+    </message>
+    <message>
+        <source>Entertainment</source>
+        <translation>Zábava</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Hudba</translation>
+    </message>
+    <message>
+        <source>Sports</source>
+        <translation>Sport</translation>
+    </message>
+    <message>
+        <source>Movies</source>
+        <translation>Filmy</translation>
+    </message>
+    <message>
+        <source>Comedies</source>
+        <translation>Komedie</translation>
+    </message>
+    <message>
+        <source>Adventure</source>
+        <translation>Dobrodružné</translation>
+    </message>
+    <message>
+        <source>Crime</source>
+        <translation>Krimi</translation>
+    </message>
+    <message>
+        <source>Westerns</source>
+        <translation>Westerny</translation>
+    </message>
+    <message>
+        <source>Dramas</source>
+        <translation>Dramata</translation>
+    </message>
+    <message>
+        <source>Thrillers</source>
+        <translation>Thrillery</translation>
+    </message>
+    <message>
+        <source>SF</source>
+        <translation>Sci-fi</translation>
+    </message>
+    <message>
+        <source>Fantasy</source>
+        <translation>Fantasy</translation>
+    </message>
+    <message>
+        <source>Horrors</source>
+        <translation>Horory</translation>
+    </message>
+    <message>
+        <source>Go to a tab</source>
+        <translation>Přejít na kartu</translation>
+    </message>
+    <message>
+        <source>Clear, close or go back</source>
+        <translation>Vymazat, zavřít nebo zpět</translation>
+    </message>
+    <message>
+        <source>Move through a list</source>
+        <translation>Pohyb v seznamu</translation>
+    </message>
+    <message>
+        <source>Open the row</source>
+        <translation>Otevřít řádek</translation>
+    </message>
+    <message>
+        <source>Actions on the row</source>
+        <translation>Akce s řádkem</translation>
+    </message>
+    <message>
+        <source>Remove the row</source>
+        <translation>Odebrat řádek</translation>
+    </message>
+    <message>
+        <source>Move the row</source>
+        <translation>Přesunout řádek</translation>
+    </message>
+    <message>
+        <source>Show these keys</source>
+        <translation>Zobrazit tyto klávesy</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Ukončit</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Klávesy</translation>
     </message>
 </context>
 <context>

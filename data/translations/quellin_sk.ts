@@ -240,16 +240,8 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Kategórie</translation>
     </message>
     <message>
-        <source>Films, series, sport and the other kinds of shows come with a later version. See Currently for what is on now.</source>
-        <translation>Filmy, seriály, šport a ďalšie druhy relácií prinesie niektorá z ďalších verzií. Čo práve beží, nájdete na karte Práve beží.</translation>
-    </message>
-    <message>
         <source>Search</source>
         <translation>Hľadať</translation>
-    </message>
-    <message>
-        <source>Searching comes with a later version. See Currently for what is on now.</source>
-        <translation>Hľadanie prinesie niektorá z ďalších verzií. Čo práve beží, nájdete na karte Práve beží.</translation>
     </message>
     <message>
         <source>Schedule</source>
@@ -478,6 +470,198 @@ Počkajte, kým sa program načíta.</translation>
     <message>
         <source>You have to allow access to your calendars to be able to use alerts. Calendar data will only be used by the application on your device, and will not be sent to any other device or service. Go to &apos;Privacy&apos; in the &apos;Settings&apos; application.</source>
         <translation>Aby ste mohli používať upozornenia, musíte povoliť prístup k svojim kalendárom. Údaje z kalendára používa aplikácia len vo vašom zariadení a neposiela ich do žiadneho iného zariadenia ani služby. Prejdite do „Súkromia“ v aplikácii „Nastavenia“.</translation>
+    </message>
+    <message>
+        <source>Search pattern</source>
+        <translation>Hľadaný text</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Informácie</translation>
+    </message>
+    <message numerus="yes">
+        <source>Titles, descriptions and people in the shows of your %n channel(s) are searched.</source>
+        <translation>
+            <numerusform>Prehľadávajú sa názvy, popisy a osoby v reláciách vášho %n kanála.</numerusform>
+            <numerusform>Prehľadávajú sa názvy, popisy a osoby v reláciách vašich %n kanálov.</numerusform>
+            <numerusform>Prehľadávajú sa názvy, popisy a osoby v reláciách vašich %n kanálov.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What are you looking for?</source>
+        <translation>Čo hľadáte?</translation>
+    </message>
+    <message>
+        <source>Recent searches</source>
+        <translation>Nedávne hľadania</translation>
+    </message>
+    <message>
+        <source>Clear recent searches</source>
+        <translation>Vymazať nedávne hľadania</translation>
+    </message>
+    <message>
+        <source>Recent searches cleared</source>
+        <translation>Nedávne hľadania vymazané</translation>
+    </message>
+    <message numerus="yes">
+        <source>No show matches “%1” on your %n channel(s)</source>
+        <translation>
+            <numerusform>Na vašom %n kanáli žiadna relácia nezodpovedá textu „%1“</numerusform>
+            <numerusform>Na vašich %n kanáloch žiadna relácia nezodpovedá textu „%1“</numerusform>
+            <numerusform>Na vašich %n kanáloch žiadna relácia nezodpovedá textu „%1“</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only the shows of selected channels are searched.</source>
+        <translation>Prehľadávajú sa len relácie vybraných kanálov.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Poznámka</translation>
+    </message>
+    <message>
+        <source>Only selected channels will be searched.</source>
+        <translation>Prehľadajú sa len vybrané kanály.</translation>
+    </message>
+    <message>
+        <source>No list yet</source>
+        <translation>Zatiaľ bez zoznamu</translation>
+    </message>
+    <message>
+        <source>Most Watched counts the alarms and favourites of everyone who shares a cloud store with you. No such list was received yet.</source>
+        <translation>Najsledovanejšie sa počítajú z upozornení a obľúbených všetkých, ktorí s vami zdieľajú cloudové úložisko. Taký zoznam zatiaľ neprišiel.</translation>
+    </message>
+    <message>
+        <source>None today</source>
+        <translation>Dnes nič</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n show(s) today</source>
+        <translation>
+            <numerusform>Dnes %n relácia</numerusform>
+            <numerusform>Dnes %n relácie</numerusform>
+            <numerusform>Dnes %n relácií</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Most Watched</source>
+        <translation>Najsledovanejšie</translation>
+    </message>
+    <message>
+        <source>Evening Shows</source>
+        <translation>Večerné relácie</translation>
+    </message>
+    <message>
+        <source>Feature Films</source>
+        <translation>Celovečerné filmy</translation>
+    </message>
+    <message>
+        <source>TV Series</source>
+        <translation>Seriály</translation>
+    </message>
+    <message>
+        <source>Documentaries</source>
+        <translation>Dokumenty</translation>
+    </message>
+    <message>
+        <source>For Children</source>
+        <translation>Pre deti</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Spravodajstvo</translation>
+    </message>
+    <message>
+        <source>Entertainment</source>
+        <translation>Zábava</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Hudba</translation>
+    </message>
+    <message>
+        <source>Sports</source>
+        <translation>Šport</translation>
+    </message>
+    <message>
+        <source>Movies</source>
+        <translation>Filmy</translation>
+    </message>
+    <message>
+        <source>Comedies</source>
+        <translation>Komédie</translation>
+    </message>
+    <message>
+        <source>Adventure</source>
+        <translation>Dobrodružné</translation>
+    </message>
+    <message>
+        <source>Crime</source>
+        <translation>Krimi</translation>
+    </message>
+    <message>
+        <source>Westerns</source>
+        <translation>Westerny</translation>
+    </message>
+    <message>
+        <source>Dramas</source>
+        <translation>Drámy</translation>
+    </message>
+    <message>
+        <source>Thrillers</source>
+        <translation>Trilery</translation>
+    </message>
+    <message>
+        <source>SF</source>
+        <translation>Sci-fi</translation>
+    </message>
+    <message>
+        <source>Fantasy</source>
+        <translation>Fantasy</translation>
+    </message>
+    <message>
+        <source>Horrors</source>
+        <translation>Horory</translation>
+    </message>
+    <message>
+        <source>Go to a tab</source>
+        <translation>Prejsť na kartu</translation>
+    </message>
+    <message>
+        <source>Clear, close or go back</source>
+        <translation>Vymazať, zavrieť alebo späť</translation>
+    </message>
+    <message>
+        <source>Move through a list</source>
+        <translation>Pohyb v zozname</translation>
+    </message>
+    <message>
+        <source>Open the row</source>
+        <translation>Otvoriť riadok</translation>
+    </message>
+    <message>
+        <source>Actions on the row</source>
+        <translation>Akcie s riadkom</translation>
+    </message>
+    <message>
+        <source>Remove the row</source>
+        <translation>Odstrániť riadok</translation>
+    </message>
+    <message>
+        <source>Move the row</source>
+        <translation>Presunúť riadok</translation>
+    </message>
+    <message>
+        <source>Show these keys</source>
+        <translation>Zobraziť tieto klávesy</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Ukončiť</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Klávesy</translation>
     </message>
 </context>
 <context>
