@@ -1,5 +1,7 @@
 #include "platform/linux/DesktopMotion.h"
 
+#include "platform/linux/SessionBus.h"
+
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
@@ -65,12 +67,8 @@ DesktopMotion::DesktopMotion(QDBusConnection bus, const QString& service)
 }
 
 std::unique_ptr<DesktopMotion> DesktopMotion::ofSession() {
-    // Without an address libdbus would start a bus.
-    if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) {
-        return nullptr;
-    }
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    return bus.isConnected() ? std::make_unique<DesktopMotion>(bus) : nullptr;
+    const std::optional<QDBusConnection> bus = sessionBus();
+    return bus ? std::make_unique<DesktopMotion>(*bus) : nullptr;
 }
 
 void DesktopMotion::settingChanged(const QDBusMessage& change) {
