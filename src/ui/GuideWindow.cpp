@@ -7,8 +7,10 @@
 #include "ui/model/Shell.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QImage>
 #include <QInputEvent>
+#include <QLibraryInfo>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -70,6 +72,8 @@ class GuideWindow::Parts : public QQuickView {
         background();
         connect(m_theme, &Theme::colorsChanged, this, background);
         connect(this, &QWindow::visibilityChanged, this, [this] { reportVisibility(); });
+        connect(m_shell.get(), &Shell::fullScreenUpdated, this,
+                [this] { takeScreen(m_shell->fullScreen()); });
         setInitialProperties({{u"shell"_s, QVariant::fromValue(m_shell.get())}});
         setSource(QUrl(u"qrc:/qt/qml/Quellin/qml/Main.qml"_s));
     }
@@ -107,6 +111,17 @@ class GuideWindow::Parts : public QQuickView {
             m_shell->setTouching(input.deviceType() == QInputDevice::DeviceType::TouchScreen);
         }
     }
+    void takeScreen(bool whole) {
+        if (whole == (visibility() == QWindow::FullScreen)) {
+            return;
+        }
+        if (whole) {
+            m_beforeFullScreen = visibility();
+            showFullScreen();
+        } else {
+            setVisibility(m_beforeFullScreen == QWindow::Maximized ? QWindow::Maximized : QWindow::Windowed);
+        }
+    }
     void reportVisibility() {
         if (std::exchange(m_reportedVisible, seen()) != seen() && m_options.visibilityChanged) {
             m_options.visibilityChanged(seen());
@@ -119,6 +134,7 @@ class GuideWindow::Parts : public QQuickView {
     std::unique_ptr<Shell> m_shell;
     std::optional<FrameLog> m_frameLog;
     bool m_reportedVisible = false;
+    QWindow::Visibility m_beforeFullScreen = QWindow::Windowed;
 };
 
 GuideWindow::GuideWindow(TabBarController& tabBarController, GuideWindowOptions options)
@@ -130,8 +146,12 @@ bool GuideWindow::loaded() const {
     return m_parts->loaded();
 }
 
-void GuideWindow::show() {
+void GuideWindow::show(const QByteArray& activationToken) {
     m_parts->tabBarController().makeVisible();
+    if (!activationToken.isEmpty()) {
+        // Qt uses the token for the next request and removes it.
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken);
+    }
     if (!m_parts->isVisible()) {
         m_parts->show();
         return;
@@ -157,6 +177,16 @@ void GuideWindow::setMotion(bool moves) {
     if (m_parts->theme()) {
         m_parts->theme()->setMoves(moves);
     }
+}
+
+bool prepareWebPages() {
+    const bool present =
+        QFileInfo::exists(QLibraryInfo::path(QLibraryInfo::QmlImportsPath) + u"/QtWebView/qmldir"_s);
+    if (present) {
+        // What the web view draws becomes part of the window.
+        QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    }
+    return present;
 }
 
 bool GuideWindow::savePicture(const QString& path) {

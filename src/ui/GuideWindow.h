@@ -4,6 +4,7 @@
 #include "screens/kit/PictureProvider.h"
 #include "screens/kit/TabBarController.h"
 
+#include <QByteArray>
 #include <QLocale>
 #include <QSize>
 #include <QString>
@@ -45,8 +46,8 @@ class GuideWindow {
 
     /// False when the QML could not be loaded; the log says why.
     bool loaded() const;
-    /// Raises the window if it is open already.
-    void show();
+    /// Raises the window if it is open already. The desktop may want the token of the program that caused it.
+    void show(const QByteArray& activationToken = {});
     bool visible() const;
 
     void setColorScheme(std::optional<ColorScheme> scheme);
@@ -59,6 +60,10 @@ class GuideWindow {
     class Parts;
     std::unique_ptr<Parts> m_parts;
 };
+
+/// Whether the system has what draws pages of the web. To be called before the QGuiApplication is created,
+/// which it then prepares.
+bool prepareWebPages();
 
 /// Loads the texts of the device's language into the string table; English for a language without a
 /// translation. Once, on the main thread, before the first screen is made.

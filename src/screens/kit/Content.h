@@ -2,7 +2,7 @@
 
 namespace guide {
 
-enum class ContentKind { Table };
+enum class ContentKind { Table, Player, WebPage, PicturePages };
 
 /// What fills a screen below its bar. ui/ maps each kind to one page.
 class Content {

@@ -22,7 +22,7 @@ void TabBarController::setSelectedIndex(int index) {
     if (m_observer) {
         m_observer->selectedTabChanged();
     }
-    if (m_visible) {
+    if (m_visible && !m_cover) {
         left.setVisible(false);
         selectedNavigationController().setVisible(true);
     }
@@ -83,8 +83,43 @@ void TabBarController::disableTabs() {
 void TabBarController::makeVisible() {
     if (!m_visible && !m_tabs.empty()) {
         m_visible = true;
-        selectedNavigationController().setVisible(true);
+        if (m_cover) {
+            m_cover->appear();
+        } else {
+            selectedNavigationController().setVisible(true);
+        }
     }
+}
+
+void TabBarController::presentCover(std::shared_ptr<ViewController> viewController) {
+    if (viewController != m_cover) {
+        replaceCover(std::move(viewController));
+    }
+}
+
+void TabBarController::dismissCover() {
+    if (m_cover) {
+        replaceCover(nullptr);
+    }
+}
+
+void TabBarController::replaceCover(std::shared_ptr<ViewController> viewController) {
+    const std::shared_ptr<ViewController> gone = std::exchange(m_cover, std::move(viewController));
+    // A copy, because a screen that appears may present another one.
+    const std::shared_ptr<ViewController> shown = m_cover;
+    if (m_visible && shown) {
+        shown->appear();
+    }
+    if (m_observer) {
+        m_observer->coverChanged();
+    }
+    if (!m_visible) {
+        return;
+    }
+    if (gone) {
+        gone->disappear();
+    }
+    selectedNavigationController().setVisible(!m_cover);
 }
 
 void TabBarController::presentAlert(Alert alert) {

@@ -35,6 +35,8 @@ class TabBarObserver {
     virtual void alertChanged() = 0;
     /// presentedNotice() changed.
     virtual void noticeChanged() = 0;
+    /// cover() changed. The screen that it was lives until the call returns.
+    virtual void coverChanged() = 0;
 };
 
 /// The root of the screens: tabs, each with a stack of screens, and the alerts and notices over them. Main
@@ -79,6 +81,13 @@ class TabBarController {
     /// To be called when the window opens: the selected tab's screen loads and appears.
     void makeVisible();
 
+    /// Shows the screen over the whole window, in place of the one that does so already. The screens of the
+    /// tabs are not visible meanwhile.
+    void presentCover(std::shared_ptr<ViewController> viewController);
+    void dismissCover();
+    /// Null when there is none.
+    const std::shared_ptr<ViewController>& cover() const { return m_cover; }
+
     /// Shows the alert after those that are already waiting.
     void presentAlert(Alert alert);
     /// Null when there is none.
@@ -96,12 +105,14 @@ class TabBarController {
 
   private:
     void startNotice();
+    void replaceCover(std::shared_ptr<ViewController> viewController);
 
     const UserInterfaceIdiom m_idiom;
     DispatchQueue& m_mainQueue;
     std::vector<Tab> m_tabs;
     int m_selectedIndex = 0;
     bool m_visible = false;
+    std::shared_ptr<ViewController> m_cover;
     std::deque<Alert> m_alerts;
     std::deque<Notice> m_notices;
     /// Expires with the presented notice, so that its timer does not close a later one.

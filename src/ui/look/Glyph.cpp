@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace guide {
 
@@ -207,6 +208,50 @@ QPainterPath strokesOf(Glyph::Symbol symbol) {
         path.moveTo(12, 7.5);
         path.lineTo(12, 12.2);
         path.lineTo(15.2, 14.2);
+        break;
+    case Glyph::Pause:
+        addLine(path, 8.5, 5, 8.5, 19);
+        addLine(path, 15.5, 5, 15.5, 19);
+        break;
+    case Glyph::Sound:
+    case Glyph::NoSound:
+        path.moveTo(3.5, 9.5);
+        path.lineTo(7, 9.5);
+        path.lineTo(11.5, 5.5);
+        path.lineTo(11.5, 18.5);
+        path.lineTo(7, 14.5);
+        path.lineTo(3.5, 14.5);
+        path.closeSubpath();
+        if (symbol == Glyph::NoSound) {
+            addLine(path, 15.5, 9.5, 20.5, 14.5);
+            addLine(path, 20.5, 9.5, 15.5, 14.5);
+        } else {
+            addArc(path, 3.6, -40, 80);
+            addArc(path, 7.4, -42, 84);
+        }
+        break;
+    case Glyph::FullScreen:
+    case Glyph::Window: {
+        // The corners of a screen point outwards, or inwards.
+        const double tip = symbol == Glyph::FullScreen ? 4 : 9.5;
+        const double end = symbol == Glyph::FullScreen ? 9.5 : 4;
+        for (const auto& [x, y] : {std::pair(0, 0), std::pair(0, 1), std::pair(1, 0), std::pair(1, 1)}) {
+            const auto at = [](double distance, int side) { return side == 0 ? distance : kSide - distance; };
+            path.moveTo(at(end, x), at(tip, y));
+            path.lineTo(at(tip, x), at(tip, y));
+            path.lineTo(at(tip, x), at(end, y));
+        }
+        break;
+    }
+    case Glyph::Previous:
+        path.moveTo(5, 15.3);
+        path.lineTo(12, 8.5);
+        path.lineTo(19, 15.3);
+        break;
+    case Glyph::Next:
+        path.moveTo(5, 8.7);
+        path.lineTo(12, 15.5);
+        path.lineTo(19, 8.7);
         break;
     case Glyph::Play:
     case Glyph::Heart:

@@ -65,6 +65,13 @@ class Glyph : public QQuickPaintedItem {
         Past,
         Link,
         Info,
+        Pause,
+        Sound,
+        NoSound,
+        FullScreen,
+        Window,
+        Previous,
+        Next,
     };
     Q_ENUM(Symbol)
 

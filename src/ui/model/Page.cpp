@@ -28,12 +28,7 @@ Page::Page(std::shared_ptr<ViewController> viewController, const ViewController*
     , m_backTitle(below ? below->title() : QString())
     , m_canGoBack(below != nullptr)
     , m_symbol(symbol) {
-    if (auto table = std::dynamic_pointer_cast<TableViewController>(m_viewController)) {
-        m_rows = std::make_unique<TableModel>(std::move(table), theme.locale(), nullptr);
-        const auto setFonts = [this, &theme] { m_rows->setTimeFonts(theme.timeFont(), theme.endTimeFont()); };
-        setFonts();
-        connect(&theme, &Theme::fontsChanged, this, setFonts);
-    }
+    makeModel(theme);
     m_viewController->setObserver(this);
 }
 
@@ -41,7 +36,30 @@ Page::~Page() {
     m_viewController->setObserver(nullptr);
 }
 
-// The one place that knows which page draws which kind of content.
+// This function and the next are the only ones that know which page draws which kind of content.
+void Page::makeModel(Theme& theme) {
+    Content& content = m_viewController->content();
+    switch (content.kind()) {
+    case ContentKind::Table: {
+        m_rows = std::make_unique<TableModel>(std::static_pointer_cast<TableViewController>(m_viewController),
+                                              theme.locale(), nullptr);
+        const auto setFonts = [this, &theme] { m_rows->setTimeFonts(theme.timeFont(), theme.endTimeFont()); };
+        setFonts();
+        connect(&theme, &Theme::fontsChanged, this, setFonts);
+        break;
+    }
+    case ContentKind::Player:
+        m_player = std::make_unique<PlayerModel>(static_cast<PlayerContent&>(content));
+        break;
+    case ContentKind::WebPage:
+        m_webPage = std::make_unique<WebPageModel>(static_cast<WebPageContent&>(content));
+        break;
+    case ContentKind::PicturePages:
+        m_pictures = std::make_unique<PicturePagesModel>(static_cast<PicturePagesContent&>(content));
+        break;
+    }
+}
+
 QUrl Page::source() const {
     const auto page = [](QLatin1StringView name) {
         return QUrl("qrc:/qt/qml/Quellin/qml/pages/"_L1 + name + ".qml"_L1);
@@ -49,6 +67,12 @@ QUrl Page::source() const {
     switch (m_viewController->content().kind()) {
     case ContentKind::Table:
         return page("TablePage"_L1);
+    case ContentKind::Player:
+        return page("PlayerPage"_L1);
+    case ContentKind::WebPage:
+        return page("WebPage"_L1);
+    case ContentKind::PicturePages:
+        return page("PicturePages"_L1);
     }
     return {};
 }

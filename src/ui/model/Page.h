@@ -2,7 +2,10 @@
 
 #include "screens/kit/TabBarController.h"
 #include "ui/look/Theme.h"
+#include "ui/model/PicturePagesModel.h"
+#include "ui/model/PlayerModel.h"
 #include "ui/model/TableModel.h"
+#include "ui/model/WebPageModel.h"
 
 #include <QObject>
 #include <QQmlEngine>
@@ -57,6 +60,10 @@ class Page : public QObject, private ViewControllerObserver {
     Q_PROPERTY(QUrl source READ source CONSTANT)
     /// Null when the content is not a table.
     Q_PROPERTY(guide::TableModel* rows READ rows CONSTANT)
+    /// Null when the content is something else.
+    Q_PROPERTY(guide::PlayerModel* player READ player CONSTANT)
+    Q_PROPERTY(guide::WebPageModel* webPage READ webPage CONSTANT)
+    Q_PROPERTY(guide::PicturePagesModel* pictures READ pictures CONSTANT)
 
   public:
     /// `below` is the screen that it covers; null for the root.
@@ -81,6 +88,9 @@ class Page : public QObject, private ViewControllerObserver {
     int symbol() const { return static_cast<int>(m_symbol); }
     QUrl source() const;
     TableModel* rows() const { return m_rows.get(); }
+    PlayerModel* player() const { return m_player.get(); }
+    WebPageModel* webPage() const { return m_webPage.get(); }
+    PicturePagesModel* pictures() const { return m_pictures.get(); }
 
     /// On the root of a presented stack, closes it.
     Q_INVOKABLE void goBack();
@@ -99,6 +109,7 @@ class Page : public QObject, private ViewControllerObserver {
     void searchUpdated();
 
   private:
+    void makeModel(Theme& theme);
     void titleChanged() override { Q_EMIT titleUpdated(); }
     void barButtonsChanged() override { Q_EMIT buttonsUpdated(); }
     void refreshingChanged() override { Q_EMIT refreshingUpdated(); }
@@ -110,6 +121,9 @@ class Page : public QObject, private ViewControllerObserver {
     const bool m_canGoBack;
     const Symbol m_symbol;
     std::unique_ptr<TableModel> m_rows;
+    std::unique_ptr<PlayerModel> m_player;
+    std::unique_ptr<WebPageModel> m_webPage;
+    std::unique_ptr<PicturePagesModel> m_pictures;
 };
 
 } // namespace guide

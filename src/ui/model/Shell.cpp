@@ -21,7 +21,8 @@ constexpr double kSmallestTabFont = 9;
 Shell::Shell(TabBarController& tabBarController, UserInterfaceIdiom form, Theme& theme, QObject* parent)
     : QAbstractListModel(parent)
     , m_tabBarController(tabBarController)
-    , m_form(form) {
+    , m_form(form)
+    , m_theme(theme) {
     for (const TabBarController::Tab& tab : m_tabBarController.tabs()) {
         m_stacks.push_back(new PageStack(*tab.navigationController, tab.item.symbol, theme, this));
     }
@@ -149,6 +150,20 @@ void Shell::escapeAlert() {
             m_tabBarController.answerAlert(index);
             return;
         }
+    }
+}
+
+void Shell::coverChanged() {
+    Page* gone = m_cover;
+    const std::shared_ptr<ViewController>& cover = m_tabBarController.cover();
+    m_cover = cover ? new Page(cover, nullptr, Symbol::Currently, m_theme, this) : nullptr;
+    if (m_cover && m_cover->player()) {
+        connect(m_cover->player(), &PlayerModel::stateUpdated, this, &Shell::fullScreenUpdated);
+    }
+    Q_EMIT coverUpdated();
+    Q_EMIT fullScreenUpdated();
+    if (gone) {
+        gone->deleteLater();
     }
 }
 

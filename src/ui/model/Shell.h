@@ -46,6 +46,11 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     /// Empty for no button.
     Q_PROPERTY(QString noticeAction READ noticeAction NOTIFY noticeUpdated)
 
+    /// The screen over the whole window; null when there is none.
+    Q_PROPERTY(guide::Page* cover READ cover NOTIFY coverUpdated)
+    /// Whether the window takes the whole screen.
+    Q_PROPERTY(bool fullScreen READ fullScreen NOTIFY fullScreenUpdated)
+
   public:
     enum Role { TitleRole = Qt::UserRole, SymbolRole, EnabledRole, BadgeRole, StackRole };
 
@@ -67,6 +72,8 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     bool noticeShown() const { return m_tabBarController.presentedNotice() != nullptr; }
     QString noticeText() const;
     QString noticeAction() const;
+    Page* cover() const { return m_cover; }
+    bool fullScreen() const { return m_cover && m_cover->player() && m_cover->player()->fullScreen(); }
 
     /// The font of the tabs: of the system's text size, or the largest one in which every title fits into a
     /// tab of that width, on one line at the bottom and in no more lines than it has words at the side.
@@ -86,6 +93,8 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     void touchingChanged();
     void alertUpdated();
     void noticeUpdated();
+    void coverUpdated();
+    void fullScreenUpdated();
 
   private:
     QString tabTitle(const TabBarItem& item) const;
@@ -93,11 +102,14 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     void selectedTabChanged() override { Q_EMIT selectedIndexChanged(); }
     void alertChanged() override { Q_EMIT alertUpdated(); }
     void noticeChanged() override { Q_EMIT noticeUpdated(); }
+    void coverChanged() override;
 
     TabBarController& m_tabBarController;
     const UserInterfaceIdiom m_form;
     bool m_touching = false;
+    Theme& m_theme;
     std::vector<PageStack*> m_stacks;
+    Page* m_cover = nullptr;
 };
 
 } // namespace guide

@@ -90,7 +90,7 @@ FocusScope {
         anchors.fill: parent
         focus: true
         // Nothing behind an alert receives events.
-        enabled: !main.shell.alertShown
+        enabled: !main.shell.alertShown && !cover.visible
         onEnabledChanged: if (enabled)
             forceActiveFocus()
 
@@ -153,6 +153,14 @@ FocusScope {
             visible: main.shell.tablet
             shell: main.shell
         }
+    }
+
+    CoverView {
+        id: cover
+
+        anchors.fill: parent
+        shell: main.shell
+        enabled: !main.shell.alertShown
     }
 
     NoticeBar {

@@ -8,6 +8,7 @@ Item {
     property double value: 0
     property double topPadding: 0
     property color color: Theme.running
+    property color trackColor: Theme.separator
 
     readonly property bool known: value >= 0
 
@@ -20,7 +21,7 @@ Item {
         width: parent.width
         height: 4
         radius: 2
-        color: Theme.separator
+        color: line.trackColor
         clip: !line.known
 
         Rectangle {
