@@ -130,6 +130,7 @@ DemoChannel channelOf(const Row& row, int number) {
                         .films = {},
                         .sources = words(row.sources),
                         .feedId = row.key.toString() + u".demo"_s,
+                        .hasStream = number % 2 == 1,
                         .number = number};
     for (const QString& film : words(row.films)) {
         channel.films.append(u"film_"_s + film);

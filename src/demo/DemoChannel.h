@@ -29,6 +29,7 @@ struct DemoChannel {
     QStringList sources;
     /// Its id in its feed.
     QString feedId;
+    bool hasStream = false;
     /// Its position among the channels, from 1; makes its series differ from those of other channels.
     int number = 0;
 };

@@ -4,6 +4,7 @@
 #include "demo/DemoSites.h"
 #include "demo/feeds/DemoFeed.h"
 #include "demo/pages/Pictures.h"
+#include "platform/files/FileContent.h"
 #include "platform/files/FileReplacement.h"
 
 #include <QDir>
@@ -16,6 +17,8 @@ namespace guide {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr qint64 kLargestClip = 1 << 20;
 
 /// The catalogue contains the port of this run, so it must count as newer than the archive of any earlier
 /// run, whichever clock that run used.
@@ -91,6 +94,15 @@ std::unique_ptr<DemoEnvironment> DemoEnvironment::create(const QString& folder, 
     state->router.serveBelow("/pictures/", [](const ServerRequest& request) {
         return ServerReply::ok(showPicture(request.target), {"Content-Type: image/svg+xml"});
     });
+    const auto clip = fileContent(textFolder + u"/clip.ogv"_s, kLargestClip);
+    if (!clip) {
+        qWarning("demo: the clip of the streams is missing");
+        return nullptr;
+    }
+    // Without a length, like a live stream: players would seek in it.
+    const auto stream = ServerReply::raw(ServerReply::head(200, {"Content-Type: video/ogg"}) + *clip);
+    state->router.serveBelow(QByteArray(kStreams.data(), kStreams.size()),
+                             [stream](const ServerRequest&) { return stream; });
     DemoSites::open(state->router, siteChannels(generator, clock), [&clock] { return clock.now(); });
 
     std::unique_ptr<DemoEnvironment> environment(new DemoEnvironment(std::move(state)));

@@ -26,6 +26,9 @@ void writeChannel(QXmlStreamWriter& xml, const DemoChannel& channel, const QStri
     writePair(xml, u"Title"_s, channel.title);
     writePair(xml, u"Language"_s, channel.language);
     writePair(xml, u"Icon"_s, channel.region + u'/' + channel.key);
+    if (channel.hasStream) {
+        writePair(xml, u"Stream"_s, base + kStreams + channel.key + u".ogv"_s);
+    }
     for (qsizetype i = 0; i < channel.sources.size(); ++i) {
         writePair(xml, u"Location%1"_s.arg(i + 1), sourceOnServer(channel.sources[i], base));
     }

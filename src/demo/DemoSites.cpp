@@ -40,6 +40,11 @@ bool isPayCode(const QString& sourceId) {
     return sourceId.startsWith(u'_') && !isFreeCode(sourceId);
 }
 
+/// The archive has no schedules: it serves the broadcasts of one channel that has another source.
+bool isArchive(const QString& sourceId) {
+    return sourceId == "r.domov.vyhled.demo"_L1;
+}
+
 const std::vector<Site>& sites() {
     static const std::vector<Site> all{
         {"/port"_L1, "PortHost"_L1, isNumber, portNetworkPage, "application/json"},
@@ -64,6 +69,7 @@ const std::vector<Site>& sites() {
          [](const QString& id) { return id.startsWith("cinestar."_L1); },
          cinestarPage,
          kHTML},
+        {"/archive"_L1, "HRTHost"_L1, isArchive, archivePage, kHTML},
     };
     return all;
 }
@@ -87,8 +93,9 @@ struct OpenSite {
 } // namespace
 
 bool DemoSites::serves(const QString& sourceId) {
-    return std::any_of(sites().begin(), sites().end(),
-                       [&sourceId](const Site& site) { return site.serves(sourceId); });
+    return std::any_of(sites().begin(), sites().end(), [&sourceId](const Site& site) {
+        return site.serves(sourceId) && !isArchive(sourceId);
+    });
 }
 
 std::map<QString, QString> DemoSites::hosts(const QString& base) {

@@ -99,6 +99,26 @@ TEST_F(DemoEnvironmentTest, ServesEverySourceOfEveryChannel) {
     }
 }
 
+TEST_F(DemoEnvironmentTest, ServesStreamsAndAnArchive) {
+    const auto rows = rowsOfPropertyList(environment->cataloguePath());
+    ASSERT_TRUE(rows);
+    int streams = 0;
+    for (const CatalogueRow& row : *rows) {
+        if (row.channel.stream) {
+            ++streams;
+            EXPECT_TRUE(fetch(*row.channel.stream).body.startsWith("OggS"));
+        }
+    }
+    EXPECT_GT(streams, 10);
+    EXPECT_LT(streams, int(rows->size())) << "some channels have none";
+
+    const QString archive = environment->serverBase() + u"/archive/enz/"_s;
+    const QString index = QString::fromUtf8(fetch(archive).body);
+    const QString show = index.section(u"<a class=\"title\" href=\""_s, 1, 1).section(u'"', 0, 0);
+    EXPECT_TRUE(fetch(archive + show).body.contains("<option value=\"../watch/"));
+    EXPECT_EQ(fetch(archive + u"show/unknown"_s).status, 404);
+}
+
 TEST_F(DemoEnvironmentTest, SelectsTwelveOfItsChannelsEachWithAnIcon) {
     const auto rows = rowsOfPropertyList(environment->cataloguePath());
     ASSERT_TRUE(rows);

@@ -23,5 +23,7 @@ std::optional<QByteArray> hboPage(const SiteRequest& request);
 std::optional<QByteArray> primaMaxPage(const SiteRequest& request);
 std::optional<QByteArray> novaPage(const SiteRequest& request);
 std::optional<QByteArray> cinestarPage(const SiteRequest& request);
+/// The archive of past broadcasts, with those of all its channels.
+std::optional<QByteArray> archivePage(const SiteRequest& request);
 
 } // namespace guide
