@@ -663,6 +663,78 @@ Počkejte, až se program načte.</translation>
         <source>Keys</source>
         <translation>Klávesy</translation>
     </message>
+    <message>
+        <source>This is not the address of a stream.</source>
+        <translation>Toto není adresa vysílání.</translation>
+    </message>
+    <message>
+        <source>Streaming of this video is currently unavailable or your Internet connection speed is not adequate.</source>
+        <translation>Vysílání tohoto videa nyní není k dispozici nebo rychlost vašeho připojení k internetu nestačí.</translation>
+    </message>
+    <message>
+        <source>This device cannot decode the stream. Installing %1 may help.</source>
+        <translation>Toto zařízení vysílání nedokáže dekódovat. Může pomoci instalace %1.</translation>
+    </message>
+    <message>
+        <source>This is not the address of a show.</source>
+        <translation>Toto není adresa pořadu.</translation>
+    </message>
+    <message>
+        <source>This show is over, or not on your channels.</source>
+        <translation>Tento pořad už skončil nebo není na vašich kanálech.</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Hlasitost</translation>
+    </message>
+    <message>
+        <source>Pictures cannot be drawn: the package %1 is missing.</source>
+        <translation>Obraz nelze kreslit: chybí balíček %1.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pozastavit</translation>
+    </message>
+    <message>
+        <source>Previous channel</source>
+        <translation>Předchozí kanál</translation>
+    </message>
+    <message>
+        <source>Next channel</source>
+        <translation>Další kanál</translation>
+    </message>
+    <message>
+        <source>Sound on</source>
+        <translation>Zapnout zvuk</translation>
+    </message>
+    <message>
+        <source>Sound off</source>
+        <translation>Vypnout zvuk</translation>
+    </message>
+    <message>
+        <source>Leave full screen</source>
+        <translation>Ukončit celou obrazovku</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Celá obrazovka</translation>
+    </message>
+    <message>
+        <source>Picture %1 of %2</source>
+        <translation>Obrázek %1 z %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 z %2</translation>
+    </message>
+    <message>
+        <source>Previous picture</source>
+        <translation>Předchozí obrázek</translation>
+    </message>
+    <message>
+        <source>Next picture</source>
+        <translation>Další obrázek</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

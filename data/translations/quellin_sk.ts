@@ -663,6 +663,78 @@ Počkajte, kým sa program načíta.</translation>
         <source>Keys</source>
         <translation>Klávesy</translation>
     </message>
+    <message>
+        <source>This is not the address of a stream.</source>
+        <translation>Toto nie je adresa vysielania.</translation>
+    </message>
+    <message>
+        <source>Streaming of this video is currently unavailable or your Internet connection speed is not adequate.</source>
+        <translation>Vysielanie tohto videa teraz nie je k dispozícii alebo rýchlosť vášho pripojenia k internetu nestačí.</translation>
+    </message>
+    <message>
+        <source>This device cannot decode the stream. Installing %1 may help.</source>
+        <translation>Toto zariadenie vysielanie nedokáže dekódovať. Môže pomôcť inštalácia %1.</translation>
+    </message>
+    <message>
+        <source>This is not the address of a show.</source>
+        <translation>Toto nie je adresa relácie.</translation>
+    </message>
+    <message>
+        <source>This show is over, or not on your channels.</source>
+        <translation>Táto relácia sa už skončila alebo nie je na vašich kanáloch.</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Hlasitosť</translation>
+    </message>
+    <message>
+        <source>Pictures cannot be drawn: the package %1 is missing.</source>
+        <translation>Obraz sa nedá kresliť: chýba balíček %1.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pozastaviť</translation>
+    </message>
+    <message>
+        <source>Previous channel</source>
+        <translation>Predchádzajúci kanál</translation>
+    </message>
+    <message>
+        <source>Next channel</source>
+        <translation>Ďalší kanál</translation>
+    </message>
+    <message>
+        <source>Sound on</source>
+        <translation>Zapnúť zvuk</translation>
+    </message>
+    <message>
+        <source>Sound off</source>
+        <translation>Vypnúť zvuk</translation>
+    </message>
+    <message>
+        <source>Leave full screen</source>
+        <translation>Ukončiť celú obrazovku</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Celá obrazovka</translation>
+    </message>
+    <message>
+        <source>Picture %1 of %2</source>
+        <translation>Obrázok %1 z %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 z %2</translation>
+    </message>
+    <message>
+        <source>Previous picture</source>
+        <translation>Predchádzajúci obrázok</translation>
+    </message>
+    <message>
+        <source>Next picture</source>
+        <translation>Ďalší obrázok</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

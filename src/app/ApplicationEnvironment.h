@@ -8,8 +8,11 @@
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
 #include "platform/Device.h"
+#include "platform/IdleInhibition.h"
 #include "platform/KeyValueStore.h"
 #include "platform/LifeCycle.h"
+#include "platform/MediaPlayer.h"
+#include "platform/MediaSession.h"
 #include "platform/NetworkWatch.h"
 #include "platform/UserDefaults.h"
 #include "platform/files/Folders.h"
@@ -47,6 +50,11 @@ struct ApplicationEnvironment {
     NetworkWatch* networkWatch = nullptr;
     AudioSession& audioSession;
     Clipboard& clipboard;
+    /// Null on a device that plays no streams: they are opened like pages of the web.
+    MediaPlayers* mediaPlayers = nullptr;
+    /// Null where there is none.
+    MediaSession* mediaSession = nullptr;
+    IdleInhibition* idleInhibition = nullptr;
     Promotion& promotion;
 
     SourceHostTable hosts;
@@ -69,6 +77,10 @@ struct ApplicationEnvironment {
     std::function<void(int count)> applicationIconBadgeNumber;
     /// Opens an http or https URL in the user's default program. Main queue. May be empty.
     std::function<void(const QUrl& url)> openExternally;
+    /// Whether the window draws pages of the web; otherwise they are opened externally.
+    bool drawsWebPages = false;
+    /// Brings the window to the front. May be empty.
+    std::function<void()> raiseWindow = {};
 };
 
 } // namespace guide

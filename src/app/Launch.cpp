@@ -183,6 +183,9 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
                 if (m_screens) {
                     m_screens->offerTopShows(TopShows(top.begin(), top.end()));
                 }
+                if (m_playback) {
+                    m_playback->reloadShows();
+                }
             },
         .loadsEnded =
             [this](const LoadResults& results) {
@@ -243,7 +246,7 @@ void QuellinGuideAppDelegate::makeScreens() {
     m_recordedShows = std::make_unique<RecordedShowsLookup>(
         m_environment.queues, m_environment.hosts,
         networkPageSource(*m_fetcher, *m_userAgent, kRecordedShowsTimeout));
-    m_tabBarController = makeGuideTabs(std::make_shared<const ScreenEnvironment>(ScreenEnvironment{
+    m_screenEnvironment = std::make_shared<const ScreenEnvironment>(ScreenEnvironment{
         .clock = m_environment.clock,
         .device = m_environment.device,
         .mainQueue = m_environment.queues.mainQueue(),
@@ -279,8 +282,21 @@ void QuellinGuideAppDelegate::makeScreens() {
                                      [this](Alert alert) { presentAlert(std::move(alert)); }},
                                     entry);
             },
-    }));
+    });
+    m_tabBarController = makeGuideTabs(m_screenEnvironment);
     m_screens = std::make_unique<ScreenBroadcast>(*m_tabBarController, m_environment.applicationState);
+    if (m_environment.mediaPlayers) {
+        m_playback = std::make_unique<Playback>(Playback::Surroundings{
+            .screens = m_screenEnvironment,
+            .tabs = *m_tabBarController,
+            .players = *m_environment.mediaPlayers,
+            .session = m_environment.mediaSession,
+            .idleInhibition = m_environment.idleInhibition,
+            .userDefaults = m_environment.userDefaults,
+            .alertAnswered = [this] { m_remoteHostAlert->restartSilence(); },
+            .raise = m_environment.raiseWindow,
+        });
+    }
 }
 
 void QuellinGuideAppDelegate::setup() {

@@ -4,6 +4,13 @@
 
 namespace guide {
 
+namespace {
+
+/// Gives the device time to have put the program into the background.
+constexpr std::chrono::milliseconds kBeforePlayingOn{100};
+
+} // namespace
+
 void QuellinGuideAppDelegate::applicationDidBecomeActive() {
     m_remoteHostAlert->restartSilence();
     detectAlphabet();
@@ -11,6 +18,9 @@ void QuellinGuideAppDelegate::applicationDidBecomeActive() {
     m_environment.promotion.prepareInterstitialWhenDue();
     m_cloud.cloudDidChangeExternally();
     m_screens->applicationDidBecomeActive();
+    if (m_playback) {
+        m_playback->reloadShows();
+    }
     m_alarms.syncAlarms();
     checkAndUpdateAllChannels();
     m_retries->setActive(true);
@@ -21,6 +31,11 @@ void QuellinGuideAppDelegate::applicationSignificantTimeChange() {
 }
 
 void QuellinGuideAppDelegate::applicationDidEnterBackground() {
+    m_environment.queues.mainQueue().asyncAfter(kBeforePlayingOn, [this, alive = std::weak_ptr(m_alive)] {
+        if (!alive.expired() && m_playback) {
+            m_playback->play();
+        }
+    });
     m_retries->setActive(false);
     m_alarms.commit();
     m_environment.userDefaults.synchronize();

@@ -1,6 +1,7 @@
 #include "app/PictureTour.h"
 
 #include "screens/Localized.h"
+#include "screens/kit/PlayerContent.h"
 
 #include <algorithm>
 #include <array>
@@ -24,6 +25,10 @@ bool isChannel(const Row& row) {
 }
 bool isShow(const Row& row) {
     return row.kind() == RowKind::Show;
+}
+bool hasStream(const Row& row) {
+    const auto* channel = std::get_if<ChannelRow>(&row.content);
+    return channel && channel->accessory == Accessory::Play;
 }
 
 bool isText(const Row& row) {
@@ -62,6 +67,10 @@ constexpr std::array kStops{
     Stop{"favourites", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Edit")); }},
     Stop{"title", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }},
     Stop{"favourites-removed", [](PictureTour& tour) { return tour.back() && tour.send(Deleted{}, isText); }},
+    Stop{"player",
+         [](PictureTour& tour) {
+             return tour.selectTab(Symbol::Currently) && tour.send(AccessoryTapped{}, hasStream);
+         }},
 };
 
 } // namespace
@@ -84,6 +93,9 @@ bool PictureTour::selectTab(Symbol symbol) {
     const auto tab = std::ranges::find(tabs, symbol, [](const auto& each) { return each.item.symbol; });
     if (tab == tabs.end() || !tab->item.enabled) {
         return false;
+    }
+    if (PlayerContent* shown = player()) {
+        shown->leave();
     }
     tab->navigationController->popToRoot();
     m_tabs.setSelectedIndex(static_cast<int>(tab - tabs.begin()));
@@ -199,11 +211,21 @@ ViewController& PictureTour::top() const {
                                     : stack.topViewController());
 }
 
+PlayerContent* PictureTour::player() const {
+    const std::shared_ptr<ViewController>& cover = m_tabs.cover();
+    return cover && cover->content().kind() == ContentKind::Player
+               ? &static_cast<PlayerContent&>(cover->content())
+               : nullptr;
+}
+
 TableViewController* PictureTour::table() const {
     return dynamic_cast<TableViewController*>(&top());
 }
 
 bool PictureTour::loaded() const {
+    if (const PlayerContent* shown = player()) {
+        return !shown->state().waiting;
+    }
     const TableViewController* screen = table();
     if (top().progress() || top().refreshing()) {
         return false;

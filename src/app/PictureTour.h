@@ -12,6 +12,8 @@
 
 namespace guide {
 
+class PlayerContent;
+
 /// Opens every screen, one after the other, and saves a picture of each in both colour schemes. Main thread.
 class PictureTour {
   public:
@@ -42,6 +44,8 @@ class PictureTour {
     void later(int milliseconds, void (PictureTour::*next)());
     ViewController& top() const;
     /// Null when the screen is not a table.
+    /// Null unless the player covers the window.
+    PlayerContent* player() const;
     TableViewController* table() const;
     bool loaded() const;
 

@@ -2,7 +2,6 @@
 
 #include "screens/Localized.h"
 #include "screens/shell/GuideTabs.h"
-#include "sources/WebURL.h"
 
 #include <QDateTime>
 
@@ -34,13 +33,9 @@ void QuellinGuideAppDelegate::updateBadge() {
                                       count == 0 ? QString() : QString::number(count));
 }
 
-void QuellinGuideAppDelegate::playURL(const QUrl& url) {
-    openWebPage(url, {});
-}
-
-void QuellinGuideAppDelegate::openWebPage(const QUrl& url, const QString& /*title*/) {
-    if (isWebURL(url) && m_environment.openExternally) {
-        m_environment.openExternally(url);
+void QuellinGuideAppDelegate::moviePlayerPlaybackDidFinish() {
+    if (m_playback) {
+        m_playback->moviePlayerPlaybackDidFinish();
     }
 }
 
@@ -101,6 +96,7 @@ bool QuellinGuideAppDelegate::shutDown(std::chrono::milliseconds atMost) {
         m_environment.networkWatch->watch(nullptr);
     }
     m_retries.reset();
+    m_playback.reset();
     m_screens.reset();
     m_tabBarController.reset();
     m_isShuttingDown = true;

@@ -7,6 +7,7 @@
 #include "app/InterruptibleWait.h"
 #include "app/LoadRetries.h"
 #include "app/NullServices.h"
+#include "app/Playback.h"
 #include "app/RecordedShowsLookup.h"
 #include "app/ShowPictureLoader.h"
 #include "app/UpdateCycle.h"
@@ -33,6 +34,7 @@
 #include <atomic>
 #include <chrono>
 #include <memory>
+#include <vector>
 
 namespace guide {
 
@@ -73,6 +75,9 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void applicationDidReceiveMemoryWarning() override;
     void applicationSignificantTimeChange() override;
 
+    /// Opens the show with this address of the application's scheme; says so when there is none.
+    void openURL(const QString& address);
+
     void checkAndUpdateAllChannels() override;
     /// Shows the number of pending alarms on the application's icon and on the schedule tab.
     void updateBadge();
@@ -93,14 +98,17 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     // AppNavigation
     void playURL(const QUrl& url) override;
     void openWebPage(const QUrl& url, const QString& title) override;
-    void showPictures(const std::vector<QUrl>&) override {}
     void presentAlert(Alert alert) override;
     void presentNotice(Notice notice) override;
     void selectTab(Symbol tab) override;
+    void showPictures(const std::vector<QUrl>& urls) override;
+
+    void openShow(const ShowItem& show);
+    void sayShowIsGone();
 
     // AlertPresenter
     void presentAlert(const QString& title, const QString& message, Block okPressed) override;
-    void moviePlayerPlaybackDidFinish() override {}
+    void moviePlayerPlaybackDidFinish() override;
 
     // The steps of the launch.
     void makeSources();
@@ -170,8 +178,11 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     std::unique_ptr<ShowPictureLoader> m_pictures;
     std::unique_ptr<GuidePictures> m_guidePictures;
     std::unique_ptr<RecordedShowsLookup> m_recordedShows;
+    std::shared_ptr<const ScreenEnvironment> m_screenEnvironment;
     std::unique_ptr<TabBarController> m_tabBarController;
     std::unique_ptr<ScreenBroadcast> m_screens;
+    /// Null on a device that plays no streams.
+    std::unique_ptr<Playback> m_playback;
 };
 
 } // namespace guide

@@ -2,12 +2,14 @@
 
 #include "app/CommandLine.h"
 #include "app/DeviceWatch.h"
+#include "app/InstanceRequest.h"
 #include "app/LaunchFiles.h"
 #include "app/PictureTour.h"
 #include "app/QuellinGuideAppDelegate.h"
 #include "app/WindowState.h"
 #include "demo/DemoEnvironment.h"
 #include "platform/files/FileReplacement.h"
+#include "platform/linux/ApplicationService.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/DesktopMotion.h"
 #include "platform/linux/EventLoopQueues.h"
@@ -21,6 +23,9 @@
 #include "platform/linux/LinuxDevice.h"
 #include "platform/linux/LinuxFolders.h"
 #include "platform/linux/LinuxNetworkWatch.h"
+#include "platform/linux/MprisSession.h"
+#include "platform/linux/QtMediaPlayer.h"
+#include "platform/linux/SessionIdleInhibition.h"
 #include "platform/linux/SettingsUserDefaults.h"
 #include "platform/linux/TerminationSignals.h"
 #include "ui/GuideWindow.h"
@@ -52,7 +57,13 @@ int refuse(const QString& why) {
     return 1;
 }
 
-int run(LaunchOptions options) {
+/// The token with which the desktop lets the window of this start come to the front.
+QByteArray activationToken() {
+    const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
+    return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
+}
+
+int run(LaunchOptions options, bool drawsWebPages) {
     if (options.screenshots && !preparePictureFolder(*options.screenshots)) {
         return refuse(u"no pictures can be saved in %1"_s.arg(*options.screenshots));
     }
@@ -78,7 +89,7 @@ int run(LaunchOptions options) {
         // A guide that already runs can show its window for this one, but not save its pictures.
         std::optional<QByteArray> request;
         if (!options.screenshots) {
-            request = options.url.value_or(QString()).toUtf8();
+            request = lineOf({options.url.value_or(QString()), activationToken()});
         }
         instance.emplace(folders->documents, folders->runtime, request);
         if (instance->outcome() == InstanceLock::Outcome::HandedOver) {
@@ -128,8 +139,13 @@ int run(LaunchOptions options) {
     LinuxNetworkWatch networkWatch;
     LinuxAudioSession audioSession;
     LinuxClipboard clipboard;
+    QtMediaPlayers mediaPlayers(queues.mainQueue());
+    // Pictures of the screens are the same whatever the desktop does.
+    const auto mediaSession = options.screenshots ? nullptr : MprisSession::ofSession(queues.mainQueue());
+    const auto idleInhibition = options.screenshots ? nullptr : SessionIdleInhibition::ofSession();
     Promotion promotion;
 
+    GuideWindow* shown = nullptr;
     QuellinGuideAppDelegate delegate({
         .clock = clock,
         .device = device,
@@ -145,6 +161,9 @@ int run(LaunchOptions options) {
         .networkWatch = &networkWatch,
         .audioSession = audioSession,
         .clipboard = clipboard,
+        .mediaPlayers = &mediaPlayers,
+        .mediaSession = mediaSession.get(),
+        .idleInhibition = idleInhibition.get(),
         .promotion = promotion,
         .hosts = files->hosts,
         .random = [](unsigned bound) { return QRandomGenerator::system()->bounded(bound); },
@@ -156,6 +175,13 @@ int run(LaunchOptions options) {
         .networkActivityIndicator = {},
         .applicationIconBadgeNumber = {},
         .openExternally = [](const QUrl& url) { QDesktopServices::openUrl(url); },
+        .drawsWebPages = drawsWebPages,
+        .raiseWindow =
+            [&shown] {
+                if (shown) {
+                    shown->show();
+                }
+            },
     });
 
     installTranslations(device.locale());
@@ -206,10 +232,30 @@ int run(LaunchOptions options) {
             }
         });
     }
+    shown = window.get();
     window->show();
+    const auto open = [&](const QString& address, const QByteArray& token) {
+        window->show(token);
+        if (!address.isEmpty()) {
+            delegate.openURL(address);
+        }
+    };
+    if (options.url) {
+        delegate.openURL(*options.url);
+    }
     if (instance) {
         instance->listen(std::shared_ptr<DispatchQueue>(std::shared_ptr<void>(), &queues.mainQueue()),
-                         [&](const QByteArray&) { window->show(); });
+                         [&](const QByteArray& line) {
+                             const InstanceRequest request = requestIn(line);
+                             open(request.url, request.activationToken);
+                         });
+    }
+    // Of several guides the desktop knows the first one, and none that only tries something out.
+    std::unique_ptr<ApplicationService> service;
+    if (!trial) {
+        service = ApplicationService::ofSession(
+            queues.mainQueue(),
+            [&](const QStringList& addresses, const QByteArray& token) { open(addresses.value(0), token); });
     }
 
     DeviceWatch deviceWatch(clock, device, state, delegate);
@@ -226,6 +272,7 @@ int run(LaunchOptions options) {
     }
     const int status = QGuiApplication::exec();
 
+    service.reset();
     // A guide started from here on runs by itself instead of handing its request to this one.
     if (instance) {
         instance->stopListening();
@@ -235,6 +282,7 @@ int run(LaunchOptions options) {
     }
     delegate.applicationWillTerminate();
     tour.reset();
+    shown = nullptr;
     window.reset();
     const bool ended = delegate.shutDown(kTimeToEnd);
     queues.shutDown();
@@ -260,10 +308,11 @@ int main(int argc, char** argv) {
         return text->exitStatus;
     }
     const GlobalLibraries libraries;
+    const bool drawsWebPages = prepareWebPages();
     int ownArguments = 1;
     const QGuiApplication application(ownArguments, argv);
     QGuiApplication::setApplicationName(QStringLiteral("quellin-guide"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Quellin Guide"));
     QGuiApplication::setDesktopFileName(QStringLiteral("quellin-guide"));
-    return run(std::get<LaunchOptions>(std::move(parsed)));
+    return run(std::get<LaunchOptions>(std::move(parsed)), drawsWebPages);
 }

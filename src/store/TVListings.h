@@ -117,8 +117,8 @@ class TVListings {
     /// Shows that contain the pattern in one of their texts, ignoring case and diacritics. The block runs on
     /// the global user-initiated queue.
     void showsContainingPattern(const QString& pattern, ShowsBlock highPriorityBlock);
-    /// The show with this digest URL. The block is not called when there is none.
-    void showWithURL(const QUrl& url, MainBlock<ShowItem> mainBlock);
+    /// The show with this digest URL. The block is not called when there is none; then `notFound` is.
+    void showWithURL(const QUrl& url, MainBlock<ShowItem> mainBlock, MainBlock<> notFound = {[] {}});
     void favoritesScheduleWithPriority(QueuePriority priority, MainBlock<ShowSpan> mainBlock);
     /// The block runs on the access queue and must not wait for the store.
     void favoritesScheduleWithBlock(ShowsBlock block);

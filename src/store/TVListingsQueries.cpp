@@ -121,16 +121,18 @@ void TVListings::showsContainingPattern(const QString& pattern, ShowsBlock highP
                            });
 }
 
-void TVListings::showWithURL(const QUrl& url, MainBlock<ShowItem> mainBlock) {
-    m_state->queryAllShows(QueuePriority::UserInitiated, [url, mainBlock = std::move(mainBlock)](
-                                                             State& state, const AllShows& all) mutable {
-        if (std::optional<ShowItem> show = guide::showWithURL(all, url, state.environment.scheme)) {
-            mainBlock.post(state.mainQueue(), *std::move(show));
-            return;
-        }
-        // What the block captured is released on the main queue even if the block is not called.
-        state.mainQueue().async([unused = std::move(mainBlock)] {});
-    });
+void TVListings::showWithURL(const QUrl& url, MainBlock<ShowItem> mainBlock, MainBlock<> notFound) {
+    m_state->queryAllShows(
+        QueuePriority::UserInitiated, [url, mainBlock = std::move(mainBlock), notFound = std::move(notFound)](
+                                          State& state, const AllShows& all) mutable {
+            if (std::optional<ShowItem> show = guide::showWithURL(all, url, state.environment.scheme)) {
+                mainBlock.post(state.mainQueue(), *std::move(show));
+                return;
+            }
+            // What the block captured is released on the main queue even if the block is not called.
+            state.mainQueue().async([unused = std::move(mainBlock)] {});
+            notFound.post(state.mainQueue());
+        });
 }
 
 void TVListings::favoritesScheduleWithPriority(QueuePriority priority, MainBlock<ShowSpan> mainBlock) {
