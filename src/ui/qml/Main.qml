@@ -68,7 +68,8 @@ FocusScope {
             Shortcut {
                 sequence: shortcut.modelData.sequence
                 autoRepeat: false
-                enabled: !main.shell.alertShown || shortcut.modelData.action === KeyTable.Quit
+                enabled: !main.shell.alertShown && !cover.visible
+                         || shortcut.modelData.action === KeyTable.Quit
                 onActivated: main.perform(shortcut.modelData.action, shortcut.modelData.number)
             }
         }
@@ -76,6 +77,7 @@ FocusScope {
 
     TapHandler {
         acceptedButtons: Qt.BackButton
+        enabled: !cover.visible
         onTapped: main.perform(KeyTable.Back, 0)
     }
 
