@@ -78,8 +78,9 @@ std::vector<Section> firstScreen(const std::vector<Section>& sections) {
             break;
         }
         first.push_back(section);
-        first.back().rows.resize(std::min<std::size_t>(section.rows.size(), static_cast<std::size_t>(left)));
-        left -= static_cast<int>(first.back().rows.size());
+        std::vector<Row>& rows = first.back().rows;
+        rows.erase(rows.begin() + std::min(left, static_cast<int>(rows.size())), rows.end());
+        left -= static_cast<int>(rows.size());
     }
     return first;
 }
