@@ -1,6 +1,7 @@
 // Scrolls through 10,000 rows and measures the main thread's work for a frame, up to the point where the
 // scene graph has taken over the changes; drawing itself is not counted. The floor is a list of plain texts.
 
+#include "WindowMeasure.h"
 #include "platform/queues/ThreadedQueues.h"
 #include "screens/kit/TabBarController.h"
 #include "screens/kit/TableViewController.h"
@@ -10,12 +11,10 @@
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
-#include <QQuickItem>
 #include <QQuickView>
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <vector>
 
 namespace guide::bench {
@@ -29,11 +28,6 @@ constexpr int kSections = 100;
 constexpr int kFrames = 1'500;
 /// A fast flick: most of a row per frame.
 constexpr double kStep = 45;
-
-[[noreturn]] void fail(const char* why) {
-    std::fprintf(stderr, "%s\n", why);
-    std::exit(1);
-}
 
 class Shows final : public TableViewController {
   public:
@@ -58,49 +52,14 @@ class Shows final : public TableViewController {
     }
 };
 
-QQuickItem* listIn(QQuickItem* item) {
-    if (item->objectName() == "rows"_L1) {
-        return item;
-    }
-    for (QQuickItem* child : item->childItems()) {
-        if (QQuickItem* found = listIn(child)) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
-/// The CPU time of this thread, so that waiting for the next frame does not count; nanoseconds.
-qint64 threadTime() {
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
-}
-
 /// The 99th percentile of the main thread's work per frame, in milliseconds.
 double scroll(QQuickWindow& window, QQuickItem& list) {
-    qint64 synchronized = 0;
-    qint64 swapped = 0;
-    const auto context = std::make_unique<QObject>();
-    QObject::connect(
-        &window, &QQuickWindow::afterSynchronizing, context.get(), [&] { synchronized = threadTime(); },
-        Qt::DirectConnection);
-    QObject::connect(
-        &window, &QQuickWindow::frameSwapped, context.get(), [&] { swapped = threadTime(); },
-        Qt::DirectConnection);
     std::vector<double> work;
     double y = 0;
     for (int frame = 0; frame < kFrames; ++frame) {
-        synchronized = swapped = 0;
-        const qint64 begin = threadTime();
         y += kStep;
-        list.setProperty("contentY", y);
-        window.update();
-        while (swapped == 0) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        }
-        const qint64 end = threadTime();
-        work.push_back(static_cast<double>(end - begin - (swapped - synchronized)) / 1e6);
+        const FrameTimes times = drawFrame(window, [&] { list.setProperty("contentY", y); });
+        work.push_back(static_cast<double>(times.work) / 1e6);
     }
     if (list.property("contentY").toDouble() < y - 1) {
         fail("the list did not scroll");
@@ -118,12 +77,12 @@ double scrollGuide() {
         fail("the window cannot be drawn");
     }
     guide.show();
-    auto* window = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().constFirst());
-    QQuickItem* list = listIn(window->contentItem());
+    QQuickWindow& window = openedWindow();
+    QQuickItem* list = listIn(window.contentItem());
     if (!list || list->property("count").toInt() != kRows) {
         fail("not all rows are in the list");
     }
-    const double time = scroll(*window, *list);
+    const double time = scroll(window, *list);
     QQuickItem* top = nullptr;
     QMetaObject::invokeMethod(list, "itemAt", Q_RETURN_ARG(QQuickItem*, top), Q_ARG(double, 10.0),
                               Q_ARG(double, list->property("contentY").toDouble() + 1));
@@ -158,10 +117,7 @@ double scrollTexts() {
 
 int main(int argc, char** argv) {
     using namespace guide::bench;
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    prepareWindows();
     const QGuiApplication application(argc, argv);
     const double floor = scrollTexts();
     const double guide = scrollGuide();
