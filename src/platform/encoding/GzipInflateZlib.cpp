@@ -57,17 +57,17 @@ GzipEnd inflateWithZlib(QByteArrayView data, GzipOutput& output) {
         }
         const bool inputEnded = left == 0 && stream.avail_in == 0;
         if (outcome == Z_STREAM_END) {
-            const QByteArrayView rest = data.last(static_cast<qsizetype>(left + stream.avail_in));
+            const QByteArrayView rest =
+                data.last(static_cast<qsizetype>(left) + static_cast<qsizetype>(stream.avail_in));
             if (!hasGzipSignature(rest) || inflateReset(&stream) != Z_OK) {
                 return GzipEnd::Complete;
             }
-        } else if (outcome == Z_BUF_ERROR && inputEnded && anything) {
+        } else if ((outcome == Z_BUF_ERROR && inputEnded && anything) ||
+                   (outcome == Z_OK && inputEnded && stream.avail_out > 0)) {
             return GzipEnd::CutShort;
         } else if (outcome != Z_OK) {
             qInfo("inflate: ret != Z_OK %d", outcome);
             return GzipEnd::Damaged;
-        } else if (inputEnded && stream.avail_out > 0) {
-            return GzipEnd::CutShort;
         }
     }
 }
