@@ -2,14 +2,12 @@
 // bare query and the drawing of one screen of rows.
 
 #include "GeneratedShows.h"
+#include "WindowMeasure.h"
 #include "screens/ScreenWorld.h"
 #include "screens/search/SearchViewController.h"
 #include "store/AllShows.h"
 #include "store/SearchText.h"
 #include "ui/GuideWindow.h"
-
-#include <QGuiApplication>
-#include <QQuickWindow>
 
 #include <algorithm>
 #include <cstdio>
@@ -25,27 +23,11 @@ constexpr int kRounds = 15;
 /// More than a window shows.
 constexpr int kRowsOfAScreen = 16;
 
-[[noreturn]] void fail(const char* why) {
-    std::fprintf(stderr, "%s\n", why);
-    std::exit(1);
-}
-
 /// The CPU time of the process in milliseconds: what other programs do does not count.
 double processTime() {
     timespec time{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
     return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
-}
-
-void draw(QQuickWindow& window) {
-    bool drawn = false;
-    const auto context = std::make_unique<QObject>();
-    QObject::connect(
-        &window, &QQuickWindow::frameSwapped, context.get(), [&] { drawn = true; }, Qt::DirectConnection);
-    window.update();
-    while (!drawn) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
 }
 
 /// The median time of the step for each text, added up.
@@ -79,7 +61,7 @@ std::vector<Section> firstScreen(const std::vector<Section>& sections) {
         }
         first.push_back(section);
         std::vector<Row>& rows = first.back().rows;
-        rows.erase(rows.begin() + std::min(left, static_cast<int>(rows.size())), rows.end());
+        rows.erase(rows.begin() + std::min<std::ptrdiff_t>(std::ssize(rows), left), rows.end());
         left -= static_cast<int>(rows.size());
     }
     return first;
@@ -116,7 +98,7 @@ int measure() {
     constexpr int kSearchTab = 2;
     world.tabs->setSelectedIndex(kSearchTab);
     guide.show();
-    auto* window = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().constFirst());
+    QQuickWindow& window = openedWindow();
     auto& search = dynamic_cast<SearchViewController&>(world.top());
 
     // As the user types a frequent and a rare word.
@@ -132,7 +114,7 @@ int measure() {
     const double guideTime = timeOf(texts, [&](const QString& text) {
         search.editSearchText(text);
         world.queues.runAll();
-        draw(*window);
+        drawFrame(window, [] {});
         if (screens.size() < static_cast<std::size_t>(texts.size())) {
             screens.push_back(firstScreen(search.table().sections()));
         }
@@ -147,13 +129,13 @@ int measure() {
     auto plain = std::make_shared<PlainScreen>();
     world.tabs->selectedNavigationController().push(plain);
     world.queues.runAll();
-    draw(*window);
+    drawFrame(window, [] {});
     const double floorTime = timeOf(texts, [&](const QString& text) {
         if (all.showsContaining(searchPattern(text), kNow, kMostShows).size() > kMostShows) {
             fail("the query has no limit");
         }
         plain->table().setSections(screens[static_cast<std::size_t>(texts.indexOf(text))]);
-        draw(*window);
+        drawFrame(window, [] {});
     });
     std::printf(
         "{\"row\": \"key stroke to search results, 80,080 shows\", \"unit\": \"ms\", \"guide\": %.2f, "
@@ -166,10 +148,7 @@ int measure() {
 } // namespace guide::bench
 
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    guide::bench::prepareWindows();
     const QGuiApplication application(argc, argv);
     return guide::bench::measure();
 }
