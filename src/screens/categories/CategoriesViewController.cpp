@@ -21,21 +21,8 @@ struct CategoriesViewController::Category {
 
 namespace {
 
-/// A genre as its tile opens it.
-constexpr TVListingsCategory films(TVListingsCategory genre) {
-    return genre | TVListingsCategoryMovies;
-}
-
 RowId rowIdOf(TVListingsCategory selector) {
     return {u"categories"_s, QString::number(selector, 16)};
-}
-
-/// Of a genre of films the genre's own.
-QString titleOf(TVListingsCategory selector) {
-    const bool isGenre = (selector & TVListingsCategoryFilmGenres) != 0 &&
-                         (selector & ~TVListingsCategoryFilmGenres) == TVListingsCategoryMovies &&
-                         selector != TVListingsCategoryAllFilm;
-    return categoryTitle(isGenre ? selector & TVListingsCategoryFilmGenres : selector);
 }
 
 } // namespace
@@ -63,17 +50,18 @@ std::span<const CategoriesViewController::Category> CategoriesViewController::ca
         Category{TVListingsCategoryMusic, Symbol::Music, 290},
         Category{TVListingsCategorySports, Symbol::Sports, 120},
     };
+    // Together with the bit of films a genre would list every film.
     static constexpr std::array kFilms{
         Category{TVListingsCategoryAllFilm, Symbol::Films, 8},
-        Category{films(TVListingsCategoryComedies), Symbol::Comedies, 46},
-        Category{films(TVListingsCategoryAdventure), Symbol::Adventure, 95},
-        Category{films(TVListingsCategoryCrime), Symbol::Crime, 215},
-        Category{films(TVListingsCategoryWesterns), Symbol::Westerns, 28},
-        Category{films(TVListingsCategoryDramas), Symbol::Dramas, 335},
-        Category{films(TVListingsCategoryThrillers), Symbol::Thrillers, 0},
-        Category{films(TVListingsCategorySF), Symbol::ScienceFiction, 190},
-        Category{films(TVListingsCategoryFantasy), Symbol::Fantasy, 285},
-        Category{films(TVListingsCategoryHorrors), Symbol::Horrors, 255},
+        Category{TVListingsCategoryComedies, Symbol::Comedies, 46},
+        Category{TVListingsCategoryAdventure, Symbol::Adventure, 95},
+        Category{TVListingsCategoryCrime, Symbol::Crime, 215},
+        Category{TVListingsCategoryWesterns, Symbol::Westerns, 28},
+        Category{TVListingsCategoryDramas, Symbol::Dramas, 335},
+        Category{TVListingsCategoryThrillers, Symbol::Thrillers, 0},
+        Category{TVListingsCategorySF, Symbol::ScienceFiction, 190},
+        Category{TVListingsCategoryFantasy, Symbol::Fantasy, 285},
+        Category{TVListingsCategoryHorrors, Symbol::Horrors, 255},
     };
     if (!isTopLevel()) {
         return kFilms;
@@ -126,7 +114,7 @@ void CategoriesViewController::reloadTable() {
     for (std::size_t place = 0; place < shown.size(); ++place) {
         const Category& category = shown[place];
         const bool allFilms = !isTopLevel() && category.selector == TVListingsCategoryAllFilm;
-        TileRow tile{.title = allFilms ? Localized::tr("All") : titleOf(category.selector),
+        TileRow tile{.title = allFilms ? Localized::tr("All") : categoryTitle(category.selector),
                      .symbol = category.symbol,
                      .hue = category.hue};
         if (category.selector == TVListingsCategoryMostWatched && !hasPopular) {
