@@ -8,6 +8,7 @@
 #include <future>
 #include <gtest/gtest.h>
 #include <thread>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -38,13 +39,13 @@ class CurlHTTPClientTest : public testing::Test {
     }
     TransferResult get(const QString& path = u"/"_s) { return client.perform(request(path)); }
     /// The result of the request when the server replies like this.
-    TransferResult result(const ScriptedReply& reply, const HTTPRequest& httpRequest) {
+    TransferResult result(const ScriptedReply& reply, const HTTPRequest& httpRequest,
+                          const TakePiece& takePiece = {}) {
         server.reply(reply);
-        return client.perform(httpRequest);
+        return client.perform(httpRequest, takePiece);
     }
     TransferResult inPieces(const ScriptedReply& reply, const HTTPRequest& httpRequest) {
-        server.reply(reply);
-        return client.perform(httpRequest, collect);
+        return result(reply, httpRequest, collect);
     }
 
     static std::unique_ptr<GlobalLibraries> libraries;
@@ -62,13 +63,12 @@ class CurlHTTPClientTest : public testing::Test {
 std::unique_ptr<GlobalLibraries> CurlHTTPClientTest::libraries;
 
 TEST_F(CurlHTTPClientTest, ReturnsResponses) {
-    struct Case {
+    const struct {
         const char* name;
         ScriptedReply reply;
         int status;
         QByteArray body;
-    };
-    const std::vector<Case> cases{
+    } cases[] = {
         {"found", ScriptedReply::ok("page", {"X-Kind: test"}), 200, "page"},
         {"not found, with a body", ScriptedReply::answer(404, "sorry", {"X-Kind: test"}), 404, "sorry"},
         {"redirects are not followed",
@@ -84,7 +84,7 @@ TEST_F(CurlHTTPClientTest, ReturnsResponses) {
                             ScriptedReply::head(200, {"x-kind:  test ", "Content-Length: 4"}) + "page"),
          200, "page"},
     };
-    for (const Case& each : cases) {
+    for (const auto& each : cases) {
         SCOPED_TRACE(each.name);
         const TransferResult found = result(each.reply, request());
         ASSERT_TRUE(found.response);
@@ -93,17 +93,12 @@ TEST_F(CurlHTTPClientTest, ReturnsResponses) {
         EXPECT_EQ(found.response->header("X-Kind"), QByteArray("test"));
         EXPECT_EQ(found.body, each.body);
     }
-    EXPECT_EQ(server.requests().size(), cases.size());
+    EXPECT_EQ(server.requests().size(), std::size(cases));
 }
 
 TEST_F(CurlHTTPClientTest, IncompleteTransfersAreErrorsWithoutABody) {
     const QByteArray promised = ScriptedReply::head(200, {"Content-Length: 100"});
-    struct Case {
-        const char* name;
-        ScriptedReply reply;
-        bool response;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<const char*, ScriptedReply, bool> cases[] = {
         {"closed without a response", ScriptedReply{}, false},
         {"reset without a response", ScriptedReply::raw("", End::Reset), false},
         {"not HTTP", ScriptedReply::raw("SSH-2.0-Server\r\n\r\n"), false},
@@ -119,10 +114,10 @@ TEST_F(CurlHTTPClientTest, IncompleteTransfersAreErrorsWithoutABody) {
     };
     HTTPRequest httpRequest = request();
     httpRequest.timeout = 60ms;
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.name);
-        const TransferResult found = result(each.reply, httpRequest);
-        EXPECT_EQ(found.response.has_value(), each.response);
+    for (const auto& [name, reply, response] : cases) {
+        SCOPED_TRACE(name);
+        const TransferResult found = result(reply, httpRequest);
+        EXPECT_EQ(found.response.has_value(), response);
         EXPECT_TRUE(found.body.isEmpty());
         ASSERT_TRUE(found.error);
         EXPECT_FALSE(found.error->description.isEmpty() || found.error->cancelled);
@@ -222,12 +217,7 @@ TEST(NetworkRoutesTest, ADefaultRouteIsANetwork) {
     const QByteArray head =
         "Iface\tDestination\tGateway\tFlags\tRefCnt\tUse\tMetric\tMask\tMTU\tWindow\tIRTT\n";
     const QByteArray zeros(32, '0');
-    const struct {
-        const char* name;
-        QByteArray routes;
-        QByteArray ipv6Routes;
-        bool network;
-    } rows[] = {
+    const std::tuple<const char*, QByteArray, QByteArray, bool> rows[] = {
         {"nothing", "", "", false},
         {"default route", head + "eth0\t00000000\t010200C0\t0003\t0\t0\t0\t00000000\t0\t0\t0\n", "", true},
         {"only a local network", head + "docker0\t000011AC\t00000000\t0001\t0\t0\t0\t0000FFFF\t0\t0\t0\n", "",
@@ -239,8 +229,8 @@ TEST(NetworkRoutesTest, ADefaultRouteIsANetwork) {
         {"unreachable IPv6 route", head,
          zeros + " 00 " + zeros + " 00 " + zeros + " ffffffff 00000001 00000000 00200200       lo\n", false},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(hasDefaultRoute(row.routes, row.ipv6Routes), row.network) << row.name;
+    for (const auto& [name, routes, ipv6Routes, network] : rows) {
+        EXPECT_EQ(hasDefaultRoute(routes, ipv6Routes), network) << name;
     }
 }
 
@@ -297,14 +287,12 @@ TEST_F(CurlHTTPClientTest, DeliversBodiesInPieces) {
     const QByteArray half = ScriptedReply::head(200, {"Content-Length: 10"}) + "half";
     ScriptedReply slow = ScriptedReply::raw(ScriptedReply::head(200, {"Content-Length: 4"}) + "pa");
     slow.then("ge", 20ms);
-    struct Case {
+    const struct {
         const char* name;
         ScriptedReply reply;
-        QByteArray pieces;
-        QByteArray body;
+        QByteArray pieces, body;
         bool error;
-    };
-    const std::vector<Case> cases{
+    } cases[] = {
         {"with a pause", slow, "page", "", false},
         {"with a content encoding", ScriptedReply::ok(gzipped(page), {"Content-Encoding: gzip"}), page, "",
          false},
@@ -314,7 +302,7 @@ TEST_F(CurlHTTPClientTest, DeliversBodiesInPieces) {
     };
     HTTPRequest httpRequest = request();
     httpRequest.headers = {{"Accept-Encoding", "gzip"}};
-    for (const Case& each : cases) {
+    for (const auto& each : cases) {
         pieces.clear();
         const TransferResult found = inPieces(each.reply, httpRequest);
         EXPECT_EQ(pieces, each.pieces) << each.name;

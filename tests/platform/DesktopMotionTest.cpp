@@ -38,8 +38,7 @@ struct Desktop {
 
 struct Setting {
     const char* name;
-    QString space;
-    QString key;
+    QString space, key;
     QVariant less;
     QVariant more;
 };

@@ -13,6 +13,7 @@
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
+#include <tuple>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -152,40 +153,33 @@ TEST(FileReplacementTest, ContentReachesTheDiskBeforeItsName) {
 }
 
 TEST(FileReplacementTest, ABatchReplacesAllFilesOrKeepsTheOldOnes) {
-    struct Row {
-        const char* name;
-        int count;
-        bool flushFails;
-        bool commits;
-    };
-    const Row rows[] = {{"few", 3, false, true},
-                        {"many", 40, false, true},
-                        {"few, flushing fails", 3, true, true},
-                        {"many, flushing fails", 40, true, true},
-                        {"discarded", 40, false, false}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    const std::tuple<const char*, int, bool, bool> rows[] = {{"few", 3, false, true},
+                                                             {"many", 40, false, true},
+                                                             {"few, flushing fails", 3, true, true},
+                                                             {"many, flushing fails", 40, true, true},
+                                                             {"discarded", 40, false, false}};
+    for (const auto& [name, count, flushFails, commits] : rows) {
+        SCOPED_TRACE(name);
         const QTemporaryDir folder;
-        for (int i = 0; i < row.count; ++i) {
+        for (int i = 0; i < count; ++i) {
             ASSERT_TRUE(replaceFile(folder.filePath(QString::number(i)), "old"));
         }
         {
             ReplacementBatch batch(folder.path());
-            for (int i = 0; i < row.count; ++i) {
+            for (int i = 0; i < count; ++i) {
                 ASSERT_TRUE(batch.add(QString::number(i), "new"));
             }
             const FileSizeLimit limit(4096);
             EXPECT_FALSE(batch.add(u"0"_s, QByteArray(10'000, 'n')));
-            failFlush = row.flushFails;
-            if (row.commits) {
-                EXPECT_EQ(batch.commit(), std::vector<bool>(std::size_t(row.count), !row.flushFails));
+            failFlush = flushFails;
+            if (commits) {
+                EXPECT_EQ(batch.commit(), std::vector<bool>(std::size_t(count), !flushFails));
             }
             failFlush = false;
         }
-        EXPECT_EQ(namesIn(folder).size(), row.count) << "no temporary file is left";
-        for (int i = 0; i < row.count; ++i) {
-            EXPECT_EQ(contentOf(folder.filePath(QString::number(i))),
-                      row.commits && !row.flushFails ? "new" : "old");
+        EXPECT_EQ(namesIn(folder).size(), count) << "no temporary file is left";
+        for (int i = 0; i < count; ++i) {
+            EXPECT_EQ(contentOf(folder.filePath(QString::number(i))), commits && !flushFails ? "new" : "old");
         }
     }
 }

@@ -3,6 +3,7 @@
 #include "platform/memory/ManualClock.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -36,13 +37,7 @@ TEST_F(ResponseCacheTest, StoresCompleteSuccessfulResponsesToGet) {
     failed.error = TransferError{u"cut"_s, {}, {}, false};
     TransferResult silent;
     silent.body = "body";
-    struct Case {
-        const char* name;
-        HTTPRequest request;
-        TransferResult result;
-        bool taken;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<const char*, HTTPRequest, TransferResult, bool> cases[] = {
         {"200", requestFor(u"a"_s), answer(200), true},
         {"299", requestFor(u"b"_s), answer(299), true},
         {"partial content", requestFor(u"c"_s), answer(206), false},
@@ -52,13 +47,13 @@ TEST_F(ResponseCacheTest, StoresCompleteSuccessfulResponsesToGet) {
         {"with an error", requestFor(u"g"_s), failed, false},
         {"without a response", requestFor(u"h"_s), silent, false},
     };
-    for (const Case& each : cases) {
-        cache.store(each.request, each.result);
-        const std::optional<TransferResult> cached = cache.cachedResponse(each.request);
-        EXPECT_EQ(cached.has_value(), each.taken) << each.name;
+    for (const auto& [name, request, result, taken] : cases) {
+        cache.store(request, result);
+        const std::optional<TransferResult> cached = cache.cachedResponse(request);
+        EXPECT_EQ(cached.has_value(), taken) << name;
         if (cached) {
-            EXPECT_EQ(cached->body, "body") << each.name;
-            EXPECT_EQ(cached->response->header("content-type"), QByteArray("text/html")) << each.name;
+            EXPECT_EQ(cached->body, "body") << name;
+            EXPECT_EQ(cached->response->header("content-type"), QByteArray("text/html")) << name;
         }
     }
     HTTPRequest other = requestFor(u"a#part"_s);
