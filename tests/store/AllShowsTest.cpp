@@ -1,9 +1,12 @@
 #include "store/AllShows.h"
 
 #include "TestShows.h"
+#include "store/ChannelList.h"
+#include "store/ShownEnds.h"
 #include "text/search/FoldedText.h"
 
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <random>
 
 namespace guide::test {
@@ -170,12 +173,11 @@ TEST(AllShowsTest, UnusedStatesAreNotKept) {
 }
 
 TEST(ChannelListTest, FindsTheShowsThatAreNotOver) {
-    struct Row {
+    const struct {
         const char* name;
         std::vector<std::pair<int, int>> shows; // start and end
         Titles notOver;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"empty", {}, {}},
         {"none over", {{0, 1}, {1, 2}}, {"0", "1"}},
         {"ends now", {{-2, -1}, {-1, 0}, {0, 1}}, {"1", "2"}},
@@ -185,7 +187,7 @@ TEST(ChannelListTest, FindsTheShowsThatAreNotOver) {
         {"ends before it starts, so the next one ends it", {{-4, -1}, {-2, -9}, {1, 2}}, {"1", "2"}},
         {"many over", {{-9, -8}, {-8, -7}, {-7, -6}, {-6, -5}, {-5, -4}, {-4, -3}, {-3, -2}, {-2, 1}}, {"7"}},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         ShowItems shows;
         for (const auto& [start, end] : row.shows) {
@@ -200,6 +202,45 @@ TEST(ChannelListTest, FindsTheShowsThatAreNotOver) {
             EXPECT_EQ(list->countNotOver(kNow, limit), expected.size()) << limit;
         }
     }
+}
+
+TEST(ShownEndsTest, WrongEndsAreReplacedByTheNextStart) {
+    constexpr int kWeek = 7 * 1440;
+    const struct {
+        int start;
+        std::optional<int> end, shown;
+    } shows[] = {
+        {-1'000'000, 1'000'000, {}},  // the next start is too late as well
+        {0, 100, 100},                // overlapping is not wrong
+        {10, 5, 20},                  // backwards
+        {10, 9, 20},                  // starts together with the one before
+        {20, 20, 20},                 // empty
+        {30, 30 + kWeek, 30 + kWeek}, // the longest
+        {40, 41 + kWeek, 50},         // too long
+        {50, {}, {}},
+        {60, 59, {}}, // none follows
+    };
+    const Alphabet alphabet;
+    const auto at = [](const std::optional<int>& minute) {
+        return minute ? std::optional(Moment(std::chrono::minutes(*minute))) : std::nullopt;
+    };
+    ShowItems items;
+    for (const auto& show : shows) {
+        auto entry = std::make_shared<TVEntry>(alphabet);
+        entry->setDateTime(at(show.start));
+        entry->setEndDateTime(at(show.end));
+        items.emplace_back(std::move(entry));
+    }
+    const ShownEnds ends(items);
+    for (std::size_t show = 0; show < items.size(); ++show) {
+        EXPECT_EQ(ends.endOf(*items[show].entry()), at(shows[show].shown)) << shows[show].start;
+    }
+    EXPECT_TRUE(ends.overAt(*items[2].entry(), *at(21)));
+    EXPECT_FALSE(ends.overAt(*items[8].entry(), *at(10'000))) << "nobody knows";
+
+    const ChannelList list(std::make_shared<const ShowItems>(items));
+    EXPECT_EQ(list.endOf(2), at(20)) << "so that queries find it while it is running";
+    EXPECT_EQ(list.endOf(8), at(59)) << "unknown: its own";
 }
 
 } // namespace

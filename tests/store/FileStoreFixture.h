@@ -24,11 +24,7 @@ struct FileStoreFixture : StoreFixture {
     }
 
     void writeFile(const ObjectId& of, const std::vector<TestShow>& shows) const {
-        ShowItems items;
-        for (const TestShow& show : shows) {
-            items.push_back(item(show));
-        }
-        ASSERT_TRUE(replaceFile(listingsFile(of), archivedShows(items)));
+        ASSERT_TRUE(replaceFile(listingsFile(of), archivedShows(items(shows))));
     }
     /// The titles in the channel's file; nothing when there is no readable file.
     std::optional<Titles> fileTitles(const ObjectId& of) const {

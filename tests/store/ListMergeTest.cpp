@@ -18,15 +18,14 @@ std::vector<ExtendedTVEntry> parsed(const Shows& shows) {
 }
 
 TEST(ListMergeTest, SortsAndCuts) {
-    struct Row {
+    using enum MergeOutcome;
+    const struct {
         const char* name;
         MergeOutcome outcome;
         Titles expected;
         Shows shows;
         ListingsType type = ListingsType::XMLTV;
-    };
-    using enum MergeOutcome;
-    const Row rows[] = {
+    } rows[] = {
         {"nothing", Empty, Titles{}, Shows{}},
         {"no start", Empty, Titles{}, Shows{{{}, hour(9), u"A"_s}}},
         {"sorted", Stored, Titles{"A", "B"}, Shows{show(2, 3, u"B"_s), show(1, 2, u"A"_s)}},
@@ -49,7 +48,7 @@ TEST(ListMergeTest, SortsAndCuts) {
         {"no ends", OnlyPast, Titles{}, Shows{{hour(-3), {}, u"A"_s}, {hour(-2), {}, u"B"_s}},
          ListingsType::Palinsesto},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         const MergedList merged = mergedList(parsed(row.shows), u"cs"_s, kNow, row.type);
         EXPECT_EQ(merged.outcome, row.outcome);
@@ -72,46 +71,26 @@ TEST(ListMergeTest, MissingEndsAreTakenFromTheNextStart) {
 }
 
 TEST(ListMergeTest, IncompletePagesKeepTheStoredRest) {
-    const std::vector<TestShow> stored{{hour(-2), hour(-1), u"old"_s},
-                                       {hour(0), hour(1), u"a"_s},
-                                       {hour(1), hour(2), u"b"_s},
-                                       {hour(2), hour(4), u"c"_s},
-                                       {hour(4), hour(5), u"d"_s}};
-    ShowItems storedItems;
-    for (const TestShow& show : stored) {
-        storedItems.push_back(item(show));
-    }
-    const auto list = std::make_shared<const ShowItems>(std::move(storedItems));
-    struct Row {
-        const char* name;
-        std::vector<TestShow> shows;
-        ListingsType type;
-        Titles expected;
-        Moment lastEnd;
-    };
+    const auto list = std::make_shared<const ShowItems>(
+        items({show(-2, -1, u"old"_s), show(0, 1, u"a"_s), show(1, 2, u"b"_s), show(2, 4, u"c"_s),
+               show(4, 5, u"d"_s)}));
     using enum ListingsType;
-    const Row rows[] = {
-        {"the rest is kept",
-         {{hour(0), hour(1), u"A"_s}, {hour(1), hour(3), u"B"_s}},
-         XMLTV,
-         {"A", "B", "c", "d"},
+    const std::tuple<const char*, Shows, ListingsType, Titles, Moment> rows[] = {
+        {"the rest is kept", Shows{show(0, 1, u"A"_s), show(1, 3, u"B"_s)}, XMLTV, Titles{"A", "B", "c", "d"},
          hour(3)},
-        {"starts in between", {{hour(3), hour(4), u"C"_s}}, XMLTV, {"C", "d"}, hour(4)},
-        {"the show that is on is not repeated",
-         {{hour(-3), hour(1), u"Z"_s}, {hour(-2), hour(-1), u"Y"_s}},
-         XMLTV,
-         {"Z", "Y", "a", "b", "c", "d"},
-         hour(-1)},
-        {"longer than the stored list", {{hour(8), hour(9), u"E"_s}}, XMLTV, {"E"}, hour(9)},
-        {"an end that was guessed", {{hour(1), {}, u"B"_s}}, Palinsesto, {"B", "c", "d"}, hour(2)},
-        {"only past shows", {{hour(-2), hour(-1), u"X"_s}}, XMLTV, {}, {}},
+        {"starts in between", Shows{show(3, 4, u"C"_s)}, XMLTV, Titles{"C", "d"}, hour(4)},
+        {"the show that is on is not repeated", Shows{show(-3, 1, u"Z"_s), show(-2, -1, u"Y"_s)}, XMLTV,
+         Titles{"Z", "Y", "a", "b", "c", "d"}, hour(-1)},
+        {"longer than the stored list", Shows{show(8, 9, u"E"_s)}, XMLTV, Titles{"E"}, hour(9)},
+        {"an end that was guessed", Shows{{hour(1), {}, u"B"_s}}, Palinsesto, Titles{"B", "c", "d"}, hour(2)},
+        {"only past shows", Shows{show(-2, -1, u"X"_s)}, XMLTV, Titles{}, {}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const MergedList merged = mergedList(parsed(row.shows), u"cs"_s, kNow, row.type, list);
-        EXPECT_EQ(merged.list ? titles(*merged.list) : Titles(), row.expected);
+    for (const auto& [name, shows, type, expected, lastEnd] : rows) {
+        SCOPED_TRACE(name);
+        const MergedList merged = mergedList(parsed(shows), u"cs"_s, kNow, type, list);
+        EXPECT_EQ(merged.list ? titles(*merged.list) : Titles(), expected);
         if (merged.list) {
-            EXPECT_EQ((*merged.list)[row.shows.size() - 1].entry()->endDateTime(), row.lastEnd);
+            EXPECT_EQ((*merged.list)[shows.size() - 1].entry()->endDateTime(), lastEnd);
         }
     }
 }

@@ -7,12 +7,7 @@ namespace guide::test {
 namespace {
 
 AllShows allOf(const std::vector<TestShow>& shows) {
-    ShowItems items;
-    for (const TestShow& show : shows) {
-        items.push_back(item(show));
-    }
-    const auto list =
-        std::make_shared<const ChannelList>(std::make_shared<const ShowItems>(std::move(items)));
+    const auto list = std::make_shared<const ChannelList>(std::make_shared<const ShowItems>(items(shows)));
     return AllShows({list}, Moment::min());
 }
 

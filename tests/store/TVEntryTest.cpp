@@ -7,17 +7,17 @@
 #include <QCryptographicHash>
 
 #include <thread>
+#include <tuple>
 
 namespace guide::test {
 namespace {
 
 TEST(TVEntryTest, DigestCoversChannelStartAndTitle) {
-    struct Row {
+    const struct {
         const char* name;
         std::optional<Moment> start;
         QByteArray seconds; // what the start becomes in the buffer
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"the reference date", moment("2001-01-01T00:00:00Z"), QByteArray::fromHex("00000000")},
         {"no start", std::nullopt, QByteArray::fromHex("00000000")},
         {"just below a half", moment("2001-01-01T00:00:01.499Z"), QByteArray::fromHex("00000001")},
@@ -26,7 +26,7 @@ TEST(TVEntryTest, DigestCoversChannelStartAndTitle) {
          QByteArray::fromHex("fffffffe")},
         {"big-endian", moment("2025-12-31T18:30:00Z"), QByteArray::fromHex("2f05a328")},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         const QByteArray buffer = channel(0xabc).data() + row.seconds + "Pošta"_ba;
         const QByteArray digest = QCryptographicHash::hash(buffer, QCryptographicHash::Md5).toHex();
@@ -122,11 +122,7 @@ TEST(TVEntryTest, OneChannelUsesItsSubtitlesAsTitles) {
 
 TEST(TVEntryTest, FullInstantDetailsJoinsTheSetParts) {
     using Text = std::optional<QString>;
-    struct Row {
-        const char* name;
-        Text details, subtitle, description, expected;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, Text, Text, Text, Text> rows[] = {
         {"nothing", {}, {}, {}, {}},
         {"details alone", u"Drama"_s, {}, {}, u"Drama"_s},
         {"details empty", u""_s, {}, {}, u""_s},
@@ -136,14 +132,14 @@ TEST(TVEntryTest, FullInstantDetailsJoinsTheSetParts) {
         {"empty subtitle", u"Drama"_s, u""_s, u"He comes."_s, u"Drama, He comes."_s},
         {"description alone", {}, u""_s, u"He comes."_s, u"He comes."_s},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, details, subtitle, description, expected] : rows) {
+        SCOPED_TRACE(name);
         TVEntry entry(latinAlphabet());
-        entry.setInstantDetails1(row.details);
-        entry.setSubtitle1(row.subtitle);
-        entry.setInstantDescription1(row.description);
-        EXPECT_EQ(entry.fullInstantDetails(), row.expected);
-        EXPECT_EQ(entry.fullInstantDetails(), row.expected);
+        entry.setInstantDetails1(details);
+        entry.setSubtitle1(subtitle);
+        entry.setInstantDescription1(description);
+        EXPECT_EQ(entry.fullInstantDetails(), expected);
+        EXPECT_EQ(entry.fullInstantDetails(), expected);
         entry.setSubtitle1(u"Other"_s);
         EXPECT_TRUE(entry.fullInstantDetails()->contains(u"Other"_s));
     }

@@ -81,15 +81,11 @@ TEST_F(TVListingsTest, FirstReadCutsEndedShowsAndUnloadsEmptyChannels) {
 
 TEST_F(TVListingsTest, FilesAreDeletedOnlyWhenTheyAreLongOver) {
     const auto day = [](int days) { return kNow + std::chrono::days(days); };
-    struct Row {
+    const struct {
         const char* name;
-        int now;
-        int lastEnd;
-        int loaded;
-        int otherLoaded;
+        int now, lastEnd, loaded, otherLoaded;
         bool kept;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"over for 14 days", 14, 0, -7, 14, true},
         {"for longer, as another load shows", 15, 0, -7, 15, false},
         {"the other load was long ago", 15, 0, -7, 13, true},
@@ -99,7 +95,7 @@ TEST_F(TVListingsTest, FilesAreDeletedOnlyWhenTheyAreLongOver) {
         {"which no longer helps to keep files", 30, 0, -7, 15, false},
         {"the clock is behind", -365, 7, 0, 0, true},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         clock.set(day(row.now));
         world.writeFile(channel(1), {{day(row.lastEnd) - std::chrono::hours(2), day(row.lastEnd), u"A"_s},

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace guide::test {
@@ -60,6 +61,14 @@ inline ExtendedTVEntry extended(const TestShow& show) {
 
 inline ShowItem item(const TestShow& show) {
     return ShowItem(extended(show));
+}
+
+inline ShowItems items(const std::vector<TestShow>& shows) {
+    ShowItems result;
+    for (const TestShow& show : shows) {
+        result.push_back(item(show));
+    }
+    return result;
 }
 
 /// The source titles, in order.
