@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -33,12 +34,11 @@ QString titlesOf(const std::vector<CatalogueRow>& rows) {
 }
 
 TEST(ChannelFilterTest, KeepsSupportedPairsWithAnIcon) {
-    struct Row {
+    const struct {
         const char* name;
         CatalogueRow channel;
         bool kept;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"home pair", channel(kA, u"x"_s, u"cs"_s, u"Czech/a"_s), true},
         {"last pair", channel(kA, u"x"_s, u"sk"_s, u"Slovak/a"_s), true},
         {"two languages", channel(kA, u"x"_s, u"cs/sk"_s, u"Other/a"_s), true},
@@ -48,9 +48,9 @@ TEST(ChannelFilterTest, KeepsSupportedPairsWithAnIcon) {
         {"no icon image", channel(kA, u"x"_s, u"cs"_s, u"Czech/absent"_s), false},
     };
     const auto hasIcon = [](const QString& name) { return name == u"a"_s || name == u"sub/a"_s; };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(filteredChannels({row.channel}, installedTypes(), hasIcon).size(), row.kept ? 1u : 0u);
+    for (const auto& row : rows) {
+        EXPECT_EQ(filteredChannels({row.channel}, installedTypes(), hasIcon).size(), row.kept ? 1u : 0u)
+            << row.name;
     }
     EXPECT_TRUE(filteredChannels({rows[0].channel}, SupportedChannelTypes(), hasIcon).empty());
 }
@@ -63,12 +63,7 @@ TEST(ChannelFilterTest, KeepsTheBetterVersionOfAChannel) {
         return channel(id, title, language, u"Other/a"_s);
     };
     using Channels = std::vector<CatalogueRow>;
-    struct Row {
-        const char* name;
-        Channels channels;
-        QString titles;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, Channels, QString> rows[] = {
         {"home first", {czech(kA, u"home"_s), other(kA, u"other"_s)}, u"home"_s},
         {"home last moves to the end",
          Channels{other(kA, u"other"_s), czech(kB, u"b"_s), czech(kA, u"home"_s), czech(kC, u"c"_s)},
@@ -83,11 +78,10 @@ TEST(ChannelFilterTest, KeepsTheBetterVersionOfAChannel) {
         {"the same identity in another case",
          Channels{czech(kA, u"first"_s), czech(kA.toUpper(), u"second"_s)}, u"first"_s},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto result =
-            filteredChannels(row.channels, installedTypes(), [](const QString&) { return true; });
-        EXPECT_EQ(titlesOf(result), row.titles);
+    for (const auto& [name, channels, titles] : rows) {
+        SCOPED_TRACE(name);
+        const auto result = filteredChannels(channels, installedTypes(), [](const QString&) { return true; });
+        EXPECT_EQ(titlesOf(result), titles);
     }
 }
 

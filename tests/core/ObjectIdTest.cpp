@@ -1,6 +1,7 @@
 #include "core/ObjectId.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -8,13 +9,8 @@ namespace {
 using namespace Qt::StringLiterals;
 
 TEST(ObjectIdTest, ReadsHexadecimalPairs) {
-    struct Row {
-        const char* name;
-        QString hex;
-        QString expected;
-    };
     const QString zero(24, u'0');
-    const Row rows[] = {
+    const std::tuple<const char*, QString, QString> rows[] = {
         {"digits of both cases", u"58F4ded60befe78cb336a80C"_s, u"58f4ded60befe78cb336a80c"_s},
         {"one character too few", u"58f4ded60befe78cb336a80"_s, zero},
         {"one character too many", u"58f4ded60befe78cb336a80c0"_s, zero},
@@ -26,9 +22,8 @@ TEST(ObjectIdTest, ReadsHexadecimalPairs) {
         {"a sign", u"-1f4ded60befe78cb336a80c"_s, u"00f4ded60befe78cb336a80c"_s},
         {"a prefix", u"0xf4ded60befe78cb336a80c"_s, u"00f4ded60befe78cb336a80c"_s},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(ObjectId::fromHex(row.hex).hex(), row.expected);
+    for (const auto& [name, hex, expected] : rows) {
+        EXPECT_EQ(ObjectId::fromHex(hex).hex(), expected) << name;
     }
 }
 

@@ -6,6 +6,7 @@
 #include <QBuffer>
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -34,13 +35,7 @@ QByteArray svg(const QByteArray& content) {
 }
 
 TEST(PictureDecoding, MakesPicturesSmallerAndNeverLarger) {
-    const struct {
-        const char* name;
-        QSize own;
-        QSizeF most;
-        double scale;
-        QSize expected;
-    } cases[] = {
+    const std::tuple<const char*, QSize, QSizeF, double, QSize> cases[] = {
         {"limited by width", {400, 200}, {100, 100}, 1, {100, 50}},
         {"very tall: limited by height", {100, 1000}, {120, 120}, 1, {12, 120}},
         {"small", {50, 40}, {120, 120}, 1, {50, 40}},
@@ -48,8 +43,8 @@ TEST(PictureDecoding, MakesPicturesSmallerAndNeverLarger) {
         {"scaled for the screen", {1000, 500}, {120, 120}, 2, {240, 120}},
         {"a line", {10'000, 1}, {100, 100}, 1, {100, 1}},
     };
-    for (const auto& each : cases) {
-        EXPECT_EQ(scaledPictureSize(each.own, each.most, each.scale), each.expected) << each.name;
+    for (const auto& [name, own, most, scale, expected] : cases) {
+        EXPECT_EQ(scaledPictureSize(own, most, scale), expected) << name;
     }
 }
 
@@ -66,10 +61,7 @@ TEST(PictureDecoding, RefusesWhatIsTooLargeOrNoPicture) {
     EXPECT_EQ(decoded(encoded({8'000, 5'000}, "PNG", QImage::Format_Mono)).size(), QSize(100, 63));
     const QByteArray drawing = svg("<rect width='40' height='20'/>");
     const QByteArray picture = encoded({600, 400}, "PNG");
-    const struct {
-        const char* name;
-        QByteArray bytes;
-    } cases[] = {
+    const std::pair<const char*, QByteArray> cases[] = {
         {"60 megapixels", encoded({10'000, 6'000}, "PNG", QImage::Format_Mono)},
         {"a long side", encoded({70'000, 1}, "PNG", QImage::Format_Mono)},
         {"too many bytes", picture + QByteArray(kShowPictureLimits.bytes, '\0')},
@@ -80,8 +72,8 @@ TEST(PictureDecoding, RefusesWhatIsTooLargeOrNoPicture) {
         {"a packed drawing", gzipped(drawing)},
         {"an icon file", QByteArray::fromHex("00000100010001010000010020003000000016000000")},
     };
-    for (const auto& each : cases) {
-        EXPECT_TRUE(decoded(each.bytes).isNull()) << each.name;
+    for (const auto& [name, bytes] : cases) {
+        EXPECT_TRUE(decoded(bytes).isNull()) << name;
     }
     const QImage icon = decodedPicture(encoded({4'097, 10}, "PNG"), kChannelIconLimits,
                                        [](const QSize& own, bool) { return own; });
@@ -94,11 +86,7 @@ TEST(PictureDecoding, DrawsOnlySelfContainedDrawings) {
         const QByteArray use = QByteArray("<use xlink:href='#") + char(level - 1) + "'/>";
         nested += QByteArray("<g id='") + level + "'>" + use.repeated(9) + "</g>";
     }
-    const struct {
-        const char* name;
-        bool harmless;
-        QByteArray bytes;
-    } cases[] = {
+    const std::tuple<const char*, bool, QByteArray> cases[] = {
         {"shapes", true, svg("<g><path d='M0 0L9 9'/><circle r='3'/></g>")},
         {"a gradient of its own", true, svg("<rect fill='url(#g)'/><circle style='fill:url( \"#g\" )'/>")},
         {"a part used twice", true, svg("<g id='a'/><use href='#a'/><use xlink:href='#a'/>")},
@@ -119,9 +107,9 @@ TEST(PictureDecoding, DrawsOnlySelfContainedDrawings) {
         {"deep nesting", false, svg(QByteArray("<g>").repeated(200) + QByteArray("</g>").repeated(200))},
         {"broken", false, "<svg xmlns='http://www.w3.org/2000/svg'><rect"},
     };
-    for (const auto& each : cases) {
-        EXPECT_EQ(isHarmlessDrawing(each.bytes), each.harmless) << each.name;
-        EXPECT_EQ(decoded(each.bytes).isNull(), !each.harmless) << each.name;
+    for (const auto& [name, harmless, bytes] : cases) {
+        EXPECT_EQ(isHarmlessDrawing(bytes), harmless) << name;
+        EXPECT_EQ(decoded(bytes).isNull(), !harmless) << name;
     }
 }
 

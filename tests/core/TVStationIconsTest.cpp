@@ -19,20 +19,19 @@ QImage filled(int width, int height, Qt::GlobalColor color = Qt::red) {
 }
 
 TEST(TVStationIconsTest, LetterboxesToOneSize) {
-    struct Row {
+    const struct {
         const char* name;
         QSize size;
         double scale;
         QRect painted; // in pixels of the result
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"wide", {400, 72}, 1, {0, 14, 50, 9}},
         {"tall", {36, 144}, 1, {21, 0, 9, 36}},
         {"a small image is enlarged", {25, 18}, 1, {0, 0, 50, 36}},
         {"three pixels per point", {30, 30}, 3, {21, 0, 108, 108}},
         {"very narrow", {1, 4000}, 1, {25, 0, 1, 36}},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         const QImage icon = TVStationIcons::toIcon(filled(row.size.width(), row.size.height()), row.scale);
         ASSERT_EQ(icon.size(), QSize(50, 36) * row.scale);
