@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -66,18 +67,22 @@ class ListDriverTest : public ::testing::Test {
     SourceHostTable m_hosts =
         *SourceHostTable::fromJson(R"({"FeedImageBase": "img.example", "FeedSiteHost": "site.example"})");
     std::size_t m_mergedChannels = 0;
+    std::size_t m_mergedShows = 0;
     int m_merges = 0;
     ReadOutcome m_outcome;
-    ListDriver m_driver{{.clock = m_clock,
-                         .alphabet = m_alphabet,
-                         .hosts = m_hosts,
-                         .merge = [this](const std::vector<LoadItem>&, const ParsedLists& parsed, Moment,
-                                         ListingsType, const ReadOutcome& outcome) {
-                             m_outcome = outcome;
-                             m_mergedChannels = parsed.size();
-                             ++m_merges;
-                             return MergeResult{};
-                         }}};
+    ListDriverEnvironment m_environment{
+        .clock = m_clock,
+        .alphabet = m_alphabet,
+        .hosts = m_hosts,
+        .merge = [this](const std::vector<LoadItem>&, const ParsedLists& parsed, Moment, ListingsType,
+                        const ReadOutcome& outcome) {
+            m_outcome = outcome;
+            m_mergedChannels = parsed.size();
+            m_mergedShows = parsed.empty() ? 0 : parsed.begin()->second.size();
+            ++m_merges;
+            return MergeResult{};
+        }};
+    ListDriver m_driver{m_environment};
 };
 
 TEST_F(ListDriverTest, DerivesFeedIdsFromSourceIds) {
@@ -147,12 +152,7 @@ TEST_F(ListDriverTest, MergesEvenWhenNothingWasRead) {
 
 TEST_F(ListDriverTest, TellsHowCompleteTheFeedWas) {
     const QByteArray whole = feed(show("u", "U") + show("a", "A") + show("a", "B"));
-    const struct {
-        const char* name;
-        QByteArray page;
-        bool incomplete;
-        bool isSchedule;
-    } rows[] = {
+    const std::tuple<const char*, QByteArray, bool, bool> rows[] = {
         {"whole", whole, false, true},
         {"no programmes", "<tv></tv>", false, true},
         {"broken in a wanted programme", QByteArray(whole).replace(">B<", ">B&nbsp;<"), true, true},
@@ -162,11 +162,11 @@ TEST_F(ListDriverTest, TellsHowCompleteTheFeedWas) {
         {"an XHTML page", "<html><p>Log in</p></html>", false, false},
         {"an empty page", "", false, false},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        m_driver.netList(items({u"s.a"_s}), {row.page}, kNow, ListingsType::XMLTV);
-        EXPECT_EQ(m_outcome.incomplete, row.incomplete);
-        EXPECT_EQ(m_outcome.isSchedule, row.isSchedule);
+    for (const auto& [name, page, incomplete, isSchedule] : rows) {
+        SCOPED_TRACE(name);
+        m_driver.netList(items({u"s.a"_s}), {page}, kNow, ListingsType::XMLTV);
+        EXPECT_EQ(m_outcome.incomplete, incomplete);
+        EXPECT_EQ(m_outcome.isSchedule, isSchedule);
     }
     m_driver.netList(items({u"s.a"_s}), {whole}, kNow, ListingsType::XMLTV, true);
     EXPECT_TRUE(m_outcome.incomplete) << "cut off before it was unpacked";
@@ -192,28 +192,20 @@ TEST_F(ListDriverTest, LimitsTheMemoryOfALoadAndStops) {
     for (int i = 0; i < 2'000; ++i) {
         many += show("a", "A");
     }
-    std::size_t merged = 0;
     bool stops = false;
-    ListDriverEnvironment environment{
-        .clock = m_clock, .alphabet = m_alphabet, .hosts = m_hosts, .merge = {}};
-    environment.merge = [&](const std::vector<LoadItem>&, const ParsedLists& parsed, Moment, ListingsType,
-                            const ReadOutcome& outcome) {
-        merged = parsed.empty() ? 0 : parsed.begin()->second.size();
-        m_outcome = outcome;
-        return MergeResult{};
-    };
+    ListDriverEnvironment environment = m_environment;
     environment.physicalMemory = std::uint64_t{4} << 20;
     environment.stopped = [&] { return stops; };
     const ListDriver driver(environment);
     driver.netList(items({u"x.tv"_s}), {feed(many)}, kNow, ListingsType::XMLTV);
-    EXPECT_GT(merged, 500U);
-    EXPECT_LT(merged, 1'024U) << "a quarter of the memory";
+    EXPECT_GT(m_mergedShows, 500U);
+    EXPECT_LT(m_mergedShows, 1'024U) << "a quarter of the memory";
     EXPECT_TRUE(m_outcome.incomplete);
 
-    merged = 0;
+    m_merges = 0;
     stops = true;
     driver.netList(items({u"x.tv"_s}), {feed(many)}, kNow, ListingsType::XMLTV);
-    EXPECT_EQ(merged, 0U) << "a list that was not read to its end is not stored";
+    EXPECT_EQ(m_merges, 0) << "a list that was not read to its end is not stored";
 }
 
 TEST_F(ListDriverTest, OffsetsOfThePortNetworkIncludeMinutes) {

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -101,14 +102,7 @@ TEST_F(URLPlannerTest, DaysAre24HourStepsInTheServersZone) {
     const QString joj = u"https://joj.example/cz/cz-program/?day=%1"_s;
     const QString nova = u"https://nova.example/program/?epg_date=%1"_s;
     const QString bnet = u"http://epg.bnet.example/export/xmltv/rtl.tv.bnet.example_%1.xml"_s;
-    struct Row {
-        const char* name;
-        QString sourceId;
-        QString now;
-        QString url;
-        QString dates;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, QString, QString, QString, QString> rows[] = {
         {"a day of 25 hours is requested once", u"joj.x"_s, kAutumn, joj,
          u"24-10-2026 25-10-2026 26-10-2026 27-10-2026 28-10-2026 29-10-2026"_s},
         {"no leading zeros", u"joj."_s, kNewYear, joj,
@@ -119,12 +113,12 @@ TEST_F(URLPlannerTest, DaysAre24HourStepsInTheServersZone) {
         {"the whole id", u"rtl.tv"_s, kNewYear, bnet,
          u"2026-12-31 2027-01-01 2027-01-02 2027-01-03 2027-01-04 2027-01-05 2027-01-06"_s},
     };
-    for (const Row& row : rows) {
+    for (const auto& [name, sourceId, now, url, dates] : rows) {
         QStringList expected;
-        for (const QString& date : row.dates.split(u' ')) {
-            expected.append(row.url.arg(date));
+        for (const QString& date : dates.split(u' ')) {
+            expected.append(url.arg(date));
         }
-        EXPECT_EQ(plan(row.sourceId, row.now), expected) << row.name;
+        EXPECT_EQ(plan(sourceId, now), expected) << name;
     }
     EXPECT_EQ(plan(u"barrandov.TV"_s),
               (QStringList{u"https://bar.example/program/#onair"_s,
@@ -136,23 +130,18 @@ TEST_F(URLPlannerTest, DaysAre24HourStepsInTheServersZone) {
 }
 
 TEST_F(URLPlannerTest, HBOPlansThreeWeeksPerCountry) {
-    struct Row {
-        QString sourceId;
-        QString first;
-        QString last;
-    };
-    const Row rows[] = {
+    const std::tuple<QString, QString, QString> rows[] = {
         {u"-hbo.hu.1"_s, u"https://www.hbo.hu:8080/tvmusor/12/31"_s,
          u"https://www.hbo.hu:8080/tvmusor/01/22"_s},
         {u"-hbo.ba.1"_s, u"https://hbo.ba/raspored/12/31"_s, u"https://hbo.ba/raspored/01/22"_s},
         // 13:30 on 1 January in the device's zone; the zone of the country is unknown.
         {u"-hbo.de.1"_s, u"https://hbo.de/program/12/31"_s, u"https://hbo.de/program/01/22"_s},
     };
-    for (const Row& row : rows) {
-        const QStringList urls = plan(row.sourceId);
-        ASSERT_EQ(urls.size(), 23) << row.sourceId.toStdString();
-        EXPECT_EQ(urls.first(), row.first);
-        EXPECT_EQ(urls.last(), row.last);
+    for (const auto& [sourceId, first, last] : rows) {
+        const QStringList urls = plan(sourceId);
+        ASSERT_EQ(urls.size(), 23) << sourceId.toStdString();
+        EXPECT_EQ(urls.first(), first);
+        EXPECT_EQ(urls.last(), last);
     }
     EXPECT_EQ(plan(u"-hbo.de"_s, u"2026-06-10T10:00:00Z"_s).at(1), u"https://hbo.de/program/06/11"_s);
     EXPECT_EQ(plan(u"-hbo.ba"_s, u"2026-06-10T10:00:00Z"_s).at(1), u"https://hbo.ba/raspored/06/10"_s);

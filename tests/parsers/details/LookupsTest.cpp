@@ -4,6 +4,7 @@
 #include "parsers/details/RecordedShows.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -15,12 +16,7 @@ using Labels = QMap<QString, QString>;
 TEST(RecordedShows, ReadsTheSelectBoxOfTheShow) {
     const QByteArray index =
         R"(<a href="/enz/a/">Jutro</a><li><a class="x" href="/enz/dnevnik/">Dnevnik</a>)";
-    const struct {
-        const char* name;
-        QString title;
-        QByteArray box;
-        std::optional<Labels> expected;
-    } cases[] = {
+    const std::tuple<const char*, QString, QByteArray, std::optional<Labels>> cases[] = {
         {"two under one label", u"Dnevnik"_s,
          "<select id=\"d\"><option value=\"1\">Ned</option><option value=\"2\">Pon</option>"
          "<option value=\"3\">Ned</option></select>",
@@ -33,37 +29,31 @@ TEST(RecordedShows, ReadsTheSelectBoxOfTheShow) {
          "<select id=\"d\"><option value=\"1\">Ned<option value=\"2</select>", std::nullopt},
     };
     const auto hosts = SourceHostTable::fromJson(R"({"HRTHost": "hrt.example"})");
-    for (const auto& each : cases) {
-        const auto found = recordedShowsWithTitle(each.title, *hosts, [&](const QUrl& url) {
+    for (const auto& [name, title, box, expected] : cases) {
+        const auto found = recordedShowsWithTitle(title, *hosts, [&](const QUrl& url) {
             return std::optional(url == QUrl(u"https://hrt.example/enz/"_s)           ? index
-                                 : url == QUrl(u"https://hrt.example/enz/dnevnik/"_s) ? each.box
+                                 : url == QUrl(u"https://hrt.example/enz/dnevnik/"_s) ? box
                                                                                       : QByteArray());
         });
-        EXPECT_EQ(found ? std::optional(found->broadcasts) : std::nullopt, each.expected) << each.name;
+        EXPECT_EQ(found ? std::optional(found->broadcasts) : std::nullopt, expected) << name;
         EXPECT_EQ(found ? found->page : QUrl(),
-                  each.expected ? QUrl(u"https://hrt.example/enz/dnevnik/"_s) : QUrl());
+                  expected ? QUrl(u"https://hrt.example/enz/dnevnik/"_s) : QUrl());
     }
 }
 
 TEST(IMDbLookup, SearchesOnlyForFilmsAndSeries) {
     const auto hosts = SourceHostTable::fromJson(R"({"IMDbHost": "imdb.example"})");
-    const struct {
-        const char* name;
-        QString title;
-        QString subtitle;
-        TVListingsCategory categories;
-        std::size_t searches;
-    } cases[] = {
+    const std::tuple<const char*, QString, QString, TVListingsCategory, std::size_t> cases[] = {
         {"a film", u"Čas & #1"_s, u"Tri"_s, TVListingsCategoryMovies, 1},
         {"with a subtitle", u"Čas & #1"_s, u"Dvoj"_s, TVListingsCategoryDramas, 2},
         {"a placeholder", u"Film"_s, {}, TVListingsCategoryMovies, 0},
         {"too short", u"Es"_s, {}, TVListingsCategoryMovies, 0},
         {"news", u"Vijesti"_s, {}, TVListingsCategoryNews, 0},
     };
-    for (const auto& each : cases) {
-        const auto found = imdbSearches(each.title, each.subtitle, each.categories, *hosts);
-        EXPECT_EQ(found.urls.size(), each.searches) << each.name;
-        EXPECT_EQ(found.started, each.searches > 0) << each.name;
+    for (const auto& [name, title, subtitle, categories, searches] : cases) {
+        const auto found = imdbSearches(title, subtitle, categories, *hosts);
+        EXPECT_EQ(found.urls.size(), searches) << name;
+        EXPECT_EQ(found.started, searches > 0) << name;
         if (found.started) {
             EXPECT_EQ(found.urls[0].toEncoded(),
                       "https://imdb.example/find?ref_=nv_sr_fn&q=%C4%8Cas%20&%20%231&s=tt");
@@ -77,12 +67,7 @@ TEST(IMDbLookup, ReadsTheFirstRow) {
     const QByteArray photo = start + "https://x/a._V1_UX32_CR0,0,32,44_AL_.jpg\"></a>";
     const IMDbAnswer link{QUrl(u"https://imdb.example/title/tt1/"_s), std::nullopt};
     const IMDbAnswer both{link.imdbURL, QUrl(u"https://x/a._V1_.jpg"_s)};
-    const struct {
-        const char* name;
-        QByteArray page;
-        bool isSeries;
-        IMDbAnswer expected;
-    } cases[] = {
+    const std::tuple<const char*, QByteArray, bool, IMDbAnswer> cases[] = {
         {"a film", photo + "A (TV Series)</tr>", false, both},
         {"a series", photo + "A (TV Series)</tr>", true, both},
         {"an episode", photo + "A (TV Episode)</tr>", false, {}},
@@ -94,8 +79,8 @@ TEST(IMDbLookup, ReadsTheFirstRow) {
         {"no row", "<html>", false, {}},
         {"no text", photo + "\xff</tr>", false, {}},
     };
-    for (const auto& each : cases) {
-        EXPECT_EQ(imdbAnswer(each.page, search, each.isSeries), each.expected) << each.name;
+    for (const auto& [name, page, isSeries, expected] : cases) {
+        EXPECT_EQ(imdbAnswer(page, search, isSeries), expected) << name;
     }
 }
 

@@ -47,12 +47,11 @@ std::string events(const std::string& document) {
 }
 
 TEST(XMLTVSaxParser, ReportsTheDocument) {
-    struct Row {
+    const struct {
         const char* name;
         std::string document;
         const char* events;
-    };
-    const std::vector<Row> rows{
+    } rows[] = {
         {"pieces", "<title>a<b>c</b>d</title>", "<title>a<>c/d/"},
         {"references in text", "<title>a&amp;b&#x16F;&lt;</title>", "<title>a&bů</"},
         {"CDATA", "<title>a<![CDATA[<b>&amp;]]>c</title>", "<title>a<b>&amp;c/"},
@@ -72,7 +71,7 @@ TEST(XMLTVSaxParser, ReportsTheDocument) {
          "< 1f&&>/"},
         {"an entity that the missing DTD may define", "<!DOCTYPE a SYSTEM 'b.dtd'><a>1&e;2</a>", "<>12/"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         EXPECT_EQ(events(row.document), row.events) << row.name;
     }
 }

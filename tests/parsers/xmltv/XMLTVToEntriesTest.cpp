@@ -1,6 +1,7 @@
 #include "parsers/xmltv/XMLTVToEntries.h"
 
 #include "parsers/ShowJSON.h"
+#include "parsers/xmltv/XMLTVDate.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -12,6 +13,26 @@ namespace guide {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+TEST(XMLTVDate, AcceptsOnlyDatesWithAnOffset) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"20240101120000 +0100", "2024-01-01T11:00:00Z"}, {"20240101120000 Z", "2024-01-01T12:00:00Z"},
+        {"20240101120000Z", "2024-01-01T12:00:00Z"},      {"20240101003000 +01", "2023-12-31T23:30:00Z"},
+        {"20240101120000 -0330", "2024-01-01T15:30:00Z"}, {"20240101120000 +05:45", "2024-01-01T06:15:00Z"},
+        {"20240229235959 +0000", "2024-02-29T23:59:59Z"}, {"19691231235959 Z", "1969-12-31T23:59:59Z"},
+    };
+    for (const auto& [text, expected] : rows) {
+        const auto moment = parseXMLTVDate(text);
+        EXPECT_EQ(moment ? isoMoment(*moment).toStdString() : "none", expected) << text;
+    }
+    for (const char* text :
+         {"", "20240101120000", "20240101120000 ", "20240101120000 BST", "20240101120000  +0100",
+          "20240101120000\t+0100", "20240101120000 +0100 ", "20240101120000 0100", "20240101120000 +1",
+          "20240101120000 +2400", "20240101120000 +0160", "20230229120000 Z", "20241301120000 Z",
+          "20240100120000 Z", "20240101240000 Z", "20240101120060 Z", "2024010112000\xC2\xB2 Z"}) {
+        EXPECT_FALSE(parseXMLTVDate(text)) << text;
+    }
+}
 
 const Alphabet kAlphabet;
 const Moment kNow = std::chrono::sys_days{std::chrono::year{2026} / 11 / 21} + std::chrono::hours{12};
@@ -63,13 +84,12 @@ const std::string kEnded = "start=\"20261121100000 Z\" stop=\"20261121120000 Z\"
 const std::string kLater = "start=\"20261121160000 Z\" stop=\"20261121170000 Z\" channel=\"a\"";
 
 TEST(XMLTVToEntries, FiltersAndAssignsShows) {
-    struct Row {
+    const struct {
         const char* name;
         std::string programmes;
         const char* kept;
         Channels wanted = {};
-    };
-    const std::vector<Row> rows{
+    } rows[] = {
         {"no filter", show("b", "B") + show("a", "A") + show("b", "C"),
          "b: B 14:00-15:00 C 14:00-15:00; a: A 14:00-15:00"},
         {"no channel named", programme("stop=\"20261121150000 Z\"", "<title>N</title>"), ": N none-15:00"},
@@ -113,22 +133,21 @@ TEST(XMLTVToEntries, FiltersAndAssignsShows) {
         {"stops at an error", show("a", "A") + show("a", "B & C") + show("a", "D"), "a: A 14:00-15:00"},
         {"an escaped line end", show("a", "A\\nB"), "a: Ab 14:00-15:00"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         EXPECT_EQ(summary(read(row.programmes, row.wanted)), row.kept) << row.name;
     }
 }
 
 TEST(XMLTVToEntries, AnalysesTexts) {
-    struct Row {
+    const std::string kIcon = "<icon src=\"http://h/a.png\"/>";
+    const struct {
         const char* name;
         /// The title is "A" where none is given.
         std::string content;
         const char* key;
         /// As JSON.
         const char* value;
-    };
-    const std::string kIcon = "<icon src=\"http://h/a.png\"/>";
-    const std::vector<Row> rows{
+    } rows[] = {
         {"title", "<title>NOVA SERIJA, 2. dio (R)</title>", "identificator", R"("Nova Serija")"},
         {"tail of the title", "<title>Naslov, 2. dio (R)</title>", "instantDescription", "\"2. dio (R)\""},
         {"repeat by the title", "<title>Naslov (R)</title>", "previouslyShown", "true"},
@@ -166,7 +185,7 @@ TEST(XMLTVToEntries, AnalysesTexts) {
     const std::string before = programme(kLater, "<title>Before</title><category>film</category>");
     XMLTVOptions how = options();
     how.useImage = true;
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         const char* title = row.content.starts_with("<title>") ? "" : "<title>A</title>";
         std::vector<FeedChannelEntries> channels =
             read(before + programme(kLater, title + row.content), {}, how);
