@@ -63,8 +63,7 @@ TEST(CategoryMappingTest, MapsTextsByTable) {
 TEST(CategoryMappingTest, RecognisesSubtitlesAndTitles) {
     const struct {
         const char* name;
-        std::optional<QString> subtitle;
-        std::optional<QString> title;
+        std::optional<QString> subtitle, title;
         TVListingsCategory categories;
         bool recognised;
     } rows[] = {

@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -57,14 +58,7 @@ TEST(ShowClassifierTest, ClassifiesByDetails) {
 }
 
 TEST(ShowClassifierTest, DistinguishesTextsAndSources) {
-    const struct {
-        const char* name;
-        Text sourceId;
-        Text details;
-        Text title;
-        Text description;
-        TVListingsCategory categories;
-    } rows[] = {
+    const std::tuple<const char*, Text, Text, Text, Text, TVListingsCategory> rows[] = {
         {"nothing", {}, {}, {}, {}, 0},
         {"empty texts", u""_s, u""_s, u""_s, u""_s, 0},
         {"a source by its number", u"77"_s, {}, {}, {}, kChildren},
@@ -84,9 +78,8 @@ TEST(ShowClassifierTest, DistinguishesTextsAndSources) {
         {"a title known not to be a film", {}, u"film"_s, u"Kućni ljubimci"_s, {}, 0},
         {"a report on a film", {}, u"film"_s, {}, u"reportaža"_s, TVListingsCategoryDocumentaries},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(classifyEntry(row.sourceId, {row.details, row.title, row.description}), row.categories)
-            << row.name;
+    for (const auto& [name, sourceId, details, title, description, categories] : rows) {
+        EXPECT_EQ(classifyEntry(sourceId, {details, title, description}), categories) << name;
     }
 }
 
