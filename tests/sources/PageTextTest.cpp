@@ -18,15 +18,14 @@ TEST(PageTextTest, ContentTypeDecidesFirst) {
     const QByteArray windows = "\x8elu\x9dou\xe8k\xfd k\xf9\xf2";
     const QByteArray gzip = gzipped(utf8);
     const QByteArray xz = xzPacked(utf8);
-    struct Row {
+    const struct {
         const char* name;
         std::optional<QByteArray> type;
         QByteArray body;
         std::optional<QByteArray> text;
         PageReason reason = PageReason::None;
         bool encoded = false;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"declared", "text/html; charset=windows-1250", windows, utf8},
         {"declared UTF-8 but invalid", "text/html; charset=utf-8", windows, {}, PageReason::Encoding},
         {"no charset", "text/html", utf8, utf8},
@@ -47,7 +46,7 @@ TEST(PageTextTest, ContentTypeDecidesFirst) {
         {"gzip already unpacked by the transfer", "application/x-gzip", utf8, utf8, PageReason::None, true},
         {"gzip in gzip", "application/x-gzip", gzip, utf8, PageReason::None, true},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         HTTPResponse response;
         if (row.type) {

@@ -1,10 +1,11 @@
-#include "sources/SourceHostTable.h"
-
 #include "platform/files/FileReplacement.h"
+#include "sources/SourceHostTable.h"
+#include "sources/SourceId.h"
 
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -35,29 +36,25 @@ TEST(SourceHostTableTest, KeepsTheSchemeOrAddsOne) {
         "letters": "httpbin.example", "number": 5, "empty": "", "scheme": "http://"})",
                                                              &tally);
     EXPECT_EQ(tally.summary(u"hosts"_s), u"1 of 8 hosts left out: 1 type"_s);
-    struct Row {
-        QString key;
-        std::optional<QString> base;
-        std::optional<QString> name;
-        std::optional<QString> stem;
-    };
-    const Row rows[] = {
-        {u"bare"_s, u"https://a.example"_s, u"a.example"_s, u"https://a.example.hr"_s},
-        {u"port"_s, u"https://127.0.0.1:8080"_s, u"127.0.0.1:8080"_s, u"https://127.0.0.1.hr:8080"_s},
-        {u"http"_s, u"http://a.example"_s, u"a.example"_s, u"http://a.example.hr"_s},
-        {u"path"_s, u"https://a.example/x"_s, u"a.example/x"_s, u"https://a.example.hr/x"_s},
-        {u"letters"_s, u"https://httpbin.example"_s, u"httpbin.example"_s, u"https://httpbin.example.hr"_s},
-        {u"number"_s, {}, {}, {}},
-        {u"empty"_s, {}, {}, {}},
-        {u"scheme"_s, {}, {}, {}},
-        {u"missing"_s, {}, {}, {}},
-    };
+    const std::tuple<QString, std::optional<QString>, std::optional<QString>, std::optional<QString>> rows[] =
+        {
+            {u"bare"_s, u"https://a.example"_s, u"a.example"_s, u"https://a.example.hr"_s},
+            {u"port"_s, u"https://127.0.0.1:8080"_s, u"127.0.0.1:8080"_s, u"https://127.0.0.1.hr:8080"_s},
+            {u"http"_s, u"http://a.example"_s, u"a.example"_s, u"http://a.example.hr"_s},
+            {u"path"_s, u"https://a.example/x"_s, u"a.example/x"_s, u"https://a.example.hr/x"_s},
+            {u"letters"_s, u"https://httpbin.example"_s, u"httpbin.example"_s,
+             u"https://httpbin.example.hr"_s},
+            {u"number"_s, {}, {}, {}},
+            {u"empty"_s, {}, {}, {}},
+            {u"scheme"_s, {}, {}, {}},
+            {u"missing"_s, {}, {}, {}},
+        };
     const CountedWarnings counted;
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.key.toStdString());
-        EXPECT_EQ(hosts.base(row.key), row.base);
-        EXPECT_EQ(hosts.name(row.key), row.name);
-        EXPECT_EQ(hosts.baseOfStem(row.key, u"hr"_s), row.stem);
+    for (const auto& [key, base, name, stem] : rows) {
+        SCOPED_TRACE(key.toStdString());
+        EXPECT_EQ(hosts.base(key), base);
+        EXPECT_EQ(hosts.name(key), name);
+        EXPECT_EQ(hosts.baseOfStem(key, u"hr"_s), stem);
     }
     EXPECT_EQ(hosts.base(u"bare"_s, u"http"_s), u"http://a.example"_s);
     EXPECT_EQ(hosts.base(u"path"_s, u"http"_s), u"https://a.example/x"_s);
@@ -83,6 +80,27 @@ TEST(SourceHostTableTest, OverrideReplacesKeyByKey) {
 
     ASSERT_TRUE(replaceFile(configuration.filePath(u"hosts.json"_s), R"({"A": )"));
     EXPECT_EQ(SourceHostTable::installed(bundle.path(), configuration.path()).value(u"A"_s), u"a.example"_s);
+}
+
+TEST(SourceIdTest, PortNumbersAreThirtyTwoBitsWide) {
+    for (const QString& id : {u"0"_s, u"42"_s, u"60050"_s, u"2147483647"_s}) {
+        EXPECT_TRUE(sourceIdUsedByPortNetwork(id)) << id.toStdString();
+    }
+    for (const QString& id : {u""_s, u"042"_s, u"00"_s, u"42x"_s, u"-5"_s, u"+5"_s, u" 5"_s, u"2147483648"_s,
+                              u"4294967338"_s, u"99999999999999999999999"_s, u"\u0664\u0662"_s, u"４２"_s}) {
+        EXPECT_FALSE(sourceIdUsedByPortNetwork(id)) << id.toStdString();
+    }
+}
+
+TEST(SourceIdTest, ServersHaveTheZoneOfTheirCountry) {
+    for (const QString& country : {u"ro"_s, u"sk"_s, u"hu"_s, u"hr"_s, u"rs"_s, u"cz"_s, u"ba"_s}) {
+        ASSERT_TRUE(timeZoneForServer(country)) << country.toStdString();
+        EXPECT_TRUE(timeZoneForServer(country)->isValid()) << "known to the system";
+    }
+    EXPECT_EQ(timeZoneForServer(u"www.example.hr")->id(), "Europe/Zagreb");
+    for (const QString& server : {u"x.zz"_s, u"z"_s, u""_s, u"x.HU"_s}) {
+        EXPECT_FALSE(timeZoneForServer(server)) << server.toStdString();
+    }
 }
 
 } // namespace
