@@ -10,7 +10,6 @@
 #include "fakes/Files.h"
 #include "parsers/URLPlanner.h"
 #include "parsers/xmltv/XMLTVToEntries.h"
-#include "platform/encoding/CharacterSets.h"
 #include "sources/PageText.h"
 
 #include <QDir>
@@ -156,14 +155,6 @@ TEST_F(DemoEnvironmentTest, DatesItsCatalogueLaterThanAnyArchive) {
     const QDateTime modified = QFileInfo(environment->cataloguePath()).lastModified();
     EXPECT_GT(modified.addDays(-30).toMSecsSinceEpoch(), kNow.time_since_epoch().count());
     EXPECT_GT(modified.addDays(-30), QDateTime::currentDateTime());
-}
-
-TEST_F(DemoEnvironmentTest, EncodesRussianBytesAsItsHeaderSays) {
-    const Fetched got = fetch(environment->serverBase() + u"/feeds/kinovar.xml"_s);
-    EXPECT_EQ(got.contentType, "text/xml; charset=windows-1251");
-    const auto page = utf8FromCharacterSet(got.body, u"WINDOWS-1251"_s);
-    ASSERT_TRUE(page);
-    EXPECT_TRUE(QString::fromUtf8(*page).contains(u"Киноварь"_s));
 }
 
 TEST(DemoEnvironment, IsNullWhenFilesCannotBeWrittenOrTextsRead) {

@@ -1,14 +1,11 @@
 #include "demo/schedule/ScheduleGenerator.h"
 
 #include "demo/Texts.h"
-#include "demo/schedule/BlockFitting.h"
 
 #include <QDateTime>
-#include <QSet>
 #include <QTimeZone>
 
 #include <gtest/gtest.h>
-#include <map>
 
 using namespace Qt::StringLiterals;
 
@@ -79,43 +76,6 @@ TEST(ScheduleGenerator, GeneratesCompleteTexts) {
     }
 }
 
-TEST(ScheduleGenerator, HasEveryTopicAndManyTitles) {
-    std::map<Topic, int> topics;
-    QSet<QString> titles;
-    int repeats = 0;
-    int episodes = 0;
-    int total = 0;
-    for (const DemoChannel& channel : demoChannels()) {
-        for (const Programme& programme : schedule(channel, kFirstDay, kDays)) {
-            ++topics[programme.topic];
-            titles.insert(programme.title);
-            repeats += int(programme.repeat);
-            episodes += int(programme.episode > 0);
-            ++total;
-        }
-    }
-    EXPECT_EQ(topics.size(), std::size_t(Topic::Sports) + 1);
-    EXPECT_GT(titles.size(), 1000);
-    EXPECT_GT(repeats, total / 20);
-    EXPECT_GT(episodes, total / 5);
-}
-
-TEST(ScheduleGenerator, StartsNewsOnTheHour) {
-    const auto news =
-        std::find_if(demoChannels().begin(), demoChannels().end(),
-                     [](const DemoChannel& channel) { return channel.profile == ChannelProfile::News; });
-    std::map<int, int> hours;
-    for (const Programme& programme : schedule(*news, kFirstDay, 1)) {
-        const QTime at =
-            QDateTime::fromMSecsSinceEpoch(programme.start.time_since_epoch().count(), QTimeZone(news->zone))
-                .time();
-        hours[at.hour()] += int(at.minute() == 0 && programme.topic == Topic::News);
-    }
-    for (int hour = 9; hour < 24; ++hour) {
-        EXPECT_EQ(hours[hour], 1) << hour;
-    }
-}
-
 TEST(ScheduleGenerator, BroadcastDayEndsAtSix) {
     const auto at = [](int hour, int minute) {
         return Moment(std::chrono::milliseconds(
@@ -124,25 +84,6 @@ TEST(ScheduleGenerator, BroadcastDayEndsAtSix) {
     };
     EXPECT_EQ(broadcastDay(at(5, 59), "Europe/Prague"), QDate(2026, 11, 20));
     EXPECT_EQ(broadcastDay(at(6, 0), "Europe/Prague"), QDate(2026, 11, 21));
-}
-
-TEST(BlockFitting, FillsTheMinutesExactly) {
-    Random random(1);
-    const auto item = [](const char* kind, bool filling = false) {
-        return PlannedItem{.kind = QString::fromLatin1(kind), .filling = filling};
-    };
-    const std::vector<std::vector<PlannedItem>> plans = {
-        {item("news"), item("weather")}, {item("sitcom", true), item("short")}, {item("film")}, {}};
-    for (const auto& plan : plans) {
-        for (int minutes = 0; minutes <= 400; minutes += 5) {
-            int sum = 0;
-            for (const FittedItem& fitted : fitBlock(plan, minutes, random)) {
-                EXPECT_GE(fitted.minutes, 5);
-                sum += fitted.minutes;
-            }
-            EXPECT_EQ(sum, minutes);
-        }
-    }
 }
 
 } // namespace

@@ -1,13 +1,11 @@
 #include "demo/feeds/XMLTVWriter.h"
 
 #include "demo/Texts.h"
-#include "demo/schedule/ScheduleGenerator.h"
 #include "parsers/xmltv/XMLTVToEntries.h"
 #include "platform/encoding/CharacterSets.h"
 #include "text/categories/TVListingsCategory.h"
 
 #include <gtest/gtest.h>
-#include <map>
 
 using namespace Qt::StringLiterals;
 
@@ -76,23 +74,6 @@ TEST(XMLTVWriter, WritesEveryFieldThatTheReaderKnows) {
         EXPECT_EQ(entries[0].extra->directedBy, kAwkward.director);
         EXPECT_EQ(entries[0].extra->roles, kAwkward.actors.join(u", "_s));
         EXPECT_EQ(entries[0].categories, TVListingsCategorySeries);
-    }
-}
-
-TEST(XMLTVWriter, KeepsEveryTitleAndTime) {
-    for (const DemoChannel& channel : demoChannels()) {
-        const auto programmes = ScheduleGenerator(sourceTexts()).schedule(channel, QDate(2026, 11, 20), 2);
-        for (const Style& each : kStyles) {
-            SCOPED_TRACE(channel.key.toStdString() + ", " + each.name);
-            const auto entries =
-                read(document({channel.feedId, channel.title, channel.zone, programmes}, each.style));
-            ASSERT_EQ(entries.size(), programmes.size());
-            for (std::size_t i = 0; i < entries.size(); ++i) {
-                EXPECT_EQ(entries[i].basic->identificator(), programmes[i].title);
-                EXPECT_EQ(entries[i].basic->dateTime(), programmes[i].start);
-                EXPECT_EQ(entries[i].basic->previouslyShown(), programmes[i].repeat);
-            }
-        }
     }
 }
 
