@@ -1,3 +1,4 @@
+#include "fakes/ScriptedServer.h"
 #include "platform/archive/Archive.h"
 #include "probe/RunProbe.h"
 #include "store/ShowCoding.h"
@@ -22,8 +23,6 @@ TEST(Probe, PrintsOneObjectPerCommand) {
         {Words{u"type"_s, u"-hbo.hu.1"_s}, R"({"sourceId": "-hbo.hu.1", "type": 7, "portNetwork": false})"},
         {Words{u"type"_s, u"42"_s}, R"({"sourceId": "42", "type": 0, "portNetwork": true})"},
         {Words{u"zone"_s, u"example.cz"_s}, R"({"zone": "Europe/Prague"})"},
-        {Words{u"zone"_s, u"x"_s}, R"({"zone": null})"},
-        {Words{u"plan"_s, u"r.foo"_s}, R"({"urls": null})"},
         {Words{u"plan"_s, u"https://feeds.example/a.xml"_s}, R"({"urls": ["https://feeds.example/a.xml"]})"},
         {Words{u"classify"_s, u"--details"_s, u"Film, komedija"_s},
          R"({"categories": 257, "names": ["Movies", "Comedies"]})"},
@@ -41,11 +40,9 @@ TEST(Probe, PrintsOneObjectPerCommand) {
         {Words{u"text"_s, u"latin2Cyrillic"_s, u"--language"_s, u"mk"_s}, R"({"result": "Њуjoрк"})",
          "Njujork"},
         {Words{u"text"_s, u"xmltvDate"_s}, R"({"result": "2024-01-01T10:30:00Z"})", "20240101120000 +0130"},
-        {Words{u"text"_s, u"xmltvDate"_s}, R"({"result": null})", "2024010112"},
         {Words{u"words"_s, u"bracket"_s}, R"({"categories": 257, "recognised": null})", "[Action, komedija]"},
         {Words{u"words"_s, u"subtitle"_s, u"--title"_s, u"Geo"_s},
          R"({"categories": 4, "recognised": true})"},
-        {Words{u"category-text"_s, u"-1"_s}, R"({"text": "Evening Shows"})"},
         {Words{u"category-text"_s, u"0x1ff01"_s}, R"({"text": "Feature Films"})"},
         {Words{u"object-id"_s, u"000000000000000000000000"_s},
          R"({"hex": "000000000000000000000000", "hash": "9795860139169989765"})"},
@@ -74,6 +71,8 @@ TEST(Probe, DistinguishesUnusableArgumentsFromFailures) {
         {{u"type"_s, u"a"_s, u"--zone"_s, u"Nowhere/Else"_s}, 2},
         {{u"type"_s, u"a"_s, u"--now"_s, u"2026-11-21T10:00:00"_s}, 2},
         {{u"parse"_s, u"--type"_s, u"1"_s, u"--item"_s, u"a,b"_s, u"p"_s}, 2},
+        {{u"detail"_s, u"--url"_s, u"https://p.example/f"_s, u"p"_s}, 2},
+        {{u"imdb"_s, u"--title"_s, u"Vlak"_s, u"--categories"_s, u"film"_s, u"p"_s}, 2},
         {{u"parse"_s, u"--type"_s, u"1"_s, u"--item"_s, u"a,b,c"_s, u"/nowhere"_s}, 1},
         {{u"type"_s, u"a"_s, u"--hosts"_s, u"/nowhere"_s}, 1},
         {{u"filter"_s, u"/nowhere"_s}, 1},
@@ -154,6 +153,56 @@ TEST(Probe, TellsDamagedArchivesFromWholeOnes) {
     EXPECT_EQ(found[0][u"count"_s], 3);
     EXPECT_EQ(found[1][u"content"_s], u"shows"_s);
     EXPECT_TRUE(found[2][u"content"_s].isNull());
+}
+
+TEST(ProbeDetail, PrintsTheDetailsOnThePages) {
+    const auto page = [](const QString& name) {
+        return QStringLiteral(QUELLIN_TEST_DATA "/recorded-details/") + name;
+    };
+    const Answer answer =
+        probe({u"detail"_s, u"--source-id"_s, u"42"_s, u"--url"_s,
+               u"https://port.example/f?i_perf_id=99&z=1"_s, u"--language"_s, u"hu"_s, page(u"port.html"_s),
+               page(u"port-bottom.html"_s), page(u"port-top.html"_s)});
+    EXPECT_EQ(answer.status, 0) << answer.errors.toStdString();
+    EXPECT_EQ(answer.json[u"categories"_s], 0);
+    EXPECT_EQ(answer.json[u"pictures"_s][0], u"https://media.example/a/217_0.jpg"_s);
+    EXPECT_EQ(answer.json[u"details"_s][u"description"_s], u"Egy sorozat."_s);
+    EXPECT_EQ(answer.json[u"details"_s][u"trailerURL"_s], u"http://video.example/t/4711.mp4"_s);
+}
+
+TEST(ProbeRecorded, ReadsTheArchiveFromTheNetwork) {
+    const QByteArray indexPage = R"(<li><a href="/enz/dnevnik/">Dnevnik</a></li>)";
+    const QByteArray showPage = "<select id=\"d\"><option value=\"1\">Pon</option>"
+                                "<option value=\"2\">Čet &amp; pet</option></select>";
+    const QJsonObject expected = object(R"({"recorded": {"Pon": "1", "Čet &amp; pet": "2"}})");
+    const ProbeFiles files;
+    ScriptedServer server;
+    server.serve("/enz/", ScriptedReply::ok(indexPage, {"Content-Type: text/html; charset=utf-8"}));
+    server.serve("/enz/dnevnik/", ScriptedReply::ok(showPage, {"Content-Type: text/html; charset=utf-8"}));
+    const QString loopback =
+        files.write(u"loopback.json"_s, "{\"HRTHost\": \"" + server.url(u""_s).toEncoded() + "\"}");
+    const Answer fetched = probe({u"recorded"_s, u"--hosts"_s, loopback, u"--title"_s, u"Dnevnik"_s});
+    EXPECT_EQ(fetched.status, 0) << fetched.errors.toStdString();
+    EXPECT_EQ(fetched.json, expected) << fetched.output.toStdString();
+}
+
+TEST(ProbeIMDb, FindsThePageOfEachSearch) {
+    const ProbeFiles files;
+    const QString hosts = files.write(u"hosts.json"_s, R"({"IMDbHost": "films.example"})");
+    const QString page =
+        files.write(u"found.html"_s,
+                    R"(<td class="primary_photo"> <a href="/title/tt1/" ><img src="https://x/a._V1_UX32_.jpg">
+                            </a> Vlak (TV Series)</tr>)");
+    const Answer answer = probe({u"imdb"_s, u"--hosts"_s, hosts, u"--title"_s, u"Vlak & ja"_s,
+                                 u"--subtitle"_s, u"Prvi dio"_s, u"--categories"_s, u"0x2"_s, page});
+    EXPECT_EQ(answer.status, 0) << answer.errors.toStdString();
+    EXPECT_EQ(answer.json, object(R"({"started": true,
+             "urls": ["https://films.example/find?ref_=nv_sr_fn&q=Vlak%20&%20ja&s=tt",
+                      "https://films.example/find?ref_=nv_sr_fn&q=Prvi%20dio&s=tt"],
+             "answers": [{"index": 0, "imdbURL": "https://films.example/title/tt1/",
+                          "pictureURL": "https://x/a._V1_.jpg"},
+                         {"index": 1, "imdbURL": null, "pictureURL": null}]})"))
+        << answer.output.toStdString();
 }
 
 } // namespace
