@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace guide {
 namespace {
@@ -57,22 +58,17 @@ class FavoriteOperationsTest : public testing::Test, protected AlarmActions, pro
 };
 
 TEST_F(FavoriteOperationsTest, AddsATitleOnce) {
-    const struct {
-        const char* name;
-        QString title;
-        QString after;
-        QStringList calls;
-    } cases[] = {
+    const std::tuple<const char*, QString, QString, QStringList> cases[] = {
         {"new", u"News"_s, u"News"_s, {u"screens"_s, u"News 2"_s}},
         {"another case", u"nEWS"_s, u"News"_s, {u"screens"_s}},
         {"a blank at the end", u"Film "_s, u"News,Film"_s, {u"screens"_s, u"Film 2"_s}},
         {"of two blanks one goes", u"Film  "_s, u"News,Film,Film "_s, {u"screens"_s, u"Film  2"_s}},
         {"an empty title", u""_s, u"News,Film,Film ,"_s, {u"screens"_s, u" 2"_s}},
     };
-    for (const auto& each : cases) {
-        operations.addFavorite(each.title);
-        EXPECT_EQ(titles(), each.after) << each.name;
-        EXPECT_EQ(takeLog(), each.calls) << each.name;
+    for (const auto& [name, title, after, calls] : cases) {
+        operations.addFavorite(title);
+        EXPECT_EQ(titles(), after) << name;
+        EXPECT_EQ(takeLog(), calls) << name;
     }
     const Favorite& rule = shows.snapshot()->rules().front();
     EXPECT_TRUE(!rule.minutes && !rule.previouslyShown && rule.date == clock.now());
