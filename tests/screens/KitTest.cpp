@@ -75,7 +75,6 @@ TEST(TableViewControllerTest, PassesEventsOnlyToRowsThatAcceptThem) {
         SCOPED_TRACE(each.name);
         QStringList events;
         Screen screen(u"screen"_s, events);
-        screen.table().setEditing(true);
         screen.table().setSections({{.id = u"s"_s, .rows = {each.row, {.id = {u"s"_s, u"next"_s}}}},
                                     {.id = u"t"_s, .rows = {{.id = {u"t"_s, u"other"_s}}}}});
         screen.sendRowEvent(RowId(u"s"_s, u"gone"_s), each.event);
@@ -83,10 +82,6 @@ TEST(TableViewControllerTest, PassesEventsOnlyToRowsThatAcceptThem) {
         EXPECT_EQ(events, each.arrives ? QStringList(u"r %1"_s.arg(each.arrives->index())) : QStringList());
         EXPECT_EQ(screen.table().selectedRow().has_value(),
                   each.arrives && std::holds_alternative<Tapped>(*each.arrives));
-        screen.table().setEditing(false);
-        events.clear();
-        screen.sendRowEvent(each.row.id, MovedBefore{});
-        EXPECT_TRUE(events.isEmpty()) << "not in edit mode";
     }
 }
 
@@ -270,6 +265,19 @@ TEST_F(TabBarControllerTest, ShowsEachNoticeForItsTime) {
     EXPECT_EQ(wait(8s), u"none"_s);
     tabs.pressNoticeAction();
     tabs.dismissNotice();
+
+    tabs.presentNotice({.text = u"1 removed"_s, .topic = u"removed"_s});
+    tabs.presentNotice({.text = u"other"_s});
+    EXPECT_EQ(wait(7s), u"1 removed"_s);
+    tabs.presentNotice({.text = u"2 removed"_s, .topic = u"removed"_s});
+    EXPECT_EQ(wait(7s), u"2 removed"_s) << "in place of the first, for the whole time";
+    tabs.withdrawNotice(u"removed"_s);
+    EXPECT_EQ(wait(0s), u"other"_s);
+    tabs.presentNotice({.text = u"3 removed"_s, .topic = u"removed"_s});
+    tabs.withdrawNotice(u"removed"_s);
+    tabs.withdrawNotice({});
+    EXPECT_EQ(wait(1s), u"other"_s);
+    EXPECT_EQ(wait(7s), u"none"_s);
 }
 
 TEST(LatestAnswerTest, DropsSupersededAnswersAndThoseOfDestroyedOwners) {

@@ -17,6 +17,8 @@ class Screen final : public TableViewController {
   public:
     explicit Screen(std::vector<Section> sections = {}) { table().setSections(std::move(sections)); }
 
+    bool selectAll() override { return ++allSelected > 0; }
+
     using ViewController::setLeftBarButtons;
     using ViewController::setRightBarButtons;
     using ViewController::setSearchField;
@@ -41,6 +43,7 @@ class Screen final : public TableViewController {
     std::shared_ptr<ViewController> next;
     std::vector<Sent> sent;
     QStringList searched;
+    int allSelected = 0;
 
   protected:
     void rowEvent(const RowId& id, const RowEvent& event) override {

@@ -241,6 +241,32 @@ TEST_F(TableWindowTest, RowsAreDeletedAndReorderedInEditMode) {
     EXPECT_EQ(buttons({u"Remove"_s}).size(), 1);
 }
 
+TEST_F(TableWindowTest, TheKeyboardMovesAndDeletesRowsAtAnyTimeAndSelectsSeveral) {
+    std::vector<Section> sections = lines(4);
+    for (Row& row : sections[0].rows) {
+        row.deletable = row.movable = row.selectable = true;
+    }
+    open(sections);
+    focus(1);
+    press(Qt::Key_Up, Qt::AltModifier);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(screen->of<MovedBefore>().size(), 1U);
+    EXPECT_EQ(screen->of<Deleted>().size(), 1U);
+
+    press(Qt::Key_Space);
+    press(Qt::Key_Space, Qt::ShiftModifier);
+    click(row(0));
+    QTest::mouseClick(quickWindow, Qt::LeftButton, Qt::ShiftModifier, middle(row(3)));
+    settle();
+    std::vector<bool> extending;
+    for (const Tapped& tap : screen->of<Tapped>()) {
+        extending.push_back(tap.extending);
+    }
+    EXPECT_EQ(extending, (std::vector{false, true, false, true}));
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(screen->allSelected, 1);
+}
+
 TEST_F(TableWindowTest, ARowThatIsDraggedToAnEdgeScrollsTheList) {
     std::vector<Section> sections = lines(60);
     for (Row& row : sections[0].rows) {

@@ -14,6 +14,8 @@ struct Notice {
     QString actionTitle = {};
     /// Main queue.
     std::function<void()> action = {};
+    /// A notice replaces the one of the same topic, unless the topic is empty.
+    QString topic = {};
 };
 
 } // namespace guide

@@ -261,9 +261,8 @@ struct Row {
     RowContent content = {};
     /// Whether a tap does something.
     bool selectable = false;
-    /// By the Delete key, and by a button in edit mode.
+    /// With the buttons of edit mode, and with the keyboard at any time.
     bool deletable = false;
-    /// In edit mode.
     bool movable = false;
 
     RowKind kind() const { return static_cast<RowKind>(content.index()); }

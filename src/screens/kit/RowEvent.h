@@ -10,7 +10,10 @@
 
 namespace guide {
 
-struct Tapped {};
+struct Tapped {
+    /// Together with the rows since the last tap: with Shift.
+    bool extending = false;
+};
 struct AccessoryTapped {};
 /// Of a SwitchRow.
 struct Toggled {
@@ -29,8 +32,10 @@ struct TextEdited {
     QString text;
     bool finished = false;
 };
+/// By the button of edit mode or the Delete key.
 struct Deleted {};
-/// In edit mode: the row moves before `next`, or to the end of its section when unset.
+/// By the handle of edit mode or the keyboard: the row moves before `next`, or to the end of its section when
+/// unset.
 struct MovedBefore {
     std::optional<RowId> next;
 };

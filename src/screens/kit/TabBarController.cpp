@@ -1,5 +1,6 @@
 #include "screens/kit/TabBarController.h"
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -148,10 +149,32 @@ void TabBarController::answerAlert(std::size_t action) {
 }
 
 void TabBarController::presentNotice(Notice notice) {
-    m_notices.push_back(std::move(notice));
-    if (m_notices.size() == 1) {
+    auto place = noticeOfTopic(notice.topic);
+    if (place == m_notices.end()) {
+        place = m_notices.insert(place, std::move(notice));
+    } else {
+        *place = std::move(notice);
+    }
+    if (place == m_notices.begin()) {
         startNotice();
     }
+}
+
+void TabBarController::withdrawNotice(const QString& topic) {
+    const auto place = noticeOfTopic(topic);
+    if (place == m_notices.end()) {
+        return;
+    }
+    if (place == m_notices.begin()) {
+        dismissNotice();
+    } else {
+        m_notices.erase(place);
+    }
+}
+
+std::deque<Notice>::iterator TabBarController::noticeOfTopic(const QString& topic) {
+    return std::find_if(m_notices.begin(), m_notices.end(),
+                        [&topic](const Notice& notice) { return !topic.isEmpty() && notice.topic == topic; });
 }
 
 const Notice* TabBarController::presentedNotice() const {

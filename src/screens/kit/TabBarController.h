@@ -95,8 +95,11 @@ class TabBarController {
     /// Closes the alert and runs the action with that index.
     void answerAlert(std::size_t action);
 
-    /// Shows the notice for kNoticeTime, after those that are already waiting.
+    /// Shows the notice for kNoticeTime, after those that are already waiting, or in place of the one of its
+    /// topic.
     void presentNotice(Notice notice);
+    /// Closes the notice of the topic, or takes it out of the waiting ones.
+    void withdrawNotice(const QString& topic);
     /// Null when there is none.
     const Notice* presentedNotice() const;
     /// Closes the notice and runs its action.
@@ -104,6 +107,7 @@ class TabBarController {
     void dismissNotice();
 
   private:
+    std::deque<Notice>::iterator noticeOfTopic(const QString& topic);
     void startNotice();
     void replaceCover(std::shared_ptr<ViewController> viewController);
 

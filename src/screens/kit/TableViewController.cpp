@@ -37,7 +37,7 @@ struct Takes {
     bool operator()(const TextEdited&) const { return enabled<InputRow>(); }
     bool operator()(const Deleted&) const { return row.deletable; }
     bool operator()(const MovedBefore& event) const {
-        return table.editing() && row.movable &&
+        return row.movable &&
                (!event.next || (event.next->section == row.id.section && table.find(*event.next)));
     }
 };

@@ -26,6 +26,8 @@ class TableViewController : public ViewController {
     /// The row became visible, or changed while visible.
     void rowDisplayed(const RowId& id);
     void pressEmptyNoteButton();
+    /// Ctrl+A. Returns whether it means anything on this screen.
+    virtual bool selectAll() { return false; }
 
     /// The selected row is the one that opened the closed screen.
     void screenBesideClosed() override { m_table.deselectRow(); }

@@ -1,5 +1,6 @@
 #include "screens/kit/ViewController.h"
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -86,15 +87,21 @@ void ViewController::setTitle(QString title) {
 }
 
 void ViewController::setLeftBarButtons(std::vector<BarButton> buttons) {
-    m_leftBarButtons = std::move(buttons);
-    if (m_observer) {
-        m_observer->barButtonsChanged();
-    }
+    setBarButtons(m_leftBarButtons, std::move(buttons));
 }
 
 void ViewController::setRightBarButtons(std::vector<BarButton> buttons) {
-    m_rightBarButtons = std::move(buttons);
-    if (m_observer) {
+    setBarButtons(m_rightBarButtons, std::move(buttons));
+}
+
+// A button that looks the same stays, and with it the keyboard's focus.
+void ViewController::setBarButtons(std::vector<BarButton>& current, std::vector<BarButton> buttons) {
+    const bool looksTheSame =
+        std::ranges::equal(current, buttons, [](const BarButton& a, const BarButton& b) {
+            return a.kind == b.kind && a.title == b.title && a.enabled == b.enabled;
+        });
+    current = std::move(buttons);
+    if (m_observer && !looksTheSame) {
         m_observer->barButtonsChanged();
     }
 }

@@ -112,6 +112,8 @@ class ViewController : public std::enable_shared_from_this<ViewController> {
   private:
     friend class NavigationController;
 
+    void setBarButtons(std::vector<BarButton>& current, std::vector<BarButton> buttons);
+
     QString m_title;
     std::vector<BarButton> m_leftBarButtons;
     std::vector<BarButton> m_rightBarButtons;

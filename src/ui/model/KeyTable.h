@@ -66,6 +66,8 @@ class KeyTable : public QObject {
         Home,
         End,
         Activate,
+        Extend,
+        SelectAll,
         Menu,
         Delete,
         MoveUp,

@@ -62,6 +62,7 @@ enum class BarButtonKind {
     Play = int(guide::BarButton::Kind::Play),
     Info = int(guide::BarButton::Kind::Info),
     Activity = int(guide::BarButton::Kind::Activity),
+    List = int(guide::BarButton::Kind::List),
 };
 Q_ENUM_NS(BarButtonKind)
 

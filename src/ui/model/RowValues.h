@@ -304,6 +304,8 @@ struct SectionValue {
     Q_PROPERTY(int place MEMBER place CONSTANT FINAL)
     Q_PROPERTY(bool first READ first CONSTANT FINAL)
     Q_PROPERTY(bool last MEMBER last CONSTANT FINAL)
+    /// Whether it is the first row, and rows of another kind follow.
+    Q_PROPERTY(bool leads MEMBER leads CONSTANT FINAL)
 
   public:
     bool first() const { return place == 0; }
@@ -313,6 +315,7 @@ struct SectionValue {
     bool tiles = false;
     int place = 0;
     bool last = true;
+    bool leads = false;
 
     friend bool operator==(const SectionValue&, const SectionValue&) = default;
 };

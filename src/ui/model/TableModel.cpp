@@ -110,6 +110,8 @@ QVariant TableModel::sectionValue(int index) const {
     if (next != m_starts.end()) {
         value.place = index - *std::prev(next);
         value.last = index + 1 == *next;
+        value.leads = value.first() && !section.rows.empty() &&
+                      section.rows.front().kind() != section.rows.back().kind();
     }
     return QVariant::fromValue(value);
 }

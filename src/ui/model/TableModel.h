@@ -84,7 +84,7 @@ class TableModel : public QAbstractListModel, private TableObserver {
 
     // ---- the user's events; indexes without a row are ignored
 
-    Q_INVOKABLE void tap(int index) { send(index, Tapped{}); }
+    Q_INVOKABLE void tap(int index, bool extending = false) { send(index, Tapped{extending}); }
     Q_INVOKABLE void tapAccessory(int index) { send(index, AccessoryTapped{}); }
     Q_INVOKABLE void toggle(int index, bool on) { send(index, Toggled{on}); }
     Q_INVOKABLE void choose(int index, int choice) { send(index, Chosen{choice}); }
@@ -107,6 +107,7 @@ class TableModel : public QAbstractListModel, private TableObserver {
     Q_INVOKABLE bool actionsApply(int index) const;
     /// While the user touches the list, its rows stay where they are.
     Q_INVOKABLE void hold(bool held) { m_viewController->table().setHeld(held); }
+    Q_INVOKABLE bool selectAll() { return m_viewController->selectAll(); }
     Q_INVOKABLE void pressEmptyButton() { m_viewController->pressEmptyNoteButton(); }
     /// The row became visible, or changed while visible.
     Q_INVOKABLE void shown(int index);

@@ -125,6 +125,7 @@ FocusScope {
 
                     sourceComponent: StackPages {
                         stack: tab.stack
+                        shell: main.shell
                         sideBySide: main.width >= 1100
                         focus: true
                     }

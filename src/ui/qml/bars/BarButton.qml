@@ -57,7 +57,8 @@ T.AbstractButton {
             height: 24
             visible: !button.titled && !button.busy
             symbol: button.kind === Kit.BarButtonKind.Play ? Glyph.Play
-                    : button.kind === Kit.BarButtonKind.Info ? Glyph.Info : Glyph.Refresh
+                    : button.kind === Kit.BarButtonKind.Info ? Glyph.Info
+                    : button.kind === Kit.BarButtonKind.List ? Glyph.Reorder : Glyph.Refresh
             color: button.enabled ? Theme.tint : Theme.secondaryLabel
         }
 

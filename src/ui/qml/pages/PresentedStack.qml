@@ -11,6 +11,8 @@ T.Popup {
     // The screen that presents it.
     property PageView presenterView: null
     property bool usable: true
+    // Its notices are shown here as well: nothing behind the popover or sheet can be reached.
+    property Shell shell: null
 
     signal gone()
 
@@ -127,6 +129,19 @@ T.Popup {
                 bottomMargin: panel.narrow && !panel.popover ? 0 : 12
             }
             focus: true
+        }
+
+        Loader {
+            anchors {
+                left: parent.left
+                right: parent.right
+                bottom: parent.bottom
+                bottomMargin: 4
+            }
+            active: panel.shell !== null
+            sourceComponent: NoticeBar {
+                shell: panel.shell
+            }
         }
     }
 

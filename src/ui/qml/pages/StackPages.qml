@@ -6,6 +6,7 @@ FocusScope {
     id: view
 
     required property PageStack stack
+    property Shell shell: null
     // Whether the window is wide enough for two screens.
     property bool sideBySide: false
     // Whether the stack is a popover or sheet, which its first screen closes.
@@ -94,6 +95,7 @@ FocusScope {
 
     PresentedStack {
         presenter: view.stack
+        shell: view.shell
         presenterView: view.topScreen
         usable: view.visible && view.enabled
         onGone: if (usable)

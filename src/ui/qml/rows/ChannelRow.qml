@@ -7,7 +7,7 @@ TableRow {
 
     readonly property bool playable: row.accessory === Kit.Accessory.Play
     // Whether this is the heading of the channel's shows.
-    readonly property bool heading: section.first && !section.last && section.header === ""
+    readonly property bool heading: section.leads && section.header === ""
 
     activatable: row.selectable || playable
     surfaceColor: tiled || heading ? Theme.groupedBackground : Theme.background

@@ -12,7 +12,8 @@ Item {
     readonly property color shownColor: (selectable && tap.pressed) || selected ? Theme.pressed : color
     property int radius: 0
 
-    signal tapped()
+    // With Shift, `extending` is true.
+    signal tapped(bool extending)
 
     Rectangle {
         anchors.fill: parent
@@ -40,6 +41,6 @@ Item {
         id: tap
 
         enabled: surface.selectable
-        onTapped: surface.tapped()
+        onTapped: surface.tapped((point.modifiers & Qt.ShiftModifier) !== 0)
     }
 }

@@ -284,6 +284,13 @@ ListView {
             if (event.text !== " " || !typeAhead(event))
                 activateCurrent()
             break
+        case KeyTable.Extend:
+            if (currentRow && (currentRow.activatable || currentRow.takesText))
+                currentRow.extend()
+            break
+        case KeyTable.SelectAll:
+            event.accepted = view.page.rows.selectAll()
+            break
         case KeyTable.Menu:
             if (currentRow)
                 openMenu(currentRow, currentRow.width / 2, currentRow.height / 2)

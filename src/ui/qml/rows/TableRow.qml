@@ -57,6 +57,14 @@ FocusScope {
         rows.tap(index)
     }
 
+    // With Shift, together with the rows since the last tap.
+    function extend() {
+        if (row.selectable)
+            rows.tap(index, true)
+        else
+            activate()
+    }
+
     function uncover() {
         actions = rows.actions(index)
         swiped = actions.length > 0
@@ -165,9 +173,12 @@ FocusScope {
             selectable: cell.activatable && !cell.swiped
             selected: cell.row.selected
             focused: cell.current && cell.list.activeFocus && cell.list.keyboardUsed
-            onTapped: {
+            onTapped: extending => {
                 cell.list.keyboardUsed = false
-                cell.activate()
+                if (extending)
+                    cell.extend()
+                else
+                    cell.activate()
             }
             onXChanged: cell.dropActions()
 
