@@ -51,11 +51,11 @@ SaveSchedule::SaveSchedule(DispatchQueues& queues, const Clock& clock, const Fol
     , m_backgroundTasks(backgroundTasks)
     , m_queue(queues.makeQueue("vorel.listings.file.io", QueueKind::Serial, QueuePriority::Background)) {}
 
-void SaveSchedule::add(std::vector<ObjectId> channels) {
+void SaveSchedule::add(std::vector<ObjectId> channels, Moment loaded) {
     if (!m_writable) {
         return;
     }
-    m_queue->async([self = shared_from_this(), channels = std::move(channels), loaded = m_clock.now()] {
+    m_queue->async([self = shared_from_this(), channels = std::move(channels), loaded] {
         for (const ObjectId& channel : channels) {
             self->m_scheduled.insert_or_assign(channel, loaded);
         }

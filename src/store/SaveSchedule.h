@@ -12,6 +12,7 @@
 #include <functional>
 #include <memory>
 #include <unordered_map>
+#include <utility>
 
 namespace guide {
 
@@ -34,7 +35,9 @@ class SaveSchedule : public std::enable_shared_from_this<SaveSchedule> {
     DispatchQueue& queue() { return *m_queue; }
 
     /// Schedules the lists, asynchronously. Their files get the current time as their date.
-    void add(std::vector<ObjectId> channels);
+    void add(std::vector<ObjectId> channels) { add(std::move(channels), m_clock.now()); }
+    /// The same with another date.
+    void add(std::vector<ObjectId> channels, Moment loaded);
     /// Asks for the scheduled lists to be written in kWaitAfterCheck. Must run on the queue.
     void checkEnded() { writeAfter(kWaitAfterCheck, m_afterCheck); }
     /// Blocks on the queue.

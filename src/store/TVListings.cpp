@@ -247,10 +247,39 @@ MergeResult TVListings::merge(const std::vector<LoadItem>& items, ParsedLists pa
     return result;
 }
 
-void TVListings::removeListingsForChannel(const ObjectId& channel) {
-    m_state->change([channel](State& state) {
-        state.lists.erase(channel);
+std::shared_ptr<const RemovedListings> TVListings::removeListingsForChannels(std::vector<ObjectId> channels) {
+    auto removed = std::make_shared<RemovedListings>();
+    // Only a caller that keeps the result can restore the lists.
+    m_state->change([channels = std::move(channels), weak = std::weak_ptr(removed)](State& state) {
+        const auto kept = weak.lock();
+        for (const ObjectId& channel : channels) {
+            auto list = state.lists.extract(channel);
+            if (kept && !list.empty()) {
+                kept->lists.insert(std::move(list));
+            }
+        }
         state.saveAllShows(true);
+    });
+    return removed;
+}
+
+void TVListings::restoreListings(std::shared_ptr<const RemovedListings> removed) {
+    m_state->change([removed = std::move(removed)](State& state) {
+        bool changed = false;
+        for (const auto& [channel, list] : removed->lists) {
+            const auto record = state.environment.channels.channelWithChannelId(channel);
+            if (!record || !state.lists.emplace(channel, list).second) {
+                continue;
+            }
+            changed = true;
+            // The list may have been waiting to be written when it was removed.
+            if (const auto loaded = record->timeLoaded()) {
+                state.saveSchedule->add({channel}, *loaded);
+            }
+        }
+        if (changed) {
+            state.saveAllShows(true);
+        }
     });
 }
 

@@ -42,6 +42,9 @@ struct TVListingsEnvironment {
     std::function<int()> showCount;
 };
 
+/// Lists that were removed from the store.
+struct RemovedListings;
+
 using ShowCounts = std::unordered_map<ObjectId, unsigned>;
 using ShowsBlock = std::function<void(ShowItems)>;
 
@@ -63,7 +66,13 @@ class TVListings {
                       const ReadOutcome& read = {});
 
     /// Removes the list but not its file.
-    void removeListingsForChannel(const ObjectId& channel);
+    void removeListingsForChannel(const ObjectId& channel) { removeListingsForChannels({channel}); }
+    /// The same for several channels at the cost of one. The lists are kept for restoreListings() as long as
+    /// the result is.
+    std::shared_ptr<const RemovedListings> removeListingsForChannels(std::vector<ObjectId> channels);
+    /// Puts removed lists back, of channels that are selected again and have no new list. They are written
+    /// with the load time of the channel's record.
+    void restoreListings(std::shared_ptr<const RemovedListings> removed);
     /// Rebuild the list of all shows; the second also starts a refresh of the most watched shows.
     void saveAllShows();
     void updatePopularList();

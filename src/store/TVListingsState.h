@@ -7,6 +7,11 @@
 
 namespace guide {
 
+/// Read and written on the access queue.
+struct RemovedListings {
+    ChannelLists lists;
+};
+
 /// What the blocks of one store share. The access queue guards the members declared after it: blocks read
 /// them, barriers write them.
 struct TVListings::State : std::enable_shared_from_this<State> {

@@ -7,6 +7,8 @@
 namespace guide::test {
 namespace {
 
+using namespace std::chrono_literals;
+
 constexpr const char* kAccess = "vorel.listings.access";
 constexpr const char* kFiles = "vorel.listings.file.io";
 
@@ -373,6 +375,31 @@ TEST_F(TVListingsTest, RemovedListsLeaveTheirFiles) {
     listings->updatePopularList();
     queues.runAll();
     EXPECT_EQ(world.popular.refreshes, 2);
+}
+
+TEST_F(TVListingsTest, RemovedListsCanBeRestored) {
+    made();
+    merge({show(0, 2, u"A1"_s), show(0, 2, u"A2"_s, 0, channel(2))});
+    queues.runAll();
+    const std::vector<ObjectId> all = world.channels->selected();
+    world.channels->setSelected({});
+    auto removed = listings->removeListingsForChannels(all);
+    // Nothing is left to write.
+    EXPECT_TRUE(listings->finishWriting(1s));
+    EXPECT_EQ(found(u"a"_s), Titles{});
+
+    world.channels->setSelected({channel(2), channel(1)});
+    world.channels->channelWithChannelId(channel(1))->setTimeLoaded(kNow - 20h);
+    merge({show(1, 2, u"A3"_s, 0, channel(2))});
+    listings->restoreListings(removed);
+    EXPECT_EQ(found(u"a"_s), (Titles{"A1", "A3"})) << "a newer list stays";
+    EXPECT_TRUE(listings->finishWriting(1s));
+    EXPECT_EQ(fileModificationDate(world.listingsFile(channel(1))), kNow - 20h);
+
+    world.channels->setSelected({channel(2)});
+    removed = listings->removeListingsForChannels({channel(1)});
+    listings->restoreListings(removed);
+    EXPECT_EQ(cachedList(1), Titles{}) << "it is not selected";
 }
 
 TEST_F(TVListingsTest, UpdatedShowsAreFoundAndWrittenAndOldListsStayTheSame) {
