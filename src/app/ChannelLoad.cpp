@@ -58,12 +58,15 @@ void ChannelLoad::recordPages(const LoadItem& item, std::size_t pages, const Mer
     }
     if (const auto list = result.lists.find(item.channel); list != result.lists.end()) {
         const TVEntry& last = *list->second->back().entry();
+        const auto source = std::ranges::find_if(
+            m_sources, [&item](const Source& each) { return each.passedOver.sourceId == item.sourceId; });
         m_used = UsedSource{.sourceId = item.sourceId,
                             .at = at,
                             .pages = static_cast<int>(pages),
                             .shows = static_cast<int>(list->second->size()),
                             .coveredUntil = last.endDateTime() ? last.endDateTime() : last.dateTime(),
-                            .incomplete = result.read.incomplete};
+                            .incomplete = result.read.incomplete,
+                            .host = source == m_sources.end() ? QString() : source->host};
         return;
     }
     const auto outcome = result.outcomes.find(item.channel);

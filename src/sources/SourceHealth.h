@@ -47,6 +47,8 @@ struct UsedSource {
     std::optional<Moment> coveredUntil;
     /// A page broke off, or had more shows than are kept.
     bool incomplete = false;
+    /// The host of its pages; empty in records of earlier versions.
+    QString host = {};
 
     friend bool operator==(const UsedSource&, const UsedSource&) = default;
 };

@@ -56,6 +56,9 @@ QJsonObject jsonOf(const UsedSource& used) {
                      {u"at"_s, textOf(used.at)},
                      {u"pages"_s, used.pages},
                      {u"shows"_s, used.shows}};
+    if (!used.host.isEmpty()) {
+        json.insert(u"host"_s, used.host);
+    }
     if (used.coveredUntil) {
         json.insert(u"coveredUntil"_s, textOf(*used.coveredUntil));
     }
@@ -75,7 +78,8 @@ std::optional<UsedSource> usedSource(const QJsonObject& json) {
                       .pages = json[u"pages"_s].toInt(),
                       .shows = json[u"shows"_s].toInt(),
                       .coveredUntil = momentOf(json[u"coveredUntil"_s]),
-                      .incomplete = json[u"incomplete"_s].toBool()};
+                      .incomplete = json[u"incomplete"_s].toBool(),
+                      .host = json[u"host"_s].toString()};
 }
 
 QJsonObject jsonOf(const PassedOverSource& source) {

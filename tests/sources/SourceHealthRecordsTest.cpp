@@ -25,7 +25,9 @@ SourceHealth failedLoad() {
 }
 
 SourceHealth goodLoad() {
-    return {.at = kAt, .used = UsedSource{u"n.2"_s, kAt, 7, 280, std::nullopt, true}, .passedOver = {}};
+    return {.at = kAt,
+            .used = UsedSource{u"n.2"_s, kAt, 7, 280, std::nullopt, true, u"b.example"_s},
+            .passedOver = {}};
 }
 
 struct SourceHealthRecordsTest : testing::Test {
