@@ -22,11 +22,14 @@ void appendNew(std::vector<Value>& values, Value value) {
 
 } // namespace
 
-StepSchedule::StepSchedule(std::vector<UpdateStep> steps) {
-    m_nodes.reserve(steps.size());
-    for (std::size_t index = 0; index < steps.size(); ++index) {
+void StepSchedule::addFirst(std::vector<UpdateStep> steps) {
+    m_nodes.reserve(m_nodes.size() + steps.size());
+    ++m_plans;
+    for (UpdateStep& step : steps) {
+        const std::size_t index = m_nodes.size();
         Node node;
-        node.step = std::move(steps[index]);
+        node.plan = -m_plans;
+        node.step = std::move(step);
         for (const QUrl& url : node.step.urls) {
             appendNew(node.hosts, hostOf(url));
         }
@@ -37,15 +40,21 @@ StepSchedule::StepSchedule(std::vector<UpdateStep> steps) {
             }
             node.channels.push_back(served.channel);
             Line& line = m_lines[served.channel];
-            node.waiting += line.steps.empty() ? 0 : 1;
+            node.waiting += line.next == line.steps.size() ? 0 : 1;
             line.steps.push_back(index);
         }
         node.needed = node.channels.size();
-        if (node.waiting == 0) {
-            m_ready.insert(index);
-        }
+        const bool isReady = node.waiting == 0;
         m_nodes.push_back(std::move(node));
+        if (isReady) {
+            m_ready.insert(rankOf(index));
+        }
     }
+}
+
+bool StepSchedule::hasStepsFor(const ObjectId& channel) const {
+    const auto line = m_lines.find(channel);
+    return line != m_lines.end() && line->second.next < line->second.steps.size();
 }
 
 bool StepSchedule::areIdle(const std::vector<QString>& hosts) const {
@@ -58,11 +67,11 @@ std::optional<std::size_t> StepSchedule::start() {
         return std::nullopt;
     }
     const auto next = std::find_if(m_ready.begin(), m_ready.end(),
-                                   [this](std::size_t index) { return areIdle(m_nodes[index].hosts); });
+                                   [this](const Rank& rank) { return areIdle(m_nodes[rank.second].hosts); });
     if (next == m_ready.end()) {
         return std::nullopt;
     }
-    const std::size_t index = *next;
+    const std::size_t index = next->second;
     m_ready.erase(next);
     Node& node = m_nodes[index];
     node.isRunning = true;
@@ -80,13 +89,13 @@ void StepSchedule::finish(std::size_t index) {
     --m_running;
     for (const ObjectId& channel : node.channels) {
         Line& line = m_lines.at(channel);
-        if (line.next == line.steps.size()) {
+        if (line.next == line.steps.size() || line.steps[line.next] != index) {
             continue; // released
         }
         if (++line.next < line.steps.size()) {
             const std::size_t following = line.steps[line.next];
             if (--m_nodes[following].waiting == 0) {
-                m_ready.insert(following);
+                m_ready.insert(rankOf(following));
             }
         }
     }
@@ -103,9 +112,9 @@ void StepSchedule::release(const ObjectId& channel) {
         Node& node = m_nodes[index];
         node.waiting -= place == line.next ? 0 : 1;
         if (--node.needed == 0) {
-            m_ready.erase(index);
+            m_ready.erase(rankOf(index));
         } else if (node.waiting == 0 && !node.isRunning) {
-            m_ready.insert(index);
+            m_ready.insert(rankOf(index));
         }
     }
     line.next = line.steps.size();

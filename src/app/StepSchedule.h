@@ -7,6 +7,7 @@
 #include <set>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace guide {
@@ -18,8 +19,9 @@ class StepSchedule {
   public:
     static constexpr std::size_t kMostRunning = 4;
 
-    /// The steps in the order of the plan.
-    explicit StepSchedule(std::vector<UpdateStep> steps);
+    /// Adds the steps of a plan, in its order. They precede all steps that have not started. No channel of
+    /// them may have a step left.
+    void addFirst(std::vector<UpdateStep> steps);
 
     const UpdateStep& step(std::size_t index) const { return m_nodes[index].step; }
 
@@ -32,6 +34,8 @@ class StepSchedule {
 
     /// Whether a step is running.
     bool isRunning() const { return m_running > 0; }
+    /// Whether the channel has a step that has not ended.
+    bool hasStepsFor(const ObjectId& channel) const;
 
   private:
     struct Node {
@@ -44,6 +48,8 @@ class StepSchedule {
         /// How many of the channels have not been released.
         std::size_t needed = 0;
         bool isRunning = false;
+        /// Which plan it belongs to; later ones have smaller numbers.
+        int plan = 0;
     };
     /// The steps of one channel; those before `next` have ended.
     struct Line {
@@ -51,14 +57,19 @@ class StepSchedule {
         std::size_t next = 0;
     };
 
+    /// The order in which steps start: by plan, then by index.
+    using Rank = std::pair<int, std::size_t>;
+
+    Rank rankOf(std::size_t index) const { return {m_nodes[index].plan, index}; }
     bool areIdle(const std::vector<QString>& hosts) const;
 
     std::vector<Node> m_nodes;
     std::unordered_map<ObjectId, Line> m_lines;
     /// Steps that only wait for their hosts.
-    std::set<std::size_t> m_ready;
+    std::set<Rank> m_ready;
     std::unordered_set<QString> m_busyHosts;
     std::size_t m_running = 0;
+    int m_plans = 0;
 };
 
 } // namespace guide

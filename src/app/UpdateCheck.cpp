@@ -3,6 +3,7 @@
 #include "sources/SourceDay.h"
 
 #include <algorithm>
+#include <iterator>
 #include <mutex>
 #include <utility>
 
@@ -80,8 +81,27 @@ UpdateCheck::UpdateCheck(std::shared_ptr<UpdateWork> work, Block ended)
 void UpdateCheck::begin(const ShowCounts& counts) {
     m_task->begin();
     m_environment.sourceHealth.read();
-    m_wanted = wantedChannels(counts);
+    for (const ObjectId& id : m_environment.channels.selected()) {
+        if (isWanted(id, counts)) {
+            m_wanted.push_back(id);
+        }
+    }
     planAndLoad();
+}
+
+void UpdateCheck::join(const ShowCounts& counts) {
+    std::vector<ObjectId> joining;
+    for (const ObjectId& id : m_environment.channels.selected()) {
+        const auto load = m_loads.find(id);
+        if (m_schedule.hasStepsFor(id)) {
+            m_requested.insert(id);
+        } else if (load != m_loads.end() && load->second.hasStored() ? isDue(id) : isWanted(id, counts)) {
+            // What this check has stored may not be in the counts.
+            joining.push_back(id);
+        }
+    }
+    loadAgain(joining);
+    startSteps();
 }
 
 unsigned UpdateCheck::showCount() const {
@@ -101,29 +121,23 @@ Moment UpdateCheck::dayBegan() const {
     return startOfSourceDay(m_environment.clock.now(), m_environment.device.timeZone());
 }
 
-/// The selected channels to plan.
-std::vector<ObjectId> UpdateCheck::wantedChannels(const ShowCounts& counts) const {
-    std::vector<ObjectId> wanted;
-    for (const ObjectId& id : m_environment.channels.selected()) {
-        const std::shared_ptr<TVChannel> channel = m_environment.channels.channelWithChannelId(id);
-        if (!channel) {
-            continue;
-        }
-        ChannelCondition condition;
-        if (const auto count = counts.find(id); count != counts.end()) {
-            condition.showCount = count->second;
-        }
-        condition.loading = channel->loading();
-        condition.reloadNeeded = reloadNeeded(*channel);
-        const ChannelDecision decision = decideChannel(condition, showCount());
-        if (decision.requireReload) {
-            channel->requireReload();
-        }
-        if (decision.plan) {
-            wanted.push_back(id);
-        }
+/// Whether URLs must be planned for a selected channel.
+bool UpdateCheck::isWanted(const ObjectId& id, const ShowCounts& counts) const {
+    const std::shared_ptr<TVChannel> channel = m_environment.channels.channelWithChannelId(id);
+    if (!channel) {
+        return false;
     }
-    return wanted;
+    ChannelCondition condition;
+    if (const auto count = counts.find(id); count != counts.end()) {
+        condition.showCount = count->second;
+    }
+    condition.loading = channel->loading();
+    condition.reloadNeeded = reloadNeeded(*channel);
+    const ChannelDecision decision = decideChannel(condition, showCount());
+    if (decision.requireReload) {
+        channel->requireReload();
+    }
+    return decision.plan;
 }
 
 UpdateCheck::PlannedChannels UpdateCheck::plannedChannels(const std::vector<ObjectId>& wanted) {
@@ -148,31 +162,65 @@ UpdateCheck::PlannedChannels UpdateCheck::plannedChannels(const std::vector<Obje
 void UpdateCheck::planAndLoad() {
     m_planIsOld = false;
     m_day = dayBegan();
-    m_schedule.emplace(planSteps(plannedChannels(m_wanted)));
+    m_schedule = StepSchedule();
+    addSteps(m_wanted);
+    startSteps();
+}
+
+void UpdateCheck::addSteps(const std::vector<ObjectId>& wanted) {
+    m_schedule.addFirst(planSteps(plannedChannels(wanted)));
     std::vector<ObjectId> due;
-    for (const ObjectId& id : m_wanted) {
+    for (const ObjectId& id : wanted) {
         if (isDue(id)) {
             due.push_back(id);
         } else {
-            m_schedule->release(id);
+            m_schedule.release(id);
         }
     }
     announce(due);
-    startSteps();
+}
+
+/// Whether the load of the channel has ended without one, because the channel was not selected for a while.
+bool UpdateCheck::isWithoutResult(const ObjectId& id) const {
+    const auto load = m_loads.find(id);
+    return load != m_loads.end() && !load->second.hasStored() && !load->second.failure() && isDue(id);
+}
+
+/// The channels must have no step left.
+void UpdateCheck::loadAgain(const std::vector<ObjectId>& channels) {
+    for (const ObjectId& id : channels) {
+        m_loads.erase(id);
+        if (std::ranges::find(m_wanted, id) == m_wanted.end()) {
+            m_wanted.push_back(id);
+        }
+    }
+    // Pages of two days must not be mixed: the rest is planned when the running steps have ended.
+    m_planIsOld = m_planIsOld || dayBegan() != m_day;
+    if (!m_planIsOld) {
+        addSteps(channels);
+    }
 }
 
 /// Starts what may start. When nothing is left to do or to wait for, ends the check.
 void UpdateCheck::startSteps() {
     while (!m_work->cancelled && !m_planIsOld) {
-        const std::optional<std::size_t> index = m_schedule->start();
+        const std::optional<std::size_t> index = m_schedule.start();
         if (!index) {
             break;
         }
         if (!startStep(*index)) {
-            m_schedule->finish(*index);
+            m_schedule.finish(*index);
         }
     }
-    if (m_schedule->isRunning()) {
+    if (m_schedule.isRunning()) {
+        return;
+    }
+    std::vector<ObjectId> again;
+    std::ranges::copy_if(std::exchange(m_requested, {}), std::back_inserter(again),
+                         [this](const ObjectId& id) { return isWithoutResult(id); });
+    if (!again.empty() && !m_work->cancelled) {
+        loadAgain(again);
+        startSteps();
         return;
     }
     if (m_planIsOld && !m_work->cancelled) {
@@ -185,7 +233,7 @@ void UpdateCheck::startSteps() {
 
 /// False when there is nothing to fetch.
 bool UpdateCheck::startStep(std::size_t index) {
-    const UpdateStep& step = m_schedule->step(index);
+    const UpdateStep& step = m_schedule.step(index);
     DueItems due = dueItems(step, [this](const ObjectId& id) -> std::optional<QString> {
         const std::shared_ptr<TVChannel> channel = m_environment.channels.channelWithChannelId(id);
         return channel && reloadNeeded(*channel) ? std::optional(channel->language()) : std::nullopt;
@@ -229,19 +277,19 @@ void UpdateCheck::finishStep(std::size_t index, DueItems due, const Fetched& fet
             m_environment.loadQueue->sync([&] { outcome = parse(due.items, due.type, fetched); });
             if (outcome.incomplete || !outcome.isSchedule) {
                 // The next load must not get the same pages from the cache.
-                for (const QUrl& url : m_schedule->step(index).urls) {
+                for (const QUrl& url : m_schedule.step(index).urls) {
                     m_environment.fetcher.forget(requestFor(url));
                 }
             }
         }
         for (const ObjectId& id : asked) {
             if (!isDue(id)) {
-                m_schedule->release(id);
+                m_schedule.release(id);
             }
         }
         announce(asked);
     }
-    m_schedule->finish(index);
+    m_schedule.finish(index);
     startSteps();
 }
 

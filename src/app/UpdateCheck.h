@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace guide {
@@ -32,6 +33,9 @@ class UpdateCheck : public std::enable_shared_from_this<UpdateCheck> {
     UpdateCheck(std::shared_ptr<UpdateWork> work, Block ended);
 
     void begin(const ShowCounts& counts);
+    /// Another check was requested: loads, ahead of what has not started, the channels that have become due
+    /// since, and once more those whose loads have failed.
+    void join(const ShowCounts& counts);
 
   private:
     class BackgroundTask;
@@ -52,9 +56,12 @@ class UpdateCheck : public std::enable_shared_from_this<UpdateCheck> {
     bool isDue(const ObjectId& id) const;
     Moment dayBegan() const;
 
-    std::vector<ObjectId> wantedChannels(const ShowCounts& counts) const;
+    bool isWanted(const ObjectId& id, const ShowCounts& counts) const;
     PlannedChannels plannedChannels(const std::vector<ObjectId>& wanted);
     void planAndLoad();
+    void addSteps(const std::vector<ObjectId>& wanted);
+    bool isWithoutResult(const ObjectId& id) const;
+    void loadAgain(const std::vector<ObjectId>& channels);
     void startSteps();
     bool startStep(std::size_t index);
     void finishStep(std::size_t index, DueItems due, const Fetched& fetched);
@@ -74,7 +81,9 @@ class UpdateCheck : public std::enable_shared_from_this<UpdateCheck> {
     const std::shared_ptr<BackgroundTask> m_task;
     std::vector<ObjectId> m_wanted;
     std::unordered_map<ObjectId, ChannelLoad> m_loads;
-    std::optional<StepSchedule> m_schedule;
+    /// Channels that were requested again while they were being loaded.
+    std::unordered_set<ObjectId> m_requested;
+    StepSchedule m_schedule;
     /// When the day of the plan began.
     Moment m_day = Moment::min();
     /// A new day has begun, and a step depends on the day.

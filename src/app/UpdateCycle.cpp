@@ -7,27 +7,39 @@ namespace guide {
 struct UpdateCycle::State : UpdateWork {
     using UpdateWork::UpdateWork;
 
-    /// A check was requested and has not started.
+    /// A check was requested, and its shows have not been counted.
     std::atomic<bool> waiting = false;
-    /// A check has been started and has not ended. Changed on the check queue.
+    /// The running check. Used on the check queue, like the number of checks that have ended.
+    std::weak_ptr<UpdateCheck> check;
+    unsigned ended = 0;
+    /// A check is running or about to run. Changed on the check queue.
     std::atomic<bool> running = false;
 
-    /// On the check queue, while no check is running.
-    static void start(const std::shared_ptr<State>& state) {
+    /// On the check queue.
+    static void count(const std::shared_ptr<State>& state) {
         state->running = true;
-        // The shows are counted after the previous check; otherwise what it loaded would be loaded again.
         state->environment.listings.showCountForSelectedChannelsForQueue(
-            state->environment.checkQueue, [state](const ShowCounts& counts) {
-                state->waiting = false;
+            state->environment.checkQueue, [state, ended = state->ended](const ShowCounts& counts) {
                 if (state->cancelled) {
                     return;
                 }
-                std::make_shared<UpdateCheck>(state, [state] {
+                if (state->ended != ended) {
+                    // What the check has stored would be loaded again.
+                    count(state);
+                    return;
+                }
+                state->waiting = false;
+                if (const auto running = state->check.lock()) {
+                    running->join(counts);
+                    return;
+                }
+                const auto check = std::make_shared<UpdateCheck>(state, [state] {
+                    ++state->ended;
+                    state->check.reset();
                     state->running = false;
-                    if (state->waiting && !state->cancelled) {
-                        start(state);
-                    }
-                })->begin(counts);
+                });
+                state->check = check;
+                check->begin(counts);
             });
     }
 };
@@ -40,8 +52,8 @@ void UpdateCycle::checkAndUpdateAllChannels() {
         return;
     }
     m_state->environment.checkQueue->async([state = m_state] {
-        if (!state->running && !state->cancelled) {
-            State::start(state);
+        if (!state->cancelled) {
+            State::count(state);
         }
     });
 }

@@ -73,7 +73,8 @@ class UpdateCycle {
   public:
     explicit UpdateCycle(UpdateCycleEnvironment environment);
 
-    /// Starts a check after the running one. Does nothing if a check is already waiting. Any thread.
+    /// Starts a check. If one is running, what is due now joins it: a channel is loaded as soon as its host
+    /// is free. Any thread.
     void checkAndUpdateAllChannels();
 
     /// Whether a check is running. Any thread.

@@ -29,21 +29,28 @@ UpdateStep step(const std::string& text) {
     return made;
 }
 
-/// Carries out "+" (starts what can start), "-N" (the step ends) and "=C" (the channel is loaded), and
-/// returns the numbers of the steps that each "+" started.
+/// Carries out "+" (starts what can start), "-N" (the step ends), "=C" (the channel is loaded) and "*" (the
+/// steps after the "/" are added), and returns the numbers of the steps that each "+" started.
 std::string run(const std::string& steps, const std::string& actions) {
-    std::vector<UpdateStep> made;
+    std::vector<std::vector<UpdateStep>> plans(1);
     std::istringstream words(steps);
     for (std::string word; words >> word;) {
-        made.push_back(step(word));
+        if (word == "/") {
+            plans.emplace_back();
+        } else {
+            plans.back().push_back(step(word));
+        }
     }
-    StepSchedule schedule(std::move(made));
+    StepSchedule schedule;
+    schedule.addFirst(plans[0]);
     std::string started;
     for (std::size_t at = 0; at < actions.size(); ++at) {
         if (actions[at] == '-') {
             schedule.finish(static_cast<std::size_t>(actions[++at] - '0'));
         } else if (actions[at] == '=') {
             schedule.release(channel(static_cast<unsigned char>(actions[++at] - '0')));
+        } else if (actions[at] == '*') {
+            schedule.addFirst(plans.at(1));
         } else {
             started += started.empty() ? "" : "|";
             while (const auto index = schedule.start()) {
@@ -71,6 +78,8 @@ TEST(StepScheduleTest, StartsWhatNeedsNotWait) {
         {"loaded while its step runs", "a:12 b:1 c:2", "+=1+-0+", "0||2"},
         {"channels that are not due", "a:1 b:12 c:2", "=1+=2+-1+", "1||."},
         {"a channel with two sources in one list", "a:11 b:1", "+-0+", "0|1"},
+        {"a later plan comes first", "a:1 a:2 / a:3 b:4", "+*+-0+-2+", "0|3|2|1"},
+        {"a later plan for a channel whose old step runs", "a:12 / b:1 c:1", "=1+*+-0+-1+", "0|1||2"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(run(row.steps, row.actions), row.started) << row.name;
@@ -83,7 +92,8 @@ TEST(StepScheduleTest, AHostIsSchemeNameAndPort) {
     second.urls = {QUrl(u"http://a:81/page"_s)};
     UpdateStep third = step("a:3");
     third.urls = {QUrl(u"http://user@a/other"_s)};
-    StepSchedule schedule({first, second, third});
+    StepSchedule schedule;
+    schedule.addFirst({first, second, third});
     EXPECT_EQ(schedule.start(), 0U);
     EXPECT_EQ(schedule.start(), 1U);
     EXPECT_EQ(schedule.start(), std::nullopt);

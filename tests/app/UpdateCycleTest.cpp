@@ -181,7 +181,25 @@ TEST_F(UpdateCycleTest, TheNextCheckDoesNotLoadAgainWhatTheRunningOneLoads) {
     world.cycle.checkAndUpdateAllChannels();
     check(world);
     EXPECT_EQ(world.parses.size(), 1U);
-    EXPECT_EQ(world.tasks.begun(), 2U);
+    EXPECT_EQ(world.tasks.begun(), 2U) << "the first one ended while the shows were being counted";
+}
+
+TEST_F(UpdateCycleTest, AChannelThatIsSelectedAgainDuringItsLoadIsLoaded) {
+    UpdateWorld world(queues, clock, {{1, {u"n.one"_s}}});
+    world.answer(kShared, "1 6");
+    const std::vector<ObjectId> all = world.channels->selected();
+    bool deselected = false;
+    world.client.onRequest([&](const HTTPRequest&) {
+        if (!std::exchange(deselected, true)) {
+            world.channels->setSelected({});
+            world.cycle.checkAndUpdateAllChannels();
+            world.loadQueue->async([&] { world.channels->setSelected(all); });
+        }
+    });
+    check(world);
+    check(world);
+    EXPECT_EQ(onAir(world), "1:4 ");
+    EXPECT_EQ(world.parses.size(), 1U);
 }
 
 TEST_F(UpdateCycleTest, AChannelDeselectedDuringTheLoadIsNotStored) {
@@ -252,7 +270,12 @@ TEST_F(UpdateCycleTest, RecordsTheResultOfEverySource) {
         return world.sourceHealth.healthFor(UpdateWorld::channelNumbered(channel)).value_or(SourceHealth());
     };
     const auto used = [&](const QString& sourceId, int shows) {
-        return UsedSource{sourceId, clock.now(), 1, shows, clock.now() + 60min * shows - 10min};
+        return UsedSource{.sourceId = sourceId,
+                          .at = clock.now(),
+                          .pages = 1,
+                          .shows = shows,
+                          .coveredUntil = clock.now() + 60min * shows - 10min,
+                          .host = QUrl(sourceId.startsWith(u"s."_s) ? kSecond : kShared).host()};
     };
     const PassedOverSource missing{third, PassedOverReason::NoPage, 404, PageReason::Status};
     using Sources = std::vector<PassedOverSource>;
@@ -336,6 +359,50 @@ TEST_F(UpdateCycleTest, AShutdownIsNotRecordedAsAFailureOfTheSource) {
     });
     check(world);
     EXPECT_EQ(world.sourceHealth.all(), earlier.all());
+}
+
+TEST(UpdateCycleThreadsTest, NewAndFailedChannelsDoNotWaitForASlowHost) {
+    ManualClock clock;
+    ThreadedQueues queues([] {});
+    {
+        UpdateWorld world(queues, clock,
+                          {{1, {u"n.one"_s}}, {2, {u"s.two"_s}}, {3, {u"http://third.test/"_s}}});
+        const std::vector<ObjectId> all = world.channels->selected();
+        world.channels->setSelected({all[0], all[1]});
+        world.answer(kShared, "1 5");
+        world.answerNothing(kSecond);
+        world.answer(u"http://third.test/"_s, "3 5");
+        std::atomic<bool> slow = true;
+        world.client.onRequest([&](const HTTPRequest& request) {
+            while (slow && request.url == QUrl(kShared)) {
+                std::this_thread::yield();
+            }
+        });
+        const auto runUntil = [&](const auto& condition) {
+            for (const auto end = std::chrono::steady_clock::now() + 60s;
+                 !condition() && std::chrono::steady_clock::now() < end;) {
+                queues.runMainQueue();
+                std::this_thread::yield();
+            }
+            EXPECT_TRUE(condition());
+        };
+        const auto record = [&](int place) { return world.channels->channelWithChannelId(all[place]); };
+        world.cycle.checkAndUpdateAllChannels();
+        runUntil([&] { return record(1)->loadFailure().has_value(); });
+        world.answer(kSecond, "2 5");
+        world.cycle.checkAndUpdateAllChannels();
+        runUntil([&] { return record(1)->timeLoaded().has_value(); });
+        world.channels->setSelected(all);
+        world.cycle.checkAndUpdateAllChannels();
+        runUntil([&] { return record(2)->timeLoaded().has_value(); });
+        EXPECT_FALSE(record(0)->timeLoaded());
+        slow = false;
+        runUntil([&] { return record(0)->timeLoaded().has_value(); });
+        EXPECT_TRUE(world.cycle.finish(10s));
+        EXPECT_EQ(world.client.requests().size(), 5U) << "two attempts where nothing answered";
+        EXPECT_TRUE(world.listings->finishWriting(10s));
+        queues.shutDown();
+    }
 }
 
 TEST(UpdateCycleThreadsTest, ASuspendedLoadQueueDelaysTheCheck) {
