@@ -256,10 +256,6 @@ Počkejte, až se program načte.</translation>
         <translation>Kanály</translation>
     </message>
     <message>
-        <source>Choosing channels here comes with a later version. Until then the guide takes them from a file when it starts.</source>
-        <translation>Výběr kanálů přinese některá z dalších verzí. Do té doby si je průvodce bere při spuštění ze souboru.</translation>
-    </message>
-    <message>
         <source>On now</source>
         <translation>Právě běží</translation>
     </message>
@@ -734,6 +730,134 @@ Počkejte, až se program načte.</translation>
     <message>
         <source>Next picture</source>
         <translation>Další obrázek</translation>
+    </message>
+    <message>
+        <source>Add channels</source>
+        <translation>Přidat kanály</translation>
+    </message>
+    <message>
+        <source>Choose the channels whose shows you want to see.</source>
+        <translation>Vyberte kanály, jejichž pořady chcete vidět.</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hotovo</translation>
+    </message>
+    <message>
+        <source>Unselect all</source>
+        <translation>Zrušit výběr všech</translation>
+    </message>
+    <message>
+        <source>Unselect</source>
+        <translation>Zrušit výběr</translation>
+    </message>
+    <message>
+        <source>Unselect all selected channels?</source>
+        <translation>Zrušit výběr všech vybraných kanálů?</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1: odebráno</translation>
+    </message>
+    <message>
+        <source>Move to top</source>
+        <translation>Přesunout nahoru</translation>
+    </message>
+    <message>
+        <source>Search all channels</source>
+        <translation>Hledat ve všech kanálech</translation>
+    </message>
+    <message>
+        <source>All channels</source>
+        <translation>Všechny kanály</translation>
+    </message>
+    <message>
+        <source>No channels</source>
+        <translation>Žádné kanály</translation>
+    </message>
+    <message>
+        <source>The catalogue is empty.</source>
+        <translation>Katalog je prázdný.</translation>
+    </message>
+    <message>
+        <source>No channel matches “%1”</source>
+        <translation>Hledání „%1“ neodpovídá žádný kanál</translation>
+    </message>
+    <message>
+        <source>The search looks at the titles and languages of all channels.</source>
+        <translation>Hledá se v názvech a jazycích všech kanálů.</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Vybrat vše</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Vybrat</translation>
+    </message>
+    <message>
+        <source>No schedule yet</source>
+        <translation>Zatím bez programu</translation>
+    </message>
+    <message>
+        <source>updated just now</source>
+        <translation>právě aktualizováno</translation>
+    </message>
+    <message>
+        <source>The channels that you have chosen appear here.</source>
+        <translation>Zde se zobrazí vybrané kanály.</translation>
+    </message>
+    <message>
+        <source>No live stream</source>
+        <translation>Bez živého vysílání</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Upozornění</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) removed</source>
+        <translation>
+            <numerusform>%n kanál odebrán</numerusform>
+            <numerusform>%n kanály odebrány</numerusform>
+            <numerusform>%n kanálů odebráno</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Select %n channel(s)?</source>
+        <translation>
+            <numerusform>Vybrat %n kanál?</numerusform>
+            <numerusform>Vybrat %n kanály?</numerusform>
+            <numerusform>Vybrat %n kanálů?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>updated %n min ago</source>
+        <translation>
+            <numerusform>aktualizováno před %n min</numerusform>
+            <numerusform>aktualizováno před %n min</numerusform>
+            <numerusform>aktualizováno před %n min</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>updated %n hour(s) ago</source>
+        <translation>
+            <numerusform>aktualizováno před %n hodinou</numerusform>
+            <numerusform>aktualizováno před %n hodinami</numerusform>
+            <numerusform>aktualizováno před %n hodinami</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>updated %n day(s) ago</source>
+        <translation>
+            <numerusform>aktualizováno před %n dnem</numerusform>
+            <numerusform>aktualizováno před %n dny</numerusform>
+            <numerusform>aktualizováno před %n dny</numerusform>
+        </translation>
     </message>
 </context>
 <context>

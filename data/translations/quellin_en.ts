@@ -24,5 +24,40 @@
             <numerusform>%n shows today</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n channel(s) removed</source>
+        <translation>
+            <numerusform>%n channel removed</numerusform>
+            <numerusform>%n channels removed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Select %n channel(s)?</source>
+        <translation>
+            <numerusform>Select %n channel?</numerusform>
+            <numerusform>Select %n channels?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>updated %n min ago</source>
+        <translation>
+            <numerusform>updated %n min ago</numerusform>
+            <numerusform>updated %n min ago</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>updated %n hour(s) ago</source>
+        <translation>
+            <numerusform>updated %n hour ago</numerusform>
+            <numerusform>updated %n hours ago</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>updated %n day(s) ago</source>
+        <translation>
+            <numerusform>updated %n day ago</numerusform>
+            <numerusform>updated %n days ago</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

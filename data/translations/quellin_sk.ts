@@ -256,10 +256,6 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Kanály</translation>
     </message>
     <message>
-        <source>Choosing channels here comes with a later version. Until then the guide takes them from a file when it starts.</source>
-        <translation>Výber kanálov prinesie niektorá z ďalších verzií. Dovtedy si ich sprievodca berie pri spustení zo súboru.</translation>
-    </message>
-    <message>
         <source>On now</source>
         <translation>Práve beží</translation>
     </message>
@@ -734,6 +730,134 @@ Počkajte, kým sa program načíta.</translation>
     <message>
         <source>Next picture</source>
         <translation>Ďalší obrázok</translation>
+    </message>
+    <message>
+        <source>Add channels</source>
+        <translation>Pridať kanály</translation>
+    </message>
+    <message>
+        <source>Choose the channels whose shows you want to see.</source>
+        <translation>Vyberte kanály, ktorých relácie chcete vidieť.</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hotovo</translation>
+    </message>
+    <message>
+        <source>Unselect all</source>
+        <translation>Zrušiť výber všetkých</translation>
+    </message>
+    <message>
+        <source>Unselect</source>
+        <translation>Zrušiť výber</translation>
+    </message>
+    <message>
+        <source>Unselect all selected channels?</source>
+        <translation>Zrušiť výber všetkých vybraných kanálov?</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1: odstránené</translation>
+    </message>
+    <message>
+        <source>Move to top</source>
+        <translation>Presunúť hore</translation>
+    </message>
+    <message>
+        <source>Search all channels</source>
+        <translation>Hľadať vo všetkých kanáloch</translation>
+    </message>
+    <message>
+        <source>All channels</source>
+        <translation>Všetky kanály</translation>
+    </message>
+    <message>
+        <source>No channels</source>
+        <translation>Žiadne kanály</translation>
+    </message>
+    <message>
+        <source>The catalogue is empty.</source>
+        <translation>Katalóg je prázdny.</translation>
+    </message>
+    <message>
+        <source>No channel matches “%1”</source>
+        <translation>Hľadaniu „%1“ nezodpovedá žiadny kanál</translation>
+    </message>
+    <message>
+        <source>The search looks at the titles and languages of all channels.</source>
+        <translation>Hľadá sa v názvoch a jazykoch všetkých kanálov.</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Vybrať všetko</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Vybrať</translation>
+    </message>
+    <message>
+        <source>No schedule yet</source>
+        <translation>Zatiaľ bez programu</translation>
+    </message>
+    <message>
+        <source>updated just now</source>
+        <translation>práve aktualizované</translation>
+    </message>
+    <message>
+        <source>The channels that you have chosen appear here.</source>
+        <translation>Tu sa zobrazia vybrané kanály.</translation>
+    </message>
+    <message>
+        <source>No live stream</source>
+        <translation>Bez živého vysielania</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Upozornenie</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušiť</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) removed</source>
+        <translation>
+            <numerusform>%n kanál odstránený</numerusform>
+            <numerusform>%n kanály odstránené</numerusform>
+            <numerusform>%n kanálov odstránených</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Select %n channel(s)?</source>
+        <translation>
+            <numerusform>Vybrať %n kanál?</numerusform>
+            <numerusform>Vybrať %n kanály?</numerusform>
+            <numerusform>Vybrať %n kanálov?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>updated %n min ago</source>
+        <translation>
+            <numerusform>aktualizované pred %n min</numerusform>
+            <numerusform>aktualizované pred %n min</numerusform>
+            <numerusform>aktualizované pred %n min</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>updated %n hour(s) ago</source>
+        <translation>
+            <numerusform>aktualizované pred %n hodinou</numerusform>
+            <numerusform>aktualizované pred %n hodinami</numerusform>
+            <numerusform>aktualizované pred %n hodinami</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>updated %n day(s) ago</source>
+        <translation>
+            <numerusform>aktualizované pred %n dňom</numerusform>
+            <numerusform>aktualizované pred %n dňami</numerusform>
+            <numerusform>aktualizované pred %n dňami</numerusform>
+        </translation>
     </message>
 </context>
 <context>

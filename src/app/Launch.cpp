@@ -282,6 +282,11 @@ void QuellinGuideAppDelegate::makeScreens() {
                                      [this](Alert alert) { presentAlert(std::move(alert)); }},
                                     entry);
             },
+        .sourceOfSchedule =
+            [this](const ObjectId& channel) {
+                const auto health = m_sourceHealth->healthFor(channel);
+                return health && health->used ? health->used->host : QString();
+            },
     });
     m_tabBarController = makeGuideTabs(m_screenEnvironment);
     m_screens = std::make_unique<ScreenBroadcast>(*m_tabBarController, m_environment.applicationState);
@@ -297,6 +302,8 @@ void QuellinGuideAppDelegate::makeScreens() {
             .raise = m_environment.raiseWindow,
         });
     }
+    m_catalogueUpdater = std::make_unique<CatalogueUpdater>(
+        m_catalogue, [this] { onMainQueue(&QuellinGuideAppDelegate::refreshChannels); });
 }
 
 void QuellinGuideAppDelegate::setup() {
@@ -330,7 +337,7 @@ void QuellinGuideAppDelegate::cleanUpSelection() {
     if (plan.kept.empty()) {
         m_tabBarController->disableTabs();
     }
-    onMainQueue(&QuellinGuideAppDelegate::notifySelectionCleanedUp);
+    onMainQueue(&QuellinGuideAppDelegate::refreshChannels);
     m_alarms.syncAlarms();
 }
 

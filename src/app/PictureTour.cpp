@@ -34,6 +34,10 @@ bool hasStream(const Row& row) {
 bool isText(const Row& row) {
     return row.kind() == RowKind::Text;
 }
+/// Of the channels to choose from.
+bool isChecked(const Row& row) {
+    return isChannel(row) && std::get<ChannelRow>(row.content).checked;
+}
 
 bool isFilms(const Row& row) {
     const auto* tile = std::get_if<TileRow>(&row.content);
@@ -67,6 +71,15 @@ constexpr std::array kStops{
     Stop{"favourites", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Edit")); }},
     Stop{"title", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }},
     Stop{"favourites-removed", [](PictureTour& tour) { return tour.back() && tour.send(Deleted{}, isText); }},
+    Stop{"selected-channels", [](PictureTour& tour) { return tour.selectTab(Symbol::SelectedChannels); }},
+    Stop{"selected-channels-edit", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Edit")); }},
+    Stop{"catalogue",
+         [](PictureTour& tour) {
+             return tour.pressButton(Localized::tr("Done")) &&
+                    tour.pressButton(Localized::tr("Add channels"));
+         }},
+    Stop{"catalogue-group", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }},
+    Stop{"catalogue-removed", [](PictureTour& tour) { return tour.send(Tapped{}, isChecked); }},
     Stop{"player",
          [](PictureTour& tour) {
              return tour.selectTab(Symbol::Currently) && tour.send(AccessoryTapped{}, hasStream);

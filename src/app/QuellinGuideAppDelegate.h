@@ -4,6 +4,7 @@
 #include "alarms/TVShows.h"
 #include "app/AlarmUpdater.h"
 #include "app/ApplicationEnvironment.h"
+#include "app/CatalogueUpdater.h"
 #include "app/InterruptibleWait.h"
 #include "app/LoadRetries.h"
 #include "app/NullServices.h"
@@ -123,7 +124,11 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void setup();
     void cleanUpSelection();
     void syncAlarms() { m_alarms.syncAlarms(); }
-    void notifySelectionCleanedUp() { m_screens->selectionCleanedUp(); }
+    /// The catalogue was replaced, or has cost the selection channels.
+    void refreshChannels() {
+        m_screens->selectionCleanedUp();
+        m_screens->reloadData();
+    }
 
     void detectAlphabet();
     void readSettings();
@@ -183,6 +188,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     std::unique_ptr<ScreenBroadcast> m_screens;
     /// Null on a device that plays no streams.
     std::unique_ptr<Playback> m_playback;
+    std::unique_ptr<CatalogueUpdater> m_catalogueUpdater;
 };
 
 } // namespace guide

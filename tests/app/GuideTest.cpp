@@ -42,6 +42,54 @@ TEST(Guide, LoadsShowsAndKeepsThemAcrossARestart) {
     EXPECT_TRUE(world.server->requests().empty()) << "fresh lists are not requested again";
 }
 
+TEST(Guide, ChosenChannelsAreLoadedAtOnceAndRemovedOnesAreNot) {
+    GuideWorld world;
+    world.serve(u"first"_s, 1, world.feed(u"Morning"_s, 6));
+    world.serve(u"second"_s, 1, world.feed(u"Evening"_s, 6));
+    world.firstSelection.clear();
+    world.device.idiom = UserInterfaceIdiom::Phone;
+    world.start();
+    world.guide->applicationDidBecomeActive();
+    ASSERT_TRUE(world.check());
+    TabBarController& tabs = world.guide->tabBarController();
+    const auto enabled = [&tabs] {
+        return std::ranges::count_if(tabs.tabs(), [](const auto& tab) { return tab.item.enabled; });
+    };
+    NavigationController& stack = tabs.selectedNavigationController();
+    const auto top = [&stack] { return dynamic_cast<TableViewController*>(stack.topViewController().get()); };
+    const auto tap = [&top](int row) { top()->sendRowEvent(top()->table().rowAt(row).id, Tapped{}); };
+    EXPECT_EQ(top()->title(), u"Selected Channels"_s);
+    EXPECT_EQ(enabled(), 1);
+    EXPECT_TRUE(world.server->requests().empty());
+
+    top()->pressEmptyNoteButton();
+    tap(0);
+    tap(0);
+    EXPECT_EQ(enabled(), static_cast<std::ptrdiff_t>(tabs.tabs().size()));
+    ASSERT_TRUE(world.runUntil([&] { return world.titles(u"first"_s).size() == 6; }));
+    tap(1);
+    ASSERT_TRUE(world.runUntil([&] { return world.titles(u"second"_s).size() == 6; }));
+    stack.popToRoot();
+    EXPECT_TRUE(world.runUntil([&] {
+        const RowContent& row = top()->table().rowAt(1).content;
+        return std::get<ChannelRow>(row).subtitle.startsWith(u"127.0.0.1 · updated"_s);
+    }));
+
+    world.server->forgetRequests();
+    const std::vector<ObjectId> both = world.guide->channels().selected();
+    top()->sendRowEvent(top()->table().rowAt(0).id, Deleted{});
+    EXPECT_EQ(world.titles(u"first"_s).size(), 0);
+    tabs.pressNoticeAction();
+    EXPECT_EQ(world.titles(u"first"_s).size(), 6);
+    ASSERT_TRUE(world.check());
+    EXPECT_EQ(world.guide->channels().selected(), both);
+    EXPECT_TRUE(world.server->requests().empty()) << "the lists are still there";
+    for (int channel = 0; channel < 2; ++channel) {
+        top()->sendRowEvent(top()->table().rowAt(0).id, Deleted{});
+    }
+    EXPECT_EQ(enabled(), 1);
+}
+
 ServerReply page(const QByteArray& body, const QByteArray& type) {
     return ServerReply::ok(body, {"Content-Type: " + type});
 }

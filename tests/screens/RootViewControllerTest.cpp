@@ -242,6 +242,22 @@ TEST_F(RootViewControllerTest, ShowsMoveOnByTheMinute) {
     EXPECT_EQ(changes.log, QStringList({u"remove 1+1"_s, u"update 1+1"_s, u"insert 2+1"_s}));
 }
 
+TEST_F(RootViewControllerTest, AChannelThatRunsOutOfShowsIsLoaded) {
+    const ObjectId channel = begin({{-5, 5, u"A"_s}});
+    world.wait(5min);
+    EXPECT_EQ(world.app.done, QStringList());
+    world.wait(1min);
+    EXPECT_EQ(linesOf(table()), QStringList{u"Jedna"_s});
+    EXPECT_EQ(std::exchange(world.app.done, {}), QStringList{u"check"_s});
+    // What the check finds.
+    world.channels->channelWithChannelId(channel)->requireReload();
+    world.fail(channel, LoadFailure{LoadFailureReason::OnlyPastShows, u"feeds.example"_s, 0});
+    root().selectedChannelsChanged();
+    world.wait(1min);
+    EXPECT_EQ(world.app.done, QStringList()) << "it is tried again with the other failed ones";
+    EXPECT_EQ(linesOf(table()).last(), u"[Try again]"_s);
+}
+
 TEST_F(RootViewControllerTest, FollowsAClockThatIsSet) {
     const ObjectId channel = world.addChannel(u"Jedna"_s);
     world.start();

@@ -211,17 +211,17 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
         const auto swipeActions = [this](const std::shared_ptr<const TVEntry>& entry, const auto&) {
             return app.swipeActions(*entry);
         };
-        environment = std::make_shared<const ScreenEnvironment>(
-            ScreenEnvironment{clock,       device,     queues.mainQueue(),
-                              queues,      *loadQueue, state,
-                              *listings,   *channels,  *icons,
-                              catalogue,   alphabet,   favorites,
-                              alarms,      app,        alerts,
-                              app,         app,        archive,
-                              popular,     pictures,   pictureCache,
-                              app,         app,        app,
-                              showLookup,  clipboard,  u"guide"_s,
-                              userDefaults, swipeActions});
+        environment = std::make_shared<const ScreenEnvironment>(ScreenEnvironment{
+            clock,        device,       queues.mainQueue(),
+            queues,       *loadQueue,   state,
+            *listings,    *channels,    *icons,
+            catalogue,    alphabet,     favorites,
+            alarms,       app,          alerts,
+            app,          app,          archive,
+            popular,      pictures,     pictureCache,
+            app,          app,          app,
+            showLookup,   clipboard,    u"guide"_s,
+            userDefaults, swipeActions, [this](const ObjectId& channel) { return sources[channel]; }});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -301,6 +301,8 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
     WorldApp app;
     WorldArchive archive;
     WorldAlerts alerts{queues.mainQueue()};
+    /// The sources of the channels' schedules.
+    std::map<ObjectId, QString> sources;
     std::shared_ptr<DispatchQueue> loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial);
     std::unique_ptr<TVStationIcons> icons;
     std::shared_ptr<const ScreenEnvironment> environment;

@@ -3,6 +3,7 @@
 #include "screens/LoadFailureText.h"
 #include "screens/Localized.h"
 #include "screens/channel/ChannelViewController.h"
+#include "screens/channels/ChannelListViewController.h"
 #include "screens/detail/DetailViewController.h"
 #include "screens/kit/NavigationController.h"
 #include "store/ShownEnds.h"
@@ -45,6 +46,7 @@ RootViewController::RootViewController(std::shared_ptr<const ScreenEnvironment> 
 
 void RootViewController::viewDidLoad() {
     setTitle(Localized::tr("Currently"));
+    setRightBarButtons({{BarButton::Kind::List, title(), [this] { list(); }}});
 }
 
 void RootViewController::viewWillAppear() {
@@ -139,6 +141,7 @@ void RootViewController::setChannels(const std::vector<ObjectId>& selected,
         Localized::tr("No channels yet"),
         Localized::tr("What is on now appears here once you have chosen channels under Selected Channels.")});
     reloadTable();
+    loadWhatRanOut();
 }
 
 RootViewController::Channel RootViewController::channelNamed(const ObjectId& identificator,
@@ -217,7 +220,20 @@ void RootViewController::refill() {
                 }
             }
             reloadTable();
+            loadWhatRanOut();
         }));
+}
+
+void RootViewController::loadWhatRanOut() {
+    const Moment now = m_environment->clock.now();
+    const bool ranOut = std::ranges::any_of(m_channels, [this, now](const Channel& channel) {
+        const auto record = m_environment->channels.channelWithChannelId(channel.identificator);
+        return channel.entries.empty() && record && !record->loading() && !record->loadFailure() &&
+               !record->reloadNeeded(now, m_environment->settings.automaticUpdateInterval());
+    });
+    if (ranOut) {
+        m_environment->updates.checkAndUpdateAllChannels();
+    }
 }
 
 // ---- rows
@@ -368,6 +384,19 @@ void RootViewController::tryAgain(const ObjectId& channel) {
     m_tryingAgain.insert(channel);
     reloadRows(channel);
     m_environment->updates.checkAndUpdateAllChannels();
+}
+
+void RootViewController::list() {
+    std::vector<StreamChannel> channels;
+    channels.reserve(m_channels.size());
+    for (const Channel& channel : m_channels) {
+        channels.push_back({channel.identificator, channel.title, channel.icon, channel.stream});
+    }
+    if (NavigationController* navigation = navigationController()) {
+        navigation->show(
+            std::make_shared<ChannelListViewController>(m_environment->navigation, std::move(channels)),
+            Presentation::Popover, BarButtonAnchor{});
+    }
 }
 
 // ---- pictures

@@ -78,6 +78,8 @@ class RootViewController final : public ListingsScreen {
     void minuteBegan();
     /// Asks for the shows that take the place of those that have ended.
     void refill();
+    /// Asks for a check if a channel has run out of shows although its list is not due.
+    void loadWhatRanOut();
 
     std::vector<Row> rowsOf(const Channel& channel, const ShowRows& showRows) const;
     Row channelRow(const Channel& channel) const;
@@ -90,6 +92,8 @@ class RootViewController final : public ListingsScreen {
     void selectedChannel(const Channel& channel);
     void openShow(const ShowItem& show);
     void tryAgain(const ObjectId& channel);
+    /// Opens the channels with their streams.
+    void list();
 
     static QString identificatorOf(const ShowItem& show);
     void loadPicture(const QUrl& url, const ObjectId& channel, const QString& showIdentifier);

@@ -2,27 +2,16 @@
 
 #include "screens/Localized.h"
 #include "screens/categories/CategoriesViewController.h"
+#include "screens/channels/EditChannelListViewController.h"
 #include "screens/compound/CompoundListingsViewController.h"
 #include "screens/root/RootViewController.h"
 #include "screens/search/SearchViewController.h"
-#include "screens/shell/EmptyViewController.h"
 
 #include <utility>
 
 namespace guide {
 
-namespace {
-
-void addComingTab(TabBarController& tabs, const QString& title, Symbol symbol, const QString& message,
-                  const QString& shortTitle = {}) {
-    tabs.addTab(
-        {title, symbol, true, {}, shortTitle},
-        std::make_shared<EmptyViewController>(title, EmptyNote{Localized::tr("Nothing here yet"), message}));
-}
-
-} // namespace
-
-std::unique_ptr<TabBarController> makeGuideTabs(std::shared_ptr<const ScreenEnvironment> environment) {
+std::unique_ptr<TabBarController> makeGuideTabs(const std::shared_ptr<const ScreenEnvironment>& environment) {
     const UserInterfaceIdiom idiom = environment->device.userInterfaceIdiom();
     auto tabs = std::make_unique<TabBarController>(idiom, environment->mainQueue);
     if (idiom == UserInterfaceIdiom::Tablet) {
@@ -37,10 +26,9 @@ std::unique_ptr<TabBarController> makeGuideTabs(std::shared_ptr<const ScreenEnvi
                  std::make_shared<SearchViewController>(environment));
     tabs->addTab({Localized::tr("Schedule"), Symbol::Schedule, true, {}},
                  std::make_shared<CompoundListingsViewController>(environment, FavoriteListings{}));
-    addComingTab(*tabs, Localized::tr("Selected Channels"), Symbol::SelectedChannels,
-                 Localized::tr("Choosing channels here comes with a later version. Until then the guide "
-                               "takes them from a file when it starts."),
-                 Localized::tr("Channels"));
+    tabs->addTab(
+        {Localized::tr("Selected Channels"), Symbol::SelectedChannels, true, {}, Localized::tr("Channels")},
+        std::make_shared<EditChannelListViewController>(environment, *tabs));
     return tabs;
 }
 

@@ -9,7 +9,7 @@ namespace guide {
 
 /// The tabs of the guide: Currently, Categories, Search, Schedule and Selected Channels; on a tablet All
 /// Shows comes first.
-std::unique_ptr<TabBarController> makeGuideTabs(std::shared_ptr<const ScreenEnvironment> environment);
+std::unique_ptr<TabBarController> makeGuideTabs(const std::shared_ptr<const ScreenEnvironment>& environment);
 
 /// The index of the tab with what is on now.
 int currentlyTabIndex(UserInterfaceIdiom idiom);

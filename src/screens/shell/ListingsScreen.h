@@ -27,7 +27,7 @@ class ListingsScreen : public TableViewController {
         notificationsSynched();
         recolor();
     }
-    /// Channels that the catalogue no longer lists were removed from the selection.
+    /// The catalogue was replaced, or channels that it no longer lists were removed from the selection.
     virtual void selectionCleanedUp() {}
     virtual void setModifiedSelectedChannels(bool) {}
 };

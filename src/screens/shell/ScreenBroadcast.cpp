@@ -50,14 +50,17 @@ void ScreenBroadcast::setModifiedSelectedChannels() {
 }
 
 void ScreenBroadcast::forEachScreen(const std::function<void(ListingsScreen&)>& call) const {
+    // A copy, because a screen may change a stack.
+    std::vector<std::shared_ptr<ViewController>> screens;
     for (const TabBarController::Tab& tab : m_tabBarController.tabs()) {
-        // A copy, because a screen may change the stack.
-        const std::vector<std::shared_ptr<ViewController>> stack =
-            tab.navigationController->viewControllers();
-        for (const std::shared_ptr<ViewController>& viewController : stack) {
-            if (auto* screen = dynamic_cast<ListingsScreen*>(viewController.get())) {
-                call(*screen);
-            }
+        for (const NavigationController* stack = tab.navigationController.get(); stack;
+             stack = stack->presentedStack()) {
+            screens.insert(screens.end(), stack->viewControllers().begin(), stack->viewControllers().end());
+        }
+    }
+    for (const std::shared_ptr<ViewController>& viewController : screens) {
+        if (auto* screen = dynamic_cast<ListingsScreen*>(viewController.get())) {
+            call(*screen);
         }
     }
 }

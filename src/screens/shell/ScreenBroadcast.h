@@ -27,7 +27,7 @@ class ScreenBroadcast {
     void recolor();
     void favoritesUpdated();
     void notificationsSynched();
-    /// Called after channels were removed from the selection.
+    /// Called after the catalogue was replaced or has cost the selection channels.
     void selectionCleanedUp();
     void setModifiedSelectedChannels();
 

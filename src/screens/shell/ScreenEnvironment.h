@@ -71,6 +71,8 @@ struct ScreenEnvironment {
     std::function<std::vector<RowAction>(const std::shared_ptr<const TVEntry>&,
                                          const std::shared_ptr<ViewController>&)>
         swipeActions = [](const auto&, const auto&) { return std::vector<RowAction>(); };
+    /// Where the channel's schedule was loaded from, for display; empty when unknown.
+    std::function<QString(const ObjectId&)> sourceOfSchedule = [](const auto&) { return QString(); };
 };
 
 } // namespace guide
