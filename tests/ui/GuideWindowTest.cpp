@@ -294,11 +294,10 @@ TEST(TranslationsTest, TheDevicesLanguageOrEnglish) {
         QLocale locale;
         QString text;
         QString plural;
-    } cases[] = {
-        {QLocale(QLocale::Czech, QLocale::Czechia), u"Právě běží"_s, u"Vybrat 5 kanálů?"_s},
-        {QLocale(QLocale::Slovak, QLocale::Slovakia), u"Práve beží"_s, u"Vybrať 5 kanálov?"_s},
-        {QLocale(QLocale::English, QLocale::Ireland), u"Currently"_s, u"Select 5 channels?"_s},
-        {QLocale(QLocale::Hungarian, QLocale::Hungary), u"Currently"_s, u"Select 5 channels?"_s}};
+    } cases[] = {{QLocale(QLocale::Czech, QLocale::Czechia), u"Právě běží"_s, u"Vybrat 5 kanálů?"_s},
+                 {QLocale(QLocale::Slovak, QLocale::Slovakia), u"Práve beží"_s, u"Vybrať 5 kanálov?"_s},
+                 {QLocale(QLocale::English, QLocale::Ireland), u"Currently"_s, u"Select 5 channels?"_s},
+                 {QLocale(QLocale::Hungarian, QLocale::Hungary), u"Currently"_s, u"Select 5 channels?"_s}};
     for (const auto& each : cases) {
         installTranslations(each.locale);
         EXPECT_EQ(Localized::tr("Currently"), each.text);
