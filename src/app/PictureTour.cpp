@@ -48,6 +48,8 @@ struct Stop {
     const char* name;
     /// Opens the screen from the one before.
     bool (*open)(PictureTour& tour);
+    /// Whether it adds or removes something, which only a profile of its own may.
+    bool changes = false;
     /// Without this tab the stop is left out.
     Symbol tab = Symbol::Currently;
 };
@@ -60,17 +62,20 @@ constexpr std::array kStops{
     Stop{"films", [](PictureTour& tour) { return tour.send(Tapped{}, isFilms); }},
     Stop{"search", [](PictureTour& tour) { return tour.selectTab(Symbol::Search); }},
     // A syllable that titles of most languages contain.
-    Stop{"search-results", [](PictureTour& tour) { return tour.search(u"ni"_s); }},
-    Stop{"all-shows", [](PictureTour& tour) { return tour.selectTab(Symbol::AllShows); }, Symbol::AllShows},
+    Stop{"search-results", [](PictureTour& tour) { return tour.search(u"ni"_s); }, true},
+    Stop{"all-shows", [](PictureTour& tour) { return tour.selectTab(Symbol::AllShows); }, false,
+         Symbol::AllShows},
     Stop{"schedule-empty", [](PictureTour& tour) { return tour.selectTab(Symbol::Schedule); }},
     Stop{"schedule",
          [](PictureTour& tour) {
              return tour.selectTab(Symbol::Currently) && tour.addFavourites() &&
                     tour.selectTab(Symbol::Schedule);
-         }},
+         },
+         true},
     Stop{"favourites", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Edit")); }},
-    Stop{"title", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }},
-    Stop{"favourites-removed", [](PictureTour& tour) { return tour.back() && tour.send(Deleted{}, isText); }},
+    Stop{"title", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }, true},
+    Stop{"favourites-removed", [](PictureTour& tour) { return tour.back() && tour.send(Deleted{}, isText); },
+         true},
     Stop{"selected-channels", [](PictureTour& tour) { return tour.selectTab(Symbol::SelectedChannels); }},
     Stop{"selected-channels-edit", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Edit")); }},
     Stop{"catalogue",
@@ -79,7 +84,7 @@ constexpr std::array kStops{
                     tour.pressButton(Localized::tr("Add channels"));
          }},
     Stop{"catalogue-group", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }},
-    Stop{"catalogue-removed", [](PictureTour& tour) { return tour.send(Tapped{}, isChecked); }},
+    Stop{"catalogue-removed", [](PictureTour& tour) { return tour.send(Tapped{}, isChecked); }, true},
     Stop{"player",
          [](PictureTour& tour) {
              return tour.selectTab(Symbol::Currently) && tour.send(AccessoryTapped{}, hasStream);
@@ -89,11 +94,12 @@ constexpr std::array kStops{
 } // namespace
 
 PictureTour::PictureTour(TabBarController& tabs, GuideWindow& window, QString folder, QString prefix,
-                         std::function<void(bool complete)> done)
+                         bool mayChange, std::function<void(bool complete)> done)
     : m_tabs(tabs)
     , m_window(window)
     , m_folder(std::move(folder))
     , m_prefix(std::move(prefix))
+    , m_mayChange(mayChange)
     , m_done(std::move(done)) {}
 
 void PictureTour::start() {
@@ -178,10 +184,14 @@ void PictureTour::open() {
         m_done(m_complete);
         return;
     }
-    if (!hasTab(kStops[m_stop].tab)) {
+    if (!hasTab(kStops[m_stop].tab) || (kStops[m_stop].changes && !m_mayChange)) {
         ++m_stop;
         open();
         return;
+    }
+    // A notice belongs to the picture before.
+    while (m_tabs.presentedNotice()) {
+        m_tabs.dismissNotice();
     }
     if (!kStops[m_stop].open(*this)) {
         qWarning("The screen for the picture %s did not open", kStops[m_stop].name);

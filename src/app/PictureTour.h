@@ -19,7 +19,8 @@ class PictureTour {
   public:
     /// The folder must exist; file names start with `prefix`. `done` is called once, with whether every
     /// screen opened and every picture was written.
-    PictureTour(TabBarController& tabs, GuideWindow& window, QString folder, QString prefix,
+    /// Unless it `mayChange` the profile, stops that add or remove something are left out.
+    PictureTour(TabBarController& tabs, GuideWindow& window, QString folder, QString prefix, bool mayChange,
                 std::function<void(bool complete)> done);
 
     /// Waits, for a limited time, until the channels have their shows.
@@ -53,6 +54,7 @@ class PictureTour {
     GuideWindow& m_window;
     const QString m_folder;
     const QString m_prefix;
+    const bool m_mayChange;
     const std::function<void(bool)> m_done;
     QTimer m_timer;
     std::size_t m_stop = 0;

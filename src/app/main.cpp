@@ -266,7 +266,7 @@ int run(LaunchOptions options, bool drawsWebPages) {
     if (options.screenshots) {
         const QString prefix =
             device.userInterfaceIdiom() == UserInterfaceIdiom::Tablet ? u"tablet"_s : u"phone"_s;
-        tour.emplace(delegate.tabBarController(), *window, *options.screenshots, prefix,
+        tour.emplace(delegate.tabBarController(), *window, *options.screenshots, prefix, options.demo,
                      [](bool complete) { QCoreApplication::exit(complete ? 0 : 1); });
         tour->start();
     }
