@@ -100,9 +100,9 @@ std::unique_ptr<DemoEnvironment> DemoEnvironment::create(const QString& folder, 
         return nullptr;
     }
     // Without a length, like a live stream: players would seek in it.
-    const auto stream = ServerReply::raw(ServerReply::head(200, {"Content-Type: video/ogg"}) + *clip);
+    const ServerReply reply = ServerReply::raw(ServerReply::head(200, {"Content-Type: video/ogg"}) + *clip);
     state->router.serveBelow(QByteArray(kStreams.data(), kStreams.size()),
-                             [stream](const ServerRequest&) { return stream; });
+                             [reply](const ServerRequest&) { return ServerReply(reply); });
     DemoSites::open(state->router, siteChannels(generator, clock), [&clock] { return clock.now(); });
 
     std::unique_ptr<DemoEnvironment> environment(new DemoEnvironment(std::move(state)));

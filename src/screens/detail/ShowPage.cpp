@@ -135,9 +135,9 @@ QString leadTimeText(const Favorite* rule, std::optional<int> minutes) {
     if (!minutes) {
         return Localized::tr("None");
     }
-    const QString text = *minutes == 0        ? Localized::tr("At beginning of the show")
-                         : *minutes % 60 == 0 ? Localized::tr("%1h before").arg(*minutes / 60)
-                                              : Localized::tr("%1min before").arg(*minutes);
+    QString text = *minutes == 0        ? Localized::tr("At beginning of the show")
+                   : *minutes % 60 == 0 ? Localized::tr("%1h before").arg(*minutes / 60)
+                                        : Localized::tr("%1min before").arg(*minutes);
     if (!isRecurring) {
         return text;
     }

@@ -34,10 +34,11 @@ bool sameButForTime(const RowContent& one, const RowContent& other) {
 
 } // namespace
 
-TableModel::TableModel(std::shared_ptr<TableViewController> viewController, QLocale locale, QObject* parent)
+TableModel::TableModel(std::shared_ptr<TableViewController> viewController, const QLocale& locale,
+                       QObject* parent)
     : QAbstractListModel(parent)
     , m_viewController(std::move(viewController))
-    , m_locale(std::move(locale)) {
+    , m_locale(locale) {
     indexSections();
     measureTimes(0, table().rowCount());
     m_viewController->table().setObserver(this);

@@ -60,7 +60,7 @@ class TableModel : public QAbstractListModel, private TableObserver {
         RowRole,
     };
 
-    TableModel(std::shared_ptr<TableViewController> viewController, QLocale locale, QObject* parent);
+    TableModel(std::shared_ptr<TableViewController> viewController, const QLocale& locale, QObject* parent);
     ~TableModel() override;
 
     int rowCount(const QModelIndex& parent = {}) const override;
