@@ -48,7 +48,7 @@ struct Stop {
     const char* name;
     /// Opens the screen from the one before.
     bool (*open)(PictureTour& tour);
-    /// Whether it adds or removes something, which only a profile of its own may.
+    /// Whether it adds or removes something, which is allowed only in the demo's profile.
     bool changes = false;
     /// Without this tab the stop is left out.
     Symbol tab = Symbol::Currently;

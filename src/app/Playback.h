@@ -36,7 +36,7 @@ class Playback {
     Playback& operator=(const Playback&) = delete;
     ~Playback();
 
-    /// Replaces the stream that is playing, if there is one. An address that is none of a stream is refused
+    /// Replaces the stream that is playing, if there is one. Refuses an address that cannot be a stream,
     /// with a notice.
     void playURL(const QUrl& url);
     /// Goes on with the stream, unless the user has paused it.
