@@ -79,6 +79,27 @@ TEST_F(SearchViewControllerTest, TheResultsStayUntilTheNextOnesArrive) {
     EXPECT_EQ(linesOf(table()), QStringList()) << "an answer for an empty field is not shown";
 }
 
+TEST_F(SearchViewControllerTest, TheFirstRowsComeAtOnceAndTheRestWhenTheUserPauses) {
+    std::vector<WorldShow> shows;
+    for (int number = 0; number < 200; ++number) {
+        shows.push_back({number, number + 1, u"Zoo %1"_s.arg(number)});
+    }
+    world.load(one, shows);
+    type(u"zo"_s);
+    EXPECT_EQ(table().rowCount(), 60);
+    world.wait(200ms);
+    type(u"zoo"_s);
+    world.wait(200ms);
+    EXPECT_EQ(table().rowCount(), 60) << "the rest of the earlier result is dropped";
+    world.wait(200ms);
+    EXPECT_EQ(table().rowCount(), 200);
+    EXPECT_EQ(marked(199), u"Zoo"_s);
+    world.load(two, {{300, 360, u"Zoo"_s}});
+    EXPECT_EQ(table().rowCount(), 201) << "new lists do not shorten what is shown";
+    screen().sendRowEvent(table().rowAt(180).id, Tapped{});
+    EXPECT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 2U);
+}
+
 TEST_F(SearchViewControllerTest, SaysThatNothingWasFoundAndLeadsToTheChannels) {
     type(u"Titanik"_s);
     ASSERT_EQ(table().rowCount(), 0);

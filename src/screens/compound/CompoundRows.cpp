@@ -19,7 +19,7 @@ CompoundSections CompoundRows::sectionsOf(const ShowSpan& shows) const {
     return sectionsOfAll(showsWithChannelIcon(shows, *m_catalogue, m_icons));
 }
 
-CompoundSections CompoundRows::sectionsOfAll(const ShowItems& shows) const {
+CompoundSections CompoundRows::sectionsOfAll(std::span<const ShowItem> shows) const {
     CompoundSections result;
     result.days = daySections(shows, m_locale, m_zone);
     result.sections.reserve(result.days.size());

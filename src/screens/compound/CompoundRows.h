@@ -26,7 +26,7 @@ class CompoundRows {
     /// Leaves out shows whose channel is not in the catalogue or has no icon. Loads the icons.
     CompoundSections sectionsOf(const ShowSpan& shows) const;
     /// Of all shows: a row names its channel where that has no icon.
-    CompoundSections sectionsOfAll(const ShowItems& shows) const;
+    CompoundSections sectionsOfAll(std::span<const ShowItem> shows) const;
 
   private:
     Row showRow(RowId id, const ShowItem& show) const;

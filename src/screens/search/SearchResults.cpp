@@ -52,7 +52,8 @@ QString excerpt(const QString& text, const TextRange& around) {
     return part;
 }
 
-SearchResults searchResults(const QString& pattern, const ShowItems& shows, const CompoundRows& rows) {
+SearchResults searchResults(const QString& pattern, std::span<const ShowItem> shows,
+                            const CompoundRows& rows) {
     const QString folded = foldedText(pattern);
     SearchResults results{pattern, rows.sectionsOfAll(shows)};
     for (std::size_t day = 0; day < results.found.days.size(); ++day) {
@@ -63,6 +64,12 @@ SearchResults searchResults(const QString& pattern, const ShowItems& shows, cons
         }
     }
     return results;
+}
+
+FirstResults firstResults(const QString& pattern, const ShowItems& shows, std::size_t atMost,
+                          std::shared_ptr<const CompoundRows> rows) {
+    const std::size_t count = std::min(atMost, shows.size());
+    return {searchResults(pattern, std::span(shows).first(count), *rows), shows, count, std::move(rows)};
 }
 
 } // namespace guide

@@ -4,8 +4,10 @@
 #include "screens/ShowRows.h"
 #include "screens/detail/DetailViewController.h"
 #include "screens/kit/NavigationController.h"
+#include "store/ScheduleQueries.h"
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace guide {
@@ -16,6 +18,10 @@ namespace {
 
 /// A shorter text that was typed, but neither confirmed nor used, does not count as searched for.
 constexpr qsizetype kShortestSearch = 2;
+/// More than a window shows.
+constexpr std::size_t kFirstRows = 60;
+/// Longer than between two keys of a word.
+constexpr std::chrono::milliseconds kPause{300};
 
 constexpr auto kRecent = "recent"_L1;
 constexpr auto kClear = "clear"_L1;
@@ -74,18 +80,40 @@ void SearchViewController::searchTextEdited(const QString& text) {
 
 void SearchViewController::search(const QString& pattern) {
     m_stale = false;
-    MainBlock<std::shared_ptr<const SearchResults>> answer =
-        m_answer.expect(weak_from_this(), [this](const auto& results) {
+    // Rows that are shown already keep their places when they are searched for again.
+    const std::size_t atOnce = pattern == m_shownPattern ? kMostShows : kFirstRows;
+    MainBlock<std::shared_ptr<const FirstResults>> answer =
+        m_answer.expect(weak_from_this(), [this](const auto& first) {
             if (!text().isEmpty()) {
-                show(*results);
+                show(first->results);
+                if (!first->isComplete()) {
+                    completeAfterTyping(*first);
+                }
             }
         });
     m_environment->listings.showsContainingPattern(
-        pattern, [&mainQueue = m_environment->mainQueue, pattern,
+        pattern, [&mainQueue = m_environment->mainQueue, pattern, atOnce,
                   rows = std::make_shared<const CompoundRows>(*m_environment),
                   answer = std::move(answer)](const ShowItems& shows) mutable {
             answer.post(mainQueue,
-                        std::make_shared<const SearchResults>(searchResults(pattern, shows, *rows)));
+                        std::make_shared<const FirstResults>(firstResults(pattern, shows, atOnce, rows)));
+        });
+}
+
+void SearchViewController::completeAfterTyping(const FirstResults& first) {
+    MainBlock<> pause = m_answer.expect(weak_from_this(), [this, first] { complete(first); });
+    m_environment->mainQueue.asyncAfter(kPause,
+                                        [&mainQueue = m_environment->mainQueue,
+                                         pause = std::move(pause)]() mutable { pause.post(mainQueue); });
+}
+
+void SearchViewController::complete(const FirstResults& first) {
+    MainBlock<std::shared_ptr<const SearchResults>> answer =
+        m_answer.expect(weak_from_this(), [this](const auto& results) { show(*results); });
+    m_environment->queues.globalQueue(QueuePriority::UserInitiated)
+        .async([&mainQueue = m_environment->mainQueue, first, answer = std::move(answer)]() mutable {
+            answer.post(mainQueue, std::make_shared<const SearchResults>(
+                                       searchResults(first.results.pattern, first.shows, *first.rows)));
         });
 }
 
@@ -100,6 +128,7 @@ void SearchViewController::searchAgain() {
 
 void SearchViewController::show(const SearchResults& results) {
     m_days = results.found.days;
+    m_shownPattern = results.pattern;
     table().setEmptyNote(nothingFound(results.pattern));
     table().setSections(results.found.sections);
 }
@@ -116,6 +145,7 @@ void SearchViewController::showRecentSearches() {
         Localized::tr("Titles, descriptions and people in the shows of your %n channel(s) are searched.",
                       nullptr, channelCount());
     m_days.clear();
+    m_shownPattern.clear();
     table().setEmptyNote(EmptyNote{Localized::tr("What are you looking for?"), searched});
     std::vector<Section> sections;
     if (const QStringList recent = m_recentSearches.all(); !recent.isEmpty()) {

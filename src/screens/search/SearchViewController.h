@@ -13,7 +13,8 @@
 namespace guide {
 
 /// Searches the shows of the selected channels while the user types. Until a result arrives the one before it
-/// stays; without a text it shows what was searched for lately.
+/// stays; of a new result the first rows come at once and the rest when the user pauses. Without a text it
+/// shows what was searched for lately.
 class SearchViewController final : public ListingsScreen {
   public:
     explicit SearchViewController(std::shared_ptr<const ScreenEnvironment> environment);
@@ -37,6 +38,9 @@ class SearchViewController final : public ListingsScreen {
 
   private:
     void search(const QString& pattern);
+    /// Makes the rows behind the first ones when no key has been pressed for a moment.
+    void completeAfterTyping(const FirstResults& first);
+    void complete(const FirstResults& first);
     /// For new lists: at once while visible, else when the screen appears.
     void searchAgain();
     void show(const SearchResults& results);
@@ -57,6 +61,8 @@ class SearchViewController final : public ListingsScreen {
     RecentSearches m_recentSearches;
     /// What is shown; empty while the field is, and until the first answer.
     std::vector<DaySection> m_days;
+    /// The pattern of these shows.
+    QString m_shownPattern;
     /// What was last remembered since the field was empty.
     QString m_remembered;
     bool m_visible = false;
