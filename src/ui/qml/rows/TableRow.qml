@@ -198,7 +198,7 @@ FocusScope {
                 NumberAnimation { duration: Theme.rowMotion; easing.type: Easing.OutCubic }
             }
 
-            IconButton {
+            Loader {
                 id: deleteButton
 
                 anchors {
@@ -206,11 +206,13 @@ FocusScope {
                     leftMargin: cell.sideMargin - 12
                     verticalCenter: parent.verticalCenter
                 }
-                visible: cell.editing && cell.row.deletable
-                symbol: Glyph.Delete
-                color: Theme.alarm
-                text: qsTranslate("Guide", "Delete") + " " + cell.row.accessibleName
-                onClicked: cell.rows.remove(cell.index)
+                active: cell.editing && cell.row.deletable
+                sourceComponent: IconButton {
+                    symbol: Glyph.Delete
+                    color: Theme.alarm
+                    text: qsTranslate("Guide", "Delete") + " " + cell.row.accessibleName
+                    onClicked: cell.rows.remove(cell.index)
+                }
             }
 
             Item {
@@ -218,12 +220,12 @@ FocusScope {
 
                 anchors {
                     fill: parent
-                    leftMargin: deleteButton.visible ? 32 : 0
-                    rightMargin: (handle.visible ? 44 : 0) + (cell.list && !cell.tiled ? cell.list.trailingInset : 0)
+                    leftMargin: deleteButton.active ? 32 : 0
+                    rightMargin: (handle.active ? 44 : 0) + (cell.list && !cell.tiled ? cell.list.trailingInset : 0)
                 }
             }
 
-            ReorderHandle {
+            Loader {
                 id: handle
 
                 anchors {
@@ -231,15 +233,17 @@ FocusScope {
                     rightMargin: cell.sideMargin - 12
                     verticalCenter: parent.verticalCenter
                 }
-                visible: cell.editing && cell.row.movable
-                name: cell.row.accessibleName
-                onStarted: cell.list.startReorder(cell)
-                onMoved: distance => cell.list.reorderBy(distance)
-                onFinished: cell.list.finishReorder()
+                active: cell.editing && cell.row.movable
+                sourceComponent: ReorderHandle {
+                    name: cell.row.accessibleName
+                    onStarted: cell.list.startReorder(cell)
+                    onMoved: distance => cell.list.reorderBy(distance)
+                    onFinished: cell.list.finishReorder()
+                }
             }
 
             Rectangle {
-                x: cell.separatorInset + (deleteButton.visible ? 32 : 0)
+                x: cell.separatorInset + (deleteButton.active ? 32 : 0)
                 width: parent.width - x
                 height: 1
                 anchors.bottom: parent.bottom
