@@ -109,7 +109,7 @@ TEST_F(PageFetcherTest, EveryAnswerGivesAPageOrAReason) {
         EXPECT_EQ(waited, (spent ? 2 : answers.size() - 1) * 1s) << "a pause after each empty attempt";
         EXPECT_EQ(client.requests().size() - asked, answers.size());
     }
-    const auto& headers = client.requests().front().headers;
+    const auto headers = client.requests().front().headers;
     EXPECT_TRUE(headers.contains(std::pair<QByteArray, QByteArray>("User-Agent", userAgent.value())));
     EXPECT_TRUE(headers.contains(std::pair<QByteArray, QByteArray>("Accept-Encoding", "gzip,deflate")));
 }
