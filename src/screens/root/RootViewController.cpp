@@ -42,6 +42,7 @@ ShowItems merged(ShowItems list, const ShowItems& others,
 
 RootViewController::RootViewController(std::shared_ptr<const ScreenEnvironment> environment)
     : m_environment(std::move(environment))
+    , m_pictures(*m_environment, *this)
     , m_minuteTick(m_environment->clock, m_environment->mainQueue, m_environment->applicationState) {}
 
 void RootViewController::viewDidLoad() {
@@ -170,7 +171,7 @@ bool RootViewController::takeList(const ObjectId& channel, const ShowSpan& entri
         return false;
     }
     m_environment->pictureCache.forgetChannel(channel);
-    m_loadingPictures.erase(channel);
+    m_pictures.forgetChannel(channel);
     shown->entries = showsNotOver(entries, m_environment->clock.now());
     return true;
 }
@@ -414,81 +415,14 @@ void RootViewController::setShowImage(const QImage& image, const ObjectId& chann
 }
 
 void RootViewController::rowWillBeDisplayed(const RowId& id) {
-    const ShowItem* found = shownShow(id);
-    if (!found) {
-        return;
-    }
-    const ShowItem& show = *found;
-    const ObjectId& channel = id.show()->channel;
-    const bool imagesEnabled = m_environment->settings.imagesEnabled();
-    if (imagesEnabled && m_environment->pictureCache.find(channel, identificatorOf(show))) {
-        return;
-    }
-    if (imagesEnabled && !show.pictures().isEmpty()) {
-        loadPicture(*show.pictures().constBegin(), channel, identificatorOf(show));
-    }
-    if (m_channelsWithLoadedShowDetails.contains(channel)) {
-        return;
-    }
-    const auto record = m_environment->channels.channelWithChannelId(channel);
-    if (record &&
-        record->reloadNeeded(m_environment->clock.now(), m_environment->settings.automaticUpdateInterval())) {
-        return;
-    }
-    m_channelsWithLoadedShowDetails.insert(channel);
-    if (imagesEnabled && applicationActive()) {
-        m_environment->mainQueue.asyncAfter(
-            kPictureDelay, [weak = weakFromThis<RootViewController>(), channel] {
-                if (const auto self = weak.lock(); self && self->applicationActive()) {
-                    self->startDetailPass(channel);
-                }
-            });
+    if (const ShowItem* show = shownShow(id)) {
+        m_pictures.rowDisplayed(*show, weak_from_this());
     }
 }
 
-void RootViewController::loadPicture(const QUrl& url, const ObjectId& channel,
-                                     const QString& showIdentifier) {
-    QSet<QString>& loading = m_loadingPictures[channel];
-    if (loading.contains(showIdentifier)) {
-        return;
-    }
-    loading.insert(showIdentifier);
-    m_environment->mainQueue.asyncAfter(
-        kPictureDelay, [weak = weakFromThis<RootViewController>(), url, channel, showIdentifier] {
-            const auto self = weak.lock();
-            if (!self) {
-                return;
-            }
-            self->m_environment->pictures.asyncLoadOfShowImageAtURL(
-                url, {weak, [raw = self.get(), channel, showIdentifier](const QImage& image) {
-                          // The cache has the answer from now on, and may drop it.
-                          if (const auto shows = raw->m_loadingPictures.find(channel);
-                              shows != raw->m_loadingPictures.end()) {
-                              shows->second.remove(showIdentifier);
-                          }
-                          raw->setShowImage(image, channel, showIdentifier);
-                      }});
-        });
-}
-
-void RootViewController::startDetailPass(const ObjectId& channel) {
+const ShowItems* RootViewController::showsOf(const ObjectId& channel) {
     const Channel* shown = shownChannel(channel);
-    if (!shown) {
-        return;
-    }
-    m_environment->pictures.loadDetailsOfShows(
-        shown->entries,
-        [weak = weakFromThis<RootViewController>()](const QImage& image, const ObjectId& of,
-                                                    const QString& showIdentifier) {
-            if (const auto self = weak.lock(); self && self->applicationActive()) {
-                self->setShowImage(image, of, showIdentifier);
-            }
-        },
-        {weak_from_this(), [this, channel](const ShowItems& completed, const std::vector<QImage>& images) {
-             if (applicationActive()) {
-                 detailsLoaded(channel, completed, images);
-             }
-         }});
+    return shown ? &shown->entries : nullptr;
 }
 
 void RootViewController::detailsLoaded(const ObjectId& channel, const ShowItems& completed,
@@ -506,10 +440,6 @@ void RootViewController::detailsLoaded(const ObjectId& channel, const ShowItems&
         }
     }
     reloadRows(channel);
-}
-
-bool RootViewController::applicationActive() const {
-    return m_environment->applicationState.applicationState() == ApplicationState::Active;
 }
 
 } // namespace guide

@@ -4,14 +4,13 @@
 #include "screens/MinuteTick.h"
 #include "screens/ShowRows.h"
 #include "screens/kit/LatestAnswer.h"
+#include "screens/root/RowPictures.h"
 #include "screens/shell/ListingsScreen.h"
 #include "screens/shell/ScreenEnvironment.h"
 
 #include <QImage>
-#include <QSet>
 #include <QUrl>
 
-#include <chrono>
 #include <memory>
 #include <optional>
 #include <unordered_map>
@@ -23,7 +22,7 @@ namespace guide {
 /// What is on now: a section for each selected channel, identified by its hexadecimal id, with the channel's
 /// own row first and its current and next shows below. Shows that end give way on the minute while the screen
 /// is visible.
-class RootViewController final : public ListingsScreen {
+class RootViewController final : public ListingsScreen, private RowPicturesScreen {
   public:
     explicit RootViewController(std::shared_ptr<const ScreenEnvironment> environment);
 
@@ -32,9 +31,7 @@ class RootViewController final : public ListingsScreen {
     void selectedChannelsChanged();
     /// Replaces the shows of one channel. Does nothing when the list is empty or the channel has no section.
     void reloadChannel(const ObjectId& channel, const ShowSpan& entries);
-    /// Sets the picture of the shows with that identifier on the channel; a null image means that they have
-    /// none.
-    void setShowImage(const QImage& image, const ObjectId& channel, const QString& showIdentifier);
+    void setShowImage(const QImage& image, const ObjectId& channel, const QString& showIdentifier) override;
 
     void applicationDidBecomeActive() override;
     void offerTopShows(const TopShows& top) override;
@@ -63,7 +60,6 @@ class RootViewController final : public ListingsScreen {
         std::optional<QUrl> stream = {};
         ShowItems entries = {};
     };
-    static constexpr std::chrono::milliseconds kPictureDelay{200};
 
     Channel channelNamed(const ObjectId& identificator, const CatalogueSnapshot& catalogue) const;
     void setChannels(const std::vector<ObjectId>& selected, const std::vector<ShowSpan>& entries);
@@ -73,7 +69,6 @@ class RootViewController final : public ListingsScreen {
     const ShowItem* shownShow(const RowId& id);
     /// Returns whether the channel's list was replaced.
     bool takeList(const ObjectId& channel, const ShowSpan& entries);
-    bool applicationActive() const;
 
     void minuteBegan();
     /// Asks for the shows that take the place of those that have ended.
@@ -96,16 +91,13 @@ class RootViewController final : public ListingsScreen {
     void list();
 
     static QString identificatorOf(const ShowItem& show);
-    void loadPicture(const QUrl& url, const ObjectId& channel, const QString& showIdentifier);
-    void startDetailPass(const ObjectId& channel);
+    const ShowItems* showsOf(const ObjectId& channel) override;
     void detailsLoaded(const ObjectId& channel, const ShowItems& completed,
-                       const std::vector<QImage>& images);
+                       const std::vector<QImage>& images) override;
 
     const std::shared_ptr<const ScreenEnvironment> m_environment;
     std::vector<Channel> m_channels;
-    /// By channel, the identifiers of the shows whose pictures are being loaded.
-    std::unordered_map<ObjectId, QSet<QString>> m_loadingPictures;
-    std::unordered_set<ObjectId> m_channelsWithLoadedShowDetails;
+    RowPictures m_pictures;
     bool m_modifiedSelectedChannels = false;
     LatestAnswer m_rebuild;
     /// Held until the latest rebuild is answered.
