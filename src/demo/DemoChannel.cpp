@@ -111,7 +111,7 @@ constexpr std::array kRows = {
 };
 
 constexpr std::array<QStringView, 12> kSelected = {u"vyhled",  u"minuta",    u"platno",   u"knoflik",
-                                                   u"polocas", u"vatra",     u"dvojhlas", u"polednik",
+                                                   u"polocas", u"vatra",     u"dvojhlas", u"pobrezie",
                                                    u"harbour", u"belvedere", u"erguvan",  u"okolitsa"};
 
 QStringList words(QStringView text) {

@@ -48,6 +48,7 @@ bool isArchive(const QString& sourceId) {
 const std::vector<Site>& sites() {
     static const std::vector<Site> all{
         {"/port"_L1, "PortHost"_L1, isNumber, portNetworkPage, "application/json"},
+        {"/pls"_L1, {}, isNumber, portPopup, kHTML},
         {"/palinsesto"_L1, "MediasetHost"_L1, isFreeCode, freePalinsestoPage, "text/xml; charset=utf-8"},
         {"/pay"_L1, "MediasetPayHost"_L1, isPayCode, payPalinsestoPage, "text/xml; charset=utf-8"},
         {"/dolce"_L1, "DolceSportHost"_L1, [](const QString& id) { return id.startsWith("dolce-sport."_L1); },

@@ -9,6 +9,7 @@
 #include "demo/schedule/ScheduleGenerator.h"
 #include "fakes/Files.h"
 #include "parsers/URLPlanner.h"
+#include "parsers/details/DetailScraper.h"
 #include "parsers/xmltv/XMLTVToEntries.h"
 #include "sources/PageText.h"
 
@@ -116,6 +117,32 @@ TEST_F(DemoEnvironmentTest, ServesStreamsAndAnArchive) {
     const QString show = index.section(u"<a class=\"title\" href=\""_s, 1, 1).section(u'"', 0, 0);
     EXPECT_TRUE(fetch(archive + show).body.contains("<option value=\"../watch/"));
     EXPECT_EQ(fetch(archive + u"show/unknown"_s).status, 404);
+}
+
+TEST_F(DemoEnvironmentTest, AFilmHasAPageWithPictureAndTrailer) {
+    const auto hosts = SourceHostTable::fromFile(environment->hostsPath());
+    ASSERT_TRUE(hosts);
+    const QString source = u"10021"_s;
+    const auto urls =
+        URLPlanner(*hosts, [](unsigned) { return 0U; }).urlsForSourceId(source, kNow, QTimeZone::utc());
+    ASSERT_TRUE(urls);
+    const QString schedule = QString::fromUtf8(fetch(urls->front().toString(QUrl::FullyEncoded)).body);
+    const PageSource pages = [](const QUrl& url) -> std::optional<QByteArray> {
+        const Fetched got = fetch(url.toString(QUrl::FullyEncoded));
+        return got.status == 200 ? std::optional(got.body) : std::nullopt;
+    };
+    const QString path = schedule.section(u"\"film_url\":\"/"_s, 1, 1).section(u'"', 0, 0);
+    const Alphabet alphabet;
+    auto entry = std::make_shared<TVEntry>(alphabet);
+    entry->setSourceId(source);
+    entry->setUrl(QUrl(*hosts->base(u"PortHost"_s) + u'/' + path));
+    const auto show = DetailScraper({pages, *hosts, {}}).netDescriptionFor(entry);
+    ASSERT_TRUE(show && show->details());
+    EXPECT_TRUE(show->details()->description && show->details()->directedBy && show->details()->details);
+    ASSERT_TRUE(show->details()->trailerURL);
+    EXPECT_TRUE(fetch(show->details()->trailerURL->toString()).body.startsWith("OggS"));
+    ASSERT_EQ(show->pictures().size(), 1);
+    EXPECT_TRUE(fetch(show->pictures().begin()->toString(QUrl::FullyEncoded)).body.contains("<svg"));
 }
 
 TEST_F(DemoEnvironmentTest, SelectsTwelveOfItsChannelsEachWithAnIcon) {

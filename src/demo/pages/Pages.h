@@ -12,6 +12,8 @@ namespace guide {
 using SitePage = std::optional<QByteArray> (*)(const SiteRequest& request);
 
 std::optional<QByteArray> portNetworkPage(const SiteRequest& request);
+/// The popups with a film's picture and trailer, at the root of the server.
+std::optional<QByteArray> portPopup(const SiteRequest& request);
 std::optional<QByteArray> freePalinsestoPage(const SiteRequest& request);
 std::optional<QByteArray> payPalinsestoPage(const SiteRequest& request);
 std::optional<QByteArray> dolceSportPage(const SiteRequest& request);

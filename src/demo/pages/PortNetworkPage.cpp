@@ -1,4 +1,5 @@
 #include "demo/pages/Pages.h"
+#include "demo/pages/PortFilmPage.h"
 
 #include <QDateTime>
 #include <QJsonArray>
@@ -24,7 +25,7 @@ QJsonObject show(const SiteClock& clock, const Programme& programme) {
                     {u"start_datetime"_s, stamp(clock, programme.start)},
                     {u"end_datetime"_s, stamp(clock, programme.stop)},
                     {u"is_repeat"_s, int(programme.repeat)},
-                    {u"film_url"_s, programme.year > 0 ? u"/film/"_s + slug(programme.title) : QString()},
+                    {u"film_url"_s, programme.year > 0 ? portFilmPath(programme) : QString()},
                     {u"restriction"_s, QJsonObject{{u"age_limit"_s, 12}, {u"category"_s, QJsonValue()}}}};
     if (!programme.subtitle.isEmpty()) {
         row.insert(u"episode_title"_s, programme.subtitle);
@@ -39,6 +40,9 @@ QJsonObject show(const SiteClock& clock, const Programme& programme) {
 
 // One document with an object for each requested day.
 std::optional<QByteArray> portNetworkPage(const SiteRequest& request) {
+    if (request.path.startsWith(u"/film/")) {
+        return portFilmPage(request);
+    }
     const SiteClock clock("Europe/Budapest");
     const QString id = request.query.queryItemValue(u"channel_id"_s);
     const auto channel =
