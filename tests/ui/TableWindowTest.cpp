@@ -300,7 +300,7 @@ TEST_F(TableWindowTest, TilesFormLinesAndAreReadInOrder) {
     sections[0].layout = SectionLayout::Tiles;
     open(sections);
     const auto surface = [this](int index) {
-        QList<QQuickItem*> found = itemsWith("focused", row(index));
+        QList<QQuickItem*> found = itemsWith("plainColor", row(index));
         return found.isEmpty() ? QRectF() : found[0]->mapRectToScene(found[0]->boundingRect());
     };
     EXPECT_EQ(surface(0).y(), surface(1).y());

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Quellin
 
 // Round buttons with captions, in as many lines as they need; the left and right keys go from one to the next.
@@ -28,20 +27,23 @@ Flow {
 
         model: flow.actions.length
 
-        T.AbstractButton {
+        // Not a control of the toolkit, which would take as long to make as a whole row.
+        Item {
             id: button
 
             required property int index
             readonly property var value: flow.actions[index] ?? null
+            readonly property bool on: value !== null && value.on
+            readonly property string text: value !== null ? value.title : ""
+            readonly property bool visualFocus: activeFocus
 
             width: flow.cellWidth
             height: caption.y + caption.height + 8
             enabled: value !== null && value.enabled
-            text: value !== null ? value.title : ""
-            focusPolicy: Qt.TabFocus
-            onClicked: flow.chosen(index)
-            Keys.onReturnPressed: clicked()
-            Keys.onEnterPressed: clicked()
+            activeFocusOnTab: true
+            Keys.onReturnPressed: flow.chosen(index)
+            Keys.onEnterPressed: flow.chosen(index)
+            Keys.onSpacePressed: flow.chosen(index)
             Keys.onLeftPressed: flow.focusAt(index - 1)
             Keys.onRightPressed: flow.focusAt(index + 1)
             Keys.onUpPressed: leave()
@@ -55,55 +57,54 @@ Flow {
 
             Accessible.role: value !== null && value.checkable ? Accessible.CheckBox : Accessible.Button
             Accessible.name: text
+            Accessible.focusable: true
+            Accessible.focused: activeFocus
             Accessible.checkable: value !== null && value.checkable
-            Accessible.checked: value !== null && value.on
-            Accessible.onPressAction: clicked()
-            Accessible.onToggleAction: clicked()
+            Accessible.checked: on
+            Accessible.onPressAction: flow.chosen(index)
+            Accessible.onToggleAction: flow.chosen(index)
 
-            background: Item {}
-            contentItem: Item {
-                Rectangle {
-                    id: circle
+            Rectangle {
+                id: circle
 
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    y: 4
-                    width: 48
-                    height: 48
-                    radius: 24
-                    opacity: button.enabled ? 1 : 0.5
-                    color: button.pressed ? Theme.pressed : Theme.tintedFill
+                x: (parent.width - width) / 2
+                y: 4
+                width: 48
+                height: 48
+                radius: 24
+                opacity: button.enabled ? 1 : 0.5
+                color: tap.pressed ? Theme.pressed : Theme.tintedFill
+                border.width: button.visualFocus ? 2 : 0
+                border.color: Theme.tint
 
-                    Glyph {
-                        anchors.centerIn: parent
-                        width: 24
-                        height: 24
-                        symbol: button.value !== null ? button.value.glyph : Glyph.Play
-                        color: button.value !== null && button.value.on ? Theme.favourite : Theme.tint
-                    }
+                Glyph {
+                    x: 12
+                    y: 12
+                    width: 24
+                    height: 24
+                    symbol: button.value !== null ? button.value.glyph : Glyph.Play
+                    color: button.on ? Theme.favourite : Theme.tint
                 }
+            }
 
-                Rectangle {
-                    anchors.fill: circle
-                    anchors.margins: -4
-                    radius: 28
-                    color: "transparent"
-                    border.width: 2
-                    border.color: Theme.tint
-                    visible: button.visualFocus
-                }
+            Text {
+                id: caption
 
-                Text {
-                    id: caption
+                y: circle.y + circle.height + 4
+                width: parent.width
+                text: button.text
+                textFormat: Text.PlainText
+                color: Theme.label
+                font: Theme.endTimeFont
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
+                Accessible.ignored: true
+            }
 
-                    y: circle.y + circle.height + 4
-                    width: parent.width
-                    text: button.text
-                    textFormat: Text.PlainText
-                    color: Theme.label
-                    font: Theme.endTimeFont
-                    horizontalAlignment: Text.AlignHCenter
-                    wrapMode: Text.Wrap
-                }
+            TapHandler {
+                id: tap
+
+                onTapped: flow.chosen(button.index)
             }
         }
     }

@@ -13,13 +13,15 @@ TableRow {
     contentHeight: progress.y + progress.height + 12
     separatorInset: -1
 
-    HeadPicture {
+    Loader {
         id: picture
 
         width: cell.surfaceWidth
-        height: visible ? Math.round(width * 9 / 16) : 0
-        visible: cell.hasPicture
-        source: cell.row.picture
+        height: active ? Math.round(width * 9 / 16) : 0
+        active: cell.hasPicture
+        sourceComponent: HeadPicture {
+            source: cell.row.picture
+        }
     }
 
     Text {

@@ -215,6 +215,26 @@ ListView {
         id: finger
     }
 
+    // The menu of the row at a place of the view.
+    function openMenuAt(place) {
+        const row = itemAt(place.x + contentX, place.y + contentY) as TableRow
+        if (row) {
+            const inRow = row.mapFromItem(view, place.x, place.y)
+            openMenu(row, inRow.x, inRow.y)
+        }
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => view.openMenuAt(eventPoint.position)
+    }
+
+    TapHandler {
+        acceptedDevices: PointerDevice.TouchScreen
+        enabled: !view.page.rows.editing
+        onLongPressed: view.openMenuAt(point.position)
+    }
+
     // ---- the keyboard
 
     // Rows of a tile line are beside each other: Up and Down go by lines there.
@@ -362,6 +382,19 @@ ListView {
             color: Theme.secondaryLabel
             opacity: scrollBar.active ? 0.6 : 0
         }
+    }
+
+    // The ring of the keyboard focus.
+    Rectangle {
+        parent: view.currentRow ? view.currentRow.movingBody : view
+        anchors.fill: parent
+        anchors.margins: 2
+        z: 1
+        color: "transparent"
+        radius: 8
+        border.width: 2
+        border.color: Theme.tint
+        visible: view.currentRow !== null && view.currentRow.focused
     }
 
     // Where a dragged row would go.

@@ -15,7 +15,7 @@ FocusScope {
     // The TableList; its type would make the two depend on each other.
     readonly property var list: ListView.view
     readonly property TableModel rows: list ? list.page.rows : null
-    readonly property bool current: ListView.isCurrentItem
+    readonly property bool focused: ListView.isCurrentItem && list.activeFocus && list.keyboardUsed
     readonly property double sideMargin: tiled ? 12 : list ? list.sideMargin : 16
 
     // Whether a tap or Enter calls activate().
@@ -29,14 +29,15 @@ FocusScope {
     property int surfaceRadius: tiled ? 12 : 0
     // Where the line below the row begins; negative for no line.
     property double separatorInset: sideMargin
-    readonly property alias shownColor: surface.shownColor
+    readonly property alias shownColor: surface.color
     property double contentHeight: 0
     property double leastHeight: 44
     default property alias content: surfaceContent.data
     // What is left for the row's content.
     readonly property double surfaceWidth: surfaceContent.width
-    // The row without header and footer.
+    // The row without header and footer, and what of it moves with a swipe.
     readonly property alias body: surfaceBody
+    readonly property alias movingBody: surface
     readonly property double middle: y + bodyTop + bodyHeight / 2
 
     readonly property bool tiled: section.tiles && list !== null && list.tileColumns > 1
@@ -47,7 +48,9 @@ FocusScope {
     property bool swiped: false
     property var actions: []
     readonly property double actionWidth: Math.round(76 * Math.min(Theme.textScale, 1.5))
-    readonly property bool editing: rows !== null && rows.editing && (row.deletable || row.movable)
+    readonly property bool removable: rows !== null && rows.editing && row.deletable
+    readonly property bool movable: rows !== null && rows.editing && row.movable
+    readonly property bool editing: removable || movable
     // While the reorder handle drags the row, its body is drawn over the list, at this distance from the list's top
     // edge.
     property bool dragged: false
@@ -169,13 +172,14 @@ FocusScope {
             width: parent.width
             height: parent.height
             radius: cell.surfaceRadius
-            color: cell.surfaceColor
-            selectable: cell.activatable && !cell.swiped
+            plainColor: cell.surfaceColor
+            selectable: cell.activatable || cell.swiped
             selected: cell.row.selected
-            focused: cell.current && cell.list.activeFocus && cell.list.keyboardUsed
             onTapped: extending => {
                 cell.list.keyboardUsed = false
-                if (extending)
+                if (cell.swiped)
+                    cell.cover()
+                else if (extending)
                     cell.extend()
                 else
                     cell.activate()
@@ -185,7 +189,7 @@ FocusScope {
             Accessible.role: cell.accessibleRole
             Accessible.name: cell.row.accessibleName
             Accessible.focusable: true
-            Accessible.focused: focused
+            Accessible.focused: cell.focused
             Accessible.checkable: cell.checkable
             Accessible.checked: cell.checked
             Accessible.onPressAction: if (cell.activatable)
@@ -198,52 +202,26 @@ FocusScope {
                 NumberAnimation { duration: Theme.rowMotion; easing.type: Easing.OutCubic }
             }
 
-            Loader {
-                id: deleteButton
-
-                anchors {
-                    left: parent.left
-                    leftMargin: cell.sideMargin - 12
-                    verticalCenter: parent.verticalCenter
-                }
-                active: cell.editing && cell.row.deletable
-                sourceComponent: IconButton {
-                    symbol: Glyph.Delete
-                    color: Theme.alarm
-                    text: qsTranslate("Guide", "Delete") + " " + cell.row.accessibleName
-                    onClicked: cell.rows.remove(cell.index)
-                }
-            }
-
             Item {
                 id: surfaceContent
 
                 anchors {
                     fill: parent
-                    leftMargin: deleteButton.active ? 32 : 0
-                    rightMargin: (handle.active ? 44 : 0) + (cell.list && !cell.tiled ? cell.list.trailingInset : 0)
+                    leftMargin: cell.removable ? 32 : 0
+                    rightMargin: (cell.movable ? 44 : 0) + (cell.list && !cell.tiled ? cell.list.trailingInset : 0)
                 }
             }
 
             Loader {
-                id: handle
-
-                anchors {
-                    right: parent.right
-                    rightMargin: cell.sideMargin - 12
-                    verticalCenter: parent.verticalCenter
-                }
-                active: cell.editing && cell.row.movable
-                sourceComponent: ReorderHandle {
-                    name: cell.row.accessibleName
-                    onStarted: cell.list.startReorder(cell)
-                    onMoved: distance => cell.list.reorderBy(distance)
-                    onFinished: cell.list.finishReorder()
+                anchors.fill: parent
+                active: cell.editing
+                sourceComponent: EditControls {
+                    row: cell
                 }
             }
 
             Rectangle {
-                x: cell.separatorInset + (deleteButton.active ? 32 : 0)
+                x: cell.separatorInset + (cell.removable ? 32 : 0)
                 width: parent.width - x
                 height: 1
                 anchors.bottom: parent.bottom
@@ -281,22 +259,6 @@ FocusScope {
             }
             onActiveTranslationChanged: if (held)
                 reached = Math.max(-cell.actions.length * cell.actionWidth, Math.min(0, begin + activeTranslation.x))
-        }
-
-        TapHandler {
-            acceptedButtons: Qt.RightButton
-            onTapped: eventPoint => cell.list.openMenu(cell, eventPoint.position.x, eventPoint.position.y + cell.bodyTop)
-        }
-
-        TapHandler {
-            acceptedDevices: PointerDevice.TouchScreen
-            enabled: !cell.editing
-            onLongPressed: cell.list.openMenu(cell, point.position.x, point.position.y + cell.bodyTop)
-        }
-
-        TapHandler {
-            enabled: cell.swiped
-            onTapped: cell.cover()
         }
     }
 
