@@ -78,7 +78,7 @@ FrameTimes drawFrame(QQuickWindow& window, const Change& change) {
     const qint64 begin = threadTime();
     change();
     window.update();
-    while (swapped == 0) {
+    while (swapped == 0) { // NOLINT(bugprone-infinite-loop): set by frameSwapped
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     const qint64 all = threadTime() - begin;

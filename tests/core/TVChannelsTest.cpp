@@ -32,6 +32,7 @@ const ObjectId kUnknown = ObjectId::fromHex(u"58f4ded60befe78cb336a8ff"_s);
 
 CatalogueSnapshot listed(const std::vector<ObjectId>& ids, const QString& title = u"Channel"_s) {
     std::vector<CatalogueChannel> channels;
+    channels.reserve(ids.size());
     for (const ObjectId& id : ids) {
         channels.push_back({id, title, u"cs"_s, u"Czech"_s, u"a"_s});
     }

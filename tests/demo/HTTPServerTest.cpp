@@ -68,6 +68,7 @@ TEST(HTTPServer, StopEndsStalledAndSlowRepliesAtOnce) {
     ServerReply slow;
     server.reply(slow.then("late", std::chrono::hours(1)));
     std::vector<std::jthread> clients;
+    clients.reserve(2);
     for (int i = 0; i < 2; ++i) {
         clients.emplace_back([&server] { fetch(server.base()); });
     }

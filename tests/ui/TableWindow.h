@@ -60,6 +60,7 @@ class Screen final : public TableViewController {
 
 inline std::vector<Section> lines(int count) {
     std::vector<RowContent> rows;
+    rows.reserve(static_cast<std::size_t>(count));
     for (int row = 0; row < count; ++row) {
         rows.emplace_back(TextRow{u"Row %1"_s.arg(row), row % 3 == 0 ? u"Two lines"_s : QString()});
     }
