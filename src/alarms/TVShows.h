@@ -1,11 +1,13 @@
 #pragma once
 
 #include "alarms/Favorites.h"
+#include "core/MirroredFile.h"
 #include "platform/KeyValueStore.h"
 #include "platform/files/Folders.h"
 #include "platform/queues/DispatchQueue.h"
 
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <vector>
 
@@ -20,9 +22,6 @@ class TVShows final : public FavoritesSource {
   public:
     /// The key-value store must outlive this object.
     TVShows(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues);
-    TVShows(const TVShows&) = delete;
-    TVShows& operator=(const TVShows&) = delete;
-    ~TVShows() override;
 
     /// The rules. The first call reads the file; a file that is damaged is kept under another name, and the
     /// copy in the key-value store takes its place. Nothing without a readable file and a copy: then the next
@@ -36,14 +35,21 @@ class TVShows final : public FavoritesSource {
     std::shared_ptr<const FavoritesSnapshot> snapshot() const override;
 
     /// Retries, in the background, a write that failed.
-    void retryWriting();
+    void retryWriting() { m_file.retryWriting(); }
     /// Blocks until the pending write is done, retrying one that failed. Called at shutdown. False when the
     /// write failed again.
-    bool finishWriting();
+    bool finishWriting() { return m_file.finishWriting(); }
 
   private:
-    struct State;
-    std::shared_ptr<State> m_state;
+    using Snapshot = std::shared_ptr<const FavoritesSnapshot>;
+
+    void read();
+    void write();
+
+    MirroredFile m_file;
+    const Snapshot m_none = std::make_shared<const FavoritesSnapshot>();
+    mutable std::mutex m_guard;
+    Snapshot m_current; // guarded; null until the first successful read
 };
 
 } // namespace guide

@@ -3,20 +3,8 @@
 #include "platform/archive/Archive.h"
 
 #include <QCborArray>
-#include <QFile>
-
-#include <cstdio>
-#include <unistd.h>
 
 namespace guide {
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr int kMostDamagedFiles = 3;
-
-} // namespace
 
 QCborValue selectionValue(const std::vector<ObjectId>& selected) {
     QCborArray array;
@@ -44,19 +32,6 @@ std::optional<std::vector<ObjectId>> selectionOfValue(const QCborValue& value) {
 std::optional<std::vector<ObjectId>> selectionOfFile(const QByteArray& content) {
     const std::optional<QCborValue> root = unarchivedRoot(content);
     return root ? selectionOfValue(*root) : std::nullopt;
-}
-
-void keepDamagedFile(const QString& path) {
-    const auto copy = [&path](int number) {
-        return QFile::encodeName(path + ".damaged-"_L1 + QString::number(number));
-    };
-    for (int number = kMostDamagedFiles; number > 1; --number) {
-        std::rename(copy(number - 1).constData(), copy(number).constData());
-    }
-    const QByteArray damaged = QFile::encodeName(path);
-    if (::link(damaged.constData(), copy(1).constData()) != 0) {
-        std::rename(damaged.constData(), copy(1).constData());
-    }
 }
 
 } // namespace guide

@@ -4,7 +4,6 @@
 
 #include <QByteArray>
 #include <QCborValue>
-#include <QString>
 
 #include <optional>
 #include <vector>
@@ -18,10 +17,5 @@ std::optional<std::vector<ObjectId>> selectionOfValue(const QCborValue& value);
 
 /// The selection in the content of its file; nothing when it is damaged.
 std::optional<std::vector<ObjectId>> selectionOfFile(const QByteArray& content);
-
-/// Keeps a damaged file as "NAME.damaged-1" beside it, before it is replaced. The file also keeps its own
-/// name, so that a crash does not make it look missing; where that is impossible it is moved. Earlier copies
-/// are renumbered, and only three are kept.
-void keepDamagedFile(const QString& path);
 
 } // namespace guide

@@ -1,12 +1,10 @@
 #include "core/TVChannels.h"
 
+#include "core/MirroredFile.h"
 #include "core/SelectionFile.h"
 #include "platform/archive/Archive.h"
-#include "platform/files/FileContent.h"
-#include "platform/files/FileReplacement.h"
 
 #include <QDebug>
-#include <QFile>
 
 #include <utility>
 
@@ -20,13 +18,9 @@ using ChannelMap = std::unordered_map<ObjectId, std::shared_ptr<TVChannel>>;
 
 constexpr qint64 kMostBytes = 1 << 20;
 
-QString mirrorKey() {
-    return u"SelectedChannels"_s;
-}
-
 } // namespace
 
-struct TVChannels::State final : CatalogueObserver, std::enable_shared_from_this<State> {
+struct TVChannels::State final : CatalogueObserver {
     /// The selection and its records, immutable once published.
     struct Snapshot {
         std::vector<ObjectId> selected;
@@ -34,26 +28,20 @@ struct TVChannels::State final : CatalogueObserver, std::enable_shared_from_this
     };
     using SharedSnapshot = std::shared_ptr<const Snapshot>;
 
-    QString path;
-    QString cachesFolder;
-    const bool writable;
-    KeyValueStore& keyValueStore;
+    const QString cachesFolder;
     const Catalogue& catalogue;
-    const std::shared_ptr<DispatchQueue> writer;
+    MirroredFile file;
 
     std::mutex guard;
     SharedSnapshot current; // guarded; null until the first read
-    bool unwritten = false; // guarded
-    bool damaged = false;   // guarded; the file has to be kept when it is replaced
 
-    State(const Folders& folders, KeyValueStore& ownKeyValueStore, DispatchQueues& queues,
+    State(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues,
           const Catalogue& ownCatalogue)
-        : path(folders.documents + u"/selectedChannels.plist"_s)
-        , cachesFolder(folders.caches)
-        , writable(folders.writable)
-        , keyValueStore(ownKeyValueStore)
+        : cachesFolder(folders.caches)
         , catalogue(ownCatalogue)
-        , writer(queues.makeQueue("selected", QueueKind::Serial, QueuePriority::Default)) {}
+        , file({folders.documents + u"/selectedChannels.plist"_s, u"SelectedChannels"_s, kMostBytes,
+                folders.writable},
+               keyValueStore, queues.makeQueue("selected", QueueKind::Serial, QueuePriority::Default)) {}
 
     void catalogueReplaced() override {
         const std::lock_guard lock(guard);
@@ -104,83 +92,45 @@ struct TVChannels::State final : CatalogueObserver, std::enable_shared_from_this
     SharedSnapshot snapshot() {
         const std::lock_guard lock(guard);
         if (!current) {
-            current = makeSnapshot(readSelection(), nullptr);
+            read();
         }
         return current;
     }
 
-    // Under the guard. The key-value store holds a copy for a file that is damaged; a file that is missing
-    // has never been written.
-    std::vector<ObjectId> readSelection() {
-        const std::optional<QByteArray> content = fileContent(path, kMostBytes);
-        auto selected = content ? selectionOfFile(*content) : std::nullopt;
-        if (!selected) {
-            qInfo("TVChannels: selectedChannels returned nil");
-            damaged = QFile::exists(path);
-            selected = damaged
-                           ? selectionOfValue(keyValueStore.valueForKey(mirrorKey()).value_or(QCborValue()))
-                           : std::nullopt;
-            if (!selected) {
-                return {};
-            }
-            qWarning().noquote() << "TVChannels:" << path << "is damaged, using the copy";
-            setUnwritten();
+    // Under the guard. A file that is missing has never been written.
+    void read() {
+        std::vector<ObjectId> selected;
+        const auto take = [&selected](std::optional<std::vector<ObjectId>> ids) {
+            selected = std::move(ids).value_or(std::vector<ObjectId>());
+            return ids.has_value();
+        };
+        const MirroredFile::Found found =
+            file.read([&take](const QByteArray& content) { return take(selectionOfFile(content)); },
+                      [&take](const QCborValue& copy) { return take(selectionOfValue(copy)); });
+        qInfo().noquote().nospace() << "TVChannels: channelArray.count=" << selected.size();
+        current = makeSnapshot(std::move(selected), nullptr);
+        if (found == MirroredFile::Found::Copy) {
+            write();
         }
-        qInfo().noquote().nospace() << "TVChannels: channelArray.count=" << selected->size();
-        return *std::move(selected);
     }
 
     // Under the guard.
-    void setUnwritten() {
-        unwritten = writable;
-        submitWrite();
-    }
-
-    void submitWrite() {
-        if (writable) {
-            writer->asyncBarrier([state = shared_from_this()] { state->write(); });
-        }
-    }
-
-    // On the writer queue. Writes the newest selection, so that several changes in a row cost one write.
-    bool write() {
-        SharedSnapshot newest;
-        bool keep = false;
-        {
-            const std::lock_guard lock(guard);
-            if (!unwritten) {
-                return true;
-            }
-            newest = current;
-            keep = std::exchange(damaged, false);
-        }
-        if (keep) {
-            keepDamagedFile(path);
-        }
-        const QCborValue value = selectionValue(newest->selected);
-        if (!replaceFile(path, archivedData(value))) {
-            qWarning().noquote() << "TVChannels: cannot write" << path;
-            return false;
-        }
-        keyValueStore.setValue(mirrorKey(), value);
-        const std::lock_guard lock(guard);
-        unwritten = current->selected != newest->selected;
-        return true;
+    void write() {
+        file.write([written = current] {
+            const QCborValue value = selectionValue(written->selected);
+            return MirroredFile::Content{archivedData(value), value};
+        });
     }
 };
 
 TVChannels::TVChannels(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues,
                        const Catalogue& catalogue)
-    : m_state(std::make_shared<State>(folders, keyValueStore, queues, catalogue)) {
+    : m_state(std::make_unique<State>(folders, keyValueStore, queues, catalogue)) {
     catalogue.addObserver(*m_state);
 }
 
 TVChannels::~TVChannels() {
     m_state->catalogue.removeObserver(*m_state);
-    finishWriting();
-    // Leaves nothing to write for a block that is still queued.
-    const std::lock_guard lock(m_state->guard);
-    m_state->unwritten = false;
 }
 
 std::vector<ObjectId> TVChannels::selected() const {
@@ -195,7 +145,7 @@ void TVChannels::setSelected(std::vector<ObjectId> selected) {
         return;
     }
     m_state->current = m_state->makeSnapshot(std::move(selected), previous.get());
-    m_state->setUnwritten();
+    m_state->write();
 }
 
 std::shared_ptr<TVChannel> TVChannels::channelWithChannelId(const ObjectId& channel) const {
@@ -205,20 +155,11 @@ std::shared_ptr<TVChannel> TVChannels::channelWithChannelId(const ObjectId& chan
 }
 
 void TVChannels::retryWriting() {
-    m_state->submitWrite();
+    m_state->file.retryWriting();
 }
 
 bool TVChannels::finishWriting() {
-    {
-        const std::lock_guard lock(m_state->guard);
-        if (!m_state->unwritten) {
-            return true;
-        }
-    }
-    std::optional<bool> written;
-    m_state->writer->sync([this, &written] { written = m_state->write(); });
-    // After the queues have shut down the block is dropped and no other thread writes.
-    return written ? *written : m_state->write();
+    return m_state->file.finishWriting();
 }
 
 } // namespace guide

@@ -46,7 +46,7 @@ class TVChannels {
 
   private:
     struct State;
-    std::shared_ptr<State> m_state;
+    const std::unique_ptr<State> m_state;
 };
 
 } // namespace guide

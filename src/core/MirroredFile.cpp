@@ -1,0 +1,139 @@
+#include "core/MirroredFile.h"
+
+#include "platform/files/FileContent.h"
+#include "platform/files/FileReplacement.h"
+
+#include <QDebug>
+#include <QFile>
+
+#include <cstdio>
+#include <mutex>
+#include <optional>
+#include <unistd.h>
+#include <utility>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kMostDamagedFiles = 3;
+
+/// The file also keeps its own name, so that a crash does not make it look missing; where that is impossible
+/// it is moved.
+void keepDamagedFile(const QString& path) {
+    const auto copy = [&path](int number) {
+        return QFile::encodeName(path + ".damaged-"_L1 + QString::number(number));
+    };
+    for (int number = kMostDamagedFiles; number > 1; --number) {
+        std::rename(copy(number - 1).constData(), copy(number).constData());
+    }
+    const QByteArray damaged = QFile::encodeName(path);
+    if (::link(damaged.constData(), copy(1).constData()) != 0) {
+        std::rename(damaged.constData(), copy(1).constData());
+    }
+}
+
+} // namespace
+
+struct MirroredFile::State {
+    const Place place;
+    KeyValueStore& keyValueStore;
+    const std::shared_ptr<DispatchQueue> writer;
+
+    std::mutex guard;
+    std::shared_ptr<const std::function<Content()>> unwritten; // guarded
+    bool damaged = false; // guarded; the file has to be kept when it is replaced
+
+    // On the writer queue.
+    bool write() {
+        std::shared_ptr<const std::function<Content()>> newest;
+        bool keep = false;
+        {
+            const std::lock_guard lock(guard);
+            if (!unwritten) {
+                return true;
+            }
+            newest = unwritten;
+            keep = std::exchange(damaged, false);
+        }
+        if (keep) {
+            keepDamagedFile(place.path);
+        }
+        const Content content = (*newest)();
+        if (!replaceFile(place.path, content.file)) {
+            qWarning().noquote() << "MirroredFile: cannot write" << place.path;
+            return false;
+        }
+        keyValueStore.setValue(place.key, content.copy);
+        const std::lock_guard lock(guard);
+        if (unwritten == newest) {
+            unwritten = nullptr;
+        }
+        return true;
+    }
+};
+
+MirroredFile::MirroredFile(Place place, KeyValueStore& keyValueStore, std::shared_ptr<DispatchQueue> writer)
+    : m_state(std::make_shared<State>(std::move(place), keyValueStore, std::move(writer))) {}
+
+MirroredFile::~MirroredFile() {
+    finishWriting();
+    // Leaves nothing to write for a block that is still queued.
+    const std::lock_guard lock(m_state->guard);
+    m_state->unwritten = nullptr;
+}
+
+MirroredFile::Found MirroredFile::read(const std::function<bool(const QByteArray&)>& takeFile,
+                                       const std::function<bool(const QCborValue&)>& takeCopy) {
+    const Place& place = m_state->place;
+    const std::optional<QByteArray> content = fileContent(place.path, place.mostBytes);
+    const bool intact = content && takeFile(*content);
+    const bool damaged = !intact && QFile::exists(place.path);
+    {
+        const std::lock_guard lock(m_state->guard);
+        m_state->damaged = damaged;
+    }
+    if (!damaged) {
+        return intact ? Found::File : Found::Nothing;
+    }
+    const std::optional<QCborValue> copy = m_state->keyValueStore.valueForKey(place.key);
+    const bool copied = copy && takeCopy(*copy);
+    qWarning().noquote() << "MirroredFile:" << place.path
+                         << (copied ? "is damaged, using the copy" : "is damaged");
+    return copied ? Found::Copy : Found::Nothing;
+}
+
+bool MirroredFile::hasCopy() const {
+    return m_state->keyValueStore.valueForKey(m_state->place.key).has_value();
+}
+
+void MirroredFile::write(std::function<Content()> makeContent) {
+    if (m_state->place.writable) {
+        const std::lock_guard lock(m_state->guard);
+        m_state->unwritten = std::make_shared<const std::function<Content()>>(std::move(makeContent));
+    }
+    retryWriting();
+}
+
+void MirroredFile::retryWriting() {
+    if (m_state->place.writable) {
+        m_state->writer->asyncBarrier([state = m_state] { state->write(); });
+    }
+}
+
+bool MirroredFile::finishWriting() {
+    {
+        const std::lock_guard lock(m_state->guard);
+        if (!m_state->unwritten) {
+            return true;
+        }
+    }
+    std::optional<bool> written;
+    m_state->writer->sync([this, &written] { written = m_state->write(); });
+    // After the queues have shut down the block is dropped and no other thread writes.
+    return written ? *written : m_state->write();
+}
+
+} // namespace guide
