@@ -384,6 +384,10 @@ Počkejte, až se program načte.</translation>
         </translation>
     </message>
     <message>
+        <source>%1 left</source>
+        <translation>zbývá %1</translation>
+    </message>
+    <message>
         <source>Replay</source>
         <translation>Repríza</translation>
     </message>
@@ -478,7 +482,7 @@ Počkejte, až se program načte.</translation>
     <message numerus="yes">
         <source>Titles, descriptions and people in the shows of your %n channel(s) are searched.</source>
         <translation>
-            <numerusform>Prohledávají se názvy, popisy a osoby v pořadech vašeho %n kanálu.</numerusform>
+            <numerusform>Prohledávají se názvy, popisy a osoby v pořadech vašeho kanálu.</numerusform>
             <numerusform>Prohledávají se názvy, popisy a osoby v pořadech vašich %n kanálů.</numerusform>
             <numerusform>Prohledávají se názvy, popisy a osoby v pořadech vašich %n kanálů.</numerusform>
         </translation>
@@ -502,7 +506,7 @@ Počkejte, až se program načte.</translation>
     <message numerus="yes">
         <source>No show matches “%1” on your %n channel(s)</source>
         <translation>
-            <numerusform>Na vašem %n kanálu žádný pořad neodpovídá textu „%1“</numerusform>
+            <numerusform>Na vašem kanálu žádný pořad neodpovídá textu „%1“</numerusform>
             <numerusform>Na vašich %n kanálech žádný pořad neodpovídá textu „%1“</numerusform>
             <numerusform>Na vašich %n kanálech žádný pořad neodpovídá textu „%1“</numerusform>
         </translation>
@@ -634,6 +638,10 @@ Počkejte, až se program načte.</translation>
     <message>
         <source>Open the row</source>
         <translation>Otevřít řádek</translation>
+    </message>
+    <message>
+        <source>Choose the rows since the last one</source>
+        <translation>Vybrat řádky od posledního vybraného</translation>
     </message>
     <message>
         <source>Actions on the row</source>
@@ -813,7 +821,27 @@ Počkejte, až se program načte.</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation>Upozornění</translation>
+        <translation>Varování</translation>
+    </message>
+    <message>
+        <source>This is a recurring alarm. Are you sure?</source>
+        <translation>Toto upozornění se opakuje. Opravdu je chcete zrušit?</translation>
+    </message>
+    <message>
+        <source>Remove alarm</source>
+        <translation>Zrušit upozornění</translation>
+    </message>
+    <message>
+        <source>This will also remove all alarms set on this show. Are you sure?</source>
+        <translation>Zruší se i všechna upozornění na tento pořad. Chcete pokračovat?</translation>
+    </message>
+    <message>
+        <source>Remove favorite</source>
+        <translation>Odebrat z oblíbených</translation>
+    </message>
+    <message>
+        <source>Set alarm</source>
+        <translation>Nastavit upozornění</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -384,6 +384,10 @@ Počkajte, kým sa program načíta.</translation>
         </translation>
     </message>
     <message>
+        <source>%1 left</source>
+        <translation>zostáva %1</translation>
+    </message>
+    <message>
         <source>Replay</source>
         <translation>Repríza</translation>
     </message>
@@ -478,7 +482,7 @@ Počkajte, kým sa program načíta.</translation>
     <message numerus="yes">
         <source>Titles, descriptions and people in the shows of your %n channel(s) are searched.</source>
         <translation>
-            <numerusform>Prehľadávajú sa názvy, popisy a osoby v reláciách vášho %n kanála.</numerusform>
+            <numerusform>Prehľadávajú sa názvy, popisy a osoby v reláciách vášho kanála.</numerusform>
             <numerusform>Prehľadávajú sa názvy, popisy a osoby v reláciách vašich %n kanálov.</numerusform>
             <numerusform>Prehľadávajú sa názvy, popisy a osoby v reláciách vašich %n kanálov.</numerusform>
         </translation>
@@ -502,7 +506,7 @@ Počkajte, kým sa program načíta.</translation>
     <message numerus="yes">
         <source>No show matches “%1” on your %n channel(s)</source>
         <translation>
-            <numerusform>Na vašom %n kanáli žiadna relácia nezodpovedá textu „%1“</numerusform>
+            <numerusform>Na vašom kanáli žiadna relácia nezodpovedá textu „%1“</numerusform>
             <numerusform>Na vašich %n kanáloch žiadna relácia nezodpovedá textu „%1“</numerusform>
             <numerusform>Na vašich %n kanáloch žiadna relácia nezodpovedá textu „%1“</numerusform>
         </translation>
@@ -636,12 +640,16 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Otvoriť riadok</translation>
     </message>
     <message>
+        <source>Choose the rows since the last one</source>
+        <translation>Vybrať riadky od posledného vybraného</translation>
+    </message>
+    <message>
         <source>Actions on the row</source>
         <translation>Akcie s riadkom</translation>
     </message>
     <message>
         <source>Remove the row</source>
-        <translation>Odstrániť riadok</translation>
+        <translation>Odobrať riadok</translation>
     </message>
     <message>
         <source>Move the row</source>
@@ -757,7 +765,7 @@ Počkajte, kým sa program načíta.</translation>
     </message>
     <message>
         <source>%1 removed</source>
-        <translation>%1: odstránené</translation>
+        <translation>%1: odobraté</translation>
     </message>
     <message>
         <source>Move to top</source>
@@ -813,7 +821,27 @@ Počkajte, kým sa program načíta.</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation>Upozornenie</translation>
+        <translation>Varovanie</translation>
+    </message>
+    <message>
+        <source>This is a recurring alarm. Are you sure?</source>
+        <translation>Toto upozornenie sa opakuje. Naozaj ho chcete zrušiť?</translation>
+    </message>
+    <message>
+        <source>Remove alarm</source>
+        <translation>Zrušiť upozornenie</translation>
+    </message>
+    <message>
+        <source>This will also remove all alarms set on this show. Are you sure?</source>
+        <translation>Zrušia sa aj všetky upozornenia na túto reláciu. Chcete pokračovať?</translation>
+    </message>
+    <message>
+        <source>Remove favorite</source>
+        <translation>Odobrať z obľúbených</translation>
+    </message>
+    <message>
+        <source>Set alarm</source>
+        <translation>Nastaviť upozornenie</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -822,9 +850,9 @@ Počkajte, kým sa program načíta.</translation>
     <message numerus="yes">
         <source>%n channel(s) removed</source>
         <translation>
-            <numerusform>%n kanál odstránený</numerusform>
-            <numerusform>%n kanály odstránené</numerusform>
-            <numerusform>%n kanálov odstránených</numerusform>
+            <numerusform>%n kanál odobratý</numerusform>
+            <numerusform>%n kanály odobraté</numerusform>
+            <numerusform>%n kanálov odobratých</numerusform>
         </translation>
     </message>
     <message numerus="yes">
