@@ -1,5 +1,7 @@
 #include "screens/ShowRows.h"
 
+#include "screens/ShowTexts.h"
+
 #include <algorithm>
 
 namespace guide {
@@ -56,7 +58,7 @@ ShowRow ShowRows::condensed(const ShowItem& show, const std::optional<Moment>& e
 
     ShowRow row = m_text.humanCondensedWithColor(entry, color, m_popularShows.contains(show));
     row.endTime = m_text.shortTime(end);
-    row.details = entry.fullInstantDetails().value_or(QString());
+    row.details = rowDetails(entry);
     row.alarmed = alarmed;
     row.favourite = favourite;
     row.running = running;

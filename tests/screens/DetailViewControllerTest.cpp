@@ -116,13 +116,54 @@ TEST_F(DetailViewControllerTest, ShowsOnlyTheHeadOfAShowWithoutTexts) {
 }
 
 TEST_F(DetailViewControllerTest, UnfoldsManyPeople) {
-    open(30, [](ExtendedTVEntry& show) { show.extra->roles = u"A\n"_s.repeated(12); });
+    open(30, [](ExtendedTVEntry& show) {
+        QStringList names;
+        for (int number = 1; number <= 12; ++number) {
+            names << u"A %1"_s.arg(number);
+        }
+        show.extra->roles = names.join(u'\n');
+    });
     EXPECT_EQ(groups().last().count(u'A'), 10);
     const int last = table().rowCount() - 1;
     EXPECT_EQ(std::get<ButtonRow>(table().rowAt(last).content).title, u"Show all 12"_s);
     screen->sendRowEvent(table().rowAt(last).id, Tapped{});
     EXPECT_EQ(groups().last().count(u'A'), 12);
     EXPECT_EQ(table().rowCount(), last);
+}
+
+TEST(ShowPage, People) {
+    const std::pair<QString, QStringList> cases[] = {
+        {u"Jon Voight,  Rene Russo, ..."_s, {u"Jon Voight"_s, u"Rene Russo"_s}},
+        {u"Trace Adkins..., Jon Voight…"_s, {u"Trace Adkins"_s, u"Jon Voight"_s}},
+        {u"Downey, Jr., A (one, two); B"_s, {u"Downey, Jr."_s, u"A (one, two)"_s, u"B"_s}},
+        {u"A, one\nB\nA, one"_s, {u"A, one"_s, u"B"_s}},
+        {u"..., -"_s, {}},
+    };
+    for (const auto& [text, people] : cases) {
+        EXPECT_EQ(peopleOf(text), people);
+    }
+}
+
+TEST(ShowPage, TheDayIsWrittenAsInTheLanguage) {
+    Alphabet alphabet;
+    TVEntry entry(alphabet);
+    FakeDevice device;
+    device.zone = QTimeZone("UTC");
+    const Moment now = Moment(std::chrono::sys_days(std::chrono::year(2025) / 11 / 1));
+    entry.setDateTime(now + 72h);
+    const std::pair<QLocale, QString> cases[] = {
+        {QLocale(QLocale::German), u"Di., 4. Nov."_s},
+        {QLocale(QLocale::Hungarian), u"nov. 4., K"_s},
+        {QLocale(QLocale::Slovak), u"ut 4. nov"_s},
+        {QLocale(QLocale::Italian), u"mar 4 nov"_s},
+        {QLocale(QLocale::English, QLocale::UnitedStates), u"Tue, Nov 4"_s},
+        {QLocale(QLocale::Russian), u"вт, 4 нояб."_s},
+        {QLocale(QLocale::Latvian), u"otrd. 4. nov."_s},
+    };
+    for (const auto& [locale, day] : cases) {
+        device.deviceLocale = locale;
+        EXPECT_EQ(showFacts(entry, {}, now, device).value(0), day);
+    }
 }
 
 TEST_F(DetailViewControllerTest, FollowsTheClock) {

@@ -2,6 +2,7 @@
 
 #include "screens/Localized.h"
 #include "screens/ShowRows.h"
+#include "screens/ShowTexts.h"
 #include "screens/compound/CompoundListingsViewController.h"
 #include "screens/detail/ShowPage.h"
 #include "screens/kit/NavigationController.h"
@@ -23,8 +24,6 @@ constexpr auto kActions = "actions"_L1;
 constexpr auto kAlarm = "alarm"_L1;
 constexpr auto kShowAll = "show all"_L1;
 constexpr qsizetype kPeopleShown = 10;
-/// The dot stays at the end of its line.
-constexpr QStringView kBetweenFacts = u"\u00a0· ";
 /// Of the one archive of past broadcasts.
 constexpr auto kArchiveLanguage = "hr"_L1;
 /// The width of a page, at most.

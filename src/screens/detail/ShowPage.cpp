@@ -3,10 +3,15 @@
 #include "screens/Localized.h"
 #include "screens/ShowRowText.h"
 #include "screens/ShowRows.h"
+#include "screens/ShowTexts.h"
+#include "screens/TextTidying.h"
+#include "text/display/DayFormat.h"
 
 #include <QDateTime>
+#include <QSet>
 
 #include <algorithm>
+#include <array>
 
 namespace guide {
 
@@ -16,23 +21,12 @@ namespace {
 
 /// Longer texts would take long to lay out.
 constexpr qsizetype kLongestText = 20'000;
-constexpr qsizetype kLongestFact = 80;
 constexpr std::chrono::minutes kSoon{60};
+/// From here on time is given in hours.
+constexpr int kLongInMinutes = 120;
 
 QString bounded(const QString& text) {
     return text.size() <= kLongestText ? text : text.first(kLongestText) + u'…';
-}
-
-/// What a source says in passing: a few words on genre, country and year, or whole sentences.
-QStringList remarks(const TVEntry& entry, bool isShort) {
-    QStringList found;
-    for (const auto& text : {entry.instantDetails(), entry.instantDescription()}) {
-        const QString remark = text.value_or(QString()).trimmed().replace(u'║', u'·');
-        if (!remark.isEmpty() && (remark.size() <= kLongestFact) == isShort) {
-            found << remark;
-        }
-    }
-    return found;
 }
 
 QString dayText(const QDate& day, const QDate& today, const QLocale& locale) {
@@ -44,7 +38,7 @@ QString dayText(const QDate& day, const QDate& today, const QLocale& locale) {
     case 1:
         return Localized::tr("Tomorrow");
     default:
-        return locale.toString(day, u"ddd d MMM"_s);
+        return locale.toString(day, dayFormat(locale));
     }
 }
 
@@ -58,8 +52,27 @@ QString durationText(std::chrono::minutes duration) {
                         : Localized::tr("%1 h %2 min").arg(hours.count()).arg(minutes);
 }
 
+/// Belong to the name before the comma.
+constexpr std::array kNameEndings{"Jr."_L1, "Jr"_L1, "Sr."_L1, "Sr"_L1};
+
+/// Without the dots by which some sources say that there are more; empty when there is no name.
+QString personIn(QStringView text) {
+    QString person = text.toString().simplified();
+    while (person.endsWith("..."_L1) || person.endsWith(u'…')) {
+        person.chop(person.endsWith(u'…') ? 1 : 3);
+    }
+    const bool isName = std::ranges::any_of(person, [](QChar unit) { return unit.isLetter(); });
+    return isName ? person.trimmed() : QString();
+}
+
 int minutesUntil(Moment later, Moment now) {
     return static_cast<int>(std::chrono::ceil<std::chrono::minutes>(later - now).count());
+}
+
+QString timeLeft(int minutes) {
+    return minutes < kLongInMinutes
+               ? Localized::tr("%n min left", nullptr, minutes)
+               : Localized::tr("%1 left").arg(durationText(std::chrono::minutes(minutes)));
 }
 
 } // namespace
@@ -68,22 +81,25 @@ std::vector<ShowGroup> showGroups(const ShowItem& show, const Alphabet& alphabet
     std::vector<ShowGroup> groups;
     const auto add = [&groups](const QString& name, const std::optional<QString>& content,
                                bool isPeople = false) {
-        if (const QString text = content.value_or(QString()).trimmed(); !text.isEmpty()) {
-            groups.push_back({name, bounded(text), isPeople});
+        if (const QString text = tidied(bounded(content.value_or(QString()))); !text.isEmpty()) {
+            groups.push_back({name, text, isPeople});
         }
     };
-    add(Localized::tr("Subheading:"), show.entry()->subtitle());
+    const ShowTexts texts = showTexts(*show.entry());
+    add(Localized::tr("Subheading:"), texts.subheading);
     const TVEntrySupplementalData details =
         show.details() ? show.details()->updateAlphabet(alphabet) : TVEntrySupplementalData();
     add(Localized::tr("Details:"),
-        (remarks(*show.entry(), false) << details.details.value_or(QString())).join(u'\n'));
+        (texts.details + QStringList(details.details.value_or(QString()))).join(u'\n'));
     add(Localized::tr("Episode Description:"), details.episodeDescription);
     // A name of its own, because the plural differs from language to language.
     const bool severalDirectors = details.directedBy.value_or(QString()).trimmed().contains(u'\n');
     add(severalDirectors ? Localized::tr("Directed By:(p)") : Localized::tr("Directed By:"),
         details.directedBy, true);
     add(Localized::tr("Roles:"), details.roles, true);
-    add(Localized::tr("Description:"), details.description);
+    add(Localized::tr("Description:"),
+        tidiedDescription(bounded(details.description.value_or(QString())),
+                          {show.entry()->title().value_or(QString()), texts.subheading}));
     return groups;
 }
 
@@ -104,8 +120,7 @@ ShowState showState(const std::optional<Moment>& start, const std::optional<Mome
     }
     return {.running = true,
             .progress = std::clamp(showProgress(start, end, now).value_or(0), 0.0, 1.0),
-            .text = Localized::tr("On now") + u" · "_s +
-                    Localized::tr("%n min left", nullptr, minutesUntil(*end, now))};
+            .text = Localized::tr("On now") + u" · "_s + timeLeft(minutesUntil(*end, now))};
 }
 
 QStringList showFacts(const TVEntry& entry, const std::optional<Moment>& end, Moment now,
@@ -124,7 +139,7 @@ QStringList showFacts(const TVEntry& entry, const std::optional<Moment>& end, Mo
     if (entry.previouslyShown()) {
         facts << Localized::tr("Replay");
     }
-    return facts + remarks(entry, true);
+    return facts + showTexts(entry).facts;
 }
 
 QString leadTimeText(const Favorite* rule, std::optional<int> minutes) {
@@ -151,6 +166,7 @@ QString leadTimeText(const Favorite* rule, std::optional<int> minutes) {
 
 QStringList peopleOf(const QString& text) {
     QStringList people;
+    QSet<QString> known;
     const bool byLines = text.contains(u'\n');
     int brackets = 0;
     qsizetype begin = 0;
@@ -158,11 +174,16 @@ QStringList peopleOf(const QString& text) {
         const QChar c = at < text.size() ? text[at] : QChar(u'\n');
         brackets += c == u'(' ? 1 : c == u')' && brackets > 0 ? -1 : 0;
         const bool isEnd = c == u'\n' || (!byLines && brackets == 0 && (c == u',' || c == u';'));
-        if (isEnd) {
-            if (const QString person = text.sliced(begin, at - begin).trimmed(); !person.isEmpty()) {
-                people << person;
-            }
-            begin = at + 1;
+        if (!isEnd) {
+            continue;
+        }
+        const QString person = personIn(QStringView(text).sliced(begin, at - begin));
+        begin = at + 1;
+        if (std::ranges::find(kNameEndings, person) != kNameEndings.end() && !people.isEmpty()) {
+            people.back() += u", "_s + person;
+        } else if (!person.isEmpty() && !known.contains(person)) {
+            known.insert(person);
+            people << person;
         }
     }
     return people;
