@@ -68,12 +68,13 @@ std::optional<QString> episodeFact(const QString& part) {
     if (!rest.isEmpty() || (!season && !episode)) {
         return std::nullopt;
     }
-    if (episode && episode->toInt() > 0) {
-        return part;
+    const bool isSeason = season && season->toInt() > 0;
+    const bool isEpisode = episode && episode->toInt() > 0;
+    if (isEpisode) {
+        return isSeason ? part : u'E' + episode->toString();
     }
     // A year in place of the season is among the parts once more.
-    const bool isSeason = season && season->size() < 4 && season->toInt() > 0;
-    return isSeason ? u'S' + season->toString() : QString();
+    return isSeason && season->size() < 4 ? u'S' + season->toString() : QString();
 }
 
 /// A part that is a code or a number, as a fact: empty when it says nothing. Nothing for words.
@@ -132,6 +133,9 @@ ShowTexts showTexts(const TVEntry& entry) {
     ShowTexts texts;
     if (const QString subtitle = entry.subtitle().value_or(QString()); subtitle.contains(kBar)) {
         addParts(texts, subtitle, entry);
+    } else if (const std::optional<QString> fact = episodeFact(tidied(subtitle))) {
+        texts.facts << *fact;
+        texts.facts.removeAll(QString());
     } else {
         texts.subheading = tidied(subtitle);
     }

@@ -11,10 +11,10 @@ namespace {
 /// Two sentences may well end in the same few words.
 constexpr qsizetype kShortestCopy = 60;
 
-/// Sentences that some sources join without a blank, as in "the end.Directed by".
+/// Some sources join sentences without a blank, as in "the end.Directed by", and put one before a comma.
 QString withBlanks(QString text) {
-    static const QRegularExpression joined(u"(?<=\\p{Ll})([.!?…,;])(?=\\p{Lu}\\p{Ll})"_s);
-    return text.replace(joined, u"\\1 "_s);
+    static const QRegularExpression joined(u"(?<=\\p{Ll})(\\.{3}|[.!?…,;])(?=\\p{Lu}\\p{Ll})"_s);
+    return text.replace(joined, u"\\1 "_s).replace(" ,"_L1, ","_L1);
 }
 
 QString withOneClosingMark(QString text) {
