@@ -5,6 +5,7 @@
 
 #include <QCborArray>
 #include <QCborMap>
+#include <QDateTime>
 
 #include <gtest/gtest.h>
 
@@ -206,6 +207,21 @@ TEST(KeyedArchiverTest, RefusesEveryTruncationAndBitFlip) {
     QByteArray noContent(kArchiveHeaderSize, '\0');
     sealArchive(noContent);
     EXPECT_EQ(archiveContent(noContent), QByteArrayView("")) << "a header is whole without content";
+}
+
+TEST(Archive, ContainersHaveAsManyElementsAsTheySay) {
+    const auto read = [](QByteArray content) {
+        content.prepend(QByteArray(static_cast<qsizetype>(kArchiveHeaderSize), '\0'));
+        sealArchive(content);
+        return unarchivedRoot(content);
+    };
+    EXPECT_TRUE(read(QByteArray::fromHex("82c10580")));
+    EXPECT_FALSE(read(QByteArray::fromHex("9a00ffffff01"))) << "16 million elements in a byte";
+    EXPECT_FALSE(read("\xc1" + QByteArray::fromHex("9a00ffffff01"))) << "behind a tag";
+    EXPECT_FALSE(read(QByteArray(100, '\x81') + '\x01')) << "too deep";
+    EXPECT_TRUE(read(QByteArray(60, '\x81') + '\x01'));
+    const QCborMap dates{{1, QCborValue(QDateTime::fromMSecsSinceEpoch(5, Qt::UTC))}};
+    EXPECT_EQ(unarchivedRoot(archivedData(dates)), QCborValue(dates));
 }
 
 } // namespace
