@@ -3,11 +3,17 @@
 #include <QDateTime>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <array>
+
 namespace guide {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The options whose value is not a path.
+constexpr std::array kValueOptions{"--now"_L1, "--form"_L1, "--appearance"_L1, "--text-scale"_L1};
 
 QString usage() {
     return u"usage: quellin-guide [OPTION...] [URL]\n"
@@ -21,6 +27,9 @@ QString usage() {
            "  --select FILE         the channels to select if none are selected yet, a JSON array\n"
            "  --now TIME            the initial time of the clock, as in 2025-12-31T19:30:00Z\n"
            "  --form phone|tablet   the layout\n"
+           "  --appearance light|dark\n"
+           "                        the colours; the system's if missing\n"
+           "  --text-scale PERCENT  the size of the text, from 100 to 200; the system's if missing\n"
            "  --screenshots FOLDER  save a picture of every screen in FOLDER and exit\n"
            "  --help                this text\n"
            "\n"
@@ -29,6 +38,35 @@ QString usage() {
 
 CommandLineText refusal(const QString& why) {
     return {u"quellin-guide: %1; see quellin-guide --help\n"_s.arg(why), 2};
+}
+
+/// Sets an option whose value is not a path; returns why it cannot, or an empty text.
+QString setValue(LaunchOptions& options, const QString& name, const QString& value) {
+    if (name == "--now"_L1) {
+        const QDateTime moment = QDateTime::fromString(value, Qt::ISODateWithMs);
+        if (!moment.isValid()) {
+            return u"\"%1\" is not a time like 2025-12-31T19:30:00Z"_s.arg(value);
+        }
+        options.now = Moment(std::chrono::milliseconds(moment.toMSecsSinceEpoch()));
+    } else if (name == "--form"_L1) {
+        if (value != "phone"_L1 && value != "tablet"_L1) {
+            return u"--form must be phone or tablet, not \"%1\""_s.arg(value);
+        }
+        options.form = value == "phone"_L1 ? UserInterfaceIdiom::Phone : UserInterfaceIdiom::Tablet;
+    } else if (name == "--appearance"_L1) {
+        if (value != "light"_L1 && value != "dark"_L1) {
+            return u"--appearance must be light or dark, not \"%1\""_s.arg(value);
+        }
+        options.appearance = value == "light"_L1 ? ColorScheme::Light : ColorScheme::Dark;
+    } else {
+        bool isNumber = false;
+        const int percent = value.toInt(&isNumber);
+        if (!isNumber || percent < 100 || percent > 200) {
+            return u"--text-scale must be a number from 100 to 200, not \"%1\""_s.arg(value);
+        }
+        options.textScale = percent / 100.0;
+    }
+    return {};
 }
 
 } // namespace
@@ -61,7 +99,8 @@ std::variant<LaunchOptions, CommandLineText> parseCommandLine(const QStringList&
                    : name == "--screenshots"_L1 ? &options.screenshots
                                                 : nullptr;
         }();
-        if (!path && name != "--now"_L1 && name != "--form"_L1) {
+        if (!path &&
+            std::ranges::none_of(kValueOptions, [&](QLatin1StringView each) { return each == name; })) {
             return refusal(u"there is no option %1"_s.arg(name));
         }
         const QString value = equals >= 0            ? word.mid(equals + 1)
@@ -72,16 +111,8 @@ std::variant<LaunchOptions, CommandLineText> parseCommandLine(const QStringList&
         }
         if (path) {
             *path = QFileInfo(value).absoluteFilePath();
-        } else if (name == "--now"_L1) {
-            const QDateTime moment = QDateTime::fromString(value, Qt::ISODateWithMs);
-            if (!moment.isValid()) {
-                return refusal(u"\"%1\" is not a time like 2025-12-31T19:30:00Z"_s.arg(value));
-            }
-            options.now = Moment(std::chrono::milliseconds(moment.toMSecsSinceEpoch()));
-        } else if (value == "phone"_L1 || value == "tablet"_L1) {
-            options.form = value == "phone"_L1 ? UserInterfaceIdiom::Phone : UserInterfaceIdiom::Tablet;
-        } else {
-            return refusal(u"--form must be phone or tablet, not \"%1\""_s.arg(value));
+        } else if (const QString why = setValue(options, name, value); !why.isEmpty()) {
+            return refusal(why);
         }
     }
     if (options.demo && (options.catalogue || options.hosts || options.select)) {

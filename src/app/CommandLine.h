@@ -2,6 +2,7 @@
 
 #include "platform/Device.h"
 #include "platform/Moment.h"
+#include "ui/GuideWindow.h"
 
 #include <QString>
 #include <QStringList>
@@ -21,6 +22,10 @@ struct LaunchOptions {
     /// The initial time of the clock.
     std::optional<Moment> now;
     std::optional<UserInterfaceIdiom> form;
+    /// In place of the system's. Pictures are taken in both where unset.
+    std::optional<ColorScheme> appearance;
+    /// In place of the system's, from 1 to 2.
+    std::optional<double> textScale;
     std::optional<QString> screenshots;
     /// A URL of the application's scheme, to be opened after the launch.
     std::optional<QString> url;

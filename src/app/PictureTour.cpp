@@ -1,6 +1,7 @@
 #include "app/PictureTour.h"
 
 #include "screens/Localized.h"
+#include "screens/kit/PicturePagesContent.h"
 #include "screens/kit/PlayerContent.h"
 
 #include <algorithm>
@@ -26,6 +27,10 @@ bool isChannel(const Row& row) {
 bool isShow(const Row& row) {
     return row.kind() == RowKind::Show;
 }
+bool isShowWithPicture(const Row& row) {
+    const auto* show = std::get_if<ShowRow>(&row.content);
+    return show && !show->picture.empty();
+}
 bool hasStream(const Row& row) {
     const auto* channel = std::get_if<ChannelRow>(&row.content);
     return channel && channel->accessory == Accessory::Play;
@@ -44,12 +49,20 @@ bool isFilms(const Row& row) {
     return tile && tile->symbol == Symbol::Films;
 }
 
+/// Where a stop can be made.
+enum class Stops {
+    Everywhere,
+    /// Where the channels have what it shows, as in the demo.
+    Perhaps,
+    /// Where the profile may be changed: the stop adds or removes something.
+    WithChanges,
+};
+
 struct Stop {
     const char* name;
     /// Opens the screen from the one before.
     bool (*open)(PictureTour& tour);
-    /// Whether it adds or removes something, which is allowed only in the demo's profile.
-    bool changes = false;
+    Stops where = Stops::Everywhere;
     /// Without this tab the stop is left out.
     Symbol tab = Symbol::Currently;
 };
@@ -57,13 +70,25 @@ struct Stop {
 constexpr std::array kStops{
     Stop{"currently", [](PictureTour& tour) { return tour.selectTab(Symbol::Currently); }},
     Stop{"channel", [](PictureTour& tour) { return tour.send(Tapped{}, isChannel); }},
-    Stop{"show", [](PictureTour& tour) { return tour.send(Tapped{}, isShow); }},
+    Stop{"show",
+         [](PictureTour& tour) {
+             return tour.send(Tapped{}, isShowWithPicture) || tour.send(Tapped{}, isShow);
+         }},
+    Stop{"show-broadcasts", [](PictureTour& tour) { return tour.pressAction(ActionSymbol::Broadcasts); }},
+    Stop{"show-pictures",
+         [](PictureTour& tour) { return tour.back() && tour.pressAction(ActionSymbol::Pictures); },
+         Stops::Perhaps},
+    Stop{"streams",
+         [](PictureTour& tour) {
+             return tour.selectTab(Symbol::Currently) && tour.pressButton(Localized::tr("Channels"));
+         },
+         Stops::Perhaps},
     Stop{"categories", [](PictureTour& tour) { return tour.selectTab(Symbol::Categories); }},
     Stop{"films", [](PictureTour& tour) { return tour.send(Tapped{}, isFilms); }},
     Stop{"search", [](PictureTour& tour) { return tour.selectTab(Symbol::Search); }},
     // A syllable that titles of most languages contain.
-    Stop{"search-results", [](PictureTour& tour) { return tour.search(u"ni"_s); }, true},
-    Stop{"all-shows", [](PictureTour& tour) { return tour.selectTab(Symbol::AllShows); }, false,
+    Stop{"search-results", [](PictureTour& tour) { return tour.search(u"ni"_s); }, Stops::WithChanges},
+    Stop{"all-shows", [](PictureTour& tour) { return tour.selectTab(Symbol::AllShows); }, Stops::Everywhere,
          Symbol::AllShows},
     Stop{"schedule-empty", [](PictureTour& tour) { return tour.selectTab(Symbol::Schedule); }},
     Stop{"schedule",
@@ -71,35 +96,36 @@ constexpr std::array kStops{
              return tour.selectTab(Symbol::Currently) && tour.addFavourites() &&
                     tour.selectTab(Symbol::Schedule);
          },
-         true},
+         Stops::WithChanges},
     Stop{"favourites", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Edit")); }},
-    Stop{"title", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }, true},
+    Stop{"title", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }, Stops::WithChanges},
     Stop{"favourites-removed", [](PictureTour& tour) { return tour.back() && tour.send(Deleted{}, isText); },
-         true},
+         Stops::WithChanges},
     Stop{"selected-channels", [](PictureTour& tour) { return tour.selectTab(Symbol::SelectedChannels); }},
     Stop{"selected-channels-edit", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Edit")); }},
+    Stop{"alert", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Unselect all")); }},
     Stop{"catalogue",
          [](PictureTour& tour) {
              return tour.pressButton(Localized::tr("Done")) &&
                     tour.pressButton(Localized::tr("Add channels"));
          }},
     Stop{"catalogue-group", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }},
-    Stop{"catalogue-removed", [](PictureTour& tour) { return tour.send(Tapped{}, isChecked); }, true},
+    Stop{"catalogue-removed", [](PictureTour& tour) { return tour.send(Tapped{}, isChecked); },
+         Stops::WithChanges},
     Stop{"player",
          [](PictureTour& tour) {
              return tour.selectTab(Symbol::Currently) && tour.send(AccessoryTapped{}, hasStream);
-         }},
+         },
+         Stops::Perhaps},
 };
 
 } // namespace
 
-PictureTour::PictureTour(TabBarController& tabs, GuideWindow& window, QString folder, QString prefix,
-                         bool mayChange, std::function<void(bool complete)> done)
+PictureTour::PictureTour(TabBarController& tabs, GuideWindow& window, Plan plan,
+                         std::function<void(bool complete)> done)
     : m_tabs(tabs)
     , m_window(window)
-    , m_folder(std::move(folder))
-    , m_prefix(std::move(prefix))
-    , m_mayChange(mayChange)
+    , m_plan(std::move(plan))
     , m_done(std::move(done)) {}
 
 void PictureTour::start() {
@@ -113,9 +139,7 @@ bool PictureTour::selectTab(Symbol symbol) {
     if (tab == tabs.end() || !tab->item.enabled) {
         return false;
     }
-    if (PlayerContent* shown = player()) {
-        shown->leave();
-    }
+    m_tabs.selectedNavigationController().dismiss();
     tab->navigationController->popToRoot();
     m_tabs.setSelectedIndex(static_cast<int>(tab - tabs.begin()));
     return true;
@@ -149,6 +173,23 @@ bool PictureTour::addFavourites() {
     return screen;
 }
 
+bool PictureTour::pressAction(ActionSymbol symbol) {
+    TableViewController* screen = table();
+    for (int row = 0; screen && row < screen->table().rowCount(); ++row) {
+        const Row& each = screen->table().rowAt(row);
+        const auto* actions = std::get_if<ActionsRow>(&each.content);
+        if (!actions) {
+            continue;
+        }
+        const auto button = std::ranges::find(actions->buttons, symbol, &ActionButton::symbol);
+        if (button != actions->buttons.end()) {
+            screen->sendRowEvent(each.id, Chosen{static_cast<int>(button - actions->buttons.begin())});
+            return true;
+        }
+    }
+    return false;
+}
+
 bool PictureTour::hasTab(Symbol symbol) const {
     return std::ranges::any_of(m_tabs.tabs(),
                                [symbol](const auto& each) { return each.item.symbol == symbol; });
@@ -179,29 +220,51 @@ bool PictureTour::pressButton(const QString& title) {
     return false;
 }
 
+bool PictureTour::isLeftOut() const {
+    const Stop& stop = kStops[m_stop];
+    return !hasTab(stop.tab) || (stop.where == Stops::WithChanges && !m_plan.mayChange);
+}
+
+void PictureTour::leaveCover() {
+    if (auto* player = covering<PlayerContent>(ContentKind::Player)) {
+        player->leave();
+    } else if (auto* pictures = covering<PicturePagesContent>(ContentKind::PicturePages)) {
+        pictures->leave();
+    }
+}
+
+void PictureTour::closeAlert() {
+    if (const Alert* alert = m_tabs.presentedAlert()) {
+        const auto cancel =
+            std::ranges::find(alert->actions, AlertAction::Style::Cancel, &AlertAction::style);
+        m_tabs.answerAlert(
+            cancel == alert->actions.end() ? 0 : static_cast<std::size_t>(cancel - alert->actions.begin()));
+    }
+}
+
 void PictureTour::open() {
-    if (m_stop == kStops.size()) {
-        m_done(m_complete);
-        return;
+    for (; m_stop < kStops.size(); ++m_stop) {
+        if (isLeftOut()) {
+            continue;
+        }
+        // What covers the screen belongs to the picture before.
+        while (m_tabs.presentedNotice()) {
+            m_tabs.dismissNotice();
+        }
+        closeAlert();
+        leaveCover();
+        const Stop& stop = kStops[m_stop];
+        if (stop.open(*this)) {
+            m_polls = 0;
+            m_timer.start(kPollInterval);
+            return;
+        }
+        if (stop.where != Stops::Perhaps || m_plan.mayChange) {
+            qWarning("The screen for the picture %s did not open", stop.name);
+            m_complete = false;
+        }
     }
-    if (!hasTab(kStops[m_stop].tab) || (kStops[m_stop].changes && !m_mayChange)) {
-        ++m_stop;
-        open();
-        return;
-    }
-    // A notice belongs to the picture before.
-    while (m_tabs.presentedNotice()) {
-        m_tabs.dismissNotice();
-    }
-    if (!kStops[m_stop].open(*this)) {
-        qWarning("The screen for the picture %s did not open", kStops[m_stop].name);
-        m_complete = false;
-        ++m_stop;
-        open();
-        return;
-    }
-    m_polls = 0;
-    m_timer.start(kPollInterval);
+    m_done(m_complete);
 }
 
 void PictureTour::poll() {
@@ -216,9 +279,13 @@ void PictureTour::draw() {
     const QString name = QString::fromLatin1(kStops[m_stop].name);
     for (const auto& [scheme, word] :
          {std::pair(ColorScheme::Light, u"light"_s), std::pair(ColorScheme::Dark, u"dark"_s)}) {
+        if (m_plan.appearance.value_or(scheme) != scheme) {
+            continue;
+        }
         m_window.setColorScheme(scheme);
         m_complete =
-            m_window.savePicture(u"%1/%2-%3-%4.png"_s.arg(m_folder, m_prefix, name, word)) && m_complete;
+            m_window.savePicture(u"%1/%2-%3-%4.png"_s.arg(m_plan.folder, m_plan.prefix, name, word)) &&
+            m_complete;
     }
     ++m_stop;
     open();
@@ -234,11 +301,10 @@ ViewController& PictureTour::top() const {
                                     : stack.topViewController());
 }
 
-PlayerContent* PictureTour::player() const {
+template <class Kind>
+Kind* PictureTour::covering(ContentKind kind) const {
     const std::shared_ptr<ViewController>& cover = m_tabs.cover();
-    return cover && cover->content().kind() == ContentKind::Player
-               ? &static_cast<PlayerContent&>(cover->content())
-               : nullptr;
+    return cover && cover->content().kind() == kind ? &static_cast<Kind&>(cover->content()) : nullptr;
 }
 
 TableViewController* PictureTour::table() const {
@@ -246,8 +312,11 @@ TableViewController* PictureTour::table() const {
 }
 
 bool PictureTour::loaded() const {
-    if (const PlayerContent* shown = player()) {
-        return !shown->state().waiting;
+    if (const auto* player = covering<PlayerContent>(ContentKind::Player)) {
+        return !player->state().waiting;
+    }
+    if (const auto* pictures = covering<PicturePagesContent>(ContentKind::PicturePages)) {
+        return !pictures->picture(pictures->currentPage()).isNull();
     }
     const TableViewController* screen = table();
     if (top().progress() || top().refreshing()) {

@@ -9,18 +9,26 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 
 namespace guide {
 
-class PlayerContent;
-
-/// Opens every screen, one after the other, and saves a picture of each in both colour schemes. Main thread.
+/// Opens every screen, one after the other, and saves pictures of each. Main thread.
 class PictureTour {
   public:
-    /// The folder must exist; file names start with `prefix`. `done` is called once, with whether every
-    /// screen opened and every picture was written.
-    /// Unless it `mayChange` the profile, stops that add or remove something are left out.
-    PictureTour(TabBarController& tabs, GuideWindow& window, QString folder, QString prefix, bool mayChange,
+    struct Plan {
+        /// Must exist.
+        QString folder;
+        /// Of the file names.
+        QString prefix;
+        /// Both colour schemes where unset.
+        std::optional<ColorScheme> appearance;
+        /// Otherwise stops that add or remove something are left out.
+        bool mayChange = false;
+    };
+
+    /// `done` is called once, with whether every screen opened and every picture was written.
+    PictureTour(TabBarController& tabs, GuideWindow& window, Plan plan,
                 std::function<void(bool complete)> done);
 
     /// Waits, for a limited time, until the channels have their shows.
@@ -36,25 +44,29 @@ class PictureTour {
     bool addFavourites();
     bool search(const QString& text);
     bool pressButton(const QString& title);
+    /// Of a show's page.
+    bool pressAction(ActionSymbol symbol);
 
   private:
     bool hasTab(Symbol symbol) const;
+    void leaveCover();
+    void closeAlert();
     void open();
+    bool isLeftOut() const;
     void poll();
     void draw();
     void later(int milliseconds, void (PictureTour::*next)());
     ViewController& top() const;
     /// Null when the screen is not a table.
-    /// Null unless the player covers the window.
-    PlayerContent* player() const;
     TableViewController* table() const;
+    /// Of what covers the window; null when it is of another kind.
+    template <class Kind>
+    Kind* covering(ContentKind kind) const;
     bool loaded() const;
 
     TabBarController& m_tabs;
     GuideWindow& m_window;
-    const QString m_folder;
-    const QString m_prefix;
-    const bool m_mayChange;
+    const Plan m_plan;
     const std::function<void(bool)> m_done;
     QTimer m_timer;
     std::size_t m_stop = 0;

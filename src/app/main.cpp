@@ -63,6 +63,13 @@ QByteArray activationToken() {
     return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
 }
 
+/// Pictures of several forms and sizes of text can share a folder.
+QString picturePrefix(const LaunchOptions& options) {
+    const QString form = options.form == UserInterfaceIdiom::Tablet ? u"tablet"_s : u"phone"_s;
+    const int percent = qRound(options.textScale.value_or(1) * 100);
+    return percent == 100 ? form : form + u'-' + QString::number(percent);
+}
+
 int run(LaunchOptions options, bool drawsWebPages) {
     if (options.screenshots && !preparePictureFolder(*options.screenshots)) {
         return refuse(u"no pictures can be saved in %1"_s.arg(*options.screenshots));
@@ -189,7 +196,8 @@ int run(LaunchOptions options, bool drawsWebPages) {
     const bool launched = delegate.didFinishLaunching([&](TabBarController& tabs) {
         window = std::make_unique<GuideWindow>(tabs, GuideWindowOptions{
                                                          .form = device.userInterfaceIdiom(),
-                                                         .scheme = {},
+                                                         .scheme = options.appearance,
+                                                         .textScale = options.textScale,
                                                          .size = {},
                                                          .motion = !options.screenshots,
                                                          .locale = device.locale(),
@@ -264,9 +272,11 @@ int run(LaunchOptions options, bool drawsWebPages) {
 
     std::optional<PictureTour> tour;
     if (options.screenshots) {
-        const QString prefix =
-            device.userInterfaceIdiom() == UserInterfaceIdiom::Tablet ? u"tablet"_s : u"phone"_s;
-        tour.emplace(delegate.tabBarController(), *window, *options.screenshots, prefix, options.demo,
+        tour.emplace(delegate.tabBarController(), *window,
+                     PictureTour::Plan{.folder = *options.screenshots,
+                                       .prefix = picturePrefix(options),
+                                       .appearance = options.appearance,
+                                       .mayChange = options.demo},
                      [](bool complete) { QCoreApplication::exit(complete ? 0 : 1); });
         tour->start();
     }

@@ -58,6 +58,7 @@ class GuideWindow::Parts : public QQuickView {
             return;
         }
         m_theme->setScheme(m_options.scheme);
+        m_theme->setTextScale(m_options.textScale);
         m_theme->setMoves(m_options.motion);
         m_theme->setLocale(m_options.locale);
         m_shell = std::make_unique<Shell>(m_tabBarController, m_options.form, *m_theme, nullptr);

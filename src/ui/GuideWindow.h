@@ -21,6 +21,8 @@ struct GuideWindowOptions {
     UserInterfaceIdiom form = UserInterfaceIdiom::Phone;
     /// The system's scheme where unset.
     std::optional<ColorScheme> scheme = std::nullopt;
+    /// The system's where unset; 1 for ordinary text.
+    std::optional<double> textScale = std::nullopt;
     /// 390 by 844 for a phone and 1024 by 768 for a tablet where unset.
     std::optional<QSize> size = std::nullopt;
     /// False with reduced motion, and for screenshots.

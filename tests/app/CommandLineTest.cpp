@@ -19,12 +19,14 @@ LaunchOptions accepted(const QStringList& words) {
 }
 
 TEST(CommandLine, AcceptsBothFormsOfAValue) {
-    const auto options =
-        accepted({u"--catalogue=a.plist"_s, u"--hosts"_s, u"/etc/h.json"_s, u"--form"_s, u"tablet"_s,
-                  u"--now"_s, u"2025-12-31T20:30:00+01:00"_s, u"guide://c0ffee"_s});
+    const auto options = accepted({u"--catalogue=a.plist"_s, u"--hosts"_s, u"/etc/h.json"_s, u"--form"_s,
+                                   u"tablet"_s, u"--now"_s, u"2025-12-31T20:30:00+01:00"_s,
+                                   u"--appearance=dark"_s, u"--text-scale"_s, u"150"_s, u"guide://c0ffee"_s});
     EXPECT_EQ(options.catalogue, QDir::current().absoluteFilePath(u"a.plist"_s));
     EXPECT_EQ(options.hosts, u"/etc/h.json"_s);
     EXPECT_EQ(options.form, UserInterfaceIdiom::Tablet);
+    EXPECT_EQ(options.appearance, ColorScheme::Dark);
+    EXPECT_EQ(options.textScale, 1.5);
     EXPECT_EQ(options.now, Moment(std::chrono::seconds(1767209400)));
     EXPECT_EQ(options.url, u"guide://c0ffee"_s);
     EXPECT_TRUE(options.usesSeparateProfile());
@@ -32,7 +34,8 @@ TEST(CommandLine, AcceptsBothFormsOfAValue) {
 
 TEST(CommandLine, OptionsThatTrySomethingImplyATemporaryProfile) {
     EXPECT_FALSE(accepted({}).usesSeparateProfile());
-    EXPECT_FALSE(accepted({u"--form"_s, u"phone"_s, u"--screenshots"_s, u"p"_s}).usesSeparateProfile());
+    EXPECT_FALSE(accepted({u"--form"_s, u"phone"_s, u"--text-scale"_s, u"200"_s, u"--screenshots"_s, u"p"_s})
+                     .usesSeparateProfile());
     EXPECT_TRUE(accepted({u"--demo"_s}).usesSeparateProfile());
 }
 
@@ -43,6 +46,10 @@ TEST(CommandLine, RefusesUnusableArguments) {
         {"value empty", {u"--hosts="_s}},
         {"not a time", {u"--now"_s, u"tonight"_s}},
         {"not a form", {u"--form"_s, u"watch"_s}},
+        {"not an appearance", {u"--appearance"_s, u"sepia"_s}},
+        {"text too small", {u"--text-scale"_s, u"99"_s}},
+        {"text too large", {u"--text-scale"_s, u"201"_s}},
+        {"no number", {u"--text-scale"_s, u"150%"_s}},
         {"two URLs", {u"guide://a"_s, u"guide://b"_s}},
         {"a demo with a catalogue", {u"--demo"_s, u"--catalogue"_s, u"c"_s}},
     };

@@ -8,7 +8,6 @@
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFont>
 #include <QGuiApplication>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -22,8 +21,6 @@ namespace {
 using namespace guide;
 using namespace guide::test;
 
-constexpr int kOrdinaryText = 13;
-constexpr int kLargeText = 27;
 const QLocale kLocale(QLocale::English, QLocale::UnitedKingdom);
 
 /// The tabs of a guide with one screen on the first of them.
@@ -89,16 +86,14 @@ QVariant rowItem(QQuickItem& list, int row) {
     return QVariant::fromValue(item);
 }
 
-QImage drawn(const Specimen& specimen, UserInterfaceIdiom idiom, ColorScheme scheme, int textPixels,
+QImage drawn(const Specimen& specimen, UserInterfaceIdiom idiom, ColorScheme scheme, double textScale,
              const QSize& size) {
-    QFont font = QGuiApplication::font();
-    font.setPixelSize(textPixels);
-    QGuiApplication::setFont(font);
     GalleryPictures pictures;
     const auto screen = std::make_shared<GalleryScreen>(specimen.name, specimen.sections);
     World world(idiom, screen);
     GuideWindow window(world.tabs, {.form = idiom,
                                     .scheme = scheme,
+                                    .textScale = textScale,
                                     .size = size,
                                     .motion = false,
                                     .locale = kLocale,
@@ -125,9 +120,9 @@ bool draw(const Specimen& specimen, UserInterfaceIdiom idiom, const QString& pat
     sheet.fill(QColor(0x80, 0x80, 0x80));
     QPainter painter(&sheet);
     int x = 0;
-    for (const int pixels : {kOrdinaryText, kLargeText}) {
+    for (const double textScale : {1.0, 2.0}) {
         for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
-            const QImage image = drawn(specimen, idiom, scheme, pixels, size);
+            const QImage image = drawn(specimen, idiom, scheme, textScale, size);
             if (image.isNull()) {
                 return false;
             }

@@ -58,6 +58,11 @@ void Theme::setScheme(std::optional<ColorScheme> scheme) {
     followSystem();
 }
 
+void Theme::setTextScale(std::optional<double> scale) {
+    m_forcedTextScale = scale;
+    followSystem();
+}
+
 void Theme::setMoves(bool moves) {
     if (moves != m_moves) {
         m_moves = moves;
@@ -78,7 +83,7 @@ void Theme::followSystem() {
         m_scheme = scheme;
         Q_EMIT colorsChanged();
     }
-    const double scale = systemTextScale();
+    const double scale = m_forcedTextScale ? *m_forcedTextScale : systemTextScale();
     if (scale != m_textScale) {
         m_textScale = scale;
         Q_EMIT fontsChanged();

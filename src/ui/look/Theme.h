@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QQmlEngine>
 
+#include <algorithm>
 #include <optional>
 
 namespace guide {
@@ -46,8 +47,10 @@ class Theme : public QObject {
     Q_PROPERTY(QColor onAlarm READ onAlarm NOTIFY colorsChanged)
     Q_PROPERTY(QColor dim READ dim NOTIFY colorsChanged)
 
-    /// The system's text size over the ordinary one.
+    /// The size of the text over the ordinary one.
     Q_PROPERTY(double textScale READ textScale NOTIFY fontsChanged)
+    /// The size of symbols over the ordinary one. They grow with the text, but less: they are large already.
+    Q_PROPERTY(double symbolScale READ symbolScale NOTIFY fontsChanged)
     Q_PROPERTY(QFont timeFont READ timeFont NOTIFY fontsChanged)
     Q_PROPERTY(QFont endTimeFont READ endTimeFont NOTIFY fontsChanged)
     Q_PROPERTY(QFont titleFont READ titleFont NOTIFY fontsChanged)
@@ -90,6 +93,7 @@ class Theme : public QObject {
     QColor dim() const { return palette().dim; }
 
     double textScale() const { return m_textScale; }
+    double symbolScale() const { return std::min(m_textScale, 1.5); }
     QFont timeFont() const { return font(20, QFont::DemiBold); }
     QFont endTimeFont() const { return font(12, QFont::Normal); }
     QFont titleFont() const { return font(17, QFont::DemiBold); }
@@ -114,6 +118,8 @@ class Theme : public QObject {
     void setLocale(const QLocale& locale) { m_locale = locale; }
     /// The system's scheme where unset.
     void setScheme(std::optional<ColorScheme> scheme);
+    /// The system's text size where unset.
+    void setTextScale(std::optional<double> scale);
     void setMoves(bool moves);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -130,6 +136,7 @@ class Theme : public QObject {
 
     QLocale m_locale;
     std::optional<ColorScheme> m_forcedScheme;
+    std::optional<double> m_forcedTextScale;
     ColorScheme m_scheme = ColorScheme::Light;
     double m_textScale = 1;
     bool m_moves = true;
