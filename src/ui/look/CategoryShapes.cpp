@@ -78,13 +78,23 @@ void compass(QPainterPath& path) {
     line(path, {{16, 8}, {13.6, 13.6}, {8, 16}, {10.4, 10.4}, {16, 8}});
 }
 
-void handcuffs(QPainterPath& path) {
-    circle(path, 7, 14.6, 4.4);
-    circle(path, 17, 14.6, 4.4);
-    line(path, {{7, 10.2}, {7, 8.2}});
-    line(path, {{17, 10.2}, {17, 8.2}});
-    path.addEllipse(QPointF(9.6, 6.2), 2.9, 1.9);
-    path.addEllipse(QPointF(14.4, 6.2), 2.9, 1.9);
+/// A ridge of a fingerprint: half a circle whose ends go on downwards.
+void ridge(QPainterPath& path, double radius, double leftEnd, double rightEnd) {
+    constexpr double kMiddle = 12;
+    path.moveTo(kMiddle - radius - 0.8, leftEnd);
+    path.quadTo(kMiddle - radius, (leftEnd + kMiddle) / 2, kMiddle - radius, kMiddle);
+    path.arcTo(QRectF(kMiddle - radius, kMiddle - radius, 2 * radius, 2 * radius), 180, -180);
+    path.quadTo(kMiddle + radius, (rightEnd + kMiddle) / 2, kMiddle + radius - 0.6, rightEnd);
+}
+
+void fingerprint(QPainterPath& path) {
+    path.moveTo(12, 11.6);
+    path.quadTo(12.1, 17, 10.6, 21);
+    ridge(path, 3.2, 19, 21.4);
+    ridge(path, 6.4, 16.8, 19.4);
+    // The outermost ridge is broken.
+    arc(path, 9.6, 190, -62);
+    arc(path, 9.6, 98, -114);
 }
 
 void hat(QPainterPath& path) {
@@ -170,7 +180,7 @@ constexpr SymbolShape kShapes[]{
     {int(Symbol::News), newspaper},        {int(Symbol::Entertainment), star},
     {int(Symbol::Music), notes},           {int(Symbol::Sports), basketball},
     {int(Symbol::Comedies), smile},        {int(Symbol::Adventure), compass},
-    {int(Symbol::Crime), handcuffs},       {int(Symbol::Westerns), hat},
+    {int(Symbol::Crime), fingerprint},     {int(Symbol::Westerns), hat},
     {int(Symbol::Dramas), mask},           {int(Symbol::Thrillers), eye},
     {int(Symbol::ScienceFiction), planet}, {int(Symbol::Fantasy), wand},
     {int(Symbol::Horrors), ghost},

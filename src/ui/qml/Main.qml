@@ -171,6 +171,7 @@ FocusScope {
         y: pages.y + pages.height - height
         width: pages.width
         shell: main.shell
+        onKeyboardLeft: content.forceActiveFocus()
     }
 
     KeysPanel {

@@ -53,8 +53,8 @@ T.AbstractButton {
 
         Glyph {
             anchors.centerIn: parent
-            width: 24
-            height: 24
+            width: Math.round(24 * Math.min(Theme.symbolScale, 4 / 3))
+            height: width
             visible: !button.titled && !button.busy
             symbol: button.kind === Kit.BarButtonKind.Play ? Glyph.Play
                     : button.kind === Kit.BarButtonKind.Info ? Glyph.Info

@@ -40,8 +40,8 @@ T.AbstractButton {
     contentItem: Item {
         Glyph {
             anchors.centerIn: parent
-            width: 24
-            height: 24
+            width: Math.round(24 * Math.min(Theme.symbolScale, 4 / 3))
+            height: width
             symbol: button.symbol
             color: button.color
         }

@@ -16,15 +16,18 @@ Item {
     // The keyboard moves from the search field into the rows.
     signal searchLeft()
 
-    // With large text the title gets a line to itself where the buttons leave it too little room.
+    // Where the buttons do not fit beside each other, as with large text, those at the right go below the others.
+    readonly property bool folded: leftButtons.width > 0 && leftButtons.width + rightButtons.width + 16 > width
+    // The title gets a line to itself where the buttons leave it too little room.
     readonly property double between: width - titleLeft - 8 - rightButtons.width - 4
     readonly property double margin: width >= 600 ? 24 : 16
     readonly property double titleLeft: leftButtons.width > 0 ? leftButtons.width + 8 : margin
     readonly property bool titleBelow: title.implicitWidth > between
                                        && (between < width * 0.6 || Theme.textScale >= 1.5)
-    readonly property double rowHeight: Math.max(60, titleBelow ? 0 : title.implicitHeight + 24)
+    readonly property double lineHeight: Math.max(60, titleBelow ? 0 : title.contentHeight + 24)
+    readonly property double rowHeight: lineHeight + (folded ? 48 : 0)
 
-    implicitHeight: rowHeight + (titleBelow ? title.height + 8 : 0) + (search.active ? search.height + 8 : 0)
+    implicitHeight: rowHeight + (titleBelow ? title.contentHeight + 8 : 0) + (search.active ? search.height + 8 : 0)
     z: 1
 
     // The item of a bar button, in its place; null when there is none.
@@ -55,7 +58,7 @@ Item {
         id: leftButtons
 
         x: 4
-        y: (bar.rowHeight - height) / 2
+        y: (bar.lineHeight - height) / 2
         width: implicitWidth
 
         IconButton {
@@ -86,7 +89,7 @@ Item {
         id: title
 
         x: bar.titleBelow ? bar.margin : bar.titleLeft
-        y: bar.titleBelow ? bar.rowHeight - 4 : (bar.rowHeight - height) / 2
+        y: bar.titleBelow ? bar.rowHeight - 4 : (bar.rowHeight - contentHeight) / 2
         width: bar.titleBelow ? parent.width - 2 * bar.margin : bar.between
         text: bar.page.title
         textFormat: Text.PlainText
@@ -94,6 +97,8 @@ Item {
         font: Theme.barTitleFont
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 22
+        wrapMode: Text.Wrap
+        maximumLineCount: 5
         elide: Text.ElideRight
 
         Accessible.role: Accessible.Heading
@@ -105,7 +110,7 @@ Item {
 
         layoutDirection: Qt.RightToLeft
         x: parent.width - width - 4
-        y: (bar.rowHeight - height) / 2
+        y: (bar.lineHeight - height) / 2 + bar.rowHeight - bar.lineHeight
         width: implicitWidth
 
         IconButton {

@@ -9,7 +9,7 @@ T.TextField {
     required property Page page
 
     implicitHeight: Math.max(44, contentHeight + 20)
-    leftPadding: 44
+    leftPadding: sign.x + sign.width + 12
     rightPadding: 44
     color: Theme.label
     font: Theme.bodyFont
@@ -62,22 +62,26 @@ T.TextField {
 
     Text {
         x: field.leftPadding
-        width: parent.width - field.leftPadding - field.rightPadding
+        width: parent.width - field.leftPadding - 12
         height: parent.height
         visible: field.text === "" && field.preeditText === ""
         text: field.page.searchPlaceholder
         textFormat: Text.PlainText
         color: Theme.secondaryLabel
         font: Theme.bodyFont
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 13
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
     }
 
     Glyph {
+        id: sign
+
         x: 12
         anchors.verticalCenter: parent.verticalCenter
-        width: 20
-        height: 20
+        width: Math.round(20 * Theme.symbolScale)
+        height: width
         symbol: Glyph.Search
         color: Theme.secondaryLabel
     }

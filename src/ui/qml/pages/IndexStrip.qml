@@ -38,7 +38,8 @@ Item {
                 color: Theme.tint
                 font.family: Theme.detailsFont.family
                 font.weight: Font.DemiBold
-                font.pixelSize: Math.max(8, Math.min(12 * Theme.textScale, strip.markHeight - 2))
+                // A line is about a third higher than its font.
+                font.pixelSize: Math.max(8, Math.min(12 * Theme.textScale, Math.floor(strip.markHeight * 0.72)))
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
 

@@ -87,7 +87,11 @@ ContentPage {
     }
 
     Text {
-        anchors.centerIn: dots
+        anchors {
+            horizontalCenter: parent.horizontalCenter
+            bottom: parent.bottom
+            bottomMargin: 16
+        }
         visible: screen.pictures.count > 12
         text: qsTranslate("Guide", "%1 of %2").arg(screen.pictures.currentPage + 1).arg(screen.pictures.count)
         textFormat: Text.PlainText

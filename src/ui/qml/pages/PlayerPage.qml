@@ -164,7 +164,7 @@ ContentPage {
                     color: "white"
                     font: Theme.titleFont
                     wrapMode: Text.Wrap
-                    maximumLineCount: 2
+                    maximumLineCount: Theme.textScale > 1.5 ? 4 : 2
                     elide: Text.ElideRight
 
                     Accessible.role: Accessible.Heading

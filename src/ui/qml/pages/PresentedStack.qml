@@ -141,6 +141,7 @@ T.Popup {
             active: panel.shell !== null
             sourceComponent: NoticeBar {
                 shell: panel.shell
+                onKeyboardLeft: pages.forceActiveFocus()
             }
         }
     }

@@ -7,8 +7,20 @@ Item {
 
     required property Shell shell
 
+    // The notice goes while its button has the keyboard.
+    signal keyboardLeft()
+
     implicitHeight: surface.height + 32
     visible: shell.noticeShown || slide.running
+
+    Connections {
+        target: notice.shell
+
+        function onNoticeUpdated() {
+            if (!notice.shell.noticeShown && action.activeFocus)
+                notice.keyboardLeft()
+        }
+    }
 
     Rectangle {
         id: surface

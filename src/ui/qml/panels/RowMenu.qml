@@ -58,6 +58,7 @@ FloatingPanel {
         highlightMoveDuration: 0
 
         Accessible.role: Accessible.PopupMenu
+        Accessible.name: menu.row !== null ? menu.row.row.accessibleName : ""
 
         Keys.onReturnPressed: menu.choose(currentIndex)
         Keys.onEnterPressed: menu.choose(currentIndex)

@@ -9,13 +9,13 @@ Item {
 
     signal tapped()
 
-    implicitWidth: kind === Kit.Accessory.None ? 0 : kind === Kit.Accessory.Play ? 44 : 24
+    implicitWidth: kind === Kit.Accessory.None ? 0 : kind === Kit.Accessory.Play ? 44 : Math.round(24 * Theme.symbolScale)
     implicitHeight: 44
 
     Glyph {
         anchors.centerIn: parent
-        width: 18
-        height: 18
+        width: Math.round(18 * Theme.symbolScale)
+        height: width
         visible: edge.kind === Kit.Accessory.Disclosure
         symbol: Glyph.Disclosure
         color: Theme.secondaryLabel

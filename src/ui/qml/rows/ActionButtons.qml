@@ -8,12 +8,16 @@ Flow {
     // ActionButton values.
     required property var actions
     readonly property double cellWidth: Math.round(Math.max(72, 64 * Theme.textScale))
+    readonly property double circleSide: Math.round(48 * Theme.symbolScale)
+
+    // The button that gets the keyboard back.
+    property int returning: -1
 
     signal chosen(int action)
     signal ended()
 
     function focusAt(index) {
-        const button = buttons.itemAt(Math.max(0, Math.min(buttons.count - 1, index)))
+        const button = buttons.itemAt(Math.max(0, Math.min(actions.length - 1, index)))
         if (button)
             button.forceActiveFocus(Qt.TabFocusReason)
     }
@@ -26,6 +30,17 @@ Flow {
         id: buttons
 
         model: flow.actions.length
+        // The buttons are made anew when their number changes.
+        onItemRemoved: (index, item) => {
+            if (item.activeFocus)
+                flow.returning = index
+        }
+        onItemAdded: (index, item) => {
+            if (index === flow.returning) {
+                flow.returning = -1
+                item.forceActiveFocus(Qt.TabFocusReason)
+            }
+        }
 
         // Not a control of the toolkit, which would take as long to make as a whole row.
         Item {
@@ -69,19 +84,19 @@ Flow {
 
                 x: (parent.width - width) / 2
                 y: 4
-                width: 48
-                height: 48
-                radius: 24
+                width: flow.circleSide
+                height: width
+                radius: width / 2
                 opacity: button.enabled ? 1 : 0.5
                 color: tap.pressed ? Theme.pressed : Theme.tintedFill
                 border.width: button.visualFocus ? 2 : 0
                 border.color: Theme.tint
 
                 Glyph {
-                    x: 12
-                    y: 12
-                    width: 24
-                    height: 24
+                    x: width / 2
+                    y: x
+                    width: flow.circleSide / 2
+                    height: width
                     symbol: button.value !== null ? button.value.glyph : Glyph.Play
                     color: button.on ? Theme.favourite : Theme.tint
                 }

@@ -46,7 +46,7 @@ TableRow {
             color: cell.heading ? Theme.tint : Theme.label
             font: cell.heading ? Theme.channelTitleFont : Theme.titleFont
             elide: Text.ElideRight
-            maximumLineCount: Theme.textScale > 1.5 ? 4 : 2
+            maximumLineCount: Theme.textScale > 1.5 ? 8 : 2
             wrapMode: Text.Wrap
         }
 

@@ -2,8 +2,8 @@ import QtQuick
 import Quellin
 
 Glyph {
-    width: 24
-    height: 24
+    width: Math.round(24 * Theme.symbolScale)
+    height: width
     symbol: Glyph.Check
     color: Theme.tint
 }

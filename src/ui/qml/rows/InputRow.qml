@@ -100,6 +100,8 @@ TableRow {
                 textFormat: Text.PlainText
                 color: Theme.secondaryLabel
                 font: Theme.bodyFont
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 13
                 verticalAlignment: Text.AlignVCenter
                 elide: Text.ElideRight
             }

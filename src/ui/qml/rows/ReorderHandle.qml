@@ -20,8 +20,8 @@ Item {
 
     Glyph {
         anchors.centerIn: parent
-        width: 24
-        height: 24
+        width: Math.round(24 * Theme.symbolScale)
+        height: width
         symbol: Glyph.Reorder
         color: Theme.secondaryLabel
     }

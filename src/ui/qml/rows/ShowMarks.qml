@@ -4,6 +4,7 @@ import Quellin
 // What the colours of a show say, as symbols.
 Item {
     id: marks
+    objectName: "marks"
 
     property bool popular: false
     property bool favourite: false

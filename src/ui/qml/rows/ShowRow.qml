@@ -10,10 +10,14 @@ TableRow {
     readonly property bool hasPicture: row.picture.toString() !== ""
     // The name is drawn where the channel has no icon.
     readonly property bool hasName: !hasIcon && row.channelName !== ""
-    readonly property double textStart: sideMargin + (hasIcon || hasName ? 62 : 0)
+    readonly property double iconEnd: sideMargin + (hasIcon || hasName ? 62 : 0)
     readonly property double textRight: surfaceWidth - edge.width - (hasPicture ? 76 : 0) - sideMargin
-    // Where the times would leave the title too little room, as with large text, they go above it.
-    readonly property bool stacked: textRight - textStart - timeColumn - 12 < 150 * Theme.textScale
+    // Where the times would leave the title too little room, as with large text, they go above it, and the name above
+    // them.
+    readonly property bool stacked: textRight - iconEnd - timeColumn - 12 < 150 * Theme.textScale
+    readonly property bool nameAbove: hasName && stacked
+    readonly property double textStart: nameAbove ? sideMargin : iconEnd
+    readonly property double textTop: nameAbove ? nameLoader.y + nameLoader.height : 10
     readonly property double textLeft: textStart + (stacked || timeColumn === 0 ? 0 : timeColumn + 12)
 
     contentHeight: Math.max(56, cell.row.day === "" ? 0 : day.y + day.height + 10, hasName ? nameLoader.y + nameLoader.height + 10 : 0, progress.y + progress.height + 10, hasPicture ? 60 : 0)
@@ -37,7 +41,7 @@ TableRow {
         y: 10
         active: cell.hasName
         sourceComponent: Text {
-            width: 50
+            width: cell.nameAbove ? cell.surfaceWidth - 2 * cell.sideMargin : 50
             text: cell.row.channelName
             textFormat: Text.PlainText
             color: Theme.secondaryLabel
@@ -52,7 +56,7 @@ TableRow {
         id: start
 
         x: cell.textStart
-        y: cell.stacked ? 10 : title.y + title.baselineOffset - baselineOffset
+        y: cell.stacked ? cell.textTop : title.y + title.baselineOffset - baselineOffset
         text: cell.row.startTime
         textFormat: Text.PlainText
         color: Theme.roles[cell.row.timeColor]
@@ -88,14 +92,14 @@ TableRow {
         id: title
 
         x: cell.textLeft
-        y: cell.stacked && cell.row.startTime !== "" ? 10 + start.height : 12
+        y: cell.stacked && cell.row.startTime !== "" ? cell.textTop + start.height : cell.textTop + 2
         width: cell.textRight - x - (marks.width > 0 ? marks.width + 6 : 0)
         text: cell.row.titleMarked ? cell.row.markedTitle(Theme.tint) : cell.row.title
         textFormat: cell.row.titleMarked ? Text.StyledText : Text.PlainText
         color: Theme.label
         font: Theme.titleFont
         wrapMode: Text.Wrap
-        maximumLineCount: 4
+        maximumLineCount: Theme.textScale > 1.5 ? 8 : 4
         elide: Text.ElideRight
     }
 

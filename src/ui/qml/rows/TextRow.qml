@@ -25,10 +25,12 @@ TableRow {
     }
 
     Glyph {
+        id: sign
+
         x: cell.sideMargin
         y: (parent.height - height) / 2
-        width: 24
-        height: 24
+        width: Math.round(24 * Theme.symbolScale)
+        height: width
         visible: cell.hasSymbol
         symbol: cell.hasSymbol ? cell.row.symbol : Glyph.Recent
         color: Theme.secondaryLabel
@@ -39,7 +41,7 @@ TableRow {
 
         readonly property double edgeStart: (check.visible ? check.x : edge.x) - 4
 
-        x: cell.hasSymbol ? cell.sideMargin + 36
+        x: cell.hasSymbol ? sign.x + sign.width + 12
            : cell.tiled || !cell.hasIcon ? cell.sideMargin : icon.x + icon.width + 12
         y: cell.tiled ? parent.height - height - 12 : (parent.height - height) / 2
         width: (detailText.visible ? detailText.x - 12 : edgeStart) - x
@@ -85,6 +87,8 @@ TableRow {
             textFormat: Text.PlainText
             color: Theme.secondaryLabel
             font: Theme.detailsFont
+            wrapMode: Text.Wrap
+            maximumLineCount: cell.tiled ? 1 : 4
             elide: Text.ElideRight
         }
     }

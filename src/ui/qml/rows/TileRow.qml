@@ -11,7 +11,7 @@ TableRow {
 
     surfaceColor: tiled ? (dark, Theme.tileFill(row.hue)) : Theme.background
     accessibleRole: Accessible.Button
-    contentHeight: Math.max(56, texts.height + 24)
+    contentHeight: Math.max(disc.height + 16, texts.height + 24)
     separatorInset: tiled ? -1 : texts.x
 
     Rectangle {
@@ -19,15 +19,15 @@ TableRow {
 
         x: cell.edge
         y: cell.tiled ? 12 : (parent.height - height) / 2
-        width: 40
-        height: 40
-        radius: 20
+        width: Math.round(40 * Theme.symbolScale)
+        height: width
+        radius: width / 2
         color: cell.tiled ? "transparent" : (cell.dark, Theme.tileFill(cell.row.hue))
 
         Glyph {
-            x: cell.tiled ? 0 : 8
-            y: cell.tiled ? 0 : 8
-            width: cell.tiled ? 32 : 24
+            x: cell.tiled ? 0 : (parent.width - width) / 2
+            y: x
+            width: Math.round((cell.tiled ? 32 : 24) * Theme.symbolScale)
             height: width
             symbol: cell.row.symbol
             color: cell.symbolColor
@@ -52,7 +52,7 @@ TableRow {
             color: cell.row.enabled ? Theme.label : Theme.secondaryLabel
             font: Theme.buttonFont
             wrapMode: Text.Wrap
-            maximumLineCount: 2
+            maximumLineCount: cell.tiled ? 2 : 4
             elide: Text.ElideRight
         }
 
@@ -68,6 +68,8 @@ TableRow {
             textFormat: Text.PlainText
             color: Theme.secondaryLabel
             font: Theme.detailsFont
+            wrapMode: Text.Wrap
+            maximumLineCount: cell.tiled ? 1 : 3
             elide: Text.ElideRight
         }
     }

@@ -10,7 +10,14 @@ TableRow {
     property bool available: true
     property int symbol: Glyph.Unfold
 
-    readonly property bool valueBelow: caption.implicitWidth + valueText.implicitWidth + 60 > surfaceWidth - 2 * sideMargin
+    // Measured apart from the texts, whose implicit widths depend on whether they are wrapped.
+    readonly property bool valueBelow: metrics.advanceWidth(title) + metrics.advanceWidth(value) + 64 > surfaceWidth - 2 * sideMargin
+
+    FontMetrics {
+        id: metrics
+
+        font: Theme.bodyFont
+    }
 
     activatable: available
     contentHeight: Math.max(52, (valueBelow ? caption.implicitHeight + 2 : 0) + valueText.implicitHeight + 24)
@@ -54,8 +61,8 @@ TableRow {
 
         x: parent.width - width - cell.sideMargin + 2
         anchors.verticalCenter: parent.verticalCenter
-        width: 18
-        height: 18
+        width: Math.round(18 * Theme.symbolScale)
+        height: width
         symbol: cell.symbol
         color: Theme.secondaryLabel
         opacity: cell.available ? 1 : 0.5
