@@ -47,7 +47,7 @@ RootViewController::RootViewController(std::shared_ptr<const ScreenEnvironment> 
 
 void RootViewController::viewDidLoad() {
     setTitle(Localized::tr("Currently"));
-    setRightBarButtons({{BarButton::Kind::List, title(), [this] { list(); }}});
+    setRightBarButtons({{BarButton::Kind::List, Localized::tr("Channels"), [this] { list(); }}});
 }
 
 void RootViewController::viewWillAppear() {

@@ -37,8 +37,8 @@ void ReadingOrder::restack() {
     std::vector<std::pair<int, QQuickItem*>> rows;
     for (QQuickItem* item : content->childItems()) {
         const QVariant index = item->property("index");
-        // Pooled rows are invisible.
-        if (index.isValid() && item->isVisible()) {
+        // Those of a hidden list too: nothing tells when it is shown again.
+        if (index.isValid()) {
             rows.emplace_back(index.toInt(), item);
         }
     }
