@@ -83,10 +83,17 @@ struct WorldApp final : ScreenSettings,
     }
     void removeAlarmForTitle(const QString& title, bool, bool) override { done << u"no alarms "_s + title; }
     int lastAlarmMinutes() const override { return 0; }
-    void addFavorite(const QString& title) override { done << u"add "_s + title; }
-    void removeFavorites(const QStringList& titles) override { done << u"remove "_s + titles.join(u", "_s); }
+    void addFavorite(const QString& title) override {
+        done << u"add "_s + title;
+        favoritesChanged({title}, {});
+    }
+    void removeFavorites(const QStringList& titles) override {
+        done << u"remove "_s + titles.join(u", "_s);
+        favoritesChanged({}, titles);
+    }
     void restoreFavorites(const FavoritesSnapshot&, const QStringList& titles) override {
         done << u"restore "_s + titles.join(u", "_s);
+        favoritesChanged(titles, {});
     }
     bool imagesEnabled() const override { return images; }
     bool colorizedShows() const override { return colorized; }
@@ -94,6 +101,9 @@ struct WorldApp final : ScreenSettings,
 
     /// The calls, in order.
     QStringList done;
+    /// Applies a change that the user has made.
+    std::function<void(const QStringList& added, const QStringList& removed)> favoritesChanged =
+        [](const QStringList&, const QStringList&) {};
     /// The actions of a show row.
     std::function<std::vector<RowAction>(const TVEntry&)> swipeActions = [](const TVEntry&) {
         return std::vector<RowAction>();

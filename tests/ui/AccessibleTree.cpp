@@ -18,8 +18,10 @@ void collect(QAccessibleInterface* item, QList<AccessibleItem>& items) {
     if (!item || !item->isValid() || item->state().invisible) {
         return;
     }
-    if (!isDecoration(item->role())) {
-        items.append({item->role(), item->text(QAccessible::Name), bool(item->state().focusable)});
+    // Qt says nothing about a field for a password, not even its name; the row around it has one.
+    const bool isSilent = isDecoration(item->role()) || item->state().passwordEdit;
+    if (const QString name = item->text(QAccessible::Name); !name.isEmpty() || !isSilent) {
+        items.append({item->role(), name, bool(item->state().focusable)});
     }
     for (int child = 0; child < item->childCount(); ++child) {
         collect(item->child(child), items);

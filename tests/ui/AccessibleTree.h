@@ -13,7 +13,8 @@ struct AccessibleItem {
     bool focusable = false;
 };
 
-/// The visible items of a window in the order in which they are read, without groups and decoration.
+/// The visible items of a window in the order in which they are read, without groups and decoration that have
+/// no name.
 QList<AccessibleItem> accessibleItems(QWindow& window);
 
 /// Names of roles of items that a user acts on or reads and that have no name, with the item read before

@@ -14,80 +14,151 @@ namespace {
 /// For fractions of a pixel.
 constexpr double kTolerance = 1.5;
 
-struct DrawnText {
-    QString text;
-    QRectF rect;
-    bool cut = false;
-    bool tooLarge = false;
+/// Where the glyphs are, in the scene.
+QRectF drawnRect(const QQuickItem& text) {
+    const double width = text.property("contentWidth").toDouble();
+    const double height = text.property("contentHeight").toDouble();
+    const int across = text.property("effectiveHorizontalAlignment").toInt();
+    const int down = text.property("verticalAlignment").toInt();
+    const double x = across & Qt::AlignRight     ? text.width() - width
+                     : across & Qt::AlignHCenter ? (text.width() - width) / 2
+                                                 : 0;
+    const double y = down & Qt::AlignBottom    ? text.height() - height
+                     : down & Qt::AlignVCenter ? (text.height() - height) / 2
+                                               : 0;
+    return text.mapRectToScene(QRectF(x, y, width, height));
+}
+
+bool has(const QQuickItem& item, const char* property) {
+    return item.metaObject()->indexOfProperty(property) >= 0;
+}
+
+QRectF sceneRect(const QQuickItem& item) {
+    return item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
+}
+
+bool isWithin(const QRectF& inner, const QRectF& outer) {
+    return outer.adjusted(-kTolerance, -kTolerance, kTolerance, kTolerance).contains(inner);
+}
+
+/// What surrounds an item.
+struct Surroundings {
+    const QQuickItem* row = nullptr;
+    /// The row's body or the button.
+    const QQuickItem* frame = nullptr;
+    /// Whether what is below the window's edge can be scrolled to.
+    bool scrolls = false;
 };
 
-/// Where the glyphs are, in the scene.
-DrawnText drawn(const QQuickItem& item) {
-    const QString text = item.property("text").toString().left(60);
-    const double width = item.property("contentWidth").toDouble();
-    const double height = item.property("contentHeight").toDouble();
-    const int across = item.property("effectiveHorizontalAlignment").toInt();
-    const int down = item.property("verticalAlignment").toInt();
-    const double x = across & Qt::AlignRight     ? item.width() - width
-                     : across & Qt::AlignHCenter ? (item.width() - width) / 2
-                                                 : 0;
-    const double y = down & Qt::AlignBottom    ? item.height() - height
-                     : down & Qt::AlignVCenter ? (item.height() - height) / 2
-                                               : 0;
-    return {text, item.mapRectToScene(QRectF(x, y, width, height)),
-            item.property("truncated").toBool() && item.objectName() != "excerpt"_L1,
-            width > item.width() + kTolerance || height > item.height() + kTolerance};
-}
+class Search {
+  public:
+    explicit Search(const QQuickItem& root)
+        : m_window(sceneRect(root)) {
+        visit(root, {});
+        for (const Texts& texts : std::as_const(m_rows)) {
+            findOverlaps(texts);
+        }
+        m_found.sort();
+    }
+    const QStringList& found() const { return m_found; }
 
-/// Texts by the row that they are part of; by null those of the bars and panels.
-using TextsByRow = QHash<const QQuickItem*, QList<DrawnText>>;
+  private:
+    struct Drawn {
+        QString text;
+        QRectF rect;
+    };
+    struct Texts {
+        QList<Drawn> texts;
+        QList<QRectF> symbols;
+    };
 
-void collect(const QQuickItem& item, const QQuickItem* row, TextsByRow& texts) {
-    if (!item.isVisible() || item.opacity() == 0 || item.width() <= 0 || item.height() <= 0) {
-        return;
+    void visit(const QQuickItem& item, Surroundings around) {
+        if (!item.isVisible() || item.width() <= 0 || item.height() <= 0 || item.objectName() == "marks"_L1) {
+            return;
+        }
+        // A row that is swiped aside.
+        if (has(item, "selectable") && item.x() < 0) {
+            return;
+        }
+        if (item.inherits("QQuickImage") && around.row && !item.property("source").toUrl().isEmpty()) {
+            m_rows[around.row].symbols << sceneRect(item);
+        }
+        if (item.opacity() == 0) {
+            return;
+        }
+        if (has(item, "contentY") || has(item, "pathItemCount")) {
+            around.scrolls = true;
+            around.frame = nullptr;
+        }
+        // A row, or a screen's bar.
+        if (has(item, "bodyTop") || has(item, "titleBelow")) {
+            around.row = &item;
+        }
+        const bool isBody = around.row && around.row->property("body").value<QQuickItem*>() == &item;
+        if (isBody || has(item, "visualFocus")) {
+            around.frame = &item;
+        }
+        if (item.inherits("guide::Glyph") && around.row) {
+            m_rows[around.row].symbols << sceneRect(item);
+        }
+        if (item.inherits("QQuickText") && !item.property("text").toString().trimmed().isEmpty()) {
+            look(item, around);
+        }
+        for (const QQuickItem* child : item.childItems()) {
+            visit(*child, around);
+        }
     }
-    if (item.metaObject()->indexOfProperty("bodyTop") >= 0) {
-        row = &item;
+
+    void look(const QQuickItem& item, const Surroundings& around) {
+        const QString text = item.property("text").toString().left(60);
+        const QRectF rect = drawnRect(item);
+        if (item.property("truncated").toBool() && item.objectName() != "excerpt"_L1) {
+            m_found << u"cut: "_s + text;
+        }
+        if (!isWithin(rect, sceneRect(item))) {
+            m_found << u"larger than its place: "_s + text;
+        }
+        if (rect.left() < m_window.left() - kTolerance || rect.right() > m_window.right() + kTolerance ||
+            (!around.scrolls && !isWithin(rect, m_window))) {
+            m_found << u"outside the window: "_s + text;
+        }
+        if (around.frame && !isWithin(rect, sceneRect(*around.frame))) {
+            m_found << u"outside its row or button: "_s + text;
+        }
+        // Panels cover what is below them.
+        if (around.row) {
+            m_rows[around.row].texts << Drawn{text, rect};
+        }
     }
-    if (item.inherits("QQuickText") && !item.property("text").toString().trimmed().isEmpty()) {
-        texts[row].append(drawn(item));
+
+    void findOverlaps(const Texts& row) {
+        const auto overlap = [](const QRectF& one, const QRectF& other) {
+            const QRectF common = one & other;
+            return common.width() > kTolerance && common.height() > kTolerance;
+        };
+        for (auto text = row.texts.cbegin(); text != row.texts.cend(); ++text) {
+            const auto over = std::find_if(text + 1, row.texts.cend(), [&](const Drawn& other) {
+                return overlap(text->rect, other.rect);
+            });
+            if (over != row.texts.cend()) {
+                m_found << u"over each other: "_s + text->text + u" / "_s + over->text;
+            }
+            if (std::ranges::any_of(row.symbols,
+                                    [&](const QRectF& symbol) { return overlap(text->rect, symbol); })) {
+                m_found << u"over a symbol: "_s + text->text;
+            }
+        }
     }
-    for (const QQuickItem* child : item.childItems()) {
-        collect(*child, row, texts);
-    }
-}
+
+    const QRectF m_window;
+    QHash<const QQuickItem*, Texts> m_rows;
+    QStringList m_found;
+};
 
 } // namespace
 
 QStringList misfits(const QQuickItem& root) {
-    TextsByRow rows;
-    collect(root, nullptr, rows);
-    QStringList found;
-    for (auto row = rows.cbegin(); row != rows.cend(); ++row) {
-        for (auto text = row->cbegin(); text != row->cend(); ++text) {
-            if (text->cut) {
-                found << u"cut: "_s + text->text;
-            }
-            if (text->tooLarge) {
-                found << u"larger than its place: "_s + text->text;
-            }
-            if (text->rect.left() < -kTolerance || text->rect.right() > root.width() + kTolerance) {
-                found << u"beyond the window: "_s + text->text;
-            }
-            if (!row.key()) {
-                continue; // Panels cover bars.
-            }
-            const auto over = std::find_if(text + 1, row->cend(), [&text](const DrawnText& other) {
-                const QRectF common = text->rect & other.rect;
-                return common.width() > kTolerance && common.height() > kTolerance;
-            });
-            if (over != row->cend()) {
-                found << u"over each other: "_s + text->text + u" / "_s + over->text;
-            }
-        }
-    }
-    found.sort();
-    return found;
+    return Search(root).found();
 }
 
 } // namespace guide::test
