@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QImage>
 #include <QInputEvent>
 #include <QLibraryInfo>
@@ -64,7 +65,7 @@ class GuideWindow::Parts : public QQuickView {
         m_shell = std::make_unique<Shell>(m_tabBarController, m_options.form, *m_theme, nullptr);
 
         m_frameLog.emplace(*this, [this] { return isFilled(m_tabBarController); });
-        setTitle(QCoreApplication::applicationName());
+        setTitle(QGuiApplication::applicationDisplayName());
         setResizeMode(QQuickView::SizeRootObjectToView);
         setMinimumSize(kSmallestSize);
         resize(

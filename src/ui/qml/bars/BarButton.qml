@@ -18,8 +18,8 @@ T.AbstractButton {
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
-    Accessible.role: busy ? Accessible.Animation : Accessible.Button
     Accessible.name: text
+    Accessible.onPressAction: clicked()
 
     background: Rectangle {
         radius: height / 2

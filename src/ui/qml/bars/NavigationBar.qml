@@ -66,6 +66,8 @@ Item {
             symbol: Glyph.Back
             text: bar.page.backTitle !== "" ? bar.page.backTitle : qsTranslate("Guide", "Back")
             onClicked: bar.page.goBack()
+
+            Accessible.name: bar.page.backTitle !== "" ? qsTranslate("Guide", "Back") + ", " + bar.page.backTitle : text
         }
 
         Repeater {

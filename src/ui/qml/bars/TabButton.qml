@@ -2,8 +2,9 @@ import QtQuick
 import QtQuick.Templates as T
 import Quellin
 
-// One tab: a symbol above its title, with a badge.
-T.AbstractButton {
+// One tab: a symbol above its title, with a badge. Screen readers get the role of the control's type: Accessible.role has no
+// effect on a control.
+T.TabButton {
     id: button
 
     required property int symbol
@@ -21,7 +22,7 @@ T.AbstractButton {
     bottomPadding: 8
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
 
-    Accessible.role: Accessible.PageTab
+    Accessible.onPressAction: clicked()
     Accessible.name: badge === "" ? text : text + ", " + badge
     Accessible.selected: current
 

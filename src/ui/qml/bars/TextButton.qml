@@ -16,8 +16,8 @@ T.AbstractButton {
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
-    Accessible.role: Accessible.Button
     Accessible.name: text
+    Accessible.onPressAction: clicked()
 
     background: Rectangle {
         radius: button.primary ? 12 : height / 2

@@ -12,7 +12,6 @@ T.Slider {
     stepSize: 0.05
     snapMode: T.Slider.NoSnap
 
-    Accessible.role: Accessible.Slider
     Accessible.name: qsTranslate("Guide", "Volume")
 
     background: Rectangle {

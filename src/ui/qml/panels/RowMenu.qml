@@ -4,7 +4,7 @@ import Quellin
 
 // A menu over a list: the actions on a row, or the choices of one.
 FloatingPanel {
-    id: menu
+    id: panel
 
     property TableRow row: null
     property bool choosing: false
@@ -26,8 +26,8 @@ FloatingPanel {
 
     function openAt(x, y) {
         const at = row.mapToItem(parent, x, y)
-        menu.x = Math.max(8, Math.min(parent.width - width - 8, at.x))
-        menu.y = Math.max(8, Math.min(parent.height - height - 8, at.y))
+        panel.x = Math.max(8, Math.min(parent.width - width - 8, at.x))
+        panel.y = Math.max(8, Math.min(parent.height - height - 8, at.y))
         open()
     }
 
@@ -51,36 +51,36 @@ FloatingPanel {
     contentItem: ListView {
         id: list
 
-        model: menu.entries
+        model: panel.entries
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         keyNavigationEnabled: true
         highlightMoveDuration: 0
 
         Accessible.role: Accessible.PopupMenu
-        Accessible.name: menu.row !== null ? menu.row.row.accessibleName : ""
+        Accessible.name: panel.row !== null ? panel.row.row.accessibleName : ""
 
-        Keys.onReturnPressed: menu.choose(currentIndex)
-        Keys.onEnterPressed: menu.choose(currentIndex)
-        Keys.onSpacePressed: menu.choose(currentIndex)
+        Keys.onReturnPressed: panel.choose(currentIndex)
+        Keys.onEnterPressed: panel.choose(currentIndex)
+        Keys.onSpacePressed: panel.choose(currentIndex)
 
-        delegate: T.AbstractButton {
+        delegate: T.MenuItem {
             id: entry
 
             required property int index
             required property var modelData
 
-            readonly property bool chosen: menu.choosing && menu.row !== null && menu.row.row.chosen === index
-            readonly property color role: menu.choosing ? Theme.label : Theme.roles[modelData.color]
+            readonly property bool chosen: panel.choosing && panel.row !== null && panel.row.row.chosen === index
+            readonly property color role: panel.choosing ? Theme.label : Theme.roles[modelData.color]
 
             width: ListView.view.width
             implicitHeight: Math.max(44, label.implicitHeight + 16)
-            text: menu.choosing ? modelData : modelData.name
-            onClicked: menu.choose(index)
+            text: panel.choosing ? modelData : modelData.name
+            onClicked: panel.choose(index)
 
-            Accessible.role: Accessible.MenuItem
             Accessible.name: text
             Accessible.checked: chosen
+            Accessible.onPressAction: panel.choose(index)
 
             background: Rectangle {
                 radius: 8

@@ -36,6 +36,7 @@ Row {
             Keys.onEnterPressed: panel.chosen(index)
 
             Accessible.name: modelData.name
+            Accessible.onPressAction: panel.chosen(index)
 
             background: Rectangle {
                 color: Theme.roles[action.modelData.color]

@@ -376,6 +376,7 @@ ListView {
         id: scrollBar
 
         policy: C.ScrollBar.AsNeeded
+        Accessible.ignored: true
         contentItem: Rectangle {
             implicitWidth: 4
             radius: 2
