@@ -2,6 +2,8 @@
 #include "AccessibleTree.h"
 #include "GalleryShows.h"
 #include "WindowTest.h"
+#include "fakes/FakeMediaPlayers.h"
+#include "screens/player/PlayerViewController.h"
 
 namespace guide::test {
 namespace {
@@ -77,11 +79,31 @@ TEST_F(ScreenReaderTest, ControlsHaveTheirRolesAndCanBePressed) {
     EXPECT_TRUE(find(QAccessible::CheckBox, u"Favourite"_s));
     ASSERT_TRUE(press(QAccessible::Button, u"More broadcasts"_s));
     EXPECT_EQ(depth(), 3U);
+}
 
+TEST_F(ScreenReaderTest, WhatIsBehindIsNotUsed) {
     world.tabs->presentAlert({u"Alert"_s, u"Text"_s, {{u"OK"_s}}});
     settle();
+    press(QAccessible::PageTab, u"Categories"_s);
+    press(QAccessible::ListItem, u"19:30–20:35"_s);
+    EXPECT_EQ(world.tabs->selectedIndex(), 0);
+    EXPECT_EQ(depth(), 1U);
     ASSERT_TRUE(press(QAccessible::Button, u"OK"_s));
     EXPECT_FALSE(world.tabs->presentedAlert());
+
+    FakeMediaPlayers players;
+    const auto player = std::make_shared<PlayerViewController>(
+        world.environment, players, QUrl(u"http://127.0.0.1/kino"_s), PlayerSettings{},
+        PlayerViewController::Events{[](const QString&) {}, [this] { world.tabs->dismissCover(); },
+                                     [](const QUrl&) {}, [] {}});
+    world.tabs->presentCover(player);
+    player->play();
+    players.last().report(MediaStatus::Ready);
+    settle();
+    EXPECT_FALSE(find(QAccessible::PageTab, u"Categories"_s));
+    EXPECT_TRUE(find(QAccessible::Button, u"Pause"_s));
+    ASSERT_TRUE(press(QAccessible::Button, u"Back"_s));
+    EXPECT_TRUE(find(QAccessible::PageTab, u"Categories"_s));
 }
 
 } // namespace

@@ -43,6 +43,11 @@ Theme::Theme(QObject* parent)
     : QObject(parent) {
     followSystem();
     QCoreApplication::instance()->installEventFilter(this);
+    QAccessible::installActivationObserver(this);
+}
+
+Theme::~Theme() {
+    QAccessible::removeActivationObserver(this);
 }
 
 QList<QColor> Theme::roles() const {

@@ -3,6 +3,7 @@
 #include "ui/GuideWindow.h"
 #include "ui/look/Palette.h"
 
+#include <QAccessible>
 #include <QColor>
 #include <QFont>
 #include <QList>
@@ -20,7 +21,7 @@ QFont themeFont(double pixels, QFont::Weight weight);
 
 /// The look of one window, for QML: the colours of the scheme, the fonts at the system's text size, and
 /// durations; and the locale of its models.
-class Theme : public QObject {
+class Theme : public QObject, private QAccessible::ActivationObserver {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
@@ -67,9 +68,12 @@ class Theme : public QObject {
     Q_PROPERTY(int rowMotion READ rowMotion NOTIFY motionChanged)
     Q_PROPERTY(int pictureMotion READ pictureMotion NOTIFY motionChanged)
     Q_PROPERTY(bool moves READ moves NOTIFY motionChanged)
+    /// Whether a screen reader may be running.
+    Q_PROPERTY(bool readAloud READ readAloud NOTIFY readAloudChanged)
 
   public:
     explicit Theme(QObject* parent = nullptr);
+    ~Theme() override;
 
     bool dark() const { return m_scheme == ColorScheme::Dark; }
     QList<QColor> roles() const;
@@ -108,6 +112,7 @@ class Theme : public QObject {
     int rowMotion() const { return m_moves ? 150 : 0; }
     int pictureMotion() const { return m_moves ? 120 : 0; }
     bool moves() const { return m_moves; }
+    bool readAloud() const { return QAccessible::isActive(); }
 
     /// A binding must also read `dark`, which they depend on.
     Q_INVOKABLE QColor tileFill(int hue) const { return tileColors(hue, m_scheme).fill; }
@@ -128,11 +133,13 @@ class Theme : public QObject {
     void colorsChanged();
     void fontsChanged();
     void motionChanged();
+    void readAloudChanged();
 
   private:
     const Palette& palette() const { return paletteOf(m_scheme); }
     QFont font(double points, QFont::Weight weight) const;
     void followSystem();
+    void accessibilityActiveChanged(bool) override { Q_EMIT readAloudChanged(); }
 
     QLocale m_locale;
     std::optional<ColorScheme> m_forcedScheme;

@@ -91,6 +91,8 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
+        // What is covered is neither drawn nor read aloud.
+        visible: !cover.opaque
         // Nothing behind an alert receives events.
         enabled: !main.shell.alertShown && !cover.visible
         onEnabledChanged: if (enabled)

@@ -19,7 +19,8 @@ T.AbstractButton {
     Keys.onEnterPressed: clicked()
 
     Accessible.name: text
-    Accessible.onPressAction: clicked()
+    Accessible.onPressAction: if (enabled)
+        clicked()
 
     background: Rectangle {
         radius: height / 2

@@ -22,7 +22,8 @@ T.TabButton {
     bottomPadding: 8
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
 
-    Accessible.onPressAction: clicked()
+    Accessible.onPressAction: if (enabled)
+        clicked()
     Accessible.name: badge === "" ? text : text + ", " + badge
     Accessible.selected: current
 

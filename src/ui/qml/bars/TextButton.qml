@@ -17,7 +17,8 @@ T.AbstractButton {
     Keys.onEnterPressed: clicked()
 
     Accessible.name: text
-    Accessible.onPressAction: clicked()
+    Accessible.onPressAction: if (enabled)
+        clicked()
 
     background: Rectangle {
         radius: button.primary ? 12 : height / 2

@@ -6,6 +6,8 @@ FocusScope {
     id: cover
 
     required property Shell shell
+    // Whether nothing behind it can be seen.
+    readonly property bool opaque: visible && content.opacity === 1
 
     visible: shell.cover !== null
     onVisibleChanged: if (visible)

@@ -6,8 +6,8 @@ ContentPage {
     id: screen
 
     readonly property PlayerModel player: page.player
-    // Without something to look at, the controls stay.
-    readonly property bool busy: player.waiting || player.paused || slider.pressed
+    // Without something to look at, the controls stay; a screen reader finds only what is shown.
+    readonly property bool busy: player.waiting || player.paused || slider.pressed || Theme.readAloud
     property bool controlsShown: true
 
     function wake() {

@@ -76,8 +76,10 @@ Flow {
             Accessible.focused: activeFocus
             Accessible.checkable: value !== null && value.checkable
             Accessible.checked: on
-            Accessible.onPressAction: flow.chosen(index)
-            Accessible.onToggleAction: flow.chosen(index)
+            Accessible.onPressAction: if (enabled)
+                flow.chosen(index)
+            Accessible.onToggleAction: if (enabled)
+                flow.chosen(index)
 
             Rectangle {
                 id: circle

@@ -192,9 +192,9 @@ FocusScope {
             Accessible.focused: cell.focused
             Accessible.checkable: cell.checkable
             Accessible.checked: cell.checked
-            Accessible.onPressAction: if (cell.activatable)
+            Accessible.onPressAction: if (cell.activatable && cell.enabled)
                 cell.activate()
-            Accessible.onToggleAction: if (cell.activatable)
+            Accessible.onToggleAction: if (cell.activatable && cell.enabled)
                 cell.activate()
 
             Behavior on x {
