@@ -357,6 +357,29 @@ TEST_F(RootViewControllerTest, ShowsTheDayOfShowsThatAreNotOfToday) {
 
 // ---- loads that fail
 
+TEST_F(RootViewControllerTest, APullChecksForNewSchedulesAndTriesFailedOnesAgain) {
+    const ObjectId failing = world.addChannel(u"Jedna"_s);
+    const ObjectId filled = world.addChannel(u"Dva"_s);
+    world.start();
+    world.load(filled, {{-5, 500, u"A"_s}});
+    world.show();
+    world.fail(failing, LoadFailure{LoadFailureReason::NoAnswer, u"feeds.example"_s});
+    root().pullToRefresh();
+    EXPECT_EQ(world.app.done, QStringList{u"check"_s});
+    EXPECT_EQ(channelAt(table(), 0).accessory, Accessory::Spinner);
+    world.wait(10s);
+    EXPECT_TRUE(root().refreshing()) << "until the load ends";
+    world.load(failing, {{-5, 500, u"B"_s}});
+    world.fail(failing, std::nullopt);
+    EXPECT_FALSE(root().refreshing());
+
+    root().pullToRefresh();
+    EXPECT_EQ(world.app.done.size(), 2);
+    EXPECT_TRUE(root().refreshing());
+    world.wait(1s);
+    EXPECT_FALSE(root().refreshing()) << "nothing was due";
+}
+
 TEST_F(RootViewControllerTest, SaysWhyALoadFailedAndTriesAgain) {
     world.device.deviceLocale = QLocale(QLocale::English, QLocale::UnitedStates);
     world.device.zone = QTimeZone("UTC");

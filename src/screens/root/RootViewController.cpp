@@ -10,6 +10,7 @@
 #include "text/display/Transliteration.h"
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace guide {
@@ -20,6 +21,9 @@ namespace {
 
 /// The name of the row that loads a channel again.
 constexpr auto kTryAgain = "try again"_L1;
+
+/// So that the user sees that the pull has been noticed.
+constexpr std::chrono::milliseconds kShortestRefresh{700};
 
 /// The shows of `list`, each in the version of `others` if that has the same broadcast and `isBetter` says
 /// so.
@@ -48,6 +52,7 @@ RootViewController::RootViewController(std::shared_ptr<const ScreenEnvironment> 
 void RootViewController::viewDidLoad() {
     setTitle(Localized::tr("Currently"));
     setRightBarButtons({{BarButton::Kind::List, Localized::tr("Channels"), [this] { list(); }}});
+    setHasRefreshControl(true);
 }
 
 void RootViewController::viewWillAppear() {
@@ -90,6 +95,31 @@ void RootViewController::offerTopShows(const TopShows& top) {
 void RootViewController::loadsEnded(const std::unordered_set<ObjectId>& channels) {
     std::erase_if(m_tryingAgain, [&channels](const ObjectId& channel) { return channels.contains(channel); });
     reloadRows(channels);
+    setRefreshing(false);
+}
+
+void RootViewController::didPullToRefresh() {
+    bool loading = false;
+    for (const Channel& channel : m_channels) {
+        const auto record = m_environment->channels.channelWithChannelId(channel.identificator);
+        if (record && record->loadFailure()) {
+            m_tryingAgain.insert(channel.identificator);
+        }
+        loading =
+            loading || (record && (record->loading() || record->loadFailure() ||
+                                   record->reloadNeeded(m_environment->clock.now(),
+                                                        m_environment->settings.automaticUpdateInterval())));
+    }
+    reloadTable();
+    m_environment->updates.checkAndUpdateAllChannels();
+    if (!loading) {
+        // Everything is up to date, and no end of a load will be announced.
+        m_environment->mainQueue.asyncAfter(kShortestRefresh, [weak = weakFromThis<RootViewController>()] {
+            if (const auto self = weak.lock()) {
+                self->setRefreshing(false);
+            }
+        });
+    }
 }
 
 void RootViewController::notificationsSynched() {

@@ -46,6 +46,7 @@ class RootViewController final : public ListingsScreen, private RowPicturesScree
     void viewWillAppear() override;
     void viewDidAppear() override;
     void viewDidDisappear() override;
+    void didPullToRefresh() override;
     void rowEvent(const RowId& id, const RowEvent& event) override;
     std::vector<RowAction> actionsForRow(const RowId& id) override;
     void rowWillBeDisplayed(const RowId& id) override;
