@@ -98,7 +98,7 @@ Item {
         color: Theme.label
         font: Theme.barTitleFont
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 22
+        minimumPixelSize: Math.round(22 * Math.min(Theme.textScale, 1.25))
         wrapMode: Text.Wrap
         maximumLineCount: 5
         elide: Text.ElideRight

@@ -5,8 +5,8 @@ import Quellin
 Glyph {
     id: spinner
 
-    width: 22
-    height: 22
+    width: Math.round(22 * Theme.symbolScale)
+    height: width
     symbol: Glyph.Activity
     color: Theme.secondaryLabel
 

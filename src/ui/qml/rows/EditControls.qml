@@ -7,6 +7,7 @@ Item {
 
     // The TableRow; its type would make the two depend on each other.
     required property var row
+    readonly property string name: row.row.title ?? row.row.accessibleName
 
     IconButton {
         anchors {
@@ -17,7 +18,7 @@ Item {
         visible: controls.row.removable
         symbol: Glyph.Delete
         color: Theme.alarm
-        text: qsTranslate("Guide", "Delete") + " " + controls.row.row.accessibleName
+        text: qsTranslate("Guide", "Delete") + " " + controls.name
         onClicked: controls.row.rows.remove(controls.row.index)
     }
 
@@ -28,7 +29,7 @@ Item {
             verticalCenter: parent.verticalCenter
         }
         visible: controls.row.movable
-        name: controls.row.row.accessibleName
+        name: controls.name
         onStarted: controls.row.list.startReorder(controls.row)
         onMoved: distance => controls.row.list.reorderBy(distance)
         onFinished: controls.row.list.finishReorder()
