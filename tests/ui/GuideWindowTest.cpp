@@ -36,8 +36,6 @@ class GuideWindowTest : public WindowTest, public testing::WithParamInterface<Us
         tapFirstRow();
         proceed();
     }
-    /// The title of the row at the list's top edge.
-    QString titleAtTop() const { return titleOf(rowAtTop()); }
     QString titleOf(const QQuickItem* row) const {
         const Row& shown = top().table().rowAt(row->property("index").toInt());
         const auto* show = std::get_if<ShowRow>(&shown.content);
@@ -68,38 +66,6 @@ TEST_P(GuideWindowTest, DrawsTheRowsAndTheTabs) {
         EXPECT_GE(tab->width(), 44);
     }
     EXPECT_EQ(visibility, QList<bool>{true});
-}
-
-TEST_P(GuideWindowTest, TheScrollPositionStays) {
-    open();
-    scrollTo(700);
-    const QString before = titleAtTop();
-    ASSERT_FALSE(before.isEmpty());
-    const ObjectId first = ScreenWorld::channelId(1);
-    world.load(first, {{0, 65, u"Only one left"_s}});
-    settle();
-    EXPECT_EQ(titleAtTop(), before) << "after rows above were removed";
-    world.load(first, {{0, 65, u"A"_s}, {65, 70, u"B"_s}, {70, 75, u"C"_s}});
-    settle();
-    EXPECT_EQ(titleAtTop(), before) << "after rows above were inserted";
-    EXPECT_EQ(rows()->property("count").toInt(), top().table().rowCount());
-}
-
-TEST_P(GuideWindowTest, TheKeyboardOpensAChannelAndGoesBack) {
-    open();
-    focus();
-    QTest::keyClick(quickWindow, Qt::Key_Down);
-    EXPECT_EQ(rows()->property("currentIndex").toInt(), 0);
-    QTest::keyClick(quickWindow, Qt::Key_Return);
-    proceed();
-    ASSERT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 2U);
-    EXPECT_EQ(rows()->property("count").toInt(), top().table().rowCount());
-    const QStringList days = headings();
-    EXPECT_TRUE(days.contains(u"středa 31. prosince 2025"_s)) << days.join(u'|').toStdString();
-
-    press(Qt::Key_Escape);
-    EXPECT_EQ(world.tabs->selectedNavigationController().viewControllers().size(), 1U);
-    EXPECT_EQ(rows()->property("count").toInt(), top().table().rowCount());
 }
 
 TEST_P(GuideWindowTest, APullAtTheTopRefreshesAChannel) {
@@ -172,29 +138,6 @@ TEST_P(GuideWindowTest, ASwipeUncoversTheActionsOnAShow) {
     press(Qt::Key_Return);
     EXPECT_EQ(done, QStringList{u"favourite"_s});
     EXPECT_TRUE(rows()->hasActiveFocus());
-}
-
-TEST_P(GuideWindowTest, TabTitlesFitTheirLinesAtAnyTextSize) {
-    const QFont system = QGuiApplication::font();
-    for (const int pixels : {13, 20, 34}) {
-        QFont larger = system;
-        larger.setPixelSize(pixels);
-        QGuiApplication::setFont(larger);
-        if (!window) {
-            open();
-        }
-        settle();
-        for (QQuickItem* tab : itemsWith("badge")) {
-            SCOPED_TRACE(tab->property("text").toString().toStdString() + " at " + std::to_string(pixels));
-            for (const QQuickItem* label : itemsWith("lineCount", tab)) {
-                EXPECT_FALSE(label->property("truncated").toBool());
-                EXPECT_LE(label->property("lineCount").toInt(),
-                          GetParam() == UserInterfaceIdiom::Phone ? 1 : 2);
-            }
-        }
-    }
-    QGuiApplication::setFont(system);
-    settle();
 }
 
 TEST_P(GuideWindowTest, AScreenThatOpensInAHiddenTabDoesNotTakeTheFocus) {
