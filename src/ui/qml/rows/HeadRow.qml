@@ -7,8 +7,9 @@ TableRow {
     id: cell
 
     readonly property bool hasPicture: row.picture.toString() !== "" && !besideAside
+    readonly property bool hasIcon: row.channelIcon.toString() !== ""
     readonly property bool besideAside: list !== null && list.besideAside
-    readonly property double textRight: surfaceWidth - sideMargin - (edge.visible ? edge.width : 0)
+    readonly property double textRight: surfaceWidth - sideMargin - (row.selectable ? edge.width : 0)
 
     contentHeight: progress.y + progress.height + 12
     separatorInset: -1
@@ -53,18 +54,18 @@ TableRow {
 
         x: cell.sideMargin
         y: facts.y + (facts.firstLine - height) / 2
-        width: visible ? 33 : 0
+        width: 33
         height: 24
-        visible: cell.row.channelIcon.toString() !== ""
+        visible: cell.hasIcon
         source: cell.row.channelIcon
     }
 
     Text {
         id: facts
 
-        property double firstLine: 24
+        readonly property double firstLine: implicitHeight / Math.max(1, lineCount)
 
-        x: cell.sideMargin + (icon.visible ? icon.width + 8 : 0)
+        x: cell.sideMargin + (cell.hasIcon ? icon.width + 8 : 0)
         y: title.y + title.height + 8
         width: parent.width - cell.sideMargin - x
         text: cell.row.facts
@@ -72,10 +73,6 @@ TableRow {
         color: Theme.secondaryLabel
         font: Theme.bodyFont
         wrapMode: Text.Wrap
-        onLineLaidOut: line => {
-            if (line.number === 0)
-                firstLine = line.height
-        }
         Accessible.ignored: true
     }
 

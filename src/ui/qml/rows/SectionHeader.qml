@@ -17,12 +17,14 @@ Rectangle {
     Text {
         id: label
 
+        // Its own height: one that follows the header's would lay the text out a second time.
         anchors {
-            fill: parent
+            left: parent.left
+            right: parent.right
+            verticalCenter: parent.verticalCenter
             leftMargin: header.sideMargin
             rightMargin: header.sideMargin
         }
-        verticalAlignment: Text.AlignVCenter
         text: header.text
         textFormat: Text.PlainText
         color: Theme.heading
