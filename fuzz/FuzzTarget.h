@@ -29,6 +29,7 @@ std::vector<FuzzTarget> textTargets();
 std::vector<FuzzTarget> archiveTargets();
 std::vector<FuzzTarget> sourceTargets();
 std::vector<FuzzTarget> profileTargets();
+std::vector<FuzzTarget> ownSourceTargets();
 
 /// All of the above.
 const std::vector<FuzzTarget>& fuzzTargets();
