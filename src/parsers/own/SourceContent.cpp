@@ -78,18 +78,22 @@ QByteArray utf8(QByteArray text, const QString& declared, qsizetype& replaced) {
 
 SourceKind kindOf(const QByteArray& text) {
     const QString start = QString::fromUtf8(text.first(std::min(text.size(), kBeginning)));
-    if (start.trimmed().isEmpty()) {
+    const QString trimmed = start.trimmed();
+    if (trimmed.isEmpty()) {
         return SourceKind::Empty;
     }
     if (isPlaylist(start)) {
         return SourceKind::Playlist;
     }
-    const auto has = [&start](QLatin1StringView mark) { return start.contains(mark, Qt::CaseInsensitive); };
+    if (trimmed.startsWith("<!doctype html"_L1, Qt::CaseInsensitive) ||
+        trimmed.startsWith("<html"_L1, Qt::CaseInsensitive)) {
+        return SourceKind::Page;
+    }
     if (start.contains("<tv>"_L1) || start.contains("<tv "_L1) || start.contains("<!DOCTYPE tv"_L1) ||
         start.contains("<tv\n"_L1)) {
         return SourceKind::Feed;
     }
-    return has("<html"_L1) || has("<!doctype html"_L1) ? SourceKind::Page : SourceKind::Unknown;
+    return start.contains("<html"_L1, Qt::CaseInsensitive) ? SourceKind::Page : SourceKind::Unknown;
 }
 
 } // namespace

@@ -21,6 +21,8 @@ TEST(SourceContent, IsToldByWhatItContains) {
         {"a packed feed", gzipped(feed), SourceKind::Feed},
         {"a playlist", "\xEF\xBB\xBF#EXTM3U\n#EXTINF:-1,A\n", SourceKind::Playlist},
         {"a log-in page", "<!doctype HTML><title>Log in</title>", SourceKind::Page},
+        {"a page about a feed", "<html><body>Save this: <tv></body>", SourceKind::Page},
+        {"a page behind a comment", "<!-- x --><HTML><body></body>", SourceKind::Page},
         {"nothing", "", SourceKind::Empty},
         {"blanks", "\r\n \r\n", SourceKind::Empty},
         {"another XML document", "<?xml version=\"1.0\"?><rss/>", SourceKind::Unknown},
