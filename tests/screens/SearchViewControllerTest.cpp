@@ -81,6 +81,7 @@ TEST_F(SearchViewControllerTest, TheResultsStayUntilTheNextOnesArrive) {
 
 TEST_F(SearchViewControllerTest, TheFirstRowsComeAtOnceAndTheRestWhenTheUserPauses) {
     std::vector<WorldShow> shows;
+    shows.reserve(200);
     for (int number = 0; number < 200; ++number) {
         shows.push_back({number, number + 1, u"Zoo %1"_s.arg(number)});
     }
