@@ -101,8 +101,11 @@ struct TVChannels::State final : CatalogueObserver {
     void read() {
         std::vector<ObjectId> selected;
         const auto take = [&selected](std::optional<std::vector<ObjectId>> ids) {
-            selected = std::move(ids).value_or(std::vector<ObjectId>());
-            return ids.has_value();
+            if (ids) {
+                selected = *std::move(ids);
+                return true;
+            }
+            return false;
         };
         const MirroredFile::Found found =
             file.read([&take](const QByteArray& content) { return take(selectionOfFile(content)); },

@@ -286,8 +286,8 @@ bool hasPlainLetters(QLocale::Language language) {
 
 } // namespace
 
-PalinsestoTexts::PalinsestoTexts(QLocale locale)
-    : m_locale(std::move(locale))
+PalinsestoTexts::PalinsestoTexts(const QLocale& locale)
+    : m_locale(locale)
     , m_hasPlainLetters(hasPlainLetters(m_locale.language())) {}
 
 QString PalinsestoTexts::capitalizedWords(std::string_view text) {

@@ -23,7 +23,7 @@ using PalinsestoCodes = std::map<std::string, QString, std::less<>>;
 /// memory.
 class PalinsestoTexts {
   public:
-    explicit PalinsestoTexts(QLocale locale);
+    explicit PalinsestoTexts(const QLocale& locale);
 
     QString capitalizedWords(std::string_view text);
     QString sentenceCase(std::string_view text);

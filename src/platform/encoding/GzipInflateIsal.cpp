@@ -60,7 +60,8 @@ GzipEnd inflateWithIsal(QByteArrayView data, GzipOutput& output) {
             return GzipEnd::Stopped;
         }
         if (state->block_state == ISAL_BLOCK_FINISH) {
-            const QByteArrayView rest = data.last(static_cast<qsizetype>(left + state->avail_in));
+            const QByteArrayView rest =
+                data.last(static_cast<qsizetype>(left) + static_cast<qsizetype>(state->avail_in));
             if (!hasGzipSignature(rest)) {
                 return GzipEnd::Complete;
             }
@@ -69,9 +70,9 @@ GzipEnd inflateWithIsal(QByteArrayView data, GzipOutput& output) {
             }
             isal_inflate_reset(state.get());
             state->crc_flag = ISAL_GZIP;
-        } else if (state->avail_out > 0 && left == 0 && state->avail_in == 0) {
-            return GzipEnd::Damaged;
-        } else if (state->avail_out == offered && state->avail_in == availableBefore) {
+        } else if ((state->avail_out > 0 && left == 0 && state->avail_in == 0) ||
+                   (state->avail_out == offered && state->avail_in == availableBefore)) {
+            // Cut off, or nothing moves.
             return GzipEnd::Damaged;
         }
     }
