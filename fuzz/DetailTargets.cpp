@@ -121,6 +121,7 @@ std::vector<FuzzTarget> detailTargets() {
          .seeds =
              [] {
                  std::vector<QByteArray> seeds;
+                 seeds.reserve(kFamilies.size());
                  for (std::size_t i = 0; i < kFamilies.size(); ++i) {
                      seeds.push_back(
                          fuzzInput({recordedPage(kFamilies[i].page), recordedPage("port-bottom.html"),
