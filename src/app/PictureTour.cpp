@@ -70,9 +70,11 @@ struct Stop {
 constexpr std::array kStops{
     Stop{"currently", [](PictureTour& tour) { return tour.selectTab(Symbol::Currently); }},
     Stop{"channel", [](PictureTour& tour) { return tour.send(Tapped{}, isChannel); }},
+    // Of a show on the first screen: only there do rows tell which shows have pictures.
     Stop{"show",
          [](PictureTour& tour) {
-             return tour.send(Tapped{}, isShowWithPicture) || tour.send(Tapped{}, isShow);
+             return tour.selectTab(Symbol::Currently) &&
+                    (tour.send(Tapped{}, isShowWithPicture) || tour.send(Tapped{}, isShow));
          }},
     Stop{"show-broadcasts", [](PictureTour& tour) { return tour.pressAction(ActionSymbol::Broadcasts); }},
     Stop{"show-pictures",
