@@ -15,7 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Of what the device's alphabet does not change, folded.
+/// The Latin form of a folded letter: of Cyrillic ones, and of those that folding leaves because they are no
+/// letter with a mark.
 QString latin(char16_t letter) {
     static constexpr std::array<std::pair<char16_t, const char*>, 48> kLetters{{
         {u'а', "a"},  {u'б', "b"},  {u'в', "v"},  {u'г', "g"},  {u'ґ', "g"}, {u'д', "d"},  {u'ђ', "dj"},

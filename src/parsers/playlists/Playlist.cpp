@@ -3,6 +3,7 @@
 #include "parsers/playlists/PlaylistAttributes.h"
 #include "platform/encoding/CharacterSets.h"
 #include "platform/encoding/Utf8.h"
+#include "sources/WebURL.h"
 
 #include <QStringConverter>
 #include <QUrl>
@@ -104,8 +105,7 @@ class Reader {
         text.replace(u';', u',');
         for (const QString& each : text.split(u',', Qt::SkipEmptyParts)) {
             const QString address = each.trimmed();
-            const QString scheme = QUrl(address).scheme();
-            if ((scheme == "http"_L1 || scheme == "https"_L1) && m_list.feeds.size() < kMostFeeds &&
+            if (isWebURL(QUrl(address)) && m_list.feeds.size() < kMostFeeds &&
                 !m_list.feeds.contains(address)) {
                 m_list.feeds << address;
             }
@@ -150,7 +150,7 @@ class Reader {
     std::optional<PlaylistEntry> m_entry;
     /// Of the header.
     double m_shift = 0;
-    /// Of the latest line of its own, for the entries behind it without a group.
+    /// Set by a line that names a group. It applies to the entries after it that have none.
     QStringList m_groups;
 };
 

@@ -87,7 +87,7 @@ void SearchViewController::search(const QString& pattern) {
             if (!text().isEmpty()) {
                 show(first->results);
                 if (!first->isComplete()) {
-                    completeAfterTyping(*first);
+                    completeAfterTyping(first);
                 }
             }
         });
@@ -100,20 +100,20 @@ void SearchViewController::search(const QString& pattern) {
         });
 }
 
-void SearchViewController::completeAfterTyping(const FirstResults& first) {
+void SearchViewController::completeAfterTyping(const std::shared_ptr<const FirstResults>& first) {
     MainBlock<> pause = m_answer.expect(weak_from_this(), [this, first] { complete(first); });
     m_environment->mainQueue.asyncAfter(kPause,
                                         [&mainQueue = m_environment->mainQueue,
                                          pause = std::move(pause)]() mutable { pause.post(mainQueue); });
 }
 
-void SearchViewController::complete(const FirstResults& first) {
+void SearchViewController::complete(const std::shared_ptr<const FirstResults>& first) {
     MainBlock<std::shared_ptr<const SearchResults>> answer =
         m_answer.expect(weak_from_this(), [this](const auto& results) { show(*results); });
     m_environment->queues.globalQueue(QueuePriority::UserInitiated)
         .async([&mainQueue = m_environment->mainQueue, first, answer = std::move(answer)]() mutable {
             answer.post(mainQueue, std::make_shared<const SearchResults>(
-                                       searchResults(first.results.pattern, first.shows, *first.rows)));
+                                       searchResults(first->results.pattern, first->shows, *first->rows)));
         });
 }
 

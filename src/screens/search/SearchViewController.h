@@ -39,8 +39,8 @@ class SearchViewController final : public ListingsScreen {
   private:
     void search(const QString& pattern);
     /// Makes the rows behind the first ones when no key has been pressed for a moment.
-    void completeAfterTyping(const FirstResults& first);
-    void complete(const FirstResults& first);
+    void completeAfterTyping(const std::shared_ptr<const FirstResults>& first);
+    void complete(const std::shared_ptr<const FirstResults>& first);
     /// For new lists: at once while visible, else when the screen appears.
     void searchAgain();
     void show(const SearchResults& results);
