@@ -9,6 +9,9 @@ namespace guide::test {
 namespace {
 
 class ScreenReaderTest : public WindowTest {
+  public:
+    ~ScreenReaderTest() override { QAccessible::setActive(false); }
+
   protected:
     ScreenReaderTest() {
         fillWithEvening(world);
@@ -21,8 +24,6 @@ class ScreenReaderTest : public WindowTest {
         QAccessible::setActive(true);
         settle();
     }
-    ~ScreenReaderTest() override { QAccessible::setActive(false); }
-
     void proceed() {
         world.queues.runAll();
         settle();
