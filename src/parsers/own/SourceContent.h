@@ -1,14 +1,12 @@
 #pragma once
 
+#include "core/own/SourcePreview.h"
 #include "platform/encoding/Decompression.h"
 
 #include <QByteArray>
 #include <QString>
 
 namespace guide {
-
-/// What a person gave as a source of schedules.
-enum class SourceKind { Feed, Playlist, Page, Empty, Unknown };
 
 /// The content of an address or file, whatever its name or server say that it is.
 struct SourceContent {

@@ -18,9 +18,6 @@ struct FeedChannel {
     int feed = 0;
 };
 
-/// What an entry was matched by. Review: it has candidates, and none is certain.
-enum class MatchKind { Id, Name, Review, None };
-
 struct ChannelMatch {
     MatchKind kind = MatchKind::None;
     /// The place of the channel; -1 unless matched by its id or name.
