@@ -57,6 +57,20 @@ bool writeAll(int file, QByteArrayView content) {
     return true;
 }
 
+// In the same folder, so that the rename stays within one file system. -1 when it failed.
+int openTemporary(int folder, QByteArray& name) {
+    int file = -1;
+    // A name that exists belongs to a dead process with the same id.
+    for (int attempt = 0; attempt < 16 && file < 0; ++attempt) {
+        name = temporaryName();
+        file = ::openat(folder, name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+        if (file < 0 && errno != EEXIST) {
+            break;
+        }
+    }
+    return file;
+}
+
 timespec asTimespec(Moment moment) {
     const auto seconds = std::chrono::floor<std::chrono::seconds>(moment);
     timespec time{};
@@ -122,16 +136,7 @@ ReplacementBatch::~ReplacementBatch() {
 
 bool ReplacementBatch::add(const QString& name, QByteArrayView content, std::optional<Moment> modified) {
     Written written{.name = QFile::encodeName(name), .temporary = {}};
-    // A name that exists belongs to a dead process with the same id.
-    for (int attempt = 0; attempt < 16 && written.file < 0; ++attempt) {
-        // In the same folder, so that the rename stays within one file system.
-        written.temporary = temporaryName();
-        written.file =
-            ::openat(m_folder, written.temporary.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-        if (written.file < 0 && errno != EEXIST) {
-            return false;
-        }
-    }
+    written.file = openTemporary(m_folder, written.temporary);
     if (written.file < 0) {
         return false;
     }
@@ -183,6 +188,61 @@ void ReplacementBatch::closeFiles() {
             ::close(std::exchange(written.file, -1));
         }
     }
+}
+
+ReplacementInPieces::ReplacementInPieces(const QString& folder)
+    : m_folder(openFolder(folder)) {}
+
+ReplacementInPieces::~ReplacementInPieces() {
+    if (m_file >= 0) {
+        ::close(m_file);
+        ::unlinkat(m_folder, m_temporary.constData(), 0);
+    }
+    if (m_folder >= 0) {
+        ::close(m_folder);
+    }
+}
+
+bool ReplacementInPieces::append(QByteArrayView piece) {
+    if (m_file < 0) {
+        m_file = openTemporary(m_folder, m_temporary);
+    }
+    if (m_file < 0 || !writeAll(m_file, piece)) {
+        return false;
+    }
+    m_size += piece.size();
+    return true;
+}
+
+bool ReplacementInPieces::commit(const QString& name) {
+    if (m_file < 0) {
+        return false;
+    }
+    const bool replaced =
+        flushed(::fdatasync(m_file)) &&
+        ::renameat(m_folder, m_temporary.constData(), m_folder, QFile::encodeName(name).constData()) == 0;
+    ::close(std::exchange(m_file, -1));
+    if (replaced) {
+        ::fsync(m_folder);
+    } else {
+        ::unlinkat(m_folder, m_temporary.constData(), 0);
+    }
+    return replaced;
+}
+
+bool replaceFileWith(const QString& path, const QString& replacement) {
+    const QByteArray from = QFile::encodeName(replacement);
+    const int file = ::open(from.constData(), O_RDONLY | O_CLOEXEC);
+    if (file < 0) {
+        return false;
+    }
+    const bool replaced =
+        flushed(::fdatasync(file)) && ::rename(from.constData(), QFile::encodeName(path).constData()) == 0;
+    ::close(file);
+    if (replaced) {
+        syncFolder(path.left(path.lastIndexOf(u'/') + 1));
+    }
+    return replaced;
 }
 
 std::optional<Moment> fileModificationDate(const QString& path) {

@@ -50,6 +50,34 @@ class ReplacementBatch {
     std::vector<Written> m_written;
 };
 
+/// Replaces a file as replaceFile does, with content that arrives in pieces.
+class ReplacementInPieces {
+  public:
+    /// Nothing is written before the first piece.
+    explicit ReplacementInPieces(const QString& folder);
+    ReplacementInPieces(const ReplacementInPieces&) = delete;
+    ReplacementInPieces& operator=(const ReplacementInPieces&) = delete;
+    /// Discards what was not committed.
+    ~ReplacementInPieces();
+
+    /// False when it failed; the replacement can then only be committed without the rest.
+    bool append(QByteArrayView piece);
+    qint64 size() const { return m_size; }
+
+    /// Replaces the file of this name, in the folder. False when it failed or nothing was appended.
+    bool commit(const QString& name);
+
+  private:
+    const int m_folder;
+    QByteArray m_temporary;
+    int m_file = -1;
+    qint64 m_size = 0;
+};
+
+/// Replaces the file at `path` atomically with another file of the same file system, which is gone
+/// afterwards. Waits for the disk. False when it failed; both are then unchanged.
+bool replaceFileWith(const QString& path, const QString& replacement);
+
 /// The modification date of a regular file; empty when there is none.
 std::optional<Moment> fileModificationDate(const QString& path);
 

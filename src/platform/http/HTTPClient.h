@@ -9,6 +9,7 @@
 #include <QUrl>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -35,6 +36,12 @@ struct HTTPRequest {
     std::chrono::milliseconds resourceTimeout{60'000};
     /// Without a network, waits for one (within resourceTimeout) instead of failing at once.
     bool waitsForConnectivity = false;
+    /// In bytes, instead of the client's limit, before and after content decoding.
+    std::optional<qint64> maximumBodySize = std::nullopt;
+    /// How long the transfer may crawl before it fails, instead of the client's limit.
+    std::optional<std::chrono::seconds> leastSpeedTime = std::nullopt;
+    /// Asked several times a second on the calling thread; true cancels the transfer. May be empty.
+    std::function<bool()> stopped = {};
 };
 
 struct HTTPResponse {

@@ -119,16 +119,18 @@ TransferResult CurlHTTPClient::transfer(const HTTPRequest& request, const TakePi
             m_hasNetwork()) {
             return result;
         }
-        if (!awaitNetwork(until)) {
-            return m_cancelled.load() ? cancelledTransfer() : result;
+        if (!awaitNetwork(until, request.stopped)) {
+            const bool cancelled = m_cancelled.load() || (request.stopped && request.stopped());
+            return cancelled ? cancelledTransfer() : result;
         }
         httpRequest.resourceTimeout =
             std::chrono::ceil<std::chrono::milliseconds>(until - std::chrono::steady_clock::now());
     }
 }
 
-// False when the time is up or the client is cancelled first.
-bool CurlHTTPClient::awaitNetwork(std::chrono::steady_clock::time_point until) {
+// False when the time is up or the transfer is cancelled first.
+bool CurlHTTPClient::awaitNetwork(std::chrono::steady_clock::time_point until,
+                                  const std::function<bool()>& stopped) {
     qInfo("waiting for a network");
     std::unique_lock lock(m_mutex);
     for (;;) {
@@ -138,6 +140,9 @@ bool CurlHTTPClient::awaitNetwork(std::chrono::steady_clock::time_point until) {
             return false;
         }
         lock.unlock();
+        if (stopped && stopped()) {
+            return false;
+        }
         if (m_hasNetwork()) {
             return true;
         }

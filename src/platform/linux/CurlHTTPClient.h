@@ -42,7 +42,7 @@ class CurlHTTPClient final : public HTTPClient {
     class BorrowedMulti;
 
     TransferResult transfer(const HTTPRequest& request, const TakePiece& takePiece);
-    bool awaitNetwork(std::chrono::steady_clock::time_point until);
+    bool awaitNetwork(std::chrono::steady_clock::time_point until, const std::function<bool()>& stopped);
 
     ResponseCache& m_cache;
     CurlShare m_share;

@@ -13,6 +13,7 @@ namespace {
 
 constexpr long kBufferSize = 256 * 1024;
 constexpr std::chrono::milliseconds kLongestWait{1000};
+constexpr std::chrono::milliseconds kLookForStopEvery{200};
 
 // A line end in a value would inject further headers.
 bool isClean(const QByteArray& text) {
@@ -53,7 +54,8 @@ CurlTransfer::CurlTransfer(const HTTPRequest& request, const TakePiece& takePiec
     : m_request(request)
     , m_takePiece(takePiece)
     , m_settings(settings)
-    , m_easy(curl_easy_init()) {}
+    , m_easy(curl_easy_init())
+    , m_mostBytes(request.maximumBodySize.value_or(settings.maximumBodySize)) {}
 
 TransferResult CurlTransfer::run(CURLM* multi, const std::atomic<bool>& cancelled) {
     if (!m_easy || multi == nullptr || !prepare()) {
@@ -88,10 +90,11 @@ bool CurlTransfer::prepare() {
     curl_easy_setopt(easy, CURLOPT_COOKIEFILE, "");
     curl_easy_setopt(easy, CURLOPT_FOLLOWLOCATION, 0L);
     curl_easy_setopt(easy, CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
-    curl_easy_setopt(easy, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(m_settings.maximumBodySize));
+    curl_easy_setopt(easy, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(m_mostBytes));
     curl_easy_setopt(easy, CURLOPT_BUFFERSIZE, kBufferSize);
     curl_easy_setopt(easy, CURLOPT_LOW_SPEED_LIMIT, m_settings.leastSpeed);
-    curl_easy_setopt(easy, CURLOPT_LOW_SPEED_TIME, static_cast<long>(m_settings.leastSpeedTime.count()));
+    const std::chrono::seconds leastSpeedTime = m_request.leastSpeedTime.value_or(m_settings.leastSpeedTime);
+    curl_easy_setopt(easy, CURLOPT_LOW_SPEED_TIME, static_cast<long>(leastSpeedTime.count()));
     curl_easy_setopt(easy, CURLOPT_ERRORBUFFER, m_errorText);
     curl_easy_setopt(easy, CURLOPT_HEADERFUNCTION, &CurlTransfer::onHeader);
     curl_easy_setopt(easy, CURLOPT_HEADERDATA, this);
@@ -168,7 +171,7 @@ CurlTransfer::Outcome CurlTransfer::awaitEnd(CURLM* multi, const std::atomic<boo
         if (isDone(multi)) {
             return Outcome::Done;
         }
-        if (cancelled.load()) {
+        if (cancelled.load() || (m_request.stopped && m_request.stopped())) {
             return Outcome::Cancelled;
         }
         const SteadyTime now = std::chrono::steady_clock::now();
@@ -181,7 +184,8 @@ CurlTransfer::Outcome CurlTransfer::awaitEnd(CURLM* multi, const std::atomic<boo
             return Outcome::Inactive;
         }
         const auto wait = std::chrono::ceil<std::chrono::milliseconds>(std::min(inactiveAt, endAt) - now);
-        const int milliseconds = static_cast<int>(std::min(wait, kLongestWait).count());
+        const int milliseconds =
+            static_cast<int>(std::min(wait, m_request.stopped ? kLookForStopEvery : kLongestWait).count());
         if (curl_multi_poll(multi, nullptr, 0, milliseconds, nullptr) != CURLM_OK) {
             return Outcome::Broken;
         }
@@ -230,7 +234,7 @@ QString CurlTransfer::describe(Outcome outcome) const {
         break;
     }
     if (m_tooLarge || m_code == CURLE_FILESIZE_EXCEEDED) {
-        return u"the body is larger than %1 bytes"_s.arg(m_settings.maximumBodySize);
+        return u"the body is larger than %1 bytes"_s.arg(m_mostBytes);
     }
     if (m_errorText[0] != '\0') {
         return QString::fromUtf8(m_errorText);
@@ -274,7 +278,7 @@ void CurlTransfer::takeHeader(const QByteArray& line) {
 }
 
 bool CurlTransfer::takeBody(QByteArrayView bytes) {
-    if (bytes.size() > m_settings.maximumBodySize - m_bodySize) {
+    if (bytes.size() > m_mostBytes - m_bodySize) {
         m_tooLarge = true;
         return false;
     }
@@ -285,7 +289,7 @@ bool CurlTransfer::takeBody(QByteArrayView bytes) {
         if (m_body.isNull()) {
             curl_off_t announced = 0;
             curl_easy_getinfo(m_easy.get(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
-            m_body.reserve(std::clamp<qint64>(announced, bytes.size(), m_settings.maximumBodySize));
+            m_body.reserve(std::clamp<qint64>(announced, bytes.size(), m_mostBytes));
         }
         m_body.append(bytes);
     }

@@ -75,6 +75,8 @@ class CurlTransfer {
     QByteArray m_body;
     /// Bytes of the body so far, collected or delivered.
     qint64 m_bodySize = 0;
+    /// Limit for m_bodySize.
+    const qint64 m_mostBytes;
     bool m_tooLarge = false;
     bool m_refused = false;
     SteadyTime m_lastActivity;
