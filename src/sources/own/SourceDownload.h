@@ -10,6 +10,7 @@
 #include <QString>
 #include <QUrl>
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -24,12 +25,17 @@ struct SourceDownloadEnvironment {
 };
 
 struct SourceDownloadRequest {
+    /// User and password in it are sent only to its own host.
     QUrl url;
-    /// Of the last answer; asked conditionally where not empty.
+    /// Of the answer that is at `path`; asked conditionally where not empty and the file exists.
     QByteArray etag = {};
     QByteArray lastModified = {};
-    /// Replaced only by a whole answer or, of one that broke off, by its beginning.
+    /// Replaced only by a whole answer. The beginning of one that broke off goes to beginningOf(path), so
+    /// that the caller can compare before it replaces what is better. Its folder exists.
     QString path;
+    /// Without any data.
+    std::chrono::milliseconds longestSilence{60'000};
+    std::int64_t mostBytes = std::int64_t{1} << 30;
     /// Ends the transfer; may be empty.
     std::function<bool()> stopped = {};
     /// May be empty.
@@ -41,6 +47,10 @@ struct SourceDownload {
     /// or why there is none.
     SourceResult result = SourceResult::None;
     QString detail;
+    /// What was written; empty for nothing.
+    QString file;
+    /// Of a whole answer, or of one that says that nothing has changed; what was asked with where that does
+    /// not repeat them.
     QByteArray etag;
     QByteArray lastModified;
     /// That the server declared; may be empty.
@@ -49,8 +59,11 @@ struct SourceDownload {
     std::optional<Moment> notBefore;
 };
 
+/// Where the beginning of a document that broke off is kept: beside the file.
+QString beginningOf(const QString& path);
+
 /// Fetches an address into a file, following up to five redirects within http and https. Blocks; not on the
-/// main thread.
+/// main thread. Logs hosts, not addresses: those may be secret.
 SourceDownload downloadSource(const SourceDownloadEnvironment& environment,
                               const SourceDownloadRequest& request);
 
