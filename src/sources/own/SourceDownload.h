@@ -46,17 +46,17 @@ struct SourceDownload {
     /// Read when there is a file, Incomplete when it is the beginning of one, Unchanged (no file is written),
     /// or why there is none.
     SourceResult result = SourceResult::None;
-    QString detail;
+    QString detail = {};
     /// What was written; empty for nothing.
-    QString file;
+    QString file = {};
     /// Of a whole answer, or of one that says that nothing has changed; what was asked with where that does
     /// not repeat them.
-    QByteArray etag;
-    QByteArray lastModified;
+    QByteArray etag = {};
+    QByteArray lastModified = {};
     /// That the server declared; may be empty.
-    QString charset;
+    QString charset = {};
     /// Before it the server does not want to be asked again.
-    std::optional<Moment> notBefore;
+    std::optional<Moment> notBefore = {};
 };
 
 /// Where the beginning of a document that broke off is kept: beside the file.
