@@ -51,6 +51,12 @@ void QuellinGuideAppDelegate::presentNotice(Notice notice) {
     }
 }
 
+void QuellinGuideAppDelegate::presentFileChooser(FileChooser chooser) {
+    if (m_tabBarController) {
+        m_tabBarController->presentFileChooser(std::move(chooser));
+    }
+}
+
 void QuellinGuideAppDelegate::selectTab(Symbol tab) {
     const auto& tabs = m_tabBarController->tabs();
     const auto found =

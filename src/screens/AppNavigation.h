@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screens/kit/Alert.h"
+#include "screens/kit/FileChooser.h"
 #include "screens/kit/Notice.h"
 #include "screens/kit/TabBarController.h"
 
@@ -25,6 +26,8 @@ class AppNavigation {
     virtual void presentAlert(Alert alert) = 0;
     /// Shows the notice after those that are already waiting.
     virtual void presentNotice(Notice notice) = 0;
+    /// Lets the user choose a file.
+    virtual void presentFileChooser(FileChooser chooser) = 0;
     /// Selects the tab with this symbol. Does nothing when there is none.
     virtual void selectTab(Symbol tab) = 0;
 };

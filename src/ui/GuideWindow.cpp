@@ -74,6 +74,9 @@ class GuideWindow::Parts : public QQuickView {
         background();
         connect(m_theme, &Theme::colorsChanged, this, background);
         connect(this, &QWindow::visibilityChanged, this, [this] { reportVisibility(); });
+        if (m_options.dropped) {
+            connect(m_shell.get(), &Shell::dropped, this, m_options.dropped);
+        }
         connect(m_shell.get(), &Shell::fullScreenUpdated, this,
                 [this] { takeScreen(m_shell->fullScreen()); });
         setInitialProperties({{u"shell"_s, QVariant::fromValue(m_shell.get())}});

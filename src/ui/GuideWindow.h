@@ -33,6 +33,8 @@ struct GuideWindowOptions {
     PictureProvider* pictures = nullptr;
     /// Called when the window becomes visible and when it no longer is (minimised, hidden, closed).
     std::function<void(bool visible)> visibilityChanged = {};
+    /// Called with an address, or the path of a file, that was dropped on the window. May be empty.
+    std::function<void(const QString& input)> dropped = {};
     /// Called when the user closes the window.
     std::function<void()> closed = {};
 };

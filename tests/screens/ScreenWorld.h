@@ -70,6 +70,7 @@ struct WorldApp final : ScreenSettings,
     }
     void presentAlert(Alert alert) override { alerts.push_back(std::move(alert)); }
     void presentNotice(Notice notice) override { notices.push_back(std::move(notice)); }
+    void presentFileChooser(FileChooser chooser) override { fileChooser = std::move(chooser); }
     void selectTab(Symbol tab) override { done << u"tab %1"_s.arg(static_cast<int>(tab)); }
     void setAlarmForTitle(const QString& title, const ObjectId&, Moment, Moment, int minutes, bool,
                           bool) override {
@@ -110,6 +111,7 @@ struct WorldApp final : ScreenSettings,
     };
     std::vector<Alert> alerts;
     std::vector<Notice> notices;
+    FileChooser fileChooser;
     bool images = true;
     bool calendarAccess = false;
     bool colorized = true;
@@ -231,7 +233,8 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
             popular,      pictures,     pictureCache,
             app,          app,          app,
             showLookup,   clipboard,    u"guide"_s,
-            userDefaults, swipeActions, [this](const ObjectId& channel) { return sources[channel]; }});
+            userDefaults, swipeActions, [this](const ObjectId& channel) { return sources[channel]; },
+            ownSources,   knownFeeds});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -311,6 +314,9 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
     WorldApp app;
     WorldArchive archive;
     WorldAlerts alerts{queues.mainQueue()};
+    /// To be set before start().
+    SourceActions* ownSources = nullptr;
+    const KnownFeeds* knownFeeds = nullptr;
     /// The sources of the channels' schedules.
     std::map<ObjectId, QString> sources;
     std::shared_ptr<DispatchQueue> loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial);

@@ -9,4 +9,8 @@ void LinuxClipboard::setText(const QString& text) {
     QGuiApplication::clipboard()->setText(text);
 }
 
+QString LinuxClipboard::text() const {
+    return QGuiApplication::clipboard()->text();
+}
+
 } // namespace guide

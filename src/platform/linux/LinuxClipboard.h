@@ -8,6 +8,7 @@ namespace guide {
 class LinuxClipboard final : public Clipboard {
   public:
     void setText(const QString& text) override;
+    QString text() const override;
 };
 
 } // namespace guide

@@ -8,7 +8,7 @@ namespace guide {
 class MemoryClipboard final : public Clipboard {
   public:
     void setText(const QString& text) override { m_text = text; }
-    const QString& text() const { return m_text; }
+    QString text() const override { return m_text; }
 
   private:
     QString m_text;

@@ -75,7 +75,7 @@ struct TextRow {
     bool checked = false;
     Accessory accessory = Accessory::None;
     PictureKey icon = {};
-    /// In place of an icon.
+    /// In place of an icon; in the title's colour, unless that is the ordinary one.
     std::optional<Symbol> symbol = {};
 
     friend bool operator==(const TextRow&, const TextRow&) = default;
@@ -120,6 +120,8 @@ struct InputRow {
     /// Shown below the field; empty when the text is valid.
     QString error = {};
     bool enabled = true;
+    /// Takes the keyboard when the user opens the screen with a keyboard or a pointer.
+    bool focusOnOpening = false;
 
     friend bool operator==(const InputRow&, const InputRow&) = default;
 };

@@ -31,6 +31,8 @@ enum class Symbol {
     Horrors,
     /// Something that was done lately.
     Recent,
+    /// Something is wrong.
+    Warning,
 };
 
 } // namespace guide

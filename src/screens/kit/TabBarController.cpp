@@ -148,6 +148,27 @@ void TabBarController::answerAlert(std::size_t action) {
     }
 }
 
+void TabBarController::presentFileChooser(FileChooser chooser) {
+    m_fileChooser = std::move(chooser);
+    if (m_observer) {
+        m_observer->fileChooserChanged();
+    }
+}
+
+void TabBarController::closeFileChooser(const QString& path) {
+    if (!m_fileChooser) {
+        return;
+    }
+    const std::function<void(const QString&)> chosen = std::move(m_fileChooser->chosen);
+    m_fileChooser.reset();
+    if (m_observer) {
+        m_observer->fileChooserChanged();
+    }
+    if (chosen && !path.isEmpty()) {
+        chosen(path);
+    }
+}
+
 void TabBarController::presentNotice(Notice notice) {
     auto place = noticeOfTopic(notice.topic);
     if (place == m_notices.end()) {

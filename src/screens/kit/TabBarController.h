@@ -2,6 +2,7 @@
 
 #include "platform/queues/DispatchQueue.h"
 #include "screens/kit/Alert.h"
+#include "screens/kit/FileChooser.h"
 #include "screens/kit/NavigationController.h"
 #include "screens/kit/Notice.h"
 #include "screens/kit/Symbol.h"
@@ -11,6 +12,7 @@
 #include <chrono>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace guide {
@@ -35,6 +37,8 @@ class TabBarObserver {
     virtual void alertChanged() = 0;
     /// presentedNotice() changed.
     virtual void noticeChanged() = 0;
+    /// presentedFileChooser() changed.
+    virtual void fileChooserChanged() = 0;
     /// cover() changed. The screen that it was lives until the call returns.
     virtual void coverChanged() = 0;
 };
@@ -95,6 +99,13 @@ class TabBarController {
     /// Closes the alert and runs the action with that index.
     void answerAlert(std::size_t action);
 
+    /// Opens the file chooser in place of the one that is open.
+    void presentFileChooser(FileChooser chooser);
+    /// Null when there is none.
+    const FileChooser* presentedFileChooser() const { return m_fileChooser ? &*m_fileChooser : nullptr; }
+    /// Closes the file chooser; with a path, reports it as chosen.
+    void closeFileChooser(const QString& path = {});
+
     /// Shows the notice for kNoticeTime, after those that are already waiting, or in place of the one of its
     /// topic.
     void presentNotice(Notice notice);
@@ -118,6 +129,7 @@ class TabBarController {
     bool m_visible = false;
     std::shared_ptr<ViewController> m_cover;
     std::deque<Alert> m_alerts;
+    std::optional<FileChooser> m_fileChooser;
     std::deque<Notice> m_notices;
     /// Expires with the presented notice, so that its timer does not close a later one.
     std::shared_ptr<const bool> m_noticeShown;

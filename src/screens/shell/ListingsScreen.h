@@ -30,6 +30,8 @@ class ListingsScreen : public TableViewController {
     /// The catalogue was replaced, or channels that it no longer lists were removed from the selection.
     virtual void selectionCleanedUp() {}
     virtual void setModifiedSelectedChannels(bool) {}
+    /// The user's own sources, or their states, have changed.
+    virtual void ownSourcesChanged() {}
 };
 
 } // namespace guide

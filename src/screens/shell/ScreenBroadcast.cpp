@@ -49,6 +49,10 @@ void ScreenBroadcast::setModifiedSelectedChannels() {
     forEachScreen([](ListingsScreen& screen) { screen.setModifiedSelectedChannels(true); });
 }
 
+void ScreenBroadcast::ownSourcesChanged() {
+    forEachScreen([](ListingsScreen& screen) { screen.ownSourcesChanged(); });
+}
+
 void ScreenBroadcast::forEachScreen(const std::function<void(ListingsScreen&)>& call) const {
     // A copy, because a screen may change a stack.
     std::vector<std::shared_ptr<ViewController>> screens;

@@ -30,6 +30,8 @@ class ScreenBroadcast {
     /// Called after the catalogue was replaced or has cost the selection channels.
     void selectionCleanedUp();
     void setModifiedSelectedChannels();
+    /// The user's own sources, or their states, have changed.
+    void ownSourcesChanged();
 
   private:
     void forEachScreen(const std::function<void(ListingsScreen&)>& call) const;

@@ -33,6 +33,9 @@
 
 namespace guide {
 
+class KnownFeeds;
+class SourceActions;
+
 /// The services that screens use. All of them must outlive the screens.
 struct ScreenEnvironment {
     const Clock& clock;
@@ -73,6 +76,10 @@ struct ScreenEnvironment {
         swipeActions = [](const auto&, const auto&) { return std::vector<RowAction>(); };
     /// Where the channel's schedule was loaded from, for display; empty when unknown.
     std::function<QString(const ObjectId&)> sourceOfSchedule = [](const auto&) { return QString(); };
+    /// Of the user's own sources; null in a guide without them.
+    SourceActions* sourceActions = nullptr;
+    /// Null when there are none.
+    const KnownFeeds* knownFeeds = nullptr;
 };
 
 } // namespace guide

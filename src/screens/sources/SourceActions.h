@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/own/OwnSource.h"
+#include "core/own/OwnSources.h"
 #include "core/own/SourcePreview.h"
 
 #include <QString>
@@ -58,18 +58,27 @@ class SourceActions {
     using Progress = std::function<void(int channels, std::int64_t bytes)>;
     using Proposed = std::function<void(SourceProposal proposal)>;
 
-    /// Whether the address leads to a host that was never asked, so that the user has to agree.
+    /// Never null.
+    virtual SharedOwnSources sources() const = 0;
+    /// Whether the input is a program of this device, so that the user has to agree before it runs.
+    virtual bool isProgram(const QString& input) const = 0;
+    /// The host of the address, if it was never asked, so that the user has to agree.
     virtual std::optional<QString> newHostOf(const QString& input) const = 0;
     /// Fetches and reads an address, a file, or the output of a program.
     virtual Token propose(const QString& input, Progress progress, Proposed proposed) = 0;
     /// What a source that was added offers now, from what was fetched last.
     virtual Token proposeAgain(const OwnSourceId& source, Progress progress, Proposed proposed) = 0;
+    /// Runs each program that may be a grabber, to ask what it is.
     virtual Token findGrabbers(std::function<void(std::vector<GrabberProgram>)> found) = 0;
 
     /// Adds the source with the channels chosen by their keys, selects these channels, and loads them. A
     /// playlist's channels take their schedules from `matches`.
     virtual OwnSourceId add(const SourceProposal& proposal, const OwnSource& settings,
                             const QStringList& chosen, const std::vector<MatchedEntry>& matches) = 0;
+    /// Chooses the channels of a source that was added. Those that stay keep their settings; the others leave
+    /// the selection, new ones enter it and are loaded.
+    virtual void choose(const OwnSourceId& source, const SourceProposal& proposal, const QStringList& chosen,
+                        const std::vector<MatchedEntry>& matches) = 0;
     /// Replaces the record; channels that it no longer has leave the selection, new ones enter it.
     virtual void update(const OwnSource& source) = 0;
     virtual void remove(const OwnSourceId& source) = 0;

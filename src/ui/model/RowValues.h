@@ -106,9 +106,14 @@ struct TextRowValue : RowValue, TextRow {
     Q_PROPERTY(QUrl icon READ iconUrl CONSTANT FINAL)
     /// A Glyph.Symbol; -1 for none.
     Q_PROPERTY(int symbol READ symbolNumber CONSTANT FINAL)
+    /// A colour role.
+    Q_PROPERTY(int symbolColor READ symbolColorRole CONSTANT FINAL)
 
   public:
     int titleColorRole() const { return static_cast<int>(titleColor); }
+    int symbolColorRole() const {
+        return static_cast<int>(titleColor == ColorRole::Label ? ColorRole::SecondaryLabel : titleColor);
+    }
     int accessoryKind() const { return static_cast<int>(accessory); }
     QUrl iconUrl() const;
     int symbolNumber() const { return symbol ? static_cast<int>(*symbol) : -1; }
@@ -173,6 +178,7 @@ struct InputRowValue : RowValue, InputRow {
     Q_PROPERTY(QString placeholder MEMBER placeholder CONSTANT FINAL)
     Q_PROPERTY(QString error MEMBER error CONSTANT FINAL)
     Q_PROPERTY(bool enabled MEMBER enabled CONSTANT FINAL)
+    Q_PROPERTY(bool focusOnOpening MEMBER focusOnOpening CONSTANT FINAL)
 
   public:
     int inputKind() const { return static_cast<int>(kind); }

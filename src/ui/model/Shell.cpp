@@ -1,5 +1,7 @@
 #include "ui/model/Shell.h"
 
+#include "screens/Localized.h"
+
 #include <QFontMetricsF>
 #include <QStringList>
 
@@ -122,6 +124,31 @@ QString Shell::noticeText() const {
 QString Shell::noticeAction() const {
     const Notice* notice = m_tabBarController.presentedNotice();
     return notice ? notice->actionTitle : QString();
+}
+
+QString Shell::fileChooserTitle() const {
+    const FileChooser* chooser = m_tabBarController.presentedFileChooser();
+    return chooser ? chooser->title : QString();
+}
+
+void Shell::closeFileChooser(const QUrl& file) {
+    m_tabBarController.closeFileChooser(file.toLocalFile());
+}
+
+void Shell::cannotChooseFiles() {
+    m_tabBarController.closeFileChooser();
+    m_tabBarController.presentNotice(
+        {Localized::tr("Files cannot be chosen: the package %1 is missing. Type the path of the file.")
+             .arg("qml6-module-qtquick-dialogs"_L1)});
+}
+
+void Shell::drop(const QList<QUrl>& urls, const QString& text) {
+    const QString input = urls.isEmpty()          ? text.trimmed()
+                          : urls[0].isLocalFile() ? urls[0].toLocalFile()
+                                                  : urls[0].toString(QUrl::FullyEncoded);
+    if (!input.isEmpty()) {
+        Q_EMIT dropped(input);
+    }
 }
 
 void Shell::openSearch() {

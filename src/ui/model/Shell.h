@@ -7,6 +7,7 @@
 #include <QAbstractListModel>
 #include <QFont>
 #include <QQmlEngine>
+#include <QUrl>
 
 #include <vector>
 
@@ -46,6 +47,10 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     /// Empty for no button.
     Q_PROPERTY(QString noticeAction READ noticeAction NOTIFY noticeUpdated)
 
+    /// Whether the user is to choose a file.
+    Q_PROPERTY(bool fileChooserShown READ fileChooserShown NOTIFY fileChooserUpdated)
+    Q_PROPERTY(QString fileChooserTitle READ fileChooserTitle NOTIFY fileChooserUpdated)
+
     /// The screen over the whole window; null when there is none.
     Q_PROPERTY(guide::Page* cover READ cover NOTIFY coverUpdated)
     /// Whether the window takes the whole screen.
@@ -72,6 +77,8 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     bool noticeShown() const { return m_tabBarController.presentedNotice() != nullptr; }
     QString noticeText() const;
     QString noticeAction() const;
+    bool fileChooserShown() const { return m_tabBarController.presentedFileChooser() != nullptr; }
+    QString fileChooserTitle() const;
     Page* cover() const { return m_cover; }
     bool fullScreen() const { return m_cover && m_cover->player() && m_cover->player()->fullScreen(); }
 
@@ -87,6 +94,12 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     Q_INVOKABLE void escapeAlert();
     Q_INVOKABLE void pressNoticeAction() { m_tabBarController.pressNoticeAction(); }
     Q_INVOKABLE void dismissNotice() { m_tabBarController.dismissNotice(); }
+    /// An empty URL when the user chose none.
+    Q_INVOKABLE void closeFileChooser(const QUrl& file);
+    /// Nothing on this device lets the user choose files.
+    Q_INVOKABLE void cannotChooseFiles();
+    /// Something was dropped on the window.
+    Q_INVOKABLE void drop(const QList<QUrl>& urls, const QString& text);
 
   Q_SIGNALS:
     void selectedIndexChanged();
@@ -95,6 +108,9 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     void noticeUpdated();
     void coverUpdated();
     void fullScreenUpdated();
+    void fileChooserUpdated();
+    /// An address, or the path of a file.
+    void dropped(const QString& input);
 
   private:
     QString tabTitle(const TabBarItem& item) const;
@@ -102,6 +118,7 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     void selectedTabChanged() override { Q_EMIT selectedIndexChanged(); }
     void alertChanged() override { Q_EMIT alertUpdated(); }
     void noticeChanged() override { Q_EMIT noticeUpdated(); }
+    void fileChooserChanged() override { Q_EMIT fileChooserUpdated(); }
     void coverChanged() override;
 
     TabBarController& m_tabBarController;

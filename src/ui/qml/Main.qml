@@ -86,6 +86,15 @@ FocusScope {
         color: Theme.background
     }
 
+    DropArea {
+        anchors.fill: parent
+        onEntered: drag => drag.accepted = drag.hasUrls || drag.hasText
+        onDropped: drop => {
+            main.shell.drop(drop.urls, drop.text)
+            drop.accept(Qt.CopyAction)
+        }
+    }
+
     FocusScope {
         id: content
 
@@ -174,6 +183,19 @@ FocusScope {
         width: pages.width
         shell: main.shell
         onKeyboardLeft: content.forceActiveFocus()
+    }
+
+    Loader {
+        readonly property bool shown: main.shell.fileChooserShown
+
+        onShownChanged: {
+            if (shown)
+                setSource("panels/SystemFileChooser.qml", { "shell": main.shell })
+            else
+                source = ""
+        }
+        onStatusChanged: if (status === Loader.Error)
+            Qt.callLater(main.shell.cannotChooseFiles)
     }
 
     KeysPanel {

@@ -18,6 +18,10 @@ FocusScope {
         forceActiveFocus(Qt.TabFocusReason)
     }
 
+    // By a keyboard or a pointer.
+    function opened() {
+    }
+
     // The user has changed what is searched for.
     function searchEdited() {
     }

@@ -32,6 +32,12 @@ FocusScope {
         return bar.focusSearch(selecting)
     }
 
+    // By a keyboard or a pointer.
+    function opened() {
+        if (drawn)
+            drawn.opened()
+    }
+
     Rectangle {
         anchors.fill: parent
         color: Theme.background

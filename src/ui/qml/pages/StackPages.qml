@@ -37,6 +37,14 @@ FocusScope {
             topScreen.focusSearch(true)
     }
 
+    // Later, when the screen has taken the focus from the one below.
+    onTopScreenChanged: Qt.callLater(screenOpened)
+
+    function screenOpened() {
+        if (topScreen && shell && !shell.touching)
+            topScreen.opened()
+    }
+
     onSideBySideChanged: stack.setSideBySide(sideBySide)
     Component.onCompleted: stack.setSideBySide(sideBySide)
     clip: true

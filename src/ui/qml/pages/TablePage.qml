@@ -19,6 +19,10 @@ ContentPage {
         list.enter()
     }
 
+    function opened() {
+        list.fieldWanted = true
+    }
+
     function searchEdited() {
         list.currentIndex = -1
         list.positionViewAtBeginning()

@@ -8,6 +8,9 @@ TableRow {
 
     readonly property bool wrong: row.error !== ""
 
+    // Until the user goes elsewhere.
+    readonly property bool focusWanted: row.focusOnOpening && list !== null && list.fieldWanted && list.currentIndex < 0
+
     activatable: false
     takesText: row.enabled
     accessibleRole: Accessible.Grouping
@@ -17,6 +20,9 @@ TableRow {
     function activate() {
         field.forceActiveFocus(Qt.TabFocusReason)
     }
+
+    onFocusWantedChanged: if (focusWanted)
+        field.forceActiveFocus()
 
     // An update does not replace what the user is typing.
     onRowChanged: if (!field.activeFocus)

@@ -19,6 +19,9 @@ ListView {
     // Whether the head's picture and actions are drawn beside the list.
     property bool besideAside: false
 
+    // Whether the screen was opened with a keyboard or a pointer, so that a field may take the keyboard.
+    property bool fieldWanted: false
+
     // The width that the index strip covers.
     property double trailingInset: 0
 

@@ -33,7 +33,7 @@ TableRow {
         height: width
         visible: cell.hasSymbol
         symbol: cell.hasSymbol ? cell.row.symbol : Glyph.Recent
-        color: Theme.secondaryLabel
+        color: Theme.roles[cell.row.symbolColor]
     }
 
     Item {
