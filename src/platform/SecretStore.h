@@ -6,8 +6,8 @@
 
 namespace guide {
 
-/// Keeps short secrets of the user, such as the passwords of addresses, on this device. They may block; not
-/// on the main thread.
+/// Keeps short secrets of the user, such as the passwords of addresses, on this device. Calls may block for
+/// half a minute; not on the main thread. Any other thread.
 class SecretStore {
   public:
     virtual ~SecretStore() = default;
