@@ -22,6 +22,8 @@ struct KnownFeed {
     int channels = 0;
     /// When it was last reported alive.
     QDate alive;
+    /// What the provider says about it, in English; may be empty.
+    QString note = {};
 };
 
 struct KnownFeedCountry {
@@ -36,20 +38,20 @@ class KnownFeeds {
     KnownFeeds() = default;
     explicit KnownFeeds(std::vector<KnownFeedCountry> countries)
         : m_countries(std::move(countries)) {}
-    /// Leaves out what is malformed.
+    /// Leaves out what is malformed, and addresses that are not http or https.
     static KnownFeeds fromJSON(const QByteArray& json);
     /// Empty when the file cannot be read.
     static KnownFeeds fromFile(const QString& path);
 
     const std::vector<KnownFeedCountry>& countries() const { return m_countries; }
-    /// Null when there are none.
+    /// Null when there are none. In either case of letters.
     const KnownFeedCountry* feedsForRegion(const QString& region) const;
 
   private:
     std::vector<KnownFeedCountry> m_countries;
 };
 
-/// The name of a country in the locale's language, from its two letters.
+/// The name of a country in the locale's language, from its two letters; these when it has none.
 QString countryName(const QString& region, const QLocale& locale);
 
 /// The two letters of the locale's country.
