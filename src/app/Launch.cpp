@@ -29,7 +29,8 @@ bool QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBar
     readSettings();
     makeSources();
     // Before the catalogue, whose filter tests every icon.
-    m_icons = std::make_unique<TVStationIcons>(m_environment.iconFolder, m_environment.device.screenScale());
+    m_icons = std::make_unique<TVStationIcons>(m_environment.iconFolder, m_environment.device.screenScale(),
+                                               m_environment.folders.caches + u'/' + kOwnIconFolder);
     makeCatalogue();
     if (m_catalogue.snapshot()->empty()) {
         return false;

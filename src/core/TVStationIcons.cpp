@@ -1,5 +1,7 @@
 #include "core/TVStationIcons.h"
 
+#include "core/ChannelInitials.h"
+#include "core/ObjectId.h"
 #include "core/PictureDecoding.h"
 
 #include <QDirIterator>
@@ -21,6 +23,7 @@ namespace {
 
 constexpr double kIconWidth = 50;
 constexpr double kIconHeight = 36;
+constexpr auto kOwnPrefix = "own/"_L1;
 
 bool isImageExtension(QStringView extension) {
     static constexpr std::array kExtensions{"png"_L1, "webp"_L1, "jpg"_L1, "jpeg"_L1, "gif"_L1, "svg"_L1};
@@ -77,15 +80,28 @@ QImage readImage(const QString& path, double screenScale) {
                           });
 }
 
+/// The channel whose icon this is; nothing for an icon of the catalogue.
+std::optional<QString> ownChannelOf(const QString& name) {
+    if (!name.startsWith(kOwnPrefix)) {
+        return std::nullopt;
+    }
+    const QString channel = name.mid(kOwnPrefix.size());
+    return ObjectId::isHex(channel) ? std::optional(channel) : std::nullopt;
+}
+
 } // namespace
 
 struct TVStationIcons::State {
     QString folder;
+    QString ownFolder;
     double screenScale = 1;
 
     std::mutex guard;
     QHash<QString, QImage> icons;                 // guarded
     std::optional<QHash<QString, QString>> files; // guarded; the folder's files, read on first use
+    QHash<QString, QString> ownTitles;            // guarded; by name
+    // Guarded; of own titles and files, so that an icon made of old ones is not kept.
+    std::uint64_t changes = 0;
 
     // Requires the guard.
     QString pathOf(const QString& name) {
@@ -94,17 +110,51 @@ struct TVStationIcons::State {
         }
         return files->value(composed(name));
     }
+
+    QImage ownIcon(const QString& channel, const QString& title) const {
+        QImage picture;
+        if (!ownFolder.isEmpty()) {
+            picture = readImage(ownFolder + u'/' + channel, screenScale);
+        }
+        return picture.isNull()
+                   ? channelInitialsIcon(title, ObjectId::fromHex(channel).hash(), standardSize(screenScale))
+                   : picture;
+    }
 };
 
-TVStationIcons::TVStationIcons(const QString& iconFolder, double screenScale)
+TVStationIcons::TVStationIcons(const QString& iconFolder, double screenScale, const QString& ownIconFolder)
     : m_state(std::make_unique<State>()) {
     m_state->folder = QDir::cleanPath(iconFolder);
+    m_state->ownFolder = ownIconFolder;
     m_state->screenScale = screenScale;
 }
 
 TVStationIcons::~TVStationIcons() = default;
 
+void TVStationIcons::setOwnTitles(const std::vector<std::pair<QString, QString>>& titlesByIcon) {
+    QHash<QString, QString> titles;
+    titles.reserve(static_cast<qsizetype>(titlesByIcon.size()));
+    for (const auto& [name, title] : titlesByIcon) {
+        titles.insert(name, title);
+    }
+    const std::lock_guard lock(m_state->guard);
+    m_state->icons.removeIf([&](const QHash<QString, QImage>::iterator icon) {
+        return ownChannelOf(icon.key()) && titles.value(icon.key()) != m_state->ownTitles.value(icon.key());
+    });
+    m_state->ownTitles = std::move(titles);
+    ++m_state->changes;
+}
+
+void TVStationIcons::dropIcon(const QString& name) {
+    const std::lock_guard lock(m_state->guard);
+    m_state->icons.remove(name);
+    ++m_state->changes;
+}
+
 bool TVStationIcons::hasIconFile(const QString& name) {
+    if (ownChannelOf(name)) {
+        return true;
+    }
     const std::lock_guard lock(m_state->guard);
     return !name.isEmpty() && !m_state->pathOf(name).isEmpty();
 }
@@ -113,23 +163,35 @@ QImage TVStationIcons::iconNamed(const QString& name) {
     if (name.isEmpty()) {
         return {};
     }
+    const std::optional<QString> ownChannel = ownChannelOf(name);
     QString path;
+    QString title;
+    std::uint64_t changes = 0;
     {
         const std::lock_guard lock(m_state->guard);
         const auto known = m_state->icons.constFind(name);
         if (known != m_state->icons.cend()) {
             return *known;
         }
-        path = m_state->pathOf(name);
+        changes = m_state->changes;
+        if (ownChannel) {
+            title = m_state->ownTitles.value(name);
+        } else {
+            path = m_state->pathOf(name);
+        }
     }
-    if (path.isEmpty()) {
+    if (path.isEmpty() && !ownChannel) {
         return {};
     }
     // Two threads may do this at once for one name; their images are equal.
-    const QImage icon = toIcon(readImage(path, m_state->screenScale), m_state->screenScale);
+    const QImage icon =
+        toIcon(ownChannel ? m_state->ownIcon(*ownChannel, title) : readImage(path, m_state->screenScale),
+               m_state->screenScale);
     if (!icon.isNull()) {
         const std::lock_guard lock(m_state->guard);
-        m_state->icons.insert(name, icon);
+        if (!ownChannel || changes == m_state->changes) {
+            m_state->icons.insert(name, icon);
+        }
     }
     return icon;
 }

@@ -101,5 +101,29 @@ TEST(TVStationIconsTest, FindsIconsByName) {
     EXPECT_TRUE(stationIcons.iconNamed(u"one"_s).isNull()) << "read again";
 }
 
+TEST(TVStationIconsTest, OwnChannelsAlwaysHaveAnIcon) {
+    QTemporaryDir folder;
+    const QString channel = u"ff0102030405060708090a0b"_s;
+    const QString name = u"own/"_s + channel;
+    TVStationIcons icons(folder.path(), 2, folder.path());
+    EXPECT_TRUE(icons.hasIconFile(name));
+    const QImage unknown = icons.iconNamed(name);
+    ASSERT_EQ(unknown.size(), QSize(100, 72));
+    const QColor plate = unknown.pixelColor(50, 3);
+    EXPECT_EQ(plate.alpha(), 255);
+    EXPECT_NE(icons.iconNamed(u"own/ff0102030405060708090a0c"_s).pixelColor(50, 3), plate);
+
+    ASSERT_TRUE(filled(50, 36, Qt::green).save(folder.filePath(channel), "png"));
+    EXPECT_EQ(icons.iconNamed(name).pixelColor(50, 3), plate) << "kept until it is dropped";
+    icons.dropIcon(name);
+    EXPECT_EQ(icons.iconNamed(name).pixelColor(50, 3), QColor(Qt::green));
+    ASSERT_TRUE(replaceFile(folder.filePath(channel), "no image"));
+    icons.setOwnTitles({{name, u"ČT 1"_s}});
+    EXPECT_EQ(icons.iconNamed(name).pixelColor(50, 3), plate);
+
+    ASSERT_TRUE(filled(10, 10).save(folder.filePath(u"secret.png"_s)));
+    EXPECT_TRUE(icons.iconNamed(u"own/../secret.png"_s).isNull());
+}
+
 } // namespace
 } // namespace guide
