@@ -1,7 +1,7 @@
 #include "sources/PictureFetcher.h"
 
 #include "core/PictureDecoding.h"
-#include "sources/WebURL.h"
+#include "sources/PictureTransfer.h"
 
 #include <memory>
 #include <optional>
@@ -10,16 +10,7 @@ namespace guide {
 
 namespace {
 
-constexpr int kMostRedirects = 2;
 constexpr std::chrono::minutes kFailureAge{10};
-
-std::optional<QUrl> redirectOf(const TransferResult& result, const QUrl& from) {
-    if (!result.response || result.response->statusCode < 300 || result.response->statusCode >= 400) {
-        return std::nullopt;
-    }
-    const auto location = result.response->header("Location");
-    return location ? std::optional(from.resolved(QUrl::fromEncoded(*location))) : std::nullopt;
-}
 
 } // namespace
 
@@ -46,40 +37,14 @@ QByteArray PictureFetcher::fetch(const QUrl& url, Load load) {
     return file;
 }
 
-QByteArray PictureFetcher::transfer(QUrl url) const {
-    for (int redirects = 0; redirects <= kMostRedirects && isWebURL(url); ++redirects) {
-        HTTPRequest request;
-        request.url = url;
-        request.headers = {{"User-Agent", m_environment.userAgent.value()}};
-        request.timeout = std::chrono::seconds(20);
-        request.resourceTimeout = std::chrono::seconds(30);
-        request.waitsForConnectivity = true;
-        QByteArray file;
-        bool tooLarge = false;
-        m_environment.networkActivity.startNetworkActivity();
-        const TransferResult result =
-            m_environment.client.perform(request, [&file, &tooLarge](QByteArrayView piece) {
-                tooLarge = file.size() + piece.size() > kShowPictureLimits.bytes;
-                if (!tooLarge) {
-                    file.append(piece);
-                }
-                return !tooLarge;
-            });
-        m_environment.networkActivity.stopNetworkActivity();
-        if (result.error) {
-            if (!result.error->cancelled && m_environment.noRemoteHostAlert) {
-                m_environment.noRemoteHostAlert(*result.error);
-            }
-            return {};
-        }
-        const auto next = redirectOf(result, url);
-        if (!next) {
-            const int status = result.response ? result.response->statusCode : 0;
-            return status >= 200 && status < 300 ? file : QByteArray();
-        }
-        url = *next;
+QByteArray PictureFetcher::transfer(const QUrl& url) const {
+    PictureTransfer transfer =
+        transferPicture(m_environment.client, m_environment.networkActivity, m_environment.userAgent, url,
+                        {.bytes = kShowPictureLimits.bytes, .waitsForConnectivity = true});
+    if (transfer.error && !transfer.error->cancelled && m_environment.noRemoteHostAlert) {
+        m_environment.noRemoteHostAlert(*transfer.error);
     }
-    return {};
+    return std::move(transfer.file);
 }
 
 void PictureFetcher::dropFiles() {

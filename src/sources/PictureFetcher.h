@@ -50,7 +50,7 @@ class PictureFetcher {
     void dropFiles();
 
   private:
-    QByteArray transfer(QUrl url) const;
+    QByteArray transfer(const QUrl& url) const;
 
     const PictureFetcherEnvironment m_environment;
     std::mutex m_guard;

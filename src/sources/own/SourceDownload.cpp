@@ -1,6 +1,7 @@
 #include "sources/own/SourceDownload.h"
 
 #include "platform/files/FileReplacement.h"
+#include "sources/Redirect.h"
 #include "sources/WebURL.h"
 
 #include <QDebug>
@@ -29,10 +30,6 @@ constexpr qsizetype kLongestValidator = 1024;
 constexpr int kNotModified = 304;
 constexpr int kTooManyRequests = 429;
 constexpr int kUnavailable = 503;
-
-bool isRedirect(int status) {
-    return status >= 300 && status < 400 && status != kNotModified;
-}
 
 bool isSuccess(int status) {
     return status >= 200 && status < 300;
@@ -144,17 +141,14 @@ class Download {
         QUrl url = withoutUser(m_request.url);
         for (int redirects = 0; isWebURL(url); ++redirects) {
             const TransferResult transfer = perform(url);
-            const std::optional<QByteArray> location =
-                transfer.response && !transfer.error && isRedirect(transfer.response->statusCode)
-                    ? transfer.response->header("Location")
-                    : std::nullopt;
-            if (!location) {
+            const std::optional<QUrl> next = redirectOf(transfer, url);
+            if (!next) {
                 return result(transfer);
             }
             if (redirects == kMostRedirects) {
                 return failed(SourceResult::TooManyRedirects);
             }
-            url = withoutUser(url.resolved(QUrl::fromEncoded(location->trimmed(), QUrl::TolerantMode)));
+            url = withoutUser(*next);
             if (const QString scheme = url.scheme(); scheme != "http"_L1 && scheme != "https"_L1) {
                 return failed(SourceResult::ForbiddenRedirect, scheme);
             }
