@@ -1,13 +1,13 @@
 #include "platform/encoding/Decompression.h"
 
 #include "platform/encoding/GzipInflate.h"
+#include "platform/encoding/Unpacker.h"
 
 #include <QDebug>
 #include <QtEndian>
 
 #include <algorithm>
 #include <cstring>
-#include <lzma.h>
 #include <memory>
 #include <utility>
 
@@ -137,22 +137,6 @@ void logOverLimit(std::uint64_t limit) {
     qInfo("gzip file unpacks to more than %llu bytes", static_cast<unsigned long long>(limit));
 }
 
-struct LzmaStream {
-    lzma_stream stream = LZMA_STREAM_INIT;
-    LzmaStream() = default;
-    LzmaStream(const LzmaStream&) = delete;
-    LzmaStream& operator=(const LzmaStream&) = delete;
-    ~LzmaStream() { lzma_end(&stream); }
-};
-
-// Skips the zero bytes that may separate two streams of a file.
-void skipPadding(lzma_stream& stream) {
-    while (stream.avail_in > 0 && *stream.next_in == 0) {
-        ++stream.next_in;
-        --stream.avail_in;
-    }
-}
-
 } // namespace
 
 std::uint64_t DecompressionLimits::gzipLimit() const {
@@ -209,37 +193,24 @@ std::optional<QByteArray> dataWithXzData(QByteArrayView data, const Decompressio
     }
     // Untouched pages of a large block cost nothing, so the whole size is allocated at once.
     QByteArray output(static_cast<qsizetype>(limit), Qt::Uninitialized);
-    LzmaStream decoder;
-    lzma_stream& stream = decoder.stream;
-    stream.next_in = reinterpret_cast<const std::uint8_t*>(data.data());
-    stream.avail_in = static_cast<std::size_t>(data.size());
-    stream.next_out = reinterpret_cast<std::uint8_t*>(output.data());
-    stream.avail_out = static_cast<std::size_t>(limit);
-    bool isDamaged = false;
-    do {
-        if (lzma_stream_decoder(&stream, std::max<std::uint64_t>(limits.physicalMemory / 4, 1), 0) !=
-            LZMA_OK) {
-            return std::nullopt;
-        }
-        lzma_ret outcome = LZMA_OK;
-        while (outcome == LZMA_OK && stream.avail_out > 0) {
-            outcome = lzma_code(&stream, LZMA_FINISH);
-        }
-        isDamaged = outcome != LZMA_STREAM_END && (outcome != LZMA_OK || stream.avail_out > 0);
-        if (isDamaged && !incomplete) {
-            return std::nullopt;
-        }
-        skipPadding(stream);
-    } while (!isDamaged && stream.avail_out > 0 &&
-             hasXzSignature(QByteArrayView(stream.next_in, static_cast<qsizetype>(stream.avail_in))));
-    const auto written = static_cast<qsizetype>(limit - stream.avail_out);
-    if (written == 0) {
+    const auto unpacker = xzUnpacker(limits.physicalMemory / 4);
+    PackedBytes input(data);
+    UnpackState state = UnpackState::More;
+    std::uint64_t filled = 0;
+    while (state == UnpackState::More && filled < limit) {
+        std::size_t written = 0;
+        state = unpacker->unpack(input, {output.data() + filled, static_cast<std::size_t>(limit - filled)},
+                                 written);
+        filled += written;
+    }
+    const bool isDamaged = state == UnpackState::Damaged || state == UnpackState::CutShort;
+    if (filled == 0 || (isDamaged && !incomplete)) {
         return std::nullopt;
     }
     if (incomplete) {
-        *incomplete = isDamaged || stream.avail_out == 0;
+        *incomplete = isDamaged || filled == limit;
     }
-    output.truncate(written);
+    output.truncate(static_cast<qsizetype>(filled));
     return output;
 }
 

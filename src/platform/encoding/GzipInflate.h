@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/encoding/Unpacker.h"
+
 #include <QByteArrayView>
 
 #include <cstddef>
@@ -30,12 +32,10 @@ enum class GzipEnd {
 /// Unpacks every member of a gzip file and ignores the bytes after the last one.
 GzipEnd inflateWithZlib(QByteArrayView data, GzipOutput& output);
 
-/// The same at two to three times the speed. Returns Damaged for an incomplete file, after unpacking an
-/// unspecified part of it, and for header fields that this decoder does not check (header checksum, reserved
-/// flags). Accepts some code tables that zlib rejects, provided that every checksum matches.
+/// The same with the faster decoder and its deviations. Always Damaged in a build without it.
 GzipEnd inflateWithIsal(QByteArrayView data, GzipOutput& output);
 
-/// False in a build without the library; inflateWithIsal then always returns Damaged.
+/// False in a build without the faster decoder.
 bool hasIsal();
 
 } // namespace guide

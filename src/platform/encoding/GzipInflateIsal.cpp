@@ -1,30 +1,77 @@
 #include "platform/encoding/Decompression.h"
 #include "platform/encoding/GzipInflate.h"
+#include "platform/encoding/Unpacker.h"
 
 #ifdef QUELLIN_ISAL
 
-#include <algorithm>
 #include <isa-l/igzip_lib.h>
-#include <memory>
 
 namespace guide {
 
 namespace {
 
-// The library counts available bytes in 32 bits.
-constexpr std::uint64_t kLargestStep = std::uint64_t{1} << 30;
 constexpr qsizetype kFlagsOffset = 3;
 // Text, extra field, name and comment: fields that are skipped without a check.
 constexpr int kUncheckedFlags = 0x1d;
-
-std::uint32_t step(std::uint64_t size) {
-    return static_cast<std::uint32_t>(std::min(size, kLargestStep));
-}
 
 bool canReadHeader(QByteArrayView member) {
     return hasGzipSignature(member) && member.size() > kFlagsOffset &&
            (static_cast<std::uint8_t>(member[kFlagsOffset]) & ~kUncheckedFlags) == 0;
 }
+
+class IsalUnpacker final : public Unpacker {
+  public:
+    UnpackState unpack(PackedInput& input, std::span<char> room, std::size_t& written) override {
+        written = 0;
+        if (m_atMember) {
+            const QByteArrayView header = input.peek(kFlagsOffset + 1);
+            if (m_members > 0 && !hasGzipSignature(header)) {
+                return UnpackState::Complete;
+            }
+            if (!canReadHeader(header)) {
+                return UnpackState::Damaged;
+            }
+            begin();
+        }
+        const QByteArrayView packed = input.peek(1);
+        const std::uint32_t available = unpackStep(static_cast<std::size_t>(packed.size()));
+        const std::uint32_t offered = unpackStep(room.size());
+        m_state.next_in = const_cast<std::uint8_t*>( // NOLINT: only read
+            reinterpret_cast<const std::uint8_t*>(packed.data()));
+        m_state.avail_in = available;
+        m_state.next_out = reinterpret_cast<std::uint8_t*>(room.data());
+        m_state.avail_out = offered;
+        const int outcome = isal_inflate(&m_state);
+        const std::uint32_t taken = available - m_state.avail_in;
+        input.skip(taken);
+        if (outcome != ISAL_DECOMP_OK) {
+            return UnpackState::Damaged;
+        }
+        written = offered - m_state.avail_out;
+        if (m_state.block_state == ISAL_BLOCK_FINISH) {
+            m_atMember = true;
+            ++m_members;
+            return UnpackState::More;
+        }
+        // Cut off when nothing moves.
+        return taken == 0 && written == 0 ? UnpackState::Damaged : UnpackState::More;
+    }
+
+  private:
+    void begin() {
+        if (m_members == 0) {
+            isal_inflate_init(&m_state);
+        } else {
+            isal_inflate_reset(&m_state);
+        }
+        m_state.crc_flag = ISAL_GZIP;
+        m_atMember = false;
+    }
+
+    inflate_state m_state;
+    bool m_atMember = true;
+    std::uint64_t m_members = 0;
+};
 
 } // namespace
 
@@ -32,50 +79,9 @@ bool hasIsal() {
     return true;
 }
 
-GzipEnd inflateWithIsal(QByteArrayView data, GzipOutput& output) {
-    if (!canReadHeader(data)) {
-        return GzipEnd::Damaged;
-    }
-    const auto state = std::make_unique<inflate_state>();
-    isal_inflate_init(state.get());
-    state->crc_flag = ISAL_GZIP;
-    state->next_in =
-        const_cast<std::uint8_t*>(reinterpret_cast<const std::uint8_t*>(data.data())); // NOLINT: only read
-    auto left = static_cast<std::uint64_t>(data.size());
-    for (;;) {
-        if (state->avail_in == 0) {
-            state->avail_in = step(left);
-            left -= state->avail_in;
-        }
-        const std::span<char> room = output.room();
-        const std::uint32_t offered = step(room.size());
-        state->next_out = reinterpret_cast<std::uint8_t*>(room.data());
-        state->avail_out = offered;
-        const std::uint32_t availableBefore = state->avail_in;
-        const int outcome = isal_inflate(state.get());
-        if (outcome != ISAL_DECOMP_OK) {
-            return GzipEnd::Damaged;
-        }
-        if (!output.take(offered - state->avail_out)) {
-            return GzipEnd::Stopped;
-        }
-        if (state->block_state == ISAL_BLOCK_FINISH) {
-            const QByteArrayView rest =
-                data.last(static_cast<qsizetype>(left) + static_cast<qsizetype>(state->avail_in));
-            if (!hasGzipSignature(rest)) {
-                return GzipEnd::Complete;
-            }
-            if (!canReadHeader(rest)) {
-                return GzipEnd::Damaged;
-            }
-            isal_inflate_reset(state.get());
-            state->crc_flag = ISAL_GZIP;
-        } else if ((state->avail_out > 0 && left == 0 && state->avail_in == 0) ||
-                   (state->avail_out == offered && state->avail_in == availableBefore)) {
-            // Cut off, or nothing moves.
-            return GzipEnd::Damaged;
-        }
-    }
+std::unique_ptr<Unpacker> isalGzipUnpacker() {
+    // Without clearing the large state, which the library does itself.
+    return std::unique_ptr<Unpacker>(new IsalUnpacker);
 }
 
 } // namespace guide
@@ -88,8 +94,8 @@ bool hasIsal() {
     return false;
 }
 
-GzipEnd inflateWithIsal(QByteArrayView, GzipOutput&) {
-    return GzipEnd::Damaged;
+std::unique_ptr<Unpacker> isalGzipUnpacker() {
+    return nullptr;
 }
 
 } // namespace guide

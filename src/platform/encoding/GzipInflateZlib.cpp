@@ -1,9 +1,8 @@
 #include "platform/encoding/Decompression.h"
-#include "platform/encoding/GzipInflate.h"
+#include "platform/encoding/Unpacker.h"
 
 #include <QDebug>
 
-#include <algorithm>
 #include <zlib.h>
 
 namespace guide {
@@ -12,64 +11,59 @@ namespace {
 
 // Accepts only the gzip wrapper.
 constexpr int kGzipWindowBits = 31;
-// zlib counts available bytes in 32 bits.
-constexpr std::uint64_t kLargestStep = std::uint64_t{1} << 30;
 
-uInt step(std::uint64_t size) {
-    return static_cast<uInt>(std::min(size, kLargestStep));
-}
-
-struct ZlibStream {
-    z_stream stream{};
-    ZlibStream() = default;
-    ZlibStream(const ZlibStream&) = delete;
-    ZlibStream& operator=(const ZlibStream&) = delete;
+class ZlibUnpacker final : public Unpacker {
+  public:
+    ZlibUnpacker()
+        : m_isOpen(inflateInit2(&m_stream, kGzipWindowBits) == Z_OK) {}
+    ZlibUnpacker(const ZlibUnpacker&) = delete;
+    ZlibUnpacker& operator=(const ZlibUnpacker&) = delete;
     // Does nothing if inflateInit2 failed.
-    ~ZlibStream() { inflateEnd(&stream); }
+    ~ZlibUnpacker() override { inflateEnd(&m_stream); }
+
+    UnpackState unpack(PackedInput& input, std::span<char> room, std::size_t& written) override {
+        written = 0;
+        if (!m_isOpen) {
+            qInfo("ret != Z_OK");
+            return UnpackState::Damaged;
+        }
+        const QByteArrayView packed = input.peek(1);
+        const uInt available = unpackStep(static_cast<std::size_t>(packed.size()));
+        const uInt offered = unpackStep(room.size());
+        m_stream.next_in =
+            const_cast<Bytef*>(reinterpret_cast<const Bytef*>(packed.data())); // NOLINT: only read
+        m_stream.avail_in = available;
+        m_stream.next_out = reinterpret_cast<Bytef*>(room.data());
+        m_stream.avail_out = offered;
+        const int outcome = inflate(&m_stream, Z_NO_FLUSH);
+        const uInt taken = available - m_stream.avail_in;
+        input.skip(taken);
+        written = offered - m_stream.avail_out;
+        m_hasWritten = m_hasWritten || written > 0;
+        if (outcome == Z_STREAM_END) {
+            const bool hasMore = hasGzipSignature(input.peek(2)) && inflateReset(&m_stream) == Z_OK;
+            return hasMore ? UnpackState::More : UnpackState::Complete;
+        }
+        if (outcome == Z_OK && (taken > 0 || written > 0)) {
+            return UnpackState::More;
+        }
+        if ((outcome == Z_OK || (outcome == Z_BUF_ERROR && m_hasWritten)) && packed.isEmpty()) {
+            return UnpackState::CutShort;
+        }
+        qInfo("inflate: ret != Z_OK %d", outcome);
+        return UnpackState::Damaged;
+    }
+
+  private:
+    z_stream m_stream{};
+    const bool m_isOpen;
+    bool m_hasWritten = false;
 };
 
 } // namespace
 
-GzipEnd inflateWithZlib(QByteArrayView data, GzipOutput& output) {
-    ZlibStream decoder;
-    z_stream& stream = decoder.stream;
-    if (inflateInit2(&stream, kGzipWindowBits) != Z_OK) {
-        qInfo("ret != Z_OK");
-        return GzipEnd::Damaged;
-    }
-    stream.next_in = const_cast<Bytef*>(reinterpret_cast<const Bytef*>(data.data())); // NOLINT: only read
-    auto left = static_cast<std::uint64_t>(data.size());
-    bool anything = false;
-    for (;;) {
-        if (stream.avail_in == 0) {
-            stream.avail_in = step(left);
-            left -= stream.avail_in;
-        }
-        const std::span<char> room = output.room();
-        const uInt offered = step(room.size());
-        stream.next_out = reinterpret_cast<Bytef*>(room.data());
-        stream.avail_out = offered;
-        const int outcome = inflate(&stream, Z_NO_FLUSH);
-        const uInt written = offered - stream.avail_out;
-        anything = anything || written > 0;
-        if (!output.take(written)) {
-            return GzipEnd::Stopped;
-        }
-        const bool inputEnded = left == 0 && stream.avail_in == 0;
-        if (outcome == Z_STREAM_END) {
-            const QByteArrayView rest =
-                data.last(static_cast<qsizetype>(left) + static_cast<qsizetype>(stream.avail_in));
-            if (!hasGzipSignature(rest) || inflateReset(&stream) != Z_OK) {
-                return GzipEnd::Complete;
-            }
-        } else if ((outcome == Z_BUF_ERROR && inputEnded && anything) ||
-                   (outcome == Z_OK && inputEnded && stream.avail_out > 0)) {
-            return GzipEnd::CutShort;
-        } else if (outcome != Z_OK) {
-            qInfo("inflate: ret != Z_OK %d", outcome);
-            return GzipEnd::Damaged;
-        }
-    }
+std::unique_ptr<Unpacker> zlibGzipUnpacker() {
+    return std::make_unique<ZlibUnpacker>();
 }
 
 } // namespace guide

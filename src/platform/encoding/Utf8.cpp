@@ -230,4 +230,79 @@ char* writeUtf8(QStringView text, char* out) {
     return QStringEncoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless).appendToBuffer(out, text);
 }
 
+bool isAscii(QByteArrayView bytes) {
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    const char* at = bytes.data();
+    const char* const end = at + bytes.size();
+    std::uint64_t block = 0;
+    for (; end - at >= qsizetype(sizeof block); at += sizeof block) {
+        std::memcpy(&block, at, sizeof block);
+        if ((block & kHighBits) != 0) {
+            return false;
+        }
+    }
+    return std::all_of(at, end, [](char byte) { return (static_cast<unsigned char>(byte) & 0x80) == 0; });
+}
+
+int characterSize(QByteArrayView text) {
+    const auto byte = [&text](qsizetype place) { return static_cast<unsigned char>(text[place]); };
+    const unsigned char first = byte(0);
+    if (first < 0x80) {
+        return 1;
+    }
+    const int size = first < 0xc2 || first > 0xf4 ? -1 : first < 0xe0 ? 2 : first < 0xf0 ? 3 : 4;
+    // Overlong forms, surrogates and what is above U+10FFFF show in the second byte.
+    const unsigned char least = first == 0xe0 ? 0xa0 : first == 0xf0 ? 0x90 : 0x80;
+    const unsigned char most = first == 0xed ? 0x9f : first == 0xf4 ? 0x8f : 0xbf;
+    for (qsizetype place = 1; place < size; ++place) {
+        if (place == text.size()) {
+            return 0;
+        }
+        if (!isContinuation(byte(place)) || (place == 1 && (byte(1) < least || byte(1) > most))) {
+            return -1;
+        }
+    }
+    return size;
+}
+
+std::size_t cutCharacterSize(QByteArrayView text) {
+    for (qsizetype size = 1; size <= std::min<qsizetype>(3, text.size()); ++size) {
+        const QByteArrayView end = text.last(size);
+        if (!isContinuation(static_cast<unsigned char>(end.front()))) {
+            return characterSize(end) == 0 ? static_cast<std::size_t>(size) : 0;
+        }
+    }
+    return 0;
+}
+
+std::int64_t blankControlCharacters(std::span<char> text) {
+    const auto isForbidden = [](char character) {
+        const auto byte = static_cast<unsigned char>(character);
+        return (byte < 0x20) & (byte != '\t') & (byte != '\n') & (byte != '\r');
+    };
+    // Compilers turn the inner loop into vector instructions.
+    constexpr std::size_t kBlock = 64;
+    std::int64_t replaced = 0;
+    for (std::size_t at = 0; at < text.size(); at += kBlock) {
+        const std::span<char> block = text.subspan(at, std::min(kBlock, text.size() - at));
+        unsigned char found = 0;
+        if (block.size() == kBlock) {
+            for (std::size_t i = 0; i < kBlock; ++i) {
+                found |= static_cast<unsigned char>(isForbidden(block[i]));
+            }
+        } else {
+            found = 1;
+        }
+        if (found != 0) {
+            for (char& character : block) {
+                if (isForbidden(character)) {
+                    character = ' ';
+                    ++replaced;
+                }
+            }
+        }
+    }
+    return replaced;
+}
+
 } // namespace guide
