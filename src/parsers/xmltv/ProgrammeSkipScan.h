@@ -12,6 +12,9 @@
 
 namespace guide {
 
+/// Replaces unwanted programmes.
+inline constexpr std::string_view kEmptyProgramme = "<programme/>";
+
 /// A feed from which parts were left out.
 struct FilteredFeed {
     QByteArray feed;

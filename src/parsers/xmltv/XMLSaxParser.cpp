@@ -1,5 +1,8 @@
 #include "parsers/xmltv/XMLSaxParser.h"
 
+#include "parsers/xmltv/XMLStream.h"
+#include "parsers/xmltv/XMLTagBounds.h"
+
 #include <algorithm>
 #include <cstring>
 #include <functional>
@@ -28,14 +31,6 @@ constexpr std::size_t kLeastElementSize = std::string_view("<a/>").size();
 /// The library limits the expansion of general entities, but not the number of parameter references.
 constexpr int kMostParameterReferences = 1'000;
 
-/// Longer stretches without a "<" are looked at more closely.
-constexpr std::size_t kLongStretch = std::size_t{64} << 10;
-constexpr std::size_t kMostTagBytes = std::size_t{1} << 20;
-/// The library compares every attribute of a tag with every other one, and likewise the names in the
-/// declaration of an attribute.
-constexpr std::size_t kMostAttributes = 10'000;
-constexpr std::size_t kMostDeclarationBytes = std::size_t{128} << 10;
-
 struct FreeContext {
     void operator()(xmlParserCtxtPtr context) const {
         if (context->myDoc) {
@@ -53,49 +48,6 @@ struct FreeText {
 
 std::string_view view(const xmlChar* text, std::size_t size) {
     return {reinterpret_cast<const char*>(text), size};
-}
-
-/// Whether the library can read the tag, comment or instruction that begins the text in reasonable time.
-bool isReadable(std::string_view text) {
-    if (text.starts_with("<![CDATA[")) {
-        return true;
-    }
-    const bool isDeclaration = text.starts_with("<!") && !text.starts_with("<!--");
-    text = text.substr(0, isDeclaration ? kMostDeclarationBytes : kMostTagBytes);
-    if (text.starts_with("<!--") || text.starts_with("<?")) {
-        return text.find(text[1] == '?' ? "?>" : "-->") != std::string_view::npos;
-    }
-    std::size_t values = 0;
-    for (std::size_t at = text.find_first_of(">\"'"); at != std::string_view::npos;
-         at = text.find_first_of(">\"'", at + 1)) {
-        if (text[at] == '>') {
-            return values <= kMostAttributes;
-        }
-        ++values;
-        at = text.find(text[at], at + 1);
-        if (at == std::string_view::npos) {
-            break;
-        }
-    }
-    return false;
-}
-
-/// The offset of the first tag that must not reach the library. Tags contain no "<", so that only the last
-/// "<" of each stretch is looked for.
-std::optional<std::size_t> unreadableTag(std::string_view document) {
-    std::size_t mark = document.find('<');
-    while (mark != std::string_view::npos && document.size() - mark > kLongStretch) {
-        const std::size_t last = document.substr(mark, kLongStretch).rfind('<');
-        if (last > 0) {
-            mark += last;
-            continue;
-        }
-        if (!isReadable(document.substr(mark))) {
-            return mark;
-        }
-        mark = document.find('<', mark + kLongStretch);
-    }
-    return std::nullopt;
 }
 
 /// Attributes in the form of libxml2: five pointers each, for name, prefix, namespace, value and its end.
@@ -155,17 +107,31 @@ class Parse {
     }
 
     std::optional<XMLBreak> run(const char* document) {
-        constexpr auto kNoMemory = "out of memory";
-        if (!m_context) {
-            return XMLBreak{0, kNoMemory};
-        }
-        m_document = document;
-        m_bound = m_document.size() + kEntityAllowance;
+        m_whole = document;
         // The input refers to the page; nothing is copied.
-        xmlParserInputPtr input =
-            xmlNewStringInputStream(m_context.get(), reinterpret_cast<const xmlChar*>(document));
+        return run(m_context
+                       ? xmlNewStringInputStream(m_context.get(), reinterpret_cast<const xmlChar*>(document))
+                       : nullptr);
+    }
+
+    std::optional<XMLBreak> run(XMLStream& stream) {
+        m_stream = &stream;
+        xmlParserInputPtr input = nullptr;
+        if (xmlParserInputBufferPtr buffer =
+                m_context ? xmlParserInputBufferCreateIO(readStream, nullptr, this, XML_CHAR_ENCODING_NONE)
+                          : nullptr) {
+            input = xmlNewIOInputStream(m_context.get(), buffer, XML_CHAR_ENCODING_NONE);
+            if (!input) {
+                xmlFreeParserInputBuffer(buffer);
+            }
+        }
+        return run(input);
+    }
+
+  private:
+    std::optional<XMLBreak> run(xmlParserInputPtr input) {
         if (!input) {
-            return XMLBreak{0, kNoMemory};
+            return XMLBreak{0, "out of memory"};
         }
         inputPush(m_context.get(), input);
         m_context->userData = this;
@@ -173,12 +139,31 @@ class Parse {
         flushText();
         m_context->userData = nullptr;
         if (!m_context->wellFormed && !m_break) {
-            m_break = XMLBreak{m_document.size(), "the document is not well-formed"};
+            m_break = XMLBreak{start() + bytes().size(), "the document is not well-formed"};
         }
         return std::move(m_break);
     }
 
-  private:
+    static int readStream(void* user, char* room, int size) {
+        Parse& parse = self(user);
+        // The library may look back by some hundred bytes.
+        constexpr std::size_t kLookBack = std::size_t{64} << 10;
+        const std::size_t reached = parse.reached().value_or(0);
+        const std::size_t kept = parse.m_text.size > 0 ? parse.m_text.start : reached;
+        parse.m_stream->forget(std::min(kept, reached) - std::min({kept, reached, kLookBack}));
+        return static_cast<int>(parse.m_stream->read({room, static_cast<std::size_t>(std::max(size, 0))}));
+    }
+
+    /// What is known of the document, and the offset where it begins.
+    std::string_view bytes() const { return m_stream ? m_stream->bytes() : m_whole; }
+    std::size_t start() const { return m_stream ? m_stream->start() : 0; }
+    /// How many bytes of the document the parser may have read.
+    std::size_t given() const { return m_stream ? m_stream->given() : m_whole.size(); }
+    /// Of the document, not of the entity that is being read.
+    std::optional<std::size_t> reached() const {
+        return m_context->inputNr > 0 ? offset(m_context->inputTab[0]->cur) : std::nullopt;
+    }
+
     static Parse& self(void* user) { return *static_cast<Parse*>(user); }
 
     static xmlSAXHandler handler() {
@@ -305,47 +290,55 @@ class Parse {
         std::size_t size = 0;
     };
 
-    std::string_view textOf(Span span) const { return m_document.substr(span.start, span.size); }
+    std::string_view textOf(Span span) const {
+        return span.size == 0 ? std::string_view() : bytes().substr(span.start - start(), span.size);
+    }
 
     /// The offset of a pointer into the document.
     std::optional<std::size_t> offset(const void* at) const {
-        const auto* place = static_cast<const char*>(at);
-        const char* begin = m_document.data();
-        const bool isInside =
-            !std::less<>()(place, begin) && !std::less<>()(begin + m_document.size(), place);
-        return isInside ? std::optional(static_cast<std::size_t>(place - begin)) : std::nullopt;
+        if (m_context->inputNr == 0) {
+            return std::nullopt;
+        }
+        const xmlParserInput& input = *m_context->inputTab[0];
+        const auto* place = static_cast<const xmlChar*>(at);
+        const bool isInside = !std::less<>()(place, input.base) && !std::less<>()(input.end, place);
+        return isInside ? std::optional(input.consumed + static_cast<std::size_t>(place - input.base))
+                        : std::nullopt;
     }
+
+    /// The byte before the offset; zero when it is no longer known.
+    char before(std::size_t place) const { return place > start() ? bytes()[place - start() - 1] : '\0'; }
 
     /// The span of the document that the piece was read from: the piece itself, or the bytes before the next
     /// input, which may include carriage returns. Nothing for text that comes from references.
     std::optional<Span> placeOf(std::string_view piece) const {
-        if (const auto start = offset(piece.data())) {
-            return Span{*start, piece.size()};
+        if (const auto begin = offset(piece.data())) {
+            return Span{*begin, piece.size()};
         }
         const auto next = offset(m_context->input->cur);
-        if (!next) {
+        if (!next || *next < start()) {
             return std::nullopt;
         }
         const std::size_t end = *next;
-        if (m_document.substr(0, end).ends_with(piece)) {
+        if (bytes().substr(0, end - start()).ends_with(piece)) {
             return Span{end - piece.size(), piece.size()};
         }
-        std::size_t start = end;
+        std::size_t begin = end;
         for (auto byte = piece.rbegin(); byte != piece.rend(); ++byte) {
-            const bool isOld = *byte == '\n' && endsLine(start);
-            if (!isOld && (start == 0 || m_document[start - 1] != *byte)) {
+            const bool isOld = *byte == '\n' && endsLine(begin);
+            if (!isOld && before(begin) != *byte) {
                 return std::nullopt;
             }
-            --start;
-            if (*byte == '\n' && !isOld && endsLine(start)) {
-                --start;
+            --begin;
+            if (*byte == '\n' && !isOld && endsLine(begin)) {
+                --begin;
             }
         }
-        return Span{start, end - start};
+        return Span{begin, end - begin};
     }
 
     /// Whether a carriage return precedes the position.
-    bool endsLine(std::size_t place) const { return place > 0 && m_document[place - 1] == '\r'; }
+    bool endsLine(std::size_t place) const { return before(place) == '\r'; }
 
     static void failed(void* user, ErrorPointer error) {
         if (error->level == XML_ERR_FATAL) {
@@ -357,7 +350,7 @@ class Parse {
     /// Counts delivered bytes; without entities they cannot exceed the document. False once stopped.
     bool spend(std::size_t bytes) {
         m_delivered += bytes;
-        if (m_delivered > m_bound) {
+        if (m_delivered > given() + kEntityAllowance) {
             stop("the entities of the document are too large");
         }
         return !m_stopped;
@@ -371,10 +364,8 @@ class Parse {
 
     void stop(std::string_view why) {
         if (!m_break) {
-            // Of the document, not of the entity that is being read.
-            const auto byte = m_context->inputNr > 0 ? offset(m_context->inputTab[0]->cur) : std::nullopt;
             why = why.substr(0, why.find('\n'));
-            m_break = XMLBreak{byte.value_or(0), std::string(why)};
+            m_break = XMLBreak{reached().value_or(0), std::string(why)};
         }
         m_stopped = true;
         // Inside a parameter entity the library still reads input that stopping would free. It is then
@@ -389,31 +380,45 @@ class Parse {
     Context m_context;
     std::optional<XMLBreak> m_break;
     std::vector<const xmlChar*> m_names;
-    std::string_view m_document;
+    /// The document, or where it comes from.
+    std::string_view m_whole;
+    XMLStream* m_stream = nullptr;
     /// Text not yet delivered: its span in the document, or a copy when carriage returns are in between.
     Span m_text;
     std::string m_joined;
     /// Its end in the document.
     std::size_t m_textEnd = kNowhere;
-    std::size_t m_bound = 0;
     std::size_t m_delivered = 0;
     int m_parameterReferences = 0;
     bool m_stopped = false;
 };
 
+void initialise() {
+    static std::once_flag initialised;
+    std::call_once(initialised, xmlInitParser);
+}
+
 } // namespace
 
 std::optional<XMLBreak> parseXML(const QByteArray& document, std::span<const char* const> elementNames,
                                  XMLEvents& events, const std::function<bool()>& stopped) {
-    static std::once_flag initialised;
-    std::call_once(initialised, xmlInitParser);
+    initialise();
     Parse parse(elementNames, events, stopped);
     const auto tag = unreadableTag({document.constData(), std::strlen(document.constData())});
     if (!tag) {
         return parse.run(document.constData());
     }
     parse.run(document.left(static_cast<qsizetype>(*tag)).constData());
-    return XMLBreak{*tag, "a tag is longer than 1 MB or has too many attributes"};
+    return XMLBreak{*tag, kUnreadableTag};
+}
+
+std::optional<XMLBreak> parseXML(TextSource& document, std::span<const char* const> elementNames,
+                                 XMLEvents& events, const std::function<bool()>& stopped) {
+    initialise();
+    XMLStream stream(document);
+    Parse parse(elementNames, events, stopped);
+    auto end = parse.run(stream);
+    return stream.fault().empty() ? std::move(end) : XMLBreak{stream.given(), std::string(stream.fault())};
 }
 
 } // namespace guide

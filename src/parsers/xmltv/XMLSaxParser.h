@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/encoding/TextSource.h"
+
 #include <QByteArray>
 
 #include <cstddef>
@@ -50,6 +52,11 @@ struct XMLBreak {
 /// The document is UTF-8 regardless of its declaration. External resources are never read, and entity
 /// expansion is limited. `document` must end in a zero byte, as every QByteArray that owns its bytes does.
 std::optional<XMLBreak> parseXML(const QByteArray& document, std::span<const char* const> elementNames,
+                                 XMLEvents& events, const std::function<bool()>& stopped = {});
+
+/// The same in bounded memory, with the same events. A stretch of more than 4 MB without a tag counts as an
+/// error too. The source must not give zero bytes.
+std::optional<XMLBreak> parseXML(TextSource& document, std::span<const char* const> elementNames,
                                  XMLEvents& events, const std::function<bool()>& stopped = {});
 
 } // namespace guide

@@ -50,10 +50,11 @@ std::optional<std::chrono::minutes> offsetFromUTC(std::string_view text) {
 
 } // namespace
 
-std::optional<Moment> parseXMLTVDate(std::string_view text) {
+std::optional<Moment> parseXMLTVDate(std::string_view text, MissingZone withoutZone) {
     using namespace std::chrono;
     constexpr std::size_t kDigits = 14;
-    if (text.size() <= kDigits) {
+    const bool hasZone = text.size() > kDigits;
+    if (!hasZone && (text.size() < kDigits || withoutZone == MissingZone::Invalid)) {
         return std::nullopt;
     }
     const int yearNumber = digits(text, 0, 4);
@@ -71,7 +72,8 @@ std::optional<Moment> parseXMLTVDate(std::string_view text) {
     if (!date.ok()) {
         return std::nullopt;
     }
-    const auto offset = offsetFromUTC(text.substr(text[kDigits] == ' ' ? kDigits + 1 : kDigits));
+    const auto offset = hasZone ? offsetFromUTC(text.substr(text[kDigits] == ' ' ? kDigits + 1 : kDigits))
+                                : std::chrono::minutes{0};
     if (!offset) {
         return std::nullopt;
     }

@@ -39,4 +39,10 @@ std::optional<XMLBreak> parseXMLTV(const QByteArray& document, XMLTVEvents& even
     return parseXML(document, kElementNames, named, stopped);
 }
 
+std::optional<XMLBreak> parseXMLTV(TextSource& document, XMLTVEvents& events,
+                                   const std::function<bool()>& stopped) {
+    Events named(events);
+    return parseXML(document, kElementNames, named, stopped);
+}
+
 } // namespace guide

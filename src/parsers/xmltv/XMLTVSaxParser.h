@@ -39,5 +39,7 @@ class XMLTVEvents {
 /// Parses a whole feed, as parseXML does.
 std::optional<XMLBreak> parseXMLTV(const QByteArray& document, XMLTVEvents& events,
                                    const std::function<bool()>& stopped = {});
+std::optional<XMLBreak> parseXMLTV(TextSource& document, XMLTVEvents& events,
+                                   const std::function<bool()>& stopped = {});
 
 } // namespace guide

@@ -22,6 +22,16 @@ std::optional<std::string> single(const std::vector<QString>& channels) {
 
 XMLTVToEntries::XMLTVToEntries(const QByteArray& data, const std::vector<QString>& channels,
                                XMLTVOptions options)
+    : XMLTVToEntries(channels, std::move(options)) {
+    m_break = parseXMLTV(data, *this, [this] { return isStopped(); });
+}
+
+XMLTVToEntries::XMLTVToEntries(TextSource& data, const std::vector<QString>& channels, XMLTVOptions options)
+    : XMLTVToEntries(channels, std::move(options)) {
+    m_break = parseXMLTV(data, *this, [this] { return isStopped(); });
+}
+
+XMLTVToEntries::XMLTVToEntries(const std::vector<QString>& channels, XMLTVOptions options)
     : m_options(std::move(options))
     , m_maker(m_options.shows)
     , m_wanted(channels)
@@ -30,8 +40,10 @@ XMLTVToEntries::XMLTVToEntries(const QByteArray& data, const std::vector<QString
         QStringList list(channels.begin(), channels.end());
         qCInfo(parsersLog, "channels=%s", qUtf8Printable(list.join(u", "_s)));
     }
-    m_break = parseXMLTV(
-        data, *this, [this] { return m_isFull || (m_options.control && m_options.control->isStopped()); });
+}
+
+bool XMLTVToEntries::isStopped() const {
+    return m_isFull || (m_options.control && m_options.control->isStopped());
 }
 
 void XMLTVToEntries::started(XMLTVElement element, const XMLTVAttributes& attributes) {
@@ -93,11 +105,12 @@ void XMLTVToEntries::startProgramme(const XMLTVAttributes& attributes) {
     std::string sourceId = m_single ? *m_single : std::string(channel.value_or(std::string_view{}));
     m_inside = XMLTVElement::Programme;
 
-    const auto shifted = [isShifted](std::optional<Moment> moment) {
-        return moment && isShifted ? std::optional<Moment>(*moment - kShift) : moment;
+    const auto moment = [this, isShifted](std::string_view text) {
+        const auto read = parseXMLTVDate(text, m_options.withoutZone);
+        return read && isShifted ? std::optional<Moment>(*read - kShift) : read;
     };
     const auto stopText = attributes.value("stop");
-    const auto stop = stopText ? shifted(parseXMLTVDate(*stopText)) : std::nullopt;
+    const auto stop = stopText ? moment(*stopText) : std::nullopt;
     if (!stop || *stop <= m_options.now) {
         return;
     }
@@ -105,7 +118,7 @@ void XMLTVToEntries::startProgramme(const XMLTVAttributes& attributes) {
     m_show.clear();
     m_hasShow = true;
     m_show.sourceId = std::move(sourceId);
-    m_show.dateTime = startText ? shifted(parseXMLTVDate(*startText)) : std::nullopt;
+    m_show.dateTime = startText ? moment(*startText) : std::nullopt;
     m_show.endDateTime = *stop;
 }
 

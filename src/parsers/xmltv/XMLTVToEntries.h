@@ -3,6 +3,7 @@
 #include "parsers/ReadControl.h"
 #include "parsers/xmltv/FeedShow.h"
 #include "parsers/xmltv/WantedChannels.h"
+#include "parsers/xmltv/XMLTVDate.h"
 #include "parsers/xmltv/XMLTVSaxParser.h"
 #include "platform/Moment.h"
 #include "store/ShowItem.h"
@@ -27,6 +28,7 @@ struct XMLTVOptions {
     bool useImage = false;
     /// Limits the shows; may be null.
     ReadControl* control = nullptr;
+    MissingZone withoutZone = MissingZone::Invalid;
 };
 
 /// The shows of one channel of a feed, in document order.
@@ -43,6 +45,8 @@ class XMLTVToEntries : private XMLTVEvents {
     /// `data` is UTF-8 and must own its bytes. No channels means all; with exactly one, all shows that pass
     /// the filter are assigned to it.
     XMLTVToEntries(const QByteArray& data, const std::vector<QString>& channels, XMLTVOptions options);
+    /// The same of a feed that is read piece by piece.
+    XMLTVToEntries(TextSource& data, const std::vector<QString>& channels, XMLTVOptions options);
 
     /// In the order in which the channels appear. The caller may move the entries out.
     std::vector<FeedChannelEntries>& entries() { return m_entries; }
@@ -52,6 +56,9 @@ class XMLTVToEntries : private XMLTVEvents {
     bool hasProgrammes() const { return m_hasProgrammes; }
 
   private:
+    XMLTVToEntries(const std::vector<QString>& channels, XMLTVOptions options);
+
+    bool isStopped() const;
     void started(XMLTVElement element, const XMLTVAttributes& attributes) override;
     void text(std::string_view piece) override;
     void ended(XMLTVElement element) override;

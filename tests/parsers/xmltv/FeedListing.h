@@ -1,6 +1,8 @@
 #pragma once
 
 #include "parsers/ShowJSON.h"
+#include "parsers/xmltv/FeedFilter.h"
+#include "parsers/xmltv/PiecewiseText.h"
 #include "parsers/xmltv/XMLTVToEntries.h"
 
 #include <QJsonDocument>
@@ -16,10 +18,8 @@ namespace guide::test {
 /// Every show of a feed as one line of text, by channel id.
 using FeedListing = std::map<std::string, std::vector<std::string>>;
 
-inline FeedListing listing(const QByteArray& feed, const std::vector<QString>& channels,
-                           const XMLTVOptions& options) {
+inline FeedListing listing(XMLTVToEntries reader) {
     FeedListing lists;
-    XMLTVToEntries reader(feed, channels, options);
     for (FeedChannelEntries& channel : reader.entries()) {
         std::vector<std::string>& list = lists[channel.sourceId.toStdString()];
         for (ExtendedTVEntry& entry : channel.entries) {
@@ -28,6 +28,27 @@ inline FeedListing listing(const QByteArray& feed, const std::vector<QString>& c
         }
     }
     return lists;
+}
+
+inline FeedListing listing(const QByteArray& feed, const std::vector<QString>& channels,
+                           const XMLTVOptions& options) {
+    return listing(XMLTVToEntries(feed, channels, options));
+}
+
+/// Of a feed that is read in pieces.
+inline FeedListing listingOfPieces(const QByteArray& feed, std::size_t piece,
+                                   const std::vector<QString>& channels, const XMLTVOptions& options) {
+    PiecewiseText text(feed, piece);
+    return listing(XMLTVToEntries(text, channels, options));
+}
+
+/// The feed without the programmes of unwanted channels, read in pieces.
+inline QByteArray filteredPieces(const QByteArray& feed, std::size_t piece, const WantedChannels& wanted) {
+    PiecewiseText text(feed, piece);
+    FeedFilter filter(text, wanted);
+    QByteArray kept(feed.size() + 100, Qt::Uninitialized);
+    kept.truncate(static_cast<qsizetype>(filter.read({kept.data(), static_cast<std::size_t>(kept.size())})));
+    return kept;
 }
 
 /// Uses the parser of the guide: others accept more characters.

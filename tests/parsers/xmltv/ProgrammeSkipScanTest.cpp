@@ -136,6 +136,26 @@ const std::array<std::vector<QString>, 3> kWanted{
      {QStringLiteral("w"), QStringLiteral("w 1")},
      {QStringLiteral("v&<>\"'"), QStringLiteral("w"), QStringLiteral("w\t1"), QStringLiteral("jo")}}};
 
+constexpr std::array<std::size_t, 6> kPieces{1, 2, 3, 7, 64, 4096};
+
+/// Expects the scan in windows to keep the same for every window: what the scan of the whole feed keeps, or,
+/// where that gives up, what gives the same shows as the whole feed.
+void expectSameInPieces(const QByteArray& feed, const std::vector<QString>& wanted,
+                        const std::optional<FilteredFeed>& whole, bool isXML, const std::string& what) {
+    const WantedChannels channels(wanted);
+    const QByteArray kept = filteredPieces(feed, FeedScan::kWindow, channels);
+    // Each part of the documents meets each size of a window, at one or another place.
+    static std::size_t turn = 0;
+    const std::size_t piece = kPieces[turn++ % kPieces.size()];
+    EXPECT_EQ(filteredPieces(feed, piece, channels), kept) << what << ", in pieces of " << piece;
+    if (whole) {
+        EXPECT_EQ(kept, whole->feed) << what;
+    }
+    const FeedListing ours = listingOfPieces(kept, piece, wanted, kOptions);
+    const FeedListing all = listing(feed, wanted, kOptions);
+    EXPECT_TRUE(isXML ? all == ours : isPrefix(all, ours)) << what << "\n" << feed.constData();
+}
+
 /// Expects the scan and the parser together to give the shows of the parser alone. Returns whether anything
 /// was left out.
 bool expectSameShows(const std::string& document, const std::string& what) {
@@ -144,6 +164,7 @@ bool expectSameShows(const std::string& document, const std::string& what) {
     bool hasSkipped = false;
     for (const std::vector<QString>& wanted : kWanted) {
         const auto kept = withoutUnwantedProgrammes(feed, WantedChannels(wanted));
+        expectSameInPieces(feed, wanted, kept, isXML, what);
         if (!kept) {
             continue;
         }
@@ -197,6 +218,7 @@ TEST(ProgrammeSkipScan, GivesUpWhenInDoubt) {
         const QByteArray feed =
             QByteArray::fromStdString("<tv>" + show("u", "Skipped") + piece.text + "</tv>");
         EXPECT_FALSE(withoutUnwantedProgrammes(feed, WantedChannels(kWanted[0]))) << piece.name;
+        expectSameInPieces(feed, kWanted[0], std::nullopt, isWellFormed(feed), piece.name);
     }
 }
 

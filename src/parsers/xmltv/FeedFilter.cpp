@@ -1,0 +1,74 @@
+#include "parsers/xmltv/FeedFilter.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace guide {
+
+std::size_t FeedFilter::read(std::span<char> room) {
+    std::size_t filled = 0;
+    while (filled < room.size()) {
+        if (m_read == m_kept.size()) {
+            m_kept.clear();
+            m_read = 0;
+            if (!m_scan.next(&m_kept)) {
+                break;
+            }
+        }
+        const std::size_t count = std::min(room.size() - filled, m_kept.size() - m_read);
+        std::memcpy(room.data() + filled, m_kept.data() + m_read, count);
+        m_read += count;
+        filled += count;
+    }
+    return filled;
+}
+
+bool FeedFilter::finish(const std::function<bool()>& stopped) {
+    do {
+        if (stopped && stopped()) {
+            return false;
+        }
+    } while (m_scan.next(nullptr));
+    return true;
+}
+
+FeedFilter::Channels::value_type& FeedFilter::named(std::string id) {
+    const auto [place, isNew] = m_channels.try_emplace(std::move(id), false);
+    m_counts.channels += isNew && !place->first.empty() ? 1 : 0;
+    return *place;
+}
+
+void FeedFilter::channel(const OpeningTag& tag, std::string_view) {
+    if (const auto raw = tag.value("id")) {
+        if (auto id = attributeValue(*raw)) {
+            named(*std::move(id));
+        }
+    }
+}
+
+std::optional<bool> FeedFilter::programme(const OpeningTag& tag, std::string_view) {
+    const auto raw = tag.value("channel");
+    if (!raw) {
+        return m_wanted.all();
+    }
+    if (!m_last || m_lastChannel != *raw) {
+        auto id = attributeValue(*raw);
+        if (!id) {
+            return std::nullopt;
+        }
+        m_isLastWanted = m_wanted.contains(*id);
+        m_last = &named(*std::move(id));
+        m_lastChannel = *raw;
+    }
+    const auto startText = tag.value("start");
+    const auto start = startText ? parseXMLTVDate(*startText, m_withoutZone) : std::nullopt;
+    if (start && !m_last->first.empty()) {
+        ++m_counts.shows;
+        m_counts.channelsWithShows += std::exchange(m_last->second, true) ? 0 : 1;
+        m_counts.newest = m_counts.newest ? std::max(*m_counts.newest, *start) : *start;
+    }
+    return m_isLastWanted;
+}
+
+} // namespace guide

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "parsers/xmltv/FeedScan.h"
+#include "parsers/xmltv/WantedChannels.h"
+#include "parsers/xmltv/XMLTVDate.h"
+#include "platform/Moment.h"
+#include "platform/encoding/TextSource.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <unordered_map>
+
+namespace guide {
+
+/// What a whole feed has.
+struct FeedCounts {
+    /// Named by the feed, or only by its shows.
+    int channels = 0;
+    int channelsWithShows = 0;
+    /// With a start that can be read.
+    int shows = 0;
+    /// The start of the last one.
+    std::optional<Moment> newest;
+};
+
+/// A feed without the programmes of unwanted channels, which are counted on the way.
+class FeedFilter final : public TextSource, private FeedScanEvents {
+  public:
+    /// Everything must outlive this object.
+    FeedFilter(TextSource& feed, const WantedChannels& wanted, MissingZone withoutZone = MissingZone::Invalid)
+        : m_wanted(wanted)
+        , m_withoutZone(withoutZone)
+        , m_scan(feed, *this) {}
+
+    std::size_t read(std::span<char> room) override;
+    /// Scans what was not read. False when `stopped` returned true, which is asked at every window.
+    bool finish(const std::function<bool()>& stopped = {});
+
+    /// Of what was scanned.
+    const FeedCounts& counts() const { return m_counts; }
+
+  private:
+    /// Whether the channel has shows, by its id.
+    using Channels = std::unordered_map<std::string, bool>;
+
+    void channel(const OpeningTag& tag, std::string_view content) override;
+    std::optional<bool> programme(const OpeningTag& tag, std::string_view content) override;
+    Channels::value_type& named(std::string id);
+
+    const WantedChannels& m_wanted;
+    const MissingZone m_withoutZone;
+    FeedScan m_scan;
+    std::string m_kept;
+    /// The part of m_kept that was read.
+    std::size_t m_read = 0;
+    FeedCounts m_counts;
+    Channels m_channels;
+    /// Most feeds are sorted by channel: of the programme before, its channel as written, and what is known
+    /// about it. Null before the first one.
+    std::string m_lastChannel;
+    Channels::value_type* m_last = nullptr;
+    bool m_isLastWanted = false;
+};
+
+} // namespace guide

@@ -1,0 +1,267 @@
+#include "parsers/xmltv/FeedMarkup.h"
+
+#include <array>
+#include <cstdint>
+#include <cstring>
+
+namespace guide {
+
+namespace {
+
+bool isBlank(char character) {
+    return character == ' ' || character == '\n' || character == '\t' || character == '\r';
+}
+
+enum class Match { No, Yes, Cut };
+
+/// Whether the text begins with the words; cut when it ends within them.
+Match match(const char* at, std::string_view words) {
+    for (const char expected : words) {
+        if (*at != expected) {
+            return *at == '\0' ? Match::Cut : Match::No;
+        }
+        ++at;
+    }
+    return Match::Yes;
+}
+
+void appendUtf8(std::string& text, std::uint32_t codePoint) {
+    const auto add = [&text](std::uint32_t byte) { text.push_back(static_cast<char>(byte)); };
+    if (codePoint < 0x80) {
+        add(codePoint);
+    } else if (codePoint < 0x800) {
+        add(0xC0 | (codePoint >> 6));
+        add(0x80 | (codePoint & 0x3F));
+    } else if (codePoint < 0x10000) {
+        add(0xE0 | (codePoint >> 12));
+        add(0x80 | ((codePoint >> 6) & 0x3F));
+        add(0x80 | (codePoint & 0x3F));
+    } else {
+        add(0xF0 | (codePoint >> 18));
+        add(0x80 | ((codePoint >> 12) & 0x3F));
+        add(0x80 | ((codePoint >> 6) & 0x3F));
+        add(0x80 | (codePoint & 0x3F));
+    }
+}
+
+bool isXMLCharacter(std::uint32_t codePoint) {
+    return codePoint == 0x9 || codePoint == 0xA || codePoint == 0xD ||
+           (codePoint >= 0x20 && codePoint < 0xD800) || (codePoint >= 0xE000 && codePoint < 0xFFFE) ||
+           (codePoint >= 0x10000 && codePoint < 0x110000);
+}
+
+/// The character of a reference such as "#60" or "#x3C".
+std::optional<std::uint32_t> numberedCharacter(std::string_view reference) {
+    const bool hexadecimal = reference.starts_with("#x");
+    const std::string_view digits = reference.substr(hexadecimal ? 2 : 1);
+    std::uint32_t number = 0;
+    for (const char digit : digits) {
+        std::uint32_t value = 0;
+        if (digit >= '0' && digit <= '9') {
+            value = static_cast<std::uint32_t>(digit - '0');
+        } else if (hexadecimal && digit >= 'a' && digit <= 'f') {
+            value = static_cast<std::uint32_t>(digit - 'a' + 10);
+        } else if (hexadecimal && digit >= 'A' && digit <= 'F') {
+            value = static_cast<std::uint32_t>(digit - 'A' + 10);
+        } else {
+            return std::nullopt;
+        }
+        number = number * (hexadecimal ? 16 : 10) + value;
+        if (number >= 0x110000) {
+            return std::nullopt;
+        }
+    }
+    return !digits.empty() && isXMLCharacter(number) ? std::optional(number) : std::nullopt;
+}
+
+std::optional<std::uint32_t> referredCharacter(std::string_view reference) {
+    struct Predefined {
+        std::string_view name;
+        char character;
+    };
+    static constexpr std::array kPredefined{Predefined{"amp", '&'}, Predefined{"lt", '<'},
+                                            Predefined{"gt", '>'}, Predefined{"quot", '"'},
+                                            Predefined{"apos", '\''}};
+    if (reference.starts_with('#')) {
+        return numberedCharacter(reference);
+    }
+    for (const Predefined& predefined : kPredefined) {
+        if (predefined.name == reference) {
+            return static_cast<std::uint32_t>(predefined.character);
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+const char* skipBlanks(const char* at) {
+    while (isBlank(*at)) {
+        ++at;
+    }
+    return at;
+}
+
+Markup elementNamed(const char* at, std::string_view opening) {
+    switch (match(at, opening)) {
+    case Match::No:
+        return Markup::Doubtful;
+    case Match::Cut:
+        return Markup::Unfinished;
+    case Match::Yes:
+        break;
+    }
+    const char next = at[opening.size()];
+    if (next == '\0') {
+        return Markup::Unfinished;
+    }
+    return isBlank(next) || next == '>' || next == '/' ? Markup::Whole : Markup::Doubtful;
+}
+
+Markup skipAside(const char*& at) {
+    struct Aside {
+        std::string_view opening;
+        const char* closing;
+    };
+    static constexpr std::array kAsides{Aside{"<!--", "-->"}, Aside{"<![CDATA[", "]]>"}, Aside{"<?", "?>"}};
+    for (const Aside& aside : kAsides) {
+        switch (match(at, aside.opening)) {
+        case Match::No:
+            continue;
+        case Match::Cut:
+            return Markup::Unfinished;
+        case Match::Yes:
+            break;
+        }
+        const char* closing = std::strstr(at + aside.opening.size(), aside.closing);
+        if (!closing) {
+            return Markup::Unfinished;
+        }
+        at = closing + std::strlen(aside.closing);
+        return Markup::Whole;
+    }
+    return Markup::Doubtful;
+}
+
+Markup skipDocumentType(const char*& at) {
+    const char* end = at;
+    while (*end != '>') {
+        if (*end == '\0') {
+            return Markup::Unfinished;
+        }
+        if (*end == '[') {
+            return Markup::Doubtful;
+        }
+        if (*end == '"' || *end == '\'') {
+            end = std::strchr(end + 1, *end);
+            if (!end) {
+                return Markup::Unfinished;
+            }
+        }
+        ++end;
+    }
+    at = end + 1;
+    return Markup::Whole;
+}
+
+Markup skipElement(const char*& at, std::string_view opening, std::string_view closing) {
+    for (const char* mark = at;;) {
+        mark = std::strchr(mark, '<');
+        if (!mark || mark[1] == '\0') {
+            return Markup::Unfinished;
+        }
+        if (mark[1] == '!' || mark[1] == '?') {
+            if (const Markup aside = skipAside(mark); aside != Markup::Whole) {
+                return aside;
+            }
+        } else if (mark[1] == '/') {
+            const Markup end = elementNamed(mark, closing);
+            if (end == Markup::Unfinished) {
+                return end;
+            }
+            if (end == Markup::Whole) {
+                mark = skipBlanks(mark + closing.size());
+                if (*mark != '>') {
+                    return *mark == '\0' ? Markup::Unfinished : Markup::Doubtful;
+                }
+                at = mark + 1;
+                return Markup::Whole;
+            }
+            mark += 2;
+        } else {
+            for (const std::string_view forbidden : {opening, kProgrammeOpening}) {
+                const Markup begin =
+                    mark[1] == forbidden[1] ? elementNamed(mark, forbidden) : Markup::Doubtful;
+                if (begin != Markup::Doubtful) {
+                    return begin == Markup::Whole ? Markup::Doubtful : begin;
+                }
+            }
+            ++mark;
+        }
+    }
+}
+
+Markup OpeningTag::read(const char* at) {
+    m_count = 0;
+    for (;;) {
+        const char* name = skipBlanks(at);
+        if (*name == '>' || (name[0] == '/' && name[1] == '>')) {
+            m_isEmptyElement = *name == '/';
+            m_end = name + (m_isEmptyElement ? 2 : 1);
+            return Markup::Whole;
+        }
+        if (*name == '\0' || (name[0] == '/' && name[1] == '\0')) {
+            return Markup::Unfinished;
+        }
+        const std::size_t nameSize = std::strcspn(name, "= \n\t\r\"'<>/&");
+        if (name == at || nameSize == 0 || m_count == m_attributes.size()) {
+            return Markup::Doubtful;
+        }
+        const char* equals = skipBlanks(name + nameSize);
+        const char* quote = *equals == '=' ? skipBlanks(equals + 1) : equals;
+        if (*quote == '\0') {
+            return Markup::Unfinished;
+        }
+        const std::string_view attribute{name, nameSize};
+        if (value(attribute) || *equals != '=' || (*quote != '"' && *quote != '\'')) {
+            return Markup::Doubtful;
+        }
+        const char* const begin = quote + 1;
+        const char* const closing = std::strchr(begin, *quote);
+        const auto valueSize = closing ? static_cast<std::size_t>(closing - begin) : std::strlen(begin);
+        if (std::memchr(begin, '<', valueSize)) {
+            return Markup::Doubtful;
+        }
+        if (!closing) {
+            return Markup::Unfinished;
+        }
+        m_attributes[m_count++] = {attribute, {begin, valueSize}};
+        at = closing + 1;
+    }
+}
+
+std::optional<std::string> attributeValue(std::string_view raw) {
+    std::string value;
+    value.reserve(raw.size());
+    for (std::size_t i = 0; i < raw.size(); ++i) {
+        if (raw[i] == '&') {
+            const std::size_t end = raw.find(';', i);
+            if (end == std::string_view::npos) {
+                return std::nullopt;
+            }
+            const auto character = referredCharacter(raw.substr(i + 1, end - i - 1));
+            if (!character) {
+                return std::nullopt;
+            }
+            appendUtf8(value, *character);
+            i = end;
+        } else if (raw[i] == '\r' && i + 1 < raw.size() && raw[i + 1] == '\n') {
+            continue;
+        } else {
+            value.push_back(isBlank(raw[i]) ? ' ' : raw[i]);
+        }
+    }
+    return value;
+}
+
+} // namespace guide

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+// The parts of a feed's text that the scans tell apart. All texts end in a zero byte.
+
+namespace guide {
+
+inline constexpr std::string_view kProgrammeOpening = "<programme";
+inline constexpr std::string_view kProgrammeClosing = "</programme";
+
+enum class Markup {
+    Whole,
+    /// The text ends before the part does.
+    Unfinished,
+    /// It is malformed or something else, whatever follows.
+    Doubtful,
+};
+
+const char* skipBlanks(const char* at);
+
+/// Whether the tag at `at` has this name: `opening` is "<" or "</" and the name.
+Markup elementNamed(const char* at, std::string_view opening);
+
+// These move `at` behind a part when it is whole.
+
+/// A comment, CDATA section or processing instruction.
+Markup skipAside(const char*& at);
+/// A document type declaration. Doubtful when it has an internal subset.
+Markup skipDocumentType(const char*& at);
+/// The content and end tag of an element. Doubtful when another one of its name or a programme begins inside.
+Markup skipElement(const char*& at, std::string_view opening, std::string_view closing);
+
+/// An opening tag with at most 16 attributes, as written. Views refer to the text.
+class OpeningTag {
+  public:
+    /// Reads the tag whose name ends at `at`.
+    Markup read(const char* at);
+
+    const char* end() const { return m_end; }
+    /// Whether the tag is also the end of its element.
+    bool isEmptyElement() const { return m_isEmptyElement; }
+    std::optional<std::string_view> value(std::string_view name) const {
+        for (std::size_t i = 0; i < m_count; ++i) {
+            if (m_attributes[i].first == name) {
+                return m_attributes[i].second;
+            }
+        }
+        return std::nullopt;
+    }
+
+  private:
+    std::array<std::pair<std::string_view, std::string_view>, 16> m_attributes;
+    std::size_t m_count = 0;
+    const char* m_end = nullptr;
+    bool m_isEmptyElement = false;
+};
+
+/// The normalised value of an attribute: references resolved, tabs and line ends replaced by blanks. Nothing
+/// when it contains a reference that only a DTD defines.
+std::optional<std::string> attributeValue(std::string_view raw);
+
+} // namespace guide
