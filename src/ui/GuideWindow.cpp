@@ -194,6 +194,10 @@ bool prepareWebPages() {
     return present;
 }
 
+void GuideWindow::replacePicture(const PictureKey& key) {
+    m_parts->theme()->replacePicture(pictureUrlOf(key));
+}
+
 bool GuideWindow::savePicture(const QString& path) {
     const QImage picture = m_parts->grabWindow();
     return !picture.isNull() && picture.save(path, "PNG");

@@ -56,6 +56,8 @@ class GuideWindow {
 
     void setColorScheme(std::optional<ColorScheme> scheme);
     void setMotion(bool moves);
+    /// The picture of this key has changed; loads it again where it is shown.
+    void replacePicture(const PictureKey& key);
     /// Writes what the window shows as a PNG file; false when it could not be written. The window must be
     /// open.
     bool savePicture(const QString& path);

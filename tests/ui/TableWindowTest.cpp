@@ -1,6 +1,8 @@
 // How a drawn table behaves while its rows change, and which events it reports.
 #include "TableWindow.h"
 
+#include <atomic>
+
 namespace guide::test {
 namespace {
 
@@ -349,6 +351,33 @@ TEST_F(TableWindowTest, PicturesHaveThePixelsOfTheScreen) {
         }
         return drawn.width() == 390 * scale;
     }));
+}
+
+/// One colour, which can be changed.
+struct Paint final : PictureProvider {
+    QImage picture(const PictureKey&, const QSize& pixels) override {
+        QImage image(pixels, QImage::Format_RGB32);
+        image.fill(color.load());
+        return image;
+    }
+    std::atomic<QRgb> color{0xffff0000};
+};
+
+TEST_F(TableWindowTest, AReplacedIconIsLoadedAgain) {
+    Paint paint;
+    provider = &paint;
+    open({section(u"s"_s, {}, {ChannelRow{.title = u"One"_s, .icon = icon(u"x"_s)}})});
+    const auto shows = [&](QRgb color) {
+        return QTest::qWaitFor([&] {
+            const QImage drawn = quickWindow->grabWindow();
+            const QPointF at = itemsWith("sourceSize").value(0)->mapToScene({25, 18});
+            return drawn.pixel((at * quickWindow->devicePixelRatio()).toPoint()) == color;
+        });
+    };
+    EXPECT_TRUE(shows(0xffff0000));
+    paint.color = 0xff0000ff;
+    window->replacePicture(icon(u"x"_s));
+    EXPECT_TRUE(shows(0xff0000ff));
 }
 
 } // namespace

@@ -28,8 +28,8 @@ PictureKey pictureKeyOf(const QString& id) {
     if (!isNumber || kind <= static_cast<int>(PictureKey::Kind::None) || kind > static_cast<int>(kLastKind)) {
         return {};
     }
-    const QByteArray name =
-        QByteArray::fromBase64(id.sliced(slash + 1).toLatin1(), QByteArray::Base64UrlEncoding);
+    const QByteArray name = QByteArray::fromBase64(id.sliced(slash + 1).section(u'?', 0, 0).toLatin1(),
+                                                   QByteArray::Base64UrlEncoding);
     return {static_cast<PictureKey::Kind>(kind), QString::fromUtf8(name)};
 }
 

@@ -99,4 +99,19 @@ QFont Theme::font(double points, QFont::Weight weight) const {
     return themeFont(points * m_textScale, weight);
 }
 
+QUrl Theme::currentPicture(const QUrl& picture) const {
+    const int change = m_replaced.value(picture);
+    if (change == 0) {
+        return picture;
+    }
+    QUrl current = picture;
+    current.setQuery(QString::number(change));
+    return current;
+}
+
+void Theme::replacePicture(const QUrl& picture) {
+    m_replaced.insert(picture, ++m_pictureChanges);
+    Q_EMIT pictureReplaced();
+}
+
 } // namespace guide

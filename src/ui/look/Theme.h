@@ -6,10 +6,12 @@
 #include <QAccessible>
 #include <QColor>
 #include <QFont>
+#include <QHash>
 #include <QList>
 #include <QLocale>
 #include <QObject>
 #include <QQmlEngine>
+#include <QUrl>
 
 #include <algorithm>
 #include <optional>
@@ -68,6 +70,8 @@ class Theme : public QObject, private QAccessible::ActivationObserver {
     Q_PROPERTY(int rowMotion READ rowMotion NOTIFY motionChanged)
     Q_PROPERTY(int pictureMotion READ pictureMotion NOTIFY motionChanged)
     Q_PROPERTY(bool moves READ moves NOTIFY motionChanged)
+    /// How often a picture has been replaced.
+    Q_PROPERTY(int pictureChanges READ pictureChanges NOTIFY pictureReplaced)
     /// Whether a screen reader may be running.
     Q_PROPERTY(bool readAloud READ readAloud NOTIFY readAloudChanged)
 
@@ -114,6 +118,12 @@ class Theme : public QObject, private QAccessible::ActivationObserver {
     bool moves() const { return m_moves; }
     bool readAloud() const { return QAccessible::isActive(); }
 
+    int pictureChanges() const { return m_pictureChanges; }
+    /// The address under which the picture is loaded, a new one after each replacement. A binding must also
+    /// read `pictureChanges`.
+    Q_INVOKABLE QUrl currentPicture(const QUrl& picture) const;
+    void replacePicture(const QUrl& picture);
+
     /// A binding must also read `dark`, which they depend on.
     Q_INVOKABLE QColor tileFill(int hue) const { return tileColors(hue, m_scheme).fill; }
     Q_INVOKABLE QColor tileSymbol(int hue) const { return tileColors(hue, m_scheme).symbol; }
@@ -134,6 +144,7 @@ class Theme : public QObject, private QAccessible::ActivationObserver {
     void fontsChanged();
     void motionChanged();
     void readAloudChanged();
+    void pictureReplaced();
 
   private:
     const Palette& palette() const { return paletteOf(m_scheme); }
@@ -147,6 +158,9 @@ class Theme : public QObject, private QAccessible::ActivationObserver {
     ColorScheme m_scheme = ColorScheme::Light;
     double m_textScale = 1;
     bool m_moves = true;
+    int m_pictureChanges = 0;
+    /// By the picture, the change that replaced it last.
+    QHash<QUrl, int> m_replaced;
 };
 
 } // namespace guide

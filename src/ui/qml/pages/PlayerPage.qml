@@ -141,7 +141,7 @@ ContentPage {
                 width: visible ? 50 : 0
                 height: 36
                 visible: source.toString() !== ""
-                source: screen.player.icon
+                source: Theme.pictureChanges >= 0 ? Theme.currentPicture(screen.player.icon) : ""
                 fillMode: Image.PreserveAspectFit
             }
 

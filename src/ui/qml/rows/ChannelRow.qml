@@ -22,7 +22,7 @@ TableRow {
         anchors.verticalCenter: parent.verticalCenter
         width: 50
         height: 36
-        source: cell.row.icon
+        icon: cell.row.icon
     }
 
     Item {

@@ -57,7 +57,7 @@ TableRow {
         width: 33
         height: 24
         visible: cell.hasIcon
-        source: cell.row.channelIcon
+        icon: cell.row.channelIcon
     }
 
     Text {

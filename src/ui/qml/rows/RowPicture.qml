@@ -8,10 +8,13 @@ Image {
     // Missing or not yet loaded; a missing picture arrives as a single pixel.
     readonly property bool empty: status !== Image.Ready || implicitWidth <= 1
 
+    // A channel's icon, which may be replaced while it is shown. Other pictures set `source`.
+    property url icon
     property int radius: 0
     // What is behind the picture.
     property color around: Theme.background
 
+    source: Theme.pictureChanges >= 0 ? Theme.currentPicture(icon) : icon
     asynchronous: true
     sourceSize: Qt.size(width, height)
     fillMode: Image.PreserveAspectFit

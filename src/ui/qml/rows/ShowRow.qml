@@ -30,7 +30,7 @@ TableRow {
         sourceComponent: RowPicture {
             width: 50
             height: 36
-            source: cell.row.channelIcon
+            icon: cell.row.channelIcon
         }
     }
 

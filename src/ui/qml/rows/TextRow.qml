@@ -21,7 +21,7 @@ TableRow {
         width: visible ? 50 : 0
         height: 36
         visible: cell.hasIcon
-        source: cell.row.icon
+        icon: cell.row.icon
     }
 
     Glyph {
