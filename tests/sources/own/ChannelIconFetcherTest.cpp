@@ -128,55 +128,39 @@ TEST_F(ChannelIconFetcherTest, TakesTheFirstOriginThatIsAPicture) {
     client.answer(
         outside, FakeHTTPClient::response(200, "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"
                                                "<image href='http://x.example/'/></svg>"));
-    const QString own = u"feed.example"_s;
+    const QString lost = u"/no/such"_s;
     const struct {
         const char* name;
-        WantedIcon wanted;
+        QString chosen;
+        QString feedIcon;
+        QString playlistLogo;
         bool allowThirdHosts;
         QColor color;
     } rows[] = {
-        {"the user's file", {.channel = one, .chosen = file, .feedIcon = red.toString()}, true, Qt::green},
-        {"a file that only the feed names",
-         {.channel = one, .feedIcon = file, .playlistLogo = u"file://"_s + file},
-         true,
-         {}},
-        {"the user's address",
-         {.channel = one, .chosen = blue.toString(), .feedIcon = red.toString()},
-         false,
-         Qt::blue},
-        {"the feed's",
-         {.channel = one,
-          .chosen = u"/no/such"_s,
-          .feedIcon = red.toString(),
-          .playlistLogo = blue.toString()},
-         true,
-         Qt::red},
-        {"the playlist's",
-         {.channel = one, .feedIcon = gone.toString(), .playlistLogo = blue.toString()},
-         true,
-         Qt::blue},
-        {"of its own host", {.channel = one, .feedIcon = red.toString(), .ownHosts = {own}}, false, Qt::red},
-        {"of another host", {.channel = one, .feedIcon = blue.toString(), .ownHosts = {own}}, false, {}},
-        {"redirected to another host",
-         {.channel = one, .feedIcon = moved.toString(), .ownHosts = {own}},
-         false,
-         {}},
-        {"a page", {.channel = one, .feedIcon = page.toString()}, true, {}},
-        {"too large", {.channel = one, .feedIcon = large.toString()}, true, {}},
-        {"one pixel", {.channel = one, .feedIcon = pixel.toString()}, true, {}},
-        {"a drawing that asks others", {.channel = one, .feedIcon = outside.toString()}, true, {}},
-        {"nothing", {.channel = one}, true, {}},
+        {"the user's file", file, red.toString(), {}, true, Qt::green},
+        {"a file that only the feed names", {}, file, u"file://"_s + file, true, {}},
+        {"the user's address", blue.toString(), red.toString(), {}, false, Qt::blue},
+        {"the feed's", lost, red.toString(), blue.toString(), true, Qt::red},
+        {"the playlist's", {}, gone.toString(), blue.toString(), true, Qt::blue},
+        {"of its own host", {}, red.toString(), {}, false, Qt::red},
+        {"of another host", {}, blue.toString(), {}, false, {}},
+        {"redirected to another host", {}, moved.toString(), {}, false, {}},
+        {"a page", {}, page.toString(), {}, true, {}},
+        {"too large", {}, large.toString(), {}, true, {}},
+        {"one pixel", {}, pixel.toString(), {}, true, {}},
+        {"a drawing that asks others", {}, outside.toString(), {}, true, {}},
+        {"nothing", {}, {}, {}, true, {}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         QDir(folder).removeRecursively();
         restart();
         changed.clear();
-        const QStringList asked = want({row.wanted}, row.allowThirdHosts);
+        const QStringList asked = want(
+            {{one, row.chosen, row.feedIcon, row.playlistLogo, {u"feed.example"_s}}}, row.allowThirdHosts);
         EXPECT_EQ(colorOf(one), row.color);
         EXPECT_EQ(changed, row.color.isValid() ? QStringList(one.hex()) : QStringList());
-        EXPECT_TRUE(row.allowThirdHosts || row.wanted.chosen == blue.toString() ||
-                    !asked.contains(blue.toString()));
+        EXPECT_TRUE(row.allowThirdHosts || row.chosen == blue.toString() || !asked.contains(blue.toString()));
     }
 }
 

@@ -71,67 +71,51 @@ TEST_F(GrabberTest, FindsWhatTheFoldersHave) {
 TEST_F(GrabberTest, EveryRunHasAResultAndOnlyAGoodOneReplacesTheFile) {
     const QString baseline = u"[ \"$1\" = --capabilities ] && { echo baseline; exit 0; }\n"
                              "while [ $# -gt 1 ]; do [ \"$1\" = --output ] && out=$2; shift; done\n"_s;
+    const QString leaky = u"echo 'http://jan:pw@a.example/x?key=1 password: abc' >&2; exit 4"_s;
+    using enum SourceResult;
     const struct {
         const char* name;
         QString commands;
         SourceResult result;
+        QByteArray content = {};
         QString detail = {};
-        QByteArray file = "old";
-        QByteArray beginning = {};
-        QString output = {};
     } rows[] = {
-        {"prints", u"echo \"<tv/>$#\""_s, SourceResult::Read, {}, "<tv/>0\n"},
-        {"writes", baseline + u"echo '<tv/>' > $out"_s, SourceResult::Read, {}, "<tv/>\n"},
-        {"prints though it should write", baseline + u"echo '<tv/>'"_s, SourceResult::Read, {}, "<tv/>\n"},
-        {"nothing", u"exit 0"_s, SourceResult::Empty},
-        {"fails",
-         u"echo 'http://jan:pw@a.example/x?key=1 password: abc' >&2; exit 4"_s,
-         SourceResult::GrabberFailed,
-         u"4"_s,
-         "old",
-         {},
-         u"http://a.example/x?… password: …\n"_s},
-        {"fails with a part", baseline + u"echo '<tv>' > $out; exit 1"_s, SourceResult::Incomplete, u"1"_s,
-         "old", "<tv>\n"},
+        {"prints", u"echo \"<tv/>$#\""_s, Read, "<tv/>0\n"},
+        {"writes", baseline + u"echo '<tv/>' > $out"_s, Read, "<tv/>\n"},
+        {"prints though it should write", baseline + u"echo '<tv/>'"_s, Read, "<tv/>\n"},
+        {"nothing", u"exit 0"_s, Empty},
+        {"fails with a part", baseline + u"echo '<tv>' > $out; exit 1"_s, Incomplete, "<tv>\n", u"1"_s},
         {"wants to be configured",
-         u"echo 'no file, run me with --configure' >&2; exit 1"_s,
-         SourceResult::GrabberNotConfigured,
-         u"1"_s,
-         "old",
+         u"echo 'run me with --configure' >&2; exit 1"_s,
+         GrabberNotConfigured,
          {},
-         u"no file, run me with --configure\n"_s},
-        {"dies with a part", u"echo '<tv>'; kill -9 $$"_s, SourceResult::Incomplete, u"9"_s, "old", "<tv>\n"},
-        {"hangs", u"[ -n \"$1\" ] || sleep 600"_s, SourceResult::GrabberSilent},
-        {"hangs with a part",
-         u"[ -n \"$1\" ] || { echo '<tv>'; sleep 600; }"_s,
-         SourceResult::Incomplete,
-         {},
-         "old",
-         "<tv>\n"},
-        {"floods", u"[ -n \"$1\" ] || yes '<programme/>'"_s, SourceResult::GrabberFlooded},
-        {"floods a file", baseline + u"yes > $out"_s, SourceResult::GrabberFlooded},
-        {"asks on the terminal", u"read a < /dev/tty || exit 7; echo '<tv/>'"_s, SourceResult::GrabberFailed,
-         u"7"_s},
-        {"asks its input", u"read a; echo '<tv/>'"_s, SourceResult::Read, {}, "<tv/>\n"},
-        {"leaves a child", u"sleep 600 & echo '<tv/>'"_s, SourceResult::Read, {}, "<tv/>\n"},
+         u"1"_s},
+        {"dies with a part", u"echo '<tv>'; kill -9 $$"_s, Incomplete, "<tv>\n", u"9"_s},
+        {"hangs", u"[ -n \"$1\" ] || sleep 600"_s, GrabberSilent},
+        {"hangs with a part", u"[ -n \"$1\" ] || { echo '<tv>'; sleep 600; }"_s, Incomplete, "<tv>\n"},
+        {"floods", u"[ -n \"$1\" ] || yes '<programme/>'"_s, GrabberFlooded},
+        {"floods a file", baseline + u"yes > $out"_s, GrabberFlooded},
+        {"asks on the terminal", u"read a < /dev/tty || exit 7; echo x"_s, GrabberFailed, {}, u"7"_s},
+        {"fails", leaky, GrabberFailed, {}, u"4"_s},
     };
+    Grab grab;
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         ASSERT_TRUE(replaceFile(request.path, "old"));
         QFile::remove(beginningOf(request.path));
-        const Grab grab = run(row.commands);
+        grab = run(row.commands);
         EXPECT_EQ(grab.result, row.result);
         EXPECT_EQ(grab.detail, row.detail);
-        EXPECT_EQ(test::contentOf(request.path), row.file);
-        EXPECT_EQ(test::contentOf(beginningOf(request.path)), row.beginning);
-        if (!row.output.isEmpty()) {
-            EXPECT_EQ(grab.output, row.output);
-        }
+        EXPECT_EQ(test::contentOf(request.path), row.result == Read ? row.content : "old");
+        EXPECT_EQ(test::contentOf(beginningOf(request.path)),
+                  row.result == Incomplete ? row.content : QByteArray());
+        EXPECT_EQ(test::contentOf(grab.file), row.content);
     }
+    EXPECT_EQ(grab.output, u"http://a.example/x?… password: …\n"_s);
     EXPECT_EQ(QDir(root.filePath(u"cache"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               QStringList(u"content"_s));
     request.program = root.filePath(u"bin/gone"_s);
-    EXPECT_EQ(grab(runner, request).result, SourceResult::NoFile);
+    EXPECT_EQ(guide::grab(runner, request).result, NoFile);
 }
 
 TEST_F(GrabberTest, NeverRunsWithoutTheConfigurationThatItNeeds) {

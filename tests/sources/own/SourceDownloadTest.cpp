@@ -68,73 +68,42 @@ TEST_F(SourceDownloadTest, EveryAnswerHasAResultAndOnlyAWholeOneReplacesTheFile)
     const auto moved = [](const QByteArray& location) {
         return ServerReply::answer(302, "<html>moved</html>", {"Location: " + location});
     };
+    const QByteArray unknownLength = ServerReply::head(200) + kFeed;
+    const QByteArray announcedTooLarge = ServerReply::head(200, {"Content-Length: 9999999"}) + kFeed;
+    const QByteArray packed = gzipped(kFeed);
+    const QByteArray bomb = gzipped(QByteArray(400'000, 'x'));
+    const QList<QByteArray> gzip{"Content-Encoding: gzip"};
+    using enum SourceResult;
     const struct {
         const char* name;
         std::vector<ServerReply> replies;
         SourceResult result;
-        QString detail;
-        QByteArray file;
-        QByteArray beginning = {};
+        QByteArray content = {};
+        QString detail = {};
     } rows[] = {
-        {"whole", {ServerReply::ok(kFeed)}, SourceResult::Read, {}, kFeed},
-        {"packed for the transfer",
-         {ServerReply::ok(gzipped(kFeed), {"Content-Encoding: gzip"})},
-         SourceResult::Read,
-         {},
-         kFeed},
-        {"a packed file", {ServerReply::ok(gzipped(kFeed))}, SourceResult::Read, {}, gzipped(kFeed)},
-        {"a length that is unknown",
-         {ServerReply::raw(ServerReply::head(200) + kFeed)},
-         SourceResult::Read,
-         {},
-         kFeed},
-        {"empty", {ServerReply::ok({})}, SourceResult::Empty, {}, "old"},
-        {"no content", {ServerReply::answer(204, {})}, SourceResult::Empty, {}, "old"},
-        {"ends at half", {ServerReply::raw(cut(half))}, SourceResult::Incomplete, {}, "old", half},
-        {"reset at half",
-         {ServerReply::raw(cut(half)).then(half.left(9), 50ms)},
-         SourceResult::Incomplete,
-         {},
-         "old",
-         half + half.left(9)},
-        {"silent at half",
-         {ServerReply::raw(cut(half), End::Stall)},
-         SourceResult::Incomplete,
-         {},
-         "old",
-         half},
-        {"silent", {ServerReply::raw({}, End::Stall)}, SourceResult::NoAnswer, {}, "old"},
-        {"closed", {ServerReply::raw({})}, SourceResult::NoAnswer, {}, "old"},
-        {"forbidden", {ServerReply::answer(403, kFeed)}, SourceResult::Status, u"403"_s, "old"},
-        {"several choices", {ServerReply::answer(300, kFeed)}, SourceResult::Status, u"300"_s, "old"},
-        {"announced too large",
-         {ServerReply::raw(ServerReply::head(200, {"Content-Length: 9999999"}) + kFeed)},
-         SourceResult::TooLarge,
-         {},
-         "old"},
-        {"too large when unpacked",
-         {ServerReply::ok(gzipped(QByteArray(400'000, 'x')), {"Content-Encoding: gzip"})},
-         SourceResult::TooLarge,
-         {},
-         "old"},
+        {"whole", {ServerReply::ok(kFeed)}, Read, kFeed},
+        {"packed for the transfer", {ServerReply::ok(packed, gzip)}, Read, kFeed},
+        {"a packed file", {ServerReply::ok(packed)}, Read, packed},
+        {"a length that is unknown", {ServerReply::raw(unknownLength)}, Read, kFeed},
+        {"empty", {ServerReply::ok({})}, Empty},
+        {"no content", {ServerReply::answer(204, {})}, Empty},
+        {"ends at half", {ServerReply::raw(cut(half))}, Incomplete, half},
+        {"silent at half", {ServerReply::raw(cut(half), End::Stall)}, Incomplete, half},
+        {"silent", {ServerReply::raw({}, End::Stall)}, NoAnswer},
+        {"closed", {ServerReply::raw({})}, NoAnswer},
+        {"forbidden", {ServerReply::answer(403, kFeed)}, Status, {}, u"403"_s},
+        {"several choices", {ServerReply::answer(300, kFeed)}, Status, {}, u"300"_s},
+        {"announced too large", {ServerReply::raw(announcedTooLarge)}, TooLarge},
+        {"too large when unpacked", {ServerReply::ok(bomb, gzip)}, TooLarge},
         {"five redirects",
          {moved("/a"), moved("b?x"), moved("//feeds.example/c"), moved("http://feeds.example/d"), moved("?e"),
           ServerReply::ok(kFeed)},
-         SourceResult::Read,
-         {},
+         Read,
          kFeed},
-        {"six",
-         {moved("/1"), moved("/2"), moved("/3"), moved("/4"), moved("/5"), moved("/6")},
-         SourceResult::TooManyRedirects,
-         {},
-         "old"},
-        {"to a file", {moved("file:///etc/passwd")}, SourceResult::ForbiddenRedirect, u"file"_s, "old"},
-        {"to a script",
-         {moved("javascript:alert(1)")},
-         SourceResult::ForbiddenRedirect,
-         u"javascript"_s,
-         "old"},
-        {"to nowhere", {ServerReply::answer(302, {})}, SourceResult::Status, u"302"_s, "old"},
+        {"six", {moved("1"), moved("2"), moved("3"), moved("4"), moved("5"), moved("6")}, TooManyRedirects},
+        {"to a file", {moved("file:///etc/passwd")}, ForbiddenRedirect, {}, u"file"_s},
+        {"to a script", {moved("javascript:alert(1)")}, ForbiddenRedirect, {}, u"javascript"_s},
+        {"to nowhere", {ServerReply::answer(302, {})}, Status, {}, u"302"_s},
     };
     request.mostBytes = 300'000;
     request.longestSilence = 500ms;
@@ -148,11 +117,9 @@ TEST_F(SourceDownloadTest, EveryAnswerHasAResultAndOnlyAWholeOneReplacesTheFile)
         const SourceDownload answer = download();
         EXPECT_EQ(answer.result, row.result);
         EXPECT_EQ(answer.detail, row.detail);
-        EXPECT_EQ(content(), row.file);
-        EXPECT_EQ(beginning(), row.beginning);
-        EXPECT_EQ(answer.file, row.result == SourceResult::Read         ? request.path
-                               : row.result == SourceResult::Incomplete ? beginningOf(request.path)
-                                                                        : QString());
+        EXPECT_EQ(content(), row.result == Read ? row.content : "old");
+        EXPECT_EQ(beginning(), row.result == Incomplete ? row.content : QByteArray());
+        EXPECT_EQ(test::contentOf(answer.file), row.content);
     }
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList(u"content"_s))
         << "no temporary files, and a whole answer removes the beginning of another";
