@@ -2,13 +2,20 @@
 
 #include "FuzzInput.h"
 #include "FuzzTarget.h"
+#include "fakes/Files.h"
 #include "fakes/Packing.h"
-#include "parsers/own/FeedPreview.h"
-#include "parsers/own/SourceContent.h"
+#include "fakes/Zipping.h"
+#include "parsers/own/SourcePreviewReader.h"
 #include "parsers/playlists/ChannelMatching.h"
 #include "parsers/playlists/FeedChannels.h"
 #include "parsers/playlists/Playlist.h"
+#include "parsers/xmltv/FeedListing.h"
+#include "parsers/xmltv/ProgrammeSkipScan.h"
+#include "platform/encoding/TextFile.h"
 #include "platform/encoding/Utf8.h"
+
+#include <QFileInfo>
+#include <QTemporaryDir>
 
 namespace guide::fuzz {
 
@@ -39,17 +46,54 @@ void matchPlaylist(QByteArrayView bytes) {
     }
 }
 
+/// A file with this content, in memory where the system allows it.
+QString fileWith(const QByteArray& content) {
+    static const QTemporaryDir folder(QFileInfo(QStringLiteral("/dev/shm")).isWritable()
+                                          ? QStringLiteral("/dev/shm/guide-fuzz-XXXXXX")
+                                          : QString());
+    const QString path = folder.filePath(QStringLiteral("source"));
+    require(test::writeFile(path, content), "the file can be written");
+    return path;
+}
+
+QString charsetOf(const FuzzInput& input) {
+    return input.choice(2) == 1 ? QStringLiteral("iso-8859-2") : QString();
+}
+
+/// Part: a file. The size of the room must not change the text.
+void readWindows(QByteArrayView bytes) {
+    const FuzzInput input(bytes);
+    const QString path = fileWith(input.whole());
+    QByteArray texts[2];
+    constexpr std::size_t kRooms[] = {std::size_t{256} << 10, 5};
+    constexpr std::size_t kWindow = 64;
+    for (std::size_t i = 0; i < 2; ++i) {
+        TextFile file(path, {.charset = charsetOf(input), .physicalMemory = kMemory, .window = kWindow});
+        QByteArray room(static_cast<qsizetype>(kRooms[i]), Qt::Uninitialized);
+        while (const std::size_t got = file.read({room.data(), kRooms[i]})) {
+            texts[i] += room.first(static_cast<qsizetype>(got));
+        }
+    }
+    require(texts[0] == texts[1], "a text does not depend on the room");
+    require(isValidUtf8(texts[0]) && !texts[0].contains('\0'), "a text is UTF-8 without control characters");
+    const WantedChannels wanted({QStringLiteral("a.cz")});
+    const QByteArray kept = test::filteredPieces(texts[0], FeedScan::kWindow, wanted);
+    require(kept == test::filteredPieces(texts[0], 3, wanted), "a scan does not depend on the windows");
+    if (const auto whole = withoutUnwantedProgrammes(texts[0], wanted)) {
+        require(kept == whole->feed, "a scan in windows keeps what the one of the whole keeps");
+    }
+}
+
 void previewSource(QByteArrayView bytes) {
     constexpr Moment kNow{std::chrono::sys_days(std::chrono::year(2026) / 11 / 21)};
     const FuzzInput input(bytes);
-    const SourceContent content =
-        sourceContent(input.whole(), DecompressionLimits{kMemory},
-                      input.choice(2) == 1 ? QStringLiteral("iso-8859-2") : QString());
-    require(isValidUtf8(content.text), "a source is UTF-8");
-    const FeedPreview preview = feedPreview(content.text, kNow);
+    const SourcePreview preview = sourcePreview(
+        fileWith(input.whole()),
+        {.now = kNow, .zone = QTimeZone::utc(), .charset = charsetOf(input), .physicalMemory = kMemory});
+    const auto named = static_cast<int>(preview.channels.size());
     require(preview.channelsOnAir <= preview.channelsLive &&
-                preview.channelsLive <= preview.channelsWithShows &&
-                preview.channelsWithShows <= preview.channels && preview.channelsWithShows <= preview.shows,
+                preview.channelsLive <= preview.channelsWithShows && preview.channelsWithShows <= named &&
+                preview.channelsWithShows <= preview.shows,
             "every count is part of the next");
     require(preview.first.has_value() == (preview.shows > 0) && preview.first <= preview.last,
             "the first show precedes the last");
@@ -58,6 +102,18 @@ void previewSource(QByteArrayView bytes) {
         channels += count;
     }
     require(channels == preview.channelsWithShows, "every channel with shows is counted in one language");
+    for (const PreviewChannel& channel : preview.channels) {
+        require(!channel.id.isEmpty(), "a channel has an id");
+        require(channel.icon.isEmpty() || channel.icon.startsWith(u"http", Qt::CaseInsensitive) ||
+                    channel.icon.startsWith(u"//"),
+                "an icon is on the web");
+    }
+}
+
+QByteArray zipped(const QByteArray& content) {
+    const QString path = fileWith({});
+    require(test::writeZip(path, {{"a.txt", "a"}, {"b.xml", content}}), "the archive can be written");
+    return test::contentOf(path);
 }
 
 const char* const kFeed =
@@ -68,6 +124,11 @@ const char* const kFeed =
 } // namespace
 
 std::vector<FuzzTarget> ownSourceTargets() {
+    const auto seeds = [] {
+        return std::vector<QByteArray>{fuzzInput({kFeed}),           fuzzInput({gzipped(kFeed)}),
+                                       fuzzInput({xzPacked(kFeed)}), fuzzInput({zipped(kFeed)}),
+                                       fuzzInput({kFeed}, 1),        fuzzInput({"<tv>\x9A\xE1\xFF</tv>"})};
+    };
     return {
         {.name = "playlist",
          .run = matchPlaylist,
@@ -83,12 +144,15 @@ std::vector<FuzzTarget> ownSourceTargets() {
          .maxMemoryPerByte = 0},
         {.name = "source-preview",
          .run = previewSource,
-         .seeds =
-             [] {
-                 return std::vector<QByteArray>{fuzzInput({kFeed}), fuzzInput({gzipped(kFeed)}),
-                                                fuzzInput({xzPacked(kFeed)}), fuzzInput({kFeed}, 1)};
-             },
-         .literals = {"parsers/own/SourceContent.cpp", "parsers/own/FeedPreview.cpp"},
+         .seeds = seeds,
+         .literals = {"parsers/own/SourceText.cpp", "parsers/own/PreviewFeed.cpp",
+                      "parsers/own/EveningNews.cpp", "parsers/xmltv/FeedScan.cpp"},
+         .maxMemoryPerByte = 0},
+        {.name = "windows",
+         .run = readWindows,
+         .seeds = seeds,
+         .literals = {"parsers/xmltv/FeedMarkup.cpp", "parsers/xmltv/FeedScan.cpp",
+                      "platform/encoding/TextFile.cpp"},
          .maxMemoryPerByte = 0},
     };
 }

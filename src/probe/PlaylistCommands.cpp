@@ -1,15 +1,18 @@
-#include "parsers/own/FeedPreview.h"
-#include "parsers/own/SourceContent.h"
+#include "parsers/own/SourcePreviewReader.h"
 #include "parsers/playlists/ChannelMatching.h"
 #include "parsers/playlists/FeedChannels.h"
 #include "parsers/playlists/Playlist.h"
+#include "platform/memory/ManualClock.h"
 #include "probe/Command.h"
 #include "probe/ProbePages.h"
 #include "sources/WebURL.h"
+#include "sources/own/SourceDownload.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
+#include <QTemporaryDir>
 
+#include <algorithm>
 #include <array>
 
 namespace guide::probe {
@@ -69,78 +72,129 @@ Outcome match(Context& context) {
     return QJsonObject{{u"counts"_s, byKind}, {u"entries"_s, entries}};
 }
 
-/// The bytes of a file, or of what the network answers for a web address.
-std::variant<QByteArray, Failure> bytesOf(const Context& context, const QString& place) {
-    const QUrl url(place);
-    if (isWebURL(url)) {
-        QString why;
-        std::optional<QByteArray> bytes;
-        withNetwork(context, why, [&](const PageFetcher& fetcher, const HTTPUserAgent& userAgent) {
-            bytes = fetcher.netPageForRequest(pageRequest(url, userAgent), true).page;
-        });
-        return bytes ? std::variant<QByteArray, Failure>(*std::move(bytes))
-                     : Failure{u"%1: %2"_s.arg(place, why.isEmpty() ? u"no answer"_s : why)};
-    }
-    QFile file(place);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return Failure{u"%1 cannot be read: %2"_s.arg(place, file.errorString())};
-    }
-    return file.readAll();
-}
-
 /// In the order of SourceKind.
 const std::array<QString, 5> kSourceKinds{u"feed"_s, u"playlist"_s, u"page"_s, u"empty"_s, u"unknown"_s};
 
-void addFeed(QJsonObject& preview, const FeedPreview& feed, Moment now, QJsonArray& warnings) {
-    preview[u"channels"_s] = feed.channels;
-    preview[u"channelsWithShows"_s] = feed.channelsWithShows;
-    preview[u"channelsOnAir"_s] = feed.channelsOnAir;
-    preview[u"channelsLive"_s] = feed.channelsLive;
-    preview[u"shows"_s] = feed.shows;
-    preview[u"first"_s] = jsonMoment(feed.first);
-    preview[u"last"_s] = jsonMoment(feed.last);
+QString warningText(SourceWarning warning, const SourcePreview& preview) {
+    switch (warning) {
+    case SourceWarning::Poor:
+        return u"fewer than a quarter of the channels have shows in the next 24 hours"_s;
+    case SourceWarning::Over:
+        return u"the last show is past"_s;
+    case SourceWarning::Shifted:
+        return u"the evening news are not in the evening"_s;
+    case SourceWarning::Incomplete:
+        return u"the document breaks off"_s;
+    case SourceWarning::Repaired:
+        return u"%1 bytes are no characters"_s.arg(preview.replacedBytes);
+    }
+    return {};
+}
+
+/// What is written about a file that cannot be used; empty for other results.
+QString faultText(SourceResult result) {
+    switch (result) {
+    case SourceResult::Damaged:
+        return u"the packed file is damaged"_s;
+    case SourceResult::TooLarge:
+        return u"the file unpacks to too much"_s;
+    default:
+        return {};
+    }
+}
+
+QJsonObject sourceJSON(const SourcePreview& preview) {
+    const bool isFeed = preview.kind == SourceKind::Feed;
+    const bool isPlaylist = preview.kind == SourceKind::Playlist;
+    const auto ofFeed = [isFeed](int number) { return isFeed ? QJsonValue(number) : QJsonValue::Null; };
+    const auto named = isFeed ? preview.channels.size() : preview.playlist.entries.size();
     QJsonObject languages;
-    for (const auto& [language, channels] : feed.languages.asKeyValueRange()) {
+    for (const auto& [language, channels] : preview.languages.asKeyValueRange()) {
         languages.insert(language, channels);
     }
-    preview[u"languages"_s] = languages;
-    if (feed.incomplete) {
-        warnings.append(u"the document breaks off"_s);
+    QJsonArray warnings;
+    for (const SourceWarning warning : preview.warnings) {
+        warnings.append(warningText(warning, preview));
     }
-    if (feed.isOver(now)) {
-        warnings.append(u"the last show is past"_s);
-    } else if (feed.isPoor()) {
-        warnings.append(u"fewer than a quarter of the channels have shows in the next 24 hours"_s);
+    if (const QString fault = faultText(preview.result); !fault.isEmpty()) {
+        warnings.append(fault);
+    }
+    return {{u"kind"_s, kSourceKinds[static_cast<std::size_t>(preview.kind)]},
+            {u"channels"_s, isFeed || isPlaylist ? QJsonValue(qint64(named)) : QJsonValue::Null},
+            {u"channelsWithShows"_s, ofFeed(preview.channelsWithShows)},
+            {u"channelsOnAir"_s, ofFeed(preview.channelsOnAir)},
+            {u"channelsLive"_s, ofFeed(preview.channelsLive)},
+            {u"shows"_s, ofFeed(preview.shows)},
+            {u"first"_s, jsonMoment(preview.first)},
+            {u"last"_s, jsonMoment(preview.last)},
+            {u"unpackedBytes"_s, qint64(preview.unpackedBytes)},
+            {u"languages"_s, languages},
+            {u"feeds"_s, QJsonArray::fromStringList(preview.playlist.feeds)},
+            {u"warnings"_s, warnings}};
+}
+
+/// Why nothing was fetched.
+QString reasonOf(const SourceDownload& download) {
+    switch (download.result) {
+    case SourceResult::Status:
+        return u"status %1"_s.arg(download.detail);
+    case SourceResult::Busy:
+        return u"the server wants to be asked later"_s;
+    case SourceResult::TooManyRedirects:
+        return u"too many redirects"_s;
+    case SourceResult::ForbiddenRedirect:
+        return u"redirected to %1"_s.arg(download.detail);
+    case SourceResult::TooLarge:
+        return u"too large"_s;
+    case SourceResult::NoRoom:
+        return u"it cannot be stored"_s;
+    default:
+        return u"no answer"_s;
     }
 }
 
 Outcome source(Context& context) {
-    auto bytes = bytesOf(context, context.arguments.operands.front());
-    if (const auto* failure = std::get_if<Failure>(&bytes)) {
-        return *failure;
+    const QString& place = context.arguments.operands.front();
+    PreviewRequest request{.now = context.now,
+                           .zone = context.device.timeZone(),
+                           .physicalMemory = context.device.physicalMemory()};
+    QString path = place;
+    const QTemporaryDir folder;
+    bool isCut = false;
+    if (const QUrl url(place); isWebURL(url)) {
+        path = folder.filePath(u"source"_s);
+        SourceDownload download;
+        withClient(
+            context, [&](HTTPClient& client, NetworkActivity& activity, const HTTPUserAgent& userAgent) {
+                const ManualClock clock(context.now);
+                download = downloadSource(
+                    {.clock = clock, .client = client, .networkActivity = activity, .userAgent = userAgent},
+                    {.url = url, .path = path});
+            });
+        if (download.result == SourceResult::Empty) {
+            SourcePreview nothing;
+            nothing.kind = SourceKind::Empty;
+            return sourceJSON(nothing);
+        }
+        if (download.file.isEmpty()) {
+            return Failure{u"%1: %2"_s.arg(place, reasonOf(download))};
+        }
+        path = download.file;
+        isCut = download.result == SourceResult::Incomplete;
+        request.charset = download.charset;
     }
-    const SourceContent content = sourceContent(std::get<QByteArray>(std::move(bytes)),
-                                                DecompressionLimits{context.device.physicalMemory()});
-    const auto kind = static_cast<std::size_t>(content.kind);
-    QJsonObject preview{{u"kind"_s, kSourceKinds[kind]}, {u"unpackedBytes"_s, content.text.size()}};
-    QJsonArray warnings;
-    QJsonArray feeds;
-    if (content.kind == SourceKind::Feed) {
-        addFeed(preview, feedPreview(content.text, context.now), context.now, warnings);
-    } else if (content.kind == SourceKind::Playlist) {
-        const Playlist playlist = readPlaylist(QString::fromUtf8(content.text));
-        preview[u"channels"_s] = qint64(playlist.entries.size());
-        feeds = QJsonArray::fromStringList(playlist.feeds);
+    SourcePreview preview = sourcePreview(path, request);
+    if (preview.result == SourceResult::NoFile) {
+        return Failure{u"%1 cannot be read"_s.arg(place)};
     }
-    if (content.damaged) {
-        warnings.append(u"the packed file is damaged or cut off"_s);
+    if (isCut && std::ranges::find(preview.warnings, SourceWarning::Incomplete) == preview.warnings.end()) {
+        preview.warnings.push_back(SourceWarning::Incomplete);
     }
-    if (content.replaced > 0) {
-        warnings.append(u"%1 bytes are no characters"_s.arg(content.replaced));
+    QJsonObject json = sourceJSON(preview);
+    if (preview.kind == SourceKind::Unknown && QFileInfo(place).isExecutable()) {
+        json[u"kind"_s] = u"grabber"_s;
     }
-    preview[u"feeds"_s] = feeds;
-    preview[u"warnings"_s] = warnings;
-    return preview;
+    return json;
 }
 
 } // namespace

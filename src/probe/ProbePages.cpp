@@ -58,25 +58,32 @@ PageSource givenPages(const std::vector<QByteArray>& pages) {
     };
 }
 
-void withNetwork(const Context& context, QString& why,
-                 const std::function<void(const PageFetcher&, const HTTPUserAgent&)>& use) {
+void withClient(const Context& context,
+                const std::function<void(HTTPClient&, NetworkActivity&, const HTTPUserAgent&)>& use) {
     const ManualClock clock(context.now);
     ResponseCache cache(clock, 0, [] { return std::chrono::milliseconds(0); });
     CurlHTTPClient client(cache);
     EventLoopQueues queues;
     NetworkActivity activity(queues, [](bool) {});
     const HTTPUserAgent userAgent([](unsigned bound) { return QRandomGenerator::global()->bounded(bound); });
-    const PageFetcher fetcher(
-        {.client = client,
-         .networkActivity = activity,
-         .physicalMemory = context.device.physicalMemory(),
-         .wait =
-             [](std::chrono::milliseconds time) {
-                 std::this_thread::sleep_for(time);
-                 return true;
-             },
-         .noRemoteHostAlert = [&](const TransferError& error) { why = error.description; }});
-    use(fetcher, userAgent);
+    use(client, activity, userAgent);
+}
+
+void withNetwork(const Context& context, QString& why,
+                 const std::function<void(const PageFetcher&, const HTTPUserAgent&)>& use) {
+    withClient(context, [&](HTTPClient& client, NetworkActivity& activity, const HTTPUserAgent& userAgent) {
+        const PageFetcher fetcher(
+            {.client = client,
+             .networkActivity = activity,
+             .physicalMemory = context.device.physicalMemory(),
+             .wait =
+                 [](std::chrono::milliseconds time) {
+                     std::this_thread::sleep_for(time);
+                     return true;
+                 },
+             .noRemoteHostAlert = [&](const TransferError& error) { why = error.description; }});
+        use(fetcher, userAgent);
+    });
 }
 
 } // namespace guide::probe

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "parsers/details/PageSource.h"
+#include "platform/http/HTTPClient.h"
 #include "probe/Command.h"
+#include "sources/HTTPUserAgent.h"
+#include "sources/NetworkActivity.h"
 #include "sources/PageFetcher.h"
 
 #include <QByteArray>
@@ -21,6 +24,10 @@ std::variant<std::vector<QByteArray>, Failure> pagesFromFiles(const QStringList&
 /// A source that returns these pages one after the other, whatever the request. Keeps a reference to the
 /// pages.
 PageSource givenPages(const std::vector<QByteArray>& pages);
+
+/// Calls `use` with what downloads need.
+void withClient(const Context& context,
+                const std::function<void(HTTPClient&, NetworkActivity&, const HTTPUserAgent&)>& use);
 
 /// Calls `use` with a fetcher that uses the network. Stores in `why` the reason for a failed transfer.
 void withNetwork(const Context& context, QString& why,

@@ -30,7 +30,7 @@ struct OwnFeedItem {
 struct OwnFeedEnvironment {
     const Clock& clock;
     const Alphabet& alphabet;
-    QLocale locale;
+    QLocale locale = {};
     /// In bytes.
     std::uint64_t physicalMemory = 0;
     std::function<bool()> stopped = {};

@@ -33,10 +33,17 @@ bool FeedFilter::finish(const std::function<bool()>& stopped) {
     return true;
 }
 
-FeedFilter::Channels::value_type& FeedFilter::named(std::string id) {
+FeedFilter::Channels::value_type* FeedFilter::named(std::string id) {
+    if (id.empty() || id.size() > kLongestChannelId) {
+        return nullptr;
+    }
+    if (m_channels.size() >= kMostFeedChannels) {
+        const auto known = m_channels.find(id);
+        return known == m_channels.end() ? nullptr : &*known;
+    }
     const auto [place, isNew] = m_channels.try_emplace(std::move(id), false);
-    m_counts.channels += isNew && !place->first.empty() ? 1 : 0;
-    return *place;
+    m_counts.channels += isNew ? 1 : 0;
+    return &*place;
 }
 
 void FeedFilter::channel(const OpeningTag& tag, std::string_view) {
@@ -52,18 +59,17 @@ std::optional<bool> FeedFilter::programme(const OpeningTag& tag, std::string_vie
     if (!raw) {
         return m_wanted.all();
     }
-    if (!m_last || m_lastChannel != *raw) {
+    if (m_lastChannel != *raw) {
         auto id = attributeValue(*raw);
         if (!id) {
             return std::nullopt;
         }
         m_isLastWanted = m_wanted.contains(*id);
-        m_last = &named(*std::move(id));
+        m_last = named(*std::move(id));
         m_lastChannel = *raw;
     }
-    const auto startText = tag.value("start");
-    const auto start = startText ? parseXMLTVDate(*startText, m_withoutZone) : std::nullopt;
-    if (start && !m_last->first.empty()) {
+    const auto startText = m_last ? tag.value("start") : std::nullopt;
+    if (const auto start = startText ? parseXMLTVDate(*startText, m_withoutZone) : std::nullopt) {
         ++m_counts.shows;
         m_counts.channelsWithShows += std::exchange(m_last->second, true) ? 0 : 1;
         m_counts.newest = m_counts.newest ? std::max(*m_counts.newest, *start) : *start;

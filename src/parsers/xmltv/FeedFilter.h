@@ -13,6 +13,11 @@
 
 namespace guide {
 
+/// Channels beyond are neither counted nor previewed.
+inline constexpr std::size_t kMostFeedChannels = 100'000;
+/// Nor are those with longer ids.
+inline constexpr std::size_t kLongestChannelId = 1'000;
+
 /// What a whole feed has.
 struct FeedCounts {
     /// Named by the feed, or only by its shows.
@@ -37,6 +42,8 @@ class FeedFilter final : public TextSource, private FeedScanEvents {
     /// Scans what was not read. False when `stopped` returned true, which is asked at every window.
     bool finish(const std::function<bool()>& stopped = {});
 
+    /// As FeedScan tells it.
+    bool isWhole() const { return m_scan.isWhole(); }
     /// Of what was scanned.
     const FeedCounts& counts() const { return m_counts; }
 
@@ -46,7 +53,8 @@ class FeedFilter final : public TextSource, private FeedScanEvents {
 
     void channel(const OpeningTag& tag, std::string_view content) override;
     std::optional<bool> programme(const OpeningTag& tag, std::string_view content) override;
-    Channels::value_type& named(std::string id);
+    /// Null for a channel that is not counted.
+    Channels::value_type* named(std::string id);
 
     const WantedChannels& m_wanted;
     const MissingZone m_withoutZone;
@@ -57,8 +65,8 @@ class FeedFilter final : public TextSource, private FeedScanEvents {
     FeedCounts m_counts;
     Channels m_channels;
     /// Most feeds are sorted by channel: of the programme before, its channel as written, and what is known
-    /// about it. Null before the first one.
-    std::string m_lastChannel;
+    /// about it.
+    std::optional<std::string> m_lastChannel;
     Channels::value_type* m_last = nullptr;
     bool m_isLastWanted = false;
 };

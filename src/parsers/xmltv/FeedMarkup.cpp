@@ -1,5 +1,6 @@
 #include "parsers/xmltv/FeedMarkup.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -262,6 +263,73 @@ std::optional<std::string> attributeValue(std::string_view raw) {
         }
     }
     return value;
+}
+
+std::string elementText(std::string_view content) {
+    constexpr std::string_view kSection = "<![CDATA[";
+    constexpr std::string_view kSectionEnd = "]]>";
+    std::string text;
+    text.reserve(content.size());
+    while (!content.empty()) {
+        const std::size_t plain = std::min(content.find_first_of("<&"), content.size());
+        text.append(content.substr(0, plain));
+        content.remove_prefix(plain);
+        if (content.starts_with(kSection)) {
+            const std::size_t end = std::min(content.find(kSectionEnd), content.size());
+            text.append(content.substr(kSection.size(), end - kSection.size()));
+            content.remove_prefix(std::min(end + kSectionEnd.size(), content.size()));
+        } else if (content.starts_with('<')) {
+            const std::string_view closing = content.starts_with("<!--") ? "-->" : ">";
+            const std::size_t end = content.find(closing);
+            content.remove_prefix(end == std::string_view::npos ? content.size() : end + closing.size());
+        } else if (content.starts_with('&')) {
+            const std::size_t end = content.find(';');
+            const auto character =
+                end == std::string_view::npos ? std::nullopt : referredCharacter(content.substr(1, end - 1));
+            if (character) {
+                appendUtf8(text, *character);
+            } else {
+                text.push_back('&');
+            }
+            content.remove_prefix(character ? end + 1 : 1);
+        }
+    }
+    return text;
+}
+
+bool FeedElements::next() {
+    while (const char* mark = m_at < m_end ? std::strchr(m_at, '<') : nullptr) {
+        if (mark >= m_end) {
+            return false;
+        }
+        m_at = mark;
+        if (mark[1] == '!' || mark[1] == '?') {
+            if (skipAside(m_at) != Markup::Whole) {
+                break;
+            }
+            continue;
+        }
+        const std::size_t size = std::strcspn(mark + 1, " \n\t\r<>/\"'=&");
+        if (size == 0 || m_tag.read(mark + 1 + size) != Markup::Whole) {
+            break;
+        }
+        m_name = {mark + 1, size};
+        m_at = m_tag.end();
+        if (!m_tag.isEmptyElement() &&
+            skipElement(m_at, "<" + std::string(m_name), "</" + std::string(m_name)) != Markup::Whole) {
+            break;
+        }
+        if (m_at > m_end) {
+            break;
+        }
+        const auto length = static_cast<std::size_t>(m_at - m_tag.end());
+        const std::string_view rest(m_tag.end(), length);
+        m_content = rest.substr(0, m_tag.isEmptyElement() ? 0 : rest.rfind('<'));
+        return true;
+    }
+    m_isMalformed = m_isMalformed || m_at < m_end;
+    m_at = m_end;
+    return false;
 }
 
 } // namespace guide

@@ -65,4 +65,32 @@ class OpeningTag {
 /// when it contains a reference that only a DTD defines.
 std::optional<std::string> attributeValue(std::string_view raw);
 
+/// The text of an element: references resolved, sections opened; tags and comments are left out.
+std::string elementText(std::string_view content);
+
+/// Walks over the child elements of an element's content, which is part of a text that ends in a zero byte.
+class FeedElements {
+  public:
+    explicit FeedElements(std::string_view content)
+        : m_at(content.data())
+        , m_end(content.data() + content.size()) {}
+
+    /// Moves to the next child. False behind the last one and where the content is malformed.
+    bool next();
+    bool isMalformed() const { return m_isMalformed; }
+
+    // Of the child.
+    std::string_view name() const { return m_name; }
+    const OpeningTag& tag() const { return m_tag; }
+    std::string_view content() const { return m_content; }
+
+  private:
+    const char* m_at;
+    const char* const m_end;
+    std::string_view m_name;
+    OpeningTag m_tag;
+    std::string_view m_content;
+    bool m_isMalformed = false;
+};
+
 } // namespace guide

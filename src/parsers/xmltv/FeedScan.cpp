@@ -18,6 +18,10 @@ std::string_view between(const char* begin, const char* end) {
     return {begin, static_cast<std::size_t>(end - begin)};
 }
 
+bool isTooLong(const char* begin, const char* end) {
+    return static_cast<std::size_t>(end - begin) > FeedScan::kLongestElement;
+}
+
 /// What is between the tags of an element that ends at `end`.
 std::string_view contentOf(const OpeningTag& tag, const char* end) {
     const std::string_view rest = between(tag.end(), end);
@@ -62,18 +66,18 @@ void FeedScan::scan(std::string* kept) {
     while (const char* mark = std::strchr(m_at, '<')) {
         m_at = mark;
         const Markup part = skip(mark);
-        if (part == Markup::Whole && static_cast<std::size_t>(m_at - mark) <= kLongestElement) {
+        if (part == Markup::Whole) {
             continue;
         }
-        if (part == Markup::Doubtful || (part == Markup::Unfinished && m_isLast)) {
-            m_isMalformed = m_isMalformed || part == Markup::Unfinished ||
-                            std::strncmp(mark, kDocumentType.data(), kDocumentType.size()) != 0;
+        m_isCut = m_isCut || (part == Markup::Unfinished && isTooLong(mark, end));
+        if (!m_isCut && (part == Markup::Doubtful || m_isLast)) {
+            // Declarations in front of the feed hide nothing.
+            m_isMalformed = m_isMalformed || part == Markup::Unfinished || mark[1] != '!' || m_hasRoot;
             m_keepsAll = true;
             m_isRun = false;
             m_at = mark + 1;
             continue;
         }
-        m_isCut = part == Markup::Whole || static_cast<std::size_t>(end - mark) > kLongestElement;
         m_at = mark;
         break;
     }
@@ -85,7 +89,7 @@ void FeedScan::scan(std::string* kept) {
     if (!mayBeDropped) {
         keep(m_at);
         m_isRun = false;
-    } else if (static_cast<std::size_t>(m_at - m_from) > kLongestElement) {
+    } else if (isTooLong(m_from, m_at)) {
         m_isCut = true;
     }
     m_kept = kept;
@@ -148,6 +152,10 @@ Markup FeedScan::skipProgramme(const char* mark) {
         if (rest != Markup::Whole) {
             return rest;
         }
+    }
+    if (isTooLong(mark, end)) {
+        m_isCut = true;
+        return Markup::Unfinished;
     }
     const auto isKept = m_events.programme(tag, contentOf(tag, end));
     if (!isKept) {

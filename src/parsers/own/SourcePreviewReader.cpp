@@ -1,0 +1,89 @@
+#include "parsers/own/SourcePreviewReader.h"
+
+#include "parsers/own/PreviewFeed.h"
+#include "parsers/own/SourceText.h"
+#include "parsers/playlists/Playlist.h"
+#include "parsers/xmltv/FeedScan.h"
+
+#include <optional>
+#include <utility>
+
+namespace guide {
+
+namespace {
+
+constexpr qsizetype kMostPlaylistBytes = qsizetype{64} << 20;
+
+bool isStopped(const PreviewRequest& request) {
+    return request.stopped && request.stopped();
+}
+
+/// Both return false when the reading was stopped.
+bool readFeed(SourceText& text, const PreviewRequest& request, SourcePreview& preview, bool& isWhole) {
+    PreviewFeed feed(request);
+    FeedScan scan(text, feed);
+    while (scan.next(nullptr)) {
+        if (isStopped(request)) {
+            return false;
+        }
+        if (request.progress) {
+            request.progress(feed.channelCount(), text.unpackedBytes());
+        }
+    }
+    feed.finish(preview);
+    isWhole = scan.isWhole() && !feed.isMalformed();
+    return true;
+}
+
+bool readList(SourceText& text, const PreviewRequest& request, SourcePreview& preview, bool& isTooLarge) {
+    QByteArray bytes;
+    QByteArray window(qsizetype{256} << 10, Qt::Uninitialized);
+    while (const std::size_t got = text.read({window.data(), static_cast<std::size_t>(window.size())})) {
+        isTooLarge = bytes.size() + static_cast<qsizetype>(got) > kMostPlaylistBytes;
+        if (isTooLarge || isStopped(request)) {
+            return isTooLarge;
+        }
+        bytes.append(window.constData(), static_cast<qsizetype>(got));
+    }
+    preview.playlist = readPlaylist(QString::fromUtf8(bytes));
+    return true;
+}
+
+} // namespace
+
+SourcePreview sourcePreview(const QString& path, const PreviewRequest& request) {
+    SourcePreview preview;
+    SourceText text(path, request.charset, request.physicalMemory);
+    preview.kind = text.kind();
+    bool isWhole = true;
+    bool isTooLarge = false;
+    bool isFinished = true;
+    if (preview.kind == SourceKind::Feed) {
+        isFinished = readFeed(text, request, preview, isWhole);
+    } else if (preview.kind == SourceKind::Playlist) {
+        isFinished = readList(text, request, preview, isTooLarge);
+    }
+    preview.result = !isFinished  ? SourceResult::Cancelled
+                     : isTooLarge ? SourceResult::TooLarge
+                                  : text.result();
+    preview.unpackedBytes = text.unpackedBytes();
+    preview.replacedBytes = text.replacedBytes();
+    const bool isCut = preview.result == SourceResult::Incomplete;
+    if (preview.result != SourceResult::Read && !isCut) {
+        SourcePreview refused;
+        refused.kind = preview.kind;
+        refused.result = preview.result;
+        refused.unpackedBytes = preview.unpackedBytes;
+        return refused;
+    }
+    preview.result = SourceResult::Read;
+    if (isCut || !isWhole) {
+        preview.warnings.push_back(SourceWarning::Incomplete);
+    }
+    if (preview.replacedBytes > 0) {
+        preview.warnings.push_back(SourceWarning::Repaired);
+    }
+    return preview;
+}
+
+} // namespace guide
