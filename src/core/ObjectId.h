@@ -30,6 +30,11 @@ class ObjectId {
     static const ObjectId& popular();
     static const ObjectId& all();
 
+    /// Whether it is the channel of a source that the user added.
+    bool isOwn() const { return m_bytes[0] == kOwnMark; }
+    /// The first byte of such ids.
+    static constexpr std::uint8_t kOwnMark = 0xff;
+
     QString hex() const;
     QByteArray data() const;
     const Bytes& bytes() const { return m_bytes; }
