@@ -17,6 +17,8 @@ struct PictureKey {
         Bundled,
         /// A QR code; `name` is the encoded text.
         QRCode,
+        /// The initials of a channel, at the size of its icon; `name` is its title.
+        Initials,
     };
 
     Kind kind = Kind::None;

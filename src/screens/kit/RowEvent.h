@@ -31,6 +31,8 @@ struct TimePicked {
 struct TextEdited {
     QString text;
     bool finished = false;
+    /// Enter was pressed.
+    bool entered = false;
 };
 /// By the button of edit mode or the Delete key.
 struct Deleted {};

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr PictureKey::Kind kLastKind = PictureKey::Kind::QRCode;
+constexpr PictureKey::Kind kLastKind = PictureKey::Kind::Initials;
 
 } // namespace
 

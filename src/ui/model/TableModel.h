@@ -95,6 +95,8 @@ class TableModel : public QAbstractListModel, private TableObserver {
         send(index, TextEdited{text, finished});
     }
     Q_INVOKABLE void remove(int index) { send(index, Deleted{}); }
+    /// By Enter.
+    Q_INVOKABLE void enter(int index, const QString& text) { send(index, TextEdited{text, true, true}); }
     /// Moves a row before the one at `next`, an index before the move. Possible when both are rows of one
     /// section, or `next` is just past its end.
     Q_INVOKABLE bool canMoveBefore(int index, int next) const;

@@ -21,8 +21,9 @@ TableRow {
         field.forceActiveFocus(Qt.TabFocusReason)
     }
 
+    // Later, because the focus makes this row the current one.
     onFocusWantedChanged: if (focusWanted)
-        field.forceActiveFocus()
+        Qt.callLater(field.forceActiveFocus)
 
     // An update does not replace what the user is typing.
     onRowChanged: if (!field.activeFocus)
@@ -75,7 +76,7 @@ TableRow {
 
             Component.onCompleted: text = cell.row.text
             onTextEdited: cell.rows.edit(cell.index, text, false)
-            onAccepted: cell.rows.edit(cell.index, text, true)
+            onAccepted: cell.rows.enter(cell.index, text)
             onActiveFocusChanged: {
                 if (activeFocus)
                     cell.list.holdCurrent(cell)

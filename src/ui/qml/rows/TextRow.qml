@@ -72,7 +72,7 @@ TableRow {
             color: Theme.secondaryLabel
             font: Theme.detailsFont
             wrapMode: Text.Wrap
-            maximumLineCount: cell.tiled ? 1 : 8
+            maximumLineCount: cell.tiled ? 1 : Theme.textScale > 1.5 ? 16 : 8
             elide: Text.ElideRight
         }
 
