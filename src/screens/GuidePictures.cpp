@@ -1,8 +1,10 @@
 #include "screens/GuidePictures.h"
 
+#include "core/ChannelInitials.h"
+
 namespace guide {
 
-QImage GuidePictures::picture(const PictureKey& key, const QSize& /*pixels*/) {
+QImage GuidePictures::picture(const PictureKey& key, const QSize& pixels) {
     switch (key.kind) {
     case PictureKey::Kind::ChannelIcon:
         return m_icons.iconNamed(key.name);
@@ -10,6 +12,8 @@ QImage GuidePictures::picture(const PictureKey& key, const QSize& /*pixels*/) {
         return m_shows.image(key.name);
     case PictureKey::Kind::None:
     case PictureKey::Kind::Bundled:
+    case PictureKey::Kind::Initials:
+        return channelInitialsIcon(key.name, qHash(key.name, 0), pixels.isEmpty() ? QSize(100, 72) : pixels);
     case PictureKey::Kind::QRCode:
         break;
     }

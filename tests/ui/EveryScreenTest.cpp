@@ -4,8 +4,10 @@
 #include "GalleryShows.h"
 #include "TextFit.h"
 #include "WindowTest.h"
+#include "core/own/KnownFeeds.h"
 #include "fakes/FakeMediaPlayers.h"
 #include "gallery/GalleryRows.h"
+#include "screens/WorldSources.h"
 #include "screens/detail/DetailViewController.h"
 #include "screens/pictures/ScreenShotViewController.h"
 #include "screens/player/PlayerViewController.h"
@@ -32,6 +34,8 @@ class EveryScreenTest : public WindowTest, public testing::WithParamInterface<st
         for (char letter = 'A'; letter <= 'Z'; ++letter) {
             world.addChannel(QChar::fromLatin1(letter) + u"-kanál pro celou rodinu"_s, false);
         }
+        world.ownSources = &sources;
+        world.knownFeeds = &knownFeeds;
         const ObjectId other = world.addChannel(u"Druhý program"_s, true, u"http://127.0.0.1/other"_s);
         fillWithEvening(world);
         kino = world.channels->selected()[6];
@@ -165,6 +169,63 @@ class EveryScreenTest : public WindowTest, public testing::WithParamInterface<st
         world.pictures.large.back().second.post(world.queues.mainQueue(), image);
     }
 
+    /// A row's title, of the kinds on the screens of sources.
+    void tapRow(const QString& title) {
+        for (const Section& section : top().table().sections()) {
+            for (const Row& row : section.rows) {
+                const auto* text = std::get_if<TextRow>(&row.content);
+                const auto* button = std::get_if<ButtonRow>(&row.content);
+                if ((text && text->title == title) || (button && button->title == title)) {
+                    top().sendRowEvent(RowId(row.id), Tapped{});
+                    proceed();
+                    return;
+                }
+            }
+        }
+        ADD_FAILURE() << "no row " << title.toStdString();
+    }
+    void enterAddress() {
+        send(RowKind::Input, TextEdited{u"https://feeds.television.example/guide.xml.gz"_s, true, true});
+    }
+    void answer(const SourceProposal& proposal) {
+        sources.answer(proposal);
+        proceed();
+    }
+    SourceProposal feed() const {
+        std::vector<PreviewChannel> channels;
+        for (int number = 0; number < 30; ++number) {
+            channels.push_back(
+                previewChannel(u"%1. program pro celou rodinu"_s.arg(number), u"cs"_s, number % 7));
+        }
+        SourceProposal proposal = feedProposal(channels, world.clock.now());
+        proposal.preview.warnings = {SourceWarning::Poor, SourceWarning::Over, SourceWarning::Shifted,
+                                     SourceWarning::Repaired};
+        proposal.preview.languages = {{u"cs"_s, 20}, {u"sk"_s, 5}, {QString(), 5}};
+        return proposal;
+    }
+    /// A source with everything that can be said about one.
+    void addFailingSource() {
+        OwnSource source;
+        source.id = OwnSourceId({9});
+        source.kind = OwnSourceKind::Playlist;
+        source.name = u"Televize z obývacího pokoje"_s;
+        source.address = u"https://lists.television.example/a/very/long/path/to/the/playlist.m3u8"_s;
+        source.hasSecret = true;
+        source.channels = {{.key = u"a"_s, .title = u"0. program pro celou rodinu"_s, .language = u"cs"_s}};
+        sources.list.push_back(source);
+        SourceStatus& status = sources.states[source.id];
+        status.result = SourceResult::Poor;
+        status.lastTry = status.lastSuccess = status.newestShow = world.clock.now();
+        status.nextTry = world.clock.now() + 12h;
+        status.channels = 193;
+        status.channelsWithShows = 3;
+        status.shows = 1234;
+        status.unpackedBytes = 8'300'000;
+        status.keptBack = status.missing = {u"0. program pro celou rodinu"_s, u"1. program"_s};
+        status.output = u"tv_grab_x: using config filename\ntv_grab_x: 12 errors"_s;
+        world.broadcast->ownSourcesChanged();
+    }
+
     void check() {
         for (const QQuickItem* list : lists()) {
             QObject* order = list->findChild<QObject*>(u"readingOrder"_s);
@@ -198,6 +259,11 @@ class EveryScreenTest : public WindowTest, public testing::WithParamInterface<st
     GalleryPictures pictures;
     FakeMediaPlayers players;
     ScreenWorld world;
+    WorldSources sources{world.queues.mainQueue()};
+    const KnownFeeds knownFeeds{{{u"CZ"_s,
+                                  {{u"television"_s, u"CZ1"_s, u"https://x.example/1"_s, 6'000'000, 533, {}},
+                                   {u"others"_s, {}, u"https://x.example/2"_s, 0, 0, QDate(2026, 9, 28)}}},
+                                 {u"SK"_s, {{u"others"_s, {}, u"https://x.example/3"_s, 0, 0, {}}}}}};
     ObjectId kino{ObjectId::Bytes{}};
     NetworkActivity activity{world.queues, [](bool) {}};
 
@@ -418,6 +484,78 @@ constexpr Screen kScreens[] = {
          test.proceed();
          test.world.tabs->dismissNotice();
          return test.world.channels->selected().empty();
+     }},
+    {"adding",
+     [](EveryScreenTest& test) {
+         test.top().pressEmptyNoteButton();
+         return true;
+     }},
+    {"public feeds",
+     [](EveryScreenTest& test) {
+         test.tapRow(u"Other countries"_s);
+         return true;
+     }},
+    {"reading",
+     [](EveryScreenTest& test) {
+         test.stack().pop();
+         test.enterAddress();
+         test.sources.progress(120, 4'200'000);
+         return true;
+     }},
+    {"not a feed",
+     [](EveryScreenTest& test) {
+         test.answer(failedProposal(SourceResult::Page));
+         return true;
+     }},
+    {"preview",
+     [](EveryScreenTest& test) {
+         test.enterAddress();
+         test.answer(test.feed());
+         test.send(RowKind::Channel, Tapped{});
+         return true;
+     }},
+    {"preview of a playlist",
+     [](EveryScreenTest& test) {
+         test.stack().pop();
+         test.enterAddress();
+         test.answer(playlistProposal(
+             {u"0. program pro celou rodinu"_s, u"1. program HD"_s, u"Rádio"_s},
+             {u"https://guide.television.example/guide.xml.gz"_s, u"https://second.example/guide.xml.gz"_s}));
+         test.tapRow(u"Load and match now"_s);
+         test.answer(test.feed());
+         return true;
+     }},
+    {"matches",
+     [](EveryScreenTest& test) {
+         test.tapRow(u"Review matches"_s);
+         return true;
+     }},
+    {"candidates",
+     [](EveryScreenTest& test) {
+         test.tapRow(u"1. program HD"_s);
+         return true;
+     }},
+    {"sources",
+     [](EveryScreenTest& test) {
+         test.tab(Symbol::SelectedChannels);
+         test.addFailingSource();
+         test.top().pressRightBarButton(1);
+         return true;
+     }},
+    {"source",
+     [](EveryScreenTest& test) {
+         test.tapRow(u"Televize z obývacího pokoje"_s);
+         return true;
+     }},
+    {"channels of a source",
+     [](EveryScreenTest& test) {
+         test.tapRow(u"Time and language by channel"_s);
+         return true;
+     }},
+    {"channel of a source",
+     [](EveryScreenTest& test) {
+         test.tapRow(u"0. program pro celou rodinu"_s);
+         return true;
      }},
     {"player",
      [](EveryScreenTest& test) {

@@ -5,6 +5,8 @@
 #include "screens/channels/AllChannelsViewController.h"
 #include "screens/channels/ScheduleAge.h"
 #include "screens/kit/NavigationController.h"
+#include "screens/sources/AddSourceViewController.h"
+#include "screens/sources/OwnSourcesViewController.h"
 #include "text/display/Transliteration.h"
 
 #include <utility>
@@ -30,9 +32,9 @@ EditChannelListViewController::EditChannelListViewController(
 
 void EditChannelListViewController::viewDidLoad() {
     setTitle(Localized::tr("Selected Channels"));
-    table().setEmptyNote(EmptyNote{
-        Localized::tr("No channels yet"), Localized::tr("Choose the channels whose shows you want to see."),
-        Localized::tr("Add channels"), [this] { showChannelListWithChannelData(); }});
+    table().setEmptyNote(EmptyNote{Localized::tr("No channels yet"),
+                                   Localized::tr("Choose the channels whose shows you want to see."),
+                                   Localized::tr("Add channels"), [this] { addChannels(); }});
     setButtons();
 }
 
@@ -131,8 +133,44 @@ void EditChannelListViewController::setButtons() {
         left.push_back({BarButton::Kind::Title, Localized::tr("Edit"), [this] { setEditing(true); }});
     }
     setLeftBarButtons(std::move(left));
-    setRightBarButtons({{BarButton::Kind::Title, Localized::tr("Add channels"),
-                         [this] { showChannelListWithChannelData(); }}});
+    std::vector<BarButton> right{{BarButton::Kind::Title, Localized::tr("Add channels"), [this] {
+                                      m_environment->catalogue.snapshot()->empty()
+                                          ? addChannels()
+                                          : showChannelListWithChannelData();
+                                  }}};
+    if (m_environment->sourceActions) {
+        right.push_back({BarButton::Kind::List, Localized::tr("My sources"), [this] { showOwnSources(); }});
+    }
+    setRightBarButtons(std::move(right));
+}
+
+void EditChannelListViewController::addChannels() {
+    NavigationController* navigation = navigationController();
+    if (!m_environment->sourceActions) {
+        showChannelListWithChannelData();
+    } else if (navigation) {
+        navigation->pushFrom(*this,
+                             std::make_shared<AddSourceViewController>(
+                                 m_environment, AddSourceViewController::Start{{}, catalogueOpener()}));
+    }
+}
+
+void EditChannelListViewController::showOwnSources() {
+    if (NavigationController* navigation = navigationController()) {
+        navigation->pushFrom(*this,
+                             std::make_shared<OwnSourcesViewController>(m_environment, catalogueOpener()));
+    }
+}
+
+/// Returns to this screen and opens the catalogue from here.
+std::function<void()> EditChannelListViewController::catalogueOpener() {
+    return [weak = weakFromThis<EditChannelListViewController>()] {
+        const auto self = weak.lock();
+        if (self && self->navigationController()) {
+            self->navigationController()->popToRoot();
+            self->showChannelListWithChannelData();
+        }
+    };
 }
 
 void EditChannelListViewController::setEditing(bool editing) {

@@ -35,6 +35,10 @@ class EditChannelListViewController final : public ListingsScreen {
     void reloadRow(const ObjectId& channel);
     void setEditing(bool editing);
     void setButtons();
+    /// Where there are no channels yet: from sources of the user or the catalogue.
+    void addChannels();
+    void showOwnSources();
+    std::function<void()> catalogueOpener();
 
     const std::shared_ptr<const ScreenEnvironment> m_environment;
     const std::shared_ptr<SelectionEditor> m_editor;

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -60,6 +61,11 @@ class SourceActions {
 
     /// Never null.
     virtual SharedOwnSources sources() const = 0;
+    std::optional<OwnSource> sourceWithId(const OwnSourceId& id) const {
+        const SharedOwnSources all = sources();
+        const auto found = std::ranges::find(*all, id, &OwnSource::id);
+        return found == all->end() ? std::nullopt : std::optional(*found);
+    }
     /// Whether the input is a program of this device, so that the user has to agree before it runs.
     virtual bool isProgram(const QString& input) const = 0;
     /// The host of the address, if it was never asked, so that the user has to agree.
