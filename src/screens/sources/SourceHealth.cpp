@@ -26,7 +26,7 @@ std::vector<SourceFact> sourceFacts(const OwnSource& source, const SourceStatus&
     std::vector<SourceFact> facts;
     const auto addMoment = [&](const char* id, const QString& title, const std::optional<Moment>& moment) {
         if (moment) {
-            facts.push_back({id, title, dayAndTime(*moment, device)});
+            facts.push_back({id, title, dayAndTime(*moment, device), true});
         }
     };
     addMoment("tried", Localized::tr("Last try"), status.lastTry);
@@ -42,7 +42,8 @@ std::vector<SourceFact> sourceFacts(const OwnSource& source, const SourceStatus&
                  .join(u" · "_s)});
     }
     facts.push_back({"chosen", Localized::tr("Chosen"),
-                     Localized::tr("%n channel(s)", nullptr, static_cast<int>(source.channels.size()))});
+                     Localized::tr("%n channel(s)", nullptr, static_cast<int>(source.channels.size())),
+                     true});
     addMoment("newest", Localized::tr("Last show"), status.newestShow);
     if (!status.keptBack.isEmpty()) {
         facts.push_back({"kept", Localized::tr("Kept from before, because the new shows were fewer"),

@@ -16,6 +16,8 @@ struct SourceFact {
     const char* id;
     QString title;
     QString value;
+    /// A time or a number, which fits beside the title.
+    bool isShort = false;
 };
 
 /// What is known about the loads of a source, in the order of display; without secrets.

@@ -18,9 +18,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kState = "state"_L1;
+constexpr auto kFacts = "facts"_L1;
 constexpr auto kActions = "actions"_L1;
 constexpr auto kSettings = "settings"_L1;
 constexpr auto kEnd = "end"_L1;
+
+/// The rest is in the text that can be copied.
+constexpr qsizetype kLongestOutput = 2000;
 
 constexpr auto kRefresh = "refresh"_L1;
 constexpr auto kChoose = "choose"_L1;
@@ -81,11 +85,11 @@ void SourceHealthViewController::show() {
     }
     setTitle(shown->name);
     const SourceStatus status = actions().status(m_source);
-    table().setSections(
-        {stateSection(*shown, status), actionSection(*shown, status), settingSection(*shown), endSection()});
+    table().setSections({stateSection(status), actionSection(*shown, status), settingSection(*shown),
+                         factSection(*shown, status), endSection()});
 }
 
-Section SourceHealthViewController::stateSection(const OwnSource& source, const SourceStatus& status) const {
+Section SourceHealthViewController::stateSection(const SourceStatus& status) {
     Section section{.id = kState};
     const bool problem = isProblem(status.result);
     section.rows.push_back(
@@ -95,14 +99,22 @@ Section SourceHealthViewController::stateSection(const OwnSource& source, const 
                             .titleColor = problem ? ColorRole::Alarm : ColorRole::Label,
                             .accessory = status.running ? Accessory::Spinner : Accessory::None,
                             .symbol = problem ? std::optional(Symbol::Warning) : std::nullopt}});
+    return section;
+}
+
+Section SourceHealthViewController::factSection(const OwnSource& source, const SourceStatus& status) const {
+    Section section{.id = kFacts, .header = Localized::tr("Details")};
     for (const SourceFact& fact : sourceFacts(source, status, m_environment->device)) {
         section.rows.push_back({.id = {section.id, QLatin1StringView(fact.id)},
-                                .content = TextRow{.title = fact.title, .subtitle = fact.value}});
+                                .content = TextRow{.title = fact.title,
+                                                   .subtitle = fact.isShort ? QString() : fact.value,
+                                                   .detail = fact.isShort ? fact.value : QString()}});
     }
     if (!status.output.isEmpty()) {
-        section.rows.push_back(
-            {.id = {section.id, u"output"_s},
-             .content = TextRow{.title = Localized::tr("Output of the program"), .subtitle = status.output}});
+        section.rows.push_back({.id = {section.id, u"output"_s},
+                                .content = TextRow{.title = Localized::tr("Output of the program")}});
+        section.rows.push_back({.id = {section.id, u"output text"_s},
+                                .content = ParagraphRow{status.output.right(kLongestOutput)}});
     }
     return section;
 }
@@ -124,7 +136,7 @@ Section SourceHealthViewController::actionSection(const OwnSource& source, const
 }
 
 Section SourceHealthViewController::settingSection(const OwnSource& source) const {
-    Section section{.id = kSettings};
+    Section section{.id = kSettings, .header = Localized::tr("Settings")};
     section.rows.push_back({.id = {section.id, QString(kName)},
                             .content = InputRow{.title = Localized::tr("Name"), .text = source.name}});
     section.rows.push_back({.id = {section.id, QString(kAddress)},

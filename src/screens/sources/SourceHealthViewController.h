@@ -28,7 +28,8 @@ class SourceHealthViewController final : public ListingsScreen {
     /// Unset when it was removed, perhaps on another device.
     std::optional<OwnSource> source() const { return actions().sourceWithId(m_source); }
     void show();
-    Section stateSection(const OwnSource& source, const SourceStatus& status) const;
+    static Section stateSection(const SourceStatus& status);
+    Section factSection(const OwnSource& source, const SourceStatus& status) const;
     Section actionSection(const OwnSource& source, const SourceStatus& status) const;
     Section settingSection(const OwnSource& source) const;
     Section endSection() const;
