@@ -5,6 +5,8 @@
 #include "GeneratedFeed.h"
 #include "fakes/Packing.h"
 #include "parsers/ListDriver.h"
+#include "parsers/own/OwnFeedReader.h"
+#include "parsers/own/SourcePreviewReader.h"
 #include "parsers/xmltv/ProgrammeSkipScan.h"
 #include "parsers/xmltv/XMLTVToEntries.h"
 #include "platform/encoding/Decompression.h"
@@ -13,6 +15,7 @@
 
 #include <QFile>
 #include <QLoggingCategory>
+#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 #include <libxml/parser.h>
@@ -30,6 +33,8 @@ constexpr std::uint64_t kMemory = std::uint64_t{8} << 30;
 constexpr std::size_t kFewChannels = 12;
 constexpr double kMaxOfUnpacking = 1.6;
 constexpr double kMaxOfParsing = 2.4;
+constexpr double kMaxOfOwnLoad = 0.9;
+constexpr double kMaxOfPreview = 2;
 
 QByteArray readFeed(const QString& path) {
     QFile file(path);
@@ -50,6 +55,9 @@ struct Subject {
     /// The number of shows of each channel that has any.
     std::vector<QString> channels;
     std::vector<std::size_t> counts;
+    /// The packed feed as a file.
+    QTemporaryDir folder;
+    QString path = folder.filePath(u"feed.xml.gz"_s);
     ManualClock clock{Moment{}};
     Alphabet alphabet;
     SourceHostTable hosts;
@@ -57,9 +65,13 @@ struct Subject {
 
     Subject() {
         QLoggingCategory::setFilterRules(u"guide.*=false"_s);
-        const QString path = qEnvironmentVariable("QUELLIN_FEED");
-        plain = path.isEmpty() ? bench::generatedFeed({}) : readFeed(path);
+        const QString given = qEnvironmentVariable("QUELLIN_FEED");
+        plain = given.isEmpty() ? bench::generatedFeed({}) : readFeed(given);
         packed = gzipped(plain);
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(packed) != packed.size()) {
+            qFatal("the feed cannot be written");
+        }
         XMLTVToEntries reader(plain, {}, {.shows = {.alphabet = alphabet}, .now = clock.now()});
         for (const FeedChannelEntries& channel : reader.entries()) {
             channels.push_back(channel.sourceId);
@@ -105,6 +117,37 @@ void fewChannelsOfPackedFeed(benchmark::State& state) {
         }
     }
     state.counters["atMost"] = kMaxOfUnpacking;
+}
+
+void fewChannelsOfOwnFeed(benchmark::State& state) {
+    const Subject& feed = subject();
+    const std::vector<LoadItem> items = feed.items(kFewChannels);
+    std::vector<OwnFeedItem> own;
+    for (const LoadItem& item : items) {
+        own.push_back({item.channel, item.sourceId.sliced(2), item.language});
+    }
+    for ([[maybe_unused]] auto pass : state) {
+        const OwnFeed read = readOwnFeed(
+            feed.path, {}, own, {.clock = feed.clock, .alphabet = feed.alphabet, .physicalMemory = kMemory});
+        if (!feed.isComplete(items, read.lists) || read.unpackedBytes != feed.plain.size()) {
+            state.SkipWithError("shows are missing");
+        }
+    }
+    state.counters["atMost"] = kMaxOfOwnLoad;
+}
+
+void previewOfOwnFeed(benchmark::State& state) {
+    const Subject& feed = subject();
+    // Within the feed, so that shows are running.
+    constexpr Moment kNow = bench::FeedShape{}.start + std::chrono::hours(34);
+    for ([[maybe_unused]] auto pass : state) {
+        const SourcePreview preview = sourcePreview(
+            feed.path, {.now = kNow, .zone = QTimeZone("Europe/Prague"), .physicalMemory = kMemory});
+        if (preview.channelsWithShows < static_cast<int>(feed.channels.size()) || !preview.news) {
+            state.SkipWithError("channels are missing");
+        }
+    }
+    state.counters["atMost"] = kMaxOfPreview;
 }
 
 void unpackingAlone(benchmark::State& state) {
@@ -162,6 +205,10 @@ void parsingAlone(benchmark::State& state) {
 }
 
 BENCHMARK(fewChannelsOfPackedFeed)->Name("feed, 12 channels, packed/guide")->Unit(benchmark::kMillisecond);
+BENCHMARK(fewChannelsOfOwnFeed)->Name("own feed, 12 channels, packed/guide")->Unit(benchmark::kMillisecond);
+BENCHMARK(unpackingAlone)->Name("own feed, 12 channels, packed/floor")->Unit(benchmark::kMillisecond);
+BENCHMARK(previewOfOwnFeed)->Name("own feed, preview, packed/guide")->Unit(benchmark::kMillisecond);
+BENCHMARK(unpackingAlone)->Name("own feed, preview, packed/floor")->Unit(benchmark::kMillisecond);
 BENCHMARK(unpackingAlone)->Name("feed, 12 channels, packed/floor")->Unit(benchmark::kMillisecond);
 BENCHMARK(allChannelsOfPlainFeed)->Name("feed, all channels, plain/guide")->Unit(benchmark::kMillisecond);
 BENCHMARK(parsingAlone)->Name("feed, all channels, plain/floor")->Unit(benchmark::kMillisecond);

@@ -1,8 +1,10 @@
-// Memory growth while a packed national feed loads for a dozen channels, against the feed's unpacked size.
-// Each load runs in its own process, because the peak of a process never falls.
+// Memory growth while a packed national feed loads for a dozen channels: of the catalogue, against the feed's
+// unpacked size; of a source that the user added, against a bound that does not depend on it. Each load runs
+// in its own process, because the peak of a process never falls.
 
 #include "GeneratedFeed.h"
 #include "parsers/ListDriver.h"
+#include "parsers/own/OwnFeedReader.h"
 #include "sources/PageText.h"
 
 #include <QCoreApplication>
@@ -24,6 +26,7 @@ using namespace Qt::StringLiterals;
 constexpr std::uint64_t kMemory = std::uint64_t{8} << 30;
 constexpr int kFewChannels = 12;
 constexpr double kAtMost = 1.3;
+constexpr double kMostOfOwnFeed = 24e6;
 constexpr int kLoads = 5;
 
 class FixedClock final : public Clock {
@@ -62,37 +65,56 @@ int make(const QString& path) {
     return 0;
 }
 
-/// Loads the feed as the update cycle does; prints the growth.
-int load(const QString& path) {
-    QLoggingCategory::setFilterRules(u"guide.*=false"_s);
+ObjectId channel(int number) {
+    ObjectId::Bytes id{};
+    id[11] = static_cast<std::uint8_t>(number + 1);
+    return ObjectId(id);
+}
+
+QString feedChannel(int number) {
+    return generatedChannelId(number * 25);
+}
+
+/// Loads the feed as the update cycle does.
+ParsedLists loadPage(const QString& path, const Clock& clock, const Alphabet& alphabet) {
     std::vector<LoadItem> items;
-    items.reserve(kFewChannels);
     for (int i = 0; i < kFewChannels; ++i) {
-        ObjectId::Bytes id{};
-        id[11] = static_cast<std::uint8_t>(i + 1);
-        items.push_back({ObjectId(id), u"s."_s + generatedChannelId(i * 25), u"cs"_s});
+        items.push_back({channel(i), u"s."_s + feedChannel(i), u"cs"_s});
     }
-    const FixedClock clock;
-    const Alphabet alphabet;
     const SourceHostTable hosts;
     const ListDriver driver({.clock = clock, .alphabet = alphabet, .hosts = hosts, .merge = nullptr});
-
-    const double idle = statusBytes("VmHWM:");
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         fail("the feed cannot be read");
     }
-    std::vector<QByteArray> pages;
-    {
-        PageText page = pageText(file.readAll(), HTTPResponse(), kMemory);
-        if (!page.text) {
-            fail("the feed is not text");
-        }
-        pages.push_back(*std::move(page.text));
+    PageText page = pageText(file.readAll(), HTTPResponse(), kMemory);
+    if (!page.text) {
+        fail("the feed is not text");
     }
-    const ParsedLists lists = driver.read(items, pages, Moment{}, ListingsType::XMLTV);
+    return driver.read(items, {*std::move(page.text)}, Moment{}, ListingsType::XMLTV);
+}
+
+/// Loads it as a source of the user's.
+ParsedLists loadOwn(const QString& path, const Clock& clock, const Alphabet& alphabet) {
+    std::vector<OwnFeedItem> items;
+    for (int i = 0; i < kFewChannels; ++i) {
+        items.push_back({channel(i), feedChannel(i), u"cs"_s});
+    }
+    return readOwnFeed(path, {}, items, {.clock = clock, .alphabet = alphabet, .physicalMemory = kMemory})
+        .lists;
+}
+
+using Load = ParsedLists (*)(const QString& path, const Clock& clock, const Alphabet& alphabet);
+
+/// Prints the growth.
+int measureLoad(Load load, const QString& path) {
+    QLoggingCategory::setFilterRules(u"guide.*=false"_s);
+    const FixedClock clock;
+    const Alphabet alphabet;
+    const double idle = statusBytes("VmHWM:");
+    const ParsedLists lists = load(path, clock, alphabet);
     const double peak = statusBytes("VmHWM:");
-    if (lists.size() != items.size() ||
+    if (lists.size() != kFewChannels ||
         std::any_of(lists.begin(), lists.end(), [](const auto& list) { return list.second.size() < 100; })) {
         fail("shows are missing");
     }
@@ -111,17 +133,26 @@ double stepOf(const QString& step, const QString& path) {
     return process.readAllStandardOutput().trimmed().toDouble();
 }
 
+/// The median of several loads.
+double growthOf(const QString& step, const QString& path) {
+    std::array<double, kLoads> growths{};
+    std::generate(growths.begin(), growths.end(), [&] { return stepOf(step, path); });
+    std::sort(growths.begin(), growths.end());
+    return growths[kLoads / 2];
+}
+
+void printRow(const char* row, double growth, double floor, double atMost) {
+    std::printf(R"({"row": "%s", "unit": "MB", "guide": %.1f, "floor": %.1f, "atMost": %g})"
+                "\n",
+                row, growth / 1e6, floor / 1e6, atMost);
+}
+
 int measure() {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"feed.xml.gz"_s);
     const double unpacked = stepOf(u"make"_s, path);
-    std::array<double, kLoads> growths{};
-    std::generate(growths.begin(), growths.end(), [&path] { return stepOf(u"load"_s, path); });
-    std::sort(growths.begin(), growths.end());
-    std::printf(R"({"row": "feed, 12 channels, packed, memory", "unit": "MB", "guide": %.1f, "floor": %.1f, )"
-                R"("atMost": %g})"
-                "\n",
-                growths[kLoads / 2] / 1e6, unpacked / 1e6, kAtMost);
+    printRow("feed, 12 channels, packed, memory", growthOf(u"page"_s, path), unpacked, kAtMost);
+    printRow("own feed, 12 channels, packed, memory", growthOf(u"own"_s, path), kMostOfOwnFeed, 1);
     return 0;
 }
 
@@ -129,10 +160,14 @@ int measure() {
 } // namespace guide::bench
 
 int main(int argc, char** argv) {
+    using namespace guide::bench;
     const QCoreApplication application(argc, argv);
     const QStringList words = QCoreApplication::arguments();
-    if (words.size() == 3 && words[1] == QLatin1String("make")) {
-        return guide::bench::make(words[2]);
+    if (words.size() != 3) {
+        return measure();
     }
-    return words.size() == 3 ? guide::bench::load(words[2]) : guide::bench::measure();
+    if (words[1] == QLatin1String("make")) {
+        return make(words[2]);
+    }
+    return measureLoad(words[1] == QLatin1String("own") ? loadOwn : loadPage, words[2]);
 }

@@ -6,7 +6,7 @@ usage: ratios.py FOLDER [FILTER]
 FOLDER contains the benchmark programs (`guide_*_benchmark`). A row is a pair of benchmarks, "ROW/guide" and "ROW/floor";
 the counter `atMost` of the first is the highest ratio allowed. Medians of CPU time are compared, or of wall time
 where the name says real_time. A benchmark whose result was wrong is an error, whatever its time.
-The other programs (`guide_*_measure`) print one row with both sides as a JSON object.
+The other programs (`guide_*_measure`) print rows with both sides, each as a JSON object on a line.
 Exits with 1 when a result was wrong, a row has no pair or a ratio is above its bound.
 """
 import json
@@ -44,13 +44,16 @@ def split(name: str) -> tuple[str, str, str] | None:
     return None
 
 
-def measured_row(program: pathlib.Path) -> tuple[str, dict[str, dict]]:
+def measured_rows(program: pathlib.Path) -> dict[str, dict[str, dict]]:
     ran = subprocess.run([str(program)], capture_output=True, text=True, check=False)
     if ran.returncode != 0:
         sys.exit(f"{program.name} ended with {ran.returncode}:\n{ran.stderr}")
-    row = json.loads(ran.stdout)
-    guide = {"time": row["guide"], "time_unit": row["unit"], "atMost": row["atMost"]}
-    return row["row"], {"guide": guide, "floor": {"time": row["floor"], "time_unit": row["unit"]}}
+    rows = {}
+    for line in ran.stdout.splitlines():
+        row = json.loads(line)
+        guide = {"time": row["guide"], "time_unit": row["unit"], "atMost": row["atMost"]}
+        rows[row["row"]] = {"guide": guide, "floor": {"time": row["floor"], "time_unit": row["unit"]}}
+    return rows
 
 
 def main() -> int:
@@ -75,8 +78,7 @@ def main() -> int:
                 rows.setdefault(row, {})[side] = result
     for program in sorted(path for path in folder.glob("guide_*_measure") if path.is_file()):
         if re.search(pattern, program.name):
-            row, sides = measured_row(program)
-            rows[row] = sides
+            rows.update(measured_rows(program))
     print(f"{'row':48} {'guide':>14} {'floor':>14} {'ratio':>7} {'at most':>8}")
     for row, sides in rows.items():
         if set(sides) != {"guide", "floor"}:

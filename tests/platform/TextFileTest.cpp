@@ -141,6 +141,7 @@ TEST_F(TextFileTest, DecidesOnTheCharacterSet) {
          0},
         {"Japanese", "<tv>\x93\xfa\x96\x7b</tv>", "shift_jis", "<tv>日本</tv>", 0},
         {"single invalid bytes", "šč \xFF " + filler + "š\xC3", "", "šč \uFFFD ", 2},
+        {"more letters than damage", "<tv>\xFF šč</tv>", "", "\uFFFD šč", 1},
         {"a cut character", filler + "š\xE2\x82", "", "š\uFFFD", 1},
         {"a late undefined byte", "<tv>\xE1" + filler + "\xA1\xFF</tv>", "iso-8859-7", "\uFFFD</tv>", 1},
         {"control characters", QByteArray("<tv>a\0b\x0B\t</tv>", 14), "", "<tv>a b \t</tv>", 2},

@@ -83,7 +83,7 @@ OwnFeed readOwnFeed(const QString& path, const QString& charset, const std::vect
         longestShift = std::max(longestShift, item.shift);
     }
     const WantedChannels wanted(wantedIds);
-    FeedFilter filter(text, wanted, MissingZone::UTC);
+    FeedFilter filter(text, wanted, MissingZone::UTC, environment.stopped);
     ReadControl control({}, environment.physicalMemory, environment.stopped);
     std::optional<bool> isWhole;
     if (!items.empty()) {
@@ -108,13 +108,13 @@ OwnFeed readOwnFeed(const QString& path, const QString& charset, const std::vect
             }
         }
     }
-    const bool isCounted = filter.finish(environment.stopped);
+    filter.finish();
     const FeedCounts& counts = filter.counts();
     feed.channels = counts.channels;
     feed.channelsWithShows = counts.channelsWithShows;
     feed.shows = counts.shows;
     feed.newest = counts.newest;
-    finish(isCounted && isWhole.value_or(filter.isWhole()));
+    finish(isWhole.value_or(filter.isWhole()));
     return feed;
 }
 

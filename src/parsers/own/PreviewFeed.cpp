@@ -281,7 +281,7 @@ void PreviewFeed::chooseNews(SourcePreview& preview) {
 }
 
 void PreviewFeed::addWarnings(SourcePreview& preview) {
-    if (preview.last && *preview.last < m_request.now) {
+    if (preview.last && *preview.last < m_request.now && preview.channelsOnAir == 0) {
         preview.warnings.push_back(SourceWarning::Over);
     } else if (preview.channelsLive * 4 < channelCount()) {
         preview.warnings.push_back(SourceWarning::Poor);

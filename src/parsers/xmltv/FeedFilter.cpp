@@ -12,7 +12,7 @@ std::size_t FeedFilter::read(std::span<char> room) {
         if (m_read == m_kept.size()) {
             m_kept.clear();
             m_read = 0;
-            if (!m_scan.next(&m_kept)) {
+            if (!scanWindow(&m_kept)) {
                 break;
             }
         }
@@ -24,13 +24,9 @@ std::size_t FeedFilter::read(std::span<char> room) {
     return filled;
 }
 
-bool FeedFilter::finish(const std::function<bool()>& stopped) {
-    do {
-        if (stopped && stopped()) {
-            return false;
-        }
-    } while (m_scan.next(nullptr));
-    return true;
+void FeedFilter::finish() {
+    while (scanWindow(nullptr)) {
+    }
 }
 
 FeedFilter::Channels::value_type* FeedFilter::named(std::string id) {

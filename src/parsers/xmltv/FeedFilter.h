@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
 namespace guide {
 
@@ -32,15 +33,17 @@ struct FeedCounts {
 /// A feed without the programmes of unwanted channels, which are counted on the way.
 class FeedFilter final : public TextSource, private FeedScanEvents {
   public:
-    /// Everything must outlive this object.
-    FeedFilter(TextSource& feed, const WantedChannels& wanted, MissingZone withoutZone = MissingZone::Invalid)
+    /// Everything must outlive this object. `stopped`, if given, is asked at every window and ends the feed.
+    FeedFilter(TextSource& feed, const WantedChannels& wanted, MissingZone withoutZone = MissingZone::Invalid,
+               std::function<bool()> stopped = {})
         : m_wanted(wanted)
         , m_withoutZone(withoutZone)
+        , m_stopped(std::move(stopped))
         , m_scan(feed, *this) {}
 
     std::size_t read(std::span<char> room) override;
-    /// Scans what was not read. False when `stopped` returned true, which is asked at every window.
-    bool finish(const std::function<bool()>& stopped = {});
+    /// Scans what was not read.
+    void finish();
 
     /// As FeedScan tells it.
     bool isWhole() const { return m_scan.isWhole(); }
@@ -55,9 +58,11 @@ class FeedFilter final : public TextSource, private FeedScanEvents {
     std::optional<bool> programme(const OpeningTag& tag, std::string_view content) override;
     /// Null for a channel that is not counted.
     Channels::value_type* named(std::string id);
+    bool scanWindow(std::string* kept) { return !(m_stopped && m_stopped()) && m_scan.next(kept); }
 
     const WantedChannels& m_wanted;
     const MissingZone m_withoutZone;
+    const std::function<bool()> m_stopped;
     FeedScan m_scan;
     std::string m_kept;
     /// The part of m_kept that was read.

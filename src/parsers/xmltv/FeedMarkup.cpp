@@ -175,6 +175,8 @@ Markup skipElement(const char*& at, std::string_view opening, std::string_view c
             if (const Markup aside = skipAside(mark); aside != Markup::Whole) {
                 return aside;
             }
+        } else if (mark[1] == '/' && mark[2] != closing[2]) {
+            mark += 2;
         } else if (mark[1] == '/') {
             const Markup end = elementNamed(mark, closing);
             if (end == Markup::Unfinished) {
@@ -189,6 +191,8 @@ Markup skipElement(const char*& at, std::string_view opening, std::string_view c
                 return Markup::Whole;
             }
             mark += 2;
+        } else if (mark[1] != opening[1] && mark[1] != kProgrammeOpening[1]) {
+            ++mark;
         } else {
             for (const std::string_view forbidden : {opening, kProgrammeOpening}) {
                 const Markup begin =

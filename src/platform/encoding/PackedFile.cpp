@@ -17,6 +17,11 @@ namespace {
 constexpr std::size_t kPackedWindow = std::size_t{64} << 10;
 constexpr qsizetype kLongestSignature = 6;
 
+std::uint64_t memoryOf(const PackedFileOptions& options) {
+    return options.physicalMemory > 0 ? options.physicalMemory / 4
+                                      : std::numeric_limits<std::uint64_t>::max();
+}
+
 class PlainContent final : public PackedFile::Content {
   public:
     explicit PlainContent(std::unique_ptr<FileInput> input)
@@ -143,8 +148,8 @@ PackedFile::PackedFile(const QString& path, PackedFileOptions options) {
         }
         m_content = std::make_unique<UnpackedContent>(std::move(input), std::move(fast), std::move(exact));
     } else if (hasXzSignature(beginning)) {
-        m_content = std::make_unique<UnpackedContent>(std::move(input),
-                                                      xzUnpacker(options.physicalMemory / 4), nullptr);
+        m_content =
+            std::make_unique<UnpackedContent>(std::move(input), xzUnpacker(memoryOf(options)), nullptr);
     } else {
         m_content = std::make_unique<PlainContent>(std::move(input));
     }

@@ -25,7 +25,7 @@ enum class FileEnd {
 };
 
 struct PackedFileOptions {
-    /// In bytes; the decoder of xz may use a quarter of it.
+    /// In bytes; the decoder of xz may use a quarter of it. 0 means no limit.
     std::uint64_t physicalMemory = 0;
     /// Whether the file of an archive that begins with these bytes is the one to read.
     std::function<bool(QByteArrayView)> isWanted = {};

@@ -39,18 +39,25 @@ QByteArrayView wholeCharacters(QByteArrayView text) {
     return text.chopped(static_cast<qsizetype>(cutCharacterSize(text)));
 }
 
-/// A character that is cut off is no fault.
-qsizetype faultsInUtf8(QByteArrayView text) {
+struct Utf8Characters {
+    /// Bytes that are no characters. One that is cut off is no fault.
     qsizetype faults = 0;
+    /// Of several bytes.
+    qsizetype letters = 0;
+};
+
+Utf8Characters utf8CharactersIn(QByteArrayView text) {
+    Utf8Characters found;
     while (!text.isEmpty()) {
         const int size = characterSize(text);
         if (size == 0) {
             break;
         }
-        faults += size > 0 ? 0 : 1;
+        found.faults += size > 0 ? 0 : 1;
+        found.letters += size > 1 ? 1 : 0;
         text = text.sliced(std::max(size, 1));
     }
-    return faults;
+    return found;
 }
 
 bool isDamageOnly(std::int64_t faults, QByteArrayView text) {
@@ -83,7 +90,12 @@ struct CharacterSet {
 
 /// The character set of a text that says nothing of it.
 CharacterSet undeclaredSet(QByteArrayView text, bool last) {
-    const bool isUtf8 = isValidUtf8(wholeCharacters(text)) || isDamageOnly(faultsInUtf8(text), text);
+    bool isUtf8 = isValidUtf8(wholeCharacters(text));
+    if (!isUtf8) {
+        // Other character sets hardly ever look like letters of several bytes.
+        const Utf8Characters found = utf8CharactersIn(text);
+        isUtf8 = isDamageOnly(found.faults, text) || found.faults <= found.letters;
+    }
     const QString windows = u"windows-1250"_s;
     return !isUtf8 && canDecode(windows, text, last) ? CharacterSet{windows} : CharacterSet{};
 }
@@ -173,16 +185,13 @@ std::size_t TextFile::read(std::span<char> room) {
     return written;
 }
 
-/// Reads a window behind what is not decoded yet.
+/// Reads a window behind what is not decoded yet, when that may be only the beginning of a character.
 void TextFile::fill() {
-    if (m_isLast) {
+    if (m_isLast || m_raw.size() - m_at >= static_cast<qsizetype>(kSmallestWindow)) {
         return;
     }
     m_raw.remove(0, std::exchange(m_at, 0));
     const qsizetype kept = m_raw.size();
-    if (static_cast<std::size_t>(kept) >= m_window) {
-        return;
-    }
     m_raw.resize(kept + static_cast<qsizetype>(m_window));
     const std::size_t got = m_file.read({m_raw.data() + kept, m_window});
     m_raw.truncate(kept + static_cast<qsizetype>(got));

@@ -16,7 +16,7 @@ namespace guide {
 struct TextFileOptions {
     /// The character set that a server declared; may be empty.
     QString charset = {};
-    /// In bytes; limits what the decoder of xz may use.
+    /// In bytes; limits what the decoder of xz may use. 0 means no limit.
     std::uint64_t physicalMemory = 0;
     /// Whether the file of an archive that begins with this text is the one to read. May be empty.
     std::function<bool(QStringView)> isWanted = {};
@@ -29,10 +29,10 @@ struct TextFileOptions {
 /// The character set is that of a byte order mark, else `charset`, else the one that the document's XML
 /// declaration names, if they can decode its beginning but for one byte in a thousand; but a beginning that
 /// is valid UTF-8, and not only ASCII, is UTF-8 whatever other set is declared. Otherwise it is UTF-8, unless
-/// more than one byte in a thousand around the first invalid one is invalid: then it is the character set of
-/// Central European Windows. A document of at most one window gets the answer that its whole content gives.
-/// In a longer one, invalid bytes behind the first window with letters beyond ASCII no longer change the
-/// answer.
+/// around the first invalid byte more than one in a thousand is invalid and fewer letters beyond ASCII are
+/// valid: then it is the character set of Central European Windows. A document of at most one window gets the
+/// answer that its whole content gives. In a longer one, invalid bytes behind the first window with letters
+/// beyond ASCII no longer change the answer.
 ///
 /// A byte that cannot be decoded is replaced by U+FFFD, a control character that XML does not allow by a
 /// blank; both are counted.

@@ -205,6 +205,31 @@ bool readAnyLength(QByteArrayView bytes, QString& text) {
     return !text.contains(QChar(QChar::ReplacementCharacter)) || isValidUtf8(bytes);
 }
 
+constexpr bool isForbidden(char character) {
+    const auto byte = static_cast<unsigned char>(character);
+    return byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r';
+}
+
+/// The first control character that XML does not allow, or the end.
+char* controlCharacter(char* at, char* end) {
+#ifdef __x86_64__
+    const __m128i last = _mm_set1_epi8(0x1f);
+    const auto is = [](__m128i block, char character) {
+        return _mm_cmpeq_epi8(block, _mm_set1_epi8(character));
+    };
+    for (constexpr int kBlock = 16; end - at >= kBlock; at += kBlock) {
+        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+        const __m128i control = _mm_cmpeq_epi8(_mm_min_epu8(block, last), block);
+        const __m128i allowed = _mm_or_si128(is(block, '\n'), _mm_or_si128(is(block, '\r'), is(block, '\t')));
+        const int found = _mm_movemask_epi8(_mm_andnot_si128(allowed, control));
+        if (found != 0) {
+            return at + __builtin_ctz(static_cast<unsigned>(found));
+        }
+    }
+#endif
+    return std::find_if(at, end, isForbidden);
+}
+
 } // namespace
 
 bool isValidUtf8(QByteArrayView bytes) {
@@ -276,30 +301,14 @@ std::size_t cutCharacterSize(QByteArrayView text) {
 }
 
 std::int64_t blankControlCharacters(std::span<char> text) {
-    const auto isForbidden = [](char character) {
-        const auto byte = static_cast<unsigned char>(character);
-        return (byte < 0x20) & (byte != '\t') & (byte != '\n') & (byte != '\r');
-    };
-    // Compilers turn the inner loop into vector instructions.
-    constexpr std::size_t kBlock = 64;
     std::int64_t replaced = 0;
-    for (std::size_t at = 0; at < text.size(); at += kBlock) {
-        const std::span<char> block = text.subspan(at, std::min(kBlock, text.size() - at));
-        unsigned char found = 0;
-        if (block.size() == kBlock) {
-            for (std::size_t i = 0; i < kBlock; ++i) {
-                found |= static_cast<unsigned char>(isForbidden(block[i]));
-            }
-        } else {
-            found = 1;
-        }
-        if (found != 0) {
-            for (char& character : block) {
-                if (isForbidden(character)) {
-                    character = ' ';
-                    ++replaced;
-                }
-            }
+    char* at = text.data();
+    char* const end = at + text.size();
+    while (at < end) {
+        at = controlCharacter(at, end);
+        if (at < end) {
+            *at++ = ' ';
+            ++replaced;
         }
     }
     return replaced;
