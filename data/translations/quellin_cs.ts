@@ -156,10 +156,6 @@ Počkejte, až se program načte.</translation>
         <translation>Všechny oblíbené odebrány</translation>
     </message>
     <message>
-        <source>%1 favourites removed</source>
-        <translation>Odebráno oblíbených: %1</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>Vrátit zpět</translation>
     </message>
@@ -226,10 +222,6 @@ Počkejte, až se program načte.</translation>
     <message>
         <source>Updated </source>
         <translation>Aktualizováno </translation>
-    </message>
-    <message>
-        <source>Nothing here yet</source>
-        <translation>Zatím tu nic není</translation>
     </message>
     <message>
         <source>All Shows</source>
@@ -886,6 +878,634 @@ Počkejte, až se program načte.</translation>
             <numerusform>aktualizováno před %n dny</numerusform>
             <numerusform>aktualizováno před %n dny</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>My sources</source>
+        <translation>Moje zdroje</translation>
+    </message>
+    <message>
+        <source>This is a program. It runs on this device with your rights, now and at each update.</source>
+        <translation>To je program. Poběží na tomto zařízení s vašimi právy, teď a při každé aktualizaci.</translation>
+    </message>
+    <message>
+        <source>Schedules (XMLTV), packed or not, playlists (M3U), and programs that print a schedule.</source>
+        <translation>Programy stanic (XMLTV), i zabalené, seznamy stanic (M3U) a programy, které vypisují XMLTV.</translation>
+    </message>
+    <message>
+        <source>Address, file or program</source>
+        <translation>Adresa, soubor nebo program</translation>
+    </message>
+    <message>
+        <source>Run this program</source>
+        <translation>Spustit tento program</translation>
+    </message>
+    <message>
+        <source>Show channels</source>
+        <translation>Zobrazit kanály</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Vložit</translation>
+    </message>
+    <message>
+        <source>Choose a file…</source>
+        <translation>Vybrat soubor…</translation>
+    </message>
+    <message>
+        <source>From the catalogue</source>
+        <translation>Z katalogu</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s)</source>
+        <translation>
+            <numerusform>%n kanál</numerusform>
+            <numerusform>%n kanály</numerusform>
+            <numerusform>%n kanálů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Public feeds: %1</source>
+        <translation>Veřejné zdroje: %1</translation>
+    </message>
+    <message>
+        <source>Public feeds</source>
+        <translation>Veřejné zdroje</translation>
+    </message>
+    <message>
+        <source>Other countries</source>
+        <translation>Jiné země</translation>
+    </message>
+    <message>
+        <source>All countries</source>
+        <translation>Všechny země</translation>
+    </message>
+    <message>
+        <source>Programs on this device</source>
+        <translation>Programy na tomto zařízení</translation>
+    </message>
+    <message>
+        <source>Looking for programs that give a schedule</source>
+        <translation>Hledají se programy, které vypisují XMLTV</translation>
+    </message>
+    <message>
+        <source>None found</source>
+        <translation>Nic se nenašlo</translation>
+    </message>
+    <message>
+        <source>Enter the path of a program above.</source>
+        <translation>Zadejte nahoře cestu k programu.</translation>
+    </message>
+    <message>
+        <source>Look again…</source>
+        <translation>Hledat znovu…</translation>
+    </message>
+    <message>
+        <source>Look for programs that give a schedule…</source>
+        <translation>Hledat programy, které vypisují XMLTV…</translation>
+    </message>
+    <message>
+        <source>Choose a schedule or playlist</source>
+        <translation>Vyberte soubor XMLTV nebo M3U</translation>
+    </message>
+    <message>
+        <source>Run programs?</source>
+        <translation>Spustit programy?</translation>
+    </message>
+    <message>
+        <source>Each program on this device whose name begins with tv_grab_ is run, to ask what it is.</source>
+        <translation>Každý program na tomto zařízení, jehož jméno začíná tv_grab_, se spustí, aby řekl, co je.</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Spustit</translation>
+    </message>
+    <message>
+        <source>Ask %1?</source>
+        <translation>Požádat %1?</translation>
+    </message>
+    <message>
+        <source>This server belongs to somebody else and was never asked before. It learns the network address of this device, and is asked again at each update.</source>
+        <translation>Tento server patří někomu jinému a ještě nebyl dotázán. Dozví se síťovou adresu tohoto zařízení a bude dotázán při každé aktualizaci.</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Požádat</translation>
+    </message>
+    <message>
+        <source>Run this program?</source>
+        <translation>Spustit tento program?</translation>
+    </message>
+    <message>
+        <source>“%1” runs on this device with your rights, now and at each update.</source>
+        <translation>„%1“ poběží na tomto zařízení s vašimi právy, teď a při každé aktualizaci.</translation>
+    </message>
+    <message>
+        <source>not ours</source>
+        <translation>není náš</translation>
+    </message>
+    <message>
+        <source>last reported alive %1</source>
+        <translation>naposledy hlášen jako živý %1</translation>
+    </message>
+    <message>
+        <source>Public feed of %1</source>
+        <translation>Veřejný zdroj %1</translation>
+    </message>
+    <message>
+        <source>These are the public feeds of others, not ours: they may be wrong, late or gone. One is asked only after you choose it.</source>
+        <translation>Jsou to veřejné zdroje jiných, ne naše: mohou být chybné, opožděné nebo zrušené. Dotázán je jen ten, který vyberete.</translation>
+    </message>
+    <message>
+        <source>Search countries</source>
+        <translation>Hledat země</translation>
+    </message>
+    <message>
+        <source>No feeds are known for “%1”</source>
+        <translation>Pro „%1“ není znám žádný zdroj</translation>
+    </message>
+    <message>
+        <source>%1 by id · %2 by name · %3 to review · %4 without a schedule</source>
+        <translation>%1 podle id · %2 podle názvu · %3 ke kontrole · %4 bez programu</translation>
+    </message>
+    <message>
+        <source>Review matches</source>
+        <translation>Zkontrolovat přiřazení</translation>
+    </message>
+    <message>
+        <source>Search all channels of the playlist</source>
+        <translation>Hledat ve všech kanálech seznamu</translation>
+    </message>
+    <message>
+        <source>To review</source>
+        <translation>Ke kontrole</translation>
+    </message>
+    <message>
+        <source>Choose the channel whose schedule is right.</source>
+        <translation>Vyberte kanál, jehož program je správný.</translation>
+    </message>
+    <message>
+        <source>Without a schedule</source>
+        <translation>Bez programu</translation>
+    </message>
+    <message>
+        <source>Nothing to review</source>
+        <translation>Není co kontrolovat</translation>
+    </message>
+    <message>
+        <source>Every channel has a schedule. A search shows which.</source>
+        <translation>Každý kanál má program. Hledání ukáže který.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) come near</source>
+        <translation>
+            <numerusform>Blízko je %n kanál</numerusform>
+            <numerusform>Blízko jsou %n kanály</numerusform>
+            <numerusform>Blízko je %n kanálů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No schedule</source>
+        <translation>Bez programu</translation>
+    </message>
+    <message>
+        <source>Yours</source>
+        <translation>Vaše</translation>
+    </message>
+    <message>
+        <source>Search the channels of the feeds</source>
+        <translation>Hledat v kanálech zdrojů</translation>
+    </message>
+    <message>
+        <source>Nothing on now</source>
+        <translation>Teď nic neběží</translation>
+    </message>
+    <message>
+        <source>Channels that come near</source>
+        <translation>Blízké kanály</translation>
+    </message>
+    <message>
+        <source>A search finds every channel of the feeds.</source>
+        <translation>Hledání najde každý kanál zdrojů.</translation>
+    </message>
+    <message>
+        <source>Time and language</source>
+        <translation>Čas a jazyk</translation>
+    </message>
+    <message>
+        <source>The language decides in which category a show is. The channel&apos;s times are moved in addition to those of the whole source.</source>
+        <translation>Jazyk rozhoduje o kategorii pořadu. Časy kanálu se posunou navíc k časům celého zdroje.</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Jazyk</translation>
+    </message>
+    <message>
+        <source>Move its times</source>
+        <translation>Posunout jeho časy</translation>
+    </message>
+    <message>
+        <source>Add a source</source>
+        <translation>Přidat zdroj</translation>
+    </message>
+    <message>
+        <source>No sources yet</source>
+        <translation>Zatím žádné zdroje</translation>
+    </message>
+    <message>
+        <source>Add feeds, playlists and programs, and choose from their channels.</source>
+        <translation>Přidejte zdroje XMLTV, seznamy a programy a vyberte si z jejich kanálů.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) chosen</source>
+        <translation>
+            <numerusform>Vybrán %n kanál</numerusform>
+            <numerusform>Vybrány %n kanály</numerusform>
+            <numerusform>Vybráno %n kanálů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 with shows</source>
+        <translation>%1 z %2 s pořady</translation>
+    </message>
+    <message>
+        <source>being read</source>
+        <translation>právě se čte</translation>
+    </message>
+    <message>
+        <source>from %1</source>
+        <translation>z %1</translation>
+    </message>
+    <message>
+        <source>next try %1</source>
+        <translation>další pokus %1</translation>
+    </message>
+    <message>
+        <source>No shows</source>
+        <translation>Žádné pořady</translation>
+    </message>
+    <message>
+        <source>Without shows</source>
+        <translation>Bez pořadů</translation>
+    </message>
+    <message>
+        <source>Its channels cannot be shown</source>
+        <translation>Jeho kanály nelze zobrazit</translation>
+    </message>
+    <message numerus="yes">
+        <source>Search %n channel(s)</source>
+        <translation>
+            <numerusform>Hledat v %n kanálu</numerusform>
+            <numerusform>Hledat ve %n kanálech</numerusform>
+            <numerusform>Hledat v %n kanálech</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The search looks at all names of a channel.</source>
+        <translation>Hledá se ve všech názvech kanálu.</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Skupina</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 a %n další</numerusform>
+            <numerusform>%1 a %n další</numerusform>
+            <numerusform>%1 a %n dalších</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Last try</source>
+        <translation>Poslední pokus</translation>
+    </message>
+    <message>
+        <source>Last success</source>
+        <translation>Poslední úspěch</translation>
+    </message>
+    <message>
+        <source>Next try</source>
+        <translation>Další pokus</translation>
+    </message>
+    <message>
+        <source>In the source</source>
+        <translation>Ve zdroji</translation>
+    </message>
+    <message>
+        <source>%1 with shows</source>
+        <translation>%1 s pořady</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n show(s)</source>
+        <translation>
+            <numerusform>%n pořad</numerusform>
+            <numerusform>%n pořady</numerusform>
+            <numerusform>%n pořadů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Vybráno</translation>
+    </message>
+    <message>
+        <source>Last show</source>
+        <translation>Poslední pořad</translation>
+    </message>
+    <message>
+        <source>Kept from before, because the new shows were fewer</source>
+        <translation>Ponecháno z dřívějška, protože nových pořadů bylo méně</translation>
+    </message>
+    <message>
+        <source>No longer in the source</source>
+        <translation>Už není ve zdroji</translation>
+    </message>
+    <message>
+        <source>Move all times</source>
+        <translation>Posunout všechny časy</translation>
+    </message>
+    <message>
+        <source>Output of the program</source>
+        <translation>Výpis programu</translation>
+    </message>
+    <message>
+        <source>This source was removed</source>
+        <translation>Tento zdroj byl odebrán</translation>
+    </message>
+    <message>
+        <source>It is being read.</source>
+        <translation>Právě se čte.</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Podrobnosti</translation>
+    </message>
+    <message>
+        <source>Refresh now</source>
+        <translation>Obnovit teď</translation>
+    </message>
+    <message>
+        <source>Time and language by channel</source>
+        <translation>Čas a jazyk podle kanálu</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Nastavení</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Název</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Address or file</source>
+        <translation>Adresa nebo soubor</translation>
+    </message>
+    <message>
+        <source>Save the new address</source>
+        <translation>Uložit novou adresu</translation>
+    </message>
+    <message>
+        <source>The secret part of the address is kept apart, on this device only. Enter the whole address to change it.</source>
+        <translation>Tajná část adresy je uložena zvlášť a jen na tomto zařízení. Chcete-li ji změnit, zadejte celou adresu.</translation>
+    </message>
+    <message>
+        <source>Copy as text</source>
+        <translation>Kopírovat jako text</translation>
+    </message>
+    <message>
+        <source>Remove this source</source>
+        <translation>Odebrat tento zdroj</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Zkopírováno</translation>
+    </message>
+    <message>
+        <source>Remove “%1”?</source>
+        <translation>Odebrat „%1“?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) and their shows go with it.</source>
+        <translation>
+            <numerusform>Zmizí s ním %n kanál i jeho pořady.</numerusform>
+            <numerusform>Zmizí s ním %n kanály i jejich pořady.</numerusform>
+            <numerusform>Zmizí s ním %n kanálů i jejich pořady.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list is longer; the rest is left out.</source>
+        <translation>Seznam je delší; zbytek je vynechán.</translation>
+    </message>
+    <message>
+        <source>%1 on air now</source>
+        <translation>%1 právě vysílá</translation>
+    </message>
+    <message>
+        <source>%1 in the next 24 hours</source>
+        <translation>%1 v příštích 24 hodinách</translation>
+    </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>Od %1 do %2</translation>
+    </message>
+    <message>
+        <source>Is it on at this time? Otherwise move all times.</source>
+        <translation>Vysílá se v tuto dobu? Jinak posuňte všechny časy.</translation>
+    </message>
+    <message>
+        <source>Schedules</source>
+        <translation>Programy</translation>
+    </message>
+    <message>
+        <source>Loaded</source>
+        <translation>Načteno</translation>
+    </message>
+    <message>
+        <source>%1, named by the playlist. Asked when you go on.</source>
+        <translation>%1, uveden v seznamu. Dotázán, až budete pokračovat.</translation>
+    </message>
+    <message>
+        <source>Load and match now</source>
+        <translation>Načíst a přiřadit teď</translation>
+    </message>
+    <message>
+        <source>No schedules</source>
+        <translation>Žádné programy</translation>
+    </message>
+    <message>
+        <source>The playlist names no feed, and none was added. Add a feed to see what is on.</source>
+        <translation>Seznam neuvádí žádný zdroj programu a žádný nebyl přidán. Přidejte ho, abyste viděli, co se vysílá.</translation>
+    </message>
+    <message>
+        <source>The server denies access (status %1). Check the user name, password or token in the address.</source>
+        <translation>Server odmítá přístup (stav %1). Zkontrolujte jméno, heslo nebo klíč v adrese.</translation>
+    </message>
+    <message>
+        <source>There is nothing at this address (status %1). Check it, or look for a newer one.</source>
+        <translation>Na této adrese nic není (stav %1). Zkontrolujte ji nebo najděte novější.</translation>
+    </message>
+    <message>
+        <source>The server has a fault (status %1). Try again later.</source>
+        <translation>Server má poruchu (stav %1). Zkuste to později.</translation>
+    </message>
+    <message>
+        <source>The server answered with status %1 instead of a schedule. Check the address.</source>
+        <translation>Server odpověděl stavem %1 místo programu. Zkontrolujte adresu.</translation>
+    </message>
+    <message>
+        <source>Waiting for an answer</source>
+        <translation>Čeká se na odpověď</translation>
+    </message>
+    <message>
+        <source>Reading: %1</source>
+        <translation>Čte se: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reading: %n channel(s), %1</source>
+        <translation>
+            <numerusform>Čte se: %n kanál, %1</numerusform>
+            <numerusform>Čte se: %n kanály, %1</numerusform>
+            <numerusform>Čte se: %n kanálů, %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not asked yet.</source>
+        <translation>Ještě nebyl dotázán.</translation>
+    </message>
+    <message>
+        <source>Everything was read.</source>
+        <translation>Vše bylo přečteno.</translation>
+    </message>
+    <message>
+        <source>Nothing has changed since it was read.</source>
+        <translation>Od přečtení se nic nezměnilo.</translation>
+    </message>
+    <message>
+        <source>It broke off. What came before is used, and it will be tried again.</source>
+        <translation>Přerušilo se to. Použije se, co přišlo předtím, a zkusí se to znovu.</translation>
+    </message>
+    <message>
+        <source>It suddenly has far fewer channels with shows. The shows from before are kept.</source>
+        <translation>Najednou má mnohem méně kanálů s pořady. Dřívější pořady zůstávají.</translation>
+    </message>
+    <message>
+        <source>Its last show is over: nobody seems to update it. Look for another source.</source>
+        <translation>Jeho poslední pořad už skončil: zřejmě ho nikdo neaktualizuje. Najděte jiný zdroj.</translation>
+    </message>
+    <message>
+        <source>No answer. Check the address and the network.</source>
+        <translation>Žádná odpověď. Zkontrolujte adresu a síť.</translation>
+    </message>
+    <message>
+        <source>The server wants to be asked less often. It will be tried again later.</source>
+        <translation>Server chce být dotazován méně často. Zkusí se to později.</translation>
+    </message>
+    <message>
+        <source>The address leads from one address to the next without an end. Check it.</source>
+        <translation>Adresa vede bez konce z jedné adresy na druhou. Zkontrolujte ji.</translation>
+    </message>
+    <message>
+        <source>The address leads out of the web (%1), where the guide does not follow.</source>
+        <translation>Adresa vede mimo web (%1), kam průvodce nejde.</translation>
+    </message>
+    <message>
+        <source>There is no such file, or it cannot be read. Check the path.</source>
+        <translation>Takový soubor není nebo ho nelze číst. Zkontrolujte cestu.</translation>
+    </message>
+    <message>
+        <source>It is empty. Some servers answer so when there is nothing at an address; check it.</source>
+        <translation>Je prázdný. Některé servery tak odpovídají, když na adrese nic není; zkontrolujte ji.</translation>
+    </message>
+    <message>
+        <source>This is a page of the web, perhaps one to log in on. Look there for the address of an XMLTV or M3U file.</source>
+        <translation>To je webová stránka, možná přihlašovací. Najděte na ní adresu souboru XMLTV nebo M3U.</translation>
+    </message>
+    <message>
+        <source>This is neither a schedule (XMLTV) nor a playlist (M3U).</source>
+        <translation>To není ani program stanic (XMLTV), ani seznam stanic (M3U).</translation>
+    </message>
+    <message>
+        <source>It is damaged and cannot be unpacked. Fetch it again.</source>
+        <translation>Je poškozený a nelze ho rozbalit. Stáhněte ho znovu.</translation>
+    </message>
+    <message>
+        <source>It is larger than this device can read. Look for one with fewer channels.</source>
+        <translation>Je větší, než toto zařízení dokáže přečíst. Najděte zdroj s méně kanály.</translation>
+    </message>
+    <message>
+        <source>It cannot be stored: the disk is full or cannot be written.</source>
+        <translation>Nelze ho uložit: disk je plný nebo na něj nelze zapisovat.</translation>
+    </message>
+    <message>
+        <source>The program has to be configured first. Run it in a terminal with --configure.</source>
+        <translation>Program je třeba nejdřív nastavit. Spusťte ho v terminálu s --configure.</translation>
+    </message>
+    <message>
+        <source>The program ended with an error. Run it in a terminal to see why.</source>
+        <translation>Program skončil chybou. Proč, uvidíte, když ho spustíte v terminálu.</translation>
+    </message>
+    <message>
+        <source>The program ended with status %1. Run it in a terminal to see why.</source>
+        <translation>Program skončil se stavem %1. Proč, uvidíte, když ho spustíte v terminálu.</translation>
+    </message>
+    <message>
+        <source>The program was ended because it printed nothing for a long time.</source>
+        <translation>Program byl ukončen, protože dlouho nic nevypsal.</translation>
+    </message>
+    <message>
+        <source>The program was ended because it ran for too long.</source>
+        <translation>Program byl ukončen, protože běžel příliš dlouho.</translation>
+    </message>
+    <message>
+        <source>The program was ended because it printed more than a schedule can be.</source>
+        <translation>Program byl ukončen, protože vypsal víc, než může program stanic mít.</translation>
+    </message>
+    <message>
+        <source>The password of this address is not on this device. Enter the address again.</source>
+        <translation>Heslo této adresy na tomto zařízení není. Zadejte adresu znovu.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Zrušeno.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %1 of %n channel(s) have shows in the next 24 hours.</source>
+        <translation>
+            <numerusform>Jen %1 z %n kanálu má pořady v příštích 24 hodinách.</numerusform>
+            <numerusform>Jen %1 ze %n kanálů má pořady v příštích 24 hodinách.</numerusform>
+            <numerusform>Jen %1 z %n kanálů má pořady v příštích 24 hodinách.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its last show was on %1.</source>
+        <translation>Jeho poslední pořad byl %1.</translation>
+    </message>
+    <message>
+        <source>It has no shows.</source>
+        <translation>Nemá žádné pořady.</translation>
+    </message>
+    <message>
+        <source>The evening news are not in the evening: its times may be shifted.</source>
+        <translation>Večerní zprávy nejsou večer: časy jsou možná posunuté.</translation>
+    </message>
+    <message>
+        <source>It broke off. What came before can be used.</source>
+        <translation>Přerušilo se to. Co přišlo předtím, lze použít.</translation>
+    </message>
+    <message>
+        <source>Some characters cannot be read and are missing.</source>
+        <translation>Některé znaky nelze přečíst a chybějí.</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Neznámý</translation>
+    </message>
+    <message>
+        <source>Files cannot be chosen: the package %1 is missing. Type the path of the file.</source>
+        <translation>Soubory nelze vybírat: chybí balíček %1. Napište cestu k souboru.</translation>
     </message>
 </context>
 <context>

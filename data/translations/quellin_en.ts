@@ -59,5 +59,68 @@
             <numerusform>updated %n days ago</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n channel(s)</source>
+        <translation>
+            <numerusform>%n channel</numerusform>
+            <numerusform>%n channels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) come near</source>
+        <translation>
+            <numerusform>%n channel comes near</numerusform>
+            <numerusform>%n channels come near</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) chosen</source>
+        <translation>
+            <numerusform>%n channel chosen</numerusform>
+            <numerusform>%n channels chosen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Search %n channel(s)</source>
+        <translation>
+            <numerusform>Search %n channel</numerusform>
+            <numerusform>Search %n channels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n show(s)</source>
+        <translation>
+            <numerusform>%n show</numerusform>
+            <numerusform>%n shows</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) and their shows go with it.</source>
+        <translation>
+            <numerusform>%n channel and its shows go with it.</numerusform>
+            <numerusform>%n channels and their shows go with it.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reading: %n channel(s), %1</source>
+        <translation>
+            <numerusform>Reading: %n channel, %1</numerusform>
+            <numerusform>Reading: %n channels, %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %1 of %n channel(s) have shows in the next 24 hours.</source>
+        <translation>
+            <numerusform>Only %1 of %n channel has shows in the next 24 hours.</numerusform>
+            <numerusform>Only %1 of %n channels have shows in the next 24 hours.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

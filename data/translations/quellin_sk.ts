@@ -156,10 +156,6 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Všetky obľúbené odobraté</translation>
     </message>
     <message>
-        <source>%1 favourites removed</source>
-        <translation>Odobratých obľúbených: %1</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>Vrátiť späť</translation>
     </message>
@@ -226,10 +222,6 @@ Počkajte, kým sa program načíta.</translation>
     <message>
         <source>Updated </source>
         <translation>Aktualizované </translation>
-    </message>
-    <message>
-        <source>Nothing here yet</source>
-        <translation>Zatiaľ tu nič nie je</translation>
     </message>
     <message>
         <source>All Shows</source>
@@ -886,6 +878,634 @@ Počkajte, kým sa program načíta.</translation>
             <numerusform>aktualizované pred %n dňami</numerusform>
             <numerusform>aktualizované pred %n dňami</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>My sources</source>
+        <translation>Moje zdroje</translation>
+    </message>
+    <message>
+        <source>This is a program. It runs on this device with your rights, now and at each update.</source>
+        <translation>Toto je program. Pobeží na tomto zariadení s vašimi právami, teraz a pri každej aktualizácii.</translation>
+    </message>
+    <message>
+        <source>Schedules (XMLTV), packed or not, playlists (M3U), and programs that print a schedule.</source>
+        <translation>Programy staníc (XMLTV), aj zbalené, zoznamy staníc (M3U) a programy, ktoré vypisujú XMLTV.</translation>
+    </message>
+    <message>
+        <source>Address, file or program</source>
+        <translation>Adresa, súbor alebo program</translation>
+    </message>
+    <message>
+        <source>Run this program</source>
+        <translation>Spustiť tento program</translation>
+    </message>
+    <message>
+        <source>Show channels</source>
+        <translation>Zobraziť kanály</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Vložiť</translation>
+    </message>
+    <message>
+        <source>Choose a file…</source>
+        <translation>Vybrať súbor…</translation>
+    </message>
+    <message>
+        <source>From the catalogue</source>
+        <translation>Z katalógu</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s)</source>
+        <translation>
+            <numerusform>%n kanál</numerusform>
+            <numerusform>%n kanály</numerusform>
+            <numerusform>%n kanálov</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Public feeds: %1</source>
+        <translation>Verejné zdroje: %1</translation>
+    </message>
+    <message>
+        <source>Public feeds</source>
+        <translation>Verejné zdroje</translation>
+    </message>
+    <message>
+        <source>Other countries</source>
+        <translation>Iné krajiny</translation>
+    </message>
+    <message>
+        <source>All countries</source>
+        <translation>Všetky krajiny</translation>
+    </message>
+    <message>
+        <source>Programs on this device</source>
+        <translation>Programy na tomto zariadení</translation>
+    </message>
+    <message>
+        <source>Looking for programs that give a schedule</source>
+        <translation>Hľadajú sa programy, ktoré vypisujú XMLTV</translation>
+    </message>
+    <message>
+        <source>None found</source>
+        <translation>Nič sa nenašlo</translation>
+    </message>
+    <message>
+        <source>Enter the path of a program above.</source>
+        <translation>Zadajte hore cestu k programu.</translation>
+    </message>
+    <message>
+        <source>Look again…</source>
+        <translation>Hľadať znova…</translation>
+    </message>
+    <message>
+        <source>Look for programs that give a schedule…</source>
+        <translation>Hľadať programy, ktoré vypisujú XMLTV…</translation>
+    </message>
+    <message>
+        <source>Choose a schedule or playlist</source>
+        <translation>Vyberte súbor XMLTV alebo M3U</translation>
+    </message>
+    <message>
+        <source>Run programs?</source>
+        <translation>Spustiť programy?</translation>
+    </message>
+    <message>
+        <source>Each program on this device whose name begins with tv_grab_ is run, to ask what it is.</source>
+        <translation>Každý program na tomto zariadení, ktorého meno sa začína na tv_grab_, sa spustí, aby povedal, čo je.</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Spustiť</translation>
+    </message>
+    <message>
+        <source>Ask %1?</source>
+        <translation>Požiadať %1?</translation>
+    </message>
+    <message>
+        <source>This server belongs to somebody else and was never asked before. It learns the network address of this device, and is asked again at each update.</source>
+        <translation>Tento server patrí niekomu inému a ešte nebol opýtaný. Dozvie sa sieťovú adresu tohto zariadenia a bude opýtaný pri každej aktualizácii.</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Požiadať</translation>
+    </message>
+    <message>
+        <source>Run this program?</source>
+        <translation>Spustiť tento program?</translation>
+    </message>
+    <message>
+        <source>“%1” runs on this device with your rights, now and at each update.</source>
+        <translation>„%1“ pobeží na tomto zariadení s vašimi právami, teraz a pri každej aktualizácii.</translation>
+    </message>
+    <message>
+        <source>not ours</source>
+        <translation>nie je náš</translation>
+    </message>
+    <message>
+        <source>last reported alive %1</source>
+        <translation>naposledy hlásený ako živý %1</translation>
+    </message>
+    <message>
+        <source>Public feed of %1</source>
+        <translation>Verejný zdroj %1</translation>
+    </message>
+    <message>
+        <source>These are the public feeds of others, not ours: they may be wrong, late or gone. One is asked only after you choose it.</source>
+        <translation>Sú to verejné zdroje iných, nie naše: môžu byť chybné, oneskorené alebo zrušené. Opýtaný je len ten, ktorý vyberiete.</translation>
+    </message>
+    <message>
+        <source>Search countries</source>
+        <translation>Hľadať krajiny</translation>
+    </message>
+    <message>
+        <source>No feeds are known for “%1”</source>
+        <translation>Pre „%1“ nie je známy žiadny zdroj</translation>
+    </message>
+    <message>
+        <source>%1 by id · %2 by name · %3 to review · %4 without a schedule</source>
+        <translation>%1 podľa id · %2 podľa názvu · %3 na kontrolu · %4 bez programu</translation>
+    </message>
+    <message>
+        <source>Review matches</source>
+        <translation>Skontrolovať priradenia</translation>
+    </message>
+    <message>
+        <source>Search all channels of the playlist</source>
+        <translation>Hľadať vo všetkých kanáloch zoznamu</translation>
+    </message>
+    <message>
+        <source>To review</source>
+        <translation>Na kontrolu</translation>
+    </message>
+    <message>
+        <source>Choose the channel whose schedule is right.</source>
+        <translation>Vyberte kanál, ktorého program je správny.</translation>
+    </message>
+    <message>
+        <source>Without a schedule</source>
+        <translation>Bez programu</translation>
+    </message>
+    <message>
+        <source>Nothing to review</source>
+        <translation>Nie je čo kontrolovať</translation>
+    </message>
+    <message>
+        <source>Every channel has a schedule. A search shows which.</source>
+        <translation>Každý kanál má program. Hľadanie ukáže ktorý.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) come near</source>
+        <translation>
+            <numerusform>Blízko je %n kanál</numerusform>
+            <numerusform>Blízko sú %n kanály</numerusform>
+            <numerusform>Blízko je %n kanálov</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No schedule</source>
+        <translation>Bez programu</translation>
+    </message>
+    <message>
+        <source>Yours</source>
+        <translation>Vaše</translation>
+    </message>
+    <message>
+        <source>Search the channels of the feeds</source>
+        <translation>Hľadať v kanáloch zdrojov</translation>
+    </message>
+    <message>
+        <source>Nothing on now</source>
+        <translation>Teraz nič nebeží</translation>
+    </message>
+    <message>
+        <source>Channels that come near</source>
+        <translation>Blízke kanály</translation>
+    </message>
+    <message>
+        <source>A search finds every channel of the feeds.</source>
+        <translation>Hľadanie nájde každý kanál zdrojov.</translation>
+    </message>
+    <message>
+        <source>Time and language</source>
+        <translation>Čas a jazyk</translation>
+    </message>
+    <message>
+        <source>The language decides in which category a show is. The channel&apos;s times are moved in addition to those of the whole source.</source>
+        <translation>Jazyk rozhoduje o kategórii relácie. Časy kanála sa posunú navyše k časom celého zdroja.</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Jazyk</translation>
+    </message>
+    <message>
+        <source>Move its times</source>
+        <translation>Posunúť jeho časy</translation>
+    </message>
+    <message>
+        <source>Add a source</source>
+        <translation>Pridať zdroj</translation>
+    </message>
+    <message>
+        <source>No sources yet</source>
+        <translation>Zatiaľ žiadne zdroje</translation>
+    </message>
+    <message>
+        <source>Add feeds, playlists and programs, and choose from their channels.</source>
+        <translation>Pridajte zdroje XMLTV, zoznamy a programy a vyberte si z ich kanálov.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) chosen</source>
+        <translation>
+            <numerusform>Vybraný %n kanál</numerusform>
+            <numerusform>Vybrané %n kanály</numerusform>
+            <numerusform>Vybraných %n kanálov</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 with shows</source>
+        <translation>%1 z %2 s reláciami</translation>
+    </message>
+    <message>
+        <source>being read</source>
+        <translation>práve sa číta</translation>
+    </message>
+    <message>
+        <source>from %1</source>
+        <translation>z %1</translation>
+    </message>
+    <message>
+        <source>next try %1</source>
+        <translation>ďalší pokus %1</translation>
+    </message>
+    <message>
+        <source>No shows</source>
+        <translation>Žiadne relácie</translation>
+    </message>
+    <message>
+        <source>Without shows</source>
+        <translation>Bez relácií</translation>
+    </message>
+    <message>
+        <source>Its channels cannot be shown</source>
+        <translation>Jeho kanály nemožno zobraziť</translation>
+    </message>
+    <message numerus="yes">
+        <source>Search %n channel(s)</source>
+        <translation>
+            <numerusform>Hľadať v %n kanáli</numerusform>
+            <numerusform>Hľadať v %n kanáloch</numerusform>
+            <numerusform>Hľadať v %n kanáloch</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The search looks at all names of a channel.</source>
+        <translation>Hľadá sa vo všetkých názvoch kanála.</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Skupina</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 a %n ďalší</numerusform>
+            <numerusform>%1 a %n ďalšie</numerusform>
+            <numerusform>%1 a %n ďalších</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Last try</source>
+        <translation>Posledný pokus</translation>
+    </message>
+    <message>
+        <source>Last success</source>
+        <translation>Posledný úspech</translation>
+    </message>
+    <message>
+        <source>Next try</source>
+        <translation>Ďalší pokus</translation>
+    </message>
+    <message>
+        <source>In the source</source>
+        <translation>V zdroji</translation>
+    </message>
+    <message>
+        <source>%1 with shows</source>
+        <translation>%1 s reláciami</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n show(s)</source>
+        <translation>
+            <numerusform>%n relácia</numerusform>
+            <numerusform>%n relácie</numerusform>
+            <numerusform>%n relácií</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Vybrané</translation>
+    </message>
+    <message>
+        <source>Last show</source>
+        <translation>Posledná relácia</translation>
+    </message>
+    <message>
+        <source>Kept from before, because the new shows were fewer</source>
+        <translation>Ponechané z minula, lebo nových relácií bolo menej</translation>
+    </message>
+    <message>
+        <source>No longer in the source</source>
+        <translation>Už nie je v zdroji</translation>
+    </message>
+    <message>
+        <source>Move all times</source>
+        <translation>Posunúť všetky časy</translation>
+    </message>
+    <message>
+        <source>Output of the program</source>
+        <translation>Výpis programu</translation>
+    </message>
+    <message>
+        <source>This source was removed</source>
+        <translation>Tento zdroj bol odobraný</translation>
+    </message>
+    <message>
+        <source>It is being read.</source>
+        <translation>Práve sa číta.</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Podrobnosti</translation>
+    </message>
+    <message>
+        <source>Refresh now</source>
+        <translation>Obnoviť teraz</translation>
+    </message>
+    <message>
+        <source>Time and language by channel</source>
+        <translation>Čas a jazyk podľa kanála</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Nastavenia</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Názov</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Address or file</source>
+        <translation>Adresa alebo súbor</translation>
+    </message>
+    <message>
+        <source>Save the new address</source>
+        <translation>Uložiť novú adresu</translation>
+    </message>
+    <message>
+        <source>The secret part of the address is kept apart, on this device only. Enter the whole address to change it.</source>
+        <translation>Tajná časť adresy je uložená osobitne a len na tomto zariadení. Ak ju chcete zmeniť, zadajte celú adresu.</translation>
+    </message>
+    <message>
+        <source>Copy as text</source>
+        <translation>Kopírovať ako text</translation>
+    </message>
+    <message>
+        <source>Remove this source</source>
+        <translation>Odobrať tento zdroj</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Skopírované</translation>
+    </message>
+    <message>
+        <source>Remove “%1”?</source>
+        <translation>Odobrať „%1“?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) and their shows go with it.</source>
+        <translation>
+            <numerusform>Zmizne s ním %n kanál aj jeho relácie.</numerusform>
+            <numerusform>Zmiznú s ním %n kanály aj ich relácie.</numerusform>
+            <numerusform>Zmizne s ním %n kanálov aj ich relácie.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list is longer; the rest is left out.</source>
+        <translation>Zoznam je dlhší; zvyšok je vynechaný.</translation>
+    </message>
+    <message>
+        <source>%1 on air now</source>
+        <translation>%1 práve vysiela</translation>
+    </message>
+    <message>
+        <source>%1 in the next 24 hours</source>
+        <translation>%1 v najbližších 24 hodinách</translation>
+    </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>Od %1 do %2</translation>
+    </message>
+    <message>
+        <source>Is it on at this time? Otherwise move all times.</source>
+        <translation>Vysiela sa v tomto čase? Inak posuňte všetky časy.</translation>
+    </message>
+    <message>
+        <source>Schedules</source>
+        <translation>Programy</translation>
+    </message>
+    <message>
+        <source>Loaded</source>
+        <translation>Načítané</translation>
+    </message>
+    <message>
+        <source>%1, named by the playlist. Asked when you go on.</source>
+        <translation>%1, uvedený v zozname. Opýtaný, keď budete pokračovať.</translation>
+    </message>
+    <message>
+        <source>Load and match now</source>
+        <translation>Načítať a priradiť teraz</translation>
+    </message>
+    <message>
+        <source>No schedules</source>
+        <translation>Žiadne programy</translation>
+    </message>
+    <message>
+        <source>The playlist names no feed, and none was added. Add a feed to see what is on.</source>
+        <translation>Zoznam neuvádza žiadny zdroj programu a žiadny nebol pridaný. Pridajte ho, aby ste videli, čo sa vysiela.</translation>
+    </message>
+    <message>
+        <source>The server denies access (status %1). Check the user name, password or token in the address.</source>
+        <translation>Server odmieta prístup (stav %1). Skontrolujte meno, heslo alebo kľúč v adrese.</translation>
+    </message>
+    <message>
+        <source>There is nothing at this address (status %1). Check it, or look for a newer one.</source>
+        <translation>Na tejto adrese nič nie je (stav %1). Skontrolujte ju alebo nájdite novšiu.</translation>
+    </message>
+    <message>
+        <source>The server has a fault (status %1). Try again later.</source>
+        <translation>Server má poruchu (stav %1). Skúste to neskôr.</translation>
+    </message>
+    <message>
+        <source>The server answered with status %1 instead of a schedule. Check the address.</source>
+        <translation>Server odpovedal stavom %1 namiesto programu. Skontrolujte adresu.</translation>
+    </message>
+    <message>
+        <source>Waiting for an answer</source>
+        <translation>Čaká sa na odpoveď</translation>
+    </message>
+    <message>
+        <source>Reading: %1</source>
+        <translation>Číta sa: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reading: %n channel(s), %1</source>
+        <translation>
+            <numerusform>Číta sa: %n kanál, %1</numerusform>
+            <numerusform>Číta sa: %n kanály, %1</numerusform>
+            <numerusform>Číta sa: %n kanálov, %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not asked yet.</source>
+        <translation>Ešte nebol opýtaný.</translation>
+    </message>
+    <message>
+        <source>Everything was read.</source>
+        <translation>Všetko bolo prečítané.</translation>
+    </message>
+    <message>
+        <source>Nothing has changed since it was read.</source>
+        <translation>Od prečítania sa nič nezmenilo.</translation>
+    </message>
+    <message>
+        <source>It broke off. What came before is used, and it will be tried again.</source>
+        <translation>Prerušilo sa to. Použije sa, čo prišlo predtým, a skúsi sa to znova.</translation>
+    </message>
+    <message>
+        <source>It suddenly has far fewer channels with shows. The shows from before are kept.</source>
+        <translation>Zrazu má oveľa menej kanálov s reláciami. Doterajšie relácie zostávajú.</translation>
+    </message>
+    <message>
+        <source>Its last show is over: nobody seems to update it. Look for another source.</source>
+        <translation>Jeho posledná relácia sa už skončila: zrejme ho nikto neaktualizuje. Nájdite iný zdroj.</translation>
+    </message>
+    <message>
+        <source>No answer. Check the address and the network.</source>
+        <translation>Žiadna odpoveď. Skontrolujte adresu a sieť.</translation>
+    </message>
+    <message>
+        <source>The server wants to be asked less often. It will be tried again later.</source>
+        <translation>Server chce byť opytovaný menej často. Skúsi sa to neskôr.</translation>
+    </message>
+    <message>
+        <source>The address leads from one address to the next without an end. Check it.</source>
+        <translation>Adresa vedie bez konca z jednej adresy na druhú. Skontrolujte ju.</translation>
+    </message>
+    <message>
+        <source>The address leads out of the web (%1), where the guide does not follow.</source>
+        <translation>Adresa vedie mimo webu (%1), kam sprievodca nejde.</translation>
+    </message>
+    <message>
+        <source>There is no such file, or it cannot be read. Check the path.</source>
+        <translation>Taký súbor neexistuje alebo ho nemožno čítať. Skontrolujte cestu.</translation>
+    </message>
+    <message>
+        <source>It is empty. Some servers answer so when there is nothing at an address; check it.</source>
+        <translation>Je prázdny. Niektoré servery tak odpovedajú, keď na adrese nič nie je; skontrolujte ju.</translation>
+    </message>
+    <message>
+        <source>This is a page of the web, perhaps one to log in on. Look there for the address of an XMLTV or M3U file.</source>
+        <translation>Toto je webová stránka, možno prihlasovacia. Nájdite na nej adresu súboru XMLTV alebo M3U.</translation>
+    </message>
+    <message>
+        <source>This is neither a schedule (XMLTV) nor a playlist (M3U).</source>
+        <translation>Toto nie je ani program staníc (XMLTV), ani zoznam staníc (M3U).</translation>
+    </message>
+    <message>
+        <source>It is damaged and cannot be unpacked. Fetch it again.</source>
+        <translation>Je poškodený a nemožno ho rozbaliť. Stiahnite ho znova.</translation>
+    </message>
+    <message>
+        <source>It is larger than this device can read. Look for one with fewer channels.</source>
+        <translation>Je väčší, než toto zariadenie dokáže prečítať. Nájdite zdroj s menej kanálmi.</translation>
+    </message>
+    <message>
+        <source>It cannot be stored: the disk is full or cannot be written.</source>
+        <translation>Nemožno ho uložiť: disk je plný alebo naň nemožno zapisovať.</translation>
+    </message>
+    <message>
+        <source>The program has to be configured first. Run it in a terminal with --configure.</source>
+        <translation>Program treba najprv nastaviť. Spustite ho v termináli s --configure.</translation>
+    </message>
+    <message>
+        <source>The program ended with an error. Run it in a terminal to see why.</source>
+        <translation>Program sa skončil chybou. Prečo, uvidíte, keď ho spustíte v termináli.</translation>
+    </message>
+    <message>
+        <source>The program ended with status %1. Run it in a terminal to see why.</source>
+        <translation>Program sa skončil so stavom %1. Prečo, uvidíte, keď ho spustíte v termináli.</translation>
+    </message>
+    <message>
+        <source>The program was ended because it printed nothing for a long time.</source>
+        <translation>Program bol ukončený, lebo dlho nič nevypísal.</translation>
+    </message>
+    <message>
+        <source>The program was ended because it ran for too long.</source>
+        <translation>Program bol ukončený, lebo bežal príliš dlho.</translation>
+    </message>
+    <message>
+        <source>The program was ended because it printed more than a schedule can be.</source>
+        <translation>Program bol ukončený, lebo vypísal viac, než môže program staníc mať.</translation>
+    </message>
+    <message>
+        <source>The password of this address is not on this device. Enter the address again.</source>
+        <translation>Heslo tejto adresy na tomto zariadení nie je. Zadajte adresu znova.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Zrušené.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %1 of %n channel(s) have shows in the next 24 hours.</source>
+        <translation>
+            <numerusform>Len %1 z %n kanála má relácie v najbližších 24 hodinách.</numerusform>
+            <numerusform>Len %1 z %n kanálov má relácie v najbližších 24 hodinách.</numerusform>
+            <numerusform>Len %1 z %n kanálov má relácie v najbližších 24 hodinách.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its last show was on %1.</source>
+        <translation>Jeho posledná relácia bola %1.</translation>
+    </message>
+    <message>
+        <source>It has no shows.</source>
+        <translation>Nemá žiadne relácie.</translation>
+    </message>
+    <message>
+        <source>The evening news are not in the evening: its times may be shifted.</source>
+        <translation>Večerné správy nie sú večer: časy sú možno posunuté.</translation>
+    </message>
+    <message>
+        <source>It broke off. What came before can be used.</source>
+        <translation>Prerušilo sa to. Čo prišlo predtým, možno použiť.</translation>
+    </message>
+    <message>
+        <source>Some characters cannot be read and are missing.</source>
+        <translation>Niektoré znaky nemožno prečítať a chýbajú.</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Neznámy</translation>
+    </message>
+    <message>
+        <source>Files cannot be chosen: the package %1 is missing. Type the path of the file.</source>
+        <translation>Súbory nemožno vyberať: chýba balík %1. Napíšte cestu k súboru.</translation>
     </message>
 </context>
 <context>
