@@ -56,6 +56,8 @@ enum class Stops {
     Perhaps,
     /// Where the profile may be changed: the stop adds or removes something.
     WithChanges,
+    /// The same, where the guide takes sources of the user and there is one to be added.
+    WithSources,
 };
 
 struct Stop {
@@ -114,6 +116,22 @@ constexpr std::array kStops{
     Stop{"catalogue-group", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }},
     Stop{"catalogue-removed", [](PictureTour& tour) { return tour.send(Tapped{}, isChecked); },
          Stops::WithChanges},
+    Stop{"adding",
+         [](PictureTour& tour) {
+             return tour.selectTab(Symbol::SelectedChannels) &&
+                    tour.pressButton(Localized::tr("My sources")) &&
+                    tour.pressButton(Localized::tr("Add a source"));
+         },
+         Stops::WithSources},
+    Stop{"preview", [](PictureTour& tour) { return tour.enterSource(); }, Stops::WithSources},
+    Stop{"choosing", [](PictureTour& tour) { return tour.search(u"m"_s); }, Stops::WithSources},
+    Stop{"sources",
+         [](PictureTour& tour) {
+             return tour.send(Tapped{}, isChannel) && tour.pressButton(Localized::tr("Done")) &&
+                    tour.selectTab(Symbol::SelectedChannels) && tour.pressButton(Localized::tr("My sources"));
+         },
+         Stops::WithSources},
+    Stop{"source", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }, Stops::WithSources},
     Stop{"player",
          [](PictureTour& tour) {
              return tour.selectTab(Symbol::Currently) && tour.send(AccessoryTapped{}, hasStream);
@@ -222,8 +240,24 @@ bool PictureTour::pressButton(const QString& title) {
     return false;
 }
 
+bool PictureTour::enterSource() {
+    return send(TextEdited{m_plan.source, true, true},
+                [](const Row& row) { return row.kind() == RowKind::Input; });
+}
+
+bool PictureTour::takesSources() const {
+    const auto tab = std::ranges::find(m_tabs.tabs(), Symbol::SelectedChannels,
+                                       [](const auto& each) { return each.item.symbol; });
+    return !m_plan.source.isEmpty() && tab != m_tabs.tabs().end() &&
+           std::ranges::any_of(tab->navigationController->viewControllers().front()->rightBarButtons(),
+                               [](const BarButton& button) { return button.kind == BarButton::Kind::List; });
+}
+
 bool PictureTour::isLeftOut() const {
     const Stop& stop = kStops[m_stop];
+    if (stop.where == Stops::WithSources && !(m_plan.mayChange && takesSources())) {
+        return true;
+    }
     return !hasTab(stop.tab) || (stop.where == Stops::WithChanges && !m_plan.mayChange);
 }
 
@@ -322,6 +356,12 @@ bool PictureTour::loaded() const {
     }
     const TableViewController* screen = table();
     if (top().progress() || top().refreshing()) {
+        return false;
+    }
+    if (screen && std::ranges::any_of(screen->table().sections(), [](const Section& section) {
+            return std::ranges::any_of(section.rows,
+                                       [](const Row& row) { return row.kind() == RowKind::Progress; });
+        })) {
         return false;
     }
     // On the first screen a section without shows is still loading.

@@ -25,6 +25,8 @@ class PictureTour {
         std::optional<ColorScheme> appearance;
         /// Otherwise stops that add or remove something are left out.
         bool mayChange = false;
+        /// The address of a feed that the tour adds; nothing is added without one.
+        QString source = {};
     };
 
     /// `done` is called once, with whether every screen opened and every picture was written.
@@ -44,6 +46,8 @@ class PictureTour {
     bool addFavourites();
     bool search(const QString& text);
     bool pressButton(const QString& title);
+    /// Into the field of the screen.
+    bool enterSource();
     /// Of a show's page.
     bool pressAction(ActionSymbol symbol);
 
@@ -53,6 +57,7 @@ class PictureTour {
     void closeAlert();
     void open();
     bool isLeftOut() const;
+    bool takesSources() const;
     void poll();
     void draw();
     void later(int milliseconds, void (PictureTour::*next)());

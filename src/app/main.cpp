@@ -272,12 +272,14 @@ int run(LaunchOptions options, bool drawsWebPages) {
 
     std::optional<PictureTour> tour;
     if (options.screenshots) {
-        tour.emplace(delegate.tabBarController(), *window,
-                     PictureTour::Plan{.folder = *options.screenshots,
-                                       .prefix = picturePrefix(options),
-                                       .appearance = options.appearance,
-                                       .mayChange = options.demo},
-                     [](bool complete) { QCoreApplication::exit(complete ? 0 : 1); });
+        tour.emplace(
+            delegate.tabBarController(), *window,
+            PictureTour::Plan{.folder = *options.screenshots,
+                              .prefix = picturePrefix(options),
+                              .appearance = options.appearance,
+                              .mayChange = options.demo,
+                              .source = demo ? demo->serverBase() + "/feeds/minuta.xml"_L1 : QString()},
+            [](bool complete) { QCoreApplication::exit(complete ? 0 : 1); });
         tour->start();
     }
     const int status = QGuiApplication::exec();
