@@ -34,9 +34,7 @@ T.AbstractButton {
     Loader {
         active: button.hovered && !button.titled
         sourceComponent: Hint {
-            parent: button
-            text: button.text
-            visible: button.hovered && !button.pressed && button.text !== ""
+            owner: button
         }
     }
 

@@ -32,9 +32,7 @@ T.AbstractButton {
     Loader {
         active: button.hovered
         sourceComponent: Hint {
-            parent: button
-            text: button.text
-            visible: button.hovered && !button.pressed && button.text !== ""
+            owner: button
         }
     }
 
