@@ -17,6 +17,8 @@ enum class LoadFailureReason {
     NoShows,
     /// All shows of the channel in the schedule are over.
     OnlyPastShows,
+    /// A source that the user added could not be read; its own page says why. `host` is its name.
+    OwnSource,
 };
 
 /// Why the last load of a channel stored nothing. Of several sources it describes the first one that can be

@@ -58,6 +58,16 @@ void TVChannel::requireReload() {
     m_reloadRequired = true;
 }
 
+bool TVChannel::reloadRequired() const {
+    const std::lock_guard lock(m_guard);
+    return m_reloadRequired;
+}
+
+void TVChannel::endReloadRequest() {
+    const std::lock_guard lock(m_guard);
+    m_reloadRequired = false;
+}
+
 void TVChannel::unload() {
     const std::lock_guard lock(m_guard);
     m_timeLoadedCache.reset();
@@ -82,7 +92,10 @@ bool TVChannel::reloadNeeded(Moment now, std::chrono::seconds automaticUpdateInt
     if (isLoading) {
         return false;
     }
-    return !loaded || *loaded > now || now - automaticUpdateInterval > *loaded;
+    if (!loaded || *loaded > now) {
+        return true;
+    }
+    return !m_channel.id.isOwn() && now - automaticUpdateInterval > *loaded;
 }
 
 } // namespace guide

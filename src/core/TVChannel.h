@@ -51,9 +51,15 @@ class TVChannel {
     /// channel.
     void takeLoadStateFrom(const TVChannel& earlier);
 
+    /// Whether a reload is required and has not been tried yet.
+    bool reloadRequired() const;
+    /// The required reload has been tried, and the list on the disk counts again. For the channels of the
+    /// user's sources, which are asked no more often than the source allows.
+    void endReloadRequest();
+
     /// Whether the list is missing or older than the interval, or has a load time in the future, which shows
     /// only that a clock was wrong. A list exactly as old as the interval is not due, nor is a channel that
-    /// is being loaded.
+    /// is being loaded. The list of a channel of a source that the user added has no age: its source decides.
     bool reloadNeeded(Moment now, std::chrono::seconds automaticUpdateInterval) const;
 
   private:

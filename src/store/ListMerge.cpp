@@ -8,6 +8,7 @@ namespace guide {
 namespace {
 
 constexpr std::chrono::seconds kLengthOfLastShow{7200};
+constexpr std::ptrdiff_t kFarMore = 4;
 
 /// The pages of all other types contain only start times.
 bool hasEnds(ListingsType type) {
@@ -40,6 +41,12 @@ ShowSpan storedAfter(Moment last, const ShowList& stored, Moment now) {
     return {stored, first, stored->size() - first};
 }
 
+std::ptrdiff_t countToCome(const ShowList& stored, Moment now) {
+    return stored ? std::ranges::count_if(
+                        *stored, [now](const ShowItem& show) { return show.entry()->endsAfter(now); })
+                  : 0;
+}
+
 } // namespace
 
 bool isEmptySlotTitle(QStringView title) {
@@ -51,7 +58,7 @@ bool isEmptySlotTitle(QStringView title) {
 }
 
 MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& language, Moment now,
-                      ListingsType type, const ShowList& stored) {
+                      ListingsType type, const ReadOutcome& read, const ShowList& stored) {
     std::erase_if(parsed, [](const ExtendedTVEntry& show) { return !show.basic || !show.basic->dateTime(); });
     std::stable_sort(parsed.begin(), parsed.end(), [](const ExtendedTVEntry& a, const ExtendedTVEntry& b) {
         return startOf(a) < startOf(b);
@@ -76,7 +83,10 @@ MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& langua
     if (first == parsed.end()) {
         return {nullptr, MergeOutcome::OnlyPast};
     }
-    const ShowSpan rest = storedAfter(startOf(parsed.back()), stored, now);
+    if (read.keepsRicher && (parsed.end() - first) * kFarMore < countToCome(stored, now)) {
+        return {nullptr, MergeOutcome::Poorer};
+    }
+    const ShowSpan rest = read.incomplete ? storedAfter(startOf(parsed.back()), stored, now) : ShowSpan();
     if (!hasEnds(type) && !rest.empty()) {
         parsed.back().basic->setEndDateTime(rest[0].entry()->dateTime());
     }
@@ -103,10 +113,10 @@ MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, 
         auto shows = parsed.extract(item.channel);
         result.read.incomplete =
             result.read.incomplete || (shows && shows.mapped().size() > kMostShowsOfChannel);
-        const auto earlier = read.incomplete ? stored.find(item.channel) : stored.end();
+        const auto earlier = stored.find(item.channel);
         MergedList merged =
             mergedList(shows ? std::move(shows.mapped()) : std::vector<ExtendedTVEntry>(), item.language, now,
-                       type, earlier == stored.end() ? nullptr : earlier->second);
+                       type, read, earlier == stored.end() ? nullptr : earlier->second);
         result.outcomes.emplace(item.channel, merged.outcome);
         if (merged.list) {
             result.lists.emplace(item.channel, std::move(merged.list));

@@ -15,6 +15,8 @@ enum class MergeOutcome {
     Empty,
     /// Every show that was found has ended.
     OnlyPast,
+    /// The stored list has far more shows to come and was kept.
+    Poorer,
 };
 
 /// What a reader found out about the pages that it made lists of.
@@ -23,6 +25,8 @@ struct ReadOutcome {
     bool incomplete = false;
     /// Something in the pages belongs to a schedule.
     bool isSchedule = true;
+    /// A stored list with more than four times as many shows to come is not replaced.
+    bool keepsRicher = false;
 };
 
 struct MergeResult {
@@ -49,12 +53,13 @@ struct MergedList {
 /// final placeholder and all but the first of several shows with the same start, sets the end times from the
 /// next show's start for listing types other than PortNetwork and XMLTV, drops the shows before the first one
 /// that ends after `now`, and sets the language. Shows of `stored`, if given, that start after the last one
-/// are appended: they are what a page that broke off would have repeated.
+/// are appended when the page broke off: they are what it would have repeated. With `keepsRicher` they stay
+/// alone if they are far more.
 MergedList mergedList(std::vector<ExtendedTVEntry> parsed, const QString& language, Moment now,
-                      ListingsType type, const ShowList& stored = nullptr);
+                      ListingsType type, const ReadOutcome& read = {}, const ShowList& stored = nullptr);
 
 /// Does the same for every load item; of several items for one channel only the first is used. `stored` is
-/// used for incomplete pages.
+/// used as for mergedList().
 MergeResult mergedLists(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, ListingsType type,
                         const ReadOutcome& read = {},
                         const std::unordered_map<ObjectId, ShowList>& stored = {});

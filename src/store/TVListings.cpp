@@ -213,7 +213,7 @@ TVListings::~TVListings() = default;
 MergeResult TVListings::merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now,
                               ListingsType type, const ReadOutcome& read) {
     std::unordered_map<ObjectId, ShowList> stored;
-    if (read.incomplete) {
+    if (read.incomplete || read.keepsRicher) {
         m_state->access->sync([&] {
             for (const LoadItem& item : items) {
                 if (const auto list = m_state->lists.find(item.channel); list != m_state->lists.end()) {

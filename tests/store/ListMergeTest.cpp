@@ -87,7 +87,7 @@ TEST(ListMergeTest, IncompletePagesKeepTheStoredRest) {
     };
     for (const auto& [name, shows, type, expected, lastEnd] : rows) {
         SCOPED_TRACE(name);
-        const MergedList merged = mergedList(parsed(shows), u"cs"_s, kNow, type, list);
+        const MergedList merged = mergedList(parsed(shows), u"cs"_s, kNow, type, {.incomplete = true}, list);
         EXPECT_EQ(merged.list ? titles(*merged.list) : Titles(), expected);
         if (merged.list) {
             EXPECT_EQ((*merged.list)[shows.size() - 1].entry()->endDateTime(), lastEnd);

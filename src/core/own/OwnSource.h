@@ -58,7 +58,7 @@ struct OwnChannel {
     QString key;
     QString title;
     /// Of its texts, such as "cs"; decides how its shows are classified. May be empty.
-    QString language;
+    QString language = {};
     /// The user set the language.
     bool languageCorrected = false;
     /// Added to the times of its shows, beside that of the source.

@@ -134,7 +134,6 @@ class Download {
     Download(const SourceDownloadEnvironment& environment, const SourceDownloadRequest& request)
         : m_environment(environment)
         , m_request(request)
-        , m_isConditional(QFile::exists(request.path))
         , m_content(QFileInfo(request.path).absolutePath()) {}
 
     SourceDownload run() {
@@ -163,10 +162,10 @@ class Download {
         // Undoes the encoding of a transfer. A packed file has none and stays packed.
         request.headers = {{"User-Agent", m_environment.userAgent.value()},
                            {"Accept-Encoding", "gzip,deflate"}};
-        if (m_isConditional && !m_request.etag.isEmpty()) {
+        if (!m_request.etag.isEmpty()) {
             request.headers.append({"If-None-Match", m_request.etag});
         }
-        if (m_isConditional && !m_request.lastModified.isEmpty()) {
+        if (!m_request.lastModified.isEmpty()) {
             request.headers.append({"If-Modified-Since", m_request.lastModified});
         }
         if (const QByteArray authorization = authorizationOf(m_request.url);
@@ -229,7 +228,7 @@ class Download {
         if (!transfer.response) {
             return failed(SourceResult::NoAnswer);
         }
-        if (status == kNotModified && m_isConditional) {
+        if (status == kNotModified && (!m_request.etag.isEmpty() || !m_request.lastModified.isEmpty())) {
             return unchanged(*transfer.response);
         }
         if (isSuccess(status)) {
@@ -293,7 +292,6 @@ class Download {
 
     const SourceDownloadEnvironment& m_environment;
     const SourceDownloadRequest& m_request;
-    const bool m_isConditional;
     ReplacementInPieces m_content;
     bool m_isStopped = false;
     bool m_isTooLarge = false;

@@ -27,7 +27,7 @@ struct SourceDownloadEnvironment {
 struct SourceDownloadRequest {
     /// User and password in it are sent only to its own host.
     QUrl url;
-    /// Of the answer that is at `path`; asked conditionally where not empty and the file exists.
+    /// Of the answer that the caller has; asked conditionally where one is not empty.
     QByteArray etag = {};
     QByteArray lastModified = {};
     /// Replaced only by a whole answer. The beginning of one that broke off goes to beginningOf(path), so
