@@ -8,17 +8,21 @@
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
 #include "platform/Device.h"
+#include "platform/FileWatch.h"
 #include "platform/IdleInhibition.h"
 #include "platform/KeyValueStore.h"
 #include "platform/LifeCycle.h"
 #include "platform/MediaPlayer.h"
 #include "platform/MediaSession.h"
 #include "platform/NetworkWatch.h"
+#include "platform/ProgramRunner.h"
+#include "platform/SecretStore.h"
 #include "platform/UserDefaults.h"
 #include "platform/files/Folders.h"
 #include "platform/http/HTTPClient.h"
 #include "platform/http/ResponseCache.h"
 #include "platform/queues/DispatchQueue.h"
+#include "screens/kit/PictureKey.h"
 #include "sources/SourceHostTable.h"
 
 #include <QString>
@@ -56,6 +60,12 @@ struct ApplicationEnvironment {
     MediaSession* mediaSession = nullptr;
     IdleInhibition* idleInhibition = nullptr;
     Promotion& promotion;
+    /// Null on a device that runs no programs for the guide, or keeps no secrets: then the user adds no
+    /// sources.
+    ProgramRunner* programs = nullptr;
+    SecretStore* secrets = nullptr;
+    /// Null when files of the user are only looked at when they are due.
+    FileWatch* fileWatch = nullptr;
 
     SourceHostTable hosts;
     RandomIndex random;
@@ -63,6 +73,8 @@ struct ApplicationEnvironment {
     QString cataloguePath;
     QString catalogueArchivePath;
     QString iconFolder;
+    /// The guide has nothing to show without a channel of the catalogue.
+    bool needsCatalogue = false;
     /// The selection for a profile that has none yet.
     std::optional<std::vector<ObjectId>> firstSelection = {};
     /// The application's URL scheme; empty when it has none.
@@ -81,6 +93,8 @@ struct ApplicationEnvironment {
     bool drawsWebPages = false;
     /// Brings the window to the front. May be empty.
     std::function<void()> raiseWindow = {};
+    /// A picture that the window may have drawn is another one now. May be empty.
+    std::function<void(const PictureKey& key)> pictureReplaced = {};
 };
 
 } // namespace guide

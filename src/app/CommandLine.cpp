@@ -13,13 +13,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The options whose value is not a path.
-constexpr std::array kValueOptions{"--now"_L1, "--form"_L1, "--appearance"_L1, "--text-scale"_L1};
+constexpr std::array kValueOptions{"--now"_L1, "--form"_L1, "--appearance"_L1, "--text-scale"_L1, "--add"_L1};
 
 QString usage() {
     return u"usage: quellin-guide [OPTION...] [URL]\n"
            "\n"
            "What is on television now, and what comes next.\n"
            "\n"
+           "  --add ADDRESS|FILE    offer the channels of a feed, playlist or grabber for adding\n"
            "  --profile FOLDER      keep all folders, settings and the key-value store under FOLDER\n"
            "  --demo                use made-up channels, served by the program itself\n"
            "  --catalogue FILE      the channel catalogue, a property list\n"
@@ -42,7 +43,9 @@ CommandLineText refusal(const QString& why) {
 
 /// Sets an option whose value is not a path; returns why it cannot, or an empty text.
 QString setValue(LaunchOptions& options, const QString& name, const QString& value) {
-    if (name == "--now"_L1) {
+    if (name == "--add"_L1) {
+        options.add = QFileInfo::exists(value) ? QFileInfo(value).absoluteFilePath() : value;
+    } else if (name == "--now"_L1) {
         const QDateTime moment = QDateTime::fromString(value, Qt::ISODateWithMs);
         if (!moment.isValid()) {
             return u"\"%1\" is not a time like 2025-12-31T19:30:00Z"_s.arg(value);

@@ -29,6 +29,8 @@ struct LaunchOptions {
     std::optional<QString> screenshots;
     /// A URL of the application's scheme, to be opened after the launch.
     std::optional<QString> url;
+    /// An address, or the absolute path of a file, to be offered as a source after the launch.
+    std::optional<QString> add;
 
     /// Whether the options only try something out and must not touch the user's profile.
     bool usesSeparateProfile() const { return demo || catalogue || hosts || select || now; }

@@ -1,5 +1,7 @@
 #include "app/InstanceRequest.h"
 
+#include <QByteArrayList>
+
 #include <algorithm>
 
 namespace guide {
@@ -17,13 +19,15 @@ QByteArray printable(const QByteArray& text) {
 } // namespace
 
 QByteArray lineOf(const InstanceRequest& request) {
-    return printable(request.url.toUtf8()) + kSeparator + printable(request.activationToken);
+    return printable(request.url.toUtf8()) + kSeparator + printable(request.activationToken) + kSeparator +
+           printable(request.source.toUtf8());
 }
 
 InstanceRequest requestIn(const QByteArray& line) {
-    const qsizetype separator = line.indexOf(kSeparator);
-    return {QString::fromUtf8(printable(line.first(separator < 0 ? line.size() : separator))),
-            separator < 0 ? QByteArray() : printable(line.sliced(separator + 1))};
+    QByteArrayList fields = line.split(kSeparator);
+    fields.resize(3);
+    return {QString::fromUtf8(printable(fields[0])), printable(fields[1]),
+            QString::fromUtf8(printable(fields[2]))};
 }
 
 } // namespace guide

@@ -11,6 +11,8 @@ struct InstanceRequest {
     QString url;
     /// Lets the window come to the front; may be empty.
     QByteArray activationToken;
+    /// An address or file to be added as a source; may be empty.
+    QString source = {};
 
     friend bool operator==(const InstanceRequest&, const InstanceRequest&) = default;
 };

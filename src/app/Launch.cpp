@@ -7,9 +7,11 @@
 #include "parsers/details/PageSource.h"
 #include "screens/Localized.h"
 #include "screens/SwipeActions.h"
+#include "screens/channels/SelectionEditor.h"
 #include "screens/shell/GuideTabs.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace guide {
 
@@ -32,7 +34,7 @@ bool QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBar
     m_icons = std::make_unique<TVStationIcons>(m_environment.iconFolder, m_environment.device.screenScale(),
                                                m_environment.folders.caches + u'/' + kOwnIconFolder);
     makeCatalogue();
-    if (m_catalogue.snapshot()->empty()) {
+    if (m_environment.needsCatalogue && m_suppliedChannels.empty()) {
         return false;
     }
     makeSelection();
@@ -42,6 +44,7 @@ bool QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBar
     // Starts reading the listing files.
     makeListings();
     makeUpdateCycle();
+    makeOwnSources();
     makeRetries();
     makePictures();
     makeScreens();
@@ -90,7 +93,11 @@ void QuellinGuideAppDelegate::makeCatalogue() {
         loadedCatalogue(m_environment.cataloguePath, m_environment.catalogueArchivePath, types,
                         [this](const QString& name) { return !m_icons->iconNamed(name).isNull(); });
     m_catalogueProblem = loaded.problem;
-    m_catalogue.replace(CatalogueSnapshot(loaded.channels));
+    m_suppliedChannels = loaded.channels;
+    m_ownSources = std::make_unique<OwnSources>(m_environment.folders, m_environment.keyValueStore,
+                                                m_environment.queues);
+    m_ownSources->setObserver([this] { joinCatalogue(); });
+    joinCatalogue();
 }
 
 void QuellinGuideAppDelegate::makeSelection() {
@@ -179,31 +186,32 @@ void QuellinGuideAppDelegate::makeUpdateCycle() {
         .sourceHealth = *m_sourceHealth,
         .listDriver = *m_listDriver,
         .showCount = [this] { return m_showCount.load(); },
-        .offerTop =
-            [this](const TopLists& top) {
-                if (m_screens) {
-                    m_screens->offerTopShows(TopShows(top.begin(), top.end()));
-                }
-                if (m_playback) {
-                    m_playback->reloadShows();
-                }
-            },
-        .loadsEnded =
-            [this](const LoadResults& results) {
-                if (m_retries) {
-                    m_retries->loadsEnded(results);
-                }
-                if (m_screens) {
-                    m_screens->loadsEnded(results.failureChanged);
-                }
-            },
+        .offerTop = [this](const TopLists& top) { offerTop(top); },
+        .loadsEnded = [this](const LoadResults& results) { loadsEnded(results); },
     });
 }
 
+void QuellinGuideAppDelegate::offerTop(const TopLists& top) {
+    if (m_screens) {
+        m_screens->offerTopShows(TopShows(top.begin(), top.end()));
+    }
+    if (m_playback) {
+        m_playback->reloadShows();
+    }
+}
+
+void QuellinGuideAppDelegate::loadsEnded(const LoadResults& results) {
+    if (m_retries) {
+        m_retries->loadsEnded(results);
+    }
+    if (m_screens) {
+        m_screens->loadsEnded(results.failureChanged);
+    }
+}
+
 void QuellinGuideAppDelegate::makeRetries() {
-    m_retries =
-        std::make_unique<LoadRetries>(m_environment.clock, m_environment.queues.mainQueue(), *m_channels,
-                                      [this] { m_updateCycle->checkAndUpdateAllChannels(); });
+    m_retries = std::make_unique<LoadRetries>(m_environment.clock, m_environment.queues.mainQueue(),
+                                              *m_channels, [this] { checkAndUpdateAllChannels(); });
     if (m_environment.networkWatch) {
         m_environment.networkWatch->watch([this] { m_retries->networkAppeared(); });
     }
@@ -237,7 +245,10 @@ void QuellinGuideAppDelegate::makePictures() {
         .fetcher = *m_pictureFetcher,
         .lookup = *m_showLookup,
         .listings = *m_listings,
-        .loadsSchedules = [this] { return m_updateCycle->isRunning(); },
+        .loadsSchedules =
+            [this] {
+                return m_updateCycle->isRunning() || (m_ownSourceUpdates && m_ownSourceUpdates->isRunning());
+            },
         .stopped = [this] { return m_isShuttingDown.load(); },
     });
 }
@@ -288,8 +299,11 @@ void QuellinGuideAppDelegate::makeScreens() {
                 const auto health = m_sourceHealth->healthFor(channel);
                 return health && health->used ? health->used->host : QString();
             },
+        .sourceActions = m_ownSourceService.get(),
+        .knownFeeds = &m_knownFeeds,
     });
     m_tabBarController = makeGuideTabs(m_screenEnvironment);
+    m_selectionEditor = std::make_shared<SelectionEditor>(m_screenEnvironment, *m_tabBarController);
     m_screens = std::make_unique<ScreenBroadcast>(*m_tabBarController, m_environment.applicationState);
     if (m_environment.mediaPlayers) {
         m_playback = std::make_unique<Playback>(Playback::Surroundings{
@@ -322,11 +336,11 @@ void QuellinGuideAppDelegate::setup() {
 
 void QuellinGuideAppDelegate::cleanUpSelection() {
     // A catalogue that could not be read proves nothing about the channels.
-    const SharedCatalogueSnapshot catalogue = m_catalogue.snapshot();
-    if (catalogue->empty()) {
-        return;
-    }
-    const SelectionCleanup plan = planSelectionCleanup(m_channels->selected(), *catalogue);
+    const CatalogueSnapshot supplied(m_suppliedChannels);
+    const SelectionCleanup plan = planSelectionCleanup(m_channels->selected(), [&](const ObjectId& channel) {
+        return channel.isOwn() ? !m_ownSources->isRemoved(channel)
+                               : supplied.empty() || supplied.contains(channel);
+    });
     if (plan.removed.empty()) {
         return;
     }

@@ -24,6 +24,11 @@ void QuellinGuideAppDelegate::applicationDidBecomeActive() {
     m_alarms.syncAlarms();
     checkAndUpdateAllChannels();
     m_retries->setActive(true);
+    if (m_ownSourceUpdates) {
+        m_ownSourceUpdates->setActive(true);
+        fetchOwnIcons();
+        watchOwnFiles();
+    }
 }
 
 void QuellinGuideAppDelegate::applicationSignificantTimeChange() {
@@ -37,6 +42,9 @@ void QuellinGuideAppDelegate::applicationDidEnterBackground() {
         }
     });
     m_retries->setActive(false);
+    if (m_ownSourceUpdates) {
+        m_ownSourceUpdates->setActive(false);
+    }
     m_alarms.commit();
     m_environment.userDefaults.synchronize();
     m_channels->retryWriting();

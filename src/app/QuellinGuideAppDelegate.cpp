@@ -22,6 +22,16 @@ QuellinGuideAppDelegate::~QuellinGuideAppDelegate() = default;
 
 void QuellinGuideAppDelegate::checkAndUpdateAllChannels() {
     m_updateCycle->checkAndUpdateAllChannels();
+    if (m_ownSourceUpdates) {
+        m_ownSourceUpdates->check();
+    }
+}
+
+void QuellinGuideAppDelegate::updateByHand(const std::vector<ObjectId>& channels) {
+    if (m_ownSourceUpdates) {
+        m_ownSourceUpdates->askNowFor(channels);
+    }
+    m_updateCycle->checkAndUpdateAllChannels();
 }
 
 void QuellinGuideAppDelegate::updateBadge() {
@@ -103,18 +113,26 @@ bool QuellinGuideAppDelegate::shutDown(std::chrono::milliseconds atMost) {
     }
     m_retries.reset();
     m_playback.reset();
+    m_selectionEditor.reset();
+    m_watchedFiles.clear();
     m_screens.reset();
     m_tabBarController.reset();
     m_isShuttingDown = true;
     m_environment.httpClient.cancelAll();
     m_pauses.interrupt();
-    const bool checkEnded = !m_updateCycle || m_updateCycle->finish(left());
+    m_channelIcons.reset();
+    const bool sourcesEnded = (!m_ownSourceService || m_ownSourceService->finish(left())) &
+                              (!m_ownSourceUpdates || m_ownSourceUpdates->finish(left()));
+    const bool checkEnded = (!m_updateCycle || m_updateCycle->finish(left())) && sourcesEnded;
     const bool written = !m_listings || m_listings->finishWriting(left());
     if (m_channels) {
         m_channels->finishWriting();
     }
     if (m_shows) {
         m_shows->finishWriting();
+    }
+    if (m_ownSources) {
+        m_ownSources->finishWriting();
     }
     return m_environment.userDefaults.synchronize() && checkEnded && written;
 }

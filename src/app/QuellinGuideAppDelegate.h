@@ -13,11 +13,13 @@
 #include "app/ShowPictureLoader.h"
 #include "app/UpdateCycle.h"
 #include "app/WebShowLookup.h"
+#include "app/own/OwnSourceService.h"
 #include "core/Catalogue.h"
 #include "core/RemoteHostAlert.h"
 #include "core/Settings.h"
 #include "core/TVChannels.h"
 #include "core/TVStationIcons.h"
+#include "core/own/KnownFeeds.h"
 #include "parsers/ListDriver.h"
 #include "parsers/URLPlanner.h"
 #include "screens/GuidePictures.h"
@@ -29,15 +31,20 @@
 #include "sources/PageFetcher.h"
 #include "sources/PictureFetcher.h"
 #include "sources/SourceHealthRecords.h"
+#include "sources/own/ChannelIconFetcher.h"
 #include "store/TVListings.h"
 #include "text/display/Alphabet.h"
 
 #include <atomic>
 #include <chrono>
+#include <map>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 namespace guide {
+
+class SelectionEditor;
 
 /// The root of ownership: creates the catalogue, the store, the update cycle and the screens, connects them
 /// and forwards the device's events. Main queue.
@@ -66,6 +73,8 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     /// Any thread.
     PictureProvider& pictures() { return *m_guidePictures; }
     TVListings& listings() { return *m_listings; }
+    /// Null on a device without sources of the user's own.
+    SourceActions* sourceActions() { return m_ownSourceService.get(); }
     TVChannels& channels() { return *m_channels; }
     /// The result of the last load of each selected channel.
     const SourceHealthRecords& sourceHealth() const { return *m_sourceHealth; }
@@ -79,7 +88,11 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     /// Opens the show with this address of the application's scheme; says so when there is none.
     void openURL(const QString& address);
 
+    /// Offers to add what an address, file or program gives.
+    void addSource(const QString& input);
+
     void checkAndUpdateAllChannels() override;
+    void updateByHand(const std::vector<ObjectId>& channels) override;
     /// Shows the number of pending alarms on the application's icon and on the schedule tab.
     void updateBadge();
 
@@ -115,10 +128,17 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     // The steps of the launch.
     void makeSources();
     void makeCatalogue();
+    /// The channels of the catalogue and those of the user's sources. Any thread.
+    void joinCatalogue();
     void makeSelection();
     void makeFavorites();
     void makeListings();
     void makeUpdateCycle();
+    void makeOwnSources();
+    /// Asks for the icons that the channels of the user's sources have now.
+    void fetchOwnIcons();
+    /// Watches the sources that are files or folders of this device. Main queue.
+    void watchOwnFiles();
     void makeRetries();
     void makePictures();
     void makeScreens();
@@ -127,10 +147,14 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void syncAlarms() { m_alarms.syncAlarms(); }
     /// The catalogue was replaced, or has cost the selection channels.
     void refreshChannels() {
+        fetchOwnIcons();
+        watchOwnFiles();
         m_screens->selectionCleanedUp();
         m_screens->reloadData();
     }
 
+    void offerTop(const TopLists& top);
+    void loadsEnded(const LoadResults& results);
     void detectAlphabet();
     void readSettings();
     void onMainQueue(void (QuellinGuideAppDelegate::*step)());
@@ -171,6 +195,9 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     std::unique_ptr<TVStationIcons> m_icons;
     Catalogue m_catalogue;
     QString m_catalogueProblem;
+    std::vector<CatalogueChannel> m_suppliedChannels;
+    std::mutex m_catalogueGuard;
+    std::unique_ptr<OwnSources> m_ownSources;
     std::unique_ptr<TVChannels> m_channels;
     std::unique_ptr<TVShows> m_shows;
     std::unique_ptr<FavoriteOperations> m_favoriteOperations;
@@ -178,6 +205,15 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     std::unique_ptr<ListDriver> m_listDriver;
     std::unique_ptr<SourceHealthRecords> m_sourceHealth;
     std::unique_ptr<UpdateCycle> m_updateCycle;
+    /// Null on a device without sources of the user's own.
+    std::unique_ptr<SourceRecords> m_sourceRecords;
+    std::unique_ptr<SourceFetcher> m_sourceFetcher;
+    std::unique_ptr<OwnSourceUpdates> m_ownSourceUpdates;
+    std::unique_ptr<OwnSourceService> m_ownSourceService;
+    KnownFeeds m_knownFeeds;
+    std::unique_ptr<ChannelIconFetcher> m_channelIcons;
+    /// By path.
+    std::map<QString, FileWatch::Token> m_watchedFiles;
     std::unique_ptr<LoadRetries> m_retries;
     std::unique_ptr<PictureFetcher> m_pictureFetcher;
     std::unique_ptr<WebShowLookup> m_showLookup;
@@ -187,6 +223,8 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     std::shared_ptr<const ScreenEnvironment> m_screenEnvironment;
     std::unique_ptr<TabBarController> m_tabBarController;
     std::unique_ptr<ScreenBroadcast> m_screens;
+    /// Selects the channels of sources that the user adds.
+    std::shared_ptr<SelectionEditor> m_selectionEditor;
     /// Null on a device that plays no streams.
     std::unique_ptr<Playback> m_playback;
     std::unique_ptr<CatalogueUpdater> m_catalogueUpdater;

@@ -3,10 +3,10 @@
 namespace guide {
 
 SelectionCleanup planSelectionCleanup(const std::vector<ObjectId>& selected,
-                                      const CatalogueSnapshot& catalogue) {
+                                      const std::function<bool(const ObjectId&)>& isKnown) {
     SelectionCleanup plan;
     for (const ObjectId& channel : selected) {
-        (catalogue.contains(channel) ? plan.kept : plan.removed).push_back(channel);
+        (isKnown(channel) ? plan.kept : plan.removed).push_back(channel);
     }
     return plan;
 }

@@ -1,19 +1,20 @@
 #pragma once
 
-#include "core/Catalogue.h"
+#include "core/ObjectId.h"
 
+#include <functional>
 #include <vector>
 
 namespace guide {
 
 /// How a new catalogue changes the selection.
 struct SelectionCleanup {
-    /// The channels that the catalogue still lists, in the order of the selection.
+    /// The channels that are still known, in the order of the selection.
     std::vector<ObjectId> kept;
     std::vector<ObjectId> removed;
 };
 
 SelectionCleanup planSelectionCleanup(const std::vector<ObjectId>& selected,
-                                      const CatalogueSnapshot& catalogue);
+                                      const std::function<bool(const ObjectId&)>& isKnown);
 
 } // namespace guide

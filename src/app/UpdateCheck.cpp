@@ -1,10 +1,11 @@
 #include "app/UpdateCheck.h"
 
+#include "app/LoadingMark.h"
 #include "sources/SourceDay.h"
 
 #include <algorithm>
 #include <iterator>
-#include <mutex>
+#include <ranges>
 #include <utility>
 
 namespace guide {
@@ -13,63 +14,6 @@ UpdateWork::UpdateWork(UpdateCycleEnvironment ownEnvironment)
     : environment(std::move(ownEnvironment))
     , fetchQueue(
           environment.queues.makeQueue("vorel.tv.fetch", QueueKind::Concurrent, QueuePriority::Background)) {}
-
-/// The background task of one check.
-class UpdateCheck::BackgroundTask : public std::enable_shared_from_this<BackgroundTask> {
-  public:
-    BackgroundTask(DispatchQueues& queues, BackgroundTasks& tasks)
-        : m_queues(queues)
-        , m_tasks(tasks) {}
-
-    void begin() {
-        // Held until the id is stored, because the device may expire the task at once.
-        const std::lock_guard guard(m_mutex);
-        m_task = m_tasks.beginBackgroundTask([self = shared_from_this()] { self->endOnMainQueue(); });
-    }
-
-    void endOnMainQueue() {
-        m_queues.mainQueue().async([self = shared_from_this()] {
-            BackgroundTaskId task = kBackgroundTaskInvalid;
-            {
-                const std::lock_guard guard(self->m_mutex);
-                task = std::exchange(self->m_task, kBackgroundTaskInvalid);
-            }
-            if (task != kBackgroundTaskInvalid) {
-                self->m_tasks.endBackgroundTask(task);
-            }
-        });
-    }
-
-  private:
-    DispatchQueues& m_queues;
-    BackgroundTasks& m_tasks;
-    std::mutex m_mutex;
-    BackgroundTaskId m_task = kBackgroundTaskInvalid;
-};
-
-/// Marks the channels of a load as loading while its pages are read.
-class UpdateCheck::LoadingMark {
-  public:
-    LoadingMark(const TVChannels& channels, const std::vector<LoadItem>& items) {
-        m_marked.reserve(items.size());
-        for (const LoadItem& item : items) {
-            if (auto channel = channels.channelWithChannelId(item.channel)) {
-                channel->setLoading(true);
-                m_marked.push_back(std::move(channel));
-            }
-        }
-    }
-    LoadingMark(const LoadingMark&) = delete;
-    LoadingMark& operator=(const LoadingMark&) = delete;
-    ~LoadingMark() {
-        for (const auto& channel : m_marked) {
-            channel->setLoading(false);
-        }
-    }
-
-  private:
-    std::vector<std::shared_ptr<TVChannel>> m_marked;
-};
 
 UpdateCheck::UpdateCheck(std::shared_ptr<UpdateWork> work, Block ended)
     : m_work(std::move(work))
@@ -114,7 +58,7 @@ bool UpdateCheck::reloadNeeded(const TVChannel& channel) const {
 
 bool UpdateCheck::isDue(const ObjectId& id) const {
     const std::shared_ptr<TVChannel> channel = m_environment.channels.channelWithChannelId(id);
-    return channel && reloadNeeded(*channel);
+    return channel && !id.isOwn() && reloadNeeded(*channel);
 }
 
 Moment UpdateCheck::dayBegan() const {
@@ -124,7 +68,8 @@ Moment UpdateCheck::dayBegan() const {
 /// Whether URLs must be planned for a selected channel.
 bool UpdateCheck::isWanted(const ObjectId& id, const ShowCounts& counts) const {
     const std::shared_ptr<TVChannel> channel = m_environment.channels.channelWithChannelId(id);
-    if (!channel) {
+    // OwnSourceUpdates loads the channels of the user's sources.
+    if (!channel || id.isOwn()) {
         return false;
     }
     ChannelCondition condition;
@@ -332,7 +277,7 @@ ReadOutcome UpdateCheck::parse(std::vector<LoadItem>& items, ListingsType type, 
     }
     MergeResult result;
     {
-        const LoadingMark mark(m_environment.channels, items);
+        const LoadingMark mark(m_environment.channels, items | std::views::transform(&LoadItem::channel));
         result = m_environment.listDriver.netList(items, fetched.pages, m_environment.clock.now(), type,
                                                   fetched.incomplete);
     }

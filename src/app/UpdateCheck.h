@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/BackgroundTask.h"
 #include "app/ChannelLoad.h"
 #include "app/StepSchedule.h"
 #include "app/UpdateCycle.h"
@@ -38,8 +39,6 @@ class UpdateCheck : public std::enable_shared_from_this<UpdateCheck> {
     void join(const ShowCounts& counts);
 
   private:
-    class BackgroundTask;
-    class LoadingMark;
     using PlannedChannels = std::vector<std::pair<ObjectId, std::vector<PlannedSource>>>;
 
     /// The pages of one step up to the first that could not be fetched.

@@ -21,12 +21,15 @@
 #include "platform/linux/LinuxClipboard.h"
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxDevice.h"
+#include "platform/linux/LinuxFileWatch.h"
 #include "platform/linux/LinuxFolders.h"
 #include "platform/linux/LinuxNetworkWatch.h"
 #include "platform/linux/MprisSession.h"
 #include "platform/linux/QtMediaPlayer.h"
+#include "platform/linux/SecretServiceStore.h"
 #include "platform/linux/SessionIdleInhibition.h"
 #include "platform/linux/SettingsUserDefaults.h"
+#include "platform/linux/SpawnedProgramRunner.h"
 #include "platform/linux/TerminationSignals.h"
 #include "ui/GuideWindow.h"
 
@@ -96,7 +99,8 @@ int run(LaunchOptions options, bool drawsWebPages) {
         // A guide that already runs can show its window for this one, but not save its pictures.
         std::optional<QByteArray> request;
         if (!options.screenshots) {
-            request = lineOf({options.url.value_or(QString()), activationToken()});
+            request =
+                lineOf({options.url.value_or(QString()), activationToken(), options.add.value_or(QString())});
         }
         instance.emplace(folders->documents, folders->runtime, request);
         if (instance->outcome() == InstanceLock::Outcome::HandedOver) {
@@ -144,6 +148,9 @@ int run(LaunchOptions options, bool drawsWebPages) {
     ResponseCache responseCache(clock, cacheCapacity, [&] { return settings.automaticUpdateInterval(); });
     CurlHTTPClient httpClient(responseCache);
     LinuxNetworkWatch networkWatch;
+    LinuxFileWatch fileWatch;
+    SpawnedProgramRunner programs;
+    const auto secrets = makeSecretStore(folders->configuration);
     LinuxAudioSession audioSession;
     LinuxClipboard clipboard;
     QtMediaPlayers mediaPlayers(queues.mainQueue());
@@ -172,11 +179,15 @@ int run(LaunchOptions options, bool drawsWebPages) {
         .mediaSession = mediaSession.get(),
         .idleInhibition = idleInhibition.get(),
         .promotion = promotion,
+        .programs = &programs,
+        .secrets = secrets.get(),
+        .fileWatch = &fileWatch,
         .hosts = files->hosts,
         .random = [](unsigned bound) { return QRandomGenerator::system()->bounded(bound); },
         .cataloguePath = files->catalogue,
         .catalogueArchivePath = files->catalogueArchive,
         .iconFolder = files->icons,
+        .needsCatalogue = options.catalogue.has_value(),
         .firstSelection = files->firstSelection,
         .scheme = kScheme,
         .networkActivityIndicator = {},
@@ -189,40 +200,46 @@ int run(LaunchOptions options, bool drawsWebPages) {
                     shown->show();
                 }
             },
+        .pictureReplaced =
+            [&shown](const PictureKey& key) {
+                if (shown) {
+                    shown->replacePicture(key);
+                }
+            },
     });
 
     installTranslations(device.locale());
     std::unique_ptr<GuideWindow> window;
     const bool launched = delegate.didFinishLaunching([&](TabBarController& tabs) {
-        window = std::make_unique<GuideWindow>(tabs, GuideWindowOptions{
-                                                         .form = device.userInterfaceIdiom(),
-                                                         .scheme = options.appearance,
-                                                         .textScale = options.textScale,
-                                                         .size = {},
-                                                         .motion = !options.screenshots,
-                                                         .locale = device.locale(),
-                                                         .pictures = &delegate.pictures(),
-                                                         .visibilityChanged =
-                                                             [&](bool visible) {
-                                                                 if (!state.setVisible(visible)) {
-                                                                     return;
-                                                                 }
-                                                                 if (visible) {
-                                                                     delegate.applicationDidBecomeActive();
-                                                                 } else {
-                                                                     delegate.applicationDidEnterBackground();
-                                                                 }
-                                                             },
-                                                         .closed = [] { QCoreApplication::quit(); },
-                                                     });
+        window = std::make_unique<GuideWindow>(
+            tabs, GuideWindowOptions{
+                      .form = device.userInterfaceIdiom(),
+                      .scheme = options.appearance,
+                      .textScale = options.textScale,
+                      .size = {},
+                      .motion = !options.screenshots,
+                      .locale = device.locale(),
+                      .pictures = &delegate.pictures(),
+                      .visibilityChanged =
+                          [&](bool visible) {
+                              if (!state.setVisible(visible)) {
+                                  return;
+                              }
+                              if (visible) {
+                                  delegate.applicationDidBecomeActive();
+                              } else {
+                                  delegate.applicationDidEnterBackground();
+                              }
+                          },
+                      .dropped = [&](const QString& input) { delegate.addSource(input); },
+                      .closed = [] { QCoreApplication::quit(); },
+                  });
     });
     if (!launched) {
-        return refuse(options.catalogue
-                          ? delegate.catalogueProblem()
-                          : delegate.catalogueProblem() +
-                                u"; name a catalogue with --catalogue FILE (see README.md), or try --demo"_s);
+        return refuse(delegate.catalogueProblem());
     }
-    if (!delegate.catalogueProblem().isEmpty()) {
+    // Without a catalogue there are the user's own sources.
+    if (options.catalogue && !delegate.catalogueProblem().isEmpty()) {
         say(delegate.catalogueProblem());
     }
     if (options.select && !options.demo && delegate.firstSelectionIgnored()) {
@@ -242,28 +259,32 @@ int run(LaunchOptions options, bool drawsWebPages) {
     }
     shown = window.get();
     window->show();
-    const auto open = [&](const QString& address, const QByteArray& token) {
-        window->show(token);
-        if (!address.isEmpty()) {
-            delegate.openURL(address);
+    const auto open = [&](const InstanceRequest& request) {
+        window->show(request.activationToken);
+        if (!request.url.isEmpty()) {
+            delegate.openURL(request.url);
+        }
+        if (!request.source.isEmpty()) {
+            delegate.addSource(request.source);
         }
     };
     if (options.url) {
         delegate.openURL(*options.url);
     }
+    if (options.add) {
+        delegate.addSource(*options.add);
+    }
     if (instance) {
         instance->listen(std::shared_ptr<DispatchQueue>(std::shared_ptr<void>(), &queues.mainQueue()),
-                         [&](const QByteArray& line) {
-                             const InstanceRequest request = requestIn(line);
-                             open(request.url, request.activationToken);
-                         });
+                         [&](const QByteArray& line) { open(requestIn(line)); });
     }
     // Of several guides the desktop knows the first one, and none that only tries something out.
     std::unique_ptr<ApplicationService> service;
     if (!trial) {
-        service = ApplicationService::ofSession(
-            queues.mainQueue(),
-            [&](const QStringList& addresses, const QByteArray& token) { open(addresses.value(0), token); });
+        service = ApplicationService::ofSession(queues.mainQueue(),
+                                                [&](const QStringList& addresses, const QByteArray& token) {
+                                                    open({addresses.value(0), token});
+                                                });
     }
 
     DeviceWatch deviceWatch(clock, device, state, delegate);

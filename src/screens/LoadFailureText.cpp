@@ -22,6 +22,8 @@ QString loadFailureText(const LoadFailure& failure) {
     case LoadFailureReason::OnlyPastShows:
         return hostKnown ? Localized::tr("Only past shows from %1").arg(failure.host)
                          : Localized::tr("Only past shows");
+    case LoadFailureReason::OwnSource:
+        return Localized::tr("The source %1 could not be read").arg(failure.host);
     }
     return {};
 }

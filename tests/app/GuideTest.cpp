@@ -62,7 +62,7 @@ TEST(Guide, ChosenChannelsAreLoadedAtOnceAndRemovedOnesAreNot) {
     EXPECT_EQ(enabled(), 1);
     EXPECT_TRUE(world.server->requests().empty());
 
-    top()->pressEmptyNoteButton();
+    top()->rightBarButtons().front().action();
     tap(0);
     tap(0);
     EXPECT_EQ(enabled(), static_cast<std::ptrdiff_t>(tabs.tabs().size()));

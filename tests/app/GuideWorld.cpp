@@ -136,6 +136,8 @@ void GuideWorld::start() {
         .audioSession = m_audio,
         .clipboard = m_clipboard,
         .promotion = m_promotion,
+        .programs = &m_programs,
+        .secrets = &secrets,
         .hosts = hosts,
         .random = [](unsigned) { return 0U; },
         .cataloguePath = root + u"/Data.plist"_s,

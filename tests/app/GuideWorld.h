@@ -8,8 +8,10 @@
 #include "fakes/ScriptedServer.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/LinuxAudioSession.h"
+#include "platform/linux/SpawnedProgramRunner.h"
 #include "platform/memory/MemoryClipboard.h"
 #include "platform/memory/MemoryKeyValueStore.h"
+#include "platform/memory/MemorySecretStore.h"
 #include "platform/memory/MemoryUserDefaults.h"
 #include "platform/queues/ThreadedQueues.h"
 
@@ -103,6 +105,7 @@ class GuideWorld {
     MemoryKeyValueStore keyValueStore;
     FakeApplicationState state;
     FakeNetworkWatch networkWatch;
+    MemorySecretStore secrets;
     std::unique_ptr<ScriptedServer> server = std::make_unique<ScriptedServer>();
     std::unique_ptr<QuellinGuideAppDelegate> guide;
     Folders folders;
@@ -126,6 +129,7 @@ class GuideWorld {
     LinuxAudioSession m_audio;
     MemoryClipboard m_clipboard;
     Promotion m_promotion;
+    SpawnedProgramRunner m_programs{std::chrono::milliseconds(200)};
     std::unique_ptr<ThreadedQueues> m_queues;
     std::unique_ptr<ResponseCache> m_cache;
     std::unique_ptr<CurlHTTPClient> m_curl;

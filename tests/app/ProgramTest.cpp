@@ -70,9 +70,6 @@ TEST(Program, EndsWithOneLineWhenItCannotStart) {
          {u"--catalogue"_s, german},
          u"1 of 1 channels left out: 1 language"_s},
         {"selection missing", {u"--select"_s, path(u"absent.json"_s)}, path(u"absent.json"_s)},
-        {"no catalogue at all",
-         {u"--profile"_s, path(u"fresh"_s)},
-         u"name a catalogue with --catalogue FILE"_s},
     };
     for (const auto& each : cases) {
         const Answer answer = guideWith(each.words, folder.path());

@@ -58,6 +58,7 @@ struct WorldApp final : ScreenSettings,
                         AlarmActions,
                         FavoriteActions {
     void checkAndUpdateAllChannels() override { done << u"check"_s; }
+    void updateByHand(const std::vector<ObjectId>& /*channels*/) override { done << u"check"_s; }
     void setSynchronized(bool synchronized) override { m_synchronized = synchronized; }
     void syncAlarms() override { done << (m_synchronized ? u"sync"_s : u"alarms"_s); }
     bool isRunning() const override { return synchronising; }

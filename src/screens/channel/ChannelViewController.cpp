@@ -81,7 +81,8 @@ void ChannelViewController::loadsEnded(const std::unordered_set<ObjectId>& chann
     if (!channels.contains(m_channel)) {
         return;
     }
-    if (!failure().isEmpty()) {
+    const auto record = m_environment->channels.channelWithChannelId(m_channel);
+    if (!failure().isEmpty() || (record && !record->loading() && !dueForReload(*record))) {
         refreshDone();
     }
     if (viewLoaded()) {
@@ -188,7 +189,7 @@ void ChannelViewController::refresh() {
     refreshActive();
     if (const auto record = m_environment->channels.channelWithChannelId(m_channel)) {
         record->requireReload();
-        m_environment->updates.checkAndUpdateAllChannels();
+        m_environment->updates.updateByHand({m_channel});
     }
 }
 

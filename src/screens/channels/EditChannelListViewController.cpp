@@ -9,6 +9,7 @@
 #include "screens/sources/OwnSourcesViewController.h"
 #include "text/display/Transliteration.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace guide {
@@ -20,6 +21,12 @@ namespace {
 const SectionId& section() {
     static const SectionId id = u"selected"_s;
     return id;
+}
+
+/// Whether there is more to choose from than the channels of the user's sources, which are all chosen.
+bool isSupplied(const CatalogueSnapshot& catalogue) {
+    return std::ranges::any_of(catalogue.channels(),
+                               [](const CatalogueChannel& channel) { return !channel.id.isOwn(); });
 }
 
 } // namespace
@@ -134,9 +141,9 @@ void EditChannelListViewController::setButtons() {
     }
     setLeftBarButtons(std::move(left));
     std::vector<BarButton> right{{BarButton::Kind::Title, Localized::tr("Add channels"), [this] {
-                                      m_environment->catalogue.snapshot()->empty()
-                                          ? addChannels()
-                                          : showChannelListWithChannelData();
+                                      isSupplied(*m_environment->catalogue.snapshot())
+                                          ? showChannelListWithChannelData()
+                                          : addChannels();
                                   }}};
     if (m_environment->sourceActions) {
         right.push_back({BarButton::Kind::List, Localized::tr("My sources"), [this] { showOwnSources(); }});

@@ -41,6 +41,24 @@ void SelectionEditor::add(const std::vector<ObjectId>& channels) {
 }
 
 void SelectionEditor::remove(const std::vector<ObjectId>& channels) {
+    std::optional<Removed> removed = takeOut(channels);
+    if (!removed) {
+        return;
+    }
+    std::shared_ptr<Removals> removals = m_removals.lock();
+    if (!removals) {
+        m_removals = removals = std::make_shared<Removals>();
+    }
+    removals->push_back(*std::move(removed));
+    presentUndo(removals);
+}
+
+void SelectionEditor::removeForGood(const std::vector<ObjectId>& channels) {
+    takeRemoved({channels.begin(), channels.end()});
+    takeOut(channels);
+}
+
+std::optional<SelectionEditor::Removed> SelectionEditor::takeOut(const std::vector<ObjectId>& channels) {
     const std::unordered_set<ObjectId> leaving(channels.begin(), channels.end());
     const std::vector<ObjectId> before = selected();
     std::vector<ObjectId> kept;
@@ -56,20 +74,14 @@ void SelectionEditor::remove(const std::vector<ObjectId>& channels) {
         removed.channels.push_back({channel, place, m_environment->channels.channelWithChannelId(channel)});
     }
     if (ids.empty()) {
-        return;
+        return std::nullopt;
     }
     // Before the lists are removed: a load that ends now must not store another one.
     change(std::move(kept));
     removed.lists = m_environment->listings.removeListingsForChannels(std::move(ids));
     m_environment->alarmSynchronisation.setSynchronized(false);
     refreshOtherViewControllers();
-
-    std::shared_ptr<Removals> removals = m_removals.lock();
-    if (!removals) {
-        m_removals = removals = std::make_shared<Removals>();
-    }
-    removals->push_back(std::move(removed));
-    presentUndo(removals);
+    return removed;
 }
 
 void SelectionEditor::move(const ObjectId& channel, const std::optional<ObjectId>& before) {

@@ -27,6 +27,8 @@ class SelectionEditor : public std::enable_shared_from_this<SelectionEditor> {
     /// returns to its place. Starts a check.
     void add(const std::vector<ObjectId>& channels);
     void remove(const std::vector<ObjectId>& channels);
+    /// The same without an offer to undo it: the channels are about to be forgotten.
+    void removeForGood(const std::vector<ObjectId>& channels);
     /// Moves a selected channel before another one, or to the end.
     void move(const ObjectId& channel, const std::optional<ObjectId>& before);
 
@@ -49,6 +51,8 @@ class SelectionEditor : public std::enable_shared_from_this<SelectionEditor> {
     /// The removals that one notice undoes, in their order.
     using Removals = std::vector<Removed>;
 
+    /// Nothing when none of the channels is selected.
+    std::optional<Removed> takeOut(const std::vector<ObjectId>& channels);
     void change(std::vector<ObjectId> selected);
     void refreshOtherViewControllers();
     void presentUndo(const std::shared_ptr<const Removals>& removals);

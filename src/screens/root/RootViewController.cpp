@@ -100,7 +100,10 @@ void RootViewController::loadsEnded(const std::unordered_set<ObjectId>& channels
 
 void RootViewController::didPullToRefresh() {
     bool loading = false;
+    std::vector<ObjectId> shown;
+    shown.reserve(m_channels.size());
     for (const Channel& channel : m_channels) {
+        shown.push_back(channel.identificator);
         const auto record = m_environment->channels.channelWithChannelId(channel.identificator);
         if (record && record->loadFailure()) {
             m_tryingAgain.insert(channel.identificator);
@@ -111,7 +114,7 @@ void RootViewController::didPullToRefresh() {
                                                         m_environment->settings.automaticUpdateInterval())));
     }
     reloadTable();
-    m_environment->updates.checkAndUpdateAllChannels();
+    m_environment->updates.updateByHand(shown);
     if (!loading) {
         // Everything is up to date, and no end of a load will be announced.
         m_environment->mainQueue.asyncAfter(kShortestRefresh, [weak = weakFromThis<RootViewController>()] {
@@ -414,7 +417,7 @@ void RootViewController::tryAgain(const ObjectId& channel) {
     table().deselectRow();
     m_tryingAgain.insert(channel);
     reloadRows(channel);
-    m_environment->updates.checkAndUpdateAllChannels();
+    m_environment->updates.updateByHand({channel});
 }
 
 void RootViewController::list() {

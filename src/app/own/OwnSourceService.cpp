@@ -1,0 +1,535 @@
+#include "app/own/OwnSourceService.h"
+
+#include "app/own/SourceSchedule.h"
+#include "core/own/SourceAddress.h"
+#include "parsers/playlists/ChannelMatching.h"
+#include "parsers/playlists/PlaylistKeys.h"
+#include "sources/own/Grabber.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+#include <utility>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+/// What was fetched for a proposal. Its folder is deleted with it.
+struct OwnSourceService::Content {
+    QString folder;
+    QString file;
+    SourceAddress address;
+    QByteArray etag;
+    QByteArray lastModified;
+    QString charset;
+
+    Content() = default;
+    Content(const Content&) = delete;
+    Content& operator=(const Content&) = delete;
+    ~Content() {
+        if (!folder.isEmpty()) {
+            QDir(folder).removeRecursively();
+            // Fails while another proposal is there.
+            QDir().rmdir(QFileInfo(folder).path());
+        }
+    }
+};
+
+/// What a block in the background works with.
+struct OwnSourceService::Work {
+    std::function<bool()> stopped;
+    /// Tells the screens how far it is.
+    std::function<void(int channels, std::int64_t bytes)> progress;
+};
+
+namespace {
+
+/// A program rather than a document: it can be executed, and does not begin like a schedule or list.
+bool isProgramFile(const QString& path) {
+    const QFileInfo info(path);
+    if (!info.isFile() || !info.isExecutable()) {
+        return false;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    const QByteArray start = file.read(4);
+    return start.startsWith("#!") || start == "\x7f"
+                                              "ELF";
+}
+
+OwnSourceKind kindOf(const QString& address, SourceKind content) {
+    if (!isWebAddress(address) && isProgramFile(address)) {
+        return OwnSourceKind::Grabber;
+    }
+    return content == SourceKind::Playlist ? OwnSourceKind::Playlist : OwnSourceKind::Feed;
+}
+
+/// The language that most channels have.
+QString commonLanguage(const SourcePreview& preview) {
+    QString common;
+    int most = 0;
+    for (auto each = preview.languages.cbegin(); each != preview.languages.cend(); ++each) {
+        if (!each.key().isEmpty() && each.value() > most) {
+            most = each.value();
+            common = each.key();
+        }
+    }
+    return common;
+}
+
+OwnChannel channelOf(const OwnSourceId& source, const PreviewChannel& channel) {
+    return {.key = channel.id,
+            .title = channel.title(),
+            .language = channel.language,
+            .icon = channel.icon,
+            .guide = GuideChannel{source, channel.id}};
+}
+
+OwnChannel channelOf(const MatchedEntry& entry) {
+    return {.key = entry.key,
+            .title = entry.entry.name.isEmpty() ? entry.entry.guideName : entry.entry.name,
+            .language = entry.entry.language.size() == 2 ? entry.entry.language : QString(),
+            .shift = std::chrono::minutes(qRound(entry.entry.shift * 60)),
+            .icon = entry.entry.logo,
+            .stream = entry.entry.stream,
+            .guide = entry.guide};
+}
+
+/// The chosen channels, in the order of the source. Those that it had keep their settings.
+std::vector<OwnChannel> chosenChannels(const OwnSource& source, const SourceProposal& proposal,
+                                       const QStringList& chosen, const std::vector<MatchedEntry>& matches) {
+    const QSet<QString> wanted(chosen.begin(), chosen.end());
+    QHash<QString, OwnChannel> earlier;
+    for (const OwnChannel& channel : source.channels) {
+        earlier.insert(channel.key, channel);
+    }
+    std::vector<OwnChannel> channels;
+    const auto take = [&](const QString& key, const auto& from) {
+        if (!wanted.contains(key)) {
+            return;
+        }
+        const auto known = earlier.find(key);
+        if (known == earlier.end()) {
+            channels.push_back(from());
+        } else {
+            channels.push_back(*known);
+            earlier.erase(known);
+        }
+    };
+    if (source.kind == OwnSourceKind::Playlist) {
+        for (const MatchedEntry& entry : matches) {
+            take(entry.key, [&entry] { return channelOf(entry); });
+        }
+    } else {
+        for (const PreviewChannel& channel : proposal.preview.channels) {
+            take(channel.id, [&] { return channelOf(source.id, channel); });
+        }
+    }
+    // A channel that the source does not name today is not given up.
+    std::ranges::copy_if(source.channels, std::back_inserter(channels), [&](const OwnChannel& channel) {
+        return wanted.contains(channel.key) && earlier.contains(channel.key);
+    });
+    return channels;
+}
+
+std::vector<ObjectId> idsOf(const OwnSource& source) {
+    std::vector<ObjectId> ids;
+    ids.reserve(source.channels.size());
+    for (const OwnChannel& channel : source.channels) {
+        ids.push_back(ownChannelId(source.id, channel.key));
+    }
+    return ids;
+}
+
+/// Those of the first that are not among the others.
+std::vector<ObjectId> without(const std::vector<ObjectId>& ids, const std::vector<ObjectId>& others) {
+    const std::unordered_set<ObjectId> known(others.begin(), others.end());
+    std::vector<ObjectId> rest;
+    std::ranges::copy_if(ids, std::back_inserter(rest),
+                         [&known](const ObjectId& id) { return !known.contains(id); });
+    return rest;
+}
+
+/// The channels whose lists have to be read again when the record changes.
+std::vector<ObjectId> toReadAgain(const OwnSource& before, const OwnSource& after) {
+    QHash<QString, const OwnChannel*> earlier;
+    for (const OwnChannel& channel : before.channels) {
+        earlier.insert(channel.key, &channel);
+    }
+    std::vector<ObjectId> changed;
+    for (const OwnChannel& channel : after.channels) {
+        const OwnChannel* old = earlier.value(channel.key);
+        if (old && (before.shift != after.shift || before.language != after.language ||
+                    old->shift != channel.shift || old->language != channel.language ||
+                    old->guide != channel.guide)) {
+            changed.push_back(ownChannelId(after.id, channel.key));
+        }
+    }
+    return changed;
+}
+
+} // namespace
+
+OwnSourceService::OwnSourceService(OwnSourceServiceEnvironment environment)
+    : m_environment(std::move(environment))
+    , m_queue(m_environment.queues.makeQueue("vorel.tv.ownSources.screens", QueueKind::Concurrent,
+                                             QueuePriority::UserInitiated)) {
+    // What an earlier run did not get to add.
+    QDir(m_environment.caches + "/sources/proposals"_L1).removeRecursively();
+}
+
+OwnSourceService::~OwnSourceService() {
+    *m_alive = false;
+}
+
+template <class Result>
+SourceActions::Token OwnSourceService::inBackground(std::function<Result(const Work&)> make,
+                                                    std::function<void(Result)> answer) {
+    const auto token = std::make_shared<char>();
+    const auto isDropped = [weak = std::weak_ptr<void>(token)] { return weak.expired(); };
+    m_blocks.async(*m_queue, [this, make = std::move(make), answer = std::move(answer), isDropped,
+                              alive = m_alive]() mutable {
+        if (isDropped() || m_environment.stopped()) {
+            return;
+        }
+        auto result = std::make_shared<Result>(
+            make({.stopped = [this, isDropped] { return isDropped() || m_environment.stopped(); },
+                  .progress = {}}));
+        m_environment.queues.mainQueue().async(
+            [answer = std::move(answer), result = std::move(result), isDropped, alive] {
+                if (*alive && !isDropped()) {
+                    answer(std::move(*result));
+                }
+            });
+    });
+    return token;
+}
+
+bool OwnSourceService::isProgram(const QString& input) const {
+    const auto address = sourceAddress(input);
+    return address && !isWebAddress(address->open) && isProgramFile(address->open);
+}
+
+std::optional<QString> OwnSourceService::newHostOf(const QString& input) const {
+    const auto address = sourceAddress(input);
+    const QString host = address ? hostOfAddress(address->open) : QString();
+    const SharedOwnSources sources = m_environment.sources.snapshot();
+    const bool isKnown = host.isEmpty() || m_agreedHosts.contains(host) ||
+                         std::ranges::any_of(*sources, [&host](const OwnSource& source) {
+                             return hostOfAddress(source.address) == host;
+                         });
+    return isKnown ? std::nullopt : std::optional(host);
+}
+
+PreviewRequest OwnSourceService::previewRequest(const QString& charset, const QString& language,
+                                                const Work& work) const {
+    return {.now = m_environment.clock.now(),
+            .zone = m_environment.device.timeZone(),
+            .charset = charset,
+            .language = language,
+            .physicalMemory = m_environment.device.physicalMemory(),
+            .stopped = work.stopped,
+            .progress = work.progress};
+}
+
+SourceProposal OwnSourceService::proposal(const QString& input, const Work& work) const {
+    SourceProposal proposal{
+        .input = input, .kind = {}, .name = {}, .preview = {}, .detail = {}, .content = {}};
+    const auto address = sourceAddress(input);
+    if (!address) {
+        proposal.preview.result = SourceResult::NoFile;
+        return proposal;
+    }
+    const auto content = std::make_shared<Content>();
+    content->address = *address;
+    content->folder = m_environment.caches + "/sources/proposals/"_L1 + OwnSourceId::generate().hex();
+    const QString whole = address->secret.isEmpty() ? address->open : address->secret;
+    proposal.kind = kindOf(whole, SourceKind::Feed);
+    proposal.name = nameOfAddress(address->open);
+    if (!QDir().mkpath(content->folder)) {
+        proposal.preview.result = SourceResult::NoRoom;
+        return proposal;
+    }
+    const FetchedSource fetched =
+        m_environment.fetcher.fetch({.kind = proposal.kind,
+                                     .address = whole,
+                                     .incoming = content->folder + "/content"_L1,
+                                     .stopped = work.stopped,
+                                     .progress = [&work](std::int64_t bytes) { work.progress(0, bytes); }});
+    proposal.detail = fetched.detail;
+    if (fetched.result != SourceResult::Read && fetched.result != SourceResult::Incomplete) {
+        proposal.preview.result = fetched.result;
+        return proposal;
+    }
+    content->file = fetched.path;
+    content->etag = fetched.etag;
+    content->lastModified = fetched.lastModified;
+    content->charset = fetched.charset;
+    proposal.preview = sourcePreview(fetched.path, previewRequest(fetched.charset, {}, work));
+    proposal.kind = kindOf(whole, proposal.preview.kind);
+    if (!proposal.preview.playlist.name.isEmpty()) {
+        proposal.name = proposal.preview.playlist.name;
+    }
+    proposal.content = content;
+    return proposal;
+}
+
+SourceActions::Token OwnSourceService::propose(const QString& input, Progress progress, Proposed proposed) {
+    if (const auto host = newHostOf(input)) {
+        m_agreedHosts.insert(*host);
+    }
+    const auto told = [this, progress = std::move(progress), alive = m_alive](int channels,
+                                                                              std::int64_t bytes) {
+        if (progress) {
+            m_environment.queues.mainQueue().async([progress, channels, bytes, alive] {
+                if (*alive) {
+                    progress(channels, bytes);
+                }
+            });
+        }
+    };
+    return inBackground<SourceProposal>(
+        [this, input, told](const Work& work) {
+            return proposal(input, {.stopped = work.stopped, .progress = told});
+        },
+        std::move(proposed));
+}
+
+SourcePreview OwnSourceService::keptPreview(const OwnSource& source, const Work& work) const {
+    const QString charset = m_environment.records.record(source.id).charset;
+    return sourcePreview(contentOf(source, m_environment.caches),
+                         previewRequest(charset, source.language, work));
+}
+
+SourceProposal OwnSourceService::keptProposal(const OwnSource& source, const Work& work) const {
+    return {.input = source.address,
+            .kind = source.kind,
+            .name = source.name,
+            .preview = keptPreview(source, work),
+            .detail = {},
+            .content = {}};
+}
+
+SourceActions::Token OwnSourceService::proposeAgain(const OwnSourceId& source, Progress /*progress*/,
+                                                    Proposed proposed) {
+    return inBackground<SourceProposal>(
+        [this, record = m_environment.sources.find(source)](const Work& work) {
+            return record ? keptProposal(*record, work) : SourceProposal();
+        },
+        std::move(proposed));
+}
+
+SourceActions::Token OwnSourceService::findGrabbers(std::function<void(std::vector<GrabberProgram>)> found) {
+    return inBackground<std::vector<GrabberProgram>>(
+        [this](const Work& work) {
+            std::vector<GrabberProgram> programs;
+            for (const Grabber& grabber : guide::findGrabbers(m_environment.programs, work.stopped)) {
+                programs.push_back({grabber.path, grabber.description});
+            }
+            return programs;
+        },
+        std::move(found));
+}
+
+OwnSourceId OwnSourceService::add(const SourceProposal& proposal, const OwnSource& settings,
+                                  const QStringList& chosen, const std::vector<MatchedEntry>& matches) {
+    OwnSource source = settings;
+    source.id = OwnSourceId::generate();
+    source.kind = proposal.kind;
+    source.name = settings.name.isEmpty() ? proposal.name : settings.name;
+    const auto content = std::static_pointer_cast<const Content>(proposal.content);
+    SourceRecord record;
+    if (content) {
+        source.address = content->address.open;
+        source.hasSecret = !content->address.secret.isEmpty();
+        if (source.hasSecret) {
+            // Kept before anything asks for it: the queue that fetches comes later.
+            m_blocks.async(*m_queue, [this, id = source.id, secret = content->address.secret] {
+                m_environment.fetcher.secrets().setSecret(secretKey(id), secret);
+            });
+        }
+        const SourceFolder folder(m_environment.caches, source.id);
+        if (content->file.startsWith(content->folder + u'/') && folder.create()) {
+            std::rename(QFile::encodeName(content->file).constData(),
+                        QFile::encodeName(folder.content()).constData());
+        }
+        record.etag = content->etag;
+        record.lastModified = content->lastModified;
+        record.charset = content->charset;
+    }
+    if (source.language.isEmpty()) {
+        source.language = commonLanguage(proposal.preview);
+    }
+    source.channels = chosenChannels(source, proposal, chosen, matches);
+    const SourcePreview& preview = proposal.preview;
+    const Moment now = m_environment.clock.now();
+    const bool isList = source.kind == OwnSourceKind::Playlist;
+    const int entries = static_cast<int>(preview.playlist.entries.size());
+    record.status = {.result = SourceResult::Read,
+                     .detail = {},
+                     .lastTry = now,
+                     .lastSuccess = now,
+                     .nextTry = now + source.interval,
+                     .channels = isList ? entries : static_cast<int>(preview.channels.size()),
+                     .channelsWithShows = isList ? entries : preview.channelsWithShows,
+                     .shows = preview.shows,
+                     .newestShow = preview.last,
+                     .unpackedBytes = preview.unpackedBytes,
+                     .keptBack = {},
+                     .missing = {},
+                     .output = {}};
+    m_environment.records.set(source.id, std::move(record));
+    m_environment.sources.put(source);
+    m_environment.select(idsOf(source));
+    m_environment.updates.check();
+    return source.id;
+}
+
+void OwnSourceService::choose(const OwnSourceId& id, const SourceProposal& proposal,
+                              const QStringList& chosen, const std::vector<MatchedEntry>& matches) {
+    if (auto source = m_environment.sources.find(id)) {
+        source->channels = chosenChannels(*source, proposal, chosen, matches);
+        update(*source);
+    }
+}
+
+void OwnSourceService::update(const OwnSource& source) {
+    const auto before = m_environment.sources.find(source.id);
+    if (!before) {
+        return;
+    }
+    const std::vector<ObjectId> earlier = idsOf(*before);
+    const std::vector<ObjectId> now = idsOf(source);
+    // Before they leave the catalogue, so that their removal can be undone.
+    if (const auto gone = without(earlier, now); !gone.empty()) {
+        m_environment.unselect(gone);
+    }
+    m_environment.sources.put(source);
+    if (const auto added = without(now, earlier); !added.empty()) {
+        m_environment.select(added);
+    }
+    m_environment.updates.readAgain(toReadAgain(*before, source));
+}
+
+void OwnSourceService::remove(const OwnSourceId& source) {
+    const auto record = m_environment.sources.find(source);
+    if (!record) {
+        return;
+    }
+    m_environment.forget(idsOf(*record));
+    m_environment.sources.remove(source);
+    m_environment.records.remove(source);
+    m_blocks.async(*m_queue, [this, source, hasSecret = record->hasSecret] {
+        SourceFolder(m_environment.caches, source).remove();
+        if (hasSecret) {
+            m_environment.fetcher.secrets().removeSecret(secretKey(source));
+        }
+    });
+}
+
+void OwnSourceService::setAddress(const OwnSourceId& id, const QString& typed) {
+    auto source = m_environment.sources.find(id);
+    const auto address = sourceAddress(typed);
+    if (!source || !address) {
+        return;
+    }
+    source->address = address->open;
+    source->hasSecret = !address->secret.isEmpty();
+    SourceRecord record = m_environment.records.record(id);
+    record.etag.clear();
+    record.lastModified.clear();
+    record.status.lastTry.reset();
+    m_environment.records.set(id, std::move(record));
+    m_environment.sources.put(*source);
+    m_blocks.async(*m_queue, [this, id, secret = address->secret] {
+        if (secret.isEmpty()) {
+            m_environment.fetcher.secrets().removeSecret(secretKey(id));
+        } else {
+            m_environment.fetcher.secrets().setSecret(secretKey(id), secret);
+        }
+        m_environment.updates.askNow({id});
+    });
+}
+
+void OwnSourceService::refresh(const OwnSourceId& source) {
+    m_environment.updates.askNow({source});
+}
+
+SourceActions::Token OwnSourceService::match(const Playlist& playlist,
+                                             const std::vector<GuideCorrection>& corrections,
+                                             const std::vector<OwnSourceId>& feeds,
+                                             std::function<void(std::vector<MatchedEntry>)> matched) {
+    const SharedOwnSources sources = m_environment.sources.snapshot();
+    return inBackground<std::vector<MatchedEntry>>(
+        [this, playlist, corrections, feeds, sources](const Work& work) {
+            std::vector<FeedChannel> channels;
+            std::vector<OwnSourceId> ids;
+            for (const OwnSource& source : *sources) {
+                const bool isWanted = source.kind != OwnSourceKind::Playlist &&
+                                      (feeds.empty() || std::ranges::find(feeds, source.id) != feeds.end());
+                if (!isWanted || work.stopped()) {
+                    continue;
+                }
+                for (PreviewChannel& channel : keptPreview(source, work).channels) {
+                    channels.push_back(
+                        {std::move(channel.id), std::move(channel.names), static_cast<int>(ids.size())});
+                }
+                ids.push_back(source.id);
+            }
+            const auto guideOf = [&](int place) {
+                const FeedChannel& channel = channels[static_cast<std::size_t>(place)];
+                return GuideChannel{ids[static_cast<std::size_t>(channel.feed)], channel.id};
+            };
+            QHash<QString, const GuideCorrection*> corrected;
+            for (const GuideCorrection& correction : corrections) {
+                corrected.insert(correction.key, &correction);
+            }
+            const std::vector<ChannelMatch> found = matchChannels(playlist.entries, channels);
+            const QStringList keys = playlistKeys(playlist);
+            std::vector<MatchedEntry> entries;
+            entries.reserve(found.size());
+            for (std::size_t i = 0; i < found.size(); ++i) {
+                MatchedEntry entry{.key = keys[static_cast<qsizetype>(i)],
+                                   .entry = playlist.entries[i],
+                                   .match = found[i].kind,
+                                   .corrected = false,
+                                   .guide = {},
+                                   .candidates = {}};
+                if (found[i].channel >= 0) {
+                    entry.guide = guideOf(found[i].channel);
+                }
+                std::ranges::transform(found[i].candidates, std::back_inserter(entry.candidates), guideOf);
+                if (const GuideCorrection* correction = corrected.value(entry.key)) {
+                    entry.corrected = true;
+                    entry.guide = correction->guide;
+                }
+                entries.push_back(std::move(entry));
+            }
+            return entries;
+        },
+        std::move(matched));
+}
+
+SourceActions::Token OwnSourceService::channelsOf(const OwnSourceId& feed,
+                                                  std::function<void(std::vector<PreviewChannel>)> answered) {
+    return inBackground<std::vector<PreviewChannel>>(
+        [this, record = m_environment.sources.find(feed)](const Work& work) {
+            return record ? keptPreview(*record, work).channels : std::vector<PreviewChannel>();
+        },
+        std::move(answered));
+}
+
+SourceStatus OwnSourceService::status(const OwnSourceId& source) const {
+    return m_environment.records.record(source).status;
+}
+
+} // namespace guide

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "app/own/OwnSourceUpdates.h"
+#include "parsers/own/SourcePreviewReader.h"
+#include "screens/sources/SourceActions.h"
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <unordered_set>
+#include <vector>
+
+namespace guide {
+
+/// All of it must outlive the service and the last block on its queues.
+struct OwnSourceServiceEnvironment {
+    const Clock& clock;
+    const Device& device;
+    DispatchQueues& queues;
+    OwnSources& sources;
+    SourceRecords& records;
+    const SourceFetcher& fetcher;
+    ProgramRunner& programs;
+    OwnSourceUpdates& updates;
+    QString caches;
+    /// Puts channels into the selection, or takes them out, as the user's own choice. Main queue.
+    std::function<void(const std::vector<ObjectId>&)> select;
+    std::function<void(const std::vector<ObjectId>&)> unselect;
+    /// The same for channels that will not come back.
+    std::function<void(const std::vector<ObjectId>&)> forget;
+    /// The program is shutting down. Any thread.
+    std::function<bool()> stopped;
+};
+
+/// What the screens of the user's own sources ask for, carried out on background queues.
+class OwnSourceService final : public SourceActions {
+  public:
+    explicit OwnSourceService(OwnSourceServiceEnvironment environment);
+    ~OwnSourceService() override;
+
+    SharedOwnSources sources() const override { return m_environment.sources.snapshot(); }
+    bool isProgram(const QString& input) const override;
+    std::optional<QString> newHostOf(const QString& input) const override;
+    Token propose(const QString& input, Progress progress, Proposed proposed) override;
+    Token proposeAgain(const OwnSourceId& source, Progress progress, Proposed proposed) override;
+    Token findGrabbers(std::function<void(std::vector<GrabberProgram>)> found) override;
+
+    OwnSourceId add(const SourceProposal& proposal, const OwnSource& settings, const QStringList& chosen,
+                    const std::vector<MatchedEntry>& matches) override;
+    void choose(const OwnSourceId& source, const SourceProposal& proposal, const QStringList& chosen,
+                const std::vector<MatchedEntry>& matches) override;
+    void update(const OwnSource& source) override;
+    void remove(const OwnSourceId& source) override;
+    void setAddress(const OwnSourceId& source, const QString& address) override;
+    void refresh(const OwnSourceId& source) override;
+
+    Token match(const Playlist& playlist, const std::vector<GuideCorrection>& corrections,
+                const std::vector<OwnSourceId>& feeds,
+                std::function<void(std::vector<MatchedEntry>)> matched) override;
+    Token channelsOf(const OwnSourceId& feed,
+                     std::function<void(std::vector<PreviewChannel>)> answered) override;
+
+    SourceStatus status(const OwnSourceId& source) const override;
+
+    /// Waits for what runs in the background. Transfers must have been cancelled.
+    bool finish(std::chrono::milliseconds atMost) { return m_blocks.wait(atMost); }
+
+  private:
+    struct Content;
+    struct Work;
+
+    /// Runs `make` in the background and hands its result to `answer` on the main queue, unless the token was
+    /// dropped.
+    template <class Result>
+    Token inBackground(std::function<Result(const Work&)> make, std::function<void(Result)> answer);
+    SourceProposal proposal(const QString& input, const Work& work) const;
+    SourceProposal keptProposal(const OwnSource& source, const Work& work) const;
+    /// What was fetched last of a source.
+    SourcePreview keptPreview(const OwnSource& source, const Work& work) const;
+    PreviewRequest previewRequest(const QString& charset, const QString& language, const Work& work) const;
+
+    const OwnSourceServiceEnvironment m_environment;
+    const std::shared_ptr<DispatchQueue> m_queue;
+    DispatchGroup m_blocks;
+    std::shared_ptr<std::atomic<bool>> m_alive = std::make_shared<std::atomic<bool>>(true);
+    /// The user agreed that they are asked.
+    mutable std::unordered_set<QString> m_agreedHosts;
+};
+
+} // namespace guide

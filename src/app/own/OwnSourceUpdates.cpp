@@ -1,0 +1,310 @@
+#include "app/own/OwnSourceUpdates.h"
+
+#include "app/BackgroundTask.h"
+#include "app/own/OwnSourceLoad.h"
+#include "app/own/SourceSchedule.h"
+#include "core/own/SourceAddress.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <atomic>
+#include <deque>
+#include <iterator>
+#include <unordered_set>
+#include <utility>
+
+namespace guide {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Asking twice within it by hand gives the answer of the first time.
+constexpr std::chrono::seconds kSameRequest{60};
+constexpr std::chrono::milliseconds kLongestTimer = 1h;
+constexpr std::chrono::milliseconds kShortestTimer = 5s;
+
+} // namespace
+
+struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
+    const OwnSourceUpdatesEnvironment environment;
+    /// Serial: guards what follows it.
+    const std::shared_ptr<DispatchQueue> queue;
+    const std::shared_ptr<DispatchQueue> fetchQueue;
+    DispatchGroup blocks;
+    std::atomic<bool> cancelled = false;
+    std::atomic<bool> running = false;
+
+    // On the queue.
+    std::unordered_set<OwnSourceId> loading;
+    std::unordered_set<QString> busyHosts;
+    std::deque<OwnSourceLoad::Plan> waiting;
+    /// Were asked for while they were being loaded.
+    std::unordered_set<OwnSourceId> again;
+    /// Channels that the content that is kept does not have, or whose lists are not to be read from it again.
+    std::unordered_set<ObjectId> tried;
+    /// Channels whose lists are to be read again.
+    std::unordered_set<ObjectId> unread;
+    std::shared_ptr<BackgroundTask> task;
+
+    // On the main queue.
+    bool isActive = false;
+    std::shared_ptr<const Moment> timer;
+
+    explicit State(OwnSourceUpdatesEnvironment ownEnvironment)
+        : environment(std::move(ownEnvironment))
+        , queue(environment.queues.makeQueue("vorel.tv.ownSources", QueueKind::Serial,
+                                             QueuePriority::Background))
+        , fetchQueue(environment.queues.makeQueue("vorel.tv.ownSources.fetch", QueueKind::Concurrent,
+                                                  QueuePriority::Background)) {}
+
+    void onQueue(std::function<void(State&)> block) {
+        blocks.async(*queue, [state = shared_from_this(), block = std::move(block)] {
+            if (!state->cancelled) {
+                block(*state);
+            }
+        });
+    }
+
+    void plan(const std::unordered_set<OwnSourceId>& byHand) {
+        const SharedOwnSources sources = environment.sources.snapshot();
+        for (const OwnSource& source : *sources) {
+            const bool isByHand = byHand.contains(source.id);
+            if (loading.contains(source.id)) {
+                if (isByHand) {
+                    again.insert(source.id);
+                }
+                continue;
+            }
+            plan(source, *sources, isByHand);
+        }
+        start();
+    }
+
+    void plan(const OwnSource& source, const OwnSourceList& sources, bool byHand) {
+        std::vector<OwnFeedItem> items = ownFeedItems(sources, source.id, environment.channels);
+        const bool isUsed = source.kind == OwnSourceKind::Playlist ? hasSelected(source) : !items.empty();
+        if (!isUsed && !byHand) {
+            return;
+        }
+        const SourceStatus status = environment.records.record(source.id).status;
+        const Moment now = environment.clock.now();
+        const bool isRequested = byHand || std::ranges::any_of(items, [this](const OwnFeedItem& item) {
+                                     const auto record =
+                                         environment.channels.channelWithChannelId(item.channel);
+                                     return record && record->reloadRequired();
+                                 });
+        const bool isDue = isSourceDue(status, now) || (isRequested && mayBeAsked(status, now));
+        const bool isWanting = std::ranges::any_of(items, [this](const OwnFeedItem& item) {
+            const auto record = environment.channels.channelWithChannelId(item.channel);
+            return record &&
+                   (unread.contains(item.channel) ||
+                    (!record->timeLoaded() && !record->reloadRequired() && !tried.contains(item.channel)));
+        });
+        if (isDue || isWanting) {
+            loading.insert(source.id);
+            for (const OwnFeedItem& item : items) {
+                unread.erase(item.channel);
+            }
+            waiting.push_back({.source = source, .items = std::move(items), .fetch = isDue});
+        } else if (isRequested) {
+            answerAtOnce(items);
+        }
+    }
+
+    bool hasSelected(const OwnSource& source) const {
+        return std::ranges::any_of(source.channels, [&](const OwnChannel& channel) {
+            return environment.channels.channelWithChannelId(ownChannelId(source.id, channel.key)) != nullptr;
+        });
+    }
+
+    /// Whether a person's request goes to the source: not twice in a minute, nor before the time that it
+    /// named itself.
+    static bool mayBeAsked(const SourceStatus& status, Moment now) {
+        const bool isBusy = status.result == SourceResult::Busy && status.nextTry && *status.nextTry > now;
+        const bool isAnswered = status.lastTry && *status.lastTry <= now &&
+                                now - *status.lastTry < kSameRequest &&
+                                status.result != SourceResult::NoAnswer;
+        return !isBusy && !isAnswered;
+    }
+
+    /// Ends what turns on the screens.
+    void answerAtOnce(const std::vector<OwnFeedItem>& items) {
+        LoadResults results;
+        for (const OwnFeedItem& item : items) {
+            if (const auto record = environment.channels.channelWithChannelId(item.channel)) {
+                record->endReloadRequest();
+                results.failureChanged.insert(item.channel);
+            }
+        }
+        tell(std::move(results));
+    }
+
+    void tell(LoadResults results) {
+        environment.queues.mainQueue().async([state = shared_from_this(), results = std::move(results)] {
+            if (state->cancelled) {
+                return;
+            }
+            state->environment.statusChanged();
+            if (!results.failureChanged.empty() || !results.stored.empty()) {
+                state->environment.loadsEnded(results);
+            }
+            state->arm();
+        });
+    }
+
+    /// Of one host, or of programs, or of files, one source after the other.
+    static QString laneOf(const OwnSourceLoad::Plan& plan) {
+        const QString host = hostOfAddress(plan.source.address);
+        return host.isEmpty() ? QString::number(static_cast<int>(plan.source.kind)) : host;
+    }
+
+    void start() {
+        std::deque<OwnSourceLoad::Plan> later;
+        for (OwnSourceLoad::Plan& plan : std::exchange(waiting, {})) {
+            if (busyHosts.insert(laneOf(plan)).second) {
+                load(std::move(plan));
+            } else {
+                later.push_back(std::move(plan));
+            }
+        }
+        waiting = std::move(later);
+        if (!loading.empty() && !task) {
+            running = true;
+            task = std::make_shared<BackgroundTask>(environment.queues, environment.backgroundTasks);
+            task->begin();
+        }
+    }
+
+    void load(OwnSourceLoad::Plan plan) {
+        environment.records.setRunning(plan.source.id, true);
+        tell({});
+        blocks.async(*fetchQueue, [state = shared_from_this(), plan = std::move(plan)] {
+            OwnSourceLoad load(state->environment, state->cancelled, plan);
+            load.run();
+            state->onQueue([plan, results = load.results()](State& own) { own.ended(plan, results); });
+        });
+    }
+
+    void ended(const OwnSourceLoad::Plan& plan, const LoadResults& results) {
+        loading.erase(plan.source.id);
+        busyHosts.erase(laneOf(plan));
+        environment.records.setRunning(plan.source.id, false);
+        for (const OwnFeedItem& item : plan.items) {
+            tried.insert(item.channel);
+        }
+        tell(results);
+        if (again.erase(plan.source.id) > 0) {
+            this->plan({plan.source.id});
+        } else if (!unread.empty()) {
+            this->plan({});
+        }
+        start();
+        if (loading.empty()) {
+            finishRun();
+        }
+    }
+
+    void finishRun() {
+        running = false;
+        if (const auto ended = std::exchange(task, nullptr)) {
+            ended->endOnMainQueue();
+        }
+        environment.loadQueue->sync([this] { environment.listings.updatePopularList(); });
+        environment.listings.checkEnded();
+    }
+
+    /// Main queue.
+    void arm() {
+        timer.reset();
+        if (!isActive || cancelled) {
+            return;
+        }
+        const Moment now = environment.clock.now();
+        std::optional<Moment> next;
+        const SharedOwnSources sources = environment.sources.snapshot();
+        for (const OwnSource& source : *sources) {
+            const auto at = environment.records.record(source.id).status.nextTry;
+            if (at &&
+                (hasSelected(source) || !ownFeedItems(*sources, source.id, environment.channels).empty())) {
+                next = std::min(next.value_or(*at), *at);
+            }
+        }
+        if (!next) {
+            return;
+        }
+        const auto wait = std::clamp(std::chrono::milliseconds(*next - now), kShortestTimer, kLongestTimer);
+        timer = std::make_shared<const Moment>(now + wait);
+        environment.queues.mainQueue().asyncAfter(
+            wait, [state = weak_from_this(), mark = std::weak_ptr(timer)] {
+                if (const auto self = state.lock(); self && !mark.expired()) {
+                    self->onQueue([](State& own) { own.plan({}); });
+                    self->arm();
+                }
+            });
+    }
+};
+
+OwnSourceUpdates::OwnSourceUpdates(OwnSourceUpdatesEnvironment environment)
+    : m_state(std::make_shared<State>(std::move(environment))) {}
+
+OwnSourceUpdates::~OwnSourceUpdates() {
+    m_state->cancelled = true;
+}
+
+void OwnSourceUpdates::check() {
+    m_state->onQueue([](State& state) { state.plan({}); });
+}
+
+void OwnSourceUpdates::askNow(const std::vector<OwnSourceId>& sources) {
+    m_state->onQueue([asked = std::unordered_set<OwnSourceId>(sources.begin(), sources.end())](State& state) {
+        state.plan(asked);
+    });
+}
+
+void OwnSourceUpdates::askNowFor(const std::vector<ObjectId>& channels) {
+    m_state->onQueue([asked = std::unordered_set<ObjectId>(channels.begin(), channels.end())](State& state) {
+        std::unordered_set<OwnSourceId> feeds;
+        const SharedOwnSources sources = state.environment.sources.snapshot();
+        for (const OwnSource& source : *sources) {
+            for (const OwnChannel& channel : source.channels) {
+                if (channel.guide && asked.contains(ownChannelId(source.id, channel.key))) {
+                    feeds.insert(channel.guide->source);
+                }
+            }
+        }
+        if (!feeds.empty()) {
+            state.plan(feeds);
+        }
+    });
+}
+
+void OwnSourceUpdates::readAgain(std::vector<ObjectId> channels) {
+    m_state->onQueue([channels = std::move(channels)](State& state) {
+        // The records of channels that left the sources meanwhile are of no use.
+        std::ranges::copy_if(channels, std::inserter(state.unread, state.unread.end()),
+                             [&state](const ObjectId& channel) {
+                                 return state.environment.channels.channelWithChannelId(channel) != nullptr;
+                             });
+        state.plan({});
+    });
+}
+
+void OwnSourceUpdates::setActive(bool active) {
+    m_state->isActive = active;
+    m_state->arm();
+}
+
+bool OwnSourceUpdates::isRunning() const {
+    return m_state->running;
+}
+
+bool OwnSourceUpdates::finish(std::chrono::milliseconds atMost) {
+    m_state->cancelled = true;
+    m_state->timer.reset();
+    m_state->blocks.async(*m_state->queue, [] {});
+    return m_state->blocks.wait(atMost);
+}
+
+} // namespace guide
