@@ -96,6 +96,10 @@ void QuellinGuideAppDelegate::makeCatalogue() {
     m_suppliedChannels = loaded.channels;
     m_ownSources = std::make_unique<OwnSources>(m_environment.folders, m_environment.keyValueStore,
                                                 m_environment.queues);
+    // Another device may have stored some while this one was not running.
+    if (const auto shared = m_environment.keyValueStore.valueForKey(kOwnSourcesKey)) {
+        m_ownSources->takeFrom(*shared);
+    }
     m_ownSources->setObserver([this] { joinCatalogue(); });
     joinCatalogue();
 }

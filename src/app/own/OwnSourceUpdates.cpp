@@ -80,12 +80,13 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
             plan(source, *sources, isByHand);
         }
         start();
+        arm();
     }
 
     void plan(const OwnSource& source, const OwnSourceList& sources, bool byHand) {
         std::vector<OwnFeedItem> items = ownFeedItems(sources, source.id, environment.channels);
-        const bool isUsed = source.kind == OwnSourceKind::Playlist ? hasSelected(source) : !items.empty();
-        if (!isUsed && !byHand) {
+        const bool isIdle = source.kind == OwnSourceKind::Playlist ? !hasSelected(source) : items.empty();
+        if (isIdle && !byHand) {
             return;
         }
         const SourceStatus status = environment.records.record(source.id).status;
@@ -95,7 +96,8 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
                                          environment.channels.channelWithChannelId(item.channel);
                                      return record && record->reloadRequired();
                                  });
-        const bool isDue = isSourceDue(status, now) || (isRequested && mayBeAsked(status, now));
+        const bool isDue =
+            isSourceDue(status, now) || (isRequested && (isOwnFile(source) || mayBeAsked(status, now)));
         const bool isWanting = std::ranges::any_of(items, [this](const OwnFeedItem& item) {
             const auto record = environment.channels.channelWithChannelId(item.channel);
             return record &&
@@ -111,6 +113,12 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
         } else if (isRequested) {
             answerAtOnce(items);
         }
+    }
+
+    bool isUsed(const OwnSource& source, const OwnSourceList& sources) const {
+        return source.kind == OwnSourceKind::Playlist
+                   ? hasSelected(source)
+                   : !ownFeedItems(sources, source.id, environment.channels).empty();
     }
 
     bool hasSelected(const OwnSource& source) const {
@@ -150,7 +158,6 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
             if (!results.failureChanged.empty() || !results.stored.empty()) {
                 state->environment.loadsEnded(results);
             }
-            state->arm();
         });
     }
 
@@ -204,6 +211,7 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
         if (loading.empty()) {
             finishRun();
         }
+        arm();
     }
 
     void finishRun() {
@@ -215,32 +223,32 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
         environment.listings.checkEnded();
     }
 
-    /// Main queue.
+    /// Starts the next check when the first of the sources in use is due.
     void arm() {
-        timer.reset();
-        if (!isActive || cancelled) {
-            return;
-        }
-        const Moment now = environment.clock.now();
-        std::optional<Moment> next;
         const SharedOwnSources sources = environment.sources.snapshot();
+        std::optional<Moment> next;
         for (const OwnSource& source : *sources) {
             const auto at = environment.records.record(source.id).status.nextTry;
-            if (at &&
-                (hasSelected(source) || !ownFeedItems(*sources, source.id, environment.channels).empty())) {
+            if (at && !loading.contains(source.id) && isUsed(source, *sources)) {
                 next = std::min(next.value_or(*at), *at);
             }
         }
-        if (!next) {
+        environment.queues.mainQueue().async([state = shared_from_this(), next] { state->setTimer(next); });
+    }
+
+    /// Main queue.
+    void setTimer(std::optional<Moment> next) {
+        timer.reset();
+        if (!next || !isActive || cancelled) {
             return;
         }
+        const Moment now = environment.clock.now();
         const auto wait = std::clamp(std::chrono::milliseconds(*next - now), kShortestTimer, kLongestTimer);
         timer = std::make_shared<const Moment>(now + wait);
         environment.queues.mainQueue().asyncAfter(
             wait, [state = weak_from_this(), mark = std::weak_ptr(timer)] {
                 if (const auto self = state.lock(); self && !mark.expired()) {
                     self->onQueue([](State& own) { own.plan({}); });
-                    self->arm();
                 }
             });
     }
@@ -293,7 +301,11 @@ void OwnSourceUpdates::readAgain(std::vector<ObjectId> channels) {
 
 void OwnSourceUpdates::setActive(bool active) {
     m_state->isActive = active;
-    m_state->arm();
+    if (active) {
+        check();
+    } else {
+        m_state->timer.reset();
+    }
 }
 
 bool OwnSourceUpdates::isRunning() const {

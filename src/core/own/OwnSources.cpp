@@ -57,7 +57,7 @@ struct OwnSources::State {
     std::shared_ptr<const Snapshot> current; // guarded
 
     State(const Folders& folders, KeyValueStore& keyValueStore, DispatchQueues& queues)
-        : file({folders.documents + u"/ownSources.plist"_s, u"OwnSources"_s, kMostBytes, folders.writable},
+        : file({folders.documents + u"/ownSources.plist"_s, kOwnSourcesKey, kMostBytes, folders.writable},
                keyValueStore, queues.makeQueue("ownSources", QueueKind::Serial, QueuePriority::Default)) {
         StoredSources stored;
         const auto take = [&stored](const QCborValue& value) {
@@ -188,11 +188,8 @@ bool OwnSources::takeFrom(const QCborValue& value) {
             }
         }
         for (const OwnSource& source : other->sources) {
-            const auto known = std::ranges::find(stored.sources, source.id, &OwnSource::id);
-            if (known == stored.sources.end()) {
+            if (std::ranges::find(stored.sources, source.id, &OwnSource::id) == stored.sources.end()) {
                 stored.sources.push_back(source);
-            } else {
-                *known = source;
             }
         }
         for (const RemovedSource& removed : stored.removed) {

@@ -7,6 +7,7 @@
 #include "platform/queues/DispatchQueue.h"
 
 #include <QCborValue>
+#include <QLatin1StringView>
 
 #include <functional>
 #include <memory>
@@ -17,6 +18,9 @@ namespace guide {
 
 using OwnSourceList = std::vector<OwnSource>;
 using SharedOwnSources = std::shared_ptr<const OwnSourceList>;
+
+/// The key of the sources in the key-value store.
+inline constexpr QLatin1StringView kOwnSourcesKey("OwnSources");
 
 /// The sources that the user added, in the order of adding, kept in the documents folder and mirrored to the
 /// key-value store under "OwnSources". Readers get a snapshot; a change is visible at once and written in the
@@ -42,8 +46,8 @@ class OwnSources {
     /// The chosen channels of all sources, for the catalogue.
     std::vector<CatalogueChannel> catalogueChannels() const;
 
-    /// Takes over what another device stored: the sources of both, and of a source on both the other's;
-    /// what was removed on either stays removed. Returns whether that is a change.
+    /// Takes over what another device stored: the sources that are not known here, and what was removed
+    /// there. What was removed here stays removed. Returns whether that is a change.
     bool takeFrom(const QCborValue& value);
 
     /// Called after each change, on the thread that makes it. One observer; set before the first change.
