@@ -2,6 +2,7 @@
 
 #include "core/MirroredFile.h"
 #include "core/own/OwnSourceArchive.h"
+#include "core/own/SourceAddress.h"
 #include "platform/archive/Archive.h"
 
 #include <algorithm>
@@ -40,6 +41,19 @@ void forgetGuide(OwnSource& source, const OwnSourceId& gone) {
     std::erase_if(source.corrections, [&gone](const GuideCorrection& correction) {
         return correction.guide && correction.guide->source == gone;
     });
+}
+
+/// Streams of a playlist often hold a password; another device reads them from the playlist again.
+StoredSources withoutSecrets(StoredSources stored) {
+    for (OwnSource& source : stored.sources) {
+        for (OwnChannel& channel : source.channels) {
+            const auto address = sourceAddress(channel.stream);
+            if (source.hasSecret || !address || !address->secret.isEmpty()) {
+                channel.stream.clear();
+            }
+        }
+    }
+    return stored;
 }
 
 } // namespace
@@ -96,8 +110,8 @@ struct OwnSources::State {
 
     void write() {
         file.write([written = current] {
-            const QCborValue value = ownSourcesValue(written->stored);
-            return MirroredFile::Content{archivedData(value), value};
+            return MirroredFile::Content{archivedData(ownSourcesValue(written->stored)),
+                                         ownSourcesValue(withoutSecrets(written->stored))};
         });
     }
 

@@ -23,8 +23,8 @@ using SharedOwnSources = std::shared_ptr<const OwnSourceList>;
 inline constexpr QLatin1StringView kOwnSourcesKey("OwnSources");
 
 /// The sources that the user added, in the order of adding, kept in the documents folder and mirrored to the
-/// key-value store under "OwnSources". Readers get a snapshot; a change is visible at once and written in the
-/// background. Any thread.
+/// key-value store under "OwnSources", there without streams that hold a secret. Readers get a snapshot; a
+/// change is visible at once and written in the background. Any thread.
 class OwnSources {
   public:
     /// The key-value store must outlive this object.
