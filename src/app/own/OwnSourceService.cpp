@@ -1,6 +1,6 @@
 #include "app/own/OwnSourceService.h"
 
-#include "app/own/SourceSchedule.h"
+#include "app/own/ChosenChannels.h"
 #include "core/own/SourceAddress.h"
 #include "parsers/playlists/ChannelMatching.h"
 #include "parsers/playlists/PlaylistKeys.h"
@@ -71,110 +71,6 @@ OwnSourceKind kindOf(const QString& address, SourceKind content) {
         return OwnSourceKind::Grabber;
     }
     return content == SourceKind::Playlist ? OwnSourceKind::Playlist : OwnSourceKind::Feed;
-}
-
-/// The language that most channels have.
-QString commonLanguage(const SourcePreview& preview) {
-    QString common;
-    int most = 0;
-    for (auto each = preview.languages.cbegin(); each != preview.languages.cend(); ++each) {
-        if (!each.key().isEmpty() && each.value() > most) {
-            most = each.value();
-            common = each.key();
-        }
-    }
-    return common;
-}
-
-OwnChannel channelOf(const OwnSourceId& source, const PreviewChannel& channel) {
-    return {.key = channel.id,
-            .title = channel.title(),
-            .language = channel.language,
-            .icon = channel.icon,
-            .guide = GuideChannel{source, channel.id}};
-}
-
-OwnChannel channelOf(const MatchedEntry& entry) {
-    return {.key = entry.key,
-            .title = entry.entry.name.isEmpty() ? entry.entry.guideName : entry.entry.name,
-            .language = entry.entry.language.size() == 2 ? entry.entry.language : QString(),
-            .shift = std::chrono::minutes(qRound(entry.entry.shift * 60)),
-            .icon = entry.entry.logo,
-            .stream = entry.entry.stream,
-            .guide = entry.guide};
-}
-
-/// The chosen channels, in the order of the source. Those that it had keep their settings.
-std::vector<OwnChannel> chosenChannels(const OwnSource& source, const SourceProposal& proposal,
-                                       const QStringList& chosen, const std::vector<MatchedEntry>& matches) {
-    const QSet<QString> wanted(chosen.begin(), chosen.end());
-    QHash<QString, OwnChannel> earlier;
-    for (const OwnChannel& channel : source.channels) {
-        earlier.insert(channel.key, channel);
-    }
-    std::vector<OwnChannel> channels;
-    const auto take = [&](const QString& key, const auto& from) {
-        if (!wanted.contains(key)) {
-            return;
-        }
-        const auto known = earlier.find(key);
-        if (known == earlier.end()) {
-            channels.push_back(from());
-        } else {
-            channels.push_back(*known);
-            earlier.erase(known);
-        }
-    };
-    if (source.kind == OwnSourceKind::Playlist) {
-        for (const MatchedEntry& entry : matches) {
-            take(entry.key, [&entry] { return channelOf(entry); });
-        }
-    } else {
-        for (const PreviewChannel& channel : proposal.preview.channels) {
-            take(channel.id, [&] { return channelOf(source.id, channel); });
-        }
-    }
-    // A channel that the source does not name today is not given up.
-    std::ranges::copy_if(source.channels, std::back_inserter(channels), [&](const OwnChannel& channel) {
-        return wanted.contains(channel.key) && earlier.contains(channel.key);
-    });
-    return channels;
-}
-
-std::vector<ObjectId> idsOf(const OwnSource& source) {
-    std::vector<ObjectId> ids;
-    ids.reserve(source.channels.size());
-    for (const OwnChannel& channel : source.channels) {
-        ids.push_back(ownChannelId(source.id, channel.key));
-    }
-    return ids;
-}
-
-/// Those of the first that are not among the others.
-std::vector<ObjectId> without(const std::vector<ObjectId>& ids, const std::vector<ObjectId>& others) {
-    const std::unordered_set<ObjectId> known(others.begin(), others.end());
-    std::vector<ObjectId> rest;
-    std::ranges::copy_if(ids, std::back_inserter(rest),
-                         [&known](const ObjectId& id) { return !known.contains(id); });
-    return rest;
-}
-
-/// The channels whose lists have to be read again when the record changes.
-std::vector<ObjectId> toReadAgain(const OwnSource& before, const OwnSource& after) {
-    QHash<QString, const OwnChannel*> earlier;
-    for (const OwnChannel& channel : before.channels) {
-        earlier.insert(channel.key, &channel);
-    }
-    std::vector<ObjectId> changed;
-    for (const OwnChannel& channel : after.channels) {
-        const OwnChannel* old = earlier.value(channel.key);
-        if (old && (before.shift != after.shift || before.language != after.language ||
-                    old->shift != channel.shift || old->language != channel.language ||
-                    old->guide != channel.guide)) {
-            changed.push_back(ownChannelId(after.id, channel.key));
-        }
-    }
-    return changed;
 }
 
 } // namespace
@@ -472,6 +368,7 @@ SourceActions::Token OwnSourceService::match(const Playlist& playlist,
     return inBackground<std::vector<MatchedEntry>>(
         [this, playlist, corrections, feeds, sources](const Work& work) {
             std::vector<FeedChannel> channels;
+            QStringList languages;
             std::vector<OwnSourceId> ids;
             for (const OwnSource& source : *sources) {
                 const bool isWanted = source.kind != OwnSourceKind::Playlist &&
@@ -480,6 +377,7 @@ SourceActions::Token OwnSourceService::match(const Playlist& playlist,
                     continue;
                 }
                 for (PreviewChannel& channel : keptPreview(source, work).channels) {
+                    languages << channel.language;
                     channels.push_back(
                         {std::move(channel.id), std::move(channel.names), static_cast<int>(ids.size())});
                 }
@@ -506,6 +404,8 @@ SourceActions::Token OwnSourceService::match(const Playlist& playlist,
                                    .candidates = {}};
                 if (found[i].channel >= 0) {
                     entry.guide = guideOf(found[i].channel);
+                    // The texts of the feed are what is classified; playlists write "Slovak" or nothing.
+                    entry.entry.language = languages[found[i].channel];
                 }
                 std::ranges::transform(found[i].candidates, std::back_inserter(entry.candidates), guideOf);
                 if (const GuideCorrection* correction = corrected.value(entry.key)) {

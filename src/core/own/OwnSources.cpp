@@ -18,11 +18,21 @@ namespace {
 
 constexpr qint64 kMostBytes = 256LL << 20;
 
-CatalogueChannel catalogueChannel(const OwnSource& source, const OwnChannel& channel) {
+/// That of the channel, of its source, or of the feed that its schedule comes from.
+QString languageOf(const OwnSource& source, const OwnChannel& channel, const OwnSourceList& sources) {
+    if (!channel.language.isEmpty() || !source.language.isEmpty() || !channel.guide) {
+        return channel.language.isEmpty() ? source.language : channel.language;
+    }
+    const auto feed = std::ranges::find(sources, channel.guide->source, &OwnSource::id);
+    return feed == sources.end() ? QString() : feed->language;
+}
+
+CatalogueChannel catalogueChannel(const OwnSource& source, const OwnChannel& channel,
+                                  const OwnSourceList& sources) {
     const ObjectId id = ownChannelId(source.id, channel.key);
     CatalogueChannel made{.id = id,
                           .title = channel.title,
-                          .language = channel.language.isEmpty() ? source.language : channel.language,
+                          .language = languageOf(source, channel, sources),
                           .region = {},
                           .icon = ownIconName(id)};
     if (!channel.stream.isEmpty()) {
@@ -187,7 +197,7 @@ std::vector<CatalogueChannel> OwnSources::catalogueChannels() const {
     const SharedOwnSources sources = snapshot();
     for (const OwnSource& source : *sources) {
         for (const OwnChannel& channel : source.channels) {
-            channels.push_back(catalogueChannel(source, channel));
+            channels.push_back(catalogueChannel(source, channel, *sources));
         }
     }
     return channels;

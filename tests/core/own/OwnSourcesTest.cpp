@@ -104,6 +104,11 @@ TEST_F(OwnSourcesTest, ChannelsAreThoseOfACatalogue) {
     EXPECT_EQ(channels[0].language, u"cs"_s);
     EXPECT_EQ(channels[0].stream, u"http://streams.test/1"_s);
     EXPECT_EQ(channels[1].language, u"sk"_s) << "that of the source";
+    OwnSource list{
+        .id = OwnSourceId({7}), .kind = OwnSourceKind::Playlist, .address = u"/list"_s, .name = {}};
+    list.channels = {{.key = u"k"_s, .title = u"K"_s, .guide = GuideChannel{feedNumbered(1).id, u"ct1"_s}}};
+    sources.put(list);
+    EXPECT_EQ(sources.catalogueChannels().back().language, u"sk"_s) << "that of the feed";
     EXPECT_EQ(channels[1].stream, std::nullopt);
     EXPECT_NE(channels[0].id, channels[1].id);
 }

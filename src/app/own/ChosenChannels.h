@@ -1,0 +1,27 @@
+#pragma once
+
+#include "screens/sources/SourceActions.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace guide {
+
+/// The language that most channels of a preview have; empty when none could be told.
+QString commonLanguage(const SourcePreview& preview);
+
+/// The channels of the source that are chosen by their keys, in the order of what it offers. Those that it
+/// had keep their settings, also when it does not offer them today.
+std::vector<OwnChannel> chosenChannels(const OwnSource& source, const SourceProposal& proposal,
+                                       const QStringList& chosen, const std::vector<MatchedEntry>& matches);
+
+std::vector<ObjectId> idsOf(const OwnSource& source);
+/// Those of the first that are not among the others.
+std::vector<ObjectId> without(const std::vector<ObjectId>& ids, const std::vector<ObjectId>& others);
+
+/// The channels whose lists have to be read again when the record changes.
+std::vector<ObjectId> toReadAgain(const OwnSource& before, const OwnSource& after);
+
+} // namespace guide
