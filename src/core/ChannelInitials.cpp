@@ -166,13 +166,26 @@ QColor channelColor(std::uint64_t seed) {
     return QColor::fromHslF(float(hue), 0.6F, float(darker));
 }
 
-QImage channelInitialsIcon(const QString& title, std::uint64_t seed, const QSize& pixels) {
+namespace {
+
+/// FNV-1a, which gives the same number everywhere.
+std::uint64_t titleSeed(const QString& title) {
+    std::uint64_t seed = 0xcbf2'9ce4'8422'2325;
+    for (const QChar character : title) {
+        seed = (seed ^ character.unicode()) * 0x100'0000'01b3;
+    }
+    return seed;
+}
+
+} // namespace
+
+QImage channelInitialsIcon(const QString& title, const QSize& pixels) {
     QImage icon(pixels, QImage::Format_ARGB32_Premultiplied);
     icon.fill(Qt::transparent);
     QPainter painter(&icon);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(channelColor(seed));
+    painter.setBrush(channelColor(titleSeed(title)));
     const double radius = pixels.height() / 6.0;
     painter.drawRoundedRect(QRectF(QPointF(0, 0), pixels), radius, radius);
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr) {

@@ -16,8 +16,9 @@ QString channelInitials(const QString& title);
 /// backgrounds contrast with it.
 QColor channelColor(std::uint64_t seed);
 
-/// The initials on a plate of the channel's colour. Without fonts, which need a QGuiApplication, the plate
+/// The initials on a plate in a colour that the title alone decides, so that the channel looks the same
+/// before and after it is chosen and on every device. Without fonts, which need a QGuiApplication, the plate
 /// alone. Any thread.
-QImage channelInitialsIcon(const QString& title, std::uint64_t seed, const QSize& pixels);
+QImage channelInitialsIcon(const QString& title, const QSize& pixels);
 
 } // namespace guide

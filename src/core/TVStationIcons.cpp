@@ -116,9 +116,7 @@ struct TVStationIcons::State {
         if (!ownFolder.isEmpty()) {
             picture = readImage(ownFolder + u'/' + channel, screenScale);
         }
-        return picture.isNull()
-                   ? channelInitialsIcon(title, ObjectId::fromHex(channel).hash(), standardSize(screenScale))
-                   : picture;
+        return picture.isNull() ? channelInitialsIcon(title, standardSize(screenScale)) : picture;
     }
 };
 

@@ -10,10 +10,10 @@ QImage GuidePictures::picture(const PictureKey& key, const QSize& pixels) {
         return m_icons.iconNamed(key.name);
     case PictureKey::Kind::Show:
         return m_shows.image(key.name);
+    case PictureKey::Kind::Initials:
+        return channelInitialsIcon(key.name, pixels.isEmpty() ? QSize(100, 72) : pixels);
     case PictureKey::Kind::None:
     case PictureKey::Kind::Bundled:
-    case PictureKey::Kind::Initials:
-        return channelInitialsIcon(key.name, qHash(key.name, 0), pixels.isEmpty() ? QSize(100, 72) : pixels);
     case PictureKey::Kind::QRCode:
         break;
     }
