@@ -173,6 +173,9 @@ TEST_F(OwnSourcesTest, ShiftsMoveTheTimesWithoutARequest) {
     OwnSource changed = *world.guide->sourceActions()->sources()->begin();
     changed.shift = 120min;
     changed.channels[0].shift = -30min;
+    // As a list that is over does; the source is not asked for it before its time.
+    world.guide->channels().channelWithChannelId(ownChannelId(source, u"c2"_s))->requireReload();
+    world.clock.advance(2min);
     actions().update(changed);
     ASSERT_TRUE(world.runUntil([&] {
         const auto shows = world.shows(ownChannelId(source, u"c1"_s));

@@ -91,13 +91,9 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
         }
         const SourceStatus status = environment.records.record(source.id).status;
         const Moment now = environment.clock.now();
-        const bool isRequested = byHand || std::ranges::any_of(items, [this](const OwnFeedItem& item) {
-                                     const auto record =
-                                         environment.channels.channelWithChannelId(item.channel);
-                                     return record && record->reloadRequired();
-                                 });
+        // A list that is over asks for a reload each time it is read. That alone must not reach the source.
         const bool isDue =
-            isSourceDue(status, now) || (isRequested && (isOwnFile(source) || mayBeAsked(status, now)));
+            isSourceDue(status, now) || (byHand && (isOwnFile(source) || mayBeAsked(status, now)));
         const bool isWanting = std::ranges::any_of(items, [this](const OwnFeedItem& item) {
             const auto record = environment.channels.channelWithChannelId(item.channel);
             return record &&
@@ -110,7 +106,7 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
                 unread.erase(item.channel);
             }
             waiting.push_back({.source = source, .items = std::move(items), .fetch = isDue});
-        } else if (isRequested) {
+        } else if (byHand) {
             answerAtOnce(items);
         }
     }
