@@ -45,6 +45,7 @@ FloatingPanel {
 
     onOpened: {
         list.currentIndex = choosing ? Math.max(0, row.row.chosen) : 0
+        list.positionViewAtIndex(list.currentIndex, ListView.Center)
         list.forceActiveFocus(Qt.TabFocusReason)
     }
 
