@@ -1123,6 +1123,34 @@ Počkejte, až se program načte.</translation>
             <numerusform>Vybráno %n kanálů</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>schedules for %n channel(s)</source>
+        <translation>
+            <numerusform>programy pro %n kanál</numerusform>
+            <numerusform>programy pro %n kanály</numerusform>
+            <numerusform>programy pro %n kanálů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 with a schedule</source>
+        <translation>%1 s programem</translation>
+    </message>
+    <message>
+        <source>Icons from other hosts</source>
+        <translation>Ikony z jiných serverů</translation>
+    </message>
+    <message>
+        <source>Feeds and playlists name icons on servers of others. These servers then learn the network address of this device and which channels you chose.</source>
+        <translation>Zdroje a seznamy uvádějí ikony na cizích serverech. Tyto servery se pak dozvědí síťovou adresu tohoto zařízení a které kanály jste si vybrali.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) of other sources lose their schedules.</source>
+        <translation>
+            <numerusform>%n kanál jiných zdrojů přijde o program.</numerusform>
+            <numerusform>%n kanály jiných zdrojů přijdou o program.</numerusform>
+            <numerusform>%n kanálů jiných zdrojů přijde o program.</numerusform>
+        </translation>
+    </message>
     <message>
         <source>%1 of %2 with shows</source>
         <translation>%1 z %2 s pořady</translation>
@@ -1324,8 +1352,12 @@ Počkejte, až se program načte.</translation>
         <translation>Načteno</translation>
     </message>
     <message>
-        <source>%1, named by the playlist. Asked when you go on.</source>
-        <translation>%1, uveden v seznamu. Dotázán, až budete pokračovat.</translation>
+        <source>Not asked</source>
+        <translation>Nedotázán</translation>
+    </message>
+    <message>
+        <source>Asked when you go on</source>
+        <translation>Dotázán, až budete pokračovat</translation>
     </message>
     <message>
         <source>Load and match now</source>

@@ -81,6 +81,20 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>schedules for %n channel(s)</source>
+        <translation>
+            <numerusform>schedules for %n channel</numerusform>
+            <numerusform>schedules for %n channels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) of other sources lose their schedules.</source>
+        <translation>
+            <numerusform>%n channel of another source loses its schedule.</numerusform>
+            <numerusform>%n channels of other sources lose their schedules.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>Search %n channel(s)</source>
         <translation>
             <numerusform>Search %n channel</numerusform>

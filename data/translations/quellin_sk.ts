@@ -1123,6 +1123,34 @@ Počkajte, kým sa program načíta.</translation>
             <numerusform>Vybraných %n kanálov</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>schedules for %n channel(s)</source>
+        <translation>
+            <numerusform>programy pre %n kanál</numerusform>
+            <numerusform>programy pre %n kanály</numerusform>
+            <numerusform>programy pre %n kanálov</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 with a schedule</source>
+        <translation>%1 s programom</translation>
+    </message>
+    <message>
+        <source>Icons from other hosts</source>
+        <translation>Ikony z iných serverov</translation>
+    </message>
+    <message>
+        <source>Feeds and playlists name icons on servers of others. These servers then learn the network address of this device and which channels you chose.</source>
+        <translation>Zdroje a zoznamy uvádzajú ikony na cudzích serveroch. Tieto servery sa potom dozvedia sieťovú adresu tohto zariadenia a ktoré kanály ste si vybrali.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel(s) of other sources lose their schedules.</source>
+        <translation>
+            <numerusform>%n kanál iných zdrojov príde o program.</numerusform>
+            <numerusform>%n kanály iných zdrojov prídu o program.</numerusform>
+            <numerusform>%n kanálov iných zdrojov príde o program.</numerusform>
+        </translation>
+    </message>
     <message>
         <source>%1 of %2 with shows</source>
         <translation>%1 z %2 s reláciami</translation>
@@ -1324,8 +1352,12 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Načítané</translation>
     </message>
     <message>
-        <source>%1, named by the playlist. Asked when you go on.</source>
-        <translation>%1, uvedený v zozname. Opýtaný, keď budete pokračovať.</translation>
+        <source>Not asked</source>
+        <translation>Neopýtaný</translation>
+    </message>
+    <message>
+        <source>Asked when you go on</source>
+        <translation>Opýtaný, keď budete pokračovať</translation>
     </message>
     <message>
         <source>Load and match now</source>

@@ -140,11 +140,13 @@ void QuellinGuideAppDelegate::makeOwnSources() {
         .fetcher = *m_sourceFetcher,
         .programs = *m_environment.programs,
         .updates = *m_ownSourceUpdates,
+        .settings = m_settings,
         .caches = caches,
         .select = [this](const std::vector<ObjectId>& channels) { m_selectionEditor->add(channels); },
         .unselect = [this](const std::vector<ObjectId>& channels) { m_selectionEditor->remove(channels); },
         .forget =
             [this](const std::vector<ObjectId>& channels) { m_selectionEditor->removeForGood(channels); },
+        .fetchIcons = [this] { fetchOwnIcons(); },
         .stopped = [this] { return m_isShuttingDown.load(); },
     });
     m_channelIcons = std::make_unique<ChannelIconFetcher>(ChannelIconEnvironment{

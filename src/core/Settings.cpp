@@ -36,6 +36,10 @@ bool Settings::iconsFromOtherHosts() const {
     return m_userDefaults.boolForKey(u"own_icons_from_other_hosts"_s).value_or(false);
 }
 
+void Settings::setIconsFromOtherHosts(bool on) {
+    m_userDefaults.setBool(u"own_icons_from_other_hosts"_s, on);
+}
+
 int Settings::showCount() const {
     const auto stored =
         static_cast<std::uint8_t>(m_userDefaults.integerForKey(u"currently_show_count"_s).value_or(0) & 0xff);

@@ -19,6 +19,7 @@ class Settings {
     /// "own_icons_from_other_hosts": whether the icons of the user's own channels are fetched from hosts
     /// other than those of their feeds and playlists; default false.
     bool iconsFromOtherHosts() const;
+    void setIconsFromOtherHosts(bool on);
 
     /// "currently_show_count": how many shows per channel the now-on-air list holds, 1 to 255.
     int showCount() const;

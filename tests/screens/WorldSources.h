@@ -159,6 +159,9 @@ struct WorldSources final : SourceActions {
         return found == states.end() ? SourceStatus() : found->second;
     }
 
+    bool iconsFromOtherHosts() const override { return otherHosts; }
+    void setIconsFromOtherHosts(bool on) override { otherHosts = on; }
+
     /// Answers the latest question, unless it was cancelled.
     void answer(const SourceProposal& proposal) {
         ASSERT_TRUE(proposed);
@@ -180,6 +183,7 @@ struct WorldSources final : SourceActions {
     Proposed proposed;
     std::weak_ptr<void> asked;
     QStringList done;
+    bool otherHosts = false;
 
   private:
     Token ask(Progress ownProgress, Proposed ownProposed) {
@@ -198,6 +202,7 @@ struct WorldSources final : SourceActions {
             const auto match = std::ranges::find(matches, key, &MatchedEntry::key);
             if (match != matches.end()) {
                 channel.guide = match->guide;
+                channel.language = match->guideLanguage;
             }
             source.channels.push_back(channel);
         }

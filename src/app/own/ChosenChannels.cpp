@@ -22,7 +22,9 @@ OwnChannel channelOf(const OwnSourceId& source, const PreviewChannel& channel) {
 OwnChannel channelOf(const MatchedEntry& entry) {
     return {.key = entry.key,
             .title = entry.entry.name.isEmpty() ? entry.entry.guideName : entry.entry.name,
-            .language = entry.entry.language.size() == 2 ? entry.entry.language : QString(),
+            .language = !entry.guideLanguage.isEmpty()     ? entry.guideLanguage
+                        : entry.entry.language.size() == 2 ? entry.entry.language
+                                                           : QString(),
             .shift = std::chrono::minutes(qRound(entry.entry.shift * 60)),
             .icon = entry.entry.logo,
             .stream = entry.entry.stream,

@@ -29,6 +29,8 @@ struct OwnSourceService::Content {
     QByteArray etag;
     QByteArray lastModified;
     QString charset;
+    /// What a program said.
+    QString output;
 
     Content() = default;
     Content(const Content&) = delete;
@@ -170,6 +172,7 @@ SourceProposal OwnSourceService::proposal(const QString& input, const Work& work
     content->etag = fetched.etag;
     content->lastModified = fetched.lastModified;
     content->charset = fetched.charset;
+    content->output = fetched.output;
     proposal.preview = sourcePreview(fetched.path, previewRequest(fetched.charset, {}, work));
     proposal.kind = kindOf(whole, proposal.preview.kind);
     if (!proposal.preview.playlist.name.isEmpty()) {
@@ -270,7 +273,7 @@ OwnSourceId OwnSourceService::add(const SourceProposal& proposal, const OwnSourc
     const Moment now = m_environment.clock.now();
     const bool isList = source.kind == OwnSourceKind::Playlist;
     const int entries = static_cast<int>(preview.playlist.entries.size());
-    record.status = {.result = SourceResult::Read,
+    record.status = {.result = preview.result,
                      .detail = {},
                      .lastTry = now,
                      .lastSuccess = now,
@@ -282,7 +285,7 @@ OwnSourceId OwnSourceService::add(const SourceProposal& proposal, const OwnSourc
                      .unpackedBytes = preview.unpackedBytes,
                      .keptBack = {},
                      .missing = {},
-                     .output = {}};
+                     .output = content ? content->output : QString()};
     m_environment.records.set(source.id, std::move(record));
     m_environment.sources.put(source);
     m_environment.select(idsOf(source));
@@ -401,6 +404,7 @@ SourceActions::Token OwnSourceService::match(const Playlist& playlist,
                                    .match = found[i].kind,
                                    .corrected = false,
                                    .guide = {},
+                                   .guideLanguage = {},
                                    .candidates = {}};
                 if (found[i].channel >= 0) {
                     entry.guide = guideOf(found[i].channel);
@@ -430,6 +434,11 @@ SourceActions::Token OwnSourceService::channelsOf(const OwnSourceId& feed,
 
 SourceStatus OwnSourceService::status(const OwnSourceId& source) const {
     return m_environment.records.record(source).status;
+}
+
+void OwnSourceService::setIconsFromOtherHosts(bool on) {
+    m_environment.settings.setIconsFromOtherHosts(on);
+    m_environment.fetchIcons();
 }
 
 } // namespace guide

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/own/OwnSourceUpdates.h"
+#include "core/Settings.h"
 #include "parsers/own/SourcePreviewReader.h"
 #include "screens/sources/SourceActions.h"
 
@@ -22,12 +23,15 @@ struct OwnSourceServiceEnvironment {
     const SourceFetcher& fetcher;
     ProgramRunner& programs;
     OwnSourceUpdates& updates;
+    Settings& settings;
     QString caches;
     /// Puts channels into the selection, or takes them out, as the user's own choice. Main queue.
     std::function<void(const std::vector<ObjectId>&)> select;
     std::function<void(const std::vector<ObjectId>&)> unselect;
     /// The same for channels that will not come back.
     std::function<void(const std::vector<ObjectId>&)> forget;
+    /// Other icons may be fetched than before. Main queue.
+    std::function<void()> fetchIcons;
     /// The program is shutting down. Any thread.
     std::function<bool()> stopped;
 };
@@ -61,6 +65,9 @@ class OwnSourceService final : public SourceActions {
                      std::function<void(std::vector<PreviewChannel>)> answered) override;
 
     SourceStatus status(const OwnSourceId& source) const override;
+
+    bool iconsFromOtherHosts() const override { return m_environment.settings.iconsFromOtherHosts(); }
+    void setIconsFromOtherHosts(bool on) override;
 
     /// Waits for what runs in the background. Transfers must have been cancelled.
     bool finish(std::chrono::milliseconds atMost) { return m_blocks.wait(atMost); }

@@ -119,8 +119,10 @@ Row EditChannelListViewController::channelRow(const ObjectId& channel,
             facts << scheduleAgeText(*loaded, now);
         }
         if (!failure && !loaded) {
-            row.accessory = Accessory::Spinner;
-            facts << Localized::tr("No schedule yet");
+            // An entry of a playlist may have no schedule at all.
+            const bool isExpected = !channel.isOwn() || record->loading();
+            row.accessory = isExpected ? Accessory::Spinner : Accessory::None;
+            facts << (isExpected ? Localized::tr("No schedule yet") : Localized::tr("No schedule"));
         }
         facts.removeAll(QString());
         row.subtitle = facts.join(u" · "_s);

@@ -5,6 +5,9 @@
 #include "screens/sources/SourceTexts.h"
 #include "text/search/FoldedText.h"
 
+#include <QRegularExpression>
+#include <QSet>
+
 #include <algorithm>
 #include <utility>
 
@@ -21,6 +24,19 @@ constexpr auto kFound = "found"_L1;
 constexpr auto kNone = "none"_L1;
 /// Nobody looks through more; the search narrows them down.
 constexpr std::size_t kMostFound = 300;
+/// Shorter words, such as "TV" and "HD", are in too many names.
+constexpr qsizetype kShortestWord = 3;
+
+QSet<QString> longWords(const QString& names) {
+    static const QRegularExpression separators(u"[^\\p{L}\\p{N}]+"_s);
+    QSet<QString> words;
+    for (const QString& word : foldedText(names).split(separators, Qt::SkipEmptyParts)) {
+        if (word.size() >= kShortestWord) {
+            words.insert(word);
+        }
+    }
+    return words;
+}
 
 } // namespace
 
@@ -162,9 +178,24 @@ Row MatchChoiceViewController::channelRow(const SectionId& section, const OwnSou
             .selectable = true};
 }
 
+/// What to offer where nothing comes near.
+std::vector<GuideChannel> MatchChoiceViewController::withAWordOf(const QString& name) const {
+    const QSet<QString> wanted = longWords(name);
+    std::vector<GuideChannel> channels;
+    for (const auto& [source, feed] : m_matches->matched().feeds) {
+        for (const PreviewChannel& channel : feed->channels()) {
+            if (channels.size() < kMostFound && longWords(channel.names.join(u' ')).intersects(wanted)) {
+                channels.push_back({source, channel.id});
+            }
+        }
+    }
+    return channels;
+}
+
 std::vector<Section> MatchChoiceViewController::candidates(const MatchedEntry& entry) const {
     Section near{.id = kReview, .header = Localized::tr("Channels that come near")};
-    std::vector<GuideChannel> offered = entry.candidates;
+    std::vector<GuideChannel> offered =
+        entry.candidates.empty() && !entry.guide ? withAWordOf(entry.entry.name) : entry.candidates;
     if (entry.guide && std::ranges::find(offered, *entry.guide) == offered.end()) {
         offered.insert(offered.begin(), *entry.guide);
     }

@@ -50,6 +50,7 @@ class MatchChoiceViewController final : public TableViewController {
     Row channelRow(const SectionId& section, const OwnSourceId& source, const FeedChannels& feed,
                    const PreviewChannel& channel) const;
     std::vector<Section> candidates(const MatchedEntry& entry) const;
+    std::vector<GuideChannel> withAWordOf(const QString& name) const;
     std::vector<Section> found(const QString& pattern) const;
 
     const std::shared_ptr<const ScreenEnvironment> m_environment;

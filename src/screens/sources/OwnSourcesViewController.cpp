@@ -20,6 +20,8 @@ const SectionId& section() {
     return id;
 }
 
+constexpr auto kIcons = "icons"_L1;
+
 } // namespace
 
 OwnSourcesViewController::OwnSourcesViewController(std::shared_ptr<const ScreenEnvironment> environment,
@@ -63,7 +65,22 @@ void OwnSourcesViewController::show() {
     for (Line& line : lines) {
         rows.rows.push_back(std::move(line.row));
     }
-    table().setSections({std::move(rows)});
+    table().setSections({std::move(rows), iconSection()});
+}
+
+Section OwnSourcesViewController::iconSection() const {
+    const SourceActions& actions = *m_environment->sourceActions;
+    Section icons{.id = kIcons};
+    if (actions.sources()->empty()) {
+        return icons;
+    }
+    icons.footer =
+        Localized::tr("Feeds and playlists name icons on servers of others. These servers then learn "
+                      "the network address of this device and which channels you chose.");
+    icons.rows.push_back(
+        {.id = {icons.id, QString(kIcons)},
+         .content = SwitchRow{Localized::tr("Icons from other hosts"), {}, actions.iconsFromOtherHosts()}});
+    return icons;
 }
 
 Row OwnSourcesViewController::sourceRow(const OwnSource& source) const {
@@ -73,23 +90,37 @@ Row OwnSourcesViewController::sourceRow(const OwnSource& source) const {
     if (problem) {
         lines << sourceResultText(status.result, status.detail);
     }
-    QStringList counts{
-        Localized::tr("%n channel(s) chosen", nullptr, static_cast<int>(source.channels.size()))};
-    if (status.channels > 0) {
+    const int served = servedChannels(source.id, *m_environment->sourceActions->sources());
+    QStringList counts;
+    if (!source.channels.empty() || served == 0) {
+        counts << Localized::tr("%n channel(s) chosen", nullptr, static_cast<int>(source.channels.size()));
+    }
+    if (served > 0) {
+        counts << Localized::tr("schedules for %n channel(s)", nullptr, served);
+    }
+    if (status.channels > 0 && source.kind == OwnSourceKind::Playlist) {
+        const auto scheduled = std::ranges::count_if(
+            source.channels, [](const OwnChannel& channel) { return channel.guide.has_value(); });
+        counts << Localized::tr("%1 with a schedule")
+                      .arg(m_environment->device.locale().toString(qlonglong(scheduled)));
+    } else if (status.channels > 0) {
         counts << Localized::tr("%1 of %2 with shows")
                       .arg(m_environment->device.locale().toString(status.channelsWithShows),
                            m_environment->device.locale().toString(status.channels));
     }
     lines << counts.join(u" · "_s);
+    const auto time = [this](Moment moment) {
+        return nearDayAndTime(moment, m_environment->clock.now(), m_environment->device);
+    };
     QStringList times;
     if (status.running) {
         times << Localized::tr("being read");
     } else {
         if (status.lastSuccess) {
-            times << Localized::tr("from %1").arg(dayAndTime(*status.lastSuccess, m_environment->device));
+            times << Localized::tr("from %1").arg(time(*status.lastSuccess));
         }
         if (status.nextTry) {
-            times << Localized::tr("next try %1").arg(dayAndTime(*status.nextTry, m_environment->device));
+            times << Localized::tr("next try %1").arg(time(*status.nextTry));
         }
     }
     lines << times.join(u" · "_s);
@@ -104,6 +135,11 @@ Row OwnSourcesViewController::sourceRow(const OwnSource& source) const {
 }
 
 void OwnSourcesViewController::rowEvent(const RowId& id, const RowEvent& event) {
+    if (const auto* toggled = std::get_if<Toggled>(&event)) {
+        m_environment->sourceActions->setIconsFromOtherHosts(toggled->on);
+        show();
+        return;
+    }
     const auto source = OwnSourceId::fromHex(*id.name());
     NavigationController* navigation = navigationController();
     if (source && navigation && std::holds_alternative<Tapped>(event)) {

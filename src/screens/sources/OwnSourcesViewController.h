@@ -26,6 +26,7 @@ class OwnSourcesViewController final : public ListingsScreen {
 
   private:
     void show();
+    Section iconSection() const;
     Row sourceRow(const OwnSource& source) const;
     void add();
 

@@ -68,11 +68,20 @@ void PlaylistMatches::loadFeeds() {
 void PlaylistMatches::finishIfComplete() {
     if (!m_matching && m_loading.empty()) {
         m_ready = true;
+        for (MatchedEntry& entry : m_matched.entries) {
+            takeLanguage(entry);
+        }
         tellObserver();
         if (const auto matched = std::exchange(m_matchedOnce, nullptr)) {
             matched();
         }
     }
+}
+
+/// The feed's shows tell it better than the playlist.
+void PlaylistMatches::takeLanguage(MatchedEntry& entry) const {
+    const PreviewChannel* channel = entry.guide ? m_matched.channel(*entry.guide) : nullptr;
+    entry.guideLanguage = channel ? channel->language : QString();
 }
 
 void PlaylistMatches::tellObserver() const {
@@ -115,6 +124,7 @@ void PlaylistMatches::correct(const QString& key, const std::optional<GuideChann
     entry->guide = guide;
     entry->match = guide ? MatchKind::Name : MatchKind::None;
     entry->corrected = true;
+    takeLanguage(*entry);
     std::erase_if(m_corrections, [&key](const GuideCorrection& each) { return each.key == key; });
     m_corrections.push_back({key, guide});
     tellObserver();

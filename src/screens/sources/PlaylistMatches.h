@@ -68,6 +68,7 @@ class PlaylistMatches : public std::enable_shared_from_this<PlaylistMatches> {
   private:
     void loadFeeds();
     void finishIfComplete();
+    void takeLanguage(MatchedEntry& entry) const;
     void tellObserver() const;
 
     SourceActions& m_actions;

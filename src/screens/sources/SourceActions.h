@@ -38,6 +38,8 @@ struct MatchedEntry {
     /// The user decided, not the match.
     bool corrected = false;
     std::optional<GuideChannel> guide;
+    /// Of the shows of that channel; empty when it is not known.
+    QString guideLanguage;
     std::vector<GuideChannel> candidates;
 };
 
@@ -102,6 +104,10 @@ class SourceActions {
                              std::function<void(std::vector<PreviewChannel>)> answered) = 0;
 
     virtual SourceStatus status(const OwnSourceId& source) const = 0;
+
+    /// Whether icons are fetched from hosts other than those of the sources.
+    virtual bool iconsFromOtherHosts() const = 0;
+    virtual void setIconsFromOtherHosts(bool on) = 0;
 };
 
 } // namespace guide

@@ -119,8 +119,9 @@ std::shared_ptr<const SourceChannelGroups> SourceChannelGroups::ofPlaylist(const
         made->m_channels.push_back({.key = entry.key,
                                     .title = entry.entry.name,
                                     .detail = !onNow.isEmpty() ? onNow
-                                              : entry.guide    ? QString()
-                                                               : Localized::tr("No schedule"),
+                                              : entry.guide || playlist.feeds.empty()
+                                                  ? QString()
+                                                  : Localized::tr("No schedule"),
                                     .indexTitle = {},
                                     .icon = {PictureKey::Kind::Initials, entry.entry.name},
                                     .hasShows = entry.guide.has_value()});

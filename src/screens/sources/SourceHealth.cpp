@@ -33,13 +33,13 @@ std::vector<SourceFact> sourceFacts(const OwnSource& source, const SourceStatus&
     addMoment("success", Localized::tr("Last success"), status.lastSuccess);
     addMoment("next", Localized::tr("Next try"), status.nextTry);
     if (status.channels > 0) {
-        facts.push_back(
-            {"counts", Localized::tr("In the source"),
-             QStringList{Localized::tr("%n channel(s)", nullptr, status.channels),
-                         Localized::tr("%1 with shows").arg(locale.toString(status.channelsWithShows)),
-                         Localized::tr("%n show(s)", nullptr, status.shows),
-                         locale.formattedDataSize(status.unpackedBytes, 1, QLocale::DataSizeSIFormat)}
-                 .join(u" · "_s)});
+        QStringList counts{Localized::tr("%n channel(s)", nullptr, status.channels)};
+        if (source.kind != OwnSourceKind::Playlist) {
+            counts << Localized::tr("%1 with shows").arg(locale.toString(status.channelsWithShows))
+                   << Localized::tr("%n show(s)", nullptr, status.shows);
+        }
+        counts << locale.formattedDataSize(status.unpackedBytes, 1, QLocale::DataSizeSIFormat);
+        facts.push_back({"counts", Localized::tr("In the source"), counts.join(u" · "_s)});
     }
     facts.push_back({"chosen", Localized::tr("Chosen"),
                      Localized::tr("%n channel(s)", nullptr, static_cast<int>(source.channels.size())),
@@ -50,7 +50,10 @@ std::vector<SourceFact> sourceFacts(const OwnSource& source, const SourceStatus&
                          titlesText(status.keptBack)});
     }
     if (!status.missing.isEmpty()) {
-        facts.push_back({"missing", Localized::tr("No longer in the source"), titlesText(status.missing)});
+        facts.push_back({"missing",
+                         source.kind == OwnSourceKind::Playlist ? Localized::tr("No longer in the source")
+                                                                : Localized::tr("Without shows"),
+                         titlesText(status.missing)});
     }
     return facts;
 }

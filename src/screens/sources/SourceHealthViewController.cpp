@@ -121,9 +121,11 @@ Section SourceHealthViewController::factSection(const OwnSource& source, const S
 
 Section SourceHealthViewController::actionSection(const OwnSource& source, const SourceStatus& status) const {
     Section section{.id = kActions};
-    if (!status.running) {
-        section.rows.push_back(actionRow(section.id, kRefresh, Localized::tr("Refresh now")));
-    }
+    // It stays, so that the rows below do not move under a finger.
+    section.rows.push_back(
+        {.id = {section.id, QString(kRefresh)},
+         .content = ButtonRow{.title = Localized::tr("Refresh now"), .enabled = !status.running},
+         .selectable = !status.running});
     section.rows.push_back(
         actionRow(section.id, kChoose, Localized::tr("Choose channels"), Accessory::Disclosure));
     if (source.kind == OwnSourceKind::Playlist) {
@@ -288,6 +290,9 @@ void SourceHealthViewController::matchesChanged() {
     for (OwnChannel& channel : changed->channels) {
         if (const MatchedEntry* entry = m_matches->find(channel.key)) {
             channel.guide = entry->guide;
+            if (!channel.languageCorrected && !entry->guideLanguage.isEmpty()) {
+                channel.language = entry->guideLanguage;
+            }
         }
     }
     actions().update(*changed);
@@ -306,9 +311,17 @@ void SourceHealthViewController::askToRemove() {
     if (!shown) {
         return;
     }
+    const int served = servedChannels(m_source, *actions().sources());
+    QStringList losses;
+    if (!shown->channels.empty() || served == 0) {
+        losses << Localized::tr("%n channel(s) and their shows go with it.", nullptr,
+                                static_cast<int>(shown->channels.size()));
+    }
+    if (served > 0) {
+        losses << Localized::tr("%n channel(s) of other sources lose their schedules.", nullptr, served);
+    }
     m_environment->navigation.presentAlert({Localized::tr("Remove “%1”?").arg(shown->name),
-                                            Localized::tr("%n channel(s) and their shows go with it.",
-                                                          nullptr, static_cast<int>(shown->channels.size())),
+                                            losses.join(u' '),
                                             {{Localized::tr("Cancel"), AlertAction::Style::Cancel},
                                              {Localized::tr("Remove"), AlertAction::Style::Destructive,
                                               [weak = weakFromThis<SourceHealthViewController>()] {

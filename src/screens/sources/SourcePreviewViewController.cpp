@@ -36,7 +36,7 @@ QString languagesText(const QMap<QString, int>& languages, const QLocale& locale
     std::ranges::stable_sort(sorted, [](const auto& a, const auto& b) { return a.second > b.second; });
     QStringList texts;
     for (const auto& [language, count] : sorted) {
-        texts << languageText(language, locale) + u' ' + locale.toString(count);
+        texts << languageText(language, locale) + QChar(QChar::Nbsp) + locale.toString(count);
     }
     return texts.join(u", "_s);
 }
@@ -90,12 +90,13 @@ Section SourcePreviewViewController::sourceSection() const {
     if (preview.first && preview.last) {
         facts = {Localized::tr("%n show(s)", nullptr, preview.shows),
                  locale.formattedDataSize(preview.unpackedBytes, 1, QLocale::DataSizeSIFormat)};
+        const auto time = [this](Moment moment) {
+            return nearDayAndTime(moment + m_shift, environment().clock.now(), environment().device);
+        };
         const QString languages = languagesText(preview.languages, locale);
         section.rows.push_back(textRow(
             section.id, u"shows"_s,
-            {.title = Localized::tr("From %1 to %2")
-                          .arg(dayAndTime(*preview.first + m_shift, environment().device),
-                               dayAndTime(*preview.last + m_shift, environment().device)),
+            {.title = Localized::tr("From %1 to %2").arg(time(*preview.first), time(*preview.last)),
              .subtitle = facts.join(u" · "_s) + (languages.isEmpty() ? QString() : u'\n' + languages)}));
     }
     return section;
@@ -149,17 +150,18 @@ Section SourcePreviewViewController::scheduleSection() const {
     for (std::size_t place = 0; place < m_feeds->feeds().size(); ++place) {
         const PlaylistFeeds::Feed& feed = m_feeds->feeds()[place];
         const QString file = feed.address.section(u'?', 0, 0).section(u'/', -1);
-        section.rows.push_back(textRow(
-            section.id, kFeed + QString::number(place),
-            {.title = shortAddress(feed.address),
-             .subtitle = !feed.problem.isEmpty() ? feed.problem
-                         : feed.loaded
-                             ? Localized::tr("Loaded")
-                             : Localized::tr("%1, named by the playlist. Asked when you go on.").arg(file),
-             .titleColor = feed.problem.isEmpty() ? ColorRole::Label : ColorRole::Alarm,
-             .checked = feed.ticked,
-             .symbol = feed.problem.isEmpty() ? std::nullopt : std::optional(Symbol::Warning)},
-            !feed.loaded && !loading));
+        const QString state = !feed.problem.isEmpty() ? feed.problem
+                              : feed.loaded           ? Localized::tr("Loaded")
+                              : feed.ticked           ? Localized::tr("Asked when you go on")
+                                                      : Localized::tr("Not asked");
+        section.rows.push_back(
+            textRow(section.id, kFeed + QString::number(place),
+                    {.title = shortAddress(feed.address),
+                     .subtitle = file.isEmpty() ? state : file + u" · "_s + state,
+                     .titleColor = feed.problem.isEmpty() ? ColorRole::Label : ColorRole::Alarm,
+                     .checked = feed.ticked,
+                     .symbol = feed.problem.isEmpty() ? std::nullopt : std::optional(Symbol::Warning)},
+                    !feed.loaded && !loading));
     }
     if (loading) {
         const QLocale locale = environment().device.locale();

@@ -25,6 +25,9 @@ constexpr std::array kLanguages{
     "fr"_L1, "he"_L1, "hr"_L1, "hu"_L1, "is"_L1, "it"_L1, "lt"_L1, "lv"_L1, "mk"_L1, "nl"_L1, "no"_L1,
     "pl"_L1, "pt"_L1, "ro"_L1, "ru"_L1, "sk"_L1, "sl"_L1, "sq"_L1, "sr"_L1, "sv"_L1, "tr"_L1, "uk"_L1};
 
+/// So many days from today, a weekday tells the day.
+constexpr qint64 kNearDays = 6;
+
 QString statusText(const QString& status) {
     const int number = status.toInt();
     if (number == 401 || number == 403) {
@@ -192,6 +195,18 @@ std::vector<QString> languageChoices(const QString& current, const QLocale& loca
     return codes;
 }
 
+int servedChannels(const OwnSourceId& feed, const std::vector<OwnSource>& sources) {
+    std::ptrdiff_t count = 0;
+    for (const OwnSource& source : sources) {
+        if (source.id != feed) {
+            count += std::ranges::count_if(source.channels, [&feed](const OwnChannel& channel) {
+                return channel.guide && channel.guide->source == feed;
+            });
+        }
+    }
+    return static_cast<int>(count);
+}
+
 // ---- times and addresses
 
 QString timeOfDay(Moment moment, const Device& device) {
@@ -204,6 +219,14 @@ QString dayAndTime(Moment moment, const Device& device) {
     const QDate date = localTime(device, moment).date();
     return locale.dayName(date.dayOfWeek(), QLocale::ShortFormat) + u' ' +
            locale.toString(date, QLocale::ShortFormat) + u' ' + timeOfDay(moment, device);
+}
+
+QString nearDayAndTime(Moment moment, Moment now, const Device& device) {
+    const QDate date = localTime(device, moment).date();
+    const qint64 days = localTime(device, now).date().daysTo(date);
+    return std::abs(days) > kNearDays ? dayAndTime(moment, device)
+                                      : device.locale().dayName(date.dayOfWeek(), QLocale::ShortFormat) +
+                                            u' ' + timeOfDay(moment, device);
 }
 
 QString onNowText(const std::optional<PreviewShow>& show, std::chrono::minutes shift, const Device& device) {

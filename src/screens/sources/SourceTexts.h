@@ -30,8 +30,13 @@ std::vector<QString> languageChoices(const QString& current, const QLocale& loca
 /// "Unknown" for none.
 QString languageText(const QString& language, const QLocale& locale);
 
+/// How many channels of other sources take their schedules from it.
+int servedChannels(const OwnSourceId& feed, const std::vector<OwnSource>& sources);
+
 /// Weekday, date and time, in short forms.
 QString dayAndTime(Moment moment, const Device& device);
+/// The same without the date for the six days before and after today.
+QString nearDayAndTime(Moment moment, Moment now, const Device& device);
 QString timeOfDay(Moment moment, const Device& device);
 /// What is on, for the second line of a channel; empty for nothing.
 QString onNowText(const std::optional<PreviewShow>& show, std::chrono::minutes shift, const Device& device);
