@@ -1351,6 +1351,14 @@ Počkejte, až se program načte.</translation>
         <source>Loaded</source>
         <translation>Načteno</translation>
     </message>
+    <message numerus="yes">
+        <source>Show all %n feed(s)</source>
+        <translation>
+            <numerusform>Zobrazit %n zdroj</numerusform>
+            <numerusform>Zobrazit všechny %n zdroje</numerusform>
+            <numerusform>Zobrazit všech %n zdrojů</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Not asked</source>
         <translation>Nedotázán</translation>

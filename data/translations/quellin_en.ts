@@ -81,6 +81,13 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>Show all %n feed(s)</source>
+        <translation>
+            <numerusform>Show %n feed</numerusform>
+            <numerusform>Show all %n feeds</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>schedules for %n channel(s)</source>
         <translation>
             <numerusform>schedules for %n channel</numerusform>

@@ -1351,6 +1351,14 @@ Počkajte, kým sa program načíta.</translation>
         <source>Loaded</source>
         <translation>Načítané</translation>
     </message>
+    <message numerus="yes">
+        <source>Show all %n feed(s)</source>
+        <translation>
+            <numerusform>Zobraziť %n zdroj</numerusform>
+            <numerusform>Zobraziť všetky %n zdroje</numerusform>
+            <numerusform>Zobraziť všetkých %n zdrojov</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Not asked</source>
         <translation>Neopýtaný</translation>

@@ -284,6 +284,21 @@ TEST_F(OwnSourcesTest, APlaylistLoadsTheFeedThatItNamesWhenTheUserGoesOn) {
     EXPECT_FALSE(sources.list[1].channels[1].guide) << "to be reviewed";
 }
 
+TEST_F(OwnSourcesTest, OfManyFeedsThatOfThePlaylistsCountryIsOffered) {
+    QStringList addresses;
+    for (const char* name : {"AL1", "SKYNEWS1", "DE1", "sk2", "FR1", "IT1", "ES1"}) {
+        addresses << u"https://guide.example/all_%1.xml.gz"_s.arg(QLatin1StringView(name));
+    }
+    SourceProposal proposal = playlistProposal({u"Nova"_s, u"Alfa"_s}, addresses);
+    proposal.preview.playlist.entries[0].country = u"SK"_s;
+    openPreview(proposal);
+    tap(u"Show all 7 feed(s)"_s);
+    EXPECT_EQ(titles().count(u"guide.example"_s), 7);
+    takeDone();
+    tap(u"Load and match now"_s);
+    EXPECT_EQ(takeDone(), QStringList{u"ask "_s + addresses[3]});
+}
+
 TEST_F(OwnSourcesTest, CorrectionsOfMatchesAreKeptAndFeedsOfAnAbandonedPlaylistAreNot) {
     openPreview(playlistProposal({u"Nova"_s, u"Alfa HD"_s, u"Radio"_s}, {u"https://guide.example/a.xml"_s}));
     tap(u"Load and match now"_s);

@@ -2,20 +2,60 @@
 
 #include "screens/sources/SourceTexts.h"
 
+#include <QHash>
+#include <QRegularExpression>
+#include <QUrl>
+
 #include <algorithm>
 #include <utility>
 
 namespace guide {
 
-PlaylistFeeds::PlaylistFeeds(SourceActions& actions, const QStringList& addresses)
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Lists with more of them name the feeds of the whole world.
+constexpr std::size_t kFewFeeds = 3;
+
+/// The country of most entries; empty when none has one.
+QString commonCountry(const Playlist& playlist) {
+    QHash<QString, int> counts;
+    QString common;
+    for (const PlaylistEntry& entry : playlist.entries) {
+        if (entry.country.size() == 2 && ++counts[entry.country] > counts.value(common)) {
+            common = entry.country;
+        }
+    }
+    return common;
+}
+
+/// Whether the file of the address is named after the country, as in "guide_SK1.xml.gz".
+bool isOfCountry(const QString& address, const QString& country) {
+    const QRegularExpression name(
+        u"(^|[^a-z])%1[0-9]*([^a-z0-9]|$)"_s.arg(QRegularExpression::escape(country)),
+        QRegularExpression::CaseInsensitiveOption);
+    return !country.isEmpty() && name.match(QUrl(address).fileName()).hasMatch();
+}
+
+} // namespace
+
+PlaylistFeeds::PlaylistFeeds(SourceActions& actions, const Playlist& playlist)
     : m_actions(actions) {
     const SharedOwnSources sources = actions.sources();
-    for (const QString& address : addresses) {
+    for (const QString& address : playlist.feeds) {
         const bool known = std::ranges::find(*sources, address, &OwnSource::address) != sources->end();
         m_feeds.push_back({.address = address, .ticked = known, .loaded = known, .problem = {}});
     }
     // Most lists name one feed, which is what the user wants; it is loaded when the user goes on.
-    if (!m_feeds.empty()) {
+    if (m_feeds.size() > kFewFeeds) {
+        const QString country = commonCountry(playlist);
+        const auto others = std::ranges::stable_partition(
+            m_feeds, [&country](const Feed& feed) { return isOfCountry(feed.address, country); });
+        if (others.begin() != m_feeds.begin()) {
+            m_feeds.front().ticked = true;
+        }
+    } else if (!m_feeds.empty()) {
         m_feeds.front().ticked = true;
     }
 }

@@ -21,7 +21,7 @@ class PlaylistFeeds : public std::enable_shared_from_this<PlaylistFeeds> {
     };
 
     /// The actions must outlive it.
-    PlaylistFeeds(SourceActions& actions, const QStringList& addresses);
+    PlaylistFeeds(SourceActions& actions, const Playlist& playlist);
     ~PlaylistFeeds();
     PlaylistFeeds(const PlaylistFeeds&) = delete;
     PlaylistFeeds& operator=(const PlaylistFeeds&) = delete;

@@ -22,6 +22,9 @@ constexpr auto kSchedule = "schedule"_L1;
 constexpr auto kName = "name"_L1;
 constexpr auto kShift = "shift"_L1;
 constexpr auto kFeed = "feed "_L1;
+/// Of the feeds that a playlist names, before the user asks for all.
+constexpr std::size_t kMostFeeds = 5;
+constexpr auto kAllFeeds = "all feeds"_L1;
 constexpr auto kMatch = "match"_L1;
 constexpr auto kReview = "review"_L1;
 constexpr auto kCancel = "cancel"_L1;
@@ -48,7 +51,7 @@ SourcePreviewViewController::SourcePreviewViewController(std::shared_ptr<const S
     : SourceChannelsViewController(std::move(environment))
     , m_name(proposal.name) {
     if (proposal.preview.kind == SourceKind::Playlist) {
-        m_feeds = std::make_shared<PlaylistFeeds>(actions(), proposal.preview.playlist.feeds);
+        m_feeds = std::make_shared<PlaylistFeeds>(actions(), proposal.preview.playlist);
     }
     propose(std::move(proposal));
 }
@@ -90,8 +93,11 @@ Section SourcePreviewViewController::sourceSection() const {
     if (preview.first && preview.last) {
         facts = {Localized::tr("%n show(s)", nullptr, preview.shows),
                  locale.formattedDataSize(preview.unpackedBytes, 1, QLocale::DataSizeSIFormat)};
-        const auto time = [this](Moment moment) {
-            return nearDayAndTime(moment + m_shift, environment().clock.now(), environment().device);
+        // Over more days, the same weekday would come twice.
+        const bool isShort = *preview.last - *preview.first < std::chrono::days(6);
+        const auto time = [this, isShort](Moment moment) {
+            return isShort ? nearDayAndTime(moment + m_shift, environment().clock.now(), environment().device)
+                           : dayAndTime(moment + m_shift, environment().device);
         };
         const QString languages = languagesText(preview.languages, locale);
         section.rows.push_back(textRow(
@@ -147,8 +153,12 @@ Section SourcePreviewViewController::scheduleSection() const {
     }
     section.header = Localized::tr("Schedules");
     const bool loading = m_feeds->loading();
+    const bool isFolded = !m_showsAllFeeds && m_feeds->feeds().size() > kMostFeeds + 1;
     for (std::size_t place = 0; place < m_feeds->feeds().size(); ++place) {
         const PlaylistFeeds::Feed& feed = m_feeds->feeds()[place];
+        if (isFolded && place >= kMostFeeds && !feed.ticked) {
+            continue;
+        }
         const QString file = feed.address.section(u'?', 0, 0).section(u'/', -1);
         const QString state = !feed.problem.isEmpty() ? feed.problem
                               : feed.loaded           ? Localized::tr("Loaded")
@@ -162,6 +172,12 @@ Section SourcePreviewViewController::scheduleSection() const {
                      .checked = feed.ticked,
                      .symbol = feed.problem.isEmpty() ? std::nullopt : std::optional(Symbol::Warning)},
                     !feed.loaded && !loading));
+    }
+    if (isFolded) {
+        section.rows.push_back({.id = {section.id, QString(kAllFeeds)},
+                                .content = ButtonRow{Localized::tr("Show all %n feed(s)", nullptr,
+                                                                   int(m_feeds->feeds().size()))},
+                                .selectable = true});
     }
     if (loading) {
         const QLocale locale = environment().device.locale();
@@ -219,6 +235,9 @@ void SourcePreviewViewController::headEvent(const RowId& id, const RowEvent& eve
             m_feeds->cancel();
             updateHead();
             setButtons();
+        } else if (name == kAllFeeds) {
+            m_showsAllFeeds = true;
+            updateHead();
         } else if (name == kReview) {
             openReview();
         } else {

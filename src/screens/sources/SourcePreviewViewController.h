@@ -36,6 +36,7 @@ class SourcePreviewViewController final : public SourceChannelsViewController {
     std::chrono::minutes m_shift{0};
     /// Null unless it is a playlist.
     std::shared_ptr<PlaylistFeeds> m_feeds;
+    bool m_showsAllFeeds = false;
 };
 
 } // namespace guide
