@@ -34,6 +34,9 @@ class DesktopObject final : public QDBusVirtualObject {
 
 /// A program and the desktop, connected without a bus.
 class DesktopBus : public testing::Test {
+  public:
+    ~DesktopBus() override { QDBusConnection::disconnectFromPeer(QStringLiteral("program")); }
+
   protected:
     DesktopBus() {
         QObject::connect(
@@ -44,7 +47,6 @@ class DesktopBus : public testing::Test {
         program.emplace(QDBusConnection::connectToPeer(m_server.address(), QStringLiteral("program")));
         EXPECT_TRUE(QTest::qWaitFor([this] { return m_desktop.has_value(); }));
     }
-    ~DesktopBus() override { QDBusConnection::disconnectFromPeer(QStringLiteral("program")); }
 
     /// The program's answer.
     QDBusMessage ask(const QString& path, const QString& interface, const QString& member,

@@ -33,13 +33,13 @@ class CompoundListingsViewControllerTest : public testing::Test {
         world.start();
         world.show();
     }
-    Screen push(CompoundListings listings) {
+    Screen push(const CompoundListings& listings) {
         auto screen = std::make_shared<CompoundListingsViewController>(world.environment, listings);
         world.tabs->selectedNavigationController().push(screen);
         return screen;
     }
-    Screen open(CompoundListings listings) {
-        Screen screen = push(std::move(listings));
+    Screen open(const CompoundListings& listings) {
+        Screen screen = push(listings);
         world.queues.runAll();
         return screen;
     }
