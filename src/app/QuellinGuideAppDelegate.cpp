@@ -121,9 +121,10 @@ bool QuellinGuideAppDelegate::shutDown(std::chrono::milliseconds atMost) {
     m_environment.httpClient.cancelAll();
     m_pauses.interrupt();
     m_channelIcons.reset();
-    const bool sourcesEnded = (!m_ownSourceService || m_ownSourceService->finish(left())) &
-                              (!m_ownSourceUpdates || m_ownSourceUpdates->finish(left()));
-    const bool checkEnded = (!m_updateCycle || m_updateCycle->finish(left())) && sourcesEnded;
+    const bool screensServed = !m_ownSourceService || m_ownSourceService->finish(left());
+    const bool sourcesEnded = !m_ownSourceUpdates || m_ownSourceUpdates->finish(left());
+    const bool cycleEnded = !m_updateCycle || m_updateCycle->finish(left());
+    const bool checkEnded = screensServed && sourcesEnded && cycleEnded;
     const bool written = !m_listings || m_listings->finishWriting(left());
     if (m_channels) {
         m_channels->finishWriting();

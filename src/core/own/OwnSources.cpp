@@ -86,10 +86,11 @@ struct OwnSources::State {
         StoredSources stored;
         const auto take = [&stored](const QCborValue& value) {
             auto read = ownSourcesOfValue(value);
-            if (read) {
-                stored = *std::move(read);
+            if (!read) {
+                return false;
             }
-            return read.has_value();
+            stored = *std::move(read);
+            return true;
         };
         const MirroredFile::Found found = file.read(
             [&take](const QByteArray& content) {
