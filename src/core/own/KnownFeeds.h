@@ -44,7 +44,7 @@ class KnownFeeds {
     static KnownFeeds fromFile(const QString& path);
 
     const std::vector<KnownFeedCountry>& countries() const { return m_countries; }
-    /// Null when there are none. In either case of letters.
+    /// The case of the letters does not matter. Null when there are none.
     const KnownFeedCountry* feedsForRegion(const QString& region) const;
 
   private:

@@ -154,7 +154,7 @@ PackedFileOptions packedOptions(const TextFileOptions& options) {
 
 } // namespace
 
-TextFile::TextFile(const QString& path, TextFileOptions options)
+TextFile::TextFile(const QString& path, const TextFileOptions& options)
     : m_charset(options.charset)
     , m_window(std::max(options.window, kSmallestWindow))
     , m_file(path, packedOptions(options)) {}

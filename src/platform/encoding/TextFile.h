@@ -38,7 +38,7 @@ struct TextFileOptions {
 /// blank; both are counted.
 class TextFile final : public TextSource {
   public:
-    TextFile(const QString& path, TextFileOptions options);
+    TextFile(const QString& path, const TextFileOptions& options);
 
     /// `room` has at least 4 bytes.
     std::size_t read(std::span<char> room) override;

@@ -111,7 +111,7 @@ std::optional<QString> SecretServiceStore::secret(const QString& key) {
     if (found == nullptr) {
         return std::nullopt;
     }
-    const QString secret = QString::fromUtf8(found);
+    QString secret = QString::fromUtf8(found);
     secret_password_free(found);
     return secret;
 }

@@ -55,6 +55,7 @@ pid_t spawn(const ProgramRun& run, int output, int errorOutput) {
         texts.push_back(QFile::encodeName(argument));
     }
     std::vector<char*> arguments;
+    arguments.reserve(texts.size() + 1);
     for (QByteArray& text : texts) {
         arguments.push_back(text.data());
     }

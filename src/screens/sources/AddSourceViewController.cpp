@@ -101,7 +101,9 @@ Section AddSourceViewController::inputSection() const {
 
 Section AddSourceViewController::catalogueSection() const {
     Section section{.id = kCatalogue};
-    const auto count = static_cast<int>(m_environment->catalogue.snapshot()->channels().size());
+    const SharedCatalogueSnapshot catalogue = m_environment->catalogue.snapshot();
+    const auto count = static_cast<int>(
+        std::ranges::count_if(catalogue->channels(), [](const auto& each) { return !each.id.isOwn(); }));
     if (m_start.openCatalogue && count > 0) {
         section.rows.push_back({.id = {section.id, QString(kCatalogue)},
                                 .content = TextRow{.title = Localized::tr("From the catalogue"),

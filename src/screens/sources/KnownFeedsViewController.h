@@ -9,7 +9,7 @@
 
 namespace guide {
 
-/// The rows of a country's feeds, numbered; none when there are none.
+/// The rows of a country's feeds. The name in the id of each is its place among them.
 std::vector<Row> knownFeedRows(const SectionId& section, const KnownFeedCountry& country,
                                const QLocale& locale);
 QString knownFeedsFooter();

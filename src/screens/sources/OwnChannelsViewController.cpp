@@ -116,9 +116,8 @@ void OwnChannelViewController::rowEvent(const RowId& id, const RowEvent& event) 
     } else {
         channel->shift = shiftChoices(channel->shift)[place];
     }
-    const OwnChannel changed = *channel;
     m_environment->sourceActions->update(*source);
-    show(changed);
+    show(*channel);
 }
 
 } // namespace guide
