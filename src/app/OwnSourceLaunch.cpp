@@ -73,18 +73,19 @@ void QuellinGuideAppDelegate::watchOwnFiles() {
     if (!m_environment.fileWatch || !m_ownSourceUpdates) {
         return;
     }
-    std::map<QString, FileWatch::Token> watched;
+    std::map<WatchedFile, FileWatch::Token> watched;
     const SharedOwnSources sources = m_ownSources->snapshot();
     for (const OwnSource& source : *sources) {
-        if (source.kind == OwnSourceKind::Grabber || isWebAddress(source.address)) {
+        if (!isOwnFile(source)) {
             continue;
         }
-        auto known = m_watchedFiles.extract(source.address);
-        watched.insert_or_assign(
-            source.address,
-            known.empty() ? m_environment.fileWatch->watch(
-                                source.address, [this, id = source.id] { m_ownSourceUpdates->askNow({id}); })
-                          : std::move(known.mapped()));
+        const WatchedFile file{source.id, source.address};
+        auto known = m_watchedFiles.extract(file);
+        watched.emplace(
+            file, known.empty()
+                      ? m_environment.fileWatch->watch(
+                            source.address, [this, id = source.id] { m_ownSourceUpdates->askNow({id}); })
+                      : std::move(known.mapped()));
     }
     m_watchedFiles = std::move(watched);
 }
@@ -95,8 +96,8 @@ void QuellinGuideAppDelegate::makeOwnSources() {
     }
     const QString& caches = m_environment.folders.caches;
     m_knownFeeds = KnownFeeds::fromFile(m_environment.folders.bundle + "/known-feeds.json"_L1);
-    m_sourceRecords =
-        std::make_unique<SourceRecords>(caches + "/own-sources.json"_L1, m_environment.folders.writable);
+    m_sourceRecords = std::make_unique<SourceRecords>(caches + "/own-sources.json"_L1,
+                                                      m_environment.folders.writable, m_environment.queues);
     m_sourceFetcher = std::make_unique<SourceFetcher>(SourceFetcherEnvironment{
         .download = {.clock = m_environment.clock,
                      .client = m_environment.httpClient,
@@ -141,6 +142,7 @@ void QuellinGuideAppDelegate::makeOwnSources() {
         .programs = *m_environment.programs,
         .updates = *m_ownSourceUpdates,
         .settings = m_settings,
+        .random = m_environment.random,
         .caches = caches,
         .select = [this](const std::vector<ObjectId>& channels) { m_selectionEditor->add(channels); },
         .unselect = [this](const std::vector<ObjectId>& channels) { m_selectionEditor->remove(channels); },

@@ -135,6 +135,9 @@ bool QuellinGuideAppDelegate::shutDown(std::chrono::milliseconds atMost) {
     if (m_ownSources) {
         m_ownSources->finishWriting();
     }
+    if (m_sourceRecords) {
+        m_sourceRecords->finishWriting();
+    }
     return m_environment.userDefaults.synchronize() && checkEnded && written;
 }
 

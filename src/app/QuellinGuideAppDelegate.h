@@ -40,6 +40,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <utility>
 #include <vector>
 
 namespace guide {
@@ -212,8 +213,8 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     std::unique_ptr<OwnSourceService> m_ownSourceService;
     KnownFeeds m_knownFeeds;
     std::unique_ptr<ChannelIconFetcher> m_channelIcons;
-    /// By path.
-    std::map<QString, FileWatch::Token> m_watchedFiles;
+    using WatchedFile = std::pair<OwnSourceId, QString>;
+    std::map<WatchedFile, FileWatch::Token> m_watchedFiles;
     std::unique_ptr<LoadRetries> m_retries;
     std::unique_ptr<PictureFetcher> m_pictureFetcher;
     std::unique_ptr<WebShowLookup> m_showLookup;

@@ -88,12 +88,12 @@ struct OwnSourcesTest : testing::Test {
 };
 
 TEST_F(OwnSourcesTest, AFeedBecomesChannelsByOneRequestAndStaysAcrossARestart) {
-    serve(ServerReply::ok(gzipped(feedOf(3, 3, world.clock.now(), "Film")), {"ETag: \"1\""}));
+    serve(ServerReply::ok(gzipped(feedOf(3, 3, world.clock.now(), "Film", 48)), {"ETag: \"1\""}));
     start();
     EXPECT_EQ(actions().newHostOf(world.server->base() + u"/guide.xml"_s), u"127.0.0.1"_s);
     add(world.server->base() + u"/guide.xml"_s, {u"c1"_s, u"c3"_s});
     EXPECT_EQ(titles(u"c1"_s).value(0), u"Film 0"_s);
-    EXPECT_EQ(titles(u"c1"_s).size(), 6);
+    EXPECT_EQ(titles(u"c1"_s).size(), 48);
     EXPECT_EQ(titles(u"c2"_s), QStringList()) << "not chosen";
     EXPECT_EQ(world.server->requests().size(), 1U) << "what was fetched for the preview is read";
     EXPECT_EQ(world.guide->channels().selected(),
@@ -181,6 +181,21 @@ TEST_F(OwnSourcesTest, ShiftsMoveTheTimesWithoutARequest) {
         const auto shows = world.shows(ownChannelId(source, u"c1"_s));
         return !shows.empty() && shows.front().first == before + 90min;
     }));
+    EXPECT_EQ(world.server->requests().size(), 1U);
+    world.end();
+}
+
+TEST_F(OwnSourcesTest, AChannelThatIsSelectedAgainGetsItsListFromWhatIsKept) {
+    serve(ServerReply::ok(feedOf(2, 2, world.clock.now(), "Show", 24)));
+    start();
+    add(world.server->base() + u"/guide.xml"_s, {u"c1"_s, u"c2"_s});
+    const std::vector<ObjectId> both = world.guide->channels().selected();
+    world.guide->channels().setSelected({both[1]});
+    world.guide->listings().removeListingsForChannel(both[0]);
+    EXPECT_EQ(titles(u"c1"_s), QStringList());
+    world.guide->channels().setSelected(both);
+    world.guide->checkAndUpdateAllChannels();
+    EXPECT_TRUE(world.runUntil([&] { return titles(u"c1"_s).size() == 24; }));
     EXPECT_EQ(world.server->requests().size(), 1U);
     world.end();
 }

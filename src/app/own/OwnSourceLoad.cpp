@@ -60,7 +60,7 @@ OwnSourceLoad::OwnSourceLoad(const OwnSourceUpdatesEnvironment& environment,
     , m_cancelled(cancelled)
     , m_plan(std::move(plan))
     , m_folder(environment.caches, m_plan.source.id)
-    , m_isFetching(m_plan.fetch || !(QFile::exists(m_folder.content()) || isOwnFile(m_plan.source)))
+    , m_isFetching(m_plan.fetch || !QFile::exists(contentOf(m_plan.source, environment.caches)))
     , m_record(environment.records.record(m_plan.source.id)) {}
 
 void OwnSourceLoad::run() {
@@ -93,38 +93,37 @@ void OwnSourceLoad::run() {
     }
 }
 
-/// Without a fetch, what is kept.
-FetchedSource OwnSourceLoad::fetch() {
-    const OwnSource& source = m_plan.source;
-    const bool isFile = isOwnFile(source);
-    if (!m_isFetching && !isFile) {
-        return {.result = SourceResult::Read,
-                .path = m_folder.content(),
-                .etag = m_record.etag,
-                .lastModified = m_record.lastModified,
-                .charset = m_record.charset};
+FetchedSource OwnSourceLoad::fetch() const {
+    if (!m_isFetching) {
+        return keptContent();
     }
+    const OwnSource& source = m_plan.source;
     const auto address = m_environment.fetcher.wholeAddress(source);
     if (!address) {
         return {.result = SourceResult::SecretMissing};
     }
-    if (!isFile && !m_folder.create()) {
+    if (!isOwnFile(source) && !m_folder.create()) {
         return {.result = SourceResult::NoRoom};
     }
-    // A content that is gone cannot be "unchanged"; nor can one that some channel has not got its list from.
-    const bool isKept = isFile || QFile::exists(m_folder.content());
-    const bool isServed = std::ranges::all_of(m_plan.items, [this](const OwnFeedItem& item) {
-        const auto record = m_environment.channels.channelWithChannelId(item.channel);
-        return record && (record->timeLoaded() || record->reloadRequired());
-    });
-    const bool conditional = m_isFetching && isKept && isServed;
-    return m_environment.fetcher.fetch({.kind = source.kind,
-                                        .address = *address,
-                                        .incoming = m_folder.incoming(),
-                                        .etag = conditional ? m_record.etag : QByteArray(),
-                                        .lastModified = conditional ? m_record.lastModified : QByteArray(),
-                                        .stopped = [this] { return m_cancelled.load(); },
-                                        .progress = {}});
+    // A content that is gone cannot be unchanged.
+    const bool isKept = QFile::exists(contentOf(source, m_environment.caches));
+    FetchedSource fetched =
+        m_environment.fetcher.fetch({.kind = source.kind,
+                                     .address = *address,
+                                     .incoming = m_folder.incoming(),
+                                     .etag = isKept ? m_record.etag : QByteArray(),
+                                     .lastModified = isKept ? m_record.lastModified : QByteArray(),
+                                     .stopped = [this] { return m_cancelled.load(); },
+                                     .progress = {}});
+    return fetched.result == SourceResult::Unchanged && m_plan.isWanting ? keptContent() : fetched;
+}
+
+FetchedSource OwnSourceLoad::keptContent() const {
+    return {.result = SourceResult::Read,
+            .path = contentOf(m_plan.source, m_environment.caches),
+            .etag = m_record.etag,
+            .lastModified = m_record.lastModified,
+            .charset = m_record.charset};
 }
 
 void OwnSourceLoad::readFeed(const FetchedSource& fetched) {

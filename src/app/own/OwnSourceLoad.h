@@ -18,6 +18,8 @@ class OwnSourceLoad {
         std::vector<OwnFeedItem> items;
         /// False to read only what is there.
         bool fetch = true;
+        /// Some of the channels have no list, so that what is there is read even if it is unchanged.
+        bool isWanting = false;
     };
 
     /// All of it must outlive the load.
@@ -30,7 +32,8 @@ class OwnSourceLoad {
     const LoadResults& results() const { return m_results; }
 
   private:
-    FetchedSource fetch();
+    FetchedSource fetch() const;
+    FetchedSource keptContent() const;
     void readFeed(const FetchedSource& fetched);
     void readPlaylist(const FetchedSource& fetched);
     void merge(OwnFeed feed, bool broken);

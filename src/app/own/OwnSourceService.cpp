@@ -1,6 +1,7 @@
 #include "app/own/OwnSourceService.h"
 
 #include "app/own/ChosenChannels.h"
+#include "app/own/SourceSchedule.h"
 #include "core/own/SourceAddress.h"
 #include "parsers/playlists/ChannelMatching.h"
 #include "parsers/playlists/PlaylistKeys.h"
@@ -10,7 +11,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
-#include <QSet>
 
 #include <algorithm>
 #include <cstdio>
@@ -251,7 +251,7 @@ OwnSourceId OwnSourceService::add(const SourceProposal& proposal, const OwnSourc
         source.address = content->address.open;
         source.hasSecret = !content->address.secret.isEmpty();
         if (source.hasSecret) {
-            // Kept before anything asks for it: the queue that fetches comes later.
+            // Nothing asks for it before the next try: the content is read from where it is kept.
             m_blocks.async(*m_queue, [this, id = source.id, secret = content->address.secret] {
                 m_environment.fetcher.secrets().setSecret(secretKey(id), secret);
             });
@@ -273,11 +273,15 @@ OwnSourceId OwnSourceService::add(const SourceProposal& proposal, const OwnSourc
     const Moment now = m_environment.clock.now();
     const bool isList = source.kind == OwnSourceKind::Playlist;
     const int entries = static_cast<int>(preview.playlist.entries.size());
-    record.status = {.result = preview.result,
+    const bool isCut =
+        std::ranges::find(preview.warnings, SourceWarning::Incomplete) != preview.warnings.end();
+    const SourceResult result = isCut ? SourceResult::Incomplete : preview.result;
+    record.status = {.result = result,
                      .detail = {},
                      .lastTry = now,
                      .lastSuccess = now,
-                     .nextTry = now + source.interval,
+                     .nextTry =
+                         nextTryAfter({.result = result, .at = now}, source.interval, m_environment.random),
                      .channels = isList ? entries : static_cast<int>(preview.channels.size()),
                      .channelsWithShows = isList ? entries : preview.channelsWithShows,
                      .shows = preview.shows,
@@ -347,6 +351,9 @@ void OwnSourceService::setAddress(const OwnSourceId& id, const QString& typed) {
     record.etag.clear();
     record.lastModified.clear();
     record.status.lastTry.reset();
+    // What was read from the other address says nothing about how rich this one is.
+    record.status.lastSuccess.reset();
+    record.status.channelsWithShows = 0;
     m_environment.records.set(id, std::move(record));
     m_environment.sources.put(*source);
     m_blocks.async(*m_queue, [this, id, secret = address->secret] {
@@ -371,7 +378,6 @@ SourceActions::Token OwnSourceService::match(const Playlist& playlist,
     return inBackground<std::vector<MatchedEntry>>(
         [this, playlist, corrections, feeds, sources](const Work& work) {
             std::vector<FeedChannel> channels;
-            QStringList languages;
             std::vector<OwnSourceId> ids;
             for (const OwnSource& source : *sources) {
                 const bool isWanted = source.kind != OwnSourceKind::Playlist &&
@@ -380,7 +386,6 @@ SourceActions::Token OwnSourceService::match(const Playlist& playlist,
                     continue;
                 }
                 for (PreviewChannel& channel : keptPreview(source, work).channels) {
-                    languages << channel.language;
                     channels.push_back(
                         {std::move(channel.id), std::move(channel.names), static_cast<int>(ids.size())});
                 }
@@ -408,8 +413,6 @@ SourceActions::Token OwnSourceService::match(const Playlist& playlist,
                                    .candidates = {}};
                 if (found[i].channel >= 0) {
                     entry.guide = guideOf(found[i].channel);
-                    // The texts of the feed are what is classified; playlists write "Slovak" or nothing.
-                    entry.entry.language = languages[found[i].channel];
                 }
                 std::ranges::transform(found[i].candidates, std::back_inserter(entry.candidates), guideOf);
                 if (const GuideCorrection* correction = corrected.value(entry.key)) {

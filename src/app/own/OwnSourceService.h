@@ -24,6 +24,7 @@ struct OwnSourceServiceEnvironment {
     ProgramRunner& programs;
     OwnSourceUpdates& updates;
     Settings& settings;
+    RandomIndex random;
     QString caches;
     /// Puts channels into the selection, or takes them out, as the user's own choice. Main queue.
     std::function<void(const std::vector<ObjectId>&)> select;

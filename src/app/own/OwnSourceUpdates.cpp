@@ -5,12 +5,11 @@
 #include "app/own/SourceSchedule.h"
 #include "core/own/SourceAddress.h"
 
-#include <QFile>
-
 #include <algorithm>
 #include <atomic>
 #include <deque>
 #include <iterator>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -42,8 +41,9 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
     std::deque<OwnSourceLoad::Plan> waiting;
     /// Were asked for while they were being loaded.
     std::unordered_set<OwnSourceId> again;
-    /// Channels that the content that is kept does not have, or whose lists are not to be read from it again.
-    std::unordered_set<ObjectId> tried;
+    /// The records of channels for which a source was read: what it does not have is not looked for again. A
+    /// channel that was selected anew has another record.
+    std::unordered_map<ObjectId, std::weak_ptr<const TVChannel>> tried;
     /// Channels whose lists are to be read again.
     std::unordered_set<ObjectId> unread;
     std::shared_ptr<BackgroundTask> task;
@@ -67,7 +67,16 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
         });
     }
 
-    void plan(const std::unordered_set<OwnSourceId>& byHand) {
+    void plan(std::unordered_set<OwnSourceId> byHand) {
+        environment.listings.showCountForSelectedChannelsForQueue(
+            queue, [state = shared_from_this(), byHand = std::move(byHand)](const ShowCounts& counts) {
+                if (!state->cancelled) {
+                    state->plan(byHand, counts);
+                }
+            });
+    }
+
+    void plan(const std::unordered_set<OwnSourceId>& byHand, const ShowCounts& counts) {
         const SharedOwnSources sources = environment.sources.snapshot();
         for (const OwnSource& source : *sources) {
             const bool isByHand = byHand.contains(source.id);
@@ -77,13 +86,13 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
                 }
                 continue;
             }
-            plan(source, *sources, isByHand);
+            plan(source, *sources, counts, isByHand);
         }
         start();
         arm();
     }
 
-    void plan(const OwnSource& source, const OwnSourceList& sources, bool byHand) {
+    void plan(const OwnSource& source, const OwnSourceList& sources, const ShowCounts& counts, bool byHand) {
         std::vector<OwnFeedItem> items = ownFeedItems(sources, source.id, environment.channels);
         const bool isIdle = source.kind == OwnSourceKind::Playlist ? !hasSelected(source) : items.empty();
         if (isIdle && !byHand) {
@@ -94,21 +103,27 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
         // A list that is over asks for a reload each time it is read. That alone must not reach the source.
         const bool isDue =
             isSourceDue(status, now) || (byHand && (isOwnFile(source) || mayBeAsked(status, now)));
-        const bool isWanting = std::ranges::any_of(items, [this](const OwnFeedItem& item) {
-            const auto record = environment.channels.channelWithChannelId(item.channel);
-            return record &&
-                   (unread.contains(item.channel) ||
-                    (!record->timeLoaded() && !record->reloadRequired() && !tried.contains(item.channel)));
+        const bool isWanting = std::ranges::any_of(items, [&](const OwnFeedItem& item) {
+            const auto count = counts.find(item.channel);
+            return unread.contains(item.channel) ||
+                   ((count == counts.end() || count->second == 0) && !isTried(item.channel));
         });
         if (isDue || isWanting) {
             loading.insert(source.id);
             for (const OwnFeedItem& item : items) {
                 unread.erase(item.channel);
             }
-            waiting.push_back({.source = source, .items = std::move(items), .fetch = isDue});
+            waiting.push_back(
+                {.source = source, .items = std::move(items), .fetch = isDue, .isWanting = isWanting});
         } else if (byHand) {
             answerAtOnce(items);
         }
+    }
+
+    bool isTried(const ObjectId& channel) const {
+        const auto found = tried.find(channel);
+        return found != tried.end() &&
+               found->second.lock() == environment.channels.channelWithChannelId(channel);
     }
 
     bool isUsed(const OwnSource& source, const OwnSourceList& sources) const {
@@ -195,7 +210,9 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
         busyHosts.erase(laneOf(plan));
         environment.records.setRunning(plan.source.id, false);
         for (const OwnFeedItem& item : plan.items) {
-            tried.insert(item.channel);
+            if (const auto record = environment.channels.channelWithChannelId(item.channel)) {
+                tried.insert_or_assign(item.channel, record);
+            }
         }
         tell(results);
         if (again.erase(plan.source.id) > 0) {

@@ -82,10 +82,15 @@ SourceRecord recordOf(const QJsonObject& object) {
 
 } // namespace
 
-SourceRecords::SourceRecords(QString path, bool writable)
+SourceRecords::SourceRecords(QString path, bool writable, DispatchQueues& queues)
     : m_path(std::move(path))
-    , m_writable(writable) {
+    , m_writable(writable)
+    , m_writer(queues.makeQueue("sourceRecords", QueueKind::Serial, QueuePriority::Background)) {
     read();
+}
+
+SourceRecords::~SourceRecords() {
+    finishWriting();
 }
 
 void SourceRecords::read() {
@@ -122,18 +127,22 @@ void SourceRecords::remove(const OwnSourceId& id) {
     }
 }
 
-// Under the guard.
-void SourceRecords::write() const {
+void SourceRecords::write() {
     if (!m_writable) {
         return;
     }
-    QJsonObject root;
-    for (const auto& [id, record] : m_records) {
-        root.insert(id.hex(), objectOf(record));
-    }
-    if (!replaceFile(m_path, QJsonDocument(root).toJson())) {
-        qWarning().noquote() << "SourceRecords: cannot write" << m_path;
-    }
+    m_writes.async(*m_writer, [this] {
+        QJsonObject root;
+        {
+            const std::lock_guard lock(m_guard);
+            for (const auto& [id, record] : m_records) {
+                root.insert(id.hex(), objectOf(record));
+            }
+        }
+        if (!replaceFile(m_path, QJsonDocument(root).toJson())) {
+            qWarning().noquote() << "SourceRecords: cannot write" << m_path;
+        }
+    });
 }
 
 SourceFolder::SourceFolder(const QString& caches, const OwnSourceId& id)
