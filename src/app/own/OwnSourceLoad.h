@@ -4,6 +4,7 @@
 #include "parsers/own/OwnFeedReader.h"
 
 #include <atomic>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -16,6 +17,8 @@ class OwnSourceLoad {
         OwnSource source;
         /// The selected channels that get their schedules from the source, with its shift.
         std::vector<OwnFeedItem> items;
+        /// Of these channels when the load was planned.
+        std::vector<std::shared_ptr<const TVChannel>> records;
         /// False to read only what is there.
         bool fetch = true;
         /// Some of the channels have no list, so that what is there is read even if it is unchanged.

@@ -46,6 +46,8 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
     std::unordered_map<ObjectId, std::weak_ptr<const TVChannel>> tried;
     /// Channels whose lists are to be read again.
     std::unordered_set<ObjectId> unread;
+    /// A source was passed over because it was being loaded.
+    bool hasPassedOver = false;
     std::shared_ptr<BackgroundTask> task;
 
     // On the main queue.
@@ -81,6 +83,7 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
         for (const OwnSource& source : *sources) {
             const bool isByHand = byHand.contains(source.id);
             if (loading.contains(source.id)) {
+                hasPassedOver = true;
                 if (isByHand) {
                     again.insert(source.id);
                 }
@@ -110,11 +113,14 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
         });
         if (isDue || isWanting) {
             loading.insert(source.id);
+            OwnSourceLoad::Plan planned{
+                .source = source, .items = {}, .records = {}, .fetch = isDue, .isWanting = isWanting};
             for (const OwnFeedItem& item : items) {
                 unread.erase(item.channel);
+                planned.records.push_back(environment.channels.channelWithChannelId(item.channel));
             }
-            waiting.push_back(
-                {.source = source, .items = std::move(items), .fetch = isDue, .isWanting = isWanting});
+            planned.items = std::move(items);
+            waiting.push_back(std::move(planned));
         } else if (byHand) {
             answerAtOnce(items);
         }
@@ -209,15 +215,15 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
         loading.erase(plan.source.id);
         busyHosts.erase(laneOf(plan));
         environment.records.setRunning(plan.source.id, false);
-        for (const OwnFeedItem& item : plan.items) {
-            if (const auto record = environment.channels.channelWithChannelId(item.channel)) {
-                tried.insert_or_assign(item.channel, record);
+        for (const auto& record : plan.records) {
+            if (record) {
+                tried.insert_or_assign(record->identificator(), record);
             }
         }
         tell(results);
         if (again.erase(plan.source.id) > 0) {
             this->plan({plan.source.id});
-        } else if (!unread.empty()) {
+        } else if (std::exchange(hasPassedOver, false) || !unread.empty()) {
             this->plan({});
         }
         start();
