@@ -37,6 +37,7 @@ TVEntry::TVEntry(const TVEntry& other)
     , m_sourceId(other.m_sourceId)
     , m_language(other.m_language)
     , m_encodedUrl(other.m_encodedUrl)
+    , m_facts(other.m_facts)
     , m_source(other.m_source)
     , m_display(other.m_display ? std::make_unique<Texts>(*other.m_display) : nullptr) {}
 

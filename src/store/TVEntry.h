@@ -4,6 +4,7 @@
 #include "platform/Moment.h"
 #include "store/ShowDigest.h"
 #include "text/display/Alphabet.h"
+#include "text/facts/ShowFacts.h"
 
 #include <QString>
 #include <QUrl>
@@ -49,6 +50,10 @@ class TVEntry {
     void setEncodedUrl(std::optional<QString> url) { m_encodedUrl = std::move(url); }
     bool previouslyShown() const { return m_previouslyShown; }
     void setPreviouslyShown(bool previouslyShown) { m_previouslyShown = previouslyShown; }
+
+    /// What the source says beside the texts; null when it says nothing. Shared by copies.
+    const std::shared_ptr<const ShowFacts>& facts() const { return m_facts; }
+    void setFacts(std::shared_ptr<const ShowFacts> facts) { m_facts = std::move(facts); }
 
     /// The title as the source gave it, without any backslash followed by an n.
     const std::optional<QString>& identificator() const { return m_source.title; }
@@ -106,6 +111,7 @@ class TVEntry {
     std::optional<QString> m_sourceId;
     std::optional<QString> m_language;
     std::optional<QString> m_encodedUrl;
+    std::shared_ptr<const ShowFacts> m_facts;
     Texts m_source;
     /// Null when the display forms equal the source forms.
     std::unique_ptr<Texts> m_display;

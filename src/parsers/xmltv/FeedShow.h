@@ -4,6 +4,7 @@
 #include "platform/Moment.h"
 #include "store/ShowItem.h"
 #include "text/display/Alphabet.h"
+#include "text/reading/FeedReading.h"
 
 #include <QLocale>
 #include <QString>
@@ -73,6 +74,7 @@ struct FeedShowOptions {
     QString imageBase = {};
     /// The site of the feed, whose name is removed from descriptions; may be empty.
     QString siteHost = {};
+    FeedReading reading = catalogueReading();
 };
 
 /// Makes the shows of one feed: analyses and cleans their texts and derives their categories. Repeated texts
