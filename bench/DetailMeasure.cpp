@@ -15,7 +15,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr double kAtMost = 2.5;
+constexpr double kAtMost = 2.75;
 constexpr int kTimes = 41;
 /// The page lays out its rows in the first frame and what they load in the second.
 constexpr int kFrames = 2;

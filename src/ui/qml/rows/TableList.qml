@@ -37,7 +37,7 @@ ListView {
     readonly property TableRow currentRow: currentItem as TableRow
 
     // Rows stay where they are while the user touches or scrolls the list, or sees the actions of one.
-    readonly property bool touched: visible && (finger.active || moving || scrollBar.pressed || menu.opened || swipedRow !== null || dragged !== null)
+    readonly property bool touched: visible && (finger.active || moving || scrollBar.pressed || (menu.item !== null && (menu.item as RowMenu).opened) || swipedRow !== null || dragged !== null)
 
     function tileX(column) {
         return sideMargin + column * (tileWidth + tileGap)
@@ -67,18 +67,25 @@ ListView {
         currentIndex = row.index
     }
 
+    function rowMenu(): RowMenu {
+        menu.active = true
+        return menu.item as RowMenu
+    }
+
     function openMenu(row, x, y) {
         const actions = row.rows.actions(row.index)
         if (actions.length > 0)
-            menu.openActions(row, actions, x, y)
+            rowMenu().openActions(row, actions, x, y)
     }
 
     function openChoices(row) {
-        menu.openChoices(row)
+        rowMenu().openChoices(row)
     }
 
     function openTimePicker(row) {
-        timePicker.openFor(row)
+        timePicker.active = true
+        const picker = timePicker.item as TimePicker
+        picker.openFor(row)
     }
 
     function goTo(index) {
@@ -417,15 +424,22 @@ ListView {
         visible: view.dropBefore >= 0
     }
 
-    RowMenu {
+    // Most lists never open these: they are made when they are first needed.
+    Loader {
         id: menu
 
-        parent: view
+        active: false
+        sourceComponent: RowMenu {
+            parent: view
+        }
     }
 
-    TimePicker {
+    Loader {
         id: timePicker
 
-        parent: view
+        active: false
+        sourceComponent: TimePicker {
+            parent: view
+        }
     }
 }
