@@ -884,20 +884,12 @@ Počkejte, až se program načte.</translation>
         <translation>Moje zdroje</translation>
     </message>
     <message>
-        <source>This is a program. It runs on this device with your rights, now and at each update.</source>
-        <translation>To je program. Poběží na tomto zařízení s vašimi právy, teď a při každé aktualizaci.</translation>
-    </message>
-    <message>
         <source>Schedules (XMLTV), packed or not, playlists (M3U), and programs that print a schedule.</source>
         <translation>Programy stanic (XMLTV), i zabalené, seznamy stanic (M3U) a programy, které vypisují XMLTV.</translation>
     </message>
     <message>
         <source>Address, file or program</source>
         <translation>Adresa, soubor nebo program</translation>
-    </message>
-    <message>
-        <source>Run this program</source>
-        <translation>Spustit tento program</translation>
     </message>
     <message>
         <source>Show channels</source>
@@ -944,36 +936,8 @@ Počkejte, až se program načte.</translation>
         <translation>Programy na tomto zařízení</translation>
     </message>
     <message>
-        <source>Looking for programs that give a schedule</source>
-        <translation>Hledají se programy, které vypisují XMLTV</translation>
-    </message>
-    <message>
-        <source>None found</source>
-        <translation>Nic se nenašlo</translation>
-    </message>
-    <message>
-        <source>Enter the path of a program above.</source>
-        <translation>Zadejte nahoře cestu k programu.</translation>
-    </message>
-    <message>
-        <source>Look again…</source>
-        <translation>Hledat znovu…</translation>
-    </message>
-    <message>
-        <source>Look for programs that give a schedule…</source>
-        <translation>Hledat programy, které vypisují XMLTV…</translation>
-    </message>
-    <message>
         <source>Choose a schedule or playlist</source>
         <translation>Vyberte soubor XMLTV nebo M3U</translation>
-    </message>
-    <message>
-        <source>Run programs?</source>
-        <translation>Spustit programy?</translation>
-    </message>
-    <message>
-        <source>Each program on this device whose name begins with tv_grab_ is run, to ask what it is.</source>
-        <translation>Každý program na tomto zařízení, jehož jméno začíná tv_grab_, se spustí, aby řekl, co je.</translation>
     </message>
     <message>
         <source>Run</source>
@@ -1086,10 +1050,6 @@ Počkejte, až se program načte.</translation>
     <message>
         <source>A search finds every channel of the feeds.</source>
         <translation>Hledání najde každý kanál zdrojů.</translation>
-    </message>
-    <message>
-        <source>Time and language</source>
-        <translation>Čas a jazyk</translation>
     </message>
     <message>
         <source>The language decides in which category a show is. The channel&apos;s times are moved in addition to those of the whole source.</source>
@@ -1270,10 +1230,6 @@ Počkejte, až se program načte.</translation>
     <message>
         <source>Refresh now</source>
         <translation>Obnovit teď</translation>
-    </message>
-    <message>
-        <source>Time and language by channel</source>
-        <translation>Čas a jazyk podle kanálu</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -1546,6 +1502,110 @@ Počkejte, až se program načte.</translation>
     <message>
         <source>Files cannot be chosen: the package %1 is missing. Type the path of the file.</source>
         <translation>Soubory nelze vybírat: chybí balíček %1. Napište cestu k souboru.</translation>
+    </message>
+    <message>
+        <source>Found by their names. One runs only after you agree.</source>
+        <translation>Nalezeny podle jmen. Spustí se jen ten, s nímž souhlasíte.</translation>
+    </message>
+    <message>
+        <source>Settings of channels</source>
+        <translation>Nastavení kanálů</translation>
+    </message>
+    <message>
+        <source>Picture…</source>
+        <translation>Obrázek…</translation>
+    </message>
+    <message>
+        <source>Remove picture</source>
+        <translation>Odebrat obrázek</translation>
+    </message>
+    <message>
+        <source>Choose a picture</source>
+        <translation>Vyberte obrázek</translation>
+    </message>
+    <message>
+        <source>Your own picture, in place of that of the source.</source>
+        <translation>Váš vlastní obrázek místo obrázku ze zdroje.</translation>
+    </message>
+    <message>
+        <source>“%1” is no picture that can be shown, or larger than %2.</source>
+        <translation>„%1“ není obrázek, který lze zobrazit, nebo je větší než %2.</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nové</translation>
+    </message>
+    <message>
+        <source>Original title</source>
+        <translation>Původní název</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation>Díl</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Rok</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Země</translation>
+    </message>
+    <message>
+        <source>Age rating</source>
+        <translation>Věková hranice</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Hodnocení</translation>
+    </message>
+    <message>
+        <source>Season %1</source>
+        <translation>%1. řada</translation>
+    </message>
+    <message>
+        <source>Episode %1</source>
+        <translation>%1. díl</translation>
+    </message>
+    <message>
+        <source>Episode %1 of %2</source>
+        <translation>%1. díl z %2</translation>
+    </message>
+    <message>
+        <source>Part %1</source>
+        <translation>Část %1</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2</source>
+        <translation>Část %1 z %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 stars</source>
+        <translation>%1 z %2 hvězdiček</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show all %n program(s)</source>
+        <translation>
+            <numerusform>Zobrazit %n program</numerusform>
+            <numerusform>Zobrazit všechny %n programy</numerusform>
+            <numerusform>Zobrazit všech %n programů</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add all %n channel(s)</source>
+        <translation>
+            <numerusform>Přidat kanál</numerusform>
+            <numerusform>Přidat všechny %n kanály</numerusform>
+            <numerusform>Přidat všech %n kanálů</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add the %n channel(s) with shows</source>
+        <translation>
+            <numerusform>Přidat kanál s pořady</numerusform>
+            <numerusform>Přidat %n kanály s pořady</numerusform>
+            <numerusform>Přidat %n kanálů s pořady</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -143,5 +143,26 @@
             <numerusform>Only %1 of %n channels have shows in the next 24 hours.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Show all %n program(s)</source>
+        <translation>
+            <numerusform>Show the program</numerusform>
+            <numerusform>Show all %n programs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add all %n channel(s)</source>
+        <translation>
+            <numerusform>Add the channel</numerusform>
+            <numerusform>Add all %n channels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add the %n channel(s) with shows</source>
+        <translation>
+            <numerusform>Add the channel with shows</numerusform>
+            <numerusform>Add the %n channels with shows</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -884,20 +884,12 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Moje zdroje</translation>
     </message>
     <message>
-        <source>This is a program. It runs on this device with your rights, now and at each update.</source>
-        <translation>Toto je program. Pobeží na tomto zariadení s vašimi právami, teraz a pri každej aktualizácii.</translation>
-    </message>
-    <message>
         <source>Schedules (XMLTV), packed or not, playlists (M3U), and programs that print a schedule.</source>
         <translation>Programy staníc (XMLTV), aj zbalené, zoznamy staníc (M3U) a programy, ktoré vypisujú XMLTV.</translation>
     </message>
     <message>
         <source>Address, file or program</source>
         <translation>Adresa, súbor alebo program</translation>
-    </message>
-    <message>
-        <source>Run this program</source>
-        <translation>Spustiť tento program</translation>
     </message>
     <message>
         <source>Show channels</source>
@@ -944,36 +936,8 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Programy na tomto zariadení</translation>
     </message>
     <message>
-        <source>Looking for programs that give a schedule</source>
-        <translation>Hľadajú sa programy, ktoré vypisujú XMLTV</translation>
-    </message>
-    <message>
-        <source>None found</source>
-        <translation>Nič sa nenašlo</translation>
-    </message>
-    <message>
-        <source>Enter the path of a program above.</source>
-        <translation>Zadajte hore cestu k programu.</translation>
-    </message>
-    <message>
-        <source>Look again…</source>
-        <translation>Hľadať znova…</translation>
-    </message>
-    <message>
-        <source>Look for programs that give a schedule…</source>
-        <translation>Hľadať programy, ktoré vypisujú XMLTV…</translation>
-    </message>
-    <message>
         <source>Choose a schedule or playlist</source>
         <translation>Vyberte súbor XMLTV alebo M3U</translation>
-    </message>
-    <message>
-        <source>Run programs?</source>
-        <translation>Spustiť programy?</translation>
-    </message>
-    <message>
-        <source>Each program on this device whose name begins with tv_grab_ is run, to ask what it is.</source>
-        <translation>Každý program na tomto zariadení, ktorého meno sa začína na tv_grab_, sa spustí, aby povedal, čo je.</translation>
     </message>
     <message>
         <source>Run</source>
@@ -1086,10 +1050,6 @@ Počkajte, kým sa program načíta.</translation>
     <message>
         <source>A search finds every channel of the feeds.</source>
         <translation>Hľadanie nájde každý kanál zdrojov.</translation>
-    </message>
-    <message>
-        <source>Time and language</source>
-        <translation>Čas a jazyk</translation>
     </message>
     <message>
         <source>The language decides in which category a show is. The channel&apos;s times are moved in addition to those of the whole source.</source>
@@ -1270,10 +1230,6 @@ Počkajte, kým sa program načíta.</translation>
     <message>
         <source>Refresh now</source>
         <translation>Obnoviť teraz</translation>
-    </message>
-    <message>
-        <source>Time and language by channel</source>
-        <translation>Čas a jazyk podľa kanála</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -1546,6 +1502,110 @@ Počkajte, kým sa program načíta.</translation>
     <message>
         <source>Files cannot be chosen: the package %1 is missing. Type the path of the file.</source>
         <translation>Súbory nemožno vyberať: chýba balík %1. Napíšte cestu k súboru.</translation>
+    </message>
+    <message>
+        <source>Found by their names. One runs only after you agree.</source>
+        <translation>Nájdené podľa mien. Spustí sa len ten, s ktorým súhlasíte.</translation>
+    </message>
+    <message>
+        <source>Settings of channels</source>
+        <translation>Nastavenia kanálov</translation>
+    </message>
+    <message>
+        <source>Picture…</source>
+        <translation>Obrázok…</translation>
+    </message>
+    <message>
+        <source>Remove picture</source>
+        <translation>Odobrať obrázok</translation>
+    </message>
+    <message>
+        <source>Choose a picture</source>
+        <translation>Vyberte obrázok</translation>
+    </message>
+    <message>
+        <source>Your own picture, in place of that of the source.</source>
+        <translation>Váš vlastný obrázok namiesto obrázka zo zdroja.</translation>
+    </message>
+    <message>
+        <source>“%1” is no picture that can be shown, or larger than %2.</source>
+        <translation>„%1“ nie je obrázok, ktorý sa dá zobraziť, alebo je väčší ako %2.</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nové</translation>
+    </message>
+    <message>
+        <source>Original title</source>
+        <translation>Pôvodný názov</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation>Časť</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Rok</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Krajina</translation>
+    </message>
+    <message>
+        <source>Age rating</source>
+        <translation>Veková hranica</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Hodnotenie</translation>
+    </message>
+    <message>
+        <source>Season %1</source>
+        <translation>%1. séria</translation>
+    </message>
+    <message>
+        <source>Episode %1</source>
+        <translation>%1. časť</translation>
+    </message>
+    <message>
+        <source>Episode %1 of %2</source>
+        <translation>%1. časť z %2</translation>
+    </message>
+    <message>
+        <source>Part %1</source>
+        <translation>Diel %1</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2</source>
+        <translation>Diel %1 z %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 stars</source>
+        <translation>%1 z %2 hviezdičiek</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show all %n program(s)</source>
+        <translation>
+            <numerusform>Zobraziť %n program</numerusform>
+            <numerusform>Zobraziť všetky %n programy</numerusform>
+            <numerusform>Zobraziť všetkých %n programov</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add all %n channel(s)</source>
+        <translation>
+            <numerusform>Pridať kanál</numerusform>
+            <numerusform>Pridať všetky %n kanály</numerusform>
+            <numerusform>Pridať všetkých %n kanálov</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add the %n channel(s) with shows</source>
+        <translation>
+            <numerusform>Pridať kanál s reláciami</numerusform>
+            <numerusform>Pridať %n kanály s reláciami</numerusform>
+            <numerusform>Pridať %n kanálov s reláciami</numerusform>
+        </translation>
     </message>
 </context>
 <context>

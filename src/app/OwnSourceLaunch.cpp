@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::vector<WantedIcon> wantedIcons(const OwnSourceList& sources) {
+std::vector<WantedIcon> wantedIcons(const OwnSourceList& sources, const OwnPictures& pictures) {
     std::unordered_map<OwnSourceId, QString> hosts;
     for (const OwnSource& source : sources) {
         hosts.emplace(source.id, hostOfAddress(source.address));
@@ -29,6 +29,7 @@ std::vector<WantedIcon> wantedIcons(const OwnSourceList& sources) {
         const bool isPlaylist = source.kind == OwnSourceKind::Playlist;
         for (const OwnChannel& channel : source.channels) {
             WantedIcon icon{.channel = ownChannelId(source.id, channel.key), .ownHosts = {hostOf(source.id)}};
+            icon.chosen = pictures.pathOf(source.id, icon.channel).value_or(QString());
             if (channel.guide) {
                 icon.ownHosts << hostOf(channel.guide->source);
             }
@@ -65,7 +66,8 @@ void QuellinGuideAppDelegate::addSource(const QString& input) {
 
 void QuellinGuideAppDelegate::fetchOwnIcons() {
     if (m_channelIcons) {
-        m_channelIcons->setWanted(wantedIcons(*m_ownSources->snapshot()), m_settings.iconsFromOtherHosts());
+        m_channelIcons->setWanted(wantedIcons(*m_ownSources->snapshot(), *m_ownPictures),
+                                  m_settings.iconsFromOtherHosts());
     }
 }
 
@@ -96,6 +98,8 @@ void QuellinGuideAppDelegate::makeOwnSources() {
     }
     const QString& caches = m_environment.folders.caches;
     m_knownFeeds = KnownFeeds::fromFile(m_environment.folders.bundle + "/known-feeds.json"_L1);
+    m_ownPictures = std::make_unique<OwnPictures>(m_environment.folders.documents + "/channel-pictures"_L1,
+                                                  m_environment.folders.writable);
     m_sourceRecords = std::make_unique<SourceRecords>(caches + "/own-sources.json"_L1,
                                                       m_environment.folders.writable, m_environment.queues);
     m_sourceFetcher = std::make_unique<SourceFetcher>(SourceFetcherEnvironment{
@@ -139,8 +143,8 @@ void QuellinGuideAppDelegate::makeOwnSources() {
         .sources = *m_ownSources,
         .records = *m_sourceRecords,
         .fetcher = *m_sourceFetcher,
-        .programs = *m_environment.programs,
         .updates = *m_ownSourceUpdates,
+        .pictures = *m_ownPictures,
         .settings = m_settings,
         .random = m_environment.random,
         .caches = caches,

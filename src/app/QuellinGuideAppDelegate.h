@@ -210,6 +210,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     std::unique_ptr<SourceRecords> m_sourceRecords;
     std::unique_ptr<SourceFetcher> m_sourceFetcher;
     std::unique_ptr<OwnSourceUpdates> m_ownSourceUpdates;
+    std::unique_ptr<OwnPictures> m_ownPictures;
     std::unique_ptr<OwnSourceService> m_ownSourceService;
     KnownFeeds m_knownFeeds;
     std::unique_ptr<ChannelIconFetcher> m_channelIcons;

@@ -1,14 +1,19 @@
 #include "core/own/OwnSources.h"
 
 #include "app/GuideWorld.h"
+#include "app/own/PreviewCache.h"
 #include "app/own/SourceSchedule.h"
+#include "fakes/ManualQueues.h"
 #include "fakes/Packing.h"
+#include "platform/files/FileReplacement.h"
 #include "screens/sources/SourceActions.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -256,6 +261,70 @@ TEST_F(OwnSourcesTest, APlaylistTakesItsSchedulesFromAFeedAndItsStreamsFromItsel
     world.end();
 }
 
+TEST_F(OwnSourcesTest, AFeedThatIsAddedLaterServesChannelsThatClearlyAreIts) {
+    QByteArray list = "#EXTM3U\n";
+    for (const char* name : {"tvg-id=\"c1\",First", "Channel 2 HD", "tvg-id=\"c3\",Third", "Channel"}) {
+        list += QByteArray("#EXTINF:-1 ") + (name[0] == 'C' ? "," : "") + name + "\nhttp://streams.test/" +
+                QByteArray::number(list.size()) + '\n';
+    }
+    world.server->serve("/list.m3u", ServerReply::ok(list));
+    serve(ServerReply::ok(feedOf(3, 3, world.clock.now(), "Show")));
+    start();
+    const SourceProposal proposal = propose(world.server->base() + u"/list.m3u"_s);
+    std::vector<MatchedEntry> entries;
+    const auto token = actions().match(proposal.preview.playlist, {}, {},
+                                       [&](std::vector<MatchedEntry> matched) { entries = matched; });
+    ASSERT_TRUE(world.runUntil([&] { return entries.size() == 4; }));
+    OwnSource settings;
+    settings.corrections = {{entries[2].key, std::nullopt}};
+    source = actions().add(proposal, settings,
+                           {entries[0].key, entries[1].key, entries[2].key, entries[3].key}, entries);
+    actions().add(propose(world.server->base() + u"/guide.xml"_s), OwnSource(), {}, {});
+    ASSERT_TRUE(world.runUntil([&] { return titles(entries[1].key).size() == 6; }));
+    EXPECT_EQ(titles(entries[0].key).size(), 6);
+    const std::vector<OwnChannel> channels = actions().sourceWithId(source)->channels;
+    EXPECT_EQ(channels[1].guide->channel, u"c2"_s);
+    EXPECT_FALSE(channels[2].guide) << "the user said so";
+    EXPECT_FALSE(channels[3].guide) << "no clear hit";
+    world.end();
+}
+
+TEST_F(OwnSourcesTest, AChannelsOwnPictureStaysUntilItsSourceIsRemoved) {
+    serve(ServerReply::ok(feedOf(1, 1, world.clock.now(), "Show", 48)));
+    start();
+    add(world.server->base() + u"/guide.xml"_s, {u"c1"_s});
+    const QString folder = world.folders.documents + u"/channel-pictures/"_s + source.hex();
+    const QString icon = world.folders.caches + u"/channel-icons/"_s + ownChannelId(source, u"c1"_s).hex();
+    const QString red = world.folders.documents + u"/red.png"_s;
+    QImage picture(40, 30, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(red));
+    for (const auto& [file, isPicture] : {std::pair(world.folders.documents + u"/none.png"_s, false),
+                                          {world.folders.caches + u"/own-sources.json"_s, false},
+                                          {red, true}}) {
+        std::optional<bool> answer;
+        const auto token =
+            actions().setPicture(source, u"c1"_s, file, [&answer](bool isSet) { answer = isSet; });
+        ASSERT_TRUE(world.runUntil([&] { return answer.has_value(); }));
+        EXPECT_EQ(answer, isPicture) << file.toStdString();
+    }
+    const auto isShown = [&] { return QImage(icon).pixelColor(5, 5) == QColor(Qt::red); };
+    EXPECT_TRUE(world.runUntil(isShown));
+    ASSERT_TRUE(QFile::remove(red)) << "a copy is shown";
+    next();
+    world.end();
+    start();
+    EXPECT_TRUE(actions().hasPicture(source, u"c1"_s));
+    world.runFor(50ms);
+    EXPECT_TRUE(isShown());
+    actions().removePicture(source, u"c1"_s);
+    EXPECT_TRUE(world.runUntil([&] { return !QFile::exists(icon); }));
+    EXPECT_TRUE(QDir(folder).isEmpty());
+    actions().remove(source);
+    EXPECT_TRUE(world.runUntil([&] { return !QFile::exists(folder); }));
+    world.end();
+}
+
 TEST_F(OwnSourcesTest, SecretsOfAnAddressStayOnTheDevice) {
     world.server->serve("/guide.xml?key=Passw0rd",
                         ServerReply::ok(feedOf(1, 1, world.clock.now(), "Show", 48)));
@@ -295,8 +364,12 @@ TEST_F(OwnSourcesTest, AScriptIsAGrabberAndAFolderIsWatchedForItsNewestFile) {
                       "/guide.xml'\n");
     QFile(script).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     start();
-    EXPECT_TRUE(actions().isProgram(script));
-    EXPECT_FALSE(actions().isProgram(folder + u"/guide.xml"_s));
+    for (const auto& [file, isProgram] : {std::pair(script, true), {folder + u"/guide.xml"_s, false}}) {
+        std::optional<bool> answer;
+        const auto token = actions().isProgram(file, [&answer](bool is) { answer = is; });
+        EXPECT_TRUE(world.runUntil([&] { return answer.has_value(); }));
+        EXPECT_EQ(answer, isProgram);
+    }
     add(script, {u"c1"_s});
     EXPECT_EQ(actions().sources()->back().kind, OwnSourceKind::Grabber);
     EXPECT_EQ(titles(u"c1"_s).value(0), u"Folder 0"_s);
@@ -305,6 +378,32 @@ TEST_F(OwnSourcesTest, AScriptIsAGrabberAndAFolderIsWatchedForItsNewestFile) {
     add(folder, {u"c1"_s});
     EXPECT_EQ(actions().sources()->back().kind, OwnSourceKind::Feed);
     world.end();
+}
+
+TEST(PreviewCache, MakesAPreviewOnceAMinuteForAFileAsItIs) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"feed"_s);
+    ASSERT_TRUE(replaceFile(path, "one"));
+    ManualClock clock;
+    ManualQueues queues(clock);
+    PreviewCache cache(queues.makeQueue("previews", QueueKind::Concurrent, QueuePriority::Background));
+    int made = 0;
+    bool stopped = true;
+    const auto make = [&]() -> std::shared_ptr<const SourcePreview> {
+        ++made;
+        return stopped ? nullptr : std::make_shared<const SourcePreview>();
+    };
+    const Moment now{std::chrono::hours(500'000)};
+    EXPECT_EQ(cache.previewOf(path, u"cs"_s, now, make), nullptr);
+    stopped = false;
+    const auto first = cache.previewOf(path, u"cs"_s, now, make);
+    EXPECT_EQ(cache.previewOf(path, u"cs"_s, now + 59s, make), first);
+    EXPECT_EQ(made, 2) << "one that was stopped says nothing";
+    cache.previewOf(path, u"sk"_s, now, make);
+    ASSERT_TRUE(replaceFile(path, "longer"));
+    cache.previewOf(path, u"cs"_s, now, make);
+    cache.previewOf(path, u"cs"_s, now + 60s, make);
+    EXPECT_EQ(made, 5);
 }
 
 TEST(SourceSchedule, WaitsAccordingToTheResult) {

@@ -78,7 +78,9 @@ struct WorldSources final : SourceActions {
         : mainQueue(ownMainQueue) {}
 
     SharedOwnSources sources() const override { return std::make_shared<const OwnSourceList>(list); }
-    bool isProgram(const QString& input) const override { return programs.contains(input); }
+    Token isProgram(const QString& input, std::function<void(bool)> answered) override {
+        return later([answered, is = programs.contains(input)] { answered(is); });
+    }
     std::optional<QString> newHostOf(const QString&) const override { return newHost; }
     Token propose(const QString& input, Progress reading, Proposed answered) override {
         done << u"ask "_s + input;
@@ -88,9 +90,8 @@ struct WorldSources final : SourceActions {
         done << u"again "_s + nameOf(source);
         return ask(std::move(reading), std::move(answered));
     }
-    Token findGrabbers(std::function<void(std::vector<GrabberProgram>)> found) override {
-        mainQueue.async([found, grabbers = grabbers] { found(grabbers); });
-        return std::make_shared<char>();
+    Token findGrabbers(std::function<void(QStringList)> found) override {
+        return later([found, grabbers = grabbers] { found(grabbers); });
     }
     OwnSourceId add(const SourceProposal& proposal, const OwnSource& settings, const QStringList& chosen,
                     const std::vector<MatchedEntry>& matches) override {
@@ -146,18 +147,29 @@ struct WorldSources final : SourceActions {
             }
             entries.push_back(std::move(made));
         }
-        mainQueue.async([matched, entries] { matched(entries); });
-        return std::make_shared<char>();
+        return later([matched, entries] { matched(entries); });
     }
     Token channelsOf(const OwnSourceId& feed,
                      std::function<void(std::vector<PreviewChannel>)> answered) override {
-        mainQueue.async([answered, channels = feeds[feed]] { answered(channels); });
-        return std::make_shared<char>();
+        return later([answered, channels = feeds[feed]] { answered(channels); });
     }
     SourceStatus status(const OwnSourceId& source) const override {
         const auto found = states.find(source);
         return found == states.end() ? SourceStatus() : found->second;
     }
+
+    bool hasPicture(const OwnSourceId&, const QString& channel) const override {
+        return pictures.contains(channel);
+    }
+    Token setPicture(const OwnSourceId&, const QString& channel, const QString& file,
+                     std::function<void(bool)> answered) override {
+        const bool is = file.endsWith(u".png"_s);
+        if (is) {
+            pictures << channel;
+        }
+        return later([answered, is] { answered(is); });
+    }
+    void removePicture(const OwnSourceId&, const QString& channel) override { pictures.removeAll(channel); }
 
     bool iconsFromOtherHosts() const override { return otherHosts; }
     void setIconsFromOtherHosts(bool on) override { otherHosts = on; }
@@ -177,7 +189,8 @@ struct WorldSources final : SourceActions {
     std::map<OwnSourceId, SourceStatus> states;
     std::map<OwnSourceId, std::vector<PreviewChannel>> feeds;
     QStringList programs;
-    std::vector<GrabberProgram> grabbers;
+    QStringList pictures;
+    QStringList grabbers;
     std::optional<QString> newHost;
     Progress progress;
     Proposed proposed;
@@ -186,6 +199,15 @@ struct WorldSources final : SourceActions {
     bool otherHosts = false;
 
   private:
+    Token later(const std::function<void()>& answer) {
+        const auto token = std::make_shared<char>();
+        mainQueue.async([answer, given = std::weak_ptr(token)] {
+            if (!given.expired()) {
+                answer();
+            }
+        });
+        return token;
+    }
     Token ask(Progress ownProgress, Proposed ownProposed) {
         progress = std::move(ownProgress);
         proposed = std::move(ownProposed);

@@ -236,7 +236,7 @@ constexpr Screen kScreens[] = {
      }},
     {"channels of a source",
      [](EveryScreenTest& test) {
-         test.tapRow(u"Time and language by channel"_s);
+         test.tapRow(u"Settings of channels"_s);
          return true;
      }},
     {"channel of a source",

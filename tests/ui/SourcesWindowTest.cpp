@@ -41,7 +41,10 @@ class SourcesWindowTest : public WindowTest {
         const Table& table = dynamic_cast<TableViewController&>(world.top()).table();
         for (int index = 0; index < table.rowCount(); ++index) {
             const auto* channel = std::get_if<ChannelRow>(&table.rowAt(index).content);
-            if (channel && channel->title == title) {
+            const auto* text = std::get_if<TextRow>(&table.rowAt(index).content);
+            const auto* button = std::get_if<ButtonRow>(&table.rowAt(index).content);
+            if ((channel && channel->title == title) || (text && text->title == title) ||
+                (button && button->title == title)) {
                 return index;
             }
         }
@@ -64,6 +67,7 @@ TEST_F(SourcesWindowTest, FromAnAddressToTheChosenChannels) {
     // The field has the keyboard.
     type(u"feeds.example/x"_s);
     press(Qt::Key_Return);
+    proceed();
     EXPECT_EQ(sources.done, QStringList{u"ask feeds.example/x"_s});
     answer();
     const int alfa = indexOf(u"Alfa"_s);
@@ -79,6 +83,24 @@ TEST_F(SourcesWindowTest, FromAnAddressToTheChosenChannels) {
     press(Qt::Key_Return);
     push(u"Done"_s);
     EXPECT_EQ(sources.done.last(), u"add Television: alfa.cz beta.cz nova.cz"_s);
+}
+
+TEST_F(SourcesWindowTest, FromAProgramToItsChannelsByFourClicks) {
+    sources.grabbers = {u"/usr/bin/tv_grab_own"_s};
+    push(u"Add channels"_s);
+    ASSERT_TRUE(row(indexOf(u"tv_grab_own"_s))) << "it is in sight";
+    click(row(indexOf(u"tv_grab_own"_s)));
+    ASSERT_EQ(world.app.alerts.size(), 1U);
+    EXPECT_TRUE(world.app.alerts.back().message.contains(u"/usr/bin/tv_grab_own"_s));
+    EXPECT_TRUE(sources.done.isEmpty());
+    world.tabs->presentAlert(world.app.alerts.back());
+    settle();
+    push(u"Run"_s);
+    EXPECT_EQ(sources.done, QStringList{u"ask /usr/bin/tv_grab_own"_s});
+    answer();
+    ASSERT_TRUE(row(indexOf(u"Add all 4 channel(s)"_s)));
+    click(row(indexOf(u"Add all 4 channel(s)"_s)));
+    EXPECT_EQ(sources.done.last(), u"add Television: alfa.cz beta.cz gama.cz nova.cz"_s);
 }
 
 TEST_F(SourcesWindowTest, AFileIsDroppedOnTheWindow) {

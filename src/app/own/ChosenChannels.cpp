@@ -81,6 +81,22 @@ std::vector<OwnChannel> chosenChannels(const OwnSource& source, const SourceProp
     return channels;
 }
 
+QSet<QString> channelsToMatch(const OwnSource& source) {
+    QSet<QString> keys;
+    if (source.kind != OwnSourceKind::Playlist) {
+        return keys;
+    }
+    for (const OwnChannel& channel : source.channels) {
+        if (!channel.guide) {
+            keys.insert(channel.key);
+        }
+    }
+    for (const GuideCorrection& correction : source.corrections) {
+        keys.remove(correction.key);
+    }
+    return keys;
+}
+
 std::vector<ObjectId> idsOf(const OwnSource& source) {
     std::vector<ObjectId> ids;
     ids.reserve(source.channels.size());

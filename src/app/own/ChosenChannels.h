@@ -2,6 +2,7 @@
 
 #include "screens/sources/SourceActions.h"
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -16,6 +17,9 @@ QString commonLanguage(const SourcePreview& preview);
 /// had keep their settings, also when it does not offer them today.
 std::vector<OwnChannel> chosenChannels(const OwnSource& source, const SourceProposal& proposal,
                                        const QStringList& chosen, const std::vector<MatchedEntry>& matches);
+
+/// The keys of a playlist's chosen channels that have no schedule, unless the user said so.
+QSet<QString> channelsToMatch(const OwnSource& source);
 
 std::vector<ObjectId> idsOf(const OwnSource& source);
 /// Those of the first that are not among the others.

@@ -1,10 +1,9 @@
 #include "app/own/OwnSourceService.h"
 
 #include "app/own/ChosenChannels.h"
+#include "app/own/PlaylistMatching.h"
 #include "app/own/SourceSchedule.h"
 #include "core/own/SourceAddress.h"
-#include "parsers/playlists/ChannelMatching.h"
-#include "parsers/playlists/PlaylistKeys.h"
 #include "sources/own/Grabber.h"
 
 #include <QDir>
@@ -80,7 +79,8 @@ OwnSourceKind kindOf(const QString& address, SourceKind content) {
 OwnSourceService::OwnSourceService(OwnSourceServiceEnvironment environment)
     : m_environment(std::move(environment))
     , m_queue(m_environment.queues.makeQueue("vorel.tv.ownSources.screens", QueueKind::Concurrent,
-                                             QueuePriority::UserInitiated)) {
+                                             QueuePriority::UserInitiated))
+    , m_previews(m_queue) {
     // What an earlier run did not get to add.
     QDir(m_environment.caches + "/sources/proposals"_L1).removeRecursively();
 }
@@ -112,9 +112,13 @@ SourceActions::Token OwnSourceService::inBackground(std::function<Result(const W
     return token;
 }
 
-bool OwnSourceService::isProgram(const QString& input) const {
-    const auto address = sourceAddress(input);
-    return address && !isWebAddress(address->open) && isProgramFile(address->open);
+SourceActions::Token OwnSourceService::isProgram(const QString& input, std::function<void(bool)> answered) {
+    return inBackground<bool>(
+        [input](const Work&) {
+            const auto address = sourceAddress(input);
+            return address && !isWebAddress(address->open) && isProgramFile(address->open);
+        },
+        std::move(answered));
 }
 
 std::optional<QString> OwnSourceService::newHostOf(const QString& input) const {
@@ -203,17 +207,24 @@ SourceActions::Token OwnSourceService::propose(const QString& input, Progress pr
         std::move(proposed));
 }
 
-SourcePreview OwnSourceService::keptPreview(const OwnSource& source, const Work& work) const {
+std::shared_ptr<const SourcePreview> OwnSourceService::keptPreview(const OwnSource& source,
+                                                                   const Work& work) const {
     const QString charset = m_environment.records.record(source.id).charset;
-    return sourcePreview(contentOf(source, m_environment.caches),
-                         previewRequest(charset, source.language, work));
+    const QString path = contentOf(source, m_environment.caches);
+    const PreviewRequest request = previewRequest(charset, source.language, work);
+    const auto preview = m_previews.previewOf(
+        path, charset + u' ' + source.language, request.now, [&]() -> std::shared_ptr<const SourcePreview> {
+            SourcePreview made = sourcePreview(path, request);
+            return work.stopped() ? nullptr : std::make_shared<const SourcePreview>(std::move(made));
+        });
+    return preview ? preview : std::make_shared<const SourcePreview>();
 }
 
 SourceProposal OwnSourceService::keptProposal(const OwnSource& source, const Work& work) const {
     return {.input = source.address,
             .kind = source.kind,
             .name = source.name,
-            .preview = keptPreview(source, work),
+            .preview = *keptPreview(source, work),
             .detail = {},
             .content = {}};
 }
@@ -227,16 +238,8 @@ SourceActions::Token OwnSourceService::proposeAgain(const OwnSourceId& source, P
         std::move(proposed));
 }
 
-SourceActions::Token OwnSourceService::findGrabbers(std::function<void(std::vector<GrabberProgram>)> found) {
-    return inBackground<std::vector<GrabberProgram>>(
-        [this](const Work& work) {
-            std::vector<GrabberProgram> programs;
-            for (const Grabber& grabber : guide::findGrabbers(m_environment.programs, work.stopped)) {
-                programs.push_back({grabber.path, grabber.description});
-            }
-            return programs;
-        },
-        std::move(found));
+SourceActions::Token OwnSourceService::findGrabbers(std::function<void(QStringList)> found) {
+    return inBackground<QStringList>([](const Work&) { return guide::findGrabbers(); }, std::move(found));
 }
 
 OwnSourceId OwnSourceService::add(const SourceProposal& proposal, const OwnSource& settings,
@@ -294,7 +297,53 @@ OwnSourceId OwnSourceService::add(const SourceProposal& proposal, const OwnSourc
     m_environment.sources.put(source);
     m_environment.select(idsOf(source));
     m_environment.updates.check();
+    if (!isList) {
+        matchWith(source.id, preview.channels);
+    }
     return source.id;
+}
+
+void OwnSourceService::matchWith(const OwnSourceId& feed, const std::vector<PreviewChannel>& channels) {
+    using Places = QHash<QString, std::size_t>;
+    const SharedOwnSources sources = m_environment.sources.snapshot();
+    const auto offered = std::make_shared<const std::vector<PreviewChannel>>(channels);
+    for (const OwnSource& source : *sources) {
+        const QSet<QString> wanting = channelsToMatch(source);
+        if (wanting.isEmpty()) {
+            continue;
+        }
+        m_matching[{source.id, feed}] = inBackground<Places>(
+            [this, source, wanting, offered](const Work& work) {
+                return clearMatches(keptPreview(source, work)->playlist, wanting, *offered);
+            },
+            [this, id = source.id, feed, offered](const Places& places) {
+                m_matching.erase({id, feed});
+                takeMatches(id, feed, *offered, places);
+            });
+    }
+}
+
+void OwnSourceService::takeMatches(const OwnSourceId& id, const OwnSourceId& feed,
+                                   const std::vector<PreviewChannel>& channels,
+                                   const QHash<QString, std::size_t>& places) {
+    auto playlist = m_environment.sources.find(id);
+    if (!playlist || !m_environment.sources.find(feed)) {
+        return;
+    }
+    // The user may have decided meanwhile.
+    const QSet<QString> wanting = channelsToMatch(*playlist);
+    for (OwnChannel& channel : playlist->channels) {
+        const auto place = places.constFind(channel.key);
+        if (place == places.cend() || !wanting.contains(channel.key)) {
+            continue;
+        }
+        const PreviewChannel& guide = channels[*place];
+        channel.guide = GuideChannel{feed, guide.id};
+        if (!channel.languageCorrected && !guide.language.isEmpty()) {
+            channel.language = guide.language;
+        }
+    }
+    update(*playlist);
 }
 
 void OwnSourceService::choose(const OwnSourceId& id, const SourceProposal& proposal,
@@ -333,6 +382,7 @@ void OwnSourceService::remove(const OwnSourceId& source) {
     m_environment.records.remove(source);
     m_blocks.async(*m_queue, [this, source, hasSecret = record->hasSecret] {
         SourceFolder(m_environment.caches, source).remove();
+        m_environment.pictures.removeAll(source);
         if (hasSecret) {
             m_environment.fetcher.secrets().removeSecret(secretKey(source));
         }
@@ -377,51 +427,15 @@ SourceActions::Token OwnSourceService::match(const Playlist& playlist,
     const SharedOwnSources sources = m_environment.sources.snapshot();
     return inBackground<std::vector<MatchedEntry>>(
         [this, playlist, corrections, feeds, sources](const Work& work) {
-            std::vector<FeedChannel> channels;
-            std::vector<OwnSourceId> ids;
+            std::vector<FeedToMatch> read;
             for (const OwnSource& source : *sources) {
                 const bool isWanted = source.kind != OwnSourceKind::Playlist &&
                                       (feeds.empty() || std::ranges::find(feeds, source.id) != feeds.end());
-                if (!isWanted || work.stopped()) {
-                    continue;
+                if (isWanted && !work.stopped()) {
+                    read.push_back({source.id, keptPreview(source, work)});
                 }
-                for (PreviewChannel& channel : keptPreview(source, work).channels) {
-                    channels.push_back(
-                        {std::move(channel.id), std::move(channel.names), static_cast<int>(ids.size())});
-                }
-                ids.push_back(source.id);
             }
-            const auto guideOf = [&](int place) {
-                const FeedChannel& channel = channels[static_cast<std::size_t>(place)];
-                return GuideChannel{ids[static_cast<std::size_t>(channel.feed)], channel.id};
-            };
-            QHash<QString, const GuideCorrection*> corrected;
-            for (const GuideCorrection& correction : corrections) {
-                corrected.insert(correction.key, &correction);
-            }
-            const std::vector<ChannelMatch> found = matchChannels(playlist.entries, channels);
-            const QStringList keys = playlistKeys(playlist);
-            std::vector<MatchedEntry> entries;
-            entries.reserve(found.size());
-            for (std::size_t i = 0; i < found.size(); ++i) {
-                MatchedEntry entry{.key = keys[static_cast<qsizetype>(i)],
-                                   .entry = playlist.entries[i],
-                                   .match = found[i].kind,
-                                   .corrected = false,
-                                   .guide = {},
-                                   .guideLanguage = {},
-                                   .candidates = {}};
-                if (found[i].channel >= 0) {
-                    entry.guide = guideOf(found[i].channel);
-                }
-                std::ranges::transform(found[i].candidates, std::back_inserter(entry.candidates), guideOf);
-                if (const GuideCorrection* correction = corrected.value(entry.key)) {
-                    entry.corrected = true;
-                    entry.guide = correction->guide;
-                }
-                entries.push_back(std::move(entry));
-            }
-            return entries;
+            return matchedEntries(playlist, corrections, read);
         },
         std::move(matched));
 }
@@ -430,13 +444,35 @@ SourceActions::Token OwnSourceService::channelsOf(const OwnSourceId& feed,
                                                   std::function<void(std::vector<PreviewChannel>)> answered) {
     return inBackground<std::vector<PreviewChannel>>(
         [this, record = m_environment.sources.find(feed)](const Work& work) {
-            return record ? keptPreview(*record, work).channels : std::vector<PreviewChannel>();
+            return record ? keptPreview(*record, work)->channels : std::vector<PreviewChannel>();
         },
         std::move(answered));
 }
 
 SourceStatus OwnSourceService::status(const OwnSourceId& source) const {
     return m_environment.records.record(source).status;
+}
+
+bool OwnSourceService::hasPicture(const OwnSourceId& source, const QString& channel) const {
+    return m_environment.pictures.pathOf(source, ownChannelId(source, channel)).has_value();
+}
+
+SourceActions::Token OwnSourceService::setPicture(const OwnSourceId& source, const QString& channel,
+                                                  const QString& file, std::function<void(bool)> answered) {
+    const ObjectId id = ownChannelId(source, channel);
+    return inBackground<bool>(
+        [this, source, id, file](const Work&) { return m_environment.pictures.set(source, id, file); },
+        [this, answered = std::move(answered)](bool isSet) {
+            if (isSet) {
+                m_environment.fetchIcons();
+            }
+            answered(isSet);
+        });
+}
+
+void OwnSourceService::removePicture(const OwnSourceId& source, const QString& channel) {
+    m_environment.pictures.remove(source, ownChannelId(source, channel));
+    m_environment.fetchIcons();
 }
 
 void OwnSourceService::setIconsFromOtherHosts(bool on) {

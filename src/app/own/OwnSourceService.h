@@ -1,14 +1,20 @@
 #pragma once
 
 #include "app/own/OwnSourceUpdates.h"
+#include "app/own/PreviewCache.h"
 #include "core/Settings.h"
+#include "core/own/OwnPictures.h"
 #include "parsers/own/SourcePreviewReader.h"
 #include "screens/sources/SourceActions.h"
 
+#include <QHash>
+
 #include <atomic>
 #include <functional>
+#include <map>
 #include <memory>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace guide {
@@ -21,8 +27,8 @@ struct OwnSourceServiceEnvironment {
     OwnSources& sources;
     SourceRecords& records;
     const SourceFetcher& fetcher;
-    ProgramRunner& programs;
     OwnSourceUpdates& updates;
+    OwnPictures& pictures;
     Settings& settings;
     RandomIndex random;
     QString caches;
@@ -44,11 +50,11 @@ class OwnSourceService final : public SourceActions {
     ~OwnSourceService() override;
 
     SharedOwnSources sources() const override { return m_environment.sources.snapshot(); }
-    bool isProgram(const QString& input) const override;
+    Token isProgram(const QString& input, std::function<void(bool)> answered) override;
     std::optional<QString> newHostOf(const QString& input) const override;
     Token propose(const QString& input, Progress progress, Proposed proposed) override;
     Token proposeAgain(const OwnSourceId& source, Progress progress, Proposed proposed) override;
-    Token findGrabbers(std::function<void(std::vector<GrabberProgram>)> found) override;
+    Token findGrabbers(std::function<void(QStringList)> found) override;
 
     OwnSourceId add(const SourceProposal& proposal, const OwnSource& settings, const QStringList& chosen,
                     const std::vector<MatchedEntry>& matches) override;
@@ -67,6 +73,11 @@ class OwnSourceService final : public SourceActions {
 
     SourceStatus status(const OwnSourceId& source) const override;
 
+    bool hasPicture(const OwnSourceId& source, const QString& channel) const override;
+    Token setPicture(const OwnSourceId& source, const QString& channel, const QString& file,
+                     std::function<void(bool)> answered) override;
+    void removePicture(const OwnSourceId& source, const QString& channel) override;
+
     bool iconsFromOtherHosts() const override { return m_environment.settings.iconsFromOtherHosts(); }
     void setIconsFromOtherHosts(bool on) override;
 
@@ -83,14 +94,22 @@ class OwnSourceService final : public SourceActions {
     Token inBackground(std::function<Result(const Work&)> make, std::function<void(Result)> answer);
     SourceProposal proposal(const QString& input, const Work& work) const;
     SourceProposal keptProposal(const OwnSource& source, const Work& work) const;
-    /// What was fetched last of a source.
-    SourcePreview keptPreview(const OwnSource& source, const Work& work) const;
+    /// What was fetched last of a source. Kept for the minute, because matching, its proof and the list of
+    /// channels need it one after the other.
+    std::shared_ptr<const SourcePreview> keptPreview(const OwnSource& source, const Work& work) const;
+    /// Gives chosen channels of playlists that have no schedule those of a new feed that clearly are theirs.
+    void matchWith(const OwnSourceId& feed, const std::vector<PreviewChannel>& channels);
+    void takeMatches(const OwnSourceId& id, const OwnSourceId& feed,
+                     const std::vector<PreviewChannel>& channels, const QHash<QString, std::size_t>& places);
     PreviewRequest previewRequest(const QString& charset, const QString& language, const Work& work) const;
 
     const OwnSourceServiceEnvironment m_environment;
     const std::shared_ptr<DispatchQueue> m_queue;
     DispatchGroup m_blocks;
     std::shared_ptr<std::atomic<bool>> m_alive = std::make_shared<std::atomic<bool>>(true);
+    mutable PreviewCache m_previews;
+    /// Of playlists and the new feeds that they are matched with.
+    std::map<std::pair<OwnSourceId, OwnSourceId>, Token> m_matching;
     /// The user agreed that they are asked.
     mutable std::unordered_set<QString> m_agreedHosts;
 };

@@ -96,8 +96,22 @@ void EditChannelListViewController::reloadRow(const ObjectId& channel) {
     }
 }
 
-Row EditChannelListViewController::channelRow(const ObjectId& channel,
-                                              const CatalogueSnapshot& catalogue) const {
+const std::unordered_map<ObjectId, QString>& EditChannelListViewController::ownSourceNames() {
+    const SharedOwnSources sources =
+        m_environment->sourceActions ? m_environment->sourceActions->sources() : nullptr;
+    if (sources != m_ownSources) {
+        m_ownSources = sources;
+        m_ownSourceNames.clear();
+        for (const OwnSource& source : *sources) {
+            for (const OwnChannel& channel : source.channels) {
+                m_ownSourceNames.emplace(ownChannelId(source.id, channel.key), source.name);
+            }
+        }
+    }
+    return m_ownSourceNames;
+}
+
+Row EditChannelListViewController::channelRow(const ObjectId& channel, const CatalogueSnapshot& catalogue) {
     ChannelRow row{.title = u"?"_s};
     if (const CatalogueChannel* found = catalogue.find(channel)) {
         row.title = latin2Cyrillic(found->title, found->language, m_environment->alphabet);
@@ -109,9 +123,16 @@ Row EditChannelListViewController::channelRow(const ObjectId& channel,
         const Moment now = m_environment->clock.now();
         const auto failure = record->loadFailure();
         const auto loaded = record->timeLoaded();
+        const QString failed = failure ? loadFailureText(*failure) : QString();
         QStringList facts;
+        if (channel.isOwn()) {
+            const auto source = ownSourceNames().find(channel);
+            if (source != ownSourceNames().end() && !failed.contains(source->second)) {
+                facts << source->second;
+            }
+        }
         if (failure) {
-            facts << loadFailureText(*failure);
+            facts << failed;
         } else if (loaded) {
             facts << m_environment->sourceOfSchedule(channel);
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/own/OwnSources.h"
 #include "screens/MinuteTick.h"
 #include "screens/channels/SelectionEditor.h"
 #include "screens/shell/ListingsScreen.h"
@@ -30,7 +31,9 @@ class EditChannelListViewController final : public ListingsScreen {
     std::vector<RowAction> actionsForRow(const RowId& id) override;
 
   private:
-    Row channelRow(const ObjectId& channel, const CatalogueSnapshot& catalogue) const;
+    /// The names of the user's sources by their channels.
+    const std::unordered_map<ObjectId, QString>& ownSourceNames();
+    Row channelRow(const ObjectId& channel, const CatalogueSnapshot& catalogue);
     void reloadTable();
     void reloadRow(const ObjectId& channel);
     void setEditing(bool editing);
@@ -43,6 +46,9 @@ class EditChannelListViewController final : public ListingsScreen {
     const std::shared_ptr<const ScreenEnvironment> m_environment;
     const std::shared_ptr<SelectionEditor> m_editor;
     MinuteTick m_minuteTick;
+    /// Of which the names are.
+    SharedOwnSources m_ownSources;
+    std::unordered_map<ObjectId, QString> m_ownSourceNames;
 };
 
 } // namespace guide

@@ -26,10 +26,24 @@ constexpr auto kContinue = "continue"_L1;
 constexpr auto kPaste = "paste"_L1;
 constexpr auto kFile = "file"_L1;
 constexpr auto kCountries = "countries"_L1;
-constexpr auto kFind = "find"_L1;
+constexpr auto kAllPrograms = "all"_L1;
+/// Before the user asks for all; a package of grabbers has twenty.
+constexpr qsizetype kMostPrograms = 4;
 
 Row buttonRow(const SectionId& section, const QString& name, ButtonRow content) {
     return {.id = {section, name}, .content = std::move(content), .selectable = true};
+}
+
+QString fileName(const QString& path) {
+    return path.section(u'/', -1);
+}
+
+/// By their names "tv_grab_REGION…", those of the region first.
+QStringList programsInOrder(QStringList paths, const QString& region) {
+    const QString own = region == "GB"_L1 ? u"uk"_s : region.toLower();
+    std::ranges::stable_partition(
+        paths, [&own](const QString& path) { return fileName(path).section(u'_', 2, 2) == own; });
+    return paths;
 }
 
 } // namespace
@@ -42,6 +56,14 @@ AddSourceViewController::AddSourceViewController(std::shared_ptr<const ScreenEnv
 void AddSourceViewController::viewDidLoad() {
     setTitle(Localized::tr("Add channels"));
     show();
+    m_finding =
+        actions().findGrabbers([weak = weakFromThis<AddSourceViewController>()](const QStringList& paths) {
+            if (const auto self = weak.lock()) {
+                self->m_finding.reset();
+                self->m_programs = programsInOrder(paths, regionOf(self->m_environment->device.locale()));
+                self->show();
+            }
+        });
 }
 
 void AddSourceViewController::viewDidAppear() {
@@ -59,7 +81,7 @@ void AddSourceViewController::show() {
         table().setSections({readingSection()});
         return;
     }
-    table().setSections({inputSection(), catalogueSection(), feedSection(), programSection()});
+    table().setSections({inputSection(), catalogueSection(), programSection(), feedSection()});
 }
 
 Section AddSourceViewController::readingSection() const {
@@ -74,13 +96,9 @@ Section AddSourceViewController::readingSection() const {
 }
 
 Section AddSourceViewController::inputSection() const {
-    const bool program = actions().isProgram(m_input.trimmed());
-    Section section{
-        .id = kInput,
-        .footer = program
-                      ? Localized::tr("This is a program. It runs on this device with your rights, now and "
-                                      "at each update.")
-                      : Localized::tr("Schedules (XMLTV), packed or not, playlists (M3U), and programs that "
+    Section section{.id = kInput,
+                    .footer =
+                        Localized::tr("Schedules (XMLTV), packed or not, playlists (M3U), and programs that "
                                       "print a schedule.")};
     section.rows.push_back({.id = {section.id, QString(kField)},
                             .content = InputRow{.kind = InputRow::Kind::URL,
@@ -89,11 +107,10 @@ Section AddSourceViewController::inputSection() const {
                                                 .placeholder = u"https://"_s,
                                                 .error = m_problem,
                                                 .focusOnOpening = true}});
-    section.rows.push_back(
-        buttonRow(section.id, QString(kContinue),
-                  {.title = program ? Localized::tr("Run this program") : Localized::tr("Show channels"),
-                   .style = ButtonRow::Style::Primary,
-                   .enabled = !m_input.trimmed().isEmpty()}));
+    section.rows.push_back(buttonRow(section.id, QString(kContinue),
+                                     {.title = Localized::tr("Show channels"),
+                                      .style = ButtonRow::Style::Primary,
+                                      .enabled = !m_input.trimmed().isEmpty()}));
     section.rows.push_back(buttonRow(section.id, QString(kPaste), {Localized::tr("Paste")}));
     section.rows.push_back(buttonRow(section.id, QString(kFile), {Localized::tr("Choose a file…")}));
     return section;
@@ -136,30 +153,25 @@ Section AddSourceViewController::feedSection() const {
 }
 
 Section AddSourceViewController::programSection() const {
-    Section section{.id = kPrograms, .header = Localized::tr("Programs on this device")};
-    if (m_finding) {
-        section.rows.push_back(
-            {.id = {section.id, u"progress"_s},
-             .content = ProgressRow{Localized::tr("Looking for programs that give a schedule")}});
+    Section section{.id = kPrograms};
+    if (m_programs.isEmpty()) {
         return section;
     }
-    for (const GrabberProgram& program : m_programs.value_or(std::vector<GrabberProgram>())) {
-        section.rows.push_back({.id = {section.id, program.path},
-                                .content = TextRow{.title = program.description,
-                                                   .subtitle = program.path,
-                                                   .accessory = Accessory::Disclosure},
-                                .selectable = true});
-    }
-    if (m_programs && m_programs->empty()) {
+    section.header = Localized::tr("Programs on this device");
+    section.footer = Localized::tr("Found by their names. One runs only after you agree.");
+    const bool isFolded = !m_showsAllPrograms && m_programs.size() > kMostPrograms + 1;
+    for (const QString& path : m_programs.first(isFolded ? kMostPrograms : m_programs.size())) {
         section.rows.push_back(
-            {.id = {section.id, u"none"_s},
-             .content = TextRow{.title = Localized::tr("None found"),
-                                .subtitle = Localized::tr("Enter the path of a program above.")}});
+            {.id = {section.id, path},
+             .content =
+                 TextRow{.title = fileName(path), .subtitle = path, .accessory = Accessory::Disclosure},
+             .selectable = true});
     }
-    section.rows.push_back(
-        buttonRow(section.id, QString(kFind),
-                  {m_programs ? Localized::tr("Look again…")
-                              : Localized::tr("Look for programs that give a schedule…")}));
+    if (isFolded) {
+        section.rows.push_back(buttonRow(
+            section.id, QString(kAllPrograms),
+            {Localized::tr("Show all %n program(s)", nullptr, static_cast<int>(m_programs.size()))}));
+    }
     return section;
 }
 
@@ -188,20 +200,21 @@ void AddSourceViewController::inputEvent(const QString& name, const RowEvent& ev
         if (edited->text != m_input) {
             m_input = edited->text;
             m_problem.clear();
+            m_asking.reset();
             show();
         }
         if (edited->entered && !m_input.trimmed().isEmpty()) {
-            // The field has said that it is a program, if it is one.
-            read(m_input.trimmed());
+            readAfterQuestion(m_input.trimmed());
         }
         return;
     }
     table().deselectRow();
     if (name == kContinue && !m_input.trimmed().isEmpty()) {
-        read(m_input.trimmed());
+        readAfterQuestion(m_input.trimmed());
     } else if (name == kPaste) {
         if (const QString text = m_environment->clipboard.text().trimmed(); !text.isEmpty()) {
             m_input = text;
+            show();
             readAfterQuestion(text);
         }
     } else if (name == kFile) {
@@ -215,6 +228,7 @@ void AddSourceViewController::chooseFile() {
          [weak = weakFromThis<AddSourceViewController>()](const QString& path) {
              if (const auto self = weak.lock()) {
                  self->m_input = path;
+                 self->show();
                  self->readAfterQuestion(path);
              }
          }});
@@ -236,28 +250,12 @@ void AddSourceViewController::feedTapped(const QString& name) {
 }
 
 void AddSourceViewController::programTapped(const QString& name) {
-    if (name == kFind) {
-        ask(Localized::tr("Run programs?"),
-            Localized::tr(
-                "Each program on this device whose name begins with tv_grab_ is run, to ask what it "
-                "is."),
-            Localized::tr("Run"), &AddSourceViewController::findProgramsNow, {});
-    } else if (m_programs &&
-               std::ranges::find(*m_programs, name, &GrabberProgram::path) != m_programs->end()) {
-        readAfterQuestion(name);
+    if (name == kAllPrograms) {
+        m_showsAllPrograms = true;
+        show();
+    } else {
+        askToRun(name);
     }
-}
-
-void AddSourceViewController::findProgramsNow(const QString&) {
-    m_finding = actions().findGrabbers(
-        [weak = weakFromThis<AddSourceViewController>()](std::vector<GrabberProgram> found) {
-            if (const auto self = weak.lock()) {
-                self->m_finding.reset();
-                self->m_programs = std::move(found);
-                self->show();
-            }
-        });
-    show();
 }
 
 void AddSourceViewController::ask(const QString& title, const QString& message, const QString& action,
@@ -291,14 +289,19 @@ void AddSourceViewController::readFeed(const QString& address) {
 }
 
 void AddSourceViewController::readAfterQuestion(const QString& input) {
-    if (!actions().isProgram(input)) {
-        read(input);
-        return;
-    }
-    show();
+    m_asking =
+        actions().isProgram(input, [weak = weakFromThis<AddSourceViewController>(), input](bool isProgram) {
+            if (const auto self = weak.lock()) {
+                self->m_asking.reset();
+                isProgram ? self->askToRun(input) : self->read(input);
+            }
+        });
+}
+
+void AddSourceViewController::askToRun(const QString& program) {
     ask(Localized::tr("Run this program?"),
-        Localized::tr("“%1” runs on this device with your rights, now and at each update.").arg(input),
-        Localized::tr("Run"), &AddSourceViewController::read, input);
+        Localized::tr("“%1” runs on this device with your rights, now and at each update.").arg(program),
+        Localized::tr("Run"), &AddSourceViewController::read, program);
 }
 
 void AddSourceViewController::read(const QString& input) {

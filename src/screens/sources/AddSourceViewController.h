@@ -7,8 +7,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
-#include <vector>
 
 namespace guide {
 
@@ -46,9 +44,9 @@ class AddSourceViewController final : public TableViewController {
     void readFeed(const QString& address);
     /// Asks first when it is a program.
     void readAfterQuestion(const QString& input);
+    void askToRun(const QString& program);
     void read(const QString& input);
     void proposed(SourceProposal proposal);
-    void findProgramsNow(const QString&);
     void ask(const QString& title, const QString& message, const QString& action,
              void (AddSourceViewController::*then)(const QString&), const QString& argument);
 
@@ -61,9 +59,12 @@ class AddSourceViewController final : public TableViewController {
     SourceActions::Token m_reading;
     int m_channels = 0;
     std::int64_t m_bytes = 0;
+    /// Finds out whether the input is a program.
+    SourceActions::Token m_asking;
     SourceActions::Token m_finding;
-    /// Unset until they were looked for.
-    std::optional<std::vector<GrabberProgram>> m_programs;
+    /// The paths of those that were found, of the device's region first.
+    QStringList m_programs;
+    bool m_showsAllPrograms = false;
 };
 
 /// Opens the screen on top of the channels' tab and reads the input: it was dropped on the window or given on

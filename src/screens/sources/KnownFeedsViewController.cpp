@@ -1,6 +1,7 @@
 #include "screens/sources/KnownFeedsViewController.h"
 
 #include "screens/Localized.h"
+#include "screens/ShowTexts.h"
 #include "screens/kit/NavigationController.h"
 #include "screens/sources/SourceTexts.h"
 #include "text/search/FoldedText.h"
@@ -29,12 +30,14 @@ std::vector<Row> knownFeedRows(const SectionId& section, const KnownFeedCountry&
             facts << Localized::tr("last reported alive %1")
                          .arg(locale.toString(feed.alive, QLocale::ShortFormat));
         }
+        // Lines break between the facts.
+        facts.replaceInStrings(u" "_s, QString(QChar(QChar::Nbsp)));
         rows.push_back(
             {.id = {section, QString::number(rows.size())},
              .content = TextRow{.title = Localized::tr("Public feed of %1")
                                              .arg(feed.name.isEmpty() ? feed.provider
                                                                       : feed.provider + u", "_s + feed.name),
-                                .subtitle = facts.join(u" · "_s),
+                                .subtitle = facts.join(kBetweenFacts),
                                 .accessory = Accessory::Disclosure},
              .selectable = true});
     }

@@ -1,5 +1,6 @@
 #include "screens/sources/OwnChannelsViewController.h"
 
+#include "core/PictureDecoding.h"
 #include "screens/Localized.h"
 #include "screens/kit/NavigationController.h"
 #include "screens/sources/SourceTexts.h"
@@ -17,6 +18,8 @@ constexpr auto kChannels = "channels"_L1;
 constexpr auto kSettings = "settings"_L1;
 constexpr auto kLanguage = "language"_L1;
 constexpr auto kShift = "shift"_L1;
+constexpr auto kPicture = "picture"_L1;
+constexpr auto kRemovePicture = "remove picture"_L1;
 
 } // namespace
 
@@ -26,7 +29,7 @@ OwnChannelsViewController::OwnChannelsViewController(std::shared_ptr<const Scree
     , m_source(source) {}
 
 void OwnChannelsViewController::viewDidLoad() {
-    setTitle(Localized::tr("Time and language"));
+    setTitle(Localized::tr("Settings of channels"));
     table().setEmptyNote(EmptyNote{Localized::tr("No channels"), {}});
 }
 
@@ -66,16 +69,26 @@ OwnChannelViewController::OwnChannelViewController(std::shared_ptr<const ScreenE
     , m_key(std::move(key)) {}
 
 void OwnChannelViewController::viewWillAppear() {
+    table().deselectRow();
+    show();
+}
+
+std::optional<OwnChannel> OwnChannelViewController::channel() const {
     if (const auto source = m_environment->sourceActions->sourceWithId(m_source)) {
-        const auto channel = std::ranges::find(source->channels, m_key, &OwnChannel::key);
-        if (channel != source->channels.end()) {
-            show(*channel);
-        }
+        const auto found = std::ranges::find(source->channels, m_key, &OwnChannel::key);
+        return found == source->channels.end() ? std::nullopt : std::optional(*found);
+    }
+    return std::nullopt;
+}
+
+void OwnChannelViewController::show() {
+    if (const std::optional<OwnChannel> shown = channel()) {
+        setTitle(shown->title);
+        table().setSections({settingSection(*shown), pictureSection()});
     }
 }
 
-void OwnChannelViewController::show(const OwnChannel& channel) {
-    setTitle(channel.title);
+Section OwnChannelViewController::settingSection(const OwnChannel& channel) const {
     const QLocale locale = m_environment->device.locale();
     Section section{.id = kSettings,
                     .footer = Localized::tr(
@@ -96,28 +109,87 @@ void OwnChannelViewController::show(const OwnChannel& channel) {
         shift.choices.push_back(shiftText(each, locale));
     }
     section.rows.push_back({.id = {section.id, QString(kShift)}, .content = std::move(shift)});
-    table().setSections({std::move(section)});
+    return section;
+}
+
+Section OwnChannelViewController::pictureSection() const {
+    Section section{.id = kPicture};
+    section.rows.push_back(
+        {.id = {section.id, QString(kPicture)},
+         .content =
+             TextRow{.title = Localized::tr("Picture…"),
+                     .accessory = m_taking ? Accessory::Spinner : Accessory::Disclosure,
+                     .icon = {PictureKey::Kind::ChannelIcon, ownIconName(ownChannelId(m_source, m_key))}},
+         .selectable = true});
+    if (m_environment->sourceActions->hasPicture(m_source, m_key)) {
+        section.footer = Localized::tr("Your own picture, in place of that of the source.");
+        section.rows.push_back(
+            {.id = {section.id, QString(kRemovePicture)},
+             .content = ButtonRow{Localized::tr("Remove picture"), ButtonRow::Style::Destructive},
+             .selectable = true});
+    }
+    return section;
 }
 
 void OwnChannelViewController::rowEvent(const RowId& id, const RowEvent& event) {
-    const auto* chosen = std::get_if<Chosen>(&event);
+    if (const auto* chosen = std::get_if<Chosen>(&event)) {
+        change(*id.name(), static_cast<std::size_t>(chosen->choice));
+    } else if (std::holds_alternative<Tapped>(event)) {
+        table().deselectRow();
+        if (*id.name() == kPicture) {
+            choosePicture();
+        } else if (*id.name() == kRemovePicture) {
+            m_environment->sourceActions->removePicture(m_source, m_key);
+            show();
+        }
+    }
+}
+
+void OwnChannelViewController::change(const QString& name, std::size_t choice) {
     auto source = m_environment->sourceActions->sourceWithId(m_source);
-    if (!chosen || !source) {
+    if (!source) {
         return;
     }
     const auto channel = std::ranges::find(source->channels, m_key, &OwnChannel::key);
     if (channel == source->channels.end()) {
         return;
     }
-    const auto place = static_cast<std::size_t>(chosen->choice);
-    if (*id.name() == kLanguage) {
-        channel->language = languageChoices(channel->language, m_environment->device.locale())[place];
+    if (name == kLanguage) {
+        channel->language = languageChoices(channel->language, m_environment->device.locale())[choice];
         channel->languageCorrected = true;
     } else {
-        channel->shift = shiftChoices(channel->shift)[place];
+        channel->shift = shiftChoices(channel->shift)[choice];
     }
     m_environment->sourceActions->update(*source);
-    show(*channel);
+    show();
+}
+
+void OwnChannelViewController::choosePicture() {
+    m_environment->navigation.presentFileChooser(
+        {Localized::tr("Choose a picture"),
+         [weak = weakFromThis<OwnChannelViewController>()](const QString& file) {
+             if (const auto self = weak.lock()) {
+                 self->take(file);
+             }
+         }});
+}
+
+void OwnChannelViewController::take(const QString& file) {
+    m_taking = m_environment->sourceActions->setPicture(
+        m_source, m_key, file, [weak = weakFromThis<OwnChannelViewController>(), file](bool isSet) {
+            if (const auto self = weak.lock()) {
+                self->m_taking.reset();
+                self->show();
+                if (!isSet) {
+                    self->m_environment->navigation.presentNotice(
+                        {Localized::tr("“%1” is no picture that can be shown, or larger than %2.")
+                             .arg(file.section(u'/', -1),
+                                  self->m_environment->device.locale().formattedDataSize(
+                                      kChannelIconLimits.bytes, 0, QLocale::DataSizeSIFormat))});
+                }
+            }
+        });
+    show();
 }
 
 } // namespace guide

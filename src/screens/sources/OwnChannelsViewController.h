@@ -9,7 +9,7 @@
 
 namespace guide {
 
-/// The channels chosen from a source, each with its language and shift.
+/// The channels chosen from a source, each with its settings.
 class OwnChannelsViewController final : public TableViewController {
   public:
     OwnChannelsViewController(std::shared_ptr<const ScreenEnvironment> environment,
@@ -25,7 +25,7 @@ class OwnChannelsViewController final : public TableViewController {
     const OwnSourceId m_source;
 };
 
-/// The language and shift of one of them.
+/// The language, shift and picture of one of them.
 class OwnChannelViewController final : public TableViewController {
   public:
     OwnChannelViewController(std::shared_ptr<const ScreenEnvironment> environment, const OwnSourceId& source,
@@ -36,11 +36,18 @@ class OwnChannelViewController final : public TableViewController {
     void rowEvent(const RowId& id, const RowEvent& event) override;
 
   private:
-    void show(const OwnChannel& channel);
+    void show();
+    Section settingSection(const OwnChannel& channel) const;
+    Section pictureSection() const;
+    void choosePicture();
+    void take(const QString& file);
+    void change(const QString& name, std::size_t choice);
+    std::optional<OwnChannel> channel() const;
 
     const std::shared_ptr<const ScreenEnvironment> m_environment;
     const OwnSourceId m_source;
     const QString m_key;
+    SourceActions::Token m_taking;
 };
 
 } // namespace guide

@@ -43,13 +43,6 @@ struct MatchedEntry {
     std::vector<GuideChannel> candidates;
 };
 
-/// A program that gives a schedule.
-struct GrabberProgram {
-    QString path;
-    /// What the program says that it is; else its name.
-    QString description;
-};
-
 /// What the screens of the user's own sources ask for. Main queue; so are the answers, which come later than
 /// the call and not after their token was dropped.
 class SourceActions {
@@ -68,16 +61,17 @@ class SourceActions {
         const auto found = std::ranges::find(*all, id, &OwnSource::id);
         return found == all->end() ? std::nullopt : std::optional(*found);
     }
-    /// Whether the input is a program of this device, so that the user has to agree before it runs.
-    virtual bool isProgram(const QString& input) const = 0;
+    /// Whether the input is a program of this device, so that the user has to agree before it runs. Looks at
+    /// the disk.
+    virtual Token isProgram(const QString& input, std::function<void(bool)> answered) = 0;
     /// The host of the address, if it was never asked, so that the user has to agree.
     virtual std::optional<QString> newHostOf(const QString& input) const = 0;
     /// Fetches and reads an address, a file, or the output of a program.
     virtual Token propose(const QString& input, Progress progress, Proposed proposed) = 0;
     /// What a source that was added offers now, from what was fetched last.
     virtual Token proposeAgain(const OwnSourceId& source, Progress progress, Proposed proposed) = 0;
-    /// Runs each program that may be a grabber, to ask what it is.
-    virtual Token findGrabbers(std::function<void(std::vector<GrabberProgram>)> found) = 0;
+    /// The paths of the programs that have the names of grabbers. None is run.
+    virtual Token findGrabbers(std::function<void(QStringList paths)> found) = 0;
 
     /// Adds the source with the channels chosen by their keys, selects these channels, and loads them. A
     /// playlist's channels take their schedules from `matches`.
@@ -104,6 +98,14 @@ class SourceActions {
                              std::function<void(std::vector<PreviewChannel>)> answered) = 0;
 
     virtual SourceStatus status(const OwnSourceId& source) const = 0;
+
+    /// Whether the user chose a picture for the channel.
+    virtual bool hasPicture(const OwnSourceId& source, const QString& channel) const = 0;
+    /// Shows the picture of the file in place of the channel's icon. `answered` is told whether it is a
+    /// picture that can be shown.
+    virtual Token setPicture(const OwnSourceId& source, const QString& channel, const QString& file,
+                             std::function<void(bool)> answered) = 0;
+    virtual void removePicture(const OwnSourceId& source, const QString& channel) = 0;
 
     /// Whether icons are fetched from hosts other than those of the sources.
     virtual bool iconsFromOtherHosts() const = 0;

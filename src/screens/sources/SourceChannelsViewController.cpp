@@ -20,8 +20,6 @@ const SectionId& choiceSection() {
 }
 /// Of the sections of channels.
 constexpr auto kList = "list "_L1;
-/// Choosing more channels at once has to be confirmed.
-constexpr std::size_t kMostWithoutAsking = 200;
 /// With more changed rows it is faster to make all of them again.
 constexpr std::size_t kMostSingleUpdates = 200;
 
@@ -312,7 +310,7 @@ bool SourceChannelsViewController::selectAll() {
 
 void SourceChannelsViewController::selectShown() {
     const std::vector<QString> keys = shownKeys();
-    if (keys.size() <= kMostWithoutAsking) {
+    if (std::ssize(keys) <= kMostWithoutAsking) {
         setChosen(keys, true);
         return;
     }

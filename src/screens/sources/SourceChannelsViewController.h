@@ -18,6 +18,9 @@ namespace guide {
 /// The rows are made in the background.
 class SourceChannelsViewController : public ListingsScreen {
   public:
+    /// Choosing more channels at once has to be confirmed.
+    static constexpr int kMostWithoutAsking = 200;
+
     /// The channels of a source that was added, from what was fetched last.
     SourceChannelsViewController(std::shared_ptr<const ScreenEnvironment> environment,
                                  const OwnSourceId& source);
@@ -57,6 +60,7 @@ class SourceChannelsViewController : public ListingsScreen {
     const std::shared_ptr<PlaylistMatches>& matches() const { return m_matches; }
     std::vector<MatchedEntry> matchedEntries() const;
     bool anyChosen() const { return !m_chosen.isEmpty(); }
+    void setChosen(const std::vector<QString>& keys, bool chosen);
     /// In the order of the list.
     QStringList chosenKeys() const;
 
@@ -74,7 +78,6 @@ class SourceChannelsViewController : public ListingsScreen {
     std::vector<QString> shownKeys() const;
     bool allShownChosen() const;
     void tapped(const RowId& row, bool extending);
-    void setChosen(const std::vector<QString>& keys, bool chosen);
     void selectShown();
     void updateChecks();
 

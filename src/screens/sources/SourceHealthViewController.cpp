@@ -132,8 +132,8 @@ Section SourceHealthViewController::actionSection(const OwnSource& source, const
         section.rows.push_back(actionRow(section.id, kReview, Localized::tr("Review matches"),
                                          m_reading ? Accessory::Spinner : Accessory::Disclosure));
     }
-    section.rows.push_back(actionRow(section.id, kChannels, Localized::tr("Time and language by channel"),
-                                     Accessory::Disclosure));
+    section.rows.push_back(
+        actionRow(section.id, kChannels, Localized::tr("Settings of channels"), Accessory::Disclosure));
     return section;
 }
 

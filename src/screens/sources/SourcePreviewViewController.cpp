@@ -16,6 +16,7 @@ namespace {
 
 constexpr auto kSource = "source"_L1;
 constexpr auto kWarnings = "warnings"_L1;
+constexpr auto kAddAll = "add all"_L1;
 constexpr auto kTime = "time"_L1;
 constexpr auto kSchedule = "schedule"_L1;
 
@@ -64,7 +65,7 @@ void SourcePreviewViewController::viewDidLoad() {
 // ---- rows
 
 std::vector<Section> SourcePreviewViewController::headSections() const {
-    return {sourceSection(), warningSection(), timeSection(), scheduleSection()};
+    return {sourceSection(), warningSection(), addAllSection(), timeSection(), scheduleSection()};
 }
 
 Section SourcePreviewViewController::sourceSection() const {
@@ -118,6 +119,43 @@ Section SourcePreviewViewController::warningSection() const {
                      .symbol = Symbol::Warning}));
     }
     return section;
+}
+
+/// All channels by one tap, where they are few enough to need no question.
+Section SourcePreviewViewController::addAllSection() const {
+    Section section{.id = kAddAll};
+    const SourcePreview& preview = proposal().preview;
+    const int count =
+        isPlaylist() ? static_cast<int>(matches()->entries().size()) : preview.channelsWithShows;
+    if (count == 0 || count > kMostWithoutAsking) {
+        return section;
+    }
+    const bool areAll = isPlaylist() || std::ssize(preview.channels) == count;
+    section.rows.push_back(
+        {.id = {section.id, QString(kAddAll)},
+         .content =
+             ButtonRow{.title = areAll ? Localized::tr("Add all %n channel(s)", nullptr, count)
+                                       : Localized::tr("Add the %n channel(s) with shows", nullptr, count),
+                       .style = ButtonRow::Style::Primary,
+                       .enabled = !(m_feeds && m_feeds->loading())},
+         .selectable = true});
+    return section;
+}
+
+std::vector<QString> SourcePreviewViewController::keysOfAll() const {
+    std::vector<QString> keys;
+    if (isPlaylist()) {
+        for (const MatchedEntry& entry : matches()->entries()) {
+            keys.push_back(entry.key);
+        }
+        return keys;
+    }
+    for (const PreviewChannel& channel : proposal().preview.channels) {
+        if (channel.shows > 0) {
+            keys.push_back(channel.id);
+        }
+    }
+    return keys;
 }
 
 /// The evening news by which a wrong zone is seen, with what moves the times.
@@ -240,6 +278,9 @@ void SourcePreviewViewController::headEvent(const RowId& id, const RowEvent& eve
             updateHead();
         } else if (name == kReview) {
             openReview();
+        } else if (name == kAddAll) {
+            setChosen(keysOfAll(), true);
+            done();
         } else {
             feedTapped(id);
         }

@@ -24,12 +24,15 @@ class SourcePreviewViewController final : public SourceChannelsViewController {
     bool isPlaylist() const { return m_feeds != nullptr; }
     Section sourceSection() const;
     Section warningSection() const;
+    Section addAllSection() const;
     Section timeSection() const;
     Section scheduleSection() const;
     void addMatchRows(Section& section) const;
     void feedTapped(const RowId& id);
     void loadFeeds(std::function<void()> then);
     void openReview();
+    /// Of the entries of a playlist, or of the channels of a feed that have shows.
+    std::vector<QString> keysOfAll() const;
     void add();
 
     QString m_name;

@@ -4,12 +4,10 @@
 #include "sources/own/SourceDownload.h"
 
 #include <QFileInfo>
+#include <QMap>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
-
-#include <algorithm>
-#include <utility>
 
 namespace guide {
 
@@ -21,7 +19,6 @@ using Reason = ProgramEnd::Reason;
 
 constexpr std::chrono::seconds kLongestAnswer{15};
 constexpr std::int64_t kMostAnswer = 64 * 1024;
-constexpr qsizetype kLongestDescription = 200;
 constexpr qsizetype kMostGrabbers = 200;
 constexpr int kDays = 7;
 
@@ -47,21 +44,6 @@ QSet<QString> capabilitiesOf(ProgramRunner& runner, const QString& program,
 
 bool needsConfiguration(const QSet<QString>& capabilities) {
     return capabilities.contains(u"manualconfig"_s) || capabilities.contains(u"apiconfig"_s);
-}
-
-Grabber askGrabber(ProgramRunner& runner, const QString& path, const std::function<bool()>& stopped) {
-    Grabber grabber{.path = path, .description = {}};
-    const QSet<QString> capabilities = capabilitiesOf(runner, path, stopped);
-    grabber.hasBaseline = capabilities.contains(u"baseline"_s);
-    grabber.hasManualConfiguration = needsConfiguration(capabilities);
-    grabber.description = answer(runner, path, u"--description"_s, stopped)
-                              .section(u'\n', 0, 0)
-                              .simplified()
-                              .left(kLongestDescription);
-    if (grabber.description.isEmpty()) {
-        grabber.description = QFileInfo(path).fileName();
-    }
-    return grabber;
 }
 
 /// Programs print addresses and passwords when something goes wrong.
@@ -116,33 +98,20 @@ QStringList grabberFolders() {
     return folders;
 }
 
-std::vector<Grabber> findGrabbers(ProgramRunner& runner, const std::function<bool()>& stopped,
-                                  const QStringList& folders) {
-    QStringList paths;
-    QSet<QString> names;
+QStringList findGrabbers(const QStringList& folders) {
+    QMap<QString, QString> paths;
     for (const QString& folder : folders) {
         const QFileInfoList files =
             QDir(folder).entryInfoList({u"tv_grab_*"_s}, QDir::Files | QDir::Executable, QDir::Name);
         for (const QFileInfo& file : files) {
             const QString name = file.fileName();
             if (paths.size() < kMostGrabbers && !name.endsWith(u'~') && !name.endsWith(".conf"_L1) &&
-                !names.contains(name)) {
-                names.insert(name);
-                paths.append(file.absoluteFilePath());
+                !paths.contains(name)) {
+                paths.insert(name, file.absoluteFilePath());
             }
         }
     }
-    std::vector<Grabber> grabbers;
-    for (const QString& path : std::as_const(paths)) {
-        if (stopped && stopped()) {
-            break;
-        }
-        grabbers.push_back(askGrabber(runner, path, stopped));
-    }
-    std::ranges::stable_sort(grabbers, [](const Grabber& a, const Grabber& b) {
-        return a.description.compare(b.description, Qt::CaseInsensitive) < 0;
-    });
-    return grabbers;
+    return paths.values();
 }
 
 Grab grab(ProgramRunner& runner, const GrabRequest& request) {

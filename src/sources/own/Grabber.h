@@ -10,27 +10,15 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
-#include <optional>
-#include <vector>
 
 namespace guide {
-
-/// A program that prints a feed, by the conventions of such programs.
-struct Grabber {
-    QString path;
-    /// What the program says that it is; else its name.
-    QString description;
-    bool hasBaseline = false;
-    bool hasManualConfiguration = false;
-};
 
 /// The folders of the PATH, and those of the user where grabbers are kept.
 QStringList grabberFolders();
 
-/// The programs in these folders whose names begin with "tv_grab_", each name once, from its first folder,
-/// sorted by description. Runs each of them; blocks.
-std::vector<Grabber> findGrabbers(ProgramRunner& runner, const std::function<bool()>& stopped = {},
-                                  const QStringList& folders = grabberFolders());
+/// The paths of the programs in these folders whose names begin with "tv_grab_", each name once, from its
+/// first folder, sorted by name. Runs none of them; reads the folders.
+QStringList findGrabbers(const QStringList& folders = grabberFolders());
 
 struct GrabRequest {
     QString program;
