@@ -200,9 +200,11 @@ void GuideWorld::waitForCheck() const {
 
 bool GuideWorld::check() {
     const std::size_t begun = m_tasks->begun();
+    // The request joins a check that is running.
+    const bool joins = m_tasks->running() > 0;
     guide->checkAndUpdateAllChannels();
     // The last step of a check ends its background task on the main queue.
-    return runUntil([&] { return m_tasks->begun() > begun && m_tasks->running() == 0; });
+    return runUntil([&] { return (joins || m_tasks->begun() > begun) && m_tasks->running() == 0; });
 }
 
 std::vector<std::pair<Moment, QString>> GuideWorld::shows(const ObjectId& channel) {
