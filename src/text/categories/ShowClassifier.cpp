@@ -224,6 +224,16 @@ constexpr std::array kExclusions{
 
 } // namespace
 
+TVListingsCategory withoutExcluded(TVListingsCategory categories) {
+    for (const Exclusion& exclusion : kExclusions) {
+        if ((categories & exclusion.all) == exclusion.all &&
+            (exclusion.any == 0 || (categories & exclusion.any) != 0)) {
+            categories &= ~exclusion.clears;
+        }
+    }
+    return categories;
+}
+
 TVListingsCategory classifyEntry(const std::optional<QString>& sourceId, const ClassifiedTexts& texts) {
     const Vocabulary& vocabulary = Vocabulary::instance();
     TVListingsCategory categories = sourceId ? categoriesOfSource(*sourceId) : 0;
@@ -273,13 +283,7 @@ TVListingsCategory classifyEntry(const std::optional<QString>& sourceId, const C
             }
         }
     }
-    for (const Exclusion& exclusion : kExclusions) {
-        if ((categories & exclusion.all) == exclusion.all &&
-            (exclusion.any == 0 || (categories & exclusion.any) != 0)) {
-            categories &= ~exclusion.clears;
-        }
-    }
-    return categories;
+    return withoutExcluded(categories);
 }
 
 } // namespace guide

@@ -26,4 +26,7 @@ struct ClassifiedTexts {
 /// when nothing matches. Never both a series and a film. Any thread.
 TVListingsCategory classifyEntry(const std::optional<QString>& sourceId, const ClassifiedTexts& texts);
 
+/// The categories without those that others exclude: a series is no film, and so on.
+TVListingsCategory withoutExcluded(TVListingsCategory categories);
+
 } // namespace guide
