@@ -127,7 +127,7 @@ void addCategory(const QString& category, QStringView language, Evidence& eviden
             isKnown = true;
             return;
         }
-        for (const Hit& hit : nameWords().find(part, language, kName | kText)) {
+        for (const Hit& hit : nameWords().find(part, {}, kName | kText)) {
             evidence.add(hit.row->adds);
             isKnown = isKnown || (hit.row->adds & ~kNation) != 0;
         }
@@ -321,14 +321,24 @@ void addDescription(QStringView description, QStringView language, Evidence& evi
     }
 }
 
+/// What the name of the channel says. Successive shows of a feed mostly are on the same channel.
 Bits channelTheme(const ShowText& show) {
-    Bits theme = 0;
+    struct Known {
+        QString channel;
+        QString language;
+        Bits theme = 0;
+    };
+    static thread_local Known known;
+    if (known.channel == show.channelName && known.language == show.language) {
+        return known.theme;
+    }
+    known = {show.channelName, show.language, 0};
     for (const Hit& hit : channelWords().find(show.channelName, show.language, kChannel | kChannelStart)) {
         if ((hit.row->places & kChannel) || hit.begin == 0) {
-            theme |= hit.row->adds;
+            known.theme |= hit.row->adds;
         }
     }
-    return theme;
+    return known.theme;
 }
 
 /// The categories of what was found.
@@ -428,7 +438,7 @@ TVListingsCategory feedCategories(const ShowText& show) {
         return settled(show, named);
     }
     Bits found = title.said();
-    if (!(found & (kKinds | kStoryGenres))) {
+    if (!(found & (kKinds | kStoryGenres)) && !(theme & kForChildren)) {
         Evidence prose;
         addProse(show.subtitle, show.language, true, prose);
         addDescription(show.description, show.language, prose);
