@@ -45,6 +45,9 @@ void SearchText::append(const std::optional<QString>& text) {
 void SearchText::append(const ShowItem& show) {
     const TVEntry& entry = *show.entry();
     append(entry.title());
+    if (const ShowFacts* facts = entry.facts().get()) {
+        append(facts->originalTitle);
+    }
     append(entry.instantDescription());
     append(entry.instantDetails());
     append(entry.subtitle());

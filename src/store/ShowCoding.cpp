@@ -6,10 +6,49 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 
 namespace guide {
 
 namespace {
+
+/// Stars are stored in thousandths.
+constexpr double kPerStar = 1000;
+/// No rating counts further.
+constexpr double kMostStars = 1'000'000;
+
+bool isRating(const StarRating& rating) {
+    return rating.value >= 0 && rating.value <= kMostStars && rating.most > 0 && rating.most <= kMostStars;
+}
+
+void encodeFacts(KeyedArchiver& archiver, const ShowFacts& facts) {
+    archiver.key("facts");
+    archiver.beginRecord();
+    archiver.encode("originalTitle", facts.originalTitle);
+    archiver.encode("season", facts.episode.season);
+    archiver.encode("episode", facts.episode.episode);
+    archiver.encode("episodes", facts.episode.episodes);
+    archiver.encode("part", facts.episode.part);
+    archiver.encode("parts", facts.episode.parts);
+    archiver.encode("year", facts.year);
+    if (!facts.countries.empty()) {
+        archiver.key("countries");
+        archiver.beginArray(facts.countries.size());
+        for (const QString& country : facts.countries) {
+            archiver.append(country);
+        }
+    }
+    archiver.encode("ageRating", facts.ageRating);
+    if (facts.starRating && isRating(*facts.starRating)) {
+        archiver.encode("stars", std::llround(facts.starRating->value * kPerStar));
+        archiver.encode("mostStars", std::llround(facts.starRating->most * kPerStar));
+    }
+    if (facts.newness != Newness::Unknown) {
+        archiver.encode("new", facts.newness == Newness::New);
+    }
+    archiver.endRecord();
+}
 
 void encode(KeyedArchiver& archiver, const TVEntry& entry) {
     archiver.beginRecord();
@@ -24,6 +63,9 @@ void encode(KeyedArchiver& archiver, const TVEntry& entry) {
     archiver.encode("instantDescription", entry.instantDescription1());
     archiver.encode("url", entry.encodedUrl());
     archiver.encode("previouslyShown", entry.previouslyShown());
+    if (entry.facts() && !entry.facts()->empty()) {
+        encodeFacts(archiver, *entry.facts());
+    }
     archiver.endRecord();
 }
 
@@ -89,6 +131,7 @@ class ShowDecoder {
         std::optional<QString> instantDescription;
         std::optional<QString> url;
         bool previouslyShown = false;
+        std::shared_ptr<const ShowFacts> facts;
 
         const auto readChannel = [&](KeyedUnarchiver& unarchiver) {
             if (unarchiver.kind() == KeyedUnarchiver::Kind::Text) {
@@ -108,12 +151,13 @@ class ShowDecoder {
             unarchiver.decode(m_language);
             language = m_language.text;
         };
+        const auto readFacts = [&](KeyedUnarchiver&) { facts = decodeFacts(); };
         m_unarchiver.record(field("channel", readChannel), field("realChannelId", readSourceId),
                             field("lang", readLanguage), field("dateTime", dateTime),
                             field("endDateTime", endDateTime), field("title", title),
                             field("instantDetails", instantDetails), field("subtitle", subtitle),
                             field("instantDescription", instantDescription), field("url", url),
-                            field("previouslyShown", previouslyShown));
+                            field("previouslyShown", previouslyShown), field("facts", readFacts));
         if (!title || !dateTime || m_unarchiver.failed()) {
             return nullptr;
         }
@@ -129,7 +173,58 @@ class ShowDecoder {
         entry->setInstantDescription1(std::move(instantDescription));
         entry->setEncodedUrl(std::move(url));
         entry->setPreviouslyShown(previouslyShown);
+        entry->setFacts(std::move(facts));
         return entry;
+    }
+
+    std::shared_ptr<const ShowFacts> decodeFacts() {
+        ShowFacts facts;
+        std::int64_t stars = 0;
+        std::int64_t mostStars = 0;
+        std::optional<bool> isNew;
+        const auto readCountries = [&](KeyedUnarchiver& unarchiver) {
+            const std::size_t count = unarchiver.array();
+            for (std::size_t i = 0; i < count && !unarchiver.failed(); ++i) {
+                unarchiver.decode(m_country);
+                facts.countries.push_back(m_country.text);
+            }
+        };
+        const auto readAge = [&](KeyedUnarchiver& unarchiver) {
+            unarchiver.decode(m_ageRating);
+            facts.ageRating = m_ageRating.text;
+        };
+        m_unarchiver.record(field("originalTitle", facts.originalTitle),
+                            field("season", facts.episode.season), field("episode", facts.episode.episode),
+                            field("episodes", facts.episode.episodes), field("part", facts.episode.part),
+                            field("parts", facts.episode.parts), field("year", facts.year),
+                            field("countries", readCountries), field("ageRating", readAge),
+                            field("stars", stars), field("mostStars", mostStars), field("new", isNew));
+        if (m_unarchiver.failed()) {
+            return nullptr;
+        }
+        if (mostStars > 0) {
+            facts.starRating = {static_cast<double>(stars) / kPerStar,
+                                static_cast<double>(mostStars) / kPerStar};
+        }
+        if (isNew) {
+            facts.newness = *isNew ? Newness::New : Newness::Repeat;
+        }
+        return shared(std::move(facts));
+    }
+
+    /// Most shows with few facts have those of a show shortly before.
+    std::shared_ptr<const ShowFacts> shared(ShowFacts facts) {
+        if (facts.empty()) {
+            return nullptr;
+        }
+        for (const auto& known : m_knownFacts) {
+            if (known && *known == facts) {
+                return known;
+            }
+        }
+        auto& place = m_knownFacts[m_nextFacts++ % m_knownFacts.size()];
+        place = std::make_shared<const ShowFacts>(std::move(facts));
+        return place;
     }
 
     std::shared_ptr<const TVEntrySupplementalData> decodeDetails() {
@@ -161,6 +256,10 @@ class ShowDecoder {
     const Alphabet& m_alphabet;
     RepeatedText m_sourceId;
     RepeatedText m_language;
+    RepeatedText m_country;
+    RepeatedText m_ageRating;
+    std::array<std::shared_ptr<const ShowFacts>, 8> m_knownFacts;
+    std::size_t m_nextFacts = 0;
 };
 
 /// Far more than the file of any list that fits in memory.

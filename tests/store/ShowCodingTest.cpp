@@ -32,16 +32,32 @@ ShowItems everyForm() {
     details->imdbURL = QUrl(u"https://i/1"_s);
     details->trailerURL = QUrl(u"https://i/2"_s);
     details->language = u"sk"_s;
+    ShowFacts facts;
+    facts.originalTitle = u"News"_s;
+    facts.episode = {2, 5, 10, 1, 2};
+    facts.year = 2016;
+    facts.countries = {u"CZ"_s, u"Česko"_s};
+    facts.ageRating = u"ab 12"_s;
+    facts.starRating = StarRating{7.3, 10};
+    facts.newness = Newness::Repeat;
+    full->setFacts(std::make_shared<const ShowFacts>(facts));
+    auto isNew = std::make_shared<TVEntry>(*full);
+    isNew->setDateTime(kStart + std::chrono::hours(1));
+    facts = {};
+    facts.newness = Newness::New;
+    isNew->setFacts(std::make_shared<const ShowFacts>(facts));
     const auto bare = [](int at) { return extended({kStart + std::chrono::hours(at), {}, u""_s}).basic; };
     return {ShowItem(bare(-3)), ShowItem(bare(-2), 0xffffffff),
             ShowItem(bare(-1), 0, std::make_shared<const TVEntrySupplementalData>()),
-            ShowItem(full, 0x11, details, {QUrl(u"http://p/1"_s), QUrl(u"http://p/2?a=ž"_s)})};
+            ShowItem(full, 0x11, details, {QUrl(u"http://p/1"_s), QUrl(u"http://p/2?a=ž"_s)}),
+            ShowItem(isNew)};
 }
 
 auto fieldsOf(const TVEntry& entry) {
     return std::tuple(entry.channel(), entry.sourceId(), entry.language(), entry.dateTime(),
                       entry.endDateTime(), entry.identificator(), entry.title(), entry.instantDetails1(),
-                      entry.subtitle1(), entry.instantDescription1(), entry.url(), entry.previouslyShown());
+                      entry.subtitle1(), entry.instantDescription1(), entry.url(), entry.previouslyShown(),
+                      entry.facts() ? *entry.facts() : ShowFacts());
 }
 
 void expectEqual(const ShowItem& a, const ShowItem& b) {
@@ -63,6 +79,27 @@ TEST(ShowCodingTest, EveryFormOfShowIsReadBack) {
         expectEqual((*read)[i], shows[i]);
     }
     EXPECT_TRUE(unarchivedShows(archivedShows({}), latinAlphabet())->empty());
+}
+
+TEST(ShowCodingTest, FactsAreSharedAndCostNothingWhereThereAreNone) {
+    const auto entryWith = [](const ShowFacts& facts, int hours) {
+        const TestShow show{kStart + std::chrono::hours(hours), {}, u"x"_s};
+        auto entry = std::make_shared<TVEntry>(*extended(show).basic);
+        entry->setFacts(std::make_shared<const ShowFacts>(facts));
+        return ShowItem(entry);
+    };
+    ShowFacts czech;
+    czech.countries = {u"CZ"_s};
+    ShowFacts slovak;
+    slovak.countries = {u"SK"_s};
+    const ShowItems shows{entryWith(czech, 0), entryWith({}, 1), entryWith(slovak, 2), entryWith(czech, 3)};
+    const auto read = unarchivedShows(archivedShows(shows), latinAlphabet());
+    ASSERT_TRUE(read);
+    EXPECT_EQ((*read)[0].entry()->facts(), (*read)[3].entry()->facts());
+    EXPECT_EQ((*read)[1].entry()->facts(), nullptr);
+    auto without = std::make_shared<TVEntry>(*shows[1].entry());
+    without->setFacts(nullptr);
+    EXPECT_EQ(archivedShows(std::span(shows).subspan(1, 1)), archivedShows(ShowItems{ShowItem(without)}));
 }
 
 TEST(ShowCodingTest, OldAndIncompleteShowsAreRead) {

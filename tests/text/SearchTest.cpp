@@ -42,6 +42,8 @@ TEST(FoldTableTest, FoldsTexts) {
     const std::tuple<const char*, QString, QString> rows[] = {
         {"composed", u"ŽLUŤOUČKÝ Kůň"_s, u"zlutoucky kun"_s},
         {"decomposed", u"Z\u030Clut\u030C"_s, u"zlut"_s},
+        {"letters that do not decompose", u"FUẞBALL Fußball Đorđe Łódź Ærø Œuvre Þór ışık İ"_s,
+         u"fussball fussball dorde lodz aero oeuvre thor isik i"_s},
         {"lone surrogates", QString(QChar(0xD83D)) + u'A' + QChar(0xDE00),
          QString(QChar(0xD83D)) + u'a' + QChar(0xDE00)},
         {"characters that become longer, in the middle", u"É각😀각Ö𐐀É"_s,

@@ -27,7 +27,8 @@ TEST(TextMatchesTest, FindsPartsOfTheOriginalText) {
         {"part of a syllable", u"한국"_s, u"하"_s, {u"한"_s}},
         {"outside the basic plane", u"a😀b😀"_s, u"😀"_s, {u"😀"_s, u"😀"_s}},
         {"no overlaps", u"aaaa a"_s, u"aa"_s, {u"aa"_s, u"aa"_s}},
-        {"letters that do not decompose", u"Đorđe"_s, u"dorde"_s, {}},
+        {"letters that do not decompose", u"Đorđe"_s, u"dorde"_s, {u"Đorđe"_s}},
+        {"half of a letter", u"Fußball"_s, u"sball"_s, {u"ßball"_s}},
         {"a pattern of nothing but marks", u"cafe\u0301"_s, u"\u0301"_s, {}},
         {"no text", QString(), u"a"_s, {}},
     };

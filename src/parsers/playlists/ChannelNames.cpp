@@ -1,6 +1,6 @@
 #include "parsers/playlists/ChannelNames.h"
 
-#include "text/search/FoldedText.h"
+#include "text/search/FoldTable.h"
 
 #include <QSet>
 #include <QStringList>
@@ -41,7 +41,8 @@ QString plainName(const QString& name) {
         }
     }
     QString plain;
-    for (const QChar c : foldedText(undecorated.normalized(QString::NormalizationForm_KC))) {
+    const FoldTable& table = FoldTable::of(FoldMode::CaseAndDiacritics);
+    for (const QChar c : table.folded(undecorated.normalized(QString::NormalizationForm_KC))) {
         plain += c.unicode() < 0x80 ? QString(c) : latin(c.unicode());
     }
     return plain;

@@ -14,12 +14,16 @@ constexpr qsizetype kBehind = 60;
 void mark(ShowRow& row, const ShowItem& show, const QString& foldedPattern) {
     row.titleMatches = textMatches(row.title, foldedPattern);
     row.detailsMatches = textMatches(row.details, foldedPattern);
-    const TVEntrySupplementalData* details = show.details().get();
-    if (!row.titleMatches.empty() || !row.detailsMatches.empty() || !details) {
+    if (!row.titleMatches.empty() || !row.detailsMatches.empty()) {
         return;
     }
-    for (const std::optional<QString>* text : {&details->description, &details->episodeDescription,
-                                               &details->details, &details->directedBy, &details->roles}) {
+    const ShowFacts noFacts;
+    const TVEntrySupplementalData noDetails;
+    const ShowFacts& facts = show.entry()->facts() ? *show.entry()->facts() : noFacts;
+    const TVEntrySupplementalData& details = show.details() ? *show.details() : noDetails;
+    for (const std::optional<QString>* text :
+         {&facts.originalTitle, &details.description, &details.episodeDescription, &details.details,
+          &details.directedBy, &details.roles}) {
         const auto matches = *text ? textMatches(**text, foldedPattern) : std::vector<TextRange>();
         if (!matches.empty()) {
             row.details +=

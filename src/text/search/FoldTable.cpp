@@ -1,17 +1,40 @@
 #include "text/search/FoldTable.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace guide {
 
 namespace {
 
 bool ignoresCase(FoldMode mode) {
-    return mode == FoldMode::Case || mode == FoldMode::CaseAndDiacritics;
+    return mode == FoldMode::Case || mode == FoldMode::CaseAndDiacritics || mode == FoldMode::Lookalikes;
 }
 
 bool ignoresDiacritics(FoldMode mode) {
-    return mode == FoldMode::Diacritics || mode == FoldMode::CaseAndDiacritics;
+    return mode == FoldMode::Diacritics || mode == FoldMode::CaseAndDiacritics ||
+           mode == FoldMode::Lookalikes;
+}
+
+/// What is typed in place of a letter, in lower case, that has no decomposition; null for any other.
+const char* lookalike(char32_t letter) {
+    static constexpr std::array<std::pair<char32_t, const char*>, 11> kLetters{{
+        {U'ß', "ss"},
+        {U'æ', "ae"},
+        {U'ð', "d"},
+        {U'ø', "o"},
+        {U'þ', "th"},
+        {U'đ', "d"},
+        {U'ħ', "h"},
+        {U'ı', "i"},
+        {U'ł', "l"},
+        {U'œ', "oe"},
+        {U'ŧ', "t"},
+    }};
+    const auto found =
+        std::ranges::lower_bound(kLetters, letter, {}, &std::pair<char32_t, const char*>::first);
+    return found != kLetters.end() && found->first == letter ? found->second : nullptr;
 }
 
 } // namespace
@@ -66,10 +89,14 @@ const FoldTable& FoldTable::of(FoldMode mode) {
         static const FoldTable kTable(FoldMode::Diacritics);
         return kTable;
     }
-    case FoldMode::CaseAndDiacritics:
+    case FoldMode::CaseAndDiacritics: {
+        static const FoldTable kTable(FoldMode::CaseAndDiacritics);
+        return kTable;
+    }
+    case FoldMode::Lookalikes:
         break;
     }
-    static const FoldTable kTable(FoldMode::CaseAndDiacritics);
+    static const FoldTable kTable(FoldMode::Lookalikes);
     return kTable;
 }
 
@@ -84,7 +111,14 @@ FoldedCharacter FoldTable::fold(char32_t character) const {
 }
 
 void FoldTable::append(char32_t character, FoldedCharacter& to) const {
-    to.append(ignoresCase(m_mode) ? QChar::toCaseFolded(character) : character);
+    const char32_t folded = ignoresCase(m_mode) ? QChar::toCaseFolded(character) : character;
+    if (const char* typed = m_mode == FoldMode::Lookalikes && folded >= 0x80 ? lookalike(folded) : nullptr) {
+        for (; *typed != 0; ++typed) {
+            to.append(static_cast<char32_t>(*typed));
+        }
+    } else {
+        to.append(folded);
+    }
 }
 
 void FoldTable::appendBases(char32_t character, FoldedCharacter& to) const {

@@ -15,6 +15,9 @@ enum class FoldMode {
     Case,
     Diacritics,
     CaseAndDiacritics,
+    /// Case, diacritics, and what people type in place of letters that are not on their keyboards: ss for ß,
+    /// d for đ, l for ł, o for ø, i for ı.
+    Lookalikes,
 };
 
 /// What one character folds to: at most a few units, none for an ignored mark.
@@ -33,7 +36,7 @@ class FoldedCharacter {
 };
 
 /// How each code unit of the basic plane folds in a mode. Marks vanish if diacritics are ignored; letters
-/// that do not decompose (đ, ł, ß, ı) stay; a few (Hangul) become several units.
+/// that do not decompose (đ, ł, ß, ı) stay, except among lookalikes; a few (Hangul) become several units.
 class FoldTable {
   public:
     /// Surrogates, which no character folds to alone.

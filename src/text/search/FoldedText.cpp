@@ -5,7 +5,7 @@
 namespace guide {
 
 QString foldedText(QStringView text) {
-    return FoldTable::of(FoldMode::CaseAndDiacritics).folded(text);
+    return FoldTable::of(FoldMode::Lookalikes).folded(text);
 }
 
 } // namespace guide

@@ -14,7 +14,7 @@ std::vector<TextRange> textMatches(QStringView text, QStringView foldedPattern) 
     }
     // For each folded unit the character that it comes from. Marks fold to nothing, so that the end of a
     // match is where the next folded character begins.
-    const FoldTable& table = FoldTable::of(FoldMode::CaseAndDiacritics);
+    const FoldTable& table = FoldTable::of(FoldMode::Lookalikes);
     std::vector<qsizetype> origins;
     origins.reserve(static_cast<std::size_t>(folded.size()) + 1);
     for (qsizetype at = 0; at < text.size();) {
