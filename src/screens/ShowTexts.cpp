@@ -1,6 +1,9 @@
 #include "screens/ShowTexts.h"
 
+#include "screens/FactTexts.h"
 #include "screens/TextTidying.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <optional>
@@ -14,6 +17,8 @@ namespace {
 constexpr QChar kBar = u'║';
 constexpr qsizetype kLongestFact = 80;
 constexpr qsizetype kMostParts = 20;
+/// Where a text names its episode.
+constexpr qsizetype kBeginning = 30;
 /// Ages are rated from six years, stars up to five.
 constexpr int kMostStars = 5;
 
@@ -154,10 +159,15 @@ ShowTexts showTexts(const TVEntry& entry) {
     if (isInTitle(texts.subheading, entry)) {
         texts.subheading.clear();
     }
+    if (const ShowFacts* facts = entry.facts().get()) {
+        texts.facts.removeIf([facts](const QString& text) { return isFact(text, *facts); });
+    }
     return texts;
 }
 
-QString rowDetails(const TVEntry& entry) {
+namespace {
+
+QString textsInOneLine(const TVEntry& entry) {
     const QString details = entry.fullInstantDetails().value_or(QString());
     if (!details.contains(kBar)) {
         return isInTitle(details, entry) ? QString() : details;
@@ -167,6 +177,31 @@ QString rowDetails(const TVEntry& entry) {
     if (!texts.subheading.isEmpty()) {
         parts.prepend(texts.subheading);
     }
+    return parts.join(kBetweenFacts);
+}
+
+/// Empty if the text begins with the number of the episode in its own words.
+QString episodeUnlessIn(const QString& text, const EpisodeNumber& episode) {
+    static const QRegularExpression number(u"\\d+"_s);
+    const QString start = text.first(std::min(text.size(), kBeginning));
+    for (auto match = number.globalMatch(start); episode.episode && match.hasNext();) {
+        if (match.next().capturedView().toInt() == *episode.episode) {
+            return {};
+        }
+    }
+    return shortEpisode(episode);
+}
+
+} // namespace
+
+QString rowDetails(const TVEntry& entry) {
+    QStringList parts;
+    const QString texts = textsInOneLine(entry);
+    if (const ShowFacts* facts = entry.facts().get()) {
+        parts << newnessText(facts->newness) << episodeUnlessIn(texts, facts->episode);
+    }
+    parts << texts;
+    parts.removeAll(QString());
     return parts.join(kBetweenFacts);
 }
 

@@ -24,7 +24,7 @@ struct ShowTexts {
 /// Without texts that repeat the show's title.
 ShowTexts showTexts(const TVEntry& entry);
 
-/// The same texts in one line, for a row.
+/// The same texts in one line, for a row, behind what is new and the episode.
 QString rowDetails(const TVEntry& entry);
 
 } // namespace guide

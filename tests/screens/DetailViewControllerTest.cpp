@@ -106,6 +106,33 @@ TEST_F(DetailViewControllerTest, ShowsTheTextsThatTheShowHas) {
     EXPECT_TRUE(world.showLookup.links.empty()) << "the link is known";
 }
 
+TEST_F(DetailViewControllerTest, ShowsTheFactsOfTheShowOnce) {
+    open(30, [](ExtendedTVEntry& show) {
+        show.basic->setSubtitle1(u"S2E5 ║ Part one ║ Drama ║ CZ ║ 2016 ║ 12 ║ 3,8"_s);
+        ShowFacts facts;
+        facts.originalTitle = u"The very first of its kind"_s;
+        facts.episode = {2, 5, 10, 1, {}};
+        facts.year = 2016;
+        facts.countries = {u"CZ"_s, u"Francie"_s};
+        facts.ageRating = u"12"_s;
+        facts.starRating = StarRating{7.25, 10};
+        facts.newness = Newness::New;
+        show.basic->setFacts(std::make_shared<const ShowFacts>(facts));
+        show.extra = nullptr;
+    });
+    EXPECT_EQ(QString(head().facts).replace(QChar(QChar::Nbsp), u' '),
+              u"Jedna · Today · 19:00–20:00 · 1 h · New · Drama"_s);
+    QStringList facts;
+    for (const Row& row : table().sections().back().rows) {
+        const auto& text = std::get<TextRow>(row.content);
+        facts << text.title + u": "_s + text.detail + text.subtitle;
+    }
+    EXPECT_EQ(facts, QStringList({u"Original title: The very first of its kind"_s,
+                                  u"Episode: Season 2 · Episode 5 of 10 · Part 1"_s, u"Year: 2016"_s,
+                                  u"Country: Czechia, Francie"_s, u"Age rating: 12+"_s,
+                                  u"Rating: 7.3 of 10 stars"_s}));
+}
+
 TEST_F(DetailViewControllerTest, ShowsOnlyTheHeadOfAShowWithoutTexts) {
     open(30, [](ExtendedTVEntry& show) { show.extra = nullptr; });
     EXPECT_EQ(table().rowCount(), 2);

@@ -58,6 +58,34 @@ TEST(ShowTexts, SortsWhatAFeedPacksIntoTheSubtitle) {
     }
 }
 
+TEST(ShowTexts, ARowSaysWhatIsNewAndWhichEpisodeItIs) {
+    const struct {
+        const char* name;
+        QString subtitle;
+        EpisodeNumber episode;
+        Newness newness;
+        QString row;
+    } cases[] = {
+        {"both", u"Gioco"_s, {2, 5, 10, {}, {}}, Newness::New, u"New · S2E5 · Gioco"_s},
+        {"no text", {}, {{}, 5, {}, {}, {}}, Newness::Repeat, u"Replay · E5"_s},
+        {"the text has it", u"05. díl: Hra"_s, {2, 5, {}, {}, {}}, Newness::Unknown, u"05. díl: Hra"_s},
+        {"another number", u"15. díl"_s, {{}, 5, {}, {}, {}}, Newness::Unknown, u"E5 · 15. díl"_s},
+        {"nothing of the kind", u"Hra"_s, {}, Newness::Unknown, u"Hra"_s},
+    };
+    Alphabet alphabet;
+    for (const auto& each : cases) {
+        TVEntry entry(alphabet);
+        entry.setIdentificator(u"Show"_s);
+        entry.setSubtitle1(each.subtitle);
+        ShowFacts facts;
+        facts.year = 2016;
+        facts.episode = each.episode;
+        facts.newness = each.newness;
+        entry.setFacts(std::make_shared<const ShowFacts>(facts));
+        EXPECT_EQ(rowDetails(entry).replace(QChar(QChar::Nbsp), u' '), each.row) << each.name;
+    }
+}
+
 TEST(ShowTexts, LongPartsAreDetails) {
     Alphabet alphabet;
     TVEntry entry(alphabet);

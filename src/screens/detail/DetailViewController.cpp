@@ -1,5 +1,6 @@
 #include "screens/detail/DetailViewController.h"
 
+#include "screens/FactTexts.h"
 #include "screens/Localized.h"
 #include "screens/ShowRows.h"
 #include "screens/ShowTexts.h"
@@ -22,7 +23,10 @@ namespace {
 constexpr auto kHead = "title"_L1;
 constexpr auto kActions = "actions"_L1;
 constexpr auto kAlarm = "alarm"_L1;
+constexpr auto kFacts = "facts"_L1;
 constexpr auto kShowAll = "show all"_L1;
+/// Fits beside its label.
+constexpr qsizetype kShortFact = 20;
 constexpr qsizetype kPeopleShown = 10;
 /// Of the one archive of past broadcasts.
 constexpr auto kArchiveLanguage = "hr"_L1;
@@ -103,6 +107,9 @@ void DetailViewController::loadContent() {
     }
     for (const ShowGroup& group : showGroups(m_show, m_environment->alphabet)) {
         sections.push_back(groupSection(group));
+    }
+    if (Section facts = factSection(); !facts.rows.empty()) {
+        sections.push_back(std::move(facts));
     }
     table().setSections(std::move(sections));
 }
@@ -195,6 +202,22 @@ Section DetailViewController::groupSection(const ShowGroup& group) const {
                                 .content = ButtonRow{Localized::tr("Show all %n", nullptr,
                                                                    static_cast<int>(hidden + kPeopleShown))},
                                 .selectable = true});
+    }
+    return section;
+}
+
+Section DetailViewController::factSection() const {
+    Section section{.id = kFacts};
+    const std::shared_ptr<const ShowFacts> facts = entry().facts();
+    if (!facts) {
+        return section;
+    }
+    for (const LabelledFact& fact : labelledFacts(*facts, m_environment->device.locale())) {
+        const bool isShort = fact.value.size() <= kShortFact;
+        section.rows.push_back({.id = rowId(section.id, fact.label),
+                                .content = TextRow{.title = fact.label,
+                                                   .subtitle = isShort ? QString() : fact.value,
+                                                   .detail = isShort ? fact.value : QString()}});
     }
     return section;
 }

@@ -1,5 +1,6 @@
 #include "screens/detail/ShowPage.h"
 
+#include "screens/FactTexts.h"
 #include "screens/Localized.h"
 #include "screens/ShowRowText.h"
 #include "screens/ShowRows.h"
@@ -136,9 +137,9 @@ QStringList showFacts(const TVEntry& entry, const std::optional<Moment>& end, Mo
                          .replace(u' ', QChar(QChar::Nbsp));
         }
     }
-    if (entry.previouslyShown()) {
-        facts << Localized::tr("Replay");
-    }
+    const Newness newness = entry.facts() ? entry.facts()->newness : Newness::Unknown;
+    facts << newnessText(entry.previouslyShown() ? Newness::Repeat : newness);
+    facts.removeAll(QString());
     return facts + showTexts(entry).facts;
 }
 

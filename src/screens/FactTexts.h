@@ -1,0 +1,33 @@
+#pragma once
+
+#include "text/facts/ShowFacts.h"
+
+#include <QLocale>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace guide {
+
+/// A fact of a show and what it is.
+struct LabelledFact {
+    QString label;
+    QString value;
+
+    friend bool operator==(const LabelledFact&, const LabelledFact&) = default;
+};
+
+/// Original title, episode, year, countries, age rating and stars: those that are known.
+std::vector<LabelledFact> labelledFacts(const ShowFacts& facts, const QLocale& locale);
+
+/// Whether the broadcast is new or a replay; empty when the source does not say.
+QString newnessText(Newness newness);
+
+/// "S2E5", "S2" or "E5", as feeds write it; empty when neither is known.
+QString shortEpisode(const EpisodeNumber& episode);
+
+/// Whether a text of few words says nothing but one of the facts.
+bool isFact(const QString& text, const ShowFacts& facts);
+
+} // namespace guide
