@@ -36,8 +36,15 @@ bool hasStream(const Row& row) {
     return channel && channel->accessory == Accessory::Play;
 }
 
+bool isOwnChannel(const Row& row) {
+    return isChannel(row) && row.id.channel() && row.id.channel()->isOwn();
+}
+
 bool isText(const Row& row) {
     return row.kind() == RowKind::Text;
+}
+bool isReview(const Row& row) {
+    return isText(row) && std::get<TextRow>(row.content).title == Localized::tr("Review matches");
 }
 /// Of the channels to choose from.
 bool isChecked(const Row& row) {
@@ -116,13 +123,7 @@ constexpr std::array kStops{
     Stop{"catalogue-group", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }},
     Stop{"catalogue-removed", [](PictureTour& tour) { return tour.send(Tapped{}, isChecked); },
          Stops::WithChanges},
-    Stop{"adding",
-         [](PictureTour& tour) {
-             return tour.selectTab(Symbol::SelectedChannels) &&
-                    tour.pressButton(Localized::tr("My sources")) &&
-                    tour.pressButton(Localized::tr("Add a source"));
-         },
-         Stops::WithSources},
+    Stop{"adding", [](PictureTour& tour) { return tour.openAdding(); }, Stops::WithSources},
     Stop{"preview", [](PictureTour& tour) { return tour.enterSource(); }, Stops::WithSources},
     Stop{"choosing", [](PictureTour& tour) { return tour.search(u"m"_s); }, Stops::WithSources},
     Stop{"sources",
@@ -132,6 +133,15 @@ constexpr std::array kStops{
          },
          Stops::WithSources},
     Stop{"source", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }, Stops::WithSources},
+    Stop{"own-channel",
+         [](PictureTour& tour) {
+             return tour.selectTab(Symbol::Currently) && tour.send(Tapped{}, isOwnChannel);
+         },
+         Stops::WithSources},
+    Stop{"own-show", [](PictureTour& tour) { return tour.send(Tapped{}, isShow); }, Stops::WithSources},
+    Stop{"playlist", [](PictureTour& tour) { return tour.openAdding() && tour.enterPlaylist(); },
+         Stops::WithSources},
+    Stop{"matches", [](PictureTour& tour) { return tour.send(Tapped{}, isReview); }, Stops::WithSources},
     Stop{"player",
          [](PictureTour& tour) {
              return tour.selectTab(Symbol::Currently) && tour.send(AccessoryTapped{}, hasStream);
@@ -240,9 +250,21 @@ bool PictureTour::pressButton(const QString& title) {
     return false;
 }
 
+bool PictureTour::openAdding() {
+    return selectTab(Symbol::SelectedChannels) && pressButton(Localized::tr("My sources")) &&
+           pressButton(Localized::tr("Add a source"));
+}
+
+bool PictureTour::enter(const QString& address) {
+    return send(TextEdited{address, true, true}, [](const Row& row) { return row.kind() == RowKind::Input; });
+}
+
 bool PictureTour::enterSource() {
-    return send(TextEdited{m_plan.source, true, true},
-                [](const Row& row) { return row.kind() == RowKind::Input; });
+    return enter(m_plan.source);
+}
+
+bool PictureTour::enterPlaylist() {
+    return enter(m_plan.playlist);
 }
 
 bool PictureTour::takesSources() const {

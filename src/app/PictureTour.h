@@ -27,6 +27,8 @@ class PictureTour {
         bool mayChange = false;
         /// The address of a feed that the tour adds; nothing is added without one.
         QString source = {};
+        /// Of a playlist whose channels are in the feed.
+        QString playlist = {};
     };
 
     /// `done` is called once, with whether every screen opened and every picture was written.
@@ -46,8 +48,11 @@ class PictureTour {
     bool addFavourites();
     bool search(const QString& text);
     bool pressButton(const QString& title);
-    /// Into the field of the screen.
+    /// Opens the screen that adds sources.
+    bool openAdding();
+    /// Into the field of that screen.
     bool enterSource();
+    bool enterPlaylist();
     /// Of a show's page.
     bool pressAction(ActionSymbol symbol);
 
@@ -58,6 +63,7 @@ class PictureTour {
     void open();
     bool isLeftOut() const;
     bool takesSources() const;
+    bool enter(const QString& address);
     void poll();
     void draw();
     void later(int milliseconds, void (PictureTour::*next)());

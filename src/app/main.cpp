@@ -8,6 +8,7 @@
 #include "app/QuellinGuideAppDelegate.h"
 #include "app/WindowState.h"
 #include "demo/DemoEnvironment.h"
+#include "demo/DemoFiles.h"
 #include "platform/files/FileReplacement.h"
 #include "platform/linux/ApplicationService.h"
 #include "platform/linux/CurlHTTPClient.h"
@@ -293,14 +294,14 @@ int run(LaunchOptions options, bool drawsWebPages) {
 
     std::optional<PictureTour> tour;
     if (options.screenshots) {
-        tour.emplace(
-            delegate.tabBarController(), *window,
-            PictureTour::Plan{.folder = *options.screenshots,
-                              .prefix = picturePrefix(options),
-                              .appearance = options.appearance,
-                              .mayChange = options.demo,
-                              .source = demo ? demo->serverBase() + "/feeds/minuta.xml"_L1 : QString()},
-            [](bool complete) { QCoreApplication::exit(complete ? 0 : 1); });
+        tour.emplace(delegate.tabBarController(), *window,
+                     PictureTour::Plan{.folder = *options.screenshots,
+                                       .prefix = picturePrefix(options),
+                                       .appearance = options.appearance,
+                                       .mayChange = options.demo,
+                                       .source = demo ? demo->serverBase() + kDemoPlaylistFeed : QString(),
+                                       .playlist = demo ? demo->serverBase() + kDemoPlaylist : QString()},
+                     [](bool complete) { QCoreApplication::exit(complete ? 0 : 1); });
         tour->start();
     }
     const int status = QGuiApplication::exec();

@@ -91,6 +91,10 @@ std::unique_ptr<DemoEnvironment> DemoEnvironment::create(const QString& folder, 
             state->router.serve(target, [feed = placed.feed](const ServerRequest&) { return feed->reply(); });
         }
     }
+    state->router.serve(QByteArray(kDemoPlaylist.data(), kDemoPlaylist.size()),
+                        [list = ServerReply::ok(demoPlaylist(state->server->base()))](const ServerRequest&) {
+                            return ServerReply(list);
+                        });
     state->router.serveBelow("/pictures/", [](const ServerRequest& request) {
         return ServerReply::ok(showPicture(request.target), {"Content-Type: image/svg+xml"});
     });

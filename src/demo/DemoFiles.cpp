@@ -9,6 +9,8 @@
 #include <QJsonObject>
 #include <QXmlStreamWriter>
 
+#include <array>
+
 namespace guide {
 
 using namespace Qt::StringLiterals;
@@ -67,6 +69,29 @@ QByteArray demoHosts(const QString& base) {
         hosts.insert(key, host);
     }
     return QJsonDocument(hosts).toJson();
+}
+
+QByteArray demoPlaylist(const QString& base) {
+    struct Entry {
+        QStringView key;
+        QStringView id;
+        QStringView name;
+    };
+    static constexpr std::array kEntries{
+        Entry{u"vyhled", u"vyhled.demo", u"Výhled HD"},
+        Entry{u"platno", u"", u"CZ: Plátno"},
+        Entry{u"pametnik", u"", u"PAMETNIK FHD"},
+        Entry{u"stopa", u"", u"Stopa TV"},
+        Entry{u"zahradka", u"", u"Televize Zahrádka"},
+        Entry{u"minuta", u"", u"Minuta"},
+        Entry{u"ozvena", u"", u"Ozvěna +1"},
+    };
+    QString list = u"#EXTM3U url-tvg=\"%1%2\"\n"_s.arg(base, kDemoPlaylistFeed);
+    for (const Entry& entry : kEntries) {
+        list += u"#EXTINF:-1 tvg-id=\"%1\" group-title=\"Demo\",%2\n%3%4%5.ogv\n"_s.arg(
+            entry.id, entry.name, base, kStreams, entry.key);
+    }
+    return list.toUtf8();
 }
 
 QByteArray demoSelectionFile() {

@@ -13,4 +13,10 @@ QByteArray demoCatalogue(const QString& base);
 QByteArray demoHosts(const QString& base);
 QByteArray demoSelectionFile();
 
+/// Where the demo's playlist is on the server, and the feed that it names.
+inline constexpr QLatin1StringView kDemoPlaylist("/channels.m3u");
+inline constexpr QLatin1StringView kDemoPlaylistFeed("/epg.xml");
+/// A playlist of channels of the feed and others, whose names are decorated as those of real lists are.
+QByteArray demoPlaylist(const QString& base);
+
 } // namespace guide

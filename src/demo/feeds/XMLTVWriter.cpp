@@ -6,6 +6,8 @@
 #include <QDateTime>
 #include <QTimeZone>
 
+#include <array>
+
 namespace guide {
 
 using namespace Qt::StringLiterals;
@@ -33,6 +35,46 @@ QString episodeTail(const Programme& programme) {
         return number + u". bölüm"_s;
     }
     return programme.language == "ru"_L1 ? number + u"-я серия"_s : u"episode "_s + number;
+}
+
+/// The same for a title every time, and evenly spread.
+unsigned numberOf(const QString& title) {
+    unsigned number = 7;
+    for (const QChar c : title) {
+        number = number * 31 + c.unicode();
+    }
+    return number;
+}
+
+bool isFilm(const Programme& programme) {
+    return programme.year > 0 && programme.episode == 0;
+}
+
+/// Of a film of another country, in English; empty for any other.
+QString originalTitle(const Programme& programme) {
+    static constexpr std::array kFirst{"Silent",   "Crooked",  "Second", "Paper",
+                                       "Northern", "Borrowed", "Last"};
+    static constexpr std::array kSecond{"Harbour", "Orchard", "Witness", "Letter", "Summer", "Lighthouse"};
+    const unsigned number = numberOf(programme.title);
+    return isFilm(programme) && programme.language != "en"_L1 && number % 2 == 0
+               ? u"The %1 %2"_s.arg(QLatin1StringView(kFirst[number / 2 % kFirst.size()]),
+                                    QLatin1StringView(kSecond[number / 16 % kSecond.size()]))
+               : QString();
+}
+
+/// The age from which a film may be seen; empty for any.
+QString ageRating(const Programme& programme) {
+    switch (programme.topic) {
+    case Topic::Horror:
+        return u"18"_s;
+    case Topic::Thriller:
+        return u"15"_s;
+    case Topic::Crime:
+    case Topic::Western:
+        return u"12"_s;
+    default:
+        return {};
+    }
 }
 
 /// Windows-1251, with character references for all other characters.
@@ -65,6 +107,8 @@ class Document {
   private:
     void programme(const Programme& programme, const FeedChannel& channel);
     void credits(const Programme& programme);
+    /// What typed facts are read from, where the title does not carry it.
+    void ratings(const Programme& programme);
     QString title(const Programme& programme) const;
     QString subtitle(const Programme& programme) const;
     QString description(const Programme& programme) const;
@@ -110,6 +154,9 @@ void Document::programme(const Programme& programme, const FeedChannel& channel)
               attribute("stop"_L1, time(programme.stop)) + attribute("channel"_L1, channel.id) + u">\n"_s;
     const QString language = attribute("lang"_L1, programme.language);
     element("title"_L1, language, escaped(title(programme)));
+    if (m_style.form != FeedStyle::Form::Bracketed) {
+        element("title"_L1, attribute("lang"_L1, u"en"_s), originalTitle(programme));
+    }
     element("sub-title"_L1, language, escaped(subtitle(programme)));
     const QString description = this->description(programme);
     element("desc"_L1, language,
@@ -141,7 +188,23 @@ void Document::programme(const Programme& programme, const FeedChannel& channel)
     if (programme.repeat && m_style.form != FeedStyle::Form::Bracketed) {
         m_text += u"    <previously-shown/>\n"_s;
     }
+    if (m_style.form != FeedStyle::Form::Bracketed) {
+        ratings(programme);
+    }
     m_text += u"  </programme>\n"_s;
+}
+
+void Document::ratings(const Programme& programme) {
+    if (!programme.repeat && programme.season > 0) {
+        m_text += u"    <new/>\n"_s;
+    }
+    if (const QString age = ageRating(programme); !age.isEmpty()) {
+        m_text += u"    <rating><value>"_s + age + u"</value></rating>\n"_s;
+    }
+    if (isFilm(programme)) {
+        m_text +=
+            u"    <star-rating><value>%1/10</value></star-rating>\n"_s.arg(4 + numberOf(programme.title) % 6);
+    }
 }
 
 void Document::credits(const Programme& programme) {
