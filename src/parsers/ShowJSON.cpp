@@ -4,6 +4,8 @@
 #include <QJsonArray>
 #include <QTimeZone>
 
+#include <utility>
+
 namespace guide {
 
 using namespace Qt::StringLiterals;
@@ -97,18 +99,57 @@ QJsonObject showJSON(const ShowItem& item) {
     return show;
 }
 
+QJsonObject factsJSON(const ShowItem& item) {
+    static const ShowFacts kNone;
+    const ShowFacts& facts = item.entry()->facts() ? *item.entry()->facts() : kNone;
+    const auto number = [](const std::optional<int>& value) {
+        return value ? QJsonValue(*value) : QJsonValue(QJsonValue::Null);
+    };
+    QJsonObject episode;
+    const std::pair<QString, std::optional<int>> parts[] = {{u"season"_s, facts.episode.season},
+                                                            {u"episode"_s, facts.episode.episode},
+                                                            {u"episodes"_s, facts.episode.episodes},
+                                                            {u"part"_s, facts.episode.part},
+                                                            {u"parts"_s, facts.episode.parts}};
+    for (const auto& [name, value] : parts) {
+        if (value) {
+            episode[name] = *value;
+        }
+    }
+    const QJsonArray countries =
+        QJsonArray::fromStringList(QStringList(facts.countries.begin(), facts.countries.end()));
+    return {{u"originalTitle"_s, jsonText(facts.originalTitle)},
+            {u"episode"_s, episode.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(episode)},
+            {u"year"_s, number(facts.year)},
+            {u"countries"_s, countries.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(countries)},
+            {u"ageRating"_s, jsonText(facts.ageRating)},
+            {u"starRating"_s, facts.starRating ? QJsonValue(QJsonObject{{u"value"_s, facts.starRating->value},
+                                                                        {u"most"_s, facts.starRating->most}})
+                                               : QJsonValue(QJsonValue::Null)},
+            {u"newness"_s, facts.newness == Newness::New      ? QJsonValue(u"new"_s)
+                           : facts.newness == Newness::Repeat ? QJsonValue(u"repeat"_s)
+                                                              : QJsonValue(QJsonValue::Null)}};
+}
+
 QJsonObject showDetailsJSON(const ShowItem& item) {
     return {{u"categories"_s, static_cast<qint64>(item.categories().value_or(0))},
             {u"details"_s, detailsJSON(*item.details())},
             {u"pictures"_s, picturesJSON(item.pictures())}};
 }
 
-QJsonObject listsJSON(const MergeResult& merged) {
+QJsonObject listsJSON(const MergeResult& merged, bool withFacts) {
     QJsonObject channels;
     for (const auto& [channel, list] : merged.lists) {
         QJsonArray shows;
         for (const ShowItem& item : *list) {
-            shows.append(showJSON(item));
+            QJsonObject show = showJSON(item);
+            if (withFacts) {
+                const QJsonObject facts = factsJSON(item);
+                for (auto fact = facts.begin(); fact != facts.end(); ++fact) {
+                    show[fact.key()] = *fact;
+                }
+            }
+            shows.append(show);
         }
         channels[channel.hex()] = shows;
     }

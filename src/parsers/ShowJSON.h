@@ -19,10 +19,13 @@ QString isoMoment(Moment moment);
 /// sorted by their text. `item` must not be empty.
 QJsonObject showJSON(const ShowItem& item);
 
+/// The facts of a show of an own source, null for unset ones, under their names in ShowFacts.
+QJsonObject factsJSON(const ShowItem& item);
+
 /// The "categories", "details" and "pictures" of a show that has details; no pictures give an empty list.
 QJsonObject showDetailsJSON(const ShowItem& item);
 
-/// The lists by channel, under "channels".
-QJsonObject listsJSON(const MergeResult& merged);
+/// The lists by channel, under "channels". `withFacts` adds the facts of each show.
+QJsonObject listsJSON(const MergeResult& merged, bool withFacts = false);
 
 } // namespace guide

@@ -1,14 +1,19 @@
 #include "parsers/ListDriver.h"
 #include "parsers/ShowJSON.h"
 #include "parsers/URLPlanner.h"
+#include "parsers/own/OwnFeedReader.h"
 #include "platform/memory/ManualClock.h"
 #include "probe/Command.h"
 #include "probe/ProbePages.h"
 #include "sources/PageFetcher.h"
+#include "sources/SourceId.h"
 #include "store/ListMerge.h"
 
 #include <QJsonArray>
 #include <QRandomGenerator>
+
+#include <algorithm>
+#include <iterator>
 
 namespace guide::probe {
 
@@ -41,15 +46,7 @@ std::optional<LoadItem> loadItem(const QString& text) {
                     text.mid(last + 1)};
 }
 
-Outcome parse(Context& context) {
-    const Arguments& arguments = context.arguments;
-    bool isNumber = false;
-    // An unknown number has no reader.
-    const auto type =
-        static_cast<ListingsType>(arguments.value(u"type"_s).value_or(QString()).toUInt(&isNumber));
-    if (!isNumber) {
-        return Failure{u"--type needs the number of a listing type"_s, true};
-    }
+std::variant<std::vector<LoadItem>, Failure> loadItems(const Arguments& arguments) {
     std::vector<LoadItem> items;
     for (const QString& text : arguments.options.value(u"item"_s)) {
         const auto item = loadItem(text);
@@ -61,13 +58,65 @@ Outcome parse(Context& context) {
     if (items.empty()) {
         return Failure{u"--item is missing"_s, true};
     }
+    return items;
+}
+
+/// The lists of a source of the user's own, whose language is that of the first item.
+Outcome parseOwn(const Context& context, const std::vector<LoadItem>& items) {
+    const ManualClock clock(context.now);
+    const Alphabet alphabet(writesCyrillic(context));
+    std::vector<OwnFeedItem> channels;
+    channels.reserve(items.size());
+    for (const LoadItem& item : items) {
+        channels.push_back(
+            {.channel = item.channel, .feedChannel = item.sourceId, .language = item.language});
+    }
+    ParsedLists lists;
+    for (const QString& path : context.arguments.operands) {
+        OwnFeed feed = readOwnFeed(path, {}, channels,
+                                   {.clock = clock,
+                                    .alphabet = alphabet,
+                                    .locale = context.device.locale(),
+                                    .zone = timeZoneForLanguage(items.front().language),
+                                    .physicalMemory = context.device.physicalMemory()});
+        if (feed.result == SourceResult::NoFile) {
+            return Failure{u"%1 cannot be read"_s.arg(path)};
+        }
+        for (auto& [channel, shows] : feed.lists) {
+            std::ranges::move(shows, std::back_inserter(lists[channel]));
+        }
+    }
+    return listsJSON(mergedLists(items, std::move(lists), context.now, ListingsType::XMLTV), true);
+}
+
+Outcome parse(Context& context) {
+    const Arguments& arguments = context.arguments;
+    const bool isOwn = arguments.has(u"own"_s);
+    bool isNumber = false;
+    // An unknown number has no reader.
+    const auto type = static_cast<ListingsType>(
+        arguments.value(u"type"_s).value_or(isOwn ? u"1"_s : QString()).toUInt(&isNumber));
+    if (!isNumber) {
+        return Failure{u"--type needs the number of a listing type"_s, true};
+    }
+    if (isOwn && type != ListingsType::XMLTV) {
+        return Failure{u"--own needs type 1"_s, true};
+    }
+    auto read = loadItems(arguments);
+    if (const auto* failure = std::get_if<Failure>(&read)) {
+        return *failure;
+    }
+    const std::vector<LoadItem>& items = std::get<0>(read);
+    if (isOwn) {
+        return parseOwn(context, items);
+    }
     auto pages = pagesFromFiles(arguments.operands, context);
     if (const auto* failure = std::get_if<Failure>(&pages)) {
         return *failure;
     }
     const Alphabet alphabet(writesCyrillic(context));
-    ParsedLists read = readPages(context, alphabet, items, std::get<0>(pages), type);
-    return listsJSON(mergedLists(items, std::move(read), context.now, type));
+    ParsedLists lists = readPages(context, alphabet, items, std::get<0>(pages), type);
+    return listsJSON(mergedLists(items, std::move(lists), context.now, type));
 }
 
 /// Fetches the pages of the URLs as a check does, up to the first failure, whose reason it stores in `why`.
@@ -139,9 +188,9 @@ Outcome check(Context& context) {
 std::vector<Command> listingsCommands() {
     return {
         {u"parse"_s,
-         {u"--type N --item CHANNEL,SOURCE_ID,LANGUAGE [--item ...] PAGE..."_s,
+         {u"--type N [--own] --item CHANNEL,SOURCE_ID,LANGUAGE [--item ...] PAGE..."_s,
           {u"type"_s, u"item"_s},
-          {},
+          {u"own"_s},
           1,
           -1},
          u"the lists that the guide would store of these pages"_s,

@@ -1,5 +1,7 @@
 #include "sources/SourceId.h"
 
+#include <QHash>
+
 #include <array>
 #include <limits>
 
@@ -42,6 +44,14 @@ std::optional<QTimeZone> timeZoneForServer(QStringView serverName) {
         }
     }
     return std::nullopt;
+}
+
+QTimeZone timeZoneForLanguage(const QString& language) {
+    // As the ending of a server's name, where it differs from the language.
+    static const QHash<QString, QString> kCountries{
+        {u"cs"_s, u"cz"_s}, {u"sr"_s, u"rs"_s}, {u"bs"_s, u"ba"_s}};
+    const QString code = language.left(2);
+    return timeZoneForServer(kCountries.value(code, code)).value_or(QTimeZone::utc());
 }
 
 } // namespace guide

@@ -15,5 +15,8 @@ bool sourceIdUsedByPortNetwork(QStringView sourceId);
 /// The zone of the country whose two letters end the server name; a bare country code also works. Nothing for
 /// other names.
 std::optional<QTimeZone> timeZoneForServer(QStringView serverName);
+/// The zone of the country of a language (an ISO 639-1 code): where a feed of that language writes times
+/// without an offset. UTC for a language that is not known or spoken in several zones.
+QTimeZone timeZoneForLanguage(const QString& language);
 
 } // namespace guide

@@ -33,18 +33,6 @@ OwnChannel channelOf(const MatchedEntry& entry) {
 
 } // namespace
 
-QString commonLanguage(const SourcePreview& preview) {
-    QString common;
-    int most = 0;
-    for (auto each = preview.languages.cbegin(); each != preview.languages.cend(); ++each) {
-        if (!each.key().isEmpty() && each.value() > most) {
-            most = each.value();
-            common = each.key();
-        }
-    }
-    return common;
-}
-
 std::vector<OwnChannel> chosenChannels(const OwnSource& source, const SourceProposal& proposal,
                                        const QStringList& chosen, const std::vector<MatchedEntry>& matches) {
     const QSet<QString> wanted(chosen.begin(), chosen.end());

@@ -10,9 +10,6 @@
 
 namespace guide {
 
-/// The language that most channels of a preview have; empty when none could be told.
-QString commonLanguage(const SourcePreview& preview);
-
 /// The channels of the source that are chosen by their keys, in the order of what it offers. Those that it
 /// had keep their settings, also when it does not offer them today.
 std::vector<OwnChannel> chosenChannels(const OwnSource& source, const SourceProposal& proposal,

@@ -5,6 +5,7 @@
 #include "core/own/SourceAddress.h"
 #include "parsers/own/SourcePreviewReader.h"
 #include "parsers/playlists/PlaylistKeys.h"
+#include "sources/SourceId.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -135,6 +136,7 @@ void OwnSourceLoad::readFeed(const FetchedSource& fetched) {
                            {.clock = m_environment.clock,
                             .alphabet = m_environment.alphabet,
                             .locale = m_environment.device.locale(),
+                            .zone = timeZoneForLanguage(m_plan.source.language),
                             .physicalMemory = m_environment.device.physicalMemory(),
                             .stopped = [this] { return m_cancelled.load(); }});
     }

@@ -269,7 +269,7 @@ OwnSourceId OwnSourceService::add(const SourceProposal& proposal, const OwnSourc
         record.charset = content->charset;
     }
     if (source.language.isEmpty()) {
-        source.language = commonLanguage(proposal.preview);
+        source.language = proposal.preview.commonLanguage();
     }
     source.channels = chosenChannels(source, proposal, chosen, matches);
     const SourcePreview& preview = proposal.preview;

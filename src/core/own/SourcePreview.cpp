@@ -11,4 +11,16 @@ QString PreviewChannel::title() const {
     return named != names.end() ? *named : names.isEmpty() ? id : names.front();
 }
 
+QString SourcePreview::commonLanguage() const {
+    QString common;
+    int most = 0;
+    for (auto each = languages.cbegin(); each != languages.cend(); ++each) {
+        if (!each.key().isEmpty() && each.value() > most) {
+            most = each.value();
+            common = each.key();
+        }
+    }
+    return common;
+}
+
 } // namespace guide

@@ -83,6 +83,9 @@ struct SourcePreview {
     std::vector<SourceWarning> warnings;
     /// Why it cannot be used, or SourceResult::Read.
     SourceResult result = SourceResult::Unknown;
+
+    /// Of most channels; empty if none could be told.
+    QString commonLanguage() const;
 };
 
 } // namespace guide

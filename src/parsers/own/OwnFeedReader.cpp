@@ -3,6 +3,7 @@
 #include "parsers/ReadControl.h"
 #include "parsers/own/SourceText.h"
 #include "parsers/xmltv/FeedFilter.h"
+#include "parsers/xmltv/FeedListEnds.h"
 #include "parsers/xmltv/XMLTVToEntries.h"
 #include "sources/WebURL.h"
 
@@ -47,6 +48,16 @@ void give(FeedChannelEntries& channel, const OwnFeedItem& item, bool last, Momen
     }
 }
 
+/// Of several items for a channel, the first one with a language decides.
+std::unordered_map<std::string, QString> languagesOf(const std::vector<OwnFeedItem>& items) {
+    std::unordered_map<std::string, QString> languages;
+    for (const OwnFeedItem& item : items) {
+        QString& language = languages[item.feedChannel.toStdString()];
+        language = language.isEmpty() ? item.language.left(2) : language;
+    }
+    return languages;
+}
+
 } // namespace
 
 OwnFeed readOwnFeed(const QString& path, const QString& charset, const std::vector<OwnFeedItem>& items,
@@ -83,18 +94,21 @@ OwnFeed readOwnFeed(const QString& path, const QString& charset, const std::vect
         longestShift = std::max(longestShift, item.shift);
     }
     const WantedChannels wanted(wantedIds);
-    FeedFilter filter(text, wanted, MissingZone::UTC, environment.stopped);
+    ZoneClock clock(environment.zone.isValid() ? environment.zone : QTimeZone::utc());
+    FeedFilter filter(text, wanted, &clock, environment.stopped);
     ReadControl control({}, environment.physicalMemory, environment.stopped);
-    std::optional<bool> isWhole;
+    bool isRead = true;
     if (!items.empty()) {
         const Moment now = environment.clock.now();
-        // Where other rules for the shows of own sources are chosen.
         XMLTVToEntries reader(filter, wantedIds,
-                              {.shows = {.alphabet = environment.alphabet, .locale = environment.locale},
+                              {.shows = {.alphabet = environment.alphabet,
+                                         .locale = environment.locale,
+                                         .reading = ownReading()},
                                .now = now - longestShift,
                                .control = &control,
-                               .withoutZone = MissingZone::UTC});
-        isWhole = !reader.brokeOff() && !control.outcome().incomplete;
+                               .withoutOffset = &clock,
+                               .languages = languagesOf(items)});
+        isRead = !reader.brokeOff() && !control.outcome().incomplete;
         for (FeedChannelEntries& channel : reader.entries()) {
             const auto sharing = byChannel.find(channel.sourceId);
             if (sharing == byChannel.end()) {
@@ -103,6 +117,7 @@ OwnFeed readOwnFeed(const QString& path, const QString& charset, const std::vect
             for (ExtendedTVEntry& entry : channel.entries) {
                 removeOtherAddresses(entry);
             }
+            repairEnds(channel);
             for (const OwnFeedItem* item : sharing->second) {
                 give(channel, *item, item == sharing->second.back(), now, feed.lists[item->channel]);
             }
@@ -114,7 +129,8 @@ OwnFeed readOwnFeed(const QString& path, const QString& charset, const std::vect
     feed.channelsWithShows = counts.channelsWithShows;
     feed.shows = counts.shows;
     feed.newest = counts.newest;
-    finish(isWhole.value_or(filter.isWhole()));
+    // Malformed programmes were skipped.
+    finish(isRead && filter.hasEnd());
     return feed;
 }
 

@@ -8,6 +8,7 @@
 
 #include <QLocale>
 #include <QString>
+#include <QTimeZone>
 
 #include <chrono>
 #include <cstdint>
@@ -31,6 +32,8 @@ struct OwnFeedEnvironment {
     const Clock& clock;
     const Alphabet& alphabet;
     QLocale locale = {};
+    /// Of the source: the time of dates without an offset from UTC. Invalid for UTC.
+    QTimeZone zone = {};
     /// In bytes.
     std::uint64_t physicalMemory = 0;
     std::function<bool()> stopped = {};

@@ -56,9 +56,10 @@ struct PreviewFeed::Title {
     PreviewShow show(Moment start, std::optional<Moment> stop) const { return {textOf(raw), start, stop}; }
 };
 
-PreviewFeed::PreviewFeed(const PreviewRequest& request)
+PreviewFeed::PreviewFeed(const PreviewRequest& request, const QTimeZone& withoutOffset)
     : m_request(request)
     , m_zone(request.zone.isValid() ? request.zone : QTimeZone::utc())
+    , m_withoutOffset(withoutOffset)
     , m_local(m_zone)
     , m_today(m_local.dateAt(request.now)) {}
 
@@ -121,9 +122,11 @@ std::optional<bool> PreviewFeed::programme(const OpeningTag& tag, std::string_vi
         return false;
     }
     Channel& channel = m_channels[*m_last];
-    const auto moment = [&tag](std::string_view name) {
+    const auto moment = [this, &tag](std::string_view name) {
+        constexpr std::size_t kDigits = 14;
         const auto text = tag.value(name);
-        return text ? parseXMLTVDate(*text, MissingZone::UTC) : std::nullopt;
+        m_hasLocalTimes = m_hasLocalTimes || (text && text->size() == kDigits);
+        return text ? parseXMLTVDate(*text, &m_withoutOffset) : std::nullopt;
     };
     Title title;
     FeedElements elements(content);

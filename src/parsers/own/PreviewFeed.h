@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/own/SourcePreview.h"
+#include "parsers/markers/ZoneClock.h"
 #include "parsers/own/EveningNews.h"
 #include "parsers/own/SourcePreviewReader.h"
 #include "parsers/xmltv/FeedMemo.h"
@@ -19,11 +20,14 @@ namespace guide {
 /// Gathers what a preview says about a feed while it is scanned.
 class PreviewFeed final : public FeedScanEvents {
   public:
-    explicit PreviewFeed(const PreviewRequest& request);
+    /// Dates without an offset are those of `withoutOffset`.
+    PreviewFeed(const PreviewRequest& request, const QTimeZone& withoutOffset);
 
     int channelCount() const { return static_cast<int>(m_channels.size()); }
     /// Whether texts that were looked at were malformed.
     bool isMalformed() const { return m_isMalformed; }
+    /// Whether dates had no offset.
+    bool hasLocalTimes() const { return m_hasLocalTimes; }
     /// Fills in everything about the channels and shows, and their warnings.
     void finish(SourcePreview& preview);
 
@@ -65,6 +69,8 @@ class PreviewFeed final : public FeedScanEvents {
 
     const PreviewRequest& m_request;
     const QTimeZone m_zone;
+    ZoneClock m_withoutOffset;
+    bool m_hasLocalTimes = false;
     LocalTime m_local;
     QDate m_today;
     std::vector<Channel> m_channels;

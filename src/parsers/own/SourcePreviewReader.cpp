@@ -4,6 +4,7 @@
 #include "parsers/own/SourceText.h"
 #include "parsers/playlists/Playlist.h"
 #include "parsers/xmltv/FeedScan.h"
+#include "sources/SourceId.h"
 
 #include <optional>
 #include <utility>
@@ -18,23 +19,31 @@ bool isStopped(const PreviewRequest& request) {
     return request.stopped && request.stopped();
 }
 
-/// Both return false when the reading was stopped.
-bool readFeed(SourceText& text, const PreviewRequest& request, SourcePreview& preview, bool& isWhole) {
-    PreviewFeed feed(request);
+struct FeedOutcome {
+    bool isFinished = false;
+    bool isWhole = false;
+    bool hasLocalTimes = false;
+};
+
+FeedOutcome readFeed(SourceText& text, const PreviewRequest& request, const QTimeZone& withoutOffset,
+                     SourcePreview& preview) {
+    PreviewFeed feed(request, withoutOffset);
     FeedScan scan(text, feed);
     while (scan.next(nullptr)) {
         if (isStopped(request)) {
-            return false;
+            return {};
         }
         if (request.progress) {
             request.progress(feed.channelCount(), text.unpackedBytes());
         }
     }
     feed.finish(preview);
-    isWhole = scan.isWhole() && !feed.isMalformed();
-    return true;
+    return {.isFinished = true,
+            .isWhole = scan.isWhole() && !feed.isMalformed(),
+            .hasLocalTimes = feed.hasLocalTimes()};
 }
 
+/// False when the reading was stopped.
 bool readList(SourceText& text, const PreviewRequest& request, SourcePreview& preview, bool& isTooLarge) {
     QByteArray bytes;
     QByteArray window(qsizetype{256} << 10, Qt::Uninitialized);
@@ -49,9 +58,8 @@ bool readList(SourceText& text, const PreviewRequest& request, SourcePreview& pr
     return true;
 }
 
-} // namespace
-
-SourcePreview sourcePreview(const QString& path, const PreviewRequest& request) {
+SourcePreview previewWithZone(const QString& path, const PreviewRequest& request, const QTimeZone& zone,
+                              bool& hasLocalTimes) {
     SourcePreview preview;
     SourceText text(path, request.charset, request.physicalMemory);
     preview.kind = text.kind();
@@ -59,7 +67,10 @@ SourcePreview sourcePreview(const QString& path, const PreviewRequest& request) 
     bool isTooLarge = false;
     bool isFinished = true;
     if (preview.kind == SourceKind::Feed) {
-        isFinished = readFeed(text, request, preview, isWhole);
+        const FeedOutcome outcome = readFeed(text, request, zone, preview);
+        isFinished = outcome.isFinished;
+        isWhole = outcome.isWhole;
+        hasLocalTimes = outcome.hasLocalTimes;
     } else if (preview.kind == SourceKind::Playlist) {
         isFinished = readList(text, request, preview, isTooLarge);
     }
@@ -84,6 +95,20 @@ SourcePreview sourcePreview(const QString& path, const PreviewRequest& request) 
         preview.warnings.push_back(SourceWarning::Repaired);
     }
     return preview;
+}
+
+} // namespace
+
+SourcePreview sourcePreview(const QString& path, const PreviewRequest& request) {
+    const QTimeZone zone = timeZoneForLanguage(request.language);
+    bool hasLocalTimes = false;
+    SourcePreview preview = previewWithZone(path, request, zone, hasLocalTimes);
+    if (!hasLocalTimes || !request.language.isEmpty()) {
+        return preview;
+    }
+    // Local times count in the zone of the language that the source is going to have.
+    const QTimeZone told = timeZoneForLanguage(preview.commonLanguage());
+    return told == zone ? preview : previewWithZone(path, request, told, hasLocalTimes);
 }
 
 } // namespace guide

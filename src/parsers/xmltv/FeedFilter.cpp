@@ -65,7 +65,7 @@ std::optional<bool> FeedFilter::programme(const OpeningTag& tag, std::string_vie
         m_lastChannel = *raw;
     }
     const auto startText = m_last ? tag.value("start") : std::nullopt;
-    if (const auto start = startText ? parseXMLTVDate(*startText, m_withoutZone) : std::nullopt) {
+    if (const auto start = startText ? parseXMLTVDate(*startText, m_withoutOffset) : std::nullopt) {
         ++m_counts.shows;
         m_counts.channelsWithShows += std::exchange(m_last->second, true) ? 0 : 1;
         m_counts.newest = m_counts.newest ? std::max(*m_counts.newest, *start) : *start;

@@ -33,11 +33,12 @@ struct FeedCounts {
 /// A feed without the programmes of unwanted channels, which are counted on the way.
 class FeedFilter final : public TextSource, private FeedScanEvents {
   public:
-    /// Everything must outlive this object. `stopped`, if given, is asked at every window and ends the feed.
-    FeedFilter(TextSource& feed, const WantedChannels& wanted, MissingZone withoutZone = MissingZone::Invalid,
+    /// Everything must outlive this object. `withoutOffset` is the time of dates without an offset; null to
+    /// ignore them. `stopped`, if given, is asked at every window and ends the feed.
+    FeedFilter(TextSource& feed, const WantedChannels& wanted, ZoneClock* withoutOffset = nullptr,
                std::function<bool()> stopped = {})
         : m_wanted(wanted)
-        , m_withoutZone(withoutZone)
+        , m_withoutOffset(withoutOffset)
         , m_stopped(std::move(stopped))
         , m_scan(feed, *this) {}
 
@@ -45,8 +46,9 @@ class FeedFilter final : public TextSource, private FeedScanEvents {
     /// Scans what was not read.
     void finish();
 
-    /// As FeedScan tells it.
+    /// As FeedScan tells them.
     bool isWhole() const { return m_scan.isWhole(); }
+    bool hasEnd() const { return m_scan.hasEnd(); }
     /// Of what was scanned.
     const FeedCounts& counts() const { return m_counts; }
 
@@ -61,7 +63,7 @@ class FeedFilter final : public TextSource, private FeedScanEvents {
     bool scanWindow(std::string* kept) { return !(m_stopped && m_stopped()) && m_scan.next(kept); }
 
     const WantedChannels& m_wanted;
-    const MissingZone m_withoutZone;
+    ZoneClock* const m_withoutOffset;
     const std::function<bool()> m_stopped;
     FeedScan m_scan;
     std::string m_kept;

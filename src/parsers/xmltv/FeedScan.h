@@ -46,7 +46,9 @@ class FeedScan {
 
     /// Whether the feed was read to its end, and its element `tv`, if it has one, was closed. Valid at the
     /// end.
-    bool isWhole() const { return m_isLast && !m_isCut && !m_isMalformed && m_hasRoot == m_hasEnded; }
+    bool isWhole() const { return hasEnd() && !m_isMalformed; }
+    /// The same of a feed that may be malformed in between. Valid at the end.
+    bool hasEnd() const { return m_isLast && !m_isCut && m_hasRoot == m_hasEnded; }
 
   private:
     void readWindow();

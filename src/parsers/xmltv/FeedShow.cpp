@@ -1,9 +1,16 @@
 #include "parsers/xmltv/FeedShow.h"
 
 #include "parsers/ParsersLog.h"
-#include "platform/encoding/Utf8.h"
+#include "parsers/xmltv/FeedElementFacts.h"
 #include "text/categories/CategoryMapping.h"
+#include "text/categories/FeedGenres.h"
 #include "text/cleaning/FeedTextCleaning.h"
+#include "text/cleaning/TextTidying.h"
+#include "text/cleaning/TitleCapitals.h"
+#include "text/facts/EpisodeNotation.h"
+#include "text/reading/DescriptionReading.h"
+#include "text/reading/SubtitleReading.h"
+#include "text/reading/TitleReading.h"
 
 #include <QUrl>
 
@@ -16,13 +23,6 @@ namespace guide {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString fromUtf8(std::string_view bytes) {
-    QString text;
-    const bool isValid = readUtf8(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())), text);
-    // The parser delivers only valid UTF-8.
-    return isValid ? text : QString();
-}
 
 /// Titles of slots for which the feed has no information.
 constexpr std::array kPlaceholderTitles{"NEMA INFORMACIJA"_L1, "Nema informacija o programu"_L1};
@@ -65,22 +65,92 @@ TVListingsCategory bracketCategories(QString& subtitle, TVListingsCategory known
     return categories;
 }
 
+/// Sets what the first facts leave open. A mark against what an element says leaves the newness open.
+void completeFacts(ShowFacts& facts, const ShowFacts& other) {
+    const auto complete = [](auto& fact, const auto& from) {
+        if (!fact) {
+            fact = from;
+        }
+    };
+    complete(facts.originalTitle, other.originalTitle);
+    complete(facts.year, other.year);
+    complete(facts.ageRating, other.ageRating);
+    complete(facts.starRating, other.starRating);
+    completeEpisode(facts.episode, other.episode);
+    if (facts.countries.empty()) {
+        facts.countries = other.countries;
+    }
+    if (facts.newness == Newness::Unknown) {
+        facts.newness = other.newness;
+    } else if (other.newness != Newness::Unknown && other.newness != facts.newness) {
+        facts.newness = Newness::Unknown;
+    }
+}
+
+/// The texts that a show is made of.
+struct Texts {
+    /// In UTF-8.
+    std::string_view title;
+    std::optional<QString> subtitle;
+    std::optional<QString> description;
+    std::optional<QString> roles;
+    std::optional<QString> directedBy;
+    /// In another language.
+    std::optional<QString> otherTitle;
+};
+
+/// The text in the channel's language, otherwise the first one with any.
+const FeedTexts::Each* chosen(const FeedTexts& texts, std::string_view language) {
+    const FeedTexts::Each* best = nullptr;
+    for (const FeedTexts::Each& each : texts.all()) {
+        if (each.text.find_first_not_of(" \n\t") == std::string::npos) {
+            continue;
+        }
+        const bool isOfLanguage = !language.empty() && std::string_view(each.kind).substr(0, 2) == language;
+        if (isOfLanguage) {
+            return &each;
+        }
+        best = best ? best : &each;
+    }
+    return best;
+}
+
+std::optional<QString> stringOf(const FeedTexts::Each* text) {
+    return text ? std::optional(feedString(text->text)) : std::nullopt;
+}
+
+/// Names of people, each an element.
+std::optional<QString> namesOf(const FeedTexts& elements) {
+    QString names;
+    for (const FeedTexts::Each& each : elements.all()) {
+        const QString name = tidiedTitle(feedString(each.text));
+        if (!name.isEmpty()) {
+            names += (names.isEmpty() ? QString() : u", "_s) + name;
+        }
+    }
+    return names.isEmpty() ? std::nullopt : std::optional(std::move(names));
+}
+
+Texts chosenTexts(const FeedDetails& details, const QString& language) {
+    const std::string code = language.toStdString();
+    Texts texts{.title = {},
+                .subtitle = stringOf(chosen(details.subtitles, code)),
+                .description = stringOf(chosen(details.descriptions, code)),
+                .roles = namesOf(details.actors),
+                .directedBy = namesOf(details.directors),
+                .otherTitle = {}};
+    if (const FeedTexts::Each* title = chosen(details.titles, code)) {
+        texts.title = title->text;
+        for (const FeedTexts::Each& each : details.titles.all()) {
+            if (!texts.otherTitle && each.text != title->text && !each.text.empty()) {
+                texts.otherTitle = tidiedTitle(feedString(each.text));
+            }
+        }
+    }
+    return texts;
+}
+
 } // namespace
-
-void FeedText::appendCollapsed(std::string_view piece) {
-    for (std::size_t at = piece.find("  "); at != std::string_view::npos; at = piece.find("  ")) {
-        m_bytes.append(piece.substr(0, at + 1));
-        piece.remove_prefix(std::min(piece.find_first_not_of(' ', at), piece.size()));
-    }
-    append(piece);
-}
-
-std::optional<QString> FeedText::string() const {
-    if (!m_isSet) {
-        return std::nullopt;
-    }
-    return fromUtf8(m_bytes);
-}
 
 void FeedShow::clear() {
     for (FeedText* text : {&title, &subtitle, &description, &roles, &directedBy, &icon}) {
@@ -91,6 +161,8 @@ void FeedShow::clear() {
     categories = 0;
     sourceId.clear();
     dateTime.reset();
+    endDateTime.reset();
+    details.clear();
 }
 
 /// What is derived from a title.
@@ -106,6 +178,11 @@ struct FeedShowMaker::TitleParts {
     /// The categories of the title, and those added by its instant description.
     TVListingsCategory categories = 0;
     TVListingsCategory instantCategories = 0;
+    /// With FeedReading::keepsTitlesWhole only.
+    std::optional<QString> subtitle;
+    ShowFacts facts;
+    /// The title without a Roman number at its end, which is a season when the show is an episode.
+    std::optional<SeasonedTitle> seasoned;
 };
 
 FeedShowMaker::FeedShowMaker(FeedShowOptions options)
@@ -113,68 +190,196 @@ FeedShowMaker::FeedShowMaker(FeedShowOptions options)
 
 FeedShowMaker::~FeedShowMaker() = default;
 
-std::optional<ExtendedTVEntry> FeedShowMaker::make(const FeedShow& show, const FeedText& category) {
-    const TitleParts& title = titleParts(show.title.bytes());
+std::optional<ExtendedTVEntry> FeedShowMaker::make(const FeedShow& show, const FeedText& category,
+                                                   const QString& language) {
+    const FeedReading& reading = m_options.reading;
+    const Texts texts = reading.readsFacts ? chosenTexts(show.details, language)
+                                           : Texts{.title = show.title.bytes(),
+                                                   .subtitle = show.subtitle.string(),
+                                                   .description = show.description.string(),
+                                                   .roles = show.roles.string(),
+                                                   .directedBy = show.directedBy.string(),
+                                                   .otherTitle = {}};
+    const TitleParts& title = titleParts(texts.title, language);
     if (title.isPlaceholder) {
         return std::nullopt;
     }
+    ShowFacts facts = reading.readsFacts ? factsOfElements(show.details, language) : ShowFacts();
+    if (texts.otherTitle && !texts.otherTitle->isEmpty()) {
+        facts.originalTitle = texts.otherTitle;
+    }
+    completeFacts(facts, title.facts);
     TVListingsCategory found = show.categories | title.categories;
 
-    std::optional<QString> subtitle = show.subtitle.string();
-    if (subtitle) {
-        found = bracketCategories(*subtitle, found);
+    FinishedSubtitle finished;
+    if (reading.keepsNumberedSubtitles) {
+        ReadSubtitle read = readSubtitle(texts.subtitle.value_or(QString()), language);
+        completeFacts(facts, read.facts);
+        finished = {std::move(read.subtitle), std::move(read.genre)};
+        if (!finished.subtitle1) {
+            finished.subtitle1 = title.subtitle;
+        }
+    } else {
+        std::optional<QString> subtitle = texts.subtitle;
+        if (subtitle) {
+            found = bracketCategories(*subtitle, found);
+        }
+        const SubtitleCategories words = mapSubtitleWords(subtitle, title.title);
+        found |= words.categories;
+        finished = finishSubtitle(subtitle, words.recognised);
     }
-    const SubtitleCategories words = mapSubtitleWords(subtitle, title.title);
-    found |= words.categories;
     found |= title.instantCategories;
-    FinishedSubtitle finished = finishSubtitle(subtitle, words.recognised);
 
-    CleanedDescription cleaned = cleanDescription(
-        {show.description.string(), show.roles.string(), show.directedBy.string()}, m_options.siteHost);
-    if (cleaned.description) {
-        found |= mapDescriptionWords(*cleaned.description);
-        if (!title.hasProductionNote && hasCastLabel(*cleaned.description)) {
+    CleanedDescription cleaned{texts.description, texts.roles, texts.directedBy};
+    cleanTexts(cleaned, facts, language);
+    if (reading.believesGenres) {
+        found = ownCategories(show, title, finished, cleaned, facts, language);
+    } else {
+        if (cleaned.description) {
+            found |= mapDescriptionWords(*cleaned.description);
+            if (!title.hasProductionNote && hasCastLabel(*cleaned.description)) {
+                found |= TVListingsCategoryMovies;
+            }
+        }
+        if (cleaned.roles) {
             found |= TVListingsCategoryMovies;
         }
-    }
-    if (cleaned.roles) {
-        found |= TVListingsCategoryMovies;
-    }
-    if (category.isSet()) {
-        found |= categories(category.bytes());
+        if (category.isSet()) {
+            found |= categories(category.bytes());
+        }
     }
     if (found & TVListingsCategorySeries) {
         found &= ~TVListingsCategoryMovies;
     }
 
+    // A film with a number has no episodes.
+    const bool isSeasoned = title.seasoned && facts.episode.episode && !facts.episode.season;
+    if (isSeasoned) {
+        facts.episode.season = title.seasoned->season;
+    }
+
     ExtendedTVEntry made{std::make_shared<TVEntry>(m_options.alphabet), found,
                          std::make_shared<TVEntrySupplementalData>(), pictures(show)};
-    made.basic->setIdentificator(title.shown);
+    made.basic->setIdentificator(isSeasoned ? title.seasoned->title : title.shown);
     made.basic->setSubtitle1(std::move(finished.subtitle1));
     made.basic->setInstantDetails1(std::move(finished.instantDetails1));
     made.basic->setInstantDescription1(title.instantDescription);
     made.basic->setDateTime(show.dateTime);
     made.basic->setEndDateTime(show.endDateTime);
-    made.basic->setPreviouslyShown(show.previouslyShown || title.isRepeated);
+    made.basic->setPreviouslyShown(show.previouslyShown || title.isRepeated ||
+                                   facts.newness == Newness::Repeat);
+    const auto isShown = [&title](const QString& original) {
+        return original.compare(title.shown, Qt::CaseInsensitive) == 0 ||
+               original.compare(title.title.trimmed(), Qt::CaseInsensitive) == 0;
+    };
+    if (facts.originalTitle && isShown(*facts.originalTitle)) {
+        facts.originalTitle.reset();
+    }
+    if (!facts.empty()) {
+        made.basic->setFacts(std::make_shared<const ShowFacts>(std::move(facts)));
+    }
     made.extra->description = std::move(cleaned.description);
     made.extra->roles = std::move(cleaned.roles);
     made.extra->directedBy = std::move(cleaned.directedBy);
     return made;
 }
 
-const FeedShowMaker::TitleParts& FeedShowMaker::titleParts(std::string_view title) {
-    if (const TitleParts* known = m_titles.find(title)) {
+void FeedShowMaker::cleanTexts(CleanedDescription& cleaned, ShowFacts& facts, const QString& language) const {
+    const FeedReading& reading = m_options.reading;
+    if (reading.tidiesTexts && cleaned.description) {
+        ReadDescription read = readDescription(*cleaned.description, language);
+        if (reading.readsFacts) {
+            completeFacts(facts, read.facts);
+        }
+        cleaned.description = isFeedPlaceholder(read.text) ? QString() : std::move(read.text);
+    }
+    if (reading.knowsCreditLabels && cleaned.description) {
+        ReadCredits credits = takeCredits(*cleaned.description);
+        if (!cleaned.roles) {
+            cleaned.roles = std::move(credits.roles);
+        }
+        if (!cleaned.directedBy) {
+            cleaned.directedBy = std::move(credits.directedBy);
+        }
+    }
+    if (!reading.tidiesTexts) {
+        cleaned = cleanDescription(std::move(cleaned), m_options.siteHost);
+        return;
+    }
+    if (cleaned.description) {
+        closeSentence(*cleaned.description);
+        if (cleaned.description->isEmpty()) {
+            cleaned.description.reset();
+        }
+    }
+}
+
+TVListingsCategory FeedShowMaker::ownCategories(const FeedShow& show, const TitleParts& title,
+                                                const FinishedSubtitle& subtitle,
+                                                const CleanedDescription& cleaned, const ShowFacts& facts,
+                                                const QString& language) {
+    ShowText text{.title = title.shown,
+                  .subtitle = subtitle.subtitle1.value_or(QString()),
+                  .description = cleaned.description.value_or(QString()),
+                  .categories = {},
+                  .language = language,
+                  .hasRoles = cleaned.roles.has_value(),
+                  .length = {},
+                  .hasEpisode = show.details.isSeries || !facts.episode.empty(),
+                  .channelName = feedString(show.sourceId)};
+    for (const FeedTexts::Each& each : show.details.categories.all()) {
+        if (!each.text.empty()) {
+            text.categories.push_back(feedString(each.text));
+        }
+    }
+    for (const std::optional<QString>& genre : {subtitle.instantDetails1, title.instantDescription}) {
+        if (genre) {
+            text.categories.push_back(*genre);
+        }
+    }
+    if (show.dateTime && show.endDateTime) {
+        text.length = std::chrono::duration_cast<std::chrono::seconds>(*show.endDateTime - *show.dateTime);
+    }
+    return feedCategories(text);
+}
+
+const FeedShowMaker::TitleParts& FeedShowMaker::titleParts(std::string_view title, const QString& language) {
+    const FeedReading& reading = m_options.reading;
+    // Only these depend on the language.
+    if (reading.keepsTitlesWhole || reading.keepsAcronyms) {
+        m_titleKey.assign(language.toStdString()).append(1, '\n').append(title);
+    } else {
+        m_titleKey.assign(title);
+    }
+    if (const TitleParts* known = m_titles.find(m_titleKey)) {
         return *known;
     }
     TitleParts parts;
-    parts.title = fromUtf8(title);
-    // Some feeds write line ends in titles as these two characters.
-    parts.title.remove("\\n"_L1);
-    parts.isPlaceholder = isPlaceholder(parts.title);
-    parts.shown = showTitle(parts.title, m_options.locale);
-    parts.instantDescription = showInstantDescription(parts.title);
-    parts.isRepeated = isRepeatMarked(parts.title);
-    parts.hasProductionNote = hasProductionNote(parts.title);
+    parts.title = feedString(title);
+    if (reading.keepsTitlesWhole) {
+        ReadTitle read = readTitle(parts.title, language);
+        parts.isPlaceholder = read.title.isEmpty();
+        parts.shown = std::move(read.title);
+        parts.subtitle = std::move(read.subtitle);
+        parts.facts = std::move(read.facts);
+        parts.instantDescription = std::move(read.genre);
+        parts.seasoned = seasonedTitle(parts.shown);
+    } else {
+        // Some feeds write line ends in titles as these two characters.
+        parts.title.remove("\\n"_L1);
+        parts.shown = showTitle(parts.title, m_options.locale);
+        parts.instantDescription = showInstantDescription(parts.title);
+        parts.isRepeated = isRepeatMarked(parts.title);
+        parts.hasProductionNote = hasProductionNote(parts.title);
+    }
+    if (reading.keepsAcronyms) {
+        parts.shown = withoutCapitals(parts.shown, language);
+        if (parts.seasoned) {
+            parts.seasoned->title = withoutCapitals(parts.seasoned->title, language);
+        }
+    }
+    parts.isPlaceholder = parts.isPlaceholder || (reading.knowsPlaceholders ? isFeedPlaceholder(parts.title)
+                                                                            : isPlaceholder(parts.title));
     if (parts.title.contains("Sezonul"_L1) || parts.title.contains("Episodul"_L1)) {
         parts.categories |= TVListingsCategorySeries;
     }
@@ -184,16 +389,17 @@ const FeedShowMaker::TitleParts& FeedShowMaker::titleParts(std::string_view titl
     if (parts.hasProductionNote) {
         parts.instantCategories |= TVListingsCategorySeries;
     }
-    return m_titles.add(title, std::move(parts));
+    return m_titles.add(m_titleKey, std::move(parts));
 }
 
 TVListingsCategory FeedShowMaker::categories(std::string_view categoryText) {
     const TVListingsCategory* known = m_categories.find(categoryText);
-    return known ? *known : m_categories.add(categoryText, mapCategoryText(fromUtf8(categoryText)));
+    return known ? *known : m_categories.add(categoryText, mapCategoryText(feedString(categoryText)));
 }
 
 QSet<QUrl> FeedShowMaker::pictures(const FeedShow& show) {
-    const std::string_view name = show.icon.bytes();
+    const std::string_view name =
+        m_options.reading.readsFacts ? show.details.icon.bytes() : show.icon.bytes();
     if (name.empty() || (show.iconIsImage && m_options.imageBase.isEmpty())) {
         return {};
     }
@@ -201,7 +407,7 @@ QSet<QUrl> FeedShowMaker::pictures(const FeedShow& show) {
     if (const QSet<QUrl>* known = memo.find(name)) {
         return *known;
     }
-    const QString text = fromUtf8(name);
+    const QString text = feedString(name);
     const QUrl url(show.iconIsImage ? m_options.imageBase + text : text, QUrl::StrictMode);
     return memo.add(name, url.isValid() ? QSet<QUrl>{url} : QSet<QUrl>{});
 }

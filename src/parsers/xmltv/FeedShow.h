@@ -1,8 +1,11 @@
 #pragma once
 
+#include "parsers/xmltv/FeedDetails.h"
 #include "parsers/xmltv/FeedMemo.h"
+#include "parsers/xmltv/FeedText.h"
 #include "platform/Moment.h"
 #include "store/ShowItem.h"
+#include "text/cleaning/FeedTextCleaning.h"
 #include "text/display/Alphabet.h"
 #include "text/reading/FeedReading.h"
 
@@ -14,34 +17,6 @@
 #include <string_view>
 
 namespace guide {
-
-/// A text assembled piece by piece, in UTF-8; unset before the first piece.
-class FeedText {
-  public:
-    bool isSet() const { return m_isSet; }
-    std::string_view bytes() const { return m_bytes; }
-    void append(std::string_view piece) {
-        m_bytes.append(piece);
-        m_isSet = true;
-    }
-    /// Appends the piece with each run of blanks collapsed to one.
-    void appendCollapsed(std::string_view piece);
-    void assign(std::string_view text) {
-        m_bytes.assign(text);
-        m_isSet = true;
-    }
-    /// Keeps the capacity.
-    void clear() {
-        m_bytes.clear();
-        m_isSet = false;
-    }
-    /// Nothing while unset.
-    std::optional<QString> string() const;
-
-  private:
-    std::string m_bytes;
-    bool m_isSet = false;
-};
 
 /// A show as the feed describes it, before its texts are analysed.
 struct FeedShow {
@@ -58,7 +33,9 @@ struct FeedShow {
     /// The channel id of the feed.
     std::string sourceId;
     std::optional<Moment> dateTime;
-    Moment endDateTime;
+    std::optional<Moment> endDateTime;
+    /// Read with FeedReading::readsFacts only; titles, subtitles, descriptions and credits are then here.
+    FeedDetails details;
 
     /// Resets every field and keeps the capacity of the texts.
     void clear();
@@ -84,19 +61,27 @@ class FeedShowMaker {
     explicit FeedShowMaker(FeedShowOptions options);
     ~FeedShowMaker();
 
-    /// `show` must have a title; `category` is the text of all its category elements. The entry has neither
-    /// channel nor source id. Nothing when the title is a placeholder for an unknown show.
-    std::optional<ExtendedTVEntry> make(const FeedShow& show, const FeedText& category);
+    /// `show` must have a title; `category` is the text of all its category elements, and `language` that of
+    /// the channel. The entry has neither channel nor source id. Nothing when the title is a placeholder for
+    /// an unknown show.
+    std::optional<ExtendedTVEntry> make(const FeedShow& show, const FeedText& category,
+                                        const QString& language = {});
 
   private:
     struct TitleParts;
 
-    const TitleParts& titleParts(std::string_view title);
+    const TitleParts& titleParts(std::string_view title, const QString& language);
+    void cleanTexts(CleanedDescription& cleaned, ShowFacts& facts, const QString& language) const;
+    TVListingsCategory ownCategories(const FeedShow& show, const TitleParts& title,
+                                     const FinishedSubtitle& subtitle, const CleanedDescription& cleaned,
+                                     const ShowFacts& facts, const QString& language);
     TVListingsCategory categories(std::string_view categoryText);
     QSet<QUrl> pictures(const FeedShow& show);
 
     const FeedShowOptions m_options;
     FeedMemo<TitleParts> m_titles;
+    /// Reused.
+    std::string m_titleKey;
     FeedMemo<TVListingsCategory> m_categories;
     FeedMemo<QSet<QUrl>> m_icons;
     FeedMemo<QSet<QUrl>> m_images;

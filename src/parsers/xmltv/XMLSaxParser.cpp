@@ -131,7 +131,7 @@ class Parse {
   private:
     std::optional<XMLBreak> run(xmlParserInputPtr input) {
         if (!input) {
-            return XMLBreak{0, "out of memory"};
+            return XMLBreak{0, "out of memory", true};
         }
         inputPush(m_context.get(), input);
         m_context->userData = this;
@@ -139,7 +139,7 @@ class Parse {
         flushText();
         m_context->userData = nullptr;
         if (!m_context->wellFormed && !m_break) {
-            m_break = XMLBreak{start() + bytes().size(), "the document is not well-formed"};
+            m_break = XMLBreak{reached().value_or(given()), "the document is not well-formed"};
         }
         return std::move(m_break);
     }
@@ -278,7 +278,15 @@ class Parse {
 
     void flushText() {
         m_textEnd = kNowhere;
-        const std::string_view text = m_joined.empty() ? textOf(std::exchange(m_text, {})) : m_joined;
+        std::string_view text = m_joined.empty() ? textOf(std::exchange(m_text, {})) : m_joined;
+        if (text.find('\r') != std::string_view::npos) {
+            // The library keeps a carriage return that no line feed follows, which is a line end as well.
+            if (m_joined.empty()) {
+                m_joined = text;
+            }
+            std::ranges::replace(m_joined, '\r', '\n');
+            text = m_joined;
+        }
         if (!text.empty() && !m_stopped) {
             m_events.text(text);
         }
@@ -343,7 +351,7 @@ class Parse {
     static void failed(void* user, ErrorPointer error) {
         if (error->level == XML_ERR_FATAL) {
             self(user).flushText();
-            self(user).stop(error->message ? error->message : "");
+            self(user).stop(error->message ? error->message : "", false);
         }
     }
 
@@ -362,10 +370,10 @@ class Parse {
         }
     }
 
-    void stop(std::string_view why) {
+    void stop(std::string_view why, bool isFinal = true) {
         if (!m_break) {
             why = why.substr(0, why.find('\n'));
-            m_break = XMLBreak{reached().value_or(0), std::string(why)};
+            m_break = XMLBreak{reached().value_or(0), std::string(why), isFinal};
         }
         m_stopped = true;
         // Inside a parameter entity the library still reads input that stopping would free. It is then
@@ -419,6 +427,27 @@ std::optional<XMLBreak> parseXML(TextSource& document, std::span<const char* con
     Parse parse(elementNames, events, stopped);
     auto end = parse.run(stream);
     return stream.fault().empty() ? std::move(end) : XMLBreak{stream.given(), std::string(stream.fault())};
+}
+
+std::optional<XMLBreak> parseXMLRows(TextSource& document, std::span<const char* const> elementNames,
+                                     XMLEvents& events, std::string_view rowOpening,
+                                     const std::function<bool()>& stopped) {
+    initialise();
+    XMLStream stream(document);
+    for (;;) {
+        Parse parse(elementNames, events, stopped);
+        auto end = parse.run(stream);
+        if (!end && !stream.fault().empty()) {
+            end = XMLBreak{stream.given(), std::string(stream.fault())};
+        }
+        if (!end || end->isFinal) {
+            return end;
+        }
+        events.skippedRow();
+        if (!stream.restartAt(end->byte, rowOpening, "<tv>")) {
+            return std::nullopt;
+        }
+    }
 }
 
 } // namespace guide

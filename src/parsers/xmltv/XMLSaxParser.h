@@ -35,6 +35,8 @@ class XMLEvents {
     /// Text up to the next tag, reference, section or comment; UTF-8, never empty.
     virtual void text(std::string_view piece) = 0;
     virtual void ended(std::size_t element) = 0;
+    /// A row was malformed: what was started is not ended, and the next row is started.
+    virtual void skippedRow() {}
 };
 
 /// Where and why a parse ended before the end of its document.
@@ -42,6 +44,8 @@ struct XMLBreak {
     /// The offset of the byte that the parser had reached.
     std::size_t byte = 0;
     std::string message;
+    /// Whether nothing behind it may be read: the reader stopped, or a limit was exceeded.
+    bool isFinal = false;
 };
 
 /// Parses a document up to its first zero byte or the first fatal error, which it returns; nothing when the
@@ -58,5 +62,12 @@ std::optional<XMLBreak> parseXML(const QByteArray& document, std::span<const cha
 /// error too. The source must not give zero bytes.
 std::optional<XMLBreak> parseXML(TextSource& document, std::span<const char* const> elementNames,
                                  XMLEvents& events, const std::function<bool()>& stopped = {});
+
+/// The same of a document whose root has rows: elements of one name, given as "<" and the name. A row that is
+/// not well-formed is skipped, with what follows it up to the next row; entities that the document declares
+/// are unknown from there on. Returns why reading ended early.
+std::optional<XMLBreak> parseXMLRows(TextSource& document, std::span<const char* const> elementNames,
+                                     XMLEvents& events, std::string_view rowOpening,
+                                     const std::function<bool()>& stopped = {});
 
 } // namespace guide

@@ -1,5 +1,6 @@
 #include "parsers/xmltv/XMLStream.h"
 
+#include "parsers/xmltv/FeedMarkup.h"
 #include "parsers/xmltv/XMLTagBounds.h"
 
 #include <algorithm>
@@ -40,6 +41,32 @@ void XMLStream::forget(std::size_t offset) {
         m_bytes.remove(0, static_cast<qsizetype>(needed - m_start));
         m_start = needed;
     }
+}
+
+bool XMLStream::restartAt(std::size_t offset, std::string_view opening, std::string_view root) {
+    std::size_t at = std::min(std::max({offset, m_firstRestart, m_start}), end()) - m_start;
+    for (;;) {
+        const std::size_t found = bytes().find(opening, at);
+        if (found == std::string_view::npos || found + opening.size() >= bytes().size()) {
+            const std::size_t tail = bytes().size() - std::min(bytes().size(), opening.size());
+            m_bytes.remove(0, static_cast<qsizetype>(std::max(at, std::min(found, tail))));
+            at = 0;
+            if (!fill()) {
+                return false;
+            }
+        } else if (elementNamed(m_bytes.constData() + found, opening) == Markup::Whole) {
+            m_bytes.remove(0, static_cast<qsizetype>(found));
+            break;
+        } else {
+            at = found + 1;
+        }
+    }
+    m_bytes.prepend(root.data(), static_cast<qsizetype>(root.size()));
+    m_start = m_given = m_checked = m_mark = m_textStart = 0;
+    m_atStart = m_hasMark = m_isLast = false;
+    m_firstRestart = root.size() + opening.size();
+    m_fault = {};
+    return true;
 }
 
 bool XMLStream::fill() {

@@ -26,6 +26,10 @@ class XMLStream {
     /// Allows everything before the offset to be forgotten.
     void forget(std::size_t offset);
 
+    /// Begins a new document with `root` at the first opening tag at or behind the offset, and behind the
+    /// tag that it was restarted at before. False when there is none. `opening` is "<" and a name.
+    bool restartAt(std::size_t offset, std::string_view opening, std::string_view root);
+
     /// What is remembered, including bytes that were not given to the parser yet.
     std::string_view bytes() const { return {m_bytes.constData(), static_cast<std::size_t>(m_bytes.size())}; }
     /// The offset of its first byte in the document.
@@ -58,6 +62,8 @@ class XMLStream {
     bool m_atStart = true;
     bool m_hasMark = false;
     bool m_isLast = false;
+    /// Where the search for a place to restart at begins at the earliest.
+    std::size_t m_firstRestart = 0;
     std::string_view m_fault;
 };
 

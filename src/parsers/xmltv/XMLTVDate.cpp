@@ -50,11 +50,11 @@ std::optional<std::chrono::minutes> offsetFromUTC(std::string_view text) {
 
 } // namespace
 
-std::optional<Moment> parseXMLTVDate(std::string_view text, MissingZone withoutZone) {
+std::optional<Moment> parseXMLTVDate(std::string_view text, ZoneClock* withoutOffset) {
     using namespace std::chrono;
     constexpr std::size_t kDigits = 14;
-    const bool hasZone = text.size() > kDigits;
-    if (!hasZone && (text.size() < kDigits || withoutZone == MissingZone::Invalid)) {
+    const bool hasOffset = text.size() > kDigits;
+    if (!hasOffset && (text.size() < kDigits || !withoutOffset)) {
         return std::nullopt;
     }
     const int yearNumber = digits(text, 0, 4);
@@ -72,12 +72,12 @@ std::optional<Moment> parseXMLTVDate(std::string_view text, MissingZone withoutZ
     if (!date.ok()) {
         return std::nullopt;
     }
-    const auto offset = hasZone ? offsetFromUTC(text.substr(text[kDigits] == ' ' ? kDigits + 1 : kDigits))
-                                : std::chrono::minutes{0};
-    if (!offset) {
-        return std::nullopt;
+    const seconds time = hours{hour} + minutes{minute} + seconds{second};
+    if (!hasOffset) {
+        return withoutOffset->momentAt(QDate(yearNumber, monthNumber, dayNumber), time);
     }
-    return Moment{sys_days{date} + hours{hour} + minutes{minute} + seconds{second} - *offset};
+    const auto offset = offsetFromUTC(text.substr(text[kDigits] == ' ' ? kDigits + 1 : kDigits));
+    return offset ? std::optional<Moment>(sys_days{date} + time - *offset) : std::nullopt;
 }
 
 } // namespace guide

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "parsers/markers/ZoneClock.h"
 #include "platform/Moment.h"
 
 #include <optional>
@@ -7,12 +8,9 @@
 
 namespace guide {
 
-/// What a time without an offset from UTC means.
-enum class MissingZone { Invalid, UTC };
-
 /// Parses 14 digits from year to second, an optional blank, and the offset from UTC: "Z", "+01", "+0130" or
-/// "+01:30". Nothing for anything else: fields out of range, a missing offset unless it means UTC, a zone
-/// name, trailing characters.
-std::optional<Moment> parseXMLTVDate(std::string_view text, MissingZone withoutZone = MissingZone::Invalid);
+/// "+01:30". Nothing for anything else: fields out of range, a zone name, trailing characters, and a missing
+/// offset, unless there is a clock whose time it is then.
+std::optional<Moment> parseXMLTVDate(std::string_view text, ZoneClock* withoutOffset = nullptr);
 
 } // namespace guide

@@ -1,5 +1,7 @@
 #include "parsers/xmltv/XMLTVSaxParser.h"
 
+#include "parsers/xmltv/FeedMarkup.h"
+
 #include <array>
 
 namespace guide {
@@ -7,9 +9,10 @@ namespace guide {
 namespace {
 
 /// In the order of XMLTVElement, without Other.
-constexpr std::array kElementNames{"programme",   "title",    "sub-title", "desc", "actor",
-                                   "director",    "category", "image",     "icon", "previously-shown",
-                                   "episode-num", "seriesid"};
+constexpr std::array kElementNames{
+    "programme", "title",  "sub-title",        "desc",        "actor",    "director", "category",
+    "image",     "icon",   "previously-shown", "episode-num", "seriesid", "credits",  "date",
+    "country",   "rating", "star-rating",      "value",       "new",      "premiere", "genres"};
 
 class Events final : public XMLEvents {
   public:
@@ -21,6 +24,7 @@ class Events final : public XMLEvents {
     }
     void text(std::string_view piece) override { m_events.text(piece); }
     void ended(std::size_t element) override { m_events.ended(named(element)); }
+    void skippedRow() override { m_events.skippedProgramme(); }
 
   private:
     /// Unknown elements are numbered one below the first known one.
@@ -29,7 +33,7 @@ class Events final : public XMLEvents {
     XMLTVEvents& m_events;
 };
 static_assert(kOtherXMLElement + 1 == static_cast<std::size_t>(XMLTVElement::Other));
-static_assert(kElementNames.size() == static_cast<std::size_t>(XMLTVElement::SeriesId));
+static_assert(kElementNames.size() == static_cast<std::size_t>(XMLTVElement::Genres));
 
 } // namespace
 
@@ -43,6 +47,12 @@ std::optional<XMLBreak> parseXMLTV(TextSource& document, XMLTVEvents& events,
                                    const std::function<bool()>& stopped) {
     Events named(events);
     return parseXML(document, kElementNames, named, stopped);
+}
+
+std::optional<XMLBreak> parseXMLTVRows(TextSource& document, XMLTVEvents& events,
+                                       const std::function<bool()>& stopped) {
+    Events named(events);
+    return parseXMLRows(document, kElementNames, named, kProgrammeOpening, stopped);
 }
 
 } // namespace guide

@@ -22,6 +22,15 @@ enum class XMLTVElement {
     PreviouslyShown,
     EpisodeNum,
     SeriesId,
+    Credits,
+    Date,
+    Country,
+    Rating,
+    StarRating,
+    Value,
+    New,
+    Premiere,
+    Genres,
 };
 
 using XMLTVAttributes = XMLAttributes;
@@ -34,6 +43,8 @@ class XMLTVEvents {
     /// Text up to the next tag, reference, section or comment; UTF-8, never empty.
     virtual void text(std::string_view piece) = 0;
     virtual void ended(XMLTVElement element) = 0;
+    /// A programme was malformed: what was started is not ended.
+    virtual void skippedProgramme() {}
 };
 
 /// Parses a whole feed, as parseXML does.
@@ -41,5 +52,9 @@ std::optional<XMLBreak> parseXMLTV(const QByteArray& document, XMLTVEvents& even
                                    const std::function<bool()>& stopped = {});
 std::optional<XMLBreak> parseXMLTV(TextSource& document, XMLTVEvents& events,
                                    const std::function<bool()>& stopped = {});
+
+/// Skips programmes that are malformed, as parseXMLRows does.
+std::optional<XMLBreak> parseXMLTVRows(TextSource& document, XMLTVEvents& events,
+                                       const std::function<bool()>& stopped = {});
 
 } // namespace guide

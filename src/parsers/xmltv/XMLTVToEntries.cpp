@@ -1,8 +1,11 @@
 #include "parsers/xmltv/XMLTVToEntries.h"
 
 #include "parsers/ParsersLog.h"
+#include "parsers/xmltv/FeedListEnds.h"
 #include "parsers/xmltv/XMLTVDate.h"
 #include "text/categories/CategoryMapping.h"
+
+#include <algorithm>
 
 namespace guide {
 
@@ -13,6 +16,8 @@ namespace {
 /// Programmes of channels that repeat another one an hour later are listed an hour too late.
 constexpr std::string_view kShiftedChannel = "Plus1";
 constexpr std::chrono::hours kShift{1};
+/// A show of which no usable end is known is over after it, whatever follows.
+constexpr std::chrono::hours kLongestOpenShow = kLongestRepairedShow;
 
 std::optional<std::string> single(const std::vector<QString>& channels) {
     return channels.size() == 1 ? std::optional(channels.front().toStdString()) : std::nullopt;
@@ -28,7 +33,9 @@ XMLTVToEntries::XMLTVToEntries(const QByteArray& data, const std::vector<QString
 
 XMLTVToEntries::XMLTVToEntries(TextSource& data, const std::vector<QString>& channels, XMLTVOptions options)
     : XMLTVToEntries(channels, std::move(options)) {
-    m_break = parseXMLTV(data, *this, [this] { return isStopped(); });
+    const auto parse =
+        reading().startsEntriesFresh ? parseXMLTVRows : static_cast<decltype(&parseXMLTVRows)>(parseXMLTV);
+    m_break = parse(data, *this, [this] { return isStopped(); });
 }
 
 XMLTVToEntries::XMLTVToEntries(const std::vector<QString>& channels, XMLTVOptions options)
@@ -54,6 +61,10 @@ void XMLTVToEntries::started(XMLTVElement element, const XMLTVAttributes& attrib
     }
     m_inside = element;
     if (!m_hasShow) {
+        return;
+    }
+    if (reading().readsFacts) {
+        m_show.details.started(element, attributes);
         return;
     }
     switch (element) {
@@ -93,6 +104,10 @@ void XMLTVToEntries::started(XMLTVElement element, const XMLTVAttributes& attrib
 
 void XMLTVToEntries::startProgramme(const XMLTVAttributes& attributes) {
     m_category.clear();
+    if (reading().startsEntriesFresh) {
+        m_hasShow = false;
+        m_ignoreTitle = false;
+    }
     const auto channel = attributes.value("channel");
     if (!m_wanted.all() && (!channel || !m_wanted.contains(*channel))) {
         m_inside.reset();
@@ -105,25 +120,46 @@ void XMLTVToEntries::startProgramme(const XMLTVAttributes& attributes) {
     std::string sourceId = m_single ? *m_single : std::string(channel.value_or(std::string_view{}));
     m_inside = XMLTVElement::Programme;
 
-    const auto moment = [this, isShifted](std::string_view text) {
-        const auto read = parseXMLTVDate(text, m_options.withoutZone);
+    const auto moment = [this, isShifted, &attributes](std::string_view name) {
+        const auto text = attributes.value(name);
+        const auto read = text ? parseXMLTVDate(*text, m_options.withoutOffset) : std::nullopt;
         return read && isShifted ? std::optional<Moment>(*read - kShift) : read;
     };
-    const auto stopText = attributes.value("stop");
-    const auto stop = stopText ? moment(*stopText) : std::nullopt;
-    if (!stop || *stop <= m_options.now) {
+    std::optional<Moment> stop = moment("stop");
+    if (!reading().repairsEnds && (!stop || *stop <= m_options.now)) {
         return;
     }
-    const auto startText = attributes.value("start");
+    const std::optional<Moment> start = moment("start");
+    if (reading().repairsEnds) {
+        if (!start) {
+            return;
+        }
+        stop = stop && *stop > *start ? stop : std::nullopt;
+        if (stop.value_or(*start + kLongestOpenShow) <= m_options.now) {
+            std::optional<Moment>& last = channelEntries(sourceId).lastOver;
+            last = last ? std::max(*last, *start) : *start;
+            return;
+        }
+    }
     m_show.clear();
     m_hasShow = true;
     m_show.sourceId = std::move(sourceId);
-    m_show.dateTime = startText ? moment(*startText) : std::nullopt;
-    m_show.endDateTime = *stop;
+    m_show.dateTime = start;
+    m_show.endDateTime = stop;
+}
+
+void XMLTVToEntries::skippedProgramme() {
+    m_hasShow = false;
+    m_ignoreTitle = false;
+    m_inside.reset();
 }
 
 void XMLTVToEntries::text(std::string_view piece) {
     if (!m_inside || !m_hasShow) {
+        return;
+    }
+    if (reading().readsFacts) {
+        m_show.details.text(piece);
         return;
     }
     switch (*m_inside) {
@@ -163,12 +199,16 @@ void XMLTVToEntries::text(std::string_view piece) {
 
 void XMLTVToEntries::ended(XMLTVElement element) {
     if (element == XMLTVElement::Programme) {
-        if (m_hasShow && m_show.title.isSet() && !finishShow()) {
+        const bool hasTitle = m_show.title.isSet() || !m_show.details.titles.all().empty();
+        if (m_hasShow && hasTitle && !finishShow() && !reading().startsEntriesFresh) {
             return;
         }
         m_inside.reset();
         m_ignoreTitle = false;
         return;
+    }
+    if (m_hasShow && reading().readsFacts) {
+        m_show.details.ended();
     }
     if (m_inside) {
         m_inside = XMLTVElement::Programme;
@@ -182,7 +222,7 @@ bool XMLTVToEntries::hasRoomForShow() {
     if (!m_options.control) {
         return true;
     }
-    std::size_t textBytes = 0;
+    std::size_t textBytes = m_show.details.byteCount();
     for (const FeedText* text : {&m_show.title, &m_show.subtitle, &m_show.description, &m_show.roles,
                                  &m_show.directedBy, &m_show.icon}) {
         textBytes += text->bytes().size();
@@ -203,20 +243,30 @@ bool XMLTVToEntries::hasRoomForShow() {
     return false;
 }
 
+FeedChannelEntries& XMLTVToEntries::channelEntries(const std::string& sourceId) {
+    const auto [place, isNew] = m_channelIndices.try_emplace(sourceId, m_entries.size());
+    if (isNew) {
+        m_entries.push_back({.sourceId = QString::fromStdString(sourceId), .entries = {}});
+    }
+    return m_entries[place->second];
+}
+
 bool XMLTVToEntries::finishShow() {
     if (!hasRoomForShow()) {
         m_hasShow = false;
         return true;
     }
-    std::optional<ExtendedTVEntry> entry = m_maker.make(m_show, m_category);
+    const auto language = m_options.languages.find(m_show.sourceId);
+    static const QString kUnknown;
+    std::optional<ExtendedTVEntry> entry =
+        m_maker.make(m_show, m_category, language == m_options.languages.end() ? kUnknown : language->second);
     if (!entry) {
+        if (reading().repairsEnds) {
+            channelEntries(m_show.sourceId).gaps.push_back(*m_show.dateTime);
+        }
         return false;
     }
-    const auto [place, isNew] = m_channelIndices.try_emplace(m_show.sourceId, m_entries.size());
-    if (isNew) {
-        m_entries.push_back({QString::fromStdString(m_show.sourceId), {}});
-    }
-    FeedChannelEntries& channel = m_entries[place->second];
+    FeedChannelEntries& channel = channelEntries(m_show.sourceId);
     entry->basic->setSourceId(channel.sourceId);
     channel.entries.push_back(*std::move(entry));
     m_hasShow = false;

@@ -28,7 +28,10 @@ struct XMLTVOptions {
     bool useImage = false;
     /// Limits the shows; may be null.
     ReadControl* control = nullptr;
-    MissingZone withoutZone = MissingZone::Invalid;
+    /// The time of dates without an offset; null to ignore them.
+    ZoneClock* withoutOffset = nullptr;
+    /// The languages of the wanted channels, by their ids in the feed.
+    std::unordered_map<std::string, QString> languages = {};
 };
 
 /// The shows of one channel of a feed, in document order.
@@ -36,10 +39,15 @@ struct FeedChannelEntries {
     /// The channel id of the feed; empty for programmes without a channel.
     QString sourceId;
     std::vector<ExtendedTVEntry> entries;
+    /// The starts of programmes that made no entry because they are placeholders.
+    std::vector<Moment> gaps = {};
+    /// The latest start of those that are over and made no entry.
+    std::optional<Moment> lastOver = {};
 };
 
 /// Reads a feed on construction: cleans, classifies and groups its shows. Keeps what precedes the first
-/// error.
+/// error; with FeedReading::startsEntriesFresh, a feed that is read piece by piece loses only the programmes
+/// that are malformed.
 class XMLTVToEntries : private XMLTVEvents {
   public:
     /// `data` is UTF-8 and must own its bytes. No channels means all; with exactly one, all shows that pass
@@ -62,8 +70,11 @@ class XMLTVToEntries : private XMLTVEvents {
     void started(XMLTVElement element, const XMLTVAttributes& attributes) override;
     void text(std::string_view piece) override;
     void ended(XMLTVElement element) override;
+    void skippedProgramme() override;
 
+    const FeedReading& reading() const { return m_options.shows.reading; }
     void startProgramme(const XMLTVAttributes& attributes);
+    FeedChannelEntries& channelEntries(const std::string& sourceId);
     /// False when the show is a placeholder, whose end tag is then ignored.
     bool finishShow();
     /// False when the show exceeds the limits.

@@ -7,7 +7,16 @@ FeedReading catalogueReading() {
 }
 
 FeedReading ownReading() {
-    return {.startsEntriesFresh = true, .keepsTitlesWhole = true, .readsFacts = true, .believesGenres = true};
+    return {.startsEntriesFresh = true,
+            .knowsPlaceholders = true,
+            .repairsEnds = true,
+            .keepsTitlesWhole = true,
+            .keepsAcronyms = true,
+            .tidiesTexts = true,
+            .keepsNumberedSubtitles = true,
+            .knowsCreditLabels = true,
+            .readsFacts = true,
+            .believesGenres = true};
 }
 
 } // namespace guide

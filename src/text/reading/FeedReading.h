@@ -8,9 +8,25 @@ namespace guide {
 struct FeedReading {
     /// An entry has nothing of the one in front of it. Otherwise a placeholder swallows the show behind it.
     bool startsEntriesFresh = false;
+    /// Placeholders are known in the languages that feeds use. Otherwise two Croatian ones are.
+    bool knowsPlaceholders = false;
+    /// An entry without a usable end is a show as well; finishOwnList() gives it one. Otherwise it is
+    /// dropped, and an end that is hours too late makes a show that is always on.
+    bool repairsEnds = false;
     /// A title is kept whole but for a tail that is recognised: year and country, words of a genre, an
-    /// episode. Otherwise it ends at its first comma.
+    /// episode, a mark. Otherwise it ends at its first comma and loses everything in brackets.
     bool keepsTitlesWhole = false;
+    /// A title in capitals is written in small letters by the rules of its language and keeps acronyms.
+    /// Otherwise the device's language decides and "NCIS" becomes "Ncis".
+    bool keepsAcronyms = false;
+    /// Texts lose superfluous blanks and folded lines, and get a full stop only where none of the marks that
+    /// end a sentence is. Otherwise a full stop follows even "!".
+    bool tidiesTexts = false;
+    /// A subtitle is taken apart into episode, genres and the like. Otherwise one that begins with a digit is
+    /// dropped.
+    bool keepsNumberedSubtitles = false;
+    /// Cast and directors in descriptions are known by their labels in many languages.
+    bool knowsCreditLabels = false;
     /// Typed facts (episode, original title, year and others) are read.
     bool readsFacts = false;
     /// Categories come from the category elements first, by the table of genres that feeds write, and from

@@ -86,7 +86,7 @@ TEST_F(OwnFeedReaderTest, KeepsWhatPrecedesABreakAndRefusesTheRest) {
     const std::tuple<const char*, QByteArray, SourceResult, std::size_t> rows[] = {
         {"cut", document().chopped(100), SourceResult::Incomplete, 1},
         {"cut packing", gzipped(document()).chopped(20), SourceResult::Incomplete, 1},
-        {"a raw ampersand", document().replace("Noon", "No & on"), SourceResult::Incomplete, 0},
+        {"a raw ampersand", document().replace("Noon", "No & on"), SourceResult::Read, 1},
         {"a raw ampersand elsewhere", document().replace("Other", "Ot & her"), SourceResult::Read, 2},
         {"an endless programme", document().replace("Other", QByteArray(FeedScan::kLongestElement, 'x')),
          SourceResult::Incomplete, 0},
@@ -104,6 +104,48 @@ TEST_F(OwnFeedReaderTest, KeepsWhatPrecedesABreakAndRefusesTheRest) {
         }
         EXPECT_EQ(withShows, channels) << what;
     }
+}
+
+TEST_F(OwnFeedReaderTest, LosesOnlyTheProgrammesThatAreMalformed) {
+    const std::vector<OwnFeedItem> items{{channel(1), u"a"_s, u"cs"_s}};
+    const auto at = [](int hour, const QByteArray& content) {
+        const QByteArray day = "202611211";
+        return "<programme channel=\"a\" start=\"" + day + QByteArray::number(hour) + "0000 Z\" stop=\"" +
+               day + QByteArray::number(hour + 1) + "0000 Z\">" + content + "</programme>";
+    };
+    const QByteArray broken[] = {
+        "<title>A & B</title>",
+        "<title>A &nbsp; B</title>",
+        "<title>A</titel>",
+        "<title>A <desc>B</desc>",
+        "<title>A < B</title>",
+        "<title lang=cs>A</title>",
+        "<title lang=\"cs>A</title>",
+        "<title>A</title></tv>",
+        "<title>A</title><desc>" + QByteArray(20'000, 'x') + "</p>",
+        "<title " + QByteArray(2'000'000, 'x') + ">A</title>",
+    };
+    for (const QByteArray& row : broken) {
+        const QByteArray rows[] = {
+            at(1, "<title>1</title>"), at(2, row), at(3, "<title>3</title>"), at(4, row), at(5, row),
+            at(6, "<title>6</title>")};
+        QByteArray feed = "<tv>";
+        for (const QByteArray& each : rows) {
+            feed += each;
+        }
+        OwnFeed read = this->read(feed + "</tv>", items);
+        QString titles;
+        for (const ExtendedTVEntry& show : read.lists[channel(1)]) {
+            titles += *show.basic->identificator();
+        }
+        EXPECT_EQ(titles, u"136"_s) << row.left(60).constData();
+        EXPECT_EQ(read.result, SourceResult::Read) << row.left(60).constData();
+    }
+    // A row without an end contains the next one.
+    OwnFeed read = this->read("<tv>" + at(1, "<title>1</title>").replace("</programme>", "") +
+                                  at(2, "<title>2</title>") + at(3, "<title>3</title>") + "</tv>",
+                              items);
+    EXPECT_EQ(read.lists[channel(1)].size(), 2U);
 }
 
 TEST_F(OwnFeedReaderTest, ReadsManyChannelsInTimeProportionalToThem) {

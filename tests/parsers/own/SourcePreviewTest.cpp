@@ -97,7 +97,7 @@ TEST_F(SourcePreviewTest, CountsChannelsShowsAndLanguages) {
     EXPECT_EQ(found.channelsOnAir, 2);
     EXPECT_EQ(found.channelsLive, 3);
     EXPECT_EQ(found.shows, 5);
-    EXPECT_EQ(found.first, kNow - std::chrono::hours(3));
+    EXPECT_EQ(found.first, kNow - std::chrono::hours(4)) << "07:00 in Prague";
     EXPECT_EQ(found.last, kNow + std::chrono::hours(38));
     EXPECT_EQ(found.languages, (QMap<QString, int>{{u"de"_s, 1}, {u"cs"_s, 4}}));
     EXPECT_TRUE(found.warnings.empty());

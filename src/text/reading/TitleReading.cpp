@@ -1,0 +1,365 @@
+#include "text/reading/TitleReading.h"
+
+#include "text/cleaning/TextTidying.h"
+#include "text/facts/EpisodeNotation.h"
+#include "text/facts/TitleNotes.h"
+#include "text/search/FoldedText.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// More than any real title has; limits the work for hostile input.
+constexpr int kMostTails = 12;
+constexpr qsizetype kLongestTitle = 500;
+
+/// Removes signs that join a tail with the title.
+QStringView withoutJoint(QStringView text) {
+    while (!text.isEmpty() && (text.back().isSpace() || QStringView(u",;:-–—|/").contains(text.back()))) {
+        text.chop(1);
+    }
+    return text;
+}
+
+bool hasLatin(QStringView text) {
+    return std::ranges::any_of(text, [](QChar unit) { return unit.script() == QChar::Script_Latin; });
+}
+
+bool hasOtherScript(QStringView text) {
+    return std::ranges::any_of(text, [](QChar unit) {
+        return unit.script() == QChar::Script_Greek || unit.script() == QChar::Script_Cyrillic;
+    });
+}
+
+class TitleReader {
+  public:
+    TitleReader(const QString& title, const QString& language)
+        : m_language(language) {
+        m_read.title = title;
+    }
+
+    ReadTitle run() {
+        for (int i = 0; i < kMostTails && (takeBracket() || takeSegment() || takeEnd()); ++i) {
+        }
+        takeMiddle();
+        return std::move(m_read);
+    }
+
+  private:
+    /// Shortens the title; false when nothing would be left.
+    bool shorten(qsizetype size) {
+        const QStringView left = withoutJoint(QStringView(m_read.title).first(size));
+        if (left.isEmpty() ||
+            !std::ranges::any_of(left, [](QChar unit) { return unit.isLetterOrNumber(); })) {
+            return false;
+        }
+        m_read.title.truncate(left.size());
+        return true;
+    }
+
+    void add(const EpisodeNumber& number) { completeEpisode(m_read.facts.episode, number); }
+
+    /// Takes what the note says into the facts.
+    bool takeNote(QStringView note, bool isBracketed, qsizetype left) {
+        note = note.trimmed();
+        if (note.isEmpty()) {
+            return isBracketed && shorten(left);
+        }
+        if (const Newness newness = newnessMark(note, isBracketed); newness != Newness::Unknown) {
+            return shorten(left) && set(m_read.facts.newness, newness);
+        }
+        if (isBracketed && isTechnicalNote(note)) {
+            return shorten(left);
+        }
+        const auto production = productionNote(note);
+        const bool isBareYear = production && production->countries.empty();
+        if (production && (isBracketed || !isBareYear)) {
+            return shorten(left) && set(*production);
+        }
+        if (const auto number = episodeNotation(note, m_language)) {
+            // ", 3" behind a comma may well belong to the name.
+            const bool isBare = !isBracketed && std::ranges::all_of(note, [](QChar unit) {
+                return unit.isDigit() || unit == u'.' || unit == u'/';
+            });
+            if (!isBare) {
+                if (!shorten(left)) {
+                    return false;
+                }
+                add(*number);
+                return true;
+            }
+        }
+        if (isGenreNote(note)) {
+            const QString genre = note.toString();
+            if (!shorten(left)) {
+                return false;
+            }
+            m_read.genre = m_read.genre ? genre + u", "_s + *m_read.genre : genre;
+            return true;
+        }
+        if (const auto age = isBracketed ? ageNote(note) : std::nullopt) {
+            const QString rating = *age;
+            return shorten(left) && set(m_read.facts.ageRating, rating);
+        }
+        // Feeds in another script add the title as it is known elsewhere.
+        if (isBracketed && note.size() > 2 && hasLatin(note) && !hasOtherScript(note) &&
+            hasOtherScript(QStringView(m_read.title).first(left))) {
+            const QString original = note.toString();
+            return shorten(left) && set(m_read.facts.originalTitle, original);
+        }
+        return false;
+    }
+
+    template <class Value>
+    bool set(Value& fact, const auto& value) {
+        fact = value;
+        return true;
+    }
+    bool set(const ProductionNote& note) {
+        m_read.facts.year = note.year ? note.year : m_read.facts.year;
+        if (!note.countries.empty()) {
+            m_read.facts.countries = note.countries;
+        }
+        return true;
+    }
+
+    bool takeBracket() {
+        const QStringView title = withoutTrailing(m_read.title);
+        const bool isRound = title.endsWith(u')');
+        if (!isRound && !title.endsWith(u']')) {
+            return false;
+        }
+        const qsizetype open = title.lastIndexOf(isRound ? u'(' : u'[');
+        if (open <= 0) {
+            return false;
+        }
+        return takeNote(title.sliced(open + 1, title.size() - open - 2), true, open);
+    }
+
+    static QStringView withoutTrailing(QStringView text) {
+        while (text.size() > 1 && (text.back() == u'.' || text.back().isSpace()) &&
+               (text[text.size() - 2] == u')' || text[text.size() - 2] == u']')) {
+            text.chop(1);
+        }
+        return text;
+    }
+
+    /// What follows the last comma or dash.
+    bool takeSegment() {
+        const QStringView title(m_read.title);
+        for (const QStringView joint : {QStringView(u", "), QStringView(u" - "), QStringView(u" – "),
+                                        QStringView(u" | "), QStringView(u": "), QStringView(u". ")}) {
+            const qsizetype at = title.lastIndexOf(joint);
+            if (at <= 0) {
+                continue;
+            }
+            const QStringView note = title.sliced(at + joint.size());
+            // Sentences and headings say more than a comma and a dash.
+            const bool isLoose = joint == u": " || joint == u". ";
+            if (isLoose ? takeEpisode(note, at) : takeNote(note, false, at)) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    bool takeEpisode(QStringView note, qsizetype left) {
+        const auto number = episodeNotation(note, m_language, NotationPlace::Title);
+        if (!number || !shorten(left)) {
+            return false;
+        }
+        add(*number);
+        return true;
+    }
+
+    /// "S1 E2", "Folge 10", "II./6." behind a blank.
+    bool takeEnd() {
+        const auto found = episodeAtEnd(m_read.title, m_language, NotationPlace::Title);
+        if (found && shorten(found->start)) {
+            add(found->number);
+            return true;
+        }
+        return false;
+    }
+
+    /// "Title - Stag. 26 Ep. 26 - Subtitle".
+    void takeMiddle() {
+        for (const QStringView joint : {QStringView(u" - "), QStringView(u" – ")}) {
+            const QString title = m_read.title;
+            const qsizetype first = title.indexOf(joint);
+            const qsizetype second = first < 0 ? -1 : title.indexOf(joint, first + joint.size());
+            if (first <= 0 || second < 0) {
+                continue;
+            }
+            const QStringView between =
+                QStringView(title).sliced(first + joint.size(), second - first - joint.size());
+            const auto number = episodeNotation(between, m_language, NotationPlace::Title);
+            if (number && shorten(first)) {
+                add(*number);
+                m_read.subtitle = title.sliced(second + joint.size()).trimmed();
+                return;
+            }
+        }
+    }
+
+    const QString& m_language;
+    ReadTitle m_read;
+};
+
+QString placeholderKey(QStringView title) {
+    QString key = foldedText(title);
+    for (QChar& unit : key) {
+        unit = unit.isLetterOrNumber() ? unit : u' ';
+    }
+    return key.simplified();
+}
+
+} // namespace
+
+ReadTitle readTitle(const QString& text, const QString& language) {
+    const QString title = tidiedTitle(text);
+    if (title.isEmpty() || title.size() > kLongestTitle) {
+        return {.title = title, .subtitle = {}, .facts = {}, .genre = {}};
+    }
+    return TitleReader(title, language).run();
+}
+
+std::optional<SeasonedTitle> seasonedTitle(const QString& title) {
+    const qsizetype blank = title.lastIndexOf(u' ');
+    const QStringView last = QStringView(title).sliced(blank + 1);
+    const bool isRoman =
+        blank > 0 && !last.isEmpty() && last.size() <= 6 &&
+        std::ranges::all_of(last, [](QChar unit) { return QStringView(u"IVX").contains(unit); });
+    const auto number = isRoman ? episodeNotation(last, QString()) : std::nullopt;
+    const QStringView left = withoutJoint(QStringView(title).first(std::max<qsizetype>(blank, 0)));
+    if (!number || !number->season || left.isEmpty()) {
+        return std::nullopt;
+    }
+    return SeasonedTitle{left.toString(), *number->season};
+}
+
+bool isFeedPlaceholder(const QString& title) {
+    static const QSet<QString> kKeys = [] {
+        QSet<QString> placeholders;
+        for (const char16_t* each : {u"Nema informacija",
+                                     u"Nema informacije",
+                                     u"Nema informacija o programu",
+                                     u"Nema informacija o emisiji",
+                                     u"Nema podataka",
+                                     u"Nema podataka o programu",
+                                     u"Nema sadržaja",
+                                     u"Nema opisa",
+                                     u"Нема информација",
+                                     u"Нема информација о програму",
+                                     u"Нема информации",
+                                     u"Нема податоци",
+                                     u"Няма информация",
+                                     u"Няма информация за програмата",
+                                     u"No information",
+                                     u"No information available",
+                                     u"No info",
+                                     u"No info available",
+                                     u"No data",
+                                     u"No data available",
+                                     u"No EPG",
+                                     u"No EPG data",
+                                     u"No EPG available",
+                                     u"No programme information",
+                                     u"No program information",
+                                     u"No programme data",
+                                     u"No program data",
+                                     u"No program information available",
+                                     u"No programme information available",
+                                     u"No scheduled programming",
+                                     u"To be announced",
+                                     u"TBA",
+                                     u"Not available",
+                                     u"Keine Information",
+                                     u"Keine Informationen",
+                                     u"Keine Informationen verfügbar",
+                                     u"Keine Information verfügbar",
+                                     u"Keine Sendungsinformationen",
+                                     u"Keine Programminformationen",
+                                     u"Keine Programminformation",
+                                     u"Keine Daten",
+                                     u"Keine EPG Daten",
+                                     u"Δεν υπάρχουν πληροφορίες",
+                                     u"Δεν υπάρχουν πληροφορίες προγράμματος",
+                                     u"Δεν υπάρχουν διαθέσιμες πληροφορίες",
+                                     u"Χωρίς πληροφορίες",
+                                     u"Vysílání neposkytnuto",
+                                     u"Program neposkytnut",
+                                     u"Není informace",
+                                     u"Informace není k dispozici",
+                                     u"Informace nejsou k dispozici",
+                                     u"Program není k dispozici",
+                                     u"Program neuveden",
+                                     u"Bez informací",
+                                     u"Nie je informácia",
+                                     u"Nie sú informácie",
+                                     u"Bez informácií",
+                                     u"Informácie nie sú k dispozícii",
+                                     u"Informácia nie je k dispozícii",
+                                     u"Program nie je k dispozícii",
+                                     u"Vysielanie neposkytnuté",
+                                     u"Nincs információ",
+                                     u"Nincs műsorinformáció",
+                                     u"Nincs műsor információ",
+                                     u"Nincs adat",
+                                     u"Nincs elérhető információ",
+                                     u"Nessuna informazione",
+                                     u"Nessuna informazione disponibile",
+                                     u"Informazioni non disponibili",
+                                     u"Informazione non disponibile",
+                                     u"Programmazione non disponibile",
+                                     u"Dati non disponibili",
+                                     u"Nu există informații",
+                                     u"Nu exista informatii disponibile",
+                                     u"Fără informații",
+                                     u"Informații indisponibile",
+                                     u"Lipsă informații",
+                                     u"Nu sunt informatii",
+                                     u"Nu sunt informatii disponibile",
+                                     u"Brak informacji",
+                                     u"Brak informacji o programie",
+                                     u"Brak danych",
+                                     u"Bilgi yok",
+                                     u"Bilgi bulunmuyor",
+                                     u"Yayın bilgisi yok",
+                                     u"Program bilgisi yok",
+                                     u"Program bilgisi bulunamadı",
+                                     u"Pas d'information",
+                                     u"Pas d'informations",
+                                     u"Aucune information",
+                                     u"Aucune information disponible",
+                                     u"Programme non disponible",
+                                     u"Programme non communiqué",
+                                     u"Sin información",
+                                     u"Información no disponible",
+                                     u"Sem informação",
+                                     u"Geen informatie",
+                                     u"Geen informatie beschikbaar",
+                                     u"Ni podatkov",
+                                     u"Ni informacij",
+                                     u"Ni podatka",
+                                     u"Podatki niso na voljo",
+                                     u"Nav informācijas",
+                                     u"Нет информации",
+                                     u"Нет данных",
+                                     u"Немає інформації",
+                                     u"Ska informacion",
+                                     u"Nuk ka informacion"}) {
+            placeholders.insert(placeholderKey(QStringView(each)));
+        }
+        return placeholders;
+    }();
+    return title.size() <= 60 && kKeys.contains(placeholderKey(title));
+}
+
+} // namespace guide
