@@ -183,7 +183,7 @@ bool hasSentenceEnd(QStringView text, qsizetype begin, qsizetype end) {
 
 /// Whether a year follows, before the sentence ends.
 bool isBeforeYear(QStringView text, qsizetype at) {
-    constexpr qsizetype kFarthest = 40;
+    constexpr qsizetype kFarthest = 30;
     const qsizetype end = std::min(text.size(), at + kFarthest);
     for (; at + 3 < end && !endsSentence(text, at); ++at) {
         const bool isCentury =
@@ -347,7 +347,7 @@ TVListingsCategory settled(const ShowText& show, Bits found) {
     if (found & kForChildren) {
         return kForChildren;
     }
-    const bool mayBeFilm = !show.hasEpisode && !isShorterThan(show, minutes(65));
+    const bool mayBeFilm = !show.hasEpisode && !isShorterThan(show, minutes(70));
     if (found & kAnimation) {
         if (!(found & kAdult)) {
             return kForChildren;
@@ -377,21 +377,30 @@ TVListingsCategory settled(const ShowText& show, Bits found) {
     return withoutExcluded(found & kCategories);
 }
 
-/// Whether the theme of the channel says more than what was found in texts.
-bool isThemeBelieved(const ShowText& show, Bits theme, Bits found) {
+/// Whether the theme of the channel says more than what was found in the title and in the other texts.
+bool isThemeBelieved(const ShowText& show, Bits theme, Bits title, Bits prose) {
     if (theme & kForChildren) {
-        return (found & (kNews | kSports | kMusic)) == 0;
+        return ((title | prose) & (kNews | kSports | kMusic)) == 0;
     }
+    const Bits found = title | prose;
     // Channels of other themes fill nights and weekends with films.
-    if (!show.hasEpisode && isLongerThan(show, minutes(theme & kEntertainment ? 95 : 130)) &&
-        (theme & (kEntertainment | kDocumentaries))) {
+    constexpr Bits kWithFilms = kEntertainment | kDocumentaries;
+    if ((theme & kWithFilms) && !show.hasEpisode &&
+        isLongerThan(show, minutes(theme & kEntertainment ? 95 : 130))) {
         return false;
     }
     Bits outdone = kStories | kAnimation | kPresented;
     if (theme & (kSports | kMusic | kNews)) {
         outdone |= kEntertainment;
     }
-    if (found & ~outdone) {
+    if (title & ~outdone) {
+        return false;
+    }
+    // Descriptions mention many things in passing.
+    if (theme & (kDocumentaries | kMusic | kSports)) {
+        outdone |= kMusic | kSports | kNews | kEntertainment;
+    }
+    if (prose & ~outdone) {
         return false;
     }
     return !(found & kMovies) || isShorterThan(show, minutes(75));
@@ -412,11 +421,13 @@ TVListingsCategory feedCategories(const ShowText& show) {
         if ((named & kSeries) && isUncertainSeries && !show.hasEpisode && isLongerThan(show, minutes(75))) {
             return settled(show, (named & ~kSeries) | kMovies);
         }
-        if (named == kEntertainment) {
-            // Talk shows about politics.
+        // Talk shows about politics, and news that a feed calls films.
+        if (named == kEntertainment || ((named & kMovies) && isShorterThan(show, minutes(60)))) {
             Evidence title;
             addTitle(show.title, show.language, title);
-            return title.strong & kNews ? kNews : kEntertainment;
+            if (const Bits told = title.strong & (named & kMovies ? kNews | kSports : kNews)) {
+                return settled(show, told);
+            }
         }
         return settled(show, named);
     }
@@ -437,24 +448,26 @@ TVListingsCategory feedCategories(const ShowText& show) {
     if (named & kStoryGenres) {
         return settled(show, named);
     }
-    Bits found = title.said();
-    if (!(found & (kKinds | kStoryGenres)) && !(theme & kForChildren)) {
+    const Bits titled = title.said();
+    Bits told = 0;
+    if (!(titled & (kKinds | kStoryGenres)) && !(theme & kForChildren)) {
         Evidence prose;
         addProse(show.subtitle, show.language, true, prose);
         addDescription(show.description, show.language, prose);
         if (prose.strong & kNothing) {
             return 0;
         }
-        found |= prose.said() | (prose.strong & kPresented);
+        told = prose.said() | (prose.strong & kPresented);
         title.vague |= prose.vague;
         // A word about a film is no film.
-        if ((found & kMovies) && isShorterThan(show, minutes(45))) {
-            found &= ~kStories;
+        if ((told & kMovies) && isShorterThan(show, minutes(45))) {
+            told &= ~kStories;
         }
     }
-    if (theme != 0 && isThemeBelieved(show, theme, found)) {
+    if (theme != 0 && isThemeBelieved(show, theme, titled, told)) {
         return settled(show, theme);
     }
+    const Bits found = titled | told;
     if (found & (kKinds | kStoryGenres)) {
         return settled(show, found | (themes & kAdult));
     }
@@ -466,7 +479,7 @@ TVListingsCategory feedCategories(const ShowText& show) {
     if (const Bits vague = (title.vague ? title.vague : genres.vague) & kCategories) {
         return settled(show, vague);
     }
-    if (found & kPresented) {
+    if ((found | themes) & kPresented) {
         return 0;
     }
     if (show.hasRoles && mayBeFilm) {
