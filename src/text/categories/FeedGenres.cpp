@@ -476,7 +476,11 @@ TVListingsCategory feedCategories(const ShowText& show) {
         isShorterThan(show, minutes(240))) {
         return kMovies;
     }
-    if (const Bits vague = (title.vague ? title.vague : genres.vague) & kCategories) {
+    Bits vague = (title.vague ? title.vague : genres.vague) & kCategories;
+    if ((vague & kMovies) && isShorterThan(show, minutes(60))) {
+        vague = 0;
+    }
+    if (vague != 0) {
         return settled(show, vague);
     }
     if ((found | themes) & kPresented) {
