@@ -13,7 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Programmes of channels that repeat another one an hour later are listed an hour too late.
+/// In the feeds of the catalogue, programmes of channels that repeat another one an hour later are listed an
+/// hour too late.
 constexpr std::string_view kShiftedChannel = "Plus1";
 constexpr std::chrono::hours kShift{1};
 /// A show of which no usable end is known is over after it, whatever follows.
@@ -115,7 +116,8 @@ void XMLTVToEntries::startProgramme(const XMLTVAttributes& attributes) {
         m_ignoreTitle = false;
         return;
     }
-    const bool isShifted = channel && channel->find(kShiftedChannel) != std::string_view::npos;
+    const bool isShifted =
+        !reading().keepsTimes && channel && channel->find(kShiftedChannel) != std::string_view::npos;
     // The view of the channel is invalid after the next attribute is read.
     std::string sourceId = m_single ? *m_single : std::string(channel.value_or(std::string_view{}));
     m_inside = XMLTVElement::Programme;

@@ -10,6 +10,7 @@ FeedReading ownReading() {
     return {.startsEntriesFresh = true,
             .knowsPlaceholders = true,
             .repairsEnds = true,
+            .keepsTimes = true,
             .keepsTitlesWhole = true,
             .keepsAcronyms = true,
             .tidiesTexts = true,

@@ -13,6 +13,9 @@ struct FeedReading {
     /// An entry without a usable end is a show as well; finishOwnList() gives it one. Otherwise it is
     /// dropped, and an end that is hours too late makes a show that is always on.
     bool repairsEnds = false;
+    /// Times mean what they say on every channel. Otherwise those of channels whose id contains "Plus1" are
+    /// an hour too late, as in the feeds of the catalogue.
+    bool keepsTimes = false;
     /// A title is kept whole but for a tail that is recognised: year and country, words of a genre, an
     /// episode, a mark. Otherwise it ends at its first comma and loses everything in brackets.
     bool keepsTitlesWhole = false;

@@ -31,11 +31,12 @@ class Text final : public TextSource {
     qsizetype m_at = 0;
 };
 
-FeedChannelEntries read(const QByteArray& programmes, const FeedReading& reading, const QString& language) {
+FeedChannelEntries read(const QByteArray& programmes, const FeedReading& reading, const QString& language,
+                        const QString& channel = u"a"_s) {
     Text text("<tv>" + programmes + "</tv>");
     ZoneClock clock(QTimeZone("Europe/Prague"));
     XMLTVToEntries reader(
-        text, {u"a"_s},
+        text, {channel},
         {.shows = {.alphabet = kAlphabet, .locale = QLocale(u"cs_CZ"_s), .reading = reading},
          .now = kNow,
          .withoutOffset = &clock,
@@ -127,6 +128,19 @@ TEST(FeedReading, EveryMemberChangesOneThing) {
     EXPECT_NE(read(both, reading, u"cs"_s).entries.front().categories, TVListingsCategory(0));
     reading.believesGenres = false;
     EXPECT_NE(*read(both, reading, u"cs"_s).entries.front().categories & TVListingsCategoryMovies, 0U);
+}
+
+TEST(FeedReading, TimesOfAChannelAnHourLaterAreKept) {
+    const QByteArray programme =
+        at(10, "<title>A</title>").replace("channel=\"a\"", "channel=\"RaiPlus1.it\"");
+    FeedReading reading = ownReading();
+    for (const bool keeps : {true, false}) {
+        reading.keepsTimes = keeps;
+        const FeedChannelEntries channel = read(programme, reading, u"it"_s, u"RaiPlus1.it"_s);
+        ASSERT_EQ(channel.entries.size(), 1U);
+        EXPECT_EQ(*channel.entries.front().basic->dateTime(),
+                  kNow + std::chrono::hours(2) - std::chrono::hours(keeps ? 0 : 1));
+    }
 }
 
 TEST(FeedReading, FactsComeFromElements) {
