@@ -263,7 +263,7 @@ bool isNameUntil(QStringView title, qsizetype end) {
     while (end < title.size() && title[end].isSpace()) {
         ++end;
     }
-    if (end < title.size() && (title[end] == u'\'' || title[end] == u'’')) {
+    if (end < title.size() && (title[end] == u'\'' || title[end] == u'’' || title[end] == u',')) {
         return false;
     }
     QStringView word = title.sliced(end);
@@ -438,7 +438,7 @@ TVListingsCategory feedCategories(const ShowText& show) {
     Evidence title;
     addTitle(show.title, show.language, title);
     if (named & kAnimation) {
-        return settled(show, named | ((themes | title.strong) & kAdult));
+        return settled(show, named | (title.strong & kForChildren) | ((themes | title.strong) & kAdult));
     }
     if (title.strong & kNothing || themes & kNothing) {
         return 0;
@@ -489,7 +489,8 @@ TVListingsCategory feedCategories(const ShowText& show) {
     if (show.hasRoles && mayBeFilm) {
         return kMovies;
     }
-    if (isShorterThan(show, minutes(70)) && (show.hasEpisode || (themes & kSeries))) {
+    if (isShorterThan(show, minutes(70)) && !isShorterThan(show, minutes(15)) &&
+        (show.hasEpisode || (themes & kSeries))) {
         return kSeries;
     }
     return 0;

@@ -54,7 +54,7 @@ constexpr std::array kRows{
         u"auto motor sport|auto motor und sport|ginx esports tv|ginx esports|gametoon|auto moto tv|"
         u"automoto|motorvision|motorvision+|motowizja|esport-24|eclutch-live"},
     Row{kDocumentaries, kChannel,
-        u"discovery|discovery channel|national geographic|nat geo|natgeo|nat geo wild|ngc|ngc wild|"
+        u"dmax|motor trend|discovery|discovery channel|national geographic|nat geo|natgeo|nat geo wild|ngc|ngc wild|"
         u"animal planet|history|history channel|history 2|viasat history|viasat nature|viasat explore|"
         u"viasat explorer|spektrum|love nature|bbc earth|docubox|da vinci|ozone tv|travel channel|"
         u"travel xp|travelxp|travel tv|marcopolo|curiosity|crime investigation|crime+investigation|"
@@ -112,7 +112,7 @@ constexpr std::array kRows{
         u"sat.1 emotions|warner tv comedy|comedy central|tv2 comedy|jocky tv"},
     // Episodes there hardly ever are of stories.
     Row{kPresented, kChannel,
-        u"giallo|nove|cielo|tv8|spíler1|spíler2|spíler|tv2 klub|rtl otthon|life tv|rtl living|quest|"
+        u"rai 5|rai cinque|la7d|tv7|rete 4 show|giallo|nove|cielo|tv8|spíler1|spíler2|spíler|tv2 klub|rtl otthon|life tv|rtl living|quest|"
         u"quest red|really|5star|rmc story|6ter|ozone tv|funbox|d1|wedo|la5|la 5|prima show|"
         u"markíza klasik show|vox|voxup|rtl zwei|rtlzwei|kabel eins|e4 extra|channel 5 reality|w|tlc|"
         u"travel|ert3|vouli|m3|m5|duna world|tv noe|noe|tvp polonia"},

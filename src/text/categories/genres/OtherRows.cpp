@@ -150,6 +150,8 @@ constexpr std::array kRows{
     Row{kNews, kTitle,
         u"házon kívül|célpont|nagykép|szabad szemmel|heti napló|magyarország élőben|egyenes beszéd|"
         u"start|csatt|spirit|napi aktuális|heti hetes hírek|uniós hírek|háttér|ma éjszaka", u"hu"},
+    Row{kEntertainment, kText,
+        u"doku-reality*|realityben|realityje|reality-je|valóságshow*|talkshow*|főzőverseny*|kvízjáték*", u"hu"},
     // Greek
     Row{kSeries, kKind,
         u"σειρά|τηλεοπτική σειρά|κωμική σειρά|δραματική σειρά|ελληνική σειρά|ξένη σειρά|τούρκικη σειρά|"

@@ -146,7 +146,7 @@ constexpr std::array kRows{
         u"poľsk*|maďarsk*|rakousk*|rakúsk*|švédsk*|dánsk*|norsk*|tureck*|rusk*|ruský|japonsk*|původní|"
         u"pôvodný|pôvodná|koprodukčn*|kultov*", u"cs sk"},
     Row{kPresented, kText,
-        u"pořad|pořadu|relácia|relácie|relácii|moderátor*|moderuje|moderuj*|soutěžící*|súťažiac*|hosté|"
+        u"zpovídá|spovedá|pořad|pořadu|relácia|relácie|relácii|moderátor*|moderuje|moderuj*|soutěžící*|súťažiac*|hosté|"
         u"hostia|hostem|hosťom|rozhovor*|soutěž*|súťaž*|porota|kuchař*|kuchár*|recept*|odborníci|"
         u"odborník*|představí|predstaví|majitelé|renovuj*|designér*|dizajnér*|skutečné příběhy|"
         u"skutočné príbehy|skutecne pribehy|zákazní*|nevěst*|nevest*|dražb*|dražeb*|seznamte se|"

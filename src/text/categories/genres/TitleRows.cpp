@@ -92,7 +92,7 @@ constexpr std::array kRows{
         u"in concert|live in concert|concerto per|sinfonia n|symphony no|symphonie nr|top of the pops|"
         u"jukebox|music videos|music video|videoclip|videoclips|musikvideos|klipmix|music non stop|"
         u"greatest hits|mtv music|mtv in the mix|hitparade|zdf-fernsehgarten musik|100% music|hits|"
-        u"top 40|top 20|top 10 hits|playlist|unplugged|eurovision song contest|konzert|concert|koncert|"
+        u"top 10 hits|playlist|unplugged|eurovision song contest|konzert|concert|koncert|"
         u"wiener philharmoniker|berliner philharmoniker|musikantenstadl|double shots|dj set|"
         u"nonstop music|chillout zone|rotazione musicale|musica no stop|"
         u"live at the apple music festival|live at montreux|zlatý slávik|new year's concert|"
