@@ -107,7 +107,8 @@ OwnFeed readOwnFeed(const QString& path, const QString& charset, const std::vect
                                .now = now - longestShift,
                                .control = &control,
                                .withoutOffset = &clock,
-                               .languages = languagesOf(items)});
+                               .languages = languagesOf(items),
+                               .names = &filter.names()});
         isRead = !reader.brokeOff() && !control.outcome().incomplete;
         for (FeedChannelEntries& channel : reader.entries()) {
             const auto sharing = byChannel.find(channel.sourceId);

@@ -42,12 +42,24 @@ FeedFilter::Channels::value_type* FeedFilter::named(std::string id) {
     return &*place;
 }
 
-void FeedFilter::channel(const OpeningTag& tag, std::string_view) {
-    if (const auto raw = tag.value("id")) {
-        if (auto id = attributeValue(*raw)) {
-            named(*std::move(id));
+void FeedFilter::channel(const OpeningTag& tag, std::string_view content) {
+    const auto raw = tag.value("id");
+    auto id = raw ? attributeValue(*raw) : std::nullopt;
+    if (!id) {
+        return;
+    }
+    if (m_wanted.contains(*id) && m_names.size() < kMostFeedChannels) {
+        FeedElements elements(content);
+        while (elements.next()) {
+            if (elements.name() == "display-name") {
+                const std::string name = elementText(elements.content());
+                m_names.try_emplace(*id,
+                                    QString::fromStdString(name.substr(0, kLongestChannelId)).simplified());
+                break;
+            }
         }
     }
+    named(*std::move(id));
 }
 
 std::optional<bool> FeedFilter::programme(const OpeningTag& tag, std::string_view) {

@@ -6,6 +6,8 @@
 #include "platform/Moment.h"
 #include "platform/encoding/TextSource.h"
 
+#include <QString>
+
 #include <functional>
 #include <optional>
 #include <string>
@@ -51,6 +53,9 @@ class FeedFilter final : public TextSource, private FeedScanEvents {
     bool hasEnd() const { return m_scan.hasEnd(); }
     /// Of what was scanned.
     const FeedCounts& counts() const { return m_counts; }
+    /// The first names of the wanted channels, by their ids. Complete for a channel before its first
+    /// programme is read, in feeds that name their channels first.
+    const std::unordered_map<std::string, QString>& names() const { return m_names; }
 
   private:
     /// Whether the channel has shows, by its id.
@@ -71,6 +76,7 @@ class FeedFilter final : public TextSource, private FeedScanEvents {
     std::size_t m_read = 0;
     FeedCounts m_counts;
     Channels m_channels;
+    std::unordered_map<std::string, QString> m_names;
     /// Most feeds are sorted by channel: of the programme before, its channel as written, and what is known
     /// about it.
     std::optional<std::string> m_lastChannel;

@@ -160,6 +160,7 @@ void FeedShow::clear() {
     previouslyShown = false;
     categories = 0;
     sourceId.clear();
+    channelName.clear();
     dateTime.reset();
     endDateTime.reset();
     details.clear();
@@ -326,7 +327,7 @@ TVListingsCategory FeedShowMaker::ownCategories(const FeedShow& show, const Titl
                   .hasRoles = cleaned.roles.has_value(),
                   .length = {},
                   .hasEpisode = show.details.isSeries || !facts.episode.empty(),
-                  .channelName = feedString(show.sourceId)};
+                  .channelName = show.channelName.isEmpty() ? feedString(show.sourceId) : show.channelName};
     for (const FeedTexts::Each& each : show.details.categories.all()) {
         if (!each.text.empty()) {
             text.categories.push_back(feedString(each.text));

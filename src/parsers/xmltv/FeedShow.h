@@ -32,6 +32,8 @@ struct FeedShow {
     TVListingsCategory categories = 0;
     /// The channel id of the feed.
     std::string sourceId;
+    /// Of the channel; empty if it is unknown.
+    QString channelName;
     std::optional<Moment> dateTime;
     std::optional<Moment> endDateTime;
     /// Read with FeedReading::readsFacts only; titles, subtitles, descriptions and credits are then here.

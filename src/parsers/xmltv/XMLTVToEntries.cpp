@@ -260,6 +260,10 @@ bool XMLTVToEntries::finishShow() {
     }
     const auto language = m_options.languages.find(m_show.sourceId);
     static const QString kUnknown;
+    if (m_options.names) {
+        const auto name = m_options.names->find(m_show.sourceId);
+        m_show.channelName = name == m_options.names->end() ? kUnknown : name->second;
+    }
     std::optional<ExtendedTVEntry> entry =
         m_maker.make(m_show, m_category, language == m_options.languages.end() ? kUnknown : language->second);
     if (!entry) {

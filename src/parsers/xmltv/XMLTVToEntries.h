@@ -32,6 +32,8 @@ struct XMLTVOptions {
     ZoneClock* withoutOffset = nullptr;
     /// The languages of the wanted channels, by their ids in the feed.
     std::unordered_map<std::string, QString> languages = {};
+    /// Their names, which may arrive while the feed is read; null if they are unknown.
+    const std::unordered_map<std::string, QString>* names = nullptr;
 };
 
 /// The shows of one channel of a feed, in document order.
