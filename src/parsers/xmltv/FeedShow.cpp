@@ -123,7 +123,11 @@ std::optional<QString> stringOf(const FeedTexts::Each* text) {
 std::optional<QString> namesOf(const FeedTexts& elements) {
     QString names;
     for (const FeedTexts::Each& each : elements.all()) {
-        const QString name = tidiedTitle(feedString(each.text));
+        QString name = tidiedTitle(feedString(each.text));
+        // The role is missing.
+        if (name.endsWith(" als"_L1)) {
+            name.chop(4);
+        }
         if (!name.isEmpty()) {
             names += (names.isEmpty() ? QString() : u", "_s) + name;
         }
@@ -214,9 +218,11 @@ std::optional<ExtendedTVEntry> FeedShowMaker::make(const FeedShow& show, const F
 
     FinishedSubtitle finished;
     if (reading.keepsNumberedSubtitles) {
-        ReadSubtitle read = readSubtitle(texts.subtitle.value_or(QString()), language);
-        completeFacts(facts, read.facts);
-        finished = {std::move(read.subtitle), std::move(read.genre)};
+        if (texts.subtitle) {
+            const ReadSubtitle& read = subtitleParts(*texts.subtitle, language);
+            completeFacts(facts, read.facts);
+            finished = {read.subtitle, read.genre};
+        }
         if (!finished.subtitle1) {
             finished.subtitle1 = title.subtitle;
         }
@@ -315,6 +321,12 @@ void FeedShowMaker::cleanTexts(CleanedDescription& cleaned, ShowFacts& facts, co
     }
 }
 
+const ReadSubtitle& FeedShowMaker::subtitleParts(const QString& subtitle, const QString& language) {
+    m_key.assign(language.toStdString()).append(1, '\n').append(subtitle.toStdString());
+    const ReadSubtitle* known = m_subtitles.find(m_key);
+    return known ? *known : m_subtitles.add(m_key, readSubtitle(subtitle, language));
+}
+
 TVListingsCategory FeedShowMaker::ownCategories(const FeedShow& show, const TitleParts& title,
                                                 const FinishedSubtitle& subtitle,
                                                 const CleanedDescription& cleaned, const ShowFacts& facts,
@@ -348,11 +360,11 @@ const FeedShowMaker::TitleParts& FeedShowMaker::titleParts(std::string_view titl
     const FeedReading& reading = m_options.reading;
     // Only these depend on the language.
     if (reading.keepsTitlesWhole || reading.keepsAcronyms) {
-        m_titleKey.assign(language.toStdString()).append(1, '\n').append(title);
+        m_key.assign(language.toStdString()).append(1, '\n').append(title);
     } else {
-        m_titleKey.assign(title);
+        m_key.assign(title);
     }
-    if (const TitleParts* known = m_titles.find(m_titleKey)) {
+    if (const TitleParts* known = m_titles.find(m_key)) {
         return *known;
     }
     TitleParts parts;
@@ -390,7 +402,7 @@ const FeedShowMaker::TitleParts& FeedShowMaker::titleParts(std::string_view titl
     if (parts.hasProductionNote) {
         parts.instantCategories |= TVListingsCategorySeries;
     }
-    return m_titles.add(m_titleKey, std::move(parts));
+    return m_titles.add(m_key, std::move(parts));
 }
 
 TVListingsCategory FeedShowMaker::categories(std::string_view categoryText) {

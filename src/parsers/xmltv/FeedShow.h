@@ -8,6 +8,7 @@
 #include "text/cleaning/FeedTextCleaning.h"
 #include "text/display/Alphabet.h"
 #include "text/reading/FeedReading.h"
+#include "text/reading/SubtitleReading.h"
 
 #include <QLocale>
 #include <QString>
@@ -73,6 +74,7 @@ class FeedShowMaker {
     struct TitleParts;
 
     const TitleParts& titleParts(std::string_view title, const QString& language);
+    const ReadSubtitle& subtitleParts(const QString& subtitle, const QString& language);
     void cleanTexts(CleanedDescription& cleaned, ShowFacts& facts, const QString& language) const;
     TVListingsCategory ownCategories(const FeedShow& show, const TitleParts& title,
                                      const FinishedSubtitle& subtitle, const CleanedDescription& cleaned,
@@ -83,7 +85,8 @@ class FeedShowMaker {
     const FeedShowOptions m_options;
     FeedMemo<TitleParts> m_titles;
     /// Reused.
-    std::string m_titleKey;
+    std::string m_key;
+    FeedMemo<ReadSubtitle> m_subtitles;
     FeedMemo<TVListingsCategory> m_categories;
     FeedMemo<QSet<QUrl>> m_icons;
     FeedMemo<QSet<QUrl>> m_images;

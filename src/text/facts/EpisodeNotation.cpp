@@ -232,7 +232,17 @@ struct Token {
     /// Whether nothing separates it from the one in front of it.
     bool isJoined = false;
     int number = 0;
-    Label label = Label::None;
+
+    Label label() const {
+        if (!m_label) {
+            const bool isWord = kind == Word && text.size() <= 12;
+            m_label = isWord ? labelOf(foldedText(text)) : Label::None;
+        }
+        return *m_label;
+    }
+
+  private:
+    mutable std::optional<Label> m_label;
 };
 
 std::vector<Token> tokensOf(QStringView text) {
@@ -263,8 +273,6 @@ std::vector<Token> tokensOf(QStringView text) {
         token.isJoined = !tokens.empty() && tokens.back().end == token.start;
         if (token.kind == Token::Number) {
             token.number = token.text.size() > 6 ? kMostEpisode + 1 : token.text.toInt();
-        } else if (token.kind == Token::Word && token.text.size() <= 12) {
-            token.label = labelOf(foldedText(token.text));
         }
         tokens.push_back(token);
     }
@@ -326,6 +334,16 @@ class NotationParser {
     }
     bool isNumber(const Token* token) const { return token && token->kind == Token::Number; }
 
+    /// Looking words up takes longer.
+    bool isFollowedByNumber() const {
+        std::size_t ahead = 1;
+        while (isSign(peek(ahead), u".:#°")) {
+            ++ahead;
+        }
+        const Token* next = peek(ahead);
+        return next && (next->kind == Token::Number || next->text.front().isUpper());
+    }
+
     void skipSeparators() {
         while (isSign(peek(), u",-–—/.:;•|·")) {
             ++m_at;
@@ -334,8 +352,8 @@ class NotationParser {
 
     bool takeItem() {
         const Token* token = peek();
-        if (token->kind == Token::Word && token->label != Label::None && token->label != Label::Of &&
-            token->label != Label::Ordinal && takeLabelled()) {
+        if (token->kind == Token::Word && isFollowedByNumber() && token->label() != Label::None &&
+            token->label() != Label::Of && token->label() != Label::Ordinal && takeLabelled()) {
             return true;
         }
         if (token->kind == Token::Number) {
@@ -381,20 +399,20 @@ class NotationParser {
         }
         if (isNumber(number)) {
             m_at += ahead + 1;
-            set(label.label, number->number);
+            set(label.label(), number->number);
             skipOrdinal();
-            takeTotal(label.label);
-            takeSiblings(label.label);
+            takeTotal(label.label());
+            takeSiblings(label.label());
             return true;
         }
         const auto roman = romanNumber(number->text);
         const bool mayBeRoman =
-            label.label == Label::Season || (m_isSeparate && label.label != Label::WeakSeason);
+            label.label() == Label::Season || (m_isSeparate && label.label() != Label::WeakSeason);
         if (!roman || isShort || !mayBeRoman) {
             return false;
         }
         m_at += ahead + 1;
-        set(label.label, *roman);
+        set(label.label(), *roman);
         return true;
     }
 
@@ -402,7 +420,7 @@ class NotationParser {
     void skipOrdinal() {
         const Token* next = peek();
         const bool isLetter = next && next->kind == Token::Word && next->isJoined &&
-                              (next->label == Label::Ordinal || next->text.size() == 1) &&
+                              (next->label() == Label::Ordinal || next->text.size() == 1) &&
                               !(isNumber(peek(1)) && peek(1)->isJoined);
         if (isLetter) {
             ++m_at;
@@ -413,7 +431,7 @@ class NotationParser {
     void takeTotal(Label label) {
         const Token* sign = peek();
         const bool isSlash = isSign(sign, u"/");
-        const bool isWord = sign && sign->kind == Token::Word && sign->label == Label::Of;
+        const bool isWord = sign && sign->kind == Token::Word && sign->label() == Label::Of;
         if ((!isSlash && !isWord) || !isNumber(peek(1))) {
             return;
         }
@@ -453,14 +471,14 @@ class NotationParser {
             ++dots;
         }
         const Token* word = peek(dots);
-        const bool isLabel = word && word->kind == Token::Word && word->label != Label::None &&
-                             word->label != Label::Of && word->label != Label::Ordinal &&
+        const bool isLabel = word && word->kind == Token::Word && word->label() != Label::None &&
+                             word->label() != Label::Of && word->label() != Label::Ordinal &&
                              word->text.size() > 1;
         // In "1. sezona 2" the label belongs to the first number, in "sezona 1 epizoda 2" to the last.
         if (isLabel) {
             m_at += dots + 1;
-            set(word->label, first);
-            takeTotal(word->label);
+            set(word->label(), first);
+            takeTotal(word->label());
             return true;
         }
         const bool isFraction =
@@ -469,7 +487,7 @@ class NotationParser {
             const int total = peek(1)->number;
             const Token* label = isSign(peek(2), u".") ? peek(3) : nullptr;
             const bool isCountedDown = m_isHungarian && total <= first && label &&
-                                       label->kind == Token::Word && label->label == Label::Episode;
+                                       label->kind == Token::Word && label->label() == Label::Episode;
             if (isCountedDown) {
                 m_at += 4;
                 m_number.episodes = first;
@@ -516,14 +534,14 @@ class NotationParser {
             set(Label::Season, *roman);
             set(Label::Episode, episode);
             const Token* label = peek();
-            m_at += label && label->kind == Token::Word && label->label == Label::Episode ? 1 : 0;
+            m_at += label && label->kind == Token::Word && label->label() == Label::Episode ? 1 : 0;
             return true;
         }
         const Token* word = peek(ahead);
         if (word && word->kind == Token::Word && word->text.size() > 1 &&
-            (word->label == Label::Season || (m_isSeparate && word->label != Label::None))) {
+            (word->label() == Label::Season || (m_isSeparate && word->label() != Label::None))) {
             m_at += ahead + 1;
-            set(word->label == Label::Of || word->label == Label::Ordinal ? Label::Season : word->label,
+            set(word->label() == Label::Of || word->label() == Label::Ordinal ? Label::Season : word->label(),
                 *roman);
             return true;
         }
@@ -541,11 +559,12 @@ class NotationParser {
         const auto number = greekNumber(peek()->text);
         const Token* word = peek(2);
         if (!number || !isSign(peek(1), u"'’΄´ʹ`‘") || !word || word->kind != Token::Word ||
-            (word->label != Label::Season && word->label != Label::Part && word->label != Label::Episode)) {
+            (word->label() != Label::Season && word->label() != Label::Part &&
+             word->label() != Label::Episode)) {
             return false;
         }
         m_at += 3;
-        set(word->label, *number);
+        set(word->label(), *number);
         return true;
     }
 
@@ -563,11 +582,29 @@ class NotationParser {
     bool m_hasPartOnly = false;
 };
 
-bool hasDigitOrRoman(QStringView text) {
-    return std::ranges::any_of(text, [](QChar unit) {
-        return isDigit(unit) || QStringView(u"IVXLΙΧІХ").contains(unit) || unit == u'\'' || unit == u'΄' ||
-               unit == u'’';
-    });
+/// A number in digits, Roman digits or, with an apostrophe, Greek ones.
+bool hasNumber(QStringView text) {
+    bool isInWord = false;
+    bool isRoman = false;
+    for (const QChar unit : text) {
+        const char16_t code = unit.unicode();
+        if (code >= u'0' && code <= u'9') {
+            return true;
+        }
+        if (code < u'A' || (code >= 0x80 && !unit.isLetter())) {
+            if (isRoman || code == u'\'' || code == u'’' || code == u'΄' || code == u'´') {
+                return true;
+            }
+            isInWord = false;
+            isRoman = false;
+            continue;
+        }
+        const bool isDigit = code == u'I' || code == u'V' || code == u'X' || code == u'L' ||
+                             (code >= 0x80 && (unit == u'Ι' || unit == u'Χ' || unit == u'І' || unit == u'Х'));
+        isRoman = isDigit && (!isInWord || isRoman);
+        isInWord = true;
+    }
+    return isRoman;
 }
 
 bool isEndSign(QStringView text) {
@@ -616,7 +653,7 @@ EpisodeNumber numberOfFields(const QString& text) {
 
 std::optional<FoundEpisode> episodeAtStart(QStringView text, const QString& language, NotationPlace place) {
     const QStringView head = text.first(std::min(text.size(), kLongestNotation));
-    if (!hasDigitOrRoman(head)) {
+    if (!hasNumber(head)) {
         return std::nullopt;
     }
     const std::vector<Token> tokens = tokensOf(head);
@@ -635,7 +672,7 @@ std::optional<EpisodeNumber> episodeNotation(QStringView text, const QString& la
            !romanNumber(text.last(2).first(1))) {
         text.chop(1);
     }
-    if (text.isEmpty() || text.size() > kLongestNotation || !hasDigitOrRoman(text)) {
+    if (text.isEmpty() || text.size() > kLongestNotation || !hasNumber(text)) {
         return std::nullopt;
     }
     const std::vector<Token> tokens = tokensOf(text);
@@ -650,7 +687,7 @@ std::optional<EpisodeNumber> episodeNotation(QStringView text, const QString& la
 std::optional<FoundEpisode> episodeAtEnd(QStringView text, const QString& language, NotationPlace place) {
     const qsizetype from = std::max<qsizetype>(0, text.size() - kLongestNotation);
     const QStringView tail = text.sliced(from);
-    if (!hasDigitOrRoman(tail)) {
+    if (!hasNumber(tail)) {
         return std::nullopt;
     }
     const std::vector<Token> tokens = tokensOf(tail);

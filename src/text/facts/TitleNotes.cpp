@@ -923,6 +923,14 @@ const GenreWords& genreWords() {
     return kWords;
 }
 
+bool hasFourDigits(QStringView text) {
+    int digits = 0;
+    return std::ranges::any_of(text, [&digits](QChar unit) {
+        digits = unit >= u'0' && unit <= u'9' ? digits + 1 : 0;
+        return digits == 4;
+    });
+}
+
 } // namespace
 
 std::optional<int> yearOf(QStringView text) {
@@ -957,7 +965,7 @@ bool isTechnicalNote(QStringView text) {
 }
 
 std::optional<ProductionNote> productionNote(QStringView text, bool mayLackYear) {
-    if (text.size() > kLongestNote) {
+    if (text.size() > kLongestNote || (!mayLackYear && !hasFourDigits(text))) {
         return std::nullopt;
     }
     ProductionNote note;
@@ -1030,7 +1038,15 @@ std::optional<QString> ageNote(QStringView text) {
     static const QRegularExpression kAge(
         u"^(?:FSK\\s?(\\d{1,2})|([ΚK]\\d{0,2})|\\+(\\d{1,2})|(\\d{1,2})\\+|"
         u"(?:od|ab|ad|за над|над)\\s(\\d{1,2})(?:\\.|\\slet|\\srokov|\\sgodina|\\sJahren)?)$"_s);
-    const auto match = kAge.match(text.trimmed().toString());
+    text = text.trimmed();
+    const bool isLikely =
+        !text.isEmpty() && text.size() <= 24 &&
+        (text.front() == u'K' || text.front() == u'Κ' ||
+         std::ranges::any_of(text, [](QChar unit) { return unit >= u'0' && unit <= u'9'; }));
+    if (!isLikely) {
+        return std::nullopt;
+    }
+    const auto match = kAge.match(text.toString());
     if (!match.hasMatch()) {
         return std::nullopt;
     }

@@ -4,9 +4,12 @@
 #include "text/facts/EpisodeNotation.h"
 #include "text/facts/TitleNotes.h"
 
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <array>
+#include <vector>
 
 namespace guide {
 
@@ -59,7 +62,12 @@ class DescriptionReader {
             return;
         }
         const auto match = kLine.match(text());
-        const auto note = match.hasMatch() ? productionNote(match.captured(1), true) : std::nullopt;
+        static const QRegularExpression kCodes(u"^[A-Z]{1,3}(?:\\|[A-Z]{1,3})*$"_s);
+        auto note = match.hasMatch() ? productionNote(match.captured(1), true) : std::nullopt;
+        if (!note && match.hasMatch() && kCodes.match(match.captured(1)).hasMatch()) {
+            const QStringList codes = match.captured(1).split(u'|');
+            note = ProductionNote{.year = {}, .countries = {codes.begin(), codes.end()}};
+        }
         const auto year = match.hasMatch() ? yearOf(match.captured(2)) : std::nullopt;
         if (!note || !year) {
             return;
@@ -101,6 +109,14 @@ class DescriptionReader {
             u"Tytuł oryginalny|Orijinal adı|Orijinal isim|Πρωτότυπος τίτλος|Оригинален наслов|"
             u"Оригинално заглавие|Оригинални наслов|Título original|Oriģinālnosaukums)\\s?(:|\\n)\\s?([^\\n]{1,200})"_s);
         if (!text().contains(u':') && !text().contains("Originaltitel\n"_L1)) {
+            return;
+        }
+        // Parts of every label; the expression takes longer.
+        static constexpr std::array<QStringView, 9> kParts{u"rigina",  u"rig. ",     u"redeti c",
+                                                           u"vodní n", u"vodný n",   u"tytuł o",
+                                                           u"rijinal", u"ρωτότυπος", u"ригинал"};
+        if (std::ranges::none_of(kParts, [this](QStringView part) { return text().contains(part); }) &&
+            !text().contains(u"riģināl") && !text().contains(u"Tytuł o")) {
             return;
         }
         const auto match = kLabels.match(text());
@@ -270,32 +286,178 @@ class DescriptionReader {
     ReadDescription m_read;
 };
 
-// Labels of credits. Some feeds write them right behind the text in front of them.
-const QString kDirectorWords =
-    u"Regie|Regisseur|Regisseurin|Regia|Regista|Réalisateur|Réalisatrice|Réalisation|Réal\\."
-    u"|Regizor|Regizori|Regizorul|Reżyseria|Reżyser|Reż\\.|Yönetmen|Yönetmenler|Σκηνοθεσία"
-    u"|Σκηνοθέτης|Σενάριο/Σκηνοθεσία|Rendezte|Rendező|Rendezők|Režie|Režisér|Réžia|Režia|Režija|Redatelj|"
-    u"Redateljica|Reditelj|Режија|Редитељ|Режисьор|Режиссер|Режисёр|Director|Directed by"
-    u"|Dirección|Režisors|Scenarist i redatelj|Scenarij i režija|Regisor"_s;
-const QString kCastWords =
-    u"Darsteller|Besetzung|Mit|Schauspieler|Cast|Interpreti|Attori|Interpretato da|Avec|Acteurs|Distribution"
-    u"|Distribuția|Distribuţia|Distributia|Actori|Cu|Obsada|Występują|Grają|Oyuncular|Oyuncu Kadrosu|Παίζουν"
-    u"|Πρωταγωνιστούν|Ηθοποιοί|Πρωταγωνιστές|Főszereplők|Főszereplő|Szereplők|Szereplő|Hrají|Účinkují"
-    u"|V hlavních rolích|V hlavní roli|Hrajú|Účinkujú|V hlavných úlohách|V hlavnej úlohe|Uloge|Glavne uloge"
-    u"|Glume|Igrajo|Улоге|Глуме|В ролите|Участват|Улоги|В ролях|Reparto|Intérpretes|Starring|Stars|Lomās"_s;
-const QString kOtherWords =
-    u"Drehbuch|Musik|Kamera|Sceneggiatura|Musiche|Fotografia|Scénario|Musique|Scenariu|Scenariul"
-    u"|Muzica|Muzyka|Scenariusz|Zdjęcia|Senaryo|Müzik|Σενάριο|Μουσική|Παραγωγή|Διάρκεια"
-    u"|Δημιουργός|Έτος|Παρουσίαση|Είδος|Guest|Író|Írta|Zene|Zenéjét "
-    u"szerezte|Operatőr|Forgatókönyvíró|Scénář|Scenár|Námět"
-    u"|Námet|Hudba|Kameramanka|Scenarij|Scenario|Scenarist|Glazba|Muzika|Fotografija|Сценарио|Сценарий|Музика"
-    u"|Оператор|Producer|Writer|Műsorvezető|Műsorvezetők|Uvádza|Moderuje|Uvádí|Program je"
-    u"|Žanr|Godina|Země|Rok|Produkcija|Produkce|Gyártó|Country|Year"_s;
+enum class Credit { Director, Cast, Other };
+
+/// Labels of credits, and of what may stand between them.
+Credit creditOf(const QString& label, bool& isKnown) {
+    static const QHash<QString, Credit> kLabels = [] {
+        QHash<QString, Credit> labels;
+        const auto add = [&labels](Credit credit, std::initializer_list<const char16_t*> words) {
+            for (const char16_t* word : words) {
+                labels.insert(QStringView(word).toString(), credit);
+            }
+        };
+        add(Credit::Director, {u"Regie",
+                               u"Regisseur",
+                               u"Regisseurin",
+                               u"Regia",
+                               u"Regista",
+                               u"Réalisateur",
+                               u"Réalisatrice",
+                               u"Réalisation",
+                               u"Réal.",
+                               u"Regizor",
+                               u"Regizori",
+                               u"Regizorul",
+                               u"Reżyseria",
+                               u"Reżyser",
+                               u"Reż.",
+                               u"Yönetmen",
+                               u"Yönetmenler",
+                               u"Σκηνοθεσία",
+                               u"Σκηνοθέτης",
+                               u"Σενάριο/Σκηνοθεσία",
+                               u"Rendezte",
+                               u"Rendező",
+                               u"Rendezők",
+                               u"Režie",
+                               u"Režisér",
+                               u"Réžia",
+                               u"Režia",
+                               u"Režija",
+                               u"Redatelj",
+                               u"Redateljica",
+                               u"Reditelj",
+                               u"Режија",
+                               u"Редитељ",
+                               u"Режисьор",
+                               u"Режиссер",
+                               u"Режисёр",
+                               u"Director",
+                               u"Directed by",
+                               u"Dirección",
+                               u"Režisors",
+                               u"Scenarist i redatelj",
+                               u"Scenarij i režija",
+                               u"Regisor"});
+        add(Credit::Cast, {u"Darsteller",
+                           u"Besetzung",
+                           u"Mit",
+                           u"Schauspieler",
+                           u"Cast",
+                           u"Interpreti",
+                           u"Attori",
+                           u"Interpretato da",
+                           u"Con",
+                           u"Avec",
+                           u"Acteurs",
+                           u"Distribution",
+                           u"Distribuția",
+                           u"Distribuţia",
+                           u"Distributia",
+                           u"Actori",
+                           u"Cu",
+                           u"Obsada",
+                           u"Występują",
+                           u"Grają",
+                           u"Oyuncular",
+                           u"Oyuncu Kadrosu",
+                           u"Παίζουν",
+                           u"Πρωταγωνιστούν",
+                           u"Ηθοποιοί",
+                           u"Πρωταγωνιστές",
+                           u"Főszereplők",
+                           u"Főszereplő",
+                           u"Szereplők",
+                           u"Szereplő",
+                           u"Hrají",
+                           u"Účinkují",
+                           u"V hlavních rolích",
+                           u"V hlavní roli",
+                           u"Hrajú",
+                           u"Účinkujú",
+                           u"V hlavných úlohách",
+                           u"V hlavnej úlohe",
+                           u"Uloge",
+                           u"Glavne uloge",
+                           u"Glume",
+                           u"Igrajo",
+                           u"Улоге",
+                           u"Глуме",
+                           u"В ролите",
+                           u"Участват",
+                           u"Улоги",
+                           u"В ролях",
+                           u"Reparto",
+                           u"Intérpretes",
+                           u"Starring",
+                           u"Stars",
+                           u"Lomās"});
+        add(Credit::Other,
+            {u"Drehbuch",   u"Musik",       u"Kamera",       u"Sceneggiatura", u"Musiche",
+             u"Fotografia", u"Scénario",    u"Musique",      u"Scenariu",      u"Scenariul",
+             u"Muzica",     u"Muzyka",      u"Scenariusz",   u"Zdjęcia",       u"Senaryo",
+             u"Müzik",      u"Σενάριο",     u"Μουσική",      u"Παραγωγή",      u"Διάρκεια",
+             u"Δημιουργός", u"Έτος",        u"Παρουσίαση",   u"Είδος",         u"Guest",
+             u"Író",        u"Írta",        u"Zene",         u"Operatőr",      u"Forgatókönyvíró",
+             u"Scénář",     u"Scenár",      u"Námět",        u"Námet",         u"Hudba",
+             u"Scenarij",   u"Scenario",    u"Scenarist",    u"Glazba",        u"Muzika",
+             u"Сценарио",   u"Сценарий",    u"Музика",       u"Оператор",      u"Producer",
+             u"Writer",     u"Műsorvezető", u"Műsorvezetők", u"Uvádza",        u"Moderuje",
+             u"Uvádí",      u"Žanr",        u"Godina",       u"Země",          u"Rok",
+             u"Produkcija", u"Produkce",    u"Gyártó",       u"Country",       u"Year"});
+        return labels;
+    }();
+    const auto known = kLabels.constFind(label);
+    isKnown = known != kLabels.constEnd();
+    return isKnown ? *known : Credit::Other;
+}
+
+struct CreditLabel {
+    qsizetype start = 0;
+    /// Behind the colon.
+    qsizetype end = 0;
+    Credit credit = Credit::Other;
+};
+
+/// The label that the colon ends: one to three words at the start of a line or behind a sentence, or right
+/// behind a word, as some feeds write it; among credits anywhere.
+std::optional<CreditLabel> labelAt(const QString& text, qsizetype colon, bool isAmongCredits) {
+    constexpr qsizetype kLongestLabel = 24;
+    qsizetype end = colon;
+    if (end > 0 && text[end - 1].isSpace()) {
+        --end;
+    }
+    const bool isFollowed =
+        colon + 1 == text.size() || text[colon + 1].isSpace() || text[colon + 1].isUpper();
+    if (!isFollowed) {
+        return std::nullopt;
+    }
+    int words = 0;
+    for (qsizetype start = end - 1; start >= 0 && end - start <= kLongestLabel; --start) {
+        const QChar before = start == 0 ? QChar(u'\n') : text[start - 1];
+        const bool begins = text[start].isUpper() && !before.isUpper();
+        if (begins) {
+            bool isKnown = false;
+            const Credit credit = creditOf(text.sliced(start, end - start), isKnown);
+            const QChar sign = before == u' ' && start > 1 ? text[start - 2] : before;
+            const bool isApart = before == u'\n' || before.isLower() || (isAmongCredits && before == u' ') ||
+                                 QStringView(u".!?…)]»\"”'’;,").contains(sign);
+            if (isKnown && isApart) {
+                return CreditLabel{start, colon + 1, credit};
+            }
+        }
+        if (before.isSpace() && (before == u'\n' || ++words == 3)) {
+            break;
+        }
+    }
+    return std::nullopt;
+}
 
 /// Removes a remark that there are others.
 QString withoutOthers(const QString& names) {
     static const QRegularExpression kOthers(
-        u"(?:[,;]\\s*|\\s+)(?:u\\.\\s?a\\.(?:\\s?m\\.)?|e altri|ed altri|altri|et al\\.?|a další|a ďalší|a "
+        u"(?:[,;]\\s*|\\s+)(?:u\\.\\s?a\\.?(?:\\s?m\\.?)?|e altri|ed altri|altri|et al\\.?|a další|a ďalší|a "
         u"iní|a jiní|és mások|és még sokan mások|"
         u"i inni|și alții|şi alţii|si altii|κ\\.\\s?ά\\.?|κ\\.\\s?α\\.?|ve diğerleri|i drugi|i dr\\.|i "
         u"ostali|и др\\.?|и други|and others|"
@@ -329,27 +491,22 @@ ReadCredits takeCredits(QString& text) {
     if (!text.contains(u':')) {
         return credits;
     }
-    static const QRegularExpression kLabel(
-        u"(?:^|(?<=[\\n.!?…\\])»\"”'’;,] )|(?<=\\n)|(?<=[\\p{Ll}.!?…\\])»\"”'’]))(?:("_s + kDirectorWords +
-        u")|("_s + kCastWords + u")|("_s + kOtherWords + u"))\\s?:(?:\\s|$)"_s);
-    struct Found {
-        qsizetype start;
-        qsizetype end;
-        int kind;
-    };
-    std::vector<Found> labels;
-    for (auto matches = kLabel.globalMatch(text); matches.hasNext() && labels.size() < 20;) {
-        const auto match = matches.next();
-        const int kind = match.capturedLength(1) > 0 ? 1 : match.capturedLength(2) > 0 ? 2 : 3;
-        labels.push_back({match.capturedStart(), match.capturedEnd(), kind});
+    std::vector<CreditLabel> labels;
+    constexpr std::size_t kMostLabels = 20;
+    for (qsizetype colon = text.indexOf(u':'); colon > 0 && labels.size() < kMostLabels;
+         colon = text.indexOf(u':', colon + 1)) {
+        if (const auto label = labelAt(text, colon, !labels.empty())) {
+            labels.push_back(*label);
+        }
     }
-    if (std::ranges::none_of(labels, [](const Found& found) { return found.kind < 3; })) {
+    if (std::ranges::none_of(labels,
+                             [](const CreditLabel& label) { return label.credit != Credit::Other; })) {
         return credits;
     }
     QString left;
     qsizetype copied = 0;
     for (std::size_t i = 0; i < labels.size(); ++i) {
-        const Found& label = labels[i];
+        const CreditLabel& label = labels[i];
         const qsizetype limit = i + 1 < labels.size() ? labels[i + 1].start : text.size();
         QString value = text.sliced(label.end, limit - label.end);
         qsizetype size = value.size();
@@ -365,17 +522,17 @@ ReadCredits takeCredits(QString& text) {
         // Some feeds cut descriptions within the next label.
         static const QRegularExpression kCutLabel(u"(?<=\\p{Ll})Fő\\p{Ll}*$"_s);
         names.remove(kCutLabel);
-        if (label.kind < 3 && names.isEmpty() && limit == text.size()) {
+        if (label.credit != Credit::Other && names.isEmpty() && limit == text.size()) {
             left += QStringView(text).sliced(copied, label.start - copied);
             copied = text.size();
             continue;
         }
-        const bool isNames =
-            label.kind < 3 && !names.isEmpty() && names.size() <= 1'000 && !names.front().isLower();
+        const bool isNames = label.credit != Credit::Other && !names.isEmpty() && names.size() <= 1'000 &&
+                             !names.front().isLower();
         if (!isNames) {
             continue;
         }
-        std::optional<QString>& field = label.kind == 1 ? credits.directedBy : credits.roles;
+        std::optional<QString>& field = label.credit == Credit::Director ? credits.directedBy : credits.roles;
         field = field ? *field + u", "_s + names : names;
         left += QStringView(text).sliced(copied, label.start - copied);
         copied = label.end + behind;

@@ -49,7 +49,8 @@ bool takeFact(const QString& part, const QString& language, ShowFacts& facts) {
         return true;
     }
     static const QRegularExpression kDecimal(u"^([0-5])[.,](\\d{1,4})$"_s);
-    if (const auto match = kDecimal.match(part); match.hasMatch()) {
+    if (const auto match = part.front().isDigit() ? kDecimal.match(part) : QRegularExpressionMatch();
+        match.hasMatch()) {
         facts.starRating = {(match.captured(1) + u'.' + match.captured(2).first(1)).toDouble(), kMostStars};
         return true;
     }
@@ -66,12 +67,13 @@ bool takeFact(const QString& part, const QString& language, ShowFacts& facts) {
         return true;
     }
     static const QRegularExpression kCodes(u"^[A-Z]{2,3}(?:, [A-Z]{2,3})*$"_s);
-    if (kCodes.match(part).hasMatch()) {
+    if (part == part.toUpper() && kCodes.match(part).hasMatch()) {
         const QStringList codes = part.split(u", "_s);
         facts.countries.assign(codes.begin(), codes.end());
         return true;
     }
-    if (const auto note = productionNote(part, true)) {
+    constexpr qsizetype kLongestCountry = 32;
+    if (const auto note = part.size() <= kLongestCountry ? productionNote(part, true) : std::nullopt) {
         facts.year = note->year ? note->year : facts.year;
         facts.countries = note->countries;
         return true;
@@ -130,7 +132,8 @@ ReadSubtitle readSubtitle(const QString& text, const QString& language) {
     static const QRegularExpression kParts(u"^(.*\\p{L}.*?)[\\s,-]+[(\\[]?(\\d{1,2})/(\\d{1,2})[)\\]]?$"_s);
     QString whole = tidy;
     EpisodeNumber parts;
-    if (const auto match = kParts.match(tidy); match.hasMatch()) {
+    if (const auto match = tidy.contains(u'/') ? kParts.match(tidy) : QRegularExpressionMatch();
+        match.hasMatch()) {
         const int part = match.captured(2).toInt();
         const int count = match.captured(3).toInt();
         if (part >= 1 && part <= count && count > 1) {

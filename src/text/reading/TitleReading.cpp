@@ -45,7 +45,7 @@ class TitleReader {
     }
 
     ReadTitle run() {
-        for (int i = 0; i < kMostTails && (takeBracket() || takeSegment() || takeEnd()); ++i) {
+        for (int i = 0; i < kMostTails && (takeBracket() || takeEnd() || takeSegment()); ++i) {
         }
         takeMiddle();
         return std::move(m_read);
