@@ -54,22 +54,22 @@ constexpr std::array kRows{
         u"auto motor sport|auto motor und sport|ginx esports tv|ginx esports|gametoon|auto moto tv|"
         u"automoto|motorvision|motorvision+|motowizja|esport-24|eclutch-live"},
     Row{kDocumentaries, kChannel,
-        u"dmax|motor trend|discovery|discovery channel|national geographic|nat geo|natgeo|nat geo wild|ngc|ngc wild|"
-        u"animal planet|history|history channel|history 2|viasat history|viasat nature|viasat explore|"
-        u"viasat explorer|spektrum|love nature|bbc earth|docubox|da vinci|ozone tv|travel channel|"
-        u"travel xp|travelxp|travel tv|marcopolo|curiosity|crime investigation|crime+investigation|"
-        u"crime + investigation|crime and inv|investigation discovery|ci crime|id xtra|cs history|"
-        u"cs mystery|viasat true crime|planete|planète|planète+|ushuaia|science channel|"
-        u"discovery science|smithsonian|n24 doku|welt der wunder|spiegel geschichte|geo television|"
-        u"zdfinfo|rai storia|rai scuola|focus|sky nature|sky documentaries|documentaries|documentary|"
-        u"dokument|doku|docu|sky arte|curiosity channel|rmc découverte|national geographic wild|"
-        u"history hit|pbs america|blaze|prima zoom|zoom|nova gold dokument|tvp dokument|tvp historia|"
-        u"tvp nauka|bbc knowledge|animaux|histoire tv|toute l'histoire|viasat nat|русский экстрим|"
-        u"наука|моя планета|живая планета|охота и рыбалка документ|история|trt belgesel|belgesel|"
-        u"da vinci learning|dw documentary|odisea|odisseia|canal de historia|discovery turbo|"
-        u"discovery shed|mt documentary|rtv natura|national geographic people|nature|nat geo people|"
-        u"discoveryshed|discovery id|docu tv|sky crime|cbs reality true|arte doku|curiosity stream|"
-        u"český dokument|dtx|english club"},
+        u"dmax|motor trend|discovery|discovery channel|national geographic|nat geo|natgeo|nat geo wild|"
+        u"ngc|ngc wild|animal planet|history|history channel|history 2|viasat history|viasat nature|"
+        u"viasat explore|viasat explorer|spektrum|love nature|bbc earth|docubox|da vinci|ozone tv|"
+        u"travel channel|travel xp|travelxp|travel tv|marcopolo|curiosity|crime investigation|"
+        u"crime+investigation|crime + investigation|crime and inv|investigation discovery|ci crime|"
+        u"id xtra|cs history|cs mystery|viasat true crime|planete|planète|planète+|ushuaia|"
+        u"science channel|discovery science|smithsonian|n24 doku|welt der wunder|spiegel geschichte|"
+        u"geo television|zdfinfo|rai storia|rai scuola|focus|sky nature|sky documentaries|"
+        u"documentaries|documentary|dokument|doku|docu|sky arte|curiosity channel|rmc découverte|"
+        u"national geographic wild|history hit|pbs america|blaze|prima zoom|zoom|nova gold dokument|"
+        u"tvp dokument|tvp historia|tvp nauka|bbc knowledge|animaux|histoire tv|toute l'histoire|"
+        u"viasat nat|русский экстрим|наука|моя планета|живая планета|охота и рыбалка документ|история|"
+        u"trt belgesel|belgesel|da vinci learning|dw documentary|odisea|odisseia|canal de historia|"
+        u"discovery turbo|discovery shed|mt documentary|rtv natura|national geographic people|nature|"
+        u"nat geo people|discoveryshed|discovery id|docu tv|sky crime|cbs reality true|arte doku|"
+        u"curiosity stream|český dokument|dtx|english club"},
     Row{kNews, kChannelStart, u"24"},
     Row{kDocumentaries, kChannelStart, u"id", u"hu sk cs pl ro hr sr sl bg it"},
     Row{kNews, kChannel,
@@ -112,10 +112,10 @@ constexpr std::array kRows{
         u"sat.1 emotions|warner tv comedy|comedy central|tv2 comedy|jocky tv"},
     // Episodes there hardly ever are of stories.
     Row{kPresented, kChannel,
-        u"rai 5|rai cinque|la7d|tv7|rete 4 show|giallo|nove|cielo|tv8|spíler1|spíler2|spíler|tv2 klub|rtl otthon|life tv|rtl living|quest|"
-        u"quest red|really|5star|rmc story|6ter|ozone tv|funbox|d1|wedo|la5|la 5|prima show|"
-        u"markíza klasik show|vox|voxup|rtl zwei|rtlzwei|kabel eins|e4 extra|channel 5 reality|w|tlc|"
-        u"travel|ert3|vouli|m3|m5|duna world|tv noe|noe|tvp polonia"},
+        u"rai 5|rai cinque|la7d|tv7|rete 4 show|giallo|nove|cielo|tv8|spíler1|spíler2|spíler|tv2 klub|"
+        u"rtl otthon|life tv|rtl living|quest|quest red|really|5star|rmc story|6ter|ozone tv|funbox|d1|"
+        u"wedo|la5|la 5|prima show|markíza klasik show|vox|voxup|rtl zwei|rtlzwei|kabel eins|e4 extra|"
+        u"channel 5 reality|w|tlc|travel|ert3|vouli|m3|m5|duna world|tv noe|noe|tvp polonia"},
     Row{kAdult, kChannel,
         u"comedy central|adult swim|fox|prosieben|pro7|prosieben maxx|tv2 comedy|mtv|e4|syfy|dmax|itv2|"
         u"viasat 6|viasat6|prima cool|italia 1|italia uno|warner tv comedy|w9|tfx|one|puls 4|viasat 3|"

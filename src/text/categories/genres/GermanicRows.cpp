@@ -9,6 +9,10 @@ namespace {
 // clang-format off
 constexpr std::array kRows{
     // German
+    Row{kFiction, kName, u"Familie|Kriegsfilm|Liebe|Historie"},
+    Row{kForChildren, kName, u"Jugend|Jugend/Familie|Kinder/Jugend"},
+    Row{kDocumentaries, kName, u"Dokumentationen|Dokus|Reportagen|Länder|Umwelt"},
+    Row{kEntertainment, kName, u"Theater|Comedy-Show|Gameshow|Casting|Haus und Garten|Essen & Trinken"},
     Row{kSeries, kKind,
         u"Serie|*serie|Fernsehserie|Daily Soap|Dailysoap|Soap|*soap|Sitcom|Telenovela|Miniserie|"
         u"Britcom|Familienchronik|Comedyserie|Serien|Seifenoper|Anthologieserie", u"de nl"},
@@ -138,6 +142,10 @@ constexpr std::array kRows{
     Row{kPresented, kText,
         u"Moderator*|moderier*|Kandidat*|Gäste|Gast|Magazin*|Sendung|Experten|Rezept*|präsentiert", u"de"},
     // English
+    Row{kEntertainment, kName,
+        u"Home improvement|Standup|Stand-up comedy|Consumer|Exercise|Theater|Theatre|Beauty|Parade|DIY"},
+    Row{kDocumentaries, kName, u"Art|Aviation|Archaeology|Anthropology|Geography"},
+    Row{kFiction, kName, u"Family|Historical|Musical comedy|Holiday"},
     Row{kSeries, kKind | kText,
         u"Sitcom|sitcoms|soap opera|telenovela|comedy series|drama series|crime series|tv series|"
         u"miniseries|comedy drama series|crime drama series|police drama|medical drama|period drama|"
@@ -230,6 +238,10 @@ constexpr std::array kRows{
         u"host|hosts|hosted|presenter|presented by|presents|contestants|experts|guests|recipes|viewers|"
         u"homeowners|chef|competitors|tonight's", u"en id"},
     // Dutch
+    Row{kCrime, kName, u"misdaad|politieserie"},
+    Row{kFiction, kName, u"actie|romantiek|oorlog"},
+    Row{kDocumentaries, kName, u"reizen|kunst|cultuur|dieren"},
+    Row{kEntertainment, kName, u"koken|wonen|gezondheid|mode|tuinieren|lifestyleprogramma"},
     Row{kSeries, kKind, u"serie|series|comedyserie|dramaserie|misdaadserie|soapserie|jeugdserie", u"nl"},
     Row{kMovies, kName, u"speelfilm|actiefilm|misdaadfilm|televisiefilm"},
     Row{kComedy, kName, u"komedie|komische film", u"nl"},

@@ -9,6 +9,8 @@ namespace {
 // clang-format off
 constexpr std::array kRows{
     // Hungarian
+    Row{kFiction, kName, u"családi|történelmi|életrajzi|háborús|katasztrófa|misztikus"},
+    Row{kEntertainment, kName, u"szabadidős műsor|szabadidos-musor|gasztro|életmód műsor"},
     Row{kSeries, kKind,
         u"*sorozat|filmsorozat|tévéfilmsorozat|telenovella|szappanopera|tévésorozat|krimisorozat|"
         u"szitkom|drámasorozat|vígjátéksorozat|akciófilm-sorozat|akciófilmsorozat|kalandfilmsorozat|"
@@ -153,6 +155,7 @@ constexpr std::array kRows{
     Row{kEntertainment, kText,
         u"doku-reality*|realityben|realityje|reality-je|valóságshow*|talkshow*|főzőverseny*|kvízjáték*", u"hu"},
     // Greek
+    Row{kFiction, kName, u"κοινωνική|ρομαντική|σατιρική|ιστορική|βιογραφία|πολεμική|μυστήριο"},
     Row{kSeries, kKind,
         u"σειρά|τηλεοπτική σειρά|κωμική σειρά|δραματική σειρά|ελληνική σειρά|ξένη σειρά|τούρκικη σειρά|"
         u"κοινωνική σειρά|αστυνομική σειρά|σαπουνόπερα|σίριαλ|σειρές|καθημερινή σειρά|"
@@ -259,6 +262,8 @@ constexpr std::array kRows{
         u"εκπομπή|παρουσιάζει|παρουσίαση|παρουσιαστής|παρουσιάστρια|καλεσμένος|καλεσμένοι|καλεσμένη|"
         u"συνεντεύξεις|οικοδεσπότης|διαγωνιζόμενοι", u"el"},
     // Turkish
+    Row{kFiction, kName, u"aile|tarihi|savaş|biyografi|gizem"},
+    Row{kEntertainment, kName, u"sağlık|moda|kuşak|yaşam tarzı"},
     Row{kSeries, kKind,
         u"dizi|yerli dizi|yabancı dizi|dizi film|diziler|drama dizisi|komedi dizisi|polisiye dizi|"
         u"pembe dizi|durum komedisi|mini dizi", u"tr"},
@@ -295,6 +300,7 @@ constexpr std::array kRows{
     Row{kSports, kTitleStart, u"spor|futbol|basketbol|voleybol|süper lig|trendyol süper lig", u"tr"},
     Row{kNothing, kName, u"reklam|tanıtım|dini|din|kapanış|istiklal marşı|alışveriş|teleshop"},
     // Latvian, Lithuanian and Estonian
+    Row{kHorror, kName, u"šausmas|šausmu filma|siaubo filmas|õudus"},
     Row{kSeries, kKind,
         u"seriāls|seriāli|komēdijseriāls|krimināldrāma seriāls|detektīvseriāls|daudzsēriju filma|"
         u"serialas|serialai|sari|telesari|draamasari|komöödiasari|krimisari|telenovele|seriālu|"

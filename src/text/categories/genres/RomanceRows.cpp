@@ -9,13 +9,14 @@ namespace {
 // clang-format off
 constexpr std::array kRows{
     // Italian
+    Row{kSeries, kName, u"Telefilm", u"it tr ro"},
     Row{kSeries, kKind,
         u"Serie Tv|Telefilm|Fiction|Sit Com|Sit-com|Sitcom|Soap Opera|Miniserie|Mini Serie|"
         u"Miniserie TV|Telenovela|Serie Drammatica|Serie D'avventura|Serie comica|Serie poliziesca|"
         u"Sketch Com|Serie Televisiva|Serial|Telenovelas|Fiction Tv|Dramma Soap|Serie di fantascienza|"
         u"Serie commedia", u"it"},
     Row{kSeries, kName,
-        u"Serie Tv|Telefilm|Sit Com|Sit-com|Soap Opera|Mini Serie|Miniserie TV|Serie Drammatica|"
+        u"Serie Tv|Sit Com|Sit-com|Soap Opera|Mini Serie|Miniserie TV|Serie Drammatica|"
         u"Serie D'avventura|Sketch Com|Teleromanzo|Serie"},
     Row{kSeries, kText,
         u"serie tv|soap opera|fiction italiana|serie televisiva|telefilm|miniserie|serie poliziesca|"
@@ -125,6 +126,7 @@ constexpr std::array kRows{
         u"ospiti|ospite|interviste|chef|ricette|puntata del|rubrica|esperti|approfondimento|giuria|"
         u"casa d'aste|proprietari|appuntamento", u"it"},
     // French
+    Row{kMovies, kName, u"téléfilm|film policier|film d'action|court métrage|cinéma|long métrage"},
     Row{kSeries, kKind,
         u"série|série télévisée|série policière|série dramatique|série comique|série Suspense|"
         u"série Passion|série Rires|série Action|feuilleton|série de comédie|mini-série|"
@@ -136,7 +138,7 @@ constexpr std::array kRows{
     Row{kMovies, kKind,
         u"téléfilm|long métrage|court métrage|film|film Suspense|film Passion|film Action|"
         u"film policier|film d'action|téléfilm dramatique|téléfilm policier|cinéma|court-métrage|"
-        u"film de guerre|film d'animation"},
+        u"film de guerre|film d'animation", u"fr"},
     Row{kComedy, kKind,
         u"comédie|film comique|comédie dramatique|comédie sentimentale|comédie policière|"
         u"comédie romantique"},
@@ -203,6 +205,9 @@ constexpr std::array kRows{
         u"magazine religieux|messe|publicité"},
     Row{kNation, kLead, u"frança*|américain*|britannique*|allemand*|italien*|canadien*", u"fr"},
     // Spanish and Portuguese
+    Row{kEntertainment, kName,
+        u"magacín|magazine de actualidad|tertulia|toros|tauromaquia|programa|talk-show de humor"},
+    Row{kDocumentaries, kName, u"viajes|viagens|ciencia|ciência|historia|história|cultura"},
     Row{kSeries, kKind,
         u"serie de televisión|teleserie|serie dramática|comedia de situación|serie de acción|"
         u"serie de comedia|telecomedia|novela|telenovela|seriado|série de drama|sitcom|serie española|"
@@ -242,6 +247,8 @@ constexpr std::array kRows{
     Row{kNothing, kName,
         u"televenta|teletienda|televendas|programación para adultos|sin información|cierre"},
     // Romanian
+    Row{kDocumentaries, kName, u"educativ|călătorii|științific|natură și animale"},
+    Row{kFiction, kName, u"familie|biografic|istoric|mister|crimă"},
     Row{kSeries, kKind,
         u"serial|seriale|telenovelă|serial polițist|serial de comedie|serial dramatic|serial TV|"
         u"serial american|serial românesc|serial turcesc|miniserial", u"ro"},

@@ -9,6 +9,10 @@ namespace {
 // clang-format off
 constexpr std::array kRows{
     // Czech and Slovak
+    Row{kFiction, kName,
+        u"rodinný|historický|mysteriózní|mysteriózny|psychologický|katastrofický|hudební film|válečný|"
+        u"vojnový"},
+    Row{kDocumentaries, kName, u"vzdělávání|vzdělávací pořad|cestování|cestovanie"},
     Row{kSeries, kKind,
         u"seriál|seriálu|seriály|krimiseriál|sitcom|telenovela|telenovely|minisérie|miniséria|sitkom|"
         u"mýdlová opera|séria|série|situační komedie|komediální seriál|dramatický seriál|"
@@ -146,12 +150,15 @@ constexpr std::array kRows{
         u"poľsk*|maďarsk*|rakousk*|rakúsk*|švédsk*|dánsk*|norsk*|tureck*|rusk*|ruský|japonsk*|původní|"
         u"pôvodný|pôvodná|koprodukčn*|kultov*", u"cs sk"},
     Row{kPresented, kText,
-        u"zpovídá|spovedá|pořad|pořadu|relácia|relácie|relácii|moderátor*|moderuje|moderuj*|soutěžící*|súťažiac*|hosté|"
-        u"hostia|hostem|hosťom|rozhovor*|soutěž*|súťaž*|porota|kuchař*|kuchár*|recept*|odborníci|"
-        u"odborník*|představí|predstaví|majitelé|renovuj*|designér*|dizajnér*|skutečné příběhy|"
-        u"skutočné príbehy|skutecne pribehy|zákazní*|nevěst*|nevest*|dražb*|dražeb*|seznamte se|"
-        u"magazín*|reportér*|publicist*|dokument*", u"cs sk"},
+        u"zpovídá|spovedá|pořad|pořadu|relácia|relácie|relácii|moderátor*|moderuje|moderuj*|soutěžící*|"
+        u"súťažiac*|hosté|hostia|hostem|hosťom|rozhovor*|soutěž*|súťaž*|porota|kuchař*|kuchár*|recept*|"
+        u"odborníci|odborník*|představí|predstaví|majitelé|renovuj*|designér*|dizajnér*|"
+        u"skutečné příběhy|skutočné príbehy|skutecne pribehy|zákazní*|nevěst*|nevest*|dražb*|dražeb*|"
+        u"seznamte se|magazín*|reportér*|publicist*|dokument*", u"cs sk"},
     // Polish
+    Row{kFiction, kName, u"sensacyjny|akcja|wojenny|obyczajowy|familijny|sensacja"},
+    Row{kDocumentaries, kName, u"przyrodniczy|historyczny|edukacyjny|popularnonaukowy|kultura|nauka"},
+    Row{kEntertainment, kName, u"kulinaria|kulinarny|paradokumentalny|zdrowie|moda|styl życia"},
     Row{kSeries, kKind,
         u"serial|serial kryminalny|serial obyczajowy|serial komediowy|serial fabularny|"
         u"serial sensacyjny|telenowela|serial dramatyczny|serial animowany dla dorosłych|"
@@ -205,6 +212,13 @@ constexpr std::array kRows{
     Row{kNothing, kName, u"telezakupy|reklama|program religijny|zakończenie programu|msza święta"},
     Row{kNation, kLead, u"polsk*|amerykańsk*|angielsk*|niemieck*|francusk*|turecki", u"pl"},
     // Croatian, Serbian, Bosnian, Slovene
+    Row{kFiction, kName, u"povijesni|psihološki|misterija|ratna drama|mjuzikl|istorijski|misterij"},
+    Row{kDocumentaries, kName,
+        u"kulturni|putovanja|prirodoslovni|povijesni dokumentarni|edukativni program|lov i ribolov"},
+    Row{kSports, kName, u"boks|automobilizam|moto sport|borilačke vještine|vodeni sportovi"},
+    Row{kEntertainment, kName, u"kulinarika|resničnostni šov|rijaliti|moda|zdravlje|kuhanje"},
+    Row{kAdventure, kName, u"pustolovski"},
+    Row{kForChildren, kName, u"teen|za mlade|mladi"},
     Row{kSeries, kKind,
         u"serija|serije|seriju|TV serija|humoristična serija|dramska serija|kriminalistička serija|"
         u"igrana serija|telenovela|sapunica|nadaljevanka|nanizanka|mini serija|mini-serija|"
