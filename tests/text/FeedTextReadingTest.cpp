@@ -143,6 +143,15 @@ TEST(TitleReading, TakesOnlyTailsThatAreRecognised) {
         {"it", u"Better Call Roby - 1^TV", u"Better Call Roby", u"New"},
         {"it", u"Amici (NUOVO)", u"Amici", u"New"},
         {"cs", u"Film [ST,AD,HD]", u"Film", u""},
+        {"bg", u"Новини /п/", u"Новини", u"Repeat"},
+        {"sr", u"Вести (р)", u"Вести", u"Repeat"},
+        {"de", u"Tatort (Wh. vom Vortag)", u"Tatort", u"Repeat"},
+        {"bg", u"Стъклен дом (сериал, сезон 2, еп. 5)", u"Стъклен дом", u"S2 E5"},
+        {"lv", u"Ugunsgrēks 12. sērija", u"Ugunsgrēks", u"E12"},
+        {"de", u"Harry Potter - Teil 2", u"Harry Potter - Teil 2", u""},
+        {"de", u"Buddenbrooks (Teil 2)", u"Buddenbrooks", u"P2"},
+        {"en", u"England, my England - I", u"England, my England - I", u""},
+        {"en", u"Sergap (L)", u"Sergap (L)", u""},
         // Blanks.
         {"cs", u"  Dva\\nTři   čtyři\u00a0", u"Dva Tři čtyři", u""},
     };
@@ -179,6 +188,7 @@ TEST(TitleCapitals, KeepAcronymsAndFollowTheLanguage) {
         {"el", u"ΛΟΓΟΣ ΚΑΙ ΠΑΘΟΣ", u"Λογος Και Παθος"},
         {"nl", u"HET IJS", u"Het IJs"},
         {"hr", u"DNEVNIK", u"Dnevnik"},
+        {"en", u"QI XL", u"QI XL"},
         {"de", u"SOKO LEIPZIG", u"SOKO Leipzig"},
         {"hr", u"LJETO U GRADU IV", u"Ljeto U Gradu IV"},
         {"de", u"iCarly", u"iCarly"},
@@ -199,6 +209,7 @@ TEST(SubtitleReading, TakesFactsAndKeepsTheRest) {
         {"sk", u"Epizoda 1", nullptr, u"E1"},
         {"sk", u"1. část", nullptr, u"P1"},
         {"en", u"5183", nullptr, u"E5183"},
+        {"en", u"3, Series 45", nullptr, u"S45 E3"},
         {"sk", u"Šťastie je ako motýľ 2/2", u"Šťastie je ako motýľ", u"P2/2"},
         {"en", u"The Gift (1/2)", u"The Gift", u"P1/2"},
         {"fr", u"Saison 1 Episode 2 : Le retour", u"Le retour", u"S1 E2"},
@@ -288,6 +299,16 @@ TEST(DescriptionReading, TakesCreditsByTheirLabels) {
         EXPECT_EQ(credits.directedBy, expected(row.directedBy)) << text(row.text).toStdString();
         EXPECT_EQ(credits.roles, expected(row.roles)) << text(row.text).toStdString();
     }
+}
+
+TEST(DescriptionReading, TakesNamesOnLinesAtTheEnd) {
+    const ReadDescription read = readDescription(
+        u"Un detective indaga.\nTony Wharmby\nChris O'Donnell - G. Callen\nLL Cool J - Sam Hanna."_s,
+        u"it"_s);
+    EXPECT_EQ(read.text, u"Un detective indaga."_s);
+    EXPECT_EQ(read.credits.directedBy, u"Tony Wharmby"_s);
+    EXPECT_EQ(read.credits.roles, u"Chris O'Donnell - G. Callen, LL Cool J - Sam Hanna"_s);
+    EXPECT_FALSE(readDescription(u"Heute im Programm.\nNeue Folge\nMit Gästen"_s, u"de"_s).credits.roles);
 }
 
 TEST(TextTidying, ClosesOnlyOpenSentences) {

@@ -115,6 +115,24 @@ const FeedTexts::Each* chosen(const FeedTexts& texts, std::string_view language)
     return best;
 }
 
+/// Some feeds repeat the title in front of the subtitle, or in its place.
+void removeTitle(std::optional<QString>& subtitle, const QString& title) {
+    if (!subtitle || !subtitle->startsWith(title, Qt::CaseInsensitive)) {
+        return;
+    }
+    const QStringView rest = QStringView(*subtitle).sliced(title.size());
+    if (rest.isEmpty()) {
+        subtitle.reset();
+        return;
+    }
+    for (const QStringView joint : {QStringView(u" - "), QStringView(u": ")}) {
+        if (rest.startsWith(joint) && rest.size() > joint.size()) {
+            subtitle = rest.sliced(joint.size()).toString();
+            return;
+        }
+    }
+}
+
 std::optional<QString> stringOf(const FeedTexts::Each* text) {
     return text ? std::optional(feedString(text->text)) : std::nullopt;
 }
@@ -226,6 +244,7 @@ std::optional<ExtendedTVEntry> FeedShowMaker::make(const FeedShow& show, const F
         if (!finished.subtitle1) {
             finished.subtitle1 = title.subtitle;
         }
+        removeTitle(finished.subtitle1, title.shown);
     } else {
         std::optional<QString> subtitle = texts.subtitle;
         if (subtitle) {
@@ -298,6 +317,13 @@ void FeedShowMaker::cleanTexts(CleanedDescription& cleaned, ShowFacts& facts, co
         if (reading.readsFacts) {
             completeFacts(facts, read.facts);
         }
+        const auto complete = [](std::optional<QString>& names, std::optional<QString>& from) {
+            if (!names) {
+                names = std::move(from);
+            }
+        };
+        complete(cleaned.roles, read.credits.roles);
+        complete(cleaned.directedBy, read.credits.directedBy);
         cleaned.description = isFeedPlaceholder(read.text) ? QString() : std::move(read.text);
     }
     if (reading.knowsCreditLabels && cleaned.description) {

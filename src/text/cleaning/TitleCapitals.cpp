@@ -33,10 +33,10 @@ const QSet<QString>& acronyms() {
               u"SOS",  u"SPFL", u"SRF",  u"STV",  u"SUV",  u"SWAT", u"SWR",    u"TBA",  u"TCR",  u"TG",
               u"TGR",  u"TLC",  u"TNA",  u"TNT",  u"TRT",  u"TSN",  u"TV",     u"TVE",  u"TVN",  u"TVP",
               u"TVR",  u"UAE",  u"UCI",  u"UCL",  u"UEFA", u"UFC",  u"UFO",    u"UHD",  u"UK",   u"UN",
-              u"US",   u"USA",  u"USB",  u"VH1",  u"VIP",  u"VOX",  u"WBC",    u"WDR",  u"WHO",  u"WNBA",
-              u"WRC",  u"WTA",  u"WTF",  u"WWE",  u"WWF",  u"XXL",  u"XXX",    u"ZDF",  u"ZIB",  u"БНТ",
-              u"БТВ",  u"БГ",   u"ЕС",   u"САЩ",  u"САД",  u"СССР", u"ТВ",     u"РТС",  u"МРТ",  u"УЕФА",
-              u"НБА"}) {
+              u"US",   u"USA",  u"USB",  u"VH1",  u"VIP",  u"VOX",  u"WBC",    u"WDR",  u"WEC",  u"MMA",
+              u"WHO",  u"WNBA", u"WRC",  u"WTA",  u"WTF",  u"WWE",  u"WWF",    u"XXL",  u"XXX",  u"ZDF",
+              u"ZIB",  u"БНТ",  u"БТВ",  u"БГ",   u"ЕС",   u"САЩ",  u"САД",    u"СССР", u"ТВ",   u"РТС",
+              u"МРТ",  u"УЕФА", u"НБА"}) {
             set.insert(QStringView(each).toString());
         }
         return set;
@@ -75,10 +75,27 @@ bool looksLikeCode(QStringView word) {
     return isDotted;
 }
 
+/// Whether the title is nothing but a few letters, as "QI" or "QI XL".
+bool areAcronyms(QStringView title) {
+    constexpr int kMostTogether = 3;
+    constexpr int kMostLetters = 4;
+    int together = 0;
+    int letters = 0;
+    for (const QChar unit : title) {
+        together = unit.isLetter() ? together + 1 : 0;
+        letters += unit.isLetter() ? 1 : 0;
+        const bool isGreek = unit.script() == QChar::Script_Greek;
+        if (together > kMostTogether || letters > kMostLetters || isGreek) {
+            return false;
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 QString withoutCapitals(const QString& title, const QString& language) {
-    if (!isInCapitals(title)) {
+    if (!isInCapitals(title) || areAcronyms(title)) {
         return title;
     }
     const QLocale locale = language.isEmpty() ? QLocale::c() : QLocale(language);

@@ -237,6 +237,10 @@ struct Token {
         if (!m_label) {
             const bool isWord = kind == Word && text.size() <= 12;
             m_label = isWord ? labelOf(foldedText(text)) : Label::None;
+            // Latvian for an episode, elsewhere for a series.
+            if (isWord && (text == u"sērija" || text == u"Sērija")) {
+                m_label = Label::Episode;
+            }
         }
         return *m_label;
     }
@@ -546,6 +550,10 @@ class NotationParser {
             return true;
         }
         const bool isLast = m_at + ahead == m_tokens.size();
+        // "(L)" is a show that is live.
+        if (peek()->text == u"L") {
+            return false;
+        }
         if (isLast && (m_isSeparate || (hasDot && m_isHungarian))) {
             m_at += ahead;
             set(Label::Season, *roman);

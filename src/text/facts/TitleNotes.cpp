@@ -38,16 +38,17 @@ QSet<QString> keys(std::initializer_list<const char16_t*> words) {
 
 const QSet<QString>& repeatMarks() {
     static const QSet<QString> kMarks =
-        keys({u"r",       u"rep",         u"repeat",      u"rpt",          u"rerun",        u"e",
-              u"ε",       u"επ",          u"επαν",        u"επανάληψη",    u"σε επανάληψη", u"reluare",
-              u"rel",     u"repetare",    u"opak",        u"opakování",    u"opakovanie",   u"repríza",
-              u"repriza", u"repr",        u"reprise",     u"repris",       u"rediff",       u"rediffusion",
-              u"redif",   u"wh",          u"wdh",         u"wiederholung", u"ism",          u"ismétlés",
-              u"replica", u"in replica",  u"repl",        u"powt",         u"powtórka",     u"powtórzenie",
-              u"tekrar",  u"tekrarı",     u"ponavljanje", u"pon",          u"ponovitev",    u"ponovljeno",
-              u"ponovno", u"reprizno",    u"повторение",  u"повт",         u"повтор",       u"реприза",
-              u"репр",    u"п",           u"herh",        u"herhaling",    u"repetición",   u"repetição",
-              u"atk",     u"atkārtojums", u"atkārt",      u"повторно",     u"повторення",   u"r iz arhive"});
+        keys({u"r",          u"rep",        u"repeat",      u"rpt",          u"rerun",        u"e",
+              u"ε",          u"επ",         u"επαν",        u"επανάληψη",    u"σε επανάληψη", u"reluare",
+              u"rel",        u"repetare",   u"opak",        u"opakování",    u"opakovanie",   u"repríza",
+              u"repriza",    u"repr",       u"reprise",     u"repris",       u"rediff",       u"rediffusion",
+              u"redif",      u"wh",         u"wdh",         u"wiederholung", u"ism",          u"ismétlés",
+              u"replica",    u"in replica", u"repl",        u"powt",         u"powtórka",     u"powtórzenie",
+              u"tekrar",     u"tekrarı",    u"ponavljanje", u"pon",          u"ponovitev",    u"ponovljeno",
+              u"ponovno",    u"reprizno",   u"повторение",  u"повт",         u"повтор",       u"реприза",
+              u"репр",       u"п",          u"р",           u"herh",         u"herhaling",    u"repetición",
+              u"repetição",  u"atk",        u"atkārtojums", u"atkārt",       u"повторно",     u"повторення",
+              u"r iz arhive"});
     return kMarks;
 }
 
@@ -60,6 +61,12 @@ const QSet<QString>& newMarks() {
                                               u"nuovi episodi",
                                               u"nuove puntate",
                                               u"prima visione",
+                                              u"1 visione tv",
+                                              u"1 visione",
+                                              u"1atv",
+                                              u"in premieră",
+                                              u"premieră tv",
+                                              u"премиера по бтв",
                                               u"prima tv",
                                               u"1 tv",
                                               u"1a tv",
@@ -947,7 +954,10 @@ Newness newnessMark(QStringView text, bool isBracketed) {
     if (key.size() <= 2 && !isBracketed && key != u"új") {
         return Newness::Unknown;
     }
-    if (repeatMarks().contains(key)) {
+    // "(Wh. vom Vortag)", "(repriza od subote)".
+    const QStringView first = QStringView(key).first(std::max<qsizetype>(key.indexOf(u' '), 0));
+    const bool isLong = isBracketed && (first.size() >= 6 || first == u"wh" || first == u"wdh");
+    if (repeatMarks().contains(key) || (isLong && repeatMarks().contains(first.toString()))) {
         return Newness::Repeat;
     }
     return newMarks().contains(key) ? Newness::New : Newness::Unknown;

@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kMostNotes = 8;
 constexpr qsizetype kLongestMark = 50;
+constexpr qsizetype kLongestName = 100;
 constexpr qsizetype kLongestOriginalTitle = 150;
 
 class DescriptionReader {
@@ -30,6 +31,7 @@ class DescriptionReader {
 
     ReadDescription run() {
         // These are told by their lines.
+        takeNames();
         takeProductionLine();
         takeAirTime();
         takeOriginalTitle();
@@ -88,6 +90,41 @@ class DescriptionReader {
         add(facts.episode);
         m_read.facts.ageRating = facts.ageRating;
         text().remove(0, match.capturedLength());
+    }
+
+    /// Names at the end, each on a line, perhaps with a role: "Kevin James - Doug". In front of names with
+    /// roles, one without is the director.
+    void takeNames() {
+        static const QRegularExpression kName(
+            u"^\\p{Lu}[\\p{L}'’.\\-]*(?: (?:\\p{L}[\\p{L}'’.\\-]*|[“\"][^“”\"]+[”\"])){1,4}( [-–] \\S.{0,60})?$"_s);
+        if (text().count(u'\n') < 2) {
+            return;
+        }
+        QStringList lines = text().trimmed().split(u'\n');
+        QStringList names;
+        int roles = 0;
+        while (lines.size() > 1 && lines.constLast().size() <= kLongestName) {
+            QString line = lines.constLast().trimmed();
+            if (names.isEmpty() && line.endsWith(u'.')) {
+                line.chop(1);
+            }
+            const auto match = kName.match(line);
+            if (!match.hasMatch()) {
+                break;
+            }
+            roles += match.capturedLength(1) > 0 ? 1 : 0;
+            names.prepend(line);
+            lines.removeLast();
+        }
+        const QString before = lines.constLast().trimmed();
+        if (names.size() < (roles > 0 ? 2 : 3) || before.isEmpty() || before.back().isLetterOrNumber()) {
+            return;
+        }
+        if (roles > 0 && roles == names.size() - 1 && !names.constFirst().contains(u" - "_s)) {
+            m_read.credits.directedBy = names.takeFirst();
+        }
+        m_read.credits.roles = names.join(u", "_s);
+        text() = lines.join(u'\n');
     }
 
     /// Lines that repeat when the show is on.

@@ -157,6 +157,10 @@ ReadSubtitle readSubtitle(const QString& text, const QString& language) {
             rest.remove(0, found->end + joint.capturedLength());
         }
     }
+    if (const auto number = episodeNotation(rest, language)) {
+        completeEpisode(read.facts.episode, *number);
+        return read;
+    }
     // One pair of brackets around the whole.
     if (rest.startsWith(u'(') && rest.indexOf(u')') == rest.size() - 1 && rest.size() > 2) {
         rest = rest.sliced(1, rest.size() - 2).trimmed();

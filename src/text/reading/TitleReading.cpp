@@ -45,7 +45,8 @@ class TitleReader {
     }
 
     ReadTitle run() {
-        for (int i = 0; i < kMostTails && (takeBracket() || takeEnd() || takeSegment()); ++i) {
+        for (int i = 0; i < kMostTails && (takeBracket() || takeSlashes() || takeEnd() || takeSegment());
+             ++i) {
         }
         takeMiddle();
         return std::move(m_read);
@@ -65,6 +66,36 @@ class TitleReader {
 
     void add(const EpisodeNumber& number) { completeEpisode(m_read.facts.episode, number); }
 
+    /// Whether a notation that is not in brackets may well belong to the name: ", 3", " - I", "- Teil 2".
+    bool mayBeName(QStringView note, const EpisodeNumber& number, qsizetype left) const {
+        const bool hasLetter = std::ranges::any_of(note, [](QChar unit) { return unit.isLetter(); });
+        if (!hasLetter) {
+            return true;
+        }
+        const bool isComma = QStringView(m_read.title).sliced(left).startsWith(u',');
+        const bool isPart = number.part && !number.season && !number.episode;
+        const bool isRoman = number.season && !number.episode && std::ranges::none_of(note, [](QChar unit) {
+                                 return unit.isLower() || unit.isDigit();
+                             });
+        return (isPart && !isComma) || (isRoman && (!isComma || note == u"I"));
+    }
+
+    /// "(сериал, еп. 5)": every part is a note.
+    bool takeNotes(QStringView notes, qsizetype left) {
+        const QList<QStringView> parts = notes.split(u',');
+        const ReadTitle before = m_read;
+        const QString title = m_read.title;
+        bool isKnown = parts.size() > 1;
+        for (qsizetype i = 0; isKnown && i < parts.size(); ++i) {
+            m_read.title = title;
+            isKnown = takeNote(parts[i], true, left);
+        }
+        if (!isKnown) {
+            m_read = before;
+        }
+        return isKnown;
+    }
+
     /// Takes what the note says into the facts.
     bool takeNote(QStringView note, bool isBracketed, qsizetype left) {
         note = note.trimmed();
@@ -82,18 +113,13 @@ class TitleReader {
         if (production && (isBracketed || !isBareYear)) {
             return shorten(left) && set(*production);
         }
-        if (const auto number = episodeNotation(note, m_language)) {
-            // ", 3" behind a comma may well belong to the name.
-            const bool isBare = !isBracketed && std::ranges::all_of(note, [](QChar unit) {
-                return unit.isDigit() || unit == u'.' || unit == u'/';
-            });
-            if (!isBare) {
-                if (!shorten(left)) {
-                    return false;
-                }
-                add(*number);
-                return true;
+        if (const auto number = episodeNotation(note, m_language);
+            number && (isBracketed || !mayBeName(note, *number, left))) {
+            if (!shorten(left)) {
+                return false;
             }
+            add(*number);
+            return true;
         }
         if (isGenreNote(note)) {
             const QString genre = note.toString();
@@ -139,7 +165,16 @@ class TitleReader {
         if (open <= 0) {
             return false;
         }
-        return takeNote(title.sliced(open + 1, title.size() - open - 2), true, open);
+        const QString note = title.sliced(open + 1, title.size() - open - 2).toString();
+        return takeNote(note, true, open) || takeNotes(note, open);
+    }
+
+    /// "/п/", "/R/".
+    bool takeSlashes() {
+        const QStringView title(m_read.title);
+        const qsizetype open = title.endsWith(u'/') ? title.chopped(1).lastIndexOf(u'/') : -1;
+        return open > 0 && title[open - 1].isSpace() &&
+               takeNote(title.sliced(open + 1, title.size() - open - 2), true, open);
     }
 
     static QStringView withoutTrailing(QStringView text) {
