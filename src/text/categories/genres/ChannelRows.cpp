@@ -90,7 +90,7 @@ constexpr std::array kRows{
         u"travel & cooking|food tv|discovery home|lifestyle|mediaset extra|охота и рыбалка|кухня|"
         u"кухня тв|еда|усадьба|домашний магазин|domo+|polsat cafe|tvn style|e! entertainment|"
         u"e entertainment|comedy club|bbc lifestyle|ginx|classtvmoda|rtl living|lov a rybolov|"
-        u"trace hobby|caccia e pesca|horse tv hd|donna tv|mtv|mtv hungary|mtv italia"},
+        u"trace hobby|caccia e pesca|donna tv|mtv|mtv hungary|mtv italia"},
     Row{kMovies, kChannel,
         u"sky cinema|canal+ action|cinema|cine|filmbox|film+|film4|film 4|film café|film mánia|mozi|"
         u"mozi+|mozi klub|moziverzum|magyar mozi|hbo|hbo2|hbo3|hbo 2|hbo 3|cinemax|cinestar|movies|"
@@ -105,11 +105,11 @@ constexpr std::array kRows{
     Row{kSeries, kChannel,
         u"sorozat|sorozat+|sorozat klub|epic drama|sky serie|sky series|sky investigation|sky atlantic|"
         u"warner tv serie|serien|series|serie|séries|seriale|axn black|axn white|13th street|fox crime|"
-        u"universal tv|syfy|topcrime|top crime|rtl crime|markíza krimi|barrandov krimi|krimi|izaura tv|"
-        u"telenovela|novela|novelas|romance tv|pasiones|13eme rue|13ème rue|série club|serie club|"
-        u"bbc first|star crime|серіал|сериал|диема family|dizi|tele novela|wp serial|cbs drama|"
-        u"canal+ séries|ocs géants|нтв сериал|русский детектив|русский бестселлер|rtl passion|"
-        u"sat.1 emotions|warner tv comedy|comedy central|tv2 comedy|jocky tv"},
+        u"universal tv|syfy|topcrime|top crime|rtl crime|markíza krimi|izaura tv|telenovela|novela|"
+        u"novelas|romance tv|pasiones|13eme rue|13ème rue|série club|serie club|bbc first|star crime|"
+        u"серіал|сериал|диема family|dizi|tele novela|wp serial|cbs drama|canal+ séries|ocs géants|"
+        u"нтв сериал|русский детектив|русский бестселлер|rtl passion|sat.1 emotions|warner tv comedy|"
+        u"comedy central|tv2 comedy|jocky tv"},
     // Episodes there hardly ever are of stories.
     Row{kPresented, kChannel,
         u"rai 5|rai cinque|la7d|tv7|rete 4 show|giallo|nove|cielo|tv8|spíler1|spíler2|spíler|tv2 klub|"

@@ -268,22 +268,22 @@ constexpr std::array kRows{
         u"documental"},
     // Neither
     Row{kNothing, kTitle,
-        u"teleshopping|teleshopping block|teleshop|infomercial|paid programming|dauerwerbesendung|"
-        u"mediashop|qvc|hse|televendita|televendite|télé-achat|téléachat|téléshopping|telezakupy|"
-        u"telenákup|telenakup|top shop|teleprodaja|tv prodaja|tv-prodaja|tele prodaja|telekupovina|"
-        u"oglasni blok|epp|sendeschluss|sendepause|programmende|close down|closedown|"
-        u"fin des programmes|fine trasmissioni|programmes de la nuit|konec vysílání|koniec vysielania|"
-        u"přestávka ve vysílání|prestávka vo vysielaní|závěr vysílání|záver vysielania|kraj programa|"
-        u"najava programa|reklamni blok|konec programu|τηλεπώλησης|τηλεπώληση|ende der übertragung|"
-        u"studio aperto promo|műsorszünet|adásszünet|this channel is now closed|no information|"
-        u"no programme|sign off|off air|to be announced|tba|nema informacija|"
-        u"nema informacija o programu|keine sendungsinformationen|keine informationen|nevysiela|"
-        u"noční tabule|monoscopio|test card|announcement|schlusstag|εκπομπές τηλεοπτικών αγορών|"
-        u"τηλεαγορές|τηλεπωλήσεις|τηλεμάρκετινγκ|gottesdienst|heilige messe|santa messa|svatá mše|"
-        u"svätá omša|szentmise|istentisztelet|holy mass|la messe|teleshopping programme|"
-        u"messaggio promozionale|promo|marketing|reklama|werbung|publicité|anuncios|propagační blok|"
-        u"program end|закрытие эфира|телемагазин|телешопинг|shopping|commercials|tentative|rosario|"
-        u"angelus|rožaj|ruženec|růženec|rózsafüzér"},
+        u"klenot tv|teleshopping|teleshopping block|teleshop|infomercial|paid programming|"
+        u"dauerwerbesendung|mediashop|qvc|hse|televendita|televendite|télé-achat|téléachat|"
+        u"téléshopping|telezakupy|telenákup|telenakup|top shop|teleprodaja|tv prodaja|tv-prodaja|"
+        u"tele prodaja|telekupovina|oglasni blok|epp|sendeschluss|sendepause|programmende|close down|"
+        u"closedown|fin des programmes|fine trasmissioni|programmes de la nuit|konec vysílání|"
+        u"koniec vysielania|přestávka ve vysílání|prestávka vo vysielaní|závěr vysílání|"
+        u"záver vysielania|kraj programa|najava programa|reklamni blok|konec programu|τηλεπώλησης|"
+        u"τηλεπώληση|ende der übertragung|studio aperto promo|műsorszünet|adásszünet|"
+        u"this channel is now closed|no information|no programme|sign off|off air|to be announced|tba|"
+        u"nema informacija|nema informacija o programu|keine sendungsinformationen|keine informationen|"
+        u"nevysiela|noční tabule|monoscopio|test card|announcement|schlusstag|"
+        u"εκπομπές τηλεοπτικών αγορών|τηλεαγορές|τηλεπωλήσεις|τηλεμάρκετινγκ|gottesdienst|"
+        u"heilige messe|santa messa|svatá mše|svätá omša|szentmise|istentisztelet|holy mass|la messe|"
+        u"teleshopping programme|messaggio promozionale|promo|marketing|reklama|werbung|publicité|"
+        u"anuncios|propagační blok|program end|закрытие эфира|телемагазин|телешопинг|shopping|"
+        u"commercials|tentative|rosario|angelus|rožaj|ruženec|růženec|rózsafüzér"},
 };
 // clang-format on
 
