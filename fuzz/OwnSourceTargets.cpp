@@ -5,6 +5,7 @@
 #include "fakes/Files.h"
 #include "fakes/Packing.h"
 #include "fakes/Zipping.h"
+#include "parsers/own/OwnFeedReader.h"
 #include "parsers/own/SourcePreviewReader.h"
 #include "parsers/playlists/ChannelMatching.h"
 #include "parsers/playlists/FeedChannels.h"
@@ -13,6 +14,7 @@
 #include "parsers/xmltv/ProgrammeSkipScan.h"
 #include "platform/encoding/TextFile.h"
 #include "platform/encoding/Utf8.h"
+#include "platform/memory/ManualClock.h"
 
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -110,6 +112,28 @@ void previewSource(QByteArrayView bytes) {
     }
 }
 
+/// Part: a file.
+void readOwn(QByteArrayView bytes) {
+    static const ManualClock clock{Moment{std::chrono::sys_days(std::chrono::year(2026) / 11 / 20)}};
+    static const Alphabet alphabet;
+    ObjectId::Bytes id{0xff};
+    const ObjectId channel(id);
+    const FuzzInput input(bytes);
+    OwnFeed feed = readOwnFeed(
+        fileWith(input.whole()), charsetOf(input),
+        {{.channel = channel, .feedChannel = QStringLiteral("a.cz"), .language = QStringLiteral("cs")}},
+        {.clock = clock, .alphabet = alphabet, .physicalMemory = kMemory});
+    std::optional<Moment> last;
+    for (const ExtendedTVEntry& show : feed.lists[channel]) {
+        const TVEntry& entry = *show.basic;
+        require(entry.identificator() && !entry.identificator()->isEmpty(), "a show has a title");
+        require(entry.dateTime() && entry.endDateTime() && *entry.dateTime() < *entry.endDateTime(),
+                "a show ends after its start");
+        require(!last || *last < *entry.dateTime(), "shows are sorted and start at different times");
+        last = entry.dateTime();
+    }
+}
+
 QByteArray zipped(const QByteArray& content) {
     const QString path = fileWith({});
     require(test::writeZip(path, {{"a.txt", "a"}, {"b.xml", content}}), "the archive can be written");
@@ -147,6 +171,19 @@ std::vector<FuzzTarget> ownSourceTargets() {
          .seeds = seeds,
          .literals = {"parsers/own/SourceText.cpp", "parsers/own/PreviewFeed.cpp",
                       "parsers/own/EveningNews.cpp", "parsers/xmltv/FeedScan.cpp"},
+         .maxMemoryPerByte = 0},
+        {.name = "own-feed",
+         .run = readOwn,
+         .seeds =
+             [seeds] {
+                 std::vector<QByteArray> all = seeds();
+                 all.push_back(
+                     fuzzInput({R"(<tv><programme channel="a.cz" start="20261121000000"><title>A & B</title>
+</programme><programme channel="a.cz" start="20261121010000 Z" stop="20261123010000 Z"><title lang="cs">A</title><title>B</title>
+<episode-num system="xmltv_ns">1.2/3.</episode-num><previously-shown/></programme></tv>)"}));
+                 return all;
+             },
+         .literals = {"parsers/xmltv/XMLTVSaxParser.cpp", "parsers/xmltv/FeedElementFacts.cpp"},
          .maxMemoryPerByte = 0},
         {.name = "windows",
          .run = readWindows,

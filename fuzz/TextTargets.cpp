@@ -7,7 +7,12 @@
 #include "text/cleaning/FeedTextCleaning.h"
 #include "text/cleaning/MarkupText.h"
 #include "text/cleaning/TextPatterns.h"
+#include "text/cleaning/TextTidying.h"
+#include "text/cleaning/TitleCapitals.h"
 #include "text/display/Transliteration.h"
+#include "text/reading/DescriptionReading.h"
+#include "text/reading/SubtitleReading.h"
+#include "text/reading/TitleReading.h"
 #include "text/search/FoldedText.h"
 #include "text/search/MatchWord.h"
 
@@ -60,6 +65,40 @@ void cleanTexts(QByteArrayView bytes) {
                           .directedBy = std::nullopt},
                          QStringLiteral("guide.example"));
     require(cleaned.description->size() <= given[1].size() + 1, "a description grows by at most a full stop");
+}
+
+void requireFacts(const ShowFacts& facts) {
+    const EpisodeNumber& episode = facts.episode;
+    for (const auto& number :
+         {episode.season, episode.episode, episode.episodes, episode.part, episode.parts, facts.year}) {
+        require(!number || (*number > 0 && *number < 10'000), "a number that is known counts something");
+    }
+    require(!facts.originalTitle || !facts.originalTitle->isEmpty(), "an original title is not empty");
+}
+
+/// Texts of feeds that a person added.
+void readTexts(QByteArrayView bytes) {
+    const FuzzInput input(bytes);
+    const std::vector<QString> given = texts(input, 3);
+    static const std::array<QString, 4> kLanguages{QString(), QStringLiteral("hu"), QStringLiteral("el"),
+                                                   QStringLiteral("tr")};
+    const QString& language = kLanguages[given[1].size() % kLanguages.size()];
+    for (const QString& text : given) {
+        const ReadTitle title = readTitle(text, language);
+        require(title.title.isEmpty() == tidiedTitle(text).isEmpty(), "a title is not read away");
+        require(title.title.size() <= text.size() && title.title == title.title.trimmed(), "a title is tidy");
+        requireFacts(title.facts);
+        require(withoutCapitals(title.title, language).size() <= 3 * title.title.size(),
+                "a title does not grow without bound");
+        const ReadSubtitle subtitle = readSubtitle(text, language);
+        require(!subtitle.subtitle || !subtitle.subtitle->isEmpty(), "a subtitle is not empty");
+        requireFacts(subtitle.facts);
+        ReadDescription description = readDescription(text, language);
+        requireFacts(description.facts);
+        takeCredits(description.text);
+        closeSentence(description.text);
+        require(description.text.size() <= text.size() + 1, "a description grows by at most a full stop");
+    }
 }
 
 void decodeTexts(QByteArrayView bytes) {
@@ -130,6 +169,19 @@ std::vector<FuzzTarget> textTargets() {
          .seeds = feedTexts,
          .literals = {"text/cleaning/TitleCleaning.cpp", "text/cleaning/SubtitleCleaning.cpp",
                       "text/cleaning/DescriptionCleaning.cpp"}},
+        {.name = "text-reading",
+         .run = readTexts,
+         .seeds =
+             [] {
+                 return std::vector<QByteArray>{
+                     fuzzInput({"Simone - Stag. 4 Ep. 2 - Il ladro (R)", "S1E2 ║ A ║ Reality, Show ║ US ║ 12",
+                                "(D|F) 2017 • S3 E6 • FSK 6\nText.\nOriginaltitel\nA\nRegie: Anna Berg"}),
+                     fuzzInput({"ΛΑΜΑ (Β' ΚΥΚΛΟΣ) (Ε)", "Bing II./6.", "Film. Rendezte: A BFőszereplők: C"},
+                               1),
+                     fuzzInput({"Titanic, film (SAD/1997)", "3. díl", "Text. [S,AD] S6 Ep12/24"}, 2)};
+             },
+         .literals = {"text/facts/EpisodeNotation.cpp", "text/facts/TitleNotes.cpp",
+                      "text/reading/DescriptionReading.cpp"}},
         {.name = "markup-text",
          .run = decodeTexts,
          .seeds = markup,

@@ -246,6 +246,7 @@ TEST(DescriptionReading, TakesFactsOffBothEnds) {
         {"it", u"Ep5 di 10 - I ragazzi", u"I ragazzi", u"E5/10"},
         {"el", u"Eπεισόδιο 44 - «Φασόλια»", u"«Φασόλια»", u"E44"},
         {"el", u"[Κ16 - Περιέχει βία]. Α΄ τηλεοπτική προβολή. Κωμωδία.", u"Κωμωδία.", u"age=Κ16 New"},
+        {"el", u"Ντοκιμαντέρ Eπεισόδιο 4 - Γιούκον", u"Ντοκιμαντέρ - Γιούκον", u"E4"},
         {"sk", u"Text filmu. (skryte titulky)", u"Text filmu.", u""},
         {"it", u"Un film. Titolo originale: The Gift. Con molti attori.", u"Un film. Con molti attori.",
          u"orig=The Gift"},

@@ -732,6 +732,8 @@ const GenreWords& genreWords() {
                                          u"krimiserie",
                                          u"fernsehserie",
                                          u"ταινια",
+                                         u"παιδικο",
+                                         u"παιδικη σειρα",
                                          u"σειρα",
                                          u"ντοκιμαντερ",
                                          u"κωμωδια",

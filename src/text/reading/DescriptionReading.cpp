@@ -20,6 +20,7 @@ namespace {
 constexpr int kMostNotes = 8;
 constexpr qsizetype kLongestMark = 50;
 constexpr qsizetype kLongestName = 100;
+constexpr qsizetype kLongestGenre = 20;
 constexpr qsizetype kLongestOriginalTitle = 150;
 
 class DescriptionReader {
@@ -241,6 +242,9 @@ class DescriptionReader {
                 return true;
             }
         }
+        if (takeBehindGenre(all)) {
+            return true;
+        }
         const auto found = episodeAtStart(all, m_language, NotationPlace::Description);
         if (!found || found->start > 0) {
             return false;
@@ -255,6 +259,21 @@ class DescriptionReader {
         // "3. dio serije": the words go on.
         add(found->number);
         removeHead(found->end + end.capturedLength());
+        return true;
+    }
+
+    /// "Ντοκιμαντέρ Επεισόδιο 4 - Title": the genre stays.
+    bool takeBehindGenre(QStringView all) {
+        const qsizetype blank = all.indexOf(u' ');
+        if (blank < 3 || blank > kLongestGenre || !isGenreNote(all.first(blank))) {
+            return false;
+        }
+        const auto found = episodeAtStart(all.sliced(blank + 1), m_language, NotationPlace::Description);
+        if (!found || found->start > 0) {
+            return false;
+        }
+        add(found->number);
+        text().remove(blank, found->end + 1);
         return true;
     }
 
