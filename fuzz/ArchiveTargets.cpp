@@ -31,14 +31,38 @@ void readArchive(QByteArrayView bytes) {
     }
     const auto again = unarchivedShows(archivedShows(*shows), alphabet);
     require(again && again->size() == shows->size(), "a list that was read can be archived again");
+    for (std::size_t i = 0; i < shows->size(); ++i) {
+        const auto& facts = (*shows)[i].entry()->facts();
+        const auto& kept = (*again)[i].entry()->facts();
+        require(facts ? kept && *kept == *facts : !kept, "its facts are the same again");
+    }
 }
 
 void readPropertyList(QByteArrayView bytes) {
     propertyListFromData(FuzzInput(bytes).whole());
 }
 
+/// An archive of one show with every fact.
+QByteArray archiveWithFacts() {
+    static const Alphabet alphabet;
+    ShowFacts facts;
+    facts.originalTitle = QStringLiteral("The Harbour");
+    facts.episode = {1, 2, 3, 4, 5};
+    facts.year = 1999;
+    facts.countries = {QStringLiteral("CZ"), QStringLiteral("SK")};
+    facts.ageRating = QStringLiteral("12");
+    facts.starRating = StarRating{7.5, 10};
+    facts.newness = Newness::New;
+    const auto entry = std::make_shared<TVEntry>(alphabet);
+    entry->setIdentificator(QStringLiteral("Přístav"));
+    entry->setDateTime(Moment(std::chrono::hours(500'000)));
+    entry->setFacts(std::make_shared<const ShowFacts>(facts));
+    return archivedShows(ShowItems{ShowItem(entry)});
+}
+
 std::vector<QByteArray> archives() {
-    std::vector<QByteArray> seeds;
+    std::vector<QByteArray> seeds{fuzzInput({archiveWithFacts()}, 0),
+                                  fuzzInput({archiveWithFacts().sliced(kArchiveHeaderSize)}, 1)};
     for (const char* format : {"xmltv", "hbo"}) {
         for (const QString& stem : test::recordedStems(QString::fromLatin1(format))) {
             const test::RecordedCall call(stem);

@@ -202,9 +202,10 @@ class ShowDecoder {
         if (m_unarchiver.failed()) {
             return nullptr;
         }
-        if (mostStars > 0) {
-            facts.starRating = {static_cast<double>(stars) / kPerStar,
-                                static_cast<double>(mostStars) / kPerStar};
+        if (const StarRating rating{static_cast<double>(stars) / kPerStar,
+                                    static_cast<double>(mostStars) / kPerStar};
+            isRating(rating)) {
+            facts.starRating = rating;
         }
         if (isNew) {
             facts.newness = *isNew ? Newness::New : Newness::Repeat;

@@ -109,15 +109,7 @@ TEST_F(DetailViewControllerTest, ShowsTheTextsThatTheShowHas) {
 TEST_F(DetailViewControllerTest, ShowsTheFactsOfTheShowOnce) {
     open(30, [](ExtendedTVEntry& show) {
         show.basic->setSubtitle1(u"S2E5 ║ Part one ║ Drama ║ CZ ║ 2016 ║ 12 ║ 3,8"_s);
-        ShowFacts facts;
-        facts.originalTitle = u"The very first of its kind"_s;
-        facts.episode = {2, 5, 10, 1, {}};
-        facts.year = 2016;
-        facts.countries = {u"CZ"_s, u"Francie"_s};
-        facts.ageRating = u"12"_s;
-        facts.starRating = StarRating{7.25, 10};
-        facts.newness = Newness::New;
-        show.basic->setFacts(std::make_shared<const ShowFacts>(facts));
+        show.basic->setFacts(everyFact(u"The very first of its kind"_s));
         show.extra = nullptr;
     });
     EXPECT_EQ(QString(head().facts).replace(QChar(QChar::Nbsp), u' '),
@@ -128,8 +120,8 @@ TEST_F(DetailViewControllerTest, ShowsTheFactsOfTheShowOnce) {
         facts << text.title + u": "_s + text.detail + text.subtitle;
     }
     EXPECT_EQ(facts, QStringList({u"Original title: The very first of its kind"_s,
-                                  u"Episode: Season 2 · Episode 5 of 10 · Part 1"_s, u"Year: 2016"_s,
-                                  u"Country: Czechia, Francie"_s, u"Age rating: 12+"_s,
+                                  u"Episode: Season 2 · Episode 5 of 10 · Part 1 of 2"_s, u"Year: 2016"_s,
+                                  u"Country: Czechia, France"_s, u"Age rating: 12+"_s,
                                   u"Rating: 7.3 of 10 stars"_s}));
 }
 

@@ -183,7 +183,21 @@ struct WorldShow {
     QSet<QUrl> pictures = {};
     TVListingsCategory categories = 0;
     QString description = {};
+    std::shared_ptr<const ShowFacts> facts = {};
 };
+
+/// Every fact that a feed can tell of a show.
+inline std::shared_ptr<const ShowFacts> everyFact(const QString& originalTitle) {
+    ShowFacts facts;
+    facts.originalTitle = originalTitle;
+    facts.episode = {2, 5, 10, 1, 2};
+    facts.year = 2016;
+    facts.countries = {u"CZ"_s, u"FR"_s};
+    facts.ageRating = u"12"_s;
+    facts.starRating = StarRating{7.3, 10};
+    facts.newness = Newness::New;
+    return std::make_shared<const ShowFacts>(std::move(facts));
+}
 
 /// A temporary folder, a manual clock and manual queues.
 struct ManualSurroundings {
@@ -247,6 +261,7 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
         basic->setDateTime(begin + std::chrono::minutes(show.from));
         basic->setEndDateTime(begin + std::chrono::minutes(show.until));
         basic->setIdentificator(show.title);
+        basic->setFacts(show.facts);
         if (!show.details.isEmpty()) {
             basic->setInstantDetails1(show.details);
         }

@@ -17,7 +17,8 @@ class SearchViewControllerTest : public testing::Test {
         world.start();
         world.load(one, {{-30, 30, u"Žena v šume"_s, u"Drama"_s},
                          {30, 60, u"Vijesti"_s, {}, {}, 0, u"O čemu se govori: zene i ljudi"_s}});
-        world.load(two, {{0, 60, u"Zenit"_s}, {60 * 24, 60 * 25, u"Sutra"_s, u"o ženama"_s}});
+        world.load(two, {{0, 60, u"Zenit"_s, {}, {}, 0, {}, everyFact(u"Über Größe"_s)},
+                         {60 * 24, 60 * 25, u"Sutra"_s, u"o ženama"_s}});
         world.tabs->setSelectedIndex(kTab);
         world.show();
     }
@@ -61,6 +62,9 @@ TEST_F(SearchViewControllerTest, ShowsTheResultsByDayAndMarksTheMatches) {
     EXPECT_EQ(showAt(table(), 1).channelName, u"Dva"_s);
     EXPECT_TRUE(showAt(table(), 0).running && !showAt(table(), 2).running);
     EXPECT_EQ(showAt(table(), 0).endTime, u"08:00pm"_s);
+    type(u"uber gross"_s);
+    ASSERT_EQ(table().rowCount(), 1) << "by the original title";
+    EXPECT_EQ(marked(0), u"(Über Größ)"_s);
 }
 
 TEST_F(SearchViewControllerTest, TheResultsStayUntilTheNextOnesArrive) {

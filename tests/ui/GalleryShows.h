@@ -55,7 +55,14 @@ inline void fillWithEvening(ScreenWorld& world) {
     world.popular.titles = {u"Doktoři z pohoří"_s, u"Вечерний концерт для скрипки с оркестром"_s};
 
     std::vector<WorldShow> week{
-        {0, 65, u"Doktoři z pohoří"_s, u"Seriál ČR (2024), Návrat ztraceného syna (12/26)"_s},
+        {0,
+         65,
+         u"Doktoři z pohoří"_s,
+         u"Seriál ČR (2024), Návrat ztraceného syna (12/26)"_s,
+         {},
+         0,
+         {},
+         everyFact(u"Die Bergärzte und ihre nicht immer einfachen Kinder"_s)},
         {65, 80, u"Večerní zprávy"_s, u"Události dne doma i ve světě"_s},
         {80, 190, u"Příliš žluťoučký kůň a jeho podivuhodná cesta kolem světa"_s,
          u"Dobrodružný film ČR/Francie (2019). Mladý hřebec uteče ze stáda a vydá se za hlasem, který "
