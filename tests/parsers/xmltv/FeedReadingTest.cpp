@@ -1,6 +1,7 @@
 #include "parsers/ShowJSON.h"
 #include "parsers/xmltv/FeedListEnds.h"
 #include "parsers/xmltv/XMLTVToEntries.h"
+#include "store/ScheduleQueries.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -177,6 +178,27 @@ TEST(FeedReading, FactsComeFromElements) {
         const QString tail = *expected == '\0' ? QString() : u" | "_s + QString::fromUtf8(expected);
         EXPECT_EQ(summary(channel.entries.front()), u"T"_s + tail) << elements;
         EXPECT_TRUE(channel.entries.front().pictures.isEmpty()) << elements;
+    }
+}
+
+TEST(FeedReading, RulesForPremieresLeaveOutNothingButReplays) {
+    const std::pair<QByteArray, Newness> rows[] = {
+        {"<title>A</title>", Newness::Unknown},
+        {"<title>A</title><new/>", Newness::New},
+        {"<title>A</title><premiere/>", Newness::New},
+        {"<title>A</title><new/><previously-shown/>", Newness::Unknown},
+        {"<title>A (R)</title><new/>", Newness::Unknown},
+        {"<title>A</title><previously-shown/>", Newness::Repeat},
+        {"<title>A (R)</title>", Newness::Repeat},
+    };
+    for (const auto& [elements, newness] : rows) {
+        const FeedChannelEntries channel = read(at(10, elements), ownReading(), u"cs"_s);
+        ASSERT_EQ(channel.entries.size(), 1U) << elements.constData();
+        const auto& facts = channel.entries.front().basic->facts();
+        EXPECT_EQ(facts ? facts->newness : Newness::Unknown, newness) << elements.constData();
+        const auto shows = std::make_shared<const ShowItems>(ShowItems{ShowItem(channel.entries.front())});
+        const AllShows all({std::make_shared<const ChannelList>(shows)}, Moment::min());
+        EXPECT_EQ(isBroadcast(all, u"A"_s, false, kNow), newness != Newness::Repeat) << elements.constData();
     }
 }
 
