@@ -1540,10 +1540,6 @@ Počkejte, až se program načte.</translation>
         <translation>Původní název</translation>
     </message>
     <message>
-        <source>Episode</source>
-        <translation>Díl</translation>
-    </message>
-    <message>
         <source>Year</source>
         <translation>Rok</translation>
     </message>

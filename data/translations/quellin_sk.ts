@@ -1540,10 +1540,6 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Pôvodný názov</translation>
     </message>
     <message>
-        <source>Episode</source>
-        <translation>Časť</translation>
-    </message>
-    <message>
         <source>Year</source>
         <translation>Rok</translation>
     </message>

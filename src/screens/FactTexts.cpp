@@ -2,6 +2,7 @@
 
 #include "core/own/KnownFeeds.h"
 #include "screens/Localized.h"
+#include "screens/ShowTexts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,6 +14,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kStar = u'★';
+/// Lines do not break in it.
+constexpr qsizetype kShortFact = 30;
 /// More than that belongs to no scale of stars.
 constexpr double kMostStars = 100;
 
@@ -38,7 +41,7 @@ QString episodeText(const EpisodeNumber& number) {
         parts << (number.parts ? Localized::tr("Part %1 of %2").arg(*number.part).arg(*number.parts)
                                : Localized::tr("Part %1").arg(*number.part));
     }
-    return parts.join(u" · "_s);
+    return parts.join(kBetweenFacts);
 }
 
 QString countriesText(const std::vector<QString>& countries, const QLocale& locale) {
@@ -57,31 +60,36 @@ QString ageText(const QString& rating) {
     return areDigits(rating) ? rating + u'+' : rating;
 }
 
-QString starsText(const StarRating& stars, const QLocale& locale) {
+QString starsText(const std::optional<StarRating>& stars, const QLocale& locale) {
+    if (!stars || stars->most <= 0 || stars->most > kMostStars) {
+        return {};
+    }
     const auto number = [&locale](double value) {
         return locale.toString(value, 'f', value == std::floor(value) ? 0 : 1);
     };
-    return Localized::tr("%1 of %2 stars").arg(number(stars.value), number(stars.most));
+    return Localized::tr("%1 of %2 stars").arg(number(stars->value), number(stars->most));
 }
 
 } // namespace
 
-std::vector<LabelledFact> labelledFacts(const ShowFacts& facts, const QLocale& locale) {
-    std::vector<LabelledFact> labelled;
-    const auto add = [&labelled](const QString& label, const QString& value) {
-        if (!value.isEmpty()) {
-            labelled.push_back({label, value});
-        }
+QStringList factLines(const ShowFacts& facts, const QLocale& locale) {
+    const auto labelled = [](const QString& label, const QString& value) {
+        return value.isEmpty() ? QString() : label + u": "_s + value;
     };
-    add(Localized::tr("Original title"), facts.originalTitle.value_or(QString()));
-    add(Localized::tr("Episode"), episodeText(facts.episode));
-    add(Localized::tr("Year"), facts.year ? QString::number(*facts.year) : QString());
-    add(Localized::tr("Country"), countriesText(facts.countries, locale));
-    add(Localized::tr("Age rating"), ageText(facts.ageRating.value_or(QString())));
-    if (facts.starRating && facts.starRating->most > 0 && facts.starRating->most <= kMostStars) {
-        add(Localized::tr("Rating"), starsText(*facts.starRating, locale));
+    QStringList line{labelled(Localized::tr("Year"), facts.year ? QString::number(*facts.year) : QString()),
+                     labelled(Localized::tr("Country"), countriesText(facts.countries, locale)),
+                     labelled(Localized::tr("Age rating"), ageText(facts.ageRating.value_or(QString()))),
+                     labelled(Localized::tr("Rating"), starsText(facts.starRating, locale))};
+    line.removeAll(QString());
+    for (QString& fact : line) {
+        if (fact.size() <= kShortFact) {
+            fact.replace(u' ', QChar(QChar::Nbsp));
+        }
     }
-    return labelled;
+    QStringList lines{labelled(Localized::tr("Original title"), facts.originalTitle.value_or(QString())),
+                      episodeText(facts.episode), line.join(kBetweenFacts)};
+    lines.removeAll(QString());
+    return lines;
 }
 
 QString newnessText(Newness newness) {

@@ -6,20 +6,11 @@
 #include <QString>
 #include <QStringList>
 
-#include <vector>
-
 namespace guide {
 
-/// A fact of a show and what it is.
-struct LabelledFact {
-    QString label;
-    QString value;
-
-    friend bool operator==(const LabelledFact&, const LabelledFact&) = default;
-};
-
-/// Original title, episode, year, countries, age rating and stars: those that are known.
-std::vector<LabelledFact> labelledFacts(const ShowFacts& facts, const QLocale& locale);
+/// What is known beside the texts, a few words a fact: the original title, the episode, and in one line year,
+/// countries, age rating and stars.
+QStringList factLines(const ShowFacts& facts, const QLocale& locale);
 
 /// Whether the broadcast is new or a replay; empty when the source does not say.
 QString newnessText(Newness newness);

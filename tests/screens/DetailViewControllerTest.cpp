@@ -114,15 +114,12 @@ TEST_F(DetailViewControllerTest, ShowsTheFactsOfTheShowOnce) {
     });
     EXPECT_EQ(QString(head().facts).replace(QChar(QChar::Nbsp), u' '),
               u"Jedna · Today · 19:00–20:00 · 1 h · New · Drama"_s);
-    QStringList facts;
-    for (const Row& row : table().sections().back().rows) {
-        const auto& text = std::get<TextRow>(row.content);
-        facts << text.title + u": "_s + text.detail + text.subtitle;
-    }
-    EXPECT_EQ(facts, QStringList({u"Original title: The very first of its kind"_s,
-                                  u"Episode: Season 2 · Episode 5 of 10 · Part 1 of 2"_s, u"Year: 2016"_s,
-                                  u"Country: Czechia, France"_s, u"Age rating: 12+"_s,
-                                  u"Rating: 7.3 of 10 stars"_s}));
+    const auto& facts = std::get<ParagraphRow>(table().sections()[2].rows.front().content).text;
+    EXPECT_EQ(QString(facts).replace(QChar(QChar::Nbsp), u' ').split(u'\n'),
+              QStringList({u"Original title: The very first of its kind"_s,
+                           u"Season 2 · Episode 5 of 10 · Part 1 of 2"_s,
+                           u"Year: 2016 · Country: Czechia, France · Age rating: 12+ · "
+                           "Rating: 7.3 of 10 stars"_s}));
 }
 
 TEST_F(DetailViewControllerTest, ShowsOnlyTheHeadOfAShowWithoutTexts) {

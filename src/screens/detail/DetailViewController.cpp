@@ -25,8 +25,6 @@ constexpr auto kActions = "actions"_L1;
 constexpr auto kAlarm = "alarm"_L1;
 constexpr auto kFacts = "facts"_L1;
 constexpr auto kShowAll = "show all"_L1;
-/// Fits beside its label.
-constexpr qsizetype kShortFact = 20;
 constexpr qsizetype kPeopleShown = 10;
 /// Of the one archive of past broadcasts.
 constexpr auto kArchiveLanguage = "hr"_L1;
@@ -105,11 +103,16 @@ void DetailViewController::loadContent() {
     if (m_favourite) {
         sections.push_back(favouriteSection());
     }
+    if (const auto& facts = entry().facts(); facts) {
+        const QStringList lines = factLines(*facts, m_environment->device.locale());
+        if (!lines.isEmpty()) {
+            sections.push_back(
+                {.id = kFacts,
+                 .rows = {{.id = rowId(kFacts, kFacts), .content = ParagraphRow{lines.join(u'\n')}}}});
+        }
+    }
     for (const ShowGroup& group : showGroups(m_show, m_environment->alphabet)) {
         sections.push_back(groupSection(group));
-    }
-    if (Section facts = factSection(); !facts.rows.empty()) {
-        sections.push_back(std::move(facts));
     }
     table().setSections(std::move(sections));
 }
@@ -202,22 +205,6 @@ Section DetailViewController::groupSection(const ShowGroup& group) const {
                                 .content = ButtonRow{Localized::tr("Show all %n", nullptr,
                                                                    static_cast<int>(hidden + kPeopleShown))},
                                 .selectable = true});
-    }
-    return section;
-}
-
-Section DetailViewController::factSection() const {
-    Section section{.id = kFacts};
-    const std::shared_ptr<const ShowFacts> facts = entry().facts();
-    if (!facts) {
-        return section;
-    }
-    for (const LabelledFact& fact : labelledFacts(*facts, m_environment->device.locale())) {
-        const bool isShort = fact.value.size() <= kShortFact;
-        section.rows.push_back({.id = rowId(section.id, fact.label),
-                                .content = TextRow{.title = fact.label,
-                                                   .subtitle = isShort ? QString() : fact.value,
-                                                   .detail = isShort ? fact.value : QString()}});
     }
     return section;
 }

@@ -57,8 +57,6 @@ class DetailViewController final : public ListingsScreen {
                    const QString& title);
     Section favouriteSection() const;
     Section groupSection(const ShowGroup& group) const;
-    /// What the source says beside the texts.
-    Section factSection() const;
 
     void loadDetails();
     void askForIMDbLink();
