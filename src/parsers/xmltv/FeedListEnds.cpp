@@ -27,6 +27,18 @@ qsizetype richnessOf(const ExtendedTVEntry& show) {
     return size;
 }
 
+/// Of two shows that start together. A show that is listed twice ends with the later one: the earlier end
+/// would leave a gap.
+void keepRicher(ExtendedTVEntry& kept, ExtendedTVEntry& other) {
+    if (richnessOf(other) > richnessOf(kept)) {
+        std::swap(kept, other);
+    }
+    const std::optional<Moment>& end = other.basic->endDateTime();
+    if (end && kept.basic->endDateTime() && kept.basic->identificator() == other.basic->identificator()) {
+        kept.basic->setEndDateTime(std::max(*end, *kept.basic->endDateTime()));
+    }
+}
+
 } // namespace
 
 void repairEnds(FeedChannelEntries& channel) {
@@ -39,8 +51,8 @@ void repairEnds(FeedChannelEntries& channel) {
                 shows[kept] = std::move(shows[i]);
             }
             ++kept;
-        } else if (richnessOf(shows[i]) > richnessOf(shows[kept - 1])) {
-            shows[kept - 1] = std::move(shows[i]);
+        } else {
+            keepRicher(shows[kept - 1], shows[i]);
         }
     }
     shows.erase(shows.begin() + static_cast<std::ptrdiff_t>(kept), shows.end());

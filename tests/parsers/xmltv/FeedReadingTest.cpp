@@ -224,6 +224,7 @@ TEST(FeedReading, EndsAreRepairedOncePerList) {
         {"long, with nothing between", show("0100", "2300", "Night"), "Night 01:00-23:00"},
         {"the richer one", show("0900", "1000", "A") + show("0900", "0930", "A longer title"),
          "A longer title 09:00-09:30"},
+        {"listed twice", show("0900", "0930", "A") + show("0900", "1000", "A"), "A 09:00-10:00"},
         {"nobody ends before its start, unsorted", show("1000", "", "B") + show("0900", "", "A"),
          "A 09:00-10:00 B 10:00-11:00"},
     };
