@@ -69,8 +69,9 @@ void FeedScan::scan(std::string* kept) {
         if (part == Markup::Whole) {
             continue;
         }
-        m_isCut = m_isCut || (part == Markup::Unfinished && isTooLong(mark, end));
-        if (!m_isCut && (part == Markup::Doubtful || m_isLast)) {
+        const bool isEndless = part == Markup::Unfinished && isTooLong(mark, end);
+        m_isCut = m_isCut || (isEndless && ++m_endlessCount > kMostEndless);
+        if (!m_isCut && (part == Markup::Doubtful || isEndless || m_isLast)) {
             // Declarations in front of the feed hide nothing.
             m_isMalformed = m_isMalformed || part == Markup::Unfinished || mark[1] != '!' || m_hasRoot;
             m_keepsAll = true;
@@ -154,7 +155,6 @@ Markup FeedScan::skipProgramme(const char* mark) {
         }
     }
     if (isTooLong(mark, end)) {
-        m_isCut = true;
         return Markup::Unfinished;
     }
     const auto isKept = m_events.programme(tag, contentOf(tag, end));

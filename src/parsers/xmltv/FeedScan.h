@@ -31,8 +31,10 @@ class FeedScanEvents {
 /// same lists as for the whole feed if that is well-formed, and otherwise at least those.
 class FeedScan {
   public:
-    /// An element, comment or section that is longer ends the feed.
+    /// An element, comment or section that is longer has lost its end; what is in it is looked at instead.
     static constexpr std::size_t kLongestElement = std::size_t{4} << 20;
+    /// More of them end the feed: each is read to that length.
+    static constexpr int kMostEndless = 16;
     static constexpr std::size_t kWindow = std::size_t{256} << 10;
 
     /// Everything must outlive this object.
@@ -75,6 +77,7 @@ class FeedScan {
     bool m_keepsAll = false;
     bool m_isMalformed = false;
     bool m_isCut = false;
+    int m_endlessCount = 0;
     bool m_isLast = false;
     bool m_hasRoot = false;
     bool m_hasEnded = false;

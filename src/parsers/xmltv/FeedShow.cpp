@@ -141,7 +141,7 @@ std::optional<QString> stringOf(const FeedTexts::Each* text) {
 std::optional<QString> namesOf(const FeedTexts& elements) {
     QString names;
     for (const FeedTexts::Each& each : elements.all()) {
-        QString name = tidiedTitle(feedString(each.text));
+        QString name = withoutOthers(tidiedTitle(feedString(each.text)));
         // The role is missing.
         if (name.endsWith(" als"_L1)) {
             name.chop(4);

@@ -28,6 +28,10 @@ using ErrorPointer = xmlErrorPtr;
 constexpr std::size_t kEntityAllowance = 10'000'000;
 constexpr std::size_t kNowhere = std::string_view::npos - 1;
 constexpr std::size_t kLeastElementSize = std::string_view("<a/>").size();
+/// The library reads sections and comments of up to 10 MB.
+constexpr std::size_t kLongestHidden = std::size_t{11} << 20;
+/// What may be read again behind sections that are not closed.
+constexpr std::size_t kMostReadAgain = std::size_t{64} << 20;
 /// The library limits the expansion of general entities, but not the number of parameter references.
 constexpr int kMostParameterReferences = 1'000;
 
@@ -114,8 +118,10 @@ class Parse {
                        : nullptr);
     }
 
-    std::optional<XMLBreak> run(XMLStream& stream) {
+    /// `keepsContent`: what follows the last start tag stays known to the stream.
+    std::optional<XMLBreak> run(XMLStream& stream, bool keepsContent = false) {
         m_stream = &stream;
+        m_keepsContent = keepsContent;
         xmlParserInputPtr input = nullptr;
         if (xmlParserInputBufferPtr buffer =
                 m_context ? xmlParserInputBufferCreateIO(readStream, nullptr, this, XML_CHAR_ENCODING_NONE)
@@ -138,8 +144,12 @@ class Parse {
         xmlParseDocument(m_context.get());
         flushText();
         m_context->userData = nullptr;
+        if (m_break) {
+            m_break->content = m_content;
+        }
         if (!m_context->wellFormed && !m_break) {
-            m_break = XMLBreak{reached().value_or(given()), "the document is not well-formed"};
+            m_break =
+                XMLBreak{reached().value_or(given()), "the document is not well-formed", false, m_content};
         }
         return std::move(m_break);
     }
@@ -149,7 +159,10 @@ class Parse {
         // The library may look back by some hundred bytes.
         constexpr std::size_t kLookBack = std::size_t{64} << 10;
         const std::size_t reached = parse.reached().value_or(0);
-        const std::size_t kept = parse.m_text.size > 0 ? parse.m_text.start : reached;
+        std::size_t kept = parse.m_text.size > 0 ? parse.m_text.start : reached;
+        if (parse.m_keepsContent && reached - std::min(reached, parse.m_content) <= kLongestHidden) {
+            kept = std::min(kept, parse.m_content);
+        }
         parse.m_stream->forget(std::min(kept, reached) - std::min({kept, reached, kLookBack}));
         return static_cast<int>(parse.m_stream->read({room, static_cast<std::size_t>(std::max(size, 0))}));
     }
@@ -221,6 +234,7 @@ class Parse {
         Parse& parse = self(user);
         parse.flushText();
         parse.stopIfAsked();
+        parse.m_content = parse.reached().value_or(parse.m_content);
         if (parse.spend(kLeastElementSize)) {
             parse.m_events.started(parse.element(name, prefix),
                                    Attributes{parse.m_context.get(), attributeCount, attributes});
@@ -397,6 +411,8 @@ class Parse {
     /// Its end in the document.
     std::size_t m_textEnd = kNowhere;
     std::size_t m_delivered = 0;
+    std::size_t m_content = 0;
+    bool m_keepsContent = false;
     int m_parameterReferences = 0;
     bool m_stopped = false;
 };
@@ -434,17 +450,20 @@ std::optional<XMLBreak> parseXMLRows(TextSource& document, std::span<const char*
                                      const std::function<bool()>& stopped) {
     initialise();
     XMLStream stream(document);
+    std::size_t readAgain = 0;
     for (;;) {
         Parse parse(elementNames, events, stopped);
-        auto end = parse.run(stream);
+        auto end = parse.run(stream, true);
         if (!end && !stream.fault().empty()) {
-            end = XMLBreak{stream.given(), std::string(stream.fault())};
+            end = XMLBreak{stream.given(), std::string(stream.fault()), false, stream.given()};
         }
         if (!end || end->isFinal) {
             return end;
         }
         events.skippedRow();
-        if (!stream.restartAt(end->byte, rowOpening, "<tv>")) {
+        readAgain += end->byte - std::min(end->byte, end->content);
+        const std::size_t from = readAgain <= kMostReadAgain ? std::min(end->byte, end->content) : end->byte;
+        if (!stream.restartAt(from, rowOpening, "<tv>")) {
             return std::nullopt;
         }
     }

@@ -46,6 +46,9 @@ struct XMLBreak {
     std::string message;
     /// Whether nothing behind it may be read: the reader stopped, or a limit was exceeded.
     bool isFinal = false;
+    /// Where the content of the last element that was started begins: a section that is not closed hides
+    /// everything from there to `byte`.
+    std::size_t content = 0;
 };
 
 /// Parses a document up to its first zero byte or the first fatal error, which it returns; nothing when the

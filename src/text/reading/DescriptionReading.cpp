@@ -510,10 +510,12 @@ std::optional<CreditLabel> labelAt(const QString& text, qsizetype colon, bool is
     return std::nullopt;
 }
 
-/// Removes a remark that there are others.
+} // namespace
+
 QString withoutOthers(const QString& names) {
     static const QRegularExpression kOthers(
-        u"(?:[,;]\\s*|\\s+)(?:u\\.\\s?a\\.?(?:\\s?m\\.?)?|e altri|ed altri|altri|et al\\.?|a další|a ďalší|a "
+        u"(?:[,;]\\s*|\\s+|^)(?:u\\.\\s?a\\.?(?:\\s?m\\.?)?|e altri|ed altri|altri|et al\\.?|a další|a "
+        u"ďalší|a "
         u"iní|a jiní|és mások|és még sokan mások|"
         u"i inni|și alții|şi alţii|si altii|κ\\.\\s?ά\\.?|κ\\.\\s?α\\.?|ve diğerleri|i drugi|i dr\\.|i "
         u"ostali|и др\\.?|и други|and others|"
@@ -533,8 +535,6 @@ QString withoutOthers(const QString& names) {
     }
     return left;
 }
-
-} // namespace
 
 ReadDescription readDescription(const QString& text, const QString& language) {
     return DescriptionReader(text.contains(u'\r') ? QString(text).replace("\r\n"_L1, "\n"_L1) : text,

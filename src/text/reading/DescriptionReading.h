@@ -27,6 +27,9 @@ struct ReadDescription {
 /// "[S,AD] S6 Ep12", "Originaltitel: …". What is not recognised stays.
 ReadDescription readDescription(const QString& text, const QString& language);
 
+/// A list of names without a remark that there are others, such as "u. a."; empty for such a remark alone.
+QString withoutOthers(const QString& names);
+
 /// Takes cast and directors, by their labels in many languages, off a description.
 ReadCredits takeCredits(QString& text);
 

@@ -89,7 +89,7 @@ TEST_F(OwnFeedReaderTest, KeepsWhatPrecedesABreakAndRefusesTheRest) {
         {"a raw ampersand", document().replace("Noon", "No & on"), SourceResult::Read, 1},
         {"a raw ampersand elsewhere", document().replace("Other", "Ot & her"), SourceResult::Read, 2},
         {"an endless programme", document().replace("Other", QByteArray(FeedScan::kLongestElement, 'x')),
-         SourceResult::Incomplete, 0},
+         SourceResult::Read, 2},
         {"a zero byte", document().replace("Other", QByteArray("\0", 1)), SourceResult::Read, 2},
         {"a page", "<html><tv></html>", SourceResult::Page, 0},
         {"a playlist", "#EXTM3U\n#EXTINF:-1,A\n", SourceResult::Unknown, 0},
@@ -122,6 +122,8 @@ TEST_F(OwnFeedReaderTest, LosesOnlyTheProgrammesThatAreMalformed) {
         "<title lang=cs>A</title>",
         "<title lang=\"cs>A</title>",
         "<title>A</title></tv>",
+        "<title>A</title><desc><![CDATA[B</desc>",
+        "<title>A</title><!-- B",
         "<title>A</title><desc>" + QByteArray(20'000, 'x') + "</p>",
         "<title " + QByteArray(2'000'000, 'x') + ">A</title>",
     };

@@ -162,6 +162,9 @@ TEST(FeedReading, FactsComeFromElements) {
         {"<previously-shown/>", "newness=[repeat]"},
         {"<premiere/>", "newness=[new]"},
         {"<new/><previously-shown/>", ""},
+        {"<credits><actor>A B als </actor><actor>Self - C, "
+         "D<image>x</image></actor><actor>Altri</actor></credits>",
+         "roles=A B, Self - C, D"},
         {"<premiere/><previously-shown channel=\"b\"/>", "newness=[new]"},
         {"<title lang=\"en\">Original</title>", "originalTitle=[Original]"},
         {"<title lang=\"en\">T</title>", ""},
