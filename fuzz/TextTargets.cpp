@@ -10,6 +10,7 @@
 #include "text/cleaning/TextTidying.h"
 #include "text/cleaning/TitleCapitals.h"
 #include "text/display/Transliteration.h"
+#include "text/reading/CreditsReading.h"
 #include "text/reading/DescriptionReading.h"
 #include "text/reading/SubtitleReading.h"
 #include "text/reading/TitleReading.h"
@@ -181,7 +182,7 @@ std::vector<FuzzTarget> textTargets() {
                      fuzzInput({"Titanic, film (SAD/1997)", "3. díl", "Text. [S,AD] S6 Ep12/24"}, 2)};
              },
          .literals = {"text/facts/EpisodeNotation.cpp", "text/facts/TitleNotes.cpp",
-                      "text/reading/DescriptionReading.cpp"}},
+                      "text/reading/DescriptionReading.cpp", "text/reading/CreditsReading.cpp"}},
         {.name = "markup-text",
          .run = decodeTexts,
          .seeds = markup,

@@ -1,5 +1,6 @@
 #include "text/cleaning/TextTidying.h"
 #include "text/cleaning/TitleCapitals.h"
+#include "text/reading/CreditsReading.h"
 #include "text/reading/DescriptionReading.h"
 #include "text/reading/SubtitleReading.h"
 #include "text/reading/TitleReading.h"

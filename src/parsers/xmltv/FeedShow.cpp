@@ -8,6 +8,7 @@
 #include "text/cleaning/TextTidying.h"
 #include "text/cleaning/TitleCapitals.h"
 #include "text/facts/EpisodeNotation.h"
+#include "text/reading/CreditsReading.h"
 #include "text/reading/DescriptionReading.h"
 #include "text/reading/SubtitleReading.h"
 #include "text/reading/TitleReading.h"
@@ -141,7 +142,11 @@ std::optional<QString> stringOf(const FeedTexts::Each* text) {
 std::optional<QString> namesOf(const FeedTexts& elements) {
     QString names;
     for (const FeedTexts::Each& each : elements.all()) {
-        QString name = withoutOthers(tidiedTitle(feedString(each.text)));
+        QString name = tidiedTitle(feedString(each.text));
+        constexpr qsizetype kLongestRemark = 16;
+        if (name.size() <= kLongestRemark) {
+            name = withoutOthers(name);
+        }
         // The role is missing.
         if (name.endsWith(" als"_L1)) {
             name.chop(4);
