@@ -1,6 +1,7 @@
 #include "screens/TextTidying.h"
 
 #include <QRegularExpression>
+#include <QSet>
 
 namespace guide {
 
@@ -82,6 +83,16 @@ QString tidiedDescription(const QString& text, const QStringList& headings) {
     for (QString& line : lines) {
         line = withoutCopyAtEnd(line);
     }
+    // Some feeds repeat whole paragraphs.
+    QSet<QString> known;
+    lines.removeIf([&known](const QString& line) {
+        const bool isLong = line.size() >= kShortestCopy;
+        const bool isRepeated = isLong && known.contains(line);
+        if (isLong) {
+            known.insert(line);
+        }
+        return isRepeated;
+    });
     QString description = lines.join(u'\n');
     for (const QString& heading : headings) {
         const QStringView start =

@@ -130,6 +130,7 @@ TEST(TextTidying, DescriptionsDoNotRepeatThemselvesOrTheirHeadings) {
         "kiveszik a részüket, k"_s;
     const std::pair<QString, QString> cases[] = {
         {peppa + u' ' + peppa.first(70) + u"...\nMatt Tea."_s, peppa + u"\nMatt Tea."_s},
+        {peppa + u"\nKurz.\n"_s + peppa + u"\nKurz."_s, peppa + u"\nKurz.\nKurz."_s},
         {u"04:05 Kávézó, 2022 "_s + kat + u' ' + kat + u'.', u"04:05 Kávézó, 2022 "_s + kat},
         {peppa.first(50) + u" ... "_s + peppa.first(50), peppa.first(50) + u" ... "_s + peppa.first(50)},
         {u"L'amico Steve - Billy vorrebbe un partner."_s, u"Billy vorrebbe un partner."_s},
