@@ -18,6 +18,8 @@ class OwnSourcesTest : public testing::Test {
         world.device.deviceLocale = QLocale(QLocale::English, QLocale::UnitedKingdom);
         world.device.zone = QTimeZone::utc();
         world.addChannel(u"Jedna"_s, false);
+        world.StoreFixture::addChannel({ownChannelId(own, u"nova.cz"_s), u"Nova"_s, u"cs"_s, {}, {}, {}, {}},
+                                       false);
         world.start();
         world.tabs->disableTabs();
         world.show();
@@ -90,6 +92,7 @@ class OwnSourcesTest : public testing::Test {
     }
     QStringList takeDone() { return std::exchange(sources.done, {}); }
 
+    const OwnSourceId own{{9}};
     ScreenWorld world;
     WorldSources sources{world.queues.mainQueue()};
     const KnownFeeds feeds{{{u"DE"_s, {{u"lists"_s, {}, u"https://lists.example/de"_s, 0, 0, {}}}},
@@ -433,6 +436,20 @@ TEST_F(OwnSourcesTest, FailingSourcesComeFirstAndTellWhatIsKnown) {
     EXPECT_TRUE(sources.done.isEmpty());
     answerAlert(1);
     EXPECT_EQ(titles().first(1), QStringList{u"Good"_s});
+}
+
+TEST_F(OwnSourcesTest, ASelectedChannelNamesItsSource) {
+    sources.list = {
+        {.id = own, .address = u"x"_s, .name = u"Mine"_s, .channels = {{u"nova.cz"_s, u"Nova"_s}}}};
+    const ObjectId channel = ownChannelId(own, u"nova.cz"_s);
+    world.channels->setSelected({channel});
+    const auto subtitle = [&] {
+        world.broadcast->reloadData();
+        return channelAt(top().table(), 0).subtitle;
+    };
+    EXPECT_EQ(subtitle(), u"Mine · No schedule"_s);
+    world.fail(channel, LoadFailure{.reason = LoadFailureReason::NoShows, .host = u"Mine"_s});
+    EXPECT_EQ(subtitle().count(u"Mine"_s), 1);
 }
 
 TEST_F(OwnSourcesTest, WhatIsDroppedOnTheWindowIsReadAtOnce) {
