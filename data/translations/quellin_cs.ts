@@ -216,6 +216,10 @@ Počkejte, až se program načte.</translation>
         <translation>Jen minulé pořady</translation>
     </message>
     <message>
+        <source>The source %1 could not be read</source>
+        <translation>Zdroj %1 se nepodařilo přečíst</translation>
+    </message>
+    <message>
         <source>Try again</source>
         <translation>Zkusit znovu</translation>
     </message>

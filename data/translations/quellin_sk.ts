@@ -216,6 +216,10 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Len minulé relácie</translation>
     </message>
     <message>
+        <source>The source %1 could not be read</source>
+        <translation>Zdroj %1 sa nepodarilo prečítať</translation>
+    </message>
+    <message>
         <source>Try again</source>
         <translation>Skúsiť znova</translation>
     </message>

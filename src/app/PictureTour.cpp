@@ -43,8 +43,14 @@ bool isOwnChannel(const Row& row) {
 bool isText(const Row& row) {
     return row.kind() == RowKind::Text;
 }
+bool isTitled(const Row& row, const QString& title) {
+    return isText(row) && std::get<TextRow>(row.content).title == title;
+}
 bool isReview(const Row& row) {
-    return isText(row) && std::get<TextRow>(row.content).title == Localized::tr("Review matches");
+    return isTitled(row, Localized::tr("Review matches"));
+}
+bool isSettings(const Row& row) {
+    return isTitled(row, Localized::tr("Settings of channels"));
 }
 /// Of the channels to choose from.
 bool isChecked(const Row& row) {
@@ -133,6 +139,9 @@ constexpr std::array kStops{
          },
          Stops::WithSources},
     Stop{"source", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }, Stops::WithSources},
+    Stop{"own-channel-settings",
+         [](PictureTour& tour) { return tour.send(Tapped{}, isSettings) && tour.send(Tapped{}, isText); },
+         Stops::WithSources},
     Stop{"own-channel",
          [](PictureTour& tour) {
              return tour.selectTab(Symbol::Currently) && tour.send(Tapped{}, isOwnChannel);
