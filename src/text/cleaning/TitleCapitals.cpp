@@ -17,27 +17,18 @@ namespace {
 const QSet<QString>& acronyms() {
     static const QSet<QString> kAcronyms = [] {
         QSet<QString> set;
-        for (const char16_t* each :
-             {u"ABBA", u"ABC",  u"ACI",  u"AEK",  u"AEW",  u"AFC",  u"AHL",    u"ALF",  u"AMC",  u"ARD",
-              u"ATP",  u"ATV",  u"AXN",  u"BBC",  u"BMW",  u"BMX",  u"BNT",    u"BTV",  u"CBS",  u"CD",
-              u"CIA",  u"CNBC", u"CNN",  u"CSI",  u"ČT",   u"DDR",  u"DIY",    u"DJ",   u"DKA",  u"DNA",
-              u"DNK",  u"DSF",  u"DTM",  u"DVD",  u"EFC",  u"EHF",  u"ERT",    u"ESPN", u"ERC",  u"EU",
-              u"FA",   u"FBI",  u"FIA",  u"FIFA", u"FIBA", u"FIM",  u"FIS",    u"FIVB", u"FTV",  u"GMC",
-              u"GP",   u"HBO",  u"HD",   u"HNL",  u"HNS",  u"HRT",  u"HTV",    u"IIHF", u"IMDB", u"ITF",
-              u"ITV",  u"JAG",  u"KBS",  u"KGB",  u"KHL",  u"LA7",  u"LGBT",   u"LIV",  u"MDR",  u"MGM",
-              u"MLB",  u"MLS",  u"MMA",  u"MS",   u"MTV",  u"NASA", u"NASCAR", u"NATO", u"NBA",  u"NBC",
-              u"NCAA", u"NCIS", u"NDR",  u"NFL",  u"NHL",  u"NRK",  u"NRW",    u"NTV",  u"OBN",  u"ORF",
-              u"OSN",  u"ÖBB",  u"ΑΕΚ",  u"ΕΡΤ",  u"ΗΠΑ",  u"ΚΕΝ",  u"ΠΑΟΚ",   u"PBS",  u"PDC",  u"PGA",
-              u"PR",   u"PS",   u"PSG",  u"RAI",  u"RBB",  u"RCS",  u"RFE",    u"RTCG", u"RTL",  u"RTS",
-              u"RTP",  u"RTV",  u"RTVS", u"SBB",  u"SBS",  u"SF",   u"SGP",    u"SK",   u"SNL",  u"SOKO",
-              u"SOS",  u"SPFL", u"SRF",  u"STV",  u"SUV",  u"SWAT", u"SWR",    u"TBA",  u"TCR",  u"TG",
-              u"TGR",  u"TLC",  u"TNA",  u"TNT",  u"TRT",  u"TSN",  u"TV",     u"TVE",  u"TVN",  u"TVP",
-              u"TVR",  u"UAE",  u"UCI",  u"UCL",  u"UEFA", u"UFC",  u"UFO",    u"UHD",  u"UK",   u"UN",
-              u"US",   u"USA",  u"USB",  u"VH1",  u"VIP",  u"VOX",  u"WBC",    u"WDR",  u"WEC",  u"MMA",
-              u"WHO",  u"WNBA", u"WRC",  u"WTA",  u"WTF",  u"WWE",  u"WWF",    u"XXL",  u"XXX",  u"ZDF",
-              u"ZIB",  u"БНТ",  u"БТВ",  u"БГ",   u"ЕС",   u"САЩ",  u"САД",    u"СССР", u"ТВ",   u"РТС",
-              u"МРТ",  u"УЕФА", u"НБА"}) {
-            set.insert(QStringView(each).toString());
+        constexpr QStringView kWords =
+            u"ABBA|ABC|ACI|AEK|AEW|AFC|AHL|ALF|AMC|ARD|ATP|ATV|AXN|BBC|BMW|BMX|BNT|BTV|CBS|CD|CIA|"
+            u"CNBC|CNN|CSI|ČT|DDR|DIY|DJ|DKA|DNA|DNK|DSF|DTM|DVD|EFC|EHF|ERT|ESPN|ERC|EU|FA|FBI|"
+            u"FIA|FIFA|FIBA|FIM|FIS|FIVB|FTV|GMC|GP|HBO|HD|HNL|HNS|HRT|HTV|IIHF|IMDB|ITF|ITV|JAG|"
+            u"KBS|KGB|KHL|LA7|LGBT|LIV|MDR|MGM|MLB|MLS|MMA|MS|MTV|NASA|NASCAR|NATO|NBA|NBC|NCAA|"
+            u"NCIS|NDR|NFL|NHL|NRK|NRW|NTV|OBN|ORF|OSN|ÖBB|ΑΕΚ|ΕΡΤ|ΗΠΑ|ΚΕΝ|ΠΑΟΚ|PBS|PDC|PGA|PR|PS|"
+            u"PSG|RAI|RBB|RCS|RFE|RTCG|RTL|RTS|RTP|RTV|RTVS|SBB|SBS|SF|SGP|SK|SNL|SOKO|SOS|SPFL|"
+            u"SRF|STV|SUV|SWAT|SWR|TBA|TCR|TG|TGR|TLC|TNA|TNT|TRT|TSN|TV|TVE|TVN|TVP|TVR|UAE|UCI|"
+            u"UCL|UEFA|UFC|UFO|UHD|UK|UN|US|USA|USB|VH1|VIP|VOX|WBC|WDR|WEC|WHO|WNBA|WRC|WTA|WTF|"
+            u"WWE|WWF|XXL|XXX|ZDF|ZIB|БНТ|БТВ|БГ|ЕС|САЩ|САД|СССР|ТВ|РТС|МРТ|УЕФА|НБА";
+        for (const QStringView each : kWords.split(u'|')) {
+            set.insert(each.toString());
         }
         return set;
     }();

@@ -1,13 +1,10 @@
 #include "text/facts/EpisodeNotation.h"
 
-#include "text/search/FoldedText.h"
+#include "text/facts/EpisodeWords.h"
 
-#include <QHash>
+#include <QStringList>
 
 #include <algorithm>
-#include <array>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace guide {
@@ -20,205 +17,6 @@ constexpr qsizetype kLongestNotation = 60;
 constexpr int kMostEpisode = 9'998;
 /// Greater seasons are years or placeholders.
 constexpr int kMostSeason = 98;
-
-enum class Label {
-    None,
-    Season,
-    /// Also the word for a show, so that an episode must follow.
-    WeakSeason,
-    Episode,
-    Part,
-    Of,
-    Ordinal,
-};
-
-struct LabelWord {
-    const char16_t* word;
-    Label label;
-};
-
-/// Folded: in lower case, without diacritics.
-constexpr std::array kLabels{
-    LabelWord{u"s", Label::Season},
-    LabelWord{u"season", Label::Season},
-    LabelWord{u"staffel", Label::Season},
-    LabelWord{u"saison", Label::Season},
-    LabelWord{u"stagione", Label::Season},
-    LabelWord{u"stag", Label::Season},
-    LabelWord{u"sezon", Label::Season},
-    LabelWord{u"sezona", Label::Season},
-    LabelWord{u"sezone", Label::Season},
-    LabelWord{u"sezonul", Label::Season},
-    LabelWord{u"sez", Label::Season},
-    LabelWord{u"serie", Label::WeakSeason},
-    LabelWord{u"series", Label::WeakSeason},
-    LabelWord{u"seria", Label::WeakSeason},
-    LabelWord{u"rada", Label::WeakSeason},
-    LabelWord{u"evad", Label::Season},
-    LabelWord{u"temporada", Label::Season},
-    LabelWord{u"t", Label::Season},
-    LabelWord{u"seizoen", Label::Season},
-    LabelWord{u"κυκλοσ", Label::Season},
-    LabelWord{u"σεζον", Label::Season},
-    LabelWord{u"сезон", Label::Season},
-    LabelWord{u"сезона", Label::Season},
-    LabelWord{u"сез", Label::Season},
-    LabelWord{u"e", Label::Episode},
-    LabelWord{u"ep", Label::Episode},
-    LabelWord{u"eps", Label::Episode},
-    LabelWord{u"epis", Label::Episode},
-    LabelWord{u"episode", Label::Episode},
-    LabelWord{u"episodio", Label::Episode},
-    LabelWord{u"episodul", Label::Episode},
-    LabelWord{u"episod", Label::Episode},
-    LabelWord{u"puntata", Label::Episode},
-    LabelWord{u"folge", Label::Episode},
-    LabelWord{u"epizoda", Label::Episode},
-    LabelWord{u"epizode", Label::Episode},
-    LabelWord{u"epizod", Label::Episode},
-    LabelWord{u"epiz", Label::Episode},
-    LabelWord{u"nastavak", Label::Episode},
-    LabelWord{u"nast", Label::Episode},
-    LabelWord{u"dil", Label::Episode},
-    LabelWord{u"diel", Label::Episode},
-    LabelWord{u"resz", Label::Episode},
-    LabelWord{u"odcinek", Label::Episode},
-    LabelWord{u"odc", Label::Episode},
-    LabelWord{u"bolum", Label::Episode},
-    LabelWord{u"capitulo", Label::Episode},
-    LabelWord{u"cap", Label::Episode},
-    LabelWord{u"aflevering", Label::Episode},
-    LabelWord{u"afl", Label::Episode},
-    LabelWord{u"avsnitt", Label::Episode},
-    LabelWord{u"επεισοδιο", Label::Episode},
-    LabelWord{u"επεισοδια", Label::Episode},
-    LabelWord{u"επ", Label::Episode},
-    LabelWord{u"епизода", Label::Episode},
-    LabelWord{u"епизод", Label::Episode},
-    LabelWord{u"еп", Label::Episode},
-    LabelWord{u"серия", Label::Episode},
-    LabelWord{u"part", Label::Part},
-    LabelWord{u"pt", Label::Part},
-    LabelWord{u"parte", Label::Part},
-    LabelWord{u"partie", Label::Part},
-    LabelWord{u"partea", Label::Part},
-    LabelWord{u"teil", Label::Part},
-    LabelWord{u"dio", Label::Part},
-    LabelWord{u"deo", Label::Part},
-    LabelWord{u"del", Label::Part},
-    LabelWord{u"deel", Label::Part},
-    LabelWord{u"cast", Label::Part},
-    LabelWord{u"cz", Label::Part},
-    LabelWord{u"czesc", Label::Part},
-    LabelWord{u"kisim", Label::Part},
-    LabelWord{u"μεροσ", Label::Part},
-    LabelWord{u"дио", Label::Part},
-    LabelWord{u"део", Label::Part},
-    LabelWord{u"дел", Label::Part},
-    LabelWord{u"част", Label::Part},
-    LabelWord{u"of", Label::Of},
-    LabelWord{u"von", Label::Of},
-    LabelWord{u"di", Label::Of},
-    LabelWord{u"de", Label::Of},
-    LabelWord{u"z", Label::Of},
-    LabelWord{u"zo", Label::Of},
-    LabelWord{u"ze", Label::Of},
-    LabelWord{u"od", Label::Of},
-    LabelWord{u"sur", Label::Of},
-    LabelWord{u"από", Label::Of},
-    LabelWord{u"от", Label::Of},
-    LabelWord{u"од", Label::Of},
-    LabelWord{u"st", Label::Ordinal},
-    LabelWord{u"nd", Label::Ordinal},
-    LabelWord{u"rd", Label::Ordinal},
-    LabelWord{u"th", Label::Ordinal},
-    LabelWord{u"er", Label::Ordinal},
-    LabelWord{u"re", Label::Ordinal},
-    LabelWord{u"eme", Label::Ordinal},
-    LabelWord{u"a", Label::Ordinal},
-    LabelWord{u"o", Label::Ordinal},
-    LabelWord{u"os", Label::Ordinal},
-    LabelWord{u"oσ", Label::Ordinal},
-    LabelWord{u"ª", Label::Ordinal},
-    LabelWord{u"º", Label::Ordinal},
-    LabelWord{u"ο", Label::Ordinal},
-    LabelWord{u"οσ", Label::Ordinal},
-    LabelWord{u"η", Label::Ordinal},
-};
-
-Label labelOf(const QString& folded) {
-    static const QHash<QString, Label> kByWord = [] {
-        QHash<QString, Label> labels;
-        for (const LabelWord& each : kLabels) {
-            labels.insert(foldedText(QStringView(each.word)), each.label);
-        }
-        return labels;
-    }();
-    const Label label = kByWord.value(folded, Label::None);
-    if (label != Label::None ||
-        !std::ranges::any_of(folded, [](QChar unit) { return unit.script() == QChar::Script_Greek; })) {
-        return label;
-    }
-    // Feeds mix Greek letters with Latin ones that look alike.
-    QString greek = folded;
-    for (QChar& unit : greek) {
-        constexpr std::u16string_view kLatin = u"aeiopu";
-        constexpr std::u16string_view kGreek = u"αειορυ";
-        const std::size_t place = kLatin.find(unit.unicode());
-        unit = place == kLatin.npos ? unit : QChar(kGreek[place]);
-    }
-    return kByWord.value(greek, Label::None);
-}
-
-/// Feeds write Greek and Cyrillic letters that look like Roman digits as well.
-char latinLookAlike(QChar letter) {
-    switch (letter.unicode()) {
-    case u'Ι':
-    case u'І':
-        return 'I';
-    case u'Χ':
-    case u'Х':
-        return 'X';
-    default:
-        return letter.unicode() < 0x80 ? static_cast<char>(letter.unicode()) : '\0';
-    }
-}
-
-/// In capitals only, up to 89.
-std::optional<int> romanNumber(QStringView text) {
-    std::string roman;
-    for (const QChar letter : text) {
-        roman.push_back(latinLookAlike(letter));
-    }
-    if (roman.empty() || roman.size() > 8 || roman.find_first_not_of("IVXL") != std::string::npos) {
-        return std::nullopt;
-    }
-    static constexpr std::array kTens{"", "X", "XX", "XXX", "XL", "L", "LX", "LXX", "LXXX"};
-    static constexpr std::array kOnes{"", "I", "II", "III", "IV", "V", "VI", "VII", "VIII", "IX"};
-    for (std::size_t tens = 0; tens < kTens.size(); ++tens) {
-        for (std::size_t ones = 0; ones < kOnes.size(); ++ones) {
-            if (roman == std::string(kTens[tens]) + kOnes[ones]) {
-                return static_cast<int>(tens * 10 + ones);
-            }
-        }
-    }
-    return std::nullopt;
-}
-
-/// "Β'" is two.
-std::optional<int> greekNumber(QStringView text) {
-    static constexpr std::u16string_view kDigits = u"ΑΒΓΔΕ?ΖΗΘ";
-    if (text == u"ΣΤ") {
-        return 6;
-    }
-    if (text == u"Ι") {
-        return 10;
-    }
-    const QChar latin = text == u"A" ? u'Α' : text == u"B" ? u'Β' : text.isEmpty() ? u'?' : text.front();
-    const std::size_t digit = text.size() == 1 ? kDigits.find(latin.unicode()) : kDigits.npos;
-    return digit == kDigits.npos || kDigits[digit] == u'?' ? std::nullopt
-                                                           : std::optional(static_cast<int>(digit) + 1);
-}
 
 bool isDigit(QChar unit) {
     return unit >= u'0' && unit <= u'9';
@@ -233,20 +31,20 @@ struct Token {
     bool isJoined = false;
     int number = 0;
 
-    Label label() const {
+    EpisodeLabel label() const {
         if (!m_label) {
             const bool isWord = kind == Word && text.size() <= 12;
-            m_label = isWord ? labelOf(foldedText(text)) : Label::None;
+            m_label = isWord ? episodeLabel(text) : EpisodeLabel::None;
             // Latvian for an episode, elsewhere for a series.
             if (isWord && (text == u"sērija" || text == u"Sērija")) {
-                m_label = Label::Episode;
+                m_label = EpisodeLabel::Episode;
             }
         }
         return *m_label;
     }
 
   private:
-    mutable std::optional<Label> m_label;
+    mutable std::optional<EpisodeLabel> m_label;
 };
 
 std::vector<Token> tokensOf(QStringView text) {
@@ -356,8 +154,8 @@ class NotationParser {
 
     bool takeItem() {
         const Token* token = peek();
-        if (token->kind == Token::Word && isFollowedByNumber() && token->label() != Label::None &&
-            token->label() != Label::Of && token->label() != Label::Ordinal && takeLabelled()) {
+        if (token->kind == Token::Word && isFollowedByNumber() && token->label() != EpisodeLabel::None &&
+            token->label() != EpisodeLabel::Of && token->label() != EpisodeLabel::Ordinal && takeLabelled()) {
             return true;
         }
         if (token->kind == Token::Number) {
@@ -366,16 +164,16 @@ class NotationParser {
         return token->kind == Token::Word && (takeRoman() || takeGreek());
     }
 
-    void set(Label label, int value) {
+    void set(EpisodeLabel label, int value) {
         switch (label) {
-        case Label::WeakSeason:
+        case EpisodeLabel::WeakSeason:
             m_hasWeak = true;
             [[fallthrough]];
-        case Label::Season:
+        case EpisodeLabel::Season:
             m_number.season = value;
             m_hasSeason = true;
             break;
-        case Label::Episode:
+        case EpisodeLabel::Episode:
             if (!m_hasEpisode) {
                 m_number.episode = value;
             }
@@ -410,8 +208,8 @@ class NotationParser {
             return true;
         }
         const auto roman = romanNumber(number->text);
-        const bool mayBeRoman =
-            label.label() == Label::Season || (m_isSeparate && label.label() != Label::WeakSeason);
+        const bool mayBeRoman = label.label() == EpisodeLabel::Season ||
+                                (m_isSeparate && label.label() != EpisodeLabel::WeakSeason);
         if (!roman || isShort || !mayBeRoman) {
             return false;
         }
@@ -424,7 +222,7 @@ class NotationParser {
     void skipOrdinal() {
         const Token* next = peek();
         const bool isLetter = next && next->kind == Token::Word && next->isJoined &&
-                              (next->label() == Label::Ordinal || next->text.size() == 1) &&
+                              (next->label() == EpisodeLabel::Ordinal || next->text.size() == 1) &&
                               !(isNumber(peek(1)) && peek(1)->isJoined);
         if (isLetter) {
             ++m_at;
@@ -432,25 +230,25 @@ class NotationParser {
     }
 
     /// "/8", "von 8".
-    void takeTotal(Label label) {
+    void takeTotal(EpisodeLabel label) {
         const Token* sign = peek();
         const bool isSlash = isSign(sign, u"/");
-        const bool isWord = sign && sign->kind == Token::Word && sign->label() == Label::Of;
+        const bool isWord = sign && sign->kind == Token::Word && sign->label() == EpisodeLabel::Of;
         if ((!isSlash && !isWord) || !isNumber(peek(1))) {
             return;
         }
         const int total = peek(1)->number;
         m_at += 2;
-        if (label == Label::Episode) {
+        if (label == EpisodeLabel::Episode) {
             m_number.episodes = total;
-        } else if (label == Label::Part) {
+        } else if (label == EpisodeLabel::Part) {
             m_number.parts = total;
         }
     }
 
     /// "1ο & 2ο": the first one counts.
-    void takeSiblings(Label label) {
-        while (label != Label::Season && isSign(peek(), u"&+") && isNumber(peek(1))) {
+    void takeSiblings(EpisodeLabel label) {
+        while (label != EpisodeLabel::Season && isSign(peek(), u"&+") && isNumber(peek(1))) {
             m_at += 2;
             skipOrdinal();
         }
@@ -464,8 +262,8 @@ class NotationParser {
                              (peek(1)->text == u"x" || peek(1)->text == u"X" || peek(1)->text == u"×");
         if (isTimes && first <= kMostSeason) {
             m_at += 3;
-            set(Label::Season, first);
-            set(Label::Episode, second->number);
+            set(EpisodeLabel::Season, first);
+            set(EpisodeLabel::Episode, second->number);
             return true;
         }
         const std::size_t before = m_at++;
@@ -475,8 +273,8 @@ class NotationParser {
             ++dots;
         }
         const Token* word = peek(dots);
-        const bool isLabel = word && word->kind == Token::Word && word->label() != Label::None &&
-                             word->label() != Label::Of && word->label() != Label::Ordinal &&
+        const bool isLabel = word && word->kind == Token::Word && word->label() != EpisodeLabel::None &&
+                             word->label() != EpisodeLabel::Of && word->label() != EpisodeLabel::Ordinal &&
                              word->text.size() > 1;
         // In "1. sezona 2" the label belongs to the first number, in "sezona 1 epizoda 2" to the last.
         if (isLabel) {
@@ -491,16 +289,16 @@ class NotationParser {
             const int total = peek(1)->number;
             const Token* label = isSign(peek(2), u".") ? peek(3) : nullptr;
             const bool isCountedDown = m_isHungarian && total <= first && label &&
-                                       label->kind == Token::Word && label->label() == Label::Episode;
+                                       label->kind == Token::Word && label->label() == EpisodeLabel::Episode;
             if (isCountedDown) {
                 m_at += 4;
                 m_number.episodes = first;
-                set(Label::Episode, total);
+                set(EpisodeLabel::Episode, total);
                 return true;
             }
             if (m_isSeparate && first <= total && first > 0 && total < 1000) {
                 m_at += 2;
-                set(Label::Episode, first);
+                set(EpisodeLabel::Episode, first);
                 m_number.episodes = total;
                 return true;
             }
@@ -511,7 +309,7 @@ class NotationParser {
         const bool isAlone = m_isSeparate && before == 0 && !isYear && m_at + dots == m_tokens.size();
         if (isDotted || isAlone) {
             m_at += dots;
-            set(Label::Episode, first);
+            set(EpisodeLabel::Episode, first);
             return true;
         }
         m_at = before;
@@ -535,17 +333,20 @@ class NotationParser {
         if (isSign(peek(ahead), u"/") && isNumber(peek(ahead + 1)) && peek(ahead)->isJoined) {
             const int episode = peek(ahead + 1)->number;
             m_at += ahead + 2 + (isSign(peek(ahead + 2), u".") ? 1 : 0);
-            set(Label::Season, *roman);
-            set(Label::Episode, episode);
+            set(EpisodeLabel::Season, *roman);
+            set(EpisodeLabel::Episode, episode);
             const Token* label = peek();
-            m_at += label && label->kind == Token::Word && label->label() == Label::Episode ? 1 : 0;
+            m_at += label && label->kind == Token::Word && label->label() == EpisodeLabel::Episode ? 1 : 0;
             return true;
         }
         const Token* word = peek(ahead);
         if (word && word->kind == Token::Word && word->text.size() > 1 &&
-            (word->label() == Label::Season || (m_isSeparate && word->label() != Label::None))) {
+            (word->label() == EpisodeLabel::Season ||
+             (m_isSeparate && word->label() != EpisodeLabel::None))) {
             m_at += ahead + 1;
-            set(word->label() == Label::Of || word->label() == Label::Ordinal ? Label::Season : word->label(),
+            set(word->label() == EpisodeLabel::Of || word->label() == EpisodeLabel::Ordinal
+                    ? EpisodeLabel::Season
+                    : word->label(),
                 *roman);
             return true;
         }
@@ -556,7 +357,7 @@ class NotationParser {
         }
         if (isLast && (m_isSeparate || (hasDot && m_isHungarian))) {
             m_at += ahead;
-            set(Label::Season, *roman);
+            set(EpisodeLabel::Season, *roman);
             return true;
         }
         return false;
@@ -567,8 +368,8 @@ class NotationParser {
         const auto number = greekNumber(peek()->text);
         const Token* word = peek(2);
         if (!number || !isSign(peek(1), u"'’΄´ʹ`‘") || !word || word->kind != Token::Word ||
-            (word->label() != Label::Season && word->label() != Label::Part &&
-             word->label() != Label::Episode)) {
+            (word->label() != EpisodeLabel::Season && word->label() != EpisodeLabel::Part &&
+             word->label() != EpisodeLabel::Episode)) {
             return false;
         }
         m_at += 3;

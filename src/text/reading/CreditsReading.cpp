@@ -6,7 +6,6 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <initializer_list>
 #include <vector>
 
 namespace guide {
@@ -21,120 +20,33 @@ enum class Credit { Director, Cast, Other };
 Credit creditOf(const QString& label, bool& isKnown) {
     static const QHash<QString, Credit> kLabels = [] {
         QHash<QString, Credit> labels;
-        const auto add = [&labels](Credit credit, std::initializer_list<const char16_t*> words) {
-            for (const char16_t* word : words) {
-                labels.insert(QStringView(word).toString(), credit);
+        const auto add = [&labels](Credit credit, QStringView words) {
+            for (const QStringView word : words.split(u'|')) {
+                labels.insert(word.toString(), credit);
             }
         };
-        add(Credit::Director, {u"Regie",
-                               u"Regisseur",
-                               u"Regisseurin",
-                               u"Regia",
-                               u"Regista",
-                               u"Réalisateur",
-                               u"Réalisatrice",
-                               u"Réalisation",
-                               u"Réal.",
-                               u"Regizor",
-                               u"Regizori",
-                               u"Regizorul",
-                               u"Reżyseria",
-                               u"Reżyser",
-                               u"Reż.",
-                               u"Yönetmen",
-                               u"Yönetmenler",
-                               u"Σκηνοθεσία",
-                               u"Σκηνοθέτης",
-                               u"Σενάριο/Σκηνοθεσία",
-                               u"Rendezte",
-                               u"Rendező",
-                               u"Rendezők",
-                               u"Režie",
-                               u"Režisér",
-                               u"Réžia",
-                               u"Režia",
-                               u"Režija",
-                               u"Redatelj",
-                               u"Redateljica",
-                               u"Reditelj",
-                               u"Режија",
-                               u"Редитељ",
-                               u"Режисьор",
-                               u"Режиссер",
-                               u"Режисёр",
-                               u"Director",
-                               u"Directed by",
-                               u"Dirección",
-                               u"Režisors",
-                               u"Scenarist i redatelj",
-                               u"Scenarij i režija",
-                               u"Regisor"});
-        add(Credit::Cast, {u"Darsteller",
-                           u"Besetzung",
-                           u"Mit",
-                           u"Schauspieler",
-                           u"Cast",
-                           u"Interpreti",
-                           u"Attori",
-                           u"Interpretato da",
-                           u"Con",
-                           u"Avec",
-                           u"Acteurs",
-                           u"Distribution",
-                           u"Distribuția",
-                           u"Distribuţia",
-                           u"Distributia",
-                           u"Actori",
-                           u"Cu",
-                           u"Obsada",
-                           u"Występują",
-                           u"Grają",
-                           u"Oyuncular",
-                           u"Oyuncu Kadrosu",
-                           u"Παίζουν",
-                           u"Πρωταγωνιστούν",
-                           u"Ηθοποιοί",
-                           u"Πρωταγωνιστές",
-                           u"Főszereplők",
-                           u"Főszereplő",
-                           u"Szereplők",
-                           u"Szereplő",
-                           u"Hrají",
-                           u"Účinkují",
-                           u"V hlavních rolích",
-                           u"V hlavní roli",
-                           u"Hrajú",
-                           u"Účinkujú",
-                           u"V hlavných úlohách",
-                           u"V hlavnej úlohe",
-                           u"Uloge",
-                           u"Glavne uloge",
-                           u"Glume",
-                           u"Igrajo",
-                           u"Улоге",
-                           u"Глуме",
-                           u"В ролите",
-                           u"Участват",
-                           u"Улоги",
-                           u"В ролях",
-                           u"Reparto",
-                           u"Intérpretes",
-                           u"Starring",
-                           u"Stars",
-                           u"Lomās"});
+        add(Credit::Director,
+            u"Regie|Regisseur|Regisseurin|Regia|Regista|Réalisateur|Réalisatrice|Réalisation|"
+            u"Réal.|Regizor|Regizori|Regizorul|Reżyseria|Reżyser|Reż.|Yönetmen|Yönetmenler|"
+            u"Σκηνοθεσία|Σκηνοθέτης|Σενάριο/Σκηνοθεσία|Rendezte|Rendező|Rendezők|Režie|Režisér|"
+            u"Réžia|Režia|Režija|Redatelj|Redateljica|Reditelj|Режија|Редитељ|Режисьор|Режиссер|"
+            u"Режисёр|Director|Directed by|Dirección|Režisors|Scenarist i redatelj|"
+            u"Scenarij i režija|Regisor");
+        add(Credit::Cast,
+            u"Darsteller|Besetzung|Mit|Schauspieler|Cast|Interpreti|Attori|Interpretato da|Con|"
+            u"Avec|Acteurs|Distribution|Distribuția|Distribuţia|Distributia|Actori|Cu|Obsada|"
+            u"Występują|Grają|Oyuncular|Oyuncu Kadrosu|Παίζουν|Πρωταγωνιστούν|Ηθοποιοί|"
+            u"Πρωταγωνιστές|Főszereplők|Főszereplő|Szereplők|Szereplő|Hrají|Účinkují|"
+            u"V hlavních rolích|V hlavní roli|Hrajú|Účinkujú|V hlavných úlohách|V hlavnej úlohe|"
+            u"Uloge|Glavne uloge|Glume|Igrajo|Улоге|Глуме|В ролите|Участват|Улоги|В ролях|Reparto|"
+            u"Intérpretes|Starring|Stars|Lomās");
         add(Credit::Other,
-            {u"Drehbuch",   u"Musik",       u"Kamera",       u"Sceneggiatura", u"Musiche",
-             u"Fotografia", u"Scénario",    u"Musique",      u"Scenariu",      u"Scenariul",
-             u"Muzica",     u"Muzyka",      u"Scenariusz",   u"Zdjęcia",       u"Senaryo",
-             u"Müzik",      u"Σενάριο",     u"Μουσική",      u"Παραγωγή",      u"Διάρκεια",
-             u"Δημιουργός", u"Έτος",        u"Παρουσίαση",   u"Είδος",         u"Guest",
-             u"Író",        u"Írta",        u"Zene",         u"Operatőr",      u"Forgatókönyvíró",
-             u"Scénář",     u"Scenár",      u"Námět",        u"Námet",         u"Hudba",
-             u"Scenarij",   u"Scenario",    u"Scenarist",    u"Glazba",        u"Muzika",
-             u"Сценарио",   u"Сценарий",    u"Музика",       u"Оператор",      u"Producer",
-             u"Writer",     u"Műsorvezető", u"Műsorvezetők", u"Uvádza",        u"Moderuje",
-             u"Uvádí",      u"Žanr",        u"Godina",       u"Země",          u"Rok",
-             u"Produkcija", u"Produkce",    u"Gyártó",       u"Country",       u"Year"});
+            u"Drehbuch|Musik|Kamera|Sceneggiatura|Musiche|Fotografia|Scénario|Musique|Scenariu|"
+            u"Scenariul|Muzica|Muzyka|Scenariusz|Zdjęcia|Senaryo|Müzik|Σενάριο|Μουσική|Παραγωγή|"
+            u"Διάρκεια|Δημιουργός|Έτος|Παρουσίαση|Είδος|Guest|Író|Írta|Zene|Operatőr|"
+            u"Forgatókönyvíró|Scénář|Scenár|Námět|Námet|Hudba|Scenarij|Scenario|Scenarist|Glazba|"
+            u"Muzika|Сценарио|Сценарий|Музика|Оператор|Producer|Writer|Műsorvezető|Műsorvezetők|"
+            u"Uvádza|Moderuje|Uvádí|Žanr|Godina|Země|Rok|Produkcija|Produkce|Gyártó|Country|Year");
         return labels;
     }();
     const auto known = kLabels.constFind(label);

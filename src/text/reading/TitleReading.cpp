@@ -282,115 +282,39 @@ std::optional<SeasonedTitle> seasonedTitle(const QString& title) {
 bool isFeedPlaceholder(const QString& title) {
     static const QSet<QString> kKeys = [] {
         QSet<QString> placeholders;
-        for (const char16_t* each : {u"Nema informacija",
-                                     u"Nema informacije",
-                                     u"Nema informacija o programu",
-                                     u"Nema informacija o emisiji",
-                                     u"Nema podataka",
-                                     u"Nema podataka o programu",
-                                     u"Nema sadržaja",
-                                     u"Nema opisa",
-                                     u"Нема информација",
-                                     u"Нема информација о програму",
-                                     u"Нема информации",
-                                     u"Нема податоци",
-                                     u"Няма информация",
-                                     u"Няма информация за програмата",
-                                     u"No information",
-                                     u"No information available",
-                                     u"No info",
-                                     u"No info available",
-                                     u"No data",
-                                     u"No data available",
-                                     u"No EPG",
-                                     u"No EPG data",
-                                     u"No EPG available",
-                                     u"No programme information",
-                                     u"No program information",
-                                     u"No programme data",
-                                     u"No program data",
-                                     u"No program information available",
-                                     u"No programme information available",
-                                     u"No scheduled programming",
-                                     u"To be announced",
-                                     u"TBA",
-                                     u"Not available",
-                                     u"Keine Information",
-                                     u"Keine Informationen",
-                                     u"Keine Informationen verfügbar",
-                                     u"Keine Information verfügbar",
-                                     u"Keine Sendungsinformationen",
-                                     u"Keine Programminformationen",
-                                     u"Keine Programminformation",
-                                     u"Keine Daten",
-                                     u"Keine EPG Daten",
-                                     u"Δεν υπάρχουν πληροφορίες",
-                                     u"Δεν υπάρχουν πληροφορίες προγράμματος",
-                                     u"Δεν υπάρχουν διαθέσιμες πληροφορίες",
-                                     u"Χωρίς πληροφορίες",
-                                     u"Vysílání neposkytnuto",
-                                     u"Program neposkytnut",
-                                     u"Není informace",
-                                     u"Informace není k dispozici",
-                                     u"Informace nejsou k dispozici",
-                                     u"Program není k dispozici",
-                                     u"Program neuveden",
-                                     u"Bez informací",
-                                     u"Nie je informácia",
-                                     u"Nie sú informácie",
-                                     u"Bez informácií",
-                                     u"Informácie nie sú k dispozícii",
-                                     u"Informácia nie je k dispozícii",
-                                     u"Program nie je k dispozícii",
-                                     u"Vysielanie neposkytnuté",
-                                     u"Nincs információ",
-                                     u"Nincs műsorinformáció",
-                                     u"Nincs műsor információ",
-                                     u"Nincs adat",
-                                     u"Nincs elérhető információ",
-                                     u"Nessuna informazione",
-                                     u"Nessuna informazione disponibile",
-                                     u"Informazioni non disponibili",
-                                     u"Informazione non disponibile",
-                                     u"Programmazione non disponibile",
-                                     u"Dati non disponibili",
-                                     u"Nu există informații",
-                                     u"Nu exista informatii disponibile",
-                                     u"Fără informații",
-                                     u"Informații indisponibile",
-                                     u"Lipsă informații",
-                                     u"Nu sunt informatii",
-                                     u"Nu sunt informatii disponibile",
-                                     u"Brak informacji",
-                                     u"Brak informacji o programie",
-                                     u"Brak danych",
-                                     u"Bilgi yok",
-                                     u"Bilgi bulunmuyor",
-                                     u"Yayın bilgisi yok",
-                                     u"Program bilgisi yok",
-                                     u"Program bilgisi bulunamadı",
-                                     u"Pas d'information",
-                                     u"Pas d'informations",
-                                     u"Aucune information",
-                                     u"Aucune information disponible",
-                                     u"Programme non disponible",
-                                     u"Programme non communiqué",
-                                     u"Sin información",
-                                     u"Información no disponible",
-                                     u"Sem informação",
-                                     u"Geen informatie",
-                                     u"Geen informatie beschikbaar",
-                                     u"Ni podatkov",
-                                     u"Ni informacij",
-                                     u"Ni podatka",
-                                     u"Podatki niso na voljo",
-                                     u"Nav informācijas",
-                                     u"Нет информации",
-                                     u"Нет данных",
-                                     u"Немає інформації",
-                                     u"Ska informacion",
-                                     u"Nuk ka informacion"}) {
-            placeholders.insert(placeholderKey(QStringView(each)));
+        constexpr QStringView kTexts =
+            u"Nema informacija|Nema informacije|Nema informacija o programu|"
+            u"Nema informacija o emisiji|Nema podataka|Nema podataka o programu|Nema sadržaja|"
+            u"Nema opisa|Нема информација|Нема информација о програму|Нема информации|"
+            u"Нема податоци|Няма информация|Няма информация за програмата|No information|"
+            u"No information available|No info|No info available|No data|No data available|No EPG|"
+            u"No EPG data|No EPG available|No programme information|No program information|"
+            u"No programme data|No program data|No program information available|"
+            u"No programme information available|No scheduled programming|To be announced|TBA|"
+            u"Not available|Keine Information|Keine Informationen|Keine Informationen verfügbar|"
+            u"Keine Information verfügbar|Keine Sendungsinformationen|Keine Programminformationen|"
+            u"Keine Programminformation|Keine Daten|Keine EPG Daten|Δεν υπάρχουν πληροφορίες|"
+            u"Δεν υπάρχουν πληροφορίες προγράμματος|Δεν υπάρχουν διαθέσιμες πληροφορίες|"
+            u"Χωρίς πληροφορίες|Vysílání neposkytnuto|Program neposkytnut|Není informace|"
+            u"Informace není k dispozici|Informace nejsou k dispozici|Program není k dispozici|"
+            u"Program neuveden|Bez informací|Nie je informácia|Nie sú informácie|Bez informácií|"
+            u"Informácie nie sú k dispozícii|Informácia nie je k dispozícii|"
+            u"Program nie je k dispozícii|Vysielanie neposkytnuté|Nincs információ|"
+            u"Nincs műsorinformáció|Nincs műsor információ|Nincs adat|Nincs elérhető információ|"
+            u"Nessuna informazione|Nessuna informazione disponibile|Informazioni non disponibili|"
+            u"Informazione non disponibile|Programmazione non disponibile|Dati non disponibili|"
+            u"Nu există informații|Nu exista informatii disponibile|Fără informații|"
+            u"Informații indisponibile|Lipsă informații|Nu sunt informatii|"
+            u"Nu sunt informatii disponibile|Brak informacji|Brak informacji o programie|"
+            u"Brak danych|Bilgi yok|Bilgi bulunmuyor|Yayın bilgisi yok|Program bilgisi yok|"
+            u"Program bilgisi bulunamadı|Pas d'information|Pas d'informations|Aucune information|"
+            u"Aucune information disponible|Programme non disponible|Programme non communiqué|"
+            u"Sin información|Información no disponible|Sem informação|Geen informatie|"
+            u"Geen informatie beschikbaar|Ni podatkov|Ni informacij|Ni podatka|"
+            u"Podatki niso na voljo|Nav informācijas|Нет информации|Нет данных|Немає інформації|"
+            u"Ska informacion|Nuk ka informacion";
+        for (const QStringView each : kTexts.split(u'|')) {
+            placeholders.insert(placeholderKey(each));
         }
         return placeholders;
     }();
