@@ -195,12 +195,12 @@ QString episodeUnlessIn(const QString& text, const EpisodeNumber& episode) {
 } // namespace
 
 QString rowDetails(const TVEntry& entry) {
-    QStringList parts;
-    const QString texts = textsInOneLine(entry);
-    if (const ShowFacts* facts = entry.facts().get()) {
-        parts << newnessText(facts->newness) << episodeUnlessIn(texts, facts->episode);
+    QString texts = textsInOneLine(entry);
+    const ShowFacts* facts = entry.facts().get();
+    if (!facts) {
+        return texts;
     }
-    parts << texts;
+    QStringList parts{newnessText(facts->newness), episodeUnlessIn(texts, facts->episode), texts};
     parts.removeAll(QString());
     return parts.join(kBetweenFacts);
 }
