@@ -130,6 +130,18 @@ TEST(TitleReading, TakesOnlyTailsThatAreRecognised) {
         {"hr", u"Ruža vjetrova, serija", u"Ruža vjetrova", u""},
         {"el", u"Ο ΜΠΟΥΦΟΣ (ΕΛΛΗΝΙΚΗ ΤΑΙΝΙΑ)", u"Ο ΜΠΟΥΦΟΣ", u""},
         {"el", u"Τα Φιλαράκια (Friends) - 7ος Κύκλος", u"Τα Φιλαράκια", u"S7 orig=Friends"},
+        {"de", u"Krieg und Frieden - Spielfilm Italien/USA 1956 (War and Peace)", u"Krieg und Frieden",
+         u"1956 Italien,USA orig=War and Peace"},
+        {"de", u"Beverly Hills 9-0 (Das Original)", u"Beverly Hills 9-0 (Das Original)", u""},
+        {"hu", u"Fiú, Lány, stb. 154.", u"Fiú, Lány, stb.", u"E154"},
+        // Dates of broadcasts.
+        {"it", u"La volta buona - Puntata del 31/12/2025", u"La volta buona", u""},
+        {"it", u"Diretta Gol Ucl 26/11/2025", u"Diretta Gol Ucl", u""},
+        {"en", u"The Source - Tuesday, December 30, 2025 9PM", u"The Source", u""},
+        {"cs", u"Události, 1. ledna 2026", u"Události", u""},
+        {"it", u"Strage di Bologna, 2 agosto 1980", u"Strage di Bologna, 2 agosto 1980", u""},
+        {"en", u"12/12", u"12/12", u""},
+        {"en", u"Apocalypse 21.12.2012", u"Apocalypse 21.12.2012", u""},
         // Marks.
         {"hr", u"Dnevnik (R)", u"Dnevnik", u"Repeat"},
         {"ro", u"Știri (Reluare)", u"Știri", u"Repeat"},
@@ -157,7 +169,7 @@ TEST(TitleReading, TakesOnlyTailsThatAreRecognised) {
         {"cs", u"  Dva\\nTři   čtyři\u00a0", u"Dva Tři čtyři", u""},
     };
     for (const Row& row : rows) {
-        const ReadTitle read = readTitle(text(row.text), QLatin1StringView(row.language));
+        const ReadTitle read = readTitle(text(row.text), QLatin1StringView(row.language), 2025);
         EXPECT_EQ(read.title, text(row.left)) << text(row.text).toStdString();
         EXPECT_EQ(summary(read.facts), text(row.facts)) << text(row.text).toStdString();
     }

@@ -134,6 +134,13 @@ void removeTitle(std::optional<QString>& subtitle, const QString& title) {
     }
 }
 
+/// 0 without a moment.
+int yearOf(const std::optional<Moment>& moment) {
+    using std::chrono::days;
+    return moment ? static_cast<int>(std::chrono::year_month_day(std::chrono::floor<days>(*moment)).year())
+                  : 0;
+}
+
 std::optional<QString> stringOf(const FeedTexts::Each* text) {
     return text ? std::optional(feedString(text->text)) : std::nullopt;
 }
@@ -228,7 +235,7 @@ std::optional<ExtendedTVEntry> FeedShowMaker::make(const FeedShow& show, const F
                                                    .roles = show.roles.string(),
                                                    .directedBy = show.directedBy.string(),
                                                    .otherTitle = {}};
-    const TitleParts& title = titleParts(texts.title, language);
+    const TitleParts& title = titleParts(texts.title, language, yearOf(show.dateTime));
     if (title.isPlaceholder) {
         return std::nullopt;
     }
@@ -284,7 +291,9 @@ std::optional<ExtendedTVEntry> FeedShowMaker::make(const FeedShow& show, const F
     }
 
     // A film with a number has no episodes.
-    const bool isSeasoned = title.seasoned && facts.episode.episode && !facts.episode.season;
+    const bool isSeasoned =
+        title.seasoned && (title.seasoned->isArabic ? facts.episode.season == title.seasoned->season
+                                                    : facts.episode.episode && !facts.episode.season);
     if (isSeasoned) {
         facts.episode.season = title.seasoned->season;
     }
@@ -387,11 +396,13 @@ TVListingsCategory FeedShowMaker::ownCategories(const FeedShow& show, const Titl
     return feedCategories(text);
 }
 
-const FeedShowMaker::TitleParts& FeedShowMaker::titleParts(std::string_view title, const QString& language) {
+const FeedShowMaker::TitleParts& FeedShowMaker::titleParts(std::string_view title, const QString& language,
+                                                           int broadcastIn) {
     const FeedReading& reading = m_options.reading;
-    // Only these depend on the language.
+    // Only these depend on the language and the year.
     if (reading.keepsTitlesWhole || reading.keepsAcronyms) {
-        m_key.assign(language.toStdString()).append(1, '\n').append(title);
+        m_key.assign(language.toStdString()).append(1, '\n');
+        m_key.append(std::to_string(broadcastIn)).append(1, '\n').append(title);
     } else {
         m_key.assign(title);
     }
@@ -401,7 +412,7 @@ const FeedShowMaker::TitleParts& FeedShowMaker::titleParts(std::string_view titl
     TitleParts parts;
     parts.title = feedString(title);
     if (reading.keepsTitlesWhole) {
-        ReadTitle read = readTitle(parts.title, language);
+        ReadTitle read = readTitle(parts.title, language, broadcastIn);
         parts.isPlaceholder = read.title.isEmpty();
         parts.shown = std::move(read.title);
         parts.subtitle = std::move(read.subtitle);

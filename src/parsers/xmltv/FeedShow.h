@@ -73,7 +73,7 @@ class FeedShowMaker {
   private:
     struct TitleParts;
 
-    const TitleParts& titleParts(std::string_view title, const QString& language);
+    const TitleParts& titleParts(std::string_view title, const QString& language, int broadcastIn);
     const ReadSubtitle& subtitleParts(const QString& subtitle, const QString& language);
     void cleanTexts(CleanedDescription& cleaned, ShowFacts& facts, const QString& language) const;
     TVListingsCategory ownCategories(const FeedShow& show, const TitleParts& title,

@@ -58,7 +58,7 @@ class DescriptionReader {
     /// "(D|F) 2025 • S1 E2 • FSK 12" on the first line.
     void takeProductionLine() {
         static const QRegularExpression kLine(
-            u"^\\(([^()\\n]{1,40})\\)\\s?(\\d{4})((?:\\s[^\\n]{0,60})?)(?:\\n|$)"_s);
+            u"^\\(([^()\\n]{1,40})\\)\\s?(\\d{4})((?: [^\\n]{0,60})?)(?:\\n|$)"_s);
         if (!text().startsWith(u'(')) {
             return;
         }

@@ -1,6 +1,7 @@
 #include "text/reading/TitleReading.h"
 
 #include "text/cleaning/TextTidying.h"
+#include "text/facts/DateNotes.h"
 #include "text/facts/EpisodeNotation.h"
 #include "text/facts/TitleNotes.h"
 #include "text/search/FoldedText.h"
@@ -39,13 +40,15 @@ bool hasOtherScript(QStringView text) {
 
 class TitleReader {
   public:
-    TitleReader(const QString& title, const QString& language)
-        : m_language(language) {
+    TitleReader(const QString& title, const QString& language, int broadcastIn)
+        : m_language(language)
+        , m_broadcastIn(broadcastIn) {
         m_read.title = title;
     }
 
     ReadTitle run() {
-        for (int i = 0; i < kMostTails && (takeBracket() || takeSlashes() || takeEnd() || takeSegment());
+        for (int i = 0;
+             i < kMostTails && (takeBracket() || takeSlashes() || takeDate() || takeEnd() || takeSegment());
              ++i) {
         }
         takeMiddle();
@@ -105,7 +108,7 @@ class TitleReader {
         if (const Newness newness = newnessMark(note, isBracketed); newness != Newness::Unknown) {
             return shorten(left) && set(m_read.facts.newness, newness);
         }
-        if (isBracketed && isTechnicalNote(note)) {
+        if (isBracketed && (isTechnicalNote(note) || isDateNote(note, m_broadcastIn))) {
             return shorten(left);
         }
         const auto production = productionNote(note);
@@ -133,13 +136,53 @@ class TitleReader {
             const QString rating = *age;
             return shorten(left) && set(m_read.facts.ageRating, rating);
         }
-        // Feeds in another script add the title as it is known elsewhere.
-        if (isBracketed && note.size() > 2 && hasLatin(note) && !hasOtherScript(note) &&
-            hasOtherScript(QStringView(m_read.title).first(left))) {
+        if (!isBracketed && takeKind(note, left)) {
+            return true;
+        }
+        if (isBracketed && isOriginalTitle(note, QStringView(m_read.title).first(left))) {
             const QString original = note.toString();
             return shorten(left) && set(m_read.facts.originalTitle, original);
         }
         return false;
+    }
+
+    /// The words of a genre in front of country and year: "Spielfilm Italien/USA 1956". 0 when it is another
+    /// text.
+    static qsizetype kindSize(QStringView note) {
+        constexpr int kMostWords = 3;
+        qsizetype blank = note.indexOf(u' ');
+        for (int words = 1; words <= kMostWords && blank > 0; ++words) {
+            if (isGenreNote(note.first(blank)) && productionNote(note.sliced(blank + 1))) {
+                return blank;
+            }
+            blank = note.indexOf(u' ', blank + 1);
+        }
+        return 0;
+    }
+
+    bool takeKind(QStringView note, qsizetype left) {
+        const qsizetype size = kindSize(note);
+        if (size == 0) {
+            return false;
+        }
+        const auto production = productionNote(note.sliced(size + 1));
+        const QString genre = note.first(size).toString();
+        if (!shorten(left)) {
+            return false;
+        }
+        m_read.genre = genre;
+        return set(*production);
+    }
+
+    /// Feeds in another script add the title as it is known elsewhere; others add it behind the kind.
+    static bool isOriginalTitle(QStringView note, QStringView front) {
+        if (note.size() <= 2 || !hasLatin(note) || hasOtherScript(note)) {
+            return false;
+        }
+        constexpr QStringView kJoint = u" - ";
+        const qsizetype joint = front.lastIndexOf(kJoint);
+        return hasOtherScript(front) ||
+               (joint > 0 && kindSize(front.sliced(joint + kJoint.size()).trimmed()) > 0);
     }
 
     template <class Value>
@@ -185,6 +228,20 @@ class TitleReader {
         return text;
     }
 
+    /// The date of the broadcast.
+    bool takeDate() {
+        const QStringView title(m_read.title);
+        for (const QStringView joint :
+             {QStringView(u" - "), QStringView(u" – "), QStringView(u", "), QStringView(u": ")}) {
+            const qsizetype at = title.lastIndexOf(joint);
+            if (at > 0 && isDateNote(title.sliced(at + joint.size()), m_broadcastIn)) {
+                return shorten(at);
+            }
+        }
+        const qsizetype date = dateAtEnd(title, m_broadcastIn);
+        return date > 0 && shorten(date);
+    }
+
     /// What follows the last comma or dash.
     bool takeSegment() {
         const QStringView title(m_read.title);
@@ -197,11 +254,20 @@ class TitleReader {
             const QStringView note = title.sliced(at + joint.size());
             // Sentences and headings say more than a comma and a dash.
             const bool isLoose = joint == u": " || joint == u". ";
-            if (isLoose ? takeEpisode(note, at) : takeNote(note, false, at)) {
+            const qsizetype left = joint == u". " && endsWithAbbreviation(title.first(at)) ? at + 1 : at;
+            if (isLoose ? takeEpisode(note, left) : takeNote(note, false, left)) {
                 return true;
             }
         }
         return false;
+    }
+
+    /// "stb", "usw": their full stop does not end a sentence.
+    static bool endsWithAbbreviation(QStringView text) {
+        constexpr qsizetype kLongest = 4;
+        const QStringView word = text.sliced(text.lastIndexOf(u' ') + 1);
+        return word.size() <= kLongest &&
+               std::ranges::all_of(word, [](QChar unit) { return unit.isLower(); });
     }
 
     bool takeEpisode(QStringView note, qsizetype left) {
@@ -244,6 +310,7 @@ class TitleReader {
     }
 
     const QString& m_language;
+    const int m_broadcastIn;
     ReadTitle m_read;
 };
 
@@ -257,26 +324,31 @@ QString placeholderKey(QStringView title) {
 
 } // namespace
 
-ReadTitle readTitle(const QString& text, const QString& language) {
+ReadTitle readTitle(const QString& text, const QString& language, int broadcastIn) {
     const QString title = tidiedTitle(text);
     if (title.isEmpty() || title.size() > kLongestTitle) {
         return {.title = title, .subtitle = {}, .facts = {}, .genre = {}};
     }
-    return TitleReader(title, language).run();
+    return TitleReader(title, language, broadcastIn).run();
 }
 
 std::optional<SeasonedTitle> seasonedTitle(const QString& title) {
     const qsizetype blank = title.lastIndexOf(u' ');
     const QStringView last = QStringView(title).sliced(blank + 1);
-    const bool isRoman =
-        blank > 0 && !last.isEmpty() && last.size() <= 6 &&
-        std::ranges::all_of(last, [](QChar unit) { return QStringView(u"IVX").contains(unit); });
-    const auto number = isRoman ? episodeNotation(last, QString()) : std::nullopt;
     const QStringView left = withoutJoint(QStringView(title).first(std::max<qsizetype>(blank, 0)));
-    if (!number || !number->season || left.isEmpty()) {
+    if (blank <= 0 || last.isEmpty() || last.size() > 6 || left.isEmpty()) {
         return std::nullopt;
     }
-    return SeasonedTitle{left.toString(), *number->season};
+    if (std::ranges::all_of(last, [](QChar unit) { return QStringView(u"IVX").contains(unit); })) {
+        const auto number = episodeNotation(last, QString());
+        return number && number->season ? std::optional(SeasonedTitle{left.toString(), *number->season})
+                                        : std::nullopt;
+    }
+    bool isNumber = false;
+    const int season = last.size() <= 2 && last[0].isDigit() ? last.toInt(&isNumber) : 0;
+    // "Studio 1" is a name.
+    return isNumber && season > 1 ? std::optional(SeasonedTitle{left.toString(), season, true})
+                                  : std::nullopt;
 }
 
 bool isFeedPlaceholder(const QString& title) {

@@ -21,17 +21,19 @@ struct ReadTitle {
     std::optional<QString> genre;
 };
 
-/// Takes recognised tails off a title: years with countries, genres, episodes, marks of repeats and the like.
-/// What is not recognised stays. `language` is an ISO 639-1 code or empty. The title is tidied, but its case
-/// is not changed.
-ReadTitle readTitle(const QString& text, const QString& language);
+/// Takes recognised tails off a title: years with countries, genres, episodes, marks of repeats, the date of
+/// the broadcast and the like. What is not recognised stays. `language` is an ISO 639-1 code or empty,
+/// `broadcastIn` a year, 0 when unknown. The title is tidied, but its case is not changed.
+ReadTitle readTitle(const QString& text, const QString& language, int broadcastIn = 0);
 
 struct SeasonedTitle {
     QString title;
     int season = 0;
+    /// In digits, which may belong to the name: only a season that is told elsewhere too is one.
+    bool isArabic = false;
 };
 
-/// "FBI VII" as a title and a season. Nothing without a Roman number at the end.
+/// "FBI VII" or "The King of Queens 5" as a title and a season. Nothing without a number at the end.
 std::optional<SeasonedTitle> seasonedTitle(const QString& title);
 
 /// Whether a title says, in any language, that nothing is known about the slot.
