@@ -24,9 +24,27 @@ bool closes(QChar unit) {
     return QStringView(u".!?…:;\"”“»)]").contains(unit);
 }
 
+/// Whether there is nothing to do, as in most texts.
+bool isTidy(QStringView text) {
+    QChar before = u' ';
+    for (const QChar unit : text) {
+        const char16_t code = unit.unicode();
+        const bool isPlain = (code > 0x20 && code < 0x7f && code != u'\\') || (code > 0xa0 && code < 0x1680);
+        const bool isBlank = code == u' ' && before != u' ';
+        if (!isPlain && !isBlank && (code < 0x1680 || unit.isSpace() || isInvisible(unit))) {
+            return false;
+        }
+        before = unit;
+    }
+    return before != u' ';
+}
+
 /// One pass: blanks are collapsed, and line ends become blanks or, with `keepsLines`, stay where they divide
 /// sentences.
 QString tidied(const QString& text, bool keepsLines) {
+    if (isTidy(text)) {
+        return text;
+    }
     QString result(text.size(), Qt::Uninitialized);
     QChar* to = result.data();
     QChar* const begin = to;

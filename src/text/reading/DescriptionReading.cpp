@@ -19,6 +19,7 @@ constexpr int kMostNotes = 8;
 constexpr qsizetype kLongestMark = 50;
 constexpr qsizetype kLongestName = 100;
 constexpr qsizetype kLongestGenre = 20;
+constexpr qsizetype kLongestHead = 40;
 constexpr qsizetype kLongestOriginalTitle = 150;
 
 class DescriptionReader {
@@ -130,8 +131,10 @@ class DescriptionReader {
     void takeAirTime() {
         static const QRegularExpression kAirTime(u"\\s*Ausstrahlung\\s(?:\\p{L}+|\\d{1,2}\\.\\d{1,2}\\.(?:"
                                                  u"\\d{2,4})?|\\p{L}{2},?\\s\\d{1,2}\\.\\d{1,2}\\.)\\s"
-                                                 u"\\d{1,2}:\\d{2}-\\d{1,2}:\\d{2}\\.?\\s*$"_s);
-        if (text().contains("Ausstrahlung"_L1)) {
+                                                 u"\\d{1,2}:\\d{2}-\\d{1,2}:\\d{2}\\s*$"_s);
+        const QStringView all = QStringView(text()).trimmed();
+        const bool endsInTime = !all.isEmpty() && all.back().isDigit();
+        if (endsInTime && text().contains("Ausstrahlung"_L1)) {
             text().remove(kAirTime);
         }
     }
@@ -240,6 +243,11 @@ class DescriptionReader {
                 return true;
             }
         }
+        // Looking closer takes longer.
+        const QStringView head = all.first(std::min(all.size(), kLongestHead));
+        if (std::ranges::none_of(head, [](QChar unit) { return unit.isDigit(); })) {
+            return false;
+        }
         if (takeBehindGenre(all)) {
             return true;
         }
@@ -300,6 +308,10 @@ class DescriptionReader {
                 text() = text().trimmed();
                 return true;
             }
+            return false;
+        }
+        const QStringView tail = all.endsWith(u'.') ? all.chopped(1) : all;
+        if (tail.isEmpty() || !tail.back().isDigit()) {
             return false;
         }
         const auto found = episodeAtEnd(all, m_language, NotationPlace::Description);
