@@ -141,6 +141,20 @@ int yearOf(const std::optional<Moment>& moment) {
                   : 0;
 }
 
+/// Some feeds repeat the subtitle behind the title.
+QString withoutSubtitle(const QString& title, const std::optional<QString>& subtitle) {
+    if (!subtitle || subtitle->isEmpty() || !title.endsWith(*subtitle, Qt::CaseInsensitive)) {
+        return title;
+    }
+    const QStringView rest = QStringView(title).chopped(subtitle->size());
+    for (const QStringView joint : {QStringView(u": "), QStringView(u" - ")}) {
+        if (rest.endsWith(joint) && rest.size() > joint.size()) {
+            return rest.chopped(joint.size()).toString();
+        }
+    }
+    return title;
+}
+
 std::optional<QString> stringOf(const FeedTexts::Each* text) {
     return text ? std::optional(feedString(text->text)) : std::nullopt;
 }
@@ -300,7 +314,9 @@ std::optional<ExtendedTVEntry> FeedShowMaker::make(const FeedShow& show, const F
 
     ExtendedTVEntry made{std::make_shared<TVEntry>(m_options.alphabet), found,
                          std::make_shared<TVEntrySupplementalData>(), pictures(show)};
-    made.basic->setIdentificator(isSeasoned ? title.seasoned->title : title.shown);
+    const QString& shown = isSeasoned ? title.seasoned->title : title.shown;
+    made.basic->setIdentificator(reading.keepsTitlesWhole ? withoutSubtitle(shown, finished.subtitle1)
+                                                          : shown);
     made.basic->setSubtitle1(std::move(finished.subtitle1));
     made.basic->setInstantDetails1(std::move(finished.instantDetails1));
     made.basic->setInstantDescription1(title.instantDescription);

@@ -178,7 +178,7 @@ class DescriptionReader {
             ++end;
         } else {
             // A sentence may follow.
-            static const QRegularExpression kEnd(u"(?<=[\\p{Ll}\\d!?])\\.\\s(?=\\p{Lu})|\\.$"_s);
+            static const QRegularExpression kEnd(u"(?<=[\\p{Ll}\\d!?])\\.(?:\\s(?=\\p{Lu})|$)"_s);
             if (const auto stop = kEnd.match(title); stop.hasMatch()) {
                 cut(stop.capturedStart());
                 ++end;

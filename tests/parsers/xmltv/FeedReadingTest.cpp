@@ -168,6 +168,7 @@ TEST(FeedReading, FactsComeFromElements) {
         {"<premiere/><previously-shown channel=\"b\"/>", "newness=[new]"},
         {"<title lang=\"en\">Original</title>", "originalTitle=[Original]"},
         {"<title lang=\"en\">T</title>", ""},
+        {"<desc>Text. Originaltitel: Magnum, P.I.</desc>", "desc=Text. | originalTitle=[Magnum, P.I.]"},
         {"<desc>Text. Originaltitel: Der Fall. Mehr.</desc>", "desc=Text. Mehr. | originalTitle=[Der Fall]"},
         {"<desc>(USA) 2017 • S1 E2 • FSK 12\nText.</desc>",
          "desc=Text. | ageRating=[12] | countries=[[USA]] | episode=[{episode:2,season:1}] | year=[2017]"},
@@ -202,6 +203,16 @@ TEST(FeedReading, RulesForPremieresLeaveOutNothingButReplays) {
         const auto shows = std::make_shared<const ShowItems>(ShowItems{ShowItem(channel.entries.front())});
         const AllShows all({std::make_shared<const ChannelList>(shows)}, Moment::min());
         EXPECT_EQ(isBroadcast(all, u"A"_s, false, kNow), newness != Newness::Repeat) << elements.constData();
+    }
+}
+
+TEST(FeedReading, TitleAndSubtitleDoNotRepeatEachOther) {
+    for (const auto& [title, subtitle] :
+         {std::pair("A: B", "B"), std::pair("A", "A - B"), std::pair("A - B", "b")}) {
+        const QByteArray texts =
+            QByteArray("<title>") + title + "</title><sub-title>" + subtitle + "</sub-title>";
+        const FeedChannelEntries channel = read(at(10, texts), ownReading(), u"it"_s);
+        EXPECT_EQ(summary(channel.entries.front()).toLower(), u"a | sub=b"_s) << title;
     }
 }
 
@@ -240,6 +251,24 @@ TEST(FeedReading, EndsAreRepairedOncePerList) {
                         u'-' + isoMoment(*entry.basic->endDateTime()).mid(11, 5);
         }
         EXPECT_EQ(list.join(u' '), QString::fromUtf8(expected)) << what;
+    }
+}
+
+TEST(FeedReading, ALoneCarriageReturnIsALineEndInBothReadings) {
+    const std::pair<QByteArray, const char*> rows[] = {
+        {"a\rb", "desc=a b."},
+        {"a\r\nb", "desc=a b."},
+        {"a.\rb", "desc=a.\nb."},
+        {QByteArray(300'000, 'x') + "\xc4\x8d\r\xc4\x8d", "\xc4\x8d \xc4\x8d."},
+    };
+    for (const auto& [text, expected] : rows) {
+        for (const FeedReading& reading : {catalogueReading(), ownReading()}) {
+            const FeedChannelEntries channel =
+                read(at(10, "<title>T</title><desc>" + text + "</desc>"), reading, u"cs"_s);
+            ASSERT_EQ(channel.entries.size(), 1U);
+            EXPECT_TRUE(summary(channel.entries.front()).endsWith(QString::fromUtf8(expected)))
+                << text.right(8).toStdString();
+        }
     }
 }
 
