@@ -265,11 +265,12 @@ bool isGenreNote(QStringView text) {
     }
     const GenreWords& known = genreWords();
     bool hasNoun = false;
-    for (const QStringView word : QStringTokenizer(QStringView(keyOf(text)), u' ', Qt::SkipEmptyParts)) {
-        const QString key = word.toString();
-        const bool isNoun = known.nouns.contains(key);
+    const QString key = keyOf(text);
+    for (const QStringView part : QStringTokenizer(QStringView(key), u' ', Qt::SkipEmptyParts)) {
+        const QString word = part.toString();
+        const bool isNoun = known.nouns.contains(word);
         hasNoun = hasNoun || isNoun;
-        if (!isNoun && !known.others.contains(key)) {
+        if (!isNoun && !known.others.contains(word)) {
             return false;
         }
     }

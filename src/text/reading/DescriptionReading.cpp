@@ -22,6 +22,24 @@ constexpr qsizetype kLongestGenre = 20;
 constexpr qsizetype kLongestHead = 40;
 constexpr qsizetype kLongestOriginalTitle = 150;
 
+/// Whether a part of the label of an original title stands in front of a colon or a line end.
+bool hasOriginalTitleLabel(QStringView text) {
+    static constexpr std::array<QStringView, 11> kParts{u"rigina",    u"rig. ",   u"redeti c", u"vodní n",
+                                                        u"vodný n",   u"tytuł o", u"Tytuł o",  u"rijinal",
+                                                        u"ρωτότυπος", u"ригинал", u"riģināl"};
+    constexpr qsizetype kLongestLabel = 26;
+    for (const QChar end : {u':', u'\n'}) {
+        for (qsizetype at = text.indexOf(end); at >= 0; at = text.indexOf(end, at + 1)) {
+            const qsizetype begin = std::max<qsizetype>(0, at - kLongestLabel);
+            const QStringView front = text.sliced(begin, at - begin);
+            if (std::ranges::any_of(kParts, [front](QStringView part) { return front.contains(part); })) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 class DescriptionReader {
   public:
     DescriptionReader(const QString& text, const QString& language)
@@ -147,15 +165,8 @@ class DescriptionReader {
             u"Původní název|Originalni naslov|Originalni naziv|Orig\\. naslov|Titlu original|Titlul original|"
             u"Tytuł oryginalny|Orijinal adı|Orijinal isim|Πρωτότυπος τίτλος|Оригинален наслов|"
             u"Оригинално заглавие|Оригинални наслов|Título original|Oriģinālnosaukums)\\s?(:|\\n)\\s?([^\\n]{1,200})"_s);
-        if (!text().contains(u':') && !text().contains("Originaltitel\n"_L1)) {
-            return;
-        }
-        // Parts of every label; the expression takes longer.
-        static constexpr std::array<QStringView, 9> kParts{u"rigina",  u"rig. ",     u"redeti c",
-                                                           u"vodní n", u"vodný n",   u"tytuł o",
-                                                           u"rijinal", u"ρωτότυπος", u"ригинал"};
-        if (std::ranges::none_of(kParts, [this](QStringView part) { return text().contains(part); }) &&
-            !text().contains(u"riģināl") && !text().contains(u"Tytuł o")) {
+        // The expression takes longer.
+        if (!hasOriginalTitleLabel(text())) {
             return;
         }
         const auto match = kLabels.match(text());
