@@ -24,37 +24,19 @@ bool closes(QChar unit) {
     return QStringView(u".!?…:;\"”“»)]").contains(unit);
 }
 
-/// Whether there is nothing to do, as in most texts; false for some texts of that kind. Has no branches, so
-/// that the compiler takes many characters at once.
-bool isPlain(QStringView text) {
-    if (text.isEmpty() || text.front() == u' ' || text.back() == u' ') {
-        return text.isEmpty();
-    }
-    const char16_t* const units = text.utf16();
-    const auto isOther = [](char16_t code) {
-        return static_cast<unsigned>(code < 0x20) | static_cast<unsigned>(code == u'\\') |
-               static_cast<unsigned>(static_cast<char16_t>(code - 0x7f) <= 0xa0 - 0x7f) |
-               static_cast<unsigned>(code >= 0x1680);
-    };
-    unsigned other = isOther(units[0]);
-    for (qsizetype i = 1; i < text.size(); ++i) {
-        other |= isOther(units[i]) |
-                 (static_cast<unsigned>(units[i] == u' ') & static_cast<unsigned>(units[i - 1] == u' '));
-    }
-    return other == 0;
+/// A character that is neither a blank nor invisible nor a backslash; false for some of these too.
+bool isPlain(QChar unit) {
+    const char16_t code = unit.unicode();
+    return (code > 0x20 && code < 0x7f && code != u'\\') || (code > 0xa0 && code < 0x1680) ||
+           (code > 0x2010 && code < 0x2027);
 }
 
-/// Whether there is nothing to do.
+/// Whether there is nothing to do, as in most texts.
 bool isTidy(QStringView text) {
-    if (isPlain(text)) {
-        return true;
-    }
     QChar before = u' ';
     for (const QChar unit : text) {
-        const char16_t code = unit.unicode();
-        const bool isPlain = (code > 0x20 && code < 0x7f && code != u'\\') || (code > 0xa0 && code < 0x1680);
-        const bool isBlank = code == u' ' && before != u' ';
-        if (!isPlain && !isBlank && (code < 0x1680 || unit.isSpace() || isInvisible(unit))) {
+        const bool isBlank = unit == u' ' && before != u' ';
+        if (!isPlain(unit) && !isBlank && (unit < QChar(0x1680) || unit.isSpace() || isInvisible(unit))) {
             return false;
         }
         before = unit;
@@ -76,7 +58,9 @@ QString tidied(const QString& text, bool keepsLines) {
     const qsizetype size = text.size();
     for (qsizetype i = 0; i < size; ++i) {
         const QChar unit = text[i];
-        if (isLineBreak(unit)) {
+        if (isPlain(unit) && !isBlank) {
+            *to++ = unit;
+        } else if (isLineBreak(unit)) {
             lineEnds += unit == u'\r' && i + 1 < size && text[i + 1] == u'\n' ? 0 : 1;
             isBlank = true;
         } else if (unit.isSpace()) {

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 #include <vector>
@@ -97,6 +98,24 @@ std::optional<CreditLabel> labelAt(const QString& text, qsizetype colon, bool is
 
 } // namespace
 
+/// Whether the last word may mean "and others"; the expression takes longer.
+bool mayEndInOthers(const QString& names) {
+    static const QSet<QString> kLastWords{
+        u"a"_s,      u"m"_s,     u"altri"_s, u"al"_s,    u"další"_s, u"ďalší"_s,  u"iní"_s,
+        u"jiní"_s,   u"mások"_s, u"inni"_s,  u"alții"_s, u"alţii"_s, u"altii"_s,  u"ά"_s,
+        u"α"_s,      u"drugi"_s, u"dr"_s,    u"др"_s,    u"други"_s, u"ostali"_s, u"diğerleri"_s,
+        u"others"_s, u"etc"_s,   u"itd"_s,   u"atd"_s,   u"otros"_s, u""_s};
+    QStringView last = QStringView(names).trimmed();
+    while (!last.isEmpty() && (last.back() == u'.' || last.back() == u'…')) {
+        last.chop(1);
+    }
+    const auto isJoint = [](QChar unit) {
+        return unit.isSpace() || unit == u'.' || unit == u',' || unit == u';';
+    };
+    const auto begin = std::find_if(last.rbegin(), last.rend(), isJoint).base();
+    return kLastWords.contains(last.sliced(begin - last.begin()).toString().toLower());
+}
+
 QString withoutOthers(const QString& names) {
     static const QRegularExpression kOthers(
         u"(?:[,;]\\s*|\\s+|^)(?:u\\.\\s?a\\.?(?:\\s?m\\.?)?|e altri|ed altri|altri|et al\\.?|a další|a "
@@ -109,7 +128,9 @@ QString withoutOthers(const QString& names) {
     QString left = names;
     for (int i = 0; i < 3; ++i) {
         const qsizetype before = left.size();
-        left.remove(kOthers);
+        if (mayEndInOthers(left)) {
+            left.remove(kOthers);
+        }
         left = left.trimmed();
         while (left.endsWith(u',') || left.endsWith(u';') || left.endsWith(u'-')) {
             left.chop(1);

@@ -28,10 +28,16 @@ bool hasOriginalTitleLabel(QStringView text) {
                                                         u"vodný n",   u"tytuł o", u"Tytuł o",  u"rijinal",
                                                         u"ρωτότυπος", u"ригинал", u"riģināl"};
     constexpr qsizetype kLongestLabel = 26;
+    // "Originaltitel", "Titolo originale", "Eredeti cím", "název", "oryginalny", "Orijinal adı", "τίτλος",
+    // "наслов", "nosaukums".
+    constexpr QStringView kLastLetters = u"lemvyıςвs";
     for (const QChar end : {u':', u'\n'}) {
         for (qsizetype at = text.indexOf(end); at >= 0; at = text.indexOf(end, at + 1)) {
             const qsizetype begin = std::max<qsizetype>(0, at - kLongestLabel);
-            const QStringView front = text.sliced(begin, at - begin);
+            const QStringView front = text.sliced(begin, at - begin).trimmed();
+            if (front.isEmpty() || !kLastLetters.contains(front.back())) {
+                continue;
+            }
             if (std::ranges::any_of(kParts, [front](QStringView part) { return front.contains(part); })) {
                 return true;
             }

@@ -231,6 +231,9 @@ class TitleReader {
     /// The date of the broadcast.
     bool takeDate() {
         const QStringView title(m_read.title);
+        if (m_broadcastIn == 0 || std::ranges::none_of(title, [](QChar unit) { return unit.isDigit(); })) {
+            return false;
+        }
         for (const QStringView joint :
              {QStringView(u" - "), QStringView(u" – "), QStringView(u", "), QStringView(u": ")}) {
             const qsizetype at = title.lastIndexOf(joint);
