@@ -12,7 +12,9 @@
 #include "text/reading/DescriptionReading.h"
 #include "text/reading/SubtitleReading.h"
 #include "text/reading/TitleReading.h"
+#include "text/search/FoldedText.h"
 
+#include <QSet>
 #include <QUrl>
 
 #include <algorithm>
@@ -141,6 +143,16 @@ int yearOf(const std::optional<Moment>& moment) {
                   : 0;
 }
 
+/// "LIVE: Inter - Milan" is titled by what follows.
+bool isLiveMark(QStringView text) {
+    static const QSet<QString> kMarks{u"live"_s,       u"diretta"_s, u"in diretta"_s, u"en direct"_s,
+                                      u"direct"_s,     u"direkt"_s,  u"elo"_s,        u"zive"_s,
+                                      u"nazivo"_s,     u"uzivo"_s,   u"v zivo"_s,     u"na zywo"_s,
+                                      u"en directo"_s, u"directo"_s, u"em direto"_s,  u"canli"_s,
+                                      u"in direct"_s,  u"ζωντανα"_s, u"на живо"_s,    u"уживо"_s};
+    return kMarks.contains(foldedText(text));
+}
+
 /// Some feeds repeat the subtitle behind the title.
 QString withoutSubtitle(const QString& title, const std::optional<QString>& subtitle) {
     if (!subtitle || subtitle->isEmpty() || !title.endsWith(*subtitle, Qt::CaseInsensitive)) {
@@ -149,7 +161,8 @@ QString withoutSubtitle(const QString& title, const std::optional<QString>& subt
     const QStringView rest = QStringView(title).chopped(subtitle->size());
     for (const QStringView joint : {QStringView(u": "), QStringView(u" - ")}) {
         if (rest.endsWith(joint) && rest.size() > joint.size()) {
-            return rest.chopped(joint.size()).toString();
+            const QStringView front = rest.chopped(joint.size());
+            return isLiveMark(front) ? title : front.toString();
         }
     }
     return title;

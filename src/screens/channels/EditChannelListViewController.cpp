@@ -126,8 +126,10 @@ Row EditChannelListViewController::channelRow(const ObjectId& channel, const Cat
         const QString failed = failure ? loadFailureText(*failure) : QString();
         QStringList facts;
         if (channel.isOwn()) {
-            const auto source = ownSourceNames().find(channel);
-            if (source != ownSourceNames().end() && !failed.contains(source->second)) {
+            // Looked up once: the names are made anew when a source changes.
+            const std::unordered_map<ObjectId, QString>& names = ownSourceNames();
+            const auto source = names.find(channel);
+            if (source != names.end() && !failed.contains(source->second)) {
                 facts << source->second;
             }
         }

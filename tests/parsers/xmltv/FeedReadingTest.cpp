@@ -214,6 +214,10 @@ TEST(FeedReading, TitleAndSubtitleDoNotRepeatEachOther) {
         const FeedChannelEntries channel = read(at(10, texts), ownReading(), u"it"_s);
         EXPECT_EQ(summary(channel.entries.front()).toLower(), u"a | sub=b"_s) << title;
     }
+    const FeedChannelEntries live =
+        read(at(10, "<title>LIVE: Inter - Milan</title><sub-title>Inter - Milan</sub-title>"), ownReading(),
+             u"it"_s);
+    EXPECT_TRUE(live.entries.front().basic->title()->endsWith(u"Inter - Milan"));
 }
 
 TEST(FeedReading, EndsAreRepairedOncePerList) {

@@ -5,7 +5,6 @@
 #include <QByteArray>
 
 #include <algorithm>
-#include <cstring>
 
 namespace guide::test {
 
@@ -18,7 +17,7 @@ class PiecewiseText final : public TextSource {
 
     std::size_t read(std::span<char> room) override {
         const std::size_t count = std::min({room.size(), m_piece, static_cast<std::size_t>(m_rest.size())});
-        std::memcpy(room.data(), m_rest.data(), count);
+        std::copy_n(m_rest.data(), count, room.data());
         m_rest = m_rest.sliced(static_cast<qsizetype>(count));
         return count;
     }
