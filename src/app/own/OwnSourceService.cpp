@@ -332,6 +332,7 @@ void OwnSourceService::takeMatches(const OwnSourceId& id, const OwnSourceId& fee
     }
     // The user may have decided meanwhile.
     const QSet<QString> wanting = channelsToMatch(*playlist);
+    bool isChanged = false;
     for (OwnChannel& channel : playlist->channels) {
         const auto place = places.constFind(channel.key);
         if (place == places.cend() || !wanting.contains(channel.key)) {
@@ -342,8 +343,11 @@ void OwnSourceService::takeMatches(const OwnSourceId& id, const OwnSourceId& fee
         if (!channel.languageCorrected && !guide.language.isEmpty()) {
             channel.language = guide.language;
         }
+        isChanged = true;
     }
-    update(*playlist);
+    if (isChanged) {
+        update(*playlist);
+    }
 }
 
 void OwnSourceService::choose(const OwnSourceId& id, const SourceProposal& proposal,

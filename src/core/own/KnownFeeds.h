@@ -44,7 +44,7 @@ class KnownFeeds {
     static KnownFeeds fromFile(const QString& path);
 
     const std::vector<KnownFeedCountry>& countries() const { return m_countries; }
-    /// The case of the letters does not matter. Null when there are none.
+    /// The feeds of a region, given as its two letters in any case; null when none are known.
     const KnownFeedCountry* feedsForRegion(const QString& region) const;
 
   private:

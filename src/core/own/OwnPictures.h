@@ -21,8 +21,8 @@ class OwnPictures {
 
     /// The file of the channel's picture; nothing when the user chose none.
     std::optional<QString> pathOf(const OwnSourceId& source, const ObjectId& channel) const;
-    /// Takes the picture from a file of any format that icons may have. False when it is none, or could not
-    /// be written. Blocks.
+    /// Keeps a copy of the picture in the file, which may have any format of icons. False when the file is
+    /// not such a picture or the copy could not be written. Blocks.
     bool set(const OwnSourceId& source, const ObjectId& channel, const QString& file);
     /// Blocks.
     void remove(const OwnSourceId& source, const ObjectId& channel);

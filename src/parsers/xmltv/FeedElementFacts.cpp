@@ -1,11 +1,12 @@
 #include "parsers/xmltv/FeedElementFacts.h"
 
+#include "text/facts/EpisodeElement.h"
 #include "text/facts/EpisodeNotation.h"
 #include "text/facts/TitleNotes.h"
 
 #include <QRegularExpression>
 
-#include <array>
+#include <algorithm>
 
 namespace guide {
 
@@ -23,7 +24,7 @@ QString factText(std::string_view bytes) {
 EpisodeNumber episodeOf(const FeedTexts& episodes, const QString& language) {
     EpisodeNumber number;
     // By how much they are worth.
-    for (const std::string_view system : {"xmltv_ns", "onscreen", "common", "SxxExx", ""}) {
+    for (const std::string_view system : {"xmltv_ns", "onscreen", "common", "SxxExx", "SxxxExxx", ""}) {
         for (const FeedTexts::Each& each : episodes.all()) {
             if (each.kind == system) {
                 completeEpisode(number,
@@ -35,7 +36,7 @@ EpisodeNumber episodeOf(const FeedTexts& episodes, const QString& language) {
 }
 
 std::optional<int> yearOfDate(const QString& date) {
-    // The beginning of a computer's time stands for no date.
+    // Where the time of computers begins: the date is unknown.
     return date == u"19700101"_s ? std::nullopt
                                  : yearOf(QStringView(date).first(std::min<qsizetype>(4, date.size())));
 }

@@ -243,7 +243,7 @@ struct FeedShowMaker::TitleParts {
     /// With FeedReading::keepsTitlesWhole only.
     std::optional<QString> subtitle;
     ShowFacts facts;
-    /// The title without a Roman number at its end, which is a season when the show is an episode.
+    /// The title without the number at its end, in case that number is a season.
     std::optional<SeasonedTitle> seasoned;
 };
 
@@ -317,7 +317,8 @@ std::optional<ExtendedTVEntry> FeedShowMaker::make(const FeedShow& show, const F
         found &= ~TVListingsCategoryMovies;
     }
 
-    // A film with a number has no episodes.
+    // A Roman number is the season of an episode, unlike that of a film; another one only if the feed says
+    // so.
     const bool isSeasoned =
         title.seasoned && (title.seasoned->isArabic ? facts.episode.season == title.seasoned->season
                                                     : facts.episode.episode && !facts.episode.season);

@@ -26,8 +26,8 @@ class XMLStream {
     /// Allows everything before the offset to be forgotten.
     void forget(std::size_t offset);
 
-    /// Begins a new document with `root` at the first opening tag at or behind the offset, and behind the
-    /// tag that it was restarted at before. False when there is none. `opening` is "<" and a name.
+    /// Begins a new document, with `root` in front, at the first opening tag at or after the offset that is
+    /// also after the tag of the last restart. False when no such tag follows. `opening` is "<" and a name.
     bool restartAt(std::size_t offset, std::string_view opening, std::string_view root);
 
     /// What is remembered, including bytes that were not given to the parser yet.

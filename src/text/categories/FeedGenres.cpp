@@ -25,28 +25,21 @@ bool isLongerThan(const ShowText& show, minutes length) {
 bool isShorterThan(const ShowText& show, minutes length) {
     return show.length && *show.length < length;
 }
+
 const GenreWords& channelWords() {
     static const GenreWords kWords(kChannel | kChannelStart);
     return kWords;
 }
-/// What the name of the channel says. Successive shows of a feed mostly are on the same channel.
+
+/// What the name of the channel says.
 Bits channelTheme(const ShowText& show) {
-    struct Known {
-        QString channel;
-        QString language;
-        Bits theme = 0;
-    };
-    static thread_local Known known;
-    if (known.channel == show.channelName && known.language == show.language) {
-        return known.theme;
-    }
-    known = {show.channelName, show.language, 0};
+    Bits theme = 0;
     for (const Hit& hit : channelWords().find(show.channelName, show.language, kChannel | kChannelStart)) {
         if ((hit.row->places & kChannel) || hit.begin == 0) {
-            known.theme |= hit.row->adds;
+            theme |= hit.row->adds;
         }
     }
-    return known.theme;
+    return theme;
 }
 
 /// The categories of what was found.

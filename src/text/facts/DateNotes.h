@@ -11,7 +11,7 @@ namespace guide {
 /// nothing else: "31/12/2025", "Tuesday, December 30, 2025 9PM", "ze dne 1. ledna 2026".
 bool isDateNote(QStringView text, int broadcastIn);
 
-/// Where a whole date in digits begins that ends the text behind a blank; -1 when there is none.
+/// The position of a whole date in digits that ends the text and follows a blank; -1 without one.
 qsizetype dateAtEnd(QStringView text, int broadcastIn);
 
 } // namespace guide

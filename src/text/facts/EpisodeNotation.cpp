@@ -14,9 +14,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype kLongestNotation = 60;
-constexpr int kMostEpisode = 9'998;
-/// Greater seasons are years or placeholders.
-constexpr int kMostSeason = 98;
 
 bool isDigit(QChar unit) {
     return unit >= u'0' && unit <= u'9';
@@ -420,44 +417,6 @@ bool isEndSign(QStringView text) {
     return text == u"." || text == u",";
 }
 
-/// Fields of "season.episode.part" with totals behind "/", counted from 0.
-EpisodeNumber numberOfFields(const QString& text) {
-    EpisodeNumber number;
-    const QStringList fields = text.split(u'.');
-    const auto read = [&fields](qsizetype index, std::optional<int>& value, std::optional<int>* total) {
-        if (index >= fields.size()) {
-            return;
-        }
-        const QStringList parts = fields[index].split(u'/');
-        bool isNumber = false;
-        const int first = parts[0].trimmed().toInt(&isNumber);
-        if (isNumber && first >= 0) {
-            value = first + 1;
-        }
-        const int most = parts.size() > 1 ? parts[1].trimmed().toInt(&isNumber) : 0;
-        if (total && value && most >= *value) {
-            *total = most;
-        }
-    };
-    read(0, number.season, nullptr);
-    read(1, number.episode, &number.episodes);
-    // A single part is none.
-    read(2, number.part, &number.parts);
-    if (number.part && number.parts.value_or(0) < 2) {
-        const bool isOnly = *number.part == 1;
-        number.part = isOnly ? std::nullopt : number.part;
-        number.parts.reset();
-    }
-    if (number.season && *number.season > kMostSeason) {
-        number.season.reset();
-    }
-    if (number.episode && *number.episode > kMostEpisode) {
-        number.episode.reset();
-        number.episodes.reset();
-    }
-    return number;
-}
-
 } // namespace
 
 std::optional<FoundEpisode> episodeAtStart(QStringView text, const QString& language, NotationPlace place) {
@@ -516,22 +475,6 @@ std::optional<FoundEpisode> episodeAtEnd(QStringView text, const QString& langua
         }
     }
     return std::nullopt;
-}
-
-EpisodeNumber episodeOfElement(const QString& system, const QString& text, const QString& language) {
-    if (system == u"xmltv_ns"_s || (system.isEmpty() && text.count(u'.') == 2)) {
-        return numberOfFields(text);
-    }
-    const bool isKnown = system.isEmpty() || system == u"onscreen"_s || system == u"common"_s ||
-                         system == u"SxxExx"_s || system == u"SxxxExxx"_s;
-    if (!isKnown) {
-        return {};
-    }
-    QStringView view = QStringView(text).trimmed();
-    if (view.startsWith(u'(') && view.endsWith(u')')) {
-        view = view.sliced(1, view.size() - 2);
-    }
-    return episodeNotation(view, language).value_or(EpisodeNumber());
 }
 
 void completeEpisode(EpisodeNumber& number, const EpisodeNumber& other) {

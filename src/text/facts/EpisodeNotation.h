@@ -12,6 +12,10 @@ namespace guide {
 // The many ways in which feeds write the number of an episode: "S01E02", "Folge 3", "4. díl", "II./7.",
 // "Stag. 2 Ep. 5", "(3/8)", "Β' κύκλος". Numbers that stand for "unknown", such as S0 and 999, give none.
 
+/// Greater numbers are years or stand for "unknown".
+inline constexpr int kMostSeason = 98;
+inline constexpr int kMostEpisode = 9'998;
+
 /// Where a notation was found.
 enum class NotationPlace {
     /// In brackets, behind a comma or a dash, or on its own.
@@ -35,10 +39,6 @@ std::optional<EpisodeNumber> episodeNotation(QStringView text, const QString& la
 std::optional<FoundEpisode> episodeAtStart(QStringView text, const QString& language, NotationPlace place);
 /// One that ends the text; it begins behind a blank.
 std::optional<FoundEpisode> episodeAtEnd(QStringView text, const QString& language, NotationPlace place);
-
-/// What the element of an episode's number says, whose systems are "xmltv_ns" (counted from 0), "onscreen",
-/// "common" and others.
-EpisodeNumber episodeOfElement(const QString& system, const QString& text, const QString& language);
 
 /// Sets what the first one leaves open.
 void completeEpisode(EpisodeNumber& number, const EpisodeNumber& other);

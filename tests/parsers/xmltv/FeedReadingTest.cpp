@@ -149,6 +149,8 @@ TEST(FeedReading, FactsComeFromElements) {
         {R"(<episode-num system="xmltv_ns"> 1 . 4/10 . 0/2 </episode-num>)",
          "episode=[{episode:5,episodes:10,part:1,parts:2,season:2}]"},
         {R"(<episode-num system="xmltv_ns">.2.</episode-num>)", "episode=[{episode:3}]"},
+        {R"(<episode-num system="xmltv_ns">2147483647.2/2147483647.0</episode-num>)",
+         "episode=[{episode:3}]"},
         {R"(<episode-num system="onscreen">S01E02</episode-num>)", "episode=[{episode:2,season:1}]"},
         {"<episode-num>3.4.</episode-num>", "episode=[{episode:5,season:4}]"},
         {R"(<episode-num system="onscreen">E12</episode-num><episode-num system="dd_progid">EP1</episode-num>)",
