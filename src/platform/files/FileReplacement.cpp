@@ -152,12 +152,13 @@ bool ReplacementBatch::add(const QString& name, QByteArrayView content, std::opt
     return true;
 }
 
-std::vector<bool> ReplacementBatch::commit() {
+std::vector<bool> ReplacementBatch::commit(const std::function<bool(std::size_t)>& mayReplace) {
     std::vector<bool> replaced(m_written.size(), false);
     if (!m_written.empty() && flush()) {
         for (std::size_t i = 0; i < m_written.size(); ++i) {
             Written& written = m_written[i];
             replaced[i] =
+                (mayReplace == nullptr || mayReplace(i)) &&
                 ::renameat(m_folder, written.temporary.constData(), m_folder, written.name.constData()) == 0;
         }
         // Without this the old files may reappear after a power failure, but they are whole.

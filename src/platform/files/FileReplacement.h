@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -33,8 +34,9 @@ class ReplacementBatch {
     bool empty() const { return m_written.empty(); }
 
     /// Replaces the files and empties the batch. Returns for each added file, in the order of the calls of
-    /// add(), whether it was replaced.
-    std::vector<bool> commit();
+    /// add(), whether it was replaced. Right before each file, `mayReplace` is asked with its number in this
+    /// order.
+    std::vector<bool> commit(const std::function<bool(std::size_t)>& mayReplace = nullptr);
 
   private:
     struct Written {

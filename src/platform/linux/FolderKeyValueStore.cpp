@@ -2,6 +2,7 @@
 
 #include "platform/files/FileContent.h"
 #include "platform/files/FileReplacement.h"
+#include "platform/linux/FileStamp.h"
 #include "platform/linux/FolderWatcher.h"
 #include "platform/linux/KeyValueJson.h"
 
@@ -15,7 +16,6 @@
 #include <chrono>
 #include <cstdint>
 #include <mutex>
-#include <sys/stat.h>
 #include <utility>
 
 namespace guide {
@@ -56,7 +56,7 @@ class FolderKeyValueStore::Files {
         if (!replaceFile(path(name), *json)) {
             return false;
         }
-        m_files.insert(name, {stampOf(path(name)).value_or(Stamp{}), key, value});
+        m_files.insert(name, {fileStamp(path(name)).value_or(FileStamp{}), key, value});
         m_announced.insert(key, value);
         return true;
     }
@@ -103,33 +103,16 @@ class FolderKeyValueStore::Files {
     }
 
   private:
-    /// Differs between two states of a file.
-    struct Stamp {
-        std::int64_t modifiedSeconds = 0;
-        std::int64_t modifiedNanoseconds = 0;
-        std::int64_t size = -1;
-        std::uint64_t inode = 0;
-
-        friend bool operator==(const Stamp&, const Stamp&) = default;
-    };
     struct File {
-        Stamp stamp;
+        FileStamp stamp;
         QString key;
         std::optional<QCborValue> value;
     };
 
     QString path(const QString& name) const { return m_folder + u'/' + name; }
 
-    static std::optional<Stamp> stampOf(const QString& path) {
-        struct stat found{};
-        if (::stat(QFile::encodeName(path).constData(), &found) != 0 || !S_ISREG(found.st_mode)) {
-            return std::nullopt;
-        }
-        return Stamp{found.st_mtim.tv_sec, found.st_mtim.tv_nsec, found.st_size, found.st_ino};
-    }
-
     File read(const QString& name) {
-        const std::optional<Stamp> stamp = stampOf(path(name));
+        const std::optional<FileStamp> stamp = fileStamp(path(name));
         if (!stamp) {
             m_files.remove(name);
             return {};

@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxFileWatch.h"
 
+#include "platform/linux/FileStamp.h"
 #include "platform/linux/FolderWatcher.h"
 
 #include <QDir>
@@ -10,7 +11,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <sys/stat.h>
 #include <vector>
 
 namespace guide {
@@ -24,20 +24,14 @@ constexpr qsizetype kMostFiles = 2'000;
 /// Of one file; changes with its content.
 struct FileState {
     QString name;
-    std::uint64_t device = 0;
-    std::uint64_t inode = 0;
-    std::int64_t size = 0;
-    std::int64_t seconds = 0;
-    std::int64_t nanoseconds = 0;
+    FileStamp stamp;
 
     friend bool operator==(const FileState&, const FileState&) = default;
 };
 
 void appendState(const QString& path, std::vector<FileState>& states) {
-    struct stat found{};
-    if (::stat(QFile::encodeName(path).constData(), &found) == 0) {
-        states.push_back(
-            {path, found.st_dev, found.st_ino, found.st_size, found.st_mtim.tv_sec, found.st_mtim.tv_nsec});
+    if (const std::optional<FileStamp> stamp = fileStamp(path)) {
+        states.push_back({path, *stamp});
     }
 }
 
@@ -97,15 +91,14 @@ class LinuxFileWatch::PathWatch {
             }
             m_watcher.addPath(folder);
         }
-        struct stat found{};
-        const bool exists = ::stat(QFile::encodeName(m_path).constData(), &found) == 0;
-        const std::uint64_t inode = exists ? found.st_ino : 0;
+        const std::optional<FileStamp> stamp = fileStamp(m_path);
+        const std::uint64_t inode = stamp ? stamp->inode : 0;
         if (inode != m_inode && m_watcher.files().contains(m_path)) {
             // The watch is still on the file that was there before.
             m_watcher.removePath(m_path);
         }
         m_inode = inode;
-        if (exists && !m_watcher.files().contains(m_path)) {
+        if (stamp && !m_watcher.files().contains(m_path)) {
             m_watcher.addPath(m_path);
         }
     }
