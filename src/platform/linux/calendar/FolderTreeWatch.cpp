@@ -1,0 +1,106 @@
+#include "platform/linux/calendar/FolderTreeWatch.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <sys/inotify.h>
+#include <utility>
+
+namespace guide {
+
+using namespace std::chrono_literals;
+using std::chrono::milliseconds;
+using SteadyClock = std::chrono::steady_clock;
+
+namespace {
+
+constexpr milliseconds kQuiet = 250ms;
+constexpr milliseconds kLongest = 1s;
+/// How often to look where watching is not possible, for example because the user's watches are used up.
+constexpr milliseconds kWithoutWatch = 30s;
+constexpr std::uint32_t kFolderEvents =
+    IN_CREATE | IN_CLOSE_WRITE | IN_DELETE | IN_MOVE | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
+
+} // namespace
+
+FolderTreeWatch::FolderTreeWatch(const QString& folder, std::function<void()> changed)
+    : m_folder(folder)
+    , m_changed(std::move(changed))
+    , m_events(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK))
+    , m_stop(::eventfd(0, EFD_CLOEXEC)) {
+    // What happens once this returns is reported.
+    const bool isComplete = watchAll();
+    m_thread = std::thread([this, isComplete] { run(isComplete); });
+}
+
+FolderTreeWatch::~FolderTreeWatch() {
+    const std::uint64_t one = 1;
+    [[maybe_unused]] const ssize_t written = ::write(m_stop.get(), &one, sizeof one);
+    m_thread.join();
+}
+
+bool FolderTreeWatch::watchAll() {
+    const auto add = [this](const QString& path, std::uint32_t events) {
+        // Does nothing for what is watched already.
+        return ::inotify_add_watch(m_events.get(), QFile::encodeName(path).constData(), events) >= 0 ||
+               errno == ENOENT || errno == ENOTDIR;
+    };
+    QString above = QFileInfo(m_folder).path();
+    while (!QFileInfo(above).isDir() && above != QLatin1StringView("/")) {
+        above = QFileInfo(above).path();
+    }
+    bool isComplete = add(above, IN_CREATE | IN_MOVE | IN_DELETE_SELF | IN_ONLYDIR);
+    isComplete = add(m_folder, kFolderEvents) && isComplete;
+    const QStringList names = QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString& name : names) {
+        isComplete = add(m_folder + u'/' + name, kFolderEvents) && isComplete;
+    }
+    return isComplete;
+}
+
+void FolderTreeWatch::run(bool isComplete) {
+    if (!isComplete) {
+        qInfo("calendar folders cannot be watched; they are looked through every 30 seconds");
+    }
+    // Of the changes that have not been reported.
+    bool isPending = false;
+    SteadyClock::time_point first;
+    for (;;) {
+        milliseconds wait = isComplete ? -1ms : kWithoutWatch;
+        if (isPending) {
+            wait = std::clamp(std::chrono::ceil<milliseconds>(first + kLongest - SteadyClock::now()), 0ms,
+                              kQuiet);
+        }
+        std::array<pollfd, 2> watched{pollfd{m_events.get(), POLLIN, 0}, pollfd{m_stop.get(), POLLIN, 0}};
+        const int ready = ::poll(watched.data(), watched.size(), static_cast<int>(wait.count()));
+        if (watched[1].revents != 0) {
+            return;
+        }
+        if (ready > 0) {
+            std::array<char, 16'384> events{};
+            while (::read(m_events.get(), events.data(), events.size()) > 0) {
+            }
+            if (!std::exchange(isPending, true)) {
+                first = SteadyClock::now();
+            }
+            if (SteadyClock::now() < first + kLongest) {
+                continue;
+            }
+        } else if (ready < 0) {
+            continue;
+        }
+        isPending = false;
+        // New folders are watched before their files are looked at.
+        isComplete = watchAll();
+        m_changed();
+    }
+}
+
+} // namespace guide

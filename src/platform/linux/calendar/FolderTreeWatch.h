@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/linux/FileDescriptor.h"
+
+#include <QString>
+
+#include <functional>
+#include <thread>
+
+namespace guide {
+
+/// Watches the files of a folder and of the folders in it, on a thread of its own. A missing folder is
+/// watched from the time it appears.
+class FolderTreeWatch {
+  public:
+    /// `changed` is called on that thread shortly after something was written, added or removed, at the
+    /// latest a second after the first of many changes. May be called when nothing changed.
+    FolderTreeWatch(const QString& folder, std::function<void()> changed);
+    FolderTreeWatch(const FolderTreeWatch&) = delete;
+    FolderTreeWatch& operator=(const FolderTreeWatch&) = delete;
+    /// Waits for a running `changed`.
+    ~FolderTreeWatch();
+
+  private:
+    void run(bool isComplete);
+    /// False when something cannot be watched.
+    bool watchAll();
+
+    const QString m_folder;
+    const std::function<void()> m_changed;
+    FileDescriptor m_events;
+    FileDescriptor m_stop;
+    std::thread m_thread;
+};
+
+} // namespace guide
