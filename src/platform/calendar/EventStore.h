@@ -16,6 +16,14 @@ namespace guide {
 
 enum class CalendarAccess { Granted, Refused, NotAsked };
 
+enum class CalendarState {
+    Ready,
+    /// Its server cannot be reached: changes are kept and sent later.
+    Offline,
+    /// It cannot be used before the user has done something about its account, such as entering a password.
+    Unavailable,
+};
+
 /// A calendar that holds events.
 struct EventCalendar {
     /// Stable within the store.
@@ -26,6 +34,7 @@ struct EventCalendar {
     /// Red, green, blue and alpha, from 0 to 1.
     std::array<double, 4> color{0.5, 0.5, 0.5, 0.5};
     bool allowsContentModifications = false;
+    CalendarState state = CalendarState::Ready;
 
     friend bool operator==(const EventCalendar&, const EventCalendar&) = default;
 };
