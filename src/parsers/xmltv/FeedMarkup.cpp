@@ -2,8 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace guide {
 
@@ -11,6 +17,51 @@ namespace {
 
 bool isBlank(char character) {
     return character == ' ' || character == '\n' || character == '\t' || character == '\r';
+}
+
+/// The next "<" that may begin a comment, section or instruction, an element whose name begins with `opening`
+/// or that of a programme, or an end tag whose name begins with `closing`; or the end of the text. Elements
+/// have one tag in twenty bytes or so, and nearly all of them are none of these.
+const char* nextTellingMark(const char* at, const char* end, char opening, char closing) {
+#ifdef __SSE2__
+    constexpr std::ptrdiff_t kBlock = sizeof(__m128i);
+    const auto are = [](const char* block, char character) {
+        return _mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(block)),
+                              _mm_set1_epi8(character));
+    };
+    const auto either = [](__m128i a, __m128i b) { return _mm_or_si128(a, b); };
+    for (; end - at >= kBlock + 2; at += kBlock) {
+        const char* const next = at + 1;
+        const __m128i begins = either(either(are(next, '!'), are(next, '?')),
+                                      either(either(are(next, opening), are(next, kProgrammeOpening[1])),
+                                             _mm_and_si128(are(next, '/'), are(at + 2, closing))));
+        const int found = _mm_movemask_epi8(_mm_and_si128(are(at, '<'), begins));
+        if (found != 0) {
+            return at + std::countr_zero(static_cast<unsigned>(found));
+        }
+    }
+#else
+    static_cast<void>(opening);
+    static_cast<void>(closing);
+#endif
+    return at < end ? std::find(at, end, '<') : end;
+}
+
+/// Ends the name of an attribute.
+constexpr std::array<bool, 256> kEndsName = [] {
+    std::array<bool, 256> ends{};
+    for (const char character : std::string_view("= \n\t\r\"'<>/&\0", 12)) {
+        ends[static_cast<unsigned char>(character)] = true;
+    }
+    return ends;
+}();
+
+std::size_t nameSizeAt(const char* name) {
+    const char* end = name;
+    while (!kEndsName[static_cast<unsigned char>(*end)]) {
+        ++end;
+    }
+    return static_cast<std::size_t>(end - name);
 }
 
 enum class Match { No, Yes, Cut };
@@ -165,10 +216,10 @@ Markup skipDocumentType(const char*& at) {
     return Markup::Whole;
 }
 
-Markup skipElement(const char*& at, std::string_view opening, std::string_view closing) {
+Markup skipElement(const char*& at, const char* textEnd, std::string_view opening, std::string_view closing) {
     for (const char* mark = at;;) {
-        mark = std::strchr(mark, '<');
-        if (!mark || mark[1] == '\0') {
+        mark = nextTellingMark(mark, textEnd, opening[1], closing[2]);
+        if (mark == textEnd || mark[1] == '\0') {
             return Markup::Unfinished;
         }
         if (mark[1] == '!' || mark[1] == '?') {
@@ -218,7 +269,7 @@ Markup OpeningTag::read(const char* at) {
         if (*name == '\0' || (name[0] == '/' && name[1] == '\0')) {
             return Markup::Unfinished;
         }
-        const std::size_t nameSize = std::strcspn(name, "= \n\t\r\"'<>/&");
+        const std::size_t nameSize = nameSizeAt(name);
         if (name == at || nameSize == 0 || m_count == m_attributes.size()) {
             return Markup::Doubtful;
         }
@@ -313,14 +364,14 @@ bool FeedElements::next() {
             }
             continue;
         }
-        const std::size_t size = std::strcspn(mark + 1, " \n\t\r<>/\"'=&");
+        const std::size_t size = nameSizeAt(mark + 1);
         if (size == 0 || m_tag.read(mark + 1 + size) != Markup::Whole) {
             break;
         }
         m_name = {mark + 1, size};
         m_at = m_tag.end();
-        if (!m_tag.isEmptyElement() &&
-            skipElement(m_at, "<" + std::string(m_name), "</" + std::string(m_name)) != Markup::Whole) {
+        if (!m_tag.isEmptyElement() && skipElement(m_at, m_end, "<" + std::string(m_name),
+                                                   "</" + std::string(m_name)) != Markup::Whole) {
             break;
         }
         if (m_at > m_end) {

@@ -33,8 +33,9 @@ Markup elementNamed(const char* at, std::string_view opening);
 Markup skipAside(const char*& at);
 /// A document type declaration. Doubtful when it has an internal subset.
 Markup skipDocumentType(const char*& at);
-/// The content and end tag of an element. Doubtful when another one of its name or a programme begins inside.
-Markup skipElement(const char*& at, std::string_view opening, std::string_view closing);
+/// The content and end tag of an element in a text that ends at `textEnd`. Doubtful when another one of its
+/// name or a programme begins inside.
+Markup skipElement(const char*& at, const char* textEnd, std::string_view opening, std::string_view closing);
 
 /// An opening tag with at most 16 attributes, as written. Views refer to the text.
 class OpeningTag {

@@ -149,7 +149,8 @@ Markup FeedScan::skipProgramme(const char* mark) {
     }
     const char* end = tag.end();
     if (!tag.isEmptyElement()) {
-        const Markup rest = skipElement(end, kProgrammeOpening, kProgrammeClosing);
+        const Markup rest =
+            skipElement(end, m_text.constData() + m_size, kProgrammeOpening, kProgrammeClosing);
         if (rest != Markup::Whole) {
             return rest;
         }
@@ -187,7 +188,7 @@ Markup FeedScan::skipChannel(const char* mark) {
     Markup part = tag.read(mark + kChannelOpening.size());
     const char* end = tag.end();
     if (part == Markup::Whole && !tag.isEmptyElement()) {
-        part = skipElement(end, kChannelOpening, kChannelClosing);
+        part = skipElement(end, m_text.constData() + m_size, kChannelOpening, kChannelClosing);
     }
     if (part == Markup::Unfinished && !m_isLast) {
         return part;

@@ -15,6 +15,7 @@ class Scan {
     Scan(const char* feed, const WantedChannels& wanted, std::uint64_t mostBytes)
         : m_wanted(wanted)
         , m_mostBytes(mostBytes)
+        , m_end(feed + std::strlen(feed))
         , m_at(feed)
         , m_keptFrom(feed) {}
 
@@ -39,7 +40,7 @@ class Scan {
         if (m_kept.empty()) {
             return false;
         }
-        keep(m_keptFrom + std::strlen(m_keptFrom));
+        keep(m_end);
         return isSmall();
     }
 
@@ -64,7 +65,7 @@ class Scan {
         const auto unwanted = isUnwanted(tag.value("channel"));
         const char* end = tag.end();
         if (!unwanted || (!tag.isEmptyElement() &&
-                          skipElement(end, kProgrammeOpening, kProgrammeClosing) != Markup::Whole)) {
+                          skipElement(end, m_end, kProgrammeOpening, kProgrammeClosing) != Markup::Whole)) {
             return false;
         }
         if (*unwanted) {
@@ -107,6 +108,7 @@ class Scan {
 
     const WantedChannels& m_wanted;
     const std::uint64_t m_mostBytes;
+    const char* const m_end;
     const char* m_at;
     /// The start of the part that has not been recorded yet.
     const char* m_keptFrom;

@@ -171,6 +171,9 @@ std::size_t TextFile::read(std::span<char> room) {
     std::size_t written = 0;
     if (!m_converter && m_raw.size() - m_at < qsizetype(kSmallestWindow) && room.size() >= m_window) {
         written = readUtf8(room);
+        if (written > 0) {
+            return written;
+        }
     }
     // Nothing was written when the bytes are no valid UTF-8, or their character set has only now become
     // clear.
@@ -227,13 +230,18 @@ std::size_t TextFile::readUtf8(std::span<char> room) {
     const QByteArrayView bytes(room.data(), static_cast<qsizetype>(kept + got));
     const QByteArrayView whole = m_isLast ? bytes : wholeCharacters(bytes);
     m_at = 0;
-    if (!isValidUtf8(whole)) {
+    const CheckedUtf8 checked = checkedUtf8(whole);
+    if (!checked.isValid) {
         m_raw = bytes.toByteArray();
         return 0;
     }
     m_isPlain = m_isPlain && isAscii(whole);
     m_raw = bytes.sliced(whole.size()).toByteArray();
-    return static_cast<std::size_t>(whole.size());
+    const auto size = static_cast<std::size_t>(whole.size());
+    if (checked.hasControlCharacters) {
+        m_replaced += blankControlCharacters(room.first(size));
+    }
+    return size;
 }
 
 std::size_t TextFile::repairUtf8(std::span<char> room) {

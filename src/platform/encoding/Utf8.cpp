@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -16,6 +17,11 @@ using namespace Qt::StringLiterals;
 namespace guide {
 
 namespace {
+
+constexpr bool isForbidden(char character) {
+    const auto byte = static_cast<unsigned char>(character);
+    return byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r';
+}
 
 #ifdef __x86_64__
 
@@ -113,11 +119,20 @@ __attribute__((target("ssse3"))) inline __m128i faults(__m128i block, __m128i be
     return _mm_xor_si128(due, pair);
 }
 
-__attribute__((target("ssse3"))) bool isValidByBlocks(QByteArrayView bytes) {
+/// Set where a byte is a control character that XML does not allow. The line ends and the tab are equal to
+/// the entry of a table that their lower halves choose.
+__attribute__((target("ssse3"))) inline __m128i forbidden(__m128i block) {
+    const __m128i control = _mm_cmpeq_epi8(_mm_min_epu8(block, _mm_set1_epi8(0x1f)), block);
+    const __m128i allowed = _mm_setr_epi8(-1, -1, -1, -1, -1, -1, -1, -1, -1, 9, 10, -1, -1, 13, -1, -1);
+    return _mm_andnot_si128(_mm_cmpeq_epi8(block, _mm_shuffle_epi8(allowed, block)), control);
+}
+
+__attribute__((target("ssse3"))) CheckedUtf8 checkedByBlocks(QByteArrayView bytes) {
     const char* at = bytes.data();
     auto left = static_cast<std::size_t>(bytes.size());
     __m128i before = _mm_setzero_si128();
     __m128i wrong = _mm_setzero_si128();
+    __m128i control = _mm_setzero_si128();
     const auto load = [](const char* from) {
         return _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
     };
@@ -131,6 +146,9 @@ __attribute__((target("ssse3"))) bool isValidByBlocks(QByteArrayView bytes) {
             wrong = _mm_or_si128(wrong, faults(blocks[2], blocks[1]));
             wrong = _mm_or_si128(wrong, faults(blocks[3], blocks[2]));
         }
+        control =
+            _mm_or_si128(_mm_or_si128(control, _mm_or_si128(forbidden(blocks[0]), forbidden(blocks[1]))),
+                         _mm_or_si128(forbidden(blocks[2]), forbidden(blocks[3])));
         before = blocks[3];
     }
     // The remaining bytes, padded with zeros so that a truncated character is detected.
@@ -141,7 +159,10 @@ __attribute__((target("ssse3"))) bool isValidByBlocks(QByteArrayView bytes) {
         wrong = _mm_or_si128(wrong, faults(block, before));
         before = block;
     }
-    return _mm_movemask_epi8(_mm_cmpeq_epi8(wrong, _mm_setzero_si128())) == 0xffff;
+    const auto isZero = [](__m128i block) {
+        return _mm_movemask_epi8(_mm_cmpeq_epi8(block, _mm_setzero_si128())) == 0xffff;
+    };
+    return {isZero(wrong), !isZero(control) || std::any_of(at, at + left, isForbidden)};
 }
 
 #endif
@@ -150,6 +171,15 @@ constexpr char kByteOrderMark[] = "\xef\xbb\xbf";
 
 constexpr bool isContinuation(unsigned char byte) {
     return (byte & 0xc0) == 0x80;
+}
+
+/// How many of eight bytes are ASCII before the first that is not.
+inline int asciiBytesOf(const unsigned char* bytes) {
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    std::uint64_t block = 0;
+    std::memcpy(&block, bytes, sizeof block);
+    const std::uint64_t high = block & kHighBits;
+    return (std::endian::native == std::endian::little ? std::countr_zero(high) : std::countl_zero(high)) / 8;
 }
 
 // Decodes characters of one to three bytes, which is nearly all text of schedules: with Qt's decoder alone,
@@ -162,19 +192,24 @@ bool readUpToThreeBytes(QByteArrayView bytes, QString& text) {
     const auto* at = reinterpret_cast<const unsigned char*>(bytes.data());
     const unsigned char* const end = at + bytes.size();
     constexpr int kBlock = 8;
-    constexpr std::uint64_t kHighBits = 0x8080808080808080;
     while (at < end) {
-        std::uint64_t block = 0;
-        while (end - at >= kBlock && (std::memcpy(&block, at, kBlock), (block & kHighBits) == 0)) {
+        // Eight bytes are copied and those in front of the first letter with an accent are kept: the bytes
+        // written are never more than those read.
+        while (end - at >= kBlock) {
             std::copy_n(at, kBlock, out);
-            at += kBlock;
-            out += kBlock;
-        }
-        while (at < end && *at < 0x80) {
-            *out++ = *at++;
+            const int ascii = asciiBytesOf(at);
+            at += ascii;
+            out += ascii;
+            if (ascii < kBlock) {
+                break;
+            }
         }
         if (at == end) {
             break;
+        }
+        if (*at < 0x80) {
+            *out++ = *at++;
+            continue;
         }
         if (*at >= 0xc2 && *at < 0xe0 && end - at >= 2 && isContinuation(at[1])) {
             *out++ = static_cast<char16_t>((at[0] & 0x1f) << 6 | (at[1] & 0x3f));
@@ -205,42 +240,21 @@ bool readAnyLength(QByteArrayView bytes, QString& text) {
     return !text.contains(QChar(QChar::ReplacementCharacter)) || isValidUtf8(bytes);
 }
 
-constexpr bool isForbidden(char character) {
-    const auto byte = static_cast<unsigned char>(character);
-    return byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r';
-}
-
-/// The first control character that XML does not allow, or the end.
-char* controlCharacter(char* at, char* end) {
-#ifdef __x86_64__
-    const __m128i last = _mm_set1_epi8(0x1f);
-    const auto is = [](__m128i block, char character) {
-        return _mm_cmpeq_epi8(block, _mm_set1_epi8(character));
-    };
-    for (constexpr int kBlock = 16; end - at >= kBlock; at += kBlock) {
-        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-        const __m128i control = _mm_cmpeq_epi8(_mm_min_epu8(block, last), block);
-        const __m128i allowed = _mm_or_si128(is(block, '\n'), _mm_or_si128(is(block, '\r'), is(block, '\t')));
-        const int found = _mm_movemask_epi8(_mm_andnot_si128(allowed, control));
-        if (found != 0) {
-            return at + __builtin_ctz(static_cast<unsigned>(found));
-        }
-    }
-#endif
-    return std::find_if(at, end, isForbidden);
-}
-
 } // namespace
 
-bool isValidUtf8(QByteArrayView bytes) {
+CheckedUtf8 checkedUtf8(QByteArrayView bytes) {
 #ifdef __x86_64__
     static const bool hasShuffle = __builtin_cpu_supports("ssse3") != 0;
     constexpr qsizetype kSmallestForBlocks = 64;
     if (hasShuffle && bytes.size() >= kSmallestForBlocks) {
-        return isValidByBlocks(bytes);
+        return checkedByBlocks(bytes);
     }
 #endif
-    return bytes.isValidUtf8();
+    return {bytes.isValidUtf8(), std::any_of(bytes.begin(), bytes.end(), isForbidden)};
+}
+
+bool isValidUtf8(QByteArrayView bytes) {
+    return checkedUtf8(bytes).isValid;
 }
 
 bool readUtf8(QByteArrayView bytes, QString& text) {
@@ -302,12 +316,9 @@ std::size_t cutCharacterSize(QByteArrayView text) {
 
 std::int64_t blankControlCharacters(std::span<char> text) {
     std::int64_t replaced = 0;
-    char* at = text.data();
-    char* const end = at + text.size();
-    while (at < end) {
-        at = controlCharacter(at, end);
-        if (at < end) {
-            *at++ = ' ';
+    for (char& character : text) {
+        if (isForbidden(character)) {
+            character = ' ';
             ++replaced;
         }
     }

@@ -9,6 +9,14 @@
 
 namespace guide {
 
+struct CheckedUtf8 {
+    /// As isValidUtf8().
+    bool isValid = false;
+    /// Whether there are control characters that XML does not allow: all but tabs and line ends.
+    bool hasControlCharacters = false;
+};
+CheckedUtf8 checkedUtf8(QByteArrayView bytes);
+
 /// True when the bytes are well-formed UTF-8: no surrogates, no overlong forms, nothing above U+10FFFF. NUL
 /// is allowed.
 bool isValidUtf8(QByteArrayView bytes);
