@@ -5,7 +5,6 @@
 #include "parsers/xmltv/FeedFilter.h"
 #include "parsers/xmltv/FeedListEnds.h"
 #include "parsers/xmltv/XMLTVToEntries.h"
-#include "sources/WebURL.h"
 
 #include <algorithm>
 #include <memory>
@@ -22,10 +21,6 @@ ExtendedTVEntry copyOf(const ExtendedTVEntry& entry) {
     ExtendedTVEntry copy = entry;
     copy.basic = std::make_shared<TVEntry>(*entry.basic);
     return copy;
-}
-
-void removeOtherAddresses(ExtendedTVEntry& entry) {
-    erase_if(entry.pictures, [](const QUrl& url) { return !isWebURL(url); });
 }
 
 /// Gives the shows of a feed's channel to an item. `last` is false while other items need them.
@@ -114,9 +109,6 @@ OwnFeed readOwnFeed(const QString& path, const QString& charset, const std::vect
             const auto sharing = byChannel.find(channel.sourceId);
             if (sharing == byChannel.end()) {
                 continue;
-            }
-            for (ExtendedTVEntry& entry : channel.entries) {
-                removeOtherAddresses(entry);
             }
             repairEnds(channel);
             for (const OwnFeedItem* item : sharing->second) {

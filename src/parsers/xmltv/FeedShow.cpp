@@ -2,6 +2,7 @@
 
 #include "parsers/ParsersLog.h"
 #include "parsers/xmltv/FeedElementFacts.h"
+#include "sources/WebURL.h"
 #include "text/categories/CategoryMapping.h"
 #include "text/categories/FeedGenres.h"
 #include "text/cleaning/FeedTextCleaning.h"
@@ -192,8 +193,7 @@ std::optional<QString> namesOf(const FeedTexts& elements) {
     return names.isEmpty() ? std::nullopt : std::optional(std::move(names));
 }
 
-Texts chosenTexts(const FeedDetails& details, const QString& language) {
-    const std::string code = language.toStdString();
+Texts chosenTexts(const FeedDetails& details, std::string_view code) {
     Texts texts{.title = {},
                 .subtitle = stringOf(chosen(details.subtitles, code)),
                 .description = stringOf(chosen(details.descriptions, code)),
@@ -255,7 +255,7 @@ FeedShowMaker::~FeedShowMaker() = default;
 std::optional<ExtendedTVEntry> FeedShowMaker::make(const FeedShow& show, const FeedText& category,
                                                    const QString& language) {
     const FeedReading& reading = m_options.reading;
-    const Texts texts = reading.readsFacts ? chosenTexts(show.details, language)
+    const Texts texts = reading.readsFacts ? chosenTexts(show.details, codeOf(language))
                                            : Texts{.title = show.title.bytes(),
                                                    .subtitle = show.subtitle.string(),
                                                    .description = show.description.string(),
@@ -276,9 +276,10 @@ std::optional<ExtendedTVEntry> FeedShowMaker::make(const FeedShow& show, const F
     FinishedSubtitle finished;
     if (reading.keepsNumberedSubtitles) {
         if (texts.subtitle) {
-            const ReadSubtitle& read = subtitleParts(*texts.subtitle, language);
+            // Few of them are alike.
+            ReadSubtitle read = readSubtitle(*texts.subtitle, language);
             completeFacts(facts, read.facts);
-            finished = {read.subtitle, read.genre};
+            finished = {std::move(read.subtitle), std::move(read.genre)};
         }
         if (!finished.subtitle1) {
             finished.subtitle1 = title.subtitle;
@@ -391,12 +392,6 @@ void FeedShowMaker::cleanTexts(CleanedDescription& cleaned, ShowFacts& facts, co
     }
 }
 
-const ReadSubtitle& FeedShowMaker::subtitleParts(const QString& subtitle, const QString& language) {
-    m_key.assign(language.toStdString()).append(1, '\n').append(subtitle.toStdString());
-    const ReadSubtitle* known = m_subtitles.find(m_key);
-    return known ? *known : m_subtitles.add(m_key, readSubtitle(subtitle, language));
-}
-
 TVListingsCategory FeedShowMaker::ownCategories(const FeedShow& show, const TitleParts& title,
                                                 const FinishedSubtitle& subtitle,
                                                 const CleanedDescription& cleaned, const ShowFacts& facts,
@@ -410,9 +405,10 @@ TVListingsCategory FeedShowMaker::ownCategories(const FeedShow& show, const Titl
                   .length = {},
                   .hasEpisode = show.details.isSeries || !facts.episode.empty(),
                   .channelName = show.channelName.isEmpty() ? feedString(show.sourceId) : show.channelName};
+    text.categories.reserve(show.details.categories.all().size() + 2);
     for (const FeedTexts::Each& each : show.details.categories.all()) {
         if (!each.text.empty()) {
-            text.categories.push_back(feedString(each.text));
+            text.categories.push_back(categoryName(each.text));
         }
     }
     for (const std::optional<QString>& genre : {subtitle.instantDetails1, title.instantDescription}) {
@@ -426,12 +422,20 @@ TVListingsCategory FeedShowMaker::ownCategories(const FeedShow& show, const Titl
     return feedCategories(text);
 }
 
+std::string_view FeedShowMaker::codeOf(const QString& language) {
+    if (m_language != language) {
+        m_language = language;
+        m_code = language.toStdString();
+    }
+    return m_code;
+}
+
 const FeedShowMaker::TitleParts& FeedShowMaker::titleParts(std::string_view title, const QString& language,
                                                            int broadcastIn) {
     const FeedReading& reading = m_options.reading;
     // Only these depend on the language and the year.
     if (reading.keepsTitlesWhole || reading.keepsAcronyms) {
-        m_key.assign(language.toStdString()).append(1, '\n');
+        m_key.assign(codeOf(language)).append(1, '\n');
         m_key.append(std::to_string(broadcastIn)).append(1, '\n').append(title);
     } else {
         m_key.assign(title);
@@ -482,6 +486,11 @@ TVListingsCategory FeedShowMaker::categories(std::string_view categoryText) {
     return known ? *known : m_categories.add(categoryText, mapCategoryText(feedString(categoryText)));
 }
 
+QString FeedShowMaker::categoryName(std::string_view text) {
+    const QString* known = m_categoryNames.find(text);
+    return known ? *known : m_categoryNames.add(text, feedString(text));
+}
+
 QSet<QUrl> FeedShowMaker::pictures(const FeedShow& show) {
     const std::string_view name =
         m_options.reading.readsFacts ? show.details.icon.bytes() : show.icon.bytes();
@@ -494,7 +503,8 @@ QSet<QUrl> FeedShowMaker::pictures(const FeedShow& show) {
     }
     const QString text = feedString(name);
     const QUrl url(show.iconIsImage ? m_options.imageBase + text : text, QUrl::StrictMode);
-    return memo.add(name, url.isValid() ? QSet<QUrl>{url} : QSet<QUrl>{});
+    const bool isUsable = m_options.reading.onlyWebPictures ? isWebURL(url) : url.isValid();
+    return memo.add(name, isUsable ? QSet<QUrl>{url} : QSet<QUrl>{});
 }
 
 } // namespace guide

@@ -8,7 +8,6 @@
 #include "text/cleaning/FeedTextCleaning.h"
 #include "text/display/Alphabet.h"
 #include "text/reading/FeedReading.h"
-#include "text/reading/SubtitleReading.h"
 
 #include <QLocale>
 #include <QString>
@@ -57,7 +56,7 @@ struct FeedShowOptions {
     FeedReading reading = catalogueReading();
 };
 
-/// Makes the shows of one feed: analyses and cleans their texts and derives their categories. Repeated texts
+/// Makes the shows of one feed: analyses and cleans their texts and derives their categories. Repeated titles
 /// are processed once and share memory.
 class FeedShowMaker {
   public:
@@ -73,21 +72,25 @@ class FeedShowMaker {
   private:
     struct TitleParts;
 
+    /// In UTF-8; valid until the language changes.
+    std::string_view codeOf(const QString& language);
     const TitleParts& titleParts(std::string_view title, const QString& language, int broadcastIn);
-    const ReadSubtitle& subtitleParts(const QString& subtitle, const QString& language);
     void cleanTexts(CleanedDescription& cleaned, ShowFacts& facts, const QString& language) const;
     TVListingsCategory ownCategories(const FeedShow& show, const TitleParts& title,
                                      const FinishedSubtitle& subtitle, const CleanedDescription& cleaned,
                                      const ShowFacts& facts, const QString& language);
     TVListingsCategory categories(std::string_view categoryText);
+    QString categoryName(std::string_view text);
     QSet<QUrl> pictures(const FeedShow& show);
 
     const FeedShowOptions m_options;
     FeedMemo<TitleParts> m_titles;
     /// Reused.
     std::string m_key;
-    FeedMemo<ReadSubtitle> m_subtitles;
+    QString m_language;
+    std::string m_code;
     FeedMemo<TVListingsCategory> m_categories;
+    FeedMemo<QString> m_categoryNames;
     FeedMemo<QSet<QUrl>> m_icons;
     FeedMemo<QSet<QUrl>> m_images;
 };

@@ -2,6 +2,9 @@
 
 #include <QStringView>
 
+#include <algorithm>
+#include <cstdint>
+
 namespace guide {
 
 using namespace Qt::StringLiterals;
@@ -31,32 +34,50 @@ bool isPlain(QChar unit) {
            (code > 0x2010 && code < 0x2027);
 }
 
-/// Whether there is nothing to do, as in most texts.
-bool isTidy(QStringView text) {
-    QChar before = u' ';
-    for (const QChar unit : text) {
-        const bool isBlank = unit == u' ' && before != u' ';
-        if (!isPlain(unit) && !isBlank && (unit < QChar(0x1680) || unit.isSpace() || isInvisible(unit))) {
-            return false;
-        }
-        before = unit;
+/// Whether all units of a block are plain or single blanks; as one sum, which compilers make vectors of.
+bool isTidyBlock(const char16_t* block, qsizetype size) {
+    std::uint16_t wrong = 0;
+    for (qsizetype i = 0; i < size; ++i) {
+        const std::uint16_t code = block[i];
+        const std::uint16_t before = block[i - 1];
+        wrong |= static_cast<std::uint16_t>(
+            (code < 0x20) | (code == u'\\') | ((code >= 0x7f) & (code <= 0xa0)) |
+            ((code >= 0x1680) & (code <= 0x2010)) | (code >= 0x2027) | ((code == 0x20) & (before == 0x20)));
     }
-    return before != u' ';
+    return wrong == 0;
+}
+
+/// The size of the beginning that stays as it is, which is all of most texts.
+qsizetype tidySize(QStringView text) {
+    constexpr qsizetype kBlock = 16;
+    if (text.isEmpty() || !isPlain(text.front())) {
+        return 0;
+    }
+    qsizetype at = 1;
+    while (at + kBlock <= text.size() && isTidyBlock(text.utf16() + at, kBlock)) {
+        at += kBlock;
+    }
+    while (at < text.size() && (isPlain(text[at]) || (text[at] == u' ' && text[at - 1] != u' '))) {
+        ++at;
+    }
+    // A blank at the end, or in front of another one, goes.
+    return text[at - 1] == u' ' ? at - 1 : at;
 }
 
 /// One pass: blanks are collapsed, and line ends become blanks or, with `keepsLines`, stay where they divide
 /// sentences.
 QString tidied(const QString& text, bool keepsLines) {
-    if (isTidy(text)) {
+    const qsizetype tidy = tidySize(text);
+    const qsizetype size = text.size();
+    if (tidy == size) {
         return text;
     }
-    QString result(text.size(), Qt::Uninitialized);
-    QChar* to = result.data();
-    QChar* const begin = to;
+    QString result(size, Qt::Uninitialized);
+    QChar* const begin = result.data();
+    QChar* to = std::copy_n(text.constData(), tidy, begin);
     bool isBlank = false;
     int lineEnds = 0;
-    const qsizetype size = text.size();
-    for (qsizetype i = 0; i < size; ++i) {
+    for (qsizetype i = tidy; i < size; ++i) {
         const QChar unit = text[i];
         if (isPlain(unit) && !isBlank) {
             *to++ = unit;
@@ -77,6 +98,10 @@ QString tidied(const QString& text, bool keepsLines) {
             isBlank = false;
             lineEnds = 0;
             *to++ = unit;
+            if (const qsizetype more = tidySize(QStringView(text).sliced(i)); more > 1) {
+                to = std::copy_n(text.constData() + i + 1, more - 1, to);
+                i += more - 1;
+            }
         }
     }
     result.truncate(to - begin);

@@ -2,38 +2,42 @@
 
 #include "text/facts/EpisodeNotation.h"
 
-#include <QStringList>
-
 namespace guide {
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+/// A number behind blanks; nothing when there is anything else.
+std::optional<int> numberIn(QStringView text) {
+    bool isNumber = false;
+    const int number = text.trimmed().toInt(&isNumber);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
 /// Fields of "season.episode.part" with totals behind "/", counted from 0.
-EpisodeNumber numberOfFields(const QString& text) {
+EpisodeNumber numberOfFields(QStringView text) {
     EpisodeNumber number;
-    const QStringList fields = text.split(u'.');
-    const auto read = [&fields](qsizetype index, int most, std::optional<int>& value,
-                                std::optional<int>* total) {
-        if (index >= fields.size()) {
-            return;
+    const auto read = [&text](int most, std::optional<int>& value, std::optional<int>* total) {
+        const qsizetype dot = text.indexOf(u'.');
+        const QStringView field = text.first(dot < 0 ? text.size() : dot);
+        text = text.sliced(dot < 0 ? text.size() : dot + 1);
+        const qsizetype slash = field.indexOf(u'/');
+        const auto first = numberIn(field.first(slash < 0 ? field.size() : slash));
+        if (first && *first >= 0 && *first < most) {
+            value = *first + 1;
         }
-        const QStringList parts = fields[index].split(u'/');
-        bool isNumber = false;
-        const int first = parts[0].trimmed().toInt(&isNumber);
-        if (isNumber && first >= 0 && first < most) {
-            value = first + 1;
-        }
-        const int count = parts.size() > 1 ? parts[1].trimmed().toInt() : 0;
+        QStringView behind = slash < 0 ? QStringView() : field.sliced(slash + 1);
+        behind.truncate(behind.indexOf(u'/') < 0 ? behind.size() : behind.indexOf(u'/'));
+        const int count = numberIn(behind).value_or(0);
         if (total && value && count >= *value && count <= most) {
             *total = count;
         }
     };
-    read(0, kMostSeason, number.season, nullptr);
-    read(1, kMostEpisode, number.episode, &number.episodes);
+    read(kMostSeason, number.season, nullptr);
+    read(kMostEpisode, number.episode, &number.episodes);
     // Without others a part says nothing.
-    read(2, kMostSeason, number.part, &number.parts);
+    read(kMostSeason, number.part, &number.parts);
     if (number.parts.value_or(0) < 2) {
         if (number.part == 1) {
             number.part.reset();

@@ -388,8 +388,14 @@ class NotationParser {
     bool m_hasPartOnly = false;
 };
 
-/// A number in digits, Roman digits or, with an apostrophe, Greek ones.
-bool hasNumber(QStringView text) {
+bool isEndSign(QStringView text) {
+    return text == u"." || text == u",";
+}
+
+} // namespace
+
+// A number in digits, Roman digits or, with an apostrophe, Greek ones.
+bool mayHaveEpisode(QStringView text) {
     bool isInWord = false;
     bool isRoman = false;
     for (const QChar unit : text) {
@@ -413,15 +419,9 @@ bool hasNumber(QStringView text) {
     return isRoman;
 }
 
-bool isEndSign(QStringView text) {
-    return text == u"." || text == u",";
-}
-
-} // namespace
-
 std::optional<FoundEpisode> episodeAtStart(QStringView text, const QString& language, NotationPlace place) {
     const QStringView head = text.first(std::min(text.size(), kLongestNotation));
-    if (!hasNumber(head)) {
+    if (!mayHaveEpisode(head)) {
         return std::nullopt;
     }
     const std::vector<Token> tokens = tokensOf(head);
@@ -440,7 +440,7 @@ std::optional<EpisodeNumber> episodeNotation(QStringView text, const QString& la
            !romanNumber(text.last(2).first(1))) {
         text.chop(1);
     }
-    if (text.isEmpty() || text.size() > kLongestNotation || !hasNumber(text)) {
+    if (text.isEmpty() || text.size() > kLongestNotation || !mayHaveEpisode(text)) {
         return std::nullopt;
     }
     const std::vector<Token> tokens = tokensOf(text);
@@ -455,7 +455,7 @@ std::optional<EpisodeNumber> episodeNotation(QStringView text, const QString& la
 std::optional<FoundEpisode> episodeAtEnd(QStringView text, const QString& language, NotationPlace place) {
     const qsizetype from = std::max<qsizetype>(0, text.size() - kLongestNotation);
     const QStringView tail = text.sliced(from);
-    if (!hasNumber(tail)) {
+    if (!mayHaveEpisode(tail)) {
         return std::nullopt;
     }
     const std::vector<Token> tokens = tokensOf(tail);

@@ -32,6 +32,8 @@ struct FoundEpisode {
     qsizetype end = 0;
 };
 
+/// Whether anything in the text could be a number: false for most texts, which then have no notation.
+bool mayHaveEpisode(QStringView text);
 /// The text as a notation and nothing else.
 std::optional<EpisodeNumber> episodeNotation(QStringView text, const QString& language,
                                              NotationPlace place = NotationPlace::Separate);

@@ -1,12 +1,14 @@
 #include "text/facts/TitleNotes.h"
 
+#include "text/search/FoldTable.h"
 #include "text/search/FoldedText.h"
+#include "text/search/WordSet.h"
 
 #include <QRegularExpression>
-#include <QSet>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace guide {
 
@@ -24,20 +26,64 @@ QString keyOf(QStringView text) {
     for (QChar& unit : key) {
         unit = unit.isLetterOrNumber() ? unit : u' ';
     }
-    return key.simplified();
+    return std::move(key).simplified();
+}
+
+/// The key of a text without blanks. Most are one word of letters that fold to one each: they are folded on
+/// the stack.
+class WordKey {
+  public:
+    explicit WordKey(QStringView text) {
+        const FoldTable& table = FoldTable::of(FoldMode::Lookalikes);
+        for (const QChar unit : text) {
+            const char16_t folded = table[unit.unicode()];
+            if (m_size == kMost || folded == FoldTable::kSeveral ||
+                (folded != FoldTable::kDropped && !QChar(folded).isLetterOrNumber())) {
+                m_text = keyOf(text);
+                m_size = -1;
+                return;
+            }
+            if (folded != FoldTable::kDropped) {
+                m_units[static_cast<std::size_t>(m_size++)] = folded;
+            }
+        }
+    }
+    QStringView view() const {
+        return m_size < 0 ? QStringView(m_text) : QStringView(m_units.data(), m_size);
+    }
+
+  private:
+    static constexpr qsizetype kMost = 40;
+
+    std::array<char16_t, kMost> m_units;
+    qsizetype m_size = 0;
+    QString m_text;
+};
+
+/// Whether the first word of the text's key is one of these.
+bool beginsWithOne(const WordSet& words, QStringView text) {
+    for (const QStringView part : text.tokenize(u' ', Qt::SkipEmptyParts)) {
+        const WordKey key(part);
+        const QStringView word = key.view();
+        // Signs alone have no key.
+        if (!word.isEmpty()) {
+            return words.contains(word.first(word.indexOf(u' ') < 0 ? word.size() : word.indexOf(u' ')));
+        }
+    }
+    return false;
 }
 
 /// The keys of words that are divided by bars.
-QSet<QString> keys(QStringView words) {
-    QSet<QString> set;
+WordSet keys(QStringView words) {
+    WordSet set;
     for (const QStringView word : words.split(u'|')) {
         set.insert(keyOf(word));
     }
     return set;
 }
 
-const QSet<QString>& repeatMarks() {
-    static const QSet<QString> kMarks =
+const WordSet& repeatMarks() {
+    static const WordSet kMarks =
         keys(u"r|rep|repeat|rpt|rerun|e|ε|επ|επαν|επανάληψη|σε επανάληψη|reluare|rel|repetare|opak|"
              u"opakování|opakovanie|repríza|repriza|repr|reprise|repris|rediff|rediffusion|redif|wh|"
              u"wdh|wiederholung|ism|ismétlés|replica|in replica|repl|powt|powtórka|powtórzenie|tekrar|"
@@ -47,8 +93,8 @@ const QSet<QString>& repeatMarks() {
     return kMarks;
 }
 
-const QSet<QString>& newMarks() {
-    static const QSet<QString> kMarks =
+const WordSet& newMarks() {
+    static const WordSet kMarks =
         keys(u"new|nuovo|nuova|nuova puntata|nuovo episodio|nuovi episodi|nuove puntate|prima visione|"
              u"1 visione tv|1 visione|1atv|in premieră|premieră tv|премиера по бтв|prima tv|1 tv|1a tv|"
              u"prima assoluta|nou|noua|episod nou|premieră|premiera|premijera|premiéra|premiere|"
@@ -62,15 +108,15 @@ const QSet<QString>& newMarks() {
 }
 
 /// Letters that are also other words are marks only in capitals and with others of them.
-const QSet<QString>& technicalWords() {
-    static const QSet<QString> kWords =
+const WordSet& technicalWords() {
+    static const WordSet kWords =
         keys(u"st|ad|hd|uhd|4k|vs|sl|ts|hdtv|dts|omu|ov|ttx|cc|skryte|skryté|titulky|titulkami|so|s|t|"
              u"stereo|mono|τπ|μεταγλ|dolby|feliratos|változat|untertitel|dubbing|bo|simulcast");
     return kWords;
 }
 
-const QSet<QString>& countryNames() {
-    static const QSet<QString> kNames =
+const WordSet& countryNames() {
+    static const WordSet kNames =
         keys(u"usa|us|u s a|uk|gb|gbr|sad|eua|сащ|сад|ηπα|abd|vereinigte staaten|etats unis|états unis|"
              u"stati uniti|stati uniti d'america|statele unite|sjedinjene američke države|"
              u"spojené státy|spojené štáty|velká británie|veľká británia|velika britanija|"
@@ -123,9 +169,23 @@ const QSet<QString>& countryNames() {
     return kNames;
 }
 
+/// The first words of all marks: few texts begin with one.
+const WordSet& firstWordsOfMarks() {
+    static const WordSet kWords = [] {
+        WordSet words;
+        for (const WordSet* marks : {&repeatMarks(), &newMarks()}) {
+            for (const QString& mark : marks->words()) {
+                words.insert(mark.left(mark.indexOf(u' ')));
+            }
+        }
+        return words;
+    }();
+    return kWords;
+}
+
 struct GenreWords {
-    QSet<QString> nouns;
-    QSet<QString> others;
+    WordSet nouns;
+    WordSet others;
 };
 
 const GenreWords& genreWords() {
@@ -163,6 +223,22 @@ const GenreWords& genreWords() {
     return kWords;
 }
 
+/// Whether the text has words and all of them are known; most texts end with their first.
+template <class IsKnown>
+bool isEveryWord(QStringView text, IsKnown&& isKnown) {
+    bool hasWords = false;
+    for (const QStringView part : QStringTokenizer(text, u' ', Qt::SkipEmptyParts)) {
+        const WordKey key(part);
+        for (const QStringView word : key.view().tokenize(u' ', Qt::SkipEmptyParts)) {
+            if (!isKnown(word)) {
+                return false;
+            }
+            hasWords = true;
+        }
+    }
+    return hasWords;
+}
+
 bool hasFourDigits(QStringView text) {
     int digits = 0;
     return std::ranges::any_of(text, [&digits](QChar unit) {
@@ -174,13 +250,24 @@ bool hasFourDigits(QStringView text) {
 } // namespace
 
 std::optional<int> yearOf(QStringView text) {
-    bool isNumber = false;
-    const int year = text.size() == 4 ? text.toInt(&isNumber) : 0;
-    return isNumber && year >= kFirstYear && year <= kLastYear ? std::optional(year) : std::nullopt;
+    if (text.size() != 4) {
+        return std::nullopt;
+    }
+    int year = 0;
+    for (const QChar unit : text) {
+        if (unit < u'0' || unit > u'9') {
+            return std::nullopt;
+        }
+        year = year * 10 + unit.unicode() - u'0';
+    }
+    return year >= kFirstYear && year <= kLastYear ? std::optional(year) : std::nullopt;
 }
 
 Newness newnessMark(QStringView text, bool isBracketed) {
     if (text.size() > kLongestNote) {
+        return Newness::Unknown;
+    }
+    if (!beginsWithOne(firstWordsOfMarks(), text)) {
         return Newness::Unknown;
     }
     const QString key = keyOf(text);
@@ -190,21 +277,15 @@ Newness newnessMark(QStringView text, bool isBracketed) {
     // "(Wh. vom Vortag)", "(repriza od subote)".
     const QStringView first = QStringView(key).first(std::max<qsizetype>(key.indexOf(u' '), 0));
     const bool isLong = isBracketed && (first.size() >= 6 || first == u"wh" || first == u"wdh");
-    if (repeatMarks().contains(key) || (isLong && repeatMarks().contains(first.toString()))) {
+    if (repeatMarks().contains(key) || (isLong && repeatMarks().contains(first))) {
         return Newness::Repeat;
     }
     return newMarks().contains(key) ? Newness::New : Newness::Unknown;
 }
 
 bool isTechnicalNote(QStringView text) {
-    if (text.size() > kLongestNote) {
-        return false;
-    }
-    const QString key = keyOf(text);
-    const auto words = QStringView(key).split(u' ', Qt::SkipEmptyParts);
-    return !words.isEmpty() && std::ranges::all_of(words, [](QStringView word) {
-        return technicalWords().contains(word.toString());
-    });
+    return text.size() <= kLongestNote &&
+           isEveryWord(text, [](QStringView word) { return technicalWords().contains(word); });
 }
 
 std::optional<ProductionNote> productionNote(QStringView text, bool mayLackYear) {
@@ -216,7 +297,7 @@ std::optional<ProductionNote> productionNote(QStringView text, bool mayLackYear)
     for (const QString& part : text.toString().split(kSeparators, Qt::SkipEmptyParts)) {
         QStringList words = part.simplified().split(u' ', Qt::SkipEmptyParts);
         const auto isYearWord = [](const QString& word) {
-            static const QSet<QString> kWords = keys(u"r|rok|god|godina|g|év|an|год");
+            static const WordSet kWords = keys(u"r|rok|god|godina|g|év|an|год");
             return kWords.contains(keyOf(word));
         };
         if (words.size() > 1 && isYearWord(words.constLast())) {
@@ -260,21 +341,17 @@ std::optional<ProductionNote> productionNote(QStringView text, bool mayLackYear)
 }
 
 bool isGenreNote(QStringView text) {
-    if (text.size() > kLongestNote || text.isEmpty()) {
+    if (text.size() > kLongestNote) {
         return false;
     }
     const GenreWords& known = genreWords();
     bool hasNoun = false;
-    const QString key = keyOf(text);
-    for (const QStringView part : QStringTokenizer(QStringView(key), u' ', Qt::SkipEmptyParts)) {
-        const QString word = part.toString();
+    const bool isKnown = isEveryWord(text, [&](QStringView word) {
         const bool isNoun = known.nouns.contains(word);
         hasNoun = hasNoun || isNoun;
-        if (!isNoun && !known.others.contains(word)) {
-            return false;
-        }
-    }
-    return hasNoun;
+        return isNoun || known.others.contains(word);
+    });
+    return isKnown && hasNoun;
 }
 
 std::optional<QString> ageNote(QStringView text) {

@@ -4,9 +4,9 @@
 
 #include <QHash>
 #include <QRegularExpression>
-#include <QSet>
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace guide {
@@ -96,16 +96,14 @@ std::optional<CreditLabel> labelAt(const QString& text, qsizetype colon, bool is
     return std::nullopt;
 }
 
-} // namespace
-
 /// Whether the last word may mean "and others"; the expression takes longer.
-bool mayEndInOthers(const QString& names) {
-    static const QSet<QString> kLastWords{
-        u"a"_s,      u"m"_s,     u"altri"_s, u"al"_s,    u"další"_s, u"ďalší"_s,  u"iní"_s,
-        u"jiní"_s,   u"mások"_s, u"inni"_s,  u"alții"_s, u"alţii"_s, u"altii"_s,  u"ά"_s,
-        u"α"_s,      u"drugi"_s, u"dr"_s,    u"др"_s,    u"други"_s, u"ostali"_s, u"diğerleri"_s,
-        u"others"_s, u"etc"_s,   u"itd"_s,   u"atd"_s,   u"otros"_s, u""_s};
-    QStringView last = QStringView(names).trimmed();
+bool mayEndInOthers(QStringView names) {
+    static constexpr std::array<QStringView, 26> kLastWords{
+        u"a",     u"m",      u"altri",     u"al",     u"další", u"ďalší", u"iní",   u"jiní", u"mások",
+        u"inni",  u"alții",  u"alţii",     u"altii",  u"ά",     u"α",     u"drugi", u"dr",   u"др",
+        u"други", u"ostali", u"diğerleri", u"others", u"etc",   u"itd",   u"atd",   u"otros"};
+    QStringView last = names.trimmed();
+    const qsizetype all = last.size();
     while (!last.isEmpty() && (last.back() == u'.' || last.back() == u'…')) {
         last.chop(1);
     }
@@ -113,8 +111,13 @@ bool mayEndInOthers(const QString& names) {
         return unit.isSpace() || unit == u'.' || unit == u',' || unit == u';';
     };
     const auto begin = std::find_if(last.rbegin(), last.rend(), isJoint).base();
-    return kLastWords.contains(last.sliced(begin - last.begin()).toString().toLower());
+    const QStringView word = last.sliced(begin - last.begin());
+    return word.isEmpty() ? all > 0 : std::ranges::any_of(kLastWords, [word](QStringView known) {
+        return known.size() == word.size() && known.compare(word, Qt::CaseInsensitive) == 0;
+    });
 }
+
+} // namespace
 
 QString withoutOthers(const QString& names) {
     static const QRegularExpression kOthers(

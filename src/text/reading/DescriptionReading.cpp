@@ -22,28 +22,41 @@ constexpr qsizetype kLongestGenre = 20;
 constexpr qsizetype kLongestHead = 40;
 constexpr qsizetype kLongestOriginalTitle = 150;
 
-/// Whether a part of the label of an original title stands in front of a colon or a line end.
+/// Whether a label of an original title stands in front of a colon or a line end.
 bool hasOriginalTitleLabel(QStringView text) {
-    static constexpr std::array<QStringView, 11> kParts{u"rigina",    u"rig. ",   u"redeti c", u"vodní n",
-                                                        u"vodný n",   u"tytuł o", u"Tytuł o",  u"rijinal",
-                                                        u"ρωτότυπος", u"ригинал", u"riģināl"};
-    constexpr qsizetype kLongestLabel = 26;
-    // "Originaltitel", "Titolo originale", "Eredeti cím", "název", "oryginalny", "Orijinal adı", "τίτλος",
-    // "наслов", "nosaukums".
-    constexpr QStringView kLastLetters = u"lemvyıςвs";
+    static constexpr std::array<QStringView, 26> kLabels{
+        u"Originaltitel",     u"Titolo originale",  u"Titre original",      u"Eredeti cim",
+        u"Eredeti cím",       u"Original title",    u"Orig. title",         u"orig. title",
+        u"Originální název",  u"Originálny názov",  u"Pôvodný názov",       u"Původní název",
+        u"Originalni naslov", u"Originalni naziv",  u"Orig. naslov",        u"Titlu original",
+        u"Titlul original",   u"Tytuł oryginalny",  u"Orijinal adı",        u"Orijinal isim",
+        u"Πρωτότυπος τίτλος", u"Оригинален наслов", u"Оригинално заглавие", u"Оригинални наслов",
+        u"Título original",   u"Oriģinālnosaukums"};
     for (const QChar end : {u':', u'\n'}) {
         for (qsizetype at = text.indexOf(end); at >= 0; at = text.indexOf(end, at + 1)) {
-            const qsizetype begin = std::max<qsizetype>(0, at - kLongestLabel);
-            const QStringView front = text.sliced(begin, at - begin).trimmed();
-            if (front.isEmpty() || !kLastLetters.contains(front.back())) {
-                continue;
+            QStringView front = text.first(at);
+            if (!front.isEmpty() && front.back().isSpace()) {
+                front.chop(1);
             }
-            if (std::ranges::any_of(kParts, [front](QStringView part) { return front.contains(part); })) {
+            const auto endsIn = [front](QStringView label) {
+                // Most differ in their last letters.
+                return front.size() >= label.size() && front.back() == label.back() && front.endsWith(label);
+            };
+            if (std::ranges::any_of(kLabels, endsIn)) {
                 return true;
             }
         }
     }
     return false;
+}
+
+/// Where a sentence within the text ends; negative if none does.
+qsizetype sentenceEnd(QStringView text) {
+    qsizetype at = text.indexOf(u'.');
+    while (at >= 0 && at + 1 < text.size() && text[at + 1] != u' ') {
+        at = text.indexOf(u'.', at + 1);
+    }
+    return at + 1 < text.size() ? at : -1;
 }
 
 class DescriptionReader {
@@ -121,7 +134,8 @@ class DescriptionReader {
     void takeNames() {
         static const QRegularExpression kName(
             u"^\\p{Lu}[\\p{L}'’.\\-]*(?: (?:\\p{L}[\\p{L}'’.\\-]*|[“\"][^“”\"]+[”\"])){1,4}( [-–] \\S.{0,60})?$"_s);
-        if (text().count(u'\n') < 2) {
+        const qsizetype firstLine = text().indexOf(u'\n');
+        if (firstLine < 0 || text().indexOf(u'\n', firstLine + 1) < 0) {
             return;
         }
         QStringList lines = text().trimmed().split(u'\n');
@@ -251,8 +265,7 @@ class DescriptionReader {
             return false;
         }
         // "Α΄ τηλεοπτική προβολή." as the first sentence.
-        if (const qsizetype stop = all.first(std::min<qsizetype>(all.size(), kLongestMark)).indexOf(u". ");
-            stop > 3) {
+        if (const qsizetype stop = sentenceEnd(all.first(std::min(all.size(), kLongestMark))); stop > 3) {
             const Newness newness = newnessMark(all.first(stop), false);
             if (newness != Newness::Unknown) {
                 m_read.facts.newness = newness;

@@ -16,6 +16,7 @@ FeedReading ownReading() {
             .tidiesTexts = true,
             .keepsNumberedSubtitles = true,
             .knowsCreditLabels = true,
+            .onlyWebPictures = true,
             .readsFacts = true,
             .believesGenres = true};
 }

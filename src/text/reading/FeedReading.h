@@ -30,6 +30,8 @@ struct FeedReading {
     bool keepsNumberedSubtitles = false;
     /// Cast and directors in descriptions are known by their labels in many languages.
     bool knowsCreditLabels = false;
+    /// Pictures come from the web alone. The catalogue's feeds are trusted with any address.
+    bool onlyWebPictures = false;
     /// Typed facts (episode, original title, year and others) are read.
     bool readsFacts = false;
     /// Categories come from the category elements first, by the table of genres that feeds write, and from

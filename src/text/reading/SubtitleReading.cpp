@@ -116,7 +116,8 @@ ReadSubtitle readSubtitle(const QString& text, const QString& language) {
         return readParts(tidy, language);
     }
     ReadSubtitle read;
-    if (const auto number = episodeNotation(tidy, language)) {
+    const bool hasNumber = mayHaveEpisode(tidy);
+    if (const auto number = hasNumber ? episodeNotation(tidy, language) : std::nullopt) {
         read.facts.episode = *number;
         return read;
     }
@@ -132,14 +133,14 @@ ReadSubtitle readSubtitle(const QString& text, const QString& language) {
     static const QRegularExpression kParts(u"^(.*\\p{L}.*?)[\\s,-]+[(\\[]?(\\d{1,2})/(\\d{1,2})[)\\]]?$"_s);
     QString whole = tidy;
     EpisodeNumber parts;
-    if (const auto match = tidy.contains(u'/') ? kParts.match(tidy) : QRegularExpressionMatch();
-        match.hasMatch()) {
-        const int part = match.captured(2).toInt();
-        const int count = match.captured(3).toInt();
+    const auto match = tidy.contains(u'/') ? std::optional(kParts.match(tidy)) : std::nullopt;
+    if (match && match->hasMatch()) {
+        const int part = match->captured(2).toInt();
+        const int count = match->captured(3).toInt();
         if (part >= 1 && part <= count && count > 1) {
             parts.part = part;
             parts.parts = count;
-            whole = match.captured(1);
+            whole = match->captured(1);
         }
     }
     ReadTitle title = readTitle(whole, language);
@@ -150,15 +151,18 @@ ReadSubtitle readSubtitle(const QString& text, const QString& language) {
     if (title.subtitle) {
         rest += u" - "_s + *title.subtitle;
     }
-    if (const auto found = episodeAtStart(rest, language, NotationPlace::Title); found && found->start == 0) {
+    const auto found = hasNumber ? episodeAtStart(rest, language, NotationPlace::Title) : std::nullopt;
+    if (found && found->start == 0) {
         static const QRegularExpression kJoint(u"^\\s?[-–—:.,|]\\s*(?=[^\\s])"_s);
         if (const auto joint = kJoint.match(QStringView(rest).sliced(found->end)); joint.hasMatch()) {
             completeEpisode(read.facts.episode, found->number);
             rest.remove(0, found->end + joint.capturedLength());
         }
     }
-    if (const auto number = episodeNotation(rest, language)) {
-        completeEpisode(read.facts.episode, *number);
+    // As long as the whole, it was looked at above.
+    const auto left = hasNumber && rest.size() < tidy.size() ? episodeNotation(rest, language) : std::nullopt;
+    if (left) {
+        completeEpisode(read.facts.episode, *left);
         return read;
     }
     // One pair of brackets around the whole.

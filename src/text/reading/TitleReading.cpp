@@ -9,6 +9,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <array>
 
 namespace guide {
 
@@ -38,11 +39,42 @@ bool hasOtherScript(QStringView text) {
     });
 }
 
+/// What may divide a title from a tail, in the order in which it is tried. Each has a sign and a blank behind
+/// it; some have a blank in front of it too.
+struct Joint {
+    QChar sign;
+    bool hasBlankBefore;
+    /// Sentences and headings say more than a comma and a dash.
+    bool isLoose;
+
+    qsizetype size() const { return hasBlankBefore ? 3 : 2; }
+};
+constexpr std::array kJoints{Joint{u',', false, false}, Joint{u'-', true, false}, Joint{u'–', true, false},
+                             Joint{u'|', true, false},  Joint{u':', false, true}, Joint{u'.', false, true}};
+
+/// Where the last of each joint begins; -1 where there is none.
+std::array<qsizetype, kJoints.size()> lastJoints(QStringView title) {
+    std::array<qsizetype, kJoints.size()> places;
+    places.fill(-1);
+    for (qsizetype at = 1; at + 1 < title.size(); ++at) {
+        if (title[at + 1] != u' ') {
+            continue;
+        }
+        for (std::size_t i = 0; i < kJoints.size(); ++i) {
+            if (title[at] == kJoints[i].sign && (!kJoints[i].hasBlankBefore || title[at - 1] == u' ')) {
+                places[i] = kJoints[i].hasBlankBefore ? at - 1 : at;
+            }
+        }
+    }
+    return places;
+}
+
 class TitleReader {
   public:
     TitleReader(const QString& title, const QString& language, int broadcastIn)
         : m_language(language)
-        , m_broadcastIn(broadcastIn) {
+        , m_broadcastIn(broadcastIn)
+        , m_mayHaveEpisode(mayHaveEpisode(title)) {
         m_read.title = title;
     }
 
@@ -248,17 +280,17 @@ class TitleReader {
     /// What follows the last comma or dash.
     bool takeSegment() {
         const QStringView title(m_read.title);
-        for (const QStringView joint : {QStringView(u", "), QStringView(u" - "), QStringView(u" – "),
-                                        QStringView(u" | "), QStringView(u": "), QStringView(u". ")}) {
-            const qsizetype at = title.lastIndexOf(joint);
+        const auto places = lastJoints(title);
+        for (std::size_t i = 0; i < kJoints.size(); ++i) {
+            const Joint& joint = kJoints[i];
+            const qsizetype at = places[i];
             if (at <= 0) {
                 continue;
             }
             const QStringView note = title.sliced(at + joint.size());
-            // Sentences and headings say more than a comma and a dash.
-            const bool isLoose = joint == u": " || joint == u". ";
-            const qsizetype left = joint == u". " && endsWithAbbreviation(title.first(at)) ? at + 1 : at;
-            if (isLoose ? takeEpisode(note, left) : takeNote(note, false, left)) {
+            const bool isAbbreviation = joint.sign == u'.' && endsWithAbbreviation(title.first(at));
+            const qsizetype left = isAbbreviation ? at + 1 : at;
+            if (joint.isLoose ? takeEpisode(note, left) : takeNote(note, false, left)) {
                 return true;
             }
         }
@@ -274,7 +306,8 @@ class TitleReader {
     }
 
     bool takeEpisode(QStringView note, qsizetype left) {
-        const auto number = episodeNotation(note, m_language, NotationPlace::Title);
+        const auto number =
+            m_mayHaveEpisode ? episodeNotation(note, m_language, NotationPlace::Title) : std::nullopt;
         if (!number || !shorten(left)) {
             return false;
         }
@@ -284,7 +317,8 @@ class TitleReader {
 
     /// "S1 E2", "Folge 10", "II./6." behind a blank.
     bool takeEnd() {
-        const auto found = episodeAtEnd(m_read.title, m_language, NotationPlace::Title);
+        const auto found =
+            m_mayHaveEpisode ? episodeAtEnd(m_read.title, m_language, NotationPlace::Title) : std::nullopt;
         if (found && shorten(found->start)) {
             add(found->number);
             return true;
@@ -294,6 +328,9 @@ class TitleReader {
 
     /// "Title - Stag. 26 Ep. 26 - Subtitle".
     void takeMiddle() {
+        if (!m_mayHaveEpisode) {
+            return;
+        }
         for (const QStringView joint : {QStringView(u" - "), QStringView(u" – ")}) {
             const QString title = m_read.title;
             const qsizetype first = title.indexOf(joint);
@@ -314,6 +351,7 @@ class TitleReader {
 
     const QString& m_language;
     const int m_broadcastIn;
+    const bool m_mayHaveEpisode;
     ReadTitle m_read;
 };
 

@@ -67,6 +67,9 @@ QString summary(const ExtendedTVEntry& show) {
             parts << QLatin1StringView(name) + u'=' + *text;
         }
     }
+    for (const QUrl& picture : show.pictures) {
+        parts << u"picture="_s + picture.toString();
+    }
     const QJsonObject facts = factsJSON(ShowItem(std::make_shared<const TVEntry>(entry)));
     for (auto fact = facts.begin(); fact != facts.end(); ++fact) {
         if (!fact->isNull()) {
@@ -109,6 +112,9 @@ TEST(FeedReading, EveryMemberChangesOneThing) {
          at(10, "<title>A</title><desc>Text. Režie: Jan Novák. Hrají: P. Malá, J. Dub a další.</desc>"),
          u"A | desc=Text. | roles=P. Malá, J. Dub | by=Jan Novák"_s,
          u"A | desc=Text. Režie: Jan Novák. Hrají: P. Malá, J. Dub a další."_s},
+        {"addresses of pictures", &FeedReading::onlyWebPictures,
+         at(10, R"(<title>A</title><icon src="file:///etc/passwd"/>)"), u"A"_s,
+         u"A | picture=file:///etc/passwd"_s},
         {"facts", &FeedReading::readsFacts, at(10, "<title>A</title><date>1999</date>"), u"A | year=[1999]"_s,
          u"A"_s},
     };
