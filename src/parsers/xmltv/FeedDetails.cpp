@@ -157,6 +157,11 @@ void FeedDetails::text(std::string_view piece) {
     }
 }
 
+bool FeedDetails::wantsText() const {
+    const XMLTVElement owner = textOwner();
+    return owner != XMLTVElement::Programme && owner != XMLTVElement::Other;
+}
+
 void FeedDetails::ended() {
     if (!m_open.empty()) {
         m_open.pop_back();

@@ -19,6 +19,8 @@ class FeedDetails {
     void started(XMLTVElement element, const XMLTVAttributes& attributes);
     void text(std::string_view piece);
     void ended();
+    /// False between elements and in unknown ones, whose text is nothing.
+    bool wantsText() const;
 
     /// By language.
     FeedTexts titles;

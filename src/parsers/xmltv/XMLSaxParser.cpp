@@ -238,6 +238,7 @@ class Parse {
         if (parse.spend(kLeastElementSize)) {
             parse.m_events.started(parse.element(name, prefix),
                                    Attributes{parse.m_context.get(), attributeCount, attributes});
+            parse.m_wantsText = parse.m_events.wantsText();
         }
     }
 
@@ -246,13 +247,14 @@ class Parse {
         parse.flushText();
         if (!parse.m_stopped) {
             parse.m_events.ended(parse.element(name, prefix));
+            parse.m_wantsText = parse.m_events.wantsText();
         }
     }
 
     static void text(void* user, const xmlChar* piece, int size) {
         Parse& parse = self(user);
         const auto bytes = static_cast<std::size_t>(std::max(size, 0));
-        if (bytes > 0 && parse.spend(bytes)) {
+        if (bytes > 0 && parse.spend(bytes) && parse.m_wantsText) {
             parse.addText(view(piece, bytes));
         }
     }
@@ -261,7 +263,7 @@ class Parse {
         Parse& parse = self(user);
         const auto bytes = static_cast<std::size_t>(std::max(size, 0));
         parse.flushText();
-        if (bytes > 0 && parse.spend(bytes)) {
+        if (bytes > 0 && parse.spend(bytes) && parse.m_wantsText) {
             parse.m_events.text(view(piece, bytes));
         }
     }
@@ -413,6 +415,7 @@ class Parse {
     std::size_t m_delivered = 0;
     std::size_t m_content = 0;
     bool m_keepsContent = false;
+    bool m_wantsText = true;
     int m_parameterReferences = 0;
     bool m_stopped = false;
 };

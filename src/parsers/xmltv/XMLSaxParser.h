@@ -35,6 +35,9 @@ class XMLEvents {
     /// Text up to the next tag, reference, section or comment; UTF-8, never empty.
     virtual void text(std::string_view piece) = 0;
     virtual void ended(std::size_t element) = 0;
+    /// Whether text that follows the last event is delivered; asked after each start and end. Half of a
+    /// document's text is blanks between elements.
+    virtual bool wantsText() const { return true; }
     /// A row was malformed: what was started is not ended, and the next row is started.
     virtual void skippedRow() {}
 };

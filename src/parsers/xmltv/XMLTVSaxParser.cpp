@@ -24,6 +24,7 @@ class Events final : public XMLEvents {
     }
     void text(std::string_view piece) override { m_events.text(piece); }
     void ended(std::size_t element) override { m_events.ended(named(element)); }
+    bool wantsText() const override { return m_events.wantsText(); }
     void skippedRow() override { m_events.skippedProgramme(); }
 
   private:

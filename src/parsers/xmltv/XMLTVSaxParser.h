@@ -43,6 +43,8 @@ class XMLTVEvents {
     /// Text up to the next tag, reference, section or comment; UTF-8, never empty.
     virtual void text(std::string_view piece) = 0;
     virtual void ended(XMLTVElement element) = 0;
+    /// As XMLEvents::wantsText().
+    virtual bool wantsText() const { return true; }
     /// A programme was malformed: what was started is not ended.
     virtual void skippedProgramme() {}
 };

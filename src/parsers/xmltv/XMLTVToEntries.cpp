@@ -199,6 +199,14 @@ void XMLTVToEntries::text(std::string_view piece) {
     }
 }
 
+bool XMLTVToEntries::wantsText() const {
+    if (!m_inside || !m_hasShow) {
+        return false;
+    }
+    return reading().readsFacts ? m_show.details.wantsText()
+                                : *m_inside != XMLTVElement::Programme && *m_inside != XMLTVElement::Other;
+}
+
 void XMLTVToEntries::ended(XMLTVElement element) {
     if (element == XMLTVElement::Programme) {
         const bool hasTitle = m_show.title.isSet() || !m_show.details.titles.all().empty();

@@ -72,6 +72,7 @@ class XMLTVToEntries : private XMLTVEvents {
     void started(XMLTVElement element, const XMLTVAttributes& attributes) override;
     void text(std::string_view piece) override;
     void ended(XMLTVElement element) override;
+    bool wantsText() const override;
     void skippedProgramme() override;
 
     const FeedReading& reading() const { return m_options.shows.reading; }

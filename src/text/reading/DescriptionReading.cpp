@@ -138,23 +138,25 @@ class DescriptionReader {
         if (firstLine < 0 || text().indexOf(u'\n', firstLine + 1) < 0) {
             return;
         }
-        QStringList lines = text().trimmed().split(u'\n');
+        QStringView rest = QStringView(text()).trimmed();
         QStringList names;
         int roles = 0;
-        while (lines.size() > 1 && lines.constLast().size() <= kLongestName) {
-            QString line = lines.constLast().trimmed();
+        for (qsizetype at = rest.lastIndexOf(u'\n'); at >= 0 && rest.size() - at - 1 <= kLongestName;
+             at = rest.lastIndexOf(u'\n')) {
+            QStringView line = rest.sliced(at + 1).trimmed();
             if (names.isEmpty() && line.endsWith(u'.')) {
                 line.chop(1);
             }
-            const auto match = kName.match(line);
-            if (!match.hasMatch()) {
+            const auto match =
+                !line.isEmpty() && line.front().isUpper() ? std::optional(kName.match(line)) : std::nullopt;
+            if (!match || !match->hasMatch()) {
                 break;
             }
-            roles += match.capturedLength(1) > 0 ? 1 : 0;
-            names.prepend(line);
-            lines.removeLast();
+            roles += match->capturedLength(1) > 0 ? 1 : 0;
+            names.prepend(line.toString());
+            rest.truncate(at);
         }
-        const QString before = lines.constLast().trimmed();
+        const QStringView before = rest.sliced(rest.lastIndexOf(u'\n') + 1).trimmed();
         if (names.size() < (roles > 0 ? 2 : 3) || before.isEmpty() || before.back().isLetterOrNumber()) {
             return;
         }
@@ -162,7 +164,7 @@ class DescriptionReader {
             m_read.credits.directedBy = names.takeFirst();
         }
         m_read.credits.roles = names.join(u", "_s);
-        text() = lines.join(u'\n');
+        text() = rest.toString();
     }
 
     /// Lines that repeat when the show is on.
