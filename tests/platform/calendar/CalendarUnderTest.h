@@ -42,6 +42,8 @@ struct CalendarKind {
 };
 
 std::unique_ptr<CalendarUnderTest> makeFolderCalendar();
+std::unique_ptr<CalendarUnderTest> makeLocalCalendar();
+std::unique_ptr<CalendarUnderTest> makeRemoteCalendar();
 
 inline CalendarEvent showEvent(const QString& digest, Moment start = kEvening) {
     CalendarEvent event;

@@ -1,0 +1,118 @@
+#include "platform/linux/calendar/EDSConnection.h"
+
+#include <QDBusError>
+#include <QDBusVariant>
+#include <QUuid>
+
+#include <algorithm>
+#include <utility>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kCalendarError = "_e_2dcal_2dclient_2derror_2dquark.Code"_L1;
+constexpr auto kNetworkError = "_g_2dio_2derror_2dquark.Code"_L1;
+constexpr auto kClientError = "_e_2dclient_2derror_2dquark.Code"_L1;
+
+/// The number at the end of the error's name, of one of the lists.
+std::optional<int> codeOf(const QString& name, QLatin1StringView list) {
+    const qsizetype at = name.indexOf(list);
+    return at < 0 ? std::nullopt : std::optional(QStringView(name).mid(at + list.size()).toInt());
+}
+
+} // namespace
+
+EDSError edsError(const QString& name, const QString& message) {
+    // Numbers of ECalClientError, EClientError and GIOErrorEnum.
+    EDSError error{.message = message};
+    if (const std::optional<int> code = codeOf(name, kCalendarError)) {
+        error.isTaken = *code == 4;
+        if (*code == 1) {
+            error.fault = EventFault::NotFound;
+        } else if (*code == 0) {
+            error.fault = EventFault::Unavailable;
+        }
+        return error;
+    }
+    if (const std::optional<int> code = codeOf(name, kClientError)) {
+        constexpr int kReadOnly = 8;
+        constexpr int kNotOpened = 20;
+        constexpr int kOutOfSync = 21;
+        // Busy, not loaded, authentication, offline, no TLS, the service's own bus.
+        constexpr int kUnavailable[] = {1, 2, 4, 5, 6, 7, 12, 13, 18, kNotOpened};
+        error.isGone = *code == kNotOpened;
+        error.isOutOfSync = *code == kOutOfSync;
+        if (*code == kReadOnly) {
+            error.fault = EventFault::ReadOnly;
+        } else if (*code == kOutOfSync) {
+            error.fault = EventFault::Conflict;
+        } else if (std::ranges::find(kUnavailable, *code) != std::end(kUnavailable)) {
+            error.fault = EventFault::Unavailable;
+        }
+        return error;
+    }
+    if (const std::optional<int> code = codeOf(name, kNetworkError)) {
+        constexpr int kNoSpace = 12;
+        error.fault = *code == kNoSpace ? EventFault::Failed : EventFault::Unavailable;
+        return error;
+    }
+    if (name.startsWith("org.freedesktop.DBus.Error."_L1)) {
+        const QString kind = name.section(u'.', -1);
+        const QStringList gone{u"ServiceUnknown"_s, u"UnknownObject"_s, u"UnknownMethod"_s,
+                               u"NameHasNoOwner"_s, u"Disconnected"_s,  u"NoReply"_s};
+        error.isGone = gone.contains(kind);
+        error.fault = EventFault::Unavailable;
+    }
+    return error;
+}
+
+EDSConnection::EDSConnection(const QString& address)
+    : m_name(u"calendars-"_s + QUuid::createUuid().toString(QUuid::Id128))
+    , m_bus(QDBusConnection::connectToBus(address, m_name)) {}
+
+EDSConnection::~EDSConnection() {
+    QDBusConnection::disconnectFromBus(m_name);
+}
+
+void EDSConnection::beginCalls(std::chrono::milliseconds time) {
+    m_until = Clock::now() + time;
+}
+
+EDSReply EDSConnection::call(const EDSObject& object, const QString& member, const QVariantList& arguments,
+                             std::chrono::milliseconds longest) {
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(m_until - Clock::now());
+    const std::chrono::milliseconds time = std::min(longest, left);
+    if (time.count() <= 0) {
+        return {.values = {},
+                .error =
+                    EDSError{.fault = EventFault::Unavailable, .message = u"the calendar takes too long"_s}};
+    }
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(object.service, object.path, object.interface, member);
+    message.setArguments(arguments);
+    const Clock::time_point begin = Clock::now();
+    const QDBusMessage answer = m_bus.call(message, QDBus::Block, static_cast<int>(time.count()));
+    if (answer.type() == QDBusMessage::ReplyMessage) {
+        return {.values = answer.arguments(), .error = std::nullopt};
+    }
+    EDSError error = edsError(answer.errorName(), answer.errorMessage());
+    // A service that is slow is not gone.
+    error.isLate = error.isGone && Clock::now() >= begin + time;
+    error.isGone = error.isGone && !error.isLate;
+    return {.values = {}, .error = std::move(error)};
+}
+
+void EDSConnection::send(const EDSObject& object, const QString& member) {
+    m_bus.send(QDBusMessage::createMethodCall(object.service, object.path, object.interface, member));
+}
+
+std::optional<QVariant> EDSConnection::property(const EDSObject& object, const QString& name) {
+    const EDSReply reply = call({object.service, object.path, u"org.freedesktop.DBus.Properties"_s}, u"Get"_s,
+                                {object.interface, name}, std::chrono::seconds(5));
+    return reply.isOk() ? std::optional(reply.values.value(0).value<QDBusVariant>().variant()) : std::nullopt;
+}
+
+} // namespace guide

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "platform/calendar/EventStore.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QString>
+#include <QVariantList>
+
+#include <chrono>
+#include <optional>
+
+namespace guide {
+
+/// Why a call to the service failed.
+struct EDSError {
+    EventFault fault = EventFault::Failed;
+    QString message;
+    /// The service, or the object in it, is gone; opening the calendar again helps.
+    bool isGone = false;
+    /// An event with this UID exists.
+    bool isTaken = false;
+    /// The server has another state than the service believed.
+    bool isOutOfSync = false;
+    /// The service did not answer in time.
+    bool isLate = false;
+};
+
+struct EDSReply {
+    QVariantList values;
+    std::optional<EDSError> error;
+
+    bool isOk() const { return !error; }
+    QString text() const { return values.value(0).toString(); }
+};
+
+/// An object of the service.
+struct EDSObject {
+    QString service;
+    QString path;
+    QString interface;
+};
+
+/// A connection of its own to the bus on which evolution-data-server is. Calls block. One thread.
+class EDSConnection {
+  public:
+    /// `address` is that of the bus.
+    explicit EDSConnection(const QString& address);
+    EDSConnection(const EDSConnection&) = delete;
+    EDSConnection& operator=(const EDSConnection&) = delete;
+    ~EDSConnection();
+
+    bool isConnected() const { return m_bus.isConnected(); }
+    QDBusConnection& bus() { return m_bus; }
+
+    /// All calls from now on must end within this time; later ones fail at once.
+    void beginCalls(std::chrono::milliseconds time);
+    /// `longest` bounds this call in addition.
+    EDSReply call(const EDSObject& object, const QString& member, const QVariantList& arguments = {},
+                  std::chrono::milliseconds longest = std::chrono::seconds(25));
+    /// Does not wait for the answer.
+    void send(const EDSObject& object, const QString& member);
+    std::optional<QVariant> property(const EDSObject& object, const QString& name);
+
+  private:
+    using Clock = std::chrono::steady_clock;
+
+    const QString m_name;
+    QDBusConnection m_bus;
+    Clock::time_point m_until = Clock::time_point::max();
+};
+
+/// The meaning of an error of the service.
+EDSError edsError(const QString& name, const QString& message);
+
+} // namespace guide

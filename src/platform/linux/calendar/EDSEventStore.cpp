@@ -1,0 +1,330 @@
+#include "platform/linux/calendar/EDSEventStore.h"
+
+#include "platform/linux/calendar/CalendarColor.h"
+#include "platform/linux/calendar/EDSChanges.h"
+#include "platform/linux/calendar/EDSWatch.h"
+
+#include <QSet>
+#include <QTimer>
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+using SteadyClock = std::chrono::steady_clock;
+
+/// Of one function.
+constexpr auto kLongest = 28s;
+/// Of opening one calendar while all are listed.
+constexpr auto kLongestOpening = 5s;
+/// How often a service that keeps ending is started again to be watched.
+constexpr auto kRewatchInterval = 5s;
+const QString kPersonalCalendar = u"system-calendar"_s;
+
+/// The calendar and the UID of an event's identifier.
+std::pair<QString, QByteArray> parts(const QString& identifier) {
+    const qsizetype slash = identifier.indexOf(u'/');
+    return {identifier.left(slash), slash < 0 ? QByteArray() : identifier.mid(slash + 1).toUtf8()};
+}
+
+CalendarEvent calendarEvent(const QString& calendar, EDSEvent found) {
+    CalendarEvent event = std::move(found.stored.event);
+    event.identifier = calendar + u'/' + QString::fromUtf8(found.stored.uid);
+    event.calendar = calendar;
+    event.revision = found.revision;
+    return event;
+}
+
+} // namespace
+
+/// Everything happens here, on the store's thread.
+class EDSEventStore::Worker final : public QObject {
+  public:
+    Worker(const QString& busAddress, const QString& scheme, const Clock& clock)
+        : m_clock(clock)
+        , m_connection(busAddress)
+        , m_reading(scheme, [this](const QByteArray& name) { return timezone(name); }) {}
+
+    bool isConnected() const { return m_connection.isConnected(); }
+
+    std::vector<EventCalendar> calendars() {
+        m_connection.beginCalls(kLongest);
+        std::vector<EventCalendar> calendars;
+        for (const EDSSource& source : edsSources(m_connection).value_or(std::vector<EDSSource>{})) {
+            calendars.push_back(calendar(source));
+        }
+        return calendars;
+    }
+
+    std::optional<EventCalendar> create(const QString& title) {
+        m_connection.beginCalls(kLongest);
+        const QString uid = createEDSSource(m_connection, title);
+        const std::vector<EDSSource> sources = edsSources(m_connection).value_or(std::vector<EDSSource>{});
+        const auto made = std::ranges::find(sources, uid, &EDSSource::uid);
+        return uid.isEmpty() || made == sources.end() ? std::nullopt : std::optional(calendar(*made));
+    }
+
+    void refresh() {
+        for (auto& [identifier, open] : m_calendars) {
+            open.calendar->refresh();
+        }
+    }
+
+    EventRange events(Moment start, Moment end, const QString& identifier) {
+        m_connection.beginCalls(kLongest);
+        Open& open = opened(identifier);
+        watch(identifier, open);
+        m_current = open.calendar.get();
+        const EDSReply reply = open.calendar->list(start, end);
+        if (!reply.isOk()) {
+            return {.events = {}, .fault = reply.error->message};
+        }
+        EventRange range;
+        const QStringList components = reply.values.value(0).toStringList();
+        for (const QString& component : components) {
+            if (std::optional<EDSEvent> found = edsEvent(component, m_reading)) {
+                range.events.push_back(calendarEvent(identifier, std::move(*found)));
+            }
+        }
+        keepBetween(start, end, range.events);
+        return range;
+    }
+
+    std::optional<CalendarEvent> event(const QString& identifier) {
+        m_connection.beginCalls(kLongest);
+        const auto [calendar, uid] = parts(identifier);
+        Open& open = opened(calendar);
+        m_current = open.calendar.get();
+        const EDSReply reply = open.calendar->get(uid);
+        std::optional<EDSEvent> found = reply.isOk() ? edsEvent(reply.text(), m_reading) : std::nullopt;
+        return found ? std::optional(calendarEvent(calendar, std::move(*found))) : std::nullopt;
+    }
+
+    std::vector<EventOutcome> apply(const std::vector<EventChange>& changes) {
+        m_connection.beginCalls(kLongest);
+        std::vector<EventOutcome> outcomes(changes.size());
+        // By calendar and kind: the service has a call for each kind.
+        std::map<std::pair<QString, int>, std::vector<EDSChange>> groups;
+        QSet<QString> seen;
+        const auto flush = [&] {
+            for (auto& [group, list] : groups) {
+                make(group.first, static_cast<EDSChanges::Kind>(group.second), list);
+            }
+            groups.clear();
+            seen.clear();
+        };
+        for (std::size_t i = 0; i < changes.size(); ++i) {
+            const CalendarEvent& event = std::visit(
+                [](const auto& change) -> const CalendarEvent& { return change.event; }, changes[i]);
+            const bool isNew = event.identifier.isEmpty();
+            auto [calendar, uid] = parts(event.identifier);
+            if (!isNew && seen.contains(event.identifier)) {
+                flush();
+            }
+            seen.insert(event.identifier);
+            const bool isRemoval = std::holds_alternative<RemoveEvent>(changes[i]);
+            const EDSChanges::Kind kind = isRemoval ? EDSChanges::Kind::Remove
+                                          : isNew   ? EDSChanges::Kind::Create
+                                                    : EDSChanges::Kind::Save;
+            outcomes[i].identifier = event.identifier;
+            groups[{isNew ? event.calendar : calendar, static_cast<int>(kind)}].push_back(
+                {event, uid, &outcomes[i]});
+        }
+        flush();
+        for (EventOutcome& outcome : outcomes) {
+            if (outcome.fault) {
+                outcome.identifier.clear();
+            }
+        }
+        return outcomes;
+    }
+
+    void setChanged(std::function<void()> changed) {
+        m_watch.reset();
+        m_changed = std::move(changed);
+        if (m_changed == nullptr) {
+            return;
+        }
+        m_watch = std::make_unique<EDSWatch>(
+            m_connection, m_reading, m_writes, [this] { serviceEnded(); }, [this] { m_changed(); });
+        m_connection.beginCalls(kLongest);
+        watchAll();
+    }
+
+  private:
+    struct Open {
+        std::unique_ptr<EDSCalendar> calendar;
+        /// The events were read.
+        bool isUsed = false;
+    };
+
+    Open& opened(const QString& identifier) {
+        Open& open = m_calendars[identifier];
+        if (open.calendar == nullptr) {
+            open.calendar = std::make_unique<EDSCalendar>(m_connection, identifier);
+        }
+        return open;
+    }
+
+    EventCalendar calendar(const EDSSource& source) {
+        EventCalendar calendar{.identifier = source.uid, .title = source.title, .source = source.account};
+        calendar.color = calendarColor(source.color).value_or(calendar.color);
+        if (source.isReadOnlyKind()) {
+            return calendar;
+        }
+        EDSCalendar& open = *opened(source.uid).calendar;
+        if (source.needsUser() || open.open(kLongestOpening)) {
+            calendar.state = CalendarState::Unavailable;
+        } else if (!source.isLocal() &&
+                   (source.isDisconnected() || !open.isReachable() || !open.isOnline())) {
+            calendar.state = CalendarState::Offline;
+        }
+        // A calendar whose server cannot be reached stays the chosen one.
+        calendar.allowsContentModifications =
+            calendar.state == CalendarState::Ready ? open.isWritable() : !source.isLocal();
+        return calendar;
+    }
+
+    void make(const QString& identifier, EDSChanges::Kind kind, const std::vector<EDSChange>& changes) {
+        Open& open = opened(identifier);
+        m_current = open.calendar.get();
+        EDSChanges(*open.calendar, identifier, m_reading, m_writes, m_clock.now()).make(kind, changes);
+    }
+
+    void watch(const QString& identifier, Open& open) {
+        open.isUsed = true;
+        if (m_watch != nullptr) {
+            m_watch->watch(identifier, *open.calendar);
+        }
+    }
+
+    void watchAll() {
+        for (auto& [identifier, open] : m_calendars) {
+            if (open.isUsed) {
+                watch(identifier, open);
+            }
+        }
+    }
+
+    void serviceEnded() {
+        for (auto& [identifier, open] : m_calendars) {
+            open.calendar->close();
+        }
+        const auto wait =
+            std::max(m_lastRewatch + kRewatchInterval - SteadyClock::now(), SteadyClock::duration(0));
+        QTimer::singleShot(std::chrono::ceil<std::chrono::milliseconds>(wait), this, [this] {
+            m_lastRewatch = SteadyClock::now();
+            m_connection.beginCalls(kLongestOpening);
+            watchAll();
+        });
+    }
+
+    QByteArray timezone(const QByteArray& name) {
+        const EDSReply reply = m_current == nullptr ? EDSReply{} : m_current->timezone(name);
+        return reply.text().toUtf8();
+    }
+
+    const Clock& m_clock;
+    EDSConnection m_connection;
+    EventReading m_reading;
+    OwnWrites m_writes;
+    std::map<QString, Open> m_calendars;
+    /// Knows the zones of the events that are being read.
+    EDSCalendar* m_current = nullptr;
+    std::function<void()> m_changed;
+    std::unique_ptr<EDSWatch> m_watch;
+    SteadyClock::time_point m_lastRewatch;
+};
+
+EDSEventStore::EDSEventStore(const QString& busAddress, const QString& scheme, const Clock& clock) {
+    m_thread.setObjectName(u"calendars"_s);
+    m_thread.start();
+    auto* starter = new QObject;
+    starter->moveToThread(&m_thread);
+    QMetaObject::invokeMethod(
+        starter,
+        [&] {
+            m_worker = new Worker(busAddress, scheme, clock);
+            starter->deleteLater();
+        },
+        Qt::BlockingQueuedConnection);
+    QObject::connect(&m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
+}
+
+EDSEventStore::~EDSEventStore() {
+    m_thread.quit();
+    m_thread.wait();
+}
+
+template <typename Work>
+auto EDSEventStore::run(Work work) const {
+    decltype(work()) result{};
+    QMetaObject::invokeMethod(m_worker, [&] { result = work(); }, Qt::BlockingQueuedConnection);
+    return result;
+}
+
+CalendarAccess EDSEventStore::access() {
+    return run([this] { return m_worker->isConnected(); }) ? CalendarAccess::Granted
+                                                           : CalendarAccess::Refused;
+}
+
+void EDSEventStore::requestAccess(std::function<void(bool granted)> completion) {
+    completion(access() == CalendarAccess::Granted);
+}
+
+std::vector<EventCalendar> EDSEventStore::calendars() {
+    return run([this] { return m_worker->calendars(); });
+}
+
+std::optional<EventCalendar> EDSEventStore::defaultCalendarForNewEvents() {
+    const std::vector<EventCalendar> all = calendars();
+    const auto isUsable = [](const EventCalendar& calendar) {
+        return calendar.allowsContentModifications && calendar.state == CalendarState::Ready;
+    };
+    const auto personal = std::ranges::find(all, kPersonalCalendar, &EventCalendar::identifier);
+    if (personal != all.end() && isUsable(*personal)) {
+        return *personal;
+    }
+    const auto first = std::ranges::find_if(all, isUsable);
+    return first == all.end() ? createCalendar(u"TV"_s) : std::optional(*first);
+}
+
+std::optional<EventCalendar> EDSEventStore::createCalendar(const QString& title) {
+    return run([&] { return m_worker->create(title); });
+}
+
+void EDSEventStore::refreshSources() {
+    QMetaObject::invokeMethod(m_worker, [worker = m_worker] { worker->refresh(); }, Qt::QueuedConnection);
+}
+
+EventRange EDSEventStore::eventsBetween(Moment start, Moment end, const EventCalendar& calendar) {
+    return run([&] { return m_worker->events(start, end, calendar.identifier); });
+}
+
+std::optional<CalendarEvent> EDSEventStore::eventWithIdentifier(const QString& identifier) {
+    return run([&] { return m_worker->event(identifier); });
+}
+
+std::vector<EventOutcome> EDSEventStore::apply(const std::vector<EventChange>& changes) {
+    return run([&] { return m_worker->apply(changes); });
+}
+
+void EDSEventStore::setCalendarsChanged(std::function<void()> calendarsChanged) {
+    run([&] {
+        m_worker->setChanged(std::move(calendarsChanged));
+        return true;
+    });
+}
+
+QString EDSEventStore::name() const {
+    return u"Calendars of the desktop"_s;
+}
+
+} // namespace guide
