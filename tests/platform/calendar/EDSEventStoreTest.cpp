@@ -92,6 +92,7 @@ TEST_F(EDSEventStoreTest, ChangesWaitForAServerThatIsDown) {
     RemoteCalendar test;
     const EventCalendar calendar = test.calendar();
     EXPECT_EQ(calendar.state, CalendarState::Ready);
+    EXPECT_TRUE(calendar.allowsContentModifications);
     ASSERT_TRUE(save(test, calendar, showEvent(u"ca1"_s)).isDone());
     ASSERT_TRUE(save(test, calendar, showEvent(u"ca2"_s, kEvening + 1h)).isDone());
     test.server.stop();

@@ -4,6 +4,7 @@
 #include <QDBusMetaType>
 #include <QDateTime>
 #include <QStringList>
+#include <QThread>
 
 #include <algorithm>
 
@@ -36,6 +37,8 @@ namespace {
 /// Fails instead of overwriting what was changed on the server meanwhile.
 constexpr uint kFailOnConflict = 1;
 constexpr std::chrono::seconds kLeftAloneFor{60};
+constexpr int kLooks = 10;
+constexpr std::chrono::milliseconds kLookInterval{50};
 /// All of a repeated event.
 const QString kAll = u"all"_s;
 
@@ -79,6 +82,10 @@ std::optional<EDSError> EDSCalendar::open(std::chrono::milliseconds longest) {
         return reply.error;
     }
     m_object = object;
+    // A calendar on a server may be read-only at first, until its server has answered.
+    for (int look = 0; look < kLooks && !isWritable(); ++look) {
+        QThread::msleep(kLookInterval.count());
+    }
     return std::nullopt;
 }
 
@@ -98,20 +105,25 @@ void EDSCalendar::note(const std::optional<EDSError>& error) {
 }
 
 EDSReply EDSCalendar::call(const QString& member, const QVariantList& arguments) {
-    EDSReply reply;
+    return calls(member, {arguments}).first();
+}
+
+QList<EDSReply> EDSCalendar::calls(const QString& member, const QList<QVariantList>& arguments) {
+    QList<EDSReply> replies;
     for (int attempt = 0; attempt < 2; ++attempt) {
         if (const std::optional<EDSError> error = open()) {
-            reply = {.values = {}, .error = error};
+            replies = QList<EDSReply>(arguments.size(), EDSReply{.values = {}, .error = error});
         } else {
-            reply = m_connection.call(m_object, member, arguments);
-            note(reply.error);
+            replies = m_connection.calls(m_object, member, arguments);
+            note(replies.last().error);
         }
-        if (reply.isOk() || !reply.error->isGone) {
+        if (std::ranges::none_of(replies,
+                                 [](const EDSReply& reply) { return reply.error && reply.error->isGone; })) {
             break;
         }
         close();
     }
-    return reply;
+    return replies;
 }
 
 EDSReply EDSCalendar::create(const QList<QByteArray>& components) {
@@ -132,8 +144,12 @@ EDSReply EDSCalendar::remove(const QList<QByteArray>& uids) {
     return call(u"RemoveObjects"_s, {QVariant::fromValue(ids), kAll, kFailOnConflict});
 }
 
-EDSReply EDSCalendar::get(const QByteArray& uid) {
-    return call(u"GetObject"_s, {QString::fromUtf8(uid), QString()});
+QList<EDSReply> EDSCalendar::get(const QList<QByteArray>& uids) {
+    QList<QVariantList> arguments;
+    for (const QByteArray& uid : uids) {
+        arguments << QVariantList{QString::fromUtf8(uid), QString()};
+    }
+    return calls(u"GetObject"_s, arguments);
 }
 
 EDSReply EDSCalendar::list(Moment start, Moment end) {

@@ -37,8 +37,9 @@ class EDSCalendar {
     EDSReply create(const QList<QByteArray>& components);
     EDSReply modify(const QList<QByteArray>& components);
     EDSReply remove(const QList<QByteArray>& uids);
-    /// The component, or a VCALENDAR with it and its occurrences.
-    EDSReply get(const QByteArray& uid);
+    /// Of each, the component, or a VCALENDAR with it and its occurrences.
+    QList<EDSReply> get(const QList<QByteArray>& uids);
+    EDSReply get(const QByteArray& uid) { return get(QList<QByteArray>{uid}).first(); }
     EDSReply list(Moment start, Moment end);
     EDSReply timezone(const QByteArray& name);
     /// Asks the server for changes; does not wait.
@@ -50,6 +51,7 @@ class EDSCalendar {
     using SteadyClock = std::chrono::steady_clock;
 
     EDSReply call(const QString& member, const QVariantList& arguments);
+    QList<EDSReply> calls(const QString& member, const QList<QVariantList>& arguments);
     void note(const std::optional<EDSError>& error);
 
     EDSConnection& m_connection;

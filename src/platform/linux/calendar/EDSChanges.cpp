@@ -4,6 +4,7 @@
 #include "platform/linux/calendar/EventWriting.h"
 
 #include <algorithm>
+#include <chrono>
 
 namespace guide {
 
@@ -13,6 +14,9 @@ namespace {
 
 /// Keeps a batch to a slow server below the time after which a call fails.
 constexpr std::size_t kBatch = 25;
+/// After a batch that took less than this, the next one is larger.
+constexpr std::chrono::milliseconds kFastBatch{500};
+constexpr std::size_t kLargestBatch = 400;
 constexpr int kMostAttempts = 20;
 constexpr qsizetype kLargestEvent = 1 << 20;
 
@@ -41,39 +45,64 @@ std::optional<EDSEvent> edsEvent(const QString& answer, EventReading& reading) {
 }
 
 void EDSChanges::make(Kind kind, const std::vector<EDSChange>& changes) {
-    for (std::size_t at = 0; at < changes.size(); at += kBatch) {
-        QList<Ready> batch;
-        for (std::size_t i = at; i < std::min(at + kBatch, changes.size()); ++i) {
-            if (auto ready = prepare(kind, changes[i], false)) {
-                batch.append(std::move(*ready));
-            }
+    std::size_t size = kBatch;
+    for (std::span<const EDSChange> left = changes; !left.empty();) {
+        const auto begin = std::chrono::steady_clock::now();
+        const std::size_t taken = std::min(size, left.size());
+        makeBatch(kind, left.first(taken));
+        left = left.subspan(taken);
+        const bool isFast = std::chrono::steady_clock::now() - begin < kFastBatch;
+        size = isFast ? std::min(4 * size, kLargestBatch) : kBatch;
+    }
+}
+
+void EDSChanges::makeBatch(Kind kind, std::span<const EDSChange> changes) {
+    QList<EDSReply> stored;
+    if (kind != Kind::Create) {
+        QList<QByteArray> uids;
+        for (const EDSChange& change : changes) {
+            uids << change.uid;
         }
-        if (batch.isEmpty()) {
-            continue;
+        stored = m_calendar.get(uids);
+    }
+    QList<Ready> batch;
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        auto ready = kind == Kind::Create ? prepareNew(changes[i])
+                                          : prepare(kind, changes[i], stored[qsizetype(i)], false);
+        if (ready) {
+            batch.append(std::move(*ready));
         }
-        const EDSReply reply = send(kind, batch);
-        for (const Ready& ready : batch) {
-            if (reply.isOk()) {
-                finish(ready);
-            } else if (reply.error->fault == EventFault::Unavailable) {
-                refuse(*ready.change, *reply.error);
-            } else {
-                makeAlone(kind, *ready.change);
-            }
+    }
+    if (batch.isEmpty()) {
+        return;
+    }
+    const EDSReply reply = send(kind, batch);
+    for (const Ready& ready : batch) {
+        if (reply.isOk()) {
+            finish(ready);
+        } else if (reply.error->fault == EventFault::Unavailable) {
+            refuse(*ready.change, *reply.error);
+        } else {
+            makeAlone(kind, *ready.change);
         }
     }
 }
 
-std::optional<EDSChanges::Ready> EDSChanges::prepare(Kind kind, const EDSChange& change, bool isRepeated) {
-    if (kind != Kind::Remove && !m_reading.isOwn(change.event)) {
+std::optional<EDSChanges::Ready> EDSChanges::prepareNew(const EDSChange& change) {
+    if (!m_reading.isOwn(change.event)) {
         refuse(change, {.message = u"it has no URL of the guide"_s});
         return std::nullopt;
     }
-    if (kind == Kind::Create) {
-        const QByteArray uid = uidFor(*change.event.url, 1);
-        return Ready{&change, uid, newEventComponent(change.event, uid, m_now)};
+    const QByteArray uid = uidFor(*change.event.url, 1);
+    return Ready{&change, uid, newEventComponent(change.event, uid, m_now)};
+}
+
+std::optional<EDSChanges::Ready> EDSChanges::prepare(Kind kind, const EDSChange& change,
+                                                     const EDSReply& reply, bool isRepeated) {
+    if (kind == Kind::Save && !m_reading.isOwn(change.event)) {
+        refuse(change, {.message = u"it has no URL of the guide"_s});
+        return std::nullopt;
     }
-    const EDSReply reply = m_calendar.get(change.uid);
     if (!reply.isOk()) {
         if (isRepeated && kind == Kind::Remove && reply.error->fault == EventFault::NotFound) {
             finish({&change, change.uid, {}});
@@ -133,7 +162,7 @@ void EDSChanges::makeAlone(Kind kind, const EDSChange& change) {
         createAlone(change);
         return;
     }
-    if (const std::optional<Ready> ready = prepare(kind, change, true)) {
+    if (const std::optional<Ready> ready = prepare(kind, change, m_calendar.get(change.uid), true)) {
         const EDSReply reply = send(kind, {*ready});
         if (reply.isOk()) {
             finish(*ready);

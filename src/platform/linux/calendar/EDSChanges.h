@@ -7,6 +7,7 @@
 #include <QList>
 
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace guide {
@@ -57,9 +58,11 @@ class EDSChanges {
 
     /// Nothing when there is nothing to send; the outcome says why. In a repetition, parts of a batch may
     /// have been made.
-    std::optional<Ready> prepare(Kind kind, const EDSChange& change, bool isRepeated);
+    std::optional<Ready> prepare(Kind kind, const EDSChange& change, const EDSReply& stored, bool isRepeated);
+    std::optional<Ready> prepareNew(const EDSChange& change);
     std::optional<Ready> prepareChange(Kind kind, const EDSChange& change, const EDSEvent& stored);
     EDSReply send(Kind kind, const QList<Ready>& batch);
+    void makeBatch(Kind kind, std::span<const EDSChange> changes);
     void makeAlone(Kind kind, const EDSChange& change);
     void createAlone(const EDSChange& change);
     void finish(const Ready& ready);

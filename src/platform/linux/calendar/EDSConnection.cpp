@@ -1,6 +1,7 @@
 #include "platform/linux/calendar/EDSConnection.h"
 
 #include <QDBusError>
+#include <QDBusPendingCall>
 #include <QDBusVariant>
 #include <QUuid>
 
@@ -21,6 +22,13 @@ constexpr auto kClientError = "_e_2dclient_2derror_2dquark.Code"_L1;
 std::optional<int> codeOf(const QString& name, QLatin1StringView list) {
     const qsizetype at = name.indexOf(list);
     return at < 0 ? std::nullopt : std::optional(QStringView(name).mid(at + list.size()).toInt());
+}
+
+EDSReply outOfTime() {
+    return {.values = {},
+            .error = EDSError{.fault = EventFault::Unavailable,
+                              .message = u"the calendar takes too long"_s,
+                              .isLate = true}};
 }
 
 } // namespace
@@ -81,28 +89,56 @@ void EDSConnection::beginCalls(std::chrono::milliseconds time) {
     m_until = Clock::now() + time;
 }
 
-EDSReply EDSConnection::call(const EDSObject& object, const QString& member, const QVariantList& arguments,
-                             std::chrono::milliseconds longest) {
+std::optional<std::chrono::milliseconds> EDSConnection::timeFor(std::chrono::milliseconds longest) const {
     const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(m_until - Clock::now());
     const std::chrono::milliseconds time = std::min(longest, left);
-    if (time.count() <= 0) {
-        return {.values = {},
-                .error =
-                    EDSError{.fault = EventFault::Unavailable, .message = u"the calendar takes too long"_s}};
-    }
-    QDBusMessage message =
-        QDBusMessage::createMethodCall(object.service, object.path, object.interface, member);
-    message.setArguments(arguments);
-    const Clock::time_point begin = Clock::now();
-    const QDBusMessage answer = m_bus.call(message, QDBus::Block, static_cast<int>(time.count()));
+    return time.count() > 0 ? std::optional(time) : std::nullopt;
+}
+
+EDSReply EDSConnection::reply(const QDBusMessage& answer, Clock::time_point lateFrom) {
     if (answer.type() == QDBusMessage::ReplyMessage) {
         return {.values = answer.arguments(), .error = std::nullopt};
     }
     EDSError error = edsError(answer.errorName(), answer.errorMessage());
     // A service that is slow is not gone.
-    error.isLate = error.isGone && Clock::now() >= begin + time;
+    error.isLate = error.isGone && Clock::now() >= lateFrom;
     error.isGone = error.isGone && !error.isLate;
     return {.values = {}, .error = std::move(error)};
+}
+
+EDSReply EDSConnection::call(const EDSObject& object, const QString& member, const QVariantList& arguments,
+                             std::chrono::milliseconds longest) {
+    const auto time = timeFor(longest);
+    if (!time) {
+        return outOfTime();
+    }
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(object.service, object.path, object.interface, member);
+    message.setArguments(arguments);
+    const Clock::time_point lateFrom = Clock::now() + *time;
+    return reply(m_bus.call(message, QDBus::Block, static_cast<int>(time->count())), lateFrom);
+}
+
+QList<EDSReply> EDSConnection::calls(const EDSObject& object, const QString& member,
+                                     const QList<QVariantList>& arguments) {
+    const auto time = timeFor(std::chrono::seconds(25));
+    if (!time) {
+        return QList<EDSReply>(arguments.size(), outOfTime());
+    }
+    const Clock::time_point lateFrom = Clock::now() + *time;
+    QList<QDBusPendingCall> pending;
+    for (const QVariantList& list : arguments) {
+        QDBusMessage message =
+            QDBusMessage::createMethodCall(object.service, object.path, object.interface, member);
+        message.setArguments(list);
+        pending << m_bus.asyncCall(message, static_cast<int>(time->count()));
+    }
+    QList<EDSReply> replies;
+    for (QDBusPendingCall& one : pending) {
+        one.waitForFinished();
+        replies << reply(one.reply(), lateFrom);
+    }
+    return replies;
 }
 
 void EDSConnection::send(const EDSObject& object, const QString& member) {

@@ -4,6 +4,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QList>
 #include <QString>
 #include <QVariantList>
 
@@ -58,12 +59,19 @@ class EDSConnection {
     /// `longest` bounds this call in addition.
     EDSReply call(const EDSObject& object, const QString& member, const QVariantList& arguments = {},
                   std::chrono::milliseconds longest = std::chrono::seconds(25));
+    /// One call for each list of arguments, without waiting in between; the answers in the same order.
+    QList<EDSReply> calls(const EDSObject& object, const QString& member,
+                          const QList<QVariantList>& arguments);
     /// Does not wait for the answer.
     void send(const EDSObject& object, const QString& member);
     std::optional<QVariant> property(const EDSObject& object, const QString& name);
 
   private:
     using Clock = std::chrono::steady_clock;
+
+    /// How long a call may take; nothing when there is no time left.
+    std::optional<std::chrono::milliseconds> timeFor(std::chrono::milliseconds longest) const;
+    static EDSReply reply(const QDBusMessage& answer, Clock::time_point lateFrom);
 
     const QString m_name;
     QDBusConnection m_bus;
