@@ -10,9 +10,8 @@ namespace guide {
 
 namespace {
 
-// What an addition and a removal are worth to the counter of the title.
-constexpr int kAddition = 2;
-constexpr int kRemoval = -1;
+// What the undoing of a removal is worth to the counter of the title.
+constexpr int kRestored = 1;
 
 } // namespace
 
@@ -27,7 +26,7 @@ void FavoriteOperations::addFavorite(const QString& title) {
     rules.push_back({identificator, {}, m_environment.clock.now(), {}});
     shows.setFavorites(std::move(rules));
     m_environment.favoritesUpdated();
-    m_environment.counters.incrementCounterByAmount(kAddition, identificator);
+    m_environment.counters.countAddedFavorite(identificator);
 }
 
 void FavoriteOperations::removeFavorites(const QStringList& titles) {
@@ -59,7 +58,7 @@ void FavoriteOperations::removeFavorites(const QStringList& titles) {
     }
     m_environment.mainQueue.async(m_environment.favoritesUpdated);
     for (const QString& title : std::as_const(known)) {
-        m_environment.counters.incrementCounterByAmount(kRemoval, title);
+        m_environment.counters.countRemovedFavorite(title);
     }
 }
 
@@ -76,7 +75,7 @@ void FavoriteOperations::restoreFavorites(const FavoritesSnapshot& before, const
             m_environment.alarmActions.setAlarmForTitle(rule->identificator, *rule->minutes,
                                                         rule->previouslyShown, false);
         }
-        m_environment.counters.incrementCounterByAmount(-kRemoval, rule->identificator);
+        m_environment.counters.incrementCounterByAmount(kRestored, rule->identificator);
     }
     m_environment.favoritesUpdated();
 }

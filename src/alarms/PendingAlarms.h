@@ -18,7 +18,12 @@ class AlarmsSnapshot {
 
     AlarmsSnapshot() = default;
     explicit AlarmsSnapshot(MinutesByShow events)
-        : m_events(std::move(events)) {}
+        : m_events(std::move(events))
+        , m_eventCount(m_events.size()) {}
+    /// `eventCount` includes events whose URL is no show's.
+    AlarmsSnapshot(MinutesByShow events, std::size_t eventCount)
+        : m_events(std::move(events))
+        , m_eventCount(eventCount) {}
 
     /// Minutes between the alert and the show; unset when the show has no alarm.
     std::optional<int> alarmedEntry(const TVEntry& entry) const {
@@ -29,11 +34,17 @@ class AlarmsSnapshot {
         const auto event = digest ? m_events.find(*digest) : m_events.end();
         return event == m_events.end() ? std::nullopt : event->second;
     }
+    /// Whether the show has an event, with or without an alarm.
+    bool hasEvent(const TVEntry& entry) const {
+        const std::optional<ShowDigest> digest = m_events.empty() ? std::nullopt : entry.digest();
+        return digest && m_events.contains(*digest);
+    }
     /// The number of events, including those without an alarm.
-    std::size_t eventCount() const { return m_events.size(); }
+    std::size_t eventCount() const { return m_eventCount; }
 
   private:
     MinutesByShow m_events;
+    std::size_t m_eventCount = 0;
 };
 
 /// Provides the current pending alarms from memory. Any thread.

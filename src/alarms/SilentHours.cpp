@@ -11,6 +11,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QLatin1StringView kEnabledKey("noAlarmsSchedule");
+constexpr QLatin1StringView kFromKey("noAlarmsSchedule.0");
+constexpr QLatin1StringView kToKey("noAlarmsSchedule.1");
+constexpr QLatin1StringView kAcrossMidnightKey("noAlarmsSchedule.acrossMidnight");
+
+bool storedSwitch(const KeyValueStore& store, const QString& key) {
+    const auto value = store.valueForKey(key);
+    return value && value->toBool(false);
+}
+
+QCborValue dateValue(Moment moment) {
+    return QCborValue(QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC));
+}
+
 int minuteOfDay(const QDateTime& moment, const QTimeZone& zone) {
     const QTime time = moment.toTimeZone(zone).time();
     return time.hour() * 60 + time.minute();
@@ -25,20 +39,39 @@ int storedMinute(const KeyValueStore& store, const QString& key, const QTimeZone
 
 bool SilentPeriod::mayBeAlarmedAt(int minuteOfDay) const {
     const bool inside = from < minuteOfDay && minuteOfDay < to;
+    if (from > to && acrossMidnight) {
+        return to <= minuteOfDay && minuteOfDay <= from;
+    }
     return from < to ? !inside : inside;
 }
 
 SilentHours::SilentHours(const KeyValueStore& store, const Device& device)
     : m_zone(device.timeZone()) {
-    const auto value = store.valueForKey(u"noAlarmsSchedule"_s);
-    m_enabled = value && value->toBool(false);
-    m_period.from = storedMinute(store, u"noAlarmsSchedule.0"_s, m_zone, m_period.from);
-    m_period.to = storedMinute(store, u"noAlarmsSchedule.1"_s, m_zone, m_period.to);
+    m_enabled = storedSwitch(store, kEnabledKey);
+    m_period.from = storedMinute(store, kFromKey, m_zone, m_period.from);
+    m_period.to = storedMinute(store, kToKey, m_zone, m_period.to);
+    m_period.acrossMidnight = storedSwitch(store, kAcrossMidnightKey);
 }
 
 bool SilentHours::mayBeAlarmedAt(Moment moment) const {
     const auto utc = QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC);
     return !m_enabled || m_period.mayBeAlarmedAt(minuteOfDay(utc, m_zone));
+}
+
+void setSilentHoursEnabled(KeyValueStore& store, bool enabled) {
+    store.setValue(kEnabledKey, enabled);
+}
+
+void setSilentHoursFrom(KeyValueStore& store, Moment from) {
+    store.setValue(kFromKey, dateValue(from));
+}
+
+void setSilentHoursTo(KeyValueStore& store, Moment to) {
+    store.setValue(kToKey, dateValue(to));
+}
+
+void setSilentHoursAcrossMidnight(KeyValueStore& store, bool acrossMidnight) {
+    store.setValue(kAcrossMidnightKey, acrossMidnight);
 }
 
 } // namespace guide

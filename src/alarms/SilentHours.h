@@ -13,9 +13,11 @@ class KeyValueStore;
 struct SilentPeriod {
     int from = 0;
     int to = 7 * 60;
+    /// A period that ends before its start lasts from the start to midnight and from midnight to the end.
+    bool acrossMidnight = false;
 
     /// Whether an alarm may ring at the minute of the day. Both ends are allowed. A period that does not end
-    /// after its start, such as one across midnight, refuses every minute.
+    /// after its start refuses every minute, unless it may lie across midnight.
     bool mayBeAlarmedAt(int minuteOfDay) const;
 };
 
@@ -23,6 +25,13 @@ struct SilentPeriod {
 /// user's devices. Immutable; any thread.
 class SilentHours {
   public:
+    /// Switched off.
+    SilentHours() = default;
+    /// Switched on.
+    SilentHours(const SilentPeriod& period, const QTimeZone& zone)
+        : m_zone(zone)
+        , m_enabled(true)
+        , m_period(period) {}
     /// Reads the settings; to check many moments, create one instance per run.
     SilentHours(const KeyValueStore& store, const Device& device);
 
@@ -36,5 +45,12 @@ class SilentHours {
     bool m_enabled = false;
     SilentPeriod m_period;
 };
+
+/// The settings. The times stay when the feature is switched off.
+void setSilentHoursEnabled(KeyValueStore& store, bool enabled);
+/// The time of day of the moment counts, in the zone of the device that reads it.
+void setSilentHoursFrom(KeyValueStore& store, Moment from);
+void setSilentHoursTo(KeyValueStore& store, Moment to);
+void setSilentHoursAcrossMidnight(KeyValueStore& store, bool acrossMidnight);
 
 } // namespace guide

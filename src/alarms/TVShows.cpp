@@ -68,6 +68,23 @@ void TVShows::setFavorites(std::vector<Favorite> rules) {
     write();
 }
 
+bool TVShows::setDate(const QString& title, Moment date) {
+    const std::lock_guard lock(m_guard);
+    const Favorite* rule = m_current ? m_current->ruleNamed(title) : nullptr;
+    if (!rule) {
+        return false;
+    }
+    std::vector<Favorite> rules = m_current->rules();
+    rules[static_cast<std::size_t>(rule - m_current->rules().data())].date = date;
+    m_current = std::make_shared<const FavoritesSnapshot>(std::move(rules));
+    return true;
+}
+
+bool TVShows::isLoaded() const {
+    const std::lock_guard lock(m_guard);
+    return m_current != nullptr;
+}
+
 std::shared_ptr<const FavoritesSnapshot> TVShows::snapshot() const {
     const std::lock_guard lock(m_guard);
     return m_current ? m_current : m_none;

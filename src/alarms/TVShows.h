@@ -31,6 +31,13 @@ class TVShows final : public FavoritesSource {
     /// Replaces the rules. An equal list writes nothing. Any thread.
     void setFavorites(std::vector<Favorite> rules);
 
+    /// Changes the date of the first rule of a title that was read or set so far; false when there is none.
+    /// A date alone is not worth writing: it is written with the next change of the rules. Any thread.
+    bool setDate(const QString& title, Moment date);
+
+    /// Whether rules were read or set so far. Any thread.
+    bool isLoaded() const;
+
     /// What was read or set so far: empty until the first successful call of one of the functions above.
     std::shared_ptr<const FavoritesSnapshot> snapshot() const override;
 

@@ -71,6 +71,8 @@ class NoPopularShows final : public PopularShows {
 class NoShowCounters final : public ShowCounters {
   public:
     void incrementCounterByAmount(int, const QString&) override {}
+    void countAddedFavorite(const QString&) override {}
+    void countRemovedFavorite(const QString&) override {}
 };
 
 /// The settings and lists that the user's other devices share.

@@ -13,7 +13,7 @@ const std::vector<Command>& allCommands() {
     static const std::vector<Command> kCommands = [] {
         std::vector<Command> all;
         for (auto&& some : {sourceCommands(), listingsCommands(), detailCommands(), textCommands(),
-                            catalogueCommands(), profileCommands(), playlistCommands()}) {
+                            catalogueCommands(), profileCommands(), playlistCommands(), deviceCommands()}) {
             all.insert(all.end(), some.begin(), some.end());
         }
         return all;

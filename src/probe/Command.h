@@ -56,6 +56,7 @@ std::vector<Command> listingsCommands();
 std::vector<Command> detailCommands();
 std::vector<Command> profileCommands();
 std::vector<Command> playlistCommands();
+std::vector<Command> deviceCommands();
 
 /// "2026-11-21T10:00:00Z", with milliseconds only if there are any; null when unset.
 QJsonValue jsonMoment(const std::optional<Moment>& moment);

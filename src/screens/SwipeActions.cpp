@@ -1,12 +1,11 @@
 #include "screens/SwipeActions.h"
 
+#include "alarms/ShowActions.h"
 #include "screens/Localized.h"
 
 #include <utility>
 
 namespace guide {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -17,64 +16,58 @@ Alert warning(const QString& message, const QString& confirmation, std::function
              {Localized::tr("Cancel"), AlertAction::Style::Cancel}}};
 }
 
+QString messageOf(ShowActionQuestion question) {
+    return question == ShowActionQuestion::IsRecurring
+               ? Localized::tr("This is a recurring alarm. Are you sure?")
+               : Localized::tr("This will also remove all alarms set on this show. Are you sure?");
+}
+
+struct Words {
+    QString name;
+    ColorRole color = ColorRole::Tint;
+};
+
+Words wordsOf(ShowAction action) {
+    switch (action) {
+    case ShowAction::RemoveAlarm:
+        return {Localized::tr("Remove alarm"), ColorRole::Alarm};
+    case ShowAction::RemoveFavorite:
+        return {Localized::tr("Remove favorite"), ColorRole::Favourite};
+    case ShowAction::SetAlarm:
+        return {Localized::tr("Set alarm"), ColorRole::Tint};
+    case ShowAction::AddFavorite:
+        return {Localized::tr("Favourite"), ColorRole::Favourite};
+    }
+    return {};
+}
+
 } // namespace
 
 std::vector<RowAction> swipeActions(const SwipeActionsEnvironment& environment,
                                     const std::shared_ptr<const TVEntry>& entry) {
-    const std::optional<QString>& identificator = entry->identificator();
-    if (!identificator || !entry->dateTime() || !entry->endDateTime()) {
-        return {};
-    }
     const auto favorites = environment.favorites.snapshot();
     const Favorite* rule = favorites->ruleNamed(entry->title().value_or(QString()));
-    const bool isAlarmed = environment.alarms.snapshot()->alarmedEntry(*entry).has_value();
-    AlarmActions& alarmActions = environment.alarmActions;
-    FavoriteActions& favoriteActions = environment.favoriteActions;
+    const ShowActionSituation situation{.now = environment.clock.now(),
+                                        .isFavorite = rule != nullptr,
+                                        .isAlarmed =
+                                            environment.alarms.snapshot()->alarmedEntry(*entry).has_value(),
+                                        .lastAlarmMinutes = environment.alarmActions.lastAlarmMinutes()};
+    const bool isRecurring = rule && rule->minutes;
 
     std::vector<RowAction> actions;
-    if (isAlarmed) {
-        const auto removeAlarm = [&alarmActions, entry] {
-            alarmActions.removeAlarmForTitle(*entry->identificator(), entry->channel(), *entry->dateTime(),
-                                             true, true);
+    for (const ShowAction action : showActions(*entry, situation)) {
+        const Words words = wordsOf(action);
+        std::function<void()> perform = [action, entry, situation, &alarms = environment.alarmActions,
+                                         &favourites = environment.favoriteActions] {
+            performShowAction(action, *entry, situation, alarms, favourites);
         };
-        const bool isRecurring = rule && rule->minutes;
-        std::function<void()> action = removeAlarm;
-        if (isRecurring) {
-            action = [present = environment.presentAlert, removeAlarm] {
-                present(warning(Localized::tr("This is a recurring alarm. Are you sure?"),
-                                Localized::tr("Remove alarm"), removeAlarm));
+        const ShowActionQuestion question = questionBefore(action, isRecurring);
+        if (question != ShowActionQuestion::None) {
+            perform = [present = environment.presentAlert, question, name = words.name, perform] {
+                present(warning(messageOf(question), name, perform));
             };
         }
-        actions.push_back({u"✖️"_s, Localized::tr("Remove alarm"), ColorRole::Alarm, std::move(action)});
-    } else if (rule) {
-        actions.push_back(
-            {u"✖️"_s, Localized::tr("Remove favorite"), ColorRole::Favourite,
-             [present = environment.presentAlert, &favoriteActions, title = rule->identificator] {
-                 present(warning(
-                     Localized::tr("This will also remove all alarms set on this show. Are you sure?"),
-                     Localized::tr("Remove favorite"),
-                     [&favoriteActions, title] { favoriteActions.removeFavorite(title); }));
-             }});
-    }
-
-    const std::chrono::minutes lead{alarmActions.lastAlarmMinutes()};
-    if (!isAlarmed && *entry->dateTime() - lead >= environment.clock.now()) {
-        // A favourite that is added for the alarm is already counted, so the alarm is not.
-        const bool wasFavorite = rule != nullptr;
-        actions.push_back({u"⏰"_s, Localized::tr("Set alarm"), ColorRole::Tint,
-                           [&alarmActions, &favoriteActions, entry, lead, wasFavorite] {
-                               if (!wasFavorite) {
-                                   favoriteActions.addFavorite(*entry->identificator());
-                               }
-                               alarmActions.setAlarmForTitle(
-                                   *entry->identificator(), entry->channel(), *entry->dateTime(),
-                                   *entry->endDateTime(), static_cast<int>(lead.count()), true, wasFavorite);
-                           }});
-    }
-    if (!rule) {
-        actions.push_back(
-            {u"⭐"_s, Localized::tr("Favourite"), ColorRole::Favourite,
-             [&favoriteActions, title = *identificator] { favoriteActions.addFavorite(title); }});
+        actions.push_back({symbolOf(action), words.name, words.color, std::move(perform)});
     }
     return actions;
 }

@@ -1,6 +1,7 @@
 #include "store/SaveSchedule.h"
 
 #include "core/ListingsFile.h"
+#include "platform/BackgroundWork.h"
 #include "platform/files/FileReplacement.h"
 #include "store/ScheduleQueries.h"
 #include "store/ShowCoding.h"
@@ -13,27 +14,6 @@
 namespace guide {
 
 namespace {
-
-/// Owns a background task. The task ends on the main queue, when this is destroyed or when the device expires
-/// it.
-class WritingTask {
-  public:
-    WritingTask(BackgroundTasks& tasks, DispatchQueue& mainQueue)
-        : m_end([&tasks, &mainQueue, task = m_task] {
-            mainQueue.async(
-                [&tasks, task] { tasks.endBackgroundTask(task->exchange(kBackgroundTaskInvalid)); });
-        }) {
-        *m_task = tasks.beginBackgroundTask(m_end);
-    }
-    WritingTask(const WritingTask&) = delete;
-    WritingTask& operator=(const WritingTask&) = delete;
-    ~WritingTask() { m_end(); }
-
-  private:
-    using Id = std::atomic<BackgroundTaskId>;
-    const std::shared_ptr<Id> m_task = std::make_shared<Id>(kBackgroundTaskInvalid);
-    const Block m_end;
-};
 
 std::span<const ShowItem> notEnded(const ChannelList& list, Moment now) {
     const std::span<const ShowItem> shows(*list.shows());
@@ -93,7 +73,7 @@ void SaveSchedule::writeAfter(std::chrono::milliseconds time, bool& running) {
 }
 
 void SaveSchedule::write(const ChannelLists& lists) {
-    const WritingTask task(m_backgroundTasks, m_queues.mainQueue());
+    const BackgroundWork task(m_backgroundTasks, m_queues.mainQueue());
     const Moment now = m_clock.now();
     ReplacementBatch batch(m_cachesFolder);
     std::vector<ObjectId> inBatch;

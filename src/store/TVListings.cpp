@@ -223,13 +223,18 @@ MergeResult TVListings::merge(const std::vector<LoadItem>& items, ParsedLists pa
         });
     }
     MergeResult result = mergedLists(items, std::move(parsed), now, type, read, stored);
+    storeLists(result.lists);
+    return result;
+}
+
+void TVListings::storeLists(const std::unordered_map<ObjectId, ShowList>& lists) {
     ChannelLists made;
-    for (const auto& [channel, list] : result.lists) {
+    for (const auto& [channel, list] : lists) {
         made.emplace(channel, std::make_shared<const ChannelList>(list));
         m_state->setTimeLoaded(channel);
     }
     if (made.empty()) {
-        return result;
+        return;
     }
     m_state->change([made = std::move(made)](State& state) {
         std::vector<ObjectId> channels;
@@ -244,7 +249,6 @@ MergeResult TVListings::merge(const std::vector<LoadItem>& items, ParsedLists pa
         state.scheduleSaving(std::move(channels));
     });
     m_state->environment.observer.listingsReplaced();
-    return result;
 }
 
 std::shared_ptr<const RemovedListings> TVListings::removeListingsForChannels(std::vector<ObjectId> channels) {

@@ -65,6 +65,9 @@ class TVListings {
     MergeResult merge(const std::vector<LoadItem>& items, ParsedLists parsed, Moment now, ListingsType type,
                       const ReadOutcome& read = {});
 
+    /// Stores lists as they are, in ascending start time, under the same rules.
+    void storeLists(const std::unordered_map<ObjectId, ShowList>& lists);
+
     /// Removes the list but not its file.
     void removeListingsForChannel(const ObjectId& channel) { removeListingsForChannels({channel}); }
     /// The same for several channels at the cost of one. The lists are kept for restoreListings() as long as

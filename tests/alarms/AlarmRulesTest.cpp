@@ -1,4 +1,5 @@
 #include "alarms/AlarmMinutes.h"
+#include "alarms/AlarmText.h"
 #include "alarms/Favorites.h"
 #include "alarms/PendingAlarms.h"
 #include "alarms/SilentHours.h"
@@ -41,6 +42,30 @@ TEST(AlarmMinutes, SnapToTheScale) {
     }
 }
 
+TEST(AlarmText, TellsLeadTimeAndRepetition) {
+    const auto rule = [](std::optional<int> minutes, std::optional<bool> previouslyShown) {
+        return Favorite{u"Title"_s, minutes, {}, previouslyShown};
+    };
+    const struct {
+        Favorite rule;
+        std::optional<int> alarm;
+        QString text;
+    } cases[] = {
+        {rule({}, {}), {}, u"None"_s},
+        {rule({}, {}), 0, u"At beginning of the show"_s},
+        {rule({}, {}), 10, u"10min before"_s},
+        {rule({}, {}), 90, u"90min before"_s},
+        {rule({}, {}), 60, u"1h before"_s},
+        {rule(120, {}), {}, u"2h before (any broadcast)"_s},
+        {rule(5, false), 5, u"5min before (every premiere)"_s},
+        {rule(0, true), {}, u"At beginning of the show (every replay)"_s},
+    };
+    for (const auto& each : cases) {
+        EXPECT_EQ(leadTimeText(&each.rule, each.alarm), each.text);
+    }
+    EXPECT_EQ(leadTimeText(nullptr, 2), u"2min before"_s);
+}
+
 TEST(SilentPeriod, AllowsItsEndsAndEverythingOutside) {
     const std::tuple<const char*, int, int, int, bool> cases[] = {
         {"at the beginning", 0, 420, 0, true},
@@ -53,6 +78,20 @@ TEST(SilentPeriod, AllowsItsEndsAndEverythingOutside) {
     };
     for (const auto& [name, from, to, at, allowed] : cases) {
         EXPECT_EQ((SilentPeriod{from, to}.mayBeAlarmedAt(at)), allowed) << name;
+    }
+    const std::tuple<const char*, int, int, int, bool> across[] = {
+        {"at the beginning", 1380, 420, 1380, true},
+        {"just inside", 1380, 420, 1381, false},
+        {"midnight", 1380, 420, 0, false},
+        {"just before the end", 1380, 420, 419, false},
+        {"at the end", 1380, 420, 420, true},
+        {"noon", 1380, 420, 720, true},
+        {"within a day as without it", 60, 420, 300, false},
+        {"empty as without it", 600, 600, 300, false},
+        {"up to midnight", 1380, 0, 0, true},
+    };
+    for (const auto& [name, from, to, at, allowed] : across) {
+        EXPECT_EQ((SilentPeriod{from, to, true}.mayBeAlarmedAt(at)), allowed) << name;
     }
 }
 
@@ -79,6 +118,14 @@ TEST(SilentHours, ReadStoredDatesInTheDevicesZone) {
     EXPECT_TRUE(hours().mayBeAlarmedAt(night));
     EXPECT_FALSE(hours().mayBeAlarmedAt(at("2026-11-21T21:30:00Z")))
         << "22:30 in Prague, between 22:00 and 23:30";
+
+    setSilentHoursTo(store, at("2026-11-21T05:00:00Z"));
+    EXPECT_FALSE(hours().mayBeAlarmedAt(at("2026-11-21T12:00:00Z"))) << "22:00 to 06:00, all day";
+    setSilentHoursAcrossMidnight(store, true);
+    EXPECT_TRUE(hours().mayBeAlarmedAt(at("2026-11-21T12:00:00Z")));
+    EXPECT_FALSE(hours().mayBeAlarmedAt(night));
+    setSilentHoursEnabled(store, false);
+    EXPECT_TRUE(hours().mayBeAlarmedAt(night));
 }
 
 TEST(FavoritesSnapshotTest, TheFirstRuleOfATitleCounts) {

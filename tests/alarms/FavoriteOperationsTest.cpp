@@ -33,6 +33,8 @@ class FavoriteOperationsTest : public testing::Test, protected AlarmActions, pro
     void incrementCounterByAmount(int amount, const QString& title) override {
         log << u"%1 %2"_s.arg(title).arg(amount);
     }
+    void countAddedFavorite(const QString& title) override { log << title + u" 2"_s; }
+    void countRemovedFavorite(const QString& title) override { log << title + u" -1"_s; }
 
     QString titles() const {
         QStringList all;

@@ -249,30 +249,6 @@ TEST_F(DetailViewControllerTest, NeedsACalendarForAlarms) {
     EXPECT_TRUE(world.app.alerts[0].message.startsWith(u"You have to allow access to your calendars"_s));
 }
 
-TEST(ShowPage, LeadTimes) {
-    const auto rule = [](std::optional<int> minutes, std::optional<bool> previouslyShown) {
-        return Favorite{u"Title"_s, minutes, {}, previouslyShown};
-    };
-    const struct {
-        Favorite rule;
-        std::optional<int> alarm;
-        QString text;
-    } cases[] = {
-        {rule({}, {}), {}, u"None"_s},
-        {rule({}, {}), 0, u"At beginning of the show"_s},
-        {rule({}, {}), 10, u"10min before"_s},
-        {rule({}, {}), 90, u"90min before"_s},
-        {rule({}, {}), 60, u"1h before"_s},
-        {rule(120, {}), {}, u"2h before (any broadcast)"_s},
-        {rule(5, false), 5, u"5min before (every premiere)"_s},
-        {rule(0, true), {}, u"At beginning of the show (every replay)"_s},
-    };
-    for (const auto& each : cases) {
-        EXPECT_EQ(leadTimeText(&each.rule, each.alarm), each.text);
-    }
-    EXPECT_EQ(leadTimeText(nullptr, 2), u"2min before"_s);
-}
-
 // ---- what is loaded
 
 TEST_F(DetailViewControllerTest, FetchesMissingDetailsOnce) {

@@ -46,11 +46,11 @@ TEST(SwipeActionsTest, OfferWhatAppliesToTheShow) {
         {"new", false, false, false, 10min, {u"⏰ add News, set News 10 1 0"_s, u"⭐ add News"_s}},
         {"too late for the alarm", false, false, false, 9min, {u"⭐ add News"_s}},
         {"favourite", true, false, false, 60min,
-         QStringList{u"✖️ ?Remove favorite forget news"_s, u"⏰ set News 10 1 1"_s}},
+         QStringList{u"✖️ ?Remove favorite forget News"_s, u"⏰ set News 10 1 1"_s}},
         {"alarm without a rule", false, false, true, 60min, {u"✖️ remove News 1 1"_s, u"⭐ add News"_s}},
         {"alarm on a favourite", true, false, true, 60min, {u"✖️ remove News 1 1"_s}},
         {"recurring alarm", true, true, true, 60min, {u"✖️ ?Remove alarm remove News 1 1"_s}},
-        {"recurring, this one removed", true, true, false, 9min, {u"✖️ ?Remove favorite forget news"_s}},
+        {"recurring, this one removed", true, true, false, 9min, {u"✖️ ?Remove favorite forget News"_s}},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.name);

@@ -1,5 +1,6 @@
 #include "screens/detail/DetailViewController.h"
 
+#include "alarms/AlarmText.h"
 #include "screens/FactTexts.h"
 #include "screens/Localized.h"
 #include "screens/ShowRows.h"

@@ -143,28 +143,6 @@ QStringList showFacts(const TVEntry& entry, const std::optional<Moment>& end, Mo
     return facts + showTexts(entry).facts;
 }
 
-QString leadTimeText(const Favorite* rule, std::optional<int> minutes) {
-    const bool isRecurring = rule && rule->minutes;
-    if (isRecurring) {
-        minutes = rule->minutes;
-    }
-    if (!minutes) {
-        return Localized::tr("None");
-    }
-    QString text = *minutes == 0        ? Localized::tr("At beginning of the show")
-                   : *minutes % 60 == 0 ? Localized::tr("%1h before").arg(*minutes / 60)
-                                        : Localized::tr("%1min before").arg(*minutes);
-    if (!isRecurring) {
-        return text;
-    }
-    if (!rule->previouslyShown) {
-        return Localized::tr("%1 (any broadcast)").arg(text);
-    }
-    return (*rule->previouslyShown ? Localized::tr("%1 (every replay)")
-                                   : Localized::tr("%1 (every premiere)"))
-        .arg(text);
-}
-
 QStringList peopleOf(const QString& text) {
     QStringList people;
     QSet<QString> known;

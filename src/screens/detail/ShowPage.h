@@ -1,6 +1,5 @@
 #pragma once
 
-#include "alarms/Favorites.h"
 #include "platform/Device.h"
 #include "store/ShowItem.h"
 
@@ -44,10 +43,6 @@ ShowState showState(const std::optional<Moment>& start, const std::optional<Mome
 /// Day, times, duration, and what the source says in a few words, such as country and year.
 QStringList showFacts(const TVEntry& entry, const std::optional<Moment>& end, Moment now,
                       const Device& device);
-
-/// When the show is announced: by the rule's recurring alarm, if it has one, or by an alarm on this
-/// broadcast.
-QString leadTimeText(const Favorite* rule, std::optional<int> minutes);
 
 /// The names of a text that lists people by lines or commas, as "Name" or "Name (role)".
 QStringList peopleOf(const QString& text);
