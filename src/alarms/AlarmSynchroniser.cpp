@@ -287,6 +287,18 @@ std::shared_ptr<const AlarmsSnapshot> AlarmSynchroniser::snapshot() const {
     return m_state->calendar->snapshot();
 }
 
+ShowAlarmSituation AlarmSynchroniser::showAlarmSituation() const {
+    const AlarmCalendar& calendar = *m_state->calendar;
+    return {.access = calendar.access(),
+            .calendar = calendar.selectedCalendar(),
+            .alarms = calendar.snapshot(),
+            .run = calendar.situation()};
+}
+
+ShowAlarm AlarmSynchroniser::alarmReasonFor(const TVEntry& entry) const {
+    return guide::alarmReasonFor(entry, showAlarmSituation());
+}
+
 void AlarmSynchroniser::calendarsChanged() {
     m_state->calendar->queue().async([calendar = m_state->calendar] { calendar->refresh(); });
 }

@@ -4,6 +4,7 @@
 #include "alarms/AlarmSynchronisation.h"
 #include "alarms/AlertsSchedule.h"
 #include "alarms/PendingAlarms.h"
+#include "alarms/ShowAlarm.h"
 
 #include <memory>
 
@@ -28,6 +29,11 @@ class AlarmSynchroniser final : public AlarmSynchronisation, public AlertsSchedu
     /// Answers from what was last read of the calendar.
     void alertsScheduleWithPriority(QueuePriority priority, MainBlock<ShowSpan> mainBlock) override;
     std::shared_ptr<const AlarmsSnapshot> snapshot() const override;
+
+    /// Why a show has an alarm or none, for its page; and what decides about it. Any thread; the calendar is
+    /// not asked.
+    ShowAlarm alarmReasonFor(const TVEntry& entry) const;
+    ShowAlarmSituation showAlarmSituation() const;
 
     /// Something else changed the calendar: refreshes what is known of events. Events that are new are
     /// alarms after the next run. Any thread.
