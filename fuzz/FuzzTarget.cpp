@@ -10,7 +10,7 @@ const std::vector<FuzzTarget>& fuzzTargets() {
     static const std::vector<FuzzTarget> all = [] {
         std::vector<FuzzTarget> targets;
         for (const auto& group : {readerTargets, feedTargets, detailTargets, textTargets, archiveTargets,
-                                  sourceTargets, profileTargets, ownSourceTargets}) {
+                                  sourceTargets, profileTargets, ownSourceTargets, calendarTargets}) {
             std::vector<FuzzTarget> added = group();
             std::move(added.begin(), added.end(), std::back_inserter(targets));
         }

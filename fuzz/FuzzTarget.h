@@ -30,6 +30,7 @@ std::vector<FuzzTarget> archiveTargets();
 std::vector<FuzzTarget> sourceTargets();
 std::vector<FuzzTarget> profileTargets();
 std::vector<FuzzTarget> ownSourceTargets();
+std::vector<FuzzTarget> calendarTargets();
 
 /// All of the above.
 const std::vector<FuzzTarget>& fuzzTargets();

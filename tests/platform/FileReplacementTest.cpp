@@ -134,6 +134,19 @@ TEST(FileReplacementTest, AFailedWriteLeavesOnlyTheOldFile) {
     EXPECT_EQ(namesIn(folder), QStringList{u"file"_s});
 }
 
+TEST(FileReplacementTest, ABatchAsksBeforeEachFile) {
+    const QTemporaryDir folder;
+    ReplacementBatch batch(folder.path());
+    for (const QString& name : {u"a"_s, u"b"_s, u"c"_s}) {
+        ASSERT_TRUE(replaceFile(folder.filePath(name), "old"));
+        ASSERT_TRUE(batch.add(name, "new"));
+    }
+    EXPECT_EQ(batch.commit([](std::size_t index) { return index != 1; }), (std::vector{true, false, true}));
+    EXPECT_EQ(contentOf(folder.filePath(u"b"_s)), "old");
+    EXPECT_EQ(contentOf(folder.filePath(u"c"_s)), "new");
+    EXPECT_EQ(namesIn(folder), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+}
+
 TEST(FileReplacementTest, ContentReachesTheDiskBeforeItsName) {
     for (const int count : {1, 3, 40}) {
         SCOPED_TRACE(count);

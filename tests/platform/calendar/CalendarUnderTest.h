@@ -26,6 +26,8 @@ class CalendarUnderTest {
 
     virtual EventStore& store() = 0;
     virtual EventCalendar calendar() = 0;
+    /// A guide on the same calendars.
+    virtual std::unique_ptr<EventStore> secondStore() = 0;
 
     // What the other program does.
     virtual QByteArray get(const QByteArray& uid) = 0;

@@ -27,6 +27,9 @@ class DesktopCalendar final : public CalendarUnderTest {
                       << m_source.toStdString();
         return {};
     }
+    std::unique_ptr<EventStore> secondStore() override {
+        return std::make_unique<EDSEventStore>(session.busAddress(), kScheme, clock);
+    }
     QByteArray get(const QByteArray& uid) override {
         // The cache of a server's calendar answers with a VCALENDAR.
         const QByteArray text = other.get(uid).text().toUtf8();

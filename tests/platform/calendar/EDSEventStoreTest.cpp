@@ -32,6 +32,7 @@ class RemoteCalendar final : public CalendarUnderTest {
 
     EventStore& store() override { return desktop.store(); }
     EventCalendar calendar() override { return desktop.calendar(); }
+    std::unique_ptr<EventStore> secondStore() override { return desktop.secondStore(); }
     QByteArray get(const QByteArray& uid) override { return desktop.get(uid); }
     void put(const QByteArray& uid, const QByteArray& component) override { desktop.put(uid, component); }
     void erase(const QByteArray& uid) override { desktop.erase(uid); }

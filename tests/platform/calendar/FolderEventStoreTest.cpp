@@ -21,6 +21,9 @@ class FolderCalendar final : public CalendarUnderTest {
   public:
     EventStore& store() override { return m_store; }
     EventCalendar calendar() override { return *m_store.defaultCalendarForNewEvents(); }
+    std::unique_ptr<EventStore> secondStore() override {
+        return std::make_unique<FolderEventStore>(m_parent, kScheme, clock);
+    }
     QByteArray get(const QByteArray& uid) override { return contentOf(file(uid)); }
     void put(const QByteArray& uid, const QByteArray& component) override {
         const bool isWhole = component.startsWith("BEGIN:VCALENDAR");

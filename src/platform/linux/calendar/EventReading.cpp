@@ -75,10 +75,14 @@ std::vector<StoredEvent> EventReading::events(const ICalendarText& text) {
             readAlarm(text, i, events[*eventOf[*component.parent]]);
             continue;
         }
+        if (component.name != "VEVENT" ||
+            (component.parent && text.components()[*component.parent].name != "VCALENDAR")) {
+            continue;
+        }
         const auto uid = text.property(component, "UID");
         const auto startLine = text.property(component, "DTSTART");
         const auto start = startLine ? m_zones.time(*startLine, text) : std::nullopt;
-        if (component.name != "VEVENT" || !uid || uid->value.isEmpty() || !start) {
+        if (!uid || uid->value.isEmpty() || !start) {
             continue;
         }
         StoredEvent stored;

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <QList>
 #include <QString>
 
 #include <optional>
@@ -11,38 +12,49 @@
 
 namespace guide {
 
-/// What the guide wrote last, so that its own changes are recognised when the service reports them. One
-/// thread.
+/// What the guide wrote lately, so that its own changes are recognised when the service reports them, which
+/// may be after later changes. One thread.
 class OwnWrites {
   public:
     void saved(const QString& calendar, const StoredEvent& event) { put(calendar, event.uid, event.event); }
     void removed(const QString& calendar, const QByteArray& uid) { put(calendar, uid, std::nullopt); }
 
-    /// Whether a reported state is what the guide wrote. Forgets what it wrote when it is not.
+    /// Whether a reported state is what the guide wrote. Forgets earlier states, and all of them when it is
+    /// not: the same state may then come from somebody who restores it.
     bool isOwn(const QString& calendar, const QByteArray& uid, const std::optional<CalendarEvent>& now) {
-        const auto found = m_written.constFind({calendar, uid});
-        if (found == m_written.constEnd()) {
+        const auto found = m_written.find({calendar, uid});
+        if (found == m_written.end()) {
             return false;
         }
-        const bool isSame = *found == now;
-        if (!isSame) {
+        const qsizetype at = found->indexOf(now);
+        if (at < 0) {
             m_written.erase(found);
+            return false;
         }
-        return isSame;
+        found->remove(0, at);
+        return true;
     }
 
   private:
-    static constexpr qsizetype kMost = 20'000;
+    /// Without identifier, calendar and revision; unset when it was removed.
+    using State = std::optional<CalendarEvent>;
 
-    void put(const QString& calendar, const QByteArray& uid, const std::optional<CalendarEvent>& state) {
-        if (m_written.size() >= kMost) {
+    static constexpr qsizetype kMostEvents = 20'000;
+    static constexpr qsizetype kMostStates = 8;
+
+    void put(const QString& calendar, const QByteArray& uid, const State& state) {
+        if (m_written.size() >= kMostEvents) {
             m_written.clear();
         }
-        m_written.insert({calendar, uid}, state);
+        QList<State>& states = m_written[{calendar, uid}];
+        if (states.size() == kMostStates) {
+            states.removeFirst();
+        }
+        states << state;
     }
 
-    /// Without identifier, calendar and revision; unset when it was removed.
-    QHash<std::pair<QString, QByteArray>, std::optional<CalendarEvent>> m_written;
+    /// The states that have not been followed by a later one in the reports.
+    QHash<std::pair<QString, QByteArray>, QList<State>> m_written;
 };
 
 } // namespace guide
