@@ -28,6 +28,13 @@ std::optional<std::chrono::seconds> duration(const QByteArray& value) {
 
 } // namespace
 
+QString withoutControlCharacters(QString text) {
+    text.removeIf([](QChar character) {
+        return (character < u' ' && character != u'\n' && character != u'\t') || character == QChar(0x7F);
+    });
+    return text;
+}
+
 QString iCalendarString(QByteArrayView value) {
     QByteArray text;
     text.reserve(value.size());
@@ -39,7 +46,7 @@ QString iCalendarString(QByteArrayView value) {
             text += value[at];
         }
     }
-    return QString::fromUtf8(text);
+    return withoutControlCharacters(QString::fromUtf8(text));
 }
 
 Moment endOf(const CalendarEvent& event) {

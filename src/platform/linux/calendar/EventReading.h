@@ -59,6 +59,9 @@ class EventReading {
     ICalendarZones m_zones;
 };
 
+/// Without characters that no iCalendar text may contain.
+QString withoutControlCharacters(QString text);
+
 /// The text of a property of that type.
 QString iCalendarString(QByteArrayView value);
 

@@ -25,12 +25,8 @@ QByteArray lineOf(icalproperty* property) {
     return line;
 }
 
-/// Without characters that no iCalendar text may contain.
-QByteArray cleanText(QString text) {
-    text.removeIf([](QChar character) {
-        return (character < u' ' && character != u'\n' && character != u'\t') || character == QChar(0x7F);
-    });
-    return text.toUtf8();
+QByteArray cleanText(const QString& text) {
+    return withoutControlCharacters(text).toUtf8();
 }
 
 std::chrono::sys_seconds inSeconds(Moment moment) {
