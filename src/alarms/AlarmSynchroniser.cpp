@@ -54,6 +54,8 @@ struct AlarmRun {
     /// The end of the range of all phases.
     Moment end;
     std::shared_ptr<BackgroundWork> background;
+    /// The events that were read first are still those of the calendar.
+    bool isCurrent = false;
 
     void note(const AppliedChanges& applied) { result.complete = result.complete && !applied.unfinished; }
 };
@@ -185,6 +187,7 @@ void AlarmSynchroniser::State::cleanUp(AlarmRun run) {
         const CleanUpPlan plan = planCleanUp(range.events, environment.scheme);
         calendar->setEvents(eventsToCome(plan.kept, now, environment.scheme), range.events, run.end);
         run.note(calendar->apply(plan.changes));
+        run.isCurrent = plan.changes.empty();
     }
     if (!run.result.full) {
         finish(std::move(run), true);
@@ -200,12 +203,15 @@ void AlarmSynchroniser::State::cleanUp(AlarmRun run) {
 
 void AlarmSynchroniser::State::reconcile(AlarmRun run, ShowItems shows) {
     const bool wasRead = reconcileAndGenerate(run, std::move(shows));
-    const Moment now = environment.clock.now();
-    EventRange range = calendar->read(run.end - 2 * kAlarmReach, run.end);
-    run.result.complete = run.result.complete && wasRead && !range.fault;
-    if (!range.fault) {
-        CalendarEvents events = eventsToCome(range.events, now, environment.scheme);
-        calendar->setEvents(std::move(events), std::move(range.events), run.end);
+    run.result.complete = run.result.complete && wasRead;
+    if (!wasRead || !run.isCurrent) {
+        const Moment now = environment.clock.now();
+        EventRange range = calendar->read(run.end - 2 * kAlarmReach, run.end);
+        run.result.complete = run.result.complete && !range.fault;
+        if (!range.fault) {
+            CalendarEvents events = eventsToCome(range.events, now, environment.scheme);
+            calendar->setEvents(std::move(events), std::move(range.events), run.end);
+        }
     }
     finish(std::move(run), true);
 }
@@ -231,7 +237,10 @@ bool AlarmSynchroniser::State::reconcileAndGenerate(AlarmRun& run, ShowItems sho
     }
     // A rule that was changed meanwhile counts.
     situation.rules = environment.shows.snapshot();
-    run.note(calendar->apply(planGeneration(situation, madeByRules(*calendar->journal().entries()))));
+    const std::vector<AlarmChange> made =
+        planGeneration(situation, madeByRules(*calendar->journal().entries()));
+    run.note(calendar->apply(made));
+    run.isCurrent = run.isCurrent && plan.changes.empty() && made.empty();
     return true;
 }
 

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <memory>
 #include <optional>
+#include <unordered_set>
 #include <vector>
 
 namespace guide {
@@ -43,6 +44,8 @@ class FavoritesSnapshot final : public FavoriteTitles {
     std::vector<Favorite> m_rules;
     /// The index of the first rule of each lowercased title.
     QHash<QString, std::size_t> m_byTitle;
+    /// Of the lowercased titles whose characters can be hashed one by one.
+    std::unordered_set<std::size_t> m_hashes;
 };
 
 /// Provides the current favourites from memory. Any thread.

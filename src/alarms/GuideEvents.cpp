@@ -24,7 +24,7 @@ bool isOfGuide(const CalendarEvent& event, const QString& scheme) {
 
 std::optional<ShowDigest> showOfEvent(const CalendarEvent& event, const QString& scheme) {
     if (!isOfGuide(event, scheme) || event.url->hasQuery() || event.url->hasFragment() ||
-        !event.url->path().isEmpty() || event.url->authority().size() != event.url->host().size()) {
+        !event.url->path().isEmpty() || event.url->port() >= 0 || !event.url->userInfo().isEmpty()) {
         return std::nullopt;
     }
     return digestOfUrl(*event.url);

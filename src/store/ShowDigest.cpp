@@ -61,17 +61,22 @@ std::optional<QUrl> urlDigestFromChannel(const ObjectId& channel, const std::opt
 }
 
 std::optional<ShowDigest> digestOfUrl(const QUrl& url) {
-    const QByteArray host = url.host().toLatin1();
-    const bool prefixed = host.size() == kDigestDigits + 1 && host.front() == 'c';
-    const QByteArray digits = prefixed ? host.sliced(1) : host;
-    const auto isDigit = [](char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f'); };
-    if (digits.size() != kDigestDigits || beginsWithLetter(digits) == prefixed ||
-        !std::all_of(digits.begin(), digits.end(), isDigit)) {
+    const QString host = url.host();
+    const bool prefixed = host.size() == kDigestDigits + 1 && host.front() == u'c';
+    const QStringView digits = prefixed ? QStringView(host).sliced(1) : QStringView(host);
+    if (digits.size() != kDigestDigits || (digits.front() >= u'a') == prefixed) {
         return std::nullopt;
     }
-    const QByteArray bytes = QByteArray::fromHex(digits);
     ShowDigest digest{};
-    std::copy(bytes.begin(), bytes.end(), digest.begin());
+    for (std::size_t i = 0; i < 2 * digest.size(); ++i) {
+        const char16_t c = digits[static_cast<qsizetype>(i)].unicode();
+        const bool isNumber = c >= u'0' && c <= u'9';
+        if (!isNumber && (c < u'a' || c > u'f')) {
+            return std::nullopt;
+        }
+        const unsigned value = isNumber ? c - u'0' : c - u'a' + 10U;
+        digest[i / 2] = static_cast<std::uint8_t>(digest[i / 2] * 16U + value);
+    }
     return digest;
 }
 

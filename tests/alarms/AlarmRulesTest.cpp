@@ -136,6 +136,10 @@ TEST(FavoritesSnapshotTest, TheFirstRuleOfATitleCounts) {
     EXPECT_EQ(favorites.ruleNamed(u"žirafa"_s)->minutes, 5);
     EXPECT_TRUE(favorites.containsFavoriteNamed(QString())) << "an empty title is a rule like any other";
     EXPECT_FALSE(favorites.containsFavoriteNamed(u"Žirafa "_s));
+    const FavoritesSnapshot unusual({{u"İstanbul"_s, {}, {}, {}}, {u"\U00010400 x"_s, {}, {}, {}}});
+    for (const auto& title : {u"İstanbul"_s, u"i\u0307stanbul"_s, u"İSTANBUL"_s, u"\U00010428 X"_s}) {
+        EXPECT_TRUE(unusual.containsFavoriteNamed(title)) << title.toStdString();
+    }
     EXPECT_FALSE(FavoritesSnapshot().containsFavoriteNamed(QString()));
 }
 
