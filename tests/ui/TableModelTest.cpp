@@ -188,6 +188,7 @@ TEST(AccessibleNameTest, SaysWhatTheColoursAndSymbolsShow) {
         {InputRow{.title = {}, .placeholder = u"Address"_s, .error = u"No host"_s}, u"Address, No host"_s},
         {TimeRow{u"From"_s, QTime(6, 0)}, u"From, 06:00am"_s},
         {ProgressRow{u"Loading"_s, 0.25}, u"Loading, 25%"_s},
+        {DayBarRow{{{0, 60}}, {u"0"_s, u"24"_s}, u"Silent until 1"_s}, u"Silent until 1"_s},
     };
     for (const auto& [content, name] : cases) {
         EXPECT_EQ(accessibleName(content, kLocale), name);

@@ -218,7 +218,10 @@ inline std::vector<Section> gallerySettings() {
                  ChoiceRow{u"Nothing chosen"_s, {u"A"_s}, {}},
                  ChoiceRow{u"A question with a long title"_s, {u"Every premiere on any of my channels"_s}, 0},
                  ChoiceRow{u"Not available"_s, {u"A"_s}, 0, false}, TimeRow{u"Silence from"_s, QTime(22, 30)},
-                 TimeRow{u"Not available"_s, QTime(6, 0), false}})};
+                 TimeRow{u"Not available"_s, QTime(6, 0), false},
+                 DayBarRow{{{0, 6 * 60}, {22 * 60 + 30, 24 * 60}},
+                           {u"00:00"_s, u"06:00"_s, u"12:00"_s, u"18:00"_s, u"24:00"_s},
+                           u"Silent from 22:30 to 06:00"_s}})};
 }
 
 inline std::vector<Section> galleryForms() {

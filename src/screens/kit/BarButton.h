@@ -9,7 +9,7 @@ namespace guide {
 /// A button of the navigation bar.
 struct BarButton {
     /// What is drawn: the title, a symbol, or an activity indicator.
-    enum class Kind { Title, Refresh, Play, Info, Activity, List };
+    enum class Kind { Title, Refresh, Play, Info, Activity, List, Options };
 
     Kind kind = Kind::Title;
     /// Also the accessible name of a symbol.

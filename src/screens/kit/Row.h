@@ -160,6 +160,8 @@ struct PictureRow {
 struct HeadRow {
     /// 16 to 9, above the texts; nothing is drawn in its place when there is none.
     PictureKey picture = {};
+    /// Whether a picture of another shape is shown whole, rather than cut to fill its place.
+    bool wholePicture = false;
     QString title = {};
     PictureKey channelIcon = {};
     /// One line, behind the icon.
@@ -223,9 +225,28 @@ struct TileRow {
     friend bool operator==(const TileRow&, const TileRow&) = default;
 };
 
+/// The 24 hours of a day as a bar on which parts are marked.
+struct DayBarRow {
+    /// In minutes of the day, from 0 to 1440.
+    struct Part {
+        int from = 0;
+        int to = 0;
+
+        friend bool operator==(const Part&, const Part&) = default;
+    };
+
+    std::vector<Part> parts = {};
+    /// Of times at equal distances, from the beginning of the day to its end.
+    std::vector<QString> scale = {};
+    /// What the bar shows, for screen readers.
+    QString description = {};
+
+    friend bool operator==(const DayBarRow&, const DayBarRow&) = default;
+};
+
 using RowContent =
     std::variant<ShowRow, ChannelRow, TextRow, SwitchRow, ChoiceRow, TimeRow, InputRow, ButtonRow,
-                 ProgressRow, PictureRow, HeadRow, ActionsRow, ParagraphRow, TileRow>;
+                 ProgressRow, PictureRow, HeadRow, ActionsRow, ParagraphRow, TileRow, DayBarRow>;
 
 /// The alternatives of RowContent, in its order.
 enum class RowKind {
@@ -242,7 +263,8 @@ enum class RowKind {
     Head,
     Actions,
     Paragraph,
-    Tile
+    Tile,
+    DayBar
 };
 
 /// None for a kind that has no accessory.
@@ -275,7 +297,7 @@ struct Row {
 template <RowKind kind>
 using RowContentOf = std::variant_alternative_t<static_cast<std::size_t>(kind), RowContent>;
 
-static_assert(std::variant_size_v<RowContent> == static_cast<std::size_t>(RowKind::Tile) + 1);
+static_assert(std::variant_size_v<RowContent> == static_cast<std::size_t>(RowKind::DayBar) + 1);
 static_assert(std::is_same_v<RowContentOf<RowKind::Show>, ShowRow> &&
               std::is_same_v<RowContentOf<RowKind::Channel>, ChannelRow> &&
               std::is_same_v<RowContentOf<RowKind::Text>, TextRow> &&
@@ -286,6 +308,7 @@ static_assert(std::is_same_v<RowContentOf<RowKind::Show>, ShowRow> &&
               std::is_same_v<RowContentOf<RowKind::Button>, ButtonRow> &&
               std::is_same_v<RowContentOf<RowKind::Progress>, ProgressRow> &&
               std::is_same_v<RowContentOf<RowKind::Picture>, PictureRow> &&
-              std::is_same_v<RowContentOf<RowKind::Tile>, TileRow>);
+              std::is_same_v<RowContentOf<RowKind::Tile>, TileRow> &&
+              std::is_same_v<RowContentOf<RowKind::DayBar>, DayBarRow>);
 
 } // namespace guide

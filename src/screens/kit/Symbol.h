@@ -33,6 +33,11 @@ enum class Symbol {
     Recent,
     /// Something is wrong.
     Warning,
+    Bell,
+    /// Something is at another time or place now.
+    Moved,
+    /// Something is no longer there.
+    Removed,
 };
 
 } // namespace guide

@@ -189,6 +189,26 @@ void play(QPainterPath& path) {
     polygon(path, {{8, 5.5}, {18.5, 12}, {8, 18.5}});
 }
 
+void moved(QPainterPath& path) {
+    line(path, {{3.5, 12}, {20, 12}});
+    line(path, {{13.5, 5.5}, {20, 12}, {13.5, 18.5}});
+}
+
+void removed(QPainterPath& path) {
+    circle(path, 12, 12, 9);
+    line(path, {{8.6, 8.6}, {15.4, 15.4}});
+    line(path, {{15.4, 8.6}, {8.6, 15.4}});
+}
+
+/// Three sliders.
+void options(QPainterPath& path) {
+    for (const auto& [y, knob] : {std::pair(6.0, 15.5), std::pair(12.0, 8.5), std::pair(18.0, 15.5)}) {
+        circle(path, knob, y, 2.3);
+        line(path, {{3, y}, {knob - 2.3, y}});
+        line(path, {{knob + 2.3, y}, {21, y}});
+    }
+}
+
 constexpr SymbolShape kShapes[]{
     {Glyph::AllShows, allShows},
     {Glyph::Currently, currently},
@@ -215,6 +235,9 @@ constexpr SymbolShape kShapes[]{
     {Glyph::Next, next},
     {Glyph::Past, past},
     {Glyph::Recent, past},
+    {Glyph::Moved, moved},
+    {Glyph::Removed, removed},
+    {Glyph::Options, options},
     {Glyph::Sound, sound},
     {Glyph::NoSound, noSound},
     {Glyph::FullScreen, fullScreen},

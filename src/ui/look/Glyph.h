@@ -45,6 +45,9 @@ class Glyph : public QQuickPaintedItem {
         Horrors = int(guide::Symbol::Horrors),
         Recent = int(guide::Symbol::Recent),
         Warning = int(guide::Symbol::Warning),
+        Bell = int(guide::Symbol::Bell),
+        Moved = int(guide::Symbol::Moved),
+        Removed = int(guide::Symbol::Removed),
         Refresh = 100,
         Play,
         Back,
@@ -56,7 +59,6 @@ class Glyph : public QQuickPaintedItem {
         Reorder,
         Heart,
         Star,
-        Bell,
         Unfold,
         Picture,
         StarOutline,
@@ -72,6 +74,7 @@ class Glyph : public QQuickPaintedItem {
         Window,
         Previous,
         Next,
+        Options,
     };
     Q_ENUM(Symbol)
 

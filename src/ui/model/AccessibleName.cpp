@@ -65,6 +65,7 @@ struct Name {
     QString operator()(const ActionsRow&) const { return Localized::tr("Actions"); }
     QString operator()(const ParagraphRow& row) const { return row.text; }
     QString operator()(const TileRow& row) const { return joined({row.title, row.detail}); }
+    QString operator()(const DayBarRow& row) const { return row.description; }
 };
 
 } // namespace

@@ -29,9 +29,10 @@ enum class RowKind {
     Actions = int(guide::RowKind::Actions),
     Paragraph = int(guide::RowKind::Paragraph),
     Tile = int(guide::RowKind::Tile),
+    DayBar = int(guide::RowKind::DayBar),
 };
 Q_ENUM_NS(RowKind)
-static_assert(std::size_t(RowKind::Tile) + 1 == std::variant_size_v<RowContent>);
+static_assert(std::size_t(RowKind::DayBar) + 1 == std::variant_size_v<RowContent>);
 
 enum class Accessory {
     None = int(guide::Accessory::None),
@@ -63,6 +64,7 @@ enum class BarButtonKind {
     Info = int(guide::BarButton::Kind::Info),
     Activity = int(guide::BarButton::Kind::Activity),
     List = int(guide::BarButton::Kind::List),
+    Options = int(guide::BarButton::Kind::Options),
 };
 Q_ENUM_NS(BarButtonKind)
 

@@ -81,6 +81,15 @@ QList<ActionButtonValue> ActionsRowValue::buttonList() const {
     return values;
 }
 
+QList<double> DayBarRowValue::edges() const {
+    constexpr double kMinutesOfDay = 24 * 60;
+    QList<double> edges;
+    for (const Part& part : parts) {
+        edges << part.from / kMinutesOfDay << part.to / kMinutesOfDay;
+    }
+    return edges;
+}
+
 QString ChoiceRowValue::chosenText() const {
     const auto index = static_cast<std::size_t>(chosen.value_or(-1));
     return index < choices.size() ? choices[index] : QString();
@@ -109,6 +118,7 @@ struct Make {
     QVariant operator()(const ActionsRow& content) const { return made<ActionsRowValue>(content); }
     QVariant operator()(const ParagraphRow& content) const { return made<ParagraphRowValue>(content); }
     QVariant operator()(const TileRow& content) const { return made<TileRowValue>(content); }
+    QVariant operator()(const DayBarRow& content) const { return made<DayBarRowValue>(content); }
 
   private:
     template <class Value, class... Fields>

@@ -230,6 +230,7 @@ struct HeadRowValue : RowValue, HeadRow {
     Q_GADGET
     QML_VALUE_TYPE(headRow)
     Q_PROPERTY(QUrl picture READ pictureUrl CONSTANT FINAL)
+    Q_PROPERTY(bool wholePicture MEMBER wholePicture CONSTANT FINAL)
     Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
     Q_PROPERTY(QUrl channelIcon READ channelIconUrl CONSTANT FINAL)
     Q_PROPERTY(QString facts MEMBER facts CONSTANT FINAL)
@@ -297,6 +298,20 @@ struct TileRowValue : RowValue, TileRow {
     int symbolNumber() const { return static_cast<int>(symbol); }
 
     friend bool operator==(const TileRowValue&, const TileRowValue&) = default;
+};
+
+struct DayBarRowValue : RowValue, DayBarRow {
+    Q_GADGET
+    QML_VALUE_TYPE(dayBarRow)
+    /// Of each marked part the begin and the end, as shares of the day.
+    Q_PROPERTY(QList<double> edges READ edges CONSTANT FINAL)
+    Q_PROPERTY(QStringList scale READ scaleList CONSTANT FINAL)
+
+  public:
+    QList<double> edges() const;
+    QStringList scaleList() const { return {scale.begin(), scale.end()}; }
+
+    friend bool operator==(const DayBarRowValue&, const DayBarRowValue&) = default;
 };
 
 /// A row's section and the row's place in it: the role `section`.

@@ -57,7 +57,8 @@ T.AbstractButton {
             visible: !button.titled && !button.busy
             symbol: button.kind === Kit.BarButtonKind.Play ? Glyph.Play
                     : button.kind === Kit.BarButtonKind.Info ? Glyph.Info
-                    : button.kind === Kit.BarButtonKind.List ? Glyph.Reorder : Glyph.Refresh
+                    : button.kind === Kit.BarButtonKind.List ? Glyph.Reorder
+                    : button.kind === Kit.BarButtonKind.Options ? Glyph.Options : Glyph.Refresh
             color: button.enabled ? Theme.tint : Theme.secondaryLabel
         }
 

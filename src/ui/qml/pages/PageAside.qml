@@ -25,6 +25,7 @@ Flickable {
         visible: aside.hasPicture
         radius: 12
         source: aside.hasPicture ? aside.head.picture : ""
+        whole: aside.hasPicture && aside.head.wholePicture
     }
 
     ActionButtons {

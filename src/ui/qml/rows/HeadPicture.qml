@@ -8,6 +8,8 @@ Item {
 
     property alias source: picture.source
     property alias radius: picture.radius
+    // Whether a landscape of another shape is shown whole, too.
+    property bool whole: false
     // Of the picture as it arrived; a binding would follow the way in which it is drawn.
     property size own: Qt.size(0, 0)
     readonly property double shape: own.height > 0 ? own.width / own.height : 0
@@ -29,6 +31,6 @@ Item {
         height: parent.height
         onStatusChanged: if (status === Image.Ready)
             place.own = Qt.size(implicitWidth, implicitHeight)
-        fillMode: place.small ? Image.Pad : place.shape < 1.2 ? Image.PreserveAspectFit : Image.PreserveAspectCrop
+        fillMode: place.small ? Image.Pad : place.whole || place.shape < 1.2 ? Image.PreserveAspectFit : Image.PreserveAspectCrop
     }
 }

@@ -22,6 +22,7 @@ TableRow {
         active: cell.hasPicture
         sourceComponent: HeadPicture {
             source: cell.row.picture
+            whole: cell.row.wholePicture
         }
     }
 

@@ -204,6 +204,7 @@ ListView {
         DelegateChoice { roleValue: Kit.RowKind.Actions; ActionsRow {} }
         DelegateChoice { roleValue: Kit.RowKind.Paragraph; ParagraphRow {} }
         DelegateChoice { roleValue: Kit.RowKind.Tile; TileRow {} }
+        DelegateChoice { roleValue: Kit.RowKind.DayBar; DayBarRow {} }
     }
 
     PlaceKeeper {

@@ -65,7 +65,7 @@ TableRow {
 
             readonly property double used: text === "" ? 0 : implicitHeight + 2
 
-            y: title.height + 2
+            y: title.height + lowerDetail.used + 2
             width: parent.width
             text: cell.row.subtitle
             textFormat: Text.PlainText
@@ -81,7 +81,7 @@ TableRow {
 
             readonly property double used: text === "" ? 0 : implicitHeight + 2
 
-            y: title.height + subtitle.used + 2
+            y: title.height + 2
             width: parent.width
             text: cell.detailBelow ? cell.row.detail : ""
             textFormat: Text.PlainText
