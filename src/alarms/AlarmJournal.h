@@ -33,24 +33,24 @@ inline constexpr int kLastAlarmDeed = 6;
 /// One line of the journal.
 struct JournalEntry {
     /// When it was done.
-    Moment at;
+    Moment at = {};
     AlarmDeed deed = AlarmDeed::Made;
     AlarmReason reason = AlarmReason::Rule;
-    QString title;
+    QString title = {};
     /// The channel's title.
-    QString channel;
+    QString channel = {};
     /// The start of the show before the change; unset for a new alarm.
-    std::optional<Moment> oldStart;
+    std::optional<Moment> oldStart = {};
     /// The start after the change; unset for a removed alarm.
-    std::optional<Moment> newStart;
+    std::optional<Moment> newStart = {};
     /// When the show ends.
-    std::optional<Moment> end;
+    std::optional<Moment> end = {};
     /// The title of the rule concerned; may be empty.
-    QString rule;
+    QString rule = {};
     /// The service's words for a failure.
-    QString message;
+    QString message = {};
     /// The broadcast; unset when the event's URL was none of a show.
-    std::optional<ShowDigest> show;
+    std::optional<ShowDigest> show = {};
 
     friend bool operator==(const JournalEntry&, const JournalEntry&) = default;
 };

@@ -181,18 +181,12 @@ void AlarmOperations::removeAlarmForTitle(const QString& title, const ObjectId& 
         });
 }
 
-void AlarmOperations::refuseBroadcast(const TVEntry& entry) {
-    const std::optional<ShowDigest> show = entry.digest();
-    if (!show || !entry.dateTime()) {
-        return;
-    }
-    m_calendar->queue().async([calendar = m_calendar, title = entry.title().value_or(QString()), show = *show,
-                               at = *entry.dateTime(),
-                               end = entry.endDateTime().value_or(*entry.dateTime())] {
+void AlarmOperations::refuseBroadcast(const AlarmBroadcast& broadcast) {
+    m_calendar->queue().async([calendar = m_calendar, broadcast] {
         const Moment now = calendar->environment().clock.now();
-        calendar->refused().refuse(show, end, now);
-        if (calendar->access() == CalendarAccess::Granted && at >= now) {
-            removeBroadcast(*calendar, title, show, at);
+        calendar->refused().refuse(broadcast.show, broadcast.end, now);
+        if (calendar->access() == CalendarAccess::Granted && broadcast.start >= now) {
+            removeBroadcast(*calendar, broadcast.title, broadcast.show, broadcast.start);
         }
         notifyOnMainQueue(calendar);
     });

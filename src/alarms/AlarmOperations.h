@@ -1,6 +1,7 @@
 #pragma once
 
 #include "alarms/AlarmActions.h"
+#include "alarms/AlarmBroadcast.h"
 #include "alarms/AlarmCalendar.h"
 #include "alarms/AlarmSynchronisation.h"
 
@@ -12,7 +13,7 @@ namespace guide {
 struct RecurringAlarm {
     int minutes = 0;
     /// As in Favorite.
-    std::optional<bool> previouslyShown;
+    std::optional<bool> previouslyShown = {};
 
     friend bool operator==(const RecurringAlarm&, const RecurringAlarm&) = default;
 };
@@ -38,7 +39,7 @@ class AlarmOperations final : public AlarmActions {
     std::optional<RecurringAlarm> alarmedIdentificatorType(const QString& title) const;
 
     /// Rules make no event for the broadcast until it is over; one that there is goes.
-    void refuseBroadcast(const TVEntry& entry);
+    void refuseBroadcast(const AlarmBroadcast& broadcast);
 
     // The calendar of the alarms.
 

@@ -218,7 +218,7 @@ TEST(AlarmSynchroniser, FollowsWhatTheUserDoesInTheCalendar) {
                                           "Made RuleAgain News 14:00"_s))
         << world->journal().toStdString();
 
-    world->operations->refuseBroadcast(*world->shows[1]);
+    world->operations->refuseBroadcast(*alarmBroadcastOf(*world->shows[1]));
     world->queues.runAll();
     EXPECT_EQ(world->calendar(), u"new One News 12:00 10"_s);
     world->sync();
