@@ -1607,6 +1607,406 @@ Počkejte, až se program načte.</translation>
             <numerusform>Přidat %n kanálů s pořady</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Journal</source>
+        <translation>Deník</translation>
+    </message>
+    <message>
+        <source>Nothing yet</source>
+        <translation>Zatím nic</translation>
+    </message>
+    <message>
+        <source>What happens to your alerts is written down here for 60 days.</source>
+        <translation>Co se děje s vašimi upozorněními, se zde zapisuje po dobu 60 dnů.</translation>
+    </message>
+    <message>
+        <source>You removed this alert in the calendar, and the rule set it again.</source>
+        <translation>Toto upozornění jste v kalendáři odstranili a pravidlo je nastavilo znovu.</translation>
+    </message>
+    <message>
+        <source>Not this broadcast</source>
+        <translation>Toto vysílání ne</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hour(s)</source>
+        <translation>
+            <numerusform>%n hodinu</numerusform>
+            <numerusform>%n hodiny</numerusform>
+            <numerusform>%n hodin</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s)</source>
+        <translation>
+            <numerusform>%n minutu</numerusform>
+            <numerusform>%n minuty</numerusform>
+            <numerusform>%n minut</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removed: no longer listed</source>
+        <translation>Zrušeno: už není v programu</translation>
+    </message>
+    <message>
+        <source>Removed: it would ring in the silent hours</source>
+        <translation>Zrušeno: zaznělo by v tichých hodinách</translation>
+    </message>
+    <message>
+        <source>Removed: its alert was removed in the calendar</source>
+        <translation>Zrušeno: upozornění bylo odstraněno v kalendáři</translation>
+    </message>
+    <message>
+        <source>Removed: it had no channel</source>
+        <translation>Zrušeno: nemělo kanál</translation>
+    </message>
+    <message>
+        <source>Removed: it was there twice</source>
+        <translation>Zrušeno: bylo tam dvakrát</translation>
+    </message>
+    <message>
+        <source>Removed: the recurring alert was ended</source>
+        <translation>Zrušeno: opakované upozornění skončilo</translation>
+    </message>
+    <message>
+        <source>Removed: the broadcast was moved</source>
+        <translation>Zrušeno: vysílání bylo přesunuto</translation>
+    </message>
+    <message>
+        <source>Removed by you</source>
+        <translation>Zrušeno vámi</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Zrušeno</translation>
+    </message>
+    <message>
+        <source>New: rule “%1”</source>
+        <translation>Nové: pravidlo „%1“</translation>
+    </message>
+    <message>
+        <source>Set again by the rule “%1”: it was removed in the calendar</source>
+        <translation>Znovu nastaveno pravidlem „%1“: v kalendáři bylo odstraněno</translation>
+    </message>
+    <message>
+        <source>Set by you</source>
+        <translation>Nastaveno vámi</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>Přesunuto</translation>
+    </message>
+    <message>
+        <source>Changed: the broadcast has another end or channel</source>
+        <translation>Změněno: vysílání má jiný konec nebo kanál</translation>
+    </message>
+    <message>
+        <source>Moved from %1 to %2</source>
+        <translation>Přesunuto z %1 na %2</translation>
+    </message>
+    <message>
+        <source>Set by the rule “%1”.</source>
+        <translation>Nastaveno pravidlem „%1“.</translation>
+    </message>
+    <message>
+        <source>Set for this broadcast only.</source>
+        <translation>Nastaveno jen pro toto vysílání.</translation>
+    </message>
+    <message>
+        <source>Its alert was removed in the calendar.</source>
+        <translation>Upozornění bylo odstraněno v kalendáři.</translation>
+    </message>
+    <message>
+        <source>No alert: the guide cannot use your calendars.</source>
+        <translation>Bez upozornění: průvodce nemůže používat vaše kalendáře.</translation>
+    </message>
+    <message>
+        <source>No alert: there is no calendar for it.</source>
+        <translation>Bez upozornění: není pro ně kalendář.</translation>
+    </message>
+    <message>
+        <source>No alert: the calendar is read-only.</source>
+        <translation>Bez upozornění: kalendář je jen pro čtení.</translation>
+    </message>
+    <message>
+        <source>No alert: the show has begun.</source>
+        <translation>Bez upozornění: pořad už začal.</translation>
+    </message>
+    <message>
+        <source>No alert: this is a replay, and the rule is for premieres.</source>
+        <translation>Bez upozornění: toto je repríza a pravidlo platí pro premiéry.</translation>
+    </message>
+    <message>
+        <source>No alert: this is a premiere, and the rule is for replays.</source>
+        <translation>Bez upozornění: toto je premiéra a pravidlo platí pro reprízy.</translation>
+    </message>
+    <message>
+        <source>No alert: it would ring in the silent hours.</source>
+        <translation>Bez upozornění: zaznělo by v tichých hodinách.</translation>
+    </message>
+    <message>
+        <source>No alert: you wanted none for this broadcast.</source>
+        <translation>Bez upozornění: na toto vysílání jste žádné nechtěli.</translation>
+    </message>
+    <message>
+        <source>No alert yet: the channel’s schedule is not up to date.</source>
+        <translation>Zatím bez upozornění: program kanálu není aktuální.</translation>
+    </message>
+    <message>
+        <source>No alert yet: the show is more than 60 days away.</source>
+        <translation>Zatím bez upozornění: do pořadu zbývá víc než 60 dnů.</translation>
+    </message>
+    <message>
+        <source>It will be set with the next update.</source>
+        <translation>Nastaví se při příští aktualizaci.</translation>
+    </message>
+    <message>
+        <source>There will be no alert.</source>
+        <translation>Žádné upozornění nebude.</translation>
+    </message>
+    <message>
+        <source>At the beginning of this broadcast</source>
+        <translation>Na začátku tohoto vysílání</translation>
+    </message>
+    <message>
+        <source>%1 before this broadcast</source>
+        <translation>%1 před tímto vysíláním</translation>
+    </message>
+    <message>
+        <source>At the beginning of every broadcast on any channel</source>
+        <translation>Na začátku každého vysílání na kterémkoli kanálu</translation>
+    </message>
+    <message>
+        <source>%1 before every broadcast on any channel</source>
+        <translation>%1 před každým vysíláním na kterémkoli kanálu</translation>
+    </message>
+    <message>
+        <source>At the beginning of every premiere on any channel</source>
+        <translation>Na začátku každé premiéry na kterémkoli kanálu</translation>
+    </message>
+    <message>
+        <source>%1 before every premiere on any channel</source>
+        <translation>%1 před každou premiérou na kterémkoli kanálu</translation>
+    </message>
+    <message>
+        <source>At the beginning of every replay on any channel</source>
+        <translation>Na začátku každé reprízy na kterémkoli kanálu</translation>
+    </message>
+    <message>
+        <source>%1 before every replay on any channel</source>
+        <translation>%1 před každou reprízou na kterémkoli kanálu</translation>
+    </message>
+    <message>
+        <source>Could not be set: the calendar refused it</source>
+        <translation>Nelze nastavit: kalendář to odmítl</translation>
+    </message>
+    <message>
+        <source>Could not be moved: the calendar refused it</source>
+        <translation>Nelze přesunout: kalendář to odmítl</translation>
+    </message>
+    <message>
+        <source>Could not be removed: the calendar refused it</source>
+        <translation>Nelze zrušit: kalendář to odmítl</translation>
+    </message>
+    <message>
+        <source>Not removed: too many alerts would have been removed at once</source>
+        <translation>Nezrušeno: najednou by se zrušilo příliš mnoho upozornění</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n alert(s)?</source>
+        <translation>
+            <numerusform>Zrušit %n upozornění?</numerusform>
+            <numerusform>Zrušit %n upozornění?</numerusform>
+            <numerusform>Zrušit %n upozornění?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The schedules no longer list most of the shows that you are alerted to. That may be a fault of the schedules, so nothing was removed.</source>
+        <translation>Většina pořadů, na které máte upozornění, už v programech není. Může to být chyba programů, proto se nic nezrušilo.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Ponechat</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Nastavení</translation>
+    </message>
+    <message>
+        <source>Allow an alert for this broadcast</source>
+        <translation>Povolit upozornění na toto vysílání</translation>
+    </message>
+    <message>
+        <source>Only this broadcast</source>
+        <translation>Jen toto vysílání</translation>
+    </message>
+    <message>
+        <source>Any broadcast</source>
+        <translation>Každé vysílání</translation>
+    </message>
+    <message>
+        <source>Every premiere</source>
+        <translation>Každá premiéra</translation>
+    </message>
+    <message>
+        <source>Every replay</source>
+        <translation>Každá repríza</translation>
+    </message>
+    <message>
+        <source>Repetition:</source>
+        <translation>Opakování:</translation>
+    </message>
+    <message>
+        <source>Trigger time:</source>
+        <translation>Čas upozornění:</translation>
+    </message>
+    <message>
+        <source>TV</source>
+        <translation>TV</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Jen pro čtení</translation>
+    </message>
+    <message>
+        <source>Offline; changes are sent later</source>
+        <translation>Offline; změny se odešlou později</translation>
+    </message>
+    <message>
+        <source>Its account needs your attention</source>
+        <translation>Jeho účet vyžaduje vaši pozornost</translation>
+    </message>
+    <message>
+        <source>Calendars</source>
+        <translation>Kalendáře</translation>
+    </message>
+    <message>
+        <source>New calendar “%1”</source>
+        <translation>Nový kalendář „%1“</translation>
+    </message>
+    <message>
+        <source>Alerts are events in the calendar that you choose here, so that your other programs and devices show them as well.</source>
+        <translation>Upozornění jsou události v kalendáři, který zde vyberete, takže je ukazují i vaše další programy a zařízení.</translation>
+    </message>
+    <message>
+        <source>You have to remove all your alerts before changing calendar</source>
+        <translation>Před změnou kalendáře musíte zrušit všechna upozornění</translation>
+    </message>
+    <message>
+        <source>The calendar could not be made.</source>
+        <translation>Kalendář se nepodařilo vytvořit.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n min</source>
+        <translation>
+            <numerusform>Každou %n min</numerusform>
+            <numerusform>Každé %n min</numerusform>
+            <numerusform>Každých %n min</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n h</source>
+        <translation>
+            <numerusform>Každou %n h</numerusform>
+            <numerusform>Každé %n h</numerusform>
+            <numerusform>Každých %n h</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n day(s)</source>
+        <translation>
+            <numerusform>Každý den</numerusform>
+            <numerusform>Každé %n dny</numerusform>
+            <numerusform>Každých %n dnů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show coloring</source>
+        <translation>Barevné časy pořadů</translation>
+    </message>
+    <message>
+        <source>Scheduled no alarm time</source>
+        <translation>Doba bez upozornění</translation>
+    </message>
+    <message>
+        <source>Don&apos;t automatically create any recurring alarms in this time span</source>
+        <translation>V tomto rozmezí se opakovaná upozornění automaticky nevytvářejí</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Od</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Zobrazení</translation>
+    </message>
+    <message>
+        <source>Pictures of shows</source>
+        <translation>Obrázky pořadů</translation>
+    </message>
+    <message>
+        <source>Large pictures on the pages of shows</source>
+        <translation>Velké obrázky na stránkách pořadů</translation>
+    </message>
+    <message>
+        <source>Large pictures without cutting</source>
+        <translation>Velké obrázky bez ořezu</translation>
+    </message>
+    <message>
+        <source>A picture of another shape is shown whole and does not fill its place.</source>
+        <translation>Obrázek jiného tvaru se ukáže celý a nevyplní své místo.</translation>
+    </message>
+    <message>
+        <source>Shows per channel</source>
+        <translation>Pořadů na kanál</translation>
+    </message>
+    <message>
+        <source>Look for new schedules</source>
+        <translation>Hledat nové programy</translation>
+    </message>
+    <message>
+        <source>Silent Hours</source>
+        <translation>Tiché hodiny</translation>
+    </message>
+    <message>
+        <source>Alerts that you set on a single broadcast ring at any time.</source>
+        <translation>Upozornění nastavená na jednotlivé vysílání zaznějí kdykoli.</translation>
+    </message>
+    <message>
+        <source>Across midnight</source>
+        <translation>Přes půlnoc</translation>
+    </message>
+    <message>
+        <source>Silent from %1 to midnight and from midnight to %2</source>
+        <translation>Ticho od %1 do půlnoci a od půlnoci do %2</translation>
+    </message>
+    <message>
+        <source>All recurring alerts are silent, all day: the time span begins and ends at the same time.</source>
+        <translation>Všechna opakovaná upozornění mlčí po celý den: rozmezí začíná a končí ve stejný čas.</translation>
+    </message>
+    <message>
+        <source>All recurring alerts are silent, all day: the time span crosses midnight.</source>
+        <translation>Všechna opakovaná upozornění mlčí po celý den: rozmezí přechází přes půlnoc.</translation>
+    </message>
+    <message>
+        <source>Silent all day</source>
+        <translation>Ticho po celý den</translation>
+    </message>
+    <message>
+        <source>Silent from %1 to %2</source>
+        <translation>Ticho od %1 do %2</translation>
+    </message>
+    <message>
+        <source>Folder of calendar files</source>
+        <translation>Složka se soubory kalendářů</translation>
+    </message>
+    <message>
+        <source>Calendars of the desktop</source>
+        <translation>Kalendáře pracovní plochy</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

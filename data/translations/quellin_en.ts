@@ -164,5 +164,47 @@
             <numerusform>Add the %n channels with shows</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n hour(s)</source>
+        <translation>
+            <numerusform>%n hour</numerusform>
+            <numerusform>%n hours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s)</source>
+        <translation>
+            <numerusform>%n minute</numerusform>
+            <numerusform>%n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n alert(s)?</source>
+        <translation>
+            <numerusform>Remove %n alert?</numerusform>
+            <numerusform>Remove %n alerts?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n min</source>
+        <translation>
+            <numerusform>Every %n min</numerusform>
+            <numerusform>Every %n min</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n h</source>
+        <translation>
+            <numerusform>Every %n h</numerusform>
+            <numerusform>Every %n h</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n day(s)</source>
+        <translation>
+            <numerusform>Every day</numerusform>
+            <numerusform>Every %n days</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

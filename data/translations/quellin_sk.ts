@@ -1607,6 +1607,406 @@ Počkajte, kým sa program načíta.</translation>
             <numerusform>Pridať %n kanálov s reláciami</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Journal</source>
+        <translation>Denník</translation>
+    </message>
+    <message>
+        <source>Nothing yet</source>
+        <translation>Zatiaľ nič</translation>
+    </message>
+    <message>
+        <source>What happens to your alerts is written down here for 60 days.</source>
+        <translation>Čo sa deje s vašimi upozorneniami, sa sem zapisuje 60 dní.</translation>
+    </message>
+    <message>
+        <source>You removed this alert in the calendar, and the rule set it again.</source>
+        <translation>Toto upozornenie ste v kalendári odstránili a pravidlo ho nastavilo znova.</translation>
+    </message>
+    <message>
+        <source>Not this broadcast</source>
+        <translation>Toto vysielanie nie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hour(s)</source>
+        <translation>
+            <numerusform>%n hodinu</numerusform>
+            <numerusform>%n hodiny</numerusform>
+            <numerusform>%n hodín</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s)</source>
+        <translation>
+            <numerusform>%n minútu</numerusform>
+            <numerusform>%n minúty</numerusform>
+            <numerusform>%n minút</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removed: no longer listed</source>
+        <translation>Zrušené: už nie je v programe</translation>
+    </message>
+    <message>
+        <source>Removed: it would ring in the silent hours</source>
+        <translation>Zrušené: zaznelo by v tichých hodinách</translation>
+    </message>
+    <message>
+        <source>Removed: its alert was removed in the calendar</source>
+        <translation>Zrušené: upozornenie bolo odstránené v kalendári</translation>
+    </message>
+    <message>
+        <source>Removed: it had no channel</source>
+        <translation>Zrušené: nemalo kanál</translation>
+    </message>
+    <message>
+        <source>Removed: it was there twice</source>
+        <translation>Zrušené: bolo tam dvakrát</translation>
+    </message>
+    <message>
+        <source>Removed: the recurring alert was ended</source>
+        <translation>Zrušené: opakované upozornenie sa skončilo</translation>
+    </message>
+    <message>
+        <source>Removed: the broadcast was moved</source>
+        <translation>Zrušené: vysielanie bolo presunuté</translation>
+    </message>
+    <message>
+        <source>Removed by you</source>
+        <translation>Zrušené vami</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Zrušené</translation>
+    </message>
+    <message>
+        <source>New: rule “%1”</source>
+        <translation>Nové: pravidlo „%1“</translation>
+    </message>
+    <message>
+        <source>Set again by the rule “%1”: it was removed in the calendar</source>
+        <translation>Znova nastavené pravidlom „%1“: v kalendári bolo odstránené</translation>
+    </message>
+    <message>
+        <source>Set by you</source>
+        <translation>Nastavené vami</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>Presunuté</translation>
+    </message>
+    <message>
+        <source>Changed: the broadcast has another end or channel</source>
+        <translation>Zmenené: vysielanie má iný koniec alebo kanál</translation>
+    </message>
+    <message>
+        <source>Moved from %1 to %2</source>
+        <translation>Presunuté z %1 na %2</translation>
+    </message>
+    <message>
+        <source>Set by the rule “%1”.</source>
+        <translation>Nastavené pravidlom „%1“.</translation>
+    </message>
+    <message>
+        <source>Set for this broadcast only.</source>
+        <translation>Nastavené len pre toto vysielanie.</translation>
+    </message>
+    <message>
+        <source>Its alert was removed in the calendar.</source>
+        <translation>Upozornenie bolo odstránené v kalendári.</translation>
+    </message>
+    <message>
+        <source>No alert: the guide cannot use your calendars.</source>
+        <translation>Bez upozornenia: sprievodca nemôže používať vaše kalendáre.</translation>
+    </message>
+    <message>
+        <source>No alert: there is no calendar for it.</source>
+        <translation>Bez upozornenia: nie je preň kalendár.</translation>
+    </message>
+    <message>
+        <source>No alert: the calendar is read-only.</source>
+        <translation>Bez upozornenia: kalendár je len na čítanie.</translation>
+    </message>
+    <message>
+        <source>No alert: the show has begun.</source>
+        <translation>Bez upozornenia: relácia sa už začala.</translation>
+    </message>
+    <message>
+        <source>No alert: this is a replay, and the rule is for premieres.</source>
+        <translation>Bez upozornenia: toto je repríza a pravidlo platí pre premiéry.</translation>
+    </message>
+    <message>
+        <source>No alert: this is a premiere, and the rule is for replays.</source>
+        <translation>Bez upozornenia: toto je premiéra a pravidlo platí pre reprízy.</translation>
+    </message>
+    <message>
+        <source>No alert: it would ring in the silent hours.</source>
+        <translation>Bez upozornenia: zaznelo by v tichých hodinách.</translation>
+    </message>
+    <message>
+        <source>No alert: you wanted none for this broadcast.</source>
+        <translation>Bez upozornenia: na toto vysielanie ste žiadne nechceli.</translation>
+    </message>
+    <message>
+        <source>No alert yet: the channel’s schedule is not up to date.</source>
+        <translation>Zatiaľ bez upozornenia: program kanála nie je aktuálny.</translation>
+    </message>
+    <message>
+        <source>No alert yet: the show is more than 60 days away.</source>
+        <translation>Zatiaľ bez upozornenia: do relácie zostáva viac ako 60 dní.</translation>
+    </message>
+    <message>
+        <source>It will be set with the next update.</source>
+        <translation>Nastaví sa pri najbližšej aktualizácii.</translation>
+    </message>
+    <message>
+        <source>There will be no alert.</source>
+        <translation>Žiadne upozornenie nebude.</translation>
+    </message>
+    <message>
+        <source>At the beginning of this broadcast</source>
+        <translation>Na začiatku tohto vysielania</translation>
+    </message>
+    <message>
+        <source>%1 before this broadcast</source>
+        <translation>%1 pred týmto vysielaním</translation>
+    </message>
+    <message>
+        <source>At the beginning of every broadcast on any channel</source>
+        <translation>Na začiatku každého vysielania na ktoromkoľvek kanáli</translation>
+    </message>
+    <message>
+        <source>%1 before every broadcast on any channel</source>
+        <translation>%1 pred každým vysielaním na ktoromkoľvek kanáli</translation>
+    </message>
+    <message>
+        <source>At the beginning of every premiere on any channel</source>
+        <translation>Na začiatku každej premiéry na ktoromkoľvek kanáli</translation>
+    </message>
+    <message>
+        <source>%1 before every premiere on any channel</source>
+        <translation>%1 pred každou premiérou na ktoromkoľvek kanáli</translation>
+    </message>
+    <message>
+        <source>At the beginning of every replay on any channel</source>
+        <translation>Na začiatku každej reprízy na ktoromkoľvek kanáli</translation>
+    </message>
+    <message>
+        <source>%1 before every replay on any channel</source>
+        <translation>%1 pred každou reprízou na ktoromkoľvek kanáli</translation>
+    </message>
+    <message>
+        <source>Could not be set: the calendar refused it</source>
+        <translation>Nedá sa nastaviť: kalendár to odmietol</translation>
+    </message>
+    <message>
+        <source>Could not be moved: the calendar refused it</source>
+        <translation>Nedá sa presunúť: kalendár to odmietol</translation>
+    </message>
+    <message>
+        <source>Could not be removed: the calendar refused it</source>
+        <translation>Nedá sa zrušiť: kalendár to odmietol</translation>
+    </message>
+    <message>
+        <source>Not removed: too many alerts would have been removed at once</source>
+        <translation>Nezrušené: naraz by sa zrušilo priveľa upozornení</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n alert(s)?</source>
+        <translation>
+            <numerusform>Zrušiť %n upozornenie?</numerusform>
+            <numerusform>Zrušiť %n upozornenia?</numerusform>
+            <numerusform>Zrušiť %n upozornení?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The schedules no longer list most of the shows that you are alerted to. That may be a fault of the schedules, so nothing was removed.</source>
+        <translation>Väčšina relácií, na ktoré máte upozornenie, už v programoch nie je. Môže to byť chyba programov, preto sa nič nezrušilo.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Ponechať</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Nastavenia</translation>
+    </message>
+    <message>
+        <source>Allow an alert for this broadcast</source>
+        <translation>Povoliť upozornenie na toto vysielanie</translation>
+    </message>
+    <message>
+        <source>Only this broadcast</source>
+        <translation>Len toto vysielanie</translation>
+    </message>
+    <message>
+        <source>Any broadcast</source>
+        <translation>Každé vysielanie</translation>
+    </message>
+    <message>
+        <source>Every premiere</source>
+        <translation>Každá premiéra</translation>
+    </message>
+    <message>
+        <source>Every replay</source>
+        <translation>Každá repríza</translation>
+    </message>
+    <message>
+        <source>Repetition:</source>
+        <translation>Opakovanie:</translation>
+    </message>
+    <message>
+        <source>Trigger time:</source>
+        <translation>Čas upozornenia:</translation>
+    </message>
+    <message>
+        <source>TV</source>
+        <translation>TV</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Len na čítanie</translation>
+    </message>
+    <message>
+        <source>Offline; changes are sent later</source>
+        <translation>Offline; zmeny sa odošlú neskôr</translation>
+    </message>
+    <message>
+        <source>Its account needs your attention</source>
+        <translation>Jeho účet vyžaduje vašu pozornosť</translation>
+    </message>
+    <message>
+        <source>Calendars</source>
+        <translation>Kalendáre</translation>
+    </message>
+    <message>
+        <source>New calendar “%1”</source>
+        <translation>Nový kalendár „%1“</translation>
+    </message>
+    <message>
+        <source>Alerts are events in the calendar that you choose here, so that your other programs and devices show them as well.</source>
+        <translation>Upozornenia sú udalosti v kalendári, ktorý tu vyberiete, takže ich ukazujú aj vaše ďalšie programy a zariadenia.</translation>
+    </message>
+    <message>
+        <source>You have to remove all your alerts before changing calendar</source>
+        <translation>Pred zmenou kalendára musíte zrušiť všetky upozornenia</translation>
+    </message>
+    <message>
+        <source>The calendar could not be made.</source>
+        <translation>Kalendár sa nepodarilo vytvoriť.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n min</source>
+        <translation>
+            <numerusform>Každú %n min</numerusform>
+            <numerusform>Každé %n min</numerusform>
+            <numerusform>Každých %n min</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n h</source>
+        <translation>
+            <numerusform>Každú %n h</numerusform>
+            <numerusform>Každé %n h</numerusform>
+            <numerusform>Každých %n h</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n day(s)</source>
+        <translation>
+            <numerusform>Každý deň</numerusform>
+            <numerusform>Každé %n dni</numerusform>
+            <numerusform>Každých %n dní</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show coloring</source>
+        <translation>Farebné časy relácií</translation>
+    </message>
+    <message>
+        <source>Scheduled no alarm time</source>
+        <translation>Čas bez upozornení</translation>
+    </message>
+    <message>
+        <source>Don&apos;t automatically create any recurring alarms in this time span</source>
+        <translation>V tomto rozmedzí sa opakované upozornenia automaticky nevytvárajú</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Od</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Zobrazenie</translation>
+    </message>
+    <message>
+        <source>Pictures of shows</source>
+        <translation>Obrázky relácií</translation>
+    </message>
+    <message>
+        <source>Large pictures on the pages of shows</source>
+        <translation>Veľké obrázky na stránkach relácií</translation>
+    </message>
+    <message>
+        <source>Large pictures without cutting</source>
+        <translation>Veľké obrázky bez orezania</translation>
+    </message>
+    <message>
+        <source>A picture of another shape is shown whole and does not fill its place.</source>
+        <translation>Obrázok iného tvaru sa ukáže celý a nevyplní svoje miesto.</translation>
+    </message>
+    <message>
+        <source>Shows per channel</source>
+        <translation>Relácií na kanál</translation>
+    </message>
+    <message>
+        <source>Look for new schedules</source>
+        <translation>Hľadať nové programy</translation>
+    </message>
+    <message>
+        <source>Silent Hours</source>
+        <translation>Tiché hodiny</translation>
+    </message>
+    <message>
+        <source>Alerts that you set on a single broadcast ring at any time.</source>
+        <translation>Upozornenia nastavené na jednotlivé vysielanie zaznejú kedykoľvek.</translation>
+    </message>
+    <message>
+        <source>Across midnight</source>
+        <translation>Cez polnoc</translation>
+    </message>
+    <message>
+        <source>Silent from %1 to midnight and from midnight to %2</source>
+        <translation>Ticho od %1 do polnoci a od polnoci do %2</translation>
+    </message>
+    <message>
+        <source>All recurring alerts are silent, all day: the time span begins and ends at the same time.</source>
+        <translation>Všetky opakované upozornenia mlčia celý deň: rozmedzie sa začína a končí v rovnakom čase.</translation>
+    </message>
+    <message>
+        <source>All recurring alerts are silent, all day: the time span crosses midnight.</source>
+        <translation>Všetky opakované upozornenia mlčia celý deň: rozmedzie prechádza cez polnoc.</translation>
+    </message>
+    <message>
+        <source>Silent all day</source>
+        <translation>Ticho celý deň</translation>
+    </message>
+    <message>
+        <source>Silent from %1 to %2</source>
+        <translation>Ticho od %1 do %2</translation>
+    </message>
+    <message>
+        <source>Folder of calendar files</source>
+        <translation>Priečinok so súbormi kalendárov</translation>
+    </message>
+    <message>
+        <source>Calendars of the desktop</source>
+        <translation>Kalendáre pracovnej plochy</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

@@ -44,6 +44,8 @@ class FavoriteActions {
     virtual void addFavorite(const QString& title) = 0;
     /// Removes the rules and all alarms of the titles, and refreshes the screens once.
     virtual void removeFavorites(const QStringList& titles) = 0;
+    /// Notes that the user set an alarm by the rule with the title. False when there is none.
+    virtual bool noteAlarmSet(const QString& title) = 0;
     void removeFavorite(const QString& title) { removeFavorites({title}); }
     /// Undoes a removal: the rules of the titles return with their settings to the places that they have in
     /// `before`. A title that has a rule again keeps it.

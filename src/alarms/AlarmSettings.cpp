@@ -86,13 +86,13 @@ void AlarmSettings::removeFormerAlarm(AlarmActions& actions) const {
     }
 }
 
-void AlarmSettings::setChosenAlarm(AlarmActions& actions, TVShows& shows) const {
+void AlarmSettings::setChosenAlarm(AlarmActions& actions, FavoriteActions& favorites) const {
     const std::optional<int> minutes = minutesOfTrigger(m_choice.trigger);
     if (!minutes) {
         return;
     }
     const QString title = m_entry->title().value_or(QString());
-    if (!shows.setDate(m_entry->identificator().value_or(QString()), m_clock.now())) {
+    if (!favorites.noteAlarmSet(m_entry->identificator().value_or(QString()))) {
         qWarning().noquote() << "Error: favorite not found:" << title;
     }
     switch (m_choice.repetition) {

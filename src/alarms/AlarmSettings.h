@@ -3,7 +3,6 @@
 #include "alarms/AlarmActions.h"
 #include "alarms/AlarmMinutes.h"
 #include "alarms/AlarmOperations.h"
-#include "alarms/TVShows.h"
 #include "platform/Clock.h"
 #include "store/TVEntry.h"
 
@@ -21,9 +20,9 @@ class AlarmSettings {
   public:
     struct Current {
         /// Of the title.
-        std::optional<RecurringAlarm> recurring;
+        std::optional<RecurringAlarm> recurring = {};
         /// Of the broadcast; unset without an alarm.
-        std::optional<int> minutes;
+        std::optional<int> minutes = {};
         /// Whether the title also has premieres, if the broadcast is a replay, or the reverse.
         bool hasOtherType = false;
     };
@@ -50,7 +49,7 @@ class AlarmSettings {
     bool isChanged() const { return m_choice != m_former; }
     // Two operations, in this order, each of which may end before the next one begins.
     void removeFormerAlarm(AlarmActions& actions) const;
-    void setChosenAlarm(AlarmActions& actions, TVShows& shows) const;
+    void setChosenAlarm(AlarmActions& actions, FavoriteActions& favorites) const;
 
   private:
     struct Choice {

@@ -30,6 +30,9 @@ class FavoriteOperations final : public FavoriteActions {
     void addFavorite(const QString& title) override;
     void removeFavorites(const QStringList& titles) override;
     void restoreFavorites(const FavoritesSnapshot& before, const QStringList& titles) override;
+    bool noteAlarmSet(const QString& title) override {
+        return m_environment.shows.setDate(title, m_environment.clock.now());
+    }
 
   private:
     const FavoriteOperationsEnvironment m_environment;

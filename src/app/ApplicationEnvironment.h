@@ -18,6 +18,7 @@
 #include "platform/ProgramRunner.h"
 #include "platform/SecretStore.h"
 #include "platform/UserDefaults.h"
+#include "platform/calendar/EventStore.h"
 #include "platform/files/Folders.h"
 #include "platform/http/HTTPClient.h"
 #include "platform/http/ResponseCache.h"
@@ -64,6 +65,8 @@ struct ApplicationEnvironment {
     /// sources.
     ProgramRunner* programs = nullptr;
     SecretStore* secrets = nullptr;
+    /// Null on a device without calendars: then there are no alarms.
+    EventStore* eventStore = nullptr;
     /// Null when files of the user are only looked at when they are due.
     FileWatch* fileWatch = nullptr;
 

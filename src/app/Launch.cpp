@@ -7,6 +7,7 @@
 #include "parsers/details/PageSource.h"
 #include "screens/Localized.h"
 #include "screens/SwipeActions.h"
+#include "screens/alarms/AlarmTexts.h"
 #include "screens/channels/SelectionEditor.h"
 #include "screens/shell/GuideTabs.h"
 
@@ -43,6 +44,7 @@ bool QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBar
     makeFavorites();
     // Starts reading the listing files.
     makeListings();
+    makeAlarms();
     makeUpdateCycle();
     makeOwnSources();
     makeRetries();
@@ -125,7 +127,7 @@ void QuellinGuideAppDelegate::makeFavorites() {
         .clock = m_environment.clock,
         .mainQueue = m_environment.queues.mainQueue(),
         .shows = *m_shows,
-        .alarmActions = m_alarmActions,
+        .alarmActions = m_alarms,
         .counters = m_showCounters,
         .favoritesUpdated =
             [this, alive = std::weak_ptr(m_alive)] {
@@ -153,6 +155,63 @@ void QuellinGuideAppDelegate::makeListings() {
         .showCount = [this] { return m_showCount.load(); },
     });
     onMainQueue(&QuellinGuideAppDelegate::syncAlarms);
+}
+
+void QuellinGuideAppDelegate::makeAlarms() {
+    if (!m_environment.eventStore) {
+        return;
+    }
+    const auto whileScreensExist = [this](void (QuellinGuideAppDelegate::*step)()) {
+        return [this, step, alive = std::weak_ptr(m_alive)] {
+            if (!alive.expired() && m_screens) {
+                (this->*step)();
+            }
+        };
+    };
+    m_alarms.start(
+        {
+            .clock = m_environment.clock,
+            .device = m_environment.device,
+            .folders = m_environment.folders,
+            .queues = m_environment.queues,
+            .backgroundTasks = m_environment.backgroundTasks,
+            .applicationState = m_environment.applicationState,
+            .userDefaults = m_environment.userDefaults,
+            .keyValueStore = m_environment.keyValueStore,
+            .eventStore = *m_environment.eventStore,
+            .catalogue = m_catalogue,
+            .channels = *m_channels,
+            .shows = *m_shows,
+            .listings = *m_listings,
+            .counters = m_showCounters,
+            .scheme = m_environment.scheme,
+            .automaticUpdateInterval = [this] { return m_settings.automaticUpdateInterval(); },
+            .notificationsSynched = whileScreensExist(&QuellinGuideAppDelegate::notificationsSynched),
+            .updateBadge = whileScreensExist(&QuellinGuideAppDelegate::updateBadge),
+            .runEnded = {},
+        },
+        [this, alive = std::weak_ptr(m_alive)](std::size_t count) {
+            if (!alive.expired()) {
+                askAboutHeldBack(count);
+            }
+        });
+}
+
+void QuellinGuideAppDelegate::notificationsSynched() {
+    updateBadge();
+    m_screens->notificationsSynched();
+}
+
+void QuellinGuideAppDelegate::askAboutHeldBack(std::size_t count) {
+    const auto answer = [this](void (GuideAlarms::*act)()) {
+        return [this, act, alive = std::weak_ptr(m_alive)] {
+            if (!alive.expired()) {
+                (m_alarms.*act)();
+            }
+        };
+    };
+    presentAlert(
+        heldBackAlert(count, answer(&GuideAlarms::removeHeldBack), answer(&GuideAlarms::keepHeldBack)));
 }
 
 void QuellinGuideAppDelegate::makeUpdateCycle() {
@@ -278,7 +337,7 @@ void QuellinGuideAppDelegate::makeScreens() {
         .alarms = m_alarms,
         .alarmSynchronisation = m_alarms,
         .alertsSchedule = m_alarms,
-        .alarmActions = m_alarmActions,
+        .alarmActions = m_alarms,
         .favoriteActions = *m_favoriteOperations,
         .recordedShows = *m_recordedShows,
         .popularShows = m_popularShows,
@@ -291,10 +350,10 @@ void QuellinGuideAppDelegate::makeScreens() {
         .clipboard = m_environment.clipboard,
         .scheme = m_environment.scheme,
         .userDefaults = m_environment.userDefaults,
+        .keyValueStore = m_environment.keyValueStore,
         .swipeActions =
             [this](const std::shared_ptr<const TVEntry>& entry, const auto&) {
-                return swipeActions({m_environment.clock, *m_shows, m_alarms, m_alarmActions,
-                                     *m_favoriteOperations,
+                return swipeActions({m_environment.clock, *m_shows, m_alarms, m_alarms, *m_favoriteOperations,
                                      [this](Alert alert) { presentAlert(std::move(alert)); }},
                                     entry);
             },
@@ -305,6 +364,8 @@ void QuellinGuideAppDelegate::makeScreens() {
             },
         .sourceActions = m_ownSourceService.get(),
         .knownFeeds = &m_knownFeeds,
+        .calendarActions = m_alarms.calendarActions(),
+        .alarmExplanations = m_alarms.explanations(),
     });
     m_tabBarController = makeGuideTabs(m_screenEnvironment);
     m_selectionEditor = std::make_shared<SelectionEditor>(m_screenEnvironment, *m_tabBarController);

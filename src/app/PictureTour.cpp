@@ -57,6 +57,30 @@ bool isChecked(const Row& row) {
     return isChannel(row) && std::get<ChannelRow>(row.content).checked;
 }
 
+bool isRunning(const Row& row) {
+    const auto* show = std::get_if<ShowRow>(&row.content);
+    return show && show->running;
+}
+bool isLater(const Row& row) {
+    return isShow(row) && !isRunning(row);
+}
+bool isSilentHoursSwitch(const Row& row) {
+    const auto* content = std::get_if<SwitchRow>(&row.content);
+    return content && content->title == Localized::tr("Scheduled no alarm time");
+}
+bool isTime(const Row& row) {
+    return row.kind() == RowKind::Time;
+}
+bool isAcrossMidnight(const Row& row) {
+    return row.kind() == RowKind::Switch;
+}
+bool isEveryBroadcast(const Row& row) {
+    return isTitled(row, Localized::tr("Any broadcast"));
+}
+bool isTenMinutes(const Row& row) {
+    return isTitled(row, Localized::tr("%1min before").arg(10));
+}
+
 bool isFilms(const Row& row) {
     const auto* tile = std::get_if<TileRow>(&row.content);
     return tile && tile->symbol == Symbol::Films;
@@ -118,12 +142,47 @@ constexpr std::array kStops{
     Stop{"title", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }, Stops::WithChanges},
     Stop{"favourites-removed", [](PictureTour& tour) { return tour.back() && tour.send(Deleted{}, isText); },
          Stops::WithChanges},
+    Stop{"alert-settings",
+         [](PictureTour& tour) {
+             return tour.selectTab(Symbol::Schedule) && tour.send(Tapped{}, isLater) &&
+                    tour.pressAction(ActionSymbol::Alert);
+         },
+         Stops::WithChanges},
+    Stop{"alert-chosen",
+         [](PictureTour& tour) {
+             return tour.send(Tapped{}, isEveryBroadcast) && tour.send(Tapped{}, isTenMinutes);
+         },
+         Stops::WithChanges},
+    Stop{"show-alert", [](PictureTour& tour) { return tour.back(); }, Stops::WithChanges},
+    Stop{"alerts",
+         [](PictureTour& tour) {
+             return tour.selectTab(Symbol::Schedule) && tour.pressButton(Localized::tr("Alerts"));
+         },
+         Stops::WithChanges},
+    Stop{"journal", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Journal")); },
+         Stops::WithChanges},
     Stop{"selected-channels", [](PictureTour& tour) { return tour.selectTab(Symbol::SelectedChannels); }},
     Stop{"selected-channels-edit", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Edit")); }},
     Stop{"alert", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Unselect all")); }},
+    Stop{"options",
+         [](PictureTour& tour) {
+             return tour.pressButton(Localized::tr("Done")) && tour.pressButton(Localized::tr("Options"));
+         }},
+    Stop{"options-silent", [](PictureTour& tour) { return tour.send(Toggled{true}, isSilentHoursSwitch); },
+         Stops::WithChanges},
+    Stop{"calendars", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Calendars")); },
+         Stops::WithChanges},
+    Stop{"silent-hours",
+         [](PictureTour& tour) {
+             return tour.back() && tour.send(Tapped{}, isText) &&
+                    tour.send(TimePicked{QTime(22, 30)}, isTime);
+         },
+         Stops::WithChanges},
+    Stop{"silent-hours-all-day",
+         [](PictureTour& tour) { return tour.send(Toggled{false}, isAcrossMidnight); }, Stops::WithChanges},
     Stop{"catalogue",
          [](PictureTour& tour) {
-             return tour.pressButton(Localized::tr("Done")) &&
+             return tour.selectTab(Symbol::SelectedChannels) &&
                     tour.pressButton(Localized::tr("Add channels"));
          }},
     Stop{"catalogue-group", [](PictureTour& tour) { return tour.send(Tapped{}, isText); }},
@@ -185,7 +244,8 @@ bool PictureTour::selectTab(Symbol symbol) {
 }
 
 bool PictureTour::back() {
-    m_tabs.selectedNavigationController().pop();
+    NavigationController& stack = m_tabs.selectedNavigationController();
+    stack.presentedStack() ? stack.dismiss() : stack.pop();
     return true;
 }
 

@@ -13,8 +13,7 @@ namespace guide {
 QuellinGuideAppDelegate::QuellinGuideAppDelegate(ApplicationEnvironment environment)
     : m_environment(std::move(environment))
     , m_settings(m_environment.userDefaults)
-    , m_alarms(m_environment.queues.mainQueue())
-    , m_alarmActions(m_environment.keyValueStore)
+    , m_alarms(m_environment.queues.mainQueue(), m_environment.keyValueStore)
     , m_alarmUpdater(m_alarms, m_environment.queues.mainQueue(), m_environment.applicationState,
                      m_environment.userDefaults) {}
 
@@ -118,6 +117,7 @@ bool QuellinGuideAppDelegate::shutDown(std::chrono::milliseconds atMost) {
     m_screens.reset();
     m_tabBarController.reset();
     m_isShuttingDown = true;
+    m_alarms.stopWatching();
     m_environment.httpClient.cancelAll();
     m_pauses.interrupt();
     m_channelIcons.reset();

@@ -5,6 +5,7 @@
 #include "app/AlarmUpdater.h"
 #include "app/ApplicationEnvironment.h"
 #include "app/CatalogueUpdater.h"
+#include "app/GuideAlarms.h"
 #include "app/InterruptibleWait.h"
 #include "app/LoadRetries.h"
 #include "app/NullServices.h"
@@ -105,10 +106,19 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
   private:
     // ScreenSettings
     bool imagesEnabled() const override { return m_imagesEnabled; }
+    void setImagesEnabled(bool enabled) override;
+    bool showBgImages() const override { return m_showBgImages; }
+    void setShowBgImages(bool show) override;
+    bool alwaysMaintainsAspectRatio() const override { return m_settings.alwaysMaintainsAspectRatio(); }
+    void setAlwaysMaintainsAspectRatio(bool maintains) override;
     bool colorizedShows() const override { return m_colorizedShows; }
+    void setColorizedShows(bool colorized) override;
+    int showCount() const override { return m_showCount; }
+    void setShowCount(int count) override;
     std::chrono::seconds automaticUpdateInterval() const override {
         return m_settings.automaticUpdateInterval();
     }
+    void setAutomaticUpdateInterval(std::chrono::seconds interval) override;
 
     // AppNavigation
     void playURL(const QUrl& url) override;
@@ -134,6 +144,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void makeSelection();
     void makeFavorites();
     void makeListings();
+    void makeAlarms();
     void makeUpdateCycle();
     void makeOwnSources();
     /// Asks for the icons that the channels of the user's sources have now.
@@ -153,6 +164,11 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
         m_screens->selectionCleanedUp();
         m_screens->reloadData();
     }
+
+    /// The alarms have changed.
+    void notificationsSynched();
+    /// Asks what is to become of alarms that a run has not removed because there are so many.
+    void askAboutHeldBack(std::size_t count);
 
     void offerTop(const TopLists& top);
     void loadsEnded(const LoadResults& results);
@@ -177,8 +193,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     /// Ends a reader that is at work.
     std::atomic<bool> m_isShuttingDown = false;
 
-    NoAlarms m_alarms;
-    NoAlarmActions m_alarmActions;
+    GuideAlarms m_alarms;
     NoShowCounters m_showCounters;
     AlarmUpdater m_alarmUpdater;
     NoPopularShows m_popularShows;

@@ -32,6 +32,7 @@
 #include "platform/linux/SettingsUserDefaults.h"
 #include "platform/linux/SpawnedProgramRunner.h"
 #include "platform/linux/TerminationSignals.h"
+#include "platform/linux/calendar/EventStoreChoice.h"
 #include "ui/GuideWindow.h"
 
 #include <QDesktopServices>
@@ -152,6 +153,12 @@ int run(LaunchOptions options, bool drawsWebPages) {
     LinuxFileWatch fileWatch;
     SpawnedProgramRunner programs;
     const auto secrets = makeSecretStore(folders->configuration);
+    // A profile of its own keeps its alarms to itself.
+    const auto eventStore = eventStoreFor(
+        {.folder = folders->documents + "/calendars"_L1,
+         .scheme = kScheme,
+         .busAddress = options.profile ? QString() : qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS")},
+        clock);
     LinuxAudioSession audioSession;
     LinuxClipboard clipboard;
     QtMediaPlayers mediaPlayers(queues.mainQueue());
@@ -182,6 +189,7 @@ int run(LaunchOptions options, bool drawsWebPages) {
         .promotion = promotion,
         .programs = &programs,
         .secrets = secrets.get(),
+        .eventStore = eventStore.get(),
         .fileWatch = &fileWatch,
         .hosts = files->hosts,
         .random = [](unsigned bound) { return QRandomGenerator::system()->bounded(bound); },

@@ -9,6 +9,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto kShowImages = "show_img"_L1;
+constexpr auto kLargeImages = "bg_img"_L1;
+constexpr auto kAspectRatio = "always_maintain_aspect_ratio"_L1;
+constexpr auto kShowCount = "currently_show_count"_L1;
+constexpr auto kUpdateInterval = "data_update"_L1;
+
 constexpr int kDefaultShowCount = 4;
 constexpr std::chrono::seconds kDefaultUpdateInterval{86'400};
 constexpr double kLongestUpdateInterval = 100.0 * 366 * 86'400;
@@ -25,11 +31,27 @@ std::chrono::seconds updateInterval(double seconds) {
 } // namespace
 
 bool Settings::imagesEnabled() const {
-    return m_userDefaults.boolForKey(u"show_img"_s).value_or(true);
+    return m_userDefaults.boolForKey(kShowImages).value_or(true);
+}
+
+void Settings::setImagesEnabled(bool enabled) {
+    m_userDefaults.setBool(kShowImages, enabled);
 }
 
 bool Settings::showBgImages() const {
-    return m_userDefaults.boolForKey(u"bg_img"_s).value_or(true);
+    return m_userDefaults.boolForKey(kLargeImages).value_or(true);
+}
+
+void Settings::setShowBgImages(bool show) {
+    m_userDefaults.setBool(kLargeImages, show);
+}
+
+bool Settings::alwaysMaintainsAspectRatio() const {
+    return m_userDefaults.boolForKey(kAspectRatio).value_or(false);
+}
+
+void Settings::setAlwaysMaintainsAspectRatio(bool maintains) {
+    m_userDefaults.setBool(kAspectRatio, maintains);
 }
 
 bool Settings::iconsFromOtherHosts() const {
@@ -42,8 +64,12 @@ void Settings::setIconsFromOtherHosts(bool on) {
 
 int Settings::showCount() const {
     const auto stored =
-        static_cast<std::uint8_t>(m_userDefaults.integerForKey(u"currently_show_count"_s).value_or(0) & 0xff);
+        static_cast<std::uint8_t>(m_userDefaults.integerForKey(kShowCount).value_or(0) & 0xff);
     return stored == 0 ? kDefaultShowCount : stored;
+}
+
+void Settings::setShowCount(int count) {
+    m_userDefaults.setInteger(kShowCount, count);
 }
 
 bool Settings::colorizedShows() const {
@@ -55,14 +81,17 @@ void Settings::setColorizedShows(bool colorized) {
 }
 
 std::chrono::seconds Settings::automaticUpdateInterval() const {
-    const QString key = u"data_update"_s;
-    if (const std::optional<std::int64_t> seconds = m_userDefaults.integerForKey(key)) {
+    if (const std::optional<std::int64_t> seconds = m_userDefaults.integerForKey(kUpdateInterval)) {
         return updateInterval(static_cast<double>(*seconds));
     }
-    if (const std::optional<double> seconds = m_userDefaults.doubleForKey(key)) {
+    if (const std::optional<double> seconds = m_userDefaults.doubleForKey(kUpdateInterval)) {
         return updateInterval(*seconds);
     }
     return kDefaultUpdateInterval;
+}
+
+void Settings::setAutomaticUpdateInterval(std::chrono::seconds interval) {
+    m_userDefaults.setInteger(kUpdateInterval, interval.count());
 }
 
 } // namespace guide

@@ -230,7 +230,7 @@ QJsonValue DeviceWorld::settings(const std::shared_ptr<const TVEntry>& entry, co
     if (chosen.isChanged()) {
         chosen.removeFormerAlarm(*m_alarmOperations);
         m_queues.runAll();
-        chosen.setChosenAlarm(*m_alarmOperations, *m_rules);
+        chosen.setChosenAlarm(*m_alarmOperations, *m_favoriteOperations);
     }
     return opened;
 }

@@ -349,7 +349,7 @@ TEST(AlarmSettingsTest, ApplyingReplacesTheFormerAlarm) {
         settings.chooseTrigger(each.trigger);
         if (settings.isChanged()) {
             settings.removeFormerAlarm(*world->operations);
-            settings.setChosenAlarm(*world->operations, world->rules);
+            settings.setChosenAlarm(*world->operations, *world->favorites);
         }
         world->queues.runAll();
         EXPECT_EQ(world->calendar().toStdString(), each.calendar);

@@ -138,6 +138,7 @@ void GuideWorld::start() {
         .promotion = m_promotion,
         .programs = &m_programs,
         .secrets = &secrets,
+        .eventStore = eventStore,
         .hosts = hosts,
         .random = [](unsigned) { return 0U; },
         .cataloguePath = root + u"/Data.plist"_s,

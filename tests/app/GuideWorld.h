@@ -114,6 +114,8 @@ class GuideWorld {
     std::vector<ObjectId> firstSelection;
     /// When set before start(), replaces the guide's queues.
     std::function<DispatchQueues&(DispatchQueues& queues)> adaptQueues = {};
+    /// When set before start(), the calendars of the device; there are none otherwise.
+    EventStore* eventStore = nullptr;
     /// Paths that will not answer.
     QByteArrayList silentPaths;
 

@@ -13,16 +13,17 @@
 
 namespace guide::test {
 
-/// Favourite rules for the titles, without alarms.
+/// Favourite rules, and for the titles rules without alarms.
 struct FakeFavorites final : FavoritesSource {
     std::shared_ptr<const FavoritesSnapshot> snapshot() const override {
-        std::vector<Favorite> rules;
+        std::vector<Favorite> all = rules;
         for (const QString& title : titles) {
-            rules.push_back({title, {}, {}, {}});
+            all.push_back({title, {}, {}, {}});
         }
-        return std::make_shared<const FavoritesSnapshot>(std::move(rules));
+        return std::make_shared<const FavoritesSnapshot>(std::move(all));
     }
     QStringList titles;
+    std::vector<Favorite> rules;
 };
 
 struct FakePopularShows final : PopularShows {

@@ -50,6 +50,23 @@ inline const ChannelRow& channelAt(const Table& table, int row) {
     return std::get<ChannelRow>(table.rowAt(row).content);
 }
 
+/// The first row of the kind with the title; null when there is none.
+template <class Content>
+const Row* rowTitled(const Table& table, const QString& title) {
+    for (int row = 0; row < table.rowCount(); ++row) {
+        const auto* content = std::get_if<Content>(&table.rowAt(row).content);
+        if (content && content->title == title) {
+            return &table.rowAt(row);
+        }
+    }
+    return nullptr;
+}
+template <class Content>
+const Content* contentTitled(const Table& table, const QString& title) {
+    const Row* row = rowTitled<Content>(table, title);
+    return row ? &std::get<Content>(row->content) : nullptr;
+}
+
 /// The settings that screens read, and a log of what they ask of the application.
 struct WorldApp final : ScreenSettings,
                         ListingsUpdates,
@@ -80,8 +97,10 @@ struct WorldApp final : ScreenSettings,
     void removeAlarmForTitle(const QString& title, const ObjectId&, Moment, bool, bool) override {
         done << u"no alarm "_s + title;
     }
-    void setAlarmForTitle(const QString& title, int minutes, std::optional<bool>, bool) override {
-        done << u"alarms %1 %2"_s.arg(title).arg(minutes);
+    void setAlarmForTitle(const QString& title, int minutes, std::optional<bool> previouslyShown,
+                          bool) override {
+        const QString kind = !previouslyShown ? u""_s : *previouslyShown ? u" replays"_s : u" premieres"_s;
+        done << u"alarms %1 %2"_s.arg(title).arg(minutes) + kind;
     }
     void removeAlarmForTitle(const QString& title, bool, bool) override { done << u"no alarms "_s + title; }
     int lastAlarmMinutes() const override { return 0; }
@@ -97,9 +116,22 @@ struct WorldApp final : ScreenSettings,
         done << u"restore "_s + titles.join(u", "_s);
         favoritesChanged(titles, {});
     }
+    bool noteAlarmSet(const QString& title) override {
+        done << u"note "_s + title;
+        return true;
+    }
     bool imagesEnabled() const override { return images; }
+    void setImagesEnabled(bool enabled) override { images = enabled; }
+    bool showBgImages() const override { return largeImages; }
+    void setShowBgImages(bool show) override { largeImages = show; }
+    bool alwaysMaintainsAspectRatio() const override { return wholeImages; }
+    void setAlwaysMaintainsAspectRatio(bool maintains) override { wholeImages = maintains; }
     bool colorizedShows() const override { return colorized; }
-    std::chrono::seconds automaticUpdateInterval() const override { return 24h; }
+    void setColorizedShows(bool own) override { colorized = own; }
+    int showCount() const override { return shows; }
+    void setShowCount(int count) override { shows = count; }
+    std::chrono::seconds automaticUpdateInterval() const override { return interval; }
+    void setAutomaticUpdateInterval(std::chrono::seconds own) override { interval = own; }
 
     /// The calls, in order.
     QStringList done;
@@ -114,6 +146,10 @@ struct WorldApp final : ScreenSettings,
     std::vector<Notice> notices;
     FileChooser fileChooser;
     bool images = true;
+    bool largeImages = true;
+    bool wholeImages = false;
+    int shows = 4;
+    std::chrono::seconds interval = 24h;
     bool calendarAccess = false;
     bool colorized = true;
     bool synchronising = false;
@@ -238,18 +274,42 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
         const auto swipeActions = [this](const std::shared_ptr<const TVEntry>& entry, const auto&) {
             return app.swipeActions(*entry);
         };
-        environment = std::make_shared<const ScreenEnvironment>(ScreenEnvironment{
-            clock,        device,       queues.mainQueue(),
-            queues,       *loadQueue,   state,
-            *listings,    *channels,    *icons,
-            catalogue,    alphabet,     favorites,
-            alarms,       app,          alerts,
-            app,          app,          archive,
-            popular,      pictures,     pictureCache,
-            app,          app,          app,
-            showLookup,   clipboard,    u"guide"_s,
-            userDefaults, swipeActions, [this](const ObjectId& channel) { return sources[channel]; },
-            ownSources,   knownFeeds});
+        environment = std::make_shared<const ScreenEnvironment>(
+            ScreenEnvironment{clock,
+                              device,
+                              queues.mainQueue(),
+                              queues,
+                              *loadQueue,
+                              state,
+                              *listings,
+                              *channels,
+                              *icons,
+                              catalogue,
+                              alphabet,
+                              favorites,
+                              alarms,
+                              app,
+                              alerts,
+                              app,
+                              app,
+                              archive,
+                              popular,
+                              pictures,
+                              pictureCache,
+                              app,
+                              app,
+                              app,
+                              showLookup,
+                              clipboard,
+                              u"guide"_s,
+                              userDefaults,
+                              keyValueStore,
+                              swipeActions,
+                              [this](const ObjectId& channel) { return sources[channel]; },
+                              ownSources,
+                              knownFeeds,
+                              calendarActions,
+                              alarmExplanations});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -319,6 +379,17 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
         queues.runAll();
     }
 
+    /// To the row of the kind with the title.
+    template <class Content>
+    void send(TableViewController& screen, const QString& title, const RowEvent& event) {
+        if (const Row* row = rowTitled<Content>(screen.table(), title)) {
+            screen.sendRowEvent(row->id, event);
+            queues.runAll();
+        } else {
+            ADD_FAILURE() << "no row " << title.toStdString();
+        }
+    }
+
     ViewController& top() const { return *tabs->selectedNavigationController().topViewController(); }
 
     const Moment begin = clock.now();
@@ -333,6 +404,8 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
     /// To be set before start().
     SourceActions* ownSources = nullptr;
     const KnownFeeds* knownFeeds = nullptr;
+    CalendarActions* calendarActions = nullptr;
+    AlarmExplanations* alarmExplanations = nullptr;
     /// The sources of the channels' schedules.
     std::map<ObjectId, QString> sources;
     std::shared_ptr<DispatchQueue> loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial);

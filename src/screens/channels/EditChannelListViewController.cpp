@@ -5,6 +5,7 @@
 #include "screens/channels/AllChannelsViewController.h"
 #include "screens/channels/ScheduleAge.h"
 #include "screens/kit/NavigationController.h"
+#include "screens/options/OptionsViewController.h"
 #include "screens/sources/AddSourceViewController.h"
 #include "screens/sources/OwnSourcesViewController.h"
 #include "text/display/Transliteration.h"
@@ -173,6 +174,7 @@ void EditChannelListViewController::setButtons() {
     if (m_environment->sourceActions) {
         right.push_back({BarButton::Kind::List, Localized::tr("My sources"), [this] { showOwnSources(); }});
     }
+    right.push_back({BarButton::Kind::Options, Localized::tr("Options"), [this] { showOptions(); }});
     setRightBarButtons(std::move(right));
 }
 
@@ -191,6 +193,12 @@ void EditChannelListViewController::showOwnSources() {
     if (NavigationController* navigation = navigationController()) {
         navigation->pushFrom(*this,
                              std::make_shared<OwnSourcesViewController>(m_environment, catalogueOpener()));
+    }
+}
+
+void EditChannelListViewController::showOptions() {
+    if (NavigationController* navigation = navigationController()) {
+        navigation->pushFrom(*this, std::make_shared<OptionsViewController>(m_environment));
     }
 }
 

@@ -41,6 +41,7 @@ class EditChannelListViewController final : public ListingsScreen {
     /// Where there are no channels yet: from sources of the user or the catalogue.
     void addChannels();
     void showOwnSources();
+    void showOptions();
     std::function<void()> catalogueOpener();
 
     const std::shared_ptr<const ScreenEnvironment> m_environment;

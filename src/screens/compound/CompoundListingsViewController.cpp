@@ -2,6 +2,7 @@
 
 #include "screens/CategoryTitle.h"
 #include "screens/Localized.h"
+#include "screens/alarms/AlarmJournalViewController.h"
 #include "screens/detail/DetailViewController.h"
 #include "screens/favorites/FavoritesViewController.h"
 #include "screens/kit/NavigationController.h"
@@ -294,8 +295,13 @@ void CompoundListingsViewController::updateBarButtons() {
         if (updating) {
             buttons.push_back(spinner);
         }
-    } else if (lists<AlertListings>() && updating) {
-        buttons.push_back(spinner);
+    } else if (lists<AlertListings>()) {
+        if (m_environment->alarmExplanations) {
+            buttons.push_back({BarButton::Kind::Title, Localized::tr("Journal"), [this] { journal(); }});
+        }
+        if (updating) {
+            buttons.push_back(spinner);
+        }
     }
     setRightBarButtons(std::move(buttons));
 }
@@ -310,6 +316,12 @@ void CompoundListingsViewController::alerts() {
     if (navigationController()) {
         navigationController()->pushFrom(
             *this, std::make_shared<CompoundListingsViewController>(m_environment, AlertListings{}));
+    }
+}
+
+void CompoundListingsViewController::journal() {
+    if (navigationController()) {
+        navigationController()->pushFrom(*this, std::make_shared<AlarmJournalViewController>(m_environment));
     }
 }
 

@@ -79,6 +79,7 @@ class CompoundListingsViewController final : public ListingsScreen {
     void updateBarButtons();
     void edit();
     void alerts();
+    void journal();
     bool isRoot() const;
     void explainIfEmpty();
     EmptyNote emptyNote();

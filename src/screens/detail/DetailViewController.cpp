@@ -1,12 +1,15 @@
 #include "screens/detail/DetailViewController.h"
 
+#include "alarms/AlarmExplanations.h"
 #include "alarms/AlarmText.h"
 #include "screens/FactTexts.h"
 #include "screens/Localized.h"
 #include "screens/ShowRows.h"
 #include "screens/ShowTexts.h"
+#include "screens/alarms/AlarmTexts.h"
 #include "screens/compound/CompoundListingsViewController.h"
 #include "screens/detail/ShowPage.h"
+#include "screens/favorites/FavoriteSettingsTimeThresholdViewController.h"
 #include "screens/kit/NavigationController.h"
 #include "store/ShownEnds.h"
 #include "text/display/Transliteration.h"
@@ -23,7 +26,9 @@ namespace {
 
 constexpr auto kHead = "title"_L1;
 constexpr auto kActions = "actions"_L1;
+constexpr auto kFavourite = "favorite"_L1;
 constexpr auto kAlarm = "alarm"_L1;
+constexpr auto kRefusal = "refusal"_L1;
 constexpr auto kFacts = "facts"_L1;
 constexpr auto kShowAll = "show all"_L1;
 constexpr qsizetype kPeopleShown = 10;
@@ -125,6 +130,7 @@ Row DetailViewController::headRow(Moment now) const {
         QStringList{m_channelTitle} + showFacts(entry(), end, now, m_environment->device);
     return {.id = rowId(kHead, kHead),
             .content = HeadRow{.picture = m_picture,
+                               .wholePicture = m_environment->settings.alwaysMaintainsAspectRatio(),
                                .title = entry().title().value_or(QString()),
                                .channelIcon = m_channelIcon,
                                .facts = facts.join(kBetweenFacts),
@@ -181,13 +187,26 @@ Section DetailViewController::favouriteSection() const {
     const auto favourites = m_environment->favorites.snapshot();
     const QString text = leadTimeText(favourites->ruleNamed(entry().title().value_or(QString())),
                                       m_environment->alarms.snapshot()->alarmedEntry(entry()));
-    return {.id = u"favorite"_s,
-            .header = u"⭐ %1:"_s.arg(Localized::tr("Favorite")),
-            .rows = {{.id = rowId(u"favorite"_s, kAlarm),
-                      .content = TextRow{.title = u"⏰ %1:"_s.arg(Localized::tr("Alert")),
-                                         .detail = text,
-                                         .accessory = Accessory::Disclosure},
-                      .selectable = true}}};
+    Section section{.id = kFavourite, .header = u"⭐ %1:"_s.arg(Localized::tr("Favorite"))};
+    TextRow alarmRow{
+        .title = u"⏰ %1:"_s.arg(Localized::tr("Alert")), .detail = text, .accessory = Accessory::Disclosure};
+    std::optional<ButtonRow> refusal;
+    if (m_environment->alarmExplanations) {
+        const ShowAlarm alarm = m_environment->alarmExplanations->alarmOf(entry());
+        alarmRow.subtitle = showAlarmText(alarm);
+        if (alarm.reason == ShowAlarmReason::Refused) {
+            refusal = {.title = Localized::tr("Allow an alert for this broadcast")};
+        } else if (alarm.reason == ShowAlarmReason::HasByRule || alarm.reason == ShowAlarmReason::NextRun) {
+            refusal = {.title = Localized::tr("Not this broadcast")};
+        }
+    }
+    section.rows.push_back(
+        {.id = rowId(kFavourite, kAlarm), .content = std::move(alarmRow), .selectable = true});
+    if (refusal) {
+        section.rows.push_back(
+            {.id = rowId(kFavourite, kRefusal), .content = *std::move(refusal), .selectable = true});
+    }
+    return section;
 }
 
 Section DetailViewController::groupSection(const ShowGroup& group) const {
@@ -253,7 +272,13 @@ void DetailViewController::askForIMDbLink() {
 }
 
 void DetailViewController::loadPicture() {
-    if (!m_environment->settings.imagesEnabled() || m_show.pictures().isEmpty()) {
+    const ScreenSettings& settings = m_environment->settings;
+    if (!settings.imagesEnabled() || !settings.showBgImages()) {
+        m_picture = {};
+        loadContent();
+        return;
+    }
+    if (m_show.pictures().isEmpty()) {
         return;
     }
     const QUrl url = pictureOf(m_show.pictures());
@@ -284,6 +309,8 @@ void DetailViewController::rowEvent(const RowId& id, const RowEvent& event) {
         openBroadcasts(false);
     } else if (id.name() && *id.name() == kAlarm) {
         selectedAlarm();
+    } else if (id.name() && *id.name() == kRefusal) {
+        refuseOrAllow();
     } else if (id.name() && *id.name() == kShowAll) {
         m_unfolded.insert(id.section);
         table().deselectRow();
@@ -363,6 +390,13 @@ void DetailViewController::notificationsSynched() {
     loadContent();
 }
 
+void DetailViewController::recolor() {
+    if (viewLoaded()) {
+        loadContent();
+        loadPicture();
+    }
+}
+
 void DetailViewController::favoritesUpdated() {
     if (!viewLoaded()) {
         return;
@@ -382,6 +416,46 @@ void DetailViewController::selectedAlarm() {
                  "will only be used by the application on your device, and will not be sent to any "
                  "other device or service. Go to 'Privacy' in the 'Settings' application."),
              {{Localized::tr("OK")}}});
+        return;
+    }
+    m_environment->listings.broadcastForTitle(
+        entry().identificator().value_or(QString()), !entry().previouslyShown(),
+        m_otherType.expect(weak_from_this(), [this](bool hasOtherType) { openAlarmSettings(hasOtherType); }));
+}
+
+void DetailViewController::openAlarmSettings(bool hasOtherType) {
+    NavigationController* navigation = navigationController();
+    if (!navigation || !navigation->shows(*this)) {
+        return;
+    }
+    const auto favourites = m_environment->favorites.snapshot();
+    const Favorite* rule = favourites->ruleNamed(entry().title().value_or(QString()));
+    AlarmSettings::Current current{.hasOtherType = hasOtherType};
+    if (rule && rule->minutes) {
+        current.recurring = {*rule->minutes, rule->previouslyShown};
+    } else {
+        current.minutes = m_environment->alarms.snapshot()->alarmedEntry(entry());
+    }
+    auto screen =
+        std::make_shared<FavoriteSettingsTimeThresholdViewController>(m_environment, m_show.entry(), current);
+    if (m_environment->device.userInterfaceIdiom() == UserInterfaceIdiom::Tablet) {
+        navigation->show(std::move(screen), Presentation::Popover, rowId(kFavourite, kAlarm));
+    } else {
+        navigation->pushFrom(*this, std::move(screen));
+    }
+}
+
+void DetailViewController::refuseOrAllow() {
+    table().deselectRow();
+    const std::optional<AlarmBroadcast> broadcast = alarmBroadcastOf(entry());
+    if (!broadcast) {
+        return;
+    }
+    AlarmExplanations& alarms = *m_environment->alarmExplanations;
+    if (alarms.alarmOf(entry()).reason == ShowAlarmReason::Refused) {
+        alarms.allowBroadcast(*broadcast);
+    } else {
+        alarms.refuseBroadcast(*broadcast);
     }
 }
 

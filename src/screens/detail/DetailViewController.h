@@ -25,6 +25,7 @@ class DetailViewController final : public ListingsScreen {
 
     void applicationDidBecomeActive() override;
     void notificationsSynched() override;
+    void recolor() override;
     void favoritesUpdated() override;
 
   protected:
@@ -65,6 +66,8 @@ class DetailViewController final : public ListingsScreen {
     void perform(Action action);
     void favoriteSwitched(bool on);
     void selectedAlarm();
+    void openAlarmSettings(bool hasOtherType);
+    void refuseOrAllow();
     void openBroadcasts(bool lookForPastShows);
     void copyLink();
 
@@ -88,6 +91,7 @@ class DetailViewController final : public ListingsScreen {
     LatestAnswer m_details;
     LatestAnswer m_imdbLink;
     LatestAnswer m_pictureAnswer;
+    LatestAnswer m_otherType;
     MinuteTick m_minuteTick;
 };
 

@@ -171,6 +171,12 @@ void RootViewController::setChannels(const std::vector<ObjectId>& selected,
         m_channels.back().entries = showsNotOver(entries[index], now);
     }
     m_upToDateAt = now;
+    const bool imagesEnabled = m_environment->settings.imagesEnabled();
+    if (imagesEnabled && !m_imagesEnabled) {
+        // Rows that are inserted anew load their pictures.
+        table().setSections({});
+    }
+    m_imagesEnabled = imagesEnabled;
     table().setEmptyNote(EmptyNote{
         Localized::tr("No channels yet"),
         Localized::tr("What is on now appears here once you have chosen channels under Selected Channels.")});

@@ -99,6 +99,8 @@ class RootViewController final : public ListingsScreen, private RowPicturesScree
     const std::shared_ptr<const ScreenEnvironment> m_environment;
     std::vector<Channel> m_channels;
     RowPictures m_pictures;
+    /// When the rows were made.
+    bool m_imagesEnabled = true;
     bool m_modifiedSelectedChannels = false;
     LatestAnswer m_rebuild;
     /// Held until the latest rebuild is answered.

@@ -12,7 +12,7 @@ void RowPictures::rowDisplayed(const ShowItem& show, const std::weak_ptr<const v
     if (imagesEnabled && !show.pictures().isEmpty()) {
         loadPicture(*show.pictures().constBegin(), channel, identifier, owner);
     }
-    if (m_channelsWithLoadedShowDetails.contains(channel)) {
+    if (!imagesEnabled || m_channelsWithLoadedShowDetails.contains(channel)) {
         return;
     }
     const auto record = m_environment.channels.channelWithChannelId(channel);
@@ -21,7 +21,7 @@ void RowPictures::rowDisplayed(const ShowItem& show, const std::weak_ptr<const v
         return;
     }
     m_channelsWithLoadedShowDetails.insert(channel);
-    if (imagesEnabled && applicationActive()) {
+    if (applicationActive()) {
         m_environment.mainQueue.asyncAfter(kDelay, [this, channel, owner] {
             if (const auto alive = owner.lock(); alive && applicationActive()) {
                 startDetailPass(channel, owner);

@@ -11,6 +11,7 @@
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
 #include "platform/Device.h"
+#include "platform/KeyValueStore.h"
 #include "platform/LifeCycle.h"
 #include "platform/UserDefaults.h"
 #include "platform/queues/DispatchQueue.h"
@@ -33,6 +34,8 @@
 
 namespace guide {
 
+class AlarmExplanations;
+class CalendarActions;
 class KnownFeeds;
 class SourceActions;
 
@@ -61,7 +64,7 @@ struct ScreenEnvironment {
     const PopularShows& popularShows;
     ShowPictures& pictures;
     ShowPictureCache& pictureCache;
-    const ScreenSettings& settings;
+    ScreenSettings& settings;
     ListingsUpdates& updates;
     AppNavigation& navigation;
     ShowLookup& showLookup;
@@ -70,6 +73,8 @@ struct ScreenEnvironment {
     QString scheme;
     /// Of this device.
     UserDefaults& userDefaults;
+    /// Of all devices of the user.
+    KeyValueStore& keyValueStore;
     /// The actions on the row of a show. They may outlive the row.
     std::function<std::vector<RowAction>(const std::shared_ptr<const TVEntry>&,
                                          const std::shared_ptr<ViewController>&)>
@@ -80,6 +85,9 @@ struct ScreenEnvironment {
     SourceActions* sourceActions = nullptr;
     /// Null when there are none.
     const KnownFeeds* knownFeeds = nullptr;
+    /// Null in a guide without calendars.
+    CalendarActions* calendarActions = nullptr;
+    AlarmExplanations* alarmExplanations = nullptr;
 };
 
 } // namespace guide

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "screens/kit/TableViewController.h"
+#include "screens/shell/ListingsScreen.h"
+#include "screens/shell/ScreenEnvironment.h"
+
+#include <chrono>
+#include <memory>
+#include <vector>
+
+namespace guide {
+
+/// The settings of the guide: colours, silent hours, and what is displayed. Leads to the calendars.
+class OptionsViewController final : public ListingsScreen {
+  public:
+    explicit OptionsViewController(std::shared_ptr<const ScreenEnvironment> environment);
+
+    void notificationsSynched() override { reloadTable(); }
+
+  protected:
+    void viewDidLoad() override;
+    void viewWillAppear() override;
+    void rowEvent(const RowId& id, const RowEvent& event) override;
+
+  private:
+    void setButtons();
+    void reloadTable();
+    Section silentHoursSection() const;
+    Section displaySection();
+    void toggled(const QString& name, bool on);
+    void chosen(const QString& name, std::size_t choice);
+
+    const std::shared_ptr<const ScreenEnvironment> m_environment;
+    // What is offered, in order.
+    std::vector<int> m_showCounts;
+    std::vector<std::chrono::seconds> m_intervals;
+};
+
+} // namespace guide

@@ -1,0 +1,102 @@
+#include "app/GuideWorld.h"
+#include "platform/memory/MemoryEventStore.h"
+#include "screens/channels/EditChannelListViewController.h"
+#include "screens/shell/GuideTabs.h"
+
+#include <gtest/gtest.h>
+
+namespace guide {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+struct GuideAlarmsTest : testing::Test {
+    GuideAlarmsTest() {
+        events.setDefaultCalendar(events
+                                      .addCalendar({.identifier = {},
+                                                    .title = u"TV"_s,
+                                                    .source = u"Local"_s,
+                                                    .allowsContentModifications = true})
+                                      .identifier);
+        world.eventStore = &events;
+        world.serve(u"first"_s, 1, world.feed(u"Morning"_s, 6));
+        world.serve(u"second"_s, 1, world.feed(u"Evening"_s, 6));
+        world.start();
+        world.guide->applicationDidBecomeActive();
+        EXPECT_TRUE(world.check());
+        EXPECT_TRUE(world.runUntil([this] { return row(u"Morning 3"_s); }));
+    }
+    // The calendars must outlive the guide.
+    ~GuideAlarmsTest() override { world.end(); }
+
+    TabBarController& tabs() { return world.guide->tabBarController(); }
+    TableViewController& screen() {
+        return dynamic_cast<TableViewController&>(*tabs().selectedNavigationController().topViewController());
+    }
+    const Row* row(const QString& title) {
+        const Table& table = screen().table();
+        for (int index = 0; index < table.rowCount(); ++index) {
+            const auto* show = std::get_if<ShowRow>(&table.rowAt(index).content);
+            if (show && show->title == title) {
+                return &table.rowAt(index);
+            }
+        }
+        return nullptr;
+    }
+    QString badge() {
+        return tabs()
+            .tabs()[std::size_t(scheduleTabIndex(world.device.userInterfaceIdiom()))]
+            .item.badgeValue;
+    }
+    void press(const QString& title) {
+        for (const RowAction& action : screen().rowActions(row(title)->id)) {
+            if (action.title == u"⏰"_s) {
+                action.action();
+            }
+        }
+    }
+
+    MemoryEventStore events;
+    GuideWorld world;
+};
+
+TEST_F(GuideAlarmsTest, AnAlarmOfARowIsAnEventAndFollowsTheCalendar) {
+    const auto alarmed = [this] { return std::get<ShowRow>(row(u"Morning 3"_s)->content).alarmed; };
+    press(u"Morning 3"_s);
+    ASSERT_TRUE(world.runUntil([&] { return alarmed() && badge() == u"1"_s; }));
+    const std::vector<CalendarEvent> made = events.events();
+    ASSERT_EQ(made.size(), 1U);
+    EXPECT_EQ(made[0].title, u"Morning 3"_s);
+
+    // Another program removes it.
+    events.remove(made[0].identifier);
+    EXPECT_TRUE(world.runUntil([&] { return !alarmed() && badge().isEmpty(); }));
+}
+
+TEST_F(GuideAlarmsTest, ASettingOfTheOptionsShowsAtOnce) {
+    ASSERT_TRUE(row(u"Morning 1"_s));
+    const int currently = tabs().selectedIndex();
+    tabs().setSelectedIndex(static_cast<int>(tabs().tabs().size()) - 1);
+    for (std::size_t index = 0; index < screen().rightBarButtons().size(); ++index) {
+        if (screen().rightBarButtons()[index].kind == BarButton::Kind::Options) {
+            screen().pressRightBarButton(index);
+            break;
+        }
+    }
+    ASSERT_EQ(screen().title(), u"Options"_s);
+    for (int index = 0; index < screen().table().rowCount(); ++index) {
+        const Row choice = screen().table().rowAt(index);
+        const auto* content = std::get_if<ChoiceRow>(&choice.content);
+        if (content && content->title == u"Shows per channel"_s) {
+            // One.
+            screen().sendRowEvent(choice.id, Chosen{0});
+            break;
+        }
+    }
+    tabs().setSelectedIndex(currently);
+    EXPECT_TRUE(world.runUntil([this] { return row(u"Morning 0"_s) && !row(u"Morning 1"_s); }));
+}
+
+} // namespace
+} // namespace guide

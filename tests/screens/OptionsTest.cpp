@@ -1,0 +1,186 @@
+#include "ScreenWorld.h"
+#include "alarms/SilentHours.h"
+#include "screens/options/CalendarsViewController.h"
+#include "screens/options/OptionsViewController.h"
+#include "screens/options/SilentHoursViewController.h"
+
+namespace guide::test {
+namespace {
+
+EventCalendar calendar(const QString& title, const QString& source, bool writable = true) {
+    return {.identifier = source + u'/' + title,
+            .title = title,
+            .source = source,
+            .allowsContentModifications = writable};
+}
+
+/// Calendars in memory. The answers come from the main queue.
+struct WorldCalendars final : CalendarActions {
+    explicit WorldCalendars(DispatchQueue& ownMainQueue)
+        : mainQueue(ownMainQueue) {}
+    void calendars(MainBlock<CalendarChoice> mainBlock) override { mainBlock.post(mainQueue, choice); }
+    void selectCalendar(const EventCalendar& own) override { choice.selected = own.identifier; }
+    void createCalendar(const QString& title, MainBlock<std::optional<EventCalendar>> mainBlock) override {
+        std::optional<EventCalendar> made;
+        if (makes) {
+            made = calendar(title, u"Device"_s);
+            choice.calendars.push_back(*made);
+        }
+        mainBlock.post(mainQueue, std::move(made));
+    }
+    DispatchQueue& mainQueue;
+    CalendarChoice choice{.calendars = {calendar(u"Home"_s, u"Server"_s), calendar(u"Local"_s, u"Device"_s),
+                                        calendar(u"Holidays"_s, u"Server"_s, false)},
+                          .selected = u"Server/Home"_s};
+    bool makes = true;
+};
+
+class OptionsTest : public testing::Test {
+  protected:
+    OptionsTest() {
+        world.device.deviceLocale = QLocale(QLocale::English, QLocale::UnitedKingdom);
+        world.device.zone = QTimeZone("Europe/Prague");
+        world.calendarActions = &calendars;
+        world.app.calendarAccess = true;
+        world.start();
+        world.show();
+        world.app.done.clear();
+    }
+    template <class Screen>
+    std::shared_ptr<Screen> open() {
+        auto screen = std::make_shared<Screen>(world.environment);
+        world.tabs->selectedNavigationController().push(screen);
+        world.queues.runAll();
+        return screen;
+    }
+    void leave() {
+        world.tabs->selectedNavigationController().pop();
+        world.queues.runAll();
+    }
+    SilentPeriod period() { return SilentHours(world.keyValueStore, world.device).period(); }
+
+    ScreenWorld world;
+    WorldCalendars calendars{world.queues.mainQueue()};
+};
+
+TEST_F(OptionsTest, TheSilentHoursFollowTheirSwitch) {
+    const auto options = open<OptionsViewController>();
+    const QString label = u"From:\nTo:"_s;
+    EXPECT_FALSE(contentTitled<TextRow>(options->table(), label));
+    world.send<SwitchRow>(*options, u"Scheduled no alarm time"_s, Toggled{true});
+    EXPECT_TRUE(SilentHours(world.keyValueStore, world.device).enabled());
+    EXPECT_EQ(std::exchange(world.app.done, {}), QStringList({u"alarms"_s, u"check"_s}));
+    EXPECT_EQ(contentTitled<TextRow>(options->table(), label)->detail, u"00:00\n07:00"_s);
+
+    world.send<TextRow>(*options, label, Tapped{});
+    auto& hours = dynamic_cast<SilentHoursViewController&>(world.top());
+    world.send<TimeRow>(hours, u"To"_s, TimePicked{QTime(6, 30)});
+    EXPECT_TRUE(world.app.done.isEmpty()) << "before the screen is left";
+    leave();
+    EXPECT_EQ(world.app.done, QStringList({u"alarms"_s, u"check"_s}));
+    EXPECT_EQ(contentTitled<TextRow>(options->table(), label)->detail, u"00:00\n06:30"_s);
+    world.send<SwitchRow>(*options, u"Scheduled no alarm time"_s, Toggled{false});
+    EXPECT_FALSE(contentTitled<TextRow>(options->table(), label));
+    EXPECT_EQ(period().to, 6 * 60 + 30) << "the times stay";
+}
+
+TEST_F(OptionsTest, ASpanAcrossMidnightIsSwitchedOnWhereItIsPicked) {
+    const auto hours = open<SilentHoursViewController>();
+    const QString midnight = u"Across midnight"_s;
+    const QString warning = u"All recurring alerts are silent, all day: the time span crosses midnight."_s;
+    const auto parts = [&] { return std::get<DayBarRow>(hours->table().rowAt(2).content).parts; };
+    using Parts = std::vector<DayBarRow::Part>;
+    EXPECT_EQ(parts(), (Parts{{0, 420}}));
+    EXPECT_FALSE(contentTitled<SwitchRow>(hours->table(), midnight));
+
+    world.send<TimeRow>(*hours, u"From"_s, TimePicked{QTime(23, 0)});
+    EXPECT_TRUE(period().acrossMidnight && contentTitled<SwitchRow>(hours->table(), midnight)->on);
+    EXPECT_FALSE(contentTitled<TextRow>(hours->table(), warning));
+    EXPECT_EQ(parts(), (Parts{{0, 420}, {1380, 1440}}));
+
+    world.send<SwitchRow>(*hours, midnight, Toggled{false});
+    EXPECT_TRUE(contentTitled<TextRow>(hours->table(), warning));
+    EXPECT_EQ(parts(), (Parts{{0, 1440}}));
+    world.send<TimeRow>(*hours, u"From"_s, TimePicked{QTime(22, 0)});
+    EXPECT_FALSE(period().acrossMidnight) << "the person switched it off";
+
+    world.send<TimeRow>(*hours, u"To"_s, TimePicked{QTime(22, 0)});
+    EXPECT_FALSE(contentTitled<SwitchRow>(hours->table(), midnight));
+    EXPECT_EQ(parts(), (Parts{{0, 1440}})) << "begin and end are the same";
+}
+
+TEST_F(OptionsTest, ATimeThatTodayLeavesOutIsKept) {
+    // 29 March 2026, when clocks go from 2:00 to 3:00.
+    const QDateTime noon(QDate(2026, 3, 29), QTime(12, 0), world.device.zone);
+    world.wait(std::chrono::milliseconds(noon.toMSecsSinceEpoch()) - world.clock.now().time_since_epoch());
+    const auto hours = open<SilentHoursViewController>();
+    world.send<TimeRow>(*hours, u"To"_s, TimePicked{QTime(2, 30)});
+    EXPECT_EQ(period().to, 150);
+}
+
+TEST_F(OptionsTest, DisplaySettingsAreSetAtOnce) {
+    world.app.shows = 7;
+    world.app.interval = 90min;
+    const auto options = open<OptionsViewController>();
+    const auto choices = [&](const QString& title) {
+        const auto* row = contentTitled<ChoiceRow>(options->table(), title);
+        return row->choices[static_cast<std::size_t>(*row->chosen)];
+    };
+    EXPECT_EQ(choices(u"Shows per channel"_s), u"7"_s) << "a value that is not offered otherwise";
+    EXPECT_EQ(choices(u"Look for new schedules"_s), u"Every 2 h"_s);
+    world.send<ChoiceRow>(*options, u"Shows per channel"_s, Chosen{1});
+    EXPECT_EQ(world.app.shows, 2);
+    world.send<ChoiceRow>(*options, u"Look for new schedules"_s, Chosen{1});
+    EXPECT_EQ(world.app.interval, 3h);
+    world.send<SwitchRow>(*options, u"Show coloring"_s, Toggled{false});
+    EXPECT_FALSE(world.app.colorized);
+    world.send<SwitchRow>(*options, u"Large pictures without cutting"_s, Toggled{true});
+    EXPECT_TRUE(world.app.wholeImages);
+    world.send<SwitchRow>(*options, u"Pictures of shows"_s, Toggled{false});
+    EXPECT_FALSE(world.app.images);
+    world.send<SwitchRow>(*options, u"Large pictures on the pages of shows"_s, Toggled{false});
+    EXPECT_TRUE(world.app.largeImages) << "there are no pictures at all";
+}
+
+TEST_F(OptionsTest, CalendarsAreListedByAccount) {
+    world.app.calendarAccess = false;
+    EXPECT_TRUE(open<OptionsViewController>()->rightBarButtons().empty());
+    world.app.calendarAccess = true;
+    const auto options = open<OptionsViewController>();
+    options->pressRightBarButton(0);
+    world.queues.runAll();
+    auto& screen = dynamic_cast<CalendarsViewController&>(world.top());
+    EXPECT_EQ(linesOf(screen.table()), QStringList({u"# Server"_s, u"Home"_s, u"Holidays"_s, u"# Device"_s,
+                                                    u"Local"_s, u"[New calendar “TV”]"_s}));
+    EXPECT_TRUE(contentTitled<TextRow>(screen.table(), u"Home"_s)->checked);
+    EXPECT_EQ(contentTitled<TextRow>(screen.table(), u"Holidays"_s)->subtitle, u"Read-only"_s);
+    world.send<TextRow>(screen, u"Holidays"_s, Tapped{});
+    EXPECT_EQ(calendars.choice.selected, u"Server/Home"_s);
+}
+
+TEST_F(OptionsTest, TheCalendarChangesOnlyWhileThereAreNoAlarms) {
+    const auto screen = open<CalendarsViewController>();
+    const ObjectId channel = ScreenWorld::channelId(1);
+    world.setAlarm(channel, {0, 60, u"News"_s});
+    world.send<TextRow>(*screen, u"Local"_s, Tapped{});
+    world.send<ButtonRow>(*screen, u"New calendar “TV”"_s, Tapped{});
+    ASSERT_EQ(world.app.alerts.size(), 2U);
+    EXPECT_EQ(world.app.alerts[0].message, u"You have to remove all your alerts before changing calendar"_s);
+    EXPECT_TRUE(contentTitled<TextRow>(screen->table(), u"Home"_s)->checked);
+    EXPECT_EQ(calendars.choice.calendars.size(), 3U);
+
+    world.alarms.events.clear();
+    world.send<TextRow>(*screen, u"Local"_s, Tapped{});
+    EXPECT_EQ(calendars.choice.selected, u"Device/Local"_s);
+    EXPECT_TRUE(contentTitled<TextRow>(screen->table(), u"Local"_s)->checked);
+    calendars.makes = false;
+    world.send<ButtonRow>(*screen, u"New calendar “TV”"_s, Tapped{});
+    EXPECT_EQ(world.app.alerts.size(), 3U);
+    calendars.makes = true;
+    world.send<ButtonRow>(*screen, u"New calendar “TV”"_s, Tapped{});
+    EXPECT_EQ(calendars.choice.selected, u"Device/TV"_s);
+    EXPECT_FALSE(contentTitled<ButtonRow>(screen->table(), u"New calendar “TV”"_s));
+}
+
+} // namespace
+} // namespace guide::test
