@@ -92,7 +92,7 @@ struct Pieces {
             }
         }
         addText(links, entry.encodedUrl());
-        for (const QUrl& picture : show.pictures) {
+        for (const QUrl& picture : show.pictures.urls()) {
             addText(links, picture.toString());
         }
     }

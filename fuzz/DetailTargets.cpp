@@ -73,7 +73,7 @@ void scrapeDetails(QByteArrayView bytes) {
     if (!show) {
         return;
     }
-    for (const QUrl& picture : show->pictures()) {
+    for (const QUrl& picture : show->pictures().urls()) {
         require(picture.isValid() && !picture.host().isEmpty(), "a picture has a valid URL");
     }
     const auto read = unarchivedShows(archivedShows(std::array{*show}), alphabet);

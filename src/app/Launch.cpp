@@ -295,7 +295,7 @@ void QuellinGuideAppDelegate::makePictures() {
             .hosts = m_environment.hosts,
             .update =
                 [this](std::shared_ptr<const TVEntry> entry,
-                       std::shared_ptr<const TVEntrySupplementalData> details, const QSet<QUrl>& pictures) {
+                       std::shared_ptr<const TVEntrySupplementalData> details, const PictureURLs& pictures) {
                     m_listings->updateDetails(std::move(entry), std::move(details), pictures);
                 },
             .locale = m_environment.device.locale(),

@@ -81,9 +81,9 @@ void ShowPictureLoader::askForIMDbLink(const ShowItem& show, const SetShowImage&
     m_environment.lookup.imdbLink(show, [this, show, setShowImage](const IMDbLink& link) {
         const TVEntry& entry = *show.entry();
         const QString identificator = entry.identificator().value_or(QString());
-        m_environment.listings.updateIMDBForChannel(entry.channel(), identificator,
-                                                    show.categories().value_or(0), link.page,
-                                                    link.picture ? QSet<QUrl>{*link.picture} : QSet<QUrl>());
+        m_environment.listings.updateIMDBForChannel(
+            entry.channel(), identificator, show.categories().value_or(0), link.page,
+            link.picture ? PictureURLs{*link.picture} : PictureURLs());
         if (!link.picture) {
             return;
         }
@@ -98,8 +98,8 @@ void ShowPictureLoader::askForIMDbLink(const ShowItem& show, const SetShowImage&
     });
 }
 
-QImage ShowPictureLoader::anyImage(const QSet<QUrl>& pictures) const {
-    return pictures.isEmpty() ? QImage() : image100AtURL(*pictures.constBegin());
+QImage ShowPictureLoader::anyImage(const PictureURLs& pictures) const {
+    return pictures.isEmpty() ? QImage() : image100AtURL(pictures.first());
 }
 
 QImage ShowPictureLoader::image100AtURL(const QUrl& url) const {

@@ -48,7 +48,7 @@ class ShowPictureLoader final : public ShowPictures {
     QImage imageAtURL(const QUrl& url, const QSizeF& size, PictureFetcher::Load load) const;
     /// A picture at the size of a row's picture.
     QImage image100AtURL(const QUrl& url) const;
-    QImage anyImage(const QSet<QUrl>& pictures) const;
+    QImage anyImage(const PictureURLs& pictures) const;
     CompletedShow completed(const ShowItem& show) const;
     void askForIMDbLink(const ShowItem& show, const SetShowImage& setShowImage);
     void behindSchedules(Block work, std::chrono::milliseconds waited = {});

@@ -32,10 +32,10 @@ QJsonObject detailsJSON(const TVEntrySupplementalData& details) {
     };
 }
 
-QJsonArray picturesJSON(const QSet<QUrl>& pictures) {
+QJsonArray picturesJSON(const PictureURLs& pictures) {
     QStringList texts;
-    for (const QUrl& picture : pictures) {
-        texts.append(picture.toString(QUrl::FullyEncoded));
+    for (const QByteArray& picture : pictures.encoded()) {
+        texts.append(QString::fromLatin1(picture));
     }
     texts.sort();
     return QJsonArray::fromStringList(texts);

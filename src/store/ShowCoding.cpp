@@ -96,7 +96,7 @@ class ShowDecoder {
         std::shared_ptr<const TVEntry> entry;
         std::optional<TVListingsCategory> categories;
         std::shared_ptr<const TVEntrySupplementalData> details;
-        QSet<QUrl> pictures;
+        PictureURLs pictures;
         if (count > 0) {
             entry = decodeEntry();
         }
@@ -242,13 +242,11 @@ class ShowDecoder {
         return details;
     }
 
-    QSet<QUrl> decodePictures() {
-        QSet<QUrl> pictures;
+    PictureURLs decodePictures() {
+        PictureURLs pictures;
         const std::size_t count = m_unarchiver.array();
         for (std::size_t i = 0; i < count && !m_unarchiver.failed(); ++i) {
-            QUrl picture;
-            m_unarchiver.decode(picture);
-            pictures.insert(picture);
+            pictures.insertEncoded(m_unarchiver.textBytes());
         }
         return pictures;
     }
@@ -283,8 +281,8 @@ QByteArray archivedShows(std::span<const ShowItem> shows) {
         }
         if (elements > 3) {
             archiver.beginArray(static_cast<std::size_t>(show.pictures().size()));
-            for (const QUrl& picture : show.pictures()) {
-                archiver.append(picture);
+            for (const QByteArray& picture : show.pictures().encoded()) {
+                archiver.appendText(picture);
             }
         }
     }

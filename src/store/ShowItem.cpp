@@ -3,7 +3,7 @@
 namespace guide {
 
 ShowItem::ShowItem(std::shared_ptr<const TVEntry> entry, std::optional<TVListingsCategory> categories,
-                   std::shared_ptr<const TVEntrySupplementalData> details, QSet<QUrl> pictures) {
+                   std::shared_ptr<const TVEntrySupplementalData> details, PictureURLs pictures) {
     // The archive has no later part without the earlier ones.
     if (!pictures.isEmpty() && !details) {
         details = std::make_shared<const TVEntrySupplementalData>();

@@ -1,11 +1,9 @@
 #pragma once
 
+#include "store/PictureURLs.h"
 #include "store/TVEntry.h"
 #include "store/TVEntrySupplementalData.h"
 #include "text/categories/TVListingsCategory.h"
-
-#include <QSet>
-#include <QUrl>
 
 #include <algorithm>
 #include <cstddef>
@@ -25,7 +23,7 @@ struct ExtendedTVEntry {
     /// Null makes a show item of at most two elements.
     std::shared_ptr<TVEntrySupplementalData> extra;
     /// Empty makes a show item of at most three elements.
-    QSet<QUrl> pictures;
+    PictureURLs pictures;
 };
 
 /// The result of a reader: the shows of each channel in the order of reading.
@@ -39,7 +37,7 @@ class ShowItem {
     explicit ShowItem(std::shared_ptr<const TVEntry> entry,
                       std::optional<TVListingsCategory> categories = std::nullopt,
                       std::shared_ptr<const TVEntrySupplementalData> details = nullptr,
-                      QSet<QUrl> pictures = {});
+                      PictureURLs pictures = {});
     /// From what a reader has built.
     explicit ShowItem(ExtendedTVEntry show);
 
@@ -49,7 +47,7 @@ class ShowItem {
     const std::optional<TVListingsCategory>& categories() const { return m_parts->categories; }
     const std::shared_ptr<const TVEntrySupplementalData>& details() const { return m_parts->details; }
     /// Any of them can serve as the picture of a row.
-    const QSet<QUrl>& pictures() const { return m_parts->pictures; }
+    const PictureURLs& pictures() const { return m_parts->pictures; }
 
     /// 1 to 4: the position of the last part that is present.
     int elementCount() const;
@@ -62,7 +60,7 @@ class ShowItem {
         std::shared_ptr<const TVEntry> entry;
         std::optional<TVListingsCategory> categories;
         std::shared_ptr<const TVEntrySupplementalData> details;
-        QSet<QUrl> pictures;
+        PictureURLs pictures;
     };
     std::shared_ptr<const Parts> m_parts;
 };

@@ -7,7 +7,7 @@ namespace guide {
 namespace {
 
 ShowItem itemWith(const ShowItem& item, std::shared_ptr<const TVEntrySupplementalData> details,
-                  const QSet<QUrl>& pictures) {
+                  const PictureURLs& pictures) {
     return ShowItem(item.entry(), item.categories(), std::move(details),
                     pictures.isEmpty() ? item.pictures() : pictures);
 }
@@ -16,7 +16,7 @@ ShowItem itemWith(const ShowItem& item, std::shared_ptr<const TVEntrySupplementa
 
 std::optional<ShowItems> listWithDetails(const ShowItems& list, const TVEntry& entry,
                                          std::shared_ptr<const TVEntrySupplementalData> details,
-                                         const QSet<QUrl>& pictures) {
+                                         const PictureURLs& pictures) {
     const auto found = std::find_if(list.begin(), list.end(), [&entry](const ShowItem& item) {
         return item.entry().get() == &entry || item.entry()->dateTime() > entry.dateTime();
     });
@@ -33,7 +33,7 @@ std::optional<ShowItems> listWithDetails(const ShowItems& list, const TVEntry& e
 
 std::optional<ShowItems> listWithIMDB(const ShowItems& list, const QString& identificator,
                                       TVListingsCategory category, const QUrl& url,
-                                      const QSet<QUrl>& pictures) {
+                                      const PictureURLs& pictures) {
     std::optional<ShowItems> updated;
     for (std::size_t i = 0; i < list.size(); ++i) {
         const ShowItem& item = list[i];

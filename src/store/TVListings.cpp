@@ -297,7 +297,7 @@ void TVListings::updatePopularList() {
 
 void TVListings::updateDetails(std::shared_ptr<const TVEntry> entry,
                                std::shared_ptr<const TVEntrySupplementalData> details,
-                               const QSet<QUrl>& pictures) {
+                               const PictureURLs& pictures) {
     m_state->change([entry = std::move(entry), details = std::move(details), pictures](State& state) {
         const auto list = state.lists.find(entry->channel());
         if (list == state.lists.end()) {
@@ -311,7 +311,7 @@ void TVListings::updateDetails(std::shared_ptr<const TVEntry> entry,
 
 void TVListings::updateIMDBForChannel(const ObjectId& channel, const QString& identificator,
                                       TVListingsCategory category, const QUrl& url,
-                                      const QSet<QUrl>& pictureURLs) {
+                                      const PictureURLs& pictureURLs) {
     m_state->change([channel, identificator, category, url, pictureURLs](State& state) {
         const auto list = state.lists.find(channel);
         if (list == state.lists.end()) {

@@ -83,11 +83,11 @@ class TVListings {
     /// Replaces the details of one stored show, and its pictures when any are given. Does nothing when the
     /// list no longer holds this very entry.
     void updateDetails(std::shared_ptr<const TVEntry> entry,
-                       std::shared_ptr<const TVEntrySupplementalData> details, const QSet<QUrl>& pictures);
+                       std::shared_ptr<const TVEntrySupplementalData> details, const PictureURLs& pictures);
     /// Sets the IMDb page, and the pictures when any are given, on every show of the channel with exactly
     /// this mask and title.
     void updateIMDBForChannel(const ObjectId& channel, const QString& identificator,
-                              TVListingsCategory category, const QUrl& url, const QSet<QUrl>& pictureURLs);
+                              TVListingsCategory category, const QUrl& url, const PictureURLs& pictureURLs);
 
     // ---- files
 

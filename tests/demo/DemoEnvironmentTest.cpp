@@ -142,7 +142,7 @@ TEST_F(DemoEnvironmentTest, AFilmHasAPageWithPictureAndTrailer) {
     ASSERT_TRUE(show->details()->trailerURL);
     EXPECT_TRUE(fetch(show->details()->trailerURL->toString()).body.startsWith("OggS"));
     ASSERT_EQ(show->pictures().size(), 1);
-    EXPECT_TRUE(fetch(show->pictures().begin()->toString(QUrl::FullyEncoded)).body.contains("<svg"));
+    EXPECT_TRUE(fetch(QString::fromLatin1(show->pictures().encoded().first())).body.contains("<svg"));
 }
 
 TEST_F(DemoEnvironmentTest, SelectsTwelveOfItsChannelsEachWithAnIcon) {

@@ -54,8 +54,8 @@ class ListDriverTest : public ::testing::Test {
                 EXPECT_EQ(entry.basic->channel(), channel(number));
                 text += " " + entry.basic->identificator()->toStdString() + "@" +
                         entry.basic->sourceId()->toStdString();
-                for (const QUrl& picture : entry.pictures) {
-                    text += "+" + picture.toString().toStdString();
+                for (const QByteArray& picture : entry.pictures.encoded()) {
+                    text += "+" + picture.toStdString();
                 }
             }
         }

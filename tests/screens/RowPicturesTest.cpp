@@ -58,7 +58,7 @@ TEST_F(RowPicturesTest, DetailsThatWereLookedUpStayWhenAShowEnds) {
     ShowItems completed;
     for (const ShowItem& show : shows) {
         completed.emplace_back(show.entry(), 0, std::make_shared<TVEntrySupplementalData>(),
-                               QSet<QUrl>{QUrl(u"http://x/"_s + *show.entry()->title())});
+                               PictureURLs{QUrl(u"http://x/"_s + *show.entry()->title())});
     }
     world.wait(6min);
     EXPECT_EQ(linesOf(table()).size(), 3) << "the first show has ended before the answer";

@@ -8,7 +8,6 @@
 #include "screens/shell/ScreenBroadcast.h"
 #include "screens/shell/ScreenEnvironment.h"
 
-#include <QSet>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -216,7 +215,7 @@ struct WorldShow {
     int until = 0;
     QString title;
     QString details = {};
-    QSet<QUrl> pictures = {};
+    PictureURLs pictures = {};
     TVListingsCategory categories = 0;
     QString description = {};
     std::shared_ptr<const ShowFacts> facts = {};

@@ -97,8 +97,8 @@ TEST(ListMergeTest, IncompletePagesKeepTheStoredRest) {
 
 TEST(ShowUpdatesTest, DetailsExtendTheShowOfTheEntry) {
     const auto details = std::make_shared<const TVEntrySupplementalData>();
-    const QSet<QUrl> pictures{QUrl(u"http://a/1"_s)};
-    const QSet<QUrl> otherPictures{QUrl(u"http://a/2"_s)};
+    const PictureURLs pictures{QUrl(u"http://a/1"_s)};
+    const PictureURLs otherPictures{QUrl(u"http://a/2"_s)};
     const auto entryOf = [](int at) { return extended(show(at, at + 1)).basic; };
     const ShowItems list{
         ShowItem(entryOf(0)), ShowItem(entryOf(1), 4),

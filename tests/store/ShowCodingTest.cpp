@@ -133,7 +133,10 @@ TEST(ShowCodingTest, OldAndIncompleteShowsAreRead) {
     archiver.beginRecord();
     archiver.encode("roles", u"X"_s);
     archiver.endRecord();
-    archiver.beginArray(0);
+    archiver.beginArray(3);
+    for (const char* picture : {"http://P/š", "http://p/%C5%A1", "http://p/2"}) {
+        archiver.append(QString::fromUtf8(picture));
+    }
     archiver.append(u"more"_s);
     archiver.append(9);
     const auto read = unarchivedShows(std::move(archiver).finish(), latinAlphabet());
@@ -141,7 +144,7 @@ TEST(ShowCodingTest, OldAndIncompleteShowsAreRead) {
     EXPECT_EQ(titles(*read), (Titles{"earlier", "later", "of tomorrow"}));
     EXPECT_EQ((*read)[1].entry()->channel(), channel(0xabc));
     EXPECT_EQ((*read)[1].entry()->language(), std::nullopt) << "taken from the previous show";
-    EXPECT_EQ((*read)[2].elementCount(), 3);
+    EXPECT_EQ((*read)[2].pictures().encoded(), (QByteArrayList{"http://p/%C5%A1", "http://p/2"}));
     EXPECT_EQ((*read)[2].categories(), 3u);
 }
 

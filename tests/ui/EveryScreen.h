@@ -144,7 +144,7 @@ class EveryScreenTest : public WindowTest, public testing::WithParamInterface<st
         show.extra->imdbURL = QUrl(u"http://127.0.0.1/title"_s);
         QImage image(1280, 720, QImage::Format_RGB32);
         image.fill(Qt::darkCyan);
-        world.environment->pictureCache.insert(*show.pictures.begin(), image);
+        world.environment->pictureCache.insert(show.pictures.first(), image);
         stack().push(std::make_shared<DetailViewController>(world.environment, ShowItem(std::move(show)),
                                                             u"Kino Večer"_s));
     }

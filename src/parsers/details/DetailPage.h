@@ -3,12 +3,12 @@
 #include "parsers/details/PageSource.h"
 #include "parsers/markers/MarkerWalk.h"
 #include "sources/SourceHostTable.h"
+#include "store/PictureURLs.h"
 #include "store/TVEntrySupplementalData.h"
 #include "text/categories/TVListingsCategory.h"
 
 #include <QByteArray>
 #include <QLocale>
-#include <QSet>
 #include <QString>
 #include <QUrl>
 
@@ -39,7 +39,7 @@ struct DetailPage {
 struct ShowDetails {
     TVListingsCategory categories = 0;
     TVEntrySupplementalData details;
-    QSet<QUrl> pictures;
+    PictureURLs pictures;
 };
 
 /// Fills in what the page contains. Everything else stays unset; an empty text counts as missing.

@@ -16,7 +16,7 @@ struct DetailScraperEnvironment {
     const SourceHostTable& hosts;
     /// Receives the details found for a show. May be empty.
     std::function<void(std::shared_ptr<const TVEntry> entry,
-                       std::shared_ptr<const TVEntrySupplementalData> details, const QSet<QUrl>& pictures)>
+                       std::shared_ptr<const TVEntrySupplementalData> details, const PictureURLs& pictures)>
         update;
     /// The device's locale.
     QLocale locale = {};

@@ -491,20 +491,27 @@ QString FeedShowMaker::categoryName(std::string_view text) {
     return known ? *known : m_categoryNames.add(text, feedString(text));
 }
 
-QSet<QUrl> FeedShowMaker::pictures(const FeedShow& show) {
+PictureURLs FeedShowMaker::pictures(const FeedShow& show) {
     const std::string_view name =
         m_options.reading.readsFacts ? show.details.icon.bytes() : show.icon.bytes();
     if (name.empty() || (show.iconIsImage && m_options.imageBase.isEmpty())) {
         return {};
     }
-    FeedMemo<QSet<QUrl>>& memo = show.iconIsImage ? m_images : m_icons;
-    if (const QSet<QUrl>* known = memo.find(name)) {
+    FeedMemo<PictureURLs>& memo = show.iconIsImage ? m_images : m_icons;
+    if (const PictureURLs* known = memo.find(name)) {
         return *known;
     }
-    const QString text = feedString(name);
-    const QUrl url(show.iconIsImage ? m_options.imageBase + text : text, QUrl::StrictMode);
-    const bool isUsable = m_options.reading.onlyWebPictures ? isWebURL(url) : url.isValid();
-    return memo.add(name, isUsable ? QSet<QUrl>{url} : QSet<QUrl>{});
+    const QString base = show.iconIsImage ? m_options.imageBase : QString();
+    QByteArray whole = base.toUtf8();
+    whole.append(name);
+    PictureURLs found;
+    if (!found.insertPlain(whole)) {
+        const QUrl url(base + feedString(name), QUrl::StrictMode);
+        if (m_options.reading.onlyWebPictures ? isWebURL(url) : url.isValid()) {
+            found.insert(url);
+        }
+    }
+    return memo.add(name, std::move(found));
 }
 
 } // namespace guide

@@ -81,7 +81,7 @@ class FeedShowMaker {
                                      const ShowFacts& facts, const QString& language);
     TVListingsCategory categories(std::string_view categoryText);
     QString categoryName(std::string_view text);
-    QSet<QUrl> pictures(const FeedShow& show);
+    PictureURLs pictures(const FeedShow& show);
 
     const FeedShowOptions m_options;
     FeedMemo<TitleParts> m_titles;
@@ -91,8 +91,8 @@ class FeedShowMaker {
     std::string m_code;
     FeedMemo<TVListingsCategory> m_categories;
     FeedMemo<QString> m_categoryNames;
-    FeedMemo<QSet<QUrl>> m_icons;
-    FeedMemo<QSet<QUrl>> m_images;
+    FeedMemo<PictureURLs> m_icons;
+    FeedMemo<PictureURLs> m_images;
 };
 
 } // namespace guide

@@ -103,10 +103,15 @@ void KeyedArchiver::append(QStringView text) {
 }
 
 void KeyedArchiver::append(const QUrl& url) {
-    const QByteArray encoded = url.toEncoded();
-    const auto count = static_cast<std::size_t>(encoded.size());
+    appendText(url.toEncoded());
+}
+
+void KeyedArchiver::appendText(QByteArrayView utf8) {
+    const auto count = static_cast<std::size_t>(utf8.size());
     appendHead(kText, count);
-    std::memcpy(room(count), encoded.constData(), count);
+    if (count > 0) {
+        std::memcpy(room(count), utf8.data(), count);
+    }
 }
 
 void KeyedArchiver::beginRecord() {
@@ -261,11 +266,14 @@ void KeyedUnarchiver::decode(QByteArray& bytes) {
 }
 
 void KeyedUnarchiver::decode(QUrl& url) {
-    const QByteArrayView bytes = stringOf(kText);
-    if (m_failed) {
-        return;
+    const QByteArrayView bytes = textBytes();
+    if (!m_failed) {
+        url = QUrl::fromEncoded(bytes.toByteArray());
     }
-    url = QUrl::fromEncoded(bytes.toByteArray());
+}
+
+QByteArrayView KeyedUnarchiver::textBytes() {
+    return stringOf(kText);
 }
 
 void KeyedUnarchiver::decode(bool& value) {

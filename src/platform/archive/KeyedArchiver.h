@@ -61,6 +61,8 @@ class KeyedArchiver {
     }
     void append(Moment moment) { append(static_cast<std::int64_t>(moment.time_since_epoch().count())); }
     void append(const QUrl& url);
+    /// A text in UTF-8.
+    void appendText(QByteArrayView utf8);
 
     /// A field of the open record. For a nested array or record, call `key` and then the functions above.
     template <std::size_t N, class T>
@@ -204,6 +206,9 @@ class KeyedUnarchiver {
     void decode(Function& function) {
         function(*this);
     }
+
+    /// The bytes of a text, which are not checked for being UTF-8. Valid as long as the archive.
+    QByteArrayView textBytes();
 
     /// Skips the next value and everything in it.
     void skip();

@@ -46,8 +46,9 @@ std::optional<Moment> shownEnd(const ShowItem& show) {
 }
 
 /// Any of them will do; always the same one is better.
-const QUrl& pictureOf(const QSet<QUrl>& pictures) {
-    return *std::min_element(pictures.begin(), pictures.end());
+QUrl pictureOf(const PictureURLs& pictures) {
+    const std::vector<QUrl> urls = pictures.urls();
+    return *std::min_element(urls.begin(), urls.end());
 }
 
 } // namespace
@@ -257,7 +258,7 @@ void DetailViewController::askForIMDbLink() {
     }
     m_environment->showLookup.imdbLink(
         m_show, m_imdbLink.expect(weak_from_this(), [this](const IMDbLink& link) {
-            const QSet<QUrl> pictures = link.picture ? QSet<QUrl>{*link.picture} : QSet<QUrl>();
+            const PictureURLs pictures = link.picture ? PictureURLs{*link.picture} : PictureURLs();
             m_environment->listings.updateIMDBForChannel(
                 entry().channel(), entry().identificator().value_or(QString()),
                 m_show.categories().value_or(0), link.page, pictures);
@@ -334,7 +335,7 @@ void DetailViewController::perform(Action action) {
         m_environment->navigation.playURL(*details->trailerURL);
         break;
     case Action::Pictures: {
-        std::vector<QUrl> urls(m_show.pictures().begin(), m_show.pictures().end());
+        std::vector<QUrl> urls = m_show.pictures().urls();
         std::sort(urls.begin(), urls.end());
         m_environment->navigation.showPictures(urls);
         break;

@@ -10,7 +10,7 @@ void RowPictures::rowDisplayed(const ShowItem& show, const std::weak_ptr<const v
         return;
     }
     if (imagesEnabled && !show.pictures().isEmpty()) {
-        loadPicture(*show.pictures().constBegin(), channel, identifier, owner);
+        loadPicture(show.pictures().first(), channel, identifier, owner);
     }
     if (!imagesEnabled || m_channelsWithLoadedShowDetails.contains(channel)) {
         return;

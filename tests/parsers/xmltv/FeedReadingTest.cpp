@@ -67,8 +67,8 @@ QString summary(const ExtendedTVEntry& show) {
             parts << QLatin1StringView(name) + u'=' + *text;
         }
     }
-    for (const QUrl& picture : show.pictures) {
-        parts << u"picture="_s + picture.toString();
+    for (const QByteArray& picture : show.pictures.encoded()) {
+        parts << u"picture="_s + QString::fromLatin1(picture);
     }
     const QJsonObject facts = factsJSON(ShowItem(std::make_shared<const TVEntry>(entry)));
     for (auto fact = facts.begin(); fact != facts.end(); ++fact) {

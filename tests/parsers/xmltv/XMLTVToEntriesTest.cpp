@@ -181,6 +181,8 @@ TEST(XMLTVToEntries, AnalysesTexts) {
         {"icon without an address", kIcon + "<icon src=\"\"/>", "pictures", "null"},
         {"an invalid icon address", kIcon + "<icon src=\"http://h:x/\"/>", "pictures", "null"},
         {"image", "<image>a/b.png</image>", "pictures", R"(["https://images.example/images/a/b.png"])"},
+        {"image, encoded", "<image>š.png</image>", "pictures",
+         R"(["https://images.example/images/%C5%A1.png"])"},
     };
     const std::string before = programme(kLater, "<title>Before</title><category>film</category>");
     XMLTVOptions how = options();
