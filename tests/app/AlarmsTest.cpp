@@ -3,6 +3,8 @@
 #include "screens/channels/EditChannelListViewController.h"
 #include "screens/shell/GuideTabs.h"
 
+#include <QDir>
+
 #include <gtest/gtest.h>
 
 namespace guide {
@@ -72,6 +74,30 @@ TEST_F(GuideAlarmsTest, AnAlarmOfARowIsAnEventAndFollowsTheCalendar) {
     // Another program removes it.
     events.remove(made[0].identifier);
     EXPECT_TRUE(world.runUntil([&] { return !alarmed() && badge().isEmpty(); }));
+}
+
+TEST_F(GuideAlarmsTest, AnEventFollowsAShowThatIsLate) {
+    const auto alarmed = [this] {
+        const Row* shown = row(u"Morning 3"_s);
+        return shown && std::get<ShowRow>(shown->content).alarmed;
+    };
+    press(u"Morning 3"_s);
+    ASSERT_TRUE(world.runUntil(alarmed));
+    const CalendarEvent made = events.events().front();
+    world.end();
+
+    // Nothing of the old listings is left.
+    QDir(world.folders.caches).removeRecursively();
+    QDir().mkpath(world.folders.caches);
+    world.clock.advance(30min);
+    world.serve(u"first"_s, 1, world.feed(u"Morning"_s, 6));
+    world.start();
+    world.guide->applicationDidBecomeActive();
+    ASSERT_TRUE(world.check());
+    EXPECT_TRUE(world.runUntil([&] { return events.events().front().startDate == made.startDate + 30min; }));
+    EXPECT_TRUE(world.runUntil(alarmed));
+    ASSERT_EQ(events.events().size(), 1U);
+    EXPECT_EQ(events.events().front().identifier, made.identifier);
 }
 
 TEST_F(GuideAlarmsTest, ASettingOfTheOptionsShowsAtOnce) {
