@@ -5,6 +5,7 @@
 #include "platform/linux/calendar/EDSWatch.h"
 
 #include <QSet>
+#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
@@ -24,6 +25,8 @@ using SteadyClock = std::chrono::steady_clock;
 constexpr auto kLongest = 28s;
 /// Of opening one calendar while all are listed.
 constexpr auto kLongestOpening = 5s;
+/// How often a calendar that was just made is tried.
+constexpr std::chrono::milliseconds kOpeningInterval = 20ms;
 /// How often a service that keeps ending is started again to be watched.
 constexpr auto kRewatchInterval = 5s;
 const QString kPersonalCalendar = u"system-calendar"_s;
@@ -68,7 +71,11 @@ class EDSEventStore::Worker final : public QObject {
         const QString uid = createEDSSource(m_connection, title);
         const std::vector<EDSSource> sources = edsSources(m_connection).value_or(std::vector<EDSSource>{});
         const auto made = std::ranges::find(sources, uid, &EDSSource::uid);
-        return uid.isEmpty() || made == sources.end() ? std::nullopt : std::optional(calendar(*made));
+        if (uid.isEmpty() || made == sources.end()) {
+            return std::nullopt;
+        }
+        waitUntilKnown(uid);
+        return calendar(*made);
     }
 
     void refresh() {
@@ -171,6 +178,14 @@ class EDSEventStore::Worker final : public QObject {
             open.calendar = std::make_unique<EDSCalendar>(m_connection, identifier);
         }
         return open;
+    }
+
+    /// The process that opens calendars hears of a new one a little later than we do.
+    void waitUntilKnown(const QString& uid) {
+        const SteadyClock::time_point latest = SteadyClock::now() + kLongestOpening;
+        while (opened(uid).calendar->open(kLongestOpening) && SteadyClock::now() < latest) {
+            QThread::msleep(kOpeningInterval.count());
+        }
     }
 
     EventCalendar calendar(const EDSSource& source) {
