@@ -2,6 +2,7 @@
 
 #include "parsers/ParsersLog.h"
 #include "parsers/xmltv/FeedElementFacts.h"
+#include "parsers/xmltv/FeedShowTexts.h"
 #include "sources/WebURL.h"
 #include "text/categories/CategoryMapping.h"
 #include "text/categories/FeedGenres.h"
@@ -91,34 +92,6 @@ void completeFacts(ShowFacts& facts, const ShowFacts& other) {
     }
 }
 
-/// The texts that a show is made of.
-struct Texts {
-    /// In UTF-8.
-    std::string_view title;
-    std::optional<QString> subtitle;
-    std::optional<QString> description;
-    std::optional<QString> roles;
-    std::optional<QString> directedBy;
-    /// In another language.
-    std::optional<QString> otherTitle;
-};
-
-/// The text in the channel's language, otherwise the first one with any.
-const FeedTexts::Each* chosen(const FeedTexts& texts, std::string_view language) {
-    const FeedTexts::Each* best = nullptr;
-    for (const FeedTexts::Each& each : texts.all()) {
-        if (each.text.find_first_not_of(" \n\t") == std::string::npos) {
-            continue;
-        }
-        const bool isOfLanguage = !language.empty() && std::string_view(each.kind).substr(0, 2) == language;
-        if (isOfLanguage) {
-            return &each;
-        }
-        best = best ? best : &each;
-    }
-    return best;
-}
-
 /// Some feeds repeat the title in front of the subtitle, or in its place.
 void removeTitle(std::optional<QString>& subtitle, const QString& title) {
     if (!subtitle || !subtitle->startsWith(title, Qt::CaseInsensitive)) {
@@ -169,48 +142,6 @@ QString withoutSubtitle(const QString& title, const std::optional<QString>& subt
     return title;
 }
 
-std::optional<QString> stringOf(const FeedTexts::Each* text) {
-    return text ? std::optional(feedString(text->text)) : std::nullopt;
-}
-
-/// Names of people, each an element.
-std::optional<QString> namesOf(const FeedTexts& elements) {
-    QString names;
-    for (const FeedTexts::Each& each : elements.all()) {
-        QString name = tidiedTitle(feedString(each.text));
-        constexpr qsizetype kLongestRemark = 16;
-        if (name.size() <= kLongestRemark) {
-            name = withoutOthers(name);
-        }
-        // The role is missing.
-        if (name.endsWith(" als"_L1)) {
-            name.chop(4);
-        }
-        if (!name.isEmpty()) {
-            names += (names.isEmpty() ? QString() : u", "_s) + name;
-        }
-    }
-    return names.isEmpty() ? std::nullopt : std::optional(std::move(names));
-}
-
-Texts chosenTexts(const FeedDetails& details, std::string_view code) {
-    Texts texts{.title = {},
-                .subtitle = stringOf(chosen(details.subtitles, code)),
-                .description = stringOf(chosen(details.descriptions, code)),
-                .roles = namesOf(details.actors),
-                .directedBy = namesOf(details.directors),
-                .otherTitle = {}};
-    if (const FeedTexts::Each* title = chosen(details.titles, code)) {
-        texts.title = title->text;
-        for (const FeedTexts::Each& each : details.titles.all()) {
-            if (!texts.otherTitle && each.text != title->text && !each.text.empty()) {
-                texts.otherTitle = tidiedTitle(feedString(each.text));
-            }
-        }
-    }
-    return texts;
-}
-
 } // namespace
 
 void FeedShow::clear() {
@@ -255,13 +186,13 @@ FeedShowMaker::~FeedShowMaker() = default;
 std::optional<ExtendedTVEntry> FeedShowMaker::make(const FeedShow& show, const FeedText& category,
                                                    const QString& language) {
     const FeedReading& reading = m_options.reading;
-    const Texts texts = reading.readsFacts ? chosenTexts(show.details, codeOf(language))
-                                           : Texts{.title = show.title.bytes(),
-                                                   .subtitle = show.subtitle.string(),
-                                                   .description = show.description.string(),
-                                                   .roles = show.roles.string(),
-                                                   .directedBy = show.directedBy.string(),
-                                                   .otherTitle = {}};
+    const FeedShowTexts texts = reading.readsFacts ? chosenTexts(show.details, codeOf(language))
+                                                   : FeedShowTexts{.title = show.title.bytes(),
+                                                                   .subtitle = show.subtitle.string(),
+                                                                   .description = show.description.string(),
+                                                                   .roles = show.roles.string(),
+                                                                   .directedBy = show.directedBy.string(),
+                                                                   .otherTitle = {}};
     const TitleParts& title = titleParts(texts.title, language, yearOf(show.dateTime));
     if (title.isPlaceholder) {
         return std::nullopt;
