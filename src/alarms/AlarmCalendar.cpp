@@ -120,8 +120,19 @@ void AlarmCalendar::ensureSelectedCalendarIsSet() {
     }
     const QString text = m_environment.userDefaults.stringForKey(kSelectedCalendarKey).value_or(QString());
     EventStore& store = m_environment.eventStore;
-    std::optional<EventCalendar> calendar =
-        text.isEmpty() ? std::nullopt : calendarOfDescription(store.calendars(), text);
+    std::optional<EventCalendar> calendar;
+    if (!text.isEmpty()) {
+        const std::optional<std::vector<EventCalendar>> all = store.calendars();
+        if (!all) {
+            return;
+        }
+        calendar = calendarOfDescription(*all, text);
+        // The chosen one may be among those that cannot be used yet.
+        if (!calendar &&
+            std::ranges::find(*all, CalendarState::Unavailable, &EventCalendar::state) != all->end()) {
+            return;
+        }
+    }
     if (!calendar) {
         calendar = store.defaultCalendarForNewEvents();
     }

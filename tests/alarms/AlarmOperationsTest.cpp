@@ -257,6 +257,28 @@ TEST(AlarmOperationsTest, ACalendarIsSelectedOnAllDevices) {
               world.keyValueStore.valueForKey(u"selectedCalendar"_s)->toString());
 }
 
+// While a service starts slowly, nothing may take the place of the calendar that the user chose.
+TEST(AlarmOperationsTest, TheChosenCalendarIsWaitedFor) {
+    MemoryEventStore events;
+    const EventCalendar other = events.addCalendar({.identifier = u"a"_s, .title = u"A"_s, .source = {}});
+    events.setDefaultCalendar(other.identifier);
+    EventCalendar chosen{.identifier = u"b"_s, .title = u"B"_s, .source = {}};
+    AlarmWorld world(events, chosen);
+    events.failToList();
+    world.sync();
+    EXPECT_EQ(world.alarmCalendar->selectedCalendar(), std::nullopt) << "the list cannot be read";
+    events.failToList(false);
+    events.addCalendar(chosen);
+    events.setState(chosen.identifier, CalendarState::Unavailable);
+    world.sync();
+    EXPECT_EQ(world.alarmCalendar->selectedCalendar(), std::nullopt) << "it does not answer yet";
+    events.setState(chosen.identifier, CalendarState::Ready);
+    events.setWritable(chosen.identifier, true);
+    chosen.allowsContentModifications = true;
+    world.sync();
+    EXPECT_EQ(world.alarmCalendar->selectedCalendar(), chosen);
+}
+
 // ---- the choice of an alarm
 
 TEST(AlarmSettingsTest, OffersWhatIsPossible) {

@@ -114,8 +114,11 @@ class EventStore {
     /// Asks the user where that is needed; the answer may come on any thread.
     virtual void requestAccess(std::function<void(bool granted)> completion) = 0;
 
-    /// All calendars with events, including those that cannot be written.
-    virtual std::vector<EventCalendar> calendars() = 0;
+    /// All calendars with events, including those that cannot be written; unset when the list could not be
+    /// read, which does not mean that there are none.
+    virtual std::optional<std::vector<EventCalendar>> calendars() = 0;
+    /// May create a calendar when there is none. Nothing when it cannot be told which one it is now, because
+    /// the list could not be read or a calendar is unavailable.
     virtual std::optional<EventCalendar> defaultCalendarForNewEvents() = 0;
     /// Makes a calendar on this device; nothing when that failed.
     virtual std::optional<EventCalendar> createCalendar(const QString& title) = 0;

@@ -29,12 +29,15 @@ class MemoryEventStore final : public EventStore {
         completion(granted);
     }
 
-    std::vector<EventCalendar> calendars() override {
+    std::optional<std::vector<EventCalendar>> calendars() override {
         const std::lock_guard lock(m_guard);
-        return m_calendars;
+        return m_listFails ? std::nullopt : std::optional(m_calendars);
     }
     std::optional<EventCalendar> defaultCalendarForNewEvents() override {
         const std::lock_guard lock(m_guard);
+        if (m_listFails) {
+            return std::nullopt;
+        }
         const auto found = std::ranges::find(m_calendars, m_default, &EventCalendar::identifier);
         return found == m_calendars.end() ? std::nullopt : std::optional(*found);
     }
@@ -111,6 +114,13 @@ class MemoryEventStore final : public EventStore {
             found->allowsContentModifications = writable;
         }
     }
+    void setState(const QString& calendar, CalendarState state) {
+        const std::lock_guard lock(m_guard);
+        const auto found = std::ranges::find(m_calendars, calendar, &EventCalendar::identifier);
+        if (found != m_calendars.end()) {
+            found->state = state;
+        }
+    }
     /// With an identifier of the caller.
     void addEvent(CalendarEvent event) {
         const std::lock_guard lock(m_guard);
@@ -146,6 +156,11 @@ class MemoryEventStore final : public EventStore {
         const std::lock_guard lock(m_guard);
         m_unremovable = identifiers;
         m_removeFault = fault;
+    }
+    /// The list of calendars.
+    void failToList(bool fail = true) {
+        const std::lock_guard lock(m_guard);
+        m_listFails = fail;
     }
     void failToReadRanges(bool fail = true) {
         const std::lock_guard lock(m_guard);
@@ -245,6 +260,7 @@ class MemoryEventStore final : public EventStore {
     QSet<QString> m_unremovable;
     EventFault m_saveFault = EventFault::Failed;
     EventFault m_removeFault = EventFault::Failed;
+    bool m_listFails = false;
     bool m_rangesFail = false;
     int m_revision = 0;
     int m_made = 0;

@@ -18,7 +18,8 @@ class DesktopCalendar final : public CalendarUnderTest {
 
     EventStore& store() override { return m_store; }
     EventCalendar calendar() override {
-        for (const EventCalendar& calendar : m_store.calendars()) {
+        for (const auto all = m_store.calendars().value_or(std::vector<EventCalendar>());
+             const EventCalendar& calendar : all) {
             if (calendar.identifier == m_source) {
                 return calendar;
             }

@@ -251,7 +251,7 @@ TEST_P(EventStoreTest, CreatesACalendar) {
     ASSERT_TRUE(made);
     EXPECT_EQ(made->title, u"TV: večer / noc"_s);
     EXPECT_TRUE(made->allowsContentModifications);
-    const std::vector<EventCalendar> all = store().calendars();
+    const std::vector<EventCalendar> all = store().calendars().value();
     EXPECT_EQ(std::ranges::count(all, *made), 1);
     CalendarEvent event = showEvent(u"ca1"_s);
     event.calendar = made->identifier;

@@ -65,7 +65,7 @@ TEST_F(FolderEventStoreTest, ShowsAFolderAsOtherProgramsDo) {
     ASSERT_TRUE(writeFile(parent.filePath(u"family/displayname"_s), "Rodina \n"));
     ASSERT_TRUE(writeFile(parent.filePath(u"family/color"_s), "#ff000080\n"));
     ASSERT_TRUE(writeFile(parent.filePath(u"note"_s), "no calendar"));
-    const std::vector<EventCalendar> all = store.calendars();
+    const std::vector<EventCalendar> all = store.calendars().value();
     ASSERT_EQ(all.size(), 2U);
     EXPECT_EQ(all[0].title, u"Rodina"_s);
     EXPECT_EQ(all[0].color[0], 1.0);

@@ -57,10 +57,14 @@ class EDSEventStore::Worker final : public QObject {
 
     bool isConnected() const { return m_connection.isConnected(); }
 
-    std::vector<EventCalendar> calendars() {
+    std::optional<std::vector<EventCalendar>> calendars() {
         m_connection.beginCalls(kLongest);
+        const std::optional<std::vector<EDSSource>> sources = edsSources(m_connection);
+        if (!sources) {
+            return std::nullopt;
+        }
         std::vector<EventCalendar> calendars;
-        for (const EDSSource& source : edsSources(m_connection).value_or(std::vector<EDSSource>{})) {
+        for (const EDSSource& source : *sources) {
             calendars.push_back(calendar(source));
         }
         return calendars;
@@ -294,21 +298,28 @@ void EDSEventStore::requestAccess(std::function<void(bool granted)> completion) 
     completion(access() == CalendarAccess::Granted);
 }
 
-std::vector<EventCalendar> EDSEventStore::calendars() {
+std::optional<std::vector<EventCalendar>> EDSEventStore::calendars() {
     return run([this] { return m_worker->calendars(); });
 }
 
 std::optional<EventCalendar> EDSEventStore::defaultCalendarForNewEvents() {
-    const std::vector<EventCalendar> all = calendars();
+    const std::optional<std::vector<EventCalendar>> all = calendars();
+    if (!all) {
+        return std::nullopt;
+    }
     const auto isUsable = [](const EventCalendar& calendar) {
         return calendar.allowsContentModifications && calendar.state == CalendarState::Ready;
     };
-    const auto personal = std::ranges::find(all, kPersonalCalendar, &EventCalendar::identifier);
-    if (personal != all.end() && isUsable(*personal)) {
+    const auto personal = std::ranges::find(*all, kPersonalCalendar, &EventCalendar::identifier);
+    if (personal != all->end() && isUsable(*personal)) {
         return *personal;
     }
-    const auto first = std::ranges::find_if(all, isUsable);
-    return first == all.end() ? createCalendar(u"TV"_s) : std::optional(*first);
+    // One that opens slowly may be the default as soon as it is open.
+    if (std::ranges::find(*all, CalendarState::Unavailable, &EventCalendar::state) != all->end()) {
+        return std::nullopt;
+    }
+    const auto first = std::ranges::find_if(*all, isUsable);
+    return first == all->end() ? createCalendar(u"TV"_s) : std::optional(*first);
 }
 
 std::optional<EventCalendar> EDSEventStore::createCalendar(const QString& title) {

@@ -23,7 +23,8 @@ class EDSEventStore final : public EventStore {
     CalendarAccess access() override;
     void requestAccess(std::function<void(bool granted)> completion) override;
     /// Opens the calendars, because only then it is known whether they can be written.
-    std::vector<EventCalendar> calendars() override;
+    std::optional<std::vector<EventCalendar>> calendars() override;
+    /// The personal calendar, or the first that can be used; creates one when there is none.
     std::optional<EventCalendar> defaultCalendarForNewEvents() override;
     std::optional<EventCalendar> createCalendar(const QString& title) override;
     void refreshSources() override;

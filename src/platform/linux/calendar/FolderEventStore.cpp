@@ -10,7 +10,10 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <filesystem>
+#include <string>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace guide {
@@ -47,6 +50,39 @@ QString folderName(const QString& title) {
     return name.isEmpty() ? u"calendar"_s : name;
 }
 
+/// The names of the folders in it, sorted; nothing when they cannot be told. A missing folder has none.
+std::optional<QStringList> foldersIn(const QString& parent) {
+    std::error_code error;
+    const std::filesystem::path path(QFile::encodeName(parent).toStdString());
+    std::filesystem::directory_iterator entry(path, error);
+    QStringList names;
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        const std::string name = entry->path().filename().string();
+        std::error_code unknown;
+        if (!name.starts_with('.') && entry->is_directory(unknown)) {
+            names << QFile::decodeName(QByteArray::fromStdString(name));
+        }
+    }
+    if (error && error != std::errc::no_such_file_or_directory && error != std::errc::not_a_directory) {
+        return std::nullopt;
+    }
+    names.sort();
+    return names.mid(0, kMostCalendars);
+}
+
+EventCalendar calendarIn(const QString& parent, const QString& name) {
+    const QString path = parent + u'/' + name;
+    const QString home = QDir::homePath();
+    const QString title = line(path + "/displayname"_L1);
+    EventCalendar calendar;
+    calendar.identifier = name;
+    calendar.title = title.isEmpty() ? name : title;
+    calendar.source = parent.startsWith(home + u'/') ? u'~' + parent.mid(home.size()) : parent;
+    calendar.color = calendarColor(line(path + "/color"_L1)).value_or(calendar.color);
+    calendar.allowsContentModifications = isWritableFolder(path);
+    return calendar;
+}
+
 /// The calendar and the file of an event's identifier.
 std::pair<QString, QString> parts(const QString& identifier) {
     const qsizetype slash = identifier.indexOf(u'/');
@@ -79,7 +115,8 @@ CalendarAccess FolderEventStore::access() {
     if (isWritableFolder(folder)) {
         return CalendarAccess::Granted;
     }
-    const bool hasWritable = std::ranges::any_of(calendarsNow(), &EventCalendar::allowsContentModifications);
+    const auto all = calendars();
+    const bool hasWritable = all && std::ranges::any_of(*all, &EventCalendar::allowsContentModifications);
     return hasWritable ? CalendarAccess::Granted : CalendarAccess::Refused;
 }
 
@@ -87,34 +124,25 @@ void FolderEventStore::requestAccess(std::function<void(bool granted)> completio
     completion(access() == CalendarAccess::Granted);
 }
 
-std::vector<EventCalendar> FolderEventStore::calendars() {
-    return calendarsNow();
-}
-
-std::vector<EventCalendar> FolderEventStore::calendarsNow() const {
+std::optional<std::vector<EventCalendar>> FolderEventStore::calendars() {
+    const std::optional<QStringList> names = foldersIn(m_parent);
+    if (!names) {
+        return std::nullopt;
+    }
     std::vector<EventCalendar> calendars;
-    const QString home = QDir::homePath();
-    const QString source = m_parent.startsWith(home + u'/') ? u'~' + m_parent.mid(home.size()) : m_parent;
-    const QStringList names =
-        QDir(m_parent).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name).mid(0, kMostCalendars);
-    for (const QString& name : names) {
-        const QString path = m_parent + u'/' + name;
-        EventCalendar calendar;
-        calendar.identifier = name;
-        const QString title = line(path + "/displayname"_L1);
-        calendar.title = title.isEmpty() ? name : title;
-        calendar.source = source;
-        calendar.color = calendarColor(line(path + "/color"_L1)).value_or(calendar.color);
-        calendar.allowsContentModifications = isWritableFolder(path);
-        calendars.push_back(std::move(calendar));
+    for (const QString& name : *names) {
+        calendars.push_back(calendarIn(m_parent, name));
     }
     return calendars;
 }
 
 std::optional<EventCalendar> FolderEventStore::defaultCalendarForNewEvents() {
-    const std::vector<EventCalendar> all = calendarsNow();
-    const auto first = std::ranges::find_if(all, &EventCalendar::allowsContentModifications);
-    return first == all.end() ? createCalendar(u"TV"_s) : std::optional(*first);
+    const std::optional<std::vector<EventCalendar>> all = calendars();
+    if (!all) {
+        return std::nullopt;
+    }
+    const auto first = std::ranges::find_if(*all, &EventCalendar::allowsContentModifications);
+    return first == all->end() ? createCalendar(u"TV"_s) : std::optional(*first);
 }
 
 std::optional<EventCalendar> FolderEventStore::createCalendar(const QString& title) {
@@ -129,9 +157,7 @@ std::optional<EventCalendar> FolderEventStore::createCalendar(const QString& tit
             replaceFile(path + "/color"_L1, kNewCalendarColor.toByteArray());
             syncFolder(m_parent);
             m_known.insert(name, folderStamps(path).value_or(FolderStamps{}));
-            std::vector<EventCalendar> all = calendarsNow();
-            const auto made = std::ranges::find(all, name, &EventCalendar::identifier);
-            return made == all.end() ? std::nullopt : std::optional(std::move(*made));
+            return calendarIn(m_parent, name);
         }
         if (errno != EEXIST) {
             break;
@@ -249,11 +275,15 @@ std::vector<EventOutcome> FolderEventStore::apply(const std::vector<EventChange>
     return outcomes;
 }
 
-FolderEventStore::Known FolderEventStore::stampsNow() const {
+std::optional<FolderEventStore::Known> FolderEventStore::stampsNow() const {
+    const std::optional<QStringList> names = foldersIn(m_parent);
+    if (!names) {
+        return std::nullopt;
+    }
     Known stamps;
-    for (const EventCalendar& calendar : calendarsNow()) {
-        if (auto found = folderStamps(m_parent + u'/' + calendar.identifier)) {
-            stamps.insert(calendar.identifier, std::move(*found));
+    for (const QString& name : *names) {
+        if (auto found = folderStamps(m_parent + u'/' + name)) {
+            stamps.insert(name, std::move(*found));
         }
     }
     return stamps;
@@ -268,17 +298,17 @@ void FolderEventStore::setCalendarsChanged(std::function<void()> calendarsChange
     }
     const std::lock_guard lock(m_mutex);
     m_watch = std::make_unique<FolderTreeWatch>(m_parent, [this] { look(); });
-    m_known = stampsNow();
+    m_known = stampsNow().value_or(Known());
 }
 
 void FolderEventStore::look() {
     {
         const std::lock_guard lock(m_mutex);
-        Known now = stampsNow();
-        if (now == m_known) {
+        std::optional<Known> now = stampsNow();
+        if (!now || *now == m_known) {
             return;
         }
-        m_known = std::move(now);
+        m_known = *std::move(now);
     }
     m_calendarsChanged();
 }

@@ -25,7 +25,7 @@ class FolderEventStore final : public EventStore {
 
     CalendarAccess access() override;
     void requestAccess(std::function<void(bool granted)> completion) override;
-    std::vector<EventCalendar> calendars() override;
+    std::optional<std::vector<EventCalendar>> calendars() override;
     /// Creates a calendar when there is none.
     std::optional<EventCalendar> defaultCalendarForNewEvents() override;
     std::optional<EventCalendar> createCalendar(const QString& title) override;
@@ -42,10 +42,10 @@ class FolderEventStore final : public EventStore {
     /// The state of all folders, by name.
     using Known = QHash<QString, FolderStamps>;
 
-    std::vector<EventCalendar> calendarsNow() const;
     /// Up to date; nothing when there is no such calendar.
     CalendarFolder* folder(const QString& identifier);
-    Known stampsNow() const;
+    /// Nothing when they cannot be read.
+    std::optional<Known> stampsNow() const;
     void look();
 
     const QString m_parent;
