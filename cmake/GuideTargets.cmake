@@ -111,3 +111,17 @@ function(guide_bundle_beside TARGET)
     get_target_property(FOLDER ${TARGET} BINARY_DIR)
     file(CREATE_LINK ${PROJECT_SOURCE_DIR}/data ${FOLDER}/data SYMBOLIC)
 endfunction()
+
+# The string table in other languages. The English one holds the plural forms.
+set(GUIDE_TRANSLATIONS)
+foreach(LANGUAGE cs en sk)
+    list(APPEND GUIDE_TRANSLATIONS ${PROJECT_SOURCE_DIR}/data/translations/quellin_${LANGUAGE}.ts)
+endforeach()
+
+# Puts the string table into TARGET, where installTranslations() finds it. Once per folder.
+function(guide_translations TARGET)
+    set(FOLDER ${CMAKE_CURRENT_BINARY_DIR}/translations)
+    set_source_files_properties(${GUIDE_TRANSLATIONS} PROPERTIES OUTPUT_LOCATION ${FOLDER})
+    qt_add_lrelease(${TARGET} TS_FILES ${GUIDE_TRANSLATIONS} QM_FILES_OUTPUT_VARIABLE TABLES)
+    qt_add_resources(${TARGET} translations PREFIX /translations BASE ${FOLDER} FILES ${TABLES})
+endfunction()

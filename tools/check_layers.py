@@ -19,6 +19,7 @@ ALLOWED = {
     "ui": "core platform screens store text",
     "demo": "core platform sources store text",
     "app": "alarms core demo parsers platform platform/linux platform/memory screens sources store text ui",
+    "agent": "platform platform/linux text",
     "probe": "alarms core parsers platform platform/linux platform/memory sources store text",
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"')

@@ -2018,5 +2018,25 @@ Počkejte, až se program načte.</translation>
         <source>Check your Internet connection.</source>
         <translation>Zkontrolujte připojení k internetu.</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Otevřít</translation>
+    </message>
+    <message>
+        <source>Starts now</source>
+        <translation>Právě začíná</translation>
+    </message>
+    <message numerus="yes">
+        <source>Began %n min ago</source>
+        <translation>
+            <numerusform>Začalo před %n min</numerusform>
+            <numerusform>Začalo před %n min</numerusform>
+            <numerusform>Začalo před %n min</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remind me at the start</source>
+        <translation>Připomenout při začátku</translation>
+    </message>
 </context>
 </TS>

@@ -206,5 +206,12 @@
             <numerusform>Every %n days</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Began %n min ago</source>
+        <translation>
+            <numerusform>Began %n min ago</numerusform>
+            <numerusform>Began %n min ago</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

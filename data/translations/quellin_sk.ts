@@ -2018,5 +2018,25 @@ Počkajte, kým sa program načíta.</translation>
         <source>Check your Internet connection.</source>
         <translation>Skontrolujte pripojenie na internet.</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Otvoriť</translation>
+    </message>
+    <message>
+        <source>Starts now</source>
+        <translation>Práve sa začína</translation>
+    </message>
+    <message numerus="yes">
+        <source>Began %n min ago</source>
+        <translation>
+            <numerusform>Začalo sa pred %n min</numerusform>
+            <numerusform>Začalo sa pred %n min</numerusform>
+            <numerusform>Začalo sa pred %n min</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remind me at the start</source>
+        <translation>Pripomenúť na začiatku</translation>
+    </message>
 </context>
 </TS>

@@ -33,6 +33,7 @@
 #include "platform/linux/SpawnedProgramRunner.h"
 #include "platform/linux/TerminationSignals.h"
 #include "platform/linux/calendar/EventStoreChoice.h"
+#include "text/display/Translations.h"
 #include "ui/GuideWindow.h"
 
 #include <QDesktopServices>

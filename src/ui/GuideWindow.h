@@ -71,8 +71,4 @@ class GuideWindow {
 /// which it then prepares.
 bool prepareWebPages();
 
-/// Loads the texts of the device's language into the string table; English for a language without a
-/// translation. Once, on the main thread, before the first screen is made.
-void installTranslations(const QLocale& locale);
-
 } // namespace guide

@@ -5,6 +5,7 @@
 #include "screens/Localized.h"
 #include "screens/kit/TableViewController.h"
 #include "screens/root/RootViewController.h"
+#include "text/display/Translations.h"
 
 #include <QPalette>
 #include <QTranslator>

@@ -36,4 +36,8 @@ std::unique_ptr<EventStore> eventStoreFor(const EventStoreOptions& options, cons
     return std::make_unique<FolderEventStore>(options.folder, options.scheme, clock);
 }
 
+bool isOfDesktop(const EventStore& store) {
+    return dynamic_cast<const EDSEventStore*>(&store) != nullptr;
+}
+
 } // namespace guide

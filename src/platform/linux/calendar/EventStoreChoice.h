@@ -22,4 +22,7 @@ struct EventStoreOptions {
 /// bus, which answers at once, and starts nothing. Needs a QCoreApplication.
 std::unique_ptr<EventStore> eventStoreFor(const EventStoreOptions& options, const Clock& clock);
 
+/// Whether the store has the calendars of the desktop, which other programs of the desktop know as well.
+bool isOfDesktop(const EventStore& store);
+
 } // namespace guide

@@ -1,4 +1,4 @@
-#include "ui/GuideWindow.h"
+#include "text/display/Translations.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
