@@ -2038,5 +2038,25 @@ Počkejte, až se program načte.</translation>
         <source>Remind me at the start</source>
         <translation>Připomenout při začátku</translation>
     </message>
+    <message>
+        <source>Ring alerts on this device</source>
+        <translation>Zvonit upozornění na tomto zařízení</translation>
+    </message>
+    <message>
+        <source>Alerts are notifications, also while the guide is closed.</source>
+        <translation>Upozornění jsou oznámení, i když je průvodce zavřený.</translation>
+    </message>
+    <message>
+        <source>The reminders of your desktop ring. The guide rings when they do not run.</source>
+        <translation>Zvoní připomínky vaší plochy. Průvodce zvoní, když neběží.</translation>
+    </message>
+    <message>
+        <source>The reminders of your desktop ring already.</source>
+        <translation>Připomínky vaší plochy už zvoní.</translation>
+    </message>
+    <message>
+        <source>Ringing could not be changed: a file of your session cannot be written.</source>
+        <translation>Zvonění se nepodařilo změnit: soubor vaší relace nelze zapsat.</translation>
+    </message>
 </context>
 </TS>

@@ -2038,5 +2038,25 @@ Počkajte, kým sa program načíta.</translation>
         <source>Remind me at the start</source>
         <translation>Pripomenúť na začiatku</translation>
     </message>
+    <message>
+        <source>Ring alerts on this device</source>
+        <translation>Zvoniť upozornenia na tomto zariadení</translation>
+    </message>
+    <message>
+        <source>Alerts are notifications, also while the guide is closed.</source>
+        <translation>Upozornenia sú oznámenia, aj keď je sprievodca zatvorený.</translation>
+    </message>
+    <message>
+        <source>The reminders of your desktop ring. The guide rings when they do not run.</source>
+        <translation>Zvonia pripomienky vašej plochy. Sprievodca zvoní, keď nebežia.</translation>
+    </message>
+    <message>
+        <source>The reminders of your desktop ring already.</source>
+        <translation>Pripomienky vašej plochy už zvonia.</translation>
+    </message>
+    <message>
+        <source>Ringing could not be changed: a file of your session cannot be written.</source>
+        <translation>Zvonenie sa nepodarilo zmeniť: súbor vašej relácie sa nedá zapísať.</translation>
+    </message>
 </context>
 </TS>

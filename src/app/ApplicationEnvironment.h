@@ -3,6 +3,7 @@
 #include "app/Promotion.h"
 #include "core/ObjectId.h"
 #include "parsers/URLPlanner.h"
+#include "platform/AlarmRinging.h"
 #include "platform/AudioSession.h"
 #include "platform/BackgroundTasks.h"
 #include "platform/Clipboard.h"
@@ -67,6 +68,8 @@ struct ApplicationEnvironment {
     SecretStore* secrets = nullptr;
     /// Null on a device without calendars: then there are no alarms.
     EventStore* eventStore = nullptr;
+    /// Null where alarms cannot ring without the guide.
+    AlarmRinging* alarmRinging = nullptr;
     /// Null when files of the user are only looked at when they are due.
     FileWatch* fileWatch = nullptr;
 

@@ -366,6 +366,7 @@ void QuellinGuideAppDelegate::makeScreens() {
         .knownFeeds = &m_knownFeeds,
         .calendarActions = m_alarms.calendarActions(),
         .alarmExplanations = m_alarms.explanations(),
+        .alarmRinging = m_environment.alarmRinging,
     });
     m_tabBarController = makeGuideTabs(m_screenEnvironment);
     m_selectionEditor = std::make_shared<SelectionEditor>(m_screenEnvironment, *m_tabBarController);

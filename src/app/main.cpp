@@ -28,6 +28,8 @@
 #include "platform/linux/MprisSession.h"
 #include "platform/linux/QtMediaPlayer.h"
 #include "platform/linux/SecretServiceStore.h"
+#include "platform/linux/SessionAlarmRinging.h"
+#include "platform/linux/SessionBus.h"
 #include "platform/linux/SessionIdleInhibition.h"
 #include "platform/linux/SettingsUserDefaults.h"
 #include "platform/linux/SpawnedProgramRunner.h"
@@ -160,6 +162,16 @@ int run(LaunchOptions options, bool drawsWebPages) {
          .scheme = kScheme,
          .busAddress = options.profile ? QString() : qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS")},
         clock);
+    // A profile of its own, whose alarms the agent of the session does not know, does not ring.
+    std::optional<SessionAlarmRinging> alarmRinging;
+    if (!options.profile) {
+        alarmRinging.emplace(queues, sessionBus(),
+                             SessionAlarmRinging::Options{
+                                 .templates = folders->bundle + "/session"_L1,
+                                 .programs = QCoreApplication::applicationDirPath(),
+                                 .usesDesktop = isOfDesktop(*eventStore),
+                             });
+    }
     LinuxAudioSession audioSession;
     LinuxClipboard clipboard;
     QtMediaPlayers mediaPlayers(queues.mainQueue());
@@ -191,6 +203,7 @@ int run(LaunchOptions options, bool drawsWebPages) {
         .programs = &programs,
         .secrets = secrets.get(),
         .eventStore = eventStore.get(),
+        .alarmRinging = alarmRinging ? &*alarmRinging : nullptr,
         .fileWatch = &fileWatch,
         .hosts = files->hosts,
         .random = [](unsigned bound) { return QRandomGenerator::system()->bounded(bound); },

@@ -35,12 +35,27 @@ struct WorldCalendars final : CalendarActions {
     bool makes = true;
 };
 
+/// A session that cannot be written while `works` is false.
+struct WorldRinging final : AlarmRinging {
+    explicit WorldRinging(DispatchQueue& ownMainQueue)
+        : mainQueue(ownMainQueue) {}
+    void state(MainBlock<AlarmRingingState> mainBlock) override { mainBlock.post(mainQueue, now); }
+    void setOn(bool on, MainBlock<bool> mainBlock) override {
+        now.isOn = works ? on : now.isOn;
+        mainBlock.post(mainQueue, bool(works));
+    }
+    DispatchQueue& mainQueue;
+    AlarmRingingState now;
+    bool works = true;
+};
+
 class OptionsTest : public testing::Test {
   protected:
     OptionsTest() {
         world.device.deviceLocale = QLocale(QLocale::English, QLocale::UnitedKingdom);
         world.device.zone = QTimeZone("Europe/Prague");
         world.calendarActions = &calendars;
+        world.alarmRinging = &ringing;
         world.app.calendarAccess = true;
         world.start();
         world.show();
@@ -61,6 +76,7 @@ class OptionsTest : public testing::Test {
 
     ScreenWorld world;
     WorldCalendars calendars{world.queues.mainQueue()};
+    WorldRinging ringing{world.queues.mainQueue()};
 };
 
 TEST_F(OptionsTest, TheSilentHoursFollowTheirSwitch) {
@@ -82,6 +98,22 @@ TEST_F(OptionsTest, TheSilentHoursFollowTheirSwitch) {
     world.send<SwitchRow>(*options, u"Scheduled no alarm time"_s, Toggled{false});
     EXPECT_FALSE(contentTitled<TextRow>(options->table(), label));
     EXPECT_EQ(period().to, 6 * 60 + 30) << "the times stay";
+}
+
+TEST_F(OptionsTest, AlarmsRingByOneTouch) {
+    const QString title = u"Ring alerts on this device"_s;
+    const auto options = open<OptionsViewController>();
+    const auto row = [&] { return *contentTitled<SwitchRow>(options->table(), title); };
+    EXPECT_FALSE(row().on);
+    world.send<SwitchRow>(*options, title, Toggled{true});
+    EXPECT_TRUE(ringing.now.isOn && row().on);
+    EXPECT_TRUE(row().subtitle.contains(u"while the guide is closed"_s));
+    ringing.works = false;
+    ringing.now.desktopRings = true;
+    world.send<SwitchRow>(*options, title, Toggled{false});
+    EXPECT_TRUE(row().on) << "it could not be changed";
+    EXPECT_EQ(world.app.alerts.size(), 1U);
+    EXPECT_TRUE(row().subtitle.contains(u"reminders of your desktop"_s));
 }
 
 TEST_F(OptionsTest, ASpanAcrossMidnightIsSwitchedOnWhereItIsPicked) {

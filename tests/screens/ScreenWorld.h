@@ -308,7 +308,8 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
                               ownSources,
                               knownFeeds,
                               calendarActions,
-                              alarmExplanations});
+                              alarmExplanations,
+                              alarmRinging});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -405,6 +406,7 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
     const KnownFeeds* knownFeeds = nullptr;
     CalendarActions* calendarActions = nullptr;
     AlarmExplanations* alarmExplanations = nullptr;
+    AlarmRinging* alarmRinging = nullptr;
     /// The sources of the channels' schedules.
     std::map<ObjectId, QString> sources;
     std::shared_ptr<DispatchQueue> loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial);

@@ -20,6 +20,7 @@ namespace {
 
 // The names of sections and rows.
 constexpr auto kColors = "colors"_L1;
+constexpr auto kRinging = "ringing"_L1;
 constexpr auto kSilentHours = "silent hours"_L1;
 constexpr auto kSilentSpan = "silent span"_L1;
 constexpr auto kDisplay = "display"_L1;
@@ -77,6 +78,7 @@ void OptionsViewController::viewDidLoad() {
 void OptionsViewController::viewWillAppear() {
     table().deselectRow();
     setButtons();
+    loadRinging();
     reloadTable();
 }
 
@@ -103,9 +105,52 @@ void OptionsViewController::reloadTable() {
                                 SwitchRow{Localized::tr("Show coloring"), {}, settings.colorizedShows()})}};
     std::vector<Section> sections;
     sections.push_back(std::move(colors));
+    if (std::optional<Section> ringing = ringingSection()) {
+        sections.push_back(*std::move(ringing));
+    }
     sections.push_back(silentHoursSection());
     sections.push_back(displaySection());
     table().setSections(std::move(sections));
+}
+
+void OptionsViewController::loadRinging() {
+    if (m_environment->alarmRinging) {
+        m_environment->alarmRinging->state(
+            m_ringingRead.expect(weak_from_this(), [this](const AlarmRingingState& state) {
+                m_ringing = state;
+                reloadTable();
+            }));
+    }
+}
+
+std::optional<Section> OptionsViewController::ringingSection() const {
+    if (!m_ringing) {
+        return std::nullopt;
+    }
+    QString note = Localized::tr("Alerts are notifications, also while the guide is closed.");
+    if (m_ringing->desktopRings) {
+        note =
+            m_ringing->isOn
+                ? Localized::tr("The reminders of your desktop ring. The guide rings when they do not run.")
+                : Localized::tr("The reminders of your desktop ring already.");
+    }
+    return Section{
+        .id = kRinging,
+        .rows = {row(kRinging, kRinging,
+                     SwitchRow{Localized::tr("Ring alerts on this device"), note, m_ringing->isOn})}};
+}
+
+void OptionsViewController::setRinging(bool on) {
+    m_ringing->isOn = on;
+    m_environment->alarmRinging->setOn(on, m_ringingSet.expect(weak_from_this(), [this](bool isDone) {
+        loadRinging();
+        if (!isDone) {
+            m_environment->navigation.presentAlert(
+                {Localized::tr("Error"),
+                 Localized::tr("Ringing could not be changed: a file of your session cannot be written."),
+                 {{Localized::tr("OK")}}});
+        }
+    }));
 }
 
 Section OptionsViewController::silentHoursSection() const {
@@ -177,6 +222,8 @@ void OptionsViewController::toggled(const QString& name, bool on) {
     ScreenSettings& settings = m_environment->settings;
     if (name == kColors) {
         settings.setColorizedShows(on);
+    } else if (name == kRinging) {
+        setRinging(on);
     } else if (name == kSilentHours) {
         setSilentHoursEnabled(m_environment->keyValueStore, on);
         applySilentHours(*m_environment);

@@ -1,16 +1,19 @@
 #pragma once
 
+#include "platform/AlarmRinging.h"
+#include "screens/kit/LatestAnswer.h"
 #include "screens/kit/TableViewController.h"
 #include "screens/shell/ListingsScreen.h"
 #include "screens/shell/ScreenEnvironment.h"
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace guide {
 
-/// The settings of the guide: colours, silent hours, and what is displayed. Leads to the calendars.
+/// The settings of the guide: colours, alarms, silent hours, and what is displayed. Leads to the calendars.
 class OptionsViewController final : public ListingsScreen {
   public:
     explicit OptionsViewController(std::shared_ptr<const ScreenEnvironment> environment);
@@ -27,10 +30,17 @@ class OptionsViewController final : public ListingsScreen {
     void reloadTable();
     Section silentHoursSection() const;
     Section displaySection();
+    void loadRinging();
+    std::optional<Section> ringingSection() const;
+    void setRinging(bool on);
     void toggled(const QString& name, bool on);
     void chosen(const QString& name, std::size_t choice);
 
     const std::shared_ptr<const ScreenEnvironment> m_environment;
+    /// Unset before it is known.
+    std::optional<AlarmRingingState> m_ringing;
+    LatestAnswer m_ringingRead;
+    LatestAnswer m_ringingSet;
     // What is offered, in order.
     std::vector<int> m_showCounts;
     std::vector<std::chrono::seconds> m_intervals;

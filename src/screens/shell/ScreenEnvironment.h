@@ -8,6 +8,7 @@
 #include "core/Catalogue.h"
 #include "core/TVChannels.h"
 #include "core/TVStationIcons.h"
+#include "platform/AlarmRinging.h"
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
 #include "platform/Device.h"
@@ -88,6 +89,8 @@ struct ScreenEnvironment {
     /// Null in a guide without calendars.
     CalendarActions* calendarActions = nullptr;
     AlarmExplanations* alarmExplanations = nullptr;
+    /// Null where alarms cannot ring without the guide.
+    AlarmRinging* alarmRinging = nullptr;
 };
 
 } // namespace guide
