@@ -56,6 +56,8 @@ struct AlarmRun {
     std::shared_ptr<BackgroundWork> background;
     /// The events that were read first are still those of the calendar.
     bool isCurrent = false;
+    /// Moved events repeat others or have alarms in silent hours.
+    bool needsAnother = false;
 
     void note(const AppliedChanges& applied) { result.complete = result.complete && !applied.unfinished; }
 };
@@ -130,6 +132,9 @@ void AlarmSynchroniser::State::ended(const AlarmRun& run, bool notifies) {
         }
     }
     running = false;
+    if (run.needsAnother) {
+        pending = Pending{true, run.brake && (!pending || pending->brake)};
+    }
     if (notifies) {
         environment.notificationsSynched();
     }
@@ -231,10 +236,15 @@ bool AlarmSynchroniser::State::reconcileAndGenerate(AlarmRun& run, ShowItems sho
     }
     const ReconciliationPlan plan = planReconciliation(situation, run.brake);
     noteHeldBack(run, plan);
-    run.note(calendar->apply(plan.changes));
+    const AppliedChanges applied = calendar->apply(plan.changes);
+    run.note(applied);
     if (!plan.changes.empty() && !read()) {
         return false;
     }
+    // A refused change would be planned again for ever.
+    run.needsAnother = environment.safety.settles && applied.any && !applied.unfinished &&
+                       (!planCleanUp(situation.events, situation.scheme).changes.empty() ||
+                        !planReconciliation(situation, run.brake).changes.empty());
     // A rule that was changed meanwhile counts.
     situation.rules = environment.shows.snapshot();
     const std::vector<AlarmChange> made =

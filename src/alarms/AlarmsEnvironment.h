@@ -29,6 +29,9 @@ struct AlarmSafety {
     /// A run or an operation that could not read the calendar or make a change leaves the mark cleared, so
     /// that the next run is a full one.
     bool repeatsUnfinished = true;
+    /// A run that moved an event to where another one is, or into silent hours, is followed by the run that
+    /// removes it.
+    bool settles = true;
 };
 
 /// What a run did.

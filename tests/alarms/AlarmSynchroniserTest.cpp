@@ -94,6 +94,39 @@ TEST(AlarmSynchroniser, WithoutBrakeOrRepetitionTheMarkIsSetAnyway) {
     EXPECT_TRUE(world->alarmCalendar->mark().isSet());
 }
 
+TEST(AlarmSynchroniser, AnotherRunRemovesWhatAMoveMadeWrong) {
+    const struct {
+        const char* name;
+        const char* given;
+        const char* calendar;
+        std::size_t runs = 2;
+        bool fails = false;
+    } cases[] = {
+        {"two events of one show",
+         "rule Film -\nshow One Film 12:00\nevent e1 One Film 11:00 10\nevent e2 One Film 13:00 20",
+         "e1 One Film 12:00 10"},
+        {"an alarm in silent hours",
+         "rule News 10\nsilent 00:00 07:00\nshow One News 05:00+1\nevent e1 One News 08:00+1 10", ""},
+        {"nothing is wrong", "rule Film -\nshow One Film 12:00\nevent e1 One Film 11:00 10",
+         "e1 One Film 12:00 10", 1},
+        {"a refused move is not tried at once",
+         "rule Film -\nrule News -\nshow One Film 12:00\nshow One News 12:00\nevent e1 One Film 11:00 "
+         "10\nevent e2 One News 11:00 10",
+         "e1 One Film 11:00 10\ne2 One News 12:00 10", 1, true},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        MemoryAlarmWorld world(QString::fromUtf8(each.given), {});
+        if (each.fails) {
+            world.events.failToSave({u"Film"_s});
+        }
+        world->sync();
+        EXPECT_EQ(world->calendar().toStdString(), each.calendar);
+        EXPECT_EQ(world->runs.size(), each.runs);
+        EXPECT_EQ(world->alarmCalendar->mark().isSet(), !each.fails);
+    }
+}
+
 TEST(AlarmSynchroniser, CleanUpRuns) {
     const struct {
         const char* name;

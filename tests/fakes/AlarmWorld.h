@@ -24,6 +24,16 @@ namespace guide::test {
 
 using namespace Qt::StringLiterals;
 
+/// As in the application, but a run is not followed by another.
+inline constexpr AlarmSafety kOneRun{.settles = false};
+
+/// What remains of a guide when it ends or is killed.
+struct AlarmProfile {
+    const QTemporaryDir folder;
+    MemoryUserDefaults userDefaults;
+    MemoryKeyValueStore keyValueStore;
+};
+
 /// A guide with alarms whose calendar, rules and shows are written as lines of words:
 ///
 ///     rule News 10 [premieres|replays]     - in place of the minutes: no recurring alarm
@@ -35,15 +45,17 @@ using namespace Qt::StringLiterals;
 ///     refused One News 12:00
 ///
 /// A time is one of 21 November 2026, UTC, where it is 10:00; "12:00+3" is three days later. Events are put
-/// into the store by apply().
+/// into the store by apply(), or by addElsewhere.
 class AlarmWorld : ShowCounters {
   public:
     static constexpr int kChannels = 3;
 
     explicit AlarmWorld(EventStore& ownStore, std::optional<EventCalendar> calendar,
-                        AlarmSafety safety = {.brake = true, .repeatsUnfinished = true})
+                        AlarmSafety safety = kOneRun,
+                        std::shared_ptr<AlarmProfile> profile = std::make_shared<AlarmProfile>())
         : store(ownStore)
-        , m_calendar(std::move(calendar)) {
+        , m_calendar(std::move(calendar))
+        , m_profile(std::move(profile)) {
         device.zone = QTimeZone("UTC");
         for (int i = 0; i < kChannels; ++i) {
             m_catalogueChannels.push_back(
@@ -171,15 +183,15 @@ class AlarmWorld : ShowCounters {
 
     // ---- what came of it
 
-    /// "e1 One News 12:00 10", the guide's and other events, by start and title.
+    /// "e1 One News 12:00 10", the guide's and other events, by start, title and text.
     QString calendar() const {
         QStringList lines;
         if (m_calendar) {
             EventRange range = store.eventsBetween(kMidnight - std::chrono::days(1000),
                                                    kMidnight + std::chrono::days(1000), *m_calendar);
             EXPECT_FALSE(range.fault);
-            std::ranges::stable_sort(range.events, {}, [](const CalendarEvent& event) {
-                return std::pair(event.startDate, event.title);
+            std::ranges::sort(range.events, {}, [this](const CalendarEvent& event) {
+                return std::tuple(event.startDate, event.title, text(event));
             });
             for (const CalendarEvent& event : range.events) {
                 lines << text(event);
@@ -286,6 +298,10 @@ class AlarmWorld : ShowCounters {
         if (words.last().startsWith("url="_L1)) {
             event.url = QUrl(words.last().mid(4));
         }
+        if (addElsewhere) {
+            m_names.emplace(addElsewhere(words.value(1), event), words.value(1));
+            return;
+        }
         const std::vector<EventOutcome> outcomes = store.apply({SaveEvent{event}});
         ASSERT_TRUE(outcomes.at(0).isDone()) << outcomes.at(0).message.toStdString();
         m_names.emplace(outcomes.at(0).identifier, words.value(1));
@@ -304,19 +320,19 @@ class AlarmWorld : ShowCounters {
 
     static inline const QStringList kNames{u"One"_s, u"Two"_s, u"Three"_s};
     const std::optional<EventCalendar> m_calendar;
-    const QTemporaryDir m_folder;
+    const std::shared_ptr<AlarmProfile> m_profile;
     std::vector<CatalogueChannel> m_catalogueChannels;
     std::map<QString, QString> m_names;
 
   public:
-    const Folders folders{m_folder.path(), m_folder.path(), {}, {}, {}, {}};
+    const Folders folders{m_profile->folder.path(), m_profile->folder.path(), {}, {}, {}, {}};
     FakeDevice device;
     FakeBackgroundTasks tasks;
     FakeApplicationState state;
     FakePopularShows popular;
     CountingListingsObserver observer;
-    MemoryUserDefaults userDefaults;
-    MemoryKeyValueStore keyValueStore;
+    MemoryUserDefaults& userDefaults = m_profile->userDefaults;
+    MemoryKeyValueStore& keyValueStore = m_profile->keyValueStore;
     const Alphabet alphabet;
     Catalogue catalogue;
     TVChannels channels{folders, keyValueStore, queues, catalogue};
@@ -333,12 +349,14 @@ class AlarmWorld : ShowCounters {
     int notifications = 0;
     int badges = 0;
     std::vector<AlarmRunResult> runs;
+    /// Lets another program add the events that are given, among them those that the guide may not write;
+    /// takes the name of an event and returns its identifier.
+    std::function<QString(const QString& name, const CalendarEvent& event)> addElsewhere;
 };
 
 /// The same on a calendar in memory.
 struct MemoryAlarmWorld {
-    explicit MemoryAlarmWorld(const QString& lines = {},
-                              AlarmSafety safety = {.brake = true, .repeatsUnfinished = true})
+    explicit MemoryAlarmWorld(const QString& lines = {}, AlarmSafety safety = kOneRun)
         : world(events,
                 events.addCalendar({.identifier = {},
                                     .title = u"TV"_s,
