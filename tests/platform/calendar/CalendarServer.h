@@ -53,6 +53,9 @@ class CalendarServer {
         m_server.waitForFinished();
     }
 
+    /// For the next start.
+    void setOptions(const QStringList& options) { m_options = options; }
+
     int port() const { return m_port; }
     /// The files of the events are in it.
     QString folder() const { return m_folder.filePath(QStringLiteral("collection-root/test/tv")); }
@@ -79,7 +82,7 @@ class CalendarServer {
         return answered;
     }
 
-    const QStringList m_options;
+    QStringList m_options;
     const QTemporaryDir m_folder;
     int m_port = 0;
     QProcess m_server;

@@ -58,6 +58,15 @@ inline CalendarEvent showEvent(const QString& digest, Moment start = kEvening) {
     return event;
 }
 
+/// The UID of a stored event that the file's name, where there are files, is made of.
+inline QByteArray uidOf(const CalendarEvent& event) {
+    QString name = event.identifier.mid(event.identifier.indexOf(u'/') + 1);
+    if (name.endsWith(QStringLiteral(".ics"))) {
+        name.chop(4);
+    }
+    return name.toUtf8();
+}
+
 /// Waits for announcements of changes.
 class Announcements {
   public:

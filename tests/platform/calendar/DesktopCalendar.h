@@ -13,8 +13,10 @@ namespace guide::test {
 class DesktopCalendar final : public CalendarUnderTest {
   public:
     /// The UID of a source.
-    explicit DesktopCalendar(const QString& source = QStringLiteral("system-calendar"))
-        : m_source(source) {}
+    explicit DesktopCalendar(const QString& source = QStringLiteral("system-calendar"),
+                             const QString& scheme = kScheme)
+        : m_source(source)
+        , m_scheme(scheme) {}
 
     EventStore& store() override { return m_store; }
     EventCalendar calendar() override {
@@ -29,7 +31,7 @@ class DesktopCalendar final : public CalendarUnderTest {
         return {};
     }
     std::unique_ptr<EventStore> secondStore() override {
-        return std::make_unique<EDSEventStore>(session.busAddress(), kScheme, clock);
+        return std::make_unique<EDSEventStore>(session.busAddress(), m_scheme, clock);
     }
     QByteArray get(const QByteArray& uid) override {
         // The cache of a server's calendar answers with a VCALENDAR.
@@ -58,12 +60,13 @@ class DesktopCalendar final : public CalendarUnderTest {
 
   private:
     const QString m_source;
+    const QString m_scheme;
 
   public:
     EDSCalendar other{connection, m_source};
 
   private:
-    EDSEventStore m_store{session.busAddress(), kScheme, clock};
+    EDSEventStore m_store{session.busAddress(), m_scheme, clock};
 };
 
 } // namespace guide::test

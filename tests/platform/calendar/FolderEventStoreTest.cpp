@@ -1,7 +1,6 @@
 #include "platform/linux/calendar/FolderEventStore.h"
 
-#include "CalendarUnderTest.h"
-#include "fakes/Files.h"
+#include "FolderCalendar.h"
 #include "platform/linux/calendar/EventWriting.h"
 
 #include <QDir>
@@ -16,31 +15,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
-
-class FolderCalendar final : public CalendarUnderTest {
-  public:
-    EventStore& store() override { return m_store; }
-    EventCalendar calendar() override { return *m_store.defaultCalendarForNewEvents(); }
-    std::unique_ptr<EventStore> secondStore() override {
-        return std::make_unique<FolderEventStore>(m_parent, kScheme, clock);
-    }
-    QByteArray get(const QByteArray& uid) override { return contentOf(file(uid)); }
-    void put(const QByteArray& uid, const QByteArray& component) override {
-        const bool isWhole = component.startsWith("BEGIN:VCALENDAR");
-        ASSERT_TRUE(writeFile(file(uid), isWhole ? component : calendarWith(component)));
-    }
-    void erase(const QByteArray& uid) override { ASSERT_TRUE(QFile::remove(file(uid))); }
-
-    QString file(const QByteArray& uid) const {
-        return m_parent + u"/tv/"_s + QString::fromUtf8(uid) + u".ics"_s;
-    }
-    const QString& parent() const { return m_parent; }
-
-  private:
-    const QTemporaryDir m_home;
-    const QString m_parent = m_home.filePath(u"data/calendars"_s);
-    FolderEventStore m_store{m_parent, kScheme, clock};
-};
 
 class FolderEventStoreTest : public testing::Test {
   protected:
