@@ -104,8 +104,9 @@ struct EventRange {
 };
 
 /// The calendars of the device. All functions may block for as long as the service needs, at most
-/// half a minute, so they are for background queues; any thread, but one at a time. Only calendarsChanged may
-/// be called by the store, on any thread.
+/// half a minute, so they are for background queues; any thread, but one at a time. refreshSources, and
+/// setCalendarsChanged with an empty function, do not wait and may be called during other calls. Only
+/// calendarsChanged may be called by the store, on any thread.
 class EventStore {
   public:
     virtual ~EventStore() = default;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/calendar/EventStore.h"
+#include "platform/calendar/EventTimes.h"
 
 #include <QSet>
 
@@ -47,7 +47,10 @@ class MemoryEventStore final : public EventStore {
                             .source = QStringLiteral("Local"),
                             .allowsContentModifications = true});
     }
-    void refreshSources() override {}
+    void refreshSources() override {
+        const std::lock_guard lock(m_guard);
+        ++m_refreshes;
+    }
 
     EventRange eventsBetween(Moment start, Moment end, const EventCalendar& calendar) override {
         const std::lock_guard lock(m_guard);
@@ -57,8 +60,7 @@ class MemoryEventStore final : public EventStore {
         }
         EventRange range;
         for (const CalendarEvent& event : m_events) {
-            if (event.calendar == calendar.identifier && event.startDate < end &&
-                event.endDate.value_or(event.startDate) > start) {
+            if (event.calendar == calendar.identifier && isBetween(start, end, event)) {
                 range.events.push_back(event);
             }
         }
@@ -82,7 +84,7 @@ class MemoryEventStore final : public EventStore {
         return outcomes;
     }
     void setCalendarsChanged(std::function<void()> calendarsChanged) override {
-        const std::lock_guard lock(m_guard);
+        const std::lock_guard lock(m_changedGuard);
         m_changed = std::move(calendarsChanged);
     }
     QString name() const override { return QStringLiteral("Memory"); }
@@ -167,7 +169,7 @@ class MemoryEventStore final : public EventStore {
         m_rangesFail = fail;
     }
 
-    /// How often apply() and eventsBetween() were called.
+    /// How often apply(), eventsBetween() and refreshSources() were called.
     int batchCount() const {
         const std::lock_guard lock(m_guard);
         return m_batches;
@@ -175,6 +177,10 @@ class MemoryEventStore final : public EventStore {
     int readCount() const {
         const std::lock_guard lock(m_guard);
         return m_reads;
+    }
+    int refreshCount() const {
+        const std::lock_guard lock(m_guard);
+        return m_refreshes;
     }
 
   private:
@@ -234,7 +240,6 @@ class MemoryEventStore final : public EventStore {
 
     template <class Change>
     bool changeElsewhere(const QString& identifier, const Change& change) {
-        std::function<void()> changed;
         {
             const std::lock_guard lock(m_guard);
             const auto found = std::ranges::find(m_events, identifier, &CalendarEvent::identifier);
@@ -242,10 +247,10 @@ class MemoryEventStore final : public EventStore {
                 return false;
             }
             change(found);
-            changed = m_changed;
         }
-        if (changed) {
-            changed();
+        const std::lock_guard lock(m_changedGuard);
+        if (m_changed) {
+            m_changed();
         }
         return true;
     }
@@ -255,7 +260,6 @@ class MemoryEventStore final : public EventStore {
     std::vector<EventCalendar> m_calendars;
     QString m_default;
     std::vector<CalendarEvent> m_events;
-    std::function<void()> m_changed;
     QSet<QString> m_unsavable;
     QSet<QString> m_unremovable;
     EventFault m_saveFault = EventFault::Failed;
@@ -266,6 +270,11 @@ class MemoryEventStore final : public EventStore {
     int m_made = 0;
     int m_batches = 0;
     int m_reads = 0;
+    int m_refreshes = 0;
+
+    /// Held while the function is called.
+    std::mutex m_changedGuard;
+    std::function<void()> m_changed;
 };
 
 } // namespace guide

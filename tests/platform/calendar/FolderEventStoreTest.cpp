@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -154,6 +155,13 @@ TEST_F(FolderEventStoreTest, SurvivesAnyFile) {
         {"one endless line", head + "SUMMARY" + QByteArray(";A=B").repeated(200'000) + ":x" + tail, true},
         {"many alarms",
          head + QByteArray("BEGIN:VALARM\nTRIGGER:PT1M\nEND:VALARM\n").repeated(15'000) + tail.mid(1), true},
+        {"many zones of one name, used many times",
+         "BEGIN:VCALENDAR\n" + QByteArray("BEGIN:VTIMEZONE\nTZID:Z\nEND:VTIMEZONE\n").repeated(9'000) +
+             QByteArray("BEGIN:VEVENT\nUID:b\nRECURRENCE-ID:20261123T191500\n"
+                        "DTSTART;TZID=Z:20261123T191500\nEND:VEVENT\n")
+                 .repeated(7'000) +
+             "BEGIN:VEVENT\nUID:a" + tail,
+         true},
         {"a zone that changes every second", zone("FREQ=SECONDLY"), true},
         {"and one that hides it", zone("FREQ=YEARLY;BYSECOND=1,2,3;BYMINUTE=1,2,3"), true},
         {"endless duration", head + "DURATION:P99999999999999W" + tail, true},
@@ -191,6 +199,11 @@ TEST_F(FolderEventStoreTest, WhatCannotBeWrittenIsAFaultAndLosesNothing) {
     CalendarEvent larger = showEvent(u"ca2"_s);
     larger.title = QString(2000, u'x');
     EXPECT_EQ(save(larger).fault, EventFault::Failed);
+    CalendarEvent twice = read().front();
+    twice.title = larger.title;
+    for (const EventOutcome& outcome : store.apply({SaveEvent{twice}, SaveEvent{twice}})) {
+        EXPECT_EQ(outcome.fault, EventFault::Failed) << "neither of two equal changes is written";
+    }
     EXPECT_TRUE(save(showEvent(u"ca3"_s)).isDone()) << "the limit is on larger ones";
     setrlimit(RLIMIT_FSIZE, &limit);
     std::signal(SIGXFSZ, handler);
@@ -209,6 +222,53 @@ TEST_F(FolderEventStoreTest, WhatCannotBeWrittenIsAFaultAndLosesNothing) {
     EXPECT_EQ(store.apply({RemoveEvent{event}}).front().fault, EventFault::Unavailable);
     event.identifier = u"tv/../../x.ics"_s;
     EXPECT_FALSE(store.apply({RemoveEvent{event}}).front().isDone());
+}
+
+TEST_F(FolderEventStoreTest, ChangesTheRightEventOfAFile) {
+    const auto component = [](const QByteArray& uid, const QByteArray& lines) {
+        return "BEGIN:VEVENT\r\nUID:" + uid + "\r\nURL:quellin-guide://" + uid +
+               "\r\nDTSTART:20261123T191500Z\r\n" + lines + "END:VEVENT\r\n";
+    };
+    const QByteArray other = component("y", {});
+    ASSERT_TRUE(writeFile(test.file("a"), calendarWith(component("x", "RECURRENCE-ID:20261123T191500Z\r\n") +
+                                                       other + component("x", {}))));
+    std::vector<CalendarEvent> events = read();
+    ASSERT_EQ(events.size(), 2U);
+    const auto x = std::ranges::find(events, QUrl(u"quellin-guide://x"_s), &CalendarEvent::url);
+    ASSERT_NE(x, events.end());
+    EXPECT_EQ(store.eventWithIdentifier(x->identifier), *x);
+    ASSERT_TRUE(store.apply({RemoveEvent{*x}}).front().isDone());
+    EXPECT_EQ(contentOf(test.file("a")), calendarWith(other));
+}
+
+TEST_F(FolderEventStoreTest, RemovesWhatAnEarlierProcessLeft) {
+    const QString folder = test.parent() + u"/tv/"_s;
+    const QString left = folder + u".replacing-2147483646-1"_s;
+    const QString others = folder + u".note.swp"_s;
+    ASSERT_TRUE(writeFile(left, "x") && writeFile(others, "x"));
+    ASSERT_TRUE(save(showEvent(u"ca1"_s)).isDone());
+    EXPECT_FALSE(QFile::exists(left));
+    EXPECT_TRUE(QFile::exists(others));
+}
+
+// An open file with a lease cannot be opened by others.
+TEST_F(FolderEventStoreTest, AFileThatCannotBeReadNowKeepsItsEvents) {
+    ASSERT_TRUE(save(showEvent(u"ca1"_s)).isDone());
+    ASSERT_EQ(read().size(), 1U);
+    ASSERT_TRUE(
+        writeFile(test.file("ca1@quellin"), test.get("ca1@quellin").replace("SUMMARY:", "SUMMARY:A ")));
+    {
+        const auto handler = std::signal(SIGIO, SIG_IGN);
+        QFile leased(test.file("ca1@quellin"));
+        ASSERT_TRUE(leased.open(QIODevice::ReadWrite));
+        ASSERT_EQ(::fcntl(leased.handle(), F_SETLEASE, F_WRLCK), 0);
+        EXPECT_EQ(read().size(), 1U);
+        EXPECT_EQ(save(showEvent(u"ca1"_s)).fault, EventFault::Unavailable) << "not made a second time";
+        leased.close();
+        std::signal(SIGIO, handler);
+    }
+    ASSERT_EQ(read().size(), 1U);
+    EXPECT_TRUE(read().front().title.startsWith(u"A "_s)) << "read when that is possible";
 }
 
 TEST_F(FolderEventStoreTest, AFolderThatVanishesAndReturnsIsAnnounced) {

@@ -2,13 +2,12 @@
 
 #include "platform/files/FileContent.h"
 
-#include <QCryptographicHash>
 #include <QDebug>
 #include <QFile>
 
-#include <algorithm>
 #include <chrono>
 #include <dirent.h>
+#include <utility>
 
 namespace guide {
 
@@ -19,7 +18,6 @@ namespace {
 
 constexpr qint64 kLargestFile = 1 << 20;
 constexpr qsizetype kMostFiles = 50'000;
-constexpr auto kSuffix = ".ics"_L1;
 // Longer than the steps in which file systems count.
 constexpr auto kStampResolution = 20ms;
 
@@ -55,16 +53,12 @@ QString EventPlace::text() const {
 }
 
 EventPlace EventPlace::fromText(const QString& text) {
-    const qsizetype mark = text.indexOf(kSuffix + u'#');
+    const qsizetype mark = text.indexOf(kCalendarSuffix + u'#');
     if (mark < 0) {
         return {text, {}};
     }
-    const qsizetype end = mark + kSuffix.size();
+    const qsizetype end = mark + kCalendarSuffix.size();
     return {text.left(end), text.mid(end + 1).toUtf8()};
-}
-
-QString contentRevision(const QByteArray& content) {
-    return QString::fromLatin1(QCryptographicHash::hash(content, QCryptographicHash::Sha1).toHex());
 }
 
 std::optional<QByteArray> calendarFileContent(const QString& path) {
@@ -79,7 +73,7 @@ bool CalendarFolder::update() {
     }
     m_files.removeIf([&](const auto& file) { return !stamps->contains(file.key()); });
     for (auto stamp = stamps->cbegin(); stamp != stamps->cend(); ++stamp) {
-        if (stamp.key().endsWith(kSuffix, Qt::CaseInsensitive)) {
+        if (stamp.key().endsWith(kCalendarSuffix, Qt::CaseInsensitive)) {
             read(stamp.key(), *stamp);
         }
     }
@@ -91,17 +85,23 @@ void CalendarFolder::read(const QString& name, const FileStamp& stamp) {
     if (file.stamp == stamp && !file.isRecent) {
         return;
     }
-    file.isRecent = isRecent(stamp);
-    const std::optional<QByteArray> content = calendarFileContent(m_path + u'/' + name);
-    if (!content) {
-        if (file.stamp != stamp) {
-            qInfo().noquote() << "calendar file left out, too large or not readable:" << name;
-        }
+    const bool isNew = std::exchange(file.stamp, stamp) != stamp;
+    if (stamp.size > kLargestFile) {
+        qInfo().noquote() << "calendar file left out, too large:" << name;
         file = {};
         file.stamp = stamp;
         return;
     }
-    file.stamp = stamp;
+    const std::optional<QByteArray> content = calendarFileContent(m_path + u'/' + name);
+    if (!content) {
+        // Perhaps only for now; it keeps the events that it had.
+        if (isNew) {
+            qInfo().noquote() << "calendar file not readable:" << name;
+        }
+        file.isRecent = true;
+        return;
+    }
+    file.isRecent = isRecent(stamp);
     const QString revision = contentRevision(*content);
     if (revision == file.revision) {
         return;
@@ -110,22 +110,18 @@ void CalendarFolder::read(const QString& name, const FileStamp& stamp) {
     if (const auto text = ICalendarText::parse(*content)) {
         file.revision = revision;
         file.events = m_reading.events(*text);
+        const StoredEvent* first = findEvent(file.events);
+        file.firstUid = first == nullptr ? QByteArray() : first->uid;
     }
 }
 
 const StoredEvent* CalendarFolder::event(const EventPlace& place) const {
     const auto file = m_files.constFind(place.file);
-    if (file == m_files.constEnd()) {
-        return nullptr;
-    }
-    const auto found = std::ranges::find_if(file->events, [&](const StoredEvent& stored) {
-        return !stored.isOccurrence && (place.uid.isEmpty() || stored.uid == place.uid);
-    });
-    return found == file->events.end() ? nullptr : &*found;
+    return file == m_files.constEnd() ? nullptr : findEvent(file->events, place.uid);
 }
 
 EventPlace CalendarFolder::place(const QString& name, const CalendarFile& file, const StoredEvent& event) {
-    return {name, file.events.front().uid == event.uid ? QByteArray() : event.uid};
+    return {name, file.firstUid == event.uid ? QByteArray() : event.uid};
 }
 
 } // namespace guide

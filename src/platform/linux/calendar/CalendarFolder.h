@@ -14,33 +14,35 @@ namespace guide {
 /// The files of a folder and their stamps, those that do not matter to calendars left out.
 using FolderStamps = QHash<QString, FileStamp>;
 
+/// The end of the names of files with events.
+inline constexpr QLatin1StringView kCalendarSuffix{".ics"};
+
 /// Nothing when the folder cannot be read.
 std::optional<FolderStamps> folderStamps(const QString& folder);
 
 /// A file with events, as it was read last.
 struct CalendarFile {
     FileStamp stamp;
-    /// The stamp may be that of a later state as well.
+    /// To be read again: the stamp may be that of a later state as well, or it could not be read.
     bool isRecent = false;
     /// Of the content; see contentRevision.
     QString revision;
     std::vector<StoredEvent> events;
+    /// The UID of its first event that is no occurrence; empty when there is none.
+    QByteArray firstUid;
 };
 
 /// Where an event is in a folder.
 struct EventPlace {
     /// The name of the file.
     QString file;
-    /// Empty for the first event of the file.
+    /// Empty for the first event of the file that is no occurrence.
     QByteArray uid;
 
     /// "FILE" or "FILE#UID".
     QString text() const;
     static EventPlace fromText(const QString& text);
 };
-
-/// Names one state of a file.
-QString contentRevision(const QByteArray& content);
 
 /// Nothing when the file is missing, not readable or too large.
 std::optional<QByteArray> calendarFileContent(const QString& path);

@@ -16,7 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto kSuffix = ".ics"_L1;
 constexpr int kMostAttempts = 100;
 
 void refuse(EventOutcome& outcome, EventFault fault, const QString& message) {
@@ -46,7 +45,8 @@ CalendarFolderChanges::File* CalendarFolderChanges::open(const QString& name) {
 std::optional<CalendarFolderChanges::Found>
 CalendarFolderChanges::find(const EventPlace& place, const QString& revision, EventOutcome& outcome) {
     const QString& name = place.file;
-    if (name.contains(u'/') || name.startsWith(u'.') || !name.endsWith(kSuffix, Qt::CaseInsensitive)) {
+    if (name.contains(u'/') || name.startsWith(u'.') ||
+        !name.endsWith(kCalendarSuffix, Qt::CaseInsensitive)) {
         refuse(outcome, EventFault::NotFound, u"no such event"_s);
         return std::nullopt;
     }
@@ -55,6 +55,10 @@ CalendarFolderChanges::find(const EventPlace& place, const QString& revision, Ev
         return std::nullopt;
     }
     File* opened = open(name);
+    if (opened == nullptr && QFileInfo::exists(m_folder.path() + u'/' + name)) {
+        refuse(outcome, EventFault::Unavailable, u"the file cannot be read"_s);
+        return std::nullopt;
+    }
     if (opened == nullptr || opened->content.isEmpty()) {
         refuse(outcome, EventFault::NotFound, u"the file is gone"_s);
         return std::nullopt;
@@ -68,11 +72,9 @@ CalendarFolderChanges::find(const EventPlace& place, const QString& revision, Ev
         refuse(outcome, EventFault::Failed, u"the file is damaged"_s);
         return std::nullopt;
     }
-    std::vector<StoredEvent> events = m_reading.events(*text);
-    const auto found = std::ranges::find_if(events, [&](const StoredEvent& stored) {
-        return !stored.isOccurrence && (place.uid.isEmpty() || stored.uid == place.uid);
-    });
-    if (found == events.end()) {
+    const std::vector<StoredEvent> events = m_reading.events(*text);
+    const StoredEvent* found = findEvent(events, place.uid);
+    if (found == nullptr) {
         refuse(outcome, EventFault::NotFound, u"the file has no such event"_s);
         return std::nullopt;
     }
@@ -80,7 +82,7 @@ CalendarFolderChanges::find(const EventPlace& place, const QString& revision, Ev
         refuse(outcome, EventFault::Failed, u"it belongs to another program"_s);
         return std::nullopt;
     }
-    return Found{opened, std::move(*text), std::move(*found)};
+    return Found{opened, std::move(*text), *found};
 }
 
 void CalendarFolderChanges::save(const EventPlace& place, const CalendarEvent& event, EventOutcome& outcome) {
@@ -97,8 +99,9 @@ void CalendarFolderChanges::change(const Found& found, const CalendarEvent& even
     if (auto changed = withChangedEvent(found.text, found.event, event, m_now)) {
         found.file->content = std::move(*changed);
         found.file->isChanged = true;
-        found.file->outcomes.push_back(&outcome);
     }
+    // Without a change, too, it depends on those that were made before in the same file.
+    found.file->outcomes.push_back(&outcome);
 }
 
 void CalendarFolderChanges::remove(const EventPlace& place, const CalendarEvent& event,
@@ -125,7 +128,7 @@ const QHash<QByteArray, EventPlace>& CalendarFolderChanges::places() {
 void CalendarFolderChanges::create(const CalendarEvent& event, EventOutcome& outcome) {
     for (int attempt = 1; attempt < kMostAttempts; ++attempt) {
         const QByteArray uid = uidFor(*event.url, attempt);
-        const QString name = QString::fromLatin1(uid) + kSuffix;
+        const QString name = QString::fromLatin1(uid) + kCalendarSuffix;
         const auto pending = m_files.find(name);
         const bool isRemoved = pending != m_files.end() && pending->second.content.isEmpty();
         const QFileInfo info(m_folder.path() + u'/' + name);
@@ -133,11 +136,19 @@ void CalendarFolderChanges::create(const CalendarEvent& event, EventOutcome& out
             (pending != m_files.end() || places().contains(uid) || info.exists() || info.isSymLink())) {
             // An event with the same URL is the same event, made before.
             const EventPlace taken = places().value(uid, EventPlace{name, {}});
-            EventOutcome ignored;
-            const std::optional<Found> found = find(taken, {}, ignored);
+            const StoredEvent* known = m_folder.event(taken);
+            EventOutcome refusal;
+            const std::optional<Found> found = find(taken, {}, refusal);
             if (found && found->event.event.url == event.url) {
                 outcome.identifier += taken.text();
                 change(*found, event, outcome);
+                return;
+            }
+            // It would be made twice.
+            if (refusal.fault == EventFault::Unavailable ||
+                (!found && refusal.fault != EventFault::NotFound && known != nullptr &&
+                 known->event.url == event.url)) {
+                refuse(outcome, *refusal.fault, refusal.message);
                 return;
             }
             continue;

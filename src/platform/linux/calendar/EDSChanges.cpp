@@ -1,6 +1,5 @@
 #include "platform/linux/calendar/EDSChanges.h"
 
-#include "platform/linux/calendar/CalendarFolder.h"
 #include "platform/linux/calendar/EventWriting.h"
 
 #include <algorithm>
@@ -28,15 +27,14 @@ std::optional<EDSEvent> edsEvent(const QString& answer, EventReading& reading) {
     }
     std::optional<ICalendarText> text = ICalendarText::parse(answer.toUtf8());
     while (text) {
-        std::vector<StoredEvent> events = reading.events(*text);
-        const auto found =
-            std::ranges::find_if(events, [](const StoredEvent& stored) { return !stored.isOccurrence; });
-        if (found == events.end()) {
+        const std::vector<StoredEvent> events = reading.events(*text);
+        const StoredEvent* found = findEvent(events);
+        if (found == nullptr) {
             break;
         }
         const QByteArray component = text->textOf(text->components()[found->component]).toByteArray();
         if (component.size() == text->text().size()) {
-            return EDSEvent{std::move(*text), std::move(*found), contentRevision(component)};
+            return EDSEvent{std::move(*text), *found, contentRevision(component)};
         }
         // It came with its occurrences.
         text = ICalendarText::parse(component);

@@ -1,5 +1,6 @@
 #include "platform/linux/calendar/EventReading.h"
 
+#include <QCryptographicHash>
 #include <QStringList>
 
 #include <algorithm>
@@ -28,6 +29,17 @@ std::optional<std::chrono::seconds> duration(const QByteArray& value) {
 
 } // namespace
 
+const StoredEvent* findEvent(const std::vector<StoredEvent>& events, const QByteArray& uid) {
+    const auto found = std::ranges::find_if(events, [&](const StoredEvent& stored) {
+        return !stored.isOccurrence && (uid.isEmpty() || stored.uid == uid);
+    });
+    return found == events.end() ? nullptr : &*found;
+}
+
+QString contentRevision(const QByteArray& content) {
+    return QString::fromLatin1(QCryptographicHash::hash(content, QCryptographicHash::Sha1).toHex());
+}
+
 QString withoutControlCharacters(QString text) {
     text.removeIf([](QChar character) {
         return (character < u' ' && character != u'\n' && character != u'\t') || character == QChar(0x7F);
@@ -49,16 +61,8 @@ QString iCalendarString(QByteArrayView value) {
     return withoutControlCharacters(QString::fromUtf8(text));
 }
 
-Moment endOf(const CalendarEvent& event) {
-    if (event.endDate) {
-        return *event.endDate;
-    }
-    return event.isAllDay ? event.startDate + std::chrono::days(1) : event.startDate;
-}
-
 void keepBetween(Moment start, Moment end, std::vector<CalendarEvent>& events) {
-    std::erase_if(
-        events, [&](const CalendarEvent& event) { return event.startDate >= end || endOf(event) <= start; });
+    std::erase_if(events, [&](const CalendarEvent& event) { return !isBetween(start, end, event); });
     std::ranges::sort(events, [](const CalendarEvent& one, const CalendarEvent& other) {
         return std::tie(one.startDate, one.identifier) < std::tie(other.startDate, other.identifier);
     });
@@ -74,12 +78,13 @@ bool EventReading::isOwn(const CalendarEvent& event) const {
 
 std::vector<StoredEvent> EventReading::events(const ICalendarText& text) {
     std::vector<StoredEvent> events;
+    ICalendarZones::Definitions zones(text);
     // Of each component, the index of its event.
     std::vector<std::optional<std::size_t>> eventOf(text.components().size());
     for (std::size_t i = 0; i < text.components().size(); ++i) {
         const ICalendarText::Component& component = text.components()[i];
         if (component.name == "VALARM" && component.parent && eventOf[*component.parent]) {
-            readAlarm(text, i, events[*eventOf[*component.parent]]);
+            readAlarm(text, i, zones, events[*eventOf[*component.parent]]);
             continue;
         }
         if (component.name != "VEVENT" ||
@@ -88,7 +93,7 @@ std::vector<StoredEvent> EventReading::events(const ICalendarText& text) {
         }
         const auto uid = text.property(component, "UID");
         const auto startLine = text.property(component, "DTSTART");
-        const auto start = startLine ? m_zones.time(*startLine, text) : std::nullopt;
+        const auto start = startLine ? m_zones.time(*startLine, zones) : std::nullopt;
         if (!uid || uid->value.isEmpty() || !start) {
             continue;
         }
@@ -100,7 +105,7 @@ std::vector<StoredEvent> EventReading::events(const ICalendarText& text) {
         event.startDate = start->moment;
         event.isAllDay = start->isDate;
         if (const auto end = text.property(component, "DTEND")) {
-            if (const auto time = m_zones.time(*end, text)) {
+            if (const auto time = m_zones.time(*end, zones)) {
                 event.endDate = time->moment;
             }
         } else if (const auto lasts = text.property(component, "DURATION")) {
@@ -150,7 +155,8 @@ std::optional<QUrl> EventReading::url(const ICalendarText& text, const ICalendar
     return found;
 }
 
-void EventReading::readAlarm(const ICalendarText& text, std::size_t component, StoredEvent& into) {
+void EventReading::readAlarm(const ICalendarText& text, std::size_t component,
+                             ICalendarZones::Definitions& zones, StoredEvent& into) {
     const ICalendarText::Component& alarm = text.components()[component];
     const auto action = text.property(alarm, "ACTION");
     const auto trigger = text.property(alarm, "TRIGGER");
@@ -165,7 +171,7 @@ void EventReading::readAlarm(const ICalendarText& text, std::size_t component, S
             iCalendarParameter(*trigger, "RELATED").compare("END", Qt::CaseInsensitive) != 0;
         const Moment from = stored.isRelativeToStart ? event.startDate : endOf(event);
         stored.offset = std::chrono::floor<std::chrono::seconds>(from + *span - event.startDate);
-    } else if (const auto time = m_zones.time(*trigger, text)) {
+    } else if (const auto time = m_zones.time(*trigger, zones)) {
         stored.isRelativeToStart = false;
         stored.offset = std::chrono::floor<std::chrono::seconds>(time->moment - event.startDate);
     } else {

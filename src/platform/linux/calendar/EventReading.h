@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/calendar/EventStore.h"
+#include "platform/calendar/EventTimes.h"
 #include "platform/linux/calendar/ICalendarText.h"
 #include "platform/linux/calendar/ICalendarZones.h"
 
@@ -53,20 +53,24 @@ class EventReading {
   private:
     std::optional<QUrl> url(const ICalendarText& text, const ICalendarText::Component& component,
                             const QByteArray& uid) const;
-    void readAlarm(const ICalendarText& text, std::size_t component, StoredEvent& into);
+    void readAlarm(const ICalendarText& text, std::size_t component, ICalendarZones::Definitions& zones,
+                   StoredEvent& into);
 
     const QString m_scheme;
     ICalendarZones m_zones;
 };
+
+/// The first that is no occurrence; of this UID, unless it is empty. Null when there is none.
+const StoredEvent* findEvent(const std::vector<StoredEvent>& events, const QByteArray& uid = {});
+
+/// Names one state of a text.
+QString contentRevision(const QByteArray& content);
 
 /// Without characters that no iCalendar text may contain.
 QString withoutControlCharacters(QString text);
 
 /// The text of a property of that type.
 QString iCalendarString(QByteArrayView value);
-
-/// When the event ends for a query: an event without an end lasts a day when it is all-day, else no time.
-Moment endOf(const CalendarEvent& event);
 
 /// Keeps those that start before `end` and end after `start`, in ascending order of their starts.
 void keepBetween(Moment start, Moment end, std::vector<CalendarEvent>& events);

@@ -167,14 +167,17 @@ std::optional<EventCalendar> FolderEventStore::createCalendar(const QString& tit
     return std::nullopt;
 }
 
+void FolderEventStore::checkZone() {
+    if (const QByteArray zone = QTimeZone::systemTimeZoneId(); zone != m_zone) {
+        m_folders.clear();
+        m_zone = zone;
+    }
+}
+
 CalendarFolder* FolderEventStore::folder(const QString& identifier) {
     const QString path = m_parent + u'/' + identifier;
     if (identifier.isEmpty() || identifier.startsWith(u'.') || identifier.contains(u'/')) {
         return nullptr;
-    }
-    if (const QByteArray zone = QTimeZone::systemTimeZoneId(); zone != m_zone) {
-        m_folders.clear();
-        m_zone = zone;
     }
     std::unique_ptr<CalendarFolder>& found = m_folders[identifier];
     if (found == nullptr) {
@@ -189,6 +192,7 @@ CalendarFolder* FolderEventStore::folder(const QString& identifier) {
 
 EventRange FolderEventStore::eventsBetween(Moment start, Moment end, const EventCalendar& calendar) {
     const std::lock_guard lock(m_mutex);
+    checkZone();
     const CalendarFolder* found = folder(calendar.identifier);
     if (found == nullptr) {
         return {.events = {}, .fault = u"the folder \"%1\" cannot be read"_s.arg(calendar.identifier)};
@@ -196,7 +200,7 @@ EventRange FolderEventStore::eventsBetween(Moment start, Moment end, const Event
     EventRange range;
     for (auto file = found->files().cbegin(); file != found->files().cend(); ++file) {
         for (const StoredEvent& stored : file->events) {
-            if (stored.isOccurrence || stored.event.startDate >= end || endOf(stored.event) <= start) {
+            if (stored.isOccurrence || !isBetween(start, end, stored.event)) {
                 continue;
             }
             const EventPlace place = CalendarFolder::place(file.key(), *file, stored);
@@ -209,6 +213,7 @@ EventRange FolderEventStore::eventsBetween(Moment start, Moment end, const Event
 
 std::optional<CalendarEvent> FolderEventStore::eventWithIdentifier(const QString& identifier) {
     const std::lock_guard lock(m_mutex);
+    checkZone();
     const auto [calendar, name] = parts(identifier);
     const CalendarFolder* found = folder(calendar);
     if (found == nullptr) {
@@ -224,6 +229,7 @@ std::optional<CalendarEvent> FolderEventStore::eventWithIdentifier(const QString
 
 std::vector<EventOutcome> FolderEventStore::apply(const std::vector<EventChange>& changes) {
     const std::lock_guard lock(m_mutex);
+    checkZone();
     std::vector<EventOutcome> outcomes(changes.size());
     // By calendar; null for one that cannot be used.
     std::map<QString, std::unique_ptr<CalendarFolderChanges>> folders;
@@ -237,6 +243,10 @@ std::vector<EventOutcome> FolderEventStore::apply(const std::vector<EventChange>
         const auto [at, isNew] = folders.try_emplace(calendar);
         if (isNew) {
             if (CalendarFolder* found = folder(calendar)) {
+                if (!m_cleaned.contains(calendar)) {
+                    removeStaleReplacements(found->path());
+                    m_cleaned.insert(calendar);
+                }
                 at->second = std::make_unique<CalendarFolderChanges>(*found, m_reading, m_clock.now());
             }
         }
@@ -290,15 +300,19 @@ std::optional<FolderEventStore::Known> FolderEventStore::stampsNow() const {
 }
 
 void FolderEventStore::setCalendarsChanged(std::function<void()> calendarsChanged) {
-    // Waits for a running call.
-    m_watch.reset();
-    m_calendarsChanged = std::move(calendarsChanged);
-    if (m_calendarsChanged == nullptr) {
+    if (calendarsChanged == nullptr) {
+        // The watch stays: to end it would mean to wait for other calls.
+        const std::lock_guard lock(m_functionMutex);
+        m_calendarsChanged = nullptr;
         return;
     }
     const std::lock_guard lock(m_mutex);
-    m_watch = std::make_unique<FolderTreeWatch>(m_parent, [this] { look(); });
+    if (m_watch == nullptr) {
+        m_watch = std::make_unique<FolderTreeWatch>(m_parent, [this] { look(); });
+    }
     m_known = stampsNow().value_or(Known());
+    const std::lock_guard functionLock(m_functionMutex);
+    m_calendarsChanged = std::move(calendarsChanged);
 }
 
 void FolderEventStore::look() {
@@ -310,7 +324,10 @@ void FolderEventStore::look() {
         }
         m_known = *std::move(now);
     }
-    m_calendarsChanged();
+    const std::lock_guard lock(m_functionMutex);
+    if (m_calendarsChanged != nullptr) {
+        m_calendarsChanged();
+    }
 }
 
 QString FolderEventStore::name() const {

@@ -5,6 +5,8 @@
 #include "platform/linux/calendar/CalendarFolder.h"
 #include "platform/linux/calendar/FolderTreeWatch.h"
 
+#include <QSet>
+
 #include <map>
 #include <memory>
 #include <mutex>
@@ -34,7 +36,8 @@ class FolderEventStore final : public EventStore {
     EventRange eventsBetween(Moment start, Moment end, const EventCalendar& calendar) override;
     std::optional<CalendarEvent> eventWithIdentifier(const QString& identifier) override;
     std::vector<EventOutcome> apply(const std::vector<EventChange>& changes) override;
-    /// The function is called on a thread of the store, and must not call the store.
+    /// The function is called on a thread of the store, and must not call the store. Setting one reads the
+    /// names of all files.
     void setCalendarsChanged(std::function<void()> calendarsChanged) override;
     QString name() const override;
 
@@ -42,7 +45,9 @@ class FolderEventStore final : public EventStore {
     /// The state of all folders, by name.
     using Known = QHash<QString, FolderStamps>;
 
-    /// Up to date; nothing when there is no such calendar.
+    /// Forgets what was read in another zone. At the start of a call.
+    void checkZone();
+    /// Up to date; nothing when there is no such calendar. It is valid until the end of the call.
     CalendarFolder* folder(const QString& identifier);
     /// Nothing when they cannot be read.
     std::optional<Known> stampsNow() const;
@@ -59,9 +64,13 @@ class FolderEventStore final : public EventStore {
     QByteArray m_zone;
     /// What needs no announcement.
     Known m_known;
+    /// Those in which no temporary file of an earlier process is left.
+    QSet<QString> m_cleaned;
 
+    /// Held while the function is called, and for nothing that takes long. Locked after m_mutex.
+    std::mutex m_functionMutex;
     std::function<void()> m_calendarsChanged;
-    /// Set while there is somebody to call.
+    /// From the time somebody is to be called. The last member: its thread uses the others.
     std::unique_ptr<FolderTreeWatch> m_watch;
 };
 

@@ -15,6 +15,8 @@ constexpr qsizetype kLongestTime = 40;
 constexpr qsizetype kLargestDefinition = 32'768;
 constexpr std::size_t kMostObservances = 64;
 constexpr qsizetype kMostNames = 1'000;
+/// Of one text; libical needs up to a millisecond for each.
+constexpr int kMostDefinitions = 200;
 
 /// Only rules as zones have them: libical computes all their dates for centuries.
 bool isHarmlessRule(const QByteArray& rule) {
@@ -31,16 +33,18 @@ bool isHarmlessRule(const QByteArray& rule) {
     return isYearly;
 }
 
-bool isHarmless(const ICalendarText& text, const ICalendarText::Component& definition) {
+bool isHarmless(const ICalendarText& text, std::size_t index) {
+    const ICalendarText::Component& definition = text.components()[index];
     if (definition.end - definition.begin > kLargestDefinition) {
         return false;
     }
-    std::size_t observances = 0;
-    for (const ICalendarText::Component& component : text.components()) {
-        if (component.begin <= definition.begin || component.end > definition.end) {
-            continue;
+    // What it encloses follows it.
+    for (std::size_t i = index + 1; i < text.components().size(); ++i) {
+        const ICalendarText::Component& component = text.components()[i];
+        if (component.begin >= definition.end) {
+            break;
         }
-        if (++observances > kMostObservances) {
+        if (i - index > kMostObservances) {
             return false;
         }
         for (const ICalendarText::Line& line : component.lines) {
@@ -68,26 +72,23 @@ std::optional<QTimeZone> deviceZone(const QByteArray& name) {
     return fromWindows.isEmpty() ? std::nullopt : std::optional(QTimeZone(fromWindows));
 }
 
-std::shared_ptr<icaltimezone> definedZone(const ICalendarText& text, const QByteArray& name) {
-    for (const ICalendarText::Component& component : text.components()) {
-        if (component.name != "VTIMEZONE" ||
-            text.property(component, "TZID").value_or(ICalendarProperty{}).value != name ||
-            !isHarmless(text, component)) {
-            continue;
-        }
-        icalcomponent* parsed =
-            icalcomponent_new_from_string(text.textOf(component).toByteArray().constData());
-        if (parsed == nullptr) {
-            continue;
-        }
-        icaltimezone* zone = icaltimezone_new();
-        // The zone owns the component from then on.
-        if (icaltimezone_set_component(zone, parsed) != 0) {
-            return {zone, [](icaltimezone* ended) { icaltimezone_free(ended, 1); }};
-        }
-        icalcomponent_free(parsed);
-        icaltimezone_free(zone, 1);
+/// Null when it is unusable.
+std::shared_ptr<icaltimezone> definedZone(const ICalendarText& text, std::size_t index) {
+    if (!isHarmless(text, index)) {
+        return nullptr;
     }
+    icalcomponent* parsed =
+        icalcomponent_new_from_string(text.textOf(text.components()[index]).toByteArray().constData());
+    if (parsed == nullptr) {
+        return nullptr;
+    }
+    icaltimezone* zone = icaltimezone_new();
+    // The zone owns the component from then on.
+    if (icaltimezone_set_component(zone, parsed) != 0) {
+        return {zone, [](icaltimezone* ended) { icaltimezone_free(ended, 1); }};
+    }
+    icalcomponent_free(parsed);
+    icaltimezone_free(zone, 1);
     return nullptr;
 }
 
@@ -99,13 +100,35 @@ struct ICalendarZones::Zone {
     std::shared_ptr<icaltimezone> defined;
 };
 
+std::shared_ptr<const ICalendarZones::Zone> ICalendarZones::Definitions::zone(const QByteArray& name) {
+    if (!m_definitions) {
+        m_definitions.emplace();
+        for (std::size_t i = 0; i < m_text.components().size(); ++i) {
+            const ICalendarText::Component& component = m_text.components()[i];
+            const auto id = component.name == "VTIMEZONE" ? m_text.property(component, "TZID") : std::nullopt;
+            if (id && !m_definitions->contains(id->value)) {
+                m_definitions->insert(id->value, Definition{i, false, nullptr});
+            }
+        }
+    }
+    const auto found = m_definitions->find(name);
+    if (found == m_definitions->end()) {
+        return nullptr;
+    }
+    if (!std::exchange(found->isRead, true) && m_readCount++ < kMostDefinitions) {
+        if (const auto defined = definedZone(m_text, found->component)) {
+            found->zone = std::make_shared<const Zone>(Zone{std::nullopt, defined});
+        }
+    }
+    return found->zone;
+}
+
 ICalendarZones::ICalendarZones(LookUp lookUp)
     : m_lookUp(std::move(lookUp)) {}
 
 ICalendarZones::~ICalendarZones() = default;
 
-std::shared_ptr<const ICalendarZones::Zone> ICalendarZones::zone(const QByteArray& name,
-                                                                 const ICalendarText& text) {
+std::shared_ptr<const ICalendarZones::Zone> ICalendarZones::zone(const QByteArray& name, Definitions& text) {
     if (name.isEmpty() || name.size() > kLongestName) {
         return nullptr;
     }
@@ -122,8 +145,8 @@ std::shared_ptr<const ICalendarZones::Zone> ICalendarZones::zone(const QByteArra
         return *known;
     }
     // Another text may define the same name differently.
-    if (const auto defined = definedZone(text, name)) {
-        return std::make_shared<const Zone>(Zone{std::nullopt, defined});
+    if (auto defined = text.zone(name)) {
+        return defined;
     }
     if (m_lookUp == nullptr) {
         return nullptr;
@@ -132,18 +155,17 @@ std::shared_ptr<const ICalendarZones::Zone> ICalendarZones::zone(const QByteArra
     if (before != m_lookedUp.constEnd()) {
         return *before;
     }
-    std::shared_ptr<const Zone> found;
-    if (const auto answer = ICalendarText::parse(m_lookUp(name))) {
-        if (const auto defined = definedZone(*answer, name)) {
-            found = std::make_shared<const Zone>(Zone{std::nullopt, defined});
-        }
+    const std::optional<QByteArray> answer = m_lookUp(name);
+    if (!answer) {
+        return nullptr;
     }
+    const std::optional<ICalendarText> parsed = ICalendarText::parse(*answer);
+    const auto found = parsed ? Definitions(*parsed).zone(name) : nullptr;
     m_lookedUp.insert(name, found);
     return found;
 }
 
-std::optional<ICalendarTime> ICalendarZones::time(const ICalendarProperty& property,
-                                                  const ICalendarText& text) {
+std::optional<ICalendarTime> ICalendarZones::time(const ICalendarProperty& property, Definitions& text) {
     if (property.value.size() > kLongestTime) {
         return std::nullopt;
     }
