@@ -20,13 +20,7 @@ class CalendarServer {
   public:
     explicit CalendarServer(const QStringList& options)
         : m_options(options) {
-        const int probe = ::socket(AF_INET, SOCK_STREAM, 0);
-        sockaddr_in address = loopback(0);
-        socklen_t size = sizeof address;
-        EXPECT_EQ(::bind(probe, reinterpret_cast<sockaddr*>(&address), size), 0);
-        EXPECT_EQ(::getsockname(probe, reinterpret_cast<sockaddr*>(&address), &size), 0);
-        ::close(probe);
-        m_port = ntohs(address.sin_port);
+        m_port = reservedPort();
         EXPECT_TRUE(QDir().mkpath(folder()));
         QFile properties(folder() + QStringLiteral("/.Radicale.props"));
         EXPECT_TRUE(properties.open(QIODevice::WriteOnly));
@@ -45,8 +39,9 @@ class CalendarServer {
                                    QStringLiteral("--server-hosts=127.0.0.1:%1").arg(m_port),
                                    QStringLiteral("--storage-filesystem-folder=") + m_folder.path()} +
                            m_options);
-        EXPECT_TRUE(QTest::qWaitFor([this] { return answers(); }, 20'000))
-            << "the package radicale is needed";
+        EXPECT_TRUE(m_server.waitForStarted()) << "the package radicale is needed";
+        EXPECT_TRUE(QTest::qWaitFor([this] { return answers() || m_server.waitForFinished(0); }, 20'000));
+        EXPECT_EQ(m_server.state(), QProcess::Running) << "it cannot use the port";
     }
     void stop() {
         m_server.kill();
@@ -72,6 +67,26 @@ class CalendarServer {
         address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         address.sin_port = htons(static_cast<std::uint16_t>(port));
         return address;
+    }
+    /// The end of a connection leaves the port to servers that ask for it, and to nobody who takes any.
+    static int reservedPort() {
+        const int server = ::socket(AF_INET, SOCK_STREAM, 0);
+        sockaddr_in address = loopback(0);
+        socklen_t size = sizeof address;
+        auto* generic = reinterpret_cast<sockaddr*>(&address);
+        const int reuse = 1;
+        EXPECT_EQ(::setsockopt(server, SOL_SOCKET, SO_REUSEADDR, &reuse, sizeof reuse), 0);
+        EXPECT_EQ(::bind(server, generic, size), 0);
+        EXPECT_EQ(::listen(server, 1), 0);
+        EXPECT_EQ(::getsockname(server, generic, &size), 0);
+        const int client = ::socket(AF_INET, SOCK_STREAM, 0);
+        EXPECT_EQ(::connect(client, generic, size), 0);
+        const int accepted = ::accept(server, nullptr, nullptr);
+        // The end that closes first keeps the port.
+        ::close(accepted);
+        ::close(client);
+        ::close(server);
+        return ntohs(address.sin_port);
     }
     bool answers() const {
         const sockaddr_in address = loopback(m_port);

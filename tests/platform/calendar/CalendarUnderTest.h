@@ -77,6 +77,8 @@ class Announcements {
             ++m_count;
             m_changed.notify_all();
         });
+        // Now the store watches.
+        m_store.access();
     }
     Announcements(const Announcements&) = delete;
     Announcements& operator=(const Announcements&) = delete;

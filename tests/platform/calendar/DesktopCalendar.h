@@ -46,13 +46,20 @@ class DesktopCalendar final : public CalendarUnderTest {
     }
     void erase(const QByteArray& uid) override { EXPECT_TRUE(other.remove({uid}).isOk()); }
 
-    void killService() {
+    /// The process that has this name on the bus.
+    void signalService(int signal, const QString& service) {
         const EDSReply process =
             connection.call({QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
                              QStringLiteral("org.freedesktop.DBus")},
-                            QStringLiteral("GetConnectionUnixProcessID"), {kEDSCalendarService});
+                            QStringLiteral("GetConnectionUnixProcessID"), {service});
         ASSERT_TRUE(process.isOk());
-        ASSERT_EQ(::kill(process.values.first().toInt(), SIGKILL), 0);
+        ASSERT_EQ(::kill(process.values.first().toInt(), signal), 0);
+    }
+    void killService() { signalService(SIGKILL, kEDSCalendarService); }
+    /// The process that keeps the calendar.
+    QString backend() {
+        EXPECT_EQ(other.open(), std::nullopt);
+        return other.object().service;
     }
 
     DesktopSession session;

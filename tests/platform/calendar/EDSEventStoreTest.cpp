@@ -110,6 +110,46 @@ TEST_F(EDSEventStoreTest, OpensCalendarsAgainWhenTheServiceDies) {
     EXPECT_TRUE(announcements.arrives()) << "it is watched again";
 }
 
+TEST_F(EDSEventStoreTest, SeesThatTheProcessOfACalendarDies) {
+    DesktopCalendar test;
+    const EventCalendar calendar = test.calendar();
+    ASSERT_TRUE(save(test, calendar, showEvent(u"ca1"_s)).isDone());
+    ASSERT_EQ(read(test, calendar).size(), 1U);
+    Announcements announcements(test.store());
+    test.signalService(SIGKILL, test.backend());
+    EXPECT_TRUE(announcements.arrives()) << "without a call of the guide";
+    test.other.close();
+    ASSERT_EQ(read(test, calendar).size(), 1U);
+    test.erase("ca1@quellin");
+    EXPECT_TRUE(announcements.arrives()) << "it is watched again";
+}
+
+TEST_F(EDSEventStoreTest, LeavesACalendarThatHangsAlone) {
+    DesktopCalendar test;
+    const EventCalendar calendar = test.calendar();
+    ASSERT_TRUE(save(test, calendar, showEvent(u"ca1"_s)).isDone());
+    const std::size_t before = test.store().calendars().value().size();
+    const QString backend = test.backend();
+    EDSCalendar hung(test.connection, calendar.identifier, 1s);
+    ASSERT_EQ(hung.open(), std::nullopt);
+
+    test.signalService(SIGSTOP, backend);
+    test.connection.beginCalls(1ms);
+    EXPECT_FALSE(test.other.get("ca1@quellin").isOk());
+    test.connection.beginCalls(3s);
+    EXPECT_FALSE(hung.get("ca1@quellin").isOk());
+    const std::unique_ptr<EventStore> second = test.secondStore();
+    EXPECT_FALSE(second->defaultCalendarForNewEvents()) << "it may be that one, so none is made";
+    test.connection.beginCalls(1min);
+    test.signalService(SIGCONT, backend);
+
+    EXPECT_TRUE(test.other.get("ca1@quellin").isOk()) << "a call without time tells nothing of the calendar";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hung.get("ca1@quellin").isOk(); }, 20'000));
+    EXPECT_EQ(second->eventsBetween(kEvening, kEvening + 1h, calendar).fault,
+              u"the calendar does not answer"_s);
+    EXPECT_EQ(test.store().calendars().value().size(), before);
+}
+
 TEST_F(EDSEventStoreTest, ListsCalendarsThatCannotBeWritten) {
     const QTemporaryDir folder;
     const QString rights = folder.filePath(u"rights"_s);

@@ -238,6 +238,8 @@ TEST_P(EventStoreTest, AnnouncesWhatOthersChange) {
 
     test->put("other", QByteArray(text).replace("quellin-guide", "https").replace(kUid, "other"));
     EXPECT_TRUE(announcements.arrives()) << "added";
+    EXPECT_EQ(announcements.count(), 1)
+        << "changes are reported in order, so none of the guide's own follows";
     test->put("other", test->get("other").replace("https", "http"));
     EXPECT_TRUE(announcements.arrives()) << "edited";
     test->erase("other");

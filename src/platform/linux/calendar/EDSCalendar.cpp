@@ -36,7 +36,6 @@ namespace {
 
 /// Fails instead of overwriting what was changed on the server meanwhile.
 constexpr uint kFailOnConflict = 1;
-constexpr std::chrono::seconds kLeftAloneFor{60};
 constexpr int kLooks = 10;
 constexpr std::chrono::milliseconds kLookInterval{50};
 /// All of a repeated event.
@@ -100,7 +99,7 @@ bool EDSCalendar::isOnline() {
 void EDSCalendar::note(const std::optional<EDSError>& error) {
     m_isReachable = !error || error->fault != EventFault::Unavailable;
     if (error && error->isLate) {
-        m_leftAloneUntil = SteadyClock::now() + kLeftAloneFor;
+        m_leftAloneUntil = SteadyClock::now() + m_leftAloneFor;
     }
 }
 

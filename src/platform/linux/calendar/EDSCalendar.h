@@ -17,9 +17,12 @@ namespace guide {
 /// Objects are iCalendar components. One thread.
 class EDSCalendar {
   public:
-    EDSCalendar(EDSConnection& connection, const QString& sourceUid)
+    /// `leftAloneFor` is how long after it did not answer.
+    EDSCalendar(EDSConnection& connection, const QString& sourceUid,
+                std::chrono::milliseconds leftAloneFor = std::chrono::minutes(1))
         : m_connection(connection)
-        , m_sourceUid(sourceUid) {}
+        , m_sourceUid(sourceUid)
+        , m_leftAloneFor(leftAloneFor) {}
 
     /// Why it cannot be opened; unset when it is open.
     std::optional<EDSError> open(std::chrono::milliseconds longest = std::chrono::seconds(10));
@@ -56,6 +59,7 @@ class EDSCalendar {
 
     EDSConnection& m_connection;
     const QString m_sourceUid;
+    const std::chrono::milliseconds m_leftAloneFor;
     /// Without a path while it is not open.
     EDSObject m_object;
     bool m_isReachable = true;

@@ -16,6 +16,8 @@ namespace {
 
 constexpr auto kCalendarError = "_e_2dcal_2dclient_2derror_2dquark.Code"_L1;
 constexpr auto kNetworkError = "_g_2dio_2derror_2dquark.Code"_L1;
+/// A service that did not answer within less is not to blame.
+constexpr std::chrono::seconds kPatience{2};
 constexpr auto kClientError = "_e_2dclient_2derror_2dquark.Code"_L1;
 
 /// The number at the end of the error's name, of one of the lists.
@@ -26,13 +28,10 @@ std::optional<int> codeOf(const QString& name, QLatin1StringView list) {
 
 EDSReply outOfTime() {
     return {.values = {},
-            .error = EDSError{.fault = EventFault::Unavailable,
-                              .message = u"the calendar takes too long"_s,
-                              .isLate = true}};
+            .error = EDSError{.fault = EventFault::Unavailable, .message = u"the calendar takes too long"_s}};
 }
 
-} // namespace
-
+/// The meaning of an error of the service.
 EDSError edsError(const QString& name, const QString& message) {
     // Numbers of ECalClientError, EClientError and GIOErrorEnum.
     EDSError error{.message = message};
@@ -77,6 +76,8 @@ EDSError edsError(const QString& name, const QString& message) {
     return error;
 }
 
+} // namespace
+
 EDSConnection::EDSConnection(const QString& address)
     : m_name(u"calendars-"_s + QUuid::createUuid().toString(QUuid::Id128))
     , m_bus(QDBusConnection::connectToBus(address, m_name)) {}
@@ -95,14 +96,16 @@ std::optional<std::chrono::milliseconds> EDSConnection::timeFor(std::chrono::mil
     return time.count() > 0 ? std::optional(time) : std::nullopt;
 }
 
-EDSReply EDSConnection::reply(const QDBusMessage& answer, Clock::time_point lateFrom) {
+EDSReply EDSConnection::reply(const QDBusMessage& answer, Clock::time_point begin,
+                              std::chrono::milliseconds time) {
     if (answer.type() == QDBusMessage::ReplyMessage) {
         return {.values = answer.arguments(), .error = std::nullopt};
     }
     EDSError error = edsError(answer.errorName(), answer.errorMessage());
-    // A service that is slow is not gone.
-    error.isLate = error.isGone && Clock::now() >= lateFrom;
-    error.isGone = error.isGone && !error.isLate;
+    // A service that is slow is not gone. Timers may end a little early.
+    const bool isOver = error.isGone && Clock::now() - begin >= time * 9 / 10;
+    error.isLate = isOver && time >= kPatience;
+    error.isGone = error.isGone && !isOver;
     return {.values = {}, .error = std::move(error)};
 }
 
@@ -115,8 +118,8 @@ EDSReply EDSConnection::call(const EDSObject& object, const QString& member, con
     QDBusMessage message =
         QDBusMessage::createMethodCall(object.service, object.path, object.interface, member);
     message.setArguments(arguments);
-    const Clock::time_point lateFrom = Clock::now() + *time;
-    return reply(m_bus.call(message, QDBus::Block, static_cast<int>(time->count())), lateFrom);
+    const Clock::time_point begin = Clock::now();
+    return reply(m_bus.call(message, QDBus::Block, static_cast<int>(time->count())), begin, *time);
 }
 
 QList<EDSReply> EDSConnection::calls(const EDSObject& object, const QString& member,
@@ -125,7 +128,7 @@ QList<EDSReply> EDSConnection::calls(const EDSObject& object, const QString& mem
     if (!time) {
         return QList<EDSReply>(arguments.size(), outOfTime());
     }
-    const Clock::time_point lateFrom = Clock::now() + *time;
+    const Clock::time_point begin = Clock::now();
     QList<QDBusPendingCall> pending;
     for (const QVariantList& list : arguments) {
         QDBusMessage message =
@@ -136,7 +139,7 @@ QList<EDSReply> EDSConnection::calls(const EDSObject& object, const QString& mem
     QList<EDSReply> replies;
     for (QDBusPendingCall& one : pending) {
         one.waitForFinished();
-        replies << reply(one.reply(), lateFrom);
+        replies << reply(one.reply(), begin, *time);
     }
     return replies;
 }

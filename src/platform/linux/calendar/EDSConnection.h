@@ -23,7 +23,7 @@ struct EDSError {
     bool isTaken = false;
     /// The server has another state than the service believed.
     bool isOutOfSync = false;
-    /// The service did not answer in time.
+    /// The service had time enough and did not answer.
     bool isLate = false;
 };
 
@@ -71,14 +71,13 @@ class EDSConnection {
 
     /// How long a call may take; nothing when there is no time left.
     std::optional<std::chrono::milliseconds> timeFor(std::chrono::milliseconds longest) const;
-    static EDSReply reply(const QDBusMessage& answer, Clock::time_point lateFrom);
+    /// To a call that was made at `begin` and could take `time`.
+    static EDSReply reply(const QDBusMessage& answer, Clock::time_point begin,
+                          std::chrono::milliseconds time);
 
     const QString m_name;
     QDBusConnection m_bus;
     Clock::time_point m_until = Clock::time_point::max();
 };
-
-/// The meaning of an error of the service.
-EDSError edsError(const QString& name, const QString& message);
 
 } // namespace guide

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <map>
+#include <mutex>
 #include <utility>
 
 namespace guide {
@@ -27,8 +28,10 @@ constexpr auto kLongest = 28s;
 constexpr auto kLongestOpening = 5s;
 /// How often a calendar that was just made is tried.
 constexpr std::chrono::milliseconds kOpeningInterval = 20ms;
-/// How often a service that keeps ending is started again to be watched.
-constexpr auto kRewatchInterval = 5s;
+/// How long after an attempt to watch all calendars the next one is made; twice as long after each that
+/// failed.
+constexpr SteadyClock::duration kRewatchInterval = 5s;
+constexpr SteadyClock::duration kLongestRewatchInterval = 80s;
 const QString kPersonalCalendar = u"system-calendar"_s;
 
 /// The calendar and the UID of an event's identifier.
@@ -53,7 +56,7 @@ class EDSEventStore::Worker final : public QObject {
     Worker(const QString& busAddress, const QString& scheme, const Clock& clock)
         : m_clock(clock)
         , m_connection(busAddress)
-        , m_reading(scheme, [this](const QByteArray& name) { return timezone(name); }) {}
+        , m_scheme(scheme) {}
 
     bool isConnected() const { return m_connection.isConnected(); }
 
@@ -84,23 +87,25 @@ class EDSEventStore::Worker final : public QObject {
 
     void refresh() {
         for (auto& [identifier, open] : m_calendars) {
-            open.calendar->refresh();
+            open.calendar.refresh();
         }
     }
 
     EventRange events(Moment start, Moment end, const QString& identifier) {
         m_connection.beginCalls(kLongest);
         Open& open = opened(identifier);
-        watch(identifier, open);
-        m_current = open.calendar.get();
-        const EDSReply reply = open.calendar->list(start, end);
+        open.isUsed = true;
+        if (!watch(identifier, open)) {
+            watchAgain();
+        }
+        const EDSReply reply = open.calendar.list(start, end);
         if (!reply.isOk()) {
             return {.events = {}, .fault = reply.error->message};
         }
         EventRange range;
         const QStringList components = reply.values.value(0).toStringList();
         for (const QString& component : components) {
-            if (std::optional<EDSEvent> found = edsEvent(component, m_reading)) {
+            if (std::optional<EDSEvent> found = edsEvent(component, open.reading)) {
                 range.events.push_back(calendarEvent(identifier, std::move(*found)));
             }
         }
@@ -112,9 +117,8 @@ class EDSEventStore::Worker final : public QObject {
         m_connection.beginCalls(kLongest);
         const auto [calendar, uid] = parts(identifier);
         Open& open = opened(calendar);
-        m_current = open.calendar.get();
-        const EDSReply reply = open.calendar->get(uid);
-        std::optional<EDSEvent> found = reply.isOk() ? edsEvent(reply.text(), m_reading) : std::nullopt;
+        const EDSReply reply = open.calendar.get(uid);
+        std::optional<EDSEvent> found = reply.isOk() ? edsEvent(reply.text(), open.reading) : std::nullopt;
         return found ? std::optional(calendarEvent(calendar, std::move(*found))) : std::nullopt;
     }
 
@@ -157,37 +161,60 @@ class EDSEventStore::Worker final : public QObject {
         return outcomes;
     }
 
+    /// Any thread; does not wait for other work.
     void setChanged(std::function<void()> changed) {
-        m_watch.reset();
+        const std::lock_guard lock(m_changedMutex);
         m_changed = std::move(changed);
-        if (m_changed == nullptr) {
-            return;
+    }
+
+    /// Watches while there is somebody to call.
+    void followChanges() {
+        const bool isWanted = [this] {
+            const std::lock_guard lock(m_changedMutex);
+            return m_changed != nullptr;
+        }();
+        if (!isWanted) {
+            m_watch.reset();
+        } else if (m_watch == nullptr) {
+            m_watch = std::make_unique<EDSWatch>(
+                m_connection, m_writes, [this] { serviceEnded(); }, [this] { announce(); });
+            m_connection.beginCalls(kLongestOpening);
+            if (!watchAll()) {
+                watchAgain();
+            }
         }
-        m_watch = std::make_unique<EDSWatch>(
-            m_connection, m_reading, m_writes, [this] { serviceEnded(); }, [this] { m_changed(); });
-        m_connection.beginCalls(kLongest);
-        watchAll();
     }
 
   private:
     struct Open {
-        std::unique_ptr<EDSCalendar> calendar;
+        Open(EDSConnection& connection, const QString& identifier, const QString& scheme)
+            : calendar(connection, identifier)
+            , reading(scheme, [this](const QByteArray& name) { return timezone(name); }) {}
+
+        /// As ICalendarZones::LookUp.
+        std::optional<QByteArray> timezone(const QByteArray& name) {
+            const EDSReply reply = calendar.timezone(name);
+            if (reply.isOk()) {
+                return reply.text().toUtf8();
+            }
+            return reply.error->fault == EventFault::Unavailable ? std::nullopt : std::optional(QByteArray());
+        }
+
+        EDSCalendar calendar;
+        /// Each calendar has zones of its own.
+        EventReading reading;
         /// The events were read.
         bool isUsed = false;
     };
 
     Open& opened(const QString& identifier) {
-        Open& open = m_calendars[identifier];
-        if (open.calendar == nullptr) {
-            open.calendar = std::make_unique<EDSCalendar>(m_connection, identifier);
-        }
-        return open;
+        return m_calendars.try_emplace(identifier, m_connection, identifier, m_scheme).first->second;
     }
 
     /// The process that opens calendars hears of a new one a little later than we do.
     void waitUntilKnown(const QString& uid) {
         const SteadyClock::time_point latest = SteadyClock::now() + kLongestOpening;
-        while (opened(uid).calendar->open(kLongestOpening) && SteadyClock::now() < latest) {
+        while (opened(uid).calendar.open(kLongestOpening) && SteadyClock::now() < latest) {
             QThread::msleep(kOpeningInterval.count());
         }
     }
@@ -198,7 +225,7 @@ class EDSEventStore::Worker final : public QObject {
         if (source.isReadOnlyKind()) {
             return calendar;
         }
-        EDSCalendar& open = *opened(source.uid).calendar;
+        EDSCalendar& open = opened(source.uid).calendar;
         if (source.needsUser() || open.open(kLongestOpening)) {
             calendar.state = CalendarState::Unavailable;
         } else if (!source.isLocal() &&
@@ -213,53 +240,74 @@ class EDSEventStore::Worker final : public QObject {
 
     void make(const QString& identifier, EDSChanges::Kind kind, const std::vector<EDSChange>& changes) {
         Open& open = opened(identifier);
-        m_current = open.calendar.get();
-        EDSChanges(*open.calendar, identifier, m_reading, m_writes, m_clock.now()).make(kind, changes);
+        EDSChanges(open.calendar, identifier, open.reading, m_writes, m_clock.now()).make(kind, changes);
     }
 
-    void watch(const QString& identifier, Open& open) {
-        open.isUsed = true;
-        if (m_watch != nullptr) {
-            m_watch->watch(identifier, *open.calendar);
+    void announce() {
+        const std::lock_guard lock(m_changedMutex);
+        if (m_changed != nullptr) {
+            m_changed();
         }
     }
 
-    void watchAll() {
+    /// False when it should be watched and cannot be.
+    bool watch(const QString& identifier, Open& open) {
+        return m_watch == nullptr || m_watch->watch(identifier, open.calendar, open.reading);
+    }
+
+    /// Those whose events were read.
+    bool watchAll() {
+        bool isComplete = true;
         for (auto& [identifier, open] : m_calendars) {
-            if (open.isUsed) {
-                watch(identifier, open);
-            }
+            isComplete = (!open.isUsed || watch(identifier, open)) && isComplete;
         }
+        return isComplete;
+    }
+
+    /// Soon, and until it succeeds.
+    void watchAgain() {
+        if (std::exchange(m_isRewatchPlanned, true)) {
+            return;
+        }
+        const auto wait =
+            std::max(m_lastRewatch + m_rewatchInterval - SteadyClock::now(), SteadyClock::duration(0));
+        QTimer::singleShot(std::chrono::ceil<std::chrono::milliseconds>(wait), this, [this] {
+            m_isRewatchPlanned = false;
+            m_lastRewatch = SteadyClock::now();
+            m_connection.beginCalls(kLongestOpening);
+            if (!watchAll()) {
+                m_rewatchInterval = std::min(2 * m_rewatchInterval, kLongestRewatchInterval);
+                watchAgain();
+                return;
+            }
+            m_rewatchInterval = kRewatchInterval;
+            // Changes made before were not seen.
+            if (m_watch != nullptr) {
+                m_watch->report();
+            }
+        });
     }
 
     void serviceEnded() {
         for (auto& [identifier, open] : m_calendars) {
-            open.calendar->close();
+            open.calendar.close();
         }
-        const auto wait =
-            std::max(m_lastRewatch + kRewatchInterval - SteadyClock::now(), SteadyClock::duration(0));
-        QTimer::singleShot(std::chrono::ceil<std::chrono::milliseconds>(wait), this, [this] {
-            m_lastRewatch = SteadyClock::now();
-            m_connection.beginCalls(kLongestOpening);
-            watchAll();
-        });
-    }
-
-    QByteArray timezone(const QByteArray& name) {
-        const EDSReply reply = m_current == nullptr ? EDSReply{} : m_current->timezone(name);
-        return reply.text().toUtf8();
+        watchAgain();
     }
 
     const Clock& m_clock;
     EDSConnection m_connection;
-    EventReading m_reading;
+    const QString m_scheme;
     OwnWrites m_writes;
     std::map<QString, Open> m_calendars;
-    /// Knows the zones of the events that are being read.
-    EDSCalendar* m_current = nullptr;
-    std::function<void()> m_changed;
     std::unique_ptr<EDSWatch> m_watch;
     SteadyClock::time_point m_lastRewatch;
+    SteadyClock::duration m_rewatchInterval = kRewatchInterval;
+    bool m_isRewatchPlanned = false;
+
+    /// Held while the function is called.
+    std::mutex m_changedMutex;
+    std::function<void()> m_changed;
 };
 
 EDSEventStore::EDSEventStore(const QString& busAddress, const QString& scheme, const Clock& clock) {
@@ -343,10 +391,9 @@ std::vector<EventOutcome> EDSEventStore::apply(const std::vector<EventChange>& c
 }
 
 void EDSEventStore::setCalendarsChanged(std::function<void()> calendarsChanged) {
-    run([&] {
-        m_worker->setChanged(std::move(calendarsChanged));
-        return true;
-    });
+    m_worker->setChanged(std::move(calendarsChanged));
+    QMetaObject::invokeMethod(
+        m_worker, [worker = m_worker] { worker->followChanges(); }, Qt::QueuedConnection);
 }
 
 QString EDSEventStore::name() const {

@@ -33,7 +33,8 @@ class EDSEventStore final : public EventStore {
     EventRange eventsBetween(Moment start, Moment end, const EventCalendar& calendar) override;
     std::optional<CalendarEvent> eventWithIdentifier(const QString& identifier) override;
     std::vector<EventOutcome> apply(const std::vector<EventChange>& changes) override;
-    /// The function is called on the store's thread, and must not call the store.
+    /// The function is called on the store's thread, and must not call the store. Never waits; changes are
+    /// watched from the next other call on at the latest.
     void setCalendarsChanged(std::function<void()> calendarsChanged) override;
     QString name() const override;
 

@@ -5,6 +5,7 @@
 #include <QDBusArgument>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
+#include <QHash>
 #include <QLocale>
 #include <QMap>
 #include <QUuid>
@@ -43,7 +44,8 @@ QString escaped(const QString& value) {
     return value.simplified().replace(u'\\', u"\\\\"_s);
 }
 
-} // namespace
+/// Groups of keys, in the format of desktop entries.
+using KeyFile = QHash<QString, QHash<QString, QString>>;
 
 KeyFile readKeyFile(const QString& text) {
     KeyFile groups;
@@ -62,6 +64,7 @@ KeyFile readKeyFile(const QString& text) {
     return groups;
 }
 
+/// The value in the language of the locale (such as "de_AT"), or the general one.
 QString localizedValue(const QHash<QString, QString>& group, const QString& key, const QString& locale) {
     for (const QString& name : {locale, locale.section(u'_', 0, 0)}) {
         if (const auto found = group.constFind(u"%1[%2]"_s.arg(key, name)); found != group.constEnd()) {
@@ -70,6 +73,8 @@ QString localizedValue(const QHash<QString, QString>& group, const QString& key,
     }
     return group.value(key);
 }
+
+} // namespace
 
 bool EDSSource::needsUser() const {
     return connectionStatus == "awaiting-credentials"_L1 || connectionStatus == "ssl-failed"_L1;

@@ -2,19 +2,12 @@
 
 #include "platform/linux/calendar/EDSConnection.h"
 
-#include <QHash>
 #include <QString>
 
 #include <optional>
 #include <vector>
 
 namespace guide {
-
-/// Groups of keys, in the format of desktop entries.
-using KeyFile = QHash<QString, QHash<QString, QString>>;
-KeyFile readKeyFile(const QString& text);
-/// The value in the language of the locale (such as "de_AT"), or the general one.
-QString localizedValue(const QHash<QString, QString>& group, const QString& key, const QString& locale);
 
 /// A calendar that the service knows.
 struct EDSSource {

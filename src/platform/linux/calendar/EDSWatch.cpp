@@ -19,21 +19,22 @@ namespace {
 const QString kViewInterface = u"org.gnome.evolution.dataserver.CalendarView"_s;
 const QString kPropertiesInterface = u"org.freedesktop.DBus.Properties"_s;
 const QString kObjectManagerInterface = u"org.freedesktop.DBus.ObjectManager"_s;
+/// Of reading the events of one signal.
+constexpr auto kLongest = 5s;
 /// One report for what arrives together.
 constexpr auto kGathering = 100ms;
 
 } // namespace
 
-EDSWatch::EDSWatch(EDSConnection& connection, EventReading& reading, OwnWrites& writes,
-                   std::function<void()> lost, std::function<void()> changed)
+EDSWatch::EDSWatch(EDSConnection& connection, OwnWrites& writes, std::function<void()> lost,
+                   std::function<void()> changed)
     : m_connection(connection)
-    , m_reading(reading)
     , m_writes(writes)
     , m_lost(std::move(lost)) {
     m_services.setConnection(connection.bus());
     m_services.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
     m_services.addWatchedService(kEDSCalendarService);
-    connect(&m_services, &QDBusServiceWatcher::serviceUnregistered, this, [this] { serviceEnded(); });
+    connect(&m_services, &QDBusServiceWatcher::serviceUnregistered, this, &EDSWatch::serviceEnded);
     m_timer.setSingleShot(true);
     m_timer.setInterval(kGathering);
     connect(&m_timer, &QTimer::timeout, this, std::move(changed));
@@ -49,7 +50,7 @@ EDSWatch::~EDSWatch() {
     }
 }
 
-bool EDSWatch::watch(const QString& identifier, EDSCalendar& calendar) {
+bool EDSWatch::watch(const QString& identifier, EDSCalendar& calendar, EventReading& reading) {
     if (m_views.contains(identifier)) {
         return true;
     }
@@ -75,49 +76,71 @@ bool EDSWatch::watch(const QString& identifier, EDSCalendar& calendar) {
         return false;
     }
     m_views.insert(identifier, view);
-    m_calendars.insert(view.path, identifier);
+    m_calendars.insert(view.path, {identifier, &reading});
+    // The process that keeps this calendar may end alone.
+    if (!m_services.watchedServices().contains(view.service)) {
+        m_services.addWatchedService(view.service);
+    }
     return true;
 }
 
+void EDSWatch::report() {
+    // Not started anew, so that a long row of changes is reported before its end.
+    if (!m_timer.isActive()) {
+        m_timer.start();
+    }
+}
+
 void EDSWatch::objectsChanged(const QDBusMessage& signal) {
-    const QString calendar = m_calendars.value(signal.path());
+    const Watched watched = m_calendars.value(signal.path());
+    if (watched.reading == nullptr) {
+        return;
+    }
+    // The reading may ask for zones.
+    m_connection.beginCalls(kLongest);
     const QStringList components = signal.arguments().value(0).toStringList();
     for (const QString& component : components) {
-        const std::optional<EDSEvent> event = edsEvent(component, m_reading);
-        if (!event || !m_writes.isOwn(calendar, event->stored.uid, event->stored.event)) {
-            m_timer.start();
+        const std::optional<EDSEvent> event = edsEvent(component, *watched.reading);
+        if (!event || !m_writes.isOwn(watched.identifier, event->stored.uid, event->stored.event)) {
+            report();
         }
     }
 }
 
 void EDSWatch::objectsRemoved(const QDBusMessage& signal) {
-    const QString calendar = m_calendars.value(signal.path());
+    const QString calendar = m_calendars.value(signal.path()).identifier;
     const QStringList ids = signal.arguments().value(0).toStringList();
     for (const QString& id : ids) {
         // The part after a line end names an occurrence.
         if (!m_writes.isOwn(calendar, id.section(u'\n', 0, 0).toUtf8(), std::nullopt)) {
-            m_timer.start();
+            report();
         }
     }
 }
 
 void EDSWatch::sourcesChanged() {
-    m_timer.start();
+    report();
 }
 
 void EDSWatch::calendarPropertiesChanged(const QDBusMessage& signal) {
     const QVariantMap changed = qdbus_cast<QVariantMap>(signal.arguments().value(1));
     if (changed.contains(u"Writable"_s) || changed.contains(u"Online"_s)) {
-        m_timer.start();
+        report();
     }
 }
 
-void EDSWatch::serviceEnded() {
-    qInfo("the calendar service has ended; its calendars are opened again");
+void EDSWatch::serviceEnded(const QString& service) {
+    qInfo().noquote() << "the calendar service has ended; its calendars are opened again:" << service;
+    for (const EDSObject& view : std::as_const(m_views)) {
+        if (view.service != service) {
+            m_connection.send(view, u"Dispose"_s);
+        }
+    }
     m_views.clear();
     m_calendars.clear();
+    m_services.setWatchedServices({kEDSCalendarService});
     m_lost();
-    m_timer.start();
+    report();
 }
 
 } // namespace guide

@@ -19,13 +19,17 @@ class EDSWatch final : public QObject {
     Q_OBJECT
 
   public:
-    /// `lost` is called when the service has ended, before `changed`.
-    EDSWatch(EDSConnection& connection, EventReading& reading, OwnWrites& writes, std::function<void()> lost,
+    /// `lost` is called when a process of the service has ended, before `changed`; no calendar is watched
+    /// then.
+    EDSWatch(EDSConnection& connection, OwnWrites& writes, std::function<void()> lost,
              std::function<void()> changed);
     ~EDSWatch() override;
 
-    /// Does nothing for a calendar that is watched. False when it cannot be.
-    bool watch(const QString& identifier, EDSCalendar& calendar);
+    /// Does nothing for a calendar that is watched. False when it cannot be. The reading must outlive the
+    /// watch.
+    bool watch(const QString& identifier, EDSCalendar& calendar, EventReading& reading);
+    /// Calls `changed` soon, once for all that is reported until then.
+    void report();
 
   private Q_SLOTS:
     void objectsChanged(const QDBusMessage& signal);
@@ -34,17 +38,21 @@ class EDSWatch final : public QObject {
     void calendarPropertiesChanged(const QDBusMessage& signal);
 
   private:
-    void serviceEnded();
+    struct Watched {
+        QString identifier;
+        EventReading* reading = nullptr;
+    };
+
+    void serviceEnded(const QString& service);
 
     EDSConnection& m_connection;
-    EventReading& m_reading;
     OwnWrites& m_writes;
     const std::function<void()> m_lost;
     QDBusServiceWatcher m_services;
     QTimer m_timer;
     /// Calendars by the paths of their views.
-    QHash<QString, QString> m_calendars;
-    /// Services and paths of the views.
+    QHash<QString, Watched> m_calendars;
+    /// By calendar.
     QHash<QString, EDSObject> m_views;
 };
 
