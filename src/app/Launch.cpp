@@ -276,7 +276,13 @@ void QuellinGuideAppDelegate::makeRetries() {
     m_retries = std::make_unique<LoadRetries>(m_environment.clock, m_environment.queues.mainQueue(),
                                               *m_channels, [this] { checkAndUpdateAllChannels(); });
     if (m_environment.networkWatch) {
-        m_environment.networkWatch->watch([this] { m_retries->networkAppeared(); });
+        m_environment.networkWatch->watch([this] {
+            m_retries->networkAppeared();
+            // Calendars on servers keep changes that could not be sent.
+            if (m_environment.eventStore) {
+                m_environment.eventStore->refreshSources();
+            }
+        });
     }
 }
 

@@ -100,6 +100,12 @@ TEST_F(GuideAlarmsTest, AnEventFollowsAShowThatIsLate) {
     EXPECT_EQ(events.events().front().identifier, made.identifier);
 }
 
+TEST_F(GuideAlarmsTest, CalendarsOnServersAreAskedAgainWhenTheNetworkReturns) {
+    const int before = events.refreshCount();
+    world.networkWatch.appear();
+    EXPECT_EQ(events.refreshCount(), before + 1);
+}
+
 TEST_F(GuideAlarmsTest, ASettingOfTheOptionsShowsAtOnce) {
     ASSERT_TRUE(row(u"Morning 1"_s));
     const int currently = tabs().selectedIndex();
