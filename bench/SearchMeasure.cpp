@@ -88,7 +88,6 @@ int measure() {
     const AllShows all(lists, Moment::min());
     world.start();
     world.listings->merge(items, std::move(parsed), kNow, ListingsType::XMLTV);
-    world.listings->saveAllShows();
     world.queues.runAll();
 
     GuideWindow guide(*world.tabs, {.motion = false});

@@ -290,7 +290,6 @@ ReadOutcome UpdateCheck::parse(std::vector<LoadItem>& items, ListingsType type, 
         return result.read;
     }
     m_anythingParsed = true;
-    m_environment.listings.saveAllShows();
     m_environment.queues.mainQueue().async([&applicationState = m_environment.applicationState,
                                             offerTop = m_environment.offerTop,
                                             top = topLists(items, result, showCount())] {

@@ -246,7 +246,6 @@ bool DeviceWorld::storeShows(const QJsonArray& shows) {
         sorted.emplace(channel, std::make_shared<const ShowItems>(std::move(list)));
     }
     m_listings->storeLists(sorted);
-    m_listings->saveAllShows();
     return true;
 }
 

@@ -247,6 +247,8 @@ void TVListings::storeLists(const std::unordered_map<ObjectId, ShowList>& lists)
             channels.push_back(channel);
         }
         state.scheduleSaving(std::move(channels));
+        // Before anyone who is told can ask.
+        state.saveAllShows(false);
     });
     m_state->environment.observer.listingsReplaced();
 }
@@ -285,10 +287,6 @@ void TVListings::restoreListings(std::shared_ptr<const RemovedListings> removed)
             state.saveAllShows(true);
         }
     });
-}
-
-void TVListings::saveAllShows() {
-    m_state->change([](State& state) { state.saveAllShows(false); });
 }
 
 void TVListings::updatePopularList() {

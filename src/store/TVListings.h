@@ -76,8 +76,8 @@ class TVListings {
     /// Puts removed lists back, of channels that are selected again and have no new list. They are written
     /// with the load time of the channel's record.
     void restoreListings(std::shared_ptr<const RemovedListings> removed);
-    /// Rebuild the list of all shows; the second also starts a refresh of the most watched shows.
-    void saveAllShows();
+    /// Rebuilds the list of all shows, without those that have ended, and starts a refresh of the most
+    /// watched ones.
     void updatePopularList();
 
     /// Replaces the details of one stored show, and its pictures when any are given. Does nothing when the

@@ -145,7 +145,6 @@ class AlarmWorld : ShowCounters {
             sorted.emplace(channel, std::make_shared<const ShowItems>(std::move(list)));
         }
         listings.storeLists(sorted);
-        listings.saveAllShows();
         queues.runAll();
     }
     void setShows(const QStringList& lines) {

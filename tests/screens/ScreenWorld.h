@@ -351,7 +351,6 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
         }
         const MergeResult merged = listings->merge({{channel, u"source"_s, u"cs"_s}}, std::move(parsed),
                                                    clock.now(), ListingsType::XMLTV);
-        listings->saveAllShows();
         queues.runAll();
         TopShows top;
         for (const auto& [id, stored] : merged.lists) {

@@ -59,7 +59,6 @@ TEST(TVListingsStressTest, ChangesQueriesAndWritesRunConcurrently) {
                 }
                 const MergeResult merged =
                     listings.merge(items, std::move(parsed), clock.now(), ListingsType::XMLTV);
-                listings.saveAllShows();
                 listings.updateDetails(merged.lists.at(channel(1))->front().entry(),
                                        std::make_shared<const TVEntrySupplementalData>(), {});
                 if (round % 4 == 0) {

@@ -169,8 +169,6 @@ TEST_F(TVListingsTest, MergeStoresSchedulesAndAnnounces) {
     EXPECT_FALSE(listings->isScheduledForSaving(channel(2)));
     EXPECT_EQ(onAir(), (std::vector<Titles>{{"A", "B"}, {}, {}}));
     EXPECT_EQ(world.fileTitles(channel(1)), std::nullopt) << "written in the foreground";
-    EXPECT_EQ(found(u"b"_s), Titles{}) << "the caller decides when all shows are rebuilt";
-    listings->saveAllShows();
     EXPECT_EQ(found(u"b"_s), Titles{"B"});
 
     merge({show(0, 1, u"C"_s)});
@@ -345,11 +343,11 @@ TEST_F(TVListingsTest, AllShowsPutTheUsersFirstChannelFirst) {
     made();
     merge({show(0, 1, u"A1"_s), show(0, 1, u"A2"_s, 0, channel(2))});
     world.channels->setSelected({channel(2), channel(1)});
-    listings->saveAllShows();
+    listings->updatePopularList();
     EXPECT_EQ(found(u"a"_s), (Titles{"A2", "A1"}));
     clock.set(hour(1));
     EXPECT_EQ(found(u"a"_s).size(), 2u) << "a show that ends now is not over";
-    listings->saveAllShows();
+    listings->updatePopularList();
     EXPECT_EQ(found(u"a"_s), Titles{}) << "but it has ended";
 }
 
@@ -358,7 +356,6 @@ TEST_F(TVListingsTest, AListOfADeselectedChannelIsNotStored) {
     world.channels->setSelected({channel(2)});
     listings->removeListingsForChannel(channel(1));
     merge({show(0, 1, u"A1"_s), show(0, 1, u"A2"_s, 0, channel(2))});
-    listings->saveAllShows();
     EXPECT_EQ(found(u"a"_s), Titles{"A2"});
     EXPECT_TRUE(listings->finishWriting(std::chrono::milliseconds(0)));
     EXPECT_FALSE(QFile::exists(world.listingsFile(channel(1))));
@@ -436,7 +433,6 @@ TEST_F(TVListingsTest, UpdatedShowsAreFoundAndWrittenAndOldListsStayTheSame) {
 TEST_F(TVListingsTest, BlocksRunOnTheDocumentedQueues) {
     made();
     merge({show(0, 1, u"A"_s)});
-    listings->saveAllShows();
     queues.runAll();
     world.popular.list = std::make_shared<const ShowItems>(ShowItems{item(show(0, 1, u"P"_s))});
     int answers = 0;

@@ -214,7 +214,6 @@ void OwnSourceLoad::merge(OwnFeed feed, bool broken) {
     if (merged.lists.empty()) {
         return;
     }
-    m_environment.listings.saveAllShows();
     const auto showCount = static_cast<unsigned>(std::max(0, m_environment.showCount()));
     m_environment.queues.mainQueue().async([&applicationState = m_environment.applicationState,
                                             offerTop = m_environment.offerTop,
