@@ -91,6 +91,8 @@ struct AlarmSynchroniser::State : std::enable_shared_from_this<State> {
         bool brake = true;
     };
     std::optional<Pending> pending;
+    /// Wait for the end of the runs.
+    std::vector<Block> idle;
 
     // On the alarm queue: identifiers of events.
     QSet<QString> heldBack;
@@ -148,6 +150,11 @@ void AlarmSynchroniser::State::startPending() {
     if (!running && pending) {
         const Pending next = *std::exchange(pending, std::nullopt);
         ask(next.full || !calendar->mark().isSet(), next.brake);
+    }
+    if (!running) {
+        for (const Block& block : std::exchange(idle, {})) {
+            block();
+        }
     }
 }
 
@@ -293,6 +300,11 @@ void AlarmSynchroniser::syncAlarms() {
 
 bool AlarmSynchroniser::isRunning() const {
     return m_state->running;
+}
+
+void AlarmSynchroniser::whenIdle(Block block) {
+    m_state->idle.push_back(std::move(block));
+    m_state->startPending();
 }
 
 // What is done to the calendar is durable when the store says that it is done.

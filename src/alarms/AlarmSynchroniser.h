@@ -23,6 +23,9 @@ class AlarmSynchroniser final : public AlarmSynchronisation, public AlertsSchedu
     void setSynchronized(bool synchronized) override;
     void syncAlarms() override;
     bool isRunning() const override;
+    /// Calls the block once no run is under way: at once, or on the main queue after the run and those that
+    /// were asked for meanwhile. Main queue.
+    void whenIdle(Block block);
     void commit() override;
     bool hasCalendarAccess() const override;
 

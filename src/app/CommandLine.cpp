@@ -21,6 +21,7 @@ QString usage() {
            "What is on television now, and what comes next.\n"
            "\n"
            "  --add ADDRESS|FILE    offer the channels of a feed, playlist or grabber for adding\n"
+           "  --update              update schedules and alarms once, without a window, and exit\n"
            "  --profile FOLDER      keep all folders, settings and the key-value store under FOLDER\n"
            "  --demo                use made-up channels, served by the program itself\n"
            "  --catalogue FILE      the channel catalogue, a property list\n"
@@ -85,6 +86,10 @@ std::variant<LaunchOptions, CommandLineText> parseCommandLine(const QStringList&
             options.demo = true;
             continue;
         }
+        if (word == "--update"_L1) {
+            options.update = true;
+            continue;
+        }
         if (!word.startsWith(u'-')) {
             if (options.url) {
                 return refusal(u"only one URL can be opened, \"%1\" is another"_s.arg(word));
@@ -120,6 +125,10 @@ std::variant<LaunchOptions, CommandLineText> parseCommandLine(const QStringList&
     }
     if (options.demo && (options.catalogue || options.hosts || options.select)) {
         return refusal(u"--demo has its own catalogue, hosts and selection"_s);
+    }
+    if (options.update && (options.url || options.add || options.screenshots)) {
+        return refusal(
+            u"--update shows nothing, so it cannot be combined with a URL, --add or --screenshots"_s);
     }
     return options;
 }

@@ -31,6 +31,8 @@ struct LaunchOptions {
     std::optional<QString> url;
     /// An address, or the absolute path of a file, to be offered as a source after the launch.
     std::optional<QString> add;
+    /// Only to update the schedules and alarms, without a window.
+    bool update = false;
 
     /// Whether the options only try something out and must not touch the user's profile.
     bool usesSeparateProfile() const { return demo || catalogue || hosts || select || now; }

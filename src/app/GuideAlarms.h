@@ -28,6 +28,15 @@ class GuideAlarms final : public AlarmsSource,
     /// No change of a calendar starts a run from now on.
     void stopWatching();
 
+    /// As AlarmSynchroniser::whenIdle.
+    void whenIdle(Block block) {
+        if (m_synchroniser) {
+            m_synchroniser->whenIdle(std::move(block));
+        } else {
+            block();
+        }
+    }
+
     /// Null before the start.
     CalendarActions* calendarActions() { return m_service ? &*m_service : nullptr; }
     AlarmExplanations* explanations() { return m_service ? &*m_service : nullptr; }

@@ -9,6 +9,7 @@ namespace guide {
 namespace {
 
 constexpr char kSeparator = '\t';
+constexpr char kUpdate[] = "update";
 constexpr qsizetype kLongest = 4096;
 
 QByteArray printable(const QByteArray& text) {
@@ -20,14 +21,14 @@ QByteArray printable(const QByteArray& text) {
 
 QByteArray lineOf(const InstanceRequest& request) {
     return printable(request.url.toUtf8()) + kSeparator + printable(request.activationToken) + kSeparator +
-           printable(request.source.toUtf8());
+           printable(request.source.toUtf8()) + kSeparator + (request.update ? kUpdate : "");
 }
 
 InstanceRequest requestIn(const QByteArray& line) {
     QByteArrayList fields = line.split(kSeparator);
-    fields.resize(3);
+    fields.resize(4);
     return {QString::fromUtf8(printable(fields[0])), printable(fields[1]),
-            QString::fromUtf8(printable(fields[2]))};
+            QString::fromUtf8(printable(fields[2])), fields[3] == kUpdate};
 }
 
 } // namespace guide

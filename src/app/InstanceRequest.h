@@ -13,6 +13,8 @@ struct InstanceRequest {
     QByteArray activationToken;
     /// An address or file to be added as a source; may be empty.
     QString source = {};
+    /// To update schedules and alarms, in place of the window.
+    bool update = false;
 
     friend bool operator==(const InstanceRequest&, const InstanceRequest&) = default;
 };

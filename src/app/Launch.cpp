@@ -203,6 +203,11 @@ void QuellinGuideAppDelegate::notificationsSynched() {
 }
 
 void QuellinGuideAppDelegate::askAboutHeldBack(std::size_t count) {
+    if (m_unattended) {
+        // The next window makes the run again, and asks.
+        m_alarms.setSynchronized(false);
+        return;
+    }
     const auto answer = [this](void (GuideAlarms::*act)()) {
         return [this, act, alive = std::weak_ptr(m_alive)] {
             if (!alive.expired()) {
@@ -264,6 +269,10 @@ void QuellinGuideAppDelegate::offerTop(const TopLists& top) {
 }
 
 void QuellinGuideAppDelegate::loadsEnded(const LoadResults& results) {
+    if (m_unattended) {
+        m_unattended->stored.insert(results.stored.begin(), results.stored.end());
+        m_unattended->failed.insert(results.failed.begin(), results.failed.end());
+    }
     if (m_retries) {
         m_retries->loadsEnded(results);
     }

@@ -41,6 +41,8 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -86,6 +88,19 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void applicationWillTerminate() override;
     void applicationDidReceiveMemoryWarning() override;
     void applicationSignificantTimeChange() override;
+
+    /// What an update without a window has loaded.
+    struct UnattendedUpdate {
+        /// Channels that got a list, and those whose loads stored nothing.
+        std::unordered_set<ObjectId> stored;
+        std::unordered_set<ObjectId> failed;
+    };
+    /// Checks the schedules once, and then the alarms. `ended` is called on the main queue. Once, after the
+    /// launch; a question that comes up is left to the next window.
+    void updateUnattended(std::function<void(const UnattendedUpdate&)> ended);
+
+    /// Starts what updateUnattended() does in a guide with a window.
+    void updateNow();
 
     /// Opens the show with this address of the application's scheme; says so when there is none.
     void openURL(const QString& address);
@@ -192,6 +207,8 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     std::atomic<int> m_showCount{4};
     /// Ends a reader that is at work.
     std::atomic<bool> m_isShuttingDown = false;
+    /// Set in a process without a window.
+    std::optional<UnattendedUpdate> m_unattended;
 
     GuideAlarms m_alarms;
     NoShowCounters m_showCounters;

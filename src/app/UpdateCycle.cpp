@@ -2,6 +2,9 @@
 
 #include "app/UpdateCheck.h"
 
+#include <utility>
+#include <vector>
+
 namespace guide {
 
 struct UpdateCycle::State : UpdateWork {
@@ -14,6 +17,15 @@ struct UpdateCycle::State : UpdateWork {
     unsigned ended = 0;
     /// A check is running or about to run. Changed on the check queue.
     std::atomic<bool> running = false;
+    /// Wait for the end of the check. Used on the check queue.
+    std::vector<Block> idle;
+
+    void endRunning() {
+        running = false;
+        for (Block& block : std::exchange(idle, {})) {
+            environment.queues.mainQueue().async(std::move(block));
+        }
+    }
 
     /// On the check queue.
     static void count(const std::shared_ptr<State>& state) {
@@ -36,7 +48,7 @@ struct UpdateCycle::State : UpdateWork {
                 const auto check = std::make_shared<UpdateCheck>(state, [state] {
                     ++state->ended;
                     state->check.reset();
-                    state->running = false;
+                    state->endRunning();
                 });
                 state->check = check;
                 check->begin(counts);
@@ -60,6 +72,15 @@ void UpdateCycle::checkAndUpdateAllChannels() {
 
 bool UpdateCycle::isRunning() const {
     return m_state->running;
+}
+
+void UpdateCycle::whenIdle(Block block) {
+    m_state->environment.checkQueue->async([state = m_state, block = std::move(block)]() mutable {
+        state->idle.push_back(std::move(block));
+        if (!state->running) {
+            state->endRunning();
+        }
+    });
 }
 
 bool UpdateCycle::finish(std::chrono::milliseconds atMost) {

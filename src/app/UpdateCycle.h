@@ -80,6 +80,10 @@ class UpdateCycle {
     /// Whether a check is running. Any thread.
     bool isRunning() const;
 
+    /// Calls the block on the main queue once no check is running, after what the last one has announced
+    /// there. Any thread.
+    void whenIdle(Block block);
+
     /// Ends the running check before its next steps, disables later ones, and waits for the end. Returns
     /// false on timeout. Transfers must have been cancelled, and the load queue must not be suspended.
     bool finish(std::chrono::milliseconds atMost);

@@ -78,6 +78,188 @@ QString picturePrefix(const LaunchOptions& options) {
     return percent == 100 ? form : form + u'-' + QString::number(percent);
 }
 
+/// What a guide of this device consists of, before its launch.
+struct Program {
+    const LaunchOptions& options;
+    const LinuxClock& clock;
+    LinuxDevice& device;
+    EventLoopQueues& queues;
+    WindowState& state;
+    QuellinGuideAppDelegate& delegate;
+    /// Unset in a profile that cannot be written.
+    std::optional<InstanceLock>& instance;
+    const DemoEnvironment* demo;
+    /// The profile is deleted at the end.
+    bool isTrial;
+    /// Set while the window exists.
+    GuideWindow*& window;
+};
+
+/// Launches the guide; false when there is no channel to show.
+bool launch(Program& program, const std::function<void(TabBarController&)>& showWindow) {
+    const LaunchOptions& options = program.options;
+    const QuellinGuideAppDelegate& delegate = program.delegate;
+    installTranslations(program.device.locale());
+    if (!program.delegate.didFinishLaunching(showWindow)) {
+        return false;
+    }
+    // Without a catalogue there are the user's own sources.
+    if (options.catalogue && !delegate.catalogueProblem().isEmpty()) {
+        say(delegate.catalogueProblem());
+    }
+    if (options.select && !options.demo && delegate.firstSelectionIgnored()) {
+        say(u"--select %1 is ignored: the profile has a selection already"_s.arg(*options.select));
+    }
+    return true;
+}
+
+void leave(Program& program) {
+    // A guide started from here on runs by itself instead of handing its request to this one.
+    if (program.instance) {
+        program.instance->stopListening();
+    }
+    if (program.state.setVisible(false)) {
+        program.delegate.applicationDidEnterBackground();
+    }
+    program.delegate.applicationWillTerminate();
+}
+
+/// Shows the guide until the user closes it. The exit status, unset when it cannot be launched.
+std::optional<int> showGuide(Program& program) {
+    const LaunchOptions& options = program.options;
+    QuellinGuideAppDelegate& delegate = program.delegate;
+    LinuxDevice& device = program.device;
+    WindowState& state = program.state;
+    std::unique_ptr<GuideWindow> window;
+    const bool launched = launch(program, [&](TabBarController& tabs) {
+        window = std::make_unique<GuideWindow>(
+            tabs, GuideWindowOptions{
+                      .form = device.userInterfaceIdiom(),
+                      .scheme = options.appearance,
+                      .textScale = options.textScale,
+                      .size = {},
+                      .motion = !options.screenshots,
+                      .locale = device.locale(),
+                      .pictures = &delegate.pictures(),
+                      .visibilityChanged =
+                          [&](bool visible) {
+                              if (!state.setVisible(visible)) {
+                                  return;
+                              }
+                              if (visible) {
+                                  delegate.applicationDidBecomeActive();
+                              } else {
+                                  delegate.applicationDidEnterBackground();
+                              }
+                          },
+                      .dropped = [&](const QString& input) { delegate.addSource(input); },
+                      .closed = [] { QCoreApplication::quit(); },
+                  });
+    });
+    if (!launched) {
+        return std::nullopt;
+    }
+    if (!window->loaded()) {
+        return refuse(u"the screens cannot be drawn"_s);
+    }
+    const std::unique_ptr<DesktopMotion> desktopMotion =
+        options.screenshots ? nullptr : DesktopMotion::ofSession();
+    if (desktopMotion) {
+        QObject::connect(desktopMotion.get(), &DesktopMotion::changed, desktopMotion.get(), [&] {
+            if (window) {
+                window->setMotion(desktopMotion->moves());
+            }
+        });
+    }
+    program.window = window.get();
+    window->show();
+    const auto open = [&](const InstanceRequest& request) {
+        if (request.update) {
+            delegate.updateNow();
+            return;
+        }
+        window->show(request.activationToken);
+        if (!request.url.isEmpty()) {
+            delegate.openURL(request.url);
+        }
+        if (!request.source.isEmpty()) {
+            delegate.addSource(request.source);
+        }
+    };
+    if (options.url) {
+        delegate.openURL(*options.url);
+    }
+    if (options.add) {
+        delegate.addSource(*options.add);
+    }
+    if (program.instance) {
+        program.instance->listen(
+            std::shared_ptr<DispatchQueue>(std::shared_ptr<void>(), &program.queues.mainQueue()),
+            [&](const QByteArray& line) { open(requestIn(line)); });
+    }
+    // Of several guides the desktop knows the first one, and none that only tries something out.
+    std::unique_ptr<ApplicationService> service;
+    if (!program.isTrial) {
+        service = ApplicationService::ofSession(program.queues.mainQueue(),
+                                                [&](const QStringList& addresses, const QByteArray& token) {
+                                                    open({addresses.value(0), token});
+                                                });
+    }
+
+    DeviceWatch deviceWatch(program.clock, device, state, delegate);
+    deviceWatch.start();
+    const TerminationSignals signals([] { QCoreApplication::quit(); });
+
+    std::optional<PictureTour> tour;
+    if (options.screenshots) {
+        tour.emplace(delegate.tabBarController(), *window,
+                     PictureTour::Plan{
+                         .folder = *options.screenshots,
+                         .prefix = picturePrefix(options),
+                         .appearance = options.appearance,
+                         .mayChange = options.demo,
+                         .source = program.demo ? program.demo->serverBase() + kDemoPlaylistFeed : QString(),
+                         .playlist = program.demo ? program.demo->serverBase() + kDemoPlaylist : QString()},
+                     [](bool complete) { QCoreApplication::exit(complete ? 0 : 1); });
+        tour->start();
+    }
+    const int status = QGuiApplication::exec();
+
+    service.reset();
+    leave(program);
+    tour.reset();
+    program.window = nullptr;
+    window.reset();
+    return status;
+}
+
+/// Updates schedules and alarms. A guide with a window that is started meanwhile takes over.
+std::optional<int> updateOnce(Program& program) {
+    if (!launch(program, [](TabBarController&) {})) {
+        return std::nullopt;
+    }
+    bool isDone = false;
+    program.delegate.updateUnattended([&](const QuellinGuideAppDelegate::UnattendedUpdate& update) {
+        isDone = true;
+        std::printf("%zu channels updated, %zu failed\n", update.stored.size(), update.failed.size());
+        QCoreApplication::quit();
+    });
+    if (program.instance) {
+        program.instance->listen(
+            std::shared_ptr<DispatchQueue>(std::shared_ptr<void>(), &program.queues.mainQueue()),
+            [](const QByteArray& line) {
+                if (!requestIn(line).update) {
+                    QCoreApplication::quit();
+                }
+            },
+            [](const QByteArray& line) { return requestIn(line).update; });
+    }
+    const TerminationSignals signals([] { QCoreApplication::quit(); });
+    QGuiApplication::exec();
+    leave(program);
+    return isDone ? 0 : 1;
+}
+
 int run(LaunchOptions options, bool drawsWebPages) {
     if (options.screenshots && !preparePictureFolder(*options.screenshots)) {
         return refuse(u"no pictures can be saved in %1"_s.arg(*options.screenshots));
@@ -104,8 +286,8 @@ int run(LaunchOptions options, bool drawsWebPages) {
         // A guide that already runs can show its window for this one, but not save its pictures.
         std::optional<QByteArray> request;
         if (!options.screenshots) {
-            request =
-                lineOf({options.url.value_or(QString()), activationToken(), options.add.value_or(QString())});
+            request = lineOf({options.url.value_or(QString()), activationToken(),
+                              options.add.value_or(QString()), options.update});
         }
         instance.emplace(folders->documents, folders->runtime, request);
         if (instance->outcome() == InstanceLock::Outcome::HandedOver) {
@@ -176,8 +358,10 @@ int run(LaunchOptions options, bool drawsWebPages) {
     LinuxClipboard clipboard;
     QtMediaPlayers mediaPlayers(queues.mainQueue());
     // Pictures of the screens are the same whatever the desktop does.
-    const auto mediaSession = options.screenshots ? nullptr : MprisSession::ofSession(queues.mainQueue());
-    const auto idleInhibition = options.screenshots ? nullptr : SessionIdleInhibition::ofSession();
+    const auto mediaSession =
+        options.screenshots || options.update ? nullptr : MprisSession::ofSession(queues.mainQueue());
+    const auto idleInhibition =
+        options.screenshots || options.update ? nullptr : SessionIdleInhibition::ofSession();
     Promotion promotion;
 
     GuideWindow* shown = nullptr;
@@ -231,121 +415,26 @@ int run(LaunchOptions options, bool drawsWebPages) {
             },
     });
 
-    installTranslations(device.locale());
-    std::unique_ptr<GuideWindow> window;
-    const bool launched = delegate.didFinishLaunching([&](TabBarController& tabs) {
-        window = std::make_unique<GuideWindow>(
-            tabs, GuideWindowOptions{
-                      .form = device.userInterfaceIdiom(),
-                      .scheme = options.appearance,
-                      .textScale = options.textScale,
-                      .size = {},
-                      .motion = !options.screenshots,
-                      .locale = device.locale(),
-                      .pictures = &delegate.pictures(),
-                      .visibilityChanged =
-                          [&](bool visible) {
-                              if (!state.setVisible(visible)) {
-                                  return;
-                              }
-                              if (visible) {
-                                  delegate.applicationDidBecomeActive();
-                              } else {
-                                  delegate.applicationDidEnterBackground();
-                              }
-                          },
-                      .dropped = [&](const QString& input) { delegate.addSource(input); },
-                      .closed = [] { QCoreApplication::quit(); },
-                  });
-    });
-    if (!launched) {
-        return refuse(delegate.catalogueProblem());
-    }
-    // Without a catalogue there are the user's own sources.
-    if (options.catalogue && !delegate.catalogueProblem().isEmpty()) {
-        say(delegate.catalogueProblem());
-    }
-    if (options.select && !options.demo && delegate.firstSelectionIgnored()) {
-        say(u"--select %1 is ignored: the profile has a selection already"_s.arg(*options.select));
-    }
-    if (!window->loaded()) {
-        return refuse(u"the screens cannot be drawn"_s);
-    }
-    const std::unique_ptr<DesktopMotion> desktopMotion =
-        options.screenshots ? nullptr : DesktopMotion::ofSession();
-    if (desktopMotion) {
-        QObject::connect(desktopMotion.get(), &DesktopMotion::changed, desktopMotion.get(), [&] {
-            if (window) {
-                window->setMotion(desktopMotion->moves());
-            }
-        });
-    }
-    shown = window.get();
-    window->show();
-    const auto open = [&](const InstanceRequest& request) {
-        window->show(request.activationToken);
-        if (!request.url.isEmpty()) {
-            delegate.openURL(request.url);
-        }
-        if (!request.source.isEmpty()) {
-            delegate.addSource(request.source);
-        }
-    };
-    if (options.url) {
-        delegate.openURL(*options.url);
-    }
-    if (options.add) {
-        delegate.addSource(*options.add);
-    }
-    if (instance) {
-        instance->listen(std::shared_ptr<DispatchQueue>(std::shared_ptr<void>(), &queues.mainQueue()),
-                         [&](const QByteArray& line) { open(requestIn(line)); });
-    }
-    // Of several guides the desktop knows the first one, and none that only tries something out.
-    std::unique_ptr<ApplicationService> service;
-    if (!trial) {
-        service = ApplicationService::ofSession(queues.mainQueue(),
-                                                [&](const QStringList& addresses, const QByteArray& token) {
-                                                    open({addresses.value(0), token});
-                                                });
-    }
-
-    DeviceWatch deviceWatch(clock, device, state, delegate);
-    deviceWatch.start();
-    const TerminationSignals signals([] { QCoreApplication::quit(); });
-
-    std::optional<PictureTour> tour;
-    if (options.screenshots) {
-        tour.emplace(delegate.tabBarController(), *window,
-                     PictureTour::Plan{.folder = *options.screenshots,
-                                       .prefix = picturePrefix(options),
-                                       .appearance = options.appearance,
-                                       .mayChange = options.demo,
-                                       .source = demo ? demo->serverBase() + kDemoPlaylistFeed : QString(),
-                                       .playlist = demo ? demo->serverBase() + kDemoPlaylist : QString()},
-                     [](bool complete) { QCoreApplication::exit(complete ? 0 : 1); });
-        tour->start();
-    }
-    const int status = QGuiApplication::exec();
-
-    service.reset();
-    // A guide started from here on runs by itself instead of handing its request to this one.
-    if (instance) {
-        instance->stopListening();
-    }
-    if (state.setVisible(false)) {
-        delegate.applicationDidEnterBackground();
-    }
-    delegate.applicationWillTerminate();
-    tour.reset();
-    shown = nullptr;
-    window.reset();
+    Program program{.options = options,
+                    .clock = clock,
+                    .device = device,
+                    .queues = queues,
+                    .state = state,
+                    .delegate = delegate,
+                    .instance = instance,
+                    .demo = demo.get(),
+                    .isTrial = trial.has_value(),
+                    .window = shown};
+    const std::optional<int> status = options.update ? updateOnce(program) : showGuide(program);
     const bool ended = delegate.shutDown(kTimeToEnd);
     queues.shutDown();
+    if (!status) {
+        return refuse(delegate.catalogueProblem());
+    }
     if (!ended) {
         qWarning("Not everything was written before the end");
     }
-    return status;
+    return *status;
 }
 
 } // namespace
@@ -364,7 +453,12 @@ int main(int argc, char** argv) {
         return text->exitStatus;
     }
     const GlobalLibraries libraries;
-    const bool drawsWebPages = prepareWebPages();
+    const auto& options = std::get<LaunchOptions>(parsed);
+    if (options.update) {
+        // There need not be a display.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    const bool drawsWebPages = !options.update && prepareWebPages();
     int ownArguments = 1;
     const QGuiApplication application(ownArguments, argv);
     QGuiApplication::setApplicationName(QStringLiteral("quellin-guide"));

@@ -52,6 +52,7 @@ TEST(Address, IsHandedToTheRunningGuide) {
     } cases[] = {
         {{u"guide://c0"_s, "token"}, {u"guide://c0"_s, "token"}},
         {{}, {}},
+        {{{}, {}, {}, true}, {{}, {}, {}, true}},
         {{u"guide://č"_s, {}}, {u"guide://č"_s, {}}},
         {{u"two\nlines"_s, "a\tb"}, {}},
         {{QString(100'000, u'x'), QByteArray(100'000, 'x')}, {}},

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 struct GuideAlarmsTest : testing::Test {
-    GuideAlarmsTest() {
+    explicit GuideAlarmsTest(int shows = 6) {
         events.setDefaultCalendar(events
                                       .addCalendar({.identifier = {},
                                                     .title = u"TV"_s,
@@ -22,8 +22,9 @@ struct GuideAlarmsTest : testing::Test {
                                                     .allowsContentModifications = true})
                                       .identifier);
         world.eventStore = &events;
-        world.serve(u"first"_s, 1, world.feed(u"Morning"_s, 6));
-        world.serve(u"second"_s, 1, world.feed(u"Evening"_s, 6));
+        world.serve(u"first"_s, 1, world.feed(u"Morning"_s, shows));
+        world.serve(u"second"_s, 1, world.feed(u"Evening"_s, shows));
+        Settings(world.userDefaults).setShowCount(shows);
         world.start();
         world.guide->applicationDidBecomeActive();
         EXPECT_TRUE(world.check());
@@ -104,6 +105,67 @@ TEST_F(GuideAlarmsTest, CalendarsOnServersAreAskedAgainWhenTheNetworkReturns) {
     const int before = events.refreshCount();
     world.networkWatch.appear();
     EXPECT_EQ(events.refreshCount(), before + 1);
+}
+
+TEST_F(GuideAlarmsTest, AnUpdateWithoutAWindowBringsTheAlarmsUpToDate) {
+    press(u"Morning 3"_s);
+    ASSERT_TRUE(world.runUntil([&] { return events.events().size() == 1; }));
+    const CalendarEvent made = events.events().front();
+    const auto update = [this] {
+        world.state.state = ApplicationState::Background;
+        world.start();
+        std::optional<QuellinGuideAppDelegate::UnattendedUpdate> ended;
+        world.guide->updateUnattended([&](const auto& result) { ended = result; });
+        EXPECT_TRUE(world.runUntil([&] { return ended.has_value(); }));
+        return ended.value_or(QuellinGuideAppDelegate::UnattendedUpdate());
+    };
+    world.end();
+    EXPECT_TRUE(update().stored.empty()) << "nothing is due";
+    world.end();
+
+    QDir(world.folders.caches).removeRecursively();
+    QDir().mkpath(world.folders.caches);
+    world.clock.advance(30min);
+    world.serve(u"first"_s, 1, world.feed(u"Morning"_s, 6));
+    world.server->serve(GuideWorld::feedPath(u"second"_s, 1), ServerReply::answer(404, {}));
+    const auto updated = update();
+    EXPECT_EQ(updated.stored, std::unordered_set<ObjectId>{GuideWorld::channel(1)});
+    EXPECT_EQ(updated.failed, std::unordered_set<ObjectId>{GuideWorld::channel(2)});
+    ASSERT_EQ(events.events().size(), 1U);
+    EXPECT_EQ(events.events().front().startDate, made.startDate + 30min) << "before the end is told";
+}
+
+struct ManyGuideAlarmsTest : GuideAlarmsTest {
+    static constexpr int kAlarms = 10;
+    ManyGuideAlarmsTest()
+        : GuideAlarmsTest(kAlarms + 2) {}
+};
+
+TEST_F(ManyGuideAlarmsTest, AnUpdateWithoutAWindowLeavesItsQuestionToTheNextWindow) {
+    for (int i = 1; i <= kAlarms; ++i) {
+        press(u"Morning %1"_s.arg(i));
+    }
+    ASSERT_TRUE(world.runUntil([&] { return events.events().size() == kAlarms; }));
+    world.end();
+    QDir(world.folders.caches).removeRecursively();
+    QDir().mkpath(world.folders.caches);
+    // One is left, so the schedules do know some.
+    world.serve(u"first"_s, 1, world.feed(u"Other"_s, kAlarms).replace("Other 1<", "Morning 1<"));
+
+    world.state.state = ApplicationState::Background;
+    world.start();
+    bool ended = false;
+    world.guide->updateUnattended([&](const auto&) { ended = true; });
+    ASSERT_TRUE(world.runUntil([&] { return ended; }));
+    EXPECT_FALSE(tabs().presentedAlert());
+    world.end();
+
+    world.state.state = ApplicationState::Active;
+    world.start();
+    ASSERT_TRUE(world.runUntil([this] { return tabs().presentedAlert(); }));
+    EXPECT_EQ(events.events().size(), kAlarms);
+    tabs().answerAlert(0);
+    EXPECT_TRUE(world.runUntil([this] { return events.events().size() == 1; })) << "the first answer removes";
 }
 
 TEST_F(GuideAlarmsTest, ASettingOfTheOptionsShowsAtOnce) {

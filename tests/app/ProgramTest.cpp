@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 struct Answer {
     /// -1 when the guide crashed or did not end.
     int status = -1;
+    QString output;
     QStringList errors;
 };
 
@@ -31,6 +32,7 @@ Answer guideWith(const QStringList& words, const QString& runtimeFolder) {
     if (process.waitForFinished(60'000) && process.exitStatus() == QProcess::NormalExit) {
         answer.status = process.exitCode();
     }
+    answer.output = QString::fromLocal8Bit(process.readAllStandardOutput());
     answer.errors = QString::fromLocal8Bit(process.readAllStandardError()).split(u'\n', Qt::SkipEmptyParts);
     process.kill();
     process.waitForFinished();
@@ -77,6 +79,16 @@ TEST(Program, EndsWithOneLineWhenItCannotStart) {
         ASSERT_EQ(answer.errors.size(), 1) << each.name << answer.errors.join(u'\n').toStdString();
         EXPECT_TRUE(answer.errors[0].contains(each.line)) << each.name << answer.errors[0].toStdString();
     }
+}
+
+TEST(Program, UpdatesWithoutAWindow) {
+    const QTemporaryDir folder;
+    const QStringList words{u"--update"_s, u"--demo"_s, u"--profile"_s, folder.filePath(u"profile"_s)};
+    const Answer first = guideWith(words, folder.path());
+    EXPECT_EQ(first.status, 0);
+    EXPECT_EQ(first.output, u"12 channels updated, 0 failed\n"_s);
+    EXPECT_EQ(guideWith(words, folder.path()).output, u"0 channels updated, 0 failed\n"_s)
+        << "what was stored is still good";
 }
 
 } // namespace

@@ -64,6 +64,24 @@ TEST_F(InstanceLockTest, TheLockIsFreeAfterTheFirstInstance) {
     EXPECT_EQ(next.get(), Outcome::First) << "waits for an instance that is ending";
 }
 
+TEST_F(InstanceLockTest, AnInstanceThatRefusesARequestMakesRoom) {
+    std::unique_ptr<InstanceLock> first = start();
+    std::promise<QByteArray> refused;
+    first->listen(
+        queue,
+        [&, told = false](const QByteArray& request) mutable {
+            if (request != "update" && !std::exchange(told, true)) {
+                refused.set_value(request);
+            }
+        },
+        [](const QByteArray& request) { return request == "update"; });
+    EXPECT_EQ(start("update")->outcome(), Outcome::HandedOver);
+    std::future<Outcome> next = std::async(std::launch::async, [this] { return start("show")->outcome(); });
+    EXPECT_EQ(refused.get_future().get(), "show");
+    first.reset();
+    EXPECT_EQ(next.get(), Outcome::First);
+}
+
 TEST_F(InstanceLockTest, ADeadProcessHoldsNoLock) {
     const QByteArray path = QFile::encodeName(sockets.path()) + "/instance-dead.socket";
     {

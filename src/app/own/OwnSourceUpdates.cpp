@@ -48,6 +48,10 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
     std::unordered_set<ObjectId> unread;
     /// A source was passed over because it was being loaded.
     bool hasPassedOver = false;
+    /// Plans that wait for the numbers of shows.
+    int planning = 0;
+    /// Wait until nothing is planned or loaded.
+    std::vector<Block> idle;
     std::shared_ptr<BackgroundTask> task;
 
     // On the main queue.
@@ -70,10 +74,13 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
     }
 
     void plan(std::unordered_set<OwnSourceId> byHand) {
+        ++planning;
         environment.listings.showCountForSelectedChannelsForQueue(
             queue, [state = shared_from_this(), byHand = std::move(byHand)](const ShowCounts& counts) {
                 if (!state->cancelled) {
+                    --state->planning;
                     state->plan(byHand, counts);
+                    state->endIdle();
                 }
             });
     }
@@ -231,6 +238,16 @@ struct OwnSourceUpdates::State : std::enable_shared_from_this<State> {
             finishRun();
         }
         arm();
+        endIdle();
+    }
+
+    void endIdle() {
+        if (planning > 0 || !loading.empty()) {
+            return;
+        }
+        for (Block& block : std::exchange(idle, {})) {
+            environment.queues.mainQueue().async(std::move(block));
+        }
     }
 
     void finishRun() {
@@ -329,6 +346,13 @@ void OwnSourceUpdates::setActive(bool active) {
 
 bool OwnSourceUpdates::isRunning() const {
     return m_state->running;
+}
+
+void OwnSourceUpdates::whenIdle(Block block) {
+    m_state->onQueue([block = std::move(block)](State& state) {
+        state.idle.push_back(block);
+        state.endIdle();
+    });
 }
 
 bool OwnSourceUpdates::finish(std::chrono::milliseconds atMost) {

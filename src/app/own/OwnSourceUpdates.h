@@ -60,6 +60,8 @@ class OwnSourceUpdates {
     /// While active, a timer starts a check when the next source is due. Main queue.
     void setActive(bool active);
     bool isRunning() const;
+    /// As UpdateCycle::whenIdle.
+    void whenIdle(Block block);
     /// As UpdateCycle::finish.
     bool finish(std::chrono::milliseconds atMost);
 

@@ -36,6 +36,7 @@ QByteArray socketName(const QByteArray& lockFolder) {
 struct InstanceLock::Listener {
     std::shared_ptr<DispatchQueue> queue;
     RequestHandler handler;
+    RequestFilter takes;
     std::atomic<bool> ended{false};
 };
 
@@ -116,13 +117,14 @@ bool InstanceLock::handOver(const QByteArray& request, std::chrono::milliseconds
            readLine(connection, sizeof kTaken, time) == QByteArray(kTaken);
 }
 
-void InstanceLock::listen(std::shared_ptr<DispatchQueue> queue, RequestHandler handler) {
+void InstanceLock::listen(std::shared_ptr<DispatchQueue> queue, RequestHandler handler, RequestFilter takes) {
     if (!m_socket || m_listener) {
         return;
     }
     m_listener = std::make_shared<Listener>();
     m_listener->queue = std::move(queue);
     m_listener->handler = std::move(handler);
+    m_listener->takes = std::move(takes);
     m_stop = FileDescriptor(::eventfd(0, EFD_CLOEXEC));
     m_thread = std::thread([this, listener = m_listener] { serve(m_socket, m_stop.get(), listener); });
 }
@@ -144,12 +146,15 @@ void InstanceLock::serve(const FileDescriptor& socket, int stop, const std::shar
         if (!request) {
             continue;
         }
-        listener->queue->async([listener, taken = *std::move(request)] {
+        const bool isTaken = listener->takes(*request);
+        listener->queue->async([listener, asked = *std::move(request)] {
             if (!listener->ended.load()) {
-                listener->handler(taken);
+                listener->handler(asked);
             }
         });
-        writeLine(connection, kTaken);
+        if (isTaken) {
+            writeLine(connection, kTaken);
+        }
     }
 }
 

@@ -20,6 +20,8 @@ class InstanceLock {
   public:
     /// The request of another instance: one line without a line end.
     using RequestHandler = std::function<void(const QByteArray& request)>;
+    /// Whether this process can carry a request out.
+    using RequestFilter = std::function<bool(const QByteArray& request)>;
 
     enum class Outcome {
         /// This process holds the lock.
@@ -43,8 +45,12 @@ class InstanceLock {
 
     /// For the holder of the lock: calls the handler on the queue for each request, including those that
     /// arrived earlier. May be called once. Once this object has been destroyed on that queue, the handler
-    /// is not called again.
-    void listen(std::shared_ptr<DispatchQueue> queue, RequestHandler handler);
+    /// is not called again. A request that `takes` refuses (it is called on a thread of its own) reaches the
+    /// handler too, but stays with the process that sent it. That one asks again, and takes the lock when
+    /// this process ends soon.
+    void listen(
+        std::shared_ptr<DispatchQueue> queue, RequestHandler handler,
+        RequestFilter takes = [](const QByteArray&) { return true; });
 
     /// For a holder of the lock that is about to end: accepts no more requests. A process that starts now
     /// waits for the lock. Must be called on the queue of the requests.
