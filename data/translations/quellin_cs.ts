@@ -2039,6 +2039,18 @@ Počkejte, až se program načte.</translation>
         <translation>Připomenout při začátku</translation>
     </message>
     <message>
+        <source>Update while the guide is closed</source>
+        <translation>Aktualizovat, i když je průvodce zavřený</translation>
+    </message>
+    <message>
+        <source>Twice a day, so that alerts follow shows that move.</source>
+        <translation>Dvakrát denně, aby se upozornění řídila přesunutými pořady.</translation>
+    </message>
+    <message>
+        <source>Updates could not be changed: a file of your session cannot be written.</source>
+        <translation>Aktualizace nelze změnit: soubor vaší relace nelze zapsat.</translation>
+    </message>
+    <message>
         <source>Ring alerts on this device</source>
         <translation>Zvonit upozornění na tomto zařízení</translation>
     </message>

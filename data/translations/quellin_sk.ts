@@ -2039,6 +2039,18 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Pripomenúť na začiatku</translation>
     </message>
     <message>
+        <source>Update while the guide is closed</source>
+        <translation>Aktualizovať, aj keď je sprievodca zatvorený</translation>
+    </message>
+    <message>
+        <source>Twice a day, so that alerts follow shows that move.</source>
+        <translation>Dvakrát denne, aby sa upozornenia riadili presunutými reláciami.</translation>
+    </message>
+    <message>
+        <source>Updates could not be changed: a file of your session cannot be written.</source>
+        <translation>Aktualizácie sa nedajú zmeniť: súbor vašej relácie sa nedá zapísať.</translation>
+    </message>
+    <message>
         <source>Ring alerts on this device</source>
         <translation>Zvoniť upozornenia na tomto zariadení</translation>
     </message>

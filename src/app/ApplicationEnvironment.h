@@ -4,6 +4,7 @@
 #include "core/ObjectId.h"
 #include "parsers/URLPlanner.h"
 #include "platform/AlarmRinging.h"
+#include "platform/BackgroundUpdates.h"
 #include "platform/AudioSession.h"
 #include "platform/BackgroundTasks.h"
 #include "platform/Clipboard.h"
@@ -70,6 +71,8 @@ struct ApplicationEnvironment {
     EventStore* eventStore = nullptr;
     /// Null where alarms cannot ring without the guide.
     AlarmRinging* alarmRinging = nullptr;
+    /// Null where the program is not started by the device.
+    BackgroundUpdates* backgroundUpdates = nullptr;
     /// Null when files of the user are only looked at when they are due.
     FileWatch* fileWatch = nullptr;
 

@@ -382,6 +382,7 @@ void QuellinGuideAppDelegate::makeScreens() {
         .calendarActions = m_alarms.calendarActions(),
         .alarmExplanations = m_alarms.explanations(),
         .alarmRinging = m_environment.alarmRinging,
+        .backgroundUpdates = m_environment.backgroundUpdates,
     });
     m_tabBarController = makeGuideTabs(m_screenEnvironment);
     m_selectionEditor = std::make_shared<SelectionEditor>(m_screenEnvironment, *m_tabBarController);

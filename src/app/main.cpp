@@ -31,6 +31,7 @@
 #include "platform/linux/SessionAlarmRinging.h"
 #include "platform/linux/SessionBus.h"
 #include "platform/linux/SessionIdleInhibition.h"
+#include "platform/linux/SessionUpdates.h"
 #include "platform/linux/SettingsUserDefaults.h"
 #include "platform/linux/SpawnedProgramRunner.h"
 #include "platform/linux/TerminationSignals.h"
@@ -346,11 +347,15 @@ int run(LaunchOptions options, bool drawsWebPages) {
         clock);
     // A profile of its own, whose alarms the agent of the session does not know, does not ring.
     std::optional<SessionAlarmRinging> alarmRinging;
-    if (!options.profile) {
+    std::optional<SessionUpdates> backgroundUpdates;
+    if (!options.profile && !options.update) {
+        const QString templates = folders->bundle + "/session"_L1;
+        const QString programs = QCoreApplication::applicationDirPath();
+        backgroundUpdates.emplace(queues, sessionBus(), templates, programs);
         alarmRinging.emplace(queues, sessionBus(),
                              SessionAlarmRinging::Options{
-                                 .templates = folders->bundle + "/session"_L1,
-                                 .programs = QCoreApplication::applicationDirPath(),
+                                 .templates = templates,
+                                 .programs = programs,
                                  .usesDesktop = isOfDesktop(*eventStore),
                              });
     }
@@ -388,6 +393,7 @@ int run(LaunchOptions options, bool drawsWebPages) {
         .secrets = secrets.get(),
         .eventStore = eventStore.get(),
         .alarmRinging = alarmRinging ? &*alarmRinging : nullptr,
+        .backgroundUpdates = backgroundUpdates ? &*backgroundUpdates : nullptr,
         .fileWatch = &fileWatch,
         .hosts = files->hosts,
         .random = [](unsigned bound) { return QRandomGenerator::system()->bounded(bound); },

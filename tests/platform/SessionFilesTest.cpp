@@ -85,6 +85,11 @@ TEST_F(SessionFilesTest, AreWrittenAndRemovedForTheUser) {
     EXPECT_TRUE(moved.write());
     EXPECT_TRUE(contentOf(autostart).contains("\"/usr/bin/a\""));
 
+    // By `systemctl disable`.
+    ASSERT_TRUE(QFile::remove(home.filePath(all[3])));
+    EXPECT_FALSE(moved.areInUse());
+    EXPECT_TRUE(moved.write());
+    EXPECT_TRUE(moved.areInUse());
     // By the desktop's own list of programs.
     ASSERT_TRUE(writeFile(autostart, contentOf(autostart) + "Hidden=true\n"));
     EXPECT_FALSE(moved.areInUse());

@@ -49,6 +49,21 @@ struct WorldRinging final : AlarmRinging {
     bool works = true;
 };
 
+struct WorldUpdates final : BackgroundUpdates {
+    explicit WorldUpdates(DispatchQueue& ownMainQueue)
+        : mainQueue(ownMainQueue) {}
+    void state(MainBlock<State> mainBlock) override { mainBlock.post(mainQueue, State(now)); }
+    void setOn(bool on, MainBlock<bool> mainBlock) override {
+        if (works) {
+            now = on ? State::On : State::Off;
+        }
+        mainBlock.post(mainQueue, bool(works));
+    }
+    DispatchQueue& mainQueue;
+    State now = State::Off;
+    bool works = true;
+};
+
 class OptionsTest : public testing::Test {
   protected:
     OptionsTest() {
@@ -56,6 +71,7 @@ class OptionsTest : public testing::Test {
         world.device.zone = QTimeZone("Europe/Prague");
         world.calendarActions = &calendars;
         world.alarmRinging = &ringing;
+        world.backgroundUpdates = &updates;
         world.app.calendarAccess = true;
         world.start();
         world.show();
@@ -77,6 +93,7 @@ class OptionsTest : public testing::Test {
     ScreenWorld world;
     WorldCalendars calendars{world.queues.mainQueue()};
     WorldRinging ringing{world.queues.mainQueue()};
+    WorldUpdates updates{world.queues.mainQueue()};
 };
 
 TEST_F(OptionsTest, TheSilentHoursFollowTheirSwitch) {
@@ -114,6 +131,22 @@ TEST_F(OptionsTest, AlarmsRingByOneTouch) {
     EXPECT_TRUE(row().on) << "it could not be changed";
     EXPECT_EQ(world.app.alerts.size(), 1U);
     EXPECT_TRUE(row().subtitle.contains(u"reminders of your desktop"_s));
+}
+
+TEST_F(OptionsTest, UpdatesOfAClosedGuideAreOfferedWhereTheDeviceMakesThem) {
+    const QString title = u"Update while the guide is closed"_s;
+    const auto options = open<OptionsViewController>();
+    const auto isOn = [&] { return contentTitled<SwitchRow>(options->table(), title)->on; };
+    EXPECT_FALSE(isOn());
+    world.send<SwitchRow>(*options, title, Toggled{true});
+    EXPECT_TRUE(updates.now == BackgroundUpdates::State::On && isOn());
+    updates.works = false;
+    world.send<SwitchRow>(*options, title, Toggled{false});
+    EXPECT_TRUE(isOn()) << "it could not be changed";
+    EXPECT_EQ(world.app.alerts.size(), 1U);
+    leave();
+    updates.now = BackgroundUpdates::State::Unavailable;
+    EXPECT_FALSE(contentTitled<SwitchRow>(open<OptionsViewController>()->table(), title));
 }
 
 TEST_F(OptionsTest, ASpanAcrossMidnightIsSwitchedOnWhereItIsPicked) {

@@ -309,7 +309,8 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
                               knownFeeds,
                               calendarActions,
                               alarmExplanations,
-                              alarmRinging});
+                              alarmRinging,
+                              backgroundUpdates});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -406,6 +407,7 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
     CalendarActions* calendarActions = nullptr;
     AlarmExplanations* alarmExplanations = nullptr;
     AlarmRinging* alarmRinging = nullptr;
+    BackgroundUpdates* backgroundUpdates = nullptr;
     /// The sources of the channels' schedules.
     std::map<ObjectId, QString> sources;
     std::shared_ptr<DispatchQueue> loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial);

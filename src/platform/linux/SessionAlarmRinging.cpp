@@ -1,7 +1,7 @@
 #include "platform/linux/SessionAlarmRinging.h"
 
-#include <QDBusMessage>
-#include <QDBusReply>
+#include "platform/linux/SessionCalls.h"
+
 #include <QProcess>
 
 #include <utility>
@@ -14,14 +14,6 @@ namespace {
 
 const QString kAgent = u"quellin-guide-agent"_s;
 const QString kAgentName = u"net.quellin.GuideAgent"_s;
-constexpr int kLongestCall = 10'000;
-
-struct BusObject {
-    QString service;
-    QString path;
-    QString interface;
-};
-const BusObject kBus{u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s};
 
 } // namespace
 
@@ -29,7 +21,7 @@ const BusObject kBus{u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s, u"or
 class SessionAlarmRinging::Session {
   public:
     Session(std::optional<QDBusConnection> bus, Options options)
-        : m_bus(std::move(bus))
+        : m_calls(std::move(bus))
         , m_options(std::move(options))
         , m_files(m_options.templates, m_options.programs,
                   {{SessionFile::Kind::Autostart, kAgent + ".desktop"_L1},
@@ -40,20 +32,18 @@ class SessionAlarmRinging::Session {
     AlarmRingingState state() const {
         AlarmRingingState state{.isOn = m_files.areInUse()};
         if (m_options.usesDesktop) {
-            const QDBusReply<bool> rings =
-                call(kBus, u"NameHasOwner"_s, {u"org.gnome.Evolution-alarm-notify"_s});
-            state.desktopRings = rings.isValid() && rings.value();
+            state.desktopRings = m_calls.isRunning(u"org.gnome.Evolution-alarm-notify"_s);
         }
         return state;
     }
 
     bool setOn(bool on) const {
         const bool isDone = on ? m_files.write() : m_files.remove();
-        reload();
+        m_calls.reloadFiles();
         if (on && isDone) {
             start();
         } else if (!on) {
-            call({kAgentName, u"/net/quellin/GuideAgent"_s, kAgentName}, u"Quit"_s);
+            m_calls.call({kAgentName, u"/net/quellin/GuideAgent"_s, kAgentName}, u"Quit"_s);
         }
         return isDone;
     }
@@ -66,33 +56,14 @@ class SessionAlarmRinging::Session {
     }
 
   private:
-    QDBusMessage call(const BusObject& object, const QString& member,
-                      const QVariantList& arguments = {}) const {
-        if (!m_bus) {
-            return {};
-        }
-        QDBusMessage message =
-            QDBusMessage::createMethodCall(object.service, object.path, object.interface, member);
-        message.setArguments(arguments);
-        message.setAutoStartService(false);
-        return m_bus->call(message, QDBus::Block, kLongestCall);
-    }
-
-    /// Both look at their files by themselves only at times.
-    void reload() const {
-        call({u"org.freedesktop.systemd1"_s, u"/org/freedesktop/systemd1"_s,
-              u"org.freedesktop.systemd1.Manager"_s},
-             u"Reload"_s);
-        call(kBus, u"ReloadConfig"_s);
-    }
-
     void start() const {
-        if (call(kBus, u"StartServiceByName"_s, {kAgentName, 0U}).type() != QDBusMessage::ReplyMessage) {
+        const QDBusMessage reply = m_calls.call(kSessionBus, u"StartServiceByName"_s, {kAgentName, 0U});
+        if (reply.type() != QDBusMessage::ReplyMessage) {
             QProcess::startDetached(m_options.programs + u'/' + kAgent, {});
         }
     }
 
-    const std::optional<QDBusConnection> m_bus;
+    const SessionCalls m_calls;
     const Options m_options;
     const SessionFiles m_files;
 };

@@ -58,8 +58,13 @@ std::optional<QByteArray> SessionFiles::text(const SessionFile& file) const {
 
 bool SessionFiles::areInUse() const {
     const std::optional<QByteArray> text = fileContent(path(m_files.front()), kLargest);
+    const bool isStarted = std::ranges::all_of(m_files, [this](const SessionFile& file) {
+        const QString link = wantedPath(file);
+        return link.isEmpty() || QFileInfo(link).isSymLink();
+    });
     // What programs that edit autostart entries write.
-    return text && !text->contains("\nHidden=true") && !text->contains("\nX-GNOME-Autostart-enabled=false");
+    return isStarted && text && !text->contains("\nHidden=true") &&
+           !text->contains("\nX-GNOME-Autostart-enabled=false");
 }
 
 bool SessionFiles::areOfOtherPrograms() const {

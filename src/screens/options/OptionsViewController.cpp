@@ -21,6 +21,7 @@ namespace {
 // The names of sections and rows.
 constexpr auto kColors = "colors"_L1;
 constexpr auto kRinging = "ringing"_L1;
+constexpr auto kUpdates = "updates"_L1;
 constexpr auto kSilentHours = "silent hours"_L1;
 constexpr auto kSilentSpan = "silent span"_L1;
 constexpr auto kDisplay = "display"_L1;
@@ -79,6 +80,7 @@ void OptionsViewController::viewWillAppear() {
     table().deselectRow();
     setButtons();
     loadRinging();
+    loadUpdates();
     reloadTable();
 }
 
@@ -107,6 +109,9 @@ void OptionsViewController::reloadTable() {
     sections.push_back(std::move(colors));
     if (std::optional<Section> ringing = ringingSection()) {
         sections.push_back(*std::move(ringing));
+    }
+    if (std::optional<Section> updates = updatesSection()) {
+        sections.push_back(*std::move(updates));
     }
     sections.push_back(silentHoursSection());
     sections.push_back(displaySection());
@@ -145,12 +150,47 @@ void OptionsViewController::setRinging(bool on) {
     m_environment->alarmRinging->setOn(on, m_ringingSet.expect(weak_from_this(), [this](bool isDone) {
         loadRinging();
         if (!isDone) {
-            m_environment->navigation.presentAlert(
-                {Localized::tr("Error"),
-                 Localized::tr("Ringing could not be changed: a file of your session cannot be written."),
-                 {{Localized::tr("OK")}}});
+            presentSessionError(
+                Localized::tr("Ringing could not be changed: a file of your session cannot be written."));
         }
     }));
+}
+
+void OptionsViewController::loadUpdates() {
+    if (m_environment->backgroundUpdates) {
+        m_environment->backgroundUpdates->state(
+            m_updatesRead.expect(weak_from_this(), [this](BackgroundUpdates::State state) {
+                m_updates = state;
+                reloadTable();
+            }));
+    }
+}
+
+std::optional<Section> OptionsViewController::updatesSection() const {
+    if (m_updates == BackgroundUpdates::State::Unavailable) {
+        return std::nullopt;
+    }
+    return Section{
+        .id = kUpdates,
+        .rows = {row(kUpdates, kUpdates,
+                     SwitchRow{Localized::tr("Update while the guide is closed"),
+                               Localized::tr("Twice a day, so that alerts follow shows that move."),
+                               m_updates == BackgroundUpdates::State::On})}};
+}
+
+void OptionsViewController::setUpdates(bool on) {
+    m_updates = on ? BackgroundUpdates::State::On : BackgroundUpdates::State::Off;
+    m_environment->backgroundUpdates->setOn(on, m_updatesSet.expect(weak_from_this(), [this](bool isDone) {
+        loadUpdates();
+        if (!isDone) {
+            presentSessionError(
+                Localized::tr("Updates could not be changed: a file of your session cannot be written."));
+        }
+    }));
+}
+
+void OptionsViewController::presentSessionError(const QString& text) {
+    m_environment->navigation.presentAlert({Localized::tr("Error"), text, {{Localized::tr("OK")}}});
 }
 
 Section OptionsViewController::silentHoursSection() const {
@@ -224,6 +264,8 @@ void OptionsViewController::toggled(const QString& name, bool on) {
         settings.setColorizedShows(on);
     } else if (name == kRinging) {
         setRinging(on);
+    } else if (name == kUpdates) {
+        setUpdates(on);
     } else if (name == kSilentHours) {
         setSilentHoursEnabled(m_environment->keyValueStore, on);
         applySilentHours(*m_environment);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/AlarmRinging.h"
+#include "platform/BackgroundUpdates.h"
 #include "screens/kit/LatestAnswer.h"
 #include "screens/kit/TableViewController.h"
 #include "screens/shell/ListingsScreen.h"
@@ -33,6 +34,10 @@ class OptionsViewController final : public ListingsScreen {
     void loadRinging();
     std::optional<Section> ringingSection() const;
     void setRinging(bool on);
+    void loadUpdates();
+    std::optional<Section> updatesSection() const;
+    void setUpdates(bool on);
+    void presentSessionError(const QString& text);
     void toggled(const QString& name, bool on);
     void chosen(const QString& name, std::size_t choice);
 
@@ -41,6 +46,9 @@ class OptionsViewController final : public ListingsScreen {
     std::optional<AlarmRingingState> m_ringing;
     LatestAnswer m_ringingRead;
     LatestAnswer m_ringingSet;
+    BackgroundUpdates::State m_updates = BackgroundUpdates::State::Unavailable;
+    LatestAnswer m_updatesRead;
+    LatestAnswer m_updatesSet;
     // What is offered, in order.
     std::vector<int> m_showCounts;
     std::vector<std::chrono::seconds> m_intervals;

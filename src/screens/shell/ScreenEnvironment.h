@@ -9,6 +9,7 @@
 #include "core/TVChannels.h"
 #include "core/TVStationIcons.h"
 #include "platform/AlarmRinging.h"
+#include "platform/BackgroundUpdates.h"
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
 #include "platform/Device.h"
@@ -91,6 +92,8 @@ struct ScreenEnvironment {
     AlarmExplanations* alarmExplanations = nullptr;
     /// Null where alarms cannot ring without the guide.
     AlarmRinging* alarmRinging = nullptr;
+    /// Null where nothing starts the guide by itself.
+    BackgroundUpdates* backgroundUpdates = nullptr;
 };
 
 } // namespace guide
