@@ -115,16 +115,27 @@ CalendarAccess AlarmCalendar::refreshAccess() {
 }
 
 void AlarmCalendar::ensureSelectedCalendarIsSet() {
-    if (selectedCalendar()) {
+    const std::optional<EventCalendar> selected = selectedCalendar();
+    if (selected && !m_isSelectedInDoubt) {
         return;
     }
     const QString text = m_environment.userDefaults.stringForKey(kSelectedCalendarKey).value_or(QString());
     EventStore& store = m_environment.eventStore;
     std::optional<EventCalendar> calendar;
-    if (!text.isEmpty()) {
+    if (selected || !text.isEmpty()) {
         const std::optional<std::vector<EventCalendar>> all = store.calendars();
         if (!all) {
             return;
+        }
+        if (selected) {
+            const auto same = std::ranges::find(*all, selected->identifier, &EventCalendar::identifier);
+            if (same != all->end()) {
+                // It may be read-only now, or offline.
+                m_isSelectedInDoubt = false;
+                const std::lock_guard lock(m_guard);
+                m_selected = *same;
+                return;
+            }
         }
         calendar = calendarOfDescription(*all, text);
         // The chosen one may be among those that cannot be used yet.
@@ -140,6 +151,11 @@ void AlarmCalendar::ensureSelectedCalendarIsSet() {
         return;
     }
     m_environment.userDefaults.setString(kSelectedCalendarKey, calendarDescription(*calendar));
+    if (selected) {
+        // The alarms went with the calendar.
+        m_mark.set(false);
+    }
+    m_isSelectedInDoubt = false;
     const std::lock_guard lock(m_guard);
     m_selected = std::move(calendar);
 }
@@ -159,12 +175,13 @@ void AlarmCalendar::select(const EventCalendar& calendar) {
     mainQueue().async([self = shared_from_this()] { self->m_environment.updateBadge(); });
 }
 
-EventRange AlarmCalendar::read(Moment start, Moment end) const {
+EventRange AlarmCalendar::read(Moment start, Moment end) {
     const std::optional<EventCalendar> calendar = selectedCalendar();
     EventRange range = calendar ? m_environment.eventStore.eventsBetween(start, end, *calendar)
                                 : EventRange{{}, u"no calendar is selected"_s};
     if (range.fault) {
         logRangeFault(*range.fault, calendar);
+        m_isSelectedInDoubt = true;
     }
     return range;
 }
@@ -200,6 +217,7 @@ AppliedChanges AlarmCalendar::apply(const std::vector<AlarmChange>& changes) {
         result.unfinished = result.unfinished || (!isDone && outcome.fault != EventFault::ReadOnly);
         if (!isDone) {
             qWarning().noquote() << complaintAbout(change) << outcome.message;
+            m_isSelectedInDoubt = m_isSelectedInDoubt || outcome.fault == EventFault::ReadOnly;
         }
         noteOutcome(change, outcome);
         entries.push_back(journalEntry(change, deedOf(change, isDone), now, outcome.message));

@@ -72,7 +72,7 @@ class AlarmCalendar : public std::enable_shared_from_this<AlarmCalendar> {
     /// Selects a calendar, on all devices.
     void select(const EventCalendar& calendar);
     /// The events of the selected calendar; a fault, which is logged, also when there is none.
-    EventRange read(Moment start, Moment end) const;
+    EventRange read(Moment start, Moment end);
     /// Reads what is known anew, after a change elsewhere. The events that count as alarms stay the same.
     void refresh();
     /// Makes the changes and writes them to the journal.
@@ -101,6 +101,8 @@ class AlarmCalendar : public std::enable_shared_from_this<AlarmCalendar> {
         std::uint64_t order = 0;
     };
     // On the alarm queue: the guide's events by identifier.
+    /// The selected calendar refused something, or could not be read.
+    bool m_isSelectedInDoubt = false;
     QHash<QString, KnownEvent> m_known;
     std::uint64_t m_lastOrder = 0;
     Moment m_knownUntil = Moment::min();

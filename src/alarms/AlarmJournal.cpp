@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <set>
+#include <tuple>
 #include <utility>
 
 namespace guide {
@@ -19,8 +21,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::chrono::days kKept{60};
+constexpr std::chrono::days kToldFor{1};
 constexpr std::size_t kMostEntries = 5000;
-constexpr qint64 kMostBytes = 8 << 20;
+constexpr qint64 kMostBytes = 32 << 20;
 constexpr int kVersion = 1;
 /// Titles come from schedules.
 constexpr qsizetype kMostCharacters = 300;
@@ -80,6 +83,30 @@ std::optional<JournalEntry> entryOf(const QCborArray& value) {
     return entry;
 }
 
+bool isFailure(const JournalEntry& entry) {
+    return entry.deed == AlarmDeed::NotMade || entry.deed == AlarmDeed::NotMoved ||
+           entry.deed == AlarmDeed::NotRemoved;
+}
+
+/// Every run tries again what a calendar has refused.
+void dropToldFailures(std::vector<JournalEntry>& entries, const std::vector<JournalEntry>& told, Moment now) {
+    if (std::ranges::none_of(entries, isFailure)) {
+        return;
+    }
+    const auto keyOf = [](const JournalEntry& entry) {
+        return std::tuple(entry.deed, entry.title, entry.channel, entry.oldStart, entry.newStart);
+    };
+    std::set<decltype(keyOf(entries.front()))> known;
+    for (const JournalEntry& entry : told) {
+        if (isFailure(entry) && entry.at > now - kToldFor) {
+            known.insert(keyOf(entry));
+        }
+    }
+    std::erase_if(entries, [&](const JournalEntry& entry) {
+        return isFailure(entry) && !known.insert(keyOf(entry)).second;
+    });
+}
+
 } // namespace
 
 AlarmJournal::AlarmJournal(const Folders& folders)
@@ -109,6 +136,10 @@ void AlarmJournal::append(std::vector<JournalEntry> entries, Moment now) {
     }
     const std::lock_guard lock(m_guard);
     read();
+    dropToldFailures(entries, *m_entries, now);
+    if (entries.empty()) {
+        return;
+    }
     std::vector<JournalEntry> all = *m_entries;
     std::ranges::move(entries, std::back_inserter(all));
     std::erase_if(all, [now](const JournalEntry& entry) { return entry.at < now - kKept; });
@@ -175,6 +206,10 @@ std::unordered_set<ShowDigest, ShowDigestHash> madeByRules(const std::vector<Jou
             continue;
         }
         const bool byUser = entry.reason == AlarmReason::User || entry.reason == AlarmReason::AlarmRemoved;
+        if (entry.deed == AlarmDeed::Removed && entry.reason == AlarmReason::Duplicate) {
+            // The broadcast has another event.
+            continue;
+        }
         if (entry.deed == AlarmDeed::Removed && !byUser) {
             made.erase(*entry.show);
         } else if (entry.deed == AlarmDeed::Moved ||

@@ -65,7 +65,8 @@ class AlarmJournal {
 
     /// The newest last; never null. The first call reads the file.
     JournalEntries entries() const;
-    /// Adds entries and drops those that are older than 60 days or too many.
+    /// Adds entries and drops those that are older than 60 days or too many. A failure that was told within
+    /// the last day is not repeated.
     void append(std::vector<JournalEntry> entries, Moment now);
 
   private:

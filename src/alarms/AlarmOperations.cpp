@@ -211,13 +211,14 @@ void AlarmOperations::setAlarmForTitle(const QString& title, int minutes, std::o
     }
     const bool wasSet = m_calendar->mark().isSet();
     m_calendar->mark().set(false);
+    const std::uint64_t clearings = m_calendar->mark().clearings();
     replaceRule(environment.shows, {.identificator = title,
                                     .minutes = minutes < 0 ? std::nullopt : std::optional(minutes),
                                     .date = environment.clock.now(),
                                     .previouslyShown = previouslyShown});
     environment.listings.favoritesScheduleWithBlock(
         [calendar = m_calendar, &synchronisation = m_synchronisation, title, minutes, previouslyShown, wasSet,
-         lead = std::chrono::minutes(minutes)](const ShowItems& shows) {
+         clearings, lead = std::chrono::minutes(minutes)](const ShowItems& shows) {
             // Made one by one like alarms of the user, and saved together.
             const AlarmSituation situation = calendar->situation();
             const QString lowercased = title.toLower();
@@ -250,14 +251,14 @@ void AlarmOperations::setAlarmForTitle(const QString& title, int minutes, std::o
                 calendar->apply(changes);
                 calendar->environment().keyValueStore.setValue(kLastAlarmMinutesKey, minutes);
             });
-            calendar->mainQueue().async([calendar, &synchronisation, any, wasSet] {
+            calendar->mainQueue().async([calendar, &synchronisation, any, wasSet, clearings] {
                 const AlarmsEnvironment& services = calendar->environment();
                 if (any) {
                     synchronisation.syncAlarms();
                 }
                 // Otherwise the run sets the mark, when it is through.
                 if (!services.safety.repeatsUnfinished || (!any && wasSet)) {
-                    synchronisation.setSynchronized(true);
+                    calendar->mark().setUnlessClearedSince(clearings);
                 }
                 if (services.applicationState.applicationState() == ApplicationState::Background) {
                     services.userDefaults.synchronize();
@@ -304,6 +305,7 @@ void AlarmOperations::Removals::remove(const std::shared_ptr<AlarmCalendar>& cal
     SynchronizedMark& mark = calendar->mark();
     const bool wasSet = mark.isSet();
     mark.set(false);
+    const std::uint64_t clearings = mark.clearings();
     const Moment now = environment.clock.now();
     const EventRange range = calendar->read(now, now + kAlarmReach);
     if (range.fault) {
@@ -327,7 +329,7 @@ void AlarmOperations::Removals::remove(const std::shared_ptr<AlarmCalendar>& cal
         });
     }
     if (!environment.safety.repeatsUnfinished || (wasSet && !applied.unfinished)) {
-        mark.set(true);
+        mark.setUnlessClearedSince(clearings);
     }
 }
 

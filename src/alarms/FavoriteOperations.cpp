@@ -88,18 +88,19 @@ std::vector<Favorite> restoredFavorites(const FavoritesSnapshot& current, const 
             restored.insert(title.toLower());
         }
     }
-    // The restored rules by the title of the rule that they follow; null for those at the beginning.
+    // The restored rules by the title of the rule that they follow; those at the beginning follow none. A
+    // title may be empty.
+    std::vector<Favorite> rules;
     QHash<QString, std::vector<Favorite>> following;
-    QString previous;
+    std::vector<Favorite>* place = &rules;
     for (const Favorite& rule : before.rules()) {
         const QString lowercased = rule.identificator.toLower();
         if (restored.contains(lowercased)) {
-            following[previous].push_back(rule);
+            place->push_back(rule);
         } else if (current.ruleNamed(lowercased)) {
-            previous = lowercased;
+            place = &following[lowercased];
         }
     }
-    std::vector<Favorite> rules = following.take(QString());
     for (const Favorite& rule : current.rules()) {
         rules.push_back(rule);
         std::ranges::move(following.take(rule.identificator.toLower()), std::back_inserter(rules));

@@ -198,7 +198,9 @@ QJsonValue DeviceWorld::swipe(const std::shared_ptr<const TVEntry>& entry, const
     const qsizetype chosen = step.value(u"choose"_s).toInteger(-1);
     if (chosen >= 0 && chosen < std::ssize(actions)) {
         const ShowAction action = actions[static_cast<std::size_t>(chosen)];
-        const bool isRecurring = m_alarmOperations->alarmedIdentificatorType(title).has_value();
+        // Only here, because the question reads the rules.
+        const bool isRecurring = action == ShowAction::RemoveAlarm &&
+                                 m_alarmOperations->alarmedIdentificatorType(title).has_value();
         if (questionBefore(action, isRecurring) == ShowActionQuestion::None || flag(step, "confirm")) {
             performShowAction(action, *entry, situation, *m_alarmOperations, *m_favoriteOperations);
         }

@@ -279,6 +279,41 @@ TEST(AlarmOperationsTest, TheChosenCalendarIsWaitedFor) {
     EXPECT_EQ(world.alarmCalendar->selectedCalendar(), chosen);
 }
 
+TEST(AlarmOperationsTest, TheChosenCalendarMayBecomeReadOnlyOrGo) {
+    MemoryAlarmWorld world(u"rule News 10\nshow One News 12:00"_s);
+    world->sync();
+    const QString chosen = world->alarmCalendar->selectedCalendar()->identifier;
+    const auto run = [&world] {
+        world->alarmCalendar->mark().set(false);
+        world->sync();
+    };
+    world->give(u"show One News 14:00"_s);
+    world.events.setWritable(chosen, false);
+    run();
+    run();
+    EXPECT_FALSE(world->alarmCalendar->selectedCalendar()->allowsContentModifications);
+    EXPECT_EQ(world->journal().count(u"NotMade"_s), 1) << "not told by each run";
+
+    const EventCalendar other =
+        world.events.addCalendar({.identifier = {}, .title = u"Other"_s, .allowsContentModifications = true});
+    world.events.setDefaultCalendar(other.identifier);
+    world.events.removeCalendar(chosen);
+    run();
+    world->sync();
+    EXPECT_EQ(world->alarmCalendar->selectedCalendar(), other);
+    EXPECT_EQ(world.events.events().size(), 2U) << "the alarms are made again";
+}
+
+TEST(AlarmOperationsTest, AChangeOfListingsMeanwhileIsNotForgotten) {
+    MemoryAlarmWorld world(u"rule News 10"_s);
+    world->sync();
+    world->alarmCalendar->mark().set(true);
+    world->operations->setAlarmForTitle(u"News"_s, 5, {}, false);
+    world->alarmCalendar->mark().set(false);
+    world->queues.runAll();
+    EXPECT_FALSE(world->alarmCalendar->mark().isSet());
+}
+
 // ---- the choice of an alarm
 
 TEST(AlarmSettingsTest, OffersWhatIsPossible) {

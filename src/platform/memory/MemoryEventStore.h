@@ -55,7 +55,9 @@ class MemoryEventStore final : public EventStore {
     EventRange eventsBetween(Moment start, Moment end, const EventCalendar& calendar) override {
         const std::lock_guard lock(m_guard);
         ++m_reads;
-        if (m_rangesFail) {
+        if (m_rangesFail ||
+            std::ranges::find(m_calendars, calendar.identifier, &EventCalendar::identifier) ==
+                m_calendars.end()) {
             return {{}, QStringLiteral("the range cannot be read")};
         }
         EventRange range;
@@ -103,6 +105,12 @@ class MemoryEventStore final : public EventStore {
         }
         m_calendars.push_back(calendar);
         return calendar;
+    }
+    /// With its events.
+    void removeCalendar(const QString& identifier) {
+        const std::lock_guard lock(m_guard);
+        std::erase_if(m_calendars, [&](const EventCalendar& each) { return each.identifier == identifier; });
+        std::erase_if(m_events, [&](const CalendarEvent& each) { return each.calendar == identifier; });
     }
     /// Unset by default.
     void setDefaultCalendar(const QString& identifier) {
