@@ -18,6 +18,22 @@ namespace {
 
 constexpr qint64 kMostBytes = 1 << 20;
 
+RefusedBroadcasts::EndsByShow readEnds(const QString& path) {
+    RefusedBroadcasts::EndsByShow ends;
+    const auto content = fileContent(path, kMostBytes);
+    const auto root = content ? unarchivedRoot(*content) : std::nullopt;
+    for (const auto& value : root ? root->toArray() : QCborArray()) {
+        const QCborArray pair = value.toArray();
+        const QByteArray bytes = pair.at(0).toByteArray();
+        if (bytes.size() == sizeof(ShowDigest) && pair.at(1).isInteger()) {
+            ShowDigest show{};
+            std::ranges::copy(bytes, show.begin());
+            ends.emplace(show, Moment(std::chrono::milliseconds(pair.at(1).toInteger())));
+        }
+    }
+    return ends;
+}
+
 QByteArray fileContentOf(const RefusedBroadcasts::EndsByShow& ends) {
     QCborArray array;
     for (const auto& [show, end] : ends) {
@@ -33,55 +49,37 @@ RefusedBroadcasts::RefusedBroadcasts(const Folders& folders)
     : m_path(folders.documents + u"/refused-alarms.plist"_s)
     , m_writable(folders.writable) {}
 
-// Under the guard.
-void RefusedBroadcasts::read() const {
-    if (m_ends) {
-        return;
-    }
-    EndsByShow ends;
-    const auto content = fileContent(m_path, kMostBytes);
-    const auto root = content ? unarchivedRoot(*content) : std::nullopt;
-    for (const auto& value : root ? root->toArray() : QCborArray()) {
-        const QCborArray pair = value.toArray();
-        const QByteArray bytes = pair.at(0).toByteArray();
-        if (bytes.size() == sizeof(ShowDigest) && pair.at(1).isInteger()) {
-            ShowDigest show{};
-            std::ranges::copy(bytes, show.begin());
-            ends.emplace(show, Moment(std::chrono::milliseconds(pair.at(1).toInteger())));
-        }
-    }
-    m_ends = std::make_shared<const EndsByShow>(std::move(ends));
-}
-
-// Under the guard.
 void RefusedBroadcasts::replace(EndsByShow ends) {
-    m_ends = std::make_shared<const EndsByShow>(std::move(ends));
-    if (m_writable && !replaceFile(m_path, fileContentOf(*m_ends))) {
+    const auto replacement = std::make_shared<const EndsByShow>(std::move(ends));
+    {
+        const std::lock_guard lock(m_guard);
+        m_ends = replacement;
+    }
+    if (m_writable && !replaceFile(m_path, fileContentOf(*replacement))) {
         qWarning("The broadcasts without alarms cannot be written");
     }
 }
 
 std::shared_ptr<const RefusedBroadcasts::EndsByShow> RefusedBroadcasts::all() const {
     const std::lock_guard lock(m_guard);
-    read();
+    if (!m_ends) {
+        m_ends = std::make_shared<const EndsByShow>(readEnds(m_path));
+    }
     return m_ends;
 }
 
 void RefusedBroadcasts::refuse(const ShowDigest& show, Moment end, Moment now) {
-    const std::lock_guard lock(m_guard);
-    read();
-    EndsByShow ends = *m_ends;
+    const std::lock_guard lock(m_changing);
+    EndsByShow ends = *all();
     std::erase_if(ends, [now](const auto& each) { return each.second <= now; });
     ends.insert_or_assign(show, end);
     replace(std::move(ends));
 }
 
 void RefusedBroadcasts::allow(const ShowDigest& show) {
-    const std::lock_guard lock(m_guard);
-    read();
-    if (m_ends->contains(show)) {
-        EndsByShow ends = *m_ends;
-        ends.erase(show);
+    const std::lock_guard lock(m_changing);
+    EndsByShow ends = *all();
+    if (ends.erase(show) > 0) {
         replace(std::move(ends));
     }
 }
