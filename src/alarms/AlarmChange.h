@@ -38,11 +38,13 @@ struct AlarmChange {
     EventChange change;
     AlarmReason reason = AlarmReason::Rule;
     /// The broadcast of the event, after the change.
-    std::optional<ShowDigest> show;
+    std::optional<ShowDigest> show = {};
     /// The event before it is moved.
-    std::optional<CalendarEvent> before;
+    std::optional<CalendarEvent> before = {};
     /// The title of the rule; empty when no rule is concerned.
-    QString rule;
+    QString rule = {};
+    /// Of the rule that makes the event: false for premieres only, true for replays only.
+    std::optional<bool> previouslyShown = {};
 
     /// As it will be saved, or the one that is removed.
     const CalendarEvent& event() const {

@@ -29,7 +29,23 @@ constexpr int kVersion = 1;
 constexpr qsizetype kMostCharacters = 300;
 
 // The places of a stored entry.
-enum Place { At, Deed, Reason, Title, Channel, OldStart, NewStart, End, Rule, Message, Show, PlaceCount };
+enum Place {
+    At,
+    Deed,
+    Reason,
+    Title,
+    Channel,
+    OldStart,
+    NewStart,
+    End,
+    Rule,
+    Message,
+    Show,
+    Replays,
+    PlaceCount
+};
+/// Entries of earlier guides end before the place of `Replays`.
+constexpr int kFewestPlaces = Replays;
 
 QCborValue valueOf(const std::optional<Moment>& moment) {
     return moment ? QCborValue(static_cast<qint64>(moment->time_since_epoch().count()))
@@ -55,15 +71,16 @@ QCborArray valueOf(const JournalEntry& entry) {
             text(entry.message),
             entry.show ? QCborValue(QByteArray(reinterpret_cast<const char*>(entry.show->data()),
                                                static_cast<qsizetype>(entry.show->size())))
-                       : QCborValue(QCborValue::Null)};
+                       : QCborValue(QCborValue::Null),
+            entry.previouslyShown ? QCborValue(*entry.previouslyShown) : QCborValue(QCborValue::Null)};
 }
 
 std::optional<JournalEntry> entryOf(const QCborArray& value) {
     const std::optional<Moment> at = momentOf(value.at(At));
     const qint64 deed = value.at(Deed).toInteger(-1);
     const qint64 reason = value.at(Reason).toInteger(-1);
-    if (value.size() != PlaceCount || !at || deed < 0 || deed > kLastAlarmDeed || reason < 0 ||
-        reason > kLastAlarmReason) {
+    if (value.size() < kFewestPlaces || value.size() > PlaceCount || !at || deed < 0 ||
+        deed > kLastAlarmDeed || reason < 0 || reason > kLastAlarmReason) {
         return std::nullopt;
     }
     JournalEntry entry{.at = *at,
@@ -75,8 +92,10 @@ std::optional<JournalEntry> entryOf(const QCborArray& value) {
                        .newStart = momentOf(value.at(NewStart)),
                        .end = momentOf(value.at(End)),
                        .rule = value.at(Rule).toString(),
-                       .message = value.at(Message).toString(),
-                       .show = {}};
+                       .message = value.at(Message).toString()};
+    if (const QCborValue replays = value.at(Replays); replays.isBool()) {
+        entry.previouslyShown = replays.toBool();
+    }
     if (const QByteArray digest = value.at(Show).toByteArray(); digest.size() == sizeof(ShowDigest)) {
         std::ranges::copy(digest, entry.show.emplace().begin());
     }
@@ -182,10 +201,9 @@ JournalEntry journalEntry(const AlarmChange& change, AlarmDeed deed, Moment now,
                        .reason = change.reason,
                        .title = event.title,
                        .channel = event.location,
-                       .oldStart = {},
-                       .newStart = {},
                        .end = event.endDate,
                        .rule = change.rule,
+                       .previouslyShown = change.previouslyShown,
                        .message = message,
                        .show = change.show};
     if (change.removes()) {

@@ -47,6 +47,8 @@ struct JournalEntry {
     std::optional<Moment> end = {};
     /// The title of the rule concerned; may be empty.
     QString rule = {};
+    /// Of the rule that made the alarm: false for premieres only, true for replays only.
+    std::optional<bool> previouslyShown = {};
     /// The service's words for a failure.
     QString message = {};
     /// The broadcast; unset when the event's URL was none of a show.

@@ -22,14 +22,6 @@ constexpr int kOneOffSet = 2;
 constexpr int kRecurringSet = 3;
 constexpr int kRemoved = -1;
 
-AlarmChange removal(const CalendarEvent& event, const QString& scheme, AlarmReason reason) {
-    return {.change = RemoveEvent{event},
-            .reason = reason,
-            .show = showOfEvent(event, scheme),
-            .before = {},
-            .rule = {}};
-}
-
 QStringList identifiersOf(const std::vector<AlarmChange>& changes) {
     QStringList identifiers;
     for (const AlarmChange& change : changes) {
@@ -62,7 +54,7 @@ bool removeBroadcast(AlarmCalendar& calendar, const QString& title, const ShowDi
     std::vector<AlarmChange> changes;
     for (const CalendarEvent& event : range.events) {
         if (event.startDate == at && event.title == title && showOfEvent(event, scheme) == show) {
-            changes.push_back(removal(event, scheme, AlarmReason::User));
+            changes.push_back(removalOf(event, AlarmReason::User, scheme));
         }
     }
     const AppliedChanges applied = calendar.apply(changes);
@@ -87,8 +79,7 @@ std::optional<AlarmChange> newAlarm(const AlarmSituation& situation, const QStri
     event.startDate = at;
     event.endDate = until;
     event.alarmOffsets = {-std::chrono::minutes(minutes)};
-    return AlarmChange{
-        .change = SaveEvent{std::move(event)}, .reason = reason, .show = show, .before = {}, .rule = {}};
+    return AlarmChange{.change = SaveEvent{std::move(event)}, .reason = reason, .show = show};
 }
 
 void notifyOnMainQueue(const std::shared_ptr<AlarmCalendar>& calendar) {
@@ -237,6 +228,7 @@ void AlarmOperations::setAlarmForTitle(const QString& title, int minutes, std::o
                 if (change && situation.silentHours.mayBeAlarmedAt(*entry.dateTime() - lead) &&
                     !situation.refused.contains(*change->show)) {
                     change->rule = title;
+                    change->previouslyShown = previouslyShown;
                     changes.push_back(*std::move(change));
                 }
             }
@@ -314,7 +306,7 @@ void AlarmOperations::Removals::remove(const std::shared_ptr<AlarmCalendar>& cal
     std::vector<AlarmChange> changes;
     for (const CalendarEvent& event : range.events) {
         if (taken.titles.contains(event.title.toLower()) && isOfGuide(event, environment.scheme)) {
-            changes.push_back(removal(event, environment.scheme, AlarmReason::RecurringEnded));
+            changes.push_back(removalOf(event, AlarmReason::RecurringEnded, environment.scheme));
         }
     }
     const AppliedChanges applied = calendar->apply(changes);

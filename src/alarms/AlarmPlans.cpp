@@ -15,14 +15,6 @@ constexpr std::chrono::seconds kLongestMove{14'400};
 /// The brake looks at no fewer events.
 constexpr std::size_t kFewestForBrake = 10;
 
-AlarmChange removal(const CalendarEvent& event, AlarmReason reason, const QString& scheme) {
-    return {.change = RemoveEvent{event},
-            .reason = reason,
-            .show = showOfEvent(event, scheme),
-            .before = {},
-            .rule = {}};
-}
-
 struct EventPlace {
     Moment start;
     QString title;
@@ -60,7 +52,7 @@ class Reconciliation {
 
     std::optional<AlarmChange> changeOf(const CalendarEvent& event) const {
         if (!event.hasAlarms()) {
-            return isToCome(event) ? std::optional(removalOf(event, AlarmReason::AlarmRemoved))
+            return isToCome(event) ? std::optional(removalByRule(event, AlarmReason::AlarmRemoved))
                                    : std::nullopt;
         }
         const QString title = event.title.toLower();
@@ -82,8 +74,8 @@ class Reconciliation {
   private:
     bool isToCome(const CalendarEvent& event) const { return event.startDate > m_situation.now; }
 
-    AlarmChange removalOf(const CalendarEvent& event, AlarmReason reason) const {
-        AlarmChange change = removal(event, reason, m_situation.scheme);
+    AlarmChange removalByRule(const CalendarEvent& event, AlarmReason reason) const {
+        AlarmChange change = removalOf(event, reason, m_situation.scheme);
         if (const Favorite* rule = m_situation.rules->ruleNamed(event.title)) {
             change.rule = rule->identificator;
         }
@@ -94,7 +86,7 @@ class Reconciliation {
         if (!isToCome(event) || !m_situation.settledChannels.contains(event.location)) {
             return std::nullopt;
         }
-        return removalOf(event, reason);
+        return removalByRule(event, reason);
     }
 
     /// Of broadcasts at the same distance the earlier one in the list. Null also when a show of the event's
@@ -145,6 +137,10 @@ class Reconciliation {
 
 } // namespace
 
+AlarmChange removalOf(const CalendarEvent& event, AlarmReason reason, const QString& scheme) {
+    return {.change = RemoveEvent{event}, .reason = reason, .show = showOfEvent(event, scheme)};
+}
+
 CleanUpPlan planCleanUp(const std::vector<CalendarEvent>& events, const QString& scheme) {
     CleanUpPlan plan;
     QSet<EventPlace> seen;
@@ -153,14 +149,14 @@ CleanUpPlan planCleanUp(const std::vector<CalendarEvent>& events, const QString&
             continue;
         }
         if (!event.hasAlarms() || event.location.isEmpty()) {
-            plan.changes.push_back(removal(
+            plan.changes.push_back(removalOf(
                 event, event.hasAlarms() ? AlarmReason::NoChannel : AlarmReason::AlarmRemoved, scheme));
             continue;
         }
         const qsizetype count = seen.size();
         seen.insert({event.startDate, event.title.toLower(), event.location});
         if (seen.size() == count) {
-            plan.changes.push_back(removal(event, AlarmReason::Duplicate, scheme));
+            plan.changes.push_back(removalOf(event, AlarmReason::Duplicate, scheme));
         } else {
             plan.kept.push_back(event);
         }
@@ -242,8 +238,8 @@ std::vector<AlarmChange> planGeneration(const AlarmSituation& situation, const S
                     {.change = SaveEvent{*std::move(event)},
                      .reason = made.contains(*digest) ? AlarmReason::RuleAgain : AlarmReason::Rule,
                      .show = digest,
-                     .before = {},
-                     .rule = rule.identificator});
+                     .rule = rule.identificator,
+                     .previouslyShown = rule.previouslyShown});
             }
         }
     }

@@ -35,6 +35,9 @@ ReconciliationPlan planReconciliation(const AlarmSituation& situation, bool brak
 /// `situation.events` are those after phase 2. Broadcasts in `made` had an event from a rule before.
 std::vector<AlarmChange> planGeneration(const AlarmSituation& situation, const ShowDigests& made);
 
+/// The removal of an event.
+AlarmChange removalOf(const CalendarEvent& event, AlarmReason reason, const QString& scheme);
+
 /// An event for a broadcast in the calendar; nothing when the catalogue does not name the channel.
 std::optional<CalendarEvent> eventForShow(const AlarmSituation& situation, const TVEntry& entry, int minutes);
 
