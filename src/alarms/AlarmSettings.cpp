@@ -62,12 +62,20 @@ std::optional<int> AlarmSettings::minutesOfTrigger(int trigger) {
                : std::nullopt;
 }
 
+AlarmSettings::Choice AlarmSettings::choice() const {
+    Choice choice = m_choice;
+    if (choice != m_former) {
+        choice.trigger = std::min(choice.trigger, triggerCount() - 1);
+    }
+    return choice;
+}
+
 void AlarmSettings::chooseRepetition(int repetition) {
     if (repetition < 0 || repetition >= repetitionCount()) {
         return;
     }
     m_choice.repetition = static_cast<AlarmRepetition>(repetition);
-    m_choice.trigger = std::min(m_choice.trigger, triggerCount() - 1);
+    m_choice = choice();
 }
 
 void AlarmSettings::chooseTrigger(int trigger) {
@@ -76,38 +84,37 @@ void AlarmSettings::chooseTrigger(int trigger) {
     }
 }
 
+// The URL of an alarm on one broadcast is made of the source title, as that of the show is.
 void AlarmSettings::removeFormerAlarm(AlarmActions& actions) const {
-    const QString title = m_entry->title().value_or(QString());
     if (m_former.repetition == AlarmRepetition::OnlyThis) {
-        actions.removeAlarmForTitle(title, m_entry->channel(), m_entry->dateTime().value_or(Moment()), true,
-                                    true);
+        actions.removeAlarmForTitle(identificator(), m_entry->channel(),
+                                    m_entry->dateTime().value_or(Moment()), true, true);
     } else {
-        actions.removeAlarmForTitle(title, true, true);
+        actions.removeAlarmForTitle(title(), true, true);
     }
 }
 
 void AlarmSettings::setChosenAlarm(AlarmActions& actions, FavoriteActions& favorites) const {
-    const std::optional<int> minutes = minutesOfTrigger(m_choice.trigger);
+    const std::optional<int> minutes = minutesOfTrigger(trigger());
     if (!minutes) {
         return;
     }
-    const QString title = m_entry->title().value_or(QString());
-    if (!favorites.noteAlarmSet(m_entry->identificator().value_or(QString()))) {
-        qWarning().noquote() << "Error: favorite not found:" << title;
+    if (!favorites.noteAlarmSet(identificator())) {
+        qWarning().noquote() << "Error: favorite not found:" << identificator();
     }
     switch (m_choice.repetition) {
     case AlarmRepetition::OnlyThis:
         if (m_entry->dateTime() && m_entry->endDateTime()) {
-            actions.setAlarmForTitle(title, m_entry->channel(), *m_entry->dateTime(), *m_entry->endDateTime(),
-                                     *minutes, true, true);
+            actions.setAlarmForTitle(identificator(), m_entry->channel(), *m_entry->dateTime(),
+                                     *m_entry->endDateTime(), *minutes, true, true);
         }
         break;
     case AlarmRepetition::Any:
-        actions.setAlarmForTitle(title, *minutes, std::nullopt, true);
+        actions.setAlarmForTitle(title(), *minutes, std::nullopt, true);
         break;
     case AlarmRepetition::Premieres:
     case AlarmRepetition::Replays:
-        actions.setAlarmForTitle(title, *minutes, m_choice.repetition == AlarmRepetition::Replays, true);
+        actions.setAlarmForTitle(title(), *minutes, m_choice.repetition == AlarmRepetition::Replays, true);
         break;
     }
 }

@@ -36,8 +36,9 @@ class AlarmSettings {
     /// How many lead times are offered, from the first one, "None". An alarm on this broadcast can only ring
     /// in the future.
     int triggerCount() const;
-    /// The index of the chosen lead time; it may lie behind those that are still offered.
-    int trigger() const { return m_choice.trigger; }
+    /// The index of the lead time. A choice that is no longer offered becomes the longest that is; what was
+    /// set before stays as it is.
+    int trigger() const { return choice().trigger; }
     /// The lead time at the index; unset for "None".
     static std::optional<int> minutesOfTrigger(int trigger);
 
@@ -46,7 +47,7 @@ class AlarmSettings {
     void chooseTrigger(int trigger);
 
     /// Whether there is something to apply.
-    bool isChanged() const { return m_choice != m_former; }
+    bool isChanged() const { return choice() != m_former; }
     // Two operations, in this order, each of which may end before the next one begins.
     void removeFormerAlarm(AlarmActions& actions) const;
     void setChosenAlarm(AlarmActions& actions, FavoriteActions& favorites) const;
@@ -58,6 +59,12 @@ class AlarmSettings {
 
         friend bool operator==(const Choice&, const Choice&) = default;
     };
+
+    /// At this moment.
+    Choice choice() const;
+    QString identificator() const { return m_entry->identificator().value_or(QString()); }
+    /// As rules have it.
+    QString title() const { return m_entry->title().value_or(QString()); }
 
     const std::shared_ptr<const TVEntry> m_entry;
     const Clock& m_clock;
