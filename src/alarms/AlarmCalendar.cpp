@@ -55,7 +55,11 @@ AlarmCalendar::AlarmCalendar(AlarmsEnvironment environment)
 
 std::shared_ptr<AlarmCalendar> AlarmCalendar::make(AlarmsEnvironment environment) {
     const std::shared_ptr<AlarmCalendar> calendar(new AlarmCalendar(std::move(environment)));
-    calendar->m_queue->async([calendar] { calendar->refreshAccess(); });
+    calendar->m_queue->async([calendar] {
+        // Here rather than for the first screen that asks.
+        calendar->m_refused.all();
+        calendar->refreshAccess();
+    });
     return calendar;
 }
 
@@ -105,6 +109,10 @@ AlarmSituation AlarmCalendar::situation() const {
         situation.refused.insert(show);
     }
     return situation;
+}
+
+ShowAlarmSituation AlarmCalendar::showAlarmSituation() const {
+    return {.access = access(), .calendar = selectedCalendar(), .alarms = snapshot(), .run = situation()};
 }
 
 // ---- on the alarm queue

@@ -7,6 +7,7 @@
 #include "alarms/CalendarEvents.h"
 #include "alarms/PendingAlarms.h"
 #include "alarms/RefusedBroadcasts.h"
+#include "alarms/ShowAlarm.h"
 #include "alarms/SynchronizedMark.h"
 
 #include <QHash>
@@ -62,6 +63,8 @@ class AlarmCalendar : public std::enable_shared_from_this<AlarmCalendar> {
     SilentHours silentHours() const { return {m_environment.keyValueStore, m_environment.device}; }
     /// Everything but the events, the shows and the end of the range.
     AlarmSituation situation() const;
+    /// What decides about the alarm of a show.
+    ShowAlarmSituation showAlarmSituation() const;
 
     // ---- on the alarm queue
 

@@ -35,10 +35,7 @@ void AlarmService::createCalendar(const QString& title, MainBlock<std::optional<
 }
 
 ShowAlarm AlarmService::alarmOf(const TVEntry& entry) const {
-    return alarmReasonFor(entry, {.access = m_calendar->access(),
-                                  .calendar = m_calendar->selectedCalendar(),
-                                  .alarms = m_calendar->snapshot(),
-                                  .run = m_calendar->situation()});
+    return alarmReasonFor(entry, m_calendar->showAlarmSituation());
 }
 
 void AlarmService::refuseBroadcast(const AlarmBroadcast& broadcast) {

@@ -94,8 +94,9 @@ struct AlarmSynchroniser::State : std::enable_shared_from_this<State> {
     /// Wait for the end of the runs.
     std::vector<Block> idle;
 
-    // On the alarm queue: identifiers of events.
-    QSet<QString> heldBack;
+    // On the alarm queue: identifiers of events that the brake holds back.
+    /// The user has been told about these and has not decided.
+    QSet<QString> told;
     QSet<QString> keptByUser;
 };
 
@@ -262,22 +263,19 @@ bool AlarmSynchroniser::State::reconcileAndGenerate(AlarmRun& run, ShowItems sho
 }
 
 void AlarmSynchroniser::State::noteHeldBack(AlarmRun& run, const ReconciliationPlan& plan) {
-    heldBack.clear();
-    for (const AlarmChange& change : plan.heldBack) {
-        heldBack.insert(change.event().identifier);
-    }
-    if (keptByUser.contains(heldBack)) {
-        return;
-    }
-    run.result.heldBack = plan.heldBack.size();
     const Moment now = environment.clock.now();
     std::vector<JournalEntry> entries;
     for (const AlarmChange& change : plan.heldBack) {
-        if (!keptByUser.contains(change.event().identifier)) {
+        const QString& event = change.event().identifier;
+        if (!keptByUser.contains(event) && !told.contains(event)) {
+            told.insert(event);
             entries.push_back(journalEntry(change, AlarmDeed::HeldBack, now));
         }
     }
-    calendar->journal().append(std::move(entries), now);
+    if (!entries.empty()) {
+        run.result.heldBack = plan.heldBack.size();
+        calendar->journal().append(std::move(entries), now);
+    }
 }
 
 void AlarmSynchroniser::State::finish(AlarmRun run, bool notifies) {
@@ -318,30 +316,22 @@ std::shared_ptr<const AlarmsSnapshot> AlarmSynchroniser::snapshot() const {
     return m_state->calendar->snapshot();
 }
 
-ShowAlarmSituation AlarmSynchroniser::showAlarmSituation() const {
-    const AlarmCalendar& calendar = *m_state->calendar;
-    return {.access = calendar.access(),
-            .calendar = calendar.selectedCalendar(),
-            .alarms = calendar.snapshot(),
-            .run = calendar.situation()};
-}
-
-ShowAlarm AlarmSynchroniser::alarmReasonFor(const TVEntry& entry) const {
-    return guide::alarmReasonFor(entry, showAlarmSituation());
-}
-
 void AlarmSynchroniser::calendarsChanged() {
     m_state->calendar->queue().async([calendar = m_state->calendar] { calendar->refresh(); });
 }
 
 void AlarmSynchroniser::removeHeldBack() {
-    m_state->calendar->queue().async([state = m_state] { state->keptByUser.clear(); });
+    m_state->calendar->queue().async([state = m_state] {
+        state->told.clear();
+        state->keptByUser.clear();
+    });
     m_state->calendar->mark().set(false);
     m_state->ask(true, false);
 }
 
 void AlarmSynchroniser::keepHeldBack() {
-    m_state->calendar->queue().async([state = m_state] { state->keptByUser = state->heldBack; });
+    m_state->calendar->queue().async(
+        [state = m_state] { state->keptByUser.unite(std::exchange(state->told, {})); });
 }
 
 void AlarmSynchroniser::alertsScheduleWithPriority(QueuePriority, MainBlock<ShowSpan> mainBlock) {

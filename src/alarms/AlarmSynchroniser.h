@@ -4,7 +4,6 @@
 #include "alarms/AlarmSynchronisation.h"
 #include "alarms/AlertsSchedule.h"
 #include "alarms/PendingAlarms.h"
-#include "alarms/ShowAlarm.h"
 
 #include <memory>
 
@@ -33,11 +32,6 @@ class AlarmSynchroniser final : public AlarmSynchronisation, public AlertsSchedu
     void alertsScheduleWithPriority(QueuePriority priority, MainBlock<ShowSpan> mainBlock) override;
     std::shared_ptr<const AlarmsSnapshot> snapshot() const override;
 
-    /// Why a show has an alarm or none, for its page; and what decides about it. Any thread; the calendar is
-    /// not asked.
-    ShowAlarm alarmReasonFor(const TVEntry& entry) const;
-    ShowAlarmSituation showAlarmSituation() const;
-
     /// Something else changed the calendar: refreshes what is known of events. Events that are new are
     /// alarms after the next run. Any thread.
     void calendarsChanged();
@@ -46,7 +40,7 @@ class AlarmSynchroniser final : public AlarmSynchronisation, public AlertsSchedu
 
     /// Starts a full run without the brake.
     void removeHeldBack();
-    /// The brake holds the same removals back from now on without saying so.
+    /// The brake holds back what the user has been told about from now on without saying so again.
     void keepHeldBack();
 
   private:

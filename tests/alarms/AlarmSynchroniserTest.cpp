@@ -291,11 +291,17 @@ TEST(AlarmSynchroniser, TheUserDecidesAboutWhatIsHeldBack) {
     MemoryAlarmWorld kept(given);
     kept->sync();
     EXPECT_EQ(kept->runs.back().heldBack, 10U);
-    kept->alarms->keepHeldBack();
     kept->sync();
     EXPECT_EQ(kept->runs.back().heldBack, 0U) << "it has been said";
     EXPECT_EQ(kept->journal().count(u"HeldBack"_s), 10);
-    EXPECT_EQ(kept->alarms->snapshot()->eventCount(), 10U);
+    kept->alarms->keepHeldBack();
+    kept->sync();
+    EXPECT_EQ(kept->runs.back().heldBack, 0U) << "the user keeps them";
+    kept->give(u"event more One Gone 20:00+2 10"_s);
+    kept->sync();
+    EXPECT_EQ(kept->runs.back().heldBack, 11U) << "one more, which the user does not know of";
+    EXPECT_EQ(kept->journal().count(u"HeldBack"_s), 11);
+    EXPECT_EQ(kept->alarms->snapshot()->eventCount(), 11U);
 
     MemoryAlarmWorld removed(given + linesOf(2, "event n%1 One Silenced 1%1:00+2 none"));
     removed->sync();
@@ -305,6 +311,21 @@ TEST(AlarmSynchroniser, TheUserDecidesAboutWhatIsHeldBack) {
     removed->queues.runAll();
     EXPECT_EQ(removed->calendar(), QString());
     EXPECT_TRUE(removed->alarmCalendar->mark().isSet());
+    removed->give(linesOf(10, "event h%1 One Gone 0%1:00+2 10"));
+    removed->sync();
+    EXPECT_EQ(removed->runs.back().heldBack, 10U) << "another time";
+}
+
+TEST(AlarmSynchroniser, TheJournalSaysWhichBroadcastsTheRuleIsFor) {
+    MemoryAlarmWorld world(
+        u"rule News 10 premieres\nrule Film -\nshow One News 12:00\nshow Two Film 13:00 replay"_s);
+    world->sync();
+    world->operations->setAlarmForTitle(u"Film"_s, 5, true, true);
+    world->queues.runAll();
+    const JournalEntries entries = world->alarmCalendar->journal().entries();
+    ASSERT_EQ(entries->size(), 2U);
+    EXPECT_EQ(entries->at(0).previouslyShown, false);
+    EXPECT_EQ(entries->at(1).previouslyShown, true);
 }
 
 TEST(AlarmSynchroniser, ListsShowsWithAlerts) {
