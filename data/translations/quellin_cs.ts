@@ -116,30 +116,6 @@ Počkejte, až se program načte.</translation>
         <translation>Oblíbené</translation>
     </message>
     <message>
-        <source>Alert at the beginning of every broadcast</source>
-        <translation>Upozornění na začátku každého vysílání</translation>
-    </message>
-    <message>
-        <source>Alert %1 min before every broadcast</source>
-        <translation>Upozornění %1 min před každým vysíláním</translation>
-    </message>
-    <message>
-        <source>Alert at the beginning of every replay</source>
-        <translation>Upozornění na začátku každé reprízy</translation>
-    </message>
-    <message>
-        <source>Alert %1 min before every replay</source>
-        <translation>Upozornění %1 min před každou reprízou</translation>
-    </message>
-    <message>
-        <source>Alert at the beginning of every premiere</source>
-        <translation>Upozornění na začátku každé premiéry</translation>
-    </message>
-    <message>
-        <source>Alert %1 min before every premiere</source>
-        <translation>Upozornění %1 min před každou premiérou</translation>
-    </message>
-    <message>
         <source>Remove all</source>
         <translation>Odebrat vše</translation>
     </message>
@@ -1680,12 +1656,12 @@ Počkejte, až se program načte.</translation>
         <translation>Zrušeno</translation>
     </message>
     <message>
-        <source>New: rule “%1”</source>
-        <translation>Nové: pravidlo „%1“</translation>
+        <source>New: rule %1</source>
+        <translation>Nové: pravidlo %1</translation>
     </message>
     <message>
-        <source>Set again by the rule “%1”: it was removed in the calendar</source>
-        <translation>Znovu nastaveno pravidlem „%1“: v kalendáři bylo odstraněno</translation>
+        <source>Set again by the rule %1: it was removed in the calendar</source>
+        <translation>Znovu nastaveno pravidlem %1: v kalendáři bylo zrušeno</translation>
     </message>
     <message>
         <source>Set by you</source>
@@ -1820,8 +1796,8 @@ Počkejte, až se program načte.</translation>
         </translation>
     </message>
     <message>
-        <source>The schedules no longer list most of the shows that you are alerted to. That may be a fault of the schedules, so nothing was removed.</source>
-        <translation>Většina pořadů, na které máte upozornění, už v programech není. Může to být chyba programů, proto se nic nezrušilo.</translation>
+        <source>Most of your alerts would go at once, because their shows are no longer listed or they would ring in the silent hours. That may be a mistake, so none was removed.</source>
+        <translation>Většina upozornění by se zrušila najednou, protože jejich pořady už v programech nejsou nebo by zazněla v tichých hodinách. Může to být omyl, proto se žádné nezrušilo.</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -2006,6 +1982,34 @@ Počkejte, až se program načte.</translation>
     <message>
         <source>Calendars of the desktop</source>
         <translation>Kalendáře pracovní plochy</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>“%1”, premieres</source>
+        <translation>„%1“, premiéry</translation>
+    </message>
+    <message>
+        <source>“%1”, replays</source>
+        <translation>„%1“, reprízy</translation>
+    </message>
+    <message>
+        <source>No alert: the favourite has no recurring alert.</source>
+        <translation>Bez upozornění: oblíbený pořad nemá opakované upozornění.</translation>
+    </message>
+    <message>
+        <source>At start</source>
+        <translation>Na začátku</translation>
+    </message>
+    <message>
+        <source>Alert: %1</source>
+        <translation>Upozornění: %1</translation>
+    </message>
+    <message>
+        <source>Folder %1</source>
+        <translation>Složka %1</translation>
     </message>
 </context>
 <context>

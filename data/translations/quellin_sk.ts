@@ -116,30 +116,6 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Obľúbené</translation>
     </message>
     <message>
-        <source>Alert at the beginning of every broadcast</source>
-        <translation>Upozornenie na začiatku každého vysielania</translation>
-    </message>
-    <message>
-        <source>Alert %1 min before every broadcast</source>
-        <translation>Upozornenie %1 min pred každým vysielaním</translation>
-    </message>
-    <message>
-        <source>Alert at the beginning of every replay</source>
-        <translation>Upozornenie na začiatku každej reprízy</translation>
-    </message>
-    <message>
-        <source>Alert %1 min before every replay</source>
-        <translation>Upozornenie %1 min pred každou reprízou</translation>
-    </message>
-    <message>
-        <source>Alert at the beginning of every premiere</source>
-        <translation>Upozornenie na začiatku každej premiéry</translation>
-    </message>
-    <message>
-        <source>Alert %1 min before every premiere</source>
-        <translation>Upozornenie %1 min pred každou premiérou</translation>
-    </message>
-    <message>
         <source>Remove all</source>
         <translation>Odobrať všetko</translation>
     </message>
@@ -1680,12 +1656,12 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Zrušené</translation>
     </message>
     <message>
-        <source>New: rule “%1”</source>
-        <translation>Nové: pravidlo „%1“</translation>
+        <source>New: rule %1</source>
+        <translation>Nové: pravidlo %1</translation>
     </message>
     <message>
-        <source>Set again by the rule “%1”: it was removed in the calendar</source>
-        <translation>Znova nastavené pravidlom „%1“: v kalendári bolo odstránené</translation>
+        <source>Set again by the rule %1: it was removed in the calendar</source>
+        <translation>Znovu nastavené pravidlom %1: v kalendári bolo zrušené</translation>
     </message>
     <message>
         <source>Set by you</source>
@@ -1820,8 +1796,8 @@ Počkajte, kým sa program načíta.</translation>
         </translation>
     </message>
     <message>
-        <source>The schedules no longer list most of the shows that you are alerted to. That may be a fault of the schedules, so nothing was removed.</source>
-        <translation>Väčšina relácií, na ktoré máte upozornenie, už v programoch nie je. Môže to byť chyba programov, preto sa nič nezrušilo.</translation>
+        <source>Most of your alerts would go at once, because their shows are no longer listed or they would ring in the silent hours. That may be a mistake, so none was removed.</source>
+        <translation>Väčšina upozornení by sa zrušila naraz, pretože ich relácie už v programoch nie sú alebo by zazneli v tichých hodinách. Môže to byť omyl, preto sa žiadne nezrušilo.</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -2006,6 +1982,34 @@ Počkajte, kým sa program načíta.</translation>
     <message>
         <source>Calendars of the desktop</source>
         <translation>Kalendáre pracovnej plochy</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>“%1”, premieres</source>
+        <translation>„%1“, premiéry</translation>
+    </message>
+    <message>
+        <source>“%1”, replays</source>
+        <translation>„%1“, reprízy</translation>
+    </message>
+    <message>
+        <source>No alert: the favourite has no recurring alert.</source>
+        <translation>Bez upozornenia: obľúbená relácia nemá opakované upozornenie.</translation>
+    </message>
+    <message>
+        <source>At start</source>
+        <translation>Na začiatku</translation>
+    </message>
+    <message>
+        <source>Alert: %1</source>
+        <translation>Upozornenie: %1</translation>
+    </message>
+    <message>
+        <source>Folder %1</source>
+        <translation>Priečinok %1</translation>
     </message>
 </context>
 <context>

@@ -181,6 +181,8 @@ TEST(AccessibleNameTest, SaysWhatTheColoursAndSymbolsShow) {
                  .popular = true},
          u"20:15–21:00, Title, On now, Favourite, Alarm set, Popular, Details"_s},
         {ShowRow{.startTime = u"20:15"_s, .title = u"Title"_s}, u"20:15, Title"_s},
+        {ShowRow{.startTime = u"20:15"_s, .title = u"Title"_s, .alarmed = true, .alarmLead = u"10 min"_s},
+         u"20:15, Title, Alarm set, 10 min"_s},
         {ChannelRow{.title = u"One"_s, .checked = true, .accessory = Accessory::Spinner},
          u"One, Selected, Loading"_s},
         {ChoiceRow{.title = u"Order"_s, .choices = {u"A"_s, u"B"_s}, .chosen = 1}, u"Order, B"_s},

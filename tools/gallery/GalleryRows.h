@@ -141,6 +141,7 @@ inline std::vector<Section> galleryShows() {
     picture.picture = showPicture(u"Zprávy"_s);
     ShowRow mixed = alarmed;
     mixed.channelIcon = icon(u"Duna"_s);
+    mixed.alarmLead = u"10 min"_s;
     ShowRow full = favourite;
     full.channelIcon = icon(u"Kino"_s);
     full.picture = showPicture(u"Kůň"_s);

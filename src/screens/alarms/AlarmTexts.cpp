@@ -3,6 +3,7 @@
 #include "screens/Localized.h"
 #include "screens/ShowRowText.h"
 #include "screens/ShowRows.h"
+#include "screens/TimeTexts.h"
 #include "text/display/DayFormat.h"
 
 #include <utility>
@@ -43,12 +44,20 @@ QString removalText(AlarmReason reason) {
     return Localized::tr("Removed");
 }
 
+QString ruleText(const JournalEntry& entry) {
+    if (!entry.previouslyShown) {
+        return Localized::tr("“%1”").arg(entry.rule);
+    }
+    return (*entry.previouslyShown ? Localized::tr("“%1”, replays") : Localized::tr("“%1”, premieres"))
+        .arg(entry.rule);
+}
+
 QString additionText(const JournalEntry& entry) {
     switch (entry.reason) {
     case AlarmReason::Rule:
-        return Localized::tr("New: rule “%1”").arg(entry.rule);
+        return Localized::tr("New: rule %1").arg(ruleText(entry));
     case AlarmReason::RuleAgain:
-        return Localized::tr("Set again by the rule “%1”: it was removed in the calendar").arg(entry.rule);
+        return Localized::tr("Set again by the rule %1: it was removed in the calendar").arg(ruleText(entry));
     case AlarmReason::User:
         return Localized::tr("Set by you");
     default:
@@ -83,6 +92,10 @@ QString failureText(const QString& what, const QString& message) {
 
 } // namespace
 
+QString shortLeadText(int minutes) {
+    return minutes == 0 ? Localized::tr("At start") : durationText(std::chrono::minutes(minutes));
+}
+
 QString showAlarmText(const ShowAlarm& alarm) {
     switch (alarm.reason) {
     case ShowAlarmReason::HasByRule:
@@ -100,8 +113,9 @@ QString showAlarmText(const ShowAlarm& alarm) {
     case ShowAlarmReason::Begun:
         return Localized::tr("No alert: the show has begun.");
     case ShowAlarmReason::NoRule:
-    case ShowAlarmReason::RuleWithoutAlarm:
         break;
+    case ShowAlarmReason::RuleWithoutAlarm:
+        return Localized::tr("No alert: the favourite has no recurring alert.");
     case ShowAlarmReason::OnlyPremieres:
         return Localized::tr("No alert: this is a replay, and the rule is for premieres.");
     case ShowAlarmReason::OnlyReplays:
@@ -177,12 +191,12 @@ Symbol journalSymbol(const JournalEntry& entry) {
 }
 
 Alert heldBackAlert(std::size_t count, std::function<void()> remove, std::function<void()> keep) {
-    return {
-        Localized::tr("Remove %n alert(s)?", nullptr, static_cast<int>(count)),
-        Localized::tr("The schedules no longer list most of the shows that you are alerted to. That may be "
-                      "a fault of the schedules, so nothing was removed."),
-        {{Localized::tr("Remove"), AlertAction::Style::Destructive, std::move(remove)},
-         {Localized::tr("Keep"), AlertAction::Style::Cancel, std::move(keep)}}};
+    return {Localized::tr("Remove %n alert(s)?", nullptr, static_cast<int>(count)),
+            Localized::tr(
+                "Most of your alerts would go at once, because their shows are no longer listed or they "
+                "would ring in the silent hours. That may be a mistake, so none was removed."),
+            {{Localized::tr("Remove"), AlertAction::Style::Destructive, std::move(remove)},
+             {Localized::tr("Keep"), AlertAction::Style::Cancel, std::move(keep)}}};
 }
 
 } // namespace guide

@@ -15,6 +15,9 @@
 
 namespace guide {
 
+/// "10 min", "2 h"; "At start" for 0.
+QString shortLeadText(int minutes);
+
 /// Why a show has an alarm or none, in one sentence; empty where the lead time says it all.
 QString showAlarmText(const ShowAlarm& alarm);
 

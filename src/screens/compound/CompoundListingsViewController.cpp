@@ -153,11 +153,11 @@ void CompoundListingsViewController::group(const ShowSpan& shows, QueuePriority 
             setGroups(std::move(*groups));
             answered();
         });
-    m_environment->queues.globalQueue(priority).async([&main = m_environment->mainQueue,
-                                                       rows = CompoundRows(*m_environment), shows,
-                                                       answer = std::move(answer)]() mutable {
-        answer.post(main, std::make_shared<CompoundSections>(rows.sectionsOf(shows)));
-    });
+    m_environment->queues.globalQueue(priority).async(
+        [&main = m_environment->mainQueue, rows = CompoundRows(*m_environment, lists<AlertListings>()), shows,
+         answer = std::move(answer)]() mutable {
+            answer.post(main, std::make_shared<CompoundSections>(rows.sectionsOf(shows)));
+        });
 }
 
 void CompoundListingsViewController::setGroups(CompoundSections groups) {
@@ -190,6 +190,8 @@ void CompoundListingsViewController::reloadTable(std::vector<Section> days) {
 }
 
 void CompoundListingsViewController::minuteBegan() {
+    // A run may end without saying so.
+    updateBarButtons();
     if (m_asking) {
         // Its rows will be current.
         return;
@@ -289,7 +291,8 @@ void CompoundListingsViewController::updateBarButtons() {
     std::vector<BarButton> buttons;
     if (lists<FavoriteListings>()) {
         buttons.push_back({BarButton::Kind::Title, Localized::tr("Edit"), [this] { edit(); }});
-        if (m_environment->alarms.snapshot()->eventCount() > 0) {
+        // The journal is behind them, also when there is no alert any more.
+        if (m_environment->alarmExplanations || m_environment->alarms.snapshot()->eventCount() > 0) {
             buttons.push_back({BarButton::Kind::Title, Localized::tr("Alerts"), [this] { alerts(); }});
         }
         if (updating) {

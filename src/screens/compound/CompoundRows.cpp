@@ -1,5 +1,6 @@
 #include "screens/compound/CompoundRows.h"
 
+#include "screens/alarms/AlarmTexts.h"
 #include "store/ShownEnds.h"
 #include "text/display/Transliteration.h"
 
@@ -7,8 +8,9 @@
 
 namespace guide {
 
-CompoundRows::CompoundRows(const ScreenEnvironment& environment)
+CompoundRows::CompoundRows(const ScreenEnvironment& environment, bool showsLeads)
     : m_rows(environment)
+    , m_alarms(showsLeads ? environment.alarms.snapshot() : nullptr)
     , m_catalogue(environment.catalogue.snapshot())
     , m_icons(environment.icons)
     , m_alphabet(environment.alphabet)
@@ -42,6 +44,9 @@ Row CompoundRows::showRow(RowId id, const ShowItem& show) const {
     ShowRow row = m_rows.condensed(show, end, running);
     row.popular = false;
     row.allDetails = true;
+    if (const auto lead = m_alarms ? m_alarms->alarmedEntry(entry) : std::nullopt) {
+        row.alarmLead = shortLeadText(*lead);
+    }
     if (const CatalogueChannel* channel = m_catalogue->find(entry.channel())) {
         row.channelName = latin2Cyrillic(channel->title, channel->language, m_alphabet);
         if (m_icons.hasIconFile(channel->icon)) {

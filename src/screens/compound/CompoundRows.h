@@ -21,7 +21,8 @@ struct CompoundSections {
 /// the guide that the rows show.
 class CompoundRows {
   public:
-    explicit CompoundRows(const ScreenEnvironment& environment);
+    /// With `showsLeads`, rows say how long before the show its alarm rings.
+    explicit CompoundRows(const ScreenEnvironment& environment, bool showsLeads = false);
 
     /// Leaves out shows whose channel is not in the catalogue or has no icon. Loads the icons.
     CompoundSections sectionsOf(const ShowSpan& shows) const;
@@ -32,6 +33,8 @@ class CompoundRows {
     Row showRow(RowId id, const ShowItem& show) const;
 
     const ShowRows m_rows;
+    /// Null when rows do not show lead times.
+    std::shared_ptr<const AlarmsSnapshot> m_alarms;
     const SharedCatalogueSnapshot m_catalogue;
     TVStationIcons& m_icons;
     const Alphabet& m_alphabet;

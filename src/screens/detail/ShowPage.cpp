@@ -6,6 +6,7 @@
 #include "screens/ShowRows.h"
 #include "screens/ShowTexts.h"
 #include "screens/TextTidying.h"
+#include "screens/TimeTexts.h"
 #include "text/display/DayFormat.h"
 
 #include <QDateTime>
@@ -31,26 +32,8 @@ QString bounded(const QString& text) {
 }
 
 QString dayText(const QDate& day, const QDate& today, const QLocale& locale) {
-    switch (today.daysTo(day)) {
-    case -1:
-        return Localized::tr("Yesterday");
-    case 0:
-        return Localized::tr("Today");
-    case 1:
-        return Localized::tr("Tomorrow");
-    default:
-        return locale.toString(day, dayFormat(locale));
-    }
-}
-
-QString durationText(std::chrono::minutes duration) {
-    const auto hours = std::chrono::floor<std::chrono::hours>(duration);
-    const auto minutes = static_cast<int>((duration - hours).count());
-    if (hours.count() == 0) {
-        return Localized::tr("%1 min").arg(minutes);
-    }
-    return minutes == 0 ? Localized::tr("%1 h").arg(hours.count())
-                        : Localized::tr("%1 h %2 min").arg(hours.count()).arg(minutes);
+    const QString near = nearDayText(day, today);
+    return near.isEmpty() ? locale.toString(day, dayFormat(locale)) : near;
 }
 
 /// Belong to the name before the comma.

@@ -35,6 +35,9 @@ struct ShowRow {
     bool running = false;
     bool favourite = false;
     bool alarmed = false;
+    /// How long before the show its alarm rings, in a list of alarms: a bell and this text at the trailing
+    /// edge replace the mark behind the title.
+    QString alarmLead = {};
     bool popular = false;
     /// Elapsed share of the show, 0 to 1, while it is running.
     std::optional<double> progress = {};

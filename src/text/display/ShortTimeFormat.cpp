@@ -45,4 +45,8 @@ QString rowTimeFormat(const QLocale& locale) {
     return withLowerCaseDayPeriods(rowTimeFormat(locale.timeFormat(QLocale::ShortFormat)));
 }
 
+QString shortTime(const QTime& time, const QLocale& locale) {
+    return time.isValid() ? locale.toString(time, rowTimeFormat(locale)) : QString();
+}
+
 } // namespace guide

@@ -2,6 +2,7 @@
 
 #include <QLocale>
 #include <QString>
+#include <QTime>
 
 namespace guide {
 
@@ -11,5 +12,8 @@ QString rowTimeFormat(const QString& shortTimeFormat);
 
 /// The format of times in rows of a locale, with AM and PM in lower case.
 QString rowTimeFormat(const QLocale& locale);
+
+/// The time in that format; empty for an invalid one.
+QString shortTime(const QTime& time, const QLocale& locale);
 
 } // namespace guide

@@ -36,7 +36,7 @@ struct Name {
         return joined({row.day, times, row.channelName, row.title,
                        textIf(row.running, QT_TRANSLATE_NOOP("Guide", "On now")),
                        textIf(row.favourite, QT_TRANSLATE_NOOP("Guide", "Favourite")),
-                       textIf(row.alarmed, QT_TRANSLATE_NOOP("Guide", "Alarm set")),
+                       textIf(row.alarmed, QT_TRANSLATE_NOOP("Guide", "Alarm set")), row.alarmLead,
                        textIf(row.popular, QT_TRANSLATE_NOOP("Guide", "Popular")), row.details});
     }
     QString operator()(const ChannelRow& row) const {
@@ -72,10 +72,6 @@ struct Name {
 
 QString accessibleName(const RowContent& content, const QLocale& locale) {
     return std::visit(Name{locale}, content);
-}
-
-QString shortTime(const QTime& time, const QLocale& locale) {
-    return time.isValid() ? locale.toString(time, rowTimeFormat(locale)) : QString();
 }
 
 } // namespace guide

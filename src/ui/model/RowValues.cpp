@@ -1,5 +1,6 @@
 #include "ui/model/RowValues.h"
 
+#include "text/display/ShortTimeFormat.h"
 #include "ui/look/MarkedText.h"
 #include "ui/look/PictureUrl.h"
 #include "ui/model/AccessibleName.h"

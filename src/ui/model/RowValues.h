@@ -52,6 +52,7 @@ struct ShowRowValue : RowValue, ShowRow {
     Q_PROPERTY(bool running MEMBER running CONSTANT FINAL)
     Q_PROPERTY(bool favourite MEMBER favourite CONSTANT FINAL)
     Q_PROPERTY(bool alarmed MEMBER alarmed CONSTANT FINAL)
+    Q_PROPERTY(QString alarmLead MEMBER alarmLead CONSTANT FINAL)
     Q_PROPERTY(bool popular MEMBER popular CONSTANT FINAL)
     /// -1 while the show is not running.
     Q_PROPERTY(double progress READ shownProgress CONSTANT FINAL)

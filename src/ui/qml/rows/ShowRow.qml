@@ -11,7 +11,8 @@ TableRow {
     // The name is drawn where the channel has no icon.
     readonly property bool hasName: !hasIcon && row.channelName !== ""
     readonly property double iconEnd: sideMargin + (hasIcon || hasName ? 62 : 0)
-    readonly property double textRight: surfaceWidth - edge.width - (hasPicture ? 76 : 0) - sideMargin
+    readonly property bool hasLead: row.alarmLead !== ""
+    readonly property double textRight: surfaceWidth - edge.width - (hasLead ? lead.width + 8 : 0) - (hasPicture ? 76 : 0) - sideMargin
     // Where the times would leave the title too little room, as with large text, they go above it, and the name above
     // them.
     readonly property bool stacked: textRight - iconEnd - timeColumn - 12 < 150 * Theme.textScale
@@ -125,7 +126,7 @@ TableRow {
         y: title.y + lineMiddle - height / 2
         popular: cell.row.popular
         favourite: cell.row.favourite
-        alarmed: cell.row.alarmed
+        alarmed: cell.row.alarmed && !cell.hasLead
     }
 
     Text {
@@ -171,6 +172,37 @@ TableRow {
             around: cell.shownColor
             source: cell.row.picture
             fillMode: Image.PreserveAspectCrop
+        }
+    }
+
+    // How long before the show its alarm rings.
+    Loader {
+        id: lead
+
+        x: cell.surfaceWidth - edge.width - cell.sideMargin - width
+        y: start.y + (start.height - height) / 2
+        width: item ? (item as Item).implicitWidth : 0
+        height: item ? (item as Item).implicitHeight : 0
+        active: cell.hasLead
+        sourceComponent: Row {
+            spacing: 4
+
+            Glyph {
+                width: Math.round(14 * Theme.textScale)
+                height: width
+                anchors.verticalCenter: leadText.verticalCenter
+                symbol: Glyph.Bell
+                color: Theme.alarm
+            }
+
+            Text {
+                id: leadText
+
+                text: cell.row.alarmLead
+                textFormat: Text.PlainText
+                color: Theme.alarm
+                font: Theme.detailsFont
+            }
         }
     }
 
