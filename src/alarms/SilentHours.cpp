@@ -74,4 +74,8 @@ void setSilentHoursAcrossMidnight(KeyValueStore& store, bool acrossMidnight) {
     store.setValue(kAcrossMidnightKey, acrossMidnight);
 }
 
+bool isSilentHoursAcrossMidnightSet(const KeyValueStore& store) {
+    return store.valueForKey(kAcrossMidnightKey).has_value();
+}
+
 } // namespace guide

@@ -52,5 +52,7 @@ void setSilentHoursEnabled(KeyValueStore& store, bool enabled);
 void setSilentHoursFrom(KeyValueStore& store, Moment from);
 void setSilentHoursTo(KeyValueStore& store, Moment to);
 void setSilentHoursAcrossMidnight(KeyValueStore& store, bool acrossMidnight);
+/// Whether it was ever switched on or off.
+bool isSilentHoursAcrossMidnightSet(const KeyValueStore& store);
 
 } // namespace guide

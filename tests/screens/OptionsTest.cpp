@@ -1,4 +1,5 @@
 #include "ScreenWorld.h"
+#include "WorldAlarms.h"
 #include "alarms/SilentHours.h"
 #include "screens/options/CalendarsViewController.h"
 #include "screens/options/OptionsViewController.h"
@@ -6,34 +7,6 @@
 
 namespace guide::test {
 namespace {
-
-EventCalendar calendar(const QString& title, const QString& source, bool writable = true) {
-    return {.identifier = source + u'/' + title,
-            .title = title,
-            .source = source,
-            .allowsContentModifications = writable};
-}
-
-/// Calendars in memory. The answers come from the main queue.
-struct WorldCalendars final : CalendarActions {
-    explicit WorldCalendars(DispatchQueue& ownMainQueue)
-        : mainQueue(ownMainQueue) {}
-    void calendars(MainBlock<CalendarChoice> mainBlock) override { mainBlock.post(mainQueue, choice); }
-    void selectCalendar(const EventCalendar& own) override { choice.selected = own.identifier; }
-    void createCalendar(const QString& title, MainBlock<std::optional<EventCalendar>> mainBlock) override {
-        std::optional<EventCalendar> made;
-        if (makes) {
-            made = calendar(title, u"Device"_s);
-            choice.calendars.push_back(*made);
-        }
-        mainBlock.post(mainQueue, std::move(made));
-    }
-    DispatchQueue& mainQueue;
-    CalendarChoice choice{.calendars = {calendar(u"Home"_s, u"Server"_s), calendar(u"Local"_s, u"Device"_s),
-                                        calendar(u"Holidays"_s, u"Server"_s, false)},
-                          .selected = u"Server/Home"_s};
-    bool makes = true;
-};
 
 /// A session that cannot be written while `works` is false.
 struct WorldRinging final : AlarmRinging {
@@ -110,7 +83,7 @@ TEST_F(OptionsTest, TheSilentHoursFollowTheirSwitch) {
     world.send<TimeRow>(hours, u"To"_s, TimePicked{QTime(6, 30)});
     EXPECT_TRUE(world.app.done.isEmpty()) << "before the screen is left";
     leave();
-    EXPECT_EQ(world.app.done, QStringList({u"alarms"_s, u"check"_s}));
+    EXPECT_EQ(std::exchange(world.app.done, {}), QStringList({u"alarms"_s, u"check"_s}));
     EXPECT_EQ(contentTitled<TextRow>(options->table(), label)->detail, u"00:00\n06:30"_s);
     world.send<SwitchRow>(*options, u"Scheduled no alarm time"_s, Toggled{false});
     EXPECT_FALSE(contentTitled<TextRow>(options->table(), label));
@@ -174,6 +147,22 @@ TEST_F(OptionsTest, ASpanAcrossMidnightIsSwitchedOnWhereItIsPicked) {
     EXPECT_EQ(parts(), (Parts{{0, 1440}})) << "begin and end are the same";
 }
 
+TEST_F(OptionsTest, ASpanThatOnceCrossedMidnightIsSwitchedOnWhenItIsPicked) {
+    // As another device may have stored it.
+    setSilentHoursFrom(world.keyValueStore, Moment(23h));
+    const auto hours = open<SilentHoursViewController>();
+    world.send<TimeRow>(*hours, u"From"_s, TimePicked{QTime(22, 0)});
+    EXPECT_TRUE(period().acrossMidnight);
+    world.send<TimeRow>(*hours, u"To"_s, TimePicked{QTime(0, 0)});
+    EXPECT_EQ(std::get<DayBarRow>(hours->table().rowAt(2).content).parts,
+              (std::vector<DayBarRow::Part>{{1320, 1440}}));
+    // The window is closed.
+    world.broadcast->applicationDidEnterBackground();
+    EXPECT_EQ(world.app.done, QStringList({u"alarms"_s, u"check"_s}));
+    leave();
+    EXPECT_EQ(world.app.done.size(), 2) << "applied already";
+}
+
 TEST_F(OptionsTest, ATimeThatTodayLeavesOutIsKept) {
     // 29 March 2026, when clocks go from 2:00 to 3:00.
     const QDateTime noon(QDate(2026, 3, 29), QTime(12, 0), world.device.zone);
@@ -192,7 +181,7 @@ TEST_F(OptionsTest, DisplaySettingsAreSetAtOnce) {
         return row->choices[static_cast<std::size_t>(*row->chosen)];
     };
     EXPECT_EQ(choices(u"Shows per channel"_s), u"7"_s) << "a value that is not offered otherwise";
-    EXPECT_EQ(choices(u"Look for new schedules"_s), u"Every 2 h"_s);
+    EXPECT_EQ(choices(u"Look for new schedules"_s), u"Every 90 min"_s);
     world.send<ChoiceRow>(*options, u"Shows per channel"_s, Chosen{1});
     EXPECT_EQ(world.app.shows, 2);
     world.send<ChoiceRow>(*options, u"Look for new schedules"_s, Chosen{1});
@@ -209,14 +198,17 @@ TEST_F(OptionsTest, DisplaySettingsAreSetAtOnce) {
 
 TEST_F(OptionsTest, CalendarsAreListedByAccount) {
     world.app.calendarAccess = false;
-    EXPECT_TRUE(open<OptionsViewController>()->rightBarButtons().empty());
-    world.app.calendarAccess = true;
     const auto options = open<OptionsViewController>();
+    EXPECT_TRUE(options->rightBarButtons().empty());
+    world.app.calendarAccess = true;
+    world.broadcast->notificationsSynched();
+    calendars.choice.calendars.push_back(worldCalendar(u"Files"_s, u"~/.local/share/guide/calendars"_s));
     options->pressRightBarButton(0);
     world.queues.runAll();
     auto& screen = dynamic_cast<CalendarsViewController&>(world.top());
-    EXPECT_EQ(linesOf(screen.table()), QStringList({u"# Server"_s, u"Home"_s, u"Holidays"_s, u"# Device"_s,
-                                                    u"Local"_s, u"[New calendar “TV”]"_s}));
+    EXPECT_EQ(linesOf(screen.table()),
+              QStringList({u"# Server"_s, u"Home"_s, u"Holidays"_s, u"# Device"_s, u"Local"_s,
+                           u"# Folder ~/…/guide/calendars"_s, u"Files"_s, u"[New calendar “TV”]"_s}));
     EXPECT_TRUE(contentTitled<TextRow>(screen.table(), u"Home"_s)->checked);
     EXPECT_EQ(contentTitled<TextRow>(screen.table(), u"Holidays"_s)->subtitle, u"Read-only"_s);
     world.send<TextRow>(screen, u"Holidays"_s, Tapped{});
@@ -242,7 +234,13 @@ TEST_F(OptionsTest, TheCalendarChangesOnlyWhileThereAreNoAlarms) {
     world.send<ButtonRow>(*screen, u"New calendar “TV”"_s, Tapped{});
     EXPECT_EQ(world.app.alerts.size(), 3U);
     calendars.makes = true;
-    world.send<ButtonRow>(*screen, u"New calendar “TV”"_s, Tapped{});
+    screen->sendRowEvent(rowTitled<ButtonRow>(screen->table(), u"New calendar “TV”"_s)->id, Tapped{});
+    world.setAlarm(channel, {0, 60, u"News"_s});
+    world.queues.runAll();
+    EXPECT_EQ(world.app.alerts.size(), 4U) << "an alarm was set while the calendar was made";
+    EXPECT_EQ(calendars.choice.selected, u"Device/Local"_s);
+    world.alarms.events.clear();
+    world.send<TextRow>(*screen, u"TV"_s, Tapped{});
     EXPECT_EQ(calendars.choice.selected, u"Device/TV"_s);
     EXPECT_FALSE(contentTitled<ButtonRow>(screen->table(), u"New calendar “TV”"_s));
 }

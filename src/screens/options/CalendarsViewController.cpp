@@ -30,6 +30,16 @@ QString storeText(const QString& name) {
     return known == kKnown.end() ? name : Localized::tr(*known);
 }
 
+/// The name of an account, which a folder says by its path: of a long one, its end.
+QString sourceText(const QString& source) {
+    if (!source.startsWith(u'/') && !source.startsWith("~/"_L1)) {
+        return source;
+    }
+    const QString path =
+        source.count(u'/') > 2 ? source.section(u'/', 0, 0) + u"/…/"_s + source.section(u'/', -2) : source;
+    return Localized::tr("Folder %1").arg(path);
+}
+
 QString stateText(const EventCalendar& calendar) {
     if (!calendar.allowsContentModifications) {
         return Localized::tr("Read-only");
@@ -84,7 +94,7 @@ void CalendarsViewController::reloadTable() {
         const SectionId id = u"source "_s + calendar.source;
         auto section = std::ranges::find(sections, id, &Section::id);
         if (section == sections.end()) {
-            section = sections.insert(section, Section{.id = id, .header = calendar.source});
+            section = sections.insert(section, Section{.id = id, .header = sourceText(calendar.source)});
         }
         section->rows.push_back(calendarRow(id, calendar));
     }
@@ -166,7 +176,8 @@ void CalendarsViewController::create() {
         m_created.expect(weak_from_this(), [this](const std::optional<EventCalendar>& calendar) {
             m_creating = false;
             if (calendar) {
-                select(*calendar);
+                // An alarm may have been set while the calendar was made.
+                mayChange() ? select(*calendar) : load();
                 return;
             }
             reloadTable();

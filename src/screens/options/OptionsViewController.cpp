@@ -55,16 +55,13 @@ ChoiceRow choiceRow(const QString& title, const std::vector<Value>& offered, Val
 }
 
 QString intervalText(std::chrono::seconds interval) {
-    if (interval < 1h) {
+    if (interval % 1h != 0s || interval <= 0s) {
         return Localized::tr(
             "Every %n min", nullptr,
             static_cast<int>(std::max(1min, std::chrono::ceil<std::chrono::minutes>(interval)).count()));
     }
-    return interval < 48h && interval != 24h
-               ? Localized::tr("Every %n h", nullptr,
-                               static_cast<int>(std::chrono::round<std::chrono::hours>(interval).count()))
-               : Localized::tr("Every %n day(s)", nullptr,
-                               static_cast<int>(std::chrono::round<std::chrono::days>(interval).count()));
+    return interval % 24h != 0s ? Localized::tr("Every %n h", nullptr, static_cast<int>(interval / 1h))
+                                : Localized::tr("Every %n day(s)", nullptr, static_cast<int>(interval / 24h));
 }
 
 } // namespace
@@ -84,6 +81,14 @@ void OptionsViewController::viewWillAppear() {
     reloadTable();
 }
 
+// Access to the calendars may have been granted meanwhile.
+void OptionsViewController::notificationsSynched() {
+    if (viewLoaded()) {
+        setButtons();
+        reloadTable();
+    }
+}
+
 void OptionsViewController::setButtons() {
     if (!m_environment->calendarActions || !m_environment->alarmSynchronisation.hasCalendarAccess()) {
         setRightBarButtons({});
@@ -98,9 +103,6 @@ void OptionsViewController::setButtons() {
 }
 
 void OptionsViewController::reloadTable() {
-    if (!viewLoaded()) {
-        return;
-    }
     const ScreenSettings& settings = m_environment->settings;
     Section colors{.id = kColors,
                    .rows = {row(kColors, kColors,

@@ -19,7 +19,7 @@ class OptionsViewController final : public ListingsScreen {
   public:
     explicit OptionsViewController(std::shared_ptr<const ScreenEnvironment> environment);
 
-    void notificationsSynched() override { reloadTable(); }
+    void notificationsSynched() override;
 
   protected:
     void viewDidLoad() override;

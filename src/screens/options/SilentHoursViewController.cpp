@@ -20,10 +20,6 @@ constexpr auto kFrom = "from"_L1;
 constexpr auto kTo = "to"_L1;
 constexpr auto kMidnight = "midnight"_L1;
 
-QTime timeOf(int minute) {
-    return {minute / 60, minute % 60};
-}
-
 /// A moment at which clocks in the zone show the time. Where the change to summer time leaves it out today,
 /// it is tomorrow's.
 Moment momentAt(const QTime& time, const Device& device, Moment now) {
@@ -45,7 +41,7 @@ void SilentHoursViewController::viewDidLoad() {
     setTitle(Localized::tr("Silent Hours"));
 }
 
-void SilentHoursViewController::viewDidDisappear() {
+void SilentHoursViewController::apply() {
     if (std::exchange(m_modified, false)) {
         applySilentHours(*m_environment);
     }
@@ -56,8 +52,8 @@ void SilentHoursViewController::reloadTable() {
     Section span{.id = kSpan};
     span.footer = Localized::tr("Alerts that you set on a single broadcast ring at any time.");
     span.rows = {
-        {.id = {kSpan, QString(kFrom)}, .content = TimeRow{Localized::tr("From"), timeOf(period.from)}},
-        {.id = {kSpan, QString(kTo)}, .content = TimeRow{Localized::tr("To"), timeOf(period.to)}},
+        {.id = {kSpan, QString(kFrom)}, .content = TimeRow{Localized::tr("From"), timeOfMinute(period.from)}},
+        {.id = {kSpan, QString(kTo)}, .content = TimeRow{Localized::tr("To"), timeOfMinute(period.to)}},
         {.id = {kSpan, u"bar"_s}, .content = silentBar(period, m_environment->device.locale())},
     };
     Section midnight{.id = kMidnight};
@@ -105,7 +101,7 @@ void SilentHoursViewController::timeChanged(bool isEnd, const QTime& time) {
     }
     const SilentPeriod after = SilentHours(store, m_environment->device).period();
     // Who switched it off for a span across midnight keeps it off while the span still crosses it.
-    if (after.from > after.to && before.from <= before.to) {
+    if (after.from > after.to && (before.from <= before.to || !isSilentHoursAcrossMidnightSet(store))) {
         setSilentHoursAcrossMidnight(store, true);
     }
 }

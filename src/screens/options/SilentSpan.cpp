@@ -4,8 +4,6 @@
 #include "screens/shell/ScreenEnvironment.h"
 #include "text/display/ShortTimeFormat.h"
 
-#include <QTime>
-
 namespace guide {
 
 using namespace Qt::StringLiterals;
@@ -16,8 +14,12 @@ constexpr int kMinutesOfDay = 24 * 60;
 
 } // namespace
 
+QTime timeOfMinute(int minute) {
+    return {minute / 60 % 24, minute % 60};
+}
+
 QString minuteText(int minute, const QLocale& locale) {
-    return locale.toString(QTime(minute / 60 % 24, minute % 60), rowTimeFormat(locale));
+    return shortTime(timeOfMinute(minute), locale);
 }
 
 bool isAllSilent(const SilentPeriod& period) {
@@ -42,6 +44,7 @@ DayBarRow silentBar(const SilentPeriod& period, const QLocale& locale) {
             bar.parts = {{period.from, period.to}};
         } else {
             bar.parts = {{0, period.to}, {period.from, kMinutesOfDay}};
+            std::erase(bar.parts, DayBarRow::Part{});
         }
         bar.description = Localized::tr("Silent from %1 to %2")
                               .arg(minuteText(period.from, locale), minuteText(period.to, locale));

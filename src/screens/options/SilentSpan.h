@@ -5,12 +5,15 @@
 
 #include <QLocale>
 #include <QString>
+#include <QTime>
 
 namespace guide {
 
 struct ScreenEnvironment;
 
-/// The minute of the day as a short time; 1440 is the end of the day.
+/// The minute of the day; 1440 is the end of the day, which clocks show as 0:00.
+QTime timeOfMinute(int minute);
+/// As a short time.
 QString minuteText(int minute, const QLocale& locale);
 
 /// Whether the period refuses every minute of the day.
