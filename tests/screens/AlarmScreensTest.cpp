@@ -1,4 +1,5 @@
 #include "ScreenWorld.h"
+#include "WorldAlarms.h"
 #include "screens/alarms/AlarmJournalViewController.h"
 #include "screens/alarms/AlarmTexts.h"
 #include "screens/compound/CompoundListingsViewController.h"
@@ -7,27 +8,6 @@
 
 namespace guide::test {
 namespace {
-
-/// Answers with what the test sets, and logs the user's decisions.
-struct WorldExplanations final : AlarmExplanations {
-    explicit WorldExplanations(DispatchQueue& ownMainQueue)
-        : mainQueue(ownMainQueue) {}
-    ShowAlarm alarmOf(const TVEntry&) const override { return alarm; }
-    void refuseBroadcast(const AlarmBroadcast& broadcast) override {
-        decisions << u"not "_s + broadcast.title;
-        alarm.reason = ShowAlarmReason::Refused;
-    }
-    void allowBroadcast(const AlarmBroadcast& broadcast) override {
-        decisions << u"yes "_s + broadcast.title;
-        alarm.reason = ShowAlarmReason::NextRun;
-    }
-    void journal(MainBlock<JournalEntries> mainBlock) override { mainBlock.post(mainQueue, entries); }
-
-    DispatchQueue& mainQueue;
-    ShowAlarm alarm;
-    QStringList decisions;
-    JournalEntries entries = std::make_shared<const std::vector<JournalEntry>>();
-};
 
 class AlarmScreensTest : public testing::Test {
   protected:
@@ -169,8 +149,57 @@ TEST_F(AlarmScreensTest, OffersLeadTimesThatAreStillPossible) {
     world.send<TextRow>(screen, u"3min before"_s, Tapped{});
     world.wait(2min);
     EXPECT_EQ(triggers(), 3U) << "none, at the beginning and a minute before";
+    EXPECT_EQ(checkedRows(screen.table()).last(), u"1min before"_s);
+    EXPECT_EQ(screen.table().sections().back().footer, u"1 minute(s) before this broadcast"_s);
     world.send<TextRow>(screen, u"Any broadcast"_s, Tapped{});
     EXPECT_EQ(triggers(), 12U);
+    world.send<TextRow>(screen, u"Only this broadcast"_s, Tapped{});
+    leave();
+    EXPECT_EQ(world.app.done.last(), u"alarm News 1"_s);
+}
+
+TEST_F(AlarmScreensTest, AnAlarmThatHasRungIsNoChange) {
+    world.favorites.titles = {u"News"_s};
+    const auto page = openShow(4);
+    world.alarms.events[*entry->digest()] = 3;
+    openSettings(*page);
+    world.wait(2min);
+    leave();
+    EXPECT_TRUE(world.app.done.isEmpty());
+}
+
+TEST_F(AlarmScreensTest, BesideItsPageItStaysAsItIs) {
+    world.tabs->selectedNavigationController().setSideBySide(true);
+    world.favorites.titles = {u"News"_s};
+    const auto page = openShow(120);
+    TableViewController& screen = openSettings(*page);
+    world.send<TextRow>(screen, u"Any broadcast"_s, Tapped{});
+    world.send<TextRow>(screen, u"10min before"_s, Tapped{});
+    world.send<TextRow>(*page, u"⏰ Alert:"_s, Tapped{});
+    EXPECT_EQ(&world.top(), &screen);
+    EXPECT_TRUE(world.app.done.isEmpty());
+    leave();
+    EXPECT_EQ(world.app.done.last(), u"alarms News 10"_s);
+    openSettings(*page);
+    EXPECT_EQ(world.top().title(), u"Alert"_s) << "another time";
+}
+
+TEST_F(AlarmScreensTest, AnAlarmOnOneBroadcastHasTheTitleOfItsSource) {
+    // On this channel the subtitle is what is shown as the title.
+    ExtendedTVEntry made =
+        world.entry(ObjectId::fromHex(u"58f4ded60befe78cb336a80b"_s), {120, 180, u"Film"_s});
+    made.basic->setSubtitle1(u"Night"_s);
+    ASSERT_EQ(made.basic->title(), u"Night"_s);
+    world.favorites.titles = {u"Night"_s};
+    world.alarms.events[*made.basic->digest()] = 10;
+    const auto page =
+        std::make_shared<DetailViewController>(world.environment, ShowItem(std::move(made)), u"none"_s);
+    world.tabs->selectedNavigationController().push(page);
+    world.queues.runAll();
+    EXPECT_EQ(contentTitled<TextRow>(page->table(), u"⏰ Alert:"_s)->detail, u"10min before"_s);
+    world.send<TextRow>(openSettings(*page), u"5min before"_s, Tapped{});
+    leave();
+    EXPECT_EQ(world.app.done, QStringList({u"no alarm Film"_s, u"note Film"_s, u"alarm Film 5"_s}));
 }
 
 TEST_F(AlarmScreensOnTabletTest, TheChoiceIsAPopover) {
@@ -232,6 +261,20 @@ TEST_F(AlarmScreensTest, TheJournalHasTheNewestFirst) {
     EXPECT_EQ(gone->detail, u"17:30"_s);
     EXPECT_TRUE(gone->symbol == Symbol::Removed);
 
+    const RowId kept = journal.table().rowAt(0).id;
+    std::vector<JournalEntry> more = *explanations.entries;
+    more.erase(more.begin());
+    more.push_back({.at = now, .deed = AlarmDeed::Made, .reason = AlarmReason::User, .title = u"Film"_s});
+    const JournalEntries before = std::exchange(
+        explanations.entries, std::make_shared<const std::vector<JournalEntry>>(std::move(more)));
+    world.broadcast->notificationsSynched();
+    world.queues.runAll();
+    EXPECT_EQ(linesOf(journal.table()), QStringList({u"# Today"_s, u"Film"_s, u"News"_s}));
+    EXPECT_EQ(journal.table().rowAt(1).id, kept) << "so that the list does not scroll";
+    explanations.entries = before;
+    world.broadcast->notificationsSynched();
+    world.queues.runAll();
+
     world.send<TextRow>(journal, u"News"_s, Tapped{});
     ASSERT_EQ(world.app.alerts.size(), 2U) << "the list of alerts was empty";
     world.app.alerts.back().actions.front().action();
@@ -241,6 +284,64 @@ TEST_F(AlarmScreensTest, TheJournalHasTheNewestFirst) {
     EXPECT_TRUE(journal.rowActions(journal.table().rowAt(0).id).empty()) << "the show has begun";
     world.send<TextRow>(journal, u"Gone"_s, Tapped{});
     EXPECT_EQ(world.top().title(), u"Gone"_s);
+}
+
+TEST_F(AlarmScreensTest, AlertsSayWhenTheyRing) {
+    const ShowItem show(world.entry(channel, {5, 10, u"News"_s}));
+    const auto lead = [&](int minutes, bool showsLeads) {
+        world.alarms.events[*show.entry()->digest()] = minutes;
+        const CompoundSections made =
+            CompoundRows(*world.environment, showsLeads).sectionsOfAll(std::span(&show, 1));
+        return std::get<ShowRow>(made.sections[0].rows[0].content).alarmLead;
+    };
+    EXPECT_EQ(lead(10, true), u"10 min"_s);
+    EXPECT_EQ(lead(120, true), u"2 h"_s);
+    EXPECT_EQ(lead(0, true), u"At start"_s);
+    EXPECT_EQ(lead(10, false), QString());
+}
+
+TEST_F(AlarmScreensTest, TheJournalIsReachedWithoutAlerts) {
+    auto schedule = std::make_shared<CompoundListingsViewController>(world.environment, FavoriteListings{});
+    world.app.synchronising = true;
+    world.tabs->selectedNavigationController().push(schedule);
+    world.queues.runAll();
+    const auto titles = [&schedule] {
+        QStringList found;
+        for (const BarButton& button : schedule->rightBarButtons()) {
+            found << button.title;
+        }
+        return found;
+    };
+    EXPECT_EQ(titles(), QStringList({u"Edit"_s, u"Alerts"_s, u"Updating alerts"_s}));
+    // The run ends without a word.
+    world.app.synchronising = false;
+    world.wait(1min);
+    EXPECT_EQ(titles(), QStringList({u"Edit"_s, u"Alerts"_s}));
+}
+
+TEST(AlarmTextsTest, SayWhyAShowHasAnAlarmOrNone) {
+    using enum ShowAlarmReason;
+    const std::pair<ShowAlarmReason, const char*> cases[] = {
+        {HasByRule, "Set by the rule “News”."},
+        {HasByUser, "Set for this broadcast only."},
+        {AlarmRemoved, "Its alert was removed in the calendar."},
+        {NoCalendarAccess, "No alert: the guide cannot use your calendars."},
+        {NoCalendar, "No alert: there is no calendar for it."},
+        {ReadOnlyCalendar, "No alert: the calendar is read-only."},
+        {Begun, "No alert: the show has begun."},
+        {NoRule, ""},
+        {RuleWithoutAlarm, "No alert: the favourite has no recurring alert."},
+        {OnlyPremieres, "No alert: this is a replay, and the rule is for premieres."},
+        {OnlyReplays, "No alert: this is a premiere, and the rule is for replays."},
+        {SilentHours, "No alert: it would ring in the silent hours."},
+        {Refused, "No alert: you wanted none for this broadcast."},
+        {ChannelNotLoaded, "No alert yet: the channel’s schedule is not up to date."},
+        {TooFar, "No alert yet: the show is more than 60 days away."},
+        {NextRun, "It will be set with the next update."},
+    };
+    for (const auto& [reason, text] : cases) {
+        EXPECT_EQ(showAlarmText({reason, 10, u"News"_s}), QString::fromUtf8(text));
+    }
 }
 
 TEST(AlarmTextsTest, SayWhatWasDone) {
@@ -257,6 +358,10 @@ TEST(AlarmTextsTest, SayWhatWasDone) {
         QString text;
     } cases[] = {
         {{.deed = Made, .reason = AlarmReason::Rule, .rule = u"News"_s}, u"New: rule “News”"_s},
+        {{.deed = Made, .reason = AlarmReason::Rule, .rule = u"News"_s, .previouslyShown = false},
+         u"New: rule “News”, premieres"_s},
+        {{.deed = Made, .reason = AlarmReason::RuleAgain, .rule = u"News"_s, .previouslyShown = true},
+         u"Set again by the rule “News”, replays: it was removed in the calendar"_s},
         {{.deed = Made, .reason = AlarmReason::User}, u"Set by you"_s},
         {{.deed = Moved, .oldStart = at(21, 20, 15), .newStart = at(21, 20, 40)},
          u"Moved from 20:15 to 20:40"_s},

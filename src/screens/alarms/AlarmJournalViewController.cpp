@@ -3,10 +3,13 @@
 #include "screens/Localized.h"
 #include "screens/ShowRowText.h"
 #include "screens/ShowRows.h"
+#include "screens/TimeTexts.h"
 #include "screens/alarms/AlarmTexts.h"
 #include "screens/compound/CompoundListingsViewController.h"
 #include "screens/kit/NavigationController.h"
 #include "text/display/DayFormat.h"
+
+#include <QHash>
 
 #include <ranges>
 #include <utility>
@@ -16,6 +19,18 @@ namespace guide {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The names of the rows of entries, which new entries and the loss of old ones do not change: the time, and
+/// the number among those of the same time.
+QStringList rowNames(const std::vector<JournalEntry>& entries) {
+    QStringList names;
+    QHash<qint64, int> counts;
+    for (const JournalEntry& entry : entries) {
+        const auto at = static_cast<qint64>(entry.at.time_since_epoch().count());
+        names << QString::number(at) + u' ' + QString::number(counts[at]++);
+    }
+    return names;
+}
 
 /// Makes the rows. Any thread after the construction.
 class JournalRows {
@@ -27,26 +42,33 @@ class JournalRows {
         , m_dayFormat(dayFormat(m_locale))
         , m_today(localTime(device, now).date()) {}
 
-    std::vector<Section> sectionsOf(const std::vector<JournalEntry>& entries) const {
+    /// `names` are those of the rows.
+    std::vector<Section> sectionsOf(const std::vector<JournalEntry>& entries,
+                                    const QStringList& names) const {
         std::vector<Section> sections;
+        // The clock may have been set back, so that a day comes twice.
+        QHash<QDate, int> counts;
+        QDate latest;
         for (std::size_t place = entries.size(); place-- > 0;) {
             const JournalEntry& entry = entries[place];
             const QDate day = localTime(m_device, entry.at).date();
-            const SectionId id = day.toString(Qt::ISODate);
-            // The clock may have been set back, so that a day comes twice.
-            if (sections.empty() || !sections.back().id.startsWith(id)) {
-                sections.push_back({.id = id + u' ' + QString::number(place), .header = dayText(day)});
+            if (sections.empty() || day != latest) {
+                latest = day;
+                const int count = counts[day]++;
+                const SectionId id = day.toString(Qt::ISODate);
+                sections.push_back(
+                    {.id = count == 0 ? id : id + u' ' + QString::number(count), .header = dayText(day)});
             }
-            sections.back().rows.push_back(rowOf(entry, {sections.back().id, QString::number(place)}));
+            sections.back().rows.push_back(
+                rowOf(entry, {sections.back().id, names[static_cast<qsizetype>(place)]}));
         }
         return sections;
     }
 
   private:
     QString dayText(const QDate& day) const {
-        return day == m_today               ? Localized::tr("Today")
-               : day == m_today.addDays(-1) ? Localized::tr("Yesterday")
-                                            : m_locale.toString(day, QLocale::LongFormat);
+        const QString near = nearDayText(day, m_today);
+        return near.isEmpty() ? m_locale.toString(day, QLocale::LongFormat) : near;
     }
     QString showText(const JournalEntry& entry) const {
         const std::optional<Moment> start = entry.newStart ? entry.newStart : entry.oldStart;
@@ -107,25 +129,32 @@ void AlarmJournalViewController::load() {
 }
 
 void AlarmJournalViewController::makeRows(const JournalEntries& entries) {
-    using Sections = std::shared_ptr<std::vector<Section>>;
-    MainBlock<Sections> answer = m_latest.expect(weak_from_this(), [this, entries](const Sections& sections) {
+    struct Made {
+        QStringList names;
+        std::vector<Section> sections;
+    };
+    using Answer = std::shared_ptr<Made>;
+    MainBlock<Answer> answer = m_latest.expect(weak_from_this(), [this, entries](const Answer& made) {
         m_entries = entries;
+        m_names = std::move(made->names);
         setProgress({});
         table().setEmptyNote(EmptyNote{Localized::tr("Nothing yet"),
                                        Localized::tr("What happens to your alerts is written down here for "
                                                      "60 days.")});
-        table().setSections(std::move(*sections));
+        table().setSections(std::move(made->sections));
     });
     m_environment->queues.globalQueue(QueuePriority::UserInitiated)
         .async([&main = m_environment->mainQueue,
                 rows = JournalRows(m_environment->device, m_environment->clock.now()), entries,
                 answer = std::move(answer)]() mutable {
-            answer.post(main, std::make_shared<std::vector<Section>>(rows.sectionsOf(*entries)));
+            QStringList names = rowNames(*entries);
+            std::vector<Section> sections = rows.sectionsOf(*entries, names);
+            answer.post(main, std::make_shared<Made>(Made{std::move(names), std::move(sections)}));
         });
 }
 
 const JournalEntry* AlarmJournalViewController::entryOf(const RowId& id) const {
-    const auto place = static_cast<std::size_t>(id.name()->toULongLong());
+    const auto place = static_cast<std::size_t>(m_names.indexOf(*id.name()));
     return m_entries && place < m_entries->size() ? &(*m_entries)[place] : nullptr;
 }
 

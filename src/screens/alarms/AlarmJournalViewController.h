@@ -38,6 +38,8 @@ class AlarmJournalViewController final : public ListingsScreen {
     const std::shared_ptr<const ScreenEnvironment> m_environment;
     /// The newest last.
     JournalEntries m_entries;
+    /// Of their rows.
+    QStringList m_names;
     /// Of the query, and of the rows that are made of its answer.
     LatestAnswer m_latest;
 };

@@ -100,6 +100,10 @@ const QUrl* DetailViewController::imdbURL() const {
     return m_show.details() && m_show.details()->imdbURL ? &*m_show.details()->imdbURL : nullptr;
 }
 
+const Favorite* DetailViewController::ruleIn(const FavoritesSnapshot& favorites) const {
+    return favorites.ruleNamed(entry().identificator().value_or(QString()));
+}
+
 // ---- rows
 
 void DetailViewController::loadContent() {
@@ -186,8 +190,8 @@ Row DetailViewController::actionsRow(Moment now) {
 
 Section DetailViewController::favouriteSection() const {
     const auto favourites = m_environment->favorites.snapshot();
-    const QString text = leadTimeText(favourites->ruleNamed(entry().title().value_or(QString())),
-                                      m_environment->alarms.snapshot()->alarmedEntry(entry()));
+    const QString text =
+        leadTimeText(ruleIn(*favourites), m_environment->alarms.snapshot()->alarmedEntry(entry()));
     Section section{.id = kFavourite, .header = u"⭐ %1:"_s.arg(Localized::tr("Favorite"))};
     TextRow alarmRow{
         .title = u"⏰ %1:"_s.arg(Localized::tr("Alert")), .detail = text, .accessory = Accessory::Disclosure};
@@ -429,8 +433,13 @@ void DetailViewController::openAlarmSettings(bool hasOtherType) {
     if (!navigation || !navigation->shows(*this)) {
         return;
     }
+    // Its choice is applied when it is left, so a second screen would be opened on what is still set.
+    const auto open = m_alarmSettings.lock();
+    if (open && open->navigationController() && open->navigationController()->shows(*open)) {
+        return;
+    }
     const auto favourites = m_environment->favorites.snapshot();
-    const Favorite* rule = favourites->ruleNamed(entry().title().value_or(QString()));
+    const Favorite* rule = ruleIn(*favourites);
     AlarmSettings::Current current{.hasOtherType = hasOtherType};
     if (rule && rule->minutes) {
         current.recurring = {*rule->minutes, rule->previouslyShown};
@@ -439,6 +448,7 @@ void DetailViewController::openAlarmSettings(bool hasOtherType) {
     }
     auto screen =
         std::make_shared<FavoriteSettingsTimeThresholdViewController>(m_environment, m_show.entry(), current);
+    m_alarmSettings = screen;
     if (m_environment->device.userInterfaceIdiom() == UserInterfaceIdiom::Tablet) {
         navigation->show(std::move(screen), Presentation::Popover, rowId(kFavourite, kAlarm));
     } else {

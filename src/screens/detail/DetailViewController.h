@@ -50,6 +50,8 @@ class DetailViewController final : public ListingsScreen {
 
     const TVEntry& entry() const { return *m_show.entry(); }
     const QUrl* imdbURL() const;
+    /// The rule that makes alarms for the show; null when there is none. Valid while the favourites live.
+    const Favorite* ruleIn(const FavoritesSnapshot& favorites) const;
 
     void loadContent();
     Row headRow(Moment now) const;
@@ -76,6 +78,8 @@ class DetailViewController final : public ListingsScreen {
     const PictureKey m_channelIcon;
     QString m_channelTitle;
     std::optional<QUrl> m_stream;
+    /// The screen of the alarm that was opened last.
+    std::weak_ptr<const ViewController> m_alarmSettings;
     PictureKey m_picture;
     /// The buttons that are shown, in order.
     std::vector<Action> m_actions;

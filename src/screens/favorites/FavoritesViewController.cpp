@@ -1,5 +1,6 @@
 #include "screens/favorites/FavoritesViewController.h"
 
+#include "alarms/AlarmText.h"
 #include "screens/Localized.h"
 #include "screens/compound/CompoundListingsViewController.h"
 #include "screens/kit/NavigationController.h"
@@ -13,22 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// How the recurring alarm of a rule is worded; empty for a rule without one.
+/// Empty for a rule without a recurring alarm.
 QString alarmText(const Favorite& rule) {
-    if (!rule.minutes) {
-        return {};
-    }
-    const int minutes = *rule.minutes;
-    if (!rule.previouslyShown) {
-        return minutes == 0 ? Localized::tr("Alert at the beginning of every broadcast")
-                            : Localized::tr("Alert %1 min before every broadcast").arg(minutes);
-    }
-    if (*rule.previouslyShown) {
-        return minutes == 0 ? Localized::tr("Alert at the beginning of every replay")
-                            : Localized::tr("Alert %1 min before every replay").arg(minutes);
-    }
-    return minutes == 0 ? Localized::tr("Alert at the beginning of every premiere")
-                        : Localized::tr("Alert %1 min before every premiere").arg(minutes);
+    return rule.minutes ? Localized::tr("Alert: %1").arg(leadTimeText(&rule, {})) : QString();
 }
 
 } // namespace
