@@ -168,6 +168,44 @@ TEST_F(ManyGuideAlarmsTest, AnUpdateWithoutAWindowLeavesItsQuestionToTheNextWind
     EXPECT_TRUE(world.runUntil([this] { return events.events().size() == 1; })) << "the first answer removes";
 }
 
+TEST_F(GuideAlarmsTest, TheUserDecidesAboutRemovalsThatAreHeldBack) {
+    press(u"Morning 3"_s);
+    ASSERT_TRUE(world.runUntil([&] { return badge() == u"1"_s; }));
+    const CalendarEvent own = events.events().front();
+    for (int hour = 0; hour < 12; ++hour) {
+        CalendarEvent gone = own;
+        gone.title = u"Gone %1"_s.arg(hour);
+        gone.startDate += std::chrono::days(2) + std::chrono::hours(hour);
+        gone.endDate = gone.startDate + 1h;
+        gone.url = urlOfDigest(showDigest(world.channel(1), gone.startDate, gone.title), u"guide"_s);
+        gone.identifier = gone.title;
+        events.addEvent(gone);
+    }
+    // A broadcast that is new makes the next run a full one.
+    const auto listAgain = [this](int shows) {
+        world.clock.advance(25h);
+        world.serve(u"first"_s, 1, world.feed(u"Morning"_s, shows));
+        EXPECT_TRUE(world.check());
+    };
+    const auto isAsked = [this] { return tabs().presentedAlert() != nullptr; };
+    listAgain(7);
+    ASSERT_TRUE(world.runUntil(isAsked));
+    EXPECT_EQ(tabs().presentedAlert()->actions[1].title, u"Keep"_s);
+    tabs().answerAlert(1);
+    world.runFor(50ms);
+    EXPECT_FALSE(isAsked());
+    EXPECT_EQ(events.events().size(), 13U);
+    world.end();
+
+    // The decision is not remembered.
+    world.start();
+    world.guide->applicationDidBecomeActive();
+    listAgain(8);
+    ASSERT_TRUE(world.runUntil(isAsked));
+    tabs().answerAlert(0);
+    EXPECT_TRUE(world.runUntil([this] { return events.events().size() < 3; }));
+}
+
 TEST_F(GuideAlarmsTest, ASettingOfTheOptionsShowsAtOnce) {
     ASSERT_TRUE(row(u"Morning 1"_s));
     const int currently = tabs().selectedIndex();

@@ -7,6 +7,7 @@
 #include "core/own/KnownFeeds.h"
 #include "fakes/FakeMediaPlayers.h"
 #include "gallery/GalleryRows.h"
+#include "screens/WorldAlarms.h"
 #include "screens/WorldSources.h"
 #include "screens/detail/DetailViewController.h"
 #include "screens/pictures/ScreenShotViewController.h"
@@ -32,6 +33,9 @@ class EveryScreenTest : public WindowTest, public testing::WithParamInterface<st
             world.addChannel(QChar::fromLatin1(letter) + u"-kanál pro celou rodinu"_s, false);
         }
         world.ownSources = &sources;
+        world.calendarActions = &calendars;
+        world.alarmExplanations = &explanations;
+        world.app.calendarAccess = true;
         world.knownFeeds = &knownFeeds;
         const ObjectId other = world.addChannel(u"Druhý program"_s, true, u"http://127.0.0.1/other"_s);
         fillWithEvening(world);
@@ -223,6 +227,42 @@ class EveryScreenTest : public WindowTest, public testing::WithParamInterface<st
         world.broadcast->ownSourcesChanged();
     }
 
+    /// The button of the bar with the title.
+    void pressBarButton(const QString& title) {
+        const auto& buttons = top().rightBarButtons();
+        const auto button = std::ranges::find(buttons, title, &BarButton::title);
+        ASSERT_NE(button, buttons.end()) << title.toStdString();
+        top().pressRightBarButton(static_cast<std::size_t>(button - buttons.begin()));
+        proceed();
+    }
+    /// Of a favourite with an alarm, and with everything that can be said about one.
+    void pushFavourite() {
+        const QString title = u"Příliš žluťoučký kůň a jeho podivuhodná cesta kolem světa"_s;
+        world.favorites.titles << title;
+        explanations.alarm = {ShowAlarmReason::HasByRule, 10, title};
+        pushShow();
+        proceed();
+    }
+    void fillJournal() {
+        const Moment now = world.clock.now();
+        std::vector<JournalEntry> entries;
+        for (int deed = 0; deed <= kLastAlarmDeed; ++deed) {
+            for (int reason = 0; reason <= kLastAlarmReason; ++reason) {
+                entries.push_back({.at = now - std::chrono::hours(70 - 7 * deed - reason % 7),
+                                   .deed = static_cast<AlarmDeed>(deed),
+                                   .reason = static_cast<AlarmReason>(reason),
+                                   .title = u"Příliš žluťoučký kůň a jeho podivuhodná cesta"_s,
+                                   .channel = u"Kino Večer"_s,
+                                   .oldStart = now + std::chrono::hours(2),
+                                   .newStart = now + std::chrono::hours(26),
+                                   .rule = u"Příliš žluťoučký kůň a jeho podivuhodná cesta"_s,
+                                   .previouslyShown = false,
+                                   .message = u"The server refused the event: 507 Insufficient Storage"_s});
+            }
+        }
+        explanations.entries = std::make_shared<const std::vector<JournalEntry>>(std::move(entries));
+    }
+
     void check() {
         for (const QQuickItem* list : lists()) {
             QObject* order = list->findChild<QObject*>(u"readingOrder"_s);
@@ -257,6 +297,8 @@ class EveryScreenTest : public WindowTest, public testing::WithParamInterface<st
     FakeMediaPlayers players;
     ScreenWorld world;
     WorldSources sources{world.queues.mainQueue()};
+    WorldCalendars calendars{world.queues.mainQueue()};
+    WorldExplanations explanations{world.queues.mainQueue()};
     const KnownFeeds knownFeeds{{{u"CZ"_s,
                                   {{u"television"_s, u"CZ1"_s, u"https://x.example/1"_s, 6'000'000, 533, {}},
                                    {u"others"_s, {}, u"https://x.example/2"_s, 0, 0, QDate(2026, 9, 28)}}},

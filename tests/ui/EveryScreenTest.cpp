@@ -109,9 +109,27 @@ constexpr Screen kScreens[] = {
     {"schedule", [](EveryScreenTest& test) { return test.tab(Symbol::Schedule); }},
     {"alerts",
      [](EveryScreenTest& test) {
-         test.world.alerts.shows =
-             test.world.list(test.kino, {{10, 130, u"The Longest Night"_s, u"Thriller, UK (2018)"_s}});
-         test.top().pressRightBarButton(1);
+         const WorldShow show{10, 130, u"The Longest Night"_s, u"Thriller, UK (2018)"_s};
+         test.world.alerts.shows = test.world.list(test.kino, {show});
+         test.world.alarms.events[*test.world.entry(test.kino, show).basic->digest()] = 120;
+         test.pressBarButton(u"Alerts"_s);
+         return true;
+     }},
+    {"journal",
+     [](EveryScreenTest& test) {
+         test.fillJournal();
+         test.pressBarButton(u"Journal"_s);
+         return true;
+     }},
+    {"show with an alert",
+     [](EveryScreenTest& test) {
+         test.tab(Symbol::Schedule);
+         test.pushFavourite();
+         return true;
+     }},
+    {"alert of a show",
+     [](EveryScreenTest& test) {
+         test.pressAction(u"Alert"_s);
          return true;
      }},
     {"favourites",
@@ -132,8 +150,32 @@ constexpr Screen kScreens[] = {
          test.world.tabs->dismissNotice();
          return test.tab(Symbol::SelectedChannels);
      }},
+    {"options",
+     [](EveryScreenTest& test) {
+         test.world.app.interval = 90min;
+         setSilentHoursEnabled(test.world.keyValueStore, true);
+         setSilentHoursFrom(test.world.keyValueStore, test.world.clock.now());
+         test.pressBarButton(u"Options"_s);
+         return true;
+     }},
+    {"silent hours",
+     [](EveryScreenTest& test) {
+         test.tapRow(u"From:\nTo:"_s);
+         return true;
+     }},
+    {"calendars",
+     [](EveryScreenTest& test) {
+         test.stack().pop();
+         test.calendars.choice.storeName = u"Folder of calendar files"_s;
+         test.calendars.choice.calendars.push_back(
+             worldCalendar(u"Domácnost a škola"_s, u"~/.local/share/quellin-guide/calendars"_s));
+         test.calendars.choice.calendars.back().state = CalendarState::Unavailable;
+         test.pressBarButton(u"Calendars"_s);
+         return true;
+     }},
     {"selected channels, edited",
      [](EveryScreenTest& test) {
+         test.tab(Symbol::SelectedChannels);
          test.top().pressLeftBarButton(0);
          return true;
      }},
