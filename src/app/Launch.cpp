@@ -204,8 +204,7 @@ void QuellinGuideAppDelegate::notificationsSynched() {
 
 void QuellinGuideAppDelegate::askAboutHeldBack(std::size_t count) {
     if (m_unattended) {
-        // The next window makes the run again, and asks.
-        m_alarms.setSynchronized(false);
+        m_unattended->hasHeldBack = true;
         return;
     }
     const auto answer = [this](void (GuideAlarms::*act)()) {
@@ -272,6 +271,11 @@ void QuellinGuideAppDelegate::loadsEnded(const LoadResults& results) {
     if (m_unattended) {
         m_unattended->stored.insert(results.stored.begin(), results.stored.end());
         m_unattended->failed.insert(results.failed.begin(), results.failed.end());
+    }
+    if (!results.stored.empty()) {
+        // Lists are replaced while their channels are still marked as loading. A run that was as quick as
+        // that has removed nothing.
+        m_alarmUpdater.listingsReplaced();
     }
     if (m_retries) {
         m_retries->loadsEnded(results);

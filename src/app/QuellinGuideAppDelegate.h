@@ -94,6 +94,8 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
         /// Channels that got a list, and those whose loads stored nothing.
         std::unordered_set<ObjectId> stored;
         std::unordered_set<ObjectId> failed;
+        /// Only the user can decide about removals of alarms.
+        bool hasHeldBack = false;
     };
     /// Checks the schedules once, and then the alarms. `ended` is called on the main queue. Once, after the
     /// launch; a question that comes up is left to the next window.

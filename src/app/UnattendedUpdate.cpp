@@ -24,6 +24,10 @@ void QuellinGuideAppDelegate::updateUnattended(std::function<void(const Unattend
             for (const ObjectId& channel : m_unattended->stored) {
                 m_unattended->failed.erase(channel);
             }
+            if (m_unattended->hasHeldBack) {
+                // The next window makes the run again, and asks.
+                m_alarms.setSynchronized(false);
+            }
             ended(*m_unattended);
         }));
     });

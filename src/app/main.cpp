@@ -350,12 +350,12 @@ int run(LaunchOptions options, bool drawsWebPages) {
     std::optional<SessionUpdates> backgroundUpdates;
     if (!options.profile && !options.update) {
         const QString templates = folders->bundle + "/session"_L1;
-        const QString programs = QCoreApplication::applicationDirPath();
-        backgroundUpdates.emplace(queues, sessionBus(), templates, programs);
+        const QString folder = QCoreApplication::applicationDirPath();
+        backgroundUpdates.emplace(queues, sessionBus(), templates, folder);
         alarmRinging.emplace(queues, sessionBus(),
                              SessionAlarmRinging::Options{
                                  .templates = templates,
-                                 .programs = programs,
+                                 .programs = folder,
                                  .usesDesktop = isOfDesktop(*eventStore),
                              });
     }

@@ -294,14 +294,14 @@ TEST(AlarmOperationsTest, TheChosenCalendarMayBecomeReadOnlyOrGo) {
     EXPECT_FALSE(world->alarmCalendar->selectedCalendar()->allowsContentModifications);
     EXPECT_EQ(world->journal().count(u"NotMade"_s), 1) << "not told by each run";
 
-    const EventCalendar other =
-        world.events.addCalendar({.identifier = {}, .title = u"Other"_s, .allowsContentModifications = true});
+    const EventCalendar other = world.events.addCalendar(
+        {.identifier = {}, .title = u"Other"_s, .source = {}, .allowsContentModifications = true});
     world.events.setDefaultCalendar(other.identifier);
     world.events.removeCalendar(chosen);
     run();
     world->sync();
     EXPECT_EQ(world->alarmCalendar->selectedCalendar(), other);
-    EXPECT_EQ(world.events.events().size(), 2U) << "the alarms are made again";
+    EXPECT_EQ(world.events.events().size(), 1U) << "the alarm is made again";
 }
 
 TEST(AlarmOperationsTest, AChangeOfListingsMeanwhileIsNotForgotten) {
