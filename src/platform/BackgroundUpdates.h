@@ -4,7 +4,8 @@
 
 namespace guide {
 
-/// Whether the device updates schedules and alarms from time to time while the guide does not run. Main queue.
+/// Whether the device updates schedules and alarms from time to time while the guide does not run. Main
+/// queue.
 class BackgroundUpdates {
   public:
     enum class State {

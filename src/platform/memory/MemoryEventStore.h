@@ -55,9 +55,8 @@ class MemoryEventStore final : public EventStore {
     EventRange eventsBetween(Moment start, Moment end, const EventCalendar& calendar) override {
         const std::lock_guard lock(m_guard);
         ++m_reads;
-        if (m_rangesFail ||
-            std::ranges::find(m_calendars, calendar.identifier, &EventCalendar::identifier) ==
-                m_calendars.end()) {
+        if (m_rangesFail || std::ranges::find(m_calendars, calendar.identifier, &EventCalendar::identifier) ==
+                                m_calendars.end()) {
             return {{}, QStringLiteral("the range cannot be read")};
         }
         EventRange range;
