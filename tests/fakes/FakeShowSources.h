@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <atomic>
+#include <functional>
 
 namespace guide::test {
 
@@ -56,8 +57,15 @@ struct FakeAlarms final : AlarmsSource, AlarmSynchronisation {
 };
 
 struct CountingListingsObserver final : ListingsObserver {
-    void listingsReplaced() override { ++replacements; }
+    void listingsReplaced() override {
+        ++replacements;
+        if (told) {
+            told();
+        }
+    }
     std::atomic<int> replacements = 0;
+    /// Set while nothing else uses the store.
+    std::function<void()> told = {};
 };
 
 } // namespace guide::test

@@ -148,6 +148,19 @@ TEST_F(TVListingsTest, QueriesWaitForTheFirstRead) {
     EXPECT_EQ(onAir(), (std::vector<Titles>{{"A"}, {}, {}}));
 }
 
+TEST_F(TVListingsTest, WhoIsToldOfNewListsFindsThem) {
+    made();
+    world.favorites.titles = {u"B"_s};
+    std::optional<FavoritesToCome> favorites;
+    world.observer.told = [&] {
+        listings->favoritesScheduleWithURLBlock([&](FavoritesToCome found) { favorites = std::move(found); });
+    };
+    merge({show(2, 3, u"B"_s), show(0, 1, u"A"_s)});
+    queues.runAll();
+    ASSERT_TRUE(favorites);
+    EXPECT_EQ(titles(favorites->shows), Titles{"B"});
+}
+
 TEST_F(TVListingsTest, MergeStoresSchedulesAndAnnounces) {
     made();
     clock.advance(std::chrono::minutes(5));
