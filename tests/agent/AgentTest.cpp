@@ -1,6 +1,7 @@
 #include "AgentWorld.h"
 #include "platform/linux/EventLoopQueues.h"
 #include "platform/linux/SessionAlarmRinging.h"
+#include "platform/linux/SessionUpdates.h"
 #include "platform/linux/calendar/EDSEventStore.h"
 
 #include <QDBusConnectionInterface>
@@ -210,11 +211,51 @@ TEST_F(DesktopAgentTest, IsSilentWhereTheDesktopRings) {
     EXPECT_EQ(server.titles(), QStringList(u"loud"_s));
 }
 
-TEST_F(DesktopAgentTest, IsSwitchedOnAndOffByTheGuide) {
-    const QProcessEnvironment& environment = agent.processEnvironment();
+/// The guide of this process writes into the folders of the agent's session.
+void enterSession(const QProcess& agent) {
     for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"}) {
-        qputenv(name, environment.value(QString::fromLatin1(name)).toLocal8Bit());
+        qputenv(name, agent.processEnvironment().value(QString::fromLatin1(name)).toLocal8Bit());
     }
+}
+
+TEST_F(AgentTest, UpdatesAreStartedBySystemd) {
+    enterSession(agent);
+    EventLoopQueues queues;
+    const SessionProgram guide(session.busAddress(), u"org.example.Guide"_s, u"/org/example"_s);
+    SessionUpdates updates(queues, guide.bus, QStringLiteral(QUELLIN_SOURCE_DATA) + u"/session"_s,
+                           u"/opt/guide"_s);
+    const auto state = [&] {
+        std::optional<BackgroundUpdates::State> now;
+        updates.state({[&](BackgroundUpdates::State answer) { now = answer; }});
+        EXPECT_TRUE(waitFor([&] { return now.has_value(); }));
+        return now;
+    };
+    const auto set = [&](bool on) {
+        std::optional<bool> isDone;
+        updates.setOn(on, {[&](bool done) { isDone = done; }});
+        EXPECT_TRUE(waitFor([&] { return isDone.has_value(); }));
+        return isDone == true;
+    };
+    EXPECT_EQ(state(), BackgroundUpdates::State::Unavailable) << "no systemd in this session";
+    SessionProgram systemd(session.busAddress(), u"org.freedesktop.systemd1"_s, u"/org/freedesktop"_s);
+    EXPECT_EQ(state(), BackgroundUpdates::State::Off);
+    EXPECT_TRUE(set(true));
+    EXPECT_EQ(state(), BackgroundUpdates::State::On);
+    EXPECT_TRUE(set(false));
+    EXPECT_EQ(state(), BackgroundUpdates::State::Off);
+    QStringList calls;
+    for (const QDBusMessage& call : systemd.calls) {
+        calls << call.member() + u' ' + call.arguments().value(0).toString();
+    }
+    const QString timer = u"quellin-guide-update.timer"_s;
+    EXPECT_EQ(calls,
+              QStringList({u"Reload "_s, u"StartUnit "_s + timer, u"StopUnit "_s + timer, u"Reload "_s}))
+        << "systemd knows the timer when it starts it, and ends it while it knows it";
+    queues.shutDown();
+}
+
+TEST_F(DesktopAgentTest, IsSwitchedOnAndOffByTheGuide) {
+    enterSession(agent);
     const SessionProgram watcher(session.busAddress(), u"org.example.Watcher"_s, u"/org/example"_s);
     const auto isRunning = [&watcher] {
         return watcher.bus.interface()->isServiceRegistered(u"net.quellin.GuideAgent"_s).value();
