@@ -92,6 +92,7 @@ std::vector<Favorite> restoredFavorites(const FavoritesSnapshot& current, const 
     // title may be empty.
     std::vector<Favorite> rules;
     QHash<QString, std::vector<Favorite>> following;
+    // Used only until the next title is looked up, which may move the values.
     std::vector<Favorite>* place = &rules;
     for (const Favorite& rule : before.rules()) {
         const QString lowercased = rule.identificator.toLower();

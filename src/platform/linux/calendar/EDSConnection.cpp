@@ -16,9 +16,9 @@ namespace {
 
 constexpr auto kCalendarError = "_e_2dcal_2dclient_2derror_2dquark.Code"_L1;
 constexpr auto kNetworkError = "_g_2dio_2derror_2dquark.Code"_L1;
+constexpr auto kClientError = "_e_2dclient_2derror_2dquark.Code"_L1;
 /// A service that did not answer within less is not to blame.
 constexpr std::chrono::seconds kPatience{2};
-constexpr auto kClientError = "_e_2dclient_2derror_2dquark.Code"_L1;
 
 /// The number at the end of the error's name, of one of the lists.
 std::optional<int> codeOf(const QString& name, QLatin1StringView list) {
