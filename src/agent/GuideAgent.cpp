@@ -3,6 +3,7 @@
 #include "agent/RingText.h"
 #include "platform/files/FileContent.h"
 #include "platform/files/FileReplacement.h"
+#include "platform/files/PlayableChannels.h"
 #include "text/display/Localized.h"
 
 #include <QDBusMessage>
@@ -24,6 +25,7 @@ namespace {
 const QString kOtherReminder = u"org.gnome.Evolution-alarm-notify"_s;
 const QString kDefaultAction = u"default"_s;
 const QString kOpen = u"open"_s;
+const QString kPlay = u"play"_s;
 const QString kRemind = u"remind"_s;
 constexpr qint64 kLargestRecord = qint64(1) << 20;
 constexpr qsizetype kMostShown = 64;
@@ -31,6 +33,8 @@ constexpr qsizetype kMostShown = 64;
 constexpr std::chrono::milliseconds kLogin = 15s;
 constexpr std::chrono::milliseconds kFirstPause = 10s;
 constexpr std::chrono::milliseconds kLongestPause = 1h;
+/// An alarm that is refused should still ring before its show.
+constexpr std::chrono::milliseconds kLongestRefusal = 2min;
 
 } // namespace
 
@@ -40,10 +44,12 @@ GuideAgent::GuideAgent(const QDBusConnection& bus, const Clock& clock, const Dev
     , m_clock(clock)
     , m_device(device)
     , m_recordPath(options.recordPath)
+    , m_playableChannels(options.playableChannels)
     , m_started(clock.now())
     , m_login(kLogin)
     , m_rung(RungAlarms::fromText(fileContent(m_recordPath, kLargestRecord).value_or(QByteArray())))
     , m_pause(kFirstPause)
+    , m_refusalPause(kFirstPause)
     , m_guide(bus, options.profile)
     , m_timer([this](bool clockWasSet) {
         const Moment now = m_clock.now();
@@ -146,6 +152,9 @@ void GuideAgent::show(const Ring& ring) {
         .icon = u"quellin-guide"_s,
         .hints = {{u"desktop-entry"_s, u"quellin-guide"_s}, {u"sound-name"_s, u"alarm-clock-elapsed"_s}},
         .time = event.end - now};
+    if (PlayableChannels::contains(m_playableChannels, event.channel)) {
+        notification.actions << kPlay << Localized::tr("Play");
+    }
     if (event.start > now) {
         notification.actions << kRemind << Localized::tr("Remind me at the start");
     }
@@ -158,9 +167,11 @@ void GuideAgent::wasShown(const Ring& ring, std::optional<unsigned> number) {
         qWarning("the alarm of \"%s\" was not shown", qUtf8Printable(ring.event.title));
         setNotRung(m_rung, ring);
         save();
-        m_retryRinging.start(kFirstPause);
+        m_retryRinging.start(m_refusalPause);
+        m_refusalPause = std::min(2 * m_refusalPause, kLongestRefusal);
         return;
     }
+    m_refusalPause = kFirstPause;
     qInfo("\"%s\" has rung", qUtf8Printable(ring.event.title));
     if (m_shown.size() >= kMostShown) {
         m_shown.clear();
@@ -176,6 +187,8 @@ void GuideAgent::chosen(unsigned number, const QString& action, const QString& t
     }
     if (action == kOpen || action == kDefaultAction) {
         m_guide.open(found->names.url, token);
+    } else if (action == kPlay) {
+        m_guide.open(found->names.url + "/play"_L1, token);
     } else if (action == kRemind) {
         m_rung.setRemindsAtStart(found->names, true);
         save();

@@ -24,6 +24,8 @@ struct GuideAgentOptions {
     EventStoreOptions calendars;
     /// Keeps which alarms have rung.
     QString recordPath;
+    /// Says which channels have a stream.
+    QString playableChannels;
     /// Of the guide that is opened; empty for the usual one.
     QString profile;
 };
@@ -52,6 +54,7 @@ class GuideAgent final : public QObject {
     const Clock& m_clock;
     const Device& m_device;
     const QString m_recordPath;
+    const QString m_playableChannels;
     const Moment m_started;
     QDeadlineTimer m_login;
     RungAlarms m_rung;
@@ -65,6 +68,8 @@ class GuideAgent final : public QObject {
     QTimer m_retryReading;
     QTimer m_retryRinging;
     std::chrono::milliseconds m_pause;
+    /// Before the notification server is asked again for what it has refused.
+    std::chrono::milliseconds m_refusalPause;
 
     GuideProgram m_guide;
     WallClockTimer m_timer;

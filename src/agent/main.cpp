@@ -1,6 +1,7 @@
 // quellin-guide-agent: rings the alarms of the guide while its window is closed.
 
 #include "agent/GuideAgent.h"
+#include "platform/files/PlayableChannels.h"
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxDevice.h"
 #include "platform/linux/LinuxFolders.h"
@@ -75,6 +76,7 @@ int run(const QString& profile) {
                        .busAddress =
                            profile.isEmpty() ? qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS") : QString()},
          .recordPath = folders->documents + "/rung-alarms.txt"_L1,
+         .playableChannels = folders->documents + u'/' + QLatin1StringView(PlayableChannels::kFileName),
          .profile = profile});
     return QCoreApplication::exec();
 }

@@ -6,6 +6,7 @@
 #include "core/SupportedChannelTypes.h"
 #include "parsers/details/PageSource.h"
 #include "screens/Localized.h"
+#include "screens/ShowRows.h"
 #include "screens/SwipeActions.h"
 #include "screens/alarms/AlarmTexts.h"
 #include "screens/channels/SelectionEditor.h"
@@ -128,6 +129,7 @@ void QuellinGuideAppDelegate::makeFavorites() {
         .mainQueue = m_environment.queues.mainQueue(),
         .shows = *m_shows,
         .alarmActions = m_alarms,
+        .alarms = m_alarms,
         .counters = m_showCounters,
         .favoritesUpdated =
             [this, alive = std::weak_ptr(m_alive)] {
@@ -199,7 +201,25 @@ void QuellinGuideAppDelegate::makeAlarms() {
 
 void QuellinGuideAppDelegate::notificationsSynched() {
     updateBadge();
+    tellPlayableChannels();
     m_screens->notificationsSynched();
+}
+
+void QuellinGuideAppDelegate::tellPlayableChannels() {
+    if (!m_environment.alarmRinging) {
+        return;
+    }
+    const SharedCatalogueSnapshot catalogue = m_catalogue.snapshot();
+    QStringList titles;
+    for (const ObjectId& id : m_channels->selected()) {
+        if (streamURLOf(*catalogue, id)) {
+            titles << catalogue->find(id)->title;
+        }
+    }
+    if (titles != m_playableChannels) {
+        m_playableChannels = titles;
+        m_environment.alarmRinging->setPlayableChannels(titles);
+    }
 }
 
 void QuellinGuideAppDelegate::askAboutHeldBack(std::size_t count) {

@@ -2,6 +2,7 @@
 
 #include "app/QuellinGuideAppDelegate.h"
 #include "screens/Localized.h"
+#include "screens/ShowRows.h"
 #include "screens/detail/DetailViewController.h"
 #include "screens/pictures/ScreenShotViewController.h"
 #include "screens/web/WebViewController.h"
@@ -10,9 +11,12 @@
 
 namespace guide {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype kLongestAddress = 200;
+constexpr auto kPlayPath = "/play"_L1;
 
 } // namespace
 
@@ -48,14 +52,15 @@ void QuellinGuideAppDelegate::openURL(const QString& address) {
     const QUrl url = address.size() <= kLongestAddress ? QUrl(address, QUrl::StrictMode) : QUrl();
     const std::optional<ShowDigest> digest = digestOfUrl(url);
     const QUrl known = digest ? urlOfDigest(*digest, m_environment.scheme) : QUrl();
+    const bool plays = url.path() == kPlayPath;
     // Some programs add a slash.
     if (!digest || url.adjusted(QUrl::StripTrailingSlash | QUrl::RemovePath) != known ||
-        url.path().size() > 1) {
+        (url.path().size() > 1 && !plays)) {
         presentNotice({.text = Localized::tr("This is not the address of a show.")});
         return;
     }
     // The owner of the blocks is gone after the destruction.
-    m_listings->showWithURL(known, {m_alive, [this](const ShowItem& show) { openShow(show); }},
+    m_listings->showWithURL(known, {m_alive, [this, plays](const ShowItem& show) { openShow(show, plays); }},
                             {m_alive, [this] { sayShowIsGone(); }});
 }
 
@@ -63,7 +68,7 @@ void QuellinGuideAppDelegate::sayShowIsGone() {
     presentNotice({.text = Localized::tr("This show is over, or not on your channels.")});
 }
 
-void QuellinGuideAppDelegate::openShow(const ShowItem& show) {
+void QuellinGuideAppDelegate::openShow(const ShowItem& show, bool plays) {
     const TVEntry& entry = *show.entry();
     if (entry.endDateTime() && *entry.endDateTime() < m_environment.clock.now()) {
         sayShowIsGone();
@@ -78,6 +83,10 @@ void QuellinGuideAppDelegate::openShow(const ShowItem& show) {
     const CatalogueChannel* channel = catalogue->find(entry.channel());
     m_tabBarController->selectedNavigationController().push(std::make_shared<DetailViewController>(
         m_screenEnvironment, show, channel ? channel->icon : QString()));
+    const std::optional<QUrl> stream = streamURLOf(*catalogue, entry.channel());
+    if (plays && stream) {
+        playURL(*stream);
+    }
 }
 
 } // namespace guide

@@ -104,7 +104,9 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     /// Starts what updateUnattended() does in a guide with a window.
     void updateNow();
 
-    /// Opens the show with this address of the application's scheme; says so when there is none.
+    /// Opens the show with this address of the application's scheme, or plays its channel when the address
+    /// ends in
+    /// "/play"; says so when there is no such show.
     void openURL(const QString& address);
 
     /// Offers to add what an address, file or program gives.
@@ -146,7 +148,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void selectTab(Symbol tab) override;
     void showPictures(const std::vector<QUrl>& urls) override;
 
-    void openShow(const ShowItem& show);
+    void openShow(const ShowItem& show, bool plays);
     void sayShowIsGone();
 
     // AlertPresenter
@@ -184,6 +186,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
 
     /// The alarms have changed.
     void notificationsSynched();
+    void tellPlayableChannels();
     /// Asks what is to become of alarms that a run has not removed because there are so many.
     void askAboutHeldBack(std::size_t count);
 
@@ -213,6 +216,8 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     std::optional<UnattendedUpdate> m_unattended;
 
     GuideAlarms m_alarms;
+    /// As last told to what rings the alarms.
+    std::optional<QStringList> m_playableChannels;
     NoShowCounters m_showCounters;
     AlarmUpdater m_alarmUpdater;
     NoPopularShows m_popularShows;

@@ -10,6 +10,7 @@
 #include "demo/DemoEnvironment.h"
 #include "demo/DemoFiles.h"
 #include "platform/files/FileReplacement.h"
+#include "platform/files/PlayableChannels.h"
 #include "platform/linux/ApplicationService.h"
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/DesktopMotion.h"
@@ -356,6 +357,8 @@ int run(LaunchOptions options, bool drawsWebPages) {
                              SessionAlarmRinging::Options{
                                  .templates = templates,
                                  .programs = folder,
+                                 .playableChannels = folders->documents + u'/' +
+                                                     QLatin1StringView(PlayableChannels::kFileName),
                                  .usesDesktop = isOfDesktop(*eventStore),
                              });
     }

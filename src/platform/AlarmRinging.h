@@ -2,6 +2,8 @@
 
 #include "platform/queues/MainBlock.h"
 
+#include <QStringList>
+
 namespace guide {
 
 struct AlarmRingingState {
@@ -19,6 +21,8 @@ class AlarmRinging {
     virtual void state(MainBlock<AlarmRingingState> mainBlock) = 0;
     /// From now on and after each login. The block is called with whether that succeeded.
     virtual void setOn(bool on, MainBlock<bool> mainBlock) = 0;
+    /// The titles of the channels whose alarms offer to play their streams.
+    virtual void setPlayableChannels(const QStringList& titles) = 0;
 };
 
 } // namespace guide

@@ -88,10 +88,22 @@ TEST_F(AgentTest, ItsActionsOpenTheGuideAndRemind) {
     CalendarEvent event = showAt(u"a"_s, alarm);
     event.url = QUrl(kScheme + u"://c1234567890abcdef1234567890abcdef"_s);
     save(event);
+    EventLoopQueues queues;
+    SessionAlarmRinging::Options options;
+    options.playableChannels = session.path("data") + u"/quellin-guide/playable-channels.txt"_s;
+    SessionAlarmRinging ringing(queues, std::nullopt, options);
+    ringing.setPlayableChannels({u"Other\nOne"_s, event.location});
+    EXPECT_TRUE(waitFor([&] { return QFile::exists(options.playableChannels); }));
+    queues.shutDown();
     start();
     ASSERT_TRUE(waitFor([&] { return !server.shown.empty(); }));
-    EXPECT_EQ(server.shown[0].actions, (QStringList{u"default"_s, u"Open"_s, u"open"_s, u"Open"_s,
-                                                    u"remind"_s, u"Remind me at the start"_s}));
+    EXPECT_EQ(server.shown[0].actions, (QStringList{u"default"_s, u"Open"_s, u"open"_s, u"Open"_s, u"play"_s,
+                                                    u"Play"_s, u"remind"_s, u"Remind me at the start"_s}));
+    server.choose(u"play"_s);
+    ASSERT_TRUE(waitFor([&] { return !guide.calls.empty(); }));
+    EXPECT_EQ(guide.calls[0].arguments().value(0).toStringList(),
+              QStringList(event.url->toString() + u"/play"_s));
+    guide.calls.clear();
     server.choose(u"remind"_s);
     server.choose(u"open"_s);
     ASSERT_TRUE(waitFor([&] { return !guide.calls.empty(); }));
@@ -263,7 +275,8 @@ TEST_F(DesktopAgentTest, IsSwitchedOnAndOffByTheGuide) {
     EventLoopQueues queues;
     SessionAlarmRinging ringing(queues, watcher.bus,
                                 {.templates = QStringLiteral(QUELLIN_SOURCE_DATA) + u"/session"_s,
-                                 .programs = QFileInfo(QStringLiteral(QUELLIN_AGENT)).path()});
+                                 .programs = QFileInfo(QStringLiteral(QUELLIN_AGENT)).path(),
+                                 .playableChannels = {}});
     const auto set = [&](bool on) {
         std::optional<bool> isDone;
         std::optional<AlarmRingingState> state;

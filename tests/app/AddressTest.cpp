@@ -32,11 +32,19 @@ TEST(Address, OpensItsShow) {
     ASSERT_TRUE(detail);
     EXPECT_EQ(detail->show().entry()->title(), shows[1].second);
 
+    EXPECT_TRUE(world.openedExternally.empty());
+    world.guide->openURL(address(1) + u"/play"_s);
+    EXPECT_TRUE(world.runUntil([&] {
+        return world.openedExternally == std::vector{QUrl(u"https://stream.example/1"_s)};
+    })) << "without a player of its own";
+    EXPECT_EQ(tabs.selectedNavigationController().viewControllers().size(), 3U);
+    tabs.selectedNavigationController().pop();
+
     world.clock.advance(90min);
     const QString none = u"guide://c"_s + QString(32, u'0');
-    for (const QString& other :
-         {address(0), none, address(2).replace("guide:"_L1, "http:"_L1), u"guide://"_s, u"guide:"_s,
-          QString(), address(2) + u"/../etc"_s, none + QString(100'000, u'0'), u"javascript:alert(1)"_s}) {
+    for (const QString& other : {address(0), none, address(2).replace("guide:"_L1, "http:"_L1), u"guide://"_s,
+                                 u"guide:"_s, QString(), address(2) + u"/../etc"_s, address(2) + u"/play/1"_s,
+                                 none + QString(100'000, u'0'), u"javascript:alert(1)"_s}) {
         world.guide->openURL(other);
         EXPECT_TRUE(world.runUntil([&] { return tabs.presentedNotice() != nullptr; }))
             << other.left(50).toStdString();

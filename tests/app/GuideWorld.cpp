@@ -72,7 +72,8 @@ void GuideWorld::fillProfile(const std::vector<QStringList>& sources) {
         const QString identity = channel(int(i) + 1).hex();
         firstSelection.push_back(channel(int(i) + 1));
         channels += u"<dict><key>Location</key><string>%1</string><key>Title</key><string>Channel %2</string>"
-                    "<key>Language</key><string>en</string><key>Icon</key><string>Other/plain</string>"_s.arg(
+                    "<key>Language</key><string>en</string><key>Icon</key><string>Other/plain</string>"
+                    "<key>Stream</key><string>https://stream.example/%2</string>"_s.arg(
                         identity, QString::number(i + 1));
         for (qsizetype j = 0; j < sources[i].size(); ++j) {
             channels +=
@@ -139,6 +140,7 @@ void GuideWorld::start() {
         .programs = &m_programs,
         .secrets = &secrets,
         .eventStore = eventStore,
+        .alarmRinging = alarmRinging,
         .hosts = hosts,
         .random = [](unsigned) { return 0U; },
         .cataloguePath = root + u"/Data.plist"_s,
@@ -149,7 +151,7 @@ void GuideWorld::start() {
         .longestPause = 5ms,
         .networkActivityIndicator = {},
         .applicationIconBadgeNumber = {},
-        .openExternally = {},
+        .openExternally = [this](const QUrl& url) { openedExternally.push_back(url); },
     });
     guide->didFinishLaunching([](TabBarController& tabs) { tabs.makeVisible(); });
 }

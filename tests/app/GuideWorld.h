@@ -116,8 +116,12 @@ class GuideWorld {
     std::function<DispatchQueues&(DispatchQueues& queues)> adaptQueues = {};
     /// When set before start(), the calendars of the device; there are none otherwise.
     EventStore* eventStore = nullptr;
+    /// When set before start(), what rings the alarms.
+    AlarmRinging* alarmRinging = nullptr;
     /// Paths that will not answer.
     QByteArrayList silentPaths;
+    /// What the guide has given to other programs.
+    std::vector<QUrl> openedExternally;
 
   private:
     void fillProfile(const std::vector<QStringList>& sources);

@@ -1,7 +1,11 @@
 #include "platform/linux/SessionAlarmRinging.h"
 
+#include "platform/files/FileContent.h"
+#include "platform/files/FileReplacement.h"
+#include "platform/files/PlayableChannels.h"
 #include "platform/linux/SessionCalls.h"
 
+#include <QDebug>
 #include <QProcess>
 
 #include <utility>
@@ -55,6 +59,15 @@ class SessionAlarmRinging::Session {
         }
     }
 
+    void setPlayableChannels(const QStringList& titles) const {
+        const QByteArray text = PlayableChannels::text(titles);
+        const QString& path = m_options.playableChannels;
+        if (!path.isEmpty() && fileContent(path, PlayableChannels::kLargestText) != text &&
+            !replaceFile(path, text)) {
+            qWarning("%s cannot be written", qUtf8Printable(path));
+        }
+    }
+
   private:
     void start() const {
         const QDBusMessage reply = m_calls.call(kSessionBus, u"StartServiceByName"_s, {kAgentName, 0U});
@@ -88,6 +101,10 @@ void SessionAlarmRinging::setOn(bool on, MainBlock<bool> mainBlock) {
     m_queue->async([session = m_session, &mainQueue = m_mainQueue, on, mainBlock]() mutable {
         mainBlock.post(mainQueue, session->setOn(on));
     });
+}
+
+void SessionAlarmRinging::setPlayableChannels(const QStringList& titles) {
+    m_queue->async([session = m_session, titles] { session->setPlayableChannels(titles); });
 }
 
 } // namespace guide

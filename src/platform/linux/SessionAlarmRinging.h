@@ -20,6 +20,8 @@ class SessionAlarmRinging final : public AlarmRinging {
         QString templates;
         /// The folder of the agent.
         QString programs;
+        /// Tells the agent which channels can be played.
+        QString playableChannels;
         /// The alarms are in calendars of the desktop, which may ring by themselves.
         bool usesDesktop = false;
     };
@@ -30,6 +32,7 @@ class SessionAlarmRinging final : public AlarmRinging {
 
     void state(MainBlock<AlarmRingingState> mainBlock) override;
     void setOn(bool on, MainBlock<bool> mainBlock) override;
+    void setPlayableChannels(const QStringList& titles) override;
 
   private:
     class Session;
