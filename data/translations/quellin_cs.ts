@@ -1868,6 +1868,10 @@ Počkejte, až se program načte.</translation>
         <translation>Před změnou kalendáře musíte zrušit všechna upozornění</translation>
     </message>
     <message>
+        <source>The calendars cannot be read</source>
+        <translation>Kalendáře nelze přečíst</translation>
+    </message>
+    <message>
         <source>The calendar could not be made.</source>
         <translation>Kalendář se nepodařilo vytvořit.</translation>
     </message>

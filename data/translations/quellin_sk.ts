@@ -1868,6 +1868,10 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Pred zmenou kalendára musíte zrušiť všetky upozornenia</translation>
     </message>
     <message>
+        <source>The calendars cannot be read</source>
+        <translation>Kalendáre sa nedajú prečítať</translation>
+    </message>
+    <message>
         <source>The calendar could not be made.</source>
         <translation>Kalendár sa nepodarilo vytvoriť.</translation>
     </message>

@@ -13,9 +13,7 @@ AlarmService::AlarmService(std::shared_ptr<AlarmCalendar> calendar, AlarmOperati
 void AlarmService::calendars(MainBlock<CalendarChoice> mainBlock) {
     m_calendar->queue().async([alarms = m_calendar, answer = std::move(mainBlock)]() mutable {
         EventStore& store = alarms->environment().eventStore;
-        CalendarChoice choice{.storeName = store.name(),
-                              .calendars = store.calendars().value_or(std::vector<EventCalendar>()),
-                              .selected = {}};
+        CalendarChoice choice{.storeName = store.name(), .calendars = store.calendars(), .selected = {}};
         alarms->ensureSelectedCalendarIsSet();
         if (const auto selected = alarms->selectedCalendar()) {
             choice.selected = selected->identifier;

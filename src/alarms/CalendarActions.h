@@ -14,8 +14,8 @@ namespace guide {
 struct CalendarChoice {
     /// The kind of calendars that the device has, as the store names it.
     QString storeName = {};
-    /// Those that cannot be written as well.
-    std::vector<EventCalendar> calendars = {};
+    /// Those that cannot be written as well. Unset while they cannot be read.
+    std::optional<std::vector<EventCalendar>> calendars = {};
     /// The identifier of the calendar of the alarms; empty when there is none.
     QString selected = {};
 };

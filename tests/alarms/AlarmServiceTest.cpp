@@ -39,8 +39,8 @@ TEST(AlarmServiceTest, CalendarsAreListedMadeAndSelected) {
         world->queues.runAll();
     };
     ask();
-    ASSERT_EQ(choice.calendars.size(), 1U);
-    EXPECT_EQ(choice.selected, choice.calendars[0].identifier) << "without a run before";
+    ASSERT_EQ(choice.calendars->size(), 1U);
+    EXPECT_EQ(choice.selected, choice.calendars->front().identifier) << "without a run before";
 
     std::optional<EventCalendar> made;
     using Made = std::optional<EventCalendar>;
@@ -49,7 +49,7 @@ TEST(AlarmServiceTest, CalendarsAreListedMadeAndSelected) {
     ASSERT_TRUE(made);
     service.selectCalendar(*made);
     ask();
-    EXPECT_EQ(choice.calendars.size(), 2U);
+    EXPECT_EQ(choice.calendars->size(), 2U);
     EXPECT_EQ(choice.selected, made->identifier);
 }
 

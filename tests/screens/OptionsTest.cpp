@@ -17,6 +17,7 @@ struct WorldRinging final : AlarmRinging {
         now.isOn = works ? on : now.isOn;
         mainBlock.post(mainQueue, bool(works));
     }
+    void setPlayableChannels(const QStringList& /*titles*/) override {}
     DispatchQueue& mainQueue;
     AlarmRingingState now;
     bool works = true;
@@ -202,7 +203,7 @@ TEST_F(OptionsTest, CalendarsAreListedByAccount) {
     EXPECT_TRUE(options->rightBarButtons().empty());
     world.app.calendarAccess = true;
     world.broadcast->notificationsSynched();
-    calendars.choice.calendars.push_back(worldCalendar(u"Files"_s, u"~/.local/share/guide/calendars"_s));
+    calendars.choice.calendars->push_back(worldCalendar(u"Files"_s, u"~/.local/share/guide/calendars"_s));
     options->pressRightBarButton(0);
     world.queues.runAll();
     auto& screen = dynamic_cast<CalendarsViewController&>(world.top());
@@ -213,6 +214,16 @@ TEST_F(OptionsTest, CalendarsAreListedByAccount) {
     EXPECT_EQ(contentTitled<TextRow>(screen.table(), u"Holidays"_s)->subtitle, u"Read-only"_s);
     world.send<TextRow>(screen, u"Holidays"_s, Tapped{});
     EXPECT_EQ(calendars.choice.selected, u"Server/Home"_s);
+
+    const auto known = std::exchange(calendars.choice.calendars, std::nullopt);
+    world.broadcast->notificationsSynched();
+    world.queues.runAll();
+    EXPECT_EQ(linesOf(screen.table()), QStringList()) << "none that could be made twice";
+    ASSERT_TRUE(screen.table().emptyNote());
+    calendars.choice.calendars = known;
+    screen.table().emptyNote()->action();
+    world.queues.runAll();
+    EXPECT_TRUE(contentTitled<TextRow>(screen.table(), u"Home"_s));
 }
 
 TEST_F(OptionsTest, TheCalendarChangesOnlyWhileThereAreNoAlarms) {
@@ -224,7 +235,7 @@ TEST_F(OptionsTest, TheCalendarChangesOnlyWhileThereAreNoAlarms) {
     ASSERT_EQ(world.app.alerts.size(), 2U);
     EXPECT_EQ(world.app.alerts[0].message, u"You have to remove all your alerts before changing calendar"_s);
     EXPECT_TRUE(contentTitled<TextRow>(screen->table(), u"Home"_s)->checked);
-    EXPECT_EQ(calendars.choice.calendars.size(), 3U);
+    EXPECT_EQ(calendars.choice.calendars->size(), 3U);
 
     world.alarms.events.clear();
     world.send<TextRow>(*screen, u"Local"_s, Tapped{});

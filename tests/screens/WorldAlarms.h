@@ -44,14 +44,14 @@ struct WorldCalendars final : CalendarActions {
         std::optional<EventCalendar> made;
         if (makes) {
             made = worldCalendar(title, u"Device"_s);
-            choice.calendars.push_back(*made);
+            choice.calendars->push_back(*made);
         }
         mainBlock.post(mainQueue, std::move(made));
     }
     DispatchQueue& mainQueue;
-    CalendarChoice choice{.calendars = {worldCalendar(u"Home"_s, u"Server"_s),
-                                        worldCalendar(u"Local"_s, u"Device"_s),
-                                        worldCalendar(u"Holidays"_s, u"Server"_s, false)},
+    CalendarChoice choice{.calendars = std::vector{worldCalendar(u"Home"_s, u"Server"_s),
+                                                   worldCalendar(u"Local"_s, u"Device"_s),
+                                                   worldCalendar(u"Holidays"_s, u"Server"_s, false)},
                           .selected = u"Server/Home"_s};
     bool makes = true;
 };

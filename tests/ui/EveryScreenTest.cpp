@@ -167,9 +167,9 @@ constexpr Screen kScreens[] = {
      [](EveryScreenTest& test) {
          test.stack().pop();
          test.calendars.choice.storeName = u"Folder of calendar files"_s;
-         test.calendars.choice.calendars.push_back(
+         test.calendars.choice.calendars->push_back(
              worldCalendar(u"Domácnost a škola"_s, u"~/.local/share/quellin-guide/calendars"_s));
-         test.calendars.choice.calendars.back().state = CalendarState::Unavailable;
+         test.calendars.choice.calendars->back().state = CalendarState::Unavailable;
          test.pressBarButton(u"Calendars"_s);
          return true;
      }},

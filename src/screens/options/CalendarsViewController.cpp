@@ -89,8 +89,14 @@ void CalendarsViewController::load() {
 }
 
 void CalendarsViewController::reloadTable() {
+    if (!m_choice.calendars) {
+        table().setEmptyNote(EmptyNote{Localized::tr("The calendars cannot be read"), QString(),
+                                       Localized::tr("Try again"), [this] { load(); }});
+        table().setSections({});
+        return;
+    }
     std::vector<Section> sections;
-    for (const EventCalendar& calendar : m_choice.calendars) {
+    for (const EventCalendar& calendar : *m_choice.calendars) {
         const SectionId id = u"source "_s + calendar.source;
         auto section = std::ranges::find(sections, id, &Section::id);
         if (section == sections.end()) {
@@ -98,7 +104,7 @@ void CalendarsViewController::reloadTable() {
         }
         section->rows.push_back(calendarRow(id, calendar));
     }
-    const bool hasNew = std::ranges::any_of(m_choice.calendars, [](const EventCalendar& calendar) {
+    const bool hasNew = std::ranges::any_of(*m_choice.calendars, [](const EventCalendar& calendar) {
         return calendar.title == newCalendarTitle() && calendar.allowsContentModifications;
     });
     if (!hasNew) {
@@ -141,8 +147,8 @@ void CalendarsViewController::rowEvent(const RowId& id, const RowEvent& event) {
         create();
         return;
     }
-    const auto calendar = std::ranges::find(m_choice.calendars, *id.name(), &EventCalendar::identifier);
-    if (calendar != m_choice.calendars.end() && calendar->identifier != m_choice.selected && mayChange()) {
+    const auto calendar = std::ranges::find(*m_choice.calendars, *id.name(), &EventCalendar::identifier);
+    if (calendar != m_choice.calendars->end() && calendar->identifier != m_choice.selected && mayChange()) {
         select(*calendar);
     }
 }
