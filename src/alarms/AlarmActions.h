@@ -31,6 +31,8 @@ class AlarmActions {
                                   bool manual) = 0;
     /// Ends a recurring alarm and removes all alarms of the title; the favourite stays.
     virtual void removeAlarmForTitle(const QString& title, bool sync, bool manual) = 0;
+    /// The same for several titles at once; not counted.
+    virtual void removeAlarmsForTitles(const QStringList& titles, bool sync) = 0;
 
     /// The lead time of the last alarm that was set on one broadcast.
     virtual int lastAlarmMinutes() const = 0;

@@ -146,8 +146,9 @@ void AlarmCalendar::ensureSelectedCalendarIsSet() {
             }
         }
         calendar = calendarOfDescription(*all, text);
-        // The chosen one may be among those that cannot be used yet.
-        if (!calendar &&
+        // The chosen one may be among those that cannot be used yet. Another one may have its title.
+        const bool isCertain = calendar && text.startsWith(calendar->title + u':' + calendar->source + u':');
+        if (!isCertain &&
             std::ranges::find(*all, CalendarState::Unavailable, &EventCalendar::state) != all->end()) {
             return;
         }

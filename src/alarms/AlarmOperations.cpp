@@ -3,6 +3,7 @@
 #include "alarms/AlarmPlans.h"
 #include "alarms/GuideEvents.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -30,21 +31,26 @@ QStringList identifiersOf(const std::vector<AlarmChange>& changes) {
     return identifiers;
 }
 
-/// Replaces the first rule of the title. False when there is none.
-bool replaceRule(TVShows& shows, const Favorite& rule) {
+/// Each replaces the first rule of its title, if there is one.
+void replaceRules(TVShows& shows, const std::vector<Favorite>& replacements) {
     std::optional<std::vector<Favorite>> rules = shows.favorites();
     if (!rules) {
-        return false;
+        return;
     }
-    const QString lowercased = rule.identificator.toLower();
-    const auto found = std::ranges::find_if(
-        *rules, [&lowercased](const Favorite& each) { return each.identificator.toLower() == lowercased; });
-    if (found == rules->end()) {
-        return false;
+    QHash<QString, const Favorite*> byTitle;
+    for (const Favorite& rule : replacements) {
+        byTitle.insert(rule.identificator.toLower(), &rule);
     }
-    *found = rule;
-    shows.setFavorites(*std::move(rules));
-    return true;
+    bool any = false;
+    for (Favorite& rule : *rules) {
+        if (const Favorite* replacement = byTitle.take(rule.identificator.toLower())) {
+            rule = *replacement;
+            any = true;
+        }
+    }
+    if (any) {
+        shows.setFavorites(*std::move(rules));
+    }
 }
 
 /// Removes the event of one broadcast. Whether one was removed.
@@ -121,8 +127,9 @@ void AlarmOperations::setAlarmForTitle(const QString& title, const ObjectId& onC
     if (m_calendar->access() != CalendarAccess::Granted) {
         return;
     }
-    std::optional<AlarmChange> change = newAlarm(m_calendar->situation(), title, onChannel, at, until,
-                                                 minutes, manual ? AlarmReason::User : AlarmReason::Rule);
+    // Also where the gesture was already counted, as that of a new favourite.
+    std::optional<AlarmChange> change =
+        newAlarm(m_calendar->situation(), title, onChannel, at, until, minutes, AlarmReason::User);
     if (!change) {
         return;
     }
@@ -203,10 +210,10 @@ void AlarmOperations::setAlarmForTitle(const QString& title, int minutes, std::o
     const bool wasSet = m_calendar->mark().isSet();
     m_calendar->mark().set(false);
     const std::uint64_t clearings = m_calendar->mark().clearings();
-    replaceRule(environment.shows, {.identificator = title,
-                                    .minutes = minutes < 0 ? std::nullopt : std::optional(minutes),
-                                    .date = environment.clock.now(),
-                                    .previouslyShown = previouslyShown});
+    replaceRules(environment.shows, {{.identificator = title,
+                                      .minutes = minutes < 0 ? std::nullopt : std::optional(minutes),
+                                      .date = environment.clock.now(),
+                                      .previouslyShown = previouslyShown}});
     environment.listings.favoritesScheduleWithBlock(
         [calendar = m_calendar, &synchronisation = m_synchronisation, title, minutes, previouslyShown, wasSet,
          clearings, lead = std::chrono::minutes(minutes)](const ShowItems& shows) {
@@ -260,21 +267,30 @@ void AlarmOperations::setAlarmForTitle(const QString& title, int minutes, std::o
 }
 
 void AlarmOperations::removeAlarmForTitle(const QString& title, bool sync, bool manual) {
-    const AlarmsEnvironment& environment = m_calendar->environment();
     if (manual) {
-        environment.counters.incrementCounterByAmount(kRemoved, title);
+        m_calendar->environment().counters.incrementCounterByAmount(kRemoved, title);
     }
-    if (m_calendar->access() != CalendarAccess::Granted) {
+    removeAlarmsForTitles({title}, sync);
+}
+
+void AlarmOperations::removeAlarmsForTitles(const QStringList& titles, bool sync) {
+    const AlarmsEnvironment& environment = m_calendar->environment();
+    if (m_calendar->access() != CalendarAccess::Granted || titles.isEmpty()) {
         return;
     }
-    replaceRule(
-        environment.shows,
-        {.identificator = title, .minutes = {}, .date = environment.clock.now(), .previouslyShown = {}});
+    std::vector<Favorite> rules;
+    for (const QString& title : titles) {
+        rules.push_back(
+            {.identificator = title, .minutes = {}, .date = environment.clock.now(), .previouslyShown = {}});
+    }
+    replaceRules(environment.shows, rules);
     bool isFirst = false;
     {
         const std::lock_guard lock(m_removals->guard);
         isFirst = m_removals->asked.titles.isEmpty();
-        m_removals->asked.titles.insert(title.toLower());
+        for (const QString& title : titles) {
+            m_removals->asked.titles.insert(title.toLower());
+        }
         m_removals->asked.sync = m_removals->asked.sync || sync;
     }
     if (isFirst) {

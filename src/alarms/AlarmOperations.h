@@ -33,6 +33,7 @@ class AlarmOperations final : public AlarmActions {
                           bool manual) override;
     /// Removals that are asked for one after another are made together.
     void removeAlarmForTitle(const QString& title, bool sync, bool manual) override;
+    void removeAlarmsForTitles(const QStringList& titles, bool sync) override;
     int lastAlarmMinutes() const override;
 
     /// Unset when no rule with a recurring alarm has the title. Reads the rules if they have not been read.

@@ -44,18 +44,14 @@ void FavoriteOperations::removeFavorites(const QStringList& titles) {
         return;
     }
     // While the rules still exist, so that their recurring alarms end.
-    for (const QString& title : std::as_const(known)) {
-        m_environment.alarmActions.removeAlarmForTitle(title, true, false);
-    }
+    m_environment.alarmActions.removeAlarmsForTitles(known, true);
     std::vector<Favorite> rules = shows.favorites().value_or(std::vector<Favorite>());
     std::erase_if(rules, [&lowercased](const Favorite& rule) {
         const auto left = lowercased.find(rule.identificator.toLower());
         return left != lowercased.end() && (*left)-- > 0;
     });
     shows.setFavorites(std::move(rules));
-    for (const QString& title : std::as_const(known)) {
-        m_environment.alarmActions.removeAlarmForTitle(title, false, false);
-    }
+    m_environment.alarmActions.removeAlarmsForTitles(known, false);
     m_environment.mainQueue.async(m_environment.favoritesUpdated);
     for (const QString& title : std::as_const(known)) {
         m_environment.counters.countRemovedFavorite(title);
@@ -66,16 +62,17 @@ void FavoriteOperations::restoreFavorites(const FavoritesSnapshot& before, const
     TVShows& shows = m_environment.shows;
     const auto current = shows.snapshot();
     shows.setFavorites(restoredFavorites(*current, before, titles));
+    bool hasAlarms = false;
     for (const QString& title : titles) {
         const Favorite* rule = before.ruleNamed(title);
         if (!rule || current->containsFavoriteNamed(title)) {
             continue;
         }
-        if (rule->minutes) {
-            m_environment.alarmActions.setAlarmForTitle(rule->identificator, *rule->minutes,
-                                                        rule->previouslyShown, false);
-        }
+        hasAlarms = hasAlarms || rule->minutes;
         m_environment.counters.incrementCounterByAmount(kRestored, rule->identificator);
+    }
+    if (hasAlarms) {
+        m_environment.alarms.resynchronize();
     }
     m_environment.favoritesUpdated();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "alarms/AlarmActions.h"
+#include "alarms/AlarmSynchronisation.h"
 #include "alarms/ShowCounters.h"
 #include "alarms/TVShows.h"
 #include "platform/Clock.h"
@@ -16,6 +17,8 @@ struct FavoriteOperationsEnvironment {
     DispatchQueue& mainQueue;
     TVShows& shows;
     AlarmActions& alarmActions;
+    /// Sets the recurring alarms of rules that return.
+    AlarmSynchronisation& alarms;
     ShowCounters& counters;
     /// Refreshes the screens. Main queue.
     std::function<void()> favoritesUpdated;

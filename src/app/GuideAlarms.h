@@ -70,6 +70,9 @@ class GuideAlarms final : public AlarmsSource,
     void removeAlarmForTitle(const QString& title, bool sync, bool manual) override {
         actions().removeAlarmForTitle(title, sync, manual);
     }
+    void removeAlarmsForTitles(const QStringList& titles, bool sync) override {
+        actions().removeAlarmsForTitles(titles, sync);
+    }
     int lastAlarmMinutes() const override {
         return m_operations ? m_operations->lastAlarmMinutes() : m_noActions.lastAlarmMinutes();
     }

@@ -49,6 +49,7 @@ class NoAlarmActions final : public AlarmActions {
     void removeAlarmForTitle(const QString&, const ObjectId&, Moment, bool, bool) override {}
     void setAlarmForTitle(const QString&, int, std::optional<bool>, bool) override {}
     void removeAlarmForTitle(const QString&, bool, bool) override {}
+    void removeAlarmsForTitles(const QStringList&, bool) override {}
     int lastAlarmMinutes() const override {
         const auto value = m_keyValueStore.valueForKey(QStringLiteral("lastAlarmMinutes"));
         const std::int64_t minutes = value ? value->toInteger(0) : 0;

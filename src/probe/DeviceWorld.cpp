@@ -285,6 +285,7 @@ void DeviceWorld::makeGuide() {
                                       .mainQueue = m_queues.mainQueue(),
                                       .shows = *m_rules,
                                       .alarmActions = *m_alarmOperations,
+                                      .alarms = *m_alarms,
                                       .counters = *m_counters,
                                       .favoritesUpdated = [this] { ++m_told.favoritesUpdated; }});
     m_eventStore.setCalendarsChanged([this] { m_alarms->calendarsChanged(); });

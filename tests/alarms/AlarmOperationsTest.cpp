@@ -262,6 +262,10 @@ TEST(AlarmOperationsTest, TheChosenCalendarIsWaitedFor) {
     MemoryEventStore events;
     const EventCalendar other = events.addCalendar({.identifier = u"a"_s, .title = u"A"_s, .source = {}});
     events.setDefaultCalendar(other.identifier);
+    events.addCalendar({.identifier = u"c"_s,
+                        .title = u"B"_s,
+                        .source = u"Elsewhere"_s,
+                        .allowsContentModifications = true});
     EventCalendar chosen{.identifier = u"b"_s, .title = u"B"_s, .source = {}};
     AlarmWorld world(events, chosen);
     events.failToList();

@@ -316,7 +316,7 @@ TEST(AlarmSynchroniser, TheUserDecidesAboutWhatIsHeldBack) {
     EXPECT_EQ(removed->runs.back().heldBack, 10U) << "another time";
 }
 
-TEST(AlarmSynchroniser, TheJournalSaysWhichBroadcastsTheRuleIsFor) {
+TEST(AlarmSynchroniser, TheJournalSaysWhoSetAnAlarm) {
     MemoryAlarmWorld world(
         u"rule News 10 premieres\nrule Film -\nshow One News 12:00\nshow Two Film 13:00 replay"_s);
     world->sync();
@@ -326,6 +326,12 @@ TEST(AlarmSynchroniser, TheJournalSaysWhichBroadcastsTheRuleIsFor) {
     ASSERT_EQ(entries->size(), 2U);
     EXPECT_EQ(entries->at(0).previouslyShown, false);
     EXPECT_EQ(entries->at(1).previouslyShown, true);
+    // By the swipe that also makes the show a favourite, which counts it.
+    world->operations->setAlarmForTitle(u"Film"_s, AlarmWorld::channelNamed(u"One"_s),
+                                        AlarmWorld::time(u"15:00"_s), AlarmWorld::time(u"16:00"_s), 5, true,
+                                        false);
+    world->queues.runAll();
+    EXPECT_EQ(world->alarmCalendar->journal().entries()->at(2).reason, AlarmReason::User);
 }
 
 TEST(AlarmSynchroniser, ListsShowsWithAlerts) {

@@ -14,21 +14,26 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-class FavoriteOperationsTest : public testing::Test, protected AlarmActions, protected ShowCounters {
+class FavoriteOperationsTest : public testing::Test,
+                               protected AlarmActions,
+                               protected AlarmSynchronisation,
+                               protected ShowCounters {
   protected:
     void setAlarmForTitle(const QString&, const ObjectId&, Moment, Moment, int, bool, bool) override {}
     void removeAlarmForTitle(const QString&, const ObjectId&, Moment, bool, bool) override {}
-    void setAlarmForTitle(const QString& title, int minutes, std::optional<bool> previouslyShown,
-                          bool manual) override {
-        log << u"alarm %1 %2 %3 %4"_s.arg(title)
-                   .arg(minutes)
-                   .arg(previouslyShown ? int(*previouslyShown) : -1)
-                   .arg(manual);
+    void setAlarmForTitle(const QString&, int, std::optional<bool>, bool) override {}
+    void removeAlarmForTitle(const QString&, bool, bool) override {}
+    void removeAlarmsForTitles(const QStringList& titles, bool sync) override {
+        for (const QString& title : titles) {
+            const bool exists = shows.snapshot()->containsFavoriteNamed(title);
+            log << u"no alarm %1 %2%3"_s.arg(title).arg(sync).arg(exists ? u" rule"_s : u""_s);
+        }
     }
-    void removeAlarmForTitle(const QString& title, bool sync, bool manual) override {
-        const bool exists = shows.snapshot()->containsFavoriteNamed(title);
-        log << u"no alarm %1 %2 %3%4"_s.arg(title).arg(sync).arg(manual).arg(exists ? u" rule"_s : u""_s);
-    }
+    void setSynchronized(bool synchronized) override { log << u"mark %1"_s.arg(synchronized); }
+    void syncAlarms() override { log << u"run"_s; }
+    bool isRunning() const override { return false; }
+    void commit() override {}
+    bool hasCalendarAccess() const override { return true; }
     int lastAlarmMinutes() const override { return 0; }
     void incrementCounterByAmount(int amount, const QString& title) override {
         log << u"%1 %2"_s.arg(title).arg(amount);
@@ -56,6 +61,7 @@ class FavoriteOperationsTest : public testing::Test, protected AlarmActions, pro
     QStringList log;
     FavoriteOperations operations{
         FavoriteOperationsEnvironment{clock, queues.mainQueue(), shows, static_cast<AlarmActions&>(*this),
+                                      static_cast<AlarmSynchronisation&>(*this),
                                       static_cast<ShowCounters&>(*this), [this] { log << u"screens"_s; }}};
 };
 
@@ -82,13 +88,13 @@ TEST_F(FavoriteOperationsTest, RemovalEndsAlarmsWhileTheRuleExists) {
     EXPECT_TRUE(takeLog().isEmpty()) << "no such rule";
     operations.removeFavorite(u"news"_s);
     EXPECT_EQ(titles(), u"NEWS,Film"_s) << "of equal titles the first";
-    EXPECT_EQ(takeLog(), QStringList({u"no alarm news 1 0 rule"_s, u"no alarm news 0 0 rule"_s, u"news -1"_s,
+    EXPECT_EQ(takeLog(), QStringList({u"no alarm news 1 rule"_s, u"no alarm news 0 rule"_s, u"news -1"_s,
                                       u"screens"_s}));
     operations.removeFavorites({u"Film"_s, u"News"_s});
     EXPECT_EQ(titles(), u""_s);
     EXPECT_EQ(takeLog(),
-              QStringList({u"no alarm Film 1 0 rule"_s, u"no alarm News 1 0 rule"_s, u"no alarm Film 0 0"_s,
-                           u"no alarm News 0 0"_s, u"Film -1"_s, u"News -1"_s, u"screens"_s}));
+              QStringList({u"no alarm Film 1 rule"_s, u"no alarm News 1 rule"_s, u"no alarm Film 0"_s,
+                           u"no alarm News 0"_s, u"Film -1"_s, u"News -1"_s, u"screens"_s}));
 }
 
 TEST_F(FavoriteOperationsTest, ManyRulesAreRemovedInOneStep) {
@@ -118,7 +124,7 @@ TEST_F(FavoriteOperationsTest, UndoRestoresOrderAndSettings) {
     takeLog();
     operations.restoreFavorites(*before, {u"A"_s, u"C"_s});
     EXPECT_EQ(shows.snapshot()->rules(), rules);
-    EXPECT_EQ(takeLog(), QStringList({u"alarm A 10 1 0"_s, u"A 1"_s, u"C 1"_s, u"screens"_s}));
+    EXPECT_EQ(takeLog(), QStringList({u"A 1"_s, u"C 1"_s, u"mark 0"_s, u"run"_s, u"screens"_s}));
 
     operations.removeFavorites({u"A"_s, u"B"_s, u"C"_s});
     operations.addFavorite(u"E"_s);

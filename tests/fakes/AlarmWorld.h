@@ -90,8 +90,8 @@ class AlarmWorld : ShowCounters {
                                  .safety = safety});
         alarms = std::make_unique<AlarmSynchroniser>(alarmCalendar);
         operations = std::make_unique<AlarmOperations>(alarmCalendar, *alarms);
-        favorites = std::make_unique<FavoriteOperations>(
-            FavoriteOperationsEnvironment{clock, queues.mainQueue(), rules, *operations, *this, [] {}});
+        favorites = std::make_unique<FavoriteOperations>(FavoriteOperationsEnvironment{
+            clock, queues.mainQueue(), rules, *operations, *alarms, *this, [] {}});
         queues.runAll();
         for (int i = 0; i < kChannels; ++i) {
             channels.channelWithChannelId(channelId(i))->setTimeLoaded(clock.now());

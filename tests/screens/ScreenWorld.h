@@ -102,6 +102,7 @@ struct WorldApp final : ScreenSettings,
         done << u"alarms %1 %2"_s.arg(title).arg(minutes) + kind;
     }
     void removeAlarmForTitle(const QString& title, bool, bool) override { done << u"no alarms "_s + title; }
+    void removeAlarmsForTitles(const QStringList&, bool) override {}
     int lastAlarmMinutes() const override { return 0; }
     void addFavorite(const QString& title) override {
         done << u"add "_s + title;

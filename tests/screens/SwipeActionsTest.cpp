@@ -21,6 +21,7 @@ struct Calls final : AlarmActions, FavoriteActions {
     }
     void setAlarmForTitle(const QString&, int, std::optional<bool>, bool) override {}
     void removeAlarmForTitle(const QString&, bool, bool) override {}
+    void removeAlarmsForTitles(const QStringList&, bool) override {}
     int lastAlarmMinutes() const override { return 10; }
     void addFavorite(const QString& title) override { log << u"add "_s + title; }
     void removeFavorites(const QStringList& titles) override { log << u"forget "_s + titles.join(u", "_s); }
