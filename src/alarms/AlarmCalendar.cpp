@@ -98,7 +98,7 @@ AlarmSituation AlarmCalendar::situation() const {
     QSet<QString> unsettled;
     for (const ObjectId& id : m_environment.channels.selected()) {
         if (const auto channel = m_environment.channels.channelWithChannelId(id)) {
-            const bool settled = !channel->loading() && !channel->reloadNeeded(situation.now, interval);
+            const bool settled = channel->isSettled(situation.now, interval);
             (settled ? situation.settledChannels : unsettled).insert(channel->title());
         }
     }

@@ -1,7 +1,7 @@
 #include "alarms/AlarmPlans.h"
 
 #include "alarms/GuideEvents.h"
-#include "alarms/ShowsByTitle.h"
+#include "store/TitleHash.h"
 
 #include <algorithm>
 #include <utility>
@@ -15,14 +15,22 @@ constexpr std::chrono::seconds kLongestMove{14'400};
 /// The brake looks at no fewer events.
 constexpr std::size_t kFewestForBrake = 10;
 
+/// Equal for events with the same start, channel and title, ignoring case.
 struct EventPlace {
     Moment start;
     QString title;
     QString location;
 
-    friend bool operator==(const EventPlace&, const EventPlace&) = default;
+    friend bool operator==(const EventPlace& one, const EventPlace& other) {
+        return one.start == other.start && one.location == other.location &&
+               (one.title == other.title || one.title.toLower() == other.title.toLower());
+    }
     friend std::size_t qHash(const EventPlace& place, std::size_t seed) {
-        return qHashMulti(seed, place.start.time_since_epoch().count(), place.title, place.location);
+        std::uint32_t title = titleHash(place.title);
+        if (title == kNoTitleHash) {
+            title = titleHash(place.title.toLower());
+        }
+        return qHashMulti(seed, place.start.time_since_epoch().count(), title, place.location);
     }
 };
 
@@ -45,19 +53,19 @@ QString channelTitle(const CatalogueSnapshot& catalogue, const ObjectId& channel
 /// The decisions of phase 2 about single events.
 class Reconciliation {
   public:
-    explicit Reconciliation(const AlarmSituation& situation)
+    Reconciliation(const AlarmSituation& situation, const ShowsByTitle& shows)
         : m_situation(situation)
-        , m_shows(situation.shows)
+        , m_shows(shows)
+        , m_clock(situation.silentHours.clock())
         , m_listed(digestsOf(situation.shows)) {}
 
-    std::optional<AlarmChange> changeOf(const CalendarEvent& event) const {
+    std::optional<AlarmChange> changeOf(const CalendarEvent& event) {
         if (!event.hasAlarms()) {
             return isToCome(event) ? std::optional(removalByRule(event, AlarmReason::AlarmRemoved))
                                    : std::nullopt;
         }
-        const QString title = event.title.toLower();
-        if (!m_situation.silentHours.mayBeAlarmedAt(event.startDate + event.alarmOffsets.front())) {
-            const Favorite* rule = m_situation.rules->ruleNamed(title);
+        if (!m_situation.silentHours.mayBeAlarmedAt(event.startDate + event.alarmOffsets.front(), m_clock)) {
+            const Favorite* rule = m_situation.rules->ruleNamed(event.title);
             return rule && rule->minutes ? cautiousRemoval(event, AlarmReason::SilentHours) : std::nullopt;
         }
         if (m_listed.empty()) {
@@ -67,7 +75,7 @@ class Reconciliation {
         if (show && m_listed.contains(*show)) {
             return std::nullopt;
         }
-        const TVEntry* target = nearestBroadcast(event, title);
+        const TVEntry* target = nearestBroadcast(event);
         return target ? std::optional(moved(event, *target)) : cautiousRemoval(event, AlarmReason::NotListed);
     }
 
@@ -91,8 +99,8 @@ class Reconciliation {
 
     /// Of broadcasts at the same distance the earlier one in the list. Null also when a show of the event's
     /// time is titled like the event's channel.
-    const TVEntry* nearestBroadcast(const CalendarEvent& event, const QString& lowercasedTitle) const {
-        const std::span<const TVEntry* const> broadcasts = m_shows.withTitle(lowercasedTitle);
+    const TVEntry* nearestBroadcast(const CalendarEvent& event) const {
+        const std::span<const TVEntry* const> broadcasts = m_shows.withTitle(event.title.toLower());
         const auto startOf = [](const TVEntry* entry) { return *entry->dateTime(); };
         const auto same = std::ranges::equal_range(broadcasts, event.startDate, {}, startOf);
         if (std::ranges::any_of(
@@ -131,7 +139,8 @@ class Reconciliation {
     }
 
     const AlarmSituation& m_situation;
-    const ShowsByTitle m_shows;
+    const ShowsByTitle& m_shows;
+    LocalTime m_clock;
     const ShowDigests m_listed;
 };
 
@@ -144,6 +153,8 @@ AlarmChange removalOf(const CalendarEvent& event, AlarmReason reason, const QStr
 CleanUpPlan planCleanUp(const std::vector<CalendarEvent>& events, const QString& scheme) {
     CleanUpPlan plan;
     QSet<EventPlace> seen;
+    seen.reserve(static_cast<qsizetype>(events.size()));
+    plan.kept.reserve(events.size());
     for (const CalendarEvent& event : events) {
         if (!isOfGuide(event, scheme)) {
             continue;
@@ -154,7 +165,7 @@ CleanUpPlan planCleanUp(const std::vector<CalendarEvent>& events, const QString&
             continue;
         }
         const qsizetype count = seen.size();
-        seen.insert({event.startDate, event.title.toLower(), event.location});
+        seen.insert({event.startDate, event.title, event.location});
         if (seen.size() == count) {
             plan.changes.push_back(removalOf(event, AlarmReason::Duplicate, scheme));
         } else {
@@ -166,8 +177,9 @@ CleanUpPlan planCleanUp(const std::vector<CalendarEvent>& events, const QString&
 
 // Every event has a change of its own, also when two of them end up at the same time on the same channel:
 // the clean-up of the next run removes the second.
-ReconciliationPlan planReconciliation(const AlarmSituation& situation, bool brake) {
-    const Reconciliation reconciliation(situation);
+ReconciliationPlan planReconciliation(const AlarmSituation& situation, const ShowsByTitle& shows,
+                                      bool brake) {
+    Reconciliation reconciliation(situation, shows);
     ReconciliationPlan plan;
     std::size_t toCome = 0;
     const auto isHeldBack = [](const AlarmChange& change) {
@@ -208,9 +220,11 @@ std::optional<CalendarEvent> eventForShow(const AlarmSituation& situation, const
                          .revision = {}};
 }
 
-std::vector<AlarmChange> planGeneration(const AlarmSituation& situation, const ShowDigests& made) {
-    const ShowsByTitle shows(situation.shows);
+std::vector<AlarmChange> planGeneration(const AlarmSituation& situation, const ShowsByTitle& shows,
+                                        const ShowDigests& made) {
+    LocalTime clock = situation.silentHours.clock();
     ShowDigests present;
+    present.reserve(situation.events.size());
     for (const CalendarEvent& event : situation.events) {
         if (const auto show = showOfEvent(event, situation.scheme)) {
             present.insert(*show);
@@ -229,7 +243,7 @@ std::vector<AlarmChange> planGeneration(const AlarmSituation& situation, const S
             }
             const auto digest = entry->digest();
             if (!digest || present.contains(*digest) || situation.refused.contains(*digest) ||
-                !situation.silentHours.mayBeAlarmedAt(start - std::chrono::minutes(*rule.minutes)) ||
+                !situation.silentHours.mayBeAlarmedAt(start - std::chrono::minutes(*rule.minutes), clock) ||
                 (rule.previouslyShown && *rule.previouslyShown != entry->previouslyShown())) {
                 continue;
             }

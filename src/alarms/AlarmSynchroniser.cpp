@@ -28,11 +28,12 @@ CalendarEvents eventsToCome(const std::vector<CalendarEvent>& events, Moment now
 ShowItems showsWithAlerts(const FavoritesToCome& favorites, const std::vector<CalendarEvent>& events,
                           const QString& scheme, const SilentHours& silentHours) {
     ShowItems shows;
+    LocalTime clock = silentHours.clock();
     for (const CalendarEvent& event : events) {
         const auto digest = leadOfLastAlarm(event) ? showOfEvent(event, scheme) : std::nullopt;
         const auto show = digest ? favorites.byDigest.find(*digest) : favorites.byDigest.end();
         if (show != favorites.byDigest.end() &&
-            silentHours.mayBeAlarmedAt(event.startDate + event.alarmOffsets.back())) {
+            silentHours.mayBeAlarmedAt(event.startDate + event.alarmOffsets.back(), clock)) {
             shows.push_back(show->second);
             if (shows.size() == kMostShows) {
                 break;
@@ -234,6 +235,7 @@ bool AlarmSynchroniser::State::reconcileAndGenerate(AlarmRun& run, ShowItems sho
     AlarmSituation situation = calendar->situation();
     situation.end = run.end;
     situation.shows = std::move(shows);
+    const ShowsByTitle byTitle(situation.shows);
     const auto read = [&] {
         EventRange range = calendar->read(situation.now, situation.end);
         situation.events = std::move(range.events);
@@ -242,7 +244,7 @@ bool AlarmSynchroniser::State::reconcileAndGenerate(AlarmRun& run, ShowItems sho
     if (!read()) {
         return false;
     }
-    const ReconciliationPlan plan = planReconciliation(situation, run.brake);
+    const ReconciliationPlan plan = planReconciliation(situation, byTitle, run.brake);
     noteHeldBack(run, plan);
     const AppliedChanges applied = calendar->apply(plan.changes);
     run.note(applied);
@@ -252,11 +254,11 @@ bool AlarmSynchroniser::State::reconcileAndGenerate(AlarmRun& run, ShowItems sho
     // A refused change would be planned again for ever.
     run.needsAnother = environment.safety.settles && applied.any && !applied.unfinished &&
                        (!planCleanUp(situation.events, situation.scheme).changes.empty() ||
-                        !planReconciliation(situation, run.brake).changes.empty());
+                        !planReconciliation(situation, byTitle, run.brake).changes.empty());
     // A rule that was changed meanwhile counts.
     situation.rules = environment.shows.snapshot();
     const std::vector<AlarmChange> made =
-        planGeneration(situation, madeByRules(*calendar->journal().entries()));
+        planGeneration(situation, byTitle, madeByRules(*calendar->journal().entries()));
     run.note(calendar->apply(made));
     run.isCurrent = run.isCurrent && plan.changes.empty() && made.empty();
     return true;

@@ -37,6 +37,7 @@ class FavoritesSnapshot final : public FavoriteTitles {
     const std::vector<Favorite>& rules() const { return m_rules; }
     bool empty() const override { return m_rules.empty(); }
     bool containsFavoriteNamed(const QString& title) const override { return ruleNamed(title) != nullptr; }
+    bool mayContain(std::uint32_t titleHash) const override { return m_hashes.contains(titleHash); }
     /// The first rule with the title, ignoring case; null when there is none.
     const Favorite* ruleNamed(const QString& title) const;
 
@@ -44,8 +45,8 @@ class FavoritesSnapshot final : public FavoriteTitles {
     std::vector<Favorite> m_rules;
     /// The index of the first rule of each lowercased title.
     QHash<QString, std::size_t> m_byTitle;
-    /// Of the lowercased titles whose characters can be hashed one by one.
-    std::unordered_set<std::size_t> m_hashes;
+    /// titleHash() of each title.
+    std::unordered_set<std::uint32_t> m_hashes;
 };
 
 /// Provides the current favourites from memory. Any thread.

@@ -15,6 +15,7 @@ class ShowsByTitle {
   public:
     /// The shows must outlive the object. Those without a title or a start are left out.
     explicit ShowsByTitle(const ShowItems& shows) {
+        m_shows.reserve(static_cast<qsizetype>(shows.size()));
         for (const ShowItem& show : shows) {
             const TVEntry& entry = *show.entry();
             if (entry.identificator() && entry.dateTime()) {

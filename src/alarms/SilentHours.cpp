@@ -54,8 +54,12 @@ SilentHours::SilentHours(const KeyValueStore& store, const Device& device)
 }
 
 bool SilentHours::mayBeAlarmedAt(Moment moment) const {
-    const auto utc = QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC);
-    return !m_enabled || m_period.mayBeAlarmedAt(minuteOfDay(utc, m_zone));
+    LocalTime local = clock();
+    return mayBeAlarmedAt(moment, local);
+}
+
+bool SilentHours::mayBeAlarmedAt(Moment moment, LocalTime& clock) const {
+    return !m_enabled || m_period.mayBeAlarmedAt(clock.minuteOfDayAt(moment));
 }
 
 void setSilentHoursEnabled(KeyValueStore& store, bool enabled) {

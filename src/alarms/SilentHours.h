@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Moment.h"
+#include "store/LocalTime.h"
 
 #include <QTimeZone>
 
@@ -39,6 +40,9 @@ class SilentHours {
     /// From 00:00 to 07:00 where nothing is set. Only the time of day of a stored date counts, in the zone.
     const SilentPeriod& period() const { return m_period; }
     bool mayBeAlarmedAt(Moment moment) const;
+    /// For many moments, with one clock().
+    bool mayBeAlarmedAt(Moment moment, LocalTime& clock) const;
+    LocalTime clock() const { return LocalTime(m_zone); }
 
   private:
     QTimeZone m_zone;

@@ -89,13 +89,16 @@ bool TVChannel::reloadNeeded(Moment now, std::chrono::seconds automaticUpdateInt
                                                   loaded->time_since_epoch().count(), Qt::UTC)
                                                   .toString(Qt::ISODate)
                                             : u"nothing"_s);
-    if (isLoading) {
-        return false;
-    }
-    if (!loaded || *loaded > now) {
-        return true;
-    }
-    return !m_channel.id.isOwn() && now - automaticUpdateInterval > *loaded;
+    return !isLoading && isDue(loaded, now, automaticUpdateInterval);
+}
+
+bool TVChannel::isSettled(Moment now, std::chrono::seconds automaticUpdateInterval) const {
+    return !loading() && !isDue(timeLoaded(), now, automaticUpdateInterval);
+}
+
+bool TVChannel::isDue(const std::optional<Moment>& loaded, Moment now,
+                      std::chrono::seconds automaticUpdateInterval) const {
+    return !loaded || *loaded > now || (!m_channel.id.isOwn() && now - automaticUpdateInterval > *loaded);
 }
 
 } // namespace guide

@@ -60,9 +60,15 @@ class TVChannel {
     /// Whether the list is missing or older than the interval, or has a load time in the future, which shows
     /// only that a clock was wrong. A list exactly as old as the interval is not due, nor is a channel that
     /// is being loaded. The list of a channel of a source that the user added has no age: its source decides.
+    /// Logs what decides.
     bool reloadNeeded(Moment now, std::chrono::seconds automaticUpdateInterval) const;
+    /// Whether the list is complete: not being loaded and not due.
+    bool isSettled(Moment now, std::chrono::seconds automaticUpdateInterval) const;
 
   private:
+    bool isDue(const std::optional<Moment>& loaded, Moment now,
+               std::chrono::seconds automaticUpdateInterval) const;
+
     const CatalogueChannel m_channel;
     const QString m_listingsPath;
 

@@ -117,7 +117,7 @@ std::vector<AllShows::Show> AllShows::mergedShows(const std::vector<bool>& ofLis
         const ChannelList& list = *m_lists[number];
         for (std::size_t i = 0; i < list.size(); ++i) {
             if (list.endOf(i) > m_endingAfter) {
-                shows.push_back({list.startOf(i), list.endOf(i), &list[i], number});
+                shows.push_back({list.startOf(i), list.endOf(i), &list[i], number, list.titleHashOf(i)});
             }
         }
         borders.push_back(shows.size());

@@ -25,6 +25,8 @@ class AllShows {
         const ShowItem* item;
         /// The index of its list.
         std::uint32_t list;
+        /// As ChannelList::titleHashOf().
+        std::uint32_t titleHash;
     };
 
     /// Of shows with equal starts, those of an earlier list come first. `previous` is the state before this

@@ -1,6 +1,7 @@
 #include "store/ChannelList.h"
 
 #include "store/ShownEnds.h"
+#include "store/TitleHash.h"
 
 #include <algorithm>
 
@@ -9,6 +10,7 @@ namespace guide {
 ChannelList::ChannelList(ShowList shows)
     : m_shows(std::move(shows)) {
     m_times.reserve(m_shows->size());
+    m_titleHashes.reserve(m_shows->size());
     const ShownEnds ends(*m_shows);
     Moment latestEnd = Moment::min();
     for (const ShowItem& show : *m_shows) {
@@ -17,6 +19,7 @@ ChannelList::ChannelList(ShowList shows)
         const Moment end = shownEnd ? *shownEnd : entry.endDateTime().value_or(Moment::min());
         latestEnd = std::max(latestEnd, end);
         m_times.push_back({*show.entry()->dateTime(), end, latestEnd});
+        m_titleHashes.push_back(entry.title() ? titleHash(*entry.title()) : kNoTitleHash);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "store/ShowItem.h"
 
+#include <cstdint>
 #include <limits>
 #include <memory>
 #include <unordered_map>
@@ -9,7 +10,7 @@
 
 namespace guide {
 
-/// The stored list of one channel, with the times that queries need in contiguous memory. Immutable; any
+/// The stored list of one channel, with what queries look at first in contiguous memory. Immutable; any
 /// thread.
 class ChannelList {
   public:
@@ -24,6 +25,8 @@ class ChannelList {
     const ShowItem& operator[](std::size_t index) const { return (*m_shows)[index]; }
     Moment startOf(std::size_t index) const { return m_times[index].start; }
     Moment endOf(std::size_t index) const { return m_times[index].end; }
+    /// titleHash() of the display title; kNoTitleHash without a title.
+    std::uint32_t titleHashOf(std::size_t index) const { return m_titleHashes[index]; }
 
     /// The first `limit` shows that are not over.
     ShowSpan notOver(Moment now, std::size_t limit = kNoLimit) const;
@@ -41,6 +44,7 @@ class ChannelList {
 
     ShowList m_shows;
     std::vector<Times> m_times;
+    std::vector<std::uint32_t> m_titleHashes;
 };
 
 /// The contents of the store.

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <memory>
 
 namespace guide {
@@ -13,6 +14,8 @@ class FavoriteTitles {
     virtual bool empty() const = 0;
     /// Ignores case.
     virtual bool containsFavoriteNamed(const QString& title) const = 0;
+    /// False when none of them has a title with this titleHash().
+    virtual bool mayContain(std::uint32_t titleHash) const = 0;
 };
 
 /// Where the store gets the favourites from. Answers from memory; any thread.

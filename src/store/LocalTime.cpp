@@ -21,9 +21,8 @@ std::chrono::seconds LocalTime::offsetAt(Moment moment) {
         const QDateTime time = QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC);
         const auto from = m_zone.previousTransition(time.addMSecs(1));
         const auto until = m_zone.nextTransition(time);
-        // Where the zone knows no transition, the offset is valid for this moment only.
-        m_from = from.atUtc.isValid() ? momentOf(from.atUtc) : moment;
-        m_until = until.atUtc.isValid() ? momentOf(until.atUtc) : moment + std::chrono::milliseconds(1);
+        m_from = from.atUtc.isValid() ? momentOf(from.atUtc) : Moment::min();
+        m_until = until.atUtc.isValid() ? momentOf(until.atUtc) : Moment::max();
         m_offset = std::chrono::seconds(m_zone.offsetFromUtc(time));
     }
     return m_offset;
@@ -37,10 +36,14 @@ QDate LocalTime::dateAt(Moment moment) {
     return QDate::fromJulianDay(kJulianDayOf1970 + std::chrono::floor<Days>(localSecondsAt(moment)).count());
 }
 
-int LocalTime::hourAt(Moment moment) {
+int LocalTime::minuteOfDayAt(Moment moment) {
     const std::chrono::seconds local = localSecondsAt(moment);
     const std::chrono::seconds inDay = local - std::chrono::floor<Days>(local);
-    return static_cast<int>(std::chrono::floor<std::chrono::hours>(inDay).count());
+    return static_cast<int>(std::chrono::floor<std::chrono::minutes>(inDay).count());
+}
+
+int LocalTime::hourAt(Moment moment) {
+    return minuteOfDayAt(moment) / 60;
 }
 
 } // namespace guide

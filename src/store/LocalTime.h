@@ -21,6 +21,7 @@ class LocalTime {
     explicit LocalTime(const QTimeZone& zone);
 
     QDate dateAt(Moment moment);
+    int minuteOfDayAt(Moment moment);
     /// 0 to 23.
     int hourAt(Moment moment);
     /// Positive when the clock is ahead of UTC.

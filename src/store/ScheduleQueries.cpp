@@ -1,6 +1,7 @@
 #include "store/ScheduleQueries.h"
 
 #include "store/LocalTime.h"
+#include "store/TitleHash.h"
 
 #include <algorithm>
 
@@ -14,7 +15,7 @@ template <class Test>
 ShowItems matchingShows(const AllShows& all, Test test) {
     ShowItems result;
     for (const AllShows::Show& show : all.shows()) {
-        if (test(*show.item)) {
+        if (test(show)) {
             result.push_back(*show.item);
             if (result.size() == kMostShows) {
                 break;
@@ -24,8 +25,12 @@ ShowItems matchingShows(const AllShows& all, Test test) {
     return result;
 }
 
-bool hasFavoriteTitle(const ShowItem& show, const FavoriteTitles& favorites) {
-    const std::optional<QString>& title = show.entry()->title();
+/// Most shows are not looked at: their entries are all over the memory.
+bool hasFavoriteTitle(const AllShows::Show& show, const FavoriteTitles& favorites) {
+    if (show.titleHash != kNoTitleHash && !favorites.mayContain(show.titleHash)) {
+        return false;
+    }
+    const std::optional<QString>& title = show.item->entry()->title();
     return title && favorites.containsFavoriteNamed(*title);
 }
 
@@ -52,8 +57,8 @@ bool isListed(const ShowItem& show, TVListingsCategory selector, Moment now, Loc
 } // namespace
 
 ShowItems showsWithCategory(const AllShows& all, TVListingsCategory category, Moment now) {
-    return matchingShows(all, [&](const ShowItem& show) {
-        return isOfCategory(show, category) && show.entry()->endsAfter(now);
+    return matchingShows(all, [&](const AllShows::Show& show) {
+        return isOfCategory(*show.item, category) && show.item->entry()->endsAfter(now);
     });
 }
 
@@ -63,7 +68,8 @@ ShowItems allShowsWithCategory(const AllShows& all, TVListingsCategory category,
     const TVListingsCategory selector = category == TVListingsCategoryEveningShows
                                             ? TVListingsCategoryEveningShows
                                             : TVListingsCategoryAllShows;
-    return matchingShows(all, [&](const ShowItem& show) { return isListed(show, selector, now, localTime); });
+    return matchingShows(
+        all, [&](const AllShows::Show& show) { return isListed(*show.item, selector, now, localTime); });
 }
 
 std::vector<int> showCounts(const AllShows& all, const ShowList& popular,
@@ -102,8 +108,8 @@ ShowItems favoritesSchedule(const AllShows& all, const FavoriteTitles& favorites
     if (favorites.empty()) {
         return {};
     }
-    return matchingShows(all, [&](const ShowItem& show) {
-        return show.entry()->endsAfter(now) && hasFavoriteTitle(show, favorites);
+    return matchingShows(all, [&](const AllShows::Show& show) {
+        return hasFavoriteTitle(show, favorites) && show.item->entry()->endsAfter(now);
     });
 }
 
@@ -112,9 +118,10 @@ FavoritesToCome favoritesToCome(const AllShows& all, const FavoriteTitles& favor
     if (favorites.empty()) {
         return result;
     }
-    result.shows = matchingShows(all, [&](const ShowItem& show) {
-        return show.entry()->dateTime() > now && hasFavoriteTitle(show, favorites);
+    result.shows = matchingShows(all, [&](const AllShows::Show& show) {
+        return show.start > now && hasFavoriteTitle(show, favorites);
     });
+    result.byDigest.reserve(result.shows.size());
     for (const ShowItem& show : result.shows) {
         if (const std::optional<ShowDigest> digest = show.entry()->digest()) {
             result.byDigest.insert_or_assign(*digest, show);
@@ -124,8 +131,10 @@ FavoritesToCome favoritesToCome(const AllShows& all, const FavoriteTitles& favor
 }
 
 ShowItems showScheduleForTitle(const AllShows& all, const QString& title, Moment now) {
-    return matchingShows(all, [&](const ShowItem& show) {
-        return show.entry()->title() == title && !show.entry()->overAt(now);
+    const std::uint32_t hash = titleHash(title);
+    return matchingShows(all, [&](const AllShows::Show& show) {
+        return show.titleHash == hash && show.item->entry()->title() == title &&
+               !show.item->entry()->overAt(now);
     });
 }
 

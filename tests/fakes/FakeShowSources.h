@@ -41,7 +41,7 @@ struct FakePopularShows final : PopularShows {
 
 struct FakeAlarms final : AlarmsSource, AlarmSynchronisation {
     std::shared_ptr<const AlarmsSnapshot> snapshot() const override {
-        return std::make_shared<const AlarmsSnapshot>(events);
+        return source ? source->snapshot() : std::make_shared<const AlarmsSnapshot>(events);
     }
     void setSynchronized(bool synchronized) override { isSynchronized = synchronized; }
     void syncAlarms() override { ++syncs; }
@@ -50,6 +50,8 @@ struct FakeAlarms final : AlarmsSource, AlarmSynchronisation {
     void commit() override { ++commits; }
 
     AlarmsSnapshot::MinutesByShow events;
+    /// Takes the place of the events.
+    const AlarmsSource* source = nullptr;
     std::atomic<bool> isSynchronized = true;
     std::atomic<int> syncs = 0;
     int commits = 0;

@@ -190,11 +190,17 @@ struct WorldArchive final : RecordedShowsSource {
 struct WorldAlerts final : AlertsSchedule {
     explicit WorldAlerts(DispatchQueue& ownMainQueue)
         : mainQueue(ownMainQueue) {}
-    void alertsScheduleWithPriority(QueuePriority, MainBlock<ShowSpan> mainBlock) override {
-        mainBlock.post(mainQueue, shows);
+    void alertsScheduleWithPriority(QueuePriority priority, MainBlock<ShowSpan> mainBlock) override {
+        if (schedule) {
+            schedule->alertsScheduleWithPriority(priority, std::move(mainBlock));
+        } else {
+            mainBlock.post(mainQueue, shows);
+        }
     }
     DispatchQueue& mainQueue;
     ShowSpan shows;
+    /// Takes the place of the shows.
+    AlertsSchedule* schedule = nullptr;
 };
 
 /// Keeps the latest questions, so that a test can answer them.
