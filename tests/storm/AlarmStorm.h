@@ -43,6 +43,8 @@ class AlarmStorm {
     void synchronise();
     void finishRun();
     void expectRight();
+    void expectListed(const std::vector<CalendarEvent>& events);
+    void expectAdditions(const std::vector<CalendarEvent>& events);
     void expectNothingToDo();
 
     std::vector<CalendarEvent> events();
@@ -67,6 +69,8 @@ class AlarmStorm {
     std::map<QByteArray, QByteArray> m_foreign;
     /// UIDs of events whose time, title or channel a person changed.
     std::set<QByteArray> m_edited;
+    /// UIDs of events to which a person added what the guide does not know.
+    std::set<QByteArray> m_extended;
     int m_made = 0;
     std::map<QString, int> m_tally;
 };

@@ -36,5 +36,12 @@ TEST(AlarmStormTest, Local) {
     storm(calendar, 60);
 }
 
+TEST(AlarmStormTest, Remote) {
+    constexpr int kRuns = 25;
+    // A refused password takes half a minute.
+    StormServer calendar(setting("QUELLIN_STORM_RUNS", kRuns) > kRuns);
+    storm(calendar, kRuns);
+}
+
 } // namespace
 } // namespace guide::test

@@ -2,6 +2,8 @@
 
 #include "StormCalendar.h"
 
+#include <set>
+
 namespace guide::test {
 
 /// The process of the guide ends.
@@ -31,6 +33,8 @@ class FaultyStore final : public EventStore {
     /// Without these faults.
     EventStore& store() { return *m_store; }
     int changes() const { return m_changes; }
+    /// Whether the guide may have removed the event.
+    bool hasRemoved(const QString& identifier) const { return m_removed.contains(identifier); }
     /// What other programs do between the guide's reading and its writing.
     std::function<void()> beforeBatch;
 
@@ -58,6 +62,11 @@ class FaultyStore final : public EventStore {
             meanwhile();
         }
         m_changes += static_cast<int>(changes.size());
+        for (const EventChange& change : changes) {
+            if (const auto* removal = std::get_if<RemoveEvent>(&change)) {
+                m_removed.insert(removal->event.identifier);
+            }
+        }
         if (std::exchange(m_kills, false)) {
             m_store->apply({changes.begin(), changes.begin() + m_random.below(int(changes.size()) + 1)});
             throw Killed{};
@@ -99,6 +108,7 @@ class FaultyStore final : public EventStore {
     int m_refusals = 0;
     int m_lostAnswers = 0;
     int m_changes = 0;
+    std::set<QString> m_removed;
 };
 
 } // namespace guide::test

@@ -43,8 +43,9 @@ class StormCalendar {
     virtual CalendarUnderTest& test() = 0;
     /// Starts a fault, which may be over soon.
     virtual void fail(StormRandom& random) = 0;
-    /// Ends what fail() started, and waits until all that was written has arrived.
-    virtual void recover() = 0;
+    /// Ends what fail() started, and waits until all that was written has arrived. Whether the guide may
+    /// leave the calendar alone for a while.
+    virtual bool recover() = 0;
 };
 
 class StormFolder final : public StormCalendar {
@@ -69,13 +70,14 @@ class StormFolder final : public StormCalendar {
             EXPECT_TRUE(m_isAway);
         }
     }
-    void recover() override {
+    bool recover() override {
         ::setrlimit(RLIMIT_FSIZE, &m_unlimited);
         if (m_isAway) {
             QDir(folder()).removeRecursively();
             EXPECT_TRUE(QDir().rename(away(), folder()));
             m_isAway = false;
         }
+        return false;
     }
 
   private:
@@ -91,7 +93,10 @@ class StormDesktop final : public StormCalendar {
   public:
     CalendarUnderTest& test() override { return m_test; }
     void fail(StormRandom&) override { m_test.killService(); }
-    void recover() override { m_test.other.close(); }
+    bool recover() override {
+        m_test.other.close();
+        return false;
+    }
 
   private:
     DesktopCalendar m_test{u"system-calendar"_s, u"guide"_s};
@@ -99,12 +104,16 @@ class StormDesktop final : public StormCalendar {
 
 class StormServer final : public StormCalendar {
   public:
-    StormServer() { EXPECT_TRUE(writeFile(m_rights, kReadOnly)); }
+    /// A server that lets nobody in makes the service wait for a password, until calls have taken too long.
+    explicit StormServer(bool isLockedAtTimes)
+        : m_isLockedAtTimes(isLockedAtTimes) {
+        EXPECT_TRUE(writeFile(m_rights, kReadOnly));
+    }
 
     CalendarUnderTest& test() override { return m_test; }
     void fail(StormRandom& random) override {
         m_hasFailed = true;
-        switch (random.below(4)) {
+        switch (random.below(m_isLockedAtTimes ? 5 : 4)) {
         case 0:
             m_test.server.stop();
             break;
@@ -114,12 +123,17 @@ class StormServer final : public StormCalendar {
             break;
         case 2:
             restart({u"--rights-type=from_file"_s, u"--rights-file="_s + m_rights});
+            m_test.desktop.killService();
+            break;
+        case 3:
+            m_test.desktop.killService();
             break;
         default:
-            m_test.desktop.killService();
+            restart({u"--auth-type=http_x_remote_user"_s});
+            m_isLocked = true;
         }
     }
-    void recover() override {
+    bool recover() override {
         if (std::exchange(m_hasFailed, false)) {
             restart({});
             m_test.desktop.killService();
@@ -128,11 +142,14 @@ class StormServer final : public StormCalendar {
         const std::unique_ptr<EventStore> store = m_test.secondStore();
         EXPECT_TRUE(QTest::qWaitFor(
             [&] {
+                // Nobody enters a password here: the calendar is tried again when somebody opens it.
+                m_test.desktop.other.open();
                 store->refreshSources();
                 return isSettled(*store);
             },
             60'000))
             << "the calendar and its server still differ: " << m_difference.toStdString();
+        return std::exchange(m_isLocked, false);
     }
 
   private:
@@ -155,8 +172,9 @@ class StormServer final : public StormCalendar {
         const QDir folder(m_test.server.folder());
         for (const QString& name : folder.entryList({u"*.ics"_s}, QDir::Files)) {
             const QByteArray text = contentOf(folder.filePath(name));
+            // Empty when it was removed meanwhile.
             const qsizetype uid = text.indexOf("\nUID:") + 5;
-            texts[text.sliced(uid, text.indexOf('\r', uid) - uid)] = text;
+            texts[text.mid(uid, text.indexOf('\r', uid) - uid)] = text;
         }
         const EventRange range =
             store.eventsBetween(Moment{}, AlarmWorld::kMidnight + std::chrono::days(4000), *calendar);
@@ -176,7 +194,9 @@ class StormServer final : public StormCalendar {
     const QTemporaryDir m_folder;
     const QString m_rights = m_folder.filePath(u"rights"_s);
     RemoteCalendar m_test{{}, u"guide"_s};
+    const bool m_isLockedAtTimes;
     bool m_hasFailed = false;
+    bool m_isLocked = false;
     QString m_difference;
 };
 
