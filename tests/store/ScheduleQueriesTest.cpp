@@ -38,6 +38,18 @@ TEST(ScheduleQueriesTest, TheEveningStartsAtNineteenLocalTime) {
                                 {moment("2026-04-05T08:30:00Z"), end, u"winter 19:00"_s}});
     EXPECT_EQ(titles(allShowsWithCategory(all, TVListingsCategoryEveningShows, kNow, zone)),
               (Titles{"summer 19:00", "summer 23:59", "winter 19:00"}));
+    // Its clocks were changed last in 1951.
+    EXPECT_EQ(
+        titles(allShowsWithCategory(all, TVListingsCategoryEveningShows, kNow, QTimeZone("Asia/Tokyo"))),
+        (Titles{"summer 23:59", "summer 0:00"}));
+}
+
+TEST(ScheduleQueriesTest, FindsTitlesWhoseLengthDependsOnTheirCase) {
+    const AllShows all = allOf({show(1, 2, u"\u0130stanbul"_s), show(2, 3, u"i\u0307STANBUL"_s),
+                                show(3, 4, u"\U00010400"_s), show(4, 5, u"Istanbul"_s)});
+    const FavoritesSnapshot favorites({{u"\u0130STANBUL"_s, {}, {}, {}}, {u"\U00010428"_s, {}, {}, {}}});
+    EXPECT_EQ(favoritesSchedule(all, favorites, kNow).size(), 3u);
+    EXPECT_EQ(showScheduleForTitle(all, u"\u0130stanbul"_s, kNow).size(), 1u);
 }
 
 TEST(ScheduleQueriesTest, EndedAndOverAreDifferent) {

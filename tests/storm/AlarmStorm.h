@@ -27,6 +27,10 @@ class AlarmStorm {
         bool isReplay;
     };
 
+    /// What a person adds to an event.
+    static constexpr const char* kAdditions[] = {"X-TICKETS:in the drawer",
+                                                 "ATTENDEE:mailto:anna@example.com"};
+
     void open();
     void kill();
     void recover();
