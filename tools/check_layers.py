@@ -15,12 +15,13 @@ ALLOWED = {
     "sources": "core platform text",
     "parsers": "core platform sources store text",
     "alarms": "core platform sources store text",
-    "screens": "alarms core platform sources store text",
+    "cloud": "alarms core platform store",
+    "screens": "alarms cloud core platform sources store text",
     "ui": "core platform screens store text",
     "demo": "core platform sources store text",
-    "app": "alarms core demo parsers platform platform/linux platform/memory screens sources store text ui",
+    "app": "alarms cloud core demo parsers platform platform/linux platform/memory screens sources store text ui",
     "agent": "platform platform/linux text",
-    "probe": "alarms core parsers platform platform/linux platform/memory sources store text",
+    "probe": "alarms cloud core parsers platform platform/linux platform/memory sources store text",
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"')
 

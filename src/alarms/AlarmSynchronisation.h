@@ -9,6 +9,8 @@ class AlarmSynchronisation {
     /// Sets or clears the persistent mark that the calendar agrees with the listings and the rules. Any
     /// thread.
     virtual void setSynchronized(bool synchronized) = 0;
+    /// Whether the mark is set. Any thread.
+    virtual bool isSynchronized() const = 0;
     /// Starts a run, which does little when the mark is set. Main queue.
     virtual void syncAlarms() = 0;
     /// Whether a run is under way. Main queue.

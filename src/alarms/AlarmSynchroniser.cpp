@@ -294,6 +294,10 @@ void AlarmSynchroniser::setSynchronized(bool synchronized) {
     m_state->calendar->mark().set(synchronized);
 }
 
+bool AlarmSynchroniser::isSynchronized() const {
+    return m_state->calendar->mark().isSet();
+}
+
 void AlarmSynchroniser::syncAlarms() {
     m_state->ask(!m_state->calendar->mark().isSet(), true);
 }

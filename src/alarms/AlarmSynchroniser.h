@@ -20,6 +20,7 @@ class AlarmSynchroniser final : public AlarmSynchronisation, public AlertsSchedu
     explicit AlarmSynchroniser(std::shared_ptr<AlarmCalendar> calendar);
 
     void setSynchronized(bool synchronized) override;
+    bool isSynchronized() const override;
     void syncAlarms() override;
     bool isRunning() const override;
     /// Calls the block once no run is under way: at once, or on the main queue after the run and those that

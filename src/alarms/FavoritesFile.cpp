@@ -4,6 +4,8 @@
 
 #include <QCborArray>
 #include <QCborMap>
+#include <QDateTime>
+#include <QDebug>
 
 #include <utility>
 
@@ -53,6 +55,33 @@ std::optional<Favorite> ruleOf(const QCborValue& value) {
     return rule;
 }
 
+std::optional<Favorite> ruleOfOlderForm(const QCborArray& array) {
+    const QCborValue date = array.at(2);
+    if (!array.at(0).isString() || !array.at(1).isInteger() || !date.isDateTime() ||
+        !std::in_range<int>(array.at(1).toInteger())) {
+        return std::nullopt;
+    }
+    Favorite rule{.identificator = array.at(0).toString(),
+                  .minutes = static_cast<int>(array.at(1).toInteger()),
+                  .date = Moment(std::chrono::milliseconds(date.toDateTime().toMSecsSinceEpoch())),
+                  .previouslyShown = {}};
+    if (*rule.minutes < 0) {
+        rule.minutes.reset();
+    }
+    if (const QCborValue replays = array.at(3); replays.isBool() || replays.isInteger()) {
+        rule.previouslyShown = replays.isBool() ? replays.toBool() : replays.toInteger() != 0;
+    }
+    return rule;
+}
+
+std::optional<Favorite> ruleOfElement(const QCborValue& element) {
+    if (element.isArray()) {
+        return ruleOfOlderForm(element.toArray());
+    }
+    const std::optional<QCborValue> root = unarchivedRoot(element.toByteArray());
+    return root ? ruleOf(*root) : std::nullopt;
+}
+
 } // namespace
 
 QByteArray favoritesFileContent(const std::vector<Favorite>& rules) {
@@ -95,11 +124,15 @@ std::optional<std::vector<Favorite>> favoritesOfMirror(const QCborValue& value) 
     }
     const QCborArray array = value.toArray();
     std::vector<Favorite> rules;
+    rules.reserve(static_cast<std::size_t>(array.size()));
     for (const auto& element : array) {
-        const std::optional<QCborValue> root = unarchivedRoot(element.toByteArray());
-        if (std::optional<Favorite> rule = root ? ruleOf(*root) : std::nullopt) {
+        if (std::optional<Favorite> rule = ruleOfElement(element)) {
             rules.push_back(*std::move(rule));
         }
+    }
+    if (const auto unread = array.size() - std::ssize(rules); unread > 0) {
+        qWarning("Favorites: %lld of %lld rules of another device cannot be read", qlonglong(unread),
+                 qlonglong(array.size()));
     }
     return rules;
 }

@@ -17,8 +17,8 @@ std::optional<std::vector<Favorite>> favoritesOfFile(const QByteArray& content);
 
 /// The form of the rules in the key-value store: an array with an archive of each rule.
 QCborValue favoritesMirror(const std::vector<Favorite>& rules);
-/// The reverse. An element that is not the archive of a rule is left out; nothing when the value is not an
-/// array.
+/// The reverse; nothing when the value is not an array. An element may also have the older form, an array of
+/// title, lead time, date and perhaps whether only replays count. Any other element is left out and logged.
 std::optional<std::vector<Favorite>> favoritesOfMirror(const QCborValue& value);
 
 } // namespace guide

@@ -5,6 +5,9 @@
 
 #include <QDateTime>
 
+#include <algorithm>
+#include <array>
+
 namespace guide {
 
 using namespace Qt::StringLiterals;
@@ -15,6 +18,7 @@ constexpr QLatin1StringView kEnabledKey("noAlarmsSchedule");
 constexpr QLatin1StringView kFromKey("noAlarmsSchedule.0");
 constexpr QLatin1StringView kToKey("noAlarmsSchedule.1");
 constexpr QLatin1StringView kAcrossMidnightKey("noAlarmsSchedule.acrossMidnight");
+constexpr std::array kKeys{kEnabledKey, kFromKey, kToKey, kAcrossMidnightKey};
 
 bool storedSwitch(const KeyValueStore& store, const QString& key) {
     const auto value = store.valueForKey(key);
@@ -76,6 +80,17 @@ void setSilentHoursTo(KeyValueStore& store, Moment to) {
 
 void setSilentHoursAcrossMidnight(KeyValueStore& store, bool acrossMidnight) {
     store.setValue(kAcrossMidnightKey, acrossMidnight);
+}
+
+bool hasSilentHours(const KeyValueStore& store) {
+    return std::ranges::any_of(kKeys,
+                               [&store](const QString& key) { return store.valueForKey(key).has_value(); });
+}
+
+void removeSilentHours(KeyValueStore& store) {
+    for (const QLatin1StringView key : kKeys) {
+        store.removeKey(key);
+    }
 }
 
 bool isSilentHoursAcrossMidnightSet(const KeyValueStore& store) {

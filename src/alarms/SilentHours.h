@@ -56,6 +56,9 @@ void setSilentHoursEnabled(KeyValueStore& store, bool enabled);
 void setSilentHoursFrom(KeyValueStore& store, Moment from);
 void setSilentHoursTo(KeyValueStore& store, Moment to);
 void setSilentHoursAcrossMidnight(KeyValueStore& store, bool acrossMidnight);
+/// Whether any of the settings is stored.
+bool hasSilentHours(const KeyValueStore& store);
+void removeSilentHours(KeyValueStore& store);
 /// Whether it was ever switched on or off.
 bool isSilentHoursAcrossMidnightSet(const KeyValueStore& store);
 

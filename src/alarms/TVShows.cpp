@@ -32,17 +32,32 @@ void TVShows::read() {
     const MirroredFile::Found found =
         m_file.read([&take](const QByteArray& content) { return take(favoritesOfFile(content)); },
                     [&take](const QCborValue& copy) { return take(favoritesOfMirror(copy)); });
-    if (found == MirroredFile::Found::Copy || (found == MirroredFile::Found::File && !m_file.hasCopy())) {
-        write();
+    if (found == MirroredFile::Found::Copy ||
+        (found == MirroredFile::Found::File && (!m_file.hasCopy() || m_file.wasRefused()))) {
+        m_file.write(content());
     }
 }
 
 // Under the guard.
-void TVShows::write() {
-    m_file.write([written = m_current] {
+std::function<MirroredFile::Content()> TVShows::content() const {
+    return [written = m_current] {
         return MirroredFile::Content{favoritesFileContent(written->rules()),
                                      favoritesMirror(written->rules())};
-    });
+    };
+}
+
+// Under the guard. False when the rules are equal.
+bool TVShows::replace(std::vector<Favorite> rules) {
+    if (!m_current) {
+        // Finds out whether there is a damaged file to keep.
+        read();
+    }
+    const bool modified = !m_current || m_current->rules() != rules;
+    qInfo("newFavorites: modified=%s", modified ? "true" : "false");
+    if (modified) {
+        m_current = std::make_shared<const FavoritesSnapshot>(std::move(rules));
+    }
+    return modified;
 }
 
 std::optional<std::vector<Favorite>> TVShows::favorites() {
@@ -53,19 +68,22 @@ std::optional<std::vector<Favorite>> TVShows::favorites() {
     return m_current ? std::optional(m_current->rules()) : std::nullopt;
 }
 
-void TVShows::setFavorites(std::vector<Favorite> rules) {
+void TVShows::setFavorites(std::vector<Favorite> rules, Block before) {
     const std::lock_guard lock(m_guard);
-    if (!m_current) {
-        // Finds out whether there is a damaged file to keep.
-        read();
+    if (replace(std::move(rules))) {
+        m_file.beforeWriting(std::move(before));
+        m_file.write(content());
     }
-    const bool modified = !m_current || m_current->rules() != rules;
-    qInfo("newFavorites: modified=%s", modified ? "true" : "false");
-    if (!modified) {
+}
+
+void TVShows::takeFavorites(std::vector<Favorite> rules, const QCborValue& stored, Block before) {
+    const std::lock_guard lock(m_guard);
+    if (replace(std::move(rules))) {
+        m_file.beforeWriting(std::move(before));
+    } else if (favoritesMirror(m_current->rules()) == stored) {
         return;
     }
-    m_current = std::make_shared<const FavoritesSnapshot>(std::move(rules));
-    write();
+    m_file.writeTaken(content(), stored);
 }
 
 bool TVShows::setDate(const QString& title, Moment date) {

@@ -28,8 +28,17 @@ class TVShows final : public FavoritesSource {
     /// call tries again. Any thread.
     std::optional<std::vector<Favorite>> favorites();
 
-    /// Replaces the rules. An equal list writes nothing. Any thread.
-    void setFavorites(std::vector<Favorite> rules);
+    /// Replaces the rules. An equal list writes nothing. `before` runs in the background before the new ones
+    /// replace the file; it may be empty. Any thread.
+    void setFavorites(std::vector<Favorite> rules, Block before = {});
+
+    /// Replaces the rules by those that another device stored as `stored`. The key-value store gets them in
+    /// the form of this device, unless that is equal or another device has stored others meanwhile. `before`
+    /// runs in the background before rules that differ replace the file. Any thread.
+    void takeFavorites(std::vector<Favorite> rules, const QCborValue& stored, Block before);
+
+    /// Whether rules that were set here have not reached the key-value store yet. Any thread.
+    bool hasUnshared() const { return m_file.hasUnshared(); }
 
     /// Changes the date of the first rule of a title that was read or set so far; false when there is none.
     /// A date alone is not worth writing: it is written with the next change of the rules. Any thread.
@@ -51,7 +60,8 @@ class TVShows final : public FavoritesSource {
     using Snapshot = std::shared_ptr<const FavoritesSnapshot>;
 
     void read();
-    void write();
+    bool replace(std::vector<Favorite> rules);
+    std::function<MirroredFile::Content()> content() const;
 
     MirroredFile m_file;
     const Snapshot m_none = std::make_shared<const FavoritesSnapshot>();

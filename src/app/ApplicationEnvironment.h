@@ -17,7 +17,9 @@
 #include "platform/MediaPlayer.h"
 #include "platform/MediaSession.h"
 #include "platform/NetworkWatch.h"
+#include "platform/OtherDevices.h"
 #include "platform/ProgramRunner.h"
+#include "platform/RecordStore.h"
 #include "platform/SecretStore.h"
 #include "platform/UserDefaults.h"
 #include "platform/calendar/EventStore.h"
@@ -47,6 +49,10 @@ struct ApplicationEnvironment {
     DispatchQueues& queues;
     UserDefaults& userDefaults;
     KeyValueStore& keyValueStore;
+    /// Null when no counters are shared with other users.
+    RecordStore* records = nullptr;
+    /// Null when nothing is known of the user's other devices.
+    const OtherDevices* otherDevices = nullptr;
     BackgroundTasks& backgroundTasks;
     const ApplicationStateSource& applicationState;
     HTTPClient& httpClient;

@@ -16,13 +16,24 @@ void GuideAlarms::start(AlarmsEnvironment environment,
             heldBack(result.heldBack);
         }
     };
-    const std::shared_ptr<AlarmCalendar> calendar = AlarmCalendar::make(std::move(environment));
+    m_calendar = AlarmCalendar::make(std::move(environment));
+    const std::shared_ptr<AlarmCalendar>& calendar = m_calendar;
     m_synchroniser.emplace(calendar);
     m_operations.emplace(calendar, *m_synchroniser);
     m_service.emplace(calendar, *m_operations, *m_synchroniser);
     m_eventStore->setCalendarsChanged([this, &mainQueue = calendar->mainQueue()] {
         m_synchroniser->calendarsChanged();
         mainQueue.async([this] { m_synchroniser->syncAlarms(); });
+    });
+}
+
+void GuideAlarms::afterChanges(Block block) {
+    if (!m_calendar) {
+        block();
+        return;
+    }
+    m_calendar->queue().async([calendar = m_calendar, block = std::move(block)]() mutable {
+        calendar->mainQueue().async(std::move(block));
     });
 }
 

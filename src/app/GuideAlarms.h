@@ -37,6 +37,13 @@ class GuideAlarms final : public AlarmsSource,
         }
     }
 
+    /// Calls the block on the main queue after the changes of the calendar that were asked for before.
+    void afterChanges(Block block);
+    /// The events of the guide as last read; null on a device without calendars.
+    std::shared_ptr<const KnownEvents> knownEvents() const {
+        return m_calendar ? m_calendar->knownEvents() : nullptr;
+    }
+
     /// Null before the start.
     CalendarActions* calendarActions() { return m_service ? &*m_service : nullptr; }
     AlarmExplanations* explanations() { return m_service ? &*m_service : nullptr; }
@@ -49,6 +56,9 @@ class GuideAlarms final : public AlarmsSource,
         return m_synchroniser ? m_synchroniser->snapshot() : m_none.snapshot();
     }
     void setSynchronized(bool synchronized) override { runs().setSynchronized(synchronized); }
+    bool isSynchronized() const override {
+        return m_synchroniser ? m_synchroniser->isSynchronized() : m_none.isSynchronized();
+    }
     void syncAlarms() override { runs().syncAlarms(); }
     bool isRunning() const override { return m_synchroniser && m_synchroniser->isRunning(); }
     void commit() override { runs().commit(); }
@@ -86,6 +96,7 @@ class GuideAlarms final : public AlarmsSource,
     NoAlarms m_none;
     NoAlarmActions m_noActions;
     EventStore* m_eventStore = nullptr;
+    std::shared_ptr<AlarmCalendar> m_calendar;
     std::optional<AlarmSynchroniser> m_synchroniser;
     std::optional<AlarmOperations> m_operations;
     std::optional<AlarmService> m_service;

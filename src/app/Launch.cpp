@@ -42,10 +42,12 @@ bool QuellinGuideAppDelegate::didFinishLaunching(const std::function<void(TabBar
     makeSelection();
     // Runs after the launch, when the store exists.
     onMainQueue(&QuellinGuideAppDelegate::cleanUpSelection);
+    makeCounters();
     makeFavorites();
     // Starts reading the listing files.
     makeListings();
     makeAlarms();
+    makeCloud();
     makeUpdateCycle();
     makeOwnSources();
     makeRetries();
@@ -130,7 +132,7 @@ void QuellinGuideAppDelegate::makeFavorites() {
         .shows = *m_shows,
         .alarmActions = m_alarms,
         .alarms = m_alarms,
-        .counters = m_showCounters,
+        .counters = *m_showCounters,
         .favoritesUpdated =
             [this, alive = std::weak_ptr(m_alive)] {
                 if (!alive.expired() && m_screens) {
@@ -151,7 +153,7 @@ void QuellinGuideAppDelegate::makeListings() {
         .channels = *m_channels,
         .alphabet = m_alphabet,
         .favorites = *m_shows,
-        .popularShows = m_popularShows,
+        .popularShows = *m_popularShows,
         .observer = m_alarmUpdater,
         .scheme = m_environment.scheme,
         .showCount = [this] { return m_showCount.load(); },
@@ -185,7 +187,7 @@ void QuellinGuideAppDelegate::makeAlarms() {
             .channels = *m_channels,
             .shows = *m_shows,
             .listings = *m_listings,
-            .counters = m_showCounters,
+            .counters = *m_showCounters,
             .scheme = m_environment.scheme,
             .automaticUpdateInterval = [this] { return m_settings.automaticUpdateInterval(); },
             .notificationsSynched = whileScreensExist(&QuellinGuideAppDelegate::notificationsSynched),
@@ -379,7 +381,7 @@ void QuellinGuideAppDelegate::makeScreens() {
         .alarmActions = m_alarms,
         .favoriteActions = *m_favoriteOperations,
         .recordedShows = *m_recordedShows,
-        .popularShows = m_popularShows,
+        .popularShows = *m_popularShows,
         .pictures = *m_pictures,
         .pictureCache = m_pictureCache,
         .settings = *this,
@@ -407,6 +409,8 @@ void QuellinGuideAppDelegate::makeScreens() {
         .alarmExplanations = m_alarms.explanations(),
         .alarmRinging = m_environment.alarmRinging,
         .backgroundUpdates = m_environment.backgroundUpdates,
+        .userData = m_userData.get(),
+        .otherDevices = m_environment.otherDevices,
     });
     m_tabBarController = makeGuideTabs(m_screenEnvironment);
     m_selectionEditor = std::make_shared<SelectionEditor>(m_screenEnvironment, *m_tabBarController);

@@ -16,7 +16,7 @@ void QuellinGuideAppDelegate::applicationDidBecomeActive() {
     detectAlphabet();
     readSettings();
     m_environment.promotion.prepareInterstitialWhenDue();
-    m_cloud.cloudDidChangeExternally();
+    m_cloudSync->cloudDidChangeExternally({});
     m_screens->applicationDidBecomeActive();
     if (m_playback) {
         m_playback->reloadShows();

@@ -4,9 +4,8 @@
 #include "alarms/AlarmSynchronisation.h"
 #include "alarms/AlertsSchedule.h"
 #include "alarms/PendingAlarms.h"
-#include "alarms/ShowCounters.h"
 #include "platform/KeyValueStore.h"
-#include "store/PopularShows.h"
+#include "platform/RecordStore.h"
 
 #include <QString>
 
@@ -16,7 +15,7 @@
 
 namespace guide {
 
-// Implementations for a guide without alarms, popular shows and other devices: all of them are empty.
+// Implementations for a guide without alarms and without other users: all of them are empty.
 
 /// No show has an alarm, so there is nothing to synchronise.
 class NoAlarms final : public AlarmsSource, public AlarmSynchronisation, public AlertsSchedule {
@@ -26,6 +25,7 @@ class NoAlarms final : public AlarmsSource, public AlarmSynchronisation, public 
 
     std::shared_ptr<const AlarmsSnapshot> snapshot() const override { return m_none; }
     void setSynchronized(bool) override {}
+    bool isSynchronized() const override { return true; }
     void syncAlarms() override {}
     bool isRunning() const override { return false; }
     void commit() override {}
@@ -60,34 +60,16 @@ class NoAlarmActions final : public AlarmActions {
     const KeyValueStore& m_keyValueStore;
 };
 
-/// No show is known to be popular.
-class NoPopularShows final : public PopularShows {
+/// Nobody shares counters with this user.
+class NoRecordStore final : public RecordStore {
   public:
-    ShowList popularShows() const override { return nullptr; }
-    bool contains(const ShowItem&) const override { return false; }
-    void refresh() override {}
-};
-
-/// There is no public database.
-class NoShowCounters final : public ShowCounters {
-  public:
-    void incrementCounterByAmount(int, const QString&) override {}
-    void countAddedFavorite(const QString&) override {}
-    void countRemovedFavorite(const QString&) override {}
-};
-
-/// The settings and lists that the user's other devices share.
-class CloudValues {
-  public:
-    virtual ~CloudValues() = default;
-    /// Applies changes made on other devices. Main queue.
-    virtual void cloudDidChangeExternally() = 0;
-};
-
-/// There are no other devices.
-class NoCloudValues final : public CloudValues {
-  public:
-    void cloudDidChangeExternally() override {}
+    std::optional<CounterRecord> counter(const QString&) override { return std::nullopt; }
+    bool setCounter(const QString&, std::int64_t) override { return true; }
+    bool incrementCounter(const QString&, std::int64_t, const CounterRule&) override { return true; }
+    bool removeCounters(const std::vector<QString>&) override { return true; }
+    std::optional<std::vector<CounterRecord>> countersByModification(std::size_t) override {
+        return std::nullopt;
+    }
 };
 
 } // namespace guide

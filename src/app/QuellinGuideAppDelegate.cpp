@@ -110,6 +110,7 @@ bool QuellinGuideAppDelegate::shutDown(std::chrono::milliseconds atMost) {
     if (m_environment.networkWatch) {
         m_environment.networkWatch->watch(nullptr);
     }
+    m_environment.keyValueStore.setObserver(nullptr);
     m_retries.reset();
     m_playback.reset();
     m_selectionEditor.reset();

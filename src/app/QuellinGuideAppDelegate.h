@@ -1,6 +1,7 @@
 #pragma once
 
 #include "alarms/FavoriteOperations.h"
+#include "alarms/RecordCounters.h"
 #include "alarms/TVShows.h"
 #include "app/AlarmUpdater.h"
 #include "app/ApplicationEnvironment.h"
@@ -15,6 +16,7 @@
 #include "app/UpdateCycle.h"
 #include "app/WebShowLookup.h"
 #include "app/own/OwnSourceService.h"
+#include "cloud/UserData.h"
 #include "core/Catalogue.h"
 #include "core/RemoteHostAlert.h"
 #include "core/Settings.h"
@@ -33,6 +35,7 @@
 #include "sources/PictureFetcher.h"
 #include "sources/SourceHealthRecords.h"
 #include "sources/own/ChannelIconFetcher.h"
+#include "store/RecordPopularShows.h"
 #include "store/TVListings.h"
 #include "text/display/Alphabet.h"
 
@@ -53,6 +56,7 @@ class SelectionEditor;
 /// The root of ownership: creates the catalogue, the store, the update cycle and the screens, connects them
 /// and forwards the device's events. Main queue.
 class QuellinGuideAppDelegate final : public LifeCycleObserver,
+                                      private KeyValueStoreObserver,
                                       private ScreenSettings,
                                       private ListingsUpdates,
                                       private AppNavigation,
@@ -155,6 +159,13 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void presentAlert(const QString& title, const QString& message, Block okPressed) override;
     void moviePlayerPlaybackDidFinish() override;
 
+    // KeyValueStoreObserver
+    void valuesChangedExternally(const QStringList& keys) override;
+    void takeOwnSources();
+    /// Another device or the user has replaced the selection as a whole.
+    void selectionReplaced();
+    void tellFavoritesEmptied(const std::vector<Favorite>& before);
+
     // The steps of the launch.
     void makeSources();
     void makeCatalogue();
@@ -164,6 +175,8 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void makeFavorites();
     void makeListings();
     void makeAlarms();
+    void makeCounters();
+    void makeCloud();
     void makeUpdateCycle();
     void makeOwnSources();
     /// Asks for the icons that the channels of the user's sources have now.
@@ -218,11 +231,9 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     GuideAlarms m_alarms;
     /// As last told to what rings the alarms.
     std::optional<QStringList> m_playableChannels;
-    NoShowCounters m_showCounters;
     AlarmUpdater m_alarmUpdater;
-    NoPopularShows m_popularShows;
     ShowPictureCache m_pictureCache;
-    NoCloudValues m_cloud;
+    NoRecordStore m_noRecords;
 
     std::unique_ptr<RemoteHostAlert> m_remoteHostAlert;
     std::unique_ptr<NetworkActivity> m_networkActivity;
@@ -240,8 +251,13 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     std::unique_ptr<OwnSources> m_ownSources;
     std::unique_ptr<TVChannels> m_channels;
     std::unique_ptr<TVShows> m_shows;
+    std::unique_ptr<RecordCounters> m_showCounters;
     std::unique_ptr<FavoriteOperations> m_favoriteOperations;
+    std::unique_ptr<RecordPopularShows> m_popularShows;
     std::unique_ptr<TVListings> m_listings;
+    std::unique_ptr<ReplacedLists> m_replacedLists;
+    std::unique_ptr<CloudSync> m_cloudSync;
+    std::unique_ptr<UserData> m_userData;
     std::unique_ptr<ListDriver> m_listDriver;
     std::unique_ptr<SourceHealthRecords> m_sourceHealth;
     std::unique_ptr<UpdateCycle> m_updateCycle;

@@ -31,6 +31,7 @@ void QuellinGuideAppDelegate::updateUnattended(std::function<void(const Unattend
             ended(*m_unattended);
         }));
     });
+    m_cloudSync->cloudDidChangeExternally({});
     // Both start at once; their lists reach the alarms before these blocks.
     checkAndUpdateAllChannels();
     m_updateCycle->whenIdle(whileAlive([this, synchronise] {

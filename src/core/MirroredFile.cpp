@@ -42,13 +42,44 @@ struct MirroredFile::State {
     KeyValueStore& keyValueStore;
     const std::shared_ptr<DispatchQueue> writer;
 
+    struct Unwritten {
+        std::function<Content()> makeContent;
+        /// The copy of another device that it comes from.
+        std::optional<QCborValue> taken;
+    };
+
     std::mutex guard;
-    std::shared_ptr<const std::function<Content()>> unwritten; // guarded
-    bool damaged = false; // guarded; the file has to be kept when it is replaced
+    std::shared_ptr<const Unwritten> unwritten; // guarded
+    bool damaged = false;                       // guarded; the file has to be kept when it is replaced
+
+    void replaceUnwritten(Unwritten content) {
+        if (place.writable) {
+            const std::lock_guard lock(guard);
+            unwritten = std::make_shared<const Unwritten>(std::move(content));
+        }
+    }
+
+    QString mark() const { return place.path + ".unshared"_L1; }
+
+    // On the writer queue. False when the key-value store refused the copy.
+    bool share(const QCborValue& copy, const std::optional<QCborValue>& taken) {
+        if (taken && (copy == *taken || keyValueStore.valueForKey(place.key) != taken)) {
+            return true;
+        }
+        if (keyValueStore.setValue(place.key, copy)) {
+            QFile::remove(mark());
+            return true;
+        }
+        if (!QFile::exists(mark())) {
+            qWarning().noquote() << "MirroredFile: the key-value store refused" << place.key;
+            replaceFile(mark(), {});
+        }
+        return false;
+    }
 
     // On the writer queue.
     bool write() {
-        std::shared_ptr<const std::function<Content()>> newest;
+        std::shared_ptr<const Unwritten> newest;
         bool keep = false;
         {
             const std::lock_guard lock(guard);
@@ -61,12 +92,14 @@ struct MirroredFile::State {
         if (keep) {
             keepDamagedFile(place.path);
         }
-        const Content content = (*newest)();
+        const Content content = newest->makeContent();
         if (!replaceFile(place.path, content.file)) {
             qWarning().noquote() << "MirroredFile: cannot write" << place.path;
             return false;
         }
-        keyValueStore.setValue(place.key, content.copy);
+        if (!share(content.copy, newest->taken)) {
+            return false;
+        }
         const std::lock_guard lock(guard);
         if (unwritten == newest) {
             unwritten = nullptr;
@@ -109,12 +142,29 @@ bool MirroredFile::hasCopy() const {
     return m_state->keyValueStore.valueForKey(m_state->place.key).has_value();
 }
 
+bool MirroredFile::wasRefused() const {
+    return QFile::exists(m_state->mark());
+}
+
 void MirroredFile::write(std::function<Content()> makeContent) {
-    if (m_state->place.writable) {
-        const std::lock_guard lock(m_state->guard);
-        m_state->unwritten = std::make_shared<const std::function<Content()>>(std::move(makeContent));
-    }
+    m_state->replaceUnwritten({std::move(makeContent), {}});
     retryWriting();
+}
+
+void MirroredFile::writeTaken(std::function<Content()> makeContent, QCborValue taken) {
+    m_state->replaceUnwritten({std::move(makeContent), std::move(taken)});
+    retryWriting();
+}
+
+void MirroredFile::beforeWriting(Block block) {
+    if (m_state->place.writable && block) {
+        m_state->writer->asyncBarrier(std::move(block));
+    }
+}
+
+bool MirroredFile::hasUnshared() const {
+    const std::lock_guard lock(m_state->guard);
+    return m_state->unwritten && !m_state->unwritten->taken;
 }
 
 void MirroredFile::retryWriting() {

@@ -14,7 +14,8 @@ namespace guide {
 
 /// A file of the profile and its copy under a key of the key-value store. Writes run in the background; of
 /// several contents that wait only the newest is written, first to the file and, if that succeeds, to the
-/// key. Any thread.
+/// key. A copy that the key-value store refuses is kept, also beyond the end of the process, which a file
+/// "NAME.unshared" marks. Any thread.
 class MirroredFile {
   public:
     struct Place {
@@ -44,9 +45,18 @@ class MirroredFile {
     Found read(const std::function<bool(const QByteArray&)>& takeFile,
                const std::function<bool(const QCborValue&)>& takeCopy);
     bool hasCopy() const;
+    /// Whether the key-value store has refused the newest copy.
+    bool wasRefused() const;
 
     /// Makes what is to be written, on the writer's queue. Replaces a content that is not written yet.
     void write(std::function<Content()> makeContent);
+    /// The same for a content that was made from the copy of another device, `taken`. The key is written only
+    /// while it has that value and the content's copy differs: a newer one will be taken over next.
+    void writeTaken(std::function<Content()> makeContent, QCborValue taken);
+    /// Runs the block, if it is not empty, on the writer's queue, before every write that is asked for later.
+    void beforeWriting(Block block);
+    /// Whether a content of this device is not in the file and in the key-value store yet.
+    bool hasUnshared() const;
     /// Retries, in the background, a write that failed.
     void retryWriting();
     /// Blocks until the pending write is done, retrying one that failed. False when it failed again.

@@ -6,6 +6,12 @@
 
 namespace guide {
 
+namespace {
+
+constexpr qsizetype kHexDigits = 24;
+
+} // namespace
+
 QCborValue selectionValue(const std::vector<ObjectId>& selected) {
     QCborArray array;
     for (const ObjectId& id : selected) {
@@ -24,6 +30,8 @@ std::optional<std::vector<ObjectId>> selectionOfValue(const QCborValue& value) {
     for (const auto& element : array) {
         if (element.isByteArray()) {
             selected.emplace_back(element.toByteArray());
+        } else if (const QString hex = element.toString(); hex.size() == kHexDigits) {
+            selected.push_back(ObjectId::fromHex(hex));
         }
     }
     return selected;

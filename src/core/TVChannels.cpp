@@ -112,17 +112,27 @@ struct TVChannels::State final : CatalogueObserver {
                       [&take](const QCborValue& copy) { return take(selectionOfValue(copy)); });
         qInfo().noquote().nospace() << "TVChannels: channelArray.count=" << selected.size();
         current = makeSnapshot(std::move(selected), nullptr);
-        if (found == MirroredFile::Found::Copy) {
-            write();
+        if (found == MirroredFile::Found::Copy || (found == MirroredFile::Found::File && file.wasRefused())) {
+            file.write(content());
         }
     }
 
+    // Under the guard. False when the selection is equal.
+    bool replace(std::vector<ObjectId> selected) {
+        qInfo().noquote().nospace() << "TVChannels: newSelectedCount=" << selected.size();
+        if (current && current->selected == selected) {
+            return false;
+        }
+        current = makeSnapshot(std::move(selected), current.get());
+        return true;
+    }
+
     // Under the guard.
-    void write() {
-        file.write([written = current] {
+    std::function<MirroredFile::Content()> content() const {
+        return [written = current] {
             const QCborValue value = selectionValue(written->selected);
             return MirroredFile::Content{archivedData(value), value};
-        });
+        };
     }
 };
 
@@ -140,15 +150,24 @@ std::vector<ObjectId> TVChannels::selected() const {
     return m_state->snapshot()->selected;
 }
 
-void TVChannels::setSelected(std::vector<ObjectId> selected) {
-    qInfo().noquote().nospace() << "TVChannels: newSelectedCount=" << selected.size();
+void TVChannels::setSelected(std::vector<ObjectId> selected, Block before) {
     const std::lock_guard lock(m_state->guard);
-    const State::SharedSnapshot previous = m_state->current;
-    if (previous && previous->selected == selected) {
-        return;
+    if (m_state->replace(std::move(selected))) {
+        m_state->file.beforeWriting(std::move(before));
+        m_state->file.write(m_state->content());
     }
-    m_state->current = m_state->makeSnapshot(std::move(selected), previous.get());
-    m_state->write();
+}
+
+void TVChannels::takeSelected(std::vector<ObjectId> selected, const QCborValue& stored, Block before) {
+    const std::lock_guard lock(m_state->guard);
+    if (m_state->replace(std::move(selected))) {
+        m_state->file.beforeWriting(std::move(before));
+        m_state->file.writeTaken(m_state->content(), stored);
+    }
+}
+
+bool TVChannels::hasUnshared() const {
+    return m_state->file.hasUnshared();
 }
 
 std::shared_ptr<TVChannel> TVChannels::channelWithChannelId(const ObjectId& channel) const {

@@ -31,8 +31,17 @@ class TVChannels {
     /// name, and the copy in the key-value store takes its place. Any thread.
     std::vector<ObjectId> selected() const;
 
-    /// Replaces the selection. An equal one writes nothing. Any thread.
-    void setSelected(std::vector<ObjectId> selected);
+    /// Replaces the selection. An equal one writes nothing. `before` runs in the background before the new
+    /// one replaces the file; it may be empty. Any thread.
+    void setSelected(std::vector<ObjectId> selected, Block before = {});
+
+    /// Replaces the selection by the one that another device stored as `stored`. Unless they are equal, the
+    /// key-value store gets it in the form of this device, unless another device has stored another one
+    /// meanwhile, and `before` runs in the background before the file is replaced. Any thread.
+    void takeSelected(std::vector<ObjectId> selected, const QCborValue& stored, Block before);
+
+    /// Whether a selection that was set here has not reached the key-value store yet. Any thread.
+    bool hasUnshared() const;
 
     /// The record of a selected channel; null when it is not selected or not in the catalogue. Any thread.
     std::shared_ptr<TVChannel> channelWithChannelId(const ObjectId& channel) const;

@@ -21,7 +21,8 @@ class KeyValueStore {
   public:
     virtual ~KeyValueStore() = default;
     virtual std::optional<QCborValue> valueForKey(const QString& key) const = 0;
-    /// False when the value could not be stored; the old one is then kept.
+    /// An equal value stores nothing, so that nobody is told. False when the value could not be stored; the
+    /// old one is then kept.
     virtual bool setValue(const QString& key, const QCborValue& value) = 0;
     virtual void removeKey(const QString& key) = 0;
 

@@ -60,7 +60,7 @@ std::vector<Command> deviceCommands() {
     return {
         {u"device"_s,
          {u"STATE"_s, {}, {}, 1, 1},
-         u"plays steps on a made-up device with rules, calendars and listings; STATE is a JSON file or -"_s,
+         u"plays steps on a made-up device with rules, calendars, listings and a cloud; STATE is a JSON file or -"_s,
          device}};
 }
 

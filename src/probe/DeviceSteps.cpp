@@ -34,6 +34,14 @@ QJsonArray recurringJSON(const RecurringAlarm& alarm) {
     return json;
 }
 
+QJsonArray showsJSON(const ShowSpan& shows) {
+    QJsonArray list;
+    for (const ShowItem& show : shows) {
+        list.append(QJsonArray{show.entry()->channel().hex(), jsonMoment(show.entry()->dateTime())});
+    }
+    return list;
+}
+
 const Failure kUnknown{u"unknown"_s};
 
 bool isUnknown(const std::variant<QJsonValue, Failure>& answer) {
@@ -48,6 +56,9 @@ std::variant<QJsonValue, Failure> DeviceWorld::perform(const QJsonObject& step) 
     Answer answer = performAlarmStep(op, step);
     if (isUnknown(answer)) {
         answer = performQuery(op, step);
+    }
+    if (isUnknown(answer)) {
+        answer = performCloudStep(op, step);
     }
     if (isUnknown(answer)) {
         answer = performDeviceStep(op, step);
@@ -128,6 +139,43 @@ DeviceWorld::Answer DeviceWorld::performQuery(const QString& op, const QJsonObje
     return op == "swipe"_L1 ? swipe(entry, step) : settings(entry, step);
 }
 
+DeviceWorld::Answer DeviceWorld::performCloudStep(const QString& op, const QJsonObject& step) {
+    if (op == "cloud"_L1) {
+        if (auto failure = fillCloud(step.value(u"values"_s).toObject())) {
+            return *std::move(failure);
+        }
+        const QJsonValue reason = step.value(u"reason"_s);
+        takeCloudValues(reason.isDouble() ? std::optional(reason.toInt()) : std::nullopt);
+    } else if (op == "popular"_L1) {
+        m_listings->updatePopularList();
+        m_queues.runAll();
+        const ShowList list = m_popularShows->popularShows();
+        return showsJSON(ShowSpan(list));
+    } else if (op == "export"_L1) {
+        return QString::fromUtf8(m_userData->exportedText());
+    } else if (op == "erase"_L1) {
+        m_userData->erase(false, MainBlock<UserDataCounts>([](const UserDataCounts&) {}));
+    } else {
+        return kUnknown;
+    }
+    return QJsonValue();
+}
+
+void DeviceWorld::takeCloudValues(std::optional<int> reason) {
+    // Others do not exist.
+    constexpr int kLastReason = static_cast<int>(CloudSync::Reason::AccountChange);
+    if (reason > kLastReason) {
+        return;
+    }
+    m_cloudSync->cloudDidChangeExternally(reason ? std::optional(static_cast<CloudSync::Reason>(*reason))
+                                                 : std::nullopt);
+    const auto favorites = m_keyValueStore.valueForKey(u"Favorites"_s);
+    if (reason != static_cast<int>(CloudSync::Reason::QuotaViolation) && favorites) {
+        // They were taken over.
+        m_givenFavorites.reset();
+    }
+}
+
 DeviceWorld::Answer DeviceWorld::performDeviceStep(const QString& op, const QJsonObject& step) {
     const qsizetype calendar = step.value(u"calendar"_s).toInteger(-1);
     const bool isCalendar = calendar >= 0 && calendar < std::ssize(m_calendars);
@@ -175,11 +223,7 @@ std::shared_ptr<const TVEntry> DeviceWorld::showOf(const QJsonObject& step) cons
 
 QJsonArray DeviceWorld::listed(const std::function<void(MainBlock<ShowSpan>)>& query) {
     QJsonArray list;
-    query(MainBlock<ShowSpan>([&list](const ShowSpan& shows) {
-        for (const ShowItem& show : shows) {
-            list.append(QJsonArray{show.entry()->channel().hex(), jsonMoment(show.entry()->dateTime())});
-        }
-    }));
+    query(MainBlock<ShowSpan>([&list](const ShowSpan& shows) { list = showsJSON(shows); }));
     m_queues.runAll();
     return list;
 }

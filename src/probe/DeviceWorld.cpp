@@ -9,6 +9,7 @@
 #include "probe/DeviceJSON.h"
 #include "probe/DeviceSurroundings.h"
 
+#include <QCborArray>
 #include <QDateTime>
 #include <QDebug>
 
@@ -54,7 +55,7 @@ DeviceWorld::DeviceWorld(const QJsonObject& state, const Context& context)
                    std::abort();
                })
     , m_folders{m_folder.path(), m_folder.path(), m_folder.path(), m_folder.path(), m_folder.path(), {}, true}
-    , m_surroundings(std::make_unique<Surroundings>(state.value(u"background"_s).toBool()))
+    , m_surroundings(std::make_unique<Surroundings>(*this, state.value(u"background"_s).toBool()))
     , m_alphabet(writesCyrillic(context)) {}
 
 DeviceWorld::~DeviceWorld() {
@@ -151,11 +152,13 @@ std::optional<Failure> DeviceWorld::fillCloud(const QJsonObject& cloud) {
     for (auto each = cloud.begin(); each != cloud.end(); ++each) {
         const QString key = each.key();
         const QJsonValue value = each.value();
-        if (key == "Favorites"_L1) {
+        if (value.isNull()) {
+            m_keyValueStore.removeKey(key);
+        } else if (key == "Favorites"_L1) {
             m_givenFavorites.emplace(value.toArray(), favoritesMirrorOfJSON(value.toArray()));
             m_keyValueStore.setValue(key, m_givenFavorites->second);
         } else if (key == "SelectedChannels"_L1) {
-            m_keyValueStore.setValue(key, selectionValue(channelsOfJSON(value.toArray())));
+            m_keyValueStore.setValue(key, QCborArray::fromJsonArray(value.toArray()));
         } else if (value.isString()) {
             m_keyValueStore.setValue(key, value.toString());
         } else if (value.isDouble()) {
@@ -252,10 +255,13 @@ bool DeviceWorld::storeShows(const QJsonArray& shows) {
 void DeviceWorld::makeGuide() {
     m_channels = std::make_unique<TVChannels>(m_folders, m_keyValueStore, m_queues, m_catalogue);
     m_rules = std::make_unique<TVShows>(m_folders, m_keyValueStore, m_queues);
+    m_popularShows = std::make_unique<RecordPopularShows>(RecordPopularShows::Environment{
+        .records = &m_records, .queues = m_queues, .store = [this](ShowList list) {
+            m_listings->storePopularShows(std::move(list));
+        }});
     m_listings = std::make_unique<TVListings>(TVListingsEnvironment{
         m_clock, m_device, m_folders, m_queues, m_surroundings->tasks, m_surroundings->state, *m_channels,
-        m_alphabet, *m_rules, m_surroundings->popularShows, m_surroundings->observer, m_scheme,
-        [] { return 4; }});
+        m_alphabet, *m_rules, *m_popularShows, m_surroundings->observer, m_scheme, [] { return 4; }});
     m_counters = std::make_unique<RecordCounters>(m_records, m_queues);
     m_alarmCalendar =
         AlarmCalendar::make({.clock = m_clock,
@@ -289,6 +295,43 @@ void DeviceWorld::makeGuide() {
                                       .counters = *m_counters,
                                       .favoritesUpdated = [this] { ++m_told.favoritesUpdated; }});
     m_eventStore.setCalendarsChanged([this] { m_alarms->calendarsChanged(); });
+    makeUserData();
+}
+
+void DeviceWorld::makeUserData() {
+    m_replacedLists = std::make_unique<ReplacedLists>(m_folders, m_clock);
+    m_cloudSync = std::make_unique<CloudSync>(
+        CloudSyncEnvironment{.mainQueue = m_queues.mainQueue(),
+                             .keyValueStore = m_keyValueStore,
+                             .userDefaults = m_userDefaults,
+                             .channels = *m_channels,
+                             .shows = *m_rules,
+                             .listings = *m_listings,
+                             .alarms = *m_alarms,
+                             .alarmSynchronisation = *m_alarms,
+                             .replacedLists = *m_replacedLists,
+                             .checkAndUpdateAllChannels = [this] { ++m_told.checks; },
+                             .selectionReplaced = [this] { applyChannelStates(); },
+                             .favoritesUpdated = [this] { ++m_told.favoritesUpdated; },
+                             .favoritesEmptied = [](const auto&) {}});
+    m_userData =
+        std::make_unique<UserData>(UserDataEnvironment{.clock = m_clock,
+                                                       .queues = m_queues,
+                                                       .catalogue = m_catalogue,
+                                                       .channels = *m_channels,
+                                                       .shows = *m_rules,
+                                                       .listings = *m_listings,
+                                                       .keyValueStore = m_keyValueStore,
+                                                       .userDefaults = m_userDefaults,
+                                                       .alarmSynchronisation = *m_alarms,
+                                                       .alarmActions = *m_alarmOperations,
+                                                       .favoriteActions = m_surroundings->favoriteActions,
+                                                       .replacedLists = *m_replacedLists,
+                                                       .cloudSync = *m_cloudSync,
+                                                       .exportFolder = m_folder.path(),
+                                                       .knownEvents = {},
+                                                       .afterCalendarChanges = {},
+                                                       .selectionErased = [] {}});
 }
 
 void DeviceWorld::applyChannelStates() const {

@@ -4,6 +4,7 @@
 #include "alarms/AlarmSynchroniser.h"
 #include "alarms/FavoriteOperations.h"
 #include "alarms/RecordCounters.h"
+#include "cloud/UserData.h"
 #include "platform/memory/FixedDevice.h"
 #include "platform/memory/ManualClock.h"
 #include "platform/memory/MemoryEventStore.h"
@@ -12,6 +13,7 @@
 #include "platform/memory/MemoryUserDefaults.h"
 #include "platform/memory/SteppedQueues.h"
 #include "probe/Command.h"
+#include "store/RecordPopularShows.h"
 
 #include <QJsonArray>
 #include <QTemporaryDir>
@@ -49,7 +51,9 @@ class DeviceWorld {
     void addChannels(const QJsonArray& channels);
     std::optional<Failure> addCalendars(const QJsonObject& state);
     std::optional<Failure> writeFavorites(const QJsonObject& state);
+    /// Sets the values as another device would; null removes one.
     std::optional<Failure> fillCloud(const QJsonObject& cloud);
+    void makeUserData();
     std::optional<CalendarEvent> eventOf(const QJsonObject& json) const;
     /// Replaces the shows and the lists of their channels. False when a show cannot be used.
     bool storeShows(const QJsonArray& shows);
@@ -60,11 +64,13 @@ class DeviceWorld {
     using Answer = std::variant<QJsonValue, Failure>;
     Answer performAlarmStep(const QString& op, const QJsonObject& step);
     Answer performQuery(const QString& op, const QJsonObject& step);
+    Answer performCloudStep(const QString& op, const QJsonObject& step);
     Answer performDeviceStep(const QString& op, const QJsonObject& step);
     QJsonValue swipe(const std::shared_ptr<const TVEntry>& entry, const QJsonObject& step);
     QJsonValue settings(const std::shared_ptr<const TVEntry>& entry, const QJsonObject& step);
     QJsonValue chooseCalendar(qsizetype calendar);
     QJsonArray listed(const std::function<void(MainBlock<ShowSpan>)>& query);
+    void takeCloudValues(std::optional<int> reason);
     void select(const std::vector<ObjectId>& channels);
     void setSilent(const QJsonObject& step);
     bool edit(const QString& event, const QJsonObject& changes);
@@ -109,12 +115,16 @@ class DeviceWorld {
 
     std::unique_ptr<TVChannels> m_channels;
     std::unique_ptr<TVShows> m_rules;
+    std::unique_ptr<RecordPopularShows> m_popularShows;
     std::unique_ptr<TVListings> m_listings;
     std::unique_ptr<RecordCounters> m_counters;
     std::shared_ptr<AlarmCalendar> m_alarmCalendar;
     std::unique_ptr<AlarmSynchroniser> m_alarms;
     std::unique_ptr<AlarmOperations> m_alarmOperations;
     std::unique_ptr<FavoriteOperations> m_favoriteOperations;
+    std::unique_ptr<ReplacedLists> m_replacedLists;
+    std::unique_ptr<CloudSync> m_cloudSync;
+    std::unique_ptr<UserData> m_userData;
 };
 
 } // namespace guide::probe

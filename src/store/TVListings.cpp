@@ -85,6 +85,9 @@ void TVListings::State::startFirstRead() {
                 without.emplace_back(channels[i], read[i].lastEnd);
             }
         }
+        if (const auto popular = state.lists.find(ObjectId::popular()); popular != state.lists.end()) {
+            state.environment.popularShows.restore(popular->second->shows());
+        }
         state.unload(without);
         state.saveAllShows(false);
     });
@@ -125,7 +128,7 @@ void TVListings::State::saveAllShows(bool updatePopular) {
     }
     allShows = std::make_shared<const AllShows>(std::move(ordered), environment.clock.now(), allShows);
     if (updatePopular) {
-        environment.popularShows.refresh();
+        environment.popularShows.refresh(allShows);
     }
 }
 
@@ -291,6 +294,13 @@ void TVListings::restoreListings(std::shared_ptr<const RemovedListings> removed)
 
 void TVListings::updatePopularList() {
     m_state->change([](State& state) { state.saveAllShows(true); });
+}
+
+void TVListings::storePopularShows(ShowList list) {
+    m_state->change([list = std::move(list)](State& state) {
+        state.lists.insert_or_assign(ObjectId::popular(), std::make_shared<const ChannelList>(list));
+        state.scheduleSaving({ObjectId::popular()});
+    });
 }
 
 void TVListings::updateDetails(std::shared_ptr<const TVEntry> entry,

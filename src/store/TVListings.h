@@ -80,6 +80,9 @@ class TVListings {
     /// watched ones.
     void updatePopularList();
 
+    /// Stores the list of the most watched shows, so that it outlives the process.
+    void storePopularShows(ShowList list);
+
     /// Replaces the details of one stored show, and its pictures when any are given. Does nothing when the
     /// list no longer holds this very entry.
     void updateDetails(std::shared_ptr<const TVEntry> entry,

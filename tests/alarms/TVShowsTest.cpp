@@ -110,5 +110,30 @@ TEST_F(TVShowsTest, AFailedWriteIsNotMirroredAndIsRetried) {
     EXPECT_EQ(keyValueStore.writeCount(), 1);
 }
 
+TEST_F(TVShowsTest, ACopyThatWasRefusedIsSharedLaterEvenByTheNextProcess) {
+    keyValueStore.setValue(u"Favorites"_s, favoritesMirror({}));
+    keyValueStore.writesFail = true;
+    {
+        const auto shows = open();
+        shows->setFavorites(kRules);
+        queues.runAll();
+        EXPECT_TRUE(shows->hasUnshared());
+        EXPECT_EQ(fileContent(path(), 1000), favoritesFileContent(kRules)) << "the file is written";
+    }
+    auto shows = open();
+    EXPECT_EQ(shows->favorites(), kRules);
+    EXPECT_TRUE(shows->hasUnshared());
+    queues.runAll();
+    keyValueStore.writesFail = false;
+    shows->retryWriting();
+    queues.runAll();
+    EXPECT_FALSE(shows->hasUnshared());
+    EXPECT_EQ(favoritesOfMirror(*keyValueStore.valueForKey(u"Favorites"_s)), kRules);
+    shows = nullptr;
+    shows = open();
+    shows->favorites();
+    EXPECT_FALSE(shows->hasUnshared());
+}
+
 } // namespace
 } // namespace guide

@@ -19,7 +19,7 @@ TEST(AlarmUpdaterTest, MarksImmediatelyAndSynchronisesOnTheMainQueue) {
     MemoryUserDefaults defaults;
     AlarmUpdater updater(alarms, queues.mainQueue(), state, defaults);
     updater.listingsReplaced();
-    EXPECT_FALSE(alarms.isSynchronized);
+    EXPECT_FALSE(alarms.isSynchronized());
     EXPECT_EQ(alarms.syncs, 0);
     queues.runAll();
     EXPECT_EQ(alarms.syncs, 1);

@@ -128,6 +128,7 @@ void GuideWorld::start() {
         .queues = adaptQueues ? adaptQueues(*m_queues) : *m_queues,
         .userDefaults = userDefaults,
         .keyValueStore = keyValueStore,
+        .records = records,
         .backgroundTasks = *m_tasks,
         .applicationState = state,
         .httpClient = *m_client,

@@ -118,6 +118,8 @@ class GuideWorld {
     EventStore* eventStore = nullptr;
     /// When set before start(), what rings the alarms.
     AlarmRinging* alarmRinging = nullptr;
+    /// When set before start(), counters that are shared with others.
+    RecordStore* records = nullptr;
     /// Paths that will not answer.
     QByteArrayList silentPaths;
     /// What the guide has given to other programs.

@@ -32,8 +32,11 @@ struct FakePopularShows final : PopularShows {
     bool contains(const ShowItem& item) const override {
         return item.entry()->title() && titles.contains(*item.entry()->title());
     }
-    void refresh() override { ++refreshes; }
+    bool isShared() const override { return shared; }
+    void restore(ShowList kept) override { list = std::move(kept); }
+    void refresh(std::shared_ptr<const AllShows>) override { ++refreshes; }
 
+    bool shared = true;
     ShowList list;
     QSet<QString> titles;
     std::atomic<int> refreshes = 0;
@@ -43,7 +46,8 @@ struct FakeAlarms final : AlarmsSource, AlarmSynchronisation {
     std::shared_ptr<const AlarmsSnapshot> snapshot() const override {
         return source ? source->snapshot() : std::make_shared<const AlarmsSnapshot>(events);
     }
-    void setSynchronized(bool synchronized) override { isSynchronized = synchronized; }
+    void setSynchronized(bool synchronized) override { m_isSynchronized = synchronized; }
+    bool isSynchronized() const override { return m_isSynchronized; }
     void syncAlarms() override { ++syncs; }
     bool isRunning() const override { return running; }
     bool hasCalendarAccess() const override { return false; }
@@ -52,10 +56,12 @@ struct FakeAlarms final : AlarmsSource, AlarmSynchronisation {
     AlarmsSnapshot::MinutesByShow events;
     /// Takes the place of the events.
     const AlarmsSource* source = nullptr;
-    std::atomic<bool> isSynchronized = true;
     std::atomic<int> syncs = 0;
     int commits = 0;
     bool running = false;
+
+  private:
+    std::atomic<bool> m_isSynchronized = true;
 };
 
 struct CountingListingsObserver final : ListingsObserver {

@@ -76,6 +76,7 @@ struct WorldApp final : ScreenSettings,
     void checkAndUpdateAllChannels() override { done << u"check"_s; }
     void updateByHand(const std::vector<ObjectId>& /*channels*/) override { done << u"check"_s; }
     void setSynchronized(bool synchronized) override { m_synchronized = synchronized; }
+    bool isSynchronized() const override { return m_synchronized; }
     void syncAlarms() override { done << (m_synchronized ? u"sync"_s : u"alarms"_s); }
     bool isRunning() const override { return synchronising; }
     void commit() override {}
@@ -317,7 +318,9 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
                               calendarActions,
                               alarmExplanations,
                               alarmRinging,
-                              backgroundUpdates});
+                              backgroundUpdates,
+                              userData,
+                              otherDevices});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -415,6 +418,8 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
     AlarmExplanations* alarmExplanations = nullptr;
     AlarmRinging* alarmRinging = nullptr;
     BackgroundUpdates* backgroundUpdates = nullptr;
+    UserDataActions* userData = nullptr;
+    const OtherDevices* otherDevices = nullptr;
     /// The sources of the channels' schedules.
     std::map<ObjectId, QString> sources;
     std::shared_ptr<DispatchQueue> loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial);

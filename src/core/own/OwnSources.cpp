@@ -99,7 +99,7 @@ struct OwnSources::State {
             },
             take);
         publish(std::move(stored));
-        if (found == MirroredFile::Found::Copy) {
+        if (found == MirroredFile::Found::Copy || (found == MirroredFile::Found::File && file.wasRefused())) {
             write();
         }
     }

@@ -20,8 +20,10 @@ class MemoryKeyValueStore final : public KeyValueStore {
         if (writesFail) {
             return false;
         }
-        m_values.insert(key, value);
-        ++m_writes;
+        if (const auto found = m_values.constFind(key); found == m_values.cend() || *found != value) {
+            m_values.insert(key, value);
+            ++m_writes;
+        }
         return true;
     }
     void removeKey(const QString& key) override {
@@ -46,7 +48,7 @@ class MemoryKeyValueStore final : public KeyValueStore {
         }
     }
 
-    /// How often setValue stored a value.
+    /// How often setValue stored another value.
     int writeCount() const {
         const std::lock_guard guard(m_guard);
         return m_writes;

@@ -39,7 +39,9 @@ namespace guide {
 class AlarmExplanations;
 class CalendarActions;
 class KnownFeeds;
+class OtherDevices;
 class SourceActions;
+class UserDataActions;
 
 /// The services that screens use. All of them must outlive the screens.
 struct ScreenEnvironment {
@@ -94,6 +96,10 @@ struct ScreenEnvironment {
     AlarmRinging* alarmRinging = nullptr;
     /// Null where nothing starts the guide by itself.
     BackgroundUpdates* backgroundUpdates = nullptr;
+    /// Null in a guide that cannot export or erase.
+    UserDataActions* userData = nullptr;
+    /// Null where no other devices can be seen.
+    const OtherDevices* otherDevices = nullptr;
 };
 
 } // namespace guide

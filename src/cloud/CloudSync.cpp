@@ -1,0 +1,137 @@
+#include "cloud/CloudSync.h"
+
+#include "alarms/FavoritesFile.h"
+#include "core/SelectionFile.h"
+
+#include <QCborArray>
+
+#include <algorithm>
+#include <unordered_set>
+#include <utility>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kSelectedCalendarKey = "selectedCalendar"_L1;
+constexpr auto kFavoritesKey = "Favorites"_L1;
+constexpr auto kSelectedChannelsKey = "SelectedChannels"_L1;
+
+/// Losing more rules than this to an empty list is told.
+constexpr std::size_t kFewRules = 3;
+
+/// Whether the user would miss nothing of the one in the other. A date alone is no loss.
+bool haveEqualRules(const std::vector<Favorite>& one, const std::vector<Favorite>& other) {
+    return std::ranges::equal(one, other, [](const Favorite& left, const Favorite& right) {
+        return left.identificator == right.identificator && left.minutes == right.minutes &&
+               left.previouslyShown == right.previouslyShown;
+    });
+}
+
+} // namespace
+
+void CloudSync::cloudDidChangeExternally(std::optional<Reason> reason) {
+    if (reason == Reason::QuotaViolation) {
+        return;
+    }
+    // What the store refused may succeed now.
+    m_environment.shows.retryWriting();
+    m_environment.channels.retryWriting();
+    bool runsAlarms = takeCalendar();
+    runsAlarms = takeFavorites() || runsAlarms;
+    takeSelection();
+    if (runsAlarms) {
+        m_environment.alarmSynchronisation.syncAlarms();
+        m_environment.favoritesUpdated();
+    }
+}
+
+bool CloudSync::takeCalendar() {
+    const auto value = m_environment.keyValueStore.valueForKey(kSelectedCalendarKey);
+    const QString calendar = value ? value->toString() : QString();
+    // A device with alarms stays with its calendar, in which they are.
+    if (calendar.isEmpty() || m_environment.alarms.snapshot()->eventCount() > 0 ||
+        m_environment.userDefaults.stringForKey(kSelectedCalendarKey) == calendar) {
+        return false;
+    }
+    m_environment.userDefaults.setString(kSelectedCalendarKey, calendar);
+    return true;
+}
+
+bool CloudSync::takeFavorites() {
+    const auto stored = m_environment.keyValueStore.valueForKey(kFavoritesKey);
+    if (!stored || !stored->isArray() || m_environment.shows.hasUnshared()) {
+        return false;
+    }
+    const std::optional<std::vector<Favorite>> before = m_environment.shows.favorites();
+    // The contents of rules are not compared: only two empty lists need nothing.
+    if (!before || !before->empty() || !stored->toArray().isEmpty()) {
+        m_environment.alarmSynchronisation.setSynchronized(false);
+        std::vector<Favorite> rules = favoritesOfMirror(*stored).value_or(std::vector<Favorite>());
+        const bool isEmptied = rules.empty() && before && before->size() > kFewRules;
+        Block kept = before && !haveEqualRules(*before, rules) ? keep(*before) : Block();
+        m_environment.shows.takeFavorites(std::move(rules), *stored, std::move(kept));
+        if (isEmptied) {
+            m_environment.favoritesEmptied(*before);
+        }
+    }
+    return !m_environment.alarmSynchronisation.isSynchronized();
+}
+
+void CloudSync::takeSelection() {
+    const auto stored = m_environment.keyValueStore.valueForKey(kSelectedChannelsKey);
+    if (!stored || stored->toArray().isEmpty() || m_environment.channels.hasUnshared()) {
+        return;
+    }
+    const std::vector<ObjectId> before = m_environment.channels.selected();
+    const std::vector<ObjectId> selected = selectionOfValue(*stored).value_or(std::vector<ObjectId>());
+    if (selected != before) {
+        m_environment.channels.takeSelected(selected, *stored, keep(before));
+    }
+    selectionChanged(before, selected);
+}
+
+void CloudSync::selectionChanged(const std::vector<ObjectId>& before, const std::vector<ObjectId>& now) {
+    m_environment.mainQueue.async(m_environment.checkAndUpdateAllChannels);
+    const std::unordered_set<ObjectId> staying(now.begin(), now.end());
+    std::vector<ObjectId> leaving;
+    std::ranges::copy_if(before, std::back_inserter(leaving),
+                         [&staying](const ObjectId& channel) { return !staying.contains(channel); });
+    if (!leaving.empty()) {
+        m_environment.listings.removeListingsForChannels(std::move(leaving));
+    }
+    m_environment.alarmSynchronisation.setSynchronized(false);
+    if (before != now) {
+        m_environment.selectionReplaced();
+    }
+}
+
+Block CloudSync::keep(std::vector<Favorite> rules) const {
+    return [&lists = m_environment.replacedLists, rules = std::move(rules)] { lists.keep(rules); };
+}
+
+Block CloudSync::keep(std::vector<ObjectId> selected) const {
+    return [&lists = m_environment.replacedLists, selected = std::move(selected)] { lists.keep(selected); };
+}
+
+void CloudSync::restoreFavorites(std::vector<Favorite> rules) {
+    TVShows& shows = m_environment.shows;
+    const auto before = shows.favorites();
+    shows.setFavorites(std::move(rules), before ? keep(*before) : Block());
+    m_environment.alarmSynchronisation.resynchronize();
+    m_environment.favoritesUpdated();
+}
+
+void CloudSync::restoreSelection(std::vector<ObjectId> selected) {
+    const std::vector<ObjectId> before = m_environment.channels.selected();
+    if (selected == before) {
+        return;
+    }
+    m_environment.channels.setSelected(selected, keep(before));
+    selectionChanged(before, selected);
+    m_environment.alarmSynchronisation.syncAlarms();
+}
+
+} // namespace guide
