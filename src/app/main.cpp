@@ -1,5 +1,6 @@
 // quellin-guide: assembles the program for Linux.
 
+#include "app/CloudStores.h"
 #include "app/CommandLine.h"
 #include "app/DeviceWatch.h"
 #include "app/InstanceRequest.h"
@@ -15,7 +16,6 @@
 #include "platform/linux/CurlHTTPClient.h"
 #include "platform/linux/DesktopMotion.h"
 #include "platform/linux/EventLoopQueues.h"
-#include "platform/linux/FolderKeyValueStore.h"
 #include "platform/linux/GlobalLibraries.h"
 #include "platform/linux/InstanceLock.h"
 #include "platform/linux/LinuxAudioSession.h"
@@ -300,7 +300,8 @@ int run(LaunchOptions options, bool drawsWebPages) {
                                               : u"another guide uses this profile and does not answer"_s);
         }
     }
-    for (const QString& folder : {folders->caches, folders->documents, folders->keyValueStore}) {
+    for (const QString& folder :
+         {folders->caches, folders->documents, folders->documents + "/replaced"_L1, folders->keyValueStore}) {
         removeStaleReplacements(folder);
     }
 
@@ -328,7 +329,7 @@ int run(LaunchOptions options, bool drawsWebPages) {
     SettingsUserDefaults userDefaults(
         folders->configuration + "/settings.ini"_L1,
         queues.makeQueue("settings", QueueKind::Serial, QueuePriority::Background), folders->writable);
-    FolderKeyValueStore keyValueStore(folders->keyValueStore, queues);
+    const CloudStores stores = cloudStoresFor(*folders, userDefaults, queues);
     LinuxBackgroundTasks backgroundTasks(queues);
     WindowState state;
     const Settings settings(userDefaults);
@@ -379,7 +380,9 @@ int run(LaunchOptions options, bool drawsWebPages) {
         .folders = *folders,
         .queues = queues,
         .userDefaults = userDefaults,
-        .keyValueStore = keyValueStore,
+        .keyValueStore = *stores.keyValueStore,
+        .records = stores.records.get(),
+        .otherDevices = stores.otherDevices,
         .backgroundTasks = backgroundTasks,
         .applicationState = state,
         .httpClient = httpClient,

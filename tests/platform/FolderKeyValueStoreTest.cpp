@@ -30,8 +30,8 @@ class FolderKeyValueStoreTest : public testing::Test {
     const QDir folder{root.filePath(u"data"_s)};
     ManualClock clock;
     ManualQueues queues{clock};
-    FolderKeyValueStore store{folder.path(), queues};
-    FolderKeyValueStore other{folder.path(), queues};
+    FolderKeyValueStore store{folder.path(), u"desk-1"_s, queues};
+    FolderKeyValueStore other{folder.path(), u"phone-2"_s, queues};
 };
 
 TEST_F(FolderKeyValueStoreTest, ValuesReachAnotherDevice) {
@@ -125,6 +125,84 @@ TEST_F(FolderKeyValueStoreTest, EveryKeyHasItsOwnFileInTheFolder) {
     }
 }
 
+QByteArray stamped(const char* key, int value, const char* counter, const char* device) {
+    return QByteArray("{\"key\": \"") + key + "\", \"value\": " + QByteArray::number(value) +
+           ", \"stamp\": {\"counter\": " + counter + ", \"device\": \"" + device + "\"}}";
+}
+
+TEST_F(FolderKeyValueStoreTest, ConflictCopiesAreResolvedToTheNewestStamp) {
+    const struct {
+        const char* copy;
+        bool isCopy = true;
+    } names[] = {
+        {"a.sync-conflict-20261123-014800-ABCDEFG.json"},
+        {"a (conflicted copy 2026-11-23 014800).json"},
+        {"a (Jan's conflicted copy 2026-11-23).json"},
+        {"a_conflict-20261123-014800.json"},
+        {"a (SFConflict jan@example.org 2026-11-23-01-48-00).json"},
+        {"a_desk_Nov-23-0148-2026_Conflict.json"},
+        {"a [conflicted].json"},
+        {"a-desk-safeBackup-0001.json"},
+        {"a (1).json"},
+        {"a 2.json"},
+        {"a.json.tmp", false},
+        {".a.sync-conflict-20261123-014800-ABCDEFG.json", false},
+        {"ab.sync-conflict-20261123-014800-ABCDEFG.json", false},
+        {"a-backup.json", false},
+    };
+    const struct {
+        const char* name;
+        QByteArray own;
+        QByteArray copy;
+        int value;
+    } stamps[] = {
+        {"greater counter", stamped("a", 1, "9", "z"), stamped("a", 2, "10", "a"), 2},
+        {"smaller counter", stamped("a", 1, "9", "a"), stamped("a", 2, "8", "z"), 1},
+        {"later device", stamped("a", 1, "9", "a"), stamped("a", 2, "9", "b"), 2},
+        {"without stamps", "{\"key\": \"a\", \"value\": 1}", stamped("a", 2, "1", "a"), 2},
+        {"impossible counter", stamped("a", 1, "9", "a"), stamped("a", 2, "9223372036854775807", "b"), 1},
+        {"only the copy is whole", "{\"key\"", stamped("a", 2, "1", "b"), 2},
+    };
+    for (const auto& name : names) {
+        SCOPED_TRACE(name.copy);
+        const QString copy = folder.filePath(QString::fromUtf8(name.copy));
+        for (const auto& each : stamps) {
+            SCOPED_TRACE(each.name);
+            ASSERT_TRUE(replaceFile(fileOf(u"a"_s), each.own) && replaceFile(copy, each.copy));
+            FolderKeyValueStore opened(folder.path(), u"desk-1"_s, queues);
+            const auto value = opened.valueForKey(u"a"_s);
+            if (name.isCopy) {
+                EXPECT_EQ(value, QCborValue(each.value));
+                EXPECT_EQ(contentOf(fileOf(u"a"_s)), each.value == 1 ? each.own : each.copy)
+                    << "byte by byte";
+            }
+            EXPECT_EQ(QFile::exists(copy), !name.isCopy);
+            QFile::remove(copy);
+        }
+    }
+    ASSERT_TRUE(replaceFile(folder.filePath(u"c (1).json"_s), stamped("c", 3, "41", "b")));
+    FolderKeyValueStore opened(folder.path(), u"desk-1"_s, queues);
+    EXPECT_EQ(opened.valueForKey(u"c"_s), QCborValue(3)) << "the file itself is missing";
+    ASSERT_TRUE(opened.setValue(u"d"_s, 1));
+    EXPECT_TRUE(contentOf(fileOf(u"d"_s)).contains("\"counter\": 42")) << "greater than all that were seen";
+}
+
+TEST_F(FolderKeyValueStoreTest, EqualValuesAreNotWritten) {
+    ASSERT_TRUE(store.setValue(u"a"_s, QCborArray{1, QByteArray("x")}));
+    const QByteArray content = contentOf(fileOf(u"a"_s));
+    ASSERT_TRUE(other.setValue(u"a"_s, QCborArray{1, QByteArray("x")}));
+    EXPECT_EQ(contentOf(fileOf(u"a"_s)), content) << "still by the device that wrote it";
+    EXPECT_EQ(other.lastSeen()->name, u"desk"_s);
+    EXPECT_FALSE(store.lastSeen());
+    ASSERT_TRUE(other.setValue(u"a"_s, 5));
+    ASSERT_TRUE(store.setValue(u"b"_s, 5));
+    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(5));
+    EXPECT_EQ(store.lastSeen()->name, u"phone"_s);
+    ASSERT_TRUE(replaceFile(fileOf(u"a"_s), "damaged"));
+    ASSERT_TRUE(store.setValue(u"a"_s, 5));
+    EXPECT_TRUE(contentOf(fileOf(u"a"_s)).contains("\"desk-1\"")) << "a damaged file holds no value";
+}
+
 class WatchedFolderTest : public FolderKeyValueStoreTest, public KeyValueStoreObserver {
   protected:
     WatchedFolderTest() {
@@ -177,8 +255,10 @@ TEST_F(WatchedFolderTest, DoesNotAnnounceOwnAndEqualValues) {
     store.setValue(u"a"_s, 2);
     store.removeKey(u"b"_s);
     EXPECT_EQ(announced(), QStringList());
-    other.setValue(u"a"_s, 2);
+    ASSERT_TRUE(replaceFile(fileOf(u"a"_s), contentOf(fileOf(u"a"_s))));
     EXPECT_EQ(announced(), QStringList()) << "the same value";
+    other.setValue(u"a"_s, 2);
+    EXPECT_FALSE(hasEvent(50)) << "nothing was written";
     other.setValue(u"b"_s, 3);
     store.setValue(u"b"_s, 4);
     EXPECT_EQ(announced(), QStringList()) << "our value replaced the other one";
@@ -190,7 +270,8 @@ TEST_F(WatchedFolderTest, IgnoresUnfinishedAndForeignFiles) {
     unfinished.write("{\"key\": \"a\", ");
     unfinished.flush();
     const QByteArray temporary = "{\"key\": \"b\", \"value\": 9}";
-    for (const QString& name : {u".b.json"_s, u"b.json.tmp"_s, u"b.sync-conflict-20260101.json"_s, u"~b"_s}) {
+    for (const QString& name :
+         {u".b.json"_s, u"b.json.tmp"_s, u"bb.json"_s, u".syncthing.b.json.tmp"_s, u"~b"_s}) {
         ASSERT_TRUE(replaceFile(folder.filePath(name), temporary));
     }
     EXPECT_EQ(announced(), QStringList());
@@ -201,6 +282,14 @@ TEST_F(WatchedFolderTest, IgnoresUnfinishedAndForeignFiles) {
     EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(2));
 }
 
+TEST_F(WatchedFolderTest, AnnouncesWhatAConflictCopyBrings) {
+    ASSERT_TRUE(replaceFile(folder.filePath(u"a (1).json"_s), stamped("a", 7, "100", "phone-2")));
+    EXPECT_EQ(announced(), QStringList(u"a"_s));
+    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(7));
+    ASSERT_TRUE(replaceFile(folder.filePath(u"a (1).json"_s), stamped("a", 8, "99", "phone-2")));
+    EXPECT_EQ(announced(), QStringList());
+}
+
 TEST_F(WatchedFolderTest, TheFolderMayDisappearAndReappear) {
     ASSERT_TRUE(QDir().rename(folder.path(), root.filePath(u"away"_s)));
     EXPECT_EQ(announced(), QStringList());
@@ -208,7 +297,7 @@ TEST_F(WatchedFolderTest, TheFolderMayDisappearAndReappear) {
     EXPECT_FALSE(store.setValue(u"a"_s, 9));
     const QString replacement = root.filePath(u"replacement"_s);
     ASSERT_TRUE(QDir().mkpath(replacement));
-    FolderKeyValueStore replaced(replacement, queues);
+    FolderKeyValueStore replaced(replacement, u"phone-2"_s, queues);
     replaced.setValue(u"a"_s, 1);
     replaced.setValue(u"b"_s, 2);
     ASSERT_TRUE(QDir().rename(replacement, folder.path()));

@@ -7,11 +7,14 @@
 #include "platform/linux/KeyValueJson.h"
 
 #include <QCryptographicHash>
+#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QHash>
+#include <QRegularExpression>
 #include <QSet>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <cstdint>
@@ -33,30 +36,57 @@ constexpr std::int64_t kLargestFile = 16 << 20;
 // A sync tool often writes several files in quick succession.
 constexpr auto kSettlingTime = 250ms;
 
+/// What sync tools put between the name of a file and its suffix when they keep a second version of it:
+/// ".sync-conflict-20261123-014800-ABCDEFG", " (conflicted copy 2026-11-23 014800)", " (laptop's conflicted
+/// copy 2026-11-23)", "_conflict-20261123-014800", " (1)", " 2".
+bool isConflictMark(const QString& text) {
+    static const QRegularExpression kMark(
+        u"^(?:[ ._\\-(\\[].*conflict.*| ?\\(\\d+\\)| \\d+|-.*-safeBackup-.*)$"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    return kMark.match(text).hasMatch();
+}
+
+/// Whether the file is that of the key, or a conflict copy of it.
+bool isFileOf(const QString& name, const QString& key) {
+    const QString own = FolderKeyValueStore::fileName(key);
+    const QStringView stem = QStringView(own).chopped(kSuffix.size());
+    return name == own ||
+           (name.startsWith(stem) && isConflictMark(name.sliced(stem.size()).chopped(kSuffix.size())));
+}
+
 } // namespace
 
 /// The values in the folder. May be used from any thread.
 class FolderKeyValueStore::Files {
   public:
-    explicit Files(const QString& folder)
-        : m_folder(folder) {}
+    Files(const QString& folder, const QString& device)
+        : m_folder(folder)
+        , m_device(device) {}
 
     std::optional<QCborValue> value(const QString& key) {
         const std::lock_guard lock(m_mutex);
+        if (!m_listed) {
+            list();
+        }
         return read(fileName(key)).value;
     }
 
     bool set(const QString& key, const QCborValue& value) {
-        const std::optional<QByteArray> json = keyValueJson(key, value);
-        if (!json) {
-            return false;
-        }
         const QString name = fileName(key);
         const std::lock_guard lock(m_mutex);
-        if (!replaceFile(path(name), *json)) {
+        if (!m_listed) {
+            list();
+        }
+        if (const File file = read(name); file.intact && file.value == value) {
+            return true;
+        }
+        const KeyValueStamp stamp{.counter = std::min(m_counter + 1, kLargestCounter), .device = m_device};
+        const std::optional<QByteArray> json = keyValueJson({key, value, stamp});
+        if (!json || !replaceFile(path(name), *json)) {
             return false;
         }
-        m_files.insert(name, {fileStamp(path(name)).value_or(FileStamp{}), key, value});
+        m_counter = stamp.counter;
+        m_files.insert(name, {fileStamp(path(name)).value_or(FileStamp{}), true, key, value, stamp});
         m_announced.insert(key, value);
         return true;
     }
@@ -72,17 +102,13 @@ class FolderKeyValueStore::Files {
     /// The keys whose values changed since the last call, changes by set() and remove() not included.
     QStringList changedKeys() {
         const std::lock_guard lock(m_mutex);
-        const QDir folder(m_folder);
-        if (!folder.exists()) {
+        if (!QDir(m_folder).exists()) {
             return {};
         }
+        list();
         QHash<QString, QCborValue> values;
-        const QStringList names = folder.entryList({u"*"_s + kSuffix}, QDir::Files);
-        m_files.removeIf([present = QSet<QString>(names.begin(), names.end())](const auto& file) {
-            return !present.contains(file.key());
-        });
-        for (const QString& name : names) {
-            if (const File file = read(name); file.value) {
+        for (const File& file : std::as_const(m_files)) {
+            if (file.value) {
                 values.insert(file.key, *file.value);
             }
         }
@@ -102,40 +128,97 @@ class FolderKeyValueStore::Files {
         return changed;
     }
 
+    std::optional<Device> lastSeen() {
+        const std::lock_guard lock(m_mutex);
+        std::optional<Device> seen;
+        for (const File& file : std::as_const(m_files)) {
+            const QString& device = file.stamp.device;
+            const Moment stored(std::chrono::seconds(file.state.seconds));
+            if (!device.isEmpty() && device != m_device && (!seen || seen->stored < stored)) {
+                seen = {device.left(device.lastIndexOf(u'-')), stored};
+            }
+        }
+        return seen;
+    }
+
   private:
     struct File {
-        FileStamp stamp;
-        QString key;
-        std::optional<QCborValue> value;
+        FileStamp state;
+        /// In this state it holds the value.
+        bool intact = false;
+        QString key = {};
+        std::optional<QCborValue> value = {};
+        KeyValueStamp stamp = {};
     };
 
     QString path(const QString& name) const { return m_folder + u'/' + name; }
 
+    /// Reads the files that have changed, and resolves conflict copies.
+    void list() {
+        m_listed = true;
+        const QStringList names = QDir(m_folder).entryList({u"*"_s + kSuffix}, QDir::Files);
+        m_files.removeIf([present = QSet<QString>(names.begin(), names.end())](const auto& file) {
+            return !present.contains(file.key());
+        });
+        QStringList copies;
+        for (const QString& name : names) {
+            if (const File file = read(name); file.value && fileName(file.key) != name) {
+                copies.append(name);
+            }
+        }
+        for (const QString& name : std::as_const(copies)) {
+            resolve(name);
+        }
+    }
+
+    void resolve(const QString& copyName) {
+        const File copy = m_files.take(copyName);
+        const QString name = fileName(copy.key);
+        const File file = read(name);
+        if (!file.value || file.stamp.isOlderThan(copy.stamp)) {
+            const auto content = fileContent(path(copyName), kLargestFile);
+            if (!content || !replaceFile(path(name), *content)) {
+                return;
+            }
+            read(name);
+        }
+        qInfo().noquote() << "FolderKeyValueStore: resolved" << copyName;
+        QFile::remove(path(copyName));
+    }
+
     File read(const QString& name) {
-        const std::optional<FileStamp> stamp = fileStamp(path(name));
-        if (!stamp) {
+        const std::optional<FileStamp> state = fileStamp(path(name));
+        if (!state) {
             m_files.remove(name);
             return {};
         }
         File& file = m_files[name];
-        if (file.stamp == *stamp) {
+        if (file.state == *state) {
             return file;
         }
         const std::optional<QByteArray> content = fileContent(path(name), kLargestFile);
         if (!content) {
             return file;
         }
-        // If the file is replaced meanwhile, its next stamp differs from this one.
-        file.stamp = *stamp;
-        if (std::optional<KeyValue> read = keyValueFromJson(*content); read && fileName(read->key) == name) {
+        // If the file is replaced meanwhile, its next state differs from this one.
+        file.state = *state;
+        std::optional<KeyValue> read = keyValueFromJson(*content);
+        file.intact = read && isFileOf(name, read->key);
+        if (file.intact) {
             file.key = std::move(read->key);
             file.value = std::move(read->value);
+            file.stamp = std::move(read->stamp);
+            m_counter = std::max(m_counter, file.stamp.counter);
         }
         return file;
     }
 
     const QString m_folder;
+    const QString m_device;
     std::mutex m_mutex;
+    bool m_listed = false;
+    /// The largest of all stamps seen.
+    std::int64_t m_counter = 0;
     /// By name.
     QHash<QString, File> m_files;
     /// By key: the values that need no announcement.
@@ -148,11 +231,11 @@ struct FolderKeyValueStore::Observation {
     std::unique_ptr<FolderWatcher> watcher;
 };
 
-FolderKeyValueStore::FolderKeyValueStore(const QString& folder, DispatchQueues& queues)
+FolderKeyValueStore::FolderKeyValueStore(const QString& folder, const QString& device, DispatchQueues& queues)
     : m_folder(folder)
     , m_queues(queues)
     , m_queue(queues.makeQueue("keyValueStore", QueueKind::Serial, QueuePriority::Background))
-    , m_files(std::make_shared<Files>(folder)) {}
+    , m_files(std::make_shared<Files>(folder, device)) {}
 
 FolderKeyValueStore::~FolderKeyValueStore() = default;
 
@@ -169,6 +252,10 @@ QString FolderKeyValueStore::fileName(const QString& key) {
 
 std::optional<QCborValue> FolderKeyValueStore::valueForKey(const QString& key) const {
     return m_files->value(key);
+}
+
+std::optional<OtherDevices::Device> FolderKeyValueStore::lastSeen() const {
+    return m_files->lastSeen();
 }
 
 bool FolderKeyValueStore::setValue(const QString& key, const QCborValue& value) {

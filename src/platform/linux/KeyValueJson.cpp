@@ -17,6 +17,9 @@ namespace {
 
 constexpr auto kKey = "key"_L1;
 constexpr auto kValue = "value"_L1;
+constexpr auto kStamp = "stamp"_L1;
+constexpr auto kCounter = "counter"_L1;
+constexpr auto kDevice = "device"_L1;
 constexpr auto kBytes = "bytes"_L1;
 constexpr auto kDate = "date"_L1;
 constexpr auto kDouble = "double"_L1;
@@ -123,12 +126,13 @@ std::optional<QCborValue> fromJson(const QJsonValue& json, int depth) {
 
 } // namespace
 
-std::optional<QByteArray> keyValueJson(const QString& key, const QCborValue& value) {
-    const std::optional<QJsonValue> json = toJson(value, 0);
+std::optional<QByteArray> keyValueJson(const KeyValue& keyValue) {
+    const std::optional<QJsonValue> json = toJson(keyValue.value, 0);
     if (!json) {
         return std::nullopt;
     }
-    return QJsonDocument(QJsonObject{{kKey, key}, {kValue, *json}}).toJson();
+    const QJsonObject stamp{{kCounter, qint64(keyValue.stamp.counter)}, {kDevice, keyValue.stamp.device}};
+    return QJsonDocument(QJsonObject{{kKey, keyValue.key}, {kValue, *json}, {kStamp, stamp}}).toJson();
 }
 
 std::optional<KeyValue> keyValueFromJson(const QByteArray& json) {
@@ -140,7 +144,13 @@ std::optional<KeyValue> keyValueFromJson(const QByteArray& json) {
     if (!value) {
         return std::nullopt;
     }
-    return KeyValue{object.value(kKey).toString(), *std::move(value)};
+    const QJsonObject stamp = object.value(kStamp).toObject();
+    const std::int64_t counter = stamp.value(kCounter).toInteger();
+    KeyValue keyValue{.key = object.value(kKey).toString(), .value = *std::move(value)};
+    if (counter > 0 && counter <= kLargestCounter) {
+        keyValue.stamp = {.counter = counter, .device = stamp.value(kDevice).toString()};
+    }
+    return keyValue;
 }
 
 } // namespace guide
