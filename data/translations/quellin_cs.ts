@@ -2015,6 +2015,174 @@ Počkejte, až se program načte.</translation>
         <source>Folder %1</source>
         <translation>Složka %1</translation>
     </message>
+    <message>
+        <source>Another device has removed all your favourites.</source>
+        <translation>Jiné zařízení odstranilo všechny vaše oblíbené.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Obnovit</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Vypnuto</translation>
+    </message>
+    <message>
+        <source>Most Watched is off: it counts the alarms and favourites of everyone who shares a cloud store with you. To switch it on, set up such a store.</source>
+        <translation>Nejsledovanější jsou vypnuté: počítají upozornění a oblíbené všech, kdo s vámi sdílejí cloudové úložiště. Zapnete je tím, že takové úložiště zřídíte.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected channel(s)</source>
+        <translation>
+            <numerusform>%n vybraný kanál</numerusform>
+            <numerusform>%n vybrané kanály</numerusform>
+            <numerusform>%n vybraných kanálů</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n favourite(s)</source>
+        <translation>
+            <numerusform>%n oblíbený pořad</numerusform>
+            <numerusform>%n oblíbené pořady</numerusform>
+            <numerusform>%n oblíbených pořadů</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n alert(s) in the calendar</source>
+        <translation>
+            <numerusform>%n upozornění v kalendáři</numerusform>
+            <numerusform>%n upozornění v kalendáři</numerusform>
+            <numerusform>%n upozornění v kalendáři</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n kept list(s)</source>
+        <translation>
+            <numerusform>%n uchovaný seznam</numerusform>
+            <numerusform>%n uchované seznamy</numerusform>
+            <numerusform>%n uchovaných seznamů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>silent hours</source>
+        <translation>tiché hodiny</translation>
+    </message>
+    <message>
+        <source>the choice of the calendar</source>
+        <translation>volbu kalendáře</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n alert(s) of other shows</source>
+        <translation>
+            <numerusform>%n upozornění na jiné pořady</numerusform>
+            <numerusform>%n upozornění na jiné pořady</numerusform>
+            <numerusform>%n upozornění na jiné pořady</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Delete data</source>
+        <translation>Smazat údaje</translation>
+    </message>
+    <message>
+        <source>On all your devices</source>
+        <translation>Na všech vašich zařízeních</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nic</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>Také</translation>
+    </message>
+    <message>
+        <source>This will delete all your personal application data stored in iCloud including favorites and selected TV channels.</source>
+        <translation>Tím se smažou všechny vaše osobní údaje aplikace uložené v iCloudu včetně oblíbených a vybraných televizních kanálů.</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Smazáno</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Oblíbené</translation>
+    </message>
+    <message>
+        <source>Selected channels</source>
+        <translation>Vybrané kanály</translation>
+    </message>
+    <message>
+        <source>The last ten lists of each kind that another device has replaced, by the time of that.</source>
+        <translation>Posledních deset seznamů každého druhu, které nahradilo jiné zařízení, podle doby nahrazení.</translation>
+    </message>
+    <message>
+        <source>No lists</source>
+        <translation>Žádné seznamy</translation>
+    </message>
+    <message>
+        <source>No other device has replaced your favourites or channels.</source>
+        <translation>Žádné jiné zařízení nenahradilo vaše oblíbené ani kanály.</translation>
+    </message>
+    <message>
+        <source>These favourites take the place of the present ones on all your devices.</source>
+        <translation>Tyto oblíbené nahradí současné na všech vašich zařízeních.</translation>
+    </message>
+    <message>
+        <source>These channels take the place of the present ones on all your devices.</source>
+        <translation>Tyto kanály nahradí současné na všech vašich zařízeních.</translation>
+    </message>
+    <message>
+        <source>The list was restored.</source>
+        <translation>Seznam byl obnoven.</translation>
+    </message>
+    <message>
+        <source>The list could not be read.</source>
+        <translation>Seznam nelze přečíst.</translation>
+    </message>
+    <message>
+        <source>Your data</source>
+        <translation>Vaše údaje</translation>
+    </message>
+    <message>
+        <source>Channels, favourites, your own sources and silent hours are in a folder that a sync tool can share with your other devices.</source>
+        <translation>Kanály, oblíbené, vlastní zdroje a tiché hodiny jsou ve složce, kterou může synchronizační nástroj sdílet s vašimi dalšími zařízeními.</translation>
+    </message>
+    <message>
+        <source>Last change by %1: %2</source>
+        <translation>Poslední změna ze zařízení %1: %2</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportovat…</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>Obnovit…</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Smazat…</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>Oznámení</translation>
+    </message>
+    <message>
+        <source>This will export all your personal application data stored in iCloud.</source>
+        <translation>Tím se vyexportují všechny vaše osobní údaje aplikace uložené v iCloudu.</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportovat</translation>
+    </message>
+    <message>
+        <source>Your data was exported</source>
+        <translation>Vaše údaje byly exportovány</translation>
+    </message>
+    <message>
+        <source>The file could not be written.</source>
+        <translation>Soubor nelze zapsat.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

@@ -213,5 +213,40 @@
             <numerusform>Began %n min ago</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n selected channel(s)</source>
+        <translation>
+            <numerusform>%n selected channel</numerusform>
+            <numerusform>%n selected channels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n favourite(s)</source>
+        <translation>
+            <numerusform>%n favourite</numerusform>
+            <numerusform>%n favourites</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n alert(s) in the calendar</source>
+        <translation>
+            <numerusform>%n alert in the calendar</numerusform>
+            <numerusform>%n alerts in the calendar</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n kept list(s)</source>
+        <translation>
+            <numerusform>%n kept list</numerusform>
+            <numerusform>%n kept lists</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n alert(s) of other shows</source>
+        <translation>
+            <numerusform>%n alert of other shows</numerusform>
+            <numerusform>%n alerts of other shows</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

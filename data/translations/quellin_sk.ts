@@ -2015,6 +2015,174 @@ Počkajte, kým sa program načíta.</translation>
         <source>Folder %1</source>
         <translation>Priečinok %1</translation>
     </message>
+    <message>
+        <source>Another device has removed all your favourites.</source>
+        <translation>Iné zariadenie odstránilo všetky vaše obľúbené.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Obnoviť</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Vypnuté</translation>
+    </message>
+    <message>
+        <source>Most Watched is off: it counts the alarms and favourites of everyone who shares a cloud store with you. To switch it on, set up such a store.</source>
+        <translation>Najsledovanejšie sú vypnuté: počítajú upozornenia a obľúbené všetkých, ktorí s vami zdieľajú cloudové úložisko. Zapnete ich tým, že také úložisko zriadite.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected channel(s)</source>
+        <translation>
+            <numerusform>%n vybraný kanál</numerusform>
+            <numerusform>%n vybrané kanály</numerusform>
+            <numerusform>%n vybraných kanálov</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n favourite(s)</source>
+        <translation>
+            <numerusform>%n obľúbená relácia</numerusform>
+            <numerusform>%n obľúbené relácie</numerusform>
+            <numerusform>%n obľúbených relácií</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n alert(s) in the calendar</source>
+        <translation>
+            <numerusform>%n upozornenie v kalendári</numerusform>
+            <numerusform>%n upozornenia v kalendári</numerusform>
+            <numerusform>%n upozornení v kalendári</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n kept list(s)</source>
+        <translation>
+            <numerusform>%n uchovaný zoznam</numerusform>
+            <numerusform>%n uchované zoznamy</numerusform>
+            <numerusform>%n uchovaných zoznamov</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>silent hours</source>
+        <translation>tiché hodiny</translation>
+    </message>
+    <message>
+        <source>the choice of the calendar</source>
+        <translation>voľbu kalendára</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n alert(s) of other shows</source>
+        <translation>
+            <numerusform>%n upozornenie na iné relácie</numerusform>
+            <numerusform>%n upozornenia na iné relácie</numerusform>
+            <numerusform>%n upozornení na iné relácie</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Delete data</source>
+        <translation>Zmazať údaje</translation>
+    </message>
+    <message>
+        <source>On all your devices</source>
+        <translation>Na všetkých vašich zariadeniach</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nič</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>Tiež</translation>
+    </message>
+    <message>
+        <source>This will delete all your personal application data stored in iCloud including favorites and selected TV channels.</source>
+        <translation>Tým sa zmažú všetky vaše osobné údaje aplikácie uložené v iCloude vrátane obľúbených a vybraných televíznych kanálov.</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Zmazané</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Obľúbené</translation>
+    </message>
+    <message>
+        <source>Selected channels</source>
+        <translation>Vybrané kanály</translation>
+    </message>
+    <message>
+        <source>The last ten lists of each kind that another device has replaced, by the time of that.</source>
+        <translation>Posledných desať zoznamov každého druhu, ktoré nahradilo iné zariadenie, podľa času nahradenia.</translation>
+    </message>
+    <message>
+        <source>No lists</source>
+        <translation>Žiadne zoznamy</translation>
+    </message>
+    <message>
+        <source>No other device has replaced your favourites or channels.</source>
+        <translation>Žiadne iné zariadenie nenahradilo vaše obľúbené ani kanály.</translation>
+    </message>
+    <message>
+        <source>These favourites take the place of the present ones on all your devices.</source>
+        <translation>Tieto obľúbené nahradia súčasné na všetkých vašich zariadeniach.</translation>
+    </message>
+    <message>
+        <source>These channels take the place of the present ones on all your devices.</source>
+        <translation>Tieto kanály nahradia súčasné na všetkých vašich zariadeniach.</translation>
+    </message>
+    <message>
+        <source>The list was restored.</source>
+        <translation>Zoznam bol obnovený.</translation>
+    </message>
+    <message>
+        <source>The list could not be read.</source>
+        <translation>Zoznam sa nedá prečítať.</translation>
+    </message>
+    <message>
+        <source>Your data</source>
+        <translation>Vaše údaje</translation>
+    </message>
+    <message>
+        <source>Channels, favourites, your own sources and silent hours are in a folder that a sync tool can share with your other devices.</source>
+        <translation>Kanály, obľúbené, vlastné zdroje a tiché hodiny sú v priečinku, ktorý môže synchronizačný nástroj zdieľať s vašimi ďalšími zariadeniami.</translation>
+    </message>
+    <message>
+        <source>Last change by %1: %2</source>
+        <translation>Posledná zmena zo zariadenia %1: %2</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportovať…</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>Obnoviť…</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Zmazať…</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>Oznámenie</translation>
+    </message>
+    <message>
+        <source>This will export all your personal application data stored in iCloud.</source>
+        <translation>Tým sa vyexportujú všetky vaše osobné údaje aplikácie uložené v iCloude.</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportovať</translation>
+    </message>
+    <message>
+        <source>Your data was exported</source>
+        <translation>Vaše údaje boli exportované</translation>
+    </message>
+    <message>
+        <source>The file could not be written.</source>
+        <translation>Súbor sa nedá zapísať.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

@@ -16,12 +16,16 @@ void QuellinGuideAppDelegate::applicationDidBecomeActive() {
     detectAlphabet();
     readSettings();
     m_environment.promotion.prepareInterstitialWhenDue();
+    const bool wereAlarmsRunning = m_alarms.isRunning();
     m_cloudSync->cloudDidChangeExternally({});
+    const bool didCloudRunAlarms = !wereAlarmsRunning && m_alarms.isRunning();
     m_screens->applicationDidBecomeActive();
     if (m_playback) {
         m_playback->reloadShows();
     }
-    m_alarms.syncAlarms();
+    if (!didCloudRunAlarms) {
+        m_alarms.syncAlarms();
+    }
     checkAndUpdateAllChannels();
     m_retries->setActive(true);
     if (m_ownSourceUpdates) {

@@ -47,6 +47,11 @@ TEST_F(CategoriesViewControllerTest, ListsTheCategoriesAndCountsTheShowsOfToday)
     EXPECT_EQ(linesOf(top().table()), phone);
     EXPECT_EQ(top().table().sections()[0].layout, SectionLayout::Tiles);
     EXPECT_FALSE(top().table().sections()[0].footer.isEmpty()) << "says why there is no list";
+    world->popular.shared = false;
+    top().reloadData();
+    world->queues.runAll();
+    EXPECT_EQ(linesOf(top().table())[1], u"Most Watched: Off"_s);
+    EXPECT_TRUE(top().table().sections()[0].footer.contains(u"switch it on"_s));
 
     open(UserInterfaceIdiom::Tablet);
     EXPECT_EQ(linesOf(top().table()), phone.mid(1));

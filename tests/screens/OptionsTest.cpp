@@ -1,6 +1,8 @@
 #include "ScreenWorld.h"
 #include "WorldAlarms.h"
 #include "alarms/SilentHours.h"
+#include "cloud/UserDataActions.h"
+#include "platform/OtherDevices.h"
 #include "screens/options/CalendarsViewController.h"
 #include "screens/options/OptionsViewController.h"
 #include "screens/options/SilentHoursViewController.h"
@@ -38,6 +40,41 @@ struct WorldUpdates final : BackgroundUpdates {
     bool works = true;
 };
 
+/// Keeps the latest questions, so that a test can answer them.
+struct WorldUserData final : UserDataActions {
+    explicit WorldUserData(DispatchQueue& ownMainQueue)
+        : mainQueue(ownMainQueue) {}
+    void exportData(MainBlock<std::optional<QString>> mainBlock) override {
+        mainBlock.post(mainQueue, std::optional(exported));
+    }
+    void count(MainBlock<UserDataCounts> mainBlock) override {
+        mainBlock.post(mainQueue, UserDataCounts(counts));
+    }
+    void erase(bool more, MainBlock<UserDataCounts> mainBlock) override {
+        erased << more;
+        mainBlock.post(mainQueue, std::exchange(counts, {}));
+    }
+    void replacedLists(MainBlock<std::vector<ReplacedList>> mainBlock) override {
+        mainBlock.post(mainQueue, std::vector(lists));
+    }
+    void restore(const ReplacedList& list, MainBlock<bool> mainBlock) override {
+        restored << list.name;
+        mainBlock.post(mainQueue, bool(works));
+    }
+    DispatchQueue& mainQueue;
+    std::optional<QString> exported = u"/home/tv-app-data.txt"_s;
+    UserDataCounts counts{2, 5, 1, 3, 4, true, true};
+    std::vector<ReplacedList> lists;
+    QList<bool> erased;
+    QStringList restored;
+    bool works = true;
+};
+
+struct WorldDevices final : OtherDevices {
+    std::optional<Device> lastSeen() const override { return device; }
+    std::optional<Device> device;
+};
+
 class OptionsTest : public testing::Test {
   protected:
     OptionsTest() {
@@ -46,6 +83,8 @@ class OptionsTest : public testing::Test {
         world.calendarActions = &calendars;
         world.alarmRinging = &ringing;
         world.backgroundUpdates = &updates;
+        world.userData = &userData;
+        world.otherDevices = &devices;
         world.app.calendarAccess = true;
         world.start();
         world.show();
@@ -58,6 +97,15 @@ class OptionsTest : public testing::Test {
         world.queues.runAll();
         return screen;
     }
+    /// Answers the only alert with this action.
+    void answer(std::size_t action) {
+        ASSERT_EQ(world.app.alerts.size(), 1U);
+        const Alert alert = std::exchange(world.app.alerts, {}).front();
+        if (alert.actions.at(action).action) {
+            alert.actions[action].action();
+        }
+        world.queues.runAll();
+    }
     void leave() {
         world.tabs->selectedNavigationController().pop();
         world.queues.runAll();
@@ -68,7 +116,76 @@ class OptionsTest : public testing::Test {
     WorldCalendars calendars{world.queues.mainQueue()};
     WorldRinging ringing{world.queues.mainQueue()};
     WorldUpdates updates{world.queues.mainQueue()};
+    WorldUserData userData{world.queues.mainQueue()};
+    WorldDevices devices;
 };
+
+TEST_F(OptionsTest, TheUsersDataIsExportedAfterAQuestion) {
+    devices.device = {u"phone"_s, world.begin};
+    const auto options = open<OptionsViewController>();
+    EXPECT_TRUE(options->table().sections().back().footer.contains(u"Last change by phone:"_s));
+    world.send<ButtonRow>(*options, u"Export…"_s, Tapped{});
+    answer(0);
+    EXPECT_TRUE(world.app.alerts.empty()) << "cancelled";
+    world.send<ButtonRow>(*options, u"Export…"_s, Tapped{});
+    answer(1);
+    ASSERT_EQ(world.app.alerts.size(), 1U);
+    EXPECT_EQ(std::exchange(world.app.alerts, {})[0].message, userData.exported);
+    userData.exported.reset();
+    world.send<ButtonRow>(*options, u"Export…"_s, Tapped{});
+    answer(1);
+    ASSERT_EQ(world.app.alerts.size(), 1U);
+    EXPECT_EQ(world.app.alerts[0].title, u"Error"_s);
+}
+
+TEST_F(OptionsTest, ErasingSaysBeforeAndAfterWhatItRemoves) {
+    const auto options = open<OptionsViewController>();
+    world.send<ButtonRow>(*options, u"Delete…"_s, Tapped{});
+    auto& screen = dynamic_cast<TableViewController&>(world.top());
+    EXPECT_TRUE(contentTitled<TextRow>(screen.table(), u"5 favourite(s)"_s));
+    const QString more = contentTitled<SwitchRow>(screen.table(), u"Also"_s)->subtitle;
+    EXPECT_EQ(more, u"silent hours, the choice of the calendar, 4 alert(s) of other shows"_s);
+    world.send<ButtonRow>(screen, u"Delete"_s, Tapped{});
+    answer(0);
+    EXPECT_TRUE(userData.erased.isEmpty()) << "cancelled";
+    userData.counts.otherAlarms = 0;
+    world.send<ButtonRow>(screen, u"Delete"_s, Tapped{});
+    answer(1);
+    EXPECT_EQ(userData.erased, QList<bool>{true});
+    ASSERT_EQ(world.app.alerts.size(), 1U);
+    EXPECT_FALSE(world.app.alerts[0].message.contains(u"other shows"_s)) << "what was really removed";
+    EXPECT_FALSE(contentTitled<ButtonRow>(screen.table(), u"Delete"_s)->enabled) << "nothing is left";
+    userData.counts.channels = 1;
+    userData.counts.silentHours = true;
+    leave();
+    world.send<ButtonRow>(*options, u"Delete…"_s, Tapped{});
+    auto& again = dynamic_cast<TableViewController&>(world.top());
+    world.send<SwitchRow>(again, u"Also"_s, Toggled{false});
+    world.app.alerts.clear();
+    world.send<ButtonRow>(again, u"Delete"_s, Tapped{});
+    answer(1);
+    EXPECT_EQ(userData.erased, QList<bool>({true, false}));
+}
+
+TEST_F(OptionsTest, AListThatWasReplacedIsRestored) {
+    const auto options = open<OptionsViewController>();
+    world.send<ButtonRow>(*options, u"Restore…"_s, Tapped{});
+    EXPECT_TRUE(dynamic_cast<TableViewController&>(world.top()).table().emptyNote());
+    leave();
+    userData.lists = {{ReplacedList::Kind::Selection, world.begin, 7, u"selection-a"_s},
+                      {ReplacedList::Kind::Favorites, world.begin, 12, u"favorites-b"_s}};
+    world.send<ButtonRow>(*options, u"Restore…"_s, Tapped{});
+    auto& screen = dynamic_cast<TableViewController&>(world.top());
+    world.send<TextRow>(screen, u"12 favourite(s)"_s, Tapped{});
+    answer(1);
+    EXPECT_EQ(userData.restored, QStringList(u"favorites-b"_s));
+    EXPECT_EQ(world.app.notices.size(), 1U);
+    userData.works = false;
+    world.send<TextRow>(screen, u"7 selected channel(s)"_s, Tapped{});
+    answer(1);
+    ASSERT_EQ(world.app.alerts.size(), 1U);
+    EXPECT_EQ(world.app.alerts[0].title, u"Error"_s);
+}
 
 TEST_F(OptionsTest, TheSilentHoursFollowTheirSwitch) {
     const auto options = open<OptionsViewController>();

@@ -119,10 +119,15 @@ void CategoriesViewController::reloadTable() {
                      .hue = category.hue};
         if (category.selector == TVListingsCategoryMostWatched && !hasPopular) {
             tile.enabled = false;
-            tile.detail = Localized::tr("No list yet");
+            const bool isShared = m_environment->popularShows.isShared();
+            tile.detail = isShared ? Localized::tr("No list yet") : Localized::tr("Off");
             section.footer =
-                Localized::tr("Most Watched counts the alarms and favourites of everyone who shares a "
-                              "cloud store with you. No such list was received yet.");
+                isShared
+                    ? Localized::tr("Most Watched counts the alarms and favourites of everyone who shares a "
+                                    "cloud store with you. No such list was received yet.")
+                    : Localized::tr(
+                          "Most Watched is off: it counts the alarms and favourites of everyone who "
+                          "shares a cloud store with you. To switch it on, set up such a store.");
         } else if (place < m_counts.size()) {
             tile.detail = m_counts[place] == 0 ? Localized::tr("None today")
                                                : Localized::tr("%n show(s) today", nullptr, m_counts[place]);

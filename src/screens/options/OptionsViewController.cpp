@@ -67,7 +67,8 @@ QString intervalText(std::chrono::seconds interval) {
 } // namespace
 
 OptionsViewController::OptionsViewController(std::shared_ptr<const ScreenEnvironment> environment)
-    : m_environment(std::move(environment)) {}
+    : m_environment(std::move(environment))
+    , m_userData(m_environment, *this) {}
 
 void OptionsViewController::viewDidLoad() {
     setTitle(Localized::tr("Options"));
@@ -117,6 +118,9 @@ void OptionsViewController::reloadTable() {
     }
     sections.push_back(silentHoursSection());
     sections.push_back(displaySection());
+    if (m_environment->userData) {
+        sections.push_back(m_userData.section());
+    }
     table().setSections(std::move(sections));
 }
 
@@ -254,6 +258,8 @@ void OptionsViewController::rowEvent(const RowId& id, const RowEvent& event) {
     } else if (const auto* choice = std::get_if<Chosen>(&event)) {
         chosen(*id.name(), static_cast<std::size_t>(choice->choice));
         reloadTable();
+    } else if (m_userData.tapped(id)) {
+        table().deselectRow();
     } else if (NavigationController* navigation = navigationController();
                navigation && *id.name() == kSilentSpan) {
         navigation->pushFrom(*this, std::make_shared<SilentHoursViewController>(m_environment));

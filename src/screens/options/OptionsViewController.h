@@ -4,6 +4,7 @@
 #include "platform/BackgroundUpdates.h"
 #include "screens/kit/LatestAnswer.h"
 #include "screens/kit/TableViewController.h"
+#include "screens/options/UserDataSection.h"
 #include "screens/shell/ListingsScreen.h"
 #include "screens/shell/ScreenEnvironment.h"
 
@@ -14,7 +15,8 @@
 
 namespace guide {
 
-/// The settings of the guide: colours, alarms, silent hours, and what is displayed. Leads to the calendars.
+/// The settings of the guide: colours, alarms, silent hours, what is displayed, and the user's data. Leads to
+/// the calendars.
 class OptionsViewController final : public ListingsScreen {
   public:
     explicit OptionsViewController(std::shared_ptr<const ScreenEnvironment> environment);
@@ -49,6 +51,7 @@ class OptionsViewController final : public ListingsScreen {
     BackgroundUpdates::State m_updates = BackgroundUpdates::State::Unavailable;
     LatestAnswer m_updatesRead;
     LatestAnswer m_updatesSet;
+    UserDataSection m_userData;
     // What is offered, in order.
     std::vector<int> m_showCounts;
     std::vector<std::chrono::seconds> m_intervals;

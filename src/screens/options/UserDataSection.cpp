@@ -1,0 +1,99 @@
+#include "screens/options/UserDataSection.h"
+
+#include "cloud/UserDataActions.h"
+#include "platform/OtherDevices.h"
+#include "screens/Localized.h"
+#include "screens/ShowRows.h"
+#include "screens/kit/NavigationController.h"
+#include "screens/options/EraseViewController.h"
+#include "screens/options/ReplacedListsViewController.h"
+
+#include <utility>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kSection = "data"_L1;
+constexpr auto kExport = "export"_L1;
+constexpr auto kRestore = "restore"_L1;
+constexpr auto kErase = "erase"_L1;
+
+Row button(const QString& name, ButtonRow content) {
+    return {.id = {kSection, name}, .content = std::move(content), .selectable = true};
+}
+
+} // namespace
+
+UserDataSection::UserDataSection(std::shared_ptr<const ScreenEnvironment> environment, ViewController& screen)
+    : m_environment(std::move(environment))
+    , m_screen(screen) {}
+
+Section UserDataSection::section() const {
+    Section section{.id = kSection, .header = Localized::tr("Your data")};
+    section.footer =
+        Localized::tr("Channels, favourites, your own sources and silent hours are in a folder that a "
+                      "sync tool can share with your other devices.");
+    if (const OtherDevices* devices = m_environment->otherDevices) {
+        if (const auto device = devices->lastSeen()) {
+            const QDateTime stored = localTime(m_environment->device, device->stored);
+            section.footer +=
+                u'\n' +
+                Localized::tr("Last change by %1: %2")
+                    .arg(device->name, m_environment->device.locale().toString(stored, QLocale::ShortFormat));
+        }
+    }
+    section.rows = {
+        button(kExport, {.title = Localized::tr("Export…")}),
+        button(kRestore, {.title = Localized::tr("Restore…")}),
+        button(kErase, {.title = Localized::tr("Delete…"), .style = ButtonRow::Style::Destructive})};
+    return section;
+}
+
+bool UserDataSection::tapped(const RowId& id) {
+    if (id.section != kSection) {
+        return false;
+    }
+    if (*id.name() == kExport) {
+        askToExport();
+    } else if (*id.name() == kRestore) {
+        open(std::make_shared<ReplacedListsViewController>(m_environment));
+    } else {
+        open(std::make_shared<EraseViewController>(m_environment));
+    }
+    return true;
+}
+
+void UserDataSection::open(const std::shared_ptr<ViewController>& screen) const {
+    if (NavigationController* navigation = m_screen.navigationController()) {
+        navigation->pushFrom(m_screen, screen);
+    }
+}
+
+void UserDataSection::askToExport() {
+    m_environment->navigation.presentAlert(
+        {Localized::tr("Notice"),
+         Localized::tr("This will export all your personal application data stored in iCloud."),
+         {{Localized::tr("Cancel"), AlertAction::Style::Cancel},
+          {Localized::tr("Export"), AlertAction::Style::Default, [this, weak = m_screen.weak_from_this()] {
+               if (const auto screen = weak.lock()) {
+                   exportData();
+               }
+           }}}});
+}
+
+void UserDataSection::exportData() {
+    m_environment->userData->exportData(
+        m_exported.expect(m_screen.weak_from_this(), [this](const std::optional<QString>& path) {
+            const Alert alert =
+                path ? Alert{Localized::tr("Your data was exported"), *path, {{Localized::tr("OK")}}}
+                     : Alert{Localized::tr("Error"),
+                             Localized::tr("The file could not be written."),
+                             {{Localized::tr("OK")}}};
+            m_environment->navigation.presentAlert(alert);
+        }));
+}
+
+} // namespace guide
