@@ -124,7 +124,9 @@ std::vector<FuzzTarget> profileTargets() {
                  const QByteArray archive = archivedData(channels);
                  return std::vector<QByteArray>{
                      fuzzInput({archive}, 0), fuzzInput({archive.sliced(kArchiveHeaderSize)}, 1),
-                     fuzzInput({keyValueJson(u"SelectedChannels"_s, QCborArray{a, b}).value()}, 2)};
+                     fuzzInput(
+                         {keyValueJson({u"SelectedChannels"_s, QCborArray{a, b}, {7, u"desk-1"_s}}).value()},
+                         2)};
              },
          .literals = {"platform/linux/KeyValueJson.cpp"}},
         {.name = "settings",

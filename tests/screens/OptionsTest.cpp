@@ -1,8 +1,7 @@
 #include "ScreenWorld.h"
 #include "WorldAlarms.h"
+#include "WorldUserData.h"
 #include "alarms/SilentHours.h"
-#include "cloud/UserDataActions.h"
-#include "platform/OtherDevices.h"
 #include "screens/options/CalendarsViewController.h"
 #include "screens/options/OptionsViewController.h"
 #include "screens/options/SilentHoursViewController.h"
@@ -38,41 +37,6 @@ struct WorldUpdates final : BackgroundUpdates {
     DispatchQueue& mainQueue;
     State now = State::Off;
     bool works = true;
-};
-
-/// Keeps the latest questions, so that a test can answer them.
-struct WorldUserData final : UserDataActions {
-    explicit WorldUserData(DispatchQueue& ownMainQueue)
-        : mainQueue(ownMainQueue) {}
-    void exportData(MainBlock<std::optional<QString>> mainBlock) override {
-        mainBlock.post(mainQueue, std::optional(exported));
-    }
-    void count(MainBlock<UserDataCounts> mainBlock) override {
-        mainBlock.post(mainQueue, UserDataCounts(counts));
-    }
-    void erase(bool more, MainBlock<UserDataCounts> mainBlock) override {
-        erased << more;
-        mainBlock.post(mainQueue, std::exchange(counts, {}));
-    }
-    void replacedLists(MainBlock<std::vector<ReplacedList>> mainBlock) override {
-        mainBlock.post(mainQueue, std::vector(lists));
-    }
-    void restore(const ReplacedList& list, MainBlock<bool> mainBlock) override {
-        restored << list.name;
-        mainBlock.post(mainQueue, bool(works));
-    }
-    DispatchQueue& mainQueue;
-    std::optional<QString> exported = u"/home/tv-app-data.txt"_s;
-    UserDataCounts counts{2, 5, 1, 3, 4, true, true};
-    std::vector<ReplacedList> lists;
-    QList<bool> erased;
-    QStringList restored;
-    bool works = true;
-};
-
-struct WorldDevices final : OtherDevices {
-    std::optional<Device> lastSeen() const override { return device; }
-    std::optional<Device> device;
 };
 
 class OptionsTest : public testing::Test {

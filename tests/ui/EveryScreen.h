@@ -9,6 +9,7 @@
 #include "gallery/GalleryRows.h"
 #include "screens/WorldAlarms.h"
 #include "screens/WorldSources.h"
+#include "screens/WorldUserData.h"
 #include "screens/detail/DetailViewController.h"
 #include "screens/pictures/ScreenShotViewController.h"
 #include "screens/player/PlayerViewController.h"
@@ -35,6 +36,8 @@ class EveryScreenTest : public WindowTest, public testing::WithParamInterface<st
         world.ownSources = &sources;
         world.calendarActions = &calendars;
         world.alarmExplanations = &explanations;
+        world.userData = &userData;
+        world.otherDevices = &devices;
         world.app.calendarAccess = true;
         world.knownFeeds = &knownFeeds;
         const ObjectId other = world.addChannel(u"Druhý program"_s, true, u"http://127.0.0.1/other"_s);
@@ -299,6 +302,8 @@ class EveryScreenTest : public WindowTest, public testing::WithParamInterface<st
     WorldSources sources{world.queues.mainQueue()};
     WorldCalendars calendars{world.queues.mainQueue()};
     WorldExplanations explanations{world.queues.mainQueue()};
+    WorldUserData userData{world.queues.mainQueue()};
+    WorldDevices devices;
     const KnownFeeds knownFeeds{{{u"CZ"_s,
                                   {{u"television"_s, u"CZ1"_s, u"https://x.example/1"_s, 6'000'000, 533, {}},
                                    {u"others"_s, {}, u"https://x.example/2"_s, 0, 0, QDate(2026, 9, 28)}}},

@@ -155,11 +155,26 @@ constexpr Screen kScreens[] = {
          test.world.app.interval = 90min;
          setSilentHoursEnabled(test.world.keyValueStore, true);
          setSilentHoursFrom(test.world.keyValueStore, test.world.clock.now());
+         test.devices.device = {u"Telefon v předsíni"_s, test.world.begin};
          test.pressBarButton(u"Options"_s);
+         return true;
+     }},
+    {"erasing",
+     [](EveryScreenTest& test) {
+         test.tapRow(u"Delete…"_s);
+         return true;
+     }},
+    {"lists that were replaced",
+     [](EveryScreenTest& test) {
+         test.stack().pop();
+         test.userData.lists = {{ReplacedList::Kind::Favorites, test.world.begin, 12, u"favorites-a"_s},
+                                {ReplacedList::Kind::Selection, test.world.begin, 7, u"selection-b"_s}};
+         test.tapRow(u"Restore…"_s);
          return true;
      }},
     {"silent hours",
      [](EveryScreenTest& test) {
+         test.stack().pop();
          test.tapRow(u"From:\nTo:"_s);
          return true;
      }},

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ScreenWorld.h"
+#include "cloud/UserDataActions.h"
+#include "platform/OtherDevices.h"
+
+namespace guide::test {
+
+/// The data of a user. The answers come from the main queue.
+struct WorldUserData final : UserDataActions {
+    explicit WorldUserData(DispatchQueue& ownMainQueue)
+        : mainQueue(ownMainQueue) {}
+    void exportData(MainBlock<std::optional<QString>> mainBlock) override {
+        mainBlock.post(mainQueue, std::optional(exported));
+    }
+    void count(MainBlock<UserDataCounts> mainBlock) override {
+        mainBlock.post(mainQueue, UserDataCounts(counts));
+    }
+    void erase(bool more, MainBlock<UserDataCounts> mainBlock) override {
+        erased << more;
+        mainBlock.post(mainQueue, std::exchange(counts, {}));
+    }
+    void replacedLists(MainBlock<std::vector<ReplacedList>> mainBlock) override {
+        mainBlock.post(mainQueue, std::vector(lists));
+    }
+    void restore(const ReplacedList& list, MainBlock<bool> mainBlock) override {
+        restored << list.name;
+        mainBlock.post(mainQueue, bool(works));
+    }
+    DispatchQueue& mainQueue;
+    std::optional<QString> exported = u"/home/tv-app-data.txt"_s;
+    UserDataCounts counts{2, 5, 1, 3, 4, true, true};
+    std::vector<ReplacedList> lists;
+    QList<bool> erased;
+    QStringList restored;
+    bool works = true;
+};
+
+struct WorldDevices final : OtherDevices {
+    std::optional<Device> lastSeen() const override { return device; }
+    std::optional<Device> device;
+};
+
+} // namespace guide::test
