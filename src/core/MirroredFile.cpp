@@ -63,7 +63,10 @@ struct MirroredFile::State {
 
     // On the writer queue. False when the key-value store refused the copy.
     bool share(const QCborValue& copy, const std::optional<QCborValue>& taken) {
-        if (taken && (copy == *taken || keyValueStore.valueForKey(place.key) != taken)) {
+        if (taken) {
+            if (copy != *taken && keyValueStore.valueForKey(place.key) == taken) {
+                keyValueStore.setValue(place.key, copy);
+            }
             return true;
         }
         if (keyValueStore.setValue(place.key, copy)) {
