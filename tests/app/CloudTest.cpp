@@ -21,6 +21,8 @@ struct GuideCloudTest : testing::Test {
         world.start();
         world.guide->applicationDidBecomeActive();
         ASSERT_TRUE(world.check());
+        // Until then the first selection would win over one that arrives.
+        ASSERT_TRUE(world.guide->channels().finishWriting());
     }
     ~GuideCloudTest() override { world.end(); }
     using Query = std::function<void(TVListings& listings, MainBlock<ShowSpan> block)>;
