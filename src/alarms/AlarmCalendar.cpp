@@ -309,16 +309,19 @@ void AlarmCalendar::publish() {
     auto known = std::make_shared<KnownEvents>();
     known->until = m_knownUntil;
     std::vector<const KnownEvent*> sorted;
+    sorted.reserve(static_cast<std::size_t>(m_known.size()));
     for (const KnownEvent& event : std::as_const(m_known)) {
         sorted.push_back(&event);
     }
     std::ranges::sort(sorted, {},
                       [](const KnownEvent* each) { return std::pair(each->event.startDate, each->order); });
+    known->events.reserve(sorted.size());
     for (const KnownEvent* event : sorted) {
         known->events.push_back(event->event);
     }
     const std::lock_guard lock(m_guard);
     AlarmsSnapshot::MinutesByShow minutes;
+    minutes.reserve(m_events.eventCount());
     for (auto entry = m_events.events().cbegin(); entry != m_events.events().cend(); ++entry) {
         const auto event = m_known.constFind(*entry);
         CalendarEvent ofShow;
