@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/linux/database/PostgresConnection.h"
+
+#include <QStringList>
+
+namespace guide {
+
+/// What the administrator of a database does. Blocks; errors are sentences without passwords.
+class DatabaseSetup {
+  public:
+    /// The address is that of the administrator, a role that may create roles. `needsPassword` is set when
+    /// the server asks for one that neither the address nor libpq's own places have. Empty when there is no
+    /// connection.
+    static std::optional<DatabaseSetup> connect(const DatabaseAddress& address, bool& needsPassword,
+                                                QString& why);
+
+    /// Applies, in order, those of the numbered files in the folder that the database does not have yet, each
+    /// wholly or not at all. Returns their names; nothing when one failed.
+    std::optional<QStringList> upgrade(const QString& folder, QString& why);
+
+    /// Makes a user, or gives one another password. Returns the address of the user, with the password, which
+    /// is not kept anywhere.
+    std::optional<QString> setUser(const QString& name, QString& why);
+
+  private:
+    DatabaseSetup(DatabaseAddress address, std::unique_ptr<WakeUp> stop,
+                  std::unique_ptr<PostgresConnection> connection)
+        : m_address(std::move(address))
+        , m_stop(std::move(stop))
+        , m_connection(std::move(connection)) {}
+
+    DatabaseAddress m_address;
+    std::unique_ptr<WakeUp> m_stop;
+    std::unique_ptr<PostgresConnection> m_connection;
+};
+
+} // namespace guide

@@ -1,0 +1,58 @@
+#include "platform/linux/database/SharedStores.h"
+
+#include "platform/linux/database/PostgresKeyValueStore.h"
+#include "platform/linux/database/PostgresRecordStore.h"
+
+#include <QCryptographicHash>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+SharedStores sharedStoresFor(const QString& address, const SharedStoresOptions& options, const Clock& clock,
+                             SecretStore& secrets, DispatchQueues& queues, QString& why) {
+    const std::optional<DatabaseAddress> read = databaseAddress(address, why);
+    if (!read) {
+        return {};
+    }
+    const QString text = read->text();
+    constexpr qsizetype kDigits = 16;
+    const QString name =
+        options.folder + u"/database-"_s +
+        QString::fromLatin1(
+            QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toHex().left(kDigits));
+    const auto values = std::make_shared<SharedValues>(name + ".values"_L1, text);
+    const auto session =
+        std::make_shared<PostgresSession>(PostgresSessionOptions{.address = *read,
+                                                                 .device = values->device(),
+                                                                 .deviceName = options.deviceName,
+                                                                 .firstRetry = options.firstRetry,
+                                                                 .longestRetry = options.longestRetry},
+                                          secrets, queues);
+    auto keyValueStore = std::make_unique<PostgresKeyValueStore>(session, values, clock, queues);
+    SharedStores stores;
+    stores.state = keyValueStore.get();
+    stores.keyValueStore = std::move(keyValueStore);
+    stores.recordStore = std::make_unique<PostgresRecordStore>(session, name + ".increments"_L1, text);
+    stores.retryNow = [weak = std::weak_ptr(session)] {
+        if (const auto alive = weak.lock()) {
+            alive->retryNow();
+        }
+    };
+    session->start();
+    return stores;
+}
+
+std::optional<QString> keepDatabasePassword(const QString& address, SecretStore& secrets, QString& why) {
+    const std::optional<DatabaseAddress> read = databaseAddress(address, why);
+    if (!read) {
+        return std::nullopt;
+    }
+    if (read->password && !secrets.setSecret(databaseSecretKey(*read), *read->password)) {
+        why = u"The password of the database cannot be kept."_s;
+        return std::nullopt;
+    }
+    return read->text();
+}
+
+} // namespace guide

@@ -1,0 +1,254 @@
+#include "platform/linux/database/SharedValues.h"
+
+#include "platform/archive/Archive.h"
+#include "platform/files/FileContent.h"
+#include "platform/files/FileReplacement.h"
+#include "platform/linux/KeyValueJson.h"
+
+#include <QCborArray>
+#include <QCborMap>
+#include <QDebug>
+#include <QSet>
+
+#include <algorithm>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kLargestFile = 64 << 20;
+constexpr auto kAddress = "address"_L1;
+constexpr auto kDevice = "device"_L1;
+constexpr auto kLastSeen = "lastSeen"_L1;
+constexpr auto kLastWriter = "lastWriter"_L1;
+constexpr auto kValues = "values"_L1;
+
+QCborValue cborOf(const QUuid& id) {
+    return id.isNull() ? QCborValue() : QCborValue(id);
+}
+
+} // namespace
+
+SharedValues::SharedValues(QString path, QString address)
+    : m_path(std::move(path))
+    , m_address(std::move(address)) {
+    load();
+}
+
+void SharedValues::load() {
+    const std::optional<QByteArray> content = fileContent(m_path, kLargestFile);
+    const std::optional<QCborValue> root = content ? unarchivedRoot(*content) : std::nullopt;
+    const QCborMap map = root ? root->toMap() : QCborMap();
+    if (map.value(kAddress).toString() != m_address) {
+        return;
+    }
+    if (const QUuid device = map.value(kDevice).toUuid(); !device.isNull()) {
+        m_device = device;
+    }
+    if (const QCborValue seen = map.value(kLastSeen); seen.isInteger()) {
+        m_others.lastSeen = Moment(std::chrono::milliseconds(seen.toInteger()));
+    }
+    m_others.lastWriter = map.value(kLastWriter).toString();
+    for (const QCborValue& value : map.value(kValues).toArray()) {
+        const QCborArray row = value.toArray();
+        const QString key = row.at(0).toString();
+        Entry entry{.bytes = std::nullopt,
+                    .value = std::nullopt,
+                    .known = row.at(2).toUuid(),
+                    .pending = row.at(3).toUuid(),
+                    .heldUntil = {}};
+        if (row.at(1).isByteArray()) {
+            entry.bytes = row.at(1).toByteArray();
+            const std::optional<KeyValue> read = keyValueFromJson(*entry.bytes);
+            if (!read || read->key != key) {
+                continue;
+            }
+            entry.value = read->value;
+        }
+        m_entries.insert(key, entry);
+    }
+}
+
+void SharedValues::save() {
+    const std::lock_guard fileLock(m_fileGuard);
+    QCborMap map{{kAddress, m_address}, {kDevice, QCborValue(m_device)}};
+    {
+        const std::lock_guard lock(m_guard);
+        if (!m_needsSaving) {
+            return;
+        }
+        m_needsSaving = false;
+        if (m_others.lastSeen) {
+            map.insert(kLastSeen, qint64{m_others.lastSeen->time_since_epoch().count()});
+        }
+        map.insert(kLastWriter, m_others.lastWriter);
+        QCborArray values;
+        for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
+            values.append(QCborArray{entry.key(), entry->bytes ? QCborValue(*entry->bytes) : QCborValue(),
+                                     cborOf(entry->known), cborOf(entry->pending)});
+        }
+        map.insert(kValues, values);
+    }
+    if (!replaceFile(m_path, archivedData(map))) {
+        qWarning("The values that other devices share cannot be kept");
+        const std::lock_guard lock(m_guard);
+        m_needsSaving = true;
+    }
+}
+
+bool SharedValues::needsSaving() const {
+    const std::lock_guard lock(m_guard);
+    return m_needsSaving;
+}
+
+SharedValues::Others SharedValues::others() const {
+    const std::lock_guard lock(m_guard);
+    return m_others;
+}
+
+void SharedValues::setOthers(const Others& others) {
+    const std::lock_guard lock(m_guard);
+    m_needsSaving = m_needsSaving || m_others != others;
+    m_others = others;
+}
+
+std::optional<QCborValue> SharedValues::value(const QString& key) const {
+    const std::lock_guard lock(m_guard);
+    const auto entry = m_entries.constFind(key);
+    return entry != m_entries.cend() ? entry->value : std::nullopt;
+}
+
+SharedValues::SetOutcome SharedValues::set(const QString& key, const QCborValue& value, qsizetype mostBytes) {
+    const std::optional<QByteArray> bytes = keyValueJson(key, value);
+    // PostgreSQL has no texts with this character.
+    if (!bytes || bytes->size() > mostBytes || key.contains(QChar(u'\0'))) {
+        return SetOutcome::Refused;
+    }
+    const std::lock_guard lock(m_guard);
+    Entry& entry = m_entries[key];
+    if (entry.bytes == bytes) {
+        return SetOutcome::Same;
+    }
+    entry.bytes = bytes;
+    entry.value = value;
+    entry.pending = QUuid::createUuid();
+    entry.heldUntil = {};
+    m_needsSaving = true;
+    return SetOutcome::Changed;
+}
+
+bool SharedValues::remove(const QString& key) {
+    const std::lock_guard lock(m_guard);
+    const auto entry = m_entries.find(key);
+    if (entry == m_entries.end() || !entry->bytes) {
+        return false;
+    }
+    entry->bytes.reset();
+    entry->value.reset();
+    entry->pending = QUuid::createUuid();
+    entry->heldUntil = {};
+    m_needsSaving = true;
+    return true;
+}
+
+std::vector<SharedValues::Change> SharedValues::changesToSend() const {
+    const std::lock_guard lock(m_guard);
+    const auto now = std::chrono::steady_clock::now();
+    std::vector<Change> changes;
+    for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
+        if (!entry->pending.isNull() && entry->heldUntil <= now) {
+            changes.push_back({entry.key(), entry->bytes, entry->pending});
+        }
+    }
+    return changes;
+}
+
+void SharedValues::sent(const Change& change, const QUuid& stored) {
+    const std::lock_guard lock(m_guard);
+    const auto entry = m_entries.find(change.key);
+    if (entry == m_entries.end()) {
+        return;
+    }
+    m_needsSaving = true;
+    entry->known = stored;
+    if (entry->pending == change.write) {
+        entry->pending = {};
+        entry->heldUntil = {};
+        if (!entry->bytes) {
+            m_entries.erase(entry);
+        }
+    }
+}
+
+void SharedValues::holdBack(const Change& change, std::chrono::steady_clock::time_point until) {
+    const std::lock_guard lock(m_guard);
+    const auto entry = m_entries.find(change.key);
+    if (entry != m_entries.end() && entry->pending == change.write) {
+        entry->heldUntil = until;
+    }
+}
+
+bool SharedValues::holdsBack() const {
+    const std::lock_guard lock(m_guard);
+    const auto now = std::chrono::steady_clock::now();
+    return std::ranges::any_of(m_entries, [&](const Entry& entry) { return entry.heldUntil > now; });
+}
+
+void SharedValues::sendAll() {
+    const std::lock_guard lock(m_guard);
+    for (Entry& entry : m_entries) {
+        entry.heldUntil = {};
+    }
+}
+
+QStringList SharedValues::compare(const std::vector<StoredKey>& stored, QStringList& toRead) {
+    const std::lock_guard lock(m_guard);
+    QSet<QString> present;
+    for (const StoredKey& each : stored) {
+        present.insert(each.key);
+        const auto entry = m_entries.constFind(each.key);
+        if (entry == m_entries.cend() || (entry->pending.isNull() && entry->known != each.write)) {
+            toRead.append(each.key);
+        }
+    }
+    QStringList removed;
+    m_entries.removeIf([&](const auto& entry) {
+        const bool isRemoved = entry->pending.isNull() && !present.contains(entry.key());
+        if (isRemoved) {
+            removed.append(entry.key());
+        }
+        return isRemoved;
+    });
+    m_needsSaving = m_needsSaving || !removed.isEmpty();
+    return removed;
+}
+
+bool SharedValues::receive(const StoredKey& stored, const QByteArray& bytes) {
+    std::optional<KeyValue> read = keyValueFromJson(bytes);
+    const std::lock_guard lock(m_guard);
+    if (!read || read->key != stored.key) {
+        // As if it had not changed; it is not read again either.
+        if (const auto entry = m_entries.find(stored.key); entry != m_entries.end()) {
+            entry->known = stored.write;
+        }
+        qWarning("A value of another device cannot be read");
+        return false;
+    }
+    Entry& entry = m_entries[stored.key];
+    // Changed here meanwhile; the change will replace it.
+    if (!entry.pending.isNull()) {
+        return false;
+    }
+    m_needsSaving = true;
+    entry.known = stored.write;
+    if (entry.bytes == bytes) {
+        return false;
+    }
+    entry.bytes = bytes;
+    entry.value = std::move(read->value);
+    return true;
+}
+
+} // namespace guide
