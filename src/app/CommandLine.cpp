@@ -13,7 +13,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The options whose value is not a path.
-constexpr std::array kValueOptions{"--now"_L1, "--form"_L1, "--appearance"_L1, "--text-scale"_L1, "--add"_L1};
+constexpr std::array kValueOptions{"--now"_L1, "--form"_L1,        "--appearance"_L1, "--text-scale"_L1,
+                                   "--add"_L1, "--cloud-setup"_L1, "--user"_L1};
 
 QString usage() {
     return u"usage: quellin-guide [OPTION...] [URL]\n"
@@ -33,6 +34,10 @@ QString usage() {
            "                        the colours; the system's if missing\n"
            "  --text-scale PERCENT  the size of the text, from 100 to 200; the system's if missing\n"
            "  --screenshots FOLDER  save a picture of every screen in FOLDER and exit\n"
+           "  --cloud-setup URL     set up or upgrade the database that devices share, and exit; the URL is "
+           "the\n"
+           "                        administrator's, as in postgresql://postgres@tv.example.org/guide\n"
+           "  --user NAME           with --cloud-setup: make a user, or a new password of one, and print it\n"
            "  --help                this text\n"
            "\n"
            "The options from --demo to --now use a temporary profile, unless --profile names one.\n"_s;
@@ -46,6 +51,10 @@ CommandLineText refusal(const QString& why) {
 QString setValue(LaunchOptions& options, const QString& name, const QString& value) {
     if (name == "--add"_L1) {
         options.add = QFileInfo::exists(value) ? QFileInfo(value).absoluteFilePath() : value;
+    } else if (name == "--cloud-setup"_L1) {
+        options.cloudSetup = value;
+    } else if (name == "--user"_L1) {
+        options.user = value;
     } else if (name == "--now"_L1) {
         const QDateTime moment = QDateTime::fromString(value, Qt::ISODateWithMs);
         if (!moment.isValid()) {
@@ -129,6 +138,9 @@ std::variant<LaunchOptions, CommandLineText> parseCommandLine(const QStringList&
     if (options.update && (options.url || options.add || options.screenshots)) {
         return refusal(
             u"--update shows nothing, so it cannot be combined with a URL, --add or --screenshots"_s);
+    }
+    if (options.user && !options.cloudSetup) {
+        return refusal(u"--user is for --cloud-setup"_s);
     }
     return options;
 }

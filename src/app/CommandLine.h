@@ -33,6 +33,10 @@ struct LaunchOptions {
     std::optional<QString> add;
     /// Only to update the schedules and alarms, without a window.
     bool update = false;
+    /// Only to set up the database at this address, as its administrator.
+    std::optional<QString> cloudSetup;
+    /// The user to be made there.
+    std::optional<QString> user;
 
     /// Whether the options only try something out and must not touch the user's profile.
     bool usesSeparateProfile() const { return demo || catalogue || hosts || select || now; }

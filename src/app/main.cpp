@@ -1,5 +1,6 @@
 // quellin-guide: assembles the program for Linux.
 
+#include "app/CloudSetup.h"
 #include "app/CloudStores.h"
 #include "app/CommandLine.h"
 #include "app/DeviceWatch.h"
@@ -466,6 +467,9 @@ int main(int argc, char** argv) {
     }
     const GlobalLibraries libraries;
     const auto& options = std::get<LaunchOptions>(parsed);
+    if (options.cloudSetup) {
+        return setUpCloud(*options.cloudSetup, options.user, namedLinuxFolders({}).bundle + "/database"_L1);
+    }
     if (options.update) {
         // There need not be a display.
         qputenv("QT_QPA_PLATFORM", "offscreen");

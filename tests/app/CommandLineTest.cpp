@@ -37,6 +37,9 @@ TEST(CommandLine, OptionsThatTrySomethingImplyATemporaryProfile) {
     EXPECT_FALSE(accepted({u"--form"_s, u"phone"_s, u"--text-scale"_s, u"200"_s, u"--screenshots"_s, u"p"_s})
                      .usesSeparateProfile());
     EXPECT_TRUE(accepted({u"--demo"_s}).usesSeparateProfile());
+    const LaunchOptions setup = accepted({u"--cloud-setup=postgresql://a@b/c"_s, u"--user"_s, u"anna"_s});
+    EXPECT_EQ(setup.cloudSetup, u"postgresql://a@b/c"_s) << "not a path";
+    EXPECT_EQ(setup.user, u"anna"_s);
     const LaunchOptions update = accepted({u"--update"_s});
     EXPECT_TRUE(update.update);
     EXPECT_FALSE(update.usesSeparateProfile());
@@ -54,6 +57,7 @@ TEST(CommandLine, RefusesUnusableArguments) {
         {"text too large", {u"--text-scale"_s, u"201"_s}},
         {"no number", {u"--text-scale"_s, u"150%"_s}},
         {"two URLs", {u"guide://a"_s, u"guide://b"_s}},
+        {"a user without a database", {u"--user"_s, u"anna"_s}},
         {"an update that is to show something", {u"--update"_s, u"guide://a"_s}},
         {"a demo with a catalogue", {u"--demo"_s, u"--catalogue"_s, u"c"_s}},
     };

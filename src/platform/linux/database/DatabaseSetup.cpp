@@ -122,6 +122,9 @@ std::optional<QString> DatabaseSetup::setUser(const QString& name, QString& why)
     }
     DatabaseAddress address = m_address;
     address.user = name;
+    if (address.isSocket()) {
+        address.host = u"server"_s;
+    }
     QUrl url(address.text());
     url.setPassword(password);
     return url.toString(QUrl::FullyEncoded);

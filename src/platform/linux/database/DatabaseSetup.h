@@ -20,7 +20,7 @@ class DatabaseSetup {
     std::optional<QStringList> upgrade(const QString& folder, QString& why);
 
     /// Makes a user, or gives one another password. Returns the address of the user, with the password, which
-    /// is not kept anywhere.
+    /// is not kept anywhere. Through a socket, the name in it is "server".
     std::optional<QString> setUser(const QString& name, QString& why);
 
   private:

@@ -1,0 +1,81 @@
+#include "app/CloudSetup.h"
+
+#include "platform/linux/database/DatabaseSetup.h"
+
+#include <cstdio>
+#include <iostream>
+#include <string>
+#include <termios.h>
+#include <unistd.h>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int refuse(const QString& why) {
+    std::fprintf(stderr, "quellin-guide: %s\n", qPrintable(why));
+    return 1;
+}
+
+/// What the person types, without showing it; nothing without a terminal.
+std::optional<QString> typedPassword() {
+    termios shown{};
+    if (::tcgetattr(STDIN_FILENO, &shown) != 0) {
+        return std::nullopt;
+    }
+    std::fputs("Password of the administrator: ", stderr);
+    termios hidden = shown;
+    hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+    ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
+    std::string line;
+    const bool isRead = static_cast<bool>(std::getline(std::cin, line));
+    ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &shown);
+    std::fputc('\n', stderr);
+    return isRead ? std::optional(QString::fromLocal8Bit(line.data(), static_cast<qsizetype>(line.size())))
+                  : std::nullopt;
+}
+
+} // namespace
+
+int setUpCloud(const QString& address, const std::optional<QString>& user, const QString& schemaFolder) {
+    QString why;
+    std::optional<DatabaseAddress> administrator = databaseAddress(address, why);
+    if (!administrator) {
+        return refuse(why);
+    }
+    bool needsPassword = false;
+    std::optional<DatabaseSetup> setup = DatabaseSetup::connect(*administrator, needsPassword, why);
+    if (!setup && needsPassword) {
+        administrator->password = typedPassword();
+        if (administrator->password) {
+            setup = DatabaseSetup::connect(*administrator, needsPassword, why);
+        }
+    }
+    const std::optional<QStringList> applied = setup ? setup->upgrade(schemaFolder, why) : std::nullopt;
+    if (!applied) {
+        return refuse(why);
+    }
+    for (const QString& file : *applied) {
+        std::printf("applied %s\n", qPrintable(file));
+    }
+    if (applied->isEmpty()) {
+        std::puts("the database is up to date");
+    }
+    if (!user) {
+        return 0;
+    }
+    const std::optional<QString> made = setup->setUser(*user, why);
+    if (!made) {
+        return refuse(why);
+    }
+    std::printf("the address for the devices of %s, with a password that is shown only now:\n%s\n",
+                qPrintable(*user), qPrintable(*made));
+    if (administrator->isSocket()) {
+        std::puts("with the name under which devices reach this server in place of \"server\"");
+    }
+    return 0;
+}
+
+} // namespace guide
