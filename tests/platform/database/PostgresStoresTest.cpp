@@ -1,11 +1,8 @@
 // The stores on a PostgreSQL server that fails in every way.
 #include "PostgresServer.h"
+#include "Proxy.h"
 #include "TestGuide.h"
-
-#include <QCborArray>
-#include <QThread>
-
-#include <thread>
+#include "platform/linux/database/IncrementQueue.h"
 
 namespace guide::test {
 namespace {
@@ -70,6 +67,76 @@ TEST_F(PostgresStoresTest, CatchesUpAfterTheServerWasAway) {
     phone.set("a", 3);
     EXPECT_TRUE(tablet.waitForValue("a", 3));
     EXPECT_EQ(tablet.value("c"), QCborValue(1));
+}
+
+TEST_F(PostgresStoresTest, SendsEachIncrementOnceThroughLostConnections) {
+    Proxy proxy(server.port());
+    TestGuide phone(loop, addressWith(address, proxy.port()), u"Phone"_s);
+    ASSERT_TRUE(phone.waitForConnection());
+    const auto total = [&] {
+        server.query(u"select guide.fold(100000)"_s);
+        return server.query(u"select sum(count) from guide.counters"_s).toInt();
+    };
+    const auto isCounted = [&](int expected) {
+        return phone.waitFor([&] { return total() >= expected; }) && total() == expected;
+    };
+    int expected = 0;
+    const auto increment = [&](int count) {
+        for (int i = 0; i < count; ++i) {
+            EXPECT_TRUE(phone.records().incrementCounter(u"Title %1"_s.arg(i % 7), 2, {}));
+            expected += 2;
+        }
+    };
+    for (int round = 0; round < 4; ++round) {
+        increment(3);
+        // What was cut off may have been counted or not; the guide cannot know.
+        round % 2 == 0 ? proxy.cutAnswer() : proxy.cutRequest();
+        increment(10);
+        ASSERT_TRUE(phone.waitFor([&] { return proxy.hasCut(); }));
+        if (round == 1) {
+            phone.restart();
+        }
+        EXPECT_TRUE(isCounted(expected)) << round << ": " << total() << " of " << expected;
+    }
+    server.endConnections();
+    increment(20);
+    EXPECT_TRUE(isCounted(expected)) << total() << " of " << expected;
+
+    server.stop();
+    increment(500);
+    phone.restart();
+    increment(1);
+    server.start();
+    EXPECT_TRUE(isCounted(expected)) << total() << " of " << expected;
+}
+
+TEST_F(PostgresStoresTest, ALateRepetitionDoesNotUndoAnotherDevice) {
+    Proxy proxy(server.port());
+    TestGuide phone(loop, addressWith(address, proxy.port()), u"Phone"_s);
+    TestGuide tablet(loop, address, u"Tablet"_s);
+    ASSERT_TRUE(phone.waitForConnection());
+    ASSERT_TRUE(tablet.waitForConnection());
+    proxy.cutAnswer();
+    // Only the tablet knows that it was stored.
+    phone.set("a", u"phone"_s);
+    ASSERT_TRUE(tablet.waitForValue("a", u"phone"_s));
+    tablet.set("a", u"tablet"_s);
+    EXPECT_TRUE(phone.waitForValue("a", u"tablet"_s));
+    EXPECT_EQ(tablet.value("a"), QCborValue(u"tablet"_s));
+}
+
+TEST(IncrementQueueTest, IsBoundedAndBelongsToOneDatabase) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"queue"_s);
+    IncrementQueue queue(path, u"postgresql://anna@a/guide"_s);
+    for (std::size_t i = 0; i < IncrementQueue::kCapacity; ++i) {
+        ASSERT_TRUE(queue.add({.title = u"Title"_s, .amount = 1, .rule = {}}));
+    }
+    EXPECT_FALSE(queue.add({.title = u"Title"_s, .amount = 1, .rule = {}}));
+    const QUuid batch = queue.nextBatch()->id;
+    queue.save();
+    EXPECT_EQ(IncrementQueue(path, u"postgresql://anna@a/guide"_s).nextBatch()->id, batch);
+    EXPECT_FALSE(IncrementQueue(path, u"postgresql://anna@b/guide"_s).nextBatch());
 }
 
 } // namespace

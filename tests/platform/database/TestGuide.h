@@ -69,9 +69,9 @@ class TestGuide final : public KeyValueStoreObserver {
 
     void valuesChangedExternally(const QStringList& keys) override { announced.append(keys); }
 
+    const QTemporaryDir profile;
     SharedStores stores;
     QStringList announced;
-    const QTemporaryDir profile;
 
   private:
     void start() {

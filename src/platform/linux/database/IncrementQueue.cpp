@@ -81,6 +81,11 @@ void IncrementQueue::save() {
     }
 }
 
+bool IncrementQueue::isSaved() {
+    const std::lock_guard lock(m_guard);
+    return !m_needsSaving || (m_increments.empty() && !m_isInFile);
+}
+
 std::optional<IncrementQueue::Ticket> IncrementQueue::add(const Increment& increment) {
     const std::lock_guard lock(m_guard);
     if (m_increments.size() >= kCapacity) {

@@ -48,6 +48,8 @@ class IncrementQueue {
     /// Whether the increment was refused. Answers once.
     bool wasRefused(Ticket ticket);
 
+    /// Whether the file has what is still to be sent.
+    bool isSaved();
     /// Keeps in the file what is still to be sent, or removes the file.
     void save();
 

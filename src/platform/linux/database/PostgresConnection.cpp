@@ -70,7 +70,8 @@ DatabaseFault faultOf(QByteArrayView state) {
 
 /// Why the attempt to connect failed; `phase` is the last one that it reached.
 DatabaseError connectionError(PGconn* connection, ConnStatusType phase) {
-    static const QRegularExpression kState(u"[^:]: +([0-9A-Z]{5}): "_s);
+    // Five letters and digits; the severity before them has no digits.
+    static const QRegularExpression kState(u": +(?=[A-Z]*[0-9])([0-9A-Z]{5}): "_s);
     DatabaseError error{.message = QString::fromUtf8(PQerrorMessage(connection)).section(u'\n', 0, 0)};
     if (const auto match = kState.match(error.message); match.hasMatch()) {
         error.fault = faultOf(match.captured(1).toLatin1());

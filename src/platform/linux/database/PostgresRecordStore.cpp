@@ -5,6 +5,7 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <atomic>
 #include <limits>
 
 namespace guide {
@@ -41,11 +42,13 @@ DatabaseReply countBatch(PostgresConnection& connection, const QUuid& device,
 
 } // namespace
 
-class PostgresRecordStore::Sender final : public PostgresSession::Client {
+class PostgresRecordStore::Sender final : public PostgresSession::Client,
+                                          public std::enable_shared_from_this<Sender> {
   public:
-    Sender(const QString& path, const QString& address, const QUuid& device)
+    Sender(const QString& path, const QString& address, const QUuid& device, DispatchQueues& queues)
         : queue(path, address)
-        , m_device(device) {}
+        , m_device(device)
+        , m_files(queues.makeQueue("databaseIncrements", QueueKind::Serial, QueuePriority::Background)) {}
 
     void connected(const DatabaseLimits& /*limits*/) override { m_pauseUntil = {}; }
     void exchange(PostgresConnection& connection, bool /*mayHaveChanged*/) override { send(connection); }
@@ -70,22 +73,41 @@ class PostgresRecordStore::Sender final : public PostgresSession::Client {
                 queue.refuseBatch();
             }
         }
-        queue.save();
+        // What was just sent in full was never in the file.
+        if (!queue.isSaved()) {
+            save();
+        }
+    }
+
+    /// Saves soon; many changes at once.
+    void save() {
+        if (!m_isSaving.exchange(true)) {
+            m_files->async([self = shared_from_this()] {
+                self->m_isSaving = false;
+                self->queue.save();
+            });
+        }
     }
 
     IncrementQueue queue;
 
   private:
     const QUuid m_device;
+    const std::shared_ptr<DispatchQueue> m_files;
+    std::atomic<bool> m_isSaving = false;
     /// Session's thread.
     std::chrono::steady_clock::time_point m_pauseUntil;
 };
 
 PostgresRecordStore::PostgresRecordStore(std::shared_ptr<PostgresSession> session, const QString& queuePath,
-                                         const QString& address)
+                                         const QString& address, DispatchQueues& queues)
     : m_session(std::move(session))
-    , m_sender(std::make_shared<Sender>(queuePath, address, m_session->device())) {
+    , m_sender(std::make_shared<Sender>(queuePath, address, m_session->device(), queues)) {
     m_session->addClient(m_sender);
+}
+
+PostgresRecordStore::~PostgresRecordStore() {
+    m_sender->queue.save();
 }
 
 bool PostgresRecordStore::incrementCounter(const QString& title, std::int64_t amount,
@@ -104,7 +126,7 @@ bool PostgresRecordStore::incrementCounter(const QString& title, std::int64_t am
             sender->send(connection);
         }) == PostgresSession::CallOutcome::Done;
     if (!isSent) {
-        m_sender->queue.save();
+        m_sender->save();
     }
     return !m_sender->queue.wasRefused(*ticket);
 }

@@ -15,7 +15,8 @@ class PostgresRecordStore final : public RecordStore {
     /// `queuePath` is the file of increments to be sent. Adds itself to the session, which must not have been
     /// started.
     PostgresRecordStore(std::shared_ptr<PostgresSession> session, const QString& queuePath,
-                        const QString& address);
+                        const QString& address, DispatchQueues& queues);
+    ~PostgresRecordStore() override;
 
     std::optional<CounterRecord> counter(const QString& title) override;
     /// Always false: only the administrator sets counters.

@@ -33,7 +33,8 @@ SharedStores sharedStoresFor(const QString& address, const SharedStoresOptions& 
     SharedStores stores;
     stores.state = keyValueStore.get();
     stores.keyValueStore = std::move(keyValueStore);
-    stores.recordStore = std::make_unique<PostgresRecordStore>(session, name + ".increments"_L1, text);
+    stores.recordStore =
+        std::make_unique<PostgresRecordStore>(session, name + ".increments"_L1, text, queues);
     stores.retryNow = [weak = std::weak_ptr(session)] {
         if (const auto alive = weak.lock()) {
             alive->retryNow();

@@ -172,7 +172,8 @@ void SharedValues::sent(const Change& change, const QUuid& stored) {
         return;
     }
     m_needsSaving = true;
-    entry->known = stored;
+    // Otherwise an equal value was there, or another device has replaced this one: it has to be read.
+    entry->known = stored == change.write ? stored : QUuid();
     if (entry->pending == change.write) {
         entry->pending = {};
         entry->heldUntil = {};
