@@ -2,7 +2,11 @@
 #include "PostgresServer.h"
 #include "Proxy.h"
 #include "TestGuide.h"
+#include "fakes/Files.h"
+#include "platform/linux/database/DatabaseSetup.h"
 #include "platform/linux/database/IncrementQueue.h"
+
+#include <QDir>
 
 namespace guide::test {
 namespace {
@@ -43,10 +47,10 @@ TEST_F(PostgresStoresTest, CatchesUpAfterTheServerWasAway) {
     TestGuide phone(loop, address, u"Phone"_s);
     TestGuide tablet(loop, address, u"Tablet"_s);
     ASSERT_TRUE(phone.waitForConnection());
-    phone.set("a", 1);
-    phone.set("b", 1);
-    phone.set("c", 1);
-    ASSERT_TRUE(tablet.waitForValue("c", 1));
+    for (const char* key : {"a", "b", "c"}) {
+        phone.set(key, 1);
+        ASSERT_TRUE(tablet.waitForValue(key, 1));
+    }
     server.stop();
     ASSERT_TRUE(phone.waitForConnection(SharedStoreConnection::Offline));
     ASSERT_TRUE(tablet.waitForConnection(SharedStoreConnection::Offline));
@@ -102,11 +106,16 @@ TEST_F(PostgresStoresTest, SendsEachIncrementOnceThroughLostConnections) {
     increment(20);
     EXPECT_TRUE(isCounted(expected)) << total() << " of " << expected;
 
+    // More than one batch; the guide ends while it sends them.
     server.stop();
     increment(500);
     phone.restart();
     increment(1);
     server.start();
+    for (int i = 0; i < 3; ++i) {
+        phone.waitFor([&] { return phone.state().connection == SharedStoreConnection::Connected; });
+        phone.restart();
+    }
     EXPECT_TRUE(isCounted(expected)) << total() << " of " << expected;
 }
 
@@ -123,6 +132,37 @@ TEST_F(PostgresStoresTest, ALateRepetitionDoesNotUndoAnotherDevice) {
     tablet.set("a", u"tablet"_s);
     EXPECT_TRUE(phone.waitForValue("a", u"tablet"_s));
     EXPECT_EQ(tablet.value("a"), QCborValue(u"tablet"_s));
+}
+
+TEST_F(PostgresStoresTest, UpgradesByWholeFiles) {
+    QString why;
+    bool needsPassword = false;
+    auto setup = DatabaseSetup::connect(*databaseAddress(server.address(), why), needsPassword, why);
+    ASSERT_TRUE(setup) << why.toStdString();
+    const QString schema = QStringLiteral(QUELLIN_SOURCE_DATA "/database");
+    EXPECT_EQ(setup->upgrade(schema, why), QStringList()) << "nothing is applied twice";
+
+    const QTemporaryDir folder;
+    for (const QString& file : QDir(schema).entryList(QDir::Files)) {
+        QFile::copy(schema + u'/' + file, folder.filePath(file));
+    }
+    const QString next = folder.filePath(u"900-next.sql"_s);
+    ASSERT_TRUE(writeFile(next, "create table guide.next (a integer); select 1 / 0;"));
+    EXPECT_FALSE(setup->upgrade(folder.path(), why));
+    EXPECT_EQ(why, u"900-next.sql: division by zero"_s);
+    EXPECT_EQ(server.query(u"select to_regclass('guide.next')"_s), QString());
+    ASSERT_TRUE(writeFile(next, "create table guide.next (a integer);"));
+    EXPECT_EQ(setup->upgrade(folder.path(), why), QStringList(u"900-next.sql"_s));
+    EXPECT_FALSE(setup->upgrade(schema, why));
+    EXPECT_EQ(why, u"The database is newer than this program."_s);
+
+    const QString before = address;
+    EXPECT_NE(server.addUser(u"anna"_s), before) << "another password";
+    TestGuide phone(loop, before, u"Phone"_s);
+    EXPECT_TRUE(phone.waitForConnection(SharedStoreConnection::Refused));
+    for (const char16_t* name : {u"postgres", u"guide_owner", u"guide_member", u"Anna", u"a\"b", u""}) {
+        EXPECT_FALSE(setup->setUser(QString::fromUtf16(name), why)) << QString::fromUtf16(name).toStdString();
+    }
 }
 
 TEST(IncrementQueueTest, IsBoundedAndBelongsToOneDatabase) {

@@ -81,9 +81,14 @@ void IncrementQueue::save() {
     }
 }
 
-bool IncrementQueue::isSaved() {
-    const std::lock_guard lock(m_guard);
-    return !m_needsSaving || (m_increments.empty() && !m_isInFile);
+void IncrementQueue::saveIfInFile() {
+    {
+        const std::lock_guard lock(m_guard);
+        if (!m_isInFile) {
+            return;
+        }
+    }
+    save();
 }
 
 std::optional<IncrementQueue::Ticket> IncrementQueue::add(const Increment& increment) {

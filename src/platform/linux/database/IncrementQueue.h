@@ -48,8 +48,9 @@ class IncrementQueue {
     /// Whether the increment was refused. Answers once.
     bool wasRefused(Ticket ticket);
 
-    /// Whether the file has what is still to be sent.
-    bool isSaved();
+    /// Saves if there is a file, which a restart would read. To be called before a batch is sent and after it
+    /// was counted: otherwise a batch that is not the last one of this device could be sent again.
+    void saveIfInFile();
     /// Keeps in the file what is still to be sent, or removes the file.
     void save();
 

@@ -70,6 +70,8 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
   private:
     void send(PostgresConnection& connection) {
         for (const SharedValues::Change& change : m_values->changesToSend()) {
+            // After a crash, only the last change may be sent again: the database recognises that one.
+            m_values->save();
             const DatabaseReply reply = connection.execute(
                 "select guide.set_value($1, $2, $3, $4)",
                 {DatabaseParameter(m_values->device()), DatabaseParameter(change.write),
@@ -80,6 +82,7 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
             }
             if (!reply.error()) {
                 m_values->sent(change, reply.isNull(0, 0) ? QUuid() : reply.id(0, 0));
+                m_values->save();
                 continue;
             }
             qWarning().noquote() << "The value of" << change.key

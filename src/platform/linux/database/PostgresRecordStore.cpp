@@ -56,25 +56,30 @@ class PostgresRecordStore::Sender final : public PostgresSession::Client,
     /// Sends what is in the queue.
     void send(PostgresConnection& connection) {
         const bool isPaused = std::chrono::steady_clock::now() < m_pauseUntil;
+        bool isHeldUp = isPaused;
         while (const std::optional<IncrementQueue::Batch> batch =
                    isPaused ? std::nullopt : queue.nextBatch()) {
+            queue.saveIfInFile();
             const DatabaseReply reply = countBatch(connection, m_device, *batch);
             if (!reply.error()) {
                 queue.removeBatch();
+                queue.saveIfInFile();
             } else if (connection.isLost()) {
+                isHeldUp = true;
                 break;
             } else if (reply.error()->fault == DatabaseFault::Later) {
                 m_pauseUntil = std::chrono::steady_clock::now() + kPauseAfterTooMuch;
+                isHeldUp = true;
                 break;
             } else if (batch->increments.size() > 1) {
                 queue.divideBatch();
             } else {
                 qWarning().noquote() << "An increment is not accepted:" << reply.error()->message;
                 queue.refuseBatch();
+                queue.saveIfInFile();
             }
         }
-        // What was just sent in full was never in the file.
-        if (!queue.isSaved()) {
+        if (isHeldUp) {
             save();
         }
     }
