@@ -21,6 +21,10 @@ end $$;
 do $$
 begin
     revoke all on schema public from public;
+    if not (select rolsuper from pg_roles where rolname = current_user) then
+        raise warning 'users can make large objects and take advisory locks: only a superuser can forbid it';
+        return;
+    end if;
     revoke execute on function lo_create(oid), lo_creat(integer), lo_from_bytea(oid, bytea) from public;
     revoke execute on function
         pg_advisory_lock(bigint), pg_advisory_lock(integer, integer), pg_advisory_lock_shared(bigint),
@@ -32,8 +36,6 @@ begin
         pg_try_advisory_xact_lock(integer, integer), pg_try_advisory_xact_lock_shared(bigint),
         pg_try_advisory_xact_lock_shared(integer, integer)
         from public;
-exception when insufficient_privilege then
-    raise warning 'without a superuser, large objects and advisory locks stay open to users';
 end $$;
 
 create schema guide authorization guide_owner;
@@ -163,13 +165,20 @@ begin
         insert into user_values (key, value, write, device) values (p_key, p_value, p_write, p_device)
             on conflict (owner, key) do update set value = excluded.value, write = excluded.write, device = excluded.device;
     end if;
-    perform pg_notify(member.channel, '');
     return case when p_value is not null then p_write end;
 end $$;
 
-grant execute on function hello, set_value to guide_member;
+-- Tells the caller's devices to look for changes. Apart from set_value, because transactions that announce something
+-- are committed one after another, with all that they wait for.
+create function announce() returns void
+language sql security definer set search_path = guide, pg_temp as $$
+    select pg_notify(channel, '') from members where owner = session_user
+$$;
 
--- For administrators: makes a user, or gives one another password. The password is a verifier, so that it is not logged.
+grant execute on function hello, set_value, announce to guide_member;
+
+-- For administrators: makes a user, or gives one another password. The password is a verifier, so that it is not
+-- logged.
 reset role;
 create function guide.set_user(p_name name, p_verifier text) returns void
 language plpgsql set search_path = pg_catalog, pg_temp as $$
@@ -185,7 +194,7 @@ begin
         begin
             execute format('alter role %I set temp_file_limit = ''64MB''', p_name);
         exception when insufficient_privilege then
-            raise warning 'without a superuser, the size of temporary files is not limited';
+            raise warning 'the temporary files of % are not limited: only a superuser can do it', p_name;
         end;
     elsif not exists (
         select from pg_auth_members a join pg_roles m on m.oid = a.member join pg_roles r on r.oid = a.roleid

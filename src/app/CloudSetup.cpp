@@ -19,6 +19,12 @@ int refuse(const QString& why) {
     return 1;
 }
 
+void warn(DatabaseSetup& setup) {
+    for (const QString& warning : setup.takeWarnings()) {
+        std::fprintf(stderr, "quellin-guide: warning: %s\n", qPrintable(warning));
+    }
+}
+
 /// What the person types, without showing it; nothing without a terminal.
 std::optional<QString> typedPassword() {
     termios shown{};
@@ -57,6 +63,7 @@ int setUpCloud(const QString& address, const std::optional<QString>& user, const
     if (!applied) {
         return refuse(why);
     }
+    warn(*setup);
     for (const QString& file : *applied) {
         std::printf("applied %s\n", qPrintable(file));
     }
@@ -70,6 +77,7 @@ int setUpCloud(const QString& address, const std::optional<QString>& user, const
     if (!made) {
         return refuse(why);
     }
+    warn(*setup);
     std::printf("the address for the devices of %s, with a password that is shown only now:\n%s\n",
                 qPrintable(*user), qPrintable(*made));
     if (administrator->isSocket()) {

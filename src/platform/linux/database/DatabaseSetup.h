@@ -23,6 +23,9 @@ class DatabaseSetup {
     /// is not kept anywhere. Through a socket, the name in it is "server".
     std::optional<QString> setUser(const QString& name, QString& why);
 
+    /// What the administrator should know about what was done since the last call.
+    QStringList takeWarnings() { return m_connection->takeWarnings(); }
+
   private:
     DatabaseSetup(DatabaseAddress address, std::unique_ptr<WakeUp> stop,
                   std::unique_ptr<PostgresConnection> connection)

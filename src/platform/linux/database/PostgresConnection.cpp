@@ -152,7 +152,17 @@ std::unique_ptr<PostgresConnection> PostgresConnection::open(const DatabaseAddre
     PGconn* connection = opened->handle();
     // Has error codes, which do not depend on the language.
     PQsetErrorVerbosity(connection, PQERRORS_VERBOSE);
-    PQsetNoticeProcessor(connection, [](void*, const char*) {}, nullptr);
+    PQsetNoticeReceiver(
+        connection,
+        [](void* self, const PGresult* notice) {
+            // What functions raise; not what the server remarks on its own.
+            const char* state = PQresultErrorField(notice, PG_DIAG_SQLSTATE);
+            if (state != nullptr && QByteArrayView(state) == "01000") {
+                static_cast<PostgresConnection*>(self)->m_warnings.append(
+                    QString::fromUtf8(PQresultErrorField(notice, PG_DIAG_MESSAGE_PRIMARY)));
+            }
+        },
+        opened.get());
     const auto until = SteadyClock::now() + kTimeToConnect;
     ConnStatusType phase = PQstatus(connection);
     PostgresPollingStatusType next = phase == CONNECTION_BAD ? PGRES_POLLING_FAILED : PGRES_POLLING_WRITING;

@@ -112,6 +112,8 @@ class PostgresConnection {
     bool receive() { return PQconsumeInput(m_connection.get()) != 0 && !isLost(); }
     /// Whether there were notifications since the last call.
     bool takeNotifications();
+    /// The warnings that statements raised since the last call.
+    QStringList takeWarnings() { return std::exchange(m_warnings, {}); }
     bool isLost() const { return m_isLost || PQstatus(m_connection.get()) != CONNECTION_OK; }
 
     PGconn* handle() const { return m_connection.get(); }
@@ -129,6 +131,7 @@ class PostgresConnection {
     const std::unique_ptr<PGconn, Finish> m_connection;
     const WakeUp& m_stop;
     bool m_isLost = false;
+    QStringList m_warnings;
 };
 
 } // namespace guide

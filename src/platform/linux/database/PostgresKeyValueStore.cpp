@@ -40,6 +40,8 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
     void connected(const DatabaseLimits& limits) override {
         m_valueBytes = limits.valueBytes;
         m_keyBytes = limits.keyBytes;
+        // The announcement of the last change may have been lost with the connection or with the guide.
+        m_hasToAnnounce = true;
         // The limits may have been raised.
         m_values->sendAll();
     }
@@ -81,7 +83,9 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
                 return;
             }
             if (!reply.error()) {
-                m_values->sent(change, reply.isNull(0, 0) ? QUuid() : reply.id(0, 0));
+                const QUuid stored = reply.isNull(0, 0) ? QUuid() : reply.id(0, 0);
+                m_hasToAnnounce = m_hasToAnnounce || stored == change.write || !change.bytes;
+                m_values->sent(change, stored);
                 m_values->save();
                 continue;
             }
@@ -94,6 +98,9 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
                                                : std::chrono::steady_clock::time_point::max());
         }
         m_session.setValueProblem(m_values->holdsBack() ? m_problem : QString());
+        if (m_hasToAnnounce && !connection.execute("select guide.announce()").error()) {
+            m_hasToAnnounce = false;
+        }
     }
 
     void read(PostgresConnection& connection) {
@@ -167,8 +174,9 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
     std::atomic<bool> m_isSaving = false;
     std::atomic<qsizetype> m_valueBytes = kUsualLimits.valueBytes;
     std::atomic<qsizetype> m_keyBytes = kUsualLimits.keyBytes;
-    /// Session's thread.
+    // Session's thread.
     QString m_problem;
+    bool m_hasToAnnounce = true;
 };
 
 PostgresKeyValueStore::PostgresKeyValueStore(std::shared_ptr<PostgresSession> session,
