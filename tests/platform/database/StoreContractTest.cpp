@@ -115,12 +115,13 @@ TEST_P(KeyValueStoreTest, KeepsTypesOfValues) {
     for (const auto& [key, value] : values) {
         ASSERT_TRUE(store().setValue(key, value)) << key.toStdString();
     }
-    for (const auto& [key, value] : values) {
-        EXPECT_EQ(store().valueForKey(key), value) << key.toStdString();
-        ASSERT_TRUE(TestGuide::waitFor([&, &key = key] { return test->valueElsewhere(key).has_value(); }))
+    for (const auto& each : values) {
+        const QString& key = each.first;
+        EXPECT_EQ(store().valueForKey(key), each.second) << key.toStdString();
+        ASSERT_TRUE(TestGuide::waitFor([&] { return test->valueElsewhere(key).has_value(); }))
             << key.toStdString();
-        EXPECT_EQ(test->valueElsewhere(key)->type(), value.type()) << key.toStdString();
-        EXPECT_EQ(test->valueElsewhere(key), value) << key.toStdString();
+        EXPECT_EQ(test->valueElsewhere(key)->type(), each.second.type()) << key.toStdString();
+        EXPECT_EQ(test->valueElsewhere(key), each.second) << key.toStdString();
     }
     if (GetParam().name != "Memory"_ba) {
         EXPECT_FALSE(store().setValue(u"text"_s, QCborMap{{1, 2}})) << "not one of the types";
