@@ -131,8 +131,12 @@ std::optional<QByteArray> keyValueJson(const KeyValue& keyValue) {
     if (!json) {
         return std::nullopt;
     }
-    const QJsonObject stamp{{kCounter, qint64(keyValue.stamp.counter)}, {kDevice, keyValue.stamp.device}};
-    return QJsonDocument(QJsonObject{{kKey, keyValue.key}, {kValue, *json}, {kStamp, stamp}}).toJson();
+    QJsonObject object{{kKey, keyValue.key}, {kValue, *json}};
+    if (keyValue.stamp.counter > 0) {
+        object.insert(kStamp, QJsonObject{{kCounter, qint64(keyValue.stamp.counter)},
+                                          {kDevice, keyValue.stamp.device}});
+    }
+    return QJsonDocument(object).toJson();
 }
 
 std::optional<KeyValue> keyValueFromJson(const QByteArray& json) {

@@ -121,7 +121,7 @@ std::optional<QCborValue> SharedValues::value(const QString& key) const {
 }
 
 SharedValues::SetOutcome SharedValues::set(const QString& key, const QCborValue& value, qsizetype mostBytes) {
-    const std::optional<QByteArray> bytes = keyValueJson(key, value);
+    const std::optional<QByteArray> bytes = keyValueJson({key, value});
     // PostgreSQL has no texts with this character.
     if (!bytes || bytes->size() > mostBytes || key.contains(QChar(u'\0'))) {
         return SetOutcome::Refused;
