@@ -34,6 +34,7 @@ void QuellinGuideAppDelegate::makeCounters() {
                 if (!alive.expired() && m_screens) {
                     m_listings->storePopularShows(std::move(list));
                     m_screens->recolor();
+                    m_screens->reloadData();
                 }
             },
     });

@@ -68,6 +68,10 @@ bool isSilentHoursSwitch(const Row& row) {
     const auto* content = std::get_if<SwitchRow>(&row.content);
     return content && content->title == Localized::tr("Scheduled no alarm time");
 }
+bool isDestructive(const Row& row) {
+    const auto* content = std::get_if<ButtonRow>(&row.content);
+    return content && content->style == ButtonRow::Style::Destructive;
+}
 bool isTime(const Row& row) {
     return row.kind() == RowKind::Time;
 }
@@ -170,7 +174,10 @@ constexpr std::array kStops{
          }},
     Stop{"options-silent", [](PictureTour& tour) { return tour.send(Toggled{true}, isSilentHoursSwitch); },
          Stops::WithChanges},
-    Stop{"calendars", [](PictureTour& tour) { return tour.pressButton(Localized::tr("Calendars")); },
+    Stop{"options-delete", [](PictureTour& tour) { return tour.send(Tapped{}, isDestructive); },
+         Stops::WithChanges},
+    Stop{"calendars",
+         [](PictureTour& tour) { return tour.back() && tour.pressButton(Localized::tr("Calendars")); },
          Stops::WithChanges},
     Stop{"silent-hours",
          [](PictureTour& tour) {

@@ -3,6 +3,7 @@
 #include "screens/channels/EditChannelListViewController.h"
 #include "screens/shell/GuideTabs.h"
 
+#include <QCborArray>
 #include <QDir>
 
 #include <gtest/gtest.h>
@@ -56,6 +57,15 @@ struct GuideAlarmsTest : testing::Test {
         for (const RowAction& action : screen().rowActions(row(title)->id)) {
             if (action.title == u"⏰"_s) {
                 action.action();
+            }
+        }
+    }
+
+    void openOptions() {
+        tabs().setSelectedIndex(static_cast<int>(tabs().tabs().size()) - 1);
+        for (std::size_t index = 0; index < screen().rightBarButtons().size(); ++index) {
+            if (screen().rightBarButtons()[index].kind == BarButton::Kind::Options) {
+                return screen().pressRightBarButton(index);
             }
         }
     }
@@ -135,6 +145,39 @@ TEST_F(GuideAlarmsTest, AnUpdateWithoutAWindowBringsTheAlarmsUpToDate) {
     EXPECT_EQ(events.events().front().startDate, made.startDate + 30min) << "before the end is told";
 }
 
+TEST_F(GuideAlarmsTest, ErasingReachesTheCalendarAndEveryStore) {
+    press(u"Morning 3"_s);
+    ASSERT_TRUE(world.runUntil([&] { return badge() == u"1"_s; }));
+    openOptions();
+    const auto pressButton = [this](const QString& title) {
+        const auto button = [&]() -> const Row* {
+            const Table& table = screen().table();
+            for (int index = 0; index < table.rowCount(); ++index) {
+                const auto* content = std::get_if<ButtonRow>(&table.rowAt(index).content);
+                if (content && content->title == title && content->enabled) {
+                    return &table.rowAt(index);
+                }
+            }
+            return nullptr;
+        };
+        EXPECT_TRUE(world.runUntil([&] { return button() != nullptr; })) << title.toStdString();
+        screen().sendRowEvent(RowId(button()->id), Tapped{});
+    };
+    pressButton(u"Delete…"_s);
+    pressButton(u"Delete"_s);
+    tabs().answerAlert(1);
+    ASSERT_TRUE(world.runUntil([&] { return tabs().presentedAlert() != nullptr; }));
+    EXPECT_EQ(
+        tabs().presentedAlert()->message,
+        u"2 selected channel(s)\n1 favourite(s)\n1 alert(s) in the calendar\nthe choice of the calendar"_s);
+    EXPECT_TRUE(events.events().empty());
+    EXPECT_FALSE(tabs().tabs().front().item.enabled);
+    world.end();
+    EXPECT_FALSE(world.userDefaults.stringForKey(u"selectedCalendar"_s));
+    EXPECT_FALSE(world.keyValueStore.valueForKey(u"lastAlarmMinutes"_s));
+    EXPECT_EQ(world.keyValueStore.valueForKey(u"SelectedChannels"_s), QCborValue(QCborArray()));
+}
+
 struct ManyGuideAlarmsTest : GuideAlarmsTest {
     static constexpr int kAlarms = 10;
     ManyGuideAlarmsTest()
@@ -209,13 +252,7 @@ TEST_F(GuideAlarmsTest, TheUserDecidesAboutRemovalsThatAreHeldBack) {
 TEST_F(GuideAlarmsTest, ASettingOfTheOptionsShowsAtOnce) {
     ASSERT_TRUE(row(u"Morning 1"_s));
     const int currently = tabs().selectedIndex();
-    tabs().setSelectedIndex(static_cast<int>(tabs().tabs().size()) - 1);
-    for (std::size_t index = 0; index < screen().rightBarButtons().size(); ++index) {
-        if (screen().rightBarButtons()[index].kind == BarButton::Kind::Options) {
-            screen().pressRightBarButton(index);
-            break;
-        }
-    }
+    openOptions();
     ASSERT_EQ(screen().title(), u"Options"_s);
     for (int index = 0; index < screen().table().rowCount(); ++index) {
         const Row choice = screen().table().rowAt(index);
