@@ -70,6 +70,8 @@ create table members (
 create table devices (
     owner name not null default session_user,
     device uuid not null,
+    -- Of the device's newest connection. What an older one sent and was delayed on the way comes too late.
+    session uuid not null default gen_random_uuid(),
     name text not null,
     seen timestamptz not null default now(),
     wrote timestamptz,
@@ -100,7 +102,8 @@ create policy own on user_values using (owner = session_user) with check (owner 
 grant select on devices, user_values to guide_member;
 
 -- Registers a device of the caller and says where changes are announced and what may be stored.
-create function hello(p_device uuid, p_name text, out channel text, out value_bytes integer, out key_bytes integer)
+create function hello(p_device uuid, p_name text, out session uuid, out channel text, out value_bytes integer,
+                      out key_bytes integer)
 language plpgsql security definer set search_path = guide, pg_temp as $$
 declare
     most limits;
@@ -110,7 +113,8 @@ begin
     select m.channel into channel from members m where owner = session_user for update;
     insert into devices (device, name)
         values (p_device, left(p_name, most.device_name_bytes / 4))
-        on conflict (owner, device) do update set name = excluded.name, seen = now();
+        on conflict (owner, device) do update set name = excluded.name, seen = now(), session = excluded.session
+        returning devices.session into session;
     delete from devices d where owner = session_user and d.device in (
         select o.device from devices o where o.owner = session_user
         order by o.device = p_device desc, o.seen desc offset most.devices_per_user);
@@ -120,7 +124,7 @@ end $$;
 
 -- Stores a value of the caller, or removes it (null). An equal value is not stored. Returns the write that made the
 -- value that is there now.
-create function set_value(p_device uuid, p_write uuid, p_key text, p_value bytea) returns uuid
+create function set_value(p_session uuid, p_write uuid, p_key text, p_value bytea) returns uuid
 language plpgsql security definer set search_path = guide, pg_temp as $$
 declare
     most limits;
@@ -133,9 +137,9 @@ begin
     select * into most from limits;
     -- The writes of one user happen one after another.
     select * into member from members where owner = session_user for update;
-    select * into device from devices d where d.owner = session_user and d.device = p_device;
+    select * into device from devices d where d.owner = session_user and d.session = p_session;
     if device is null or member is null then
-        raise exception 'unknown device' using errcode = 'no_data_found';
+        raise exception 'unknown session' using errcode = 'no_data_found';
     end if;
     select * into old from user_values v where v.owner = session_user and v.key = p_key;
     if device.last_write = p_write or old.value is not distinct from p_value then
@@ -158,11 +162,11 @@ begin
         update members set writes = writes + 1 where owner = session_user;
     end if;
     update devices d set last_write = p_write, wrote = now(), seen = now()
-        where d.owner = session_user and d.device = p_device;
+        where d.owner = session_user and d.session = p_session;
     if p_value is null then
         delete from user_values v where v.owner = session_user and v.key = p_key;
     else
-        insert into user_values (key, value, write, device) values (p_key, p_value, p_write, p_device)
+        insert into user_values (key, value, write, device) values (p_key, p_value, p_write, device.device)
             on conflict (owner, key) do update set value = excluded.value, write = excluded.write, device = excluded.device;
     end if;
     return case when p_value is not null then p_write end;

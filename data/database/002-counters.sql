@@ -109,7 +109,7 @@ begin
 end $$;
 
 -- Counts a batch in its order. A batch that was counted already is not counted again.
-create function count_batch(p_device uuid, p_batch uuid, p_titles text[], p_amounts integer[],
+create function count_batch(p_session uuid, p_batch uuid, p_titles text[], p_amounts integer[],
                             p_makes_missing boolean[], p_removes_below_one boolean[]) returns void
 language plpgsql security definer set search_path = guide, pg_temp as $$
 declare
@@ -118,12 +118,12 @@ declare
     used integer;
 begin
     update devices set last_batch = p_batch
-        where owner = session_user and device = p_device and last_batch is distinct from p_batch;
+        where owner = session_user and session = p_session and last_batch is distinct from p_batch;
     if not found then
-        if exists (select from devices where owner = session_user and device = p_device) then
+        if exists (select from devices where owner = session_user and session = p_session) then
             return;
         end if;
-        raise exception 'unknown device' using errcode = 'no_data_found';
+        raise exception 'unknown session' using errcode = 'no_data_found';
     end if;
     select * into most from limits;
     if size > most.batch_size or cardinality(p_amounts) <> size or cardinality(p_makes_missing) <> size

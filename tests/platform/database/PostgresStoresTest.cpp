@@ -132,6 +132,28 @@ TEST_F(PostgresStoresTest, ALateRepetitionDoesNotUndoAnotherDevice) {
     tablet.set("a", u"tablet"_s);
     EXPECT_TRUE(phone.waitForValue("a", u"tablet"_s));
     EXPECT_EQ(tablet.value("a"), QCborValue(u"tablet"_s));
+
+    // What the phone sent on an older connection may even arrive after later changes.
+    const QByteArray session =
+        server.query(u"select session from guide.devices where name = 'Phone'"_s).toLatin1();
+    phone.restart();
+    ASSERT_TRUE(phone.waitFor([&] {
+        return server.query(u"select session from guide.devices where name = 'Phone'"_s).toLatin1() !=
+               session;
+    }));
+    const WakeUp stop;
+    DatabaseError error;
+    QString why;
+    const DatabaseAddress user = databaseAddress(address, why).value();
+    for (const char* late : {"set_value('%1', gen_random_uuid(), 'a', 'x')",
+                             "count_batch('%1', gen_random_uuid(), '{A}', '{2}', '{t}', '{t}')"}) {
+        const auto older = PostgresConnection::open(user, user.password.value(), {}, stop, error);
+        ASSERT_TRUE(older) << error.message.toStdString();
+        const DatabaseReply reply =
+            older->execute(QByteArray("select guide.") + QByteArray(late).replace("%1", session));
+        ASSERT_TRUE(reply.error()) << late;
+        EXPECT_EQ(reply.error()->message, u"unknown session"_s);
+    }
 }
 
 TEST_F(PostgresStoresTest, UpgradesByWholeFiles) {

@@ -14,7 +14,8 @@ namespace {
 
 constexpr auto kPauseAfterTooMuch = 5min;
 // Until the database has told its limits.
-constexpr DatabaseLimits kUsualLimits{.valueBytes = 4 << 20, .keyBytes = 200};
+constexpr qsizetype kUsualValueBytes = 4 << 20;
+constexpr qsizetype kUsualKeyBytes = 200;
 
 } // namespace
 
@@ -37,9 +38,10 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
         , m_queues(queues)
         , m_files(queues.makeQueue("databaseValues", QueueKind::Serial, QueuePriority::Background)) {}
 
-    void connected(const DatabaseLimits& limits) override {
-        m_valueBytes = limits.valueBytes;
-        m_keyBytes = limits.keyBytes;
+    void connected(const DatabaseGreeting& greeting) override {
+        m_sessionId = greeting.session;
+        m_valueBytes = greeting.valueBytes;
+        m_keyBytes = greeting.keyBytes;
         // The announcement of the last change may have been lost with the connection or with the guide.
         m_hasToAnnounce = true;
         // The limits may have been raised.
@@ -76,7 +78,7 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
             m_values->save();
             const DatabaseReply reply = connection.execute(
                 "select guide.set_value($1, $2, $3, $4)",
-                {DatabaseParameter(m_values->device()), DatabaseParameter(change.write),
+                {DatabaseParameter(m_sessionId), DatabaseParameter(change.write),
                  DatabaseParameter(change.key.toUtf8()),
                  change.bytes ? DatabaseParameter(*change.bytes, true) : DatabaseParameter()});
             if (connection.isLost()) {
@@ -172,9 +174,10 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
     DispatchQueues& m_queues;
     const std::shared_ptr<DispatchQueue> m_files;
     std::atomic<bool> m_isSaving = false;
-    std::atomic<qsizetype> m_valueBytes = kUsualLimits.valueBytes;
-    std::atomic<qsizetype> m_keyBytes = kUsualLimits.keyBytes;
+    std::atomic<qsizetype> m_valueBytes = kUsualValueBytes;
+    std::atomic<qsizetype> m_keyBytes = kUsualKeyBytes;
     // Session's thread.
+    QUuid m_sessionId;
     QString m_problem;
     bool m_hasToAnnounce = true;
 };

@@ -22,7 +22,7 @@ struct CounterRows {
 };
 
 /// Sends the increments of a batch in one statement.
-DatabaseReply countBatch(PostgresConnection& connection, const QUuid& device,
+DatabaseReply countBatch(PostgresConnection& connection, const QUuid& session,
                          const IncrementQueue::Batch& batch) {
     QList<QByteArray> titles;
     QList<QByteArray> amounts;
@@ -35,7 +35,7 @@ DatabaseReply countBatch(PostgresConnection& connection, const QUuid& device,
         removes.append(each.rule.removesBelowOne ? "t" : "f");
     }
     return connection.execute("select guide.count_batch($1, $2, $3, $4, $5, $6)",
-                              {DatabaseParameter(device), DatabaseParameter(batch.id),
+                              {DatabaseParameter(session), DatabaseParameter(batch.id),
                                DatabaseParameter::array(titles), DatabaseParameter::array(amounts),
                                DatabaseParameter::array(makes), DatabaseParameter::array(removes)});
 }
@@ -45,12 +45,14 @@ DatabaseReply countBatch(PostgresConnection& connection, const QUuid& device,
 class PostgresRecordStore::Sender final : public PostgresSession::Client,
                                           public std::enable_shared_from_this<Sender> {
   public:
-    Sender(const QString& path, const QString& address, const QUuid& device, DispatchQueues& queues)
+    Sender(const QString& path, const QString& address, DispatchQueues& queues)
         : queue(path, address)
-        , m_device(device)
         , m_files(queues.makeQueue("databaseIncrements", QueueKind::Serial, QueuePriority::Background)) {}
 
-    void connected(const DatabaseLimits& /*limits*/) override { m_pauseUntil = {}; }
+    void connected(const DatabaseGreeting& greeting) override {
+        m_sessionId = greeting.session;
+        m_pauseUntil = {};
+    }
     void exchange(PostgresConnection& connection, bool /*mayHaveChanged*/) override { send(connection); }
 
     /// Sends what is in the queue.
@@ -60,7 +62,7 @@ class PostgresRecordStore::Sender final : public PostgresSession::Client,
         while (const std::optional<IncrementQueue::Batch> batch =
                    isPaused ? std::nullopt : queue.nextBatch()) {
             queue.saveIfInFile();
-            const DatabaseReply reply = countBatch(connection, m_device, *batch);
+            const DatabaseReply reply = countBatch(connection, m_sessionId, *batch);
             if (!reply.error()) {
                 queue.removeBatch();
                 queue.saveIfInFile();
@@ -97,17 +99,17 @@ class PostgresRecordStore::Sender final : public PostgresSession::Client,
     IncrementQueue queue;
 
   private:
-    const QUuid m_device;
     const std::shared_ptr<DispatchQueue> m_files;
     std::atomic<bool> m_isSaving = false;
-    /// Session's thread.
+    // Session's thread.
+    QUuid m_sessionId;
     std::chrono::steady_clock::time_point m_pauseUntil;
 };
 
 PostgresRecordStore::PostgresRecordStore(std::shared_ptr<PostgresSession> session, const QString& queuePath,
                                          const QString& address, DispatchQueues& queues)
     : m_session(std::move(session))
-    , m_sender(std::make_shared<Sender>(queuePath, address, m_session->device(), queues)) {
+    , m_sender(std::make_shared<Sender>(queuePath, address, queues)) {
     m_session->addClient(m_sender);
 }
 

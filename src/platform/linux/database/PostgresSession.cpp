@@ -263,14 +263,14 @@ std::unique_ptr<PostgresConnection> PostgresSession::connect(DatabaseError& erro
 
 bool PostgresSession::greet(PostgresConnection& connection, DatabaseError& error) {
     const DatabaseReply hello =
-        connection.execute("select channel, value_bytes, key_bytes from guide.hello($1, $2)",
+        connection.execute("select session, channel, value_bytes, key_bytes from guide.hello($1, $2)",
                            {DatabaseParameter(m_options.device),
                             DatabaseParameter(m_options.deviceName.toUtf8().replace('\0', ' '))});
     if (hello.error() || hello.rows() != 1) {
         error = hello.error().value_or(DatabaseError{.fault = DatabaseFault::Schema, .message = {}});
         return false;
     }
-    const QByteArray channel = hello.text(0, 0);
+    const QByteArray channel = hello.text(0, 1);
     // An engine without notifications is looked at in intervals.
     const DatabaseReply listening =
         connection.execute("listen \"" + QByteArray(channel).replace('"', "\"\"") + '"');
@@ -279,7 +279,8 @@ bool PostgresSession::greet(PostgresConnection& connection, DatabaseError& error
         return false;
     }
     for (const auto& client : m_clients) {
-        client->connected({.valueBytes = hello.number(0, 1), .keyBytes = hello.number(0, 2)});
+        client->connected(
+            {.session = hello.id(0, 0), .valueBytes = hello.number(0, 2), .keyBytes = hello.number(0, 3)});
     }
     return true;
 }

@@ -16,8 +16,10 @@
 
 namespace guide {
 
-/// The limits that the database told.
-struct DatabaseLimits {
+/// What the database told a new connection.
+struct DatabaseGreeting {
+    /// Names the connection in statements that change something.
+    QUuid session;
     qsizetype valueBytes = 0;
     qsizetype keyBytes = 0;
 };
@@ -41,7 +43,7 @@ class PostgresSession {
       public:
         virtual ~Client() = default;
         /// After each connection, before anything else.
-        virtual void connected(const DatabaseLimits& limits) = 0;
+        virtual void connected(const DatabaseGreeting& greeting) = 0;
         /// Sends what is to be sent. `mayHaveChanged` asks to look for changes by other devices; after a new
         /// connection it is always set. A lost connection ends the call.
         virtual void exchange(PostgresConnection& connection, bool mayHaveChanged) = 0;
@@ -64,7 +66,6 @@ class PostgresSession {
     /// Ends the delay before the next attempt, such as when a network appears.
     void retryNow();
     bool isConnected() const;
-    const QUuid& device() const { return m_options.device; }
 
     /// Runs the function on the session's thread and waits for it, or returns at once when there is no
     /// connection; waits for the first attempt to connect. When the function takes too long it may run later
