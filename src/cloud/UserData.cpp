@@ -136,11 +136,9 @@ void UserData::erase(bool more, MainBlock<UserDataCounts> mainBlock) {
         m_environment.shows.setFavorites({});
     }
     if (more) {
-        for (const QString& title : titlesOfAlarms()) {
-            if (!rules->containsFavoriteNamed(title)) {
-                m_environment.alarmActions.removeAlarmForTitle(title, true, false);
-            }
-        }
+        QStringList others = titlesOfAlarms();
+        others.removeIf([&rules](const QString& title) { return rules->containsFavoriteNamed(title); });
+        m_environment.alarmActions.removeAlarmsForTitles(others, true);
     } else {
         counts.silentHours = false;
         counts.calendar = false;

@@ -18,9 +18,10 @@ struct Alarms final : AlarmActions {
     void setAlarmForTitle(const QString&, const ObjectId&, Moment, Moment, int, bool, bool) override {}
     void removeAlarmForTitle(const QString&, const ObjectId&, Moment, bool, bool) override {}
     void setAlarmForTitle(const QString&, int, std::optional<bool>, bool) override {}
-    void removeAlarmForTitle(const QString& title, bool, bool) override {
+    void removeAlarmForTitle(const QString&, bool, bool) override {}
+    void removeAlarmsForTitles(const QStringList& titles, bool) override {
         std::erase_if(known.events, [&](const CalendarEvent& event) {
-            return event.title == title && !kept.contains(event.identifier);
+            return titles.contains(event.title) && !kept.contains(event.identifier);
         });
     }
     int lastAlarmMinutes() const override { return 0; }
@@ -81,7 +82,8 @@ class UserDataTest : public testing::Test {
     CloudDevice device{clock, queues, values};
     Alarms alarms;
     Counters counters;
-    FavoriteOperations favorites{{clock, queues.mainQueue(), device.shows, alarms, counters, [] {}}};
+    FavoriteOperations favorites{
+        {clock, queues.mainQueue(), device.shows, alarms, device.alarms, counters, [] {}}};
     const QTemporaryDir folder;
     int disabled = 0;
     UserData data{
