@@ -2028,8 +2028,8 @@ Počkejte, až se program načte.</translation>
         <translation>Vypnuto</translation>
     </message>
     <message>
-        <source>Most Watched is off: it counts the alarms and favourites of everyone who shares a cloud store with you. To switch it on, set up such a store.</source>
-        <translation>Nejsledovanější jsou vypnuté: počítají upozornění a oblíbené všech, kdo s vámi sdílejí cloudové úložiště. Zapnete je tím, že takové úložiště zřídíte.</translation>
+        <source>Most Watched is off: it counts the alarms and favourites of everyone who shares a database with you. To switch it on, choose a database in the options, under “Your devices”.</source>
+        <translation>Nejsledovanější jsou vypnuté: počítají upozornění a oblíbené všech, kdo s vámi sdílejí databázi. Zapnete je volbou databáze v nastavení, v části „Vaše zařízení“.</translation>
     </message>
     <message numerus="yes">
         <source>%n selected channel(s)</source>
@@ -2144,10 +2144,6 @@ Počkejte, až se program načte.</translation>
         <translation>Vaše údaje</translation>
     </message>
     <message>
-        <source>Channels, favourites, your own sources and silent hours are in a folder that a sync tool can share with your other devices.</source>
-        <translation>Kanály, oblíbené, vlastní zdroje a tiché hodiny jsou ve složce, kterou může synchronizační nástroj sdílet s vašimi dalšími zařízeními.</translation>
-    </message>
-    <message>
         <source>Last change by %1: %2</source>
         <translation>Poslední změna ze zařízení %1: %2</translation>
     </message>
@@ -2245,6 +2241,130 @@ Počkejte, až se program načte.</translation>
     <message>
         <source>Ringing could not be changed: a file of your session cannot be written.</source>
         <translation>Zvonění se nepodařilo změnit: soubor vaší relace nelze zapsat.</translation>
+    </message>
+    <message>
+        <source>In a folder</source>
+        <translation>Ve složce</translation>
+    </message>
+    <message>
+        <source>In a database</source>
+        <translation>V databázi</translation>
+    </message>
+    <message>
+        <source>Only on this device</source>
+        <translation>Jen v tomto zařízení</translation>
+    </message>
+    <message>
+        <source>Another device was last seen: %1</source>
+        <translation>Jiné zařízení bylo naposledy vidět: %1</translation>
+    </message>
+    <message>
+        <source>Your devices</source>
+        <translation>Vaše zařízení</translation>
+    </message>
+    <message>
+        <source>For another device</source>
+        <translation>Pro jiné zařízení</translation>
+    </message>
+    <message>
+        <source>The picture holds this address, without the password.</source>
+        <translation>Obrázek obsahuje tuto adresu, bez hesla.</translation>
+    </message>
+    <message>
+        <source>QR code of %1</source>
+        <translation>Kód QR: %1</translation>
+    </message>
+    <message>
+        <source>Share with your other devices</source>
+        <translation>Sdílet s ostatními zařízeními</translation>
+    </message>
+    <message>
+        <source>Share in another place</source>
+        <translation>Sdílet na jiném místě</translation>
+    </message>
+    <message>
+        <source>A folder that a sync tool copies between your devices, or a PostgreSQL database. Channels, favourites, your own sources, silent hours and the name of the calendar lie there; files in a folder can be read by whoever has it.</source>
+        <translation>Složka, kterou mezi vašimi zařízeními kopíruje synchronizační program, nebo databáze PostgreSQL. Jsou v ní kanály, oblíbené, vlastní zdroje, doba klidu a název kalendáře; soubory ve složce může číst každý, kdo ji má.</translation>
+    </message>
+    <message>
+        <source>Folder or address of a database</source>
+        <translation>Složka nebo adresa databáze</translation>
+    </message>
+    <message>
+        <source>One moment…</source>
+        <translation>Okamžik…</translation>
+    </message>
+    <message>
+        <source>Share there</source>
+        <translation>Sdílet tam</translation>
+    </message>
+    <message>
+        <source>Share there?</source>
+        <translation>Sdílet tam?</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Sdílet</translation>
+    </message>
+    <message>
+        <source>Lists that another device has stored there replace those of this device, which are kept under “Restore…”. What is not there yet is stored.</source>
+        <translation>Seznamy, které tam uložilo jiné zařízení, nahradí seznamy tohoto zařízení; ty zůstanou pod „Obnovit…“. Co tam ještě není, se uloží.</translation>
+    </message>
+    <message>
+        <source>The database cannot be reached.</source>
+        <translation>Databáze není dostupná.</translation>
+    </message>
+    <message>
+        <source>The database does not accept the user or the password.</source>
+        <translation>Databáze nepřijímá uživatele nebo heslo.</translation>
+    </message>
+    <message>
+        <source>The server of the database cannot prove its identity, so nothing is sent to it.</source>
+        <translation>Server databáze nedokáže prokázat svou totožnost, proto se mu nic neposílá.</translation>
+    </message>
+    <message>
+        <source>The database is not set up for the guide.</source>
+        <translation>Databáze není pro průvodce připravena.</translation>
+    </message>
+    <message>
+        <source>An address of a database is like postgresql://anna@tv.example.org/guide.</source>
+        <translation>Adresa databáze vypadá jako postgresql://anna@tv.example.org/guide.</translation>
+    </message>
+    <message>
+        <source>The only sslmode of an address is verify-full.</source>
+        <translation>Adresa může mít jen sslmode verify-full.</translation>
+    </message>
+    <message>
+        <source>The address needs a user, a server and the name of a database.</source>
+        <translation>Adresa potřebuje uživatele, server a název databáze.</translation>
+    </message>
+    <message>
+        <source>The database takes no more changes for now; they are sent later.</source>
+        <translation>Databáze teď další změny nepřijímá; pošlou se později.</translation>
+    </message>
+    <message>
+        <source>The database refuses a value because it is too large.</source>
+        <translation>Databáze odmítá hodnotu, protože je příliš velká.</translation>
+    </message>
+    <message>
+        <source>The password of the database cannot be kept.</source>
+        <translation>Heslo databáze nelze uložit.</translation>
+    </message>
+    <message>
+        <source>The folder is not there, or it cannot be written.</source>
+        <translation>Složka neexistuje nebo do ní nelze zapisovat.</translation>
+    </message>
+    <message>
+        <source>There is no such folder, or it cannot be written.</source>
+        <translation>Taková složka neexistuje nebo do ní nelze zapisovat.</translation>
+    </message>
+    <message>
+        <source>The place cannot take what this device has.</source>
+        <translation>Na toto místo nelze uložit, co toto zařízení má.</translation>
+    </message>
+    <message>
+        <source>Another place is being tried.</source>
+        <translation>Právě se zkouší jiné místo.</translation>
     </message>
 </context>
 </TS>

@@ -2028,8 +2028,8 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Vypnuté</translation>
     </message>
     <message>
-        <source>Most Watched is off: it counts the alarms and favourites of everyone who shares a cloud store with you. To switch it on, set up such a store.</source>
-        <translation>Najsledovanejšie sú vypnuté: počítajú upozornenia a obľúbené všetkých, ktorí s vami zdieľajú cloudové úložisko. Zapnete ich tým, že také úložisko zriadite.</translation>
+        <source>Most Watched is off: it counts the alarms and favourites of everyone who shares a database with you. To switch it on, choose a database in the options, under “Your devices”.</source>
+        <translation>Najsledovanejšie sú vypnuté: počítajú upozornenia a obľúbené všetkých, ktorí s vami zdieľajú databázu. Zapnete ich voľbou databázy v nastaveniach, v časti „Vaše zariadenia“.</translation>
     </message>
     <message numerus="yes">
         <source>%n selected channel(s)</source>
@@ -2144,10 +2144,6 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Vaše údaje</translation>
     </message>
     <message>
-        <source>Channels, favourites, your own sources and silent hours are in a folder that a sync tool can share with your other devices.</source>
-        <translation>Kanály, obľúbené, vlastné zdroje a tiché hodiny sú v priečinku, ktorý môže synchronizačný nástroj zdieľať s vašimi ďalšími zariadeniami.</translation>
-    </message>
-    <message>
         <source>Last change by %1: %2</source>
         <translation>Posledná zmena zo zariadenia %1: %2</translation>
     </message>
@@ -2245,6 +2241,130 @@ Počkajte, kým sa program načíta.</translation>
     <message>
         <source>Ringing could not be changed: a file of your session cannot be written.</source>
         <translation>Zvonenie sa nepodarilo zmeniť: súbor vašej relácie sa nedá zapísať.</translation>
+    </message>
+    <message>
+        <source>In a folder</source>
+        <translation>V priečinku</translation>
+    </message>
+    <message>
+        <source>In a database</source>
+        <translation>V databáze</translation>
+    </message>
+    <message>
+        <source>Only on this device</source>
+        <translation>Len v tomto zariadení</translation>
+    </message>
+    <message>
+        <source>Another device was last seen: %1</source>
+        <translation>Iné zariadenie bolo naposledy vidieť: %1</translation>
+    </message>
+    <message>
+        <source>Your devices</source>
+        <translation>Vaše zariadenia</translation>
+    </message>
+    <message>
+        <source>For another device</source>
+        <translation>Pre iné zariadenie</translation>
+    </message>
+    <message>
+        <source>The picture holds this address, without the password.</source>
+        <translation>Obrázok obsahuje túto adresu, bez hesla.</translation>
+    </message>
+    <message>
+        <source>QR code of %1</source>
+        <translation>Kód QR: %1</translation>
+    </message>
+    <message>
+        <source>Share with your other devices</source>
+        <translation>Zdieľať s ostatnými zariadeniami</translation>
+    </message>
+    <message>
+        <source>Share in another place</source>
+        <translation>Zdieľať na inom mieste</translation>
+    </message>
+    <message>
+        <source>A folder that a sync tool copies between your devices, or a PostgreSQL database. Channels, favourites, your own sources, silent hours and the name of the calendar lie there; files in a folder can be read by whoever has it.</source>
+        <translation>Priečinok, ktorý medzi vašimi zariadeniami kopíruje synchronizačný program, alebo databáza PostgreSQL. Sú v ňom kanály, obľúbené, vlastné zdroje, čas pokoja a názov kalendára; súbory v priečinku môže čítať každý, kto ho má.</translation>
+    </message>
+    <message>
+        <source>Folder or address of a database</source>
+        <translation>Priečinok alebo adresa databázy</translation>
+    </message>
+    <message>
+        <source>One moment…</source>
+        <translation>Okamih…</translation>
+    </message>
+    <message>
+        <source>Share there</source>
+        <translation>Zdieľať tam</translation>
+    </message>
+    <message>
+        <source>Share there?</source>
+        <translation>Zdieľať tam?</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Zdieľať</translation>
+    </message>
+    <message>
+        <source>Lists that another device has stored there replace those of this device, which are kept under “Restore…”. What is not there yet is stored.</source>
+        <translation>Zoznamy, ktoré tam uložilo iné zariadenie, nahradia zoznamy tohto zariadenia; tie zostanú pod „Obnoviť…“. Čo tam ešte nie je, sa uloží.</translation>
+    </message>
+    <message>
+        <source>The database cannot be reached.</source>
+        <translation>Databáza nie je dostupná.</translation>
+    </message>
+    <message>
+        <source>The database does not accept the user or the password.</source>
+        <translation>Databáza neprijíma používateľa alebo heslo.</translation>
+    </message>
+    <message>
+        <source>The server of the database cannot prove its identity, so nothing is sent to it.</source>
+        <translation>Server databázy nedokáže preukázať svoju totožnosť, preto sa mu nič neposiela.</translation>
+    </message>
+    <message>
+        <source>The database is not set up for the guide.</source>
+        <translation>Databáza nie je pre sprievodcu pripravená.</translation>
+    </message>
+    <message>
+        <source>An address of a database is like postgresql://anna@tv.example.org/guide.</source>
+        <translation>Adresa databázy vyzerá ako postgresql://anna@tv.example.org/guide.</translation>
+    </message>
+    <message>
+        <source>The only sslmode of an address is verify-full.</source>
+        <translation>Adresa môže mať len sslmode verify-full.</translation>
+    </message>
+    <message>
+        <source>The address needs a user, a server and the name of a database.</source>
+        <translation>Adresa potrebuje používateľa, server a názov databázy.</translation>
+    </message>
+    <message>
+        <source>The database takes no more changes for now; they are sent later.</source>
+        <translation>Databáza teraz ďalšie zmeny neprijíma; pošlú sa neskôr.</translation>
+    </message>
+    <message>
+        <source>The database refuses a value because it is too large.</source>
+        <translation>Databáza odmieta hodnotu, pretože je príliš veľká.</translation>
+    </message>
+    <message>
+        <source>The password of the database cannot be kept.</source>
+        <translation>Heslo databázy sa nedá uložiť.</translation>
+    </message>
+    <message>
+        <source>The folder is not there, or it cannot be written.</source>
+        <translation>Priečinok neexistuje alebo sa doň nedá zapisovať.</translation>
+    </message>
+    <message>
+        <source>There is no such folder, or it cannot be written.</source>
+        <translation>Taký priečinok neexistuje alebo sa doň nedá zapisovať.</translation>
+    </message>
+    <message>
+        <source>The place cannot take what this device has.</source>
+        <translation>Na toto miesto sa nedá uložiť, čo toto zariadenie má.</translation>
+    </message>
+    <message>
+        <source>Another place is being tried.</source>
+        <translation>Práve sa skúša iné miesto.</translation>
     </message>
 </context>
 </TS>

@@ -17,7 +17,6 @@
 #include "platform/MediaPlayer.h"
 #include "platform/MediaSession.h"
 #include "platform/NetworkWatch.h"
-#include "platform/OtherDevices.h"
 #include "platform/ProgramRunner.h"
 #include "platform/RecordStore.h"
 #include "platform/SecretStore.h"
@@ -51,8 +50,8 @@ struct ApplicationEnvironment {
     KeyValueStore& keyValueStore;
     /// Null when no counters are shared with other users.
     RecordStore* records = nullptr;
-    /// Null when nothing is known of the user's other devices.
-    const OtherDevices* otherDevices = nullptr;
+    /// Null when the stores cannot be chosen.
+    SharedPlaceActions* sharedPlace = nullptr;
     BackgroundTasks& backgroundTasks;
     const ApplicationStateSource& applicationState;
     HTTPClient& httpClient;

@@ -312,6 +312,9 @@ void QuellinGuideAppDelegate::makeRetries() {
                                               *m_channels, [this] { checkAndUpdateAllChannels(); });
     if (m_environment.networkWatch) {
         m_environment.networkWatch->watch([this] {
+            if (m_environment.sharedPlace) {
+                m_environment.sharedPlace->retryNow();
+            }
             m_retries->networkAppeared();
             // Calendars on servers keep changes that could not be sent.
             if (m_environment.eventStore) {
@@ -410,7 +413,7 @@ void QuellinGuideAppDelegate::makeScreens() {
         .alarmRinging = m_environment.alarmRinging,
         .backgroundUpdates = m_environment.backgroundUpdates,
         .userData = m_userData.get(),
-        .otherDevices = m_environment.otherDevices,
+        .sharedPlace = m_environment.sharedPlace,
     });
     m_tabBarController = makeGuideTabs(m_screenEnvironment);
     m_selectionEditor = std::make_shared<SelectionEditor>(m_screenEnvironment, *m_tabBarController);

@@ -1,13 +1,13 @@
 // quellin-guide: assembles the program for Linux.
 
 #include "app/CloudSetup.h"
-#include "app/CloudStores.h"
 #include "app/CommandLine.h"
 #include "app/DeviceWatch.h"
 #include "app/InstanceRequest.h"
 #include "app/LaunchFiles.h"
 #include "app/PictureTour.h"
 #include "app/QuellinGuideAppDelegate.h"
+#include "app/SharedStoresChoice.h"
 #include "app/WindowState.h"
 #include "demo/DemoEnvironment.h"
 #include "demo/DemoFiles.h"
@@ -330,7 +330,6 @@ int run(LaunchOptions options, bool drawsWebPages) {
     SettingsUserDefaults userDefaults(
         folders->configuration + "/settings.ini"_L1,
         queues.makeQueue("settings", QueueKind::Serial, QueuePriority::Background), folders->writable);
-    const CloudStores stores = cloudStoresFor(*folders, userDefaults, queues);
     LinuxBackgroundTasks backgroundTasks(queues);
     WindowState state;
     const Settings settings(userDefaults);
@@ -342,6 +341,11 @@ int run(LaunchOptions options, bool drawsWebPages) {
     LinuxFileWatch fileWatch;
     SpawnedProgramRunner programs;
     const auto secrets = makeSecretStore(folders->configuration);
+    SharedStoresChoice stores({.folders = *folders,
+                               .userDefaults = userDefaults,
+                               .clock = clock,
+                               .secrets = *secrets,
+                               .queues = queues});
     // A profile of its own keeps its alarms to itself.
     const auto eventStore = eventStoreFor(
         {.folder = folders->documents + "/calendars"_L1,
@@ -381,9 +385,9 @@ int run(LaunchOptions options, bool drawsWebPages) {
         .folders = *folders,
         .queues = queues,
         .userDefaults = userDefaults,
-        .keyValueStore = *stores.keyValueStore,
-        .records = stores.records.get(),
-        .otherDevices = stores.otherDevices,
+        .keyValueStore = stores.keyValueStore(),
+        .records = &stores.records(),
+        .sharedPlace = &stores,
         .backgroundTasks = backgroundTasks,
         .applicationState = state,
         .httpClient = httpClient,

@@ -46,6 +46,8 @@ class RecordStore {
     virtual bool removeCounters(const std::vector<QString>& titles) = 0;
     /// At most `limit` counters, the most recently changed first. Nothing when it failed.
     virtual std::optional<std::vector<CounterRecord>> countersByModification(std::size_t limit) = 0;
+    /// Whether the counters are those of other users, too.
+    virtual bool isShared() const { return true; }
 };
 
 } // namespace guide

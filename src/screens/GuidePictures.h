@@ -6,7 +6,7 @@
 
 namespace guide {
 
-/// Resolves the keys of channel icons, of initials and of shows' pictures.
+/// Resolves the keys of channel icons, of initials, of shows' pictures and of QR codes.
 class GuidePictures final : public PictureProvider {
   public:
     /// Both must outlive the provider.

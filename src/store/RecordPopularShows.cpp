@@ -71,7 +71,7 @@ bool RecordPopularShows::contains(const ShowItem& item) const {
 }
 
 bool RecordPopularShows::isShared() const {
-    return m_state->environment.records != nullptr;
+    return m_state->environment.records && m_state->environment.records->isShared();
 }
 
 void RecordPopularShows::restore(ShowList kept) {

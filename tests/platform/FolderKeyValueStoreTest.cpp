@@ -192,12 +192,12 @@ TEST_F(FolderKeyValueStoreTest, EqualValuesAreNotWritten) {
     const QByteArray content = contentOf(fileOf(u"a"_s));
     ASSERT_TRUE(other.setValue(u"a"_s, QCborArray{1, QByteArray("x")}));
     EXPECT_EQ(contentOf(fileOf(u"a"_s)), content) << "still by the device that wrote it";
-    EXPECT_EQ(other.lastSeen()->name, u"desk"_s);
-    EXPECT_FALSE(store.lastSeen());
+    EXPECT_EQ(other.sharedState().device, u"desk"_s);
+    EXPECT_FALSE(store.sharedState().lastSeen);
     ASSERT_TRUE(other.setValue(u"a"_s, 5));
     ASSERT_TRUE(store.setValue(u"b"_s, 5));
     EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(5));
-    EXPECT_EQ(store.lastSeen()->name, u"phone"_s);
+    EXPECT_EQ(store.sharedState().device, u"phone"_s);
     ASSERT_TRUE(replaceFile(fileOf(u"a"_s), "damaged"));
     ASSERT_TRUE(store.setValue(u"a"_s, 5));
     EXPECT_TRUE(contentOf(fileOf(u"a"_s)).contains("\"desk-1\"")) << "a damaged file holds no value";

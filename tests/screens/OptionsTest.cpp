@@ -48,7 +48,7 @@ class OptionsTest : public testing::Test {
         world.alarmRinging = &ringing;
         world.backgroundUpdates = &updates;
         world.userData = &userData;
-        world.otherDevices = &devices;
+        world.sharedPlace = &sharedPlace;
         world.app.calendarAccess = true;
         world.start();
         world.show();
@@ -81,11 +81,11 @@ class OptionsTest : public testing::Test {
     WorldRinging ringing{world.queues.mainQueue()};
     WorldUpdates updates{world.queues.mainQueue()};
     WorldUserData userData{world.queues.mainQueue()};
-    WorldDevices devices;
+    WorldSharedPlace sharedPlace{world.queues.mainQueue()};
 };
 
 TEST_F(OptionsTest, TheUsersDataIsExportedAfterAQuestion) {
-    devices.device = {u"phone"_s, world.begin};
+    sharedPlace.now.state = {.lastSeen = world.begin, .device = u"phone"_s};
     const auto options = open<OptionsViewController>();
     EXPECT_TRUE(options->table().sections().back().footer.contains(u"Last change by phone:"_s));
     world.send<ButtonRow>(*options, u"Export…"_s, Tapped{});
@@ -100,6 +100,41 @@ TEST_F(OptionsTest, TheUsersDataIsExportedAfterAQuestion) {
     answer(1);
     ASSERT_EQ(world.app.alerts.size(), 1U);
     EXPECT_EQ(world.app.alerts[0].title, u"Error"_s);
+}
+
+TEST_F(OptionsTest, AnotherPlaceIsChosenAfterAQuestion) {
+    const auto options = open<OptionsViewController>();
+    world.send<TextRow>(*options, u"Your devices"_s, Tapped{});
+    auto& screen = dynamic_cast<TableViewController&>(world.top());
+    const auto use = [&](const QString& address) {
+        world.send<InputRow>(screen, u"Folder or address of a database"_s, TextEdited{address, false});
+        world.send<ButtonRow>(screen, u"Share there"_s, Tapped{});
+        answer(1);
+    };
+    EXPECT_TRUE(contentTitled<TextRow>(screen.table(), u"Only on this device"_s));
+    EXPECT_FALSE(contentTitled<ButtonRow>(screen.table(), u"Share there"_s)->enabled);
+    use(u"postgresql://bad@tv/guide"_s);
+    EXPECT_EQ(contentTitled<InputRow>(screen.table(), u"Folder or address of a database"_s)->error,
+              u"The database cannot be reached."_s);
+    use(u" /home/anna/Sync "_s);
+    EXPECT_EQ(contentTitled<TextRow>(screen.table(), u"In a folder"_s)->subtitle, u"/home/anna/Sync"_s);
+    EXPECT_EQ(contentTitled<InputRow>(screen.table(), u"Folder or address of a database"_s)->text, QString());
+    bool hasCode = false;
+    for (const Section& section : screen.table().sections()) {
+        for (const Row& row : section.rows) {
+            const auto* picture = std::get_if<PictureRow>(&row.content);
+            hasCode = hasCode || (picture && picture->picture ==
+                                                 PictureKey{PictureKey::Kind::QRCode, u"/home/anna/Sync"_s});
+        }
+    }
+    EXPECT_TRUE(hasCode);
+    sharedPlace.now.state.reason = u"The folder is not there, or it cannot be written."_s;
+    sharedPlace.observer();
+    EXPECT_EQ(screen.table().sections().front().footer, sharedPlace.now.state.reason);
+    world.send<ButtonRow>(screen, u"Only on this device"_s, Tapped{});
+    EXPECT_EQ(sharedPlace.now.kind, SharedPlace::Kind::ThisDevice);
+    leave();
+    EXPECT_FALSE(sharedPlace.observer);
 }
 
 TEST_F(OptionsTest, ErasingSaysBeforeAndAfterWhatItRemoves) {

@@ -320,7 +320,7 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
                               alarmRinging,
                               backgroundUpdates,
                               userData,
-                              otherDevices});
+                              sharedPlace});
         tabs = makeGuideTabs(environment);
         broadcast = std::make_unique<ScreenBroadcast>(*tabs, state);
         queues.runAll();
@@ -419,7 +419,7 @@ class ScreenWorld : public ManualSurroundings, public StoreFixture {
     AlarmRinging* alarmRinging = nullptr;
     BackgroundUpdates* backgroundUpdates = nullptr;
     UserDataActions* userData = nullptr;
-    const OtherDevices* otherDevices = nullptr;
+    SharedPlaceActions* sharedPlace = nullptr;
     /// The sources of the channels' schedules.
     std::map<ObjectId, QString> sources;
     std::shared_ptr<DispatchQueue> loadQueue = queues.makeQueue("vorel.tv.loadQueue", QueueKind::Serial);

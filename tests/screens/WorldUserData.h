@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ScreenWorld.h"
+#include "cloud/SharedPlaceActions.h"
 #include "cloud/UserDataActions.h"
-#include "platform/OtherDevices.h"
 
 namespace guide::test {
 
@@ -36,9 +36,26 @@ struct WorldUserData final : UserDataActions {
     bool works = true;
 };
 
-struct WorldDevices final : OtherDevices {
-    std::optional<Device> lastSeen() const override { return device; }
-    std::optional<Device> device;
+/// Refuses addresses that contain "bad".
+struct WorldSharedPlace final : SharedPlaceActions {
+    explicit WorldSharedPlace(DispatchQueue& ownMainQueue)
+        : mainQueue(ownMainQueue) {}
+    SharedPlace place() const override { return now; }
+    void choose(const QString& address, MainBlock<QString> mainBlock) override {
+        const bool isBad = address.contains(u"bad"_s);
+        if (!isBad) {
+            now = {.kind = address.isEmpty()          ? SharedPlace::Kind::ThisDevice
+                           : address.startsWith(u'/') ? SharedPlace::Kind::Folder
+                                                      : SharedPlace::Kind::Database,
+                   .address = address};
+        }
+        mainBlock.post(mainQueue, isBad ? u"The database cannot be reached."_s : QString());
+    }
+    void retryNow() override {}
+    void setObserver(std::function<void()> changed) override { observer = std::move(changed); }
+    DispatchQueue& mainQueue;
+    SharedPlace now;
+    std::function<void()> observer;
 };
 
 } // namespace guide::test

@@ -37,7 +37,7 @@ class EveryScreenTest : public WindowTest, public testing::WithParamInterface<st
         world.calendarActions = &calendars;
         world.alarmExplanations = &explanations;
         world.userData = &userData;
-        world.otherDevices = &devices;
+        world.sharedPlace = &sharedPlace;
         world.app.calendarAccess = true;
         world.knownFeeds = &knownFeeds;
         const ObjectId other = world.addChannel(u"Druhý program"_s, true, u"http://127.0.0.1/other"_s);
@@ -303,7 +303,7 @@ class EveryScreenTest : public WindowTest, public testing::WithParamInterface<st
     WorldCalendars calendars{world.queues.mainQueue()};
     WorldExplanations explanations{world.queues.mainQueue()};
     WorldUserData userData{world.queues.mainQueue()};
-    WorldDevices devices;
+    WorldSharedPlace sharedPlace{world.queues.mainQueue()};
     const KnownFeeds knownFeeds{{{u"CZ"_s,
                                   {{u"television"_s, u"CZ1"_s, u"https://x.example/1"_s, 6'000'000, 533, {}},
                                    {u"others"_s, {}, u"https://x.example/2"_s, 0, 0, QDate(2026, 9, 28)}}},

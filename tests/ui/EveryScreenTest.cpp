@@ -155,12 +155,20 @@ constexpr Screen kScreens[] = {
          test.world.app.interval = 90min;
          setSilentHoursEnabled(test.world.keyValueStore, true);
          setSilentHoursFrom(test.world.keyValueStore, test.world.clock.now());
-         test.devices.device = {u"Telefon v předsíni"_s, test.world.begin};
+         test.sharedPlace.now = {.kind = SharedPlace::Kind::Folder,
+                                 .address = u"/home/anna/Dokumenty/Synchronizace/Televize"_s,
+                                 .state = {.lastSeen = test.world.begin, .device = u"Telefon v předsíni"_s}};
          test.pressBarButton(u"Options"_s);
+         return true;
+     }},
+    {"the user's devices",
+     [](EveryScreenTest& test) {
+         test.tapRow(u"Your devices"_s);
          return true;
      }},
     {"erasing",
      [](EveryScreenTest& test) {
+         test.stack().pop();
          test.tapRow(u"Delete…"_s);
          return true;
      }},

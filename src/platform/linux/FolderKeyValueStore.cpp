@@ -10,6 +10,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
@@ -128,17 +129,25 @@ class FolderKeyValueStore::Files {
         return changed;
     }
 
-    std::optional<Device> lastSeen() {
+    SharedStoreState state() {
         const std::lock_guard lock(m_mutex);
-        std::optional<Device> seen;
+        if (!m_listed) {
+            list();
+        }
+        SharedStoreState state{.connection = SharedStoreConnection::Connected, .isRead = true};
+        if (!QFileInfo(m_folder).isWritable()) {
+            state.connection = SharedStoreConnection::Offline;
+            state.reason = u"The folder is not there, or it cannot be written."_s;
+        }
         for (const File& file : std::as_const(m_files)) {
             const QString& device = file.stamp.device;
             const Moment stored(std::chrono::seconds(file.state.seconds));
-            if (!device.isEmpty() && device != m_device && (!seen || seen->stored < stored)) {
-                seen = {device.left(device.lastIndexOf(u'-')), stored};
+            if (!device.isEmpty() && device != m_device && (!state.lastSeen || *state.lastSeen < stored)) {
+                state.lastSeen = stored;
+                state.device = device.left(device.lastIndexOf(u'-'));
             }
         }
-        return seen;
+        return state;
     }
 
   private:
@@ -254,8 +263,12 @@ std::optional<QCborValue> FolderKeyValueStore::valueForKey(const QString& key) c
     return m_files->value(key);
 }
 
-std::optional<OtherDevices::Device> FolderKeyValueStore::lastSeen() const {
-    return m_files->lastSeen();
+SharedStoreState FolderKeyValueStore::sharedState() const {
+    return m_files->state();
+}
+
+void FolderKeyValueStore::setStateObserver(std::function<void()> changed) {
+    *m_stateChanged = std::move(changed);
 }
 
 bool FolderKeyValueStore::setValue(const QString& key, const QCborValue& value) {
@@ -276,15 +289,16 @@ void FolderKeyValueStore::setObserver(KeyValueStoreObserver* observer) {
     m_observation = std::make_shared<Observation>(Observation{*observer, nullptr});
     const std::weak_ptr<Observation> weak = m_observation;
     const auto scheduled = std::make_shared<std::atomic<bool>>(false);
-    const auto look = [files = m_files, scheduled, weak, &main = m_queues.mainQueue()] {
+    const auto look = [files = m_files, scheduled, weak, &main = m_queues.mainQueue(),
+                       weakState = std::weak_ptr(m_stateChanged)] {
         scheduled->store(false);
         const QStringList keys = files->changedKeys();
-        if (keys.isEmpty()) {
-            return;
-        }
-        main.async([weak, keys] {
-            if (const auto observation = weak.lock()) {
+        main.async([weak, weakState, keys] {
+            if (const auto observation = weak.lock(); observation && !keys.isEmpty()) {
                 observation->observer.valuesChangedExternally(keys);
+            }
+            if (const auto stateChanged = weakState.lock(); stateChanged && *stateChanged) {
+                (*stateChanged)();
             }
         });
     };

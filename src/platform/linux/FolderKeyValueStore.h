@@ -1,9 +1,10 @@
 #pragma once
 
 #include "platform/KeyValueStore.h"
-#include "platform/OtherDevices.h"
+#include "platform/SharedStoreState.h"
 #include "platform/queues/DispatchQueue.h"
 
+#include <functional>
 #include <memory>
 
 namespace guide {
@@ -22,7 +23,7 @@ class FolderWatcher;
 /// under a name of its own. Such a conflict copy is recognised by its name and the key inside. The newer one
 /// by its stamp becomes the file of the key, byte by byte, so that all devices come to the same result; the
 /// copy is deleted. Other files whose name is not fileName(key) of the key inside are ignored.
-class FolderKeyValueStore final : public KeyValueStore, public OtherDevices {
+class FolderKeyValueStore final : public KeyValueStore, public SharedStore {
   public:
     /// `device` identifies this one: a name for people, "-" and something unique.
     FolderKeyValueStore(const QString& folder, const QString& device, DispatchQueues& queues);
@@ -35,8 +36,9 @@ class FolderKeyValueStore final : public KeyValueStore, public OtherDevices {
     /// is announced; when it reappears, the keys whose values differ are.
     void setObserver(KeyValueStoreObserver* observer) override;
 
-    /// As far as the files have been read.
-    std::optional<Device> lastSeen() const override;
+    /// As far as the files have been read: the other device that stored a value last, and when, by its clock.
+    SharedStoreState sharedState() const override;
+    void setStateObserver(std::function<void()> changed) override;
 
     /// The file of a key: letters, digits, "-" and "_" as they are, any other byte of its UTF-8 as "%" and
     /// two digits; long names are truncated and end in "~" and a digest; that of the empty key is "~".
@@ -51,6 +53,7 @@ class FolderKeyValueStore final : public KeyValueStore, public OtherDevices {
     const std::shared_ptr<DispatchQueue> m_queue;
     const std::shared_ptr<Files> m_files;
     std::shared_ptr<Observation> m_observation;
+    const std::shared_ptr<std::function<void()>> m_stateChanged = std::make_shared<std::function<void()>>();
 };
 
 } // namespace guide

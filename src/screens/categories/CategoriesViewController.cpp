@@ -127,7 +127,8 @@ void CategoriesViewController::reloadTable() {
                                     "cloud store with you. No such list was received yet.")
                     : Localized::tr(
                           "Most Watched is off: it counts the alarms and favourites of everyone who "
-                          "shares a cloud store with you. To switch it on, set up such a store.");
+                          "shares a database with you. To switch it on, choose a database in the "
+                          "options, under “Your devices”.");
         } else if (place < m_counts.size()) {
             tile.detail = m_counts[place] == 0 ? Localized::tr("None today")
                                                : Localized::tr("%n show(s) today", nullptr, m_counts[place]);

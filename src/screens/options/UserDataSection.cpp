@@ -1,12 +1,11 @@
 #include "screens/options/UserDataSection.h"
 
 #include "cloud/UserDataActions.h"
-#include "platform/OtherDevices.h"
 #include "screens/Localized.h"
-#include "screens/ShowRows.h"
 #include "screens/kit/NavigationController.h"
 #include "screens/options/EraseViewController.h"
 #include "screens/options/ReplacedListsViewController.h"
+#include "screens/options/SharedPlaceViewController.h"
 
 #include <utility>
 
@@ -17,6 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kSection = "data"_L1;
+constexpr auto kDevices = "devices"_L1;
 constexpr auto kExport = "export"_L1;
 constexpr auto kRestore = "restore"_L1;
 constexpr auto kErase = "erase"_L1;
@@ -33,22 +33,19 @@ UserDataSection::UserDataSection(std::shared_ptr<const ScreenEnvironment> enviro
 
 Section UserDataSection::section() const {
     Section section{.id = kSection, .header = Localized::tr("Your data")};
-    section.footer =
-        Localized::tr("Channels, favourites, your own sources and silent hours are in a folder that a "
-                      "sync tool can share with your other devices.");
-    if (const OtherDevices* devices = m_environment->otherDevices) {
-        if (const auto device = devices->lastSeen()) {
-            const QDateTime stored = localTime(m_environment->device, device->stored);
-            section.footer +=
-                u'\n' +
-                Localized::tr("Last change by %1: %2")
-                    .arg(device->name, m_environment->device.locale().toString(stored, QLocale::ShortFormat));
-        }
+    if (m_environment->sharedPlace) {
+        const SharedPlace place = m_environment->sharedPlace->place();
+        section.footer = sharedStateText(place.state, m_environment->device);
+        section.rows.push_back({.id = {kSection, QString(kDevices)},
+                                .content = TextRow{.title = Localized::tr("Your devices"),
+                                                   .subtitle = place.address,
+                                                   .accessory = Accessory::Disclosure},
+                                .selectable = true});
     }
-    section.rows = {
-        button(kExport, {.title = Localized::tr("Export…")}),
-        button(kRestore, {.title = Localized::tr("Restore…")}),
-        button(kErase, {.title = Localized::tr("Delete…"), .style = ButtonRow::Style::Destructive})};
+    section.rows.push_back(button(kExport, {.title = Localized::tr("Export…")}));
+    section.rows.push_back(button(kRestore, {.title = Localized::tr("Restore…")}));
+    section.rows.push_back(
+        button(kErase, {.title = Localized::tr("Delete…"), .style = ButtonRow::Style::Destructive}));
     return section;
 }
 
@@ -58,6 +55,8 @@ bool UserDataSection::tapped(const RowId& id) {
     }
     if (*id.name() == kExport) {
         askToExport();
+    } else if (*id.name() == kDevices) {
+        open(std::make_shared<SharedPlaceViewController>(m_environment));
     } else if (*id.name() == kRestore) {
         open(std::make_shared<ReplacedListsViewController>(m_environment));
     } else {

@@ -39,7 +39,7 @@ namespace guide {
 class AlarmExplanations;
 class CalendarActions;
 class KnownFeeds;
-class OtherDevices;
+class SharedPlaceActions;
 class SourceActions;
 class UserDataActions;
 
@@ -98,8 +98,8 @@ struct ScreenEnvironment {
     BackgroundUpdates* backgroundUpdates = nullptr;
     /// Null in a guide that cannot export or erase.
     UserDataActions* userData = nullptr;
-    /// Null where no other devices can be seen.
-    const OtherDevices* otherDevices = nullptr;
+    /// Null where nothing can be shared with other devices.
+    SharedPlaceActions* sharedPlace = nullptr;
 };
 
 } // namespace guide

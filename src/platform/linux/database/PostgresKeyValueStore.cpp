@@ -54,9 +54,14 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
         if (mayHaveChanged && !connection.isLost()) {
             readOthers(connection);
             read(connection);
+            if (!connection.isLost() && !m_isRead.exchange(true)) {
+                tellState();
+            }
         }
         save();
     }
+
+    bool isRead() const { return m_isRead; }
 
     bool accepts(const QString& key) const { return key.toUtf8().size() <= m_keyBytes; }
     qsizetype valueBytes() const { return m_valueBytes; }
@@ -160,6 +165,10 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
             return;
         }
         m_values->setOthers(others);
+        tellState();
+    }
+
+    void tellState() const {
         m_queues.mainQueue().async([weak = m_observers] {
             if (const auto observers = weak.lock(); observers && observers->state) {
                 observers->state();
@@ -174,6 +183,7 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
     DispatchQueues& m_queues;
     const std::shared_ptr<DispatchQueue> m_files;
     std::atomic<bool> m_isSaving = false;
+    std::atomic<bool> m_isRead = false;
     std::atomic<qsizetype> m_valueBytes = kUsualValueBytes;
     std::atomic<qsizetype> m_keyBytes = kUsualKeyBytes;
     // Session's thread.
@@ -236,6 +246,7 @@ void PostgresKeyValueStore::setObserver(KeyValueStoreObserver* observer) {
 SharedStoreState PostgresKeyValueStore::sharedState() const {
     SharedStoreState state;
     state.connection = m_session->connection(state.reason);
+    state.isRead = m_exchange->isRead();
     const SharedValues::Others others = m_values->others();
     state.lastSeen = others.lastSeen;
     state.device = others.lastWriter;

@@ -1,0 +1,221 @@
+#include "app/SharedStoresChoice.h"
+
+#include "platform/linux/FolderKeyValueStore.h"
+#include "platform/linux/database/SharedStores.h"
+
+#include <QDebug>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QSysInfo>
+
+#include <utility>
+
+namespace guide {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString kAddressKey = u"sharedPlace"_s;
+/// Everything that devices share.
+const QStringList kSharedKeys{
+    u"Favorites"_s,          u"SelectedChannels"_s,   u"OwnSources"_s,
+    u"selectedCalendar"_s,   u"lastAlarmMinutes"_s,   u"noAlarmsSchedule"_s,
+    u"noAlarmsSchedule.0"_s, u"noAlarmsSchedule.1"_s, u"noAlarmsSchedule.acrossMidnight"_s};
+constexpr auto kLongestWait = 30s;
+
+/// The name of this device with digits that tell it from others of the name, made once for each profile.
+QString deviceOf(UserDefaults& userDefaults) {
+    const QString key = u"device"_s;
+    if (const auto device = userDefaults.stringForKey(key)) {
+        return *device;
+    }
+    const QString host = QSysInfo::machineHostName();
+    const QString device = (host.isEmpty() ? u"device"_s : host) +
+                           u"-%1"_s.arg(QRandomGenerator::system()->generate(), 8, 16, QChar(u'0'));
+    userDefaults.setString(key, device);
+    return device;
+}
+
+QString nameOf(const QString& device) {
+    return device.left(device.lastIndexOf(u'-'));
+}
+
+} // namespace
+
+SharedStoresChoice::SharedStoresChoice(Environment environment)
+    : m_environment(environment)
+    , m_queue(environment.queues.makeQueue("sharedStores", QueueKind::Serial, QueuePriority::UserInitiated)) {
+    const QString address = m_environment.userDefaults.stringForKey(kAddressKey).value_or(QString());
+    Stores stores;
+    if (isDatabaseAddress(address)) {
+        QString why;
+        stores = databaseStores(address, why);
+        if (!stores.keyValueStore) {
+            qWarning().noquote() << "SharedStoresChoice:" << why;
+        }
+    }
+    if (!stores.keyValueStore) {
+        stores = folderStores(isDatabaseAddress(address) ? QString() : address);
+    }
+    m_keyValueStore = std::make_shared<SwitchedKeyValueStore>(stores.keyValueStore);
+    adopt(std::move(stores));
+}
+
+SharedStoresChoice::~SharedStoresChoice() {
+    m_current.shared->setStateObserver(nullptr);
+    if (m_choice) {
+        m_choice->stores.shared->setStateObserver(nullptr);
+    }
+}
+
+SharedStoresChoice::Stores SharedStoresChoice::folderStores(const QString& address) const {
+    const auto store = std::make_shared<FolderKeyValueStore>(
+        address.isEmpty() ? m_environment.folders.keyValueStore : address,
+        deviceOf(m_environment.userDefaults), m_environment.queues);
+    return {.address = address, .keyValueStore = store, .shared = store.get()};
+}
+
+SharedStoresChoice::Stores SharedStoresChoice::databaseStores(const QString& address, QString& why) const {
+    SharedStores made =
+        sharedStoresFor(address,
+                        {.folder = m_environment.folders.documents,
+                         .deviceName = nameOf(deviceOf(m_environment.userDefaults))},
+                        m_environment.clock, m_environment.secrets, m_environment.queues, why);
+    Stores stores{.address = address, .keyValueStore = std::move(made.keyValueStore)};
+    stores.records = std::move(made.recordStore);
+    stores.shared = made.state;
+    stores.retryNow = std::move(made.retryNow);
+    return stores;
+}
+
+void SharedStoresChoice::retryNow() {
+    if (m_current.retryNow) {
+        m_current.retryNow();
+    }
+}
+
+SharedPlace SharedStoresChoice::place() const {
+    SharedPlace place{.address = m_current.address, .state = m_current.shared->sharedState()};
+    if (!place.address.isEmpty()) {
+        place.kind =
+            isDatabaseAddress(place.address) ? SharedPlace::Kind::Database : SharedPlace::Kind::Folder;
+    }
+    return place;
+}
+
+void SharedStoresChoice::choose(const QString& address, MainBlock<QString> mainBlock) {
+    if (m_choice) {
+        mainBlock.post(m_environment.queues.mainQueue(), u"Another place is being tried."_s);
+        return;
+    }
+    if (address == m_current.address) {
+        mainBlock.post(m_environment.queues.mainQueue(), QString());
+        return;
+    }
+    // The disk and the keeper of secrets may take long.
+    m_queue->async([this, address, answer = std::move(mainBlock), alive = std::weak_ptr(m_alive)]() mutable {
+        QString why;
+        QString usable = address;
+        if (isDatabaseAddress(address)) {
+            usable = keepDatabasePassword(address, m_environment.secrets, why).value_or(QString());
+        } else if (const QFileInfo folder(address);
+                   !address.isEmpty() && !(folder.isAbsolute() && folder.isDir() && folder.isWritable())) {
+            why = u"There is no such folder, or it cannot be written."_s;
+        }
+        m_environment.queues.mainQueue().async(
+            [this, usable, why, answer = std::move(answer), alive = std::move(alive)]() mutable {
+                if (alive.expired()) {
+                    return;
+                }
+                Stores stores;
+                if (why.isEmpty()) {
+                    stores = isDatabaseAddress(usable) ? databaseStores(usable, why) : folderStores(usable);
+                }
+                if (!stores.keyValueStore || m_choice) {
+                    answer.post(m_environment.queues.mainQueue(), std::move(why));
+                } else {
+                    tryStores(std::move(stores), std::move(answer));
+                }
+            });
+    });
+}
+
+void SharedStoresChoice::tryStores(Stores stores, MainBlock<QString> answer) {
+    m_choice = std::make_shared<Choice>(Choice{std::move(stores), std::move(answer)});
+    // Later, because looking may end the observation.
+    m_choice->stores.shared->setStateObserver([this, alive = std::weak_ptr(m_alive)] {
+        m_environment.queues.mainQueue().async([this, alive] {
+            if (!alive.expired()) {
+                look();
+            }
+        });
+    });
+    m_environment.queues.mainQueue().asyncAfter(
+        kLongestWait, [this, choice = std::weak_ptr(m_choice), alive = std::weak_ptr(m_alive)] {
+            if (!alive.expired() && !choice.expired() && !m_choice->isMoving) {
+                end(u"The database cannot be reached."_s);
+            }
+        });
+    look();
+}
+
+void SharedStoresChoice::look() {
+    if (!m_choice || m_choice->isMoving) {
+        return;
+    }
+    const SharedStoreState state = m_choice->stores.shared->sharedState();
+    if (state.connection == SharedStoreConnection::Refused) {
+        end(state.reason);
+    } else if (state.isRead) {
+        move();
+    }
+}
+
+void SharedStoresChoice::move() {
+    m_choice->isMoving = true;
+    m_queue->async([this, values = m_keyValueStore, store = m_choice->stores.keyValueStore,
+                    alive = std::weak_ptr(m_alive)]() mutable {
+        auto differing = values->replace(std::move(store), kSharedKeys);
+        m_environment.queues.mainQueue().async([this, values, differing, alive = std::move(alive)] {
+            if (alive.expired()) {
+                return;
+            }
+            if (!differing) {
+                end(u"The place cannot take what this device has."_s);
+                return;
+            }
+            const std::shared_ptr<Choice> choice = m_choice;
+            m_current.shared->setStateObserver(nullptr);
+            adopt(choice->stores);
+            m_environment.userDefaults.setString(kAddressKey, m_current.address);
+            m_keyValueStore->observe();
+            end({});
+            m_keyValueStore->announce(*differing);
+        });
+    });
+}
+
+void SharedStoresChoice::adopt(Stores stores) {
+    m_current = std::move(stores);
+    m_records.replace(m_current.records);
+    m_current.shared->setStateObserver([this] {
+        if (m_changed) {
+            m_changed();
+        }
+    });
+}
+
+void SharedStoresChoice::end(const QString& why) {
+    const std::shared_ptr<Choice> choice = std::exchange(m_choice, nullptr);
+    if (!why.isEmpty()) {
+        choice->stores.shared->setStateObserver(nullptr);
+    }
+    choice->answer.post(m_environment.queues.mainQueue(), QString(why));
+    if (m_changed) {
+        m_changed();
+    }
+}
+
+} // namespace guide

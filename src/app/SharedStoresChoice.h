@@ -1,0 +1,82 @@
+#pragma once
+
+#include "cloud/SharedPlaceActions.h"
+#include "platform/Clock.h"
+#include "platform/SecretStore.h"
+#include "platform/SwitchedKeyValueStore.h"
+#include "platform/SwitchedRecordStore.h"
+#include "platform/UserDefaults.h"
+#include "platform/files/Folders.h"
+#include "platform/queues/DispatchQueue.h"
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace guide {
+
+/// The stores that the guide shares with the user's other devices and with other users: the folder of the
+/// profile, another folder or a database, as the user has chosen. Main thread; the stores, any.
+class SharedStoresChoice final : public SharedPlaceActions {
+  public:
+    /// All of them must outlive the stores, `secrets` also the queues.
+    struct Environment {
+        const Folders& folders;
+        UserDefaults& userDefaults;
+        const Clock& clock;
+        SecretStore& secrets;
+        DispatchQueues& queues;
+    };
+
+    explicit SharedStoresChoice(Environment environment);
+    SharedStoresChoice(const SharedStoresChoice&) = delete;
+    SharedStoresChoice& operator=(const SharedStoresChoice&) = delete;
+    ~SharedStoresChoice() override;
+
+    KeyValueStore& keyValueStore() { return *m_keyValueStore; }
+    RecordStore& records() { return m_records; }
+
+    SharedPlace place() const override;
+    /// A database is waited for, at most half a minute.
+    void choose(const QString& address, MainBlock<QString> mainBlock) override;
+    void retryNow() override;
+    void setObserver(std::function<void()> changed) override { m_changed = std::move(changed); }
+
+  private:
+    struct Stores {
+        QString address;
+        std::shared_ptr<KeyValueStore> keyValueStore;
+        /// Null when no counters are shared.
+        std::shared_ptr<RecordStore> records = {};
+        /// Part of the key-value store.
+        SharedStore* shared = nullptr;
+        std::function<void()> retryNow = {};
+    };
+    /// A choice that is being made.
+    struct Choice {
+        Stores stores;
+        MainBlock<QString> answer;
+        bool isMoving = false;
+    };
+
+    Stores folderStores(const QString& address) const;
+    Stores databaseStores(const QString& address, QString& why) const;
+    void tryStores(Stores stores, MainBlock<QString> answer);
+    /// Goes on when the state of the stores tells whether they can be used.
+    void look();
+    void move();
+    void end(const QString& why);
+    void adopt(Stores stores);
+
+    const Environment m_environment;
+    const std::shared_ptr<DispatchQueue> m_queue;
+    Stores m_current;
+    std::shared_ptr<SwitchedKeyValueStore> m_keyValueStore;
+    SwitchedRecordStore m_records;
+    std::shared_ptr<Choice> m_choice;
+    std::function<void()> m_changed;
+    const std::shared_ptr<char> m_alive = std::make_shared<char>();
+};
+
+} // namespace guide

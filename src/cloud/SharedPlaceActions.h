@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/SharedStoreState.h"
+#include "platform/queues/MainBlock.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace guide {
+
+/// Where the user's data is, for the other devices.
+struct SharedPlace {
+    enum class Kind {
+        /// Nowhere but in the profile.
+        ThisDevice,
+        Folder,
+        Database,
+    };
+
+    Kind kind = Kind::ThisDevice;
+    /// The path of the folder, or the address of the database without the password.
+    QString address = {};
+    SharedStoreState state = {};
+};
+
+/// What a user can do about it. Main queue.
+class SharedPlaceActions {
+  public:
+    virtual ~SharedPlaceActions() = default;
+
+    virtual SharedPlace place() const = 0;
+    /// Moves to the folder with the path, the database with the address, or, without either, back to this
+    /// device. What is there already takes the place of what this device has; the rest is stored there.
+    /// Answers with an English sentence that says why that is impossible; empty when it is done.
+    virtual void choose(const QString& address, MainBlock<QString> mainBlock) = 0;
+    /// Connects again now where the place cannot be reached, such as when a network appears.
+    virtual void retryNow() = 0;
+    /// What is called after the place or its state has changed; null ends that.
+    virtual void setObserver(std::function<void()> changed) = 0;
+};
+
+} // namespace guide

@@ -1,0 +1,68 @@
+#include "platform/SwitchedKeyValueStore.h"
+
+#include <mutex>
+#include <utility>
+
+namespace guide {
+
+SwitchedKeyValueStore::SwitchedKeyValueStore(std::shared_ptr<KeyValueStore> store)
+    : m_store(std::move(store)) {}
+
+SwitchedKeyValueStore::~SwitchedKeyValueStore() = default;
+
+std::optional<QCborValue> SwitchedKeyValueStore::valueForKey(const QString& key) const {
+    const std::shared_lock lock(m_guard);
+    return m_store->valueForKey(key);
+}
+
+bool SwitchedKeyValueStore::setValue(const QString& key, const QCborValue& value) {
+    const std::shared_lock lock(m_guard);
+    return m_store->setValue(key, value);
+}
+
+void SwitchedKeyValueStore::removeKey(const QString& key) {
+    const std::shared_lock lock(m_guard);
+    m_store->removeKey(key);
+}
+
+void SwitchedKeyValueStore::setObserver(KeyValueStoreObserver* observer) {
+    const std::shared_lock lock(m_guard);
+    m_observer = observer;
+    m_store->setObserver(observer);
+}
+
+std::optional<QStringList> SwitchedKeyValueStore::replace(std::shared_ptr<KeyValueStore> store,
+                                                          const QStringList& keys) {
+    // A value that is set meanwhile must not end in the store that goes.
+    const std::lock_guard lock(m_guard);
+    QStringList differing;
+    for (const QString& key : keys) {
+        const std::optional<QCborValue> own = m_store->valueForKey(key);
+        const std::optional<QCborValue> theirs = store->valueForKey(key);
+        if (theirs) {
+            if (own != theirs) {
+                differing << key;
+            }
+        } else if (own && !store->setValue(key, *own)) {
+            return std::nullopt;
+        }
+    }
+    m_retired.push_back(std::exchange(m_store, std::move(store)));
+    return differing;
+}
+
+void SwitchedKeyValueStore::observe() {
+    const std::shared_lock lock(m_guard);
+    for (const auto& store : m_retired) {
+        store->setObserver(nullptr);
+    }
+    m_store->setObserver(m_observer);
+}
+
+void SwitchedKeyValueStore::announce(const QStringList& keys) const {
+    if (m_observer && !keys.isEmpty()) {
+        m_observer->valuesChangedExternally(keys);
+    }
+}
+
+} // namespace guide
