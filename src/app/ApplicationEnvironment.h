@@ -3,6 +3,7 @@
 #include "app/Promotion.h"
 #include "core/ObjectId.h"
 #include "parsers/URLPlanner.h"
+#include "cloud/SharedPlaceActions.h"
 #include "platform/AlarmRinging.h"
 #include "platform/AudioSession.h"
 #include "platform/BackgroundTasks.h"

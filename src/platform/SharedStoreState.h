@@ -22,13 +22,13 @@ struct SharedStoreState {
     SharedStoreConnection connection = SharedStoreConnection::Offline;
     /// Why changes are not shared now: one English sentence, without names, addresses and passwords. Empty
     /// while they are.
-    QString reason;
+    QString reason = {};
     /// Whether what others stored has been read, once at least.
     bool isRead = false;
     /// When another device was last seen, by the clock of this one.
-    std::optional<Moment> lastSeen;
+    std::optional<Moment> lastSeen = {};
     /// The name of the other device that wrote last; empty when none has.
-    QString device;
+    QString device = {};
 
     friend bool operator==(const SharedStoreState&, const SharedStoreState&) = default;
 };
