@@ -117,6 +117,8 @@ TEST_F(PostgresStoresTest, SendsEachIncrementOnceThroughLostConnections) {
         phone.restart();
     }
     EXPECT_TRUE(isCounted(expected)) << total() << " of " << expected;
+    EXPECT_EQ(server.query(u"select count(*) from guide.devices"_s), u"1"_s)
+        << "the same device after each start";
 }
 
 TEST_F(PostgresStoresTest, ALateRepetitionDoesNotUndoAnotherDevice) {

@@ -46,6 +46,8 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
         m_hasToAnnounce = true;
         // The limits may have been raised.
         m_values->sendAll();
+        // Nothing is sent under a name that the next start would not know.
+        m_values->save();
     }
 
     /// Changes of this device first: they were made without knowing of any that arrived meanwhile.

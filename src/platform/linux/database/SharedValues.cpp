@@ -46,6 +46,7 @@ void SharedValues::load() {
     }
     if (const QUuid device = map.value(kDevice).toUuid(); !device.isNull()) {
         m_device = device;
+        m_needsSaving = false;
     }
     if (const QCborValue seen = map.value(kLastSeen); seen.isInteger()) {
         m_others.lastSeen = Moment(std::chrono::milliseconds(seen.toInteger()));

@@ -97,7 +97,8 @@ class SharedValues {
     // guarded
     QHash<QString, Entry> m_entries;
     Others m_others;
-    bool m_needsSaving = false;
+    /// Without a file, because of the name of this device.
+    bool m_needsSaving = true;
     std::mutex m_fileGuard;
 };
 
