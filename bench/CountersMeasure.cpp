@@ -201,7 +201,7 @@ int measure() {
         popular[round] = measure.popularByGuide();
     }
     require(median(popular) < kLongestQuery, u"the most watched titles take %1 ms"_s.arg(median(popular)));
-    print("1,000 most watched of a million titles", popular, select, 2);
+    print("1,000 most watched of a million titles", popular, select, 4);
     return 0;
 }
 
