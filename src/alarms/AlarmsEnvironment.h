@@ -32,6 +32,9 @@ struct AlarmSafety {
     /// A run that moved an event to where another one is, or into silent hours, is followed by the run that
     /// removes it.
     bool settles = true;
+    /// A calendar from which another program has removed the last event leaves no alarms to come, not even
+    /// until the next full run.
+    bool forgetsAll = true;
 };
 
 /// What a run did.

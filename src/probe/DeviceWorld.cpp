@@ -283,7 +283,7 @@ void DeviceWorld::makeGuide() {
                              .notificationsSynched = [this] { ++m_told.notificationsSynched; },
                              .updateBadge = [] {},
                              .runEnded = {},
-                             .safety = {.brake = false, .repeatsUnfinished = false, .settles = false}});
+                             .safety = {.brake = false, .repeatsUnfinished = false, .settles = false, .forgetsAll = false}});
     m_alarms = std::make_unique<AlarmSynchroniser>(m_alarmCalendar);
     m_alarmOperations = std::make_unique<AlarmOperations>(m_alarmCalendar, *m_alarms);
     m_favoriteOperations = std::make_unique<FavoriteOperations>(

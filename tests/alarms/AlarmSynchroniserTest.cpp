@@ -316,6 +316,16 @@ TEST(AlarmSynchroniser, TheUserDecidesAboutWhatIsHeldBack) {
     EXPECT_EQ(removed->runs.back().heldBack, 10U) << "another time";
 }
 
+TEST(AlarmSynchroniser, NoAlarmIsLeftWhenTheLastEventIsRemovedElsewhere) {
+    MemoryAlarmWorld world(u"rule News 10\nshow One News 12:00"_s);
+    world->sync();
+    EXPECT_EQ(world->alarms->snapshot()->eventCount(), 1U);
+    ASSERT_TRUE(world->alarmCalendar->mark().isSet());
+    world.events.remove(world.events.events().front().identifier);
+    world->sync();
+    EXPECT_EQ(world->alarms->snapshot()->eventCount(), 0U) << "also by a run that is not full";
+}
+
 TEST(AlarmSynchroniser, TheJournalSaysWhoSetAnAlarm) {
     MemoryAlarmWorld world(
         u"rule News 10 premieres\nrule Film -\nshow One News 12:00\nshow Two Film 13:00 replay"_s);
