@@ -31,6 +31,7 @@ class FavoriteOperationsTest : public testing::Test,
     }
     void setSynchronized(bool synchronized) override { log << u"mark %1"_s.arg(synchronized); }
     void syncAlarms() override { log << u"run"_s; }
+    bool isSynchronized() const override { return false; }
     bool isRunning() const override { return false; }
     void commit() override {}
     bool hasCalendarAccess() const override { return true; }

@@ -59,8 +59,8 @@ class FolderValues final : public StoredValues {
 
   private:
     const QTemporaryDir m_folder;
-    FolderKeyValueStore m_store{m_folder.path(), loop.queues};
-    FolderKeyValueStore m_other{m_folder.path(), loop.queues};
+    FolderKeyValueStore m_store{m_folder.path(), QStringLiteral("desk-1"), loop.queues};
+    FolderKeyValueStore m_other{m_folder.path(), QStringLiteral("phone-2"), loop.queues};
 };
 
 class PostgresValues final : public StoredValues {
