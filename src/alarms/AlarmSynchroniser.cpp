@@ -99,6 +99,8 @@ struct AlarmSynchroniser::State : std::enable_shared_from_this<State> {
     /// The user has been told about these and has not decided.
     QSet<QString> told;
     QSet<QString> keptByUser;
+    /// These are to be removed.
+    QSet<QString> releasedByUser;
 };
 
 // ---- main queue
@@ -245,7 +247,14 @@ bool AlarmSynchroniser::State::reconcileAndGenerate(AlarmRun& run, ShowItems sho
     if (!read()) {
         return false;
     }
-    const ReconciliationPlan plan = planReconciliation(situation, byTitle, run.brake);
+    ReconciliationPlan plan = planReconciliation(situation, byTitle, run.brake);
+    // The run that followed the decision may have left events of a channel that was being loaded.
+    if (!plan.heldBack.empty() && std::ranges::all_of(plan.heldBack, [this](const AlarmChange& change) {
+            return releasedByUser.contains(change.event().identifier);
+        })) {
+        run.brake = false;
+        plan = planReconciliation(situation, byTitle, run.brake);
+    }
     noteHeldBack(run, plan);
     const AppliedChanges applied = calendar->apply(plan.changes);
     run.note(applied);
@@ -329,7 +338,7 @@ void AlarmSynchroniser::calendarsChanged() {
 
 void AlarmSynchroniser::removeHeldBack() {
     m_state->calendar->queue().async([state = m_state] {
-        state->told.clear();
+        state->releasedByUser.unite(std::exchange(state->told, {}));
         state->keptByUser.clear();
     });
     m_state->calendar->mark().set(false);

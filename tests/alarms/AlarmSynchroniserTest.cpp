@@ -307,8 +307,14 @@ TEST(AlarmSynchroniser, TheUserDecidesAboutWhatIsHeldBack) {
     removed->sync();
     EXPECT_EQ(removed->alarms->snapshot()->eventCount(), 10U);
     EXPECT_FALSE(removed->calendar().contains(u"Silenced"_s)) << "the user removed these alarms";
+    const auto channel = removed->channels.channelWithChannelId(AlarmWorld::channelNamed(u"One"_s));
+    channel->setLoading(true);
     removed->alarms->removeHeldBack();
     removed->queues.runAll();
+    EXPECT_EQ(removed->alarms->snapshot()->eventCount(), 10U) << "a channel that is being loaded proves nothing";
+    channel->setLoading(false);
+    removed->sync();
+    EXPECT_EQ(removed->runs.back().heldBack, 0U) << "the user has decided";
     EXPECT_EQ(removed->calendar(), QString());
     EXPECT_TRUE(removed->alarmCalendar->mark().isSet());
     removed->give(linesOf(10, "event h%1 One Gone 0%1:00+2 10"));

@@ -246,7 +246,8 @@ TEST_F(GuideAlarmsTest, TheUserDecidesAboutRemovalsThatAreHeldBack) {
     listAgain(8);
     ASSERT_TRUE(world.runUntil(isAsked));
     tabs().answerAlert(0);
-    EXPECT_TRUE(world.runUntil([this] { return events.events().size() < 3; }));
+    EXPECT_TRUE(world.runUntil([this] { return events.events().size() < 3; }))
+        << events.events().size() << " events, " << (isAsked() ? "asked again" : "not asked");
 }
 
 TEST_F(GuideAlarmsTest, ASettingOfTheOptionsShowsAtOnce) {
