@@ -131,10 +131,14 @@ class MemoryEventStore final : public EventStore {
         }
     }
     /// With an identifier of the caller.
-    void addEvent(CalendarEvent event) {
+    void addEvent(CalendarEvent event) { addEvents({std::move(event)}); }
+    /// All at once: no reader sees some of them only.
+    void addEvents(std::vector<CalendarEvent> events) {
         const std::lock_guard lock(m_guard);
-        event.revision = nextRevision();
-        m_events.push_back(std::move(event));
+        for (CalendarEvent& event : events) {
+            event.revision = nextRevision();
+            m_events.push_back(std::move(event));
+        }
     }
     std::vector<CalendarEvent> events() const {
         const std::lock_guard lock(m_guard);
