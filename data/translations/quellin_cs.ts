@@ -2084,8 +2084,12 @@ Počkejte, až se program načte.</translation>
         <translation>Smazat údaje</translation>
     </message>
     <message>
-        <source>On all your devices</source>
-        <translation>Na všech vašich zařízeních</translation>
+        <source>On this device</source>
+        <translation>V tomto zařízení</translation>
+    </message>
+    <message>
+        <source>Favourites are removed on all your devices.</source>
+        <translation>Oblíbené se odstraní ve všech vašich zařízeních.</translation>
     </message>
     <message>
         <source>Nothing</source>
@@ -2144,8 +2148,8 @@ Počkejte, až se program načte.</translation>
         <translation>Vaše údaje</translation>
     </message>
     <message>
-        <source>Last change by %1: %2</source>
-        <translation>Poslední změna ze zařízení %1: %2</translation>
+        <source>Last change by %1</source>
+        <translation>Poslední změna: %1</translation>
     </message>
     <message>
         <source>Export…</source>

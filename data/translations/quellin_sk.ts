@@ -2084,8 +2084,12 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Zmazať údaje</translation>
     </message>
     <message>
-        <source>On all your devices</source>
-        <translation>Na všetkých vašich zariadeniach</translation>
+        <source>On this device</source>
+        <translation>V tomto zariadení</translation>
+    </message>
+    <message>
+        <source>Favourites are removed on all your devices.</source>
+        <translation>Obľúbené sa odstránia vo všetkých vašich zariadeniach.</translation>
     </message>
     <message>
         <source>Nothing</source>
@@ -2144,8 +2148,8 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Vaše údaje</translation>
     </message>
     <message>
-        <source>Last change by %1: %2</source>
-        <translation>Posledná zmena zo zariadenia %1: %2</translation>
+        <source>Last change by %1</source>
+        <translation>Posledná zmena: %1</translation>
     </message>
     <message>
         <source>Export…</source>

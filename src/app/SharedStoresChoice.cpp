@@ -1,6 +1,7 @@
 #include "app/SharedStoresChoice.h"
 
 #include "platform/linux/FolderKeyValueStore.h"
+#include "platform/linux/database/DatabaseAddress.h"
 #include "platform/linux/database/SharedStores.h"
 
 #include <QDebug>
@@ -51,7 +52,7 @@ SharedStoresChoice::SharedStoresChoice(Environment environment)
     Stores stores;
     if (isDatabaseAddress(address)) {
         QString why;
-        stores = databaseStores(address, why);
+        stores = databaseStores(address, false, why);
         if (!stores.keyValueStore) {
             qWarning().noquote() << "SharedStoresChoice:" << why;
         }
@@ -77,11 +78,13 @@ SharedStoresChoice::Stores SharedStoresChoice::folderStores(const QString& addre
     return {.address = address, .keyValueStore = store, .shared = store.get()};
 }
 
-SharedStoresChoice::Stores SharedStoresChoice::databaseStores(const QString& address, QString& why) const {
+SharedStoresChoice::Stores SharedStoresChoice::databaseStores(const QString& address, bool joins,
+                                                              QString& why) const {
     SharedStores made =
         sharedStoresFor(address,
                         {.folder = m_environment.folders.documents,
-                         .deviceName = nameOf(deviceOf(m_environment.userDefaults))},
+                         .deviceName = nameOf(deviceOf(m_environment.userDefaults)),
+                         .joins = joins},
                         m_environment.clock, m_environment.secrets, m_environment.queues, why);
     Stores stores{.address = address, .keyValueStore = std::move(made.keyValueStore)};
     stores.records = std::move(made.recordStore);
@@ -106,43 +109,65 @@ SharedPlace SharedStoresChoice::place() const {
 }
 
 void SharedStoresChoice::choose(const QString& address, MainBlock<QString> mainBlock) {
-    if (m_choice) {
-        mainBlock.post(m_environment.queues.mainQueue(), u"Another place is being tried."_s);
+    QString why;
+    const std::optional<DatabaseAddress> database =
+        isDatabaseAddress(address) ? databaseAddress(address, why) : std::nullopt;
+    if ((database ? database->text() : address) == m_current.address && why.isEmpty()) {
+        stay(address, std::move(mainBlock));
         return;
     }
-    if (address == m_current.address) {
-        mainBlock.post(m_environment.queues.mainQueue(), QString());
+    if (database) {
+        Stores stores = m_choice ? Stores{} : databaseStores(address, true, why);
+        stores.entered = address;
+        stores.address = database->text();
+        tryStores(std::move(stores), why, std::move(mainBlock));
         return;
     }
-    // The disk and the keeper of secrets may take long.
+    if (!why.isEmpty()) {
+        mainBlock.post(m_environment.queues.mainQueue(), std::move(why));
+        return;
+    }
+    // The disk may take long.
     m_queue->async([this, address, answer = std::move(mainBlock), alive = std::weak_ptr(m_alive)]() mutable {
-        QString why;
-        QString usable = address;
-        if (isDatabaseAddress(address)) {
-            usable = keepDatabasePassword(address, m_environment.secrets, why).value_or(QString());
-        } else if (const QFileInfo folder(address);
-                   !address.isEmpty() && !(folder.isAbsolute() && folder.isDir() && folder.isWritable())) {
-            why = u"There is no such folder, or it cannot be written."_s;
-        }
+        const QFileInfo folder(address);
+        const bool isUsable =
+            address.isEmpty() || (folder.isAbsolute() && folder.isDir() && folder.isWritable());
         m_environment.queues.mainQueue().async(
-            [this, usable, why, answer = std::move(answer), alive = std::move(alive)]() mutable {
-                if (alive.expired()) {
-                    return;
-                }
-                Stores stores;
-                if (why.isEmpty()) {
-                    stores = isDatabaseAddress(usable) ? databaseStores(usable, why) : folderStores(usable);
-                }
-                if (!stores.keyValueStore || m_choice) {
-                    answer.post(m_environment.queues.mainQueue(), std::move(why));
-                } else {
-                    tryStores(std::move(stores), std::move(answer));
+            [this, address, isUsable, answer = std::move(answer), alive = std::move(alive)]() mutable {
+                if (!alive.expired()) {
+                    tryStores(isUsable ? folderStores(address) : Stores{},
+                              isUsable ? QString() : u"There is no such folder, or it cannot be written."_s,
+                              std::move(answer));
                 }
             });
     });
 }
 
-void SharedStoresChoice::tryStores(Stores stores, MainBlock<QString> answer) {
+// With another password, perhaps.
+void SharedStoresChoice::stay(const QString& address, MainBlock<QString> answer) {
+    m_queue->async([this, address, answer = std::move(answer), alive = std::weak_ptr(m_alive)]() mutable {
+        QString why;
+        if (isDatabaseAddress(address)) {
+            keepDatabasePassword(address, m_environment.secrets, why);
+        }
+        m_environment.queues.mainQueue().async(
+            [this, why, answer = std::move(answer), alive = std::move(alive)]() mutable {
+                if (!alive.expired()) {
+                    retryNow();
+                    answer.post(m_environment.queues.mainQueue(), std::move(why));
+                }
+            });
+    });
+}
+
+void SharedStoresChoice::tryStores(Stores stores, QString why, MainBlock<QString> answer) {
+    if (m_choice) {
+        why = u"Another place is being tried."_s;
+    }
+    if (!why.isEmpty() || !stores.keyValueStore) {
+        answer.post(m_environment.queues.mainQueue(), std::move(why));
+        return;
+    }
     m_choice = std::make_shared<Choice>(Choice{std::move(stores), std::move(answer)});
     // Later, because looking may end the observation.
     m_choice->stores.shared->setStateObserver([this, alive = std::weak_ptr(m_alive)] {
@@ -175,36 +200,59 @@ void SharedStoresChoice::look() {
 
 void SharedStoresChoice::move() {
     m_choice->isMoving = true;
-    m_queue->async([this, values = m_keyValueStore, store = m_choice->stores.keyValueStore,
+    // Whoever leaves a place keeps what is there.
+    const auto keeps = m_choice->stores.address.isEmpty() ? SwitchedKeyValueStore::Keeps::Ours
+                                                          : SwitchedKeyValueStore::Keeps::Theirs;
+    m_keyValueStore->observeNext(*m_choice->stores.keyValueStore);
+    m_queue->async([this, values = m_keyValueStore, store = m_choice->stores.keyValueStore, keeps,
+                    entered = m_choice->stores.entered, left = m_current,
                     alive = std::weak_ptr(m_alive)]() mutable {
-        auto differing = values->replace(std::move(store), kSharedKeys);
-        m_environment.queues.mainQueue().async([this, values, differing, alive = std::move(alive)] {
-            if (alive.expired()) {
-                return;
+        QString why;
+        std::optional<QStringList> differing;
+        if (entered.isEmpty() || keepDatabasePassword(entered, m_environment.secrets, why)) {
+            differing = values->replace(std::move(store), kSharedKeys, keeps);
+            why = differing ? QString() : u"The place cannot take what this device has."_s;
+        }
+        if (differing && left.address.isEmpty()) {
+            // What lies in the profile would be found, and outlive an erasure.
+            for (const QString& key : kSharedKeys) {
+                left.keyValueStore->removeKey(key);
             }
-            if (!differing) {
-                end(u"The place cannot take what this device has."_s);
-                return;
-            }
-            const std::shared_ptr<Choice> choice = m_choice;
-            m_current.shared->setStateObserver(nullptr);
-            adopt(choice->stores);
-            m_environment.userDefaults.setString(kAddressKey, m_current.address);
-            m_keyValueStore->observe();
-            end({});
-            m_keyValueStore->announce(*differing);
-        });
+        }
+        m_environment.queues.mainQueue().async(
+            [this, values, differing, why, left = std::move(left), alive = std::move(alive)] {
+                if (!alive.expired()) {
+                    moved(differing, why);
+                }
+            });
     });
+}
+
+void SharedStoresChoice::moved(const std::optional<QStringList>& differing, const QString& why) {
+    if (!differing) {
+        m_choice->stores.keyValueStore->setObserver(nullptr);
+        end(why);
+        return;
+    }
+    const std::shared_ptr<Choice> choice = m_choice;
+    m_current.shared->setStateObserver(nullptr);
+    m_keyValueStore->endReplaced();
+    adopt(choice->stores);
+    m_environment.userDefaults.setString(kAddressKey, m_current.address);
+    end({});
+    m_keyValueStore->announce(*differing);
 }
 
 void SharedStoresChoice::adopt(Stores stores) {
     m_current = std::move(stores);
     m_records.replace(m_current.records);
-    m_current.shared->setStateObserver([this] {
-        if (m_changed) {
-            m_changed();
-        }
-    });
+    m_current.shared->setStateObserver([this] { tellChanged(); });
+}
+
+void SharedStoresChoice::tellChanged() const {
+    if (m_changed && !m_observer.expired()) {
+        m_changed();
+    }
 }
 
 void SharedStoresChoice::end(const QString& why) {
@@ -213,9 +261,7 @@ void SharedStoresChoice::end(const QString& why) {
         choice->stores.shared->setStateObserver(nullptr);
     }
     choice->answer.post(m_environment.queues.mainQueue(), QString(why));
-    if (m_changed) {
-        m_changed();
-    }
+    tellChanged();
 }
 
 } // namespace guide

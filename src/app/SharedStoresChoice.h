@@ -41,12 +41,17 @@ class SharedStoresChoice final : public SharedPlaceActions {
     /// A database is waited for, at most half a minute.
     void choose(const QString& address, MainBlock<QString> mainBlock) override;
     void retryNow() override;
-    void setObserver(std::function<void()> changed) override { m_changed = std::move(changed); }
+    void setObserver(std::weak_ptr<const void> owner, std::function<void()> changed) override {
+        m_observer = std::move(owner);
+        m_changed = std::move(changed);
+    }
 
   private:
     struct Stores {
-        QString address;
-        std::shared_ptr<KeyValueStore> keyValueStore;
+        QString address = {};
+        /// As the user entered it, with a password that is not kept yet.
+        QString entered = {};
+        std::shared_ptr<KeyValueStore> keyValueStore = {};
         /// Null when no counters are shared.
         std::shared_ptr<RecordStore> records = {};
         /// Part of the key-value store.
@@ -61,13 +66,16 @@ class SharedStoresChoice final : public SharedPlaceActions {
     };
 
     Stores folderStores(const QString& address) const;
-    Stores databaseStores(const QString& address, QString& why) const;
-    void tryStores(Stores stores, MainBlock<QString> answer);
+    Stores databaseStores(const QString& address, bool joins, QString& why) const;
+    void stay(const QString& address, MainBlock<QString> answer);
+    void tryStores(Stores stores, QString why, MainBlock<QString> answer);
     /// Goes on when the state of the stores tells whether they can be used.
     void look();
     void move();
+    void moved(const std::optional<QStringList>& differing, const QString& why);
     void end(const QString& why);
     void adopt(Stores stores);
+    void tellChanged() const;
 
     const Environment m_environment;
     const std::shared_ptr<DispatchQueue> m_queue;
@@ -75,6 +83,7 @@ class SharedStoresChoice final : public SharedPlaceActions {
     std::shared_ptr<SwitchedKeyValueStore> m_keyValueStore;
     SwitchedRecordStore m_records;
     std::shared_ptr<Choice> m_choice;
+    std::weak_ptr<const void> m_observer;
     std::function<void()> m_changed;
     const std::shared_ptr<char> m_alive = std::make_shared<char>();
 };

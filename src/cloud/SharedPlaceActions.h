@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 namespace guide {
 
@@ -36,8 +37,9 @@ class SharedPlaceActions {
     virtual void choose(const QString& address, MainBlock<QString> mainBlock) = 0;
     /// Connects again now where the place cannot be reached, such as when a network appears.
     virtual void retryNow() = 0;
-    /// What is called after the place or its state has changed; null ends that.
-    virtual void setObserver(std::function<void()> changed) = 0;
+    /// What is called after the place or its state has changed, as long as the owner exists. The latest call
+    /// counts.
+    virtual void setObserver(std::weak_ptr<const void> owner, std::function<void()> changed) = 0;
 };
 
 } // namespace guide

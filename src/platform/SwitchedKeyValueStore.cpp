@@ -32,31 +32,37 @@ void SwitchedKeyValueStore::setObserver(KeyValueStoreObserver* observer) {
 }
 
 std::optional<QStringList> SwitchedKeyValueStore::replace(std::shared_ptr<KeyValueStore> store,
-                                                          const QStringList& keys) {
+                                                          const QStringList& keys, Keeps keeps) {
     // A value that is set meanwhile must not end in the store that goes.
     const std::lock_guard lock(m_guard);
     QStringList differing;
     for (const QString& key : keys) {
-        const std::optional<QCborValue> own = m_store->valueForKey(key);
+        const std::optional<QCborValue> ours = m_store->valueForKey(key);
         const std::optional<QCborValue> theirs = store->valueForKey(key);
-        if (theirs) {
-            if (own != theirs) {
-                differing << key;
-            }
-        } else if (own && !store->setValue(key, *own)) {
+        if (ours == theirs) {
+            continue;
+        }
+        if (theirs && keeps == Keeps::Theirs) {
+            differing << key;
+        } else if (!ours) {
+            store->removeKey(key);
+        } else if (!store->setValue(key, *ours)) {
             return std::nullopt;
         }
     }
-    m_retired.push_back(std::exchange(m_store, std::move(store)));
+    m_replaced.push_back(std::exchange(m_store, std::move(store)));
     return differing;
 }
 
-void SwitchedKeyValueStore::observe() {
-    const std::shared_lock lock(m_guard);
-    for (const auto& store : m_retired) {
+void SwitchedKeyValueStore::endReplaced() {
+    std::vector<std::shared_ptr<KeyValueStore>> ending;
+    {
+        const std::lock_guard lock(m_guard);
+        ending.swap(m_replaced);
+    }
+    for (const auto& store : ending) {
         store->setObserver(nullptr);
     }
-    m_store->setObserver(m_observer);
 }
 
 void SwitchedKeyValueStore::announce(const QStringList& keys) const {

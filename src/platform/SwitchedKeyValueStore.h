@@ -23,20 +23,26 @@ class SwitchedKeyValueStore final : public KeyValueStore {
     void removeKey(const QString& key) override;
     void setObserver(KeyValueStoreObserver* observer) override;
 
-    /// Puts the store in the place of the current one. It gets the values of those of the keys that it lacks;
-    /// returned are those whose values differ. False when a value could not be stored: then nothing changes
-    /// here. Blocks on the disk, and others meanwhile.
-    std::optional<QStringList> replace(std::shared_ptr<KeyValueStore> store, const QStringList& keys);
-    /// Observes the current store instead of an earlier one. Main thread, after replace().
-    void observe();
+    /// Whose value of a key that both stores have remains when one takes the other's place.
+    enum class Keeps { Theirs, Ours };
+
+    /// Announces what changes in a store that is to take the place of the current one. Main thread.
+    void observeNext(KeyValueStore& store) const { store.setObserver(m_observer); }
+    /// Puts the store in the place of the current one. It gets the values of those of the keys that it lacks,
+    /// or all of ours; returned are those whose values differ from what was here. Nothing when a value could
+    /// not be stored: then nothing changes here. Blocks on the disk, and others meanwhile. Not on the main
+    /// thread.
+    std::optional<QStringList> replace(std::shared_ptr<KeyValueStore> store, const QStringList& keys,
+                                       Keeps keeps);
+    /// Ends the stores that were replaced. Main thread.
+    void endReplaced();
     /// Tells the observer that the values of the keys have changed. Main thread.
     void announce(const QStringList& keys) const;
 
   private:
     mutable std::shared_mutex m_guard;
     std::shared_ptr<KeyValueStore> m_store;
-    /// Earlier ones, until the end: they belong to the main thread, and others may still use them.
-    std::vector<std::shared_ptr<KeyValueStore>> m_retired;
+    std::vector<std::shared_ptr<KeyValueStore>> m_replaced;
     KeyValueStoreObserver* m_observer = nullptr;
 };
 

@@ -15,8 +15,7 @@ class SwitchedRecordStore final : public RecordStore {
     /// Null for none: then there are no counters, and increments are dropped.
     void replace(std::shared_ptr<RecordStore> store) {
         const std::lock_guard lock(m_guard);
-        // Until the end: others may still use it.
-        m_retired.push_back(std::exchange(m_store, std::move(store)));
+        m_store.swap(store);
     }
 
     std::optional<CounterRecord> counter(const QString& title) override {
@@ -49,7 +48,6 @@ class SwitchedRecordStore final : public RecordStore {
 
     mutable std::mutex m_guard;
     std::shared_ptr<RecordStore> m_store;
-    std::vector<std::shared_ptr<RecordStore>> m_retired;
 };
 
 } // namespace guide

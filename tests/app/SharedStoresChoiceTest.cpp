@@ -64,7 +64,8 @@ TEST_F(SharedStoresChoiceTest, AFolderGetsWhatItLacksAndReplacesTheRest) {
     EXPECT_EQ(choice->place().kind, SharedPlace::Kind::ThisDevice);
     EXPECT_FALSE(choice->records().isShared());
     int changes = 0;
-    choice->setObserver([&changes] { ++changes; });
+    const auto owner = std::make_shared<int>();
+    choice->setObserver(owner, [&changes] { ++changes; });
 
     EXPECT_EQ(choose(place), QString());
     EXPECT_EQ(value(u"Favorites"_s), u"theirs"_s);
@@ -73,13 +74,16 @@ TEST_F(SharedStoresChoiceTest, AFolderGetsWhatItLacksAndReplacesTheRest) {
     EXPECT_EQ(choice->place().kind, SharedPlace::Kind::Folder);
     EXPECT_EQ(choice->place().state.device, u"phone"_s);
     EXPECT_GT(changes, 0);
+    EXPECT_FALSE(FolderKeyValueStore(folders.keyValueStore, u"x-1"_s, queues).valueForKey(u"OwnSources"_s))
+        << "nothing is left behind";
 
     start();
     EXPECT_EQ(choice->place().address, place) << "kept";
     EXPECT_EQ(value(u"Favorites"_s), u"theirs"_s);
     choice->keyValueStore().setValue(u"Favorites"_s, u"newer"_s);
     EXPECT_EQ(choose({}), QString());
-    EXPECT_EQ(value(u"Favorites"_s), u"ours"_s) << "what the profile had";
+    EXPECT_EQ(value(u"Favorites"_s), u"newer"_s) << "nothing changes for whoever leaves";
+    EXPECT_EQ(value(u"noAlarmsSchedule"_s), u"same"_s);
     EXPECT_EQ(FolderKeyValueStore(place, u"phone-1"_s, queues).valueForKey(u"Favorites"_s), u"newer"_s)
         << "other devices keep it";
 }

@@ -52,7 +52,9 @@ struct WorldSharedPlace final : SharedPlaceActions {
         mainBlock.post(mainQueue, isBad ? u"The database cannot be reached."_s : QString());
     }
     void retryNow() override {}
-    void setObserver(std::function<void()> changed) override { observer = std::move(changed); }
+    void setObserver(std::weak_ptr<const void> /*owner*/, std::function<void()> changed) override {
+        observer = std::move(changed);
+    }
     DispatchQueue& mainQueue;
     SharedPlace now;
     std::function<void()> observer;

@@ -68,7 +68,9 @@ void EraseViewController::count() {
 
 void EraseViewController::reloadTable() {
     const QStringList parts = partTexts(*m_counts);
-    Section what{.id = kWhat, .header = Localized::tr("On all your devices")};
+    Section what{.id = kWhat,
+                 .header = Localized::tr("On this device"),
+                 .footer = Localized::tr("Favourites are removed on all your devices.")};
     for (qsizetype i = 0; i < parts.size(); ++i) {
         what.rows.push_back({.id = {kWhat, QString::number(i)}, .content = TextRow{.title = parts[i]}});
     }

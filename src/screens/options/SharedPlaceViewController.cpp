@@ -65,19 +65,14 @@ QString sharedStateText(const SharedStoreState& state, const Device& device) {
         return {};
     }
     const QString seen = device.locale().toString(localTime(device, *state.lastSeen), QLocale::ShortFormat);
-    return state.device.isEmpty() ? Localized::tr("Another device was last seen: %1").arg(seen)
-                                  : Localized::tr("Last change by %1: %2").arg(state.device, seen);
-}
-
-SharedPlaceViewController::~SharedPlaceViewController() {
-    if (viewLoaded()) {
-        m_environment->sharedPlace->setObserver(nullptr);
-    }
+    const QString text = Localized::tr("Another device was last seen: %1").arg(seen);
+    return state.device.isEmpty() ? text
+                                  : Localized::tr("Last change by %1").arg(state.device) + u'\n' + text;
 }
 
 void SharedPlaceViewController::viewDidLoad() {
     setTitle(Localized::tr("Your devices"));
-    m_environment->sharedPlace->setObserver([this] { reloadTable(); });
+    m_environment->sharedPlace->setObserver(weak_from_this(), [this] { reloadTable(); });
 }
 
 void SharedPlaceViewController::viewWillAppear() {

@@ -16,7 +16,6 @@ class SharedPlaceViewController final : public TableViewController {
   public:
     explicit SharedPlaceViewController(std::shared_ptr<const ScreenEnvironment> environment)
         : m_environment(std::move(environment)) {}
-    ~SharedPlaceViewController() override;
 
   protected:
     void viewDidLoad() override;

@@ -22,6 +22,9 @@ SharedStores sharedStoresFor(const QString& address, const SharedStoresOptions& 
         QString::fromLatin1(
             QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toHex().left(kDigits));
     const auto values = std::make_shared<SharedValues>(name + ".values"_L1, text);
+    if (options.joins) {
+        values->clear();
+    }
     const auto session =
         std::make_shared<PostgresSession>(PostgresSessionOptions{.address = *read,
                                                                  .device = values->device(),

@@ -29,6 +29,8 @@ struct SharedStoresOptions {
     QString folder;
     /// What other devices call this one.
     QString deviceName;
+    /// Keeps nothing of an earlier use: the database is joined.
+    bool joins = false;
     std::chrono::milliseconds firstRetry{500};
     std::chrono::milliseconds longestRetry{60'000};
 };

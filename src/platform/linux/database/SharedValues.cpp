@@ -205,6 +205,12 @@ void SharedValues::sendAll() {
     }
 }
 
+void SharedValues::clear() {
+    const std::lock_guard lock(m_guard);
+    m_needsSaving = m_needsSaving || !m_entries.isEmpty();
+    m_entries.clear();
+}
+
 QStringList SharedValues::compare(const std::vector<StoredKey>& stored, QStringList& toRead) {
     const std::lock_guard lock(m_guard);
     QSet<QString> present;

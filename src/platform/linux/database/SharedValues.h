@@ -56,6 +56,8 @@ class SharedValues {
     /// False when there is none.
     bool remove(const QString& key);
 
+    /// Gives up all values, and with them the changes that have not been sent.
+    void clear();
     /// In no particular order, without those that are held back.
     std::vector<Change> changesToSend() const;
     /// The database has the change; `stored` is the write that made the value which it has now.
