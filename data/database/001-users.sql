@@ -188,7 +188,7 @@ create function guide.set_user(p_name name, p_verifier text) returns void
 language plpgsql set search_path = pg_catalog, pg_temp as $$
 begin
     if p_name !~ '^[a-z][a-z0-9_]{0,40}$' or p_name ~ '^(pg_|guide_)' then
-        raise exception 'the name of a user consists of small letters, digits and "_"'
+        raise exception 'the name of a user begins with a small letter, has at most 41 small letters, digits and "_", and does not begin with pg_ or guide_'
             using errcode = 'invalid_parameter_value';
     end if;
     if not exists (select from pg_roles where rolname = p_name) then

@@ -191,10 +191,10 @@ void SharedStoresChoice::look() {
         return;
     }
     const SharedStoreState state = m_choice->stores.shared->sharedState();
-    if (state.connection == SharedStoreConnection::Refused) {
-        end(state.reason);
-    } else if (state.isRead) {
+    if (state.isRead) {
         move();
+    } else if (!state.reason.isEmpty()) {
+        end(state.reason);
     }
 }
 

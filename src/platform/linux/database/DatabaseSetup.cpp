@@ -99,6 +99,14 @@ std::optional<QStringList> DatabaseSetup::upgrade(const QString& folder, QString
         }
         applied.append(file);
     }
+    // The rights on the database itself are lost where only its contents were restored.
+    const DatabaseReply rights = m_connection->execute(
+        "do $$ begin "
+        "execute format('revoke all on database %I from public', current_database()); "
+        "execute format('grant connect on database %I to guide_member', current_database()); end $$");
+    if (rights.error()) {
+        return fail(u"the rights on the database"_s, rights);
+    }
     return applied;
 }
 

@@ -108,6 +108,8 @@ TableRow {
     Connections {
         enabled: marks.width > 0
         target: title
+        // The title may have been laid out before.
+        onEnabledChanged: if (enabled) title.forceLayout()
 
         function onLineLaidOut(line) {
             marks.lineEnd = line.implicitWidth
