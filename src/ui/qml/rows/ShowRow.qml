@@ -108,8 +108,6 @@ TableRow {
     Connections {
         enabled: marks.width > 0
         target: title
-        // The title may have been laid out before.
-        onEnabledChanged: if (enabled) title.forceLayout()
 
         function onLineLaidOut(line) {
             marks.lineEnd = line.implicitWidth
@@ -123,6 +121,9 @@ TableRow {
         // Of the title's last line.
         property double lineEnd: 0
         property double lineMiddle: 0
+
+        // The title may have been laid out before they appear.
+        onWidthChanged: if (width > 0) Qt.callLater(title.forceLayout)
 
         x: title.x + Math.min(lineEnd, title.width) + 6
         y: title.y + lineMiddle - height / 2
