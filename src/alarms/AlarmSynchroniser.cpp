@@ -198,8 +198,8 @@ void AlarmSynchroniser::State::cleanUp(AlarmRun run) {
     if (range.fault) {
         run.result.complete = false;
     } else if (range.events.empty()) {
-        calendar->setEvents(environment.safety.forgetsAll ? std::optional(CalendarEvents()) : std::nullopt, {},
-                            run.end);
+        calendar->setEvents(environment.safety.forgetsAll ? std::optional(CalendarEvents()) : std::nullopt,
+                            {}, run.end);
     } else {
         const CleanUpPlan plan = planCleanUp(range.events, environment.scheme);
         calendar->setEvents(eventsToCome(plan.kept, now, environment.scheme), range.events, run.end);

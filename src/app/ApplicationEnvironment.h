@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/Promotion.h"
+#include "cloud/SharedPlaceActions.h"
 #include "core/ObjectId.h"
 #include "parsers/URLPlanner.h"
-#include "cloud/SharedPlaceActions.h"
 #include "platform/AlarmRinging.h"
 #include "platform/AudioSession.h"
 #include "platform/BackgroundTasks.h"

@@ -263,27 +263,27 @@ void DeviceWorld::makeGuide() {
         m_clock, m_device, m_folders, m_queues, m_surroundings->tasks, m_surroundings->state, *m_channels,
         m_alphabet, *m_rules, *m_popularShows, m_surroundings->observer, m_scheme, [] { return 4; }});
     m_counters = std::make_unique<RecordCounters>(m_records, m_queues);
-    m_alarmCalendar =
-        AlarmCalendar::make({.clock = m_clock,
-                             .device = m_device,
-                             .folders = m_folders,
-                             .queues = m_queues,
-                             .backgroundTasks = m_surroundings->tasks,
-                             .applicationState = m_surroundings->state,
-                             .userDefaults = m_userDefaults,
-                             .keyValueStore = m_keyValueStore,
-                             .eventStore = m_eventStore,
-                             .catalogue = m_catalogue,
-                             .channels = *m_channels,
-                             .shows = *m_rules,
-                             .listings = *m_listings,
-                             .counters = *m_counters,
-                             .scheme = m_scheme,
-                             .automaticUpdateInterval = [] { return std::chrono::seconds(kNeverDue); },
-                             .notificationsSynched = [this] { ++m_told.notificationsSynched; },
-                             .updateBadge = [] {},
-                             .runEnded = {},
-                             .safety = {.brake = false, .repeatsUnfinished = false, .settles = false, .forgetsAll = false}});
+    m_alarmCalendar = AlarmCalendar::make(
+        {.clock = m_clock,
+         .device = m_device,
+         .folders = m_folders,
+         .queues = m_queues,
+         .backgroundTasks = m_surroundings->tasks,
+         .applicationState = m_surroundings->state,
+         .userDefaults = m_userDefaults,
+         .keyValueStore = m_keyValueStore,
+         .eventStore = m_eventStore,
+         .catalogue = m_catalogue,
+         .channels = *m_channels,
+         .shows = *m_rules,
+         .listings = *m_listings,
+         .counters = *m_counters,
+         .scheme = m_scheme,
+         .automaticUpdateInterval = [] { return std::chrono::seconds(kNeverDue); },
+         .notificationsSynched = [this] { ++m_told.notificationsSynched; },
+         .updateBadge = [] {},
+         .runEnded = {},
+         .safety = {.brake = false, .repeatsUnfinished = false, .settles = false, .forgetsAll = false}});
     m_alarms = std::make_unique<AlarmSynchroniser>(m_alarmCalendar);
     m_alarmOperations = std::make_unique<AlarmOperations>(m_alarmCalendar, *m_alarms);
     m_favoriteOperations = std::make_unique<FavoriteOperations>(

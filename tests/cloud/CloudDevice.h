@@ -1,12 +1,7 @@
 #pragma once
 
-#include "cloud/CloudSync.h"
-#include "fakes/FakeApplicationState.h"
-#include "fakes/FakeBackgroundTasks.h"
-#include "fakes/FakeDevice.h"
-#include "fakes/FakeShowSources.h"
+#include "SyncedGuide.h"
 #include "fakes/ManualQueues.h"
-#include "platform/memory/MemoryUserDefaults.h"
 
 #include <QMap>
 #include <QTemporaryDir>
@@ -14,8 +9,6 @@
 #include <vector>
 
 namespace guide::test {
-
-using namespace Qt::StringLiterals;
 
 class SharedStore;
 
@@ -72,85 +65,17 @@ class SharedStore final : public KeyValueStore {
     KeyValueStoreObserver* m_observer = nullptr;
 };
 
+struct CloudDevicePlace {
+    SharedStore store;
+    const QTemporaryDir folder = {};
+};
+
 /// One of the user's devices. Its changes reach the others when the queues run.
-class CloudDevice : KeyValueStoreObserver {
+class CloudDevice : public CloudDevicePlace, public SyncedGuide {
   public:
     CloudDevice(ManualClock& clock, ManualQueues& queues, SharedValues& values)
-        : store(values)
-        , m_folders{m_folder.path(), m_folder.path(), m_folder.path(), {}, {}, {}, true}
-        , channels(m_folders, store, queues, catalogue)
-        , shows(m_folders, store, queues)
-        , listings({clock, m_device, m_folders, queues, m_tasks, m_state, channels, m_alphabet, shows,
-                    m_popular, m_observer, u"guide"_s, [] { return 4; }})
-        , replaced(m_folders, clock)
-        , sync({.mainQueue = queues.mainQueue(),
-                .keyValueStore = store,
-                .userDefaults = userDefaults,
-                .channels = channels,
-                .shows = shows,
-                .listings = listings,
-                .alarms = alarms,
-                .alarmSynchronisation = alarms,
-                .replacedLists = replaced,
-                .checkAndUpdateAllChannels = [this] { ++checks; },
-                .selectionReplaced = [this] { ++refreshes; },
-                .favoritesUpdated = [this] { ++updates; },
-                .favoritesEmptied = [this](const auto&) { ++emptied; }}) {
-        store.setObserver(this);
-    }
-
-    /// The titles of the rules.
-    QString titles() const {
-        QStringList all;
-        for (const Favorite& rule : shows.snapshot()->rules()) {
-            all << rule.identificator;
-        }
-        return all.join(u' ');
-    }
-    static std::vector<Favorite> rules(const QString& titles) {
-        std::vector<Favorite> all;
-        for (const QString& title : titles.split(u' ', Qt::SkipEmptyParts)) {
-            all.push_back({title, 10, Moment(), {}});
-        }
-        return all;
-    }
-    static std::vector<ObjectId> channelsNumbered(const std::vector<int>& numbers) {
-        std::vector<ObjectId> ids;
-        for (const int number : numbers) {
-            ids.push_back(ObjectId::fromHex(u"%1"_s.arg(number, 24, 16, QChar(u'0'))));
-        }
-        return ids;
-    }
-
-    SharedStore store;
-
-  private:
-    void valuesChangedExternally(const QStringList&) override {
-        sync.cloudDidChangeExternally(CloudSync::Reason::Server);
-    }
-
-    const QTemporaryDir m_folder;
-    const Folders m_folders;
-    FakeDevice m_device;
-    FakeBackgroundTasks m_tasks;
-    FakeApplicationState m_state;
-    FakePopularShows m_popular;
-    CountingListingsObserver m_observer;
-    const Alphabet m_alphabet;
-
-  public:
-    Catalogue catalogue;
-    MemoryUserDefaults userDefaults;
-    FakeAlarms alarms;
-    TVChannels channels;
-    TVShows shows;
-    TVListings listings;
-    ReplacedLists replaced;
-    CloudSync sync;
-    int checks = 0;
-    int refreshes = 0;
-    int updates = 0;
-    int emptied = 0;
+        : CloudDevicePlace{SharedStore(values)}
+        , SyncedGuide(clock, queues, store, folder.path()) {}
 };
 
 } // namespace guide::test

@@ -1,0 +1,262 @@
+#include "GuideProcess.h"
+
+#include "SyncedGuide.h"
+#include "alarms/FavoritesFile.h"
+#include "alarms/SilentHours.h"
+#include "core/SelectionFile.h"
+#include "platform/linux/EventLoopQueues.h"
+#include "platform/linux/FolderKeyValueStore.h"
+#include "platform/linux/LinuxClock.h"
+#include "platform/linux/database/SharedStores.h"
+#include "platform/memory/MemorySecretStore.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSocketNotifier>
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <sys/prctl.h>
+#include <unistd.h>
+
+namespace guide::test {
+
+namespace {
+
+const QString kReady = u"ready"_s;
+const QString kChanged = u"changed"_s;
+const QString kValues = u"values"_s;
+const QString kKept = u"kept"_s;
+constexpr int kPatience = 60'000;
+
+QString textOf(const std::vector<Favorite>& rules) {
+    QStringList titles;
+    for (const Favorite& rule : rules) {
+        titles << rule.identificator;
+    }
+    return titles.join(u' ');
+}
+
+QString textOf(const std::vector<ObjectId>& selected) {
+    QStringList numbers;
+    for (const ObjectId& channel : selected) {
+        numbers << QString::number(channel.hex().toInt(nullptr, 16));
+    }
+    return numbers.join(u' ');
+}
+
+class SkewedClock final : public Clock {
+  public:
+    explicit SkewedClock(int hoursAhead)
+        : m_ahead(hoursAhead) {}
+    Moment now() const override { return m_clock.now() + m_ahead; }
+
+  private:
+    const LinuxClock m_clock;
+    const std::chrono::hours m_ahead;
+};
+
+/// Answers commands from the standard input, a line each.
+class Device {
+  public:
+    Device(const QString& profile, const QString& place, const QString& name, int hoursAhead)
+        : m_clock(hoursAhead) {
+        if (QDir::isAbsolutePath(place)) {
+            auto store = std::make_unique<FolderKeyValueStore>(place, name + u"-1"_s, m_queues);
+            m_state = store.get();
+            m_store = std::move(store);
+        } else {
+            QString why;
+            SharedStores stores = sharedStoresFor(place,
+                                                  {.folder = profile,
+                                                   .deviceName = name,
+                                                   .firstRetry = std::chrono::milliseconds(20),
+                                                   .longestRetry = std::chrono::milliseconds(200)},
+                                                  m_clock, m_secrets, m_queues, why);
+            m_state = stores.state;
+            m_store = std::move(stores.keyValueStore);
+        }
+        m_guide = std::make_unique<SyncedGuide>(m_clock, m_queues, *m_store, profile);
+        m_guide->sync.cloudDidChangeExternally({});
+    }
+    ~Device() {
+        m_guide->shows.finishWriting();
+        m_guide->channels.finishWriting();
+        m_queues.shutDown();
+    }
+    Device(const Device&) = delete;
+    Device& operator=(const Device&) = delete;
+
+    void answer(const QString& line) {
+        const QStringList words = line.split(u' ');
+        const QString& key = words.first();
+        const QString before = values().value(key);
+        if (key == u"activate"_s) {
+            m_guide->sync.cloudDidChangeExternally({});
+        } else if (words.size() > 1) {
+            change(key, words.mid(1));
+        }
+        QJsonObject reply = state();
+        reply.insert(kChanged, reply.value(kValues)[key].toString() != before);
+        const QByteArray text = QJsonDocument(reply).toJson(QJsonDocument::Compact) + '\n';
+        std::cout.write(text.constData(), text.size()).flush();
+    }
+
+  private:
+    void change(const QString& key, const QStringList& words) {
+        if (key == kSharedLists[0]) {
+            std::vector<Favorite> rules = m_guide->shows.favorites().value_or(std::vector<Favorite>());
+            std::erase_if(rules, [&](const Favorite& rule) { return rule.identificator == words[1]; });
+            if (words[0] == u"add"_s) {
+                rules.push_back({words[1], 10, m_clock.now(), {}});
+            }
+            m_guide->shows.setFavorites(std::move(rules));
+        } else if (key == kSharedLists[1]) {
+            std::vector<int> numbers;
+            for (const QString& word : words) {
+                numbers.push_back(word.toInt());
+            }
+            m_guide->channels.setSelected(SyncedGuide::channelsNumbered(numbers));
+        } else {
+            set(key, words[0].toInt());
+        }
+    }
+
+    void set(const QString& key, int number) {
+        if (key == kSharedSettings[0]) {
+            setSilentHoursEnabled(*m_store, number % 2 == 0);
+        } else if (key == kSharedSettings[1]) {
+            setSilentHoursFrom(*m_store, Moment(std::chrono::minutes(number)));
+        } else if (key == kSharedSettings[2]) {
+            setSilentHoursTo(*m_store, Moment(std::chrono::minutes(number)));
+        } else {
+            m_store->setValue(key, number);
+        }
+    }
+
+    SharedTexts values() {
+        SharedTexts texts{
+            {kSharedLists[0], textOf(m_guide->shows.favorites().value_or(std::vector<Favorite>()))},
+            {kSharedLists[1], textOf(m_guide->channels.selected())}};
+        for (const QString& key : kSharedSettings) {
+            const auto value = m_store->valueForKey(key);
+            texts.insert(key, value ? sharedText(key, *value) : QString());
+        }
+        return texts;
+    }
+
+    QJsonObject state() {
+        QJsonObject shared;
+        const SharedTexts texts = values();
+        for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
+            shared.insert(text.key(), *text);
+        }
+        QJsonArray rules;
+        QJsonArray selections;
+        for (const ReplacedList& list : m_guide->replaced.all()) {
+            if (list.kind == ReplacedList::Kind::Favorites) {
+                rules.append(textOf(m_guide->replaced.favorites(list.name).value()));
+            } else {
+                selections.append(textOf(m_guide->replaced.selection(list.name).value()));
+            }
+        }
+        const SharedStoreState store = m_state->sharedState();
+        const bool isReady = store.connection == SharedStoreConnection::Connected && store.isRead &&
+                             !m_guide->shows.hasUnshared() && !m_guide->channels.hasUnshared();
+        return {{kReady, isReady},
+                {kValues, shared},
+                {kKept, QJsonObject{{kSharedLists[0], rules}, {kSharedLists[1], selections}}}};
+    }
+
+    EventLoopQueues m_queues;
+    const SkewedClock m_clock;
+    MemorySecretStore m_secrets;
+    std::unique_ptr<KeyValueStore> m_store;
+    SharedStore* m_state = nullptr;
+    std::unique_ptr<SyncedGuide> m_guide;
+};
+
+} // namespace
+
+QString sharedText(const QString& key, const QCborValue& value) {
+    if (key == kSharedLists[0]) {
+        return textOf(favoritesOfMirror(value).value_or(std::vector<Favorite>()));
+    }
+    if (key == kSharedLists[1]) {
+        return textOf(selectionOfValue(value).value_or(std::vector<ObjectId>()));
+    }
+    return value.isDateTime() ? value.toDateTime().toUTC().toString(Qt::ISODateWithMs)
+                              : value.toVariant().toString();
+}
+
+GuideProcess::GuideProcess(const QString& profile, const QString& place, const QString& name, int hoursAhead)
+    : m_arguments{u"--device"_s, profile, place, name, QString::number(hoursAhead)} {
+    EXPECT_TRUE(QDir().mkpath(profile));
+    m_process.setStandardErrorFile(profile + u"/log"_s, QIODevice::Append);
+    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+}
+
+void GuideProcess::start() {
+    m_process.start(QCoreApplication::applicationFilePath(), m_arguments);
+    EXPECT_TRUE(m_process.waitForStarted(kPatience));
+}
+
+void GuideProcess::end() {
+    m_process.closeWriteChannel();
+    EXPECT_TRUE(m_process.waitForFinished(kPatience));
+    EXPECT_EQ(m_process.exitCode(), 0);
+}
+
+void GuideProcess::kill() {
+    m_process.kill();
+    EXPECT_TRUE(m_process.waitForFinished(kPatience));
+}
+
+GuideState GuideProcess::ask(const QString& command) {
+    m_process.write(command.toUtf8() + '\n');
+    while (!m_process.canReadLine()) {
+        if (!m_process.waitForReadyRead(kPatience)) {
+            ADD_FAILURE() << "no answer to " << command.toStdString();
+            return {};
+        }
+    }
+    const QJsonObject reply = QJsonDocument::fromJson(m_process.readLine()).object();
+    GuideState state{.values = {},
+                     .kept = {},
+                     .isReady = reply.value(kReady).toBool(),
+                     .isChanged = reply.value(kChanged).toBool()};
+    const QJsonObject values = reply.value(kValues).toObject();
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        state.values.insert(value.key(), value->toString());
+    }
+    for (const QString& key : kSharedLists) {
+        state.kept.insert(key, reply.value(kKept)[key].toVariant().toStringList());
+    }
+    return state;
+}
+
+int runGuideProcess(const QStringList& arguments) {
+    Device device(arguments[0], arguments[1], arguments[2], arguments[3].toInt());
+    QByteArray received;
+    QSocketNotifier notifier(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&notifier, &QSocketNotifier::activated, &notifier, [&] {
+        char buffer[4096];
+        const ssize_t size = ::read(STDIN_FILENO, buffer, sizeof buffer);
+        if (size <= 0) {
+            QCoreApplication::quit();
+            return;
+        }
+        received.append(buffer, size);
+        for (qsizetype end = received.indexOf('\n'); end >= 0; end = received.indexOf('\n')) {
+            device.answer(QString::fromUtf8(received.left(end)));
+            received.remove(0, end + 1);
+        }
+    });
+    return QCoreApplication::exec();
+}
+
+} // namespace guide::test
