@@ -34,6 +34,8 @@ class GuideProcess {
     /// `place` is a folder or the address of a database. The device's clock is ahead by that.
     GuideProcess(const QString& profile, const QString& place, const QString& name, int hoursAhead);
 
+    ~GuideProcess() { kill(); }
+
     void start();
     /// Shuts it down as usual.
     void end();
