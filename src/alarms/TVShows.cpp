@@ -32,9 +32,11 @@ void TVShows::read() {
     const MirroredFile::Found found =
         m_file.read([&take](const QByteArray& content) { return take(favoritesOfFile(content)); },
                     [&take](const QCborValue& copy) { return take(favoritesOfMirror(copy)); });
-    if (found == MirroredFile::Found::Copy ||
-        (found == MirroredFile::Found::File && (!m_file.hasCopy() || m_file.wasRefused()))) {
+    if (found == MirroredFile::Found::Copy || (found == MirroredFile::Found::File && m_file.wasRefused())) {
         m_file.write(content());
+    } else if (found == MirroredFile::Found::File && !m_file.hasCopy()) {
+        // The copy may only be out of reach, and newer.
+        m_file.writeMissing(content());
     }
 }
 

@@ -44,7 +44,7 @@ struct MirroredFile::State {
 
     struct Unwritten {
         std::function<Content()> makeContent;
-        /// The copy of another device that it comes from.
+        /// The copy of another device that it comes from; undefined when there is none.
         std::optional<QCborValue> taken;
     };
 
@@ -64,7 +64,7 @@ struct MirroredFile::State {
     // On the writer queue. False when the key-value store refused the copy.
     bool share(const QCborValue& copy, const std::optional<QCborValue>& taken) {
         if (taken) {
-            if (copy != *taken && keyValueStore.valueForKey(place.key) == taken) {
+            if (copy != *taken && keyValueStore.valueForKey(place.key).value_or(QCborValue()) == *taken) {
                 keyValueStore.setValue(place.key, copy);
             }
             return true;
@@ -157,6 +157,10 @@ void MirroredFile::write(std::function<Content()> makeContent) {
 void MirroredFile::writeTaken(std::function<Content()> makeContent, QCborValue taken) {
     m_state->replaceUnwritten({std::move(makeContent), std::move(taken)});
     retryWriting();
+}
+
+void MirroredFile::writeMissing(std::function<Content()> makeContent) {
+    writeTaken(std::move(makeContent), QCborValue());
 }
 
 void MirroredFile::beforeWriting(Block block) {

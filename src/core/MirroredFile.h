@@ -53,6 +53,8 @@ class MirroredFile {
     /// The same for a content that was made from the copy of another device, `taken`. The key is written only
     /// while it has that value and the content's copy differs: a newer one will be taken over next.
     void writeTaken(std::function<Content()> makeContent, QCborValue taken);
+    /// The same for a content that was read from the file: the key is written only while it has no value.
+    void writeMissing(std::function<Content()> makeContent);
     /// Runs the block, if it is not empty, on the writer's queue, before every write that is asked for later.
     void beforeWriting(Block block);
     /// Whether a content of this device is not in the file and in the key-value store yet.

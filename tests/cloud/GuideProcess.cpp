@@ -17,6 +17,7 @@
 #include <QJsonDocument>
 #include <QSocketNotifier>
 
+#include <algorithm>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <iostream>
@@ -110,8 +111,10 @@ class Device {
     void change(const QString& key, const QStringList& words) {
         if (key == kSharedLists[0]) {
             std::vector<Favorite> rules = m_guide->shows.favorites().value_or(std::vector<Favorite>());
-            std::erase_if(rules, [&](const Favorite& rule) { return rule.identificator == words[1]; });
-            if (words[0] == u"add"_s) {
+            const auto found = std::ranges::find(rules, words[1], &Favorite::identificator);
+            if (words[0] == u"remove"_s && found != rules.end()) {
+                rules.erase(found);
+            } else if (words[0] == u"add"_s && found == rules.end()) {
                 rules.push_back({words[1], 10, m_clock.now(), {}});
             }
             m_guide->shows.setFavorites(std::move(rules));
@@ -196,7 +199,8 @@ QString sharedText(const QString& key, const QCborValue& value) {
 GuideProcess::GuideProcess(const QString& profile, const QString& place, const QString& name, int hoursAhead)
     : m_arguments{u"--device"_s, profile, place, name, QString::number(hoursAhead)} {
     EXPECT_TRUE(QDir().mkpath(profile));
-    m_process.setStandardErrorFile(profile + u"/log"_s, QIODevice::Append);
+    m_process.setStandardErrorFile(qEnvironmentVariable("QUELLIN_GUIDES_LOG", profile + u"/log"_s),
+                                   QIODevice::Append);
     m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
 }
 
@@ -220,7 +224,8 @@ GuideState GuideProcess::ask(const QString& command) {
     m_process.write(command.toUtf8() + '\n');
     while (!m_process.canReadLine()) {
         if (!m_process.waitForReadyRead(kPatience)) {
-            ADD_FAILURE() << "no answer to " << command.toStdString();
+            ADD_FAILURE() << "no answer to " << command.toStdString() << ": "
+                          << m_process.errorString().toStdString();
             return {};
         }
     }

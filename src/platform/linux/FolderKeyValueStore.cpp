@@ -83,9 +83,17 @@ class FolderKeyValueStore::Files {
         }
         const KeyValueStamp stamp{.counter = std::min(m_counter + 1, kLargestCounter), .device = m_device};
         const std::optional<QByteArray> json = keyValueJson({key, value, stamp});
-        if (!json || !replaceFile(path(name), *json)) {
+        if (!json) {
             return false;
         }
+        if (!replaceFile(path(name), *json)) {
+            // Anything else that fails would fail again at once.
+            if (isMissing()) {
+                m_refused.insert(key);
+            }
+            return false;
+        }
+        m_refused.remove(key);
         m_counter = stamp.counter;
         m_files.insert(name, {fileStamp(path(name)).value_or(FileStamp{}), true, key, value, stamp});
         m_announced.insert(key, value);
@@ -100,10 +108,11 @@ class FolderKeyValueStore::Files {
         m_announced.remove(key);
     }
 
-    /// The keys whose values changed since the last call, changes by set() and remove() not included.
+    /// The keys whose values changed since the last call, changes by set() and remove() not included, and
+    /// those that could not be set.
     QStringList changedKeys() {
         const std::lock_guard lock(m_mutex);
-        if (!QDir(m_folder).exists()) {
+        if (isMissing()) {
             return {};
         }
         list();
@@ -113,20 +122,20 @@ class FolderKeyValueStore::Files {
                 values.insert(file.key, *file.value);
             }
         }
-        QStringList changed;
+        QSet<QString> changed = std::exchange(m_refused, {});
         for (auto value = values.cbegin(); value != values.cend(); ++value) {
             const auto before = m_announced.constFind(value.key());
             if (before == m_announced.constEnd() || *before != *value) {
-                changed.append(value.key());
+                changed.insert(value.key());
             }
         }
         for (auto before = m_announced.cbegin(); before != m_announced.cend(); ++before) {
             if (!values.contains(before.key())) {
-                changed.append(before.key());
+                changed.insert(before.key());
             }
         }
         m_announced = std::move(values);
-        return changed;
+        return changed.values();
     }
 
     SharedStoreState state() {
@@ -161,9 +170,13 @@ class FolderKeyValueStore::Files {
     };
 
     QString path(const QString& name) const { return m_folder + u'/' + name; }
+    bool isMissing() const { return !QFileInfo(m_folder).isDir(); }
 
     /// Reads the files that have changed, and resolves conflict copies.
     void list() {
+        if (isMissing()) {
+            return;
+        }
         m_listed = true;
         const QStringList names = QDir(m_folder).entryList({u"*"_s + kSuffix}, QDir::Files);
         m_files.removeIf([present = QSet<QString>(names.begin(), names.end())](const auto& file) {
@@ -198,6 +211,9 @@ class FolderKeyValueStore::Files {
     File read(const QString& name) {
         const std::optional<FileStamp> state = fileStamp(path(name));
         if (!state) {
+            if (isMissing()) {
+                return m_files.value(name);
+            }
             m_files.remove(name);
             return {};
         }
@@ -232,6 +248,8 @@ class FolderKeyValueStore::Files {
     QHash<QString, File> m_files;
     /// By key: the values that need no announcement.
     QHash<QString, QCborValue> m_announced;
+    /// The keys that could not be set because the folder was missing.
+    QSet<QString> m_refused;
 };
 
 /// Exists while there is an observer. Main thread.

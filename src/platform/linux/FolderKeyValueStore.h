@@ -32,8 +32,9 @@ class FolderKeyValueStore final : public KeyValueStore, public SharedStore {
     std::optional<QCborValue> valueForKey(const QString& key) const override;
     bool setValue(const QString& key, const QCborValue& value) override;
     void removeKey(const QString& key) override;
-    /// Changes are announced together, shortly after the first one. While the folder is missing, nothing
-    /// is announced; when it reappears, the keys whose values differ are.
+    /// Changes are announced together, shortly after the first one. While the folder is missing, the values
+    /// last read remain, none can be set, and nothing is announced; when it reappears, the keys whose values
+    /// differ or could not be set are.
     void setObserver(KeyValueStoreObserver* observer) override;
 
     /// As far as the files have been read: the other device that stored a value last, and when, by its clock.

@@ -137,6 +137,9 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
         if (changed.isEmpty()) {
             return;
         }
+        // Before the profile takes over what was read: a guide that finds a list in its files but not here
+        // would share that list, however old.
+        m_values->save();
         m_queues.mainQueue().async([weak = m_observers, changed] {
             if (const auto observers = weak.lock(); observers && observers->values != nullptr) {
                 observers->values->valuesChangedExternally(changed);
