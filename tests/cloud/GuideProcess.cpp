@@ -161,10 +161,11 @@ class Device {
         QJsonArray rules;
         QJsonArray selections;
         for (const ReplacedList& list : m_guide->replaced.all()) {
-            if (list.kind == ReplacedList::Kind::Favorites) {
-                rules.append(textOf(m_guide->replaced.favorites(list.name).value()));
-            } else {
-                selections.append(textOf(m_guide->replaced.selection(list.name).value()));
+            // Older ones may be removed meanwhile.
+            if (const auto found = m_guide->replaced.favorites(list.name)) {
+                rules.append(textOf(*found));
+            } else if (const auto selected = m_guide->replaced.selection(list.name)) {
+                selections.append(textOf(*selected));
             }
         }
         const SharedStoreState store = m_state->sharedState();

@@ -66,7 +66,7 @@ class TwoGuides {
         QElapsedTimer timer;
         timer.start();
         while (!isSettled()) {
-            if (timer.elapsed() > kPatience) {
+            if (timer.elapsed() > kPatience || testing::Test::HasFailure()) {
                 const auto stored = m_place.values();
                 ADD_FAILURE() << "not settled:\n"
                               << text(m_states[0].values) << "other:\n"

@@ -95,7 +95,8 @@ class FolderKeyValueStore::Files {
         }
         m_refused.remove(key);
         m_counter = stamp.counter;
-        m_files.insert(name, {fileStamp(path(name)).value_or(FileStamp{}), true, key, value, stamp});
+        // Without the state of the file, which another program may have replaced since: it is read again.
+        m_files.insert(name, {FileStamp{}, true, key, value, stamp});
         m_announced.insert(key, value);
         return true;
     }
