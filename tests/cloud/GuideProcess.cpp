@@ -102,6 +102,9 @@ class Device {
             change(key, words.mid(1));
         }
         QJsonObject reply = state();
+        if (key == kKept) {
+            reply.insert(kKept, kept());
+        }
         reply.insert(kChanged, reply.value(kValues)[key].toString() != before);
         const QByteArray text = QJsonDocument(reply).toJson(QJsonDocument::Compact) + '\n';
         std::cout.write(text.constData(), text.size()).flush();
@@ -158,6 +161,13 @@ class Device {
         for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
             shared.insert(text.key(), *text);
         }
+        const SharedStoreState store = m_state->sharedState();
+        const bool isReady = store.connection == SharedStoreConnection::Connected && store.isRead &&
+                             !m_guide->shows.hasUnshared() && !m_guide->channels.hasUnshared();
+        return {{kReady, isReady}, {kValues, shared}};
+    }
+
+    QJsonObject kept() const {
         QJsonArray rules;
         QJsonArray selections;
         for (const ReplacedList& list : m_guide->replaced.all()) {
@@ -168,12 +178,7 @@ class Device {
                 selections.append(textOf(*selected));
             }
         }
-        const SharedStoreState store = m_state->sharedState();
-        const bool isReady = store.connection == SharedStoreConnection::Connected && store.isRead &&
-                             !m_guide->shows.hasUnshared() && !m_guide->channels.hasUnshared();
-        return {{kReady, isReady},
-                {kValues, shared},
-                {kKept, QJsonObject{{kSharedLists[0], rules}, {kSharedLists[1], selections}}}};
+        return {{kSharedLists[0], rules}, {kSharedLists[1], selections}};
     }
 
     EventLoopQueues m_queues;
@@ -200,8 +205,7 @@ QString sharedText(const QString& key, const QCborValue& value) {
 GuideProcess::GuideProcess(const QString& profile, const QString& place, const QString& name, int hoursAhead)
     : m_arguments{u"--device"_s, profile, place, name, QString::number(hoursAhead)} {
     EXPECT_TRUE(QDir().mkpath(profile));
-    m_process.setStandardErrorFile(qEnvironmentVariable("QUELLIN_GUIDES_LOG", profile + u"/log"_s),
-                                   QIODevice::Append);
+    m_process.setStandardErrorFile(profile + u"/log"_s, QIODevice::Append);
     m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
 }
 

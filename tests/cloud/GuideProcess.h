@@ -20,7 +20,7 @@ QString sharedText(const QString& key, const QCborValue& value);
 
 struct GuideState {
     SharedTexts values;
-    /// The list of each key that is in ReplacedLists, the newest first.
+    /// Of kept() only: the lists of each key that are in ReplacedLists, the newest first.
     QMap<QString, QStringList> kept;
     /// Nothing remains to be stored, and what others stored has been read.
     bool isReady = false;
@@ -50,6 +50,7 @@ class GuideProcess {
         return ask(key + QLatin1Char(' ') + change);
     }
     GuideState activate() { return ask(QStringLiteral("activate")); }
+    GuideState kept() { return ask(QStringLiteral("kept")); }
     GuideState state() { return ask(QStringLiteral("state")); }
 
   private:

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QThread>
 
 #include <algorithm>
@@ -116,6 +117,7 @@ class TwoGuides {
                 timer.start();
             }
             while (m_guides[1 - from].state().values.value(key) != expected && timer.elapsed() < kPatience) {
+                QThread::msleep(1);
             }
             longest = std::max(longest, timer.elapsed());
         }
@@ -207,6 +209,9 @@ class TwoGuides {
     }
 
     void expectRight() {
+        for (std::size_t i = 0; i < m_guides.size(); ++i) {
+            m_states[i] = m_guides[i].kept();
+        }
         for (const QString& key : kSharedLists + kSharedSettings) {
             const QString value = m_settled.value(key);
             QStringList possible = m_sets.value(key);
@@ -238,7 +243,7 @@ class TwoGuides {
         timer.start();
         while (!m_states[device].kept.value(key).contains(list) && timer.elapsed() < kKeeping) {
             QThread::msleep(5);
-            m_states[device] = m_guides[device].state();
+            m_states[device] = m_guides[device].kept();
         }
         const QStringList kept = m_states[device].kept.value(key);
         EXPECT_TRUE(kept.contains(list))
@@ -316,6 +321,10 @@ INSTANTIATE_TEST_SUITE_P(
 
 int main(int argc, char** argv) {
     guide::test::useTestEnvironment();
+    if (QFileInfo(QStringLiteral("/dev/shm")).isWritable()) {
+        // Waiting for a disk would take most of the time.
+        qputenv("TMPDIR", "/dev/shm");
+    }
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == QLatin1StringView("--device")) {
