@@ -73,10 +73,7 @@ struct MirroredFile::State {
             QFile::remove(mark());
             return true;
         }
-        if (!QFile::exists(mark())) {
-            qWarning().noquote() << "MirroredFile: the key-value store refused" << place.key;
-            replaceFile(mark(), {});
-        }
+        qWarning().noquote() << "MirroredFile: the key-value store refused" << place.key;
         return false;
     }
 
@@ -96,6 +93,11 @@ struct MirroredFile::State {
             keepDamagedFile(place.path);
         }
         const Content content = newest->makeContent();
+        if (!newest->taken) {
+            // Before the file: a process that ends in between must not take the older copy for a newer one.
+            QFile unshared(mark());
+            unshared.open(QIODevice::WriteOnly);
+        }
         if (!replaceFile(place.path, content.file)) {
             qWarning().noquote() << "MirroredFile: cannot write" << place.path;
             return false;

@@ -311,7 +311,8 @@ TEST(AlarmSynchroniser, TheUserDecidesAboutWhatIsHeldBack) {
     channel->setLoading(true);
     removed->alarms->removeHeldBack();
     removed->queues.runAll();
-    EXPECT_EQ(removed->alarms->snapshot()->eventCount(), 10U) << "a channel that is being loaded proves nothing";
+    EXPECT_EQ(removed->alarms->snapshot()->eventCount(), 10U)
+        << "a channel that is being loaded proves nothing";
     channel->setLoading(false);
     removed->sync();
     EXPECT_EQ(removed->runs.back().heldBack, 0U) << "the user has decided";
