@@ -61,11 +61,20 @@ bool CloudSync::takeCalendar() {
 }
 
 bool CloudSync::takeFavorites() {
-    const auto stored = m_environment.keyValueStore.valueForKey(kFavoritesKey);
-    if (!stored || !stored->isArray() || m_environment.shows.hasUnshared()) {
+    auto stored = m_environment.keyValueStore.valueForKey(kFavoritesKey);
+    if (!stored || !stored->isArray()) {
         return false;
     }
+    // The first reading may find a list that was not shared. A list that has been shared meanwhile is the one
+    // that is stored now.
     const std::optional<std::vector<Favorite>> before = m_environment.shows.favorites();
+    if (m_environment.shows.hasUnshared()) {
+        return false;
+    }
+    stored = m_environment.keyValueStore.valueForKey(kFavoritesKey);
+    if (!stored || !stored->isArray()) {
+        return false;
+    }
     // The contents of rules are not compared: only two empty lists need nothing.
     if (!before || !before->empty() || !stored->toArray().isEmpty()) {
         m_environment.alarmSynchronisation.setSynchronized(false);
@@ -81,11 +90,14 @@ bool CloudSync::takeFavorites() {
 }
 
 void CloudSync::takeSelection() {
-    const auto stored = m_environment.keyValueStore.valueForKey(kSelectedChannelsKey);
-    if (!stored || stored->toArray().isEmpty() || m_environment.channels.hasUnshared()) {
+    const std::vector<ObjectId> before = m_environment.channels.selected();
+    if (m_environment.channels.hasUnshared()) {
         return;
     }
-    const std::vector<ObjectId> before = m_environment.channels.selected();
+    const auto stored = m_environment.keyValueStore.valueForKey(kSelectedChannelsKey);
+    if (!stored || stored->toArray().isEmpty()) {
+        return;
+    }
     const std::vector<ObjectId> selected = selectionOfValue(*stored).value_or(std::vector<ObjectId>());
     if (selected != before) {
         m_environment.channels.takeSelected(selected, *stored, keep(before));
