@@ -93,6 +93,26 @@ TEST_F(CloudSyncTest, AListThatWasChangedHereWins) {
     EXPECT_EQ(two.titles(), u"Refused"_s);
 }
 
+TEST_F(CloudSyncTest, AGuideThatStartsWithoutItsStoreTakesWhatIsNewer) {
+    const QTemporaryDir profile;
+    SharedStore store(values);
+    {
+        SyncedGuide guide(clock, queues, store, profile.path());
+        guide.shows.setFavorites(CloudDevice::rules(u"Old"_s));
+        queues.runAll();
+    }
+    values.values.clear();
+    store.refuses = true;
+    SyncedGuide guide(clock, queues, store, profile.path());
+    EXPECT_EQ(guide.shows.favorites(), CloudDevice::rules(u"Old"_s));
+    queues.runAll();
+    store.refuses = false;
+    values.values[u"Favorites"_s] = favoritesMirror(CloudDevice::rules(u"Newer"_s));
+    guide.sync.cloudDidChangeExternally(CloudSync::Reason::Server);
+    queues.runAll();
+    EXPECT_EQ(guide.titles(), u"Newer"_s);
+}
+
 TEST_F(CloudSyncTest, AListThatArrivesDuringTheWriteOfAnEarlierOneStays) {
     values.values[u"Favorites"_s] =
         QCborArray{QCborArray{u"Old"_s, 5, QCborValue(QDateTime::currentDateTimeUtc())}};
