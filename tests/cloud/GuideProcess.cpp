@@ -115,10 +115,14 @@ class Device {
         if (key == kSharedLists[0]) {
             std::vector<Favorite> rules = m_guide->shows.favorites().value_or(std::vector<Favorite>());
             const auto found = std::ranges::find(rules, words[1], &Favorite::identificator);
-            if (words[0] == u"remove"_s && found != rules.end()) {
-                rules.erase(found);
-            } else if (words[0] == u"add"_s && found == rules.end()) {
+            const bool isAdded = words[0] == u"add"_s;
+            if (isAdded != (found == rules.end())) {
+                return;
+            }
+            if (isAdded) {
                 rules.push_back({words[1], 10, m_clock.now(), {}});
+            } else {
+                rules.erase(found);
             }
             m_guide->shows.setFavorites(std::move(rules));
         } else if (key == kSharedLists[1]) {
