@@ -48,7 +48,7 @@ void require(bool isTrue, const char* what) {
     }
 }
 
-/// Adds the time of its own life.
+/// Adds the time between its construction and its destruction.
 class Timer {
   public:
     explicit Timer(double& sum)

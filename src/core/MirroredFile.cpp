@@ -93,14 +93,15 @@ struct MirroredFile::State {
             keepDamagedFile(place.path);
         }
         const Content content = newest->makeContent();
-        if (!newest->taken) {
-            // Before the file: a process that ends in between must not take the older copy for a newer one.
-            QFile unshared(mark());
-            unshared.open(QIODevice::WriteOnly);
-        }
         if (!replaceFile(place.path, content.file)) {
             qWarning().noquote() << "MirroredFile: cannot write" << place.path;
             return false;
+        }
+        if (!newest->taken) {
+            // Before the key: after a process that ends in between, the next one must not take the older copy
+            // for a newer one.
+            QFile unshared(mark());
+            unshared.open(QIODevice::WriteOnly);
         }
         if (!share(content.copy, newest->taken)) {
             return false;
