@@ -1,5 +1,6 @@
 // The steps of the launch.
 
+#include "app/KnownChannels.h"
 #include "app/QuellinGuideAppDelegate.h"
 #include "app/SelectionCleanup.h"
 #include "core/CatalogueFiles.h"
@@ -13,6 +14,7 @@
 #include "screens/shell/GuideTabs.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 
 namespace guide {
@@ -448,12 +450,32 @@ void QuellinGuideAppDelegate::setup() {
 }
 
 void QuellinGuideAppDelegate::cleanUpSelection() {
-    // A catalogue that could not be read proves nothing about the channels.
     const CatalogueSnapshot supplied(m_suppliedChannels);
-    const SelectionCleanup plan = planSelectionCleanup(m_channels->selected(), [&](const ObjectId& channel) {
-        return channel.isOwn() ? !m_ownSources->isRemoved(channel)
-                               : supplied.empty() || supplied.contains(channel);
+    const std::vector<ObjectId> selected = m_channels->selected();
+    std::optional<std::vector<ObjectId>> before;
+    const auto hasLeft = [&](const ObjectId& channel) {
+        if (channel.isOwn()) {
+            return m_ownSources->isRemoved(channel);
+        }
+        // A catalogue that could not be read proves nothing about the channels.
+        if (supplied.empty() || supplied.contains(channel)) {
+            return false;
+        }
+        if (!before) {
+            before = knownChannels(m_environment.folders).value_or(selected);
+        }
+        return std::ranges::find(*before, channel) != before->end();
+    };
+    removeSelected(planSelectionCleanup(selected, std::not_fn(hasLeft)));
+    m_environment.queues.globalQueue(QueuePriority::Background).async([this] {
+        // The next start must find the selection without what has left the catalogue.
+        if (!m_suppliedChannels.empty() && m_channels->finishWriting()) {
+            keepKnownChannels(m_environment.folders, m_suppliedChannels);
+        }
     });
+}
+
+void QuellinGuideAppDelegate::removeSelected(const SelectionCleanup& plan) {
     if (plan.removed.empty()) {
         return;
     }

@@ -52,6 +52,7 @@
 namespace guide {
 
 class SelectionEditor;
+struct SelectionCleanup;
 
 /// The root of ownership: creates the catalogue, the store, the update cycle and the screens, connects them
 /// and forwards the device's events. Main queue.
@@ -187,7 +188,9 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void makePictures();
     void makeScreens();
     void setup();
+    /// Deselects what has left the catalogue.
     void cleanUpSelection();
+    void removeSelected(const SelectionCleanup& plan);
     void syncAlarms() { m_alarms.syncAlarms(); }
     /// The catalogue was replaced, or has cost the selection channels.
     void refreshChannels() {

@@ -1,4 +1,5 @@
 #include "app/GuideWorld.h"
+#include "app/KnownChannels.h"
 #include "core/ListingsFile.h"
 #include "fakes/Packing.h"
 #include "screens/kit/TableViewController.h"
@@ -270,14 +271,30 @@ TEST(Guide, ShutsDownQuicklyWhileAScreenSuspendsTheLoadQueue) {
     EXPECT_LT(std::chrono::steady_clock::now() - begun, 5s);
 }
 
-TEST(Guide, DeselectsAChannelThatLeftTheCatalogue) {
+TEST(Guide, DeselectsWhatLeftTheCatalogueButNotWhatADeviceWithANewerOneSelected) {
     GuideWorld world;
-    world.start();
+    const ObjectId first = GuideWorld::channel(u"first"_s);
     const ObjectId lost = ObjectId::fromHex(u"58f4ded60befe78cb3360099"_s);
-    world.guide->channels().setSelected({lost, GuideWorld::channel(u"first"_s)});
+    const ObjectId newer = ObjectId::fromHex(u"58f4ded60befe78cb3360098"_s);
+    world.start();
+    world.guide->channels().setSelected({lost, first});
     ASSERT_TRUE(world.runUntil([&] { return world.guide->channels().selected().size() == 1; }))
         << "the clean-up runs after the launch";
-    EXPECT_EQ(world.guide->channels().selected().front(), GuideWorld::channel(u"first"_s));
+    EXPECT_EQ(world.guide->channels().selected().front(), first);
+    world.guide->channels().setSelected({newer, first});
+    world.end();
+
+    const auto selectedAfterCatalogueOf = [&](const std::vector<CatalogueChannel>& before) {
+        keepKnownChannels(world.folders, before);
+        world.start();
+        EXPECT_TRUE(world.runUntil([&] { return knownChannels(world.folders)->size() > before.size(); }));
+        const std::vector<ObjectId> selected = world.guide->channels().selected();
+        world.end();
+        return selected;
+    };
+    EXPECT_EQ(selectedAfterCatalogueOf({}), std::vector({newer, first}));
+    EXPECT_EQ(selectedAfterCatalogueOf({{.id = newer, .title = {}, .language = {}, .region = {}}}),
+              std::vector({first}));
 }
 
 TEST(Guide, WithoutASelectionOpensOnTheListOfChannels) {

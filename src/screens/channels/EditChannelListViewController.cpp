@@ -119,6 +119,8 @@ Row EditChannelListViewController::channelRow(const ObjectId& channel, const Cat
         if (m_environment->icons.hasIconFile(found->icon)) {
             row.icon = {PictureKey::Kind::ChannelIcon, found->icon};
         }
+    } else if (!channel.isOwn()) {
+        row.subtitle = Localized::tr("Selected on another device; this version does not know it");
     }
     if (const auto record = m_environment->channels.channelWithChannelId(channel)) {
         const Moment now = m_environment->clock.now();
