@@ -125,7 +125,9 @@ std::optional<std::vector<Favorite>> favoritesOfMirror(const QCborValue& value) 
     const QCborArray array = value.toArray();
     std::vector<Favorite> rules;
     rules.reserve(static_cast<std::size_t>(array.size()));
+    bool hasArchives = false;
     for (const auto& element : array) {
+        hasArchives = hasArchives || element.isByteArray();
         if (std::optional<Favorite> rule = ruleOfElement(element)) {
             rules.push_back(*std::move(rule));
         }
@@ -133,6 +135,9 @@ std::optional<std::vector<Favorite>> favoritesOfMirror(const QCborValue& value) 
     if (const auto unread = array.size() - std::ssize(rules); unread > 0) {
         qWarning("Favorites: %lld of %lld rules of another device cannot be read", qlonglong(unread),
                  qlonglong(array.size()));
+    }
+    if (rules.empty() && hasArchives) {
+        return std::nullopt;
     }
     return rules;
 }

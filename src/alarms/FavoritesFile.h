@@ -19,6 +19,7 @@ std::optional<std::vector<Favorite>> favoritesOfFile(const QByteArray& content);
 QCborValue favoritesMirror(const std::vector<Favorite>& rules);
 /// The reverse; nothing when the value is not an array. An element may also have the older form, an array of
 /// title, lead time, date and perhaps whether only replays count. Any other element is left out and logged.
+/// Archives none of which can be read are not an empty list but nothing: a newer guide may have made them.
 std::optional<std::vector<Favorite>> favoritesOfMirror(const QCborValue& value);
 
 } // namespace guide
