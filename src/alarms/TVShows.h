@@ -55,6 +55,8 @@ class TVShows final : public FavoritesSource {
     /// Blocks until the pending write is done, retrying one that failed. Called at shutdown. False when the
     /// write failed again.
     bool finishWriting() { return m_file.finishWriting(); }
+    /// Removes, in the background, the copies of files that could not be read.
+    void removeDamaged() { m_file.removeDamaged(); }
 
   private:
     using Snapshot = std::shared_ptr<const FavoritesSnapshot>;

@@ -20,18 +20,20 @@ namespace {
 
 constexpr int kMostDamagedFiles = 3;
 
+QByteArray damagedFile(const QString& path, int number) {
+    return QFile::encodeName(path + ".damaged-"_L1 + QString::number(number));
+}
+
 /// The file also keeps its own name, so that a crash does not make it look missing; where that is impossible
 /// it is moved.
 void keepDamagedFile(const QString& path) {
-    const auto copy = [&path](int number) {
-        return QFile::encodeName(path + ".damaged-"_L1 + QString::number(number));
-    };
     for (int number = kMostDamagedFiles; number > 1; --number) {
-        std::rename(copy(number - 1).constData(), copy(number).constData());
+        std::rename(damagedFile(path, number - 1).constData(), damagedFile(path, number).constData());
     }
     const QByteArray damaged = QFile::encodeName(path);
-    if (::link(damaged.constData(), copy(1).constData()) != 0) {
-        std::rename(damaged.constData(), copy(1).constData());
+    const QByteArray copy = damagedFile(path, 1);
+    if (::link(damaged.constData(), copy.constData()) != 0) {
+        std::rename(damaged.constData(), copy.constData());
     }
 }
 
@@ -194,6 +196,16 @@ bool MirroredFile::finishWriting() {
     m_state->writer->sync([this, &written] { written = m_state->write(); });
     // After the queues have shut down the block is dropped and no other thread writes.
     return written ? *written : m_state->write();
+}
+
+void MirroredFile::removeDamaged() {
+    if (m_state->place.writable) {
+        m_state->writer->asyncBarrier([state = m_state] {
+            for (int number = 1; number <= kMostDamagedFiles; ++number) {
+                std::remove(damagedFile(state->place.path, number).constData());
+            }
+        });
+    }
 }
 
 } // namespace guide

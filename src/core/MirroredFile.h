@@ -63,6 +63,8 @@ class MirroredFile {
     void retryWriting();
     /// Blocks until the pending write is done, retrying one that failed. False when it failed again.
     bool finishWriting();
+    /// Removes, in the background, the damaged files that were kept.
+    void removeDamaged();
 
   private:
     struct State;

@@ -184,4 +184,8 @@ bool TVChannels::finishWriting() {
     return m_state->file.finishWriting();
 }
 
+void TVChannels::removeDamaged() {
+    m_state->file.removeDamaged();
+}
+
 } // namespace guide

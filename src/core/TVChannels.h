@@ -53,6 +53,9 @@ class TVChannels {
     /// write failed again.
     bool finishWriting();
 
+    /// Removes, in the background, the copies of files that could not be read.
+    void removeDamaged();
+
   private:
     struct State;
     const std::unique_ptr<State> m_state;
