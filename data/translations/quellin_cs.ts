@@ -2116,8 +2116,36 @@ Počkejte, až se program načte.</translation>
         <translation>Vybrané kanály</translation>
     </message>
     <message>
-        <source>The last ten lists of each kind that another device has replaced, by the time of that.</source>
-        <translation>Posledních deset seznamů každého druhu, které nahradilo jiné zařízení, podle doby nahrazení.</translation>
+        <source>Ten lists of each kind that another device has replaced, by the time of that. Older ones are kept less often.</source>
+        <translation>Deset seznamů každého druhu, které nahradilo jiné zařízení, podle doby nahrazení. Ze starších se jich uchovává méně.</translation>
+    </message>
+    <message>
+        <source>Nothing that you do not have now</source>
+        <translation>Nic, co byste teď neměli</translation>
+    </message>
+    <message>
+        <source>Brings back %1</source>
+        <translation>Vrátí %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Brings back %n</source>
+        <translation>
+            <numerusform>Vrátí %n</numerusform>
+            <numerusform>Vrátí %n</numerusform>
+            <numerusform>Vrátí %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Brings back %1 and %n more</source>
+        <translation>
+            <numerusform>Vrátí %1 a %n další</numerusform>
+            <numerusform>Vrátí %1 a %n další</numerusform>
+            <numerusform>Vrátí %1 a %n dalších</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Selected on another device; this version does not know it</source>
+        <translation>Vybrán na jiném zařízení; tato verze ho nezná</translation>
     </message>
     <message>
         <source>No lists</source>

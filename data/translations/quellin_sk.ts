@@ -2116,8 +2116,36 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Vybrané kanály</translation>
     </message>
     <message>
-        <source>The last ten lists of each kind that another device has replaced, by the time of that.</source>
-        <translation>Posledných desať zoznamov každého druhu, ktoré nahradilo iné zariadenie, podľa času nahradenia.</translation>
+        <source>Ten lists of each kind that another device has replaced, by the time of that. Older ones are kept less often.</source>
+        <translation>Desať zoznamov každého druhu, ktoré nahradilo iné zariadenie, podľa času nahradenia. Zo starších sa ich uchováva menej.</translation>
+    </message>
+    <message>
+        <source>Nothing that you do not have now</source>
+        <translation>Nič, čo by ste teraz nemali</translation>
+    </message>
+    <message>
+        <source>Brings back %1</source>
+        <translation>Vráti %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Brings back %n</source>
+        <translation>
+            <numerusform>Vráti %n</numerusform>
+            <numerusform>Vráti %n</numerusform>
+            <numerusform>Vráti %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Brings back %1 and %n more</source>
+        <translation>
+            <numerusform>Vráti %1 a %n ďalší</numerusform>
+            <numerusform>Vráti %1 a %n ďalšie</numerusform>
+            <numerusform>Vráti %1 a %n ďalších</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Selected on another device; this version does not know it</source>
+        <translation>Vybraný na inom zariadení; táto verzia ho nepozná</translation>
     </message>
     <message>
         <source>No lists</source>

@@ -6,6 +6,9 @@
 #include <QCborArray>
 
 #include <algorithm>
+#include <iterator>
+#include <set>
+#include <tuple>
 #include <unordered_set>
 #include <utility>
 
@@ -22,12 +25,27 @@ constexpr auto kSelectedChannelsKey = "SelectedChannels"_L1;
 /// Losing more rules than this to an empty list is told.
 constexpr std::size_t kFewRules = 3;
 
-/// Whether the user would miss nothing of the one in the other. A date alone is no loss.
-bool haveEqualRules(const std::vector<Favorite>& one, const std::vector<Favorite>& other) {
-    return std::ranges::equal(one, other, [](const Favorite& left, const Favorite& right) {
-        return left.identificator == right.identificator && left.minutes == right.minutes &&
-               left.previouslyShown == right.previouslyShown;
-    });
+/// Whether each of the rules is in the list. A date alone is no difference.
+bool areIn(const std::vector<Favorite>& list, const std::vector<Favorite>& rules) {
+    using Rule = std::tuple<QString, std::optional<int>, std::optional<bool>>;
+    const auto ruleOf = [](const Favorite& favorite) {
+        return Rule(favorite.identificator, favorite.minutes, favorite.previouslyShown);
+    };
+    std::set<Rule> present;
+    std::ranges::transform(list, std::inserter(present, present.end()), ruleOf);
+    return std::ranges::all_of(rules,
+                               [&](const Favorite& favorite) { return present.contains(ruleOf(favorite)); });
+}
+
+/// Whether the channels are in the list, in their order.
+bool areIn(const std::vector<ObjectId>& list, const std::vector<ObjectId>& channels) {
+    auto channel = channels.begin();
+    for (const ObjectId& each : list) {
+        if (channel != channels.end() && *channel == each) {
+            ++channel;
+        }
+    }
+    return channel == channels.end();
 }
 
 } // namespace
@@ -46,6 +64,14 @@ void CloudSync::cloudDidChangeExternally(std::optional<Reason> reason) {
         m_environment.alarmSynchronisation.syncAlarms();
         m_environment.favoritesUpdated();
     }
+}
+
+template <typename List>
+Block CloudSync::keepUnlessIn(const List& present, const List& replaced) const {
+    if (areIn(present, replaced)) {
+        return {};
+    }
+    return [&lists = m_environment.replacedLists, replaced] { lists.keep(replaced); };
 }
 
 bool CloudSync::takeCalendar() {
@@ -75,13 +101,16 @@ bool CloudSync::takeFavorites() {
     if (!stored || !stored->isArray()) {
         return false;
     }
+    std::optional<std::vector<Favorite>> rules = favoritesOfMirror(*stored);
+    if (!rules) {
+        return false;
+    }
     // The contents of rules are not compared: only two empty lists need nothing.
     if (!before || !before->empty() || !stored->toArray().isEmpty()) {
         m_environment.alarmSynchronisation.setSynchronized(false);
-        std::vector<Favorite> rules = favoritesOfMirror(*stored).value_or(std::vector<Favorite>());
-        const bool isEmptied = rules.empty() && before && before->size() > kFewRules;
-        Block kept = before && !haveEqualRules(*before, rules) ? keep(*before) : Block();
-        m_environment.shows.takeFavorites(std::move(rules), *stored, std::move(kept));
+        const bool isEmptied = rules->empty() && before && before->size() > kFewRules;
+        Block kept = before ? keepUnlessIn(*rules, *before) : Block();
+        m_environment.shows.takeFavorites(*std::move(rules), *stored, std::move(kept));
         if (isEmptied) {
             m_environment.favoritesEmptied(*before);
         }
@@ -100,7 +129,7 @@ void CloudSync::takeSelection() {
     }
     const std::vector<ObjectId> selected = selectionOfValue(*stored).value_or(std::vector<ObjectId>());
     if (selected != before) {
-        m_environment.channels.takeSelected(selected, *stored, keep(before));
+        m_environment.channels.takeSelected(selected, *stored, keepUnlessIn(selected, before));
     }
     selectionChanged(before, selected);
 }
@@ -120,18 +149,11 @@ void CloudSync::selectionChanged(const std::vector<ObjectId>& before, const std:
     }
 }
 
-Block CloudSync::keep(std::vector<Favorite> rules) const {
-    return [&lists = m_environment.replacedLists, rules = std::move(rules)] { lists.keep(rules); };
-}
-
-Block CloudSync::keep(std::vector<ObjectId> selected) const {
-    return [&lists = m_environment.replacedLists, selected = std::move(selected)] { lists.keep(selected); };
-}
-
 void CloudSync::restoreFavorites(std::vector<Favorite> rules) {
     TVShows& shows = m_environment.shows;
     const auto before = shows.favorites();
-    shows.setFavorites(std::move(rules), before ? keep(*before) : Block());
+    Block kept = before ? keepUnlessIn(rules, *before) : Block();
+    shows.setFavorites(std::move(rules), std::move(kept));
     m_environment.alarmSynchronisation.resynchronize();
     m_environment.favoritesUpdated();
 }
@@ -141,7 +163,7 @@ void CloudSync::restoreSelection(std::vector<ObjectId> selected) {
     if (selected == before) {
         return;
     }
-    m_environment.channels.setSelected(selected, keep(before));
+    m_environment.channels.setSelected(selected, keepUnlessIn(selected, before));
     selectionChanged(before, selected);
     m_environment.alarmSynchronisation.syncAlarms();
 }

@@ -57,8 +57,9 @@ class CloudSync {
     bool takeCalendar();
     bool takeFavorites();
     void takeSelection();
-    Block keep(std::vector<Favorite> rules) const;
-    Block keep(std::vector<ObjectId> selected) const;
+    /// Keeps a copy of the list that was replaced, unless all of it is in the present one too.
+    template <typename List>
+    Block keepUnlessIn(const List& present, const List& replaced) const;
     void selectionChanged(const std::vector<ObjectId>& before, const std::vector<ObjectId>& now);
 
     const CloudSyncEnvironment m_environment;

@@ -3,6 +3,7 @@
 #include "platform/Moment.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <cstddef>
 
@@ -19,6 +20,9 @@ struct ReplacedList {
     std::size_t count = 0;
     /// The name of its file.
     QString name = {};
+    /// How many of them the present list lacks, and the titles of the first of those.
+    std::size_t lacking = 0;
+    QStringList titles = {};
 
     friend bool operator==(const ReplacedList&, const ReplacedList&) = default;
 };

@@ -12,6 +12,8 @@
 #include <QFile>
 
 #include <algorithm>
+#include <iterator>
+#include <unordered_set>
 
 namespace guide {
 
@@ -20,6 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype kMostCopies = 10;
+constexpr qsizetype kMostTitles = 3;
 constexpr qint64 kMostBytes = 16 << 20;
 constexpr auto kTimeFormat = "yyyyMMdd'T'HHmmsszzz'Z'"_L1;
 constexpr auto kSuffix = ".plist"_L1;
@@ -46,6 +49,22 @@ QStringList namesIn(const QString& folder, ReplacedList::Kind kind) {
     QStringList names = QDir(folder).entryList({prefixOf(kind) + u'*' + kSuffix}, QDir::Files, QDir::Name);
     names.removeIf([kind](const QString& name) { return !dateOfName(name, kind); });
     return names;
+}
+
+/// The one of the names, which are in order of their dates, whose neighbours are closest for its age; never
+/// the first or the last. So a day of many changes does not cost the copies of the time before it.
+qsizetype mostDispensable(const QStringList& names, ReplacedList::Kind kind) {
+    std::vector<Moment> dates;
+    std::ranges::transform(names, std::back_inserter(dates),
+                           [kind](const QString& name) { return *dateOfName(name, kind); });
+    const auto gapForAge = [&dates](std::size_t at) {
+        return double((dates[at + 1] - dates[at - 1]).count()) / double((dates.back() - dates[at]).count());
+    };
+    std::size_t chosen = 1;
+    for (std::size_t at = 2; at + 1 < dates.size(); ++at) {
+        chosen = gapForAge(at) < gapForAge(chosen) ? at : chosen;
+    }
+    return static_cast<qsizetype>(chosen);
 }
 
 } // namespace
@@ -86,8 +105,9 @@ void ReplacedLists::keep(ReplacedList::Kind kind, const QByteArray& content) {
         qWarning().noquote() << "ReplacedLists: cannot write in" << m_folder;
         return;
     }
-    while (names.size() >= kMostCopies) {
-        QFile::remove(m_folder + u'/' + names.takeFirst());
+    names << nameOf(kind, date);
+    while (names.size() > kMostCopies) {
+        QFile::remove(m_folder + u'/' + names.takeAt(mostDispensable(names, kind)));
     }
 }
 
@@ -106,27 +126,48 @@ std::optional<std::vector<ObjectId>> ReplacedLists::selection(const QString& nam
     return found ? selectionOfFile(*found) : std::nullopt;
 }
 
-std::vector<ReplacedList> ReplacedLists::all() const {
-    const std::lock_guard lock(m_guard);
+std::vector<ReplacedList> ReplacedLists::all(const Present& present) const {
+    const std::unordered_set<ObjectId> selectedNow(present.selected.begin(), present.selected.end());
     std::vector<ReplacedList> lists;
-    for (const ReplacedList::Kind kind : {ReplacedList::Kind::Favorites, ReplacedList::Kind::Selection}) {
-        for (const QString& name : namesIn(m_folder, kind)) {
-            std::optional<std::size_t> count;
-            if (kind == ReplacedList::Kind::Favorites) {
-                const auto rules = favorites(name);
-                count = rules ? std::optional(rules->size()) : std::nullopt;
-            } else {
-                const auto selected = selection(name);
-                count = selected ? std::optional(selected->size()) : std::nullopt;
+    const std::lock_guard lock(m_guard);
+    const auto add = [&lists](ReplacedList::Kind kind, const QString& name, const auto& copy,
+                              const auto& titleIfLacking) {
+        ReplacedList list{.kind = kind, .date = *dateOfName(name, kind), .count = copy.size(), .name = name};
+        for (const auto& each : copy) {
+            const std::optional<QString> title = titleIfLacking(each);
+            list.lacking += title ? 1 : 0;
+            if (title && !title->isEmpty() && list.titles.size() < kMostTitles) {
+                list.titles << *title;
             }
-            if (count) {
-                lists.push_back(
-                    {.kind = kind, .date = *dateOfName(name, kind), .count = *count, .name = name});
-            }
+        }
+        lists.push_back(std::move(list));
+    };
+    for (const QString& name : namesIn(m_folder, ReplacedList::Kind::Favorites)) {
+        if (const auto rules = favorites(name)) {
+            add(ReplacedList::Kind::Favorites, name, *rules, [&present](const Favorite& rule) {
+                return present.rules.containsFavoriteNamed(rule.identificator)
+                           ? std::nullopt
+                           : std::optional(rule.identificator);
+            });
+        }
+    }
+    for (const QString& name : namesIn(m_folder, ReplacedList::Kind::Selection)) {
+        if (const auto channels = selection(name)) {
+            add(ReplacedList::Kind::Selection, name, *channels, [&](const ObjectId& channel) {
+                const CatalogueChannel* known = present.catalogue.find(channel);
+                return selectedNow.contains(channel) ? std::nullopt
+                                                     : std::optional(known ? known->title : QString());
+            });
         }
     }
     std::ranges::stable_sort(lists, std::ranges::greater(), &ReplacedList::date);
     return lists;
+}
+
+std::size_t ReplacedLists::count() const {
+    const std::lock_guard lock(m_guard);
+    return static_cast<std::size_t>(namesIn(m_folder, ReplacedList::Kind::Favorites).size() +
+                                    namesIn(m_folder, ReplacedList::Kind::Selection).size());
 }
 
 std::size_t ReplacedLists::removeAll() {

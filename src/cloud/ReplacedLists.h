@@ -2,6 +2,7 @@
 
 #include "alarms/Favorites.h"
 #include "cloud/ReplacedList.h"
+#include "core/Catalogue.h"
 #include "core/ObjectId.h"
 #include "platform/Clock.h"
 #include "platform/files/Folders.h"
@@ -15,9 +16,9 @@
 
 namespace guide {
 
-/// Copies of the favourites and of the selections that other devices have replaced, the last ten of each, in
-/// the folder "replaced" of the documents. All functions use the disk, so they are for background queues; any
-/// thread.
+/// Copies of the favourites and of the selections that other devices have replaced, at most ten of each, in
+/// the folder "replaced" of the documents: the oldest, the newest, and of those between them the fewer the
+/// longer ago. All functions use the disk, so they are for background queues; any thread.
 class ReplacedLists {
   public:
     ReplacedLists(const Folders& folders, const Clock& clock);
@@ -28,8 +29,16 @@ class ReplacedLists {
     void keep(const std::vector<Favorite>& rules);
     void keep(const std::vector<ObjectId>& selected);
 
+    /// What the copies are compared with.
+    struct Present {
+        const FavoritesSnapshot& rules;
+        const std::vector<ObjectId>& selected;
+        const CatalogueSnapshot& catalogue;
+    };
     /// The newest first.
-    std::vector<ReplacedList> all() const;
+    std::vector<ReplacedList> all(const Present& present) const;
+    /// How many copies there are.
+    std::size_t count() const;
     /// The copies; nothing when there is none of this name or it is damaged.
     std::optional<std::vector<Favorite>> favorites(const QString& name) const;
     std::optional<std::vector<ObjectId>> selection(const QString& name) const;

@@ -108,7 +108,7 @@ UserDataCounts UserData::countInMemory() const {
 
 void UserData::count(MainBlock<UserDataCounts> mainBlock) {
     m_queue->async([this, counts = countInMemory(), mainBlock = std::move(mainBlock)]() mutable {
-        counts.replacedLists = m_environment.replacedLists.all().size();
+        counts.replacedLists = m_environment.replacedLists.count();
         mainBlock.post(m_environment.queues.mainQueue(), counts);
     });
 }
@@ -135,6 +135,8 @@ void UserData::erase(bool more, MainBlock<UserDataCounts> mainBlock) {
     if (!m_environment.shows.snapshot()->empty()) {
         m_environment.shows.setFavorites({});
     }
+    m_environment.channels.removeDamaged();
+    m_environment.shows.removeDamaged();
     if (more) {
         QStringList others = titlesOfAlarms();
         others.removeIf([&rules](const QString& title) { return rules->containsFavoriteNamed(title); });
@@ -185,7 +187,11 @@ void UserData::answerErased(UserDataCounts counts, std::shared_ptr<const Favorit
 
 void UserData::replacedLists(MainBlock<std::vector<ReplacedList>> mainBlock) {
     m_queue->async([this, mainBlock = std::move(mainBlock)]() mutable {
-        mainBlock.post(m_environment.queues.mainQueue(), m_environment.replacedLists.all());
+        const auto rules = m_environment.shows.snapshot();
+        const std::vector<ObjectId> selected = m_environment.channels.selected();
+        const SharedCatalogueSnapshot catalogue = m_environment.catalogue.snapshot();
+        mainBlock.post(m_environment.queues.mainQueue(),
+                       m_environment.replacedLists.all({*rules, selected, *catalogue}));
     });
 }
 

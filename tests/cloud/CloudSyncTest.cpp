@@ -16,7 +16,7 @@ class CloudSyncTest : public testing::Test {
     /// The titles or the number of channels of each kept list, the newest first.
     QStringList kept(const CloudDevice& device) const {
         QStringList texts;
-        for (const ReplacedList& list : device.replaced.all()) {
+        for (const ReplacedList& list : device.kept()) {
             texts << u"%1 %2"_s.arg(list.kind == ReplacedList::Kind::Favorites ? u"rules"_s : u"channels"_s)
                          .arg(list.count);
         }
@@ -67,6 +67,17 @@ TEST_F(CloudSyncTest, AnOlderFormIsRewrittenOnce) {
     one.sync.cloudDidChangeExternally({});
     queues.runAll();
     EXPECT_EQ(values.writes, 1);
+}
+
+TEST_F(CloudSyncTest, ArchivesThatCannotBeReadLoseNothing) {
+    one.shows.setFavorites(CloudDevice::rules(u"Film"_s));
+    queues.runAll();
+    const QCborArray newer{QByteArray("another form"), QByteArray("of rules")};
+    values.values[u"Favorites"_s] = newer;
+    one.sync.cloudDidChangeExternally({});
+    queues.runAll();
+    EXPECT_EQ(one.titles(), u"Film"_s);
+    EXPECT_EQ(values.values[u"Favorites"_s], QCborValue(newer));
 }
 
 TEST_F(CloudSyncTest, AListThatWasChangedHereWins) {
@@ -150,6 +161,8 @@ TEST_F(CloudSyncTest, ReconcilesAsLittleAsIsNeeded) {
         {"an empty list in place of many", "A B C D", {1}, "", {}, "", false, 1, 0, 0, 1, {u"rules 4"_s}},
         {"an equal selection is only checked", "A", {1}, {}, {1}, "A", false, 0, 1, 0, 0, none},
         {"another selection", "A", {1, 2}, {}, {2, 3}, "A", false, 0, 1, 1, 0, {u"channels 2"_s}},
+        {"longer lists lose nothing", "B", {1, 2}, "A B", {1, 3, 2}, "A B", false, 1, 1, 1, 0, none},
+        {"another order of channels", "A", {1, 2}, {}, {2, 1}, "A", false, 0, 1, 1, 0, {u"channels 2"_s}},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.name);
@@ -196,7 +209,7 @@ TEST_F(CloudSyncTest, ADeviceWithAlarmsKeepsItsCalendar) {
     EXPECT_EQ(one.alarms.syncs, 1) << "once";
 }
 
-TEST_F(CloudSyncTest, TheLastTenListsAreKeptAndCanBeRestored) {
+TEST_F(CloudSyncTest, TenListsAreKeptAndCanBeRestored) {
     for (int round = 0; round < 12; ++round) {
         clock.advance(round == 11 ? -1h : 1s);
         one.replaced.keep(CloudDevice::rules(u"Rule%1 More"_s.arg(round)));
@@ -204,14 +217,19 @@ TEST_F(CloudSyncTest, TheLastTenListsAreKeptAndCanBeRestored) {
     }
     one.replaced.keep(CloudDevice::channelsNumbered({1, 2, 3}));
     one.replaced.keep(std::vector<ObjectId>());
-    const std::vector<ReplacedList> lists = one.replaced.all();
+    const std::vector<ReplacedList> lists = one.kept();
     ASSERT_EQ(lists.size(), 11);
     std::vector<ReplacedList> rules;
     std::ranges::copy_if(lists, std::back_inserter(rules),
                          [](const ReplacedList& list) { return list.kind == ReplacedList::Kind::Favorites; });
     EXPECT_EQ(one.replaced.favorites(rules.front().name), CloudDevice::rules(u"Rule11 More"_s))
         << "although the clock was set back";
-    EXPECT_EQ(one.replaced.favorites(rules.back().name), CloudDevice::rules(u"Rule2 More"_s));
+    EXPECT_EQ(one.replaced.favorites(rules.back().name), CloudDevice::rules(u"Rule0 More"_s)) << "the oldest";
+    EXPECT_EQ(rules[1].date - rules[2].date, 1s) << "of those of late, all";
+    one.shows.setFavorites(CloudDevice::rules(u"More"_s));
+    const std::vector<ReplacedList> now = one.kept();
+    const auto oldest = std::ranges::find(now, rules.back().name, &ReplacedList::name);
+    EXPECT_EQ(oldest->titles, QStringList(u"Rule0"_s)) << "what it would bring back";
     EXPECT_FALSE(one.replaced.favorites(u"favorites-/../../favorites.plist"_s));
 
     one.shows.setFavorites(CloudDevice::rules(u"Now"_s));
@@ -225,7 +243,7 @@ TEST_F(CloudSyncTest, TheLastTenListsAreKeptAndCanBeRestored) {
     EXPECT_EQ(one.checks, 1);
     EXPECT_TRUE(kept(one).contains(u"rules 1"_s)) << "what it replaced is kept";
     EXPECT_EQ(one.replaced.removeAll(), 11);
-    EXPECT_TRUE(one.replaced.all().empty());
+    EXPECT_EQ(one.replaced.count(), 0);
 }
 
 } // namespace

@@ -174,7 +174,7 @@ class Device {
     QJsonObject kept() const {
         QJsonArray rules;
         QJsonArray selections;
-        for (const ReplacedList& list : m_guide->replaced.all()) {
+        for (const ReplacedList& list : m_guide->kept()) {
             // Older ones may be removed meanwhile.
             if (const auto found = m_guide->replaced.favorites(list.name)) {
                 rules.append(textOf(*found));

@@ -49,6 +49,9 @@ class SyncedGuide : KeyValueStoreObserver {
         }
         return all.join(u' ');
     }
+    std::vector<ReplacedList> kept() const {
+        return replaced.all({*shows.snapshot(), channels.selected(), *catalogue.snapshot()});
+    }
     static std::vector<Favorite> rules(const QString& titles) {
         std::vector<Favorite> all;
         for (const QString& title : titles.split(u' ', Qt::SkipEmptyParts)) {

@@ -133,6 +133,8 @@ TEST_F(UserDataTest, ErasesHereAndForAllDevices) {
     queues.runAll();
     EXPECT_EQ(before, (UserDataCounts{2, 5, 2, 1, 1, true, true}));
 
+    const QString damaged = device.folder.filePath(u"selectedChannels.plist.damaged-2"_s);
+    ASSERT_TRUE(QFile::copy(device.folder.filePath(u"selectedChannels.plist"_s), damaged));
     EXPECT_EQ(erase(false), (UserDataCounts{2, 5, 2, 1, 0, false, false}));
     EXPECT_TRUE(device.channels.selected().empty());
     EXPECT_TRUE(device.shows.snapshot()->empty()) << "also the second rule of a title";
@@ -142,7 +144,8 @@ TEST_F(UserDataTest, ErasesHereAndForAllDevices) {
     EXPECT_EQ(values.values.keys(),
               QStringList({u"Favorites"_s, u"SelectedChannels"_s, u"noAlarmsSchedule"_s}));
     EXPECT_TRUE(device.userDefaults.stringForKey(u"selectedCalendar"_s));
-    EXPECT_TRUE(device.replaced.all().empty());
+    EXPECT_EQ(device.replaced.count(), 0);
+    EXPECT_FALSE(QFile::exists(damaged));
 }
 
 TEST_F(UserDataTest, ErasesWhatIsLeftOtherwiseAndCountsWhatWasRemoved) {

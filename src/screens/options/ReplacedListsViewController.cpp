@@ -22,6 +22,20 @@ QString countText(const ReplacedList& list) {
                : Localized::tr("%n selected channel(s)", nullptr, count);
 }
 
+/// What restoring the list brings back.
+QString lackingText(const ReplacedList& list) {
+    const auto more = static_cast<int>(list.lacking) - static_cast<int>(list.titles.size());
+    const QString titles = list.titles.join(u", "_s);
+    if (list.lacking == 0) {
+        return Localized::tr("Nothing that you do not have now");
+    }
+    if (more == 0) {
+        return Localized::tr("Brings back %1").arg(titles);
+    }
+    return titles.isEmpty() ? Localized::tr("Brings back %n", nullptr, more)
+                            : Localized::tr("Brings back %1 and %n more", nullptr, more).arg(titles);
+}
+
 } // namespace
 
 void ReplacedListsViewController::viewDidLoad() {
@@ -50,6 +64,7 @@ void ReplacedListsViewController::reloadTable() {
         const QDateTime date = localTime(m_environment->device, list.date);
         section.rows.push_back({.id = {section.id, list.name},
                                 .content = TextRow{.title = countText(list),
+                                                   .subtitle = lackingText(list),
                                                    .detail = locale.toString(date, QLocale::ShortFormat)},
                                 .selectable = true});
     }
@@ -60,8 +75,9 @@ void ReplacedListsViewController::reloadTable() {
         }
     }
     if (!sections.empty()) {
-        sections.back().footer = Localized::tr(
-            "The last ten lists of each kind that another device has replaced, by the time of that.");
+        sections.back().footer = Localized::tr("Ten lists of each kind that another device has replaced, by "
+                                               "the time of that. Older ones are kept "
+                                               "less often.");
     }
     table().setEmptyNote(
         EmptyNote{.title = Localized::tr("No lists"),
