@@ -38,8 +38,9 @@ class SpawnedProgramRunnerTest : public testing::Test {
 
 TEST_F(SpawnedProgramRunnerTest, RunsWithoutShellTerminalOrInput) {
     ProgramRun run =
-        script(u"printf '%s|' \"$1\"; cat; (: < /dev/tty) 2>/dev/null || printf 'no terminal|'; nice; "
-               "echo problem >&2; exit 3"_s);
+        script(u"printf '%s|' \"$1\"; cat; (: < /dev/tty) 2>/dev/null || printf 'no terminal|'; "
+               // The runner lowers the priority right after the start.
+               "while [ \"$(nice)\" != 10 ]; do sleep 0.01; done; nice; echo problem >&2; exit 3"_s);
     const ProgramEnd end = runner.run(run);
     EXPECT_EQ(end.reason, Reason::Exited);
     EXPECT_EQ(end.exitStatus, 3);
