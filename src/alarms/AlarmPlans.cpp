@@ -26,11 +26,11 @@ struct EventPlace {
                (one.title == other.title || one.title.toLower() == other.title.toLower());
     }
     friend std::size_t qHash(const EventPlace& place, std::size_t seed) {
-        std::uint32_t title = titleHash(place.title);
-        if (title == kNoTitleHash) {
-            title = titleHash(place.title.toLower());
+        std::uint32_t hashed = titleHash(place.title);
+        if (hashed == kNoTitleHash) {
+            hashed = titleHash(place.title.toLower());
         }
-        return qHashMulti(seed, place.start.time_since_epoch().count(), title, place.location);
+        return qHashMulti(seed, place.start.time_since_epoch().count(), hashed, place.location);
     }
 };
 

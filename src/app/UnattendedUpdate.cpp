@@ -10,7 +10,7 @@ void QuellinGuideAppDelegate::updateNow() {
 }
 
 void QuellinGuideAppDelegate::updateUnattended(std::function<void(const UnattendedUpdate&)> ended) {
-    m_unattended.emplace();
+    m_unattended = UnattendedUpdate{};
     const auto whileAlive = [alive = std::weak_ptr(m_alive)](Block step) -> Block {
         return [alive, step = std::move(step)] {
             if (!alive.expired()) {

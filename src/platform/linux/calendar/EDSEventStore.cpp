@@ -113,7 +113,7 @@ class EDSEventStore::Worker final : public QObject {
         return range;
     }
 
-    std::optional<CalendarEvent> event(const QString& identifier) {
+    std::optional<CalendarEvent> eventWithIdentifier(const QString& identifier) {
         m_connection.beginCalls(kLongest);
         const auto [calendar, uid] = parts(identifier);
         Open& open = opened(calendar);
@@ -383,7 +383,7 @@ EventRange EDSEventStore::eventsBetween(Moment start, Moment end, const EventCal
 }
 
 std::optional<CalendarEvent> EDSEventStore::eventWithIdentifier(const QString& identifier) {
-    return run([&] { return m_worker->event(identifier); });
+    return run([&] { return m_worker->eventWithIdentifier(identifier); });
 }
 
 std::vector<EventOutcome> EDSEventStore::apply(const std::vector<EventChange>& changes) {
