@@ -1,11 +1,12 @@
 #include "app/SharedStoresChoice.h"
 
 #include "platform/linux/FolderKeyValueStore.h"
+#include "platform/linux/SharedFolderKeyValueStore.h"
 #include "platform/linux/database/DatabaseAddress.h"
 #include "platform/linux/database/SharedStores.h"
 
 #include <QDebug>
-#include <QFileInfo>
+#include <QDir>
 #include <QRandomGenerator>
 #include <QSysInfo>
 
@@ -25,6 +26,8 @@ const QStringList kSharedKeys{
     u"selectedCalendar"_s,   u"lastAlarmMinutes"_s,   u"noAlarmsSchedule"_s,
     u"noAlarmsSchedule.0"_s, u"noAlarmsSchedule.1"_s, u"noAlarmsSchedule.acrossMidnight"_s};
 constexpr auto kLongestWait = 30s;
+constexpr auto kTimeToLeave = 2s;
+const QString kNoFolder = u"There is no such folder, or it cannot be written."_s;
 
 /// The name of this device with digits that tell it from others of the name, made once for each profile.
 QString deviceOf(UserDefaults& userDefaults) {
@@ -58,7 +61,7 @@ SharedStoresChoice::SharedStoresChoice(Environment environment)
         }
     }
     if (!stores.keyValueStore) {
-        stores = folderStores(isDatabaseAddress(address) ? QString() : address);
+        stores = folderStores(isDatabaseAddress(address) ? QString() : address, false);
     }
     m_keyValueStore = std::make_shared<SwitchedKeyValueStore>(stores.keyValueStore);
     adopt(std::move(stores));
@@ -71,11 +74,23 @@ SharedStoresChoice::~SharedStoresChoice() {
     }
 }
 
-SharedStoresChoice::Stores SharedStoresChoice::folderStores(const QString& address) const {
-    const auto store = std::make_shared<FolderKeyValueStore>(
-        address.isEmpty() ? m_environment.folders.keyValueStore : address,
-        deviceOf(m_environment.userDefaults), m_environment.queues);
-    return {.address = address, .keyValueStore = store, .shared = store.get()};
+SharedStoresChoice::Stores SharedStoresChoice::folderStores(const QString& address, bool joins) const {
+    const QString device = deviceOf(m_environment.userDefaults);
+    if (address.isEmpty()) {
+        const auto store = std::make_shared<FolderKeyValueStore>(m_environment.folders.keyValueStore, device,
+                                                                 m_environment.queues);
+        return {.keyValueStore = store, .shared = store.get()};
+    }
+    const auto store = std::make_shared<SharedFolderKeyValueStore>(
+        SharedFolderOptions{
+            .folder = address, .device = device, .keepsIn = m_environment.folders.documents, .joins = joins},
+        m_environment.clock, m_environment.queues);
+    return {.address = address,
+            .keyValueStore = store,
+            .shared = store.get(),
+            .retryNow = [store] { store->retryNow(); },
+            .finish = [store](std::chrono::milliseconds atMost) { store->finishWriting(atMost); },
+            .forget = [store] { store->forget(); }};
 }
 
 SharedStoresChoice::Stores SharedStoresChoice::databaseStores(const QString& address, bool joins,
@@ -96,6 +111,12 @@ SharedStoresChoice::Stores SharedStoresChoice::databaseStores(const QString& add
 void SharedStoresChoice::retryNow() {
     if (m_current.retryNow) {
         m_current.retryNow();
+    }
+}
+
+void SharedStoresChoice::finish(std::chrono::milliseconds atMost) const {
+    if (m_current.finish) {
+        m_current.finish(atMost);
     }
 }
 
@@ -123,24 +144,10 @@ void SharedStoresChoice::choose(const QString& address, MainBlock<QString> mainB
         tryStores(std::move(stores), why, std::move(mainBlock));
         return;
     }
-    if (!why.isEmpty()) {
-        mainBlock.post(m_environment.queues.mainQueue(), std::move(why));
-        return;
+    if (why.isEmpty() && !address.isEmpty() && !QDir::isAbsolutePath(address)) {
+        why = kNoFolder;
     }
-    // The disk may take long.
-    m_queue->async([this, address, answer = std::move(mainBlock), alive = std::weak_ptr(m_alive)]() mutable {
-        const QFileInfo folder(address);
-        const bool isUsable =
-            address.isEmpty() || (folder.isAbsolute() && folder.isDir() && folder.isWritable());
-        m_environment.queues.mainQueue().async(
-            [this, address, isUsable, answer = std::move(answer), alive = std::move(alive)]() mutable {
-                if (!alive.expired()) {
-                    tryStores(isUsable ? folderStores(address) : Stores{},
-                              isUsable ? QString() : u"There is no such folder, or it cannot be written."_s,
-                              std::move(answer));
-                }
-            });
-    });
+    tryStores(m_choice || !why.isEmpty() ? Stores{} : folderStores(address, true), why, std::move(mainBlock));
 }
 
 // With another password, perhaps.
@@ -180,7 +187,8 @@ void SharedStoresChoice::tryStores(Stores stores, QString why, MainBlock<QString
     m_environment.queues.mainQueue().asyncAfter(
         kLongestWait, [this, choice = std::weak_ptr(m_choice), alive = std::weak_ptr(m_alive)] {
             if (!alive.expired() && !choice.expired() && !m_choice->isMoving) {
-                end(u"The database cannot be reached."_s);
+                end(isDatabaseAddress(m_choice->stores.address) ? u"The database cannot be reached."_s
+                                                                : kNoFolder);
             }
         });
     look();
@@ -191,10 +199,10 @@ void SharedStoresChoice::look() {
         return;
     }
     const SharedStoreState state = m_choice->stores.shared->sharedState();
-    if (state.isRead) {
+    if (!state.reason.isEmpty()) {
+        end(isDatabaseAddress(m_choice->stores.address) ? state.reason : kNoFolder);
+    } else if (state.isRead) {
         move();
-    } else if (!state.reason.isEmpty()) {
-        end(state.reason);
     }
 }
 
@@ -213,7 +221,10 @@ void SharedStoresChoice::move() {
             differing = values->replace(std::move(store), kSharedKeys, keeps);
             why = differing ? QString() : u"The place cannot take what this device has."_s;
         }
-        if (differing && left.address.isEmpty()) {
+        if (differing && left.finish) {
+            left.finish(kTimeToLeave);
+        }
+        if (differing && left.address.isEmpty() && values->flush()) {
             // What lies in the profile would be found, and outlive an erasure.
             for (const QString& key : kSharedKeys) {
                 left.keyValueStore->removeKey(key);
@@ -236,6 +247,9 @@ void SharedStoresChoice::moved(const std::optional<QStringList>& differing, cons
     }
     const std::shared_ptr<Choice> choice = m_choice;
     m_current.shared->setStateObserver(nullptr);
+    if (m_current.forget) {
+        m_current.forget();
+    }
     m_keyValueStore->endReplaced();
     adopt(choice->stores);
     m_environment.userDefaults.setString(kAddressKey, m_current.address);
@@ -259,6 +273,9 @@ void SharedStoresChoice::end(const QString& why) {
     const std::shared_ptr<Choice> choice = std::exchange(m_choice, nullptr);
     if (!why.isEmpty()) {
         choice->stores.shared->setStateObserver(nullptr);
+        if (choice->stores.forget) {
+            choice->stores.forget();
+        }
     }
     choice->answer.post(m_environment.queues.mainQueue(), QString(why));
     tellChanged();

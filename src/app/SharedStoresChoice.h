@@ -38,9 +38,11 @@ class SharedStoresChoice final : public SharedPlaceActions {
     RecordStore& records() { return m_records; }
 
     SharedPlace place() const override;
-    /// A database is waited for, at most half a minute.
+    /// A folder or database is waited for, at most half a minute.
     void choose(const QString& address, MainBlock<QString> mainBlock) override;
     void retryNow() override;
+    /// Waits until a folder has what this device changed. Before the queues end.
+    void finish(std::chrono::milliseconds atMost) const;
     void setObserver(std::weak_ptr<const void> owner, std::function<void()> changed) override {
         m_observer = std::move(owner);
         m_changed = std::move(changed);
@@ -57,6 +59,9 @@ class SharedStoresChoice final : public SharedPlaceActions {
         /// Part of the key-value store.
         SharedStore* shared = nullptr;
         std::function<void()> retryNow = {};
+        /// The same as of SharedFolderKeyValueStore; empty for other stores.
+        std::function<void(std::chrono::milliseconds)> finish = {};
+        std::function<void()> forget = {};
     };
     /// A choice that is being made.
     struct Choice {
@@ -65,7 +70,7 @@ class SharedStoresChoice final : public SharedPlaceActions {
         bool isMoving = false;
     };
 
-    Stores folderStores(const QString& address) const;
+    Stores folderStores(const QString& address, bool joins) const;
     Stores databaseStores(const QString& address, bool joins, QString& why) const;
     void stay(const QString& address, MainBlock<QString> answer);
     void tryStores(Stores stores, QString why, MainBlock<QString> answer);

@@ -56,6 +56,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::chrono::seconds kTimeToEnd{10};
+// What was changed last reaches a folder that other devices share, if the folder answers.
+constexpr std::chrono::seconds kTimeToShare{2};
 constexpr std::size_t kMostResponseCache = std::size_t(256) << 20;
 constexpr auto kScheme = "quellin-guide"_L1;
 
@@ -444,6 +446,7 @@ int run(LaunchOptions options, bool drawsWebPages) {
                     .window = shown};
     const std::optional<int> status = options.update ? updateOnce(program) : showGuide(program);
     const bool ended = delegate.shutDown(kTimeToEnd);
+    stores.finish(kTimeToShare);
     queues.shutDown();
     if (!status) {
         return refuse(delegate.catalogueProblem());

@@ -71,7 +71,8 @@ struct MirroredFile::State {
             }
             return true;
         }
-        if (keyValueStore.setValue(place.key, copy)) {
+        // What the store has only in memory would be lost with the process.
+        if (keyValueStore.setValue(place.key, copy) && keyValueStore.flush()) {
             QFile::remove(mark());
             return true;
         }

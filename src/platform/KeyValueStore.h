@@ -26,6 +26,10 @@ class KeyValueStore {
     virtual bool setValue(const QString& key, const QCborValue& value) = 0;
     virtual void removeKey(const QString& key) = 0;
 
+    /// Blocks until what was set outlives this process, however it ends. False when that is impossible now.
+    /// Not on the main thread.
+    virtual bool flush() { return true; }
+
     /// Sets the observer of later changes that are not made through this object; nullptr removes it. The
     /// store does not own it. Main thread only.
     virtual void setObserver(KeyValueStoreObserver* observer) = 0;

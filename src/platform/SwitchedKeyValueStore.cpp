@@ -25,6 +25,15 @@ void SwitchedKeyValueStore::removeKey(const QString& key) {
     m_store->removeKey(key);
 }
 
+bool SwitchedKeyValueStore::flush() {
+    std::shared_ptr<KeyValueStore> store;
+    {
+        const std::shared_lock lock(m_guard);
+        store = m_store;
+    }
+    return store->flush();
+}
+
 void SwitchedKeyValueStore::setObserver(KeyValueStoreObserver* observer) {
     const std::shared_lock lock(m_guard);
     m_observer = observer;

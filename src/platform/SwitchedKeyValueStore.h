@@ -21,6 +21,7 @@ class SwitchedKeyValueStore final : public KeyValueStore {
     std::optional<QCborValue> valueForKey(const QString& key) const override;
     bool setValue(const QString& key, const QCborValue& value) override;
     void removeKey(const QString& key) override;
+    bool flush() override;
     void setObserver(KeyValueStoreObserver* observer) override;
 
     /// Whose value of a key that both stores have remains when one takes the other's place.

@@ -1,5 +1,7 @@
 #include "app/SharedStoresChoice.h"
 
+#include "alarms/FavoritesFile.h"
+#include "alarms/TVShows.h"
 #include "fakes/ManualQueues.h"
 #include "platform/linux/FolderKeyValueStore.h"
 #include "platform/memory/MemorySecretStore.h"
@@ -97,6 +99,7 @@ TEST_F(SharedStoresChoiceTest, APlaceThatCannotBeUsedChangesNothing) {
         EXPECT_EQ(choose(address), u"There is no such folder, or it cannot be written."_s)
             << address.toStdString();
     }
+    EXPECT_TRUE(QDir(folders.documents).isEmpty()) << "what was tried leaves nothing";
     EXPECT_FALSE(choose(u"postgresql://anna@tv.example/guide?sslmode=disable"_s).isEmpty());
     EXPECT_FALSE(choose(u"postgresql://tv.example"_s).isEmpty());
     EXPECT_EQ(choice->place().kind, SharedPlace::Kind::ThisDevice);
@@ -110,8 +113,32 @@ TEST_F(SharedStoresChoiceTest, AFolderThatVanishesSaysSo) {
     ASSERT_EQ(choose(place), QString());
     choice->keyValueStore().setValue(u"Favorites"_s, u"ours"_s);
     ASSERT_TRUE(QDir(place).removeRecursively());
+    choice->retryNow();
+    queues.runAll();
     EXPECT_EQ(choice->place().state.connection, SharedStoreConnection::Offline);
     EXPECT_FALSE(choice->place().state.reason.isEmpty());
+}
+
+TEST_F(SharedStoresChoiceTest, AListThatWasSetBeforeAKillIsNotReplacedByTheOldOne) {
+    const QString place = made(u"sync"_s);
+    const std::vector<Favorite> older{{u"Older"_s, {}, Moment(), {}}};
+    const std::vector<Favorite> newer{{u"Newer"_s, {}, Moment(), {}}};
+    ASSERT_EQ(choose(place), QString());
+    TVShows shows(folders, choice->keyValueStore(), queues);
+    shows.setFavorites(older);
+    queues.runAll();
+    shows.setFavorites(newer);
+    queues.run("favorites");
+    // Only what is in files survives.
+    const Folders survived{{}, made(u"survived"_s), {}, {}, {}, {}};
+    for (const QFileInfo& file : QDir(folders.documents).entryInfoList(QDir::Files)) {
+        QFile::copy(file.filePath(), survived.documents + u'/' + file.fileName());
+    }
+    SharedStoresChoice next({survived, defaults, clock, secrets, queues});
+    TVShows restarted(survived, next.keyValueStore(), queues);
+    EXPECT_EQ(restarted.favorites(), newer);
+    EXPECT_TRUE(restarted.hasUnshared() ||
+                next.keyValueStore().valueForKey(u"Favorites"_s) == favoritesMirror(newer));
 }
 
 } // namespace

@@ -3,11 +3,11 @@
 #include "SyncedGuide.h"
 #include "alarms/FavoritesFile.h"
 #include "alarms/SilentHours.h"
+#include "app/SharedStoresChoice.h"
 #include "core/SelectionFile.h"
+#include "core/own/OwnSourceArchive.h"
 #include "platform/linux/EventLoopQueues.h"
-#include "platform/linux/FolderKeyValueStore.h"
 #include "platform/linux/LinuxClock.h"
-#include "platform/linux/database/SharedStores.h"
 #include "platform/memory/MemorySecretStore.h"
 
 #include <QCoreApplication>
@@ -42,6 +42,18 @@ QString textOf(const std::vector<Favorite>& rules) {
     return titles.join(u' ');
 }
 
+QString textOf(const OwnSourceList& sources) {
+    std::vector<int> numbers;
+    for (const OwnSource& source : sources) {
+        numbers.push_back(source.id.hex().toInt());
+    }
+    std::ranges::sort(numbers);
+    QStringList texts;
+    std::ranges::transform(numbers, std::back_inserter(texts),
+                           [](int number) { return QString::number(number); });
+    return texts.join(u' ');
+}
+
 QString textOf(const std::vector<ObjectId>& selected) {
     QStringList numbers;
     for (const ObjectId& channel : selected) {
@@ -65,28 +77,21 @@ class SkewedClock final : public Clock {
 class Device {
   public:
     Device(const QString& profile, const QString& place, const QString& name, int hoursAhead)
-        : m_clock(hoursAhead) {
-        if (QDir::isAbsolutePath(place)) {
-            auto store = std::make_unique<FolderKeyValueStore>(place, name + u"-1"_s, m_queues);
-            m_state = store.get();
-            m_store = std::move(store);
-        } else {
-            QString why;
-            SharedStores stores = sharedStoresFor(place,
-                                                  {.folder = profile,
-                                                   .deviceName = name,
-                                                   .firstRetry = std::chrono::milliseconds(20),
-                                                   .longestRetry = std::chrono::milliseconds(200)},
-                                                  m_clock, m_secrets, m_queues, why);
-            m_state = stores.state;
-            m_store = std::move(stores.keyValueStore);
-        }
+        : m_clock(hoursAhead)
+        , m_folders{profile, profile, {}, {}, profile, {}} {
+        m_defaults.setString(u"sharedPlace"_s, place);
+        m_defaults.setString(u"device"_s, name + u"-1"_s);
+        m_choice = std::make_unique<SharedStoresChoice>(
+            SharedStoresChoice::Environment{m_folders, m_defaults, m_clock, m_secrets, m_queues});
+        m_store = &m_choice->keyValueStore();
         m_guide = std::make_unique<SyncedGuide>(m_clock, m_queues, *m_store, profile);
         m_guide->sync.cloudDidChangeExternally({});
     }
     ~Device() {
         m_guide->shows.finishWriting();
         m_guide->channels.finishWriting();
+        m_guide->sources.finishWriting();
+        m_choice->finish(std::chrono::seconds(2));
         m_queues.shutDown();
     }
     Device(const Device&) = delete;
@@ -98,6 +103,10 @@ class Device {
         const QString before = values().value(key);
         if (key == u"activate"_s) {
             m_guide->sync.cloudDidChangeExternally({});
+        } else if (key == u"retry"_s) {
+            m_choice->retryNow();
+        } else if (key == u"flush"_s) {
+            m_store->flush();
         } else if (words.size() > 1) {
             change(key, words.mid(1));
         }
@@ -131,6 +140,10 @@ class Device {
                 numbers.push_back(word.toInt());
             }
             m_guide->channels.setSelected(SyncedGuide::channelsNumbered(numbers));
+        } else if (key == kSharedSources) {
+            OwnSource source;
+            source.id = OwnSourceId::fromHex(words[1].rightJustified(16, u'0')).value_or(OwnSourceId());
+            words[0] == u"add"_s ? m_guide->sources.put(source) : m_guide->sources.remove(source.id);
         } else {
             set(key, words[0].toInt());
         }
@@ -151,7 +164,8 @@ class Device {
     SharedTexts values() {
         SharedTexts texts{
             {kSharedLists[0], textOf(m_guide->shows.favorites().value_or(std::vector<Favorite>()))},
-            {kSharedLists[1], textOf(m_guide->channels.selected())}};
+            {kSharedLists[1], textOf(m_guide->channels.selected())},
+            {kSharedSources, textOf(*m_guide->sources.snapshot())}};
         for (const QString& key : kSharedSettings) {
             const auto value = m_store->valueForKey(key);
             texts.insert(key, value ? sharedText(key, *value) : QString());
@@ -165,7 +179,7 @@ class Device {
         for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
             shared.insert(text.key(), *text);
         }
-        const SharedStoreState store = m_state->sharedState();
+        const SharedStoreState store = m_choice->place().state;
         const bool isReady = store.connection == SharedStoreConnection::Connected && store.isRead &&
                              !m_guide->shows.hasUnshared() && !m_guide->channels.hasUnshared();
         return {{kReady, isReady}, {kValues, shared}};
@@ -188,8 +202,10 @@ class Device {
     EventLoopQueues m_queues;
     const SkewedClock m_clock;
     MemorySecretStore m_secrets;
-    std::unique_ptr<KeyValueStore> m_store;
-    SharedStore* m_state = nullptr;
+    MemoryUserDefaults m_defaults;
+    const Folders m_folders;
+    std::unique_ptr<SharedStoresChoice> m_choice;
+    KeyValueStore* m_store = nullptr;
     std::unique_ptr<SyncedGuide> m_guide;
 };
 
@@ -201,6 +217,9 @@ QString sharedText(const QString& key, const QCborValue& value) {
     }
     if (key == kSharedLists[1]) {
         return textOf(selectionOfValue(value).value_or(std::vector<ObjectId>()));
+    }
+    if (key == kSharedSources) {
+        return textOf(ownSourcesOfValue(value).value_or(StoredSources()).sources);
     }
     return value.isDateTime() ? value.toDateTime().toUTC().toString(Qt::ISODateWithMs)
                               : value.toVariant().toString();

@@ -16,6 +16,8 @@ inline const QStringList kSharedLists{QStringLiteral("Favorites"), QStringLitera
 inline const QStringList kSharedSettings{
     QStringLiteral("noAlarmsSchedule"), QStringLiteral("noAlarmsSchedule.0"),
     QStringLiteral("noAlarmsSchedule.1"), QStringLiteral("lastAlarmMinutes")};
+/// Numbers; unlike the values above, those of two devices are merged.
+inline const QString kSharedSources = QStringLiteral("OwnSources");
 QString sharedText(const QString& key, const QCborValue& value);
 
 struct GuideState {
@@ -45,12 +47,17 @@ class GuideProcess {
 
     // What a user does; the state right afterwards.
 
-    /// `change` is "add" or "remove" with a title, the numbers of channels, or one number.
+    /// `change` is "add" or "remove" with a title or the number of a source, the numbers of channels, or one
+    /// number.
     GuideState change(const QString& key, const QString& change) {
         return ask(key + QLatin1Char(' ') + change);
     }
     GuideState activate() { return ask(QStringLiteral("activate")); }
     GuideState kept() { return ask(QStringLiteral("kept")); }
+    /// Keeps what was set, even if the device is killed.
+    GuideState flush() { return ask(QStringLiteral("flush")); }
+    /// As when a network appears.
+    GuideState retry() { return ask(QStringLiteral("retry")); }
     GuideState state() { return ask(QStringLiteral("state")); }
 
   private:

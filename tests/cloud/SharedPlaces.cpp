@@ -48,8 +48,12 @@ QString FolderPlace::disturb(Random& random) {
     if (QDir().rename(awayPathOf(device), addressFor(device))) {
         return u"folder %1 is back"_s.arg(device);
     }
-    EXPECT_TRUE(QDir().rename(addressFor(device), awayPathOf(device)));
+    lose(device);
     return u"folder %1 is away"_s.arg(device);
+}
+
+void FolderPlace::lose(int device) {
+    EXPECT_TRUE(QDir().rename(addressFor(device), awayPathOf(device)));
 }
 
 void FolderPlace::recover() {

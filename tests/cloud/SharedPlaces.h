@@ -31,6 +31,8 @@ class PlaceUnderTest {
     virtual QString addressFor(int device) const = 0;
     /// Something happens to the place; returns what.
     virtual QString disturb(Random& random) = 0;
+    /// The device cannot reach the place.
+    virtual void lose(int device) = 0;
     /// Ends the faults.
     virtual void recover() = 0;
     /// Brings what one device stored to the other, if the place does not do that itself.
@@ -50,6 +52,7 @@ class FolderPlace final : public PlaceUnderTest {
         return m_folder.filePath(QStringLiteral("shared-%1").arg(device));
     }
     QString disturb(Random& random) override;
+    void lose(int device) override;
     void recover() override;
     void replicate() override;
     bool isReplicatedByTool() const override { return true; }
@@ -80,6 +83,10 @@ class DatabasePlace final : public PlaceUnderTest {
         return addressWith(m_address, m_proxies[static_cast<std::size_t>(device)].port());
     }
     QString disturb(Random& random) override;
+    void lose(int) override {
+        m_server.stop();
+        m_isStopped = true;
+    }
     void recover() override;
     std::optional<SharedTexts> values() override;
     QString writes() override;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cloud/CloudSync.h"
+#include "core/own/OwnSources.h"
 #include "fakes/FakeApplicationState.h"
 #include "fakes/FakeBackgroundTasks.h"
 #include "fakes/FakeDevice.h"
@@ -21,6 +22,7 @@ class SyncedGuide : KeyValueStoreObserver {
         , m_folders{profile, profile, profile, {}, {}, {}, true}
         , channels(m_folders, store, queues, catalogue)
         , shows(m_folders, store, queues)
+        , sources(m_folders, store, queues)
         , listings({clock, m_device, m_folders, queues, m_tasks, m_state, channels, m_alphabet, shows,
                     m_popular, m_observer, u"guide"_s, [] { return 4; }})
         , replaced(m_folders, clock)
@@ -37,6 +39,7 @@ class SyncedGuide : KeyValueStoreObserver {
                 .selectionReplaced = [this] { ++refreshes; },
                 .favoritesUpdated = [this] { ++updates; },
                 .favoritesEmptied = [this](const auto&) { ++emptied; }}) {
+        takeSources();
         store.setObserver(this);
     }
     ~SyncedGuide() override { m_store.setObserver(nullptr); }
@@ -68,7 +71,13 @@ class SyncedGuide : KeyValueStoreObserver {
     }
 
   private:
+    void takeSources() {
+        if (const auto shared = m_store.valueForKey(kOwnSourcesKey)) {
+            sources.takeFrom(*shared);
+        }
+    }
     void valuesChangedExternally(const QStringList&) override {
+        takeSources();
         sync.cloudDidChangeExternally(CloudSync::Reason::Server);
     }
 
@@ -87,6 +96,7 @@ class SyncedGuide : KeyValueStoreObserver {
     FakeAlarms alarms;
     TVChannels channels;
     TVShows shows;
+    OwnSources sources;
     TVListings listings;
     ReplacedLists replaced;
     CloudSync sync;

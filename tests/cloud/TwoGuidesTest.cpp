@@ -47,6 +47,7 @@ class TwoGuides {
         m_steps.clear();
         m_sets.clear();
         m_sure.clear();
+        m_sources.clear();
         m_killed = {};
         m_own = {m_settled, m_settled};
         for (int left = 3 + m_random.below(6); left > 0; --left) {
@@ -66,7 +67,12 @@ class TwoGuides {
         }
         QElapsedTimer timer;
         timer.start();
-        while (!isSettled()) {
+        for (qint64 retries = 0; !isSettled();) {
+            if (timer.elapsed() >= 200 * retries) {
+                ++retries;
+                m_guides[0].retry();
+                m_guides[1].retry();
+            }
             if (timer.elapsed() > kPatience || testing::Test::HasFailure()) {
                 const auto stored = m_place.values();
                 ADD_FAILURE() << "not settled:\n"
@@ -93,6 +99,28 @@ class TwoGuides {
         EXPECT_EQ(m_place.writes(), writes) << steps();
         for (GuideProcess& guide : m_guides) {
             EXPECT_EQ(text(guide.state().values), text(m_settled)) << steps();
+        }
+    }
+
+    /// Settings that a device makes without the place outlive its end and reach the other one.
+    void setWithoutPlace(bool isKilled) {
+        m_place.lose(0);
+        SharedTexts expected;
+        for (const QString& key : kSharedSettings) {
+            expected[key] = m_guides[0].change(key, randomChange(key)).values.value(key);
+        }
+        if (isKilled) {
+            m_guides[0].flush();
+            m_guides[0].kill();
+        } else {
+            m_guides[0].end();
+        }
+        m_guides[0].start();
+        const SharedTexts known = m_guides[0].state().values;
+        settle();
+        for (const QString& key : kSharedSettings) {
+            EXPECT_EQ(known.value(key), expected.value(key)) << key.toStdString();
+            EXPECT_EQ(m_settled.value(key), expected.value(key)) << key.toStdString();
         }
     }
 
@@ -146,6 +174,9 @@ class TwoGuides {
                 for (int& devices : m_sure) {
                     devices &= ~(1 << i);
                 }
+                for (SourceChange& each : m_sources) {
+                    each.isSure = each.isSure && each.device != i;
+                }
             }
             if (m_random.below(2) == 0) {
                 note(u"%1 starts"_s.arg(i));
@@ -165,12 +196,14 @@ class TwoGuides {
     }
 
     void change(int device) {
-        const QStringList keys = kSharedLists + kSharedLists + kSharedSettings;
+        const QStringList keys = kSharedLists + kSharedLists + kSharedSettings + QStringList(kSharedSources);
         const QString key = keys[m_random.below(static_cast<int>(keys.size()))];
         const QString what = randomChange(key);
         const GuideState state = m_guides[static_cast<std::size_t>(device)].change(key, what);
         note(u"%1 changes %2: %3%4"_s.arg(device).arg(key, what, state.isChanged ? QString() : u" (same)"_s));
-        if (state.isChanged) {
+        if (state.isChanged && key == kSharedSources) {
+            m_sources.push_back({what.section(u' ', 1), what.startsWith(u"add"_s), device, true});
+        } else if (state.isChanged) {
             m_sets[key] << state.values.value(key);
             m_sure[key] |= 1 << device;
             m_own[static_cast<std::size_t>(device)][key] = state.values.value(key);
@@ -189,6 +222,11 @@ class TwoGuides {
             // An empty selection is not shared.
             return numbers.mid(m_random.below(5)).join(u' ');
         }
+        if (key == kSharedSources) {
+            // What was removed does not come back.
+            return m_random.below(2) == 0 ? u"add %1"_s.arg(++m_lastSource)
+                                          : u"remove %1"_s.arg(m_lastSource - m_random.below(3));
+        }
         return QString::number(m_random.below(1440));
     }
 
@@ -200,7 +238,7 @@ class TwoGuides {
             return false;
         }
         auto stored = m_place.values();
-        for (const QString& key : kSharedLists + kSharedSettings) {
+        for (const QString& key : kSharedLists + kSharedSettings + QStringList(kSharedSources)) {
             if (!stored || stored->value(key) != m_states[0].values.value(key)) {
                 return false;
             }
@@ -234,6 +272,7 @@ class TwoGuides {
                 EXPECT_LE(m_states[i].kept.value(key).size(), 10);
             }
         }
+        expectRightSources();
         m_before = m_settled;
     }
 
@@ -242,6 +281,33 @@ class TwoGuides {
         const QStringList elements = list.split(u' ');
         return std::ranges::all_of(part.split(u' '),
                                    [&elements](const QString& each) { return elements.contains(each); });
+    }
+
+    void expectRightSources() {
+        const QStringList now = m_settled.value(kSharedSources).split(u' ', Qt::SkipEmptyParts);
+        QStringList possible = m_before.value(kSharedSources).split(u' ', Qt::SkipEmptyParts);
+        QStringList sure = possible;
+        for (const SourceChange& each : m_sources) {
+            QStringList& added = each.isSure ? sure : possible;
+            if (each.isAdded) {
+                possible << each.number;
+                added << each.number;
+            }
+        }
+        for (const SourceChange& each : m_sources) {
+            if (!each.isAdded) {
+                sure.removeAll(each.number);
+                if (each.isSure) {
+                    possible.removeAll(each.number);
+                }
+            }
+        }
+        for (const QString& number : now) {
+            EXPECT_TRUE(possible.contains(number)) << "source " << number.toStdString() << steps();
+        }
+        for (const QString& number : std::as_const(sure)) {
+            EXPECT_TRUE(now.contains(number)) << "no source " << number.toStdString() << steps();
+        }
     }
 
     /// Lists are kept in the background.
@@ -282,6 +348,15 @@ class TwoGuides {
     /// The devices whose change of the key cannot be lost, as bits.
     QMap<QString, int> m_sure;
     std::array<bool, 2> m_killed{};
+    struct SourceChange {
+        QString number;
+        bool isAdded;
+        int device;
+        /// It cannot be lost.
+        bool isSure;
+    };
+    std::vector<SourceChange> m_sources;
+    int m_lastSource = 0;
     /// What each device had of its own.
     std::array<SharedTexts, 2> m_own;
 };
@@ -304,6 +379,13 @@ TEST_P(TwoGuidesTest, FollowEachOtherAtOnce) {
     std::cout << "longest delay: " << longest << " ms\n";
     // Two seconds on a machine that has nothing else to do.
     EXPECT_LT(longest, 10'000);
+}
+
+TEST_P(TwoGuidesTest, WhatIsSetWithoutThePlaceArrives) {
+    TwoGuides guides(*place, 1);
+    guides.settle();
+    guides.setWithoutPlace(false);
+    guides.setWithoutPlace(true);
 }
 
 TEST_P(TwoGuidesTest, AgreeAfterFaults) {

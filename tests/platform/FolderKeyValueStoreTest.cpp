@@ -3,6 +3,7 @@
 #include "fakes/Files.h"
 #include "fakes/ManualQueues.h"
 #include "platform/files/FileReplacement.h"
+#include "platform/linux/KeyValueFiles.h"
 
 #include <QCborArray>
 #include <QCborMap>
@@ -22,7 +23,7 @@ namespace {
 
 class FolderKeyValueStoreTest : public testing::Test {
   protected:
-    QString fileOf(const QString& key) const { return folder.filePath(FolderKeyValueStore::fileName(key)); }
+    QString fileOf(const QString& key) const { return folder.filePath(KeyValueFiles::fileName(key)); }
 
     FolderKeyValueStoreTest() { QDir().mkpath(folder.path()); }
 
@@ -294,7 +295,6 @@ TEST_F(WatchedFolderTest, TheFolderMayDisappearAndReappear) {
     ASSERT_TRUE(QDir().rename(folder.path(), root.filePath(u"away"_s)));
     EXPECT_EQ(announced(), QStringList());
     EXPECT_FALSE(store.setValue(u"a"_s, 9));
-    EXPECT_FALSE(store.setValue(u"c"_s, 9));
     EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(1)) << "the value last read";
     const QString replacement = root.filePath(u"replacement"_s);
     ASSERT_TRUE(QDir().mkpath(replacement));
@@ -302,7 +302,7 @@ TEST_F(WatchedFolderTest, TheFolderMayDisappearAndReappear) {
     replaced.setValue(u"a"_s, 1);
     replaced.setValue(u"b"_s, 2);
     ASSERT_TRUE(QDir().rename(replacement, folder.path()));
-    EXPECT_EQ(announced(), QStringList({u"a"_s, u"b"_s, u"c"_s})) << "what could not be set may be set now";
+    EXPECT_EQ(announced(), QStringList({u"b"_s}));
     other.setValue(u"a"_s, 3);
     EXPECT_EQ(announced(), QStringList(u"a"_s));
 

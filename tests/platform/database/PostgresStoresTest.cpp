@@ -3,6 +3,7 @@
 #include "Proxy.h"
 #include "TestGuide.h"
 #include "fakes/Files.h"
+#include "platform/linux/SharedValues.h"
 #include "platform/linux/database/DatabaseSetup.h"
 #include "platform/linux/database/IncrementQueue.h"
 
@@ -58,6 +59,11 @@ TEST_F(PostgresStoresTest, CatchesUpAfterTheServerWasAway) {
     EXPECT_TRUE(
         TestGuide::waitFor([&] { return phone.state().reason == u"The database cannot be reached."_s; }));
     phone.set("a", 2);
+    ASSERT_TRUE(phone.values().flush());
+    const QString file = QDir(phone.profile.path()).entryInfoList({u"*.values"_s}).front().filePath();
+    QString why;
+    EXPECT_EQ(SharedValues(file, databaseAddress(address, why)->text(), nullptr).value(u"a"_s), QCborValue(2))
+        << "even if the guide is killed now";
     tablet.values().removeKey(u"b"_s);
     tablet.restart();
     EXPECT_EQ(tablet.value("a"), QCborValue(1)) << "the last values, without a connection";

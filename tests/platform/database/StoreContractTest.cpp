@@ -2,6 +2,7 @@
 #include "PostgresServer.h"
 #include "TestGuide.h"
 #include "platform/linux/FolderKeyValueStore.h"
+#include "platform/linux/SharedFolderKeyValueStore.h"
 #include "platform/linux/database/SQLiteRecordStore.h"
 #include "platform/memory/ManualClock.h"
 #include "platform/memory/MemoryKeyValueStore.h"
@@ -61,6 +62,29 @@ class FolderValues final : public StoredValues {
     const QTemporaryDir m_folder;
     FolderKeyValueStore m_store{m_folder.path(), QStringLiteral("desk-1"), loop.queues};
     FolderKeyValueStore m_other{m_folder.path(), QStringLiteral("phone-2"), loop.queues};
+};
+
+class SharedFolderValues final : public StoredValues {
+  public:
+    SharedFolderValues() {
+        EXPECT_TRUE(TestGuide::waitFor([&] { return m_store.sharedState().isRead; }));
+        EXPECT_TRUE(TestGuide::waitFor([&] { return m_other.sharedState().isRead; }));
+    }
+    KeyValueStore& store() override { return m_store; }
+    KeyValueStore& other() override { return m_other; }
+
+  private:
+    const QTemporaryDir m_folder;
+    const QTemporaryDir m_kept;
+    const QTemporaryDir m_otherKept;
+    SharedFolderKeyValueStore m_store{
+        {.folder = m_folder.path(), .device = u"desk-1"_s, .keepsIn = m_kept.path()},
+        loop.clock,
+        loop.queues};
+    SharedFolderKeyValueStore m_other{
+        {.folder = m_folder.path(), .device = u"phone-2"_s, .keepsIn = m_otherKept.path()},
+        loop.clock,
+        loop.queues};
 };
 
 class PostgresValues final : public StoredValues {
@@ -162,6 +186,9 @@ INSTANTIATE_TEST_SUITE_P(
                    []() -> std::unique_ptr<ValuesUnderTest> { return std::make_unique<MemoryValues>(); }},
         ValuesKind{"Folder",
                    []() -> std::unique_ptr<ValuesUnderTest> { return std::make_unique<FolderValues>(); }},
+        ValuesKind{
+            "SharedFolder",
+            []() -> std::unique_ptr<ValuesUnderTest> { return std::make_unique<SharedFolderValues>(); }},
         ValuesKind{"Postgres",
                    []() -> std::unique_ptr<ValuesUnderTest> { return std::make_unique<PostgresValues>(); }}),
     [](const auto& kind) { return std::string(kind.param.name); });

@@ -308,7 +308,8 @@ void FolderEventStore::setCalendarsChanged(std::function<void()> calendarsChange
     }
     const std::lock_guard lock(m_mutex);
     if (m_watch == nullptr) {
-        m_watch = std::make_unique<FolderTreeWatch>(m_parent, [this] { look(); });
+        m_watch = std::make_unique<FolderTreeWatch>(m_parent, FolderTreeWatch::Depth::FoldersInIt,
+                                                    [this] { look(); });
     }
     m_known = stampsNow().value_or(Known());
     const std::lock_guard functionLock(m_functionMutex);

@@ -3,7 +3,7 @@
 #include "platform/Clock.h"
 #include "platform/calendar/EventStore.h"
 #include "platform/linux/calendar/CalendarFolder.h"
-#include "platform/linux/calendar/FolderTreeWatch.h"
+#include "platform/linux/watch/FolderTreeWatch.h"
 
 #include <QSet>
 

@@ -35,8 +35,7 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
         , m_values(std::move(values))
         , m_observers(observers)
         , m_clock(clock)
-        , m_queues(queues)
-        , m_files(queues.makeQueue("databaseValues", QueueKind::Serial, QueuePriority::Background)) {}
+        , m_queues(queues) {}
 
     void connected(const DatabaseGreeting& greeting) override {
         m_sessionId = greeting.session;
@@ -60,23 +59,16 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
                 tellState();
             }
         }
-        save();
+        m_values->saveSoon();
     }
 
     bool isRead() const { return m_isRead; }
 
-    bool accepts(const QString& key) const { return key.toUtf8().size() <= m_keyBytes; }
-    qsizetype valueBytes() const { return m_valueBytes; }
-
-    /// Saves soon, on a queue of its own.
-    void save() {
-        if (m_values->needsSaving() && !m_isSaving.exchange(true)) {
-            m_files->async([self = shared_from_this()] {
-                self->m_isSaving = false;
-                self->m_values->save();
-            });
-        }
+    /// PostgreSQL has no texts with a zero.
+    bool accepts(const QString& key) const {
+        return key.toUtf8().size() <= m_keyBytes && !key.contains(QChar(u'\0'));
     }
+    qsizetype valueBytes() const { return m_valueBytes; }
 
   private:
     void send(PostgresConnection& connection) {
@@ -186,8 +178,6 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
     const std::weak_ptr<Observers> m_observers;
     const Clock& m_clock;
     DispatchQueues& m_queues;
-    const std::shared_ptr<DispatchQueue> m_files;
-    std::atomic<bool> m_isSaving = false;
     std::atomic<bool> m_isRead = false;
     std::atomic<qsizetype> m_valueBytes = kUsualValueBytes;
     std::atomic<qsizetype> m_keyBytes = kUsualKeyBytes;
@@ -232,14 +222,14 @@ bool PostgresKeyValueStore::setValue(const QString& key, const QCborValue& value
     case SharedValues::SetOutcome::Changed:
         break;
     }
-    m_exchange->save();
+    m_values->saveSoon();
     m_session->wake();
     return true;
 }
 
 void PostgresKeyValueStore::removeKey(const QString& key) {
     if (m_values->remove(key)) {
-        m_exchange->save();
+        m_values->saveSoon();
         m_session->wake();
     }
 }

@@ -3,8 +3,8 @@
 #include "platform/Clock.h"
 #include "platform/KeyValueStore.h"
 #include "platform/SharedStoreState.h"
+#include "platform/linux/SharedValues.h"
 #include "platform/linux/database/PostgresSession.h"
-#include "platform/linux/database/SharedValues.h"
 
 #include <memory>
 
@@ -24,6 +24,7 @@ class PostgresKeyValueStore final : public KeyValueStore, public SharedStore {
     /// False for a value that cannot be expressed or that the database is known to refuse.
     bool setValue(const QString& key, const QCborValue& value) override;
     void removeKey(const QString& key) override;
+    bool flush() override { return m_values->save(); }
     void setObserver(KeyValueStoreObserver* observer) override;
 
     SharedStoreState sharedState() const override;

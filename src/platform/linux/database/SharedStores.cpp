@@ -21,7 +21,9 @@ SharedStores sharedStoresFor(const QString& address, const SharedStoresOptions& 
         options.folder + u"/database-"_s +
         QString::fromLatin1(
             QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toHex().left(kDigits));
-    const auto values = std::make_shared<SharedValues>(name + ".values"_L1, text);
+    const auto values = std::make_shared<SharedValues>(
+        name + ".values"_L1, text,
+        queues.makeQueue("sharedValues", QueueKind::Serial, QueuePriority::Background));
     if (options.joins) {
         values->clear();
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Moment.h"
+#include "platform/queues/DispatchQueue.h"
 
 #include <QByteArray>
 #include <QCborValue>
@@ -9,16 +10,20 @@
 #include <QStringList>
 #include <QUuid>
 
+#include <atomic>
 #include <chrono>
+#include <cstdint>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <vector>
 
 namespace guide {
 
-/// What a device knows of values that are in a database: the last ones it received, and its own changes that
-/// were not sent yet. Kept in a file. Any thread; nothing waits for more than that file.
-class SharedValues {
+/// What a device knows of values that it shares with others in a place that may be out of reach: the last
+/// ones it received, and its own changes that were not sent yet. Kept in a file. Any thread; only load and
+/// save wait for that file.
+class SharedValues : public std::enable_shared_from_this<SharedValues> {
   public:
     using Bytes = std::optional<QByteArray>;
 
@@ -27,8 +32,10 @@ class SharedValues {
         QString key;
         Bytes bytes;
         QUuid write;
+        /// See attempt().
+        std::int64_t attempt = 0;
     };
-    /// A key that the database has, and the write that made its value.
+    /// A key that the place has, and the write that made its value; null when the value cannot be read now.
     struct StoredKey {
         QString key;
         QUuid write;
@@ -42,10 +49,11 @@ class SharedValues {
     };
     enum class SetOutcome { Changed, Same, Refused };
 
-    /// A file that does not exist, is damaged or is of another address counts as empty.
-    SharedValues(QString path, QString address);
+    /// A file that does not exist, is damaged or is of another address counts as empty. The queue is serial
+    /// and saves.
+    SharedValues(QString path, QString address, std::shared_ptr<DispatchQueue> saver);
 
-    /// Names this device in the database.
+    /// Names this device.
     const QUuid& device() const { return m_device; }
     Others others() const;
     void setOthers(const Others& others);
@@ -55,42 +63,56 @@ class SharedValues {
     SetOutcome set(const QString& key, const QCborValue& value, qsizetype mostBytes);
     /// False when there is none.
     bool remove(const QString& key);
+    /// The same, also when nothing is known of the key: there may be something that cannot be read.
+    void removeAnyway(const QString& key);
+    /// Those with a value.
+    QStringList keys() const;
 
     /// Gives up all values, and with them the changes that have not been sent.
     void clear();
     /// In no particular order, without those that are held back.
     std::vector<Change> changesToSend() const;
-    /// The database has the change; `stored` is the write that made the value which it has now.
+    /// The change is about to be sent with this number, which comes back with it if it is sent again; 0 when
+    /// that has failed.
+    void attempt(const Change& change, std::int64_t number);
+    /// The place has the change; `stored` is the write that made the value which it has now.
     void sent(const Change& change, const QUuid& stored);
-    /// The database refused the change, which remains the value of this device.
+    /// The place refused the change, which remains the value of this device.
     void holdBack(const Change& change, std::chrono::steady_clock::time_point until);
     bool holdsBack() const;
     void sendAll();
 
-    /// Compares with what the database has. `toRead` are the keys whose values must be read; the result are
+    /// Compares with what the place has. `toRead` are the keys whose values must be read; the result are
     /// those that other devices removed.
     QStringList compare(const std::vector<StoredKey>& stored, QStringList& toRead);
     /// A value that was read. Whether it replaced another one.
     bool receive(const StoredKey& stored, const QByteArray& bytes);
 
-    /// Whether something changed since the last save().
-    bool needsSaving() const;
-    void save();
+    /// Blocks until the file has everything; false when it cannot be written.
+    bool save();
+    /// Gives up everything, also the file, which is not written again.
+    void forget();
+    /// Saves soon, on the queue, if something changed since the last time.
+    void saveSoon();
 
   private:
     struct Entry {
-        /// Without bytes, the key is removed and the database does not know yet.
+        /// Without bytes, the key is removed and the place does not know yet.
         Bytes bytes;
         std::optional<QCborValue> value;
-        /// The write that made the value in the database, as far as known.
+        /// The write that made the value in the place, as far as known.
         QUuid known;
         /// The change that is to be sent.
         QUuid pending;
+        std::int64_t attempt = 0;
         std::chrono::steady_clock::time_point heldUntil;
     };
 
     void load();
+    static void change(Entry& entry);
 
+    const std::shared_ptr<DispatchQueue> m_saver;
+    std::atomic<bool> m_isSaving = false;
     const QString m_path;
     const QString m_address;
     QUuid m_device = QUuid::createUuid();
@@ -102,6 +124,7 @@ class SharedValues {
     /// Without a file, because of the name of this device.
     bool m_needsSaving = true;
     std::mutex m_fileGuard;
+    bool m_isForgotten = false; // guarded by the one above
 };
 
 } // namespace guide

@@ -9,13 +9,15 @@
 
 namespace guide {
 
-/// Watches the files of a folder and of the folders in it, on a thread of its own. A missing folder is
-/// watched from the time it appears.
+/// Watches the files of a folder, and of the folders in it if wanted, on a thread of its own. A missing
+/// folder is watched from the time it appears.
 class FolderTreeWatch {
   public:
+    enum class Depth { Folder, FoldersInIt };
+
     /// `changed` is called on that thread shortly after something was written, added or removed, at the
     /// latest a second after the first of many changes. May be called when nothing changed.
-    FolderTreeWatch(const QString& folder, std::function<void()> changed);
+    FolderTreeWatch(const QString& folder, Depth depth, std::function<void()> changed);
     FolderTreeWatch(const FolderTreeWatch&) = delete;
     FolderTreeWatch& operator=(const FolderTreeWatch&) = delete;
     /// Waits for a running `changed`.
@@ -27,6 +29,7 @@ class FolderTreeWatch {
     bool watchAll();
 
     const QString m_folder;
+    const Depth m_depth;
     const std::function<void()> m_changed;
     FileDescriptor m_events;
     FileDescriptor m_stop;

@@ -1,4 +1,4 @@
-#include "platform/linux/calendar/FolderTreeWatch.h"
+#include "platform/linux/watch/FolderTreeWatch.h"
 
 #include <QDebug>
 #include <QDir>
@@ -30,8 +30,9 @@ constexpr std::uint32_t kFolderEvents =
 
 } // namespace
 
-FolderTreeWatch::FolderTreeWatch(const QString& folder, std::function<void()> changed)
+FolderTreeWatch::FolderTreeWatch(const QString& folder, Depth depth, std::function<void()> changed)
     : m_folder(folder)
+    , m_depth(depth)
     , m_changed(std::move(changed))
     , m_events(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK))
     , m_stop(::eventfd(0, EFD_CLOEXEC)) {
@@ -52,12 +53,24 @@ bool FolderTreeWatch::watchAll() {
         return ::inotify_add_watch(m_events.get(), QFile::encodeName(path).constData(), events) >= 0 ||
                errno == ENOENT || errno == ENOTDIR;
     };
-    QString above = QFileInfo(m_folder).path();
-    while (!QFileInfo(above).isDir() && above != QLatin1StringView("/")) {
-        above = QFileInfo(above).path();
+    const auto nearestAbove = [this] {
+        QString above = QFileInfo(m_folder).path();
+        while (!QFileInfo(above).isDir() && above != QLatin1StringView("/")) {
+            above = QFileInfo(above).path();
+        }
+        return above;
+    };
+    bool isComplete = true;
+    QString above;
+    // The next one may appear before the one above it is watched.
+    for (QString next = nearestAbove(); next != above; next = nearestAbove()) {
+        above = next;
+        isComplete = add(above, IN_CREATE | IN_MOVE | IN_DELETE_SELF | IN_ONLYDIR);
     }
-    bool isComplete = add(above, IN_CREATE | IN_MOVE | IN_DELETE_SELF | IN_ONLYDIR);
     isComplete = add(m_folder, kFolderEvents) && isComplete;
+    if (m_depth == Depth::Folder) {
+        return isComplete;
+    }
     const QStringList names = QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString& name : names) {
         isComplete = add(m_folder + u'/' + name, kFolderEvents) && isComplete;

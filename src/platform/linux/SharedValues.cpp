@@ -1,4 +1,4 @@
-#include "platform/linux/database/SharedValues.h"
+#include "platform/linux/SharedValues.h"
 
 #include "platform/archive/Archive.h"
 #include "platform/files/FileContent.h"
@@ -8,6 +8,7 @@
 #include <QCborArray>
 #include <QCborMap>
 #include <QDebug>
+#include <QFile>
 #include <QSet>
 
 #include <algorithm>
@@ -31,8 +32,9 @@ QCborValue cborOf(const QUuid& id) {
 
 } // namespace
 
-SharedValues::SharedValues(QString path, QString address)
-    : m_path(std::move(path))
+SharedValues::SharedValues(QString path, QString address, std::shared_ptr<DispatchQueue> saver)
+    : m_saver(std::move(saver))
+    , m_path(std::move(path))
     , m_address(std::move(address)) {
     load();
 }
@@ -59,6 +61,7 @@ void SharedValues::load() {
                     .value = std::nullopt,
                     .known = row.at(2).toUuid(),
                     .pending = row.at(3).toUuid(),
+                    .attempt = row.at(4).toInteger(),
                     .heldUntil = {}};
         if (row.at(1).isByteArray()) {
             entry.bytes = row.at(1).toByteArray();
@@ -72,13 +75,16 @@ void SharedValues::load() {
     }
 }
 
-void SharedValues::save() {
+bool SharedValues::save() {
     const std::lock_guard fileLock(m_fileGuard);
+    if (m_isForgotten) {
+        return true;
+    }
     QCborMap map{{kAddress, m_address}, {kDevice, QCborValue(m_device)}};
     {
         const std::lock_guard lock(m_guard);
         if (!m_needsSaving) {
-            return;
+            return true;
         }
         m_needsSaving = false;
         if (m_others.lastSeen) {
@@ -88,7 +94,7 @@ void SharedValues::save() {
         QCborArray values;
         for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
             values.append(QCborArray{entry.key(), entry->bytes ? QCborValue(*entry->bytes) : QCborValue(),
-                                     cborOf(entry->known), cborOf(entry->pending)});
+                                     cborOf(entry->known), cborOf(entry->pending), qint64{entry->attempt}});
         }
         map.insert(kValues, values);
     }
@@ -96,12 +102,29 @@ void SharedValues::save() {
         qWarning("The values that other devices share cannot be kept");
         const std::lock_guard lock(m_guard);
         m_needsSaving = true;
+        return false;
     }
+    return true;
 }
 
-bool SharedValues::needsSaving() const {
-    const std::lock_guard lock(m_guard);
-    return m_needsSaving;
+void SharedValues::forget() {
+    clear();
+    const std::lock_guard fileLock(m_fileGuard);
+    m_isForgotten = true;
+    QFile::remove(m_path);
+}
+
+void SharedValues::saveSoon() {
+    const bool needsSaving = [this] {
+        const std::lock_guard lock(m_guard);
+        return m_needsSaving;
+    }();
+    if (needsSaving && !m_isSaving.exchange(true)) {
+        m_saver->async([self = shared_from_this()] {
+            self->m_isSaving = false;
+            self->save();
+        });
+    }
 }
 
 SharedValues::Others SharedValues::others() const {
@@ -123,8 +146,7 @@ std::optional<QCborValue> SharedValues::value(const QString& key) const {
 
 SharedValues::SetOutcome SharedValues::set(const QString& key, const QCborValue& value, qsizetype mostBytes) {
     const std::optional<QByteArray> bytes = keyValueJson({key, value});
-    // PostgreSQL has no texts with this character.
-    if (!bytes || bytes->size() > mostBytes || key.contains(QChar(u'\0'))) {
+    if (!bytes || bytes->size() > mostBytes) {
         return SetOutcome::Refused;
     }
     const std::lock_guard lock(m_guard);
@@ -134,10 +156,15 @@ SharedValues::SetOutcome SharedValues::set(const QString& key, const QCborValue&
     }
     entry.bytes = bytes;
     entry.value = value;
-    entry.pending = QUuid::createUuid();
-    entry.heldUntil = {};
+    change(entry);
     m_needsSaving = true;
     return SetOutcome::Changed;
+}
+
+void SharedValues::change(Entry& entry) {
+    entry.pending = QUuid::createUuid();
+    entry.attempt = 0;
+    entry.heldUntil = {};
 }
 
 bool SharedValues::remove(const QString& key) {
@@ -148,10 +175,28 @@ bool SharedValues::remove(const QString& key) {
     }
     entry->bytes.reset();
     entry->value.reset();
-    entry->pending = QUuid::createUuid();
-    entry->heldUntil = {};
+    change(*entry);
     m_needsSaving = true;
     return true;
+}
+
+void SharedValues::removeAnyway(const QString& key) {
+    if (!remove(key)) {
+        const std::lock_guard lock(m_guard);
+        change(m_entries[key]);
+        m_needsSaving = true;
+    }
+}
+
+QStringList SharedValues::keys() const {
+    const std::lock_guard lock(m_guard);
+    QStringList keys;
+    for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
+        if (entry->bytes) {
+            keys.append(entry.key());
+        }
+    }
+    return keys;
 }
 
 std::vector<SharedValues::Change> SharedValues::changesToSend() const {
@@ -160,10 +205,19 @@ std::vector<SharedValues::Change> SharedValues::changesToSend() const {
     std::vector<Change> changes;
     for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
         if (!entry->pending.isNull() && entry->heldUntil <= now) {
-            changes.push_back({entry.key(), entry->bytes, entry->pending});
+            changes.push_back({entry.key(), entry->bytes, entry->pending, entry->attempt});
         }
     }
     return changes;
+}
+
+void SharedValues::attempt(const Change& change, std::int64_t number) {
+    const std::lock_guard lock(m_guard);
+    const auto entry = m_entries.find(change.key);
+    if (entry != m_entries.end() && entry->pending == change.write) {
+        entry->attempt = number;
+        m_needsSaving = true;
+    }
 }
 
 void SharedValues::sent(const Change& change, const QUuid& stored) {
@@ -177,6 +231,7 @@ void SharedValues::sent(const Change& change, const QUuid& stored) {
     entry->known = stored == change.write ? stored : QUuid();
     if (entry->pending == change.write) {
         entry->pending = {};
+        entry->attempt = 0;
         entry->heldUntil = {};
         if (!entry->bytes) {
             m_entries.erase(entry);
@@ -217,7 +272,8 @@ QStringList SharedValues::compare(const std::vector<StoredKey>& stored, QStringL
     for (const StoredKey& each : stored) {
         present.insert(each.key);
         const auto entry = m_entries.constFind(each.key);
-        if (entry == m_entries.cend() || (entry->pending.isNull() && entry->known != each.write)) {
+        if (entry == m_entries.cend() ||
+            (entry->pending.isNull() && !each.write.isNull() && entry->known != each.write)) {
             toRead.append(each.key);
         }
     }
