@@ -119,6 +119,17 @@ TEST_F(SharedStoresChoiceTest, AFolderThatVanishesSaysSo) {
     EXPECT_FALSE(choice->place().state.reason.isEmpty());
 }
 
+TEST_F(SharedStoresChoiceTest, AFolderThatDoesNotAnswerIsGivenUp) {
+    QString why;
+    choice->choose(made(u"hung"_s), MainBlock<QString>([&why](const QString& answer) { why = answer; }));
+    queues.run("main");
+    EXPECT_TRUE(why.isEmpty());
+    clock.advance(std::chrono::seconds(30));
+    queues.run("main");
+    EXPECT_EQ(why, u"There is no such folder, or it cannot be written."_s);
+    EXPECT_EQ(choice->place().kind, SharedPlace::Kind::ThisDevice);
+}
+
 TEST_F(SharedStoresChoiceTest, AListThatWasSetBeforeAKillIsNotReplacedByTheOldOne) {
     const QString place = made(u"sync"_s);
     const std::vector<Favorite> older{{u"Older"_s, {}, Moment(), {}}};

@@ -143,6 +143,7 @@ class Device {
         } else if (key == kSharedSources) {
             OwnSource source;
             source.id = OwnSourceId::fromHex(words[1].rightJustified(16, u'0')).value_or(OwnSourceId());
+            source.address = u"https://tv.example/"_s + words[1];
             words[0] == u"add"_s ? m_guide->sources.put(source) : m_guide->sources.remove(source.id);
         } else {
             set(key, words[0].toInt());

@@ -86,6 +86,9 @@ class TwoGuides {
             QThread::msleep(5);
         }
         m_settled = m_states[0].values;
+        // The last of several changes may still be on its way.
+        m_guides[0].flush();
+        m_guides[1].flush();
     }
 
     /// Neither writes anything although nothing has changed.

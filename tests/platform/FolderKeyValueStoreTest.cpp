@@ -8,13 +8,11 @@
 #include <QCborArray>
 #include <QCborMap>
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -34,40 +32,6 @@ class FolderKeyValueStoreTest : public testing::Test {
     FolderKeyValueStore store{folder.path(), u"desk-1"_s, queues};
     FolderKeyValueStore other{folder.path(), u"phone-2"_s, queues};
 };
-
-TEST_F(FolderKeyValueStoreTest, ValuesReachAnotherDevice) {
-    const QDateTime date(QDate(2025, 12, 31), QTime(18, 30, 1, 234), Qt::UTC);
-    QCborArray deep;
-    for (int arrays = 1; arrays < 16; ++arrays) {
-        deep = QCborArray{QCborValue(deep)};
-    }
-    EXPECT_FALSE(store.setValue(u"too deep"_s, QCborArray{QCborValue(deep)}));
-    const std::vector<std::pair<const char*, QCborValue>> values{
-        {"deep", deep},
-        {"flag", true},
-        {"number", qint64{(qint64{1} << 60) + 1}},
-        {"fraction", -0.1},
-        {"integral double", 5.0},
-        {"large double", 1e300},
-        {"infinity", std::numeric_limits<double>::infinity()},
-        {"text", u"Večer \"x\" 📺"_s},
-        {"empty text", u""_s},
-        {"bytes", QByteArray("\0\1\xff", 3)},
-        {"empty bytes", QByteArray()},
-        {"date", QCborValue(date)},
-        {"selection", QCborArray{QByteArray(12, '\x58'), QByteArray(12, '\0'), QCborArray{}}},
-    };
-    for (const auto& [name, value] : values) {
-        const QString key = QString::fromLatin1(name);
-        ASSERT_TRUE(store.setValue(key, value)) << name;
-        const std::optional<QCborValue> read = other.valueForKey(key);
-        ASSERT_TRUE(read) << name;
-        EXPECT_EQ(read->type(), value.type()) << name;
-        EXPECT_EQ(*read, value) << name;
-        store.removeKey(key);
-        EXPECT_FALSE(store.valueForKey(key)) << name;
-    }
-}
 
 TEST_F(FolderKeyValueStoreTest, ReadsFilesThatOthersReplaced) {
     const QString key = u"SelectedChannels"_s;
@@ -265,32 +229,6 @@ TEST_F(WatchedFolderTest, DoesNotAnnounceOwnAndEqualValues) {
     EXPECT_EQ(announced(), QStringList()) << "our value replaced the other one";
 }
 
-TEST_F(WatchedFolderTest, IgnoresUnfinishedAndForeignFiles) {
-    QFile unfinished(fileOf(u"a"_s));
-    ASSERT_TRUE(unfinished.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    unfinished.write("{\"key\": \"a\", ");
-    unfinished.flush();
-    const QByteArray temporary = "{\"key\": \"b\", \"value\": 9}";
-    for (const QString& name :
-         {u".b.json"_s, u"b.json.tmp"_s, u"bb.json"_s, u".syncthing.b.json.tmp"_s, u"~b"_s}) {
-        ASSERT_TRUE(replaceFile(folder.filePath(name), temporary));
-    }
-    EXPECT_EQ(announced(), QStringList());
-    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(1));
-    unfinished.write("\"value\": 2}");
-    unfinished.close();
-    EXPECT_EQ(announced(), QStringList(u"a"_s));
-    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(2));
-}
-
-TEST_F(WatchedFolderTest, AnnouncesWhatAConflictCopyBrings) {
-    ASSERT_TRUE(replaceFile(folder.filePath(u"a (1).json"_s), stamped("a", 7, "100", "phone-2")));
-    EXPECT_EQ(announced(), QStringList(u"a"_s));
-    EXPECT_EQ(store.valueForKey(u"a"_s), QCborValue(7));
-    ASSERT_TRUE(replaceFile(folder.filePath(u"a (1).json"_s), stamped("a", 8, "99", "phone-2")));
-    EXPECT_EQ(announced(), QStringList());
-}
-
 TEST_F(WatchedFolderTest, TheFolderMayDisappearAndReappear) {
     ASSERT_TRUE(QDir().rename(folder.path(), root.filePath(u"away"_s)));
     EXPECT_EQ(announced(), QStringList());
@@ -305,18 +243,6 @@ TEST_F(WatchedFolderTest, TheFolderMayDisappearAndReappear) {
     EXPECT_EQ(announced(), QStringList({u"b"_s}));
     other.setValue(u"a"_s, 3);
     EXPECT_EQ(announced(), QStringList(u"a"_s));
-
-    ASSERT_TRUE(QDir().rename(folder.path(), replacement));
-    ASSERT_TRUE(QDir().rename(root.filePath(u"away"_s), folder.path()));
-    EXPECT_EQ(announced(), QStringList({u"a"_s, u"b"_s})) << "replaced at once";
-    other.setValue(u"a"_s, 3);
-    EXPECT_EQ(announced(), QStringList(u"a"_s));
-
-    ASSERT_TRUE(QDir(folder.path()).removeRecursively());
-    EXPECT_EQ(announced(), QStringList());
-    ASSERT_TRUE(QDir().mkpath(folder.path()));
-    other.setValue(u"a"_s, 3);
-    EXPECT_EQ(announced(), QStringList(u"b"_s)) << "a has its old value, b is missing";
 }
 
 } // namespace

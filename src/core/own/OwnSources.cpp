@@ -100,7 +100,10 @@ struct OwnSources::State {
             take);
         publish(std::move(stored));
         if (found == MirroredFile::Found::Copy || (found == MirroredFile::Found::File && file.wasRefused())) {
-            write();
+            file.write(content());
+        } else if (found == MirroredFile::Found::File && !file.hasCopy()) {
+            // The copy may only be out of reach, and newer.
+            file.writeMissing(content());
         }
     }
 
@@ -119,11 +122,27 @@ struct OwnSources::State {
         current = std::move(snapshot);
     }
 
-    void write() {
-        file.write([written = current] {
+    // Under the guard, or before anything else sees the object.
+    std::function<MirroredFile::Content()> content() const {
+        return [written = current] {
             return MirroredFile::Content{archivedData(ownSourcesValue(written->stored)),
                                          ownSourcesValue(withoutSecrets(written->stored))};
-        });
+        };
+    }
+
+    /// Shares again what another device does not know: a process may have ended before it was shared.
+    void shareWhatLacks(const StoredSources& other) {
+        const auto lacks = [](const auto& theirs, const auto& ours, auto id) {
+            return std::ranges::any_of(ours, [&](const auto& each) {
+                return std::ranges::find(theirs, std::invoke(id, each), id) == theirs.end();
+            });
+        };
+        const std::lock_guard lock(guard);
+        const StoredSources& stored = current->stored;
+        if (lacks(other.sources, stored.sources, &OwnSource::id) ||
+            lacks(other.removed, stored.removed, &RemovedSource::id)) {
+            file.write(content());
+        }
     }
 
     /// Replaces the records by what `change` makes of them.
@@ -137,7 +156,7 @@ struct OwnSources::State {
                 return false;
             }
             publish(std::move(stored));
-            write();
+            file.write(content());
         }
         if (changed) {
             changed();
@@ -206,7 +225,10 @@ std::vector<CatalogueChannel> OwnSources::catalogueChannels() const {
 
 bool OwnSources::takeFrom(const QCborValue& value) {
     const std::optional<StoredSources> other = ownSourcesOfValue(value);
-    return other && m_state->update([&other](StoredSources& stored) {
+    if (!other) {
+        return false;
+    }
+    const bool isChanged = m_state->update([&other](StoredSources& stored) {
         for (const RemovedSource& removed : other->removed) {
             if (std::ranges::find(stored.removed, removed.id, &RemovedSource::id) == stored.removed.end()) {
                 stored.removed.push_back(removed);
@@ -224,6 +246,10 @@ bool OwnSources::takeFrom(const QCborValue& value) {
                                   [&removed](OwnSource& source) { forgetGuide(source, removed.id); });
         }
     });
+    if (!isChanged) {
+        m_state->shareWhatLacks(*other);
+    }
+    return isChanged;
 }
 
 void OwnSources::setObserver(std::function<void()> changed) {

@@ -12,6 +12,8 @@
 #include <QCborMap>
 #include <QDateTime>
 
+#include <limits>
+
 namespace guide::test {
 namespace {
 
@@ -53,22 +55,11 @@ class StoredValues : public ValuesUnderTest {
     virtual KeyValueStore& other() = 0;
 };
 
+/// Two stores of different kinds on one folder.
 class FolderValues final : public StoredValues {
   public:
-    KeyValueStore& store() override { return m_store; }
-    KeyValueStore& other() override { return m_other; }
-
-  private:
-    const QTemporaryDir m_folder;
-    FolderKeyValueStore m_store{m_folder.path(), QStringLiteral("desk-1"), loop.queues};
-    FolderKeyValueStore m_other{m_folder.path(), QStringLiteral("phone-2"), loop.queues};
-};
-
-class SharedFolderValues final : public StoredValues {
-  public:
-    SharedFolderValues() {
+    FolderValues() {
         EXPECT_TRUE(TestGuide::waitFor([&] { return m_store.sharedState().isRead; }));
-        EXPECT_TRUE(TestGuide::waitFor([&] { return m_other.sharedState().isRead; }));
     }
     KeyValueStore& store() override { return m_store; }
     KeyValueStore& other() override { return m_other; }
@@ -76,15 +67,11 @@ class SharedFolderValues final : public StoredValues {
   private:
     const QTemporaryDir m_folder;
     const QTemporaryDir m_kept;
-    const QTemporaryDir m_otherKept;
     SharedFolderKeyValueStore m_store{
         {.folder = m_folder.path(), .device = u"desk-1"_s, .keepsIn = m_kept.path()},
         loop.clock,
         loop.queues};
-    SharedFolderKeyValueStore m_other{
-        {.folder = m_folder.path(), .device = u"phone-2"_s, .keepsIn = m_otherKept.path()},
-        loop.clock,
-        loop.queues};
+    FolderKeyValueStore m_other{m_folder.path(), QStringLiteral("phone-2"), loop.queues};
 };
 
 class PostgresValues final : public StoredValues {
@@ -125,10 +112,17 @@ class KeyValueStoreTest : public testing::TestWithParam<ValuesKind>, public KeyV
 };
 
 TEST_P(KeyValueStoreTest, KeepsTypesOfValues) {
+    QCborArray deep;
+    for (int arrays = 1; arrays < 16; ++arrays) {
+        deep = QCborArray{QCborValue(deep)};
+    }
     const std::vector<std::pair<QString, QCborValue>> values{
         {u"flag"_s, true},
         {u"number"_s, (qint64{1} << 60) + 1},
         {u"double"_s, 5.0},
+        {u"fraction"_s, -0.1},
+        {u"infinity"_s, std::numeric_limits<double>::infinity()},
+        {u"deep"_s, deep},
         {u"text"_s, u"Večer \"x\" \\ 📺"_s},
         {u"empty bytes"_s, QByteArray()},
         {u"date"_s, QCborValue(QDateTime(QDate(2025, 12, 31), QTime(18, 30, 1, 234), Qt::UTC))},
@@ -149,7 +143,8 @@ TEST_P(KeyValueStoreTest, KeepsTypesOfValues) {
     }
     if (GetParam().name != "Memory"_ba) {
         EXPECT_FALSE(store().setValue(u"text"_s, QCborMap{{1, 2}})) << "not one of the types";
-        EXPECT_EQ(store().valueForKey(u"text"_s), values[3].second) << "the old value is kept";
+        EXPECT_FALSE(store().setValue(u"text"_s, QCborArray{QCborValue(deep)})) << "too deep";
+        EXPECT_EQ(store().valueForKey(u"text"_s), values[6].second) << "the old value is kept";
     }
     store().removeKey(u"text"_s);
     store().removeKey(u"missing"_s);
@@ -186,9 +181,6 @@ INSTANTIATE_TEST_SUITE_P(
                    []() -> std::unique_ptr<ValuesUnderTest> { return std::make_unique<MemoryValues>(); }},
         ValuesKind{"Folder",
                    []() -> std::unique_ptr<ValuesUnderTest> { return std::make_unique<FolderValues>(); }},
-        ValuesKind{
-            "SharedFolder",
-            []() -> std::unique_ptr<ValuesUnderTest> { return std::make_unique<SharedFolderValues>(); }},
         ValuesKind{"Postgres",
                    []() -> std::unique_ptr<ValuesUnderTest> { return std::make_unique<PostgresValues>(); }}),
     [](const auto& kind) { return std::string(kind.param.name); });
