@@ -54,8 +54,9 @@ void SharedValues::load() {
         m_others.lastSeen = Moment(std::chrono::milliseconds(seen.toInteger()));
     }
     m_others.lastWriter = map.value(kLastWriter).toString();
-    for (const QCborValue& value : map.value(kValues).toArray()) {
-        const QCborArray row = value.toArray();
+    const QCborArray rows = map.value(kValues).toArray();
+    for (const auto& each : rows) {
+        const QCborArray row = each.toArray();
         const QString key = row.at(0).toString();
         Entry entry{.bytes = std::nullopt,
                     .value = std::nullopt,

@@ -91,6 +91,28 @@ TEST_F(OwnSourcesTest, ARemovedSourceIsRememberedByItsChannels) {
     EXPECT_FALSE(sources.takeFrom(QCborValue(u"nothing of the kind"_s)));
 }
 
+TEST_F(OwnSourcesTest, WhatAKilledProcessHadNotSharedIsSharedLater) {
+    OwnSources sources(folders, cloud, queues);
+    sources.put(feedNumbered(1));
+    queues.runAll();
+    const QCborValue before = *cloud.valueForKey(kOwnSourcesKey);
+    sources.put(feedNumbered(2));
+    queues.runAll();
+    for (const auto& stored : {std::optional(before), std::optional<QCborValue>()}) {
+        cloud.setExternally(kOwnSourcesKey, stored);
+        OwnSources next(folders, cloud, queues);
+        EXPECT_FALSE(stored && next.takeFrom(*stored));
+        queues.runAll();
+        const auto shared = cloud.valueForKey(kOwnSourcesKey);
+        ASSERT_TRUE(shared);
+        EXPECT_EQ(ownSourcesOfValue(*shared)->sources.size(), 2U);
+        const int writes = cloud.writeCount();
+        next.takeFrom(*shared);
+        queues.runAll();
+        EXPECT_EQ(cloud.writeCount(), writes) << "nothing that others know";
+    }
+}
+
 TEST_F(OwnSourcesTest, ChannelsAreThoseOfACatalogue) {
     OwnSources sources(folders, cloud, queues);
     int changes = 0;
