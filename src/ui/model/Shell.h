@@ -47,8 +47,9 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     /// Empty for no button.
     Q_PROPERTY(QString noticeAction READ noticeAction NOTIFY noticeUpdated)
 
-    /// Whether the user is to choose a file.
+    /// Whether the user is to choose a file, or a folder.
     Q_PROPERTY(bool fileChooserShown READ fileChooserShown NOTIFY fileChooserUpdated)
+    Q_PROPERTY(bool fileChooserForFolders READ fileChooserForFolders NOTIFY fileChooserUpdated)
     Q_PROPERTY(QString fileChooserTitle READ fileChooserTitle NOTIFY fileChooserUpdated)
 
     /// The screen over the whole window; null when there is none.
@@ -78,6 +79,7 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     QString noticeText() const;
     QString noticeAction() const;
     bool fileChooserShown() const { return m_tabBarController.presentedFileChooser() != nullptr; }
+    bool fileChooserForFolders() const;
     QString fileChooserTitle() const;
     Page* cover() const { return m_cover; }
     bool fullScreen() const { return m_cover && m_cover->player() && m_cover->player()->fullScreen(); }
