@@ -2,8 +2,12 @@
 
 #include "platform/linux/database/PostgresKeyValueStore.h"
 #include "platform/linux/database/PostgresRecordStore.h"
+#include "platform/linux/database/ServerReach.h"
 
 #include <QCryptographicHash>
+#include <QFile>
+
+#include <atomic>
 
 namespace guide {
 
@@ -21,7 +25,17 @@ SharedStores sharedStoresFor(const QString& address, const SharedStoresOptions& 
         options.folder + u"/database-"_s +
         QString::fromLatin1(
             QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toHex().left(kDigits));
-    const auto values = std::make_shared<SharedValues>(name + ".values"_L1, text);
+    const QString valuesPath = name + ".values"_L1;
+    const bool isNew = !QFile::exists(valuesPath);
+    const auto isDiscarded = std::make_shared<std::atomic<bool>>(false);
+    // Stores save until their last queue lets go of the values.
+    const std::shared_ptr<SharedValues> values(new SharedValues(valuesPath, text),
+                                               [isDiscarded, valuesPath](SharedValues* ending) {
+                                                   delete ending;
+                                                   if (*isDiscarded) {
+                                                       QFile::remove(valuesPath);
+                                                   }
+                                               });
     if (options.joins) {
         values->clear();
     }
@@ -43,6 +57,12 @@ SharedStores sharedStoresFor(const QString& address, const SharedStoresOptions& 
             alive->retryNow();
         }
     };
+    stores.setDeviceName = [weak = std::weak_ptr(session)](const QString& deviceName) {
+        if (const auto alive = weak.lock()) {
+            alive->setDeviceName(deviceName);
+        }
+    };
+    stores.discard = [isNew, isDiscarded] { *isDiscarded = isNew; };
     session->start();
     return stores;
 }
@@ -57,6 +77,18 @@ std::optional<QString> keepDatabasePassword(const QString& address, SecretStore&
         return std::nullopt;
     }
     return read->text();
+}
+
+bool acceptsDatabasePassword(const DatabaseAddress& address, const WakeUp& stop, QString& why) {
+    DatabaseError error;
+    const QList<QByteArray> numbers = numbersOf(address, error);
+    if (!numbers.isEmpty() || address.isSocket()) {
+        if (PostgresConnection::open(address, address.password.value_or(QString()), numbers, stop, error)) {
+            return true;
+        }
+    }
+    why = sentenceFor(error.fault);
+    return false;
 }
 
 } // namespace guide
