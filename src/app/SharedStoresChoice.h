@@ -7,6 +7,7 @@
 #include "platform/SwitchedRecordStore.h"
 #include "platform/UserDefaults.h"
 #include "platform/files/Folders.h"
+#include "platform/linux/database/DatabaseAddress.h"
 #include "platform/queues/DispatchQueue.h"
 
 #include <chrono>
@@ -15,6 +16,8 @@
 #include <optional>
 
 namespace guide {
+
+class WakeUp;
 
 /// The stores that the guide shares with the user's other devices and with other users: the folder of the
 /// profile, another folder or a database, as the user has chosen. Main thread; the stores, any.
@@ -40,6 +43,8 @@ class SharedStoresChoice final : public SharedPlaceActions {
     SharedPlace place() const override;
     /// A database is waited for, at most half a minute.
     void choose(const QString& address, MainBlock<QString> mainBlock) override;
+    void createFolder(const QString& path, MainBlock<QString> mainBlock) override;
+    void setDeviceName(const QString& name) override;
     void retryNow() override;
     void setObserver(std::weak_ptr<const void> owner, std::function<void()> changed) override {
         m_observer = std::move(owner);
@@ -51,12 +56,18 @@ class SharedStoresChoice final : public SharedPlaceActions {
         QString address = {};
         /// As the user entered it, with a password that is not kept yet.
         QString entered = {};
+        /// Of this device, as the stores use it.
+        QString deviceName = {};
         std::shared_ptr<KeyValueStore> keyValueStore = {};
         /// Null when no counters are shared.
         std::shared_ptr<RecordStore> records = {};
         /// Part of the key-value store.
         SharedStore* shared = nullptr;
         std::function<void()> retryNow = {};
+        /// Empty where other stores have to be made for another name.
+        std::function<void(const QString&)> setDeviceName = {};
+        /// Removes what was made for the stores, when they are not used.
+        std::function<void()> discard = {};
     };
     /// A choice that is being made.
     struct Choice {
@@ -67,7 +78,12 @@ class SharedStoresChoice final : public SharedPlaceActions {
 
     Stores folderStores(const QString& address) const;
     Stores databaseStores(const QString& address, bool joins, QString& why) const;
-    void stay(const QString& address, MainBlock<QString> answer);
+    QString deviceName() const;
+    /// Where the stores still have another one.
+    void useDeviceName();
+    void chooseFolder(const QString& path, MainBlock<QString> mainBlock);
+    void stay(const std::optional<DatabaseAddress>& database, const QString& entered,
+              MainBlock<QString> answer);
     void tryStores(Stores stores, QString why, MainBlock<QString> answer);
     /// Goes on when the state of the stores tells whether they can be used.
     void look();
@@ -85,6 +101,8 @@ class SharedStoresChoice final : public SharedPlaceActions {
     std::shared_ptr<Choice> m_choice;
     std::weak_ptr<const void> m_observer;
     std::function<void()> m_changed;
+    /// Ends what waits for a server.
+    const std::shared_ptr<const WakeUp> m_stop;
     const std::shared_ptr<char> m_alive = std::make_shared<char>();
 };
 

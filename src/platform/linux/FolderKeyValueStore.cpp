@@ -152,7 +152,7 @@ class FolderKeyValueStore::Files {
         for (const File& file : std::as_const(m_files)) {
             const QString& device = file.stamp.device;
             const Moment stored(std::chrono::seconds(file.state.seconds));
-            if (!device.isEmpty() && device != m_device && (!state.lastSeen || *state.lastSeen < stored)) {
+            if (!device.isEmpty() && !isOwn(device) && (!state.lastSeen || *state.lastSeen < stored)) {
                 state.lastSeen = stored;
                 state.device = device.left(device.lastIndexOf(u'-'));
             }
@@ -237,6 +237,12 @@ class FolderKeyValueStore::Files {
             m_counter = std::max(m_counter, file.stamp.counter);
         }
         return file;
+    }
+
+    /// The name before the digits may have been another one.
+    bool isOwn(const QString& device) const {
+        const auto digits = [](QStringView of) { return of.sliced(of.lastIndexOf(u'-') + 1); };
+        return digits(device) == digits(m_device);
     }
 
     const QString m_folder;
