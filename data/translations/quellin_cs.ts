@@ -2495,6 +2495,10 @@ Počkejte, až se program načte.</translation>
         <source>Hide the password</source>
         <translation>Skrýt heslo</translation>
     </message>
+    <message>
+        <source>Use this password</source>
+        <translation>Použít toto heslo</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

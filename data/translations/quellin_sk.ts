@@ -2495,6 +2495,10 @@ Počkajte, kým sa program načíta.</translation>
         <source>Hide the password</source>
         <translation>Skryť heslo</translation>
     </message>
+    <message>
+        <source>Use this password</source>
+        <translation>Použiť toto heslo</translation>
+    </message>
 </context>
 <context>
     <name>RemoteHostAlert</name>

@@ -179,16 +179,17 @@ TEST_F(OptionsTest, APasswordIsApartFromTheAddress) {
     EXPECT_FALSE(contentTitled<InputRow>(screen->table(), hidden)) << "forgotten";
 
     world.send<ButtonRow>(*screen, u"Enter another password…"_s, Tapped{});
-    EXPECT_EQ(field(title).text, u"postgresql://anna@tv/guide"_s);
     sharedPlace.why = u"The database does not accept the user or the password."_s;
     world.send<InputRow>(*screen, hidden, TextEdited{u"y"_s, true, true});
     world.queues.runAll();
+    EXPECT_EQ(sharedPlace.chosen.back(), u"postgresql://anna:y@tv/guide"_s) << "without a question";
     EXPECT_EQ(field(hidden).error, sharedPlace.why) << "below the password";
     EXPECT_EQ(field(title).error, QString());
     sharedPlace.why.clear();
-    world.send<ButtonRow>(*screen, u"Share there"_s, Tapped{});
+    world.send<ButtonRow>(*screen, u"Use this password"_s, Tapped{});
     world.queues.runAll();
     EXPECT_EQ(world.app.notices.back().text, u"The password works and is kept."_s);
+    EXPECT_FALSE(contentTitled<InputRow>(screen->table(), hidden));
 }
 
 TEST_F(OptionsTest, TheDeviceHasAName) {

@@ -17,6 +17,7 @@ constexpr auto kCode = "code"_L1;
 constexpr auto kChoice = "choice"_L1;
 constexpr auto kField = "field"_L1;
 constexpr auto kPassword = "password"_L1;
+constexpr auto kEnter = "enter"_L1;
 constexpr auto kFolder = "folder"_L1;
 constexpr auto kUse = "use"_L1;
 constexpr auto kDevice = "device"_L1;
@@ -146,10 +147,20 @@ Section SharedPlaceViewController::placeSection(const SharedPlace& place) const 
                             .content = TextRow{.title = kindText(place.kind),
                                                .subtitle = pathForPeople(place.address),
                                                .checked = true}});
-    if (place.kind == SharedPlace::Kind::Database) {
+    if (place.kind == SharedPlace::Kind::Database && !m_entersPassword &&
+        !isAboutPassword(place.state.reason)) {
         section.rows.push_back(
-            {.id = {section.id, QString(kPassword)},
+            {.id = {section.id, QString(kEnter)},
              .content = ButtonRow{.title = Localized::tr("Enter another password…"), .enabled = !m_isTrying},
+             .selectable = true});
+    } else if (place.kind == SharedPlace::Kind::Database) {
+        section.rows.push_back(passwordRow(section.id, m_newPassword, m_isProblemHere));
+        section.rows.push_back(
+            {.id = {section.id, QString(kUse)},
+             .content = ButtonRow{.title = m_isTrying && m_isProblemHere ? Localized::tr("One moment…")
+                                                                         : Localized::tr("Use this password"),
+                                  .style = ButtonRow::Style::Primary,
+                                  .enabled = !m_isTrying && !m_newPassword.isEmpty()},
              .selectable = true});
     }
     if (place.kind != SharedPlace::Kind::ThisDevice) {
@@ -159,6 +170,17 @@ Section SharedPlaceViewController::placeSection(const SharedPlace& place) const 
              .selectable = true});
     }
     return section;
+}
+
+Row SharedPlaceViewController::passwordRow(const QString& section, const QString& password,
+                                           bool hasProblem) const {
+    return {.id = {section, QString(kPassword)},
+            .content = InputRow{.kind = InputRow::Kind::Password,
+                                .title = Localized::tr("Password of the database"),
+                                .text = password,
+                                .error = hasProblem ? m_problem : QString(),
+                                .enabled = !m_isTrying,
+                                .revision = m_revision}};
 }
 
 Section SharedPlaceViewController::choiceSection(const SharedPlace& place) const {
@@ -173,33 +195,30 @@ Section SharedPlaceViewController::choiceSection(const SharedPlace& place) const
     const bool isDatabase = looksLikeDatabase(m_input.address);
     section.rows.push_back(
         {.id = {section.id, QString(kField)},
-         .content = InputRow{.kind = InputRow::Kind::URL,
-                             .title = Localized::tr("Folder or address of a database"),
-                             .text = m_input.address,
-                             .placeholder = u"~/  postgresql://"_s,
-                             .error = isDatabase && m_isPasswordProblem ? QString() : m_problem,
-                             .enabled = !m_isTrying,
-                             .revision = m_revision}});
+         .content =
+             InputRow{.kind = InputRow::Kind::URL,
+                      .title = Localized::tr("Folder or address of a database"),
+                      .text = m_input.address,
+                      .placeholder = u"~/…  postgresql://…"_s,
+                      .error = m_isProblemHere || (isDatabase && m_isPasswordProblem) ? QString() : m_problem,
+                      .enabled = !m_isTrying,
+                      .revision = m_revision}});
     if (isDatabase) {
-        section.rows.push_back({.id = {section.id, QString(kPassword)},
-                                .content = InputRow{.kind = InputRow::Kind::Password,
-                                                    .title = Localized::tr("Password of the database"),
-                                                    .text = m_input.password,
-                                                    .error = m_isPasswordProblem ? m_problem : QString(),
-                                                    .enabled = !m_isTrying,
-                                                    .revision = m_revision}});
+        section.rows.push_back(
+            passwordRow(section.id, m_input.password, !m_isProblemHere && m_isPasswordProblem));
     } else {
         section.rows.push_back(
             {.id = {section.id, QString(kFolder)},
              .content = ButtonRow{.title = Localized::tr("Choose a folder…"), .enabled = !m_isTrying},
              .selectable = true});
     }
-    section.rows.push_back({.id = {section.id, QString(kUse)},
-                            .content = ButtonRow{.title = m_isTrying ? Localized::tr("One moment…")
-                                                                     : Localized::tr("Share there"),
-                                                 .style = ButtonRow::Style::Primary,
-                                                 .enabled = canUse()},
-                            .selectable = true});
+    section.rows.push_back(
+        {.id = {section.id, QString(kUse)},
+         .content = ButtonRow{.title = m_isTrying && !m_isProblemHere ? Localized::tr("One moment…")
+                                                                      : Localized::tr("Share there"),
+                              .style = ButtonRow::Style::Primary,
+                              .enabled = canUse()},
+         .selectable = true});
     return section;
 }
 
@@ -222,6 +241,8 @@ void SharedPlaceViewController::rowEvent(const RowId& id, const RowEvent& event)
     if (const auto* edited = std::get_if<TextEdited>(&event)) {
         if (id.section == kDevice) {
             nameEdited(*edited);
+        } else if (id.section == kPlace) {
+            passwordEdited(*edited);
         } else {
             inputEdited(*edited, name == kPassword);
         }
@@ -233,10 +254,13 @@ void SharedPlaceViewController::rowEvent(const RowId& id, const RowEvent& event)
     }
     if (name == kFolder) {
         chooseFolder();
-    } else if (name == kPassword) {
-        setInput({m_environment->sharedPlace->place().address});
+    } else if (name == kEnter) {
+        m_entersPassword = true;
+        reloadTable();
     } else if (name == kLeave) {
         choose({});
+    } else if (id.section == kPlace && name == kUse) {
+        usePassword();
     } else if (name == kUse && canUse()) {
         ask();
     }
@@ -257,6 +281,23 @@ void SharedPlaceViewController::inputEdited(const TextEdited& edited, bool isPas
     }
     if (edited.entered && canUse()) {
         ask();
+    }
+}
+
+void SharedPlaceViewController::passwordEdited(const TextEdited& edited) {
+    if (edited.text != m_newPassword) {
+        m_newPassword = edited.text;
+        m_problem.clear();
+        reloadTable();
+    }
+    if (edited.entered) {
+        usePassword();
+    }
+}
+
+void SharedPlaceViewController::usePassword() {
+    if (!m_isTrying && !m_newPassword.isEmpty()) {
+        choose(withPassword({m_environment->sharedPlace->place().address, m_newPassword}));
     }
 }
 
@@ -314,8 +355,9 @@ void SharedPlaceViewController::ask() {
 }
 
 void SharedPlaceViewController::choose(const QString& address) {
-    begin();
     const QString before = m_environment->sharedPlace->place().address;
+    m_isProblemHere = !m_newPassword.isEmpty() && withoutPassword(address).address == before;
+    begin();
     m_environment->sharedPlace->choose(
         address, m_chosen.expect(weak_from_this(), [this, address, before](const QString& why) {
             end(why);
@@ -364,6 +406,8 @@ void SharedPlaceViewController::begin() {
 void SharedPlaceViewController::end(const QString& why) {
     m_isTrying = false;
     if (why.isEmpty()) {
+        m_newPassword.clear();
+        m_entersPassword = false;
         setInput({});
         return;
     }

@@ -29,8 +29,11 @@ class SharedPlaceViewController final : public TableViewController {
     Section placeSection(const SharedPlace& place) const;
     Section choiceSection(const SharedPlace& place) const;
     Section nameSection(const SharedPlace& place) const;
+    Row passwordRow(const QString& section, const QString& password, bool hasProblem) const;
     bool canUse() const;
     void inputEdited(const TextEdited& edited, bool isPassword);
+    void passwordEdited(const TextEdited& edited);
+    void usePassword();
     void nameEdited(const TextEdited& edited);
     void setInput(PlaceInput input);
     void chooseFolder();
@@ -47,6 +50,11 @@ class SharedPlaceViewController final : public TableViewController {
     int m_revision = 0;
     QString m_problem;
     bool m_isPasswordProblem = false;
+    /// About the current place rather than another one.
+    bool m_isProblemHere = false;
+    /// For the current place.
+    QString m_newPassword;
+    bool m_entersPassword = false;
     /// While it is being edited.
     std::optional<QString> m_name;
     int m_nameRevision = 0;

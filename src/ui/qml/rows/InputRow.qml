@@ -31,7 +31,7 @@ TableRow {
     // An update does not replace what the user is typing, unless the screen has changed it.
     onRowChanged: {
         if (!field.activeFocus || revision !== row.revision)
-            field.text = row.text
+            field.show(row.text)
         revision = row.revision
     }
 
@@ -80,8 +80,15 @@ TableRow {
                               : Qt.ImhNone
             validator: cell.row.kind === Kit.InputKind.Number ? digits : null
 
+            // Of a long text, its beginning.
+            function show(shown) {
+                text = shown
+                if (!activeFocus)
+                    ensureVisible(0)
+            }
+
             Component.onCompleted: {
-                text = cell.row.text
+                show(cell.row.text)
                 cell.revision = cell.row.revision
             }
             onTextEdited: cell.rows.edit(cell.index, text, false)
