@@ -122,6 +122,7 @@ SharedStoresChoice::Stores SharedStoresChoice::databaseStores(const QString& add
     stores.records = std::move(made.recordStore);
     stores.shared = made.state;
     stores.retryNow = std::move(made.retryNow);
+    stores.setPassword = std::move(made.setPassword);
     stores.setDeviceName = std::move(made.setDeviceName);
     stores.discard = std::move(made.discard);
     return stores;
@@ -231,11 +232,16 @@ void SharedStoresChoice::stay(const std::optional<DatabaseAddress>& database, co
             keepDatabasePassword(entered, m_environment.secrets, why);
         }
         m_environment.queues.mainQueue().async(
-            [this, why, answer = std::move(answer), alive = std::move(alive)]() mutable {
-                if (!alive.expired()) {
-                    retryNow();
-                    answer.post(m_environment.queues.mainQueue(), std::move(why));
+            [this, database, why, answer = std::move(answer), alive = std::move(alive)]() mutable {
+                if (alive.expired()) {
+                    return;
                 }
+                if (why.isEmpty() && database && database->password && m_current.setPassword &&
+                    m_current.address == database->text()) {
+                    m_current.setPassword(*database->password);
+                }
+                retryNow();
+                answer.post(m_environment.queues.mainQueue(), std::move(why));
             });
     });
 }

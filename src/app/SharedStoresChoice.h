@@ -64,6 +64,7 @@ class SharedStoresChoice final : public SharedPlaceActions {
         /// Part of the key-value store.
         SharedStore* shared = nullptr;
         std::function<void()> retryNow = {};
+        std::function<void(const QString&)> setPassword = {};
         /// Empty where other stores have to be made for another name.
         std::function<void(const QString&)> setDeviceName = {};
         /// Removes what was made for the stores, when they are not used.

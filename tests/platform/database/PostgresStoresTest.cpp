@@ -231,6 +231,9 @@ TEST_F(PostgresStoresTest, UpgradesByWholeFiles) {
     EXPECT_NE(server.addUser(u"anna"_s), before) << "another password";
     TestGuide phone(loop, before, u"Phone"_s);
     EXPECT_TRUE(phone.waitForConnection(SharedStoreConnection::Refused));
+    phone.stores.setPassword(databaseAddress(server.addUser(u"anna"_s), why)->password.value());
+    phone.stores.retryNow();
+    EXPECT_TRUE(phone.waitForConnection());
     EXPECT_TRUE(setup->setUser(u"carl"_s, why)->isNew);
     EXPECT_FALSE(setup->setUser(u"carl"_s, why)->isNew);
     for (const char16_t* name :

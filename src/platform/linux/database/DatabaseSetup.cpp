@@ -61,15 +61,16 @@ QString connectionSentence(const DatabaseError& error, const DatabaseAddress& ad
         return withDetails(
             u"The server %1 cannot prove its identity, so nothing is sent to it."_s.arg(address.host), error);
     case DatabaseFault::Login:
-        return error.state == "28P01"
-                   ? u"The server does not accept the password of %1."_s.arg(address.user)
-                   : withDetails(u"The server does not let %1 in%2."_s.arg(
-                                     address.user,
-                                     address.isSocket()
-                                         ? u"; through a socket it may ask for the user of the "
-                                           "system with that name, as in \"sudo -u %1 …\""_s.arg(address.user)
-                                         : QString()),
-                                 error);
+        if (error.state == "28P01") {
+            return u"The server does not accept the password of %1."_s.arg(address.user);
+        }
+        return withDetails(
+            address.isSocket()
+                ? u"The server does not let %1 in. Through a socket, it usually wants the system's user of "
+                  u"that "
+                  "name, as in \"sudo -u %1 quellin-guide --cloud-setup …\"."_s.arg(address.user)
+                : u"The server does not let %1 in."_s.arg(address.user),
+            error);
     case DatabaseFault::Rights:
         return u"%1 may not use the database %2."_s.arg(address.user, address.database);
     case DatabaseFault::Lost:

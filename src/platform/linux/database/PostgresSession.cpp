@@ -81,6 +81,11 @@ void PostgresSession::retryNow() {
     m_wake.wake();
 }
 
+void PostgresSession::setPassword(const QString& password) {
+    const std::lock_guard lock(m_guard);
+    m_password = password;
+}
+
 void PostgresSession::setDeviceName(const QString& name) {
     {
         const std::lock_guard lock(m_guard);
@@ -217,10 +222,14 @@ bool PostgresSession::waitToRetry(std::chrono::milliseconds delay) {
 
 std::unique_ptr<PostgresConnection> PostgresSession::connect(DatabaseError& error) {
     const auto preparation = std::make_shared<Preparation>();
-    m_preparations->async([preparation, address = m_options.address, &secrets = m_secrets] {
-        const QString password = address.password
-                                     ? *address.password
-                                     : secrets.secret(databaseSecretKey(address)).value_or(QString());
+    std::optional<QString> known;
+    {
+        const std::lock_guard lock(m_guard);
+        known = m_password;
+    }
+    m_preparations->async([preparation, known, address = m_options.address, &secrets = m_secrets] {
+        const QString password =
+            known ? *known : secrets.secret(databaseSecretKey(address)).value_or(QString());
         DatabaseError failure;
         const QList<QByteArray> numbers = numbersOf(address, failure);
         const std::lock_guard lock(preparation->guard);

@@ -66,6 +66,8 @@ class PostgresSession {
     /// Ends the delay before the next attempt, such as when a network appears.
     void retryNow();
     bool isConnected() const;
+    /// From the next connection on, instead of the one of the address or of the secrets.
+    void setPassword(const QString& password);
     /// What other devices call this one, from its next change on.
     void setDeviceName(const QString& name);
 
@@ -123,6 +125,7 @@ class PostgresSession {
     QString m_reason;
     QString m_valueProblem;
     bool m_retriesNow = false;
+    std::optional<QString> m_password = m_options.address.password;
     QString m_deviceName = m_options.deviceName;
     bool m_isRenamed = false;
 

@@ -57,6 +57,11 @@ SharedStores sharedStoresFor(const QString& address, const SharedStoresOptions& 
             alive->retryNow();
         }
     };
+    stores.setPassword = [weak = std::weak_ptr(session)](const QString& password) {
+        if (const auto alive = weak.lock()) {
+            alive->setPassword(password);
+        }
+    };
     stores.setDeviceName = [weak = std::weak_ptr(session)](const QString& deviceName) {
         if (const auto alive = weak.lock()) {
             alive->setDeviceName(deviceName);

@@ -24,6 +24,8 @@ struct SharedStores {
     SharedStore* state = nullptr;
     /// Connects again now instead of after a delay, such as when a network appears. Any thread.
     std::function<void()> retryNow;
+    /// Another password, from the next connection on. Any thread.
+    std::function<void(const QString& password)> setPassword;
     /// What other devices call this one from now on. Any thread.
     std::function<void(const QString& name)> setDeviceName;
     /// Removes the file that was made for these stores, once they have ended: they are not used after all. A

@@ -9,6 +9,7 @@ FolderDialog {
     required property Shell shell
 
     title: shell.fileChooserTitle
+    currentFolder: shell.homeFolder
     onAccepted: shell.closeFileChooser(selectedFolder)
     onRejected: shell.closeFileChooser("")
     Component.onCompleted: open()
