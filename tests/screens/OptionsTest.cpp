@@ -195,15 +195,12 @@ TEST_F(OptionsTest, APasswordIsApartFromTheAddress) {
 TEST_F(OptionsTest, TheDeviceHasAName) {
     sharedPlace.now.state = {.lastSeen = world.begin, .device = u"Notebook"_s};
     const auto screen = open<SharedPlaceViewController>();
-    const auto footer = [&] { return screen->table().sections().front().footer; };
-    EXPECT_TRUE(footer().contains(u"another device with the name Notebook"_s)) << "the name of this one";
-    const QString title = u"Name of this device"_s;
-    world.send<InputRow>(*screen, title, TextEdited{u"Desk"_s});
+    EXPECT_TRUE(
+        screen->table().sections().front().footer.contains(u"another device with the name Notebook"_s));
+    world.send<InputRow>(*screen, u"Name of this device"_s, TextEdited{u"Desk"_s});
     EXPECT_EQ(sharedPlace.now.deviceName, u"Notebook"_s) << "not while it is typed";
-    world.send<InputRow>(*screen, title, TextEdited{u"Desk"_s, true});
+    world.send<InputRow>(*screen, u"Name of this device"_s, TextEdited{u"Desk"_s, true});
     EXPECT_EQ(sharedPlace.now.deviceName, u"Desk"_s);
-    EXPECT_EQ(contentTitled<InputRow>(screen->table(), title)->text, u"Desk"_s);
-    EXPECT_TRUE(footer().startsWith(u"Last change by Notebook"_s));
 }
 
 TEST_F(OptionsTest, ErasingSaysBeforeAndAfterWhatItRemoves) {
