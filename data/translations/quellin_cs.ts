@@ -2211,17 +2211,6 @@ Počkejte, až se program načte.</translation>
         <source>The file could not be written.</source>
         <translation>Soubor nelze zapsat.</translation>
     </message>
-</context>
-<context>
-    <name>RemoteHostAlert</name>
-    <message>
-        <source>Unable to establish connection to remote server</source>
-        <translation>Nelze navázat spojení se vzdáleným serverem</translation>
-    </message>
-    <message>
-        <source>Check your Internet connection.</source>
-        <translation>Zkontrolujte připojení k internetu.</translation>
-    </message>
     <message>
         <source>Open</source>
         <translation>Otevřít</translation>
@@ -2387,16 +2376,167 @@ Počkejte, až se program načte.</translation>
         <translation>Složka neexistuje nebo do ní nelze zapisovat.</translation>
     </message>
     <message>
-        <source>There is no such folder, or it cannot be written.</source>
-        <translation>Taková složka neexistuje nebo do ní nelze zapisovat.</translation>
-    </message>
-    <message>
         <source>The place cannot take what this device has.</source>
         <translation>Na toto místo nelze uložit, co toto zařízení má.</translation>
     </message>
     <message>
         <source>Another place is being tried.</source>
         <translation>Právě se zkouší jiné místo.</translation>
+    </message>
+    <message>
+        <source>There is no server with the name in the address.</source>
+        <translation>Server s názvem uvedeným v adrese neexistuje.</translation>
+    </message>
+    <message>
+        <source>This device has no network, or no way to the server of the database.</source>
+        <translation>Toto zařízení nemá síť nebo cestu k serveru databáze.</translation>
+    </message>
+    <message>
+        <source>The server does not run a database at the address.</source>
+        <translation>Na této adrese serveru žádná databáze neběží.</translation>
+    </message>
+    <message>
+        <source>The server of the database does not answer.</source>
+        <translation>Server databáze neodpovídá.</translation>
+    </message>
+    <message>
+        <source>The server has no database with the name in the address.</source>
+        <translation>Server nemá databázi s názvem uvedeným v adrese.</translation>
+    </message>
+    <message>
+        <source>The user in the address may not use the database.</source>
+        <translation>Uživatel uvedený v adrese nesmí databázi používat.</translation>
+    </message>
+    <message>
+        <source>The address of a database begins with postgresql://.</source>
+        <translation>Adresa databáze začíná na postgresql://.</translation>
+    </message>
+    <message>
+        <source>An address has no options but sslmode, sslrootcert and host, with full paths.</source>
+        <translation>Adresa může mít jen volby sslmode, sslrootcert a host, s úplnými cestami.</translation>
+    </message>
+    <message>
+        <source>The path of a folder begins with “/” or “~/”.</source>
+        <translation>Cesta ke složce začíná znaky „/“ nebo „~/“.</translation>
+    </message>
+    <message>
+        <source>There is no such folder yet.</source>
+        <translation>Taková složka zatím neexistuje.</translation>
+    </message>
+    <message>
+        <source>There is no such folder, nor the one in which it would be.</source>
+        <translation>Taková složka neexistuje, ani ta, ve které by byla.</translation>
+    </message>
+    <message>
+        <source>There is no such folder, and none can be created there.</source>
+        <translation>Taková složka neexistuje a nelze ji tam vytvořit.</translation>
+    </message>
+    <message>
+        <source>This is not a folder.</source>
+        <translation>Toto není složka.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written.</source>
+        <translation>Do složky nelze zapisovat.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be created.</source>
+        <translation>Složku nelze vytvořit.</translation>
+    </message>
+    <message>
+        <source>This folder belongs to the guide on this device: choose another one.</source>
+        <translation>Tato složka patří průvodci na tomto zařízení: zvolte jinou.</translation>
+    </message>
+    <message>
+        <source>The place does not answer.</source>
+        <translation>Toto místo neodpovídá.</translation>
+    </message>
+    <message>
+        <source>This device does not have the password of the database: enter it under “Your devices”.</source>
+        <translation>Toto zařízení nemá heslo databáze: zadejte ho v části „Vaše zařízení“.</translation>
+    </message>
+    <message>
+        <source>Last change by another device with the name %1</source>
+        <translation>Poslední změna z jiného zařízení s názvem %1</translation>
+    </message>
+    <message>
+        <source>Enter another password…</source>
+        <translation>Zadat jiné heslo…</translation>
+    </message>
+    <message>
+        <source>Password of the database</source>
+        <translation>Heslo databáze</translation>
+    </message>
+    <message>
+        <source>Choose a folder…</source>
+        <translation>Vybrat složku…</translation>
+    </message>
+    <message>
+        <source>Other devices show it with what this one has changed.</source>
+        <translation>Ostatní zařízení jej ukazují u toho, co toto zařízení změnilo.</translation>
+    </message>
+    <message>
+        <source>Name of this device</source>
+        <translation>Název tohoto zařízení</translation>
+    </message>
+    <message>
+        <source>Choose a folder that your devices share</source>
+        <translation>Vyberte složku, kterou vaše zařízení sdílejí</translation>
+    </message>
+    <message>
+        <source>This device shares there from now on.</source>
+        <translation>Toto zařízení tam odteď sdílí.</translation>
+    </message>
+    <message>
+        <source>The password works and is kept.</source>
+        <translation>Heslo platí a je uložené.</translation>
+    </message>
+    <message>
+        <source>This device shares there already.</source>
+        <translation>Toto zařízení tam už sdílí.</translation>
+    </message>
+    <message>
+        <source>Create the folder?</source>
+        <translation>Vytvořit složku?</translation>
+    </message>
+    <message>
+        <source>There is no folder %1 yet.</source>
+        <translation>Složka %1 zatím neexistuje.</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Vytvořit</translation>
+    </message>
+    <message>
+        <source>Open the folder</source>
+        <translation>Otevřít složku</translation>
+    </message>
+    <message>
+        <source>Folders cannot be chosen: the package %1 is missing. Type the path of the folder.</source>
+        <translation>Složky nelze vybírat: chybí balíček %1. Napište cestu ke složce.</translation>
+    </message>
+    <message>
+        <source>Show the password</source>
+        <translation>Zobrazit heslo</translation>
+    </message>
+    <message>
+        <source>Hide the password</source>
+        <translation>Skrýt heslo</translation>
+    </message>
+    <message>
+        <source>Use this password</source>
+        <translation>Použít toto heslo</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteHostAlert</name>
+    <message>
+        <source>Unable to establish connection to remote server</source>
+        <translation>Nelze navázat spojení se vzdáleným serverem</translation>
+    </message>
+    <message>
+        <source>Check your Internet connection.</source>
+        <translation>Zkontrolujte připojení k internetu.</translation>
     </message>
 </context>
 </TS>

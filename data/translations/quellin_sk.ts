@@ -2211,17 +2211,6 @@ Počkajte, kým sa program načíta.</translation>
         <source>The file could not be written.</source>
         <translation>Súbor sa nedá zapísať.</translation>
     </message>
-</context>
-<context>
-    <name>RemoteHostAlert</name>
-    <message>
-        <source>Unable to establish connection to remote server</source>
-        <translation>Nedá sa nadviazať spojenie so vzdialeným serverom</translation>
-    </message>
-    <message>
-        <source>Check your Internet connection.</source>
-        <translation>Skontrolujte pripojenie na internet.</translation>
-    </message>
     <message>
         <source>Open</source>
         <translation>Otvoriť</translation>
@@ -2387,16 +2376,167 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Priečinok neexistuje alebo sa doň nedá zapisovať.</translation>
     </message>
     <message>
-        <source>There is no such folder, or it cannot be written.</source>
-        <translation>Taký priečinok neexistuje alebo sa doň nedá zapisovať.</translation>
-    </message>
-    <message>
         <source>The place cannot take what this device has.</source>
         <translation>Na toto miesto sa nedá uložiť, čo toto zariadenie má.</translation>
     </message>
     <message>
         <source>Another place is being tried.</source>
         <translation>Práve sa skúša iné miesto.</translation>
+    </message>
+    <message>
+        <source>There is no server with the name in the address.</source>
+        <translation>Server s názvom uvedeným v adrese neexistuje.</translation>
+    </message>
+    <message>
+        <source>This device has no network, or no way to the server of the database.</source>
+        <translation>Toto zariadenie nemá sieť alebo cestu k serveru databázy.</translation>
+    </message>
+    <message>
+        <source>The server does not run a database at the address.</source>
+        <translation>Na tejto adrese servera žiadna databáza nebeží.</translation>
+    </message>
+    <message>
+        <source>The server of the database does not answer.</source>
+        <translation>Server databázy neodpovedá.</translation>
+    </message>
+    <message>
+        <source>The server has no database with the name in the address.</source>
+        <translation>Server nemá databázu s názvom uvedeným v adrese.</translation>
+    </message>
+    <message>
+        <source>The user in the address may not use the database.</source>
+        <translation>Používateľ uvedený v adrese nesmie databázu používať.</translation>
+    </message>
+    <message>
+        <source>The address of a database begins with postgresql://.</source>
+        <translation>Adresa databázy sa začína na postgresql://.</translation>
+    </message>
+    <message>
+        <source>An address has no options but sslmode, sslrootcert and host, with full paths.</source>
+        <translation>Adresa môže mať len voľby sslmode, sslrootcert a host, s úplnými cestami.</translation>
+    </message>
+    <message>
+        <source>The path of a folder begins with “/” or “~/”.</source>
+        <translation>Cesta k priečinku sa začína znakmi „/“ alebo „~/“.</translation>
+    </message>
+    <message>
+        <source>There is no such folder yet.</source>
+        <translation>Taký priečinok zatiaľ neexistuje.</translation>
+    </message>
+    <message>
+        <source>There is no such folder, nor the one in which it would be.</source>
+        <translation>Taký priečinok neexistuje, ani ten, v ktorom by bol.</translation>
+    </message>
+    <message>
+        <source>There is no such folder, and none can be created there.</source>
+        <translation>Taký priečinok neexistuje a nemožno ho tam vytvoriť.</translation>
+    </message>
+    <message>
+        <source>This is not a folder.</source>
+        <translation>Toto nie je priečinok.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written.</source>
+        <translation>Do priečinka nemožno zapisovať.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be created.</source>
+        <translation>Priečinok nemožno vytvoriť.</translation>
+    </message>
+    <message>
+        <source>This folder belongs to the guide on this device: choose another one.</source>
+        <translation>Tento priečinok patrí sprievodcovi na tomto zariadení: zvoľte iný.</translation>
+    </message>
+    <message>
+        <source>The place does not answer.</source>
+        <translation>Toto miesto neodpovedá.</translation>
+    </message>
+    <message>
+        <source>This device does not have the password of the database: enter it under “Your devices”.</source>
+        <translation>Toto zariadenie nemá heslo databázy: zadajte ho v časti „Vaše zariadenia“.</translation>
+    </message>
+    <message>
+        <source>Last change by another device with the name %1</source>
+        <translation>Posledná zmena z iného zariadenia s názvom %1</translation>
+    </message>
+    <message>
+        <source>Enter another password…</source>
+        <translation>Zadať iné heslo…</translation>
+    </message>
+    <message>
+        <source>Password of the database</source>
+        <translation>Heslo databázy</translation>
+    </message>
+    <message>
+        <source>Choose a folder…</source>
+        <translation>Vybrať priečinok…</translation>
+    </message>
+    <message>
+        <source>Other devices show it with what this one has changed.</source>
+        <translation>Ostatné zariadenia ho ukazujú pri tom, čo toto zariadenie zmenilo.</translation>
+    </message>
+    <message>
+        <source>Name of this device</source>
+        <translation>Názov tohto zariadenia</translation>
+    </message>
+    <message>
+        <source>Choose a folder that your devices share</source>
+        <translation>Vyberte priečinok, ktorý vaše zariadenia zdieľajú</translation>
+    </message>
+    <message>
+        <source>This device shares there from now on.</source>
+        <translation>Toto zariadenie tam odteraz zdieľa.</translation>
+    </message>
+    <message>
+        <source>The password works and is kept.</source>
+        <translation>Heslo platí a je uložené.</translation>
+    </message>
+    <message>
+        <source>This device shares there already.</source>
+        <translation>Toto zariadenie tam už zdieľa.</translation>
+    </message>
+    <message>
+        <source>Create the folder?</source>
+        <translation>Vytvoriť priečinok?</translation>
+    </message>
+    <message>
+        <source>There is no folder %1 yet.</source>
+        <translation>Priečinok %1 zatiaľ neexistuje.</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Vytvoriť</translation>
+    </message>
+    <message>
+        <source>Open the folder</source>
+        <translation>Otvoriť priečinok</translation>
+    </message>
+    <message>
+        <source>Folders cannot be chosen: the package %1 is missing. Type the path of the folder.</source>
+        <translation>Priečinky nemožno vyberať: chýba balík %1. Napíšte cestu k priečinku.</translation>
+    </message>
+    <message>
+        <source>Show the password</source>
+        <translation>Zobraziť heslo</translation>
+    </message>
+    <message>
+        <source>Hide the password</source>
+        <translation>Skryť heslo</translation>
+    </message>
+    <message>
+        <source>Use this password</source>
+        <translation>Použiť toto heslo</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteHostAlert</name>
+    <message>
+        <source>Unable to establish connection to remote server</source>
+        <translation>Nedá sa nadviazať spojenie so vzdialeným serverom</translation>
+    </message>
+    <message>
+        <source>Check your Internet connection.</source>
+        <translation>Skontrolujte pripojenie na internet.</translation>
     </message>
 </context>
 </TS>

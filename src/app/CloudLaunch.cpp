@@ -4,6 +4,7 @@
 #include "screens/Localized.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace guide {
@@ -16,8 +17,13 @@ constexpr auto kSilentHoursPrefix = "noAlarmsSchedule"_L1;
 
 /// A file for the user to take away.
 QString folderOfExports() {
-    const QString downloads = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
-    return QDir(downloads).exists() ? downloads : QDir::tempPath();
+    for (const auto location : {QStandardPaths::DownloadLocation, QStandardPaths::DocumentsLocation}) {
+        const QFileInfo folder(QStandardPaths::writableLocation(location));
+        if (folder.isDir() && folder.isWritable()) {
+            return folder.filePath();
+        }
+    }
+    return QDir::tempPath();
 }
 
 } // namespace

@@ -48,7 +48,8 @@ std::optional<QString> typedPassword() {
 int setUpCloud(const QString& address, const std::optional<QString>& user, const QString& schemaFolder) {
     QString why;
     std::optional<DatabaseAddress> administrator = databaseAddress(address, why);
-    if (!administrator) {
+    // Before anything is changed.
+    if (!administrator || (user && !DatabaseSetup::acceptsName(*user, why))) {
         return refuse(why);
     }
     bool needsPassword = false;
@@ -73,13 +74,22 @@ int setUpCloud(const QString& address, const std::optional<QString>& user, const
     if (!user) {
         return 0;
     }
-    const std::optional<QString> made = setup->setUser(*user, why);
+    const std::optional<DatabaseSetup::User> made = setup->setUser(*user, why);
     if (!made) {
         return refuse(why);
     }
     warn(*setup);
-    std::printf("the address for the devices of %s, with a password that is shown only now:\n%s\n",
-                qPrintable(*user), qPrintable(*made));
+    if (made->isNew) {
+        std::printf(
+            "made the user %s; the address for the devices, with a password that is shown only now:\n",
+            qPrintable(*user));
+    } else {
+        std::printf(
+            "gave the user %s a new password; devices with the one before are refused when they connect "
+            "next. The address, with the password, which is shown only now:\n",
+            qPrintable(*user));
+    }
+    std::puts(qPrintable(made->address));
     if (administrator->isSocket()) {
         std::puts("with the name under which devices reach this server in place of \"server\"");
     }

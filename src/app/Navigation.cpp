@@ -43,6 +43,12 @@ void QuellinGuideAppDelegate::openWebPage(const QUrl& url, const QString& title)
                                         .openExternally = m_environment.openExternally}));
 }
 
+void QuellinGuideAppDelegate::openFolder(const QString& path) {
+    if (m_environment.openExternally) {
+        m_environment.openExternally(QUrl::fromLocalFile(path));
+    }
+}
+
 void QuellinGuideAppDelegate::showPictures(const std::vector<QUrl>& urls) {
     m_tabBarController->presentCover(std::make_shared<ScreenShotViewController>(
         m_screenEnvironment->pictures, urls, [this] { m_tabBarController->dismissCover(); }));

@@ -149,6 +149,7 @@ class QuellinGuideAppDelegate final : public LifeCycleObserver,
     void openWebPage(const QUrl& url, const QString& title) override;
     void presentAlert(Alert alert) override;
     void presentNotice(Notice notice) override;
+    void openFolder(const QString& path) override;
     void presentFileChooser(FileChooser chooser) override;
     void selectTab(Symbol tab) override;
     void showPictures(const std::vector<QUrl>& urls) override;

@@ -1,12 +1,14 @@
 #include "app/SharedStoresChoice.h"
 
+#include "app/SharedFolder.h"
 #include "platform/linux/FolderKeyValueStore.h"
 #include "platform/linux/SharedFolderKeyValueStore.h"
-#include "platform/linux/database/DatabaseAddress.h"
+#include "platform/linux/database/PostgresSession.h"
 #include "platform/linux/database/SharedStores.h"
 
 #include <QDebug>
 #include <QDir>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QSysInfo>
 
@@ -27,10 +29,13 @@ const QStringList kSharedKeys{
     u"noAlarmsSchedule.0"_s, u"noAlarmsSchedule.1"_s, u"noAlarmsSchedule.acrossMidnight"_s};
 constexpr auto kLongestWait = 30s;
 constexpr auto kTimeToLeave = 2s;
-const QString kNoFolder = u"There is no such folder, or it cannot be written."_s;
+const QString kNoAnswer = u"The place does not answer."_s;
 
-/// The name of this device with digits that tell it from others of the name, made once for each profile.
-QString deviceOf(UserDefaults& userDefaults) {
+const QString kDeviceNameKey = u"deviceName"_s;
+constexpr qsizetype kLongestName = 60;
+
+/// The name of the machine with digits that tell it from others of the name, made once for each profile.
+QString machineOf(UserDefaults& userDefaults) {
     const QString key = u"device"_s;
     if (const auto device = userDefaults.stringForKey(key)) {
         return *device;
@@ -42,15 +47,43 @@ QString deviceOf(UserDefaults& userDefaults) {
     return device;
 }
 
+/// The name for people, "-", and the digits.
+QString deviceOf(UserDefaults& userDefaults) {
+    const QString machine = machineOf(userDefaults);
+    const std::optional<QString> name = userDefaults.stringForKey(kDeviceNameKey);
+    return name ? *name + machine.sliced(std::max<qsizetype>(0, machine.lastIndexOf(u'-'))) : machine;
+}
+
 QString nameOf(const QString& device) {
     return device.left(device.lastIndexOf(u'-'));
+}
+
+/// Keeps the password of an address for what `use` does. Where that fails, the former password is put back.
+template <class Use>
+bool withPasswordKept(const QString& address, SecretStore& secrets, QString& why, const Use& use) {
+    const std::optional<DatabaseAddress> read = databaseAddress(address, why);
+    const QString key = read ? databaseSecretKey(*read) : QString();
+    const std::optional<QString> former = read && read->password ? secrets.secret(key) : std::nullopt;
+    if (!read || !keepDatabasePassword(address, secrets, why)) {
+        return false;
+    }
+    if (use()) {
+        return true;
+    }
+    if (read->password && former) {
+        secrets.setSecret(key, *former);
+    } else if (read->password) {
+        secrets.removeSecret(key);
+    }
+    return false;
 }
 
 } // namespace
 
 SharedStoresChoice::SharedStoresChoice(Environment environment)
     : m_environment(environment)
-    , m_queue(environment.queues.makeQueue("sharedStores", QueueKind::Serial, QueuePriority::UserInitiated)) {
+    , m_queue(environment.queues.makeQueue("sharedStores", QueueKind::Serial, QueuePriority::UserInitiated))
+    , m_stop(std::make_shared<const WakeUp>()) {
     const QString address = m_environment.userDefaults.stringForKey(kAddressKey).value_or(QString());
     Stores stores;
     if (isDatabaseAddress(address)) {
@@ -68,6 +101,7 @@ SharedStoresChoice::SharedStoresChoice(Environment environment)
 }
 
 SharedStoresChoice::~SharedStoresChoice() {
+    m_stop->wake();
     m_current.shared->setStateObserver(nullptr);
     if (m_choice) {
         m_choice->stores.shared->setStateObserver(nullptr);
@@ -85,26 +119,30 @@ SharedStoresChoice::Stores SharedStoresChoice::folderStores(const QString& addre
         SharedFolderOptions{
             .folder = address, .device = device, .keepsIn = m_environment.folders.documents, .joins = joins},
         m_environment.clock, m_environment.queues);
-    return {.address = address,
-            .keyValueStore = store,
-            .shared = store.get(),
-            .retryNow = [store] { store->retryNow(); },
-            .finish = [store](std::chrono::milliseconds atMost) { store->finishWriting(atMost); },
-            .forget = [store] { store->forget(); }};
+    Stores stores{.address = address, .deviceName = nameOf(device), .keyValueStore = store};
+    stores.shared = store.get();
+    stores.retryNow = [store] { store->retryNow(); };
+    stores.setDeviceName = [store, this](const QString&) {
+        store->setDevice(deviceOf(m_environment.userDefaults));
+    };
+    stores.finish = [store](std::chrono::milliseconds atMost) { store->finishWriting(atMost); };
+    stores.forget = [store](bool) { store->forget(); };
+    return stores;
 }
 
 SharedStoresChoice::Stores SharedStoresChoice::databaseStores(const QString& address, bool joins,
                                                               QString& why) const {
-    SharedStores made =
-        sharedStoresFor(address,
-                        {.folder = m_environment.folders.documents,
-                         .deviceName = nameOf(deviceOf(m_environment.userDefaults)),
-                         .joins = joins},
-                        m_environment.clock, m_environment.secrets, m_environment.queues, why);
-    Stores stores{.address = address, .keyValueStore = std::move(made.keyValueStore)};
+    const QString name = deviceName();
+    SharedStores made = sharedStoresFor(
+        address, {.folder = m_environment.folders.documents, .deviceName = name, .joins = joins},
+        m_environment.clock, m_environment.secrets, m_environment.queues, why);
+    Stores stores{.address = address, .deviceName = name, .keyValueStore = std::move(made.keyValueStore)};
     stores.records = std::move(made.recordStore);
     stores.shared = made.state;
     stores.retryNow = std::move(made.retryNow);
+    stores.setPassword = std::move(made.setPassword);
+    stores.setDeviceName = std::move(made.setDeviceName);
+    stores.forget = std::move(made.forget);
     return stores;
 }
 
@@ -120,8 +158,33 @@ void SharedStoresChoice::finish(std::chrono::milliseconds atMost) const {
     }
 }
 
+QString SharedStoresChoice::deviceName() const {
+    return nameOf(deviceOf(m_environment.userDefaults));
+}
+
+void SharedStoresChoice::setDeviceName(const QString& name) {
+    const QString plain = name.simplified().left(kLongestName);
+    if (plain.isEmpty() || plain == nameOf(machineOf(m_environment.userDefaults))) {
+        m_environment.userDefaults.removeKey(kDeviceNameKey);
+    } else {
+        m_environment.userDefaults.setString(kDeviceNameKey, plain);
+    }
+    useDeviceName();
+    tellChanged();
+}
+
+void SharedStoresChoice::useDeviceName() {
+    const QString name = deviceName();
+    if (m_choice || m_current.address.isEmpty() || m_current.deviceName == name) {
+        return;
+    }
+    m_current.deviceName = name;
+    m_current.setDeviceName(name);
+}
+
 SharedPlace SharedStoresChoice::place() const {
-    SharedPlace place{.address = m_current.address, .state = m_current.shared->sharedState()};
+    SharedPlace place{
+        .address = m_current.address, .state = m_current.shared->sharedState(), .deviceName = deviceName()};
     if (!place.address.isEmpty()) {
         place.kind =
             isDatabaseAddress(place.address) ? SharedPlace::Kind::Database : SharedPlace::Kind::Folder;
@@ -133,36 +196,76 @@ void SharedStoresChoice::choose(const QString& address, MainBlock<QString> mainB
     QString why;
     const std::optional<DatabaseAddress> database =
         isDatabaseAddress(address) ? databaseAddress(address, why) : std::nullopt;
-    if ((database ? database->text() : address) == m_current.address && why.isEmpty()) {
-        stay(address, std::move(mainBlock));
-        return;
+    const QString path = isDatabaseAddress(address) ? QString() : folderPath(address);
+    if (why.isEmpty() && path.isEmpty() && !database && !address.isEmpty()) {
+        why = address.contains("://"_L1) ? u"The address of a database begins with postgresql://."_s
+                                         : u"The path of a folder begins with “/” or “~/”."_s;
     }
-    if (database) {
+    if (!why.isEmpty()) {
+        mainBlock.post(m_environment.queues.mainQueue(), std::move(why));
+    } else if ((database ? database->text() : path) == m_current.address) {
+        stay(database, address, std::move(mainBlock));
+    } else if (database) {
         Stores stores = m_choice ? Stores{} : databaseStores(address, true, why);
         stores.entered = address;
         stores.address = database->text();
         tryStores(std::move(stores), why, std::move(mainBlock));
-        return;
+    } else {
+        chooseFolder(path, std::move(mainBlock));
     }
-    if (why.isEmpty() && !address.isEmpty() && !QDir::isAbsolutePath(address)) {
-        why = kNoFolder;
-    }
-    tryStores(m_choice || !why.isEmpty() ? Stores{} : folderStores(address, true), why, std::move(mainBlock));
+}
+
+void SharedStoresChoice::chooseFolder(const QString& path, MainBlock<QString> mainBlock) {
+    DispatchQueue& mainQueue = m_environment.queues.mainQueue();
+    const auto answer = std::make_shared<std::optional<MainBlock<QString>>>(std::move(mainBlock));
+    const auto answered = [this, path, answer, alive = std::weak_ptr(m_alive)](QString why) {
+        if (!alive.expired() && *answer) {
+            MainBlock<QString> block = *std::exchange(*answer, std::nullopt);
+            const bool isUsable = why.isEmpty() && !m_choice;
+            tryStores(isUsable ? folderStores(path, true) : Stores{}, std::move(why), std::move(block));
+        }
+    };
+    // Not on the queue of the choices: the disk may never answer.
+    m_environment.queues.globalQueue(QueuePriority::UserInitiated)
+        .async([path, answered, own = m_environment.folders.keyValueStore, &mainQueue] {
+            QString why = path.isEmpty() ? QString() : problemOfSharedFolder(path);
+            if (!path.isEmpty() && why.isEmpty() &&
+                QFileInfo(path).canonicalFilePath() == QFileInfo(own).canonicalFilePath()) {
+                why = u"This folder belongs to the guide on this device: choose another one."_s;
+            }
+            mainQueue.async([answered, why] { answered(why); });
+        });
+    mainQueue.asyncAfter(kLongestWait, [answered] { answered(kNoAnswer); });
+}
+
+void SharedStoresChoice::createFolder(const QString& path, MainBlock<QString> mainBlock) {
+    m_queue->async([path = folderPath(path), &mainQueue = m_environment.queues.mainQueue(),
+                    answer = std::move(mainBlock)]() mutable {
+        const bool isMade = !path.isEmpty() && (QDir().mkdir(path) || QFileInfo(path).isDir());
+        answer.post(mainQueue, isMade ? QString() : u"The folder cannot be created."_s);
+    });
 }
 
 // With another password, perhaps.
-void SharedStoresChoice::stay(const QString& address, MainBlock<QString> answer) {
-    m_queue->async([this, address, answer = std::move(answer), alive = std::weak_ptr(m_alive)]() mutable {
+void SharedStoresChoice::stay(const std::optional<DatabaseAddress>& database, const QString& entered,
+                              MainBlock<QString> answer) {
+    m_queue->async([this, database, entered, stop = m_stop, answer = std::move(answer),
+                    alive = std::weak_ptr(m_alive)]() mutable {
         QString why;
-        if (isDatabaseAddress(address)) {
-            keepDatabasePassword(address, m_environment.secrets, why);
+        if (database && database->password && acceptsDatabasePassword(*database, *stop, why)) {
+            keepDatabasePassword(entered, m_environment.secrets, why);
         }
         m_environment.queues.mainQueue().async(
-            [this, why, answer = std::move(answer), alive = std::move(alive)]() mutable {
-                if (!alive.expired()) {
-                    retryNow();
-                    answer.post(m_environment.queues.mainQueue(), std::move(why));
+            [this, database, why, answer = std::move(answer), alive = std::move(alive)]() mutable {
+                if (alive.expired()) {
+                    return;
                 }
+                if (why.isEmpty() && database && database->password && m_current.setPassword &&
+                    m_current.address == database->text()) {
+                    m_current.setPassword(*database->password);
+                }
+                retryNow();
+                answer.post(m_environment.queues.mainQueue(), std::move(why));
             });
     });
 }
@@ -187,8 +290,7 @@ void SharedStoresChoice::tryStores(Stores stores, QString why, MainBlock<QString
     m_environment.queues.mainQueue().asyncAfter(
         kLongestWait, [this, choice = std::weak_ptr(m_choice), alive = std::weak_ptr(m_alive)] {
             if (!alive.expired() && !choice.expired() && !m_choice->isMoving) {
-                end(isDatabaseAddress(m_choice->stores.address) ? u"The database cannot be reached."_s
-                                                                : kNoFolder);
+                end(kNoAnswer);
             }
         });
     look();
@@ -200,7 +302,7 @@ void SharedStoresChoice::look() {
     }
     const SharedStoreState state = m_choice->stores.shared->sharedState();
     if (!state.reason.isEmpty()) {
-        end(isDatabaseAddress(m_choice->stores.address) ? state.reason : kNoFolder);
+        end(state.reason);
     } else if (state.isRead) {
         move();
     }
@@ -217,10 +319,12 @@ void SharedStoresChoice::move() {
                     alive = std::weak_ptr(m_alive)]() mutable {
         QString why;
         std::optional<QStringList> differing;
-        if (entered.isEmpty() || keepDatabasePassword(entered, m_environment.secrets, why)) {
+        const auto replace = [&] {
             differing = values->replace(std::move(store), kSharedKeys, keeps);
             why = differing ? QString() : u"The place cannot take what this device has."_s;
-        }
+            return differing.has_value();
+        };
+        entered.isEmpty() ? replace() : withPasswordKept(entered, m_environment.secrets, why, replace);
         if (differing && left.finish) {
             left.finish(kTimeToLeave);
         }
@@ -248,7 +352,7 @@ void SharedStoresChoice::moved(const std::optional<QStringList>& differing, cons
     const std::shared_ptr<Choice> choice = m_choice;
     m_current.shared->setStateObserver(nullptr);
     if (m_current.forget) {
-        m_current.forget();
+        m_current.forget(true);
     }
     m_keyValueStore->endReplaced();
     adopt(choice->stores);
@@ -274,11 +378,15 @@ void SharedStoresChoice::end(const QString& why) {
     if (!why.isEmpty()) {
         choice->stores.shared->setStateObserver(nullptr);
         if (choice->stores.forget) {
-            choice->stores.forget();
+            choice->stores.forget(false);
         }
     }
     choice->answer.post(m_environment.queues.mainQueue(), QString(why));
     tellChanged();
+    if (why.isEmpty()) {
+        // It may have got another name meanwhile.
+        useDeviceName();
+    }
 }
 
 } // namespace guide

@@ -7,6 +7,7 @@
 #include "platform/SwitchedRecordStore.h"
 #include "platform/UserDefaults.h"
 #include "platform/files/Folders.h"
+#include "platform/linux/database/DatabaseAddress.h"
 #include "platform/queues/DispatchQueue.h"
 
 #include <chrono>
@@ -15,6 +16,8 @@
 #include <optional>
 
 namespace guide {
+
+class WakeUp;
 
 /// The stores that the guide shares with the user's other devices and with other users: the folder of the
 /// profile, another folder or a database, as the user has chosen. Main thread; the stores, any.
@@ -40,6 +43,8 @@ class SharedStoresChoice final : public SharedPlaceActions {
     SharedPlace place() const override;
     /// A folder or database is waited for, at most half a minute.
     void choose(const QString& address, MainBlock<QString> mainBlock) override;
+    void createFolder(const QString& path, MainBlock<QString> mainBlock) override;
+    void setDeviceName(const QString& name) override;
     void retryNow() override;
     /// Waits until a folder has what this device changed. Before the queues end.
     void finish(std::chrono::milliseconds atMost) const;
@@ -53,15 +58,20 @@ class SharedStoresChoice final : public SharedPlaceActions {
         QString address = {};
         /// As the user entered it, with a password that is not kept yet.
         QString entered = {};
+        /// Of this device, as the stores use it.
+        QString deviceName = {};
         std::shared_ptr<KeyValueStore> keyValueStore = {};
         /// Null when no counters are shared.
         std::shared_ptr<RecordStore> records = {};
         /// Part of the key-value store.
         SharedStore* shared = nullptr;
         std::function<void()> retryNow = {};
-        /// The same as of SharedFolderKeyValueStore; empty for other stores.
+        std::function<void(const QString&)> setPassword = {};
+        std::function<void(const QString&)> setDeviceName = {};
+        /// Waits, not longer, until the place has what this device changed; empty for those that know later.
         std::function<void(std::chrono::milliseconds)> finish = {};
-        std::function<void()> forget = {};
+        /// Leaves nothing of the values of the place in the profile.
+        std::function<void(bool wasUsed)> forget = {};
     };
     /// A choice that is being made.
     struct Choice {
@@ -72,7 +82,12 @@ class SharedStoresChoice final : public SharedPlaceActions {
 
     Stores folderStores(const QString& address, bool joins) const;
     Stores databaseStores(const QString& address, bool joins, QString& why) const;
-    void stay(const QString& address, MainBlock<QString> answer);
+    QString deviceName() const;
+    /// Where the stores still have another one.
+    void useDeviceName();
+    void chooseFolder(const QString& path, MainBlock<QString> mainBlock);
+    void stay(const std::optional<DatabaseAddress>& database, const QString& entered,
+              MainBlock<QString> answer);
     void tryStores(Stores stores, QString why, MainBlock<QString> answer);
     /// Goes on when the state of the stores tells whether they can be used.
     void look();
@@ -90,6 +105,8 @@ class SharedStoresChoice final : public SharedPlaceActions {
     std::shared_ptr<Choice> m_choice;
     std::weak_ptr<const void> m_observer;
     std::function<void()> m_changed;
+    /// Ends what waits for a server.
+    const std::shared_ptr<const WakeUp> m_stop;
     const std::shared_ptr<char> m_alive = std::make_shared<char>();
 };
 

@@ -1,6 +1,7 @@
 #include "cloud/UserData.h"
 
 #include "alarms/SilentHours.h"
+#include "cloud/EarlierExport.h"
 #include "platform/files/FileReplacement.h"
 
 #include <QDebug>
@@ -68,7 +69,8 @@ QByteArray UserData::exportedText() const {
 void UserData::exportData(MainBlock<std::optional<QString>> mainBlock) {
     m_queue->async([this, mainBlock = std::move(mainBlock)]() mutable {
         const QString path = m_environment.exportFolder + u"/tv-app-data.txt"_s;
-        const bool isWritten = replaceFile(path, exportedText());
+        const QByteArray text = exportedText();
+        const bool isWritten = keepEarlierExport(path, text) && replaceFile(path, text);
         if (!isWritten) {
             qWarning().noquote() << "Error creating" << path;
         }

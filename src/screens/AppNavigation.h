@@ -26,7 +26,9 @@ class AppNavigation {
     virtual void presentAlert(Alert alert) = 0;
     /// Shows the notice after those that are already waiting.
     virtual void presentNotice(Notice notice) = 0;
-    /// Lets the user choose a file.
+    /// Shows a folder of this device in the program that the desktop has for folders.
+    virtual void openFolder(const QString& path) = 0;
+    /// Lets the user choose a file or a folder.
     virtual void presentFileChooser(FileChooser chooser) = 0;
     /// Selects the tab with this symbol. Does nothing when there is none.
     virtual void selectTab(Symbol tab) = 0;

@@ -94,10 +94,22 @@ TEST_F(SharedStoresChoiceTest, APlaceThatCannotBeUsedChangesNothing) {
     choice->keyValueStore().setValue(u"Favorites"_s, u"ours"_s);
     QFile file(root.filePath(u"file"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    for (const QString& address :
-         {root.filePath(u"none"_s), file.fileName(), u"relative"_s, u"https://tv.example/guide"_s}) {
-        EXPECT_EQ(choose(address), u"There is no such folder, or it cannot be written."_s)
-            << address.toStdString();
+    const struct {
+        QString address;
+        const char* why;
+    } cases[] = {
+        {root.filePath(u"none"_s), kFolderIsMissing},
+        {root.filePath(u"none/none"_s), "There is no such folder, nor the one in which it would be."},
+        {u"file://"_s + file.fileName(), "This is not a folder."},
+        {folders.keyValueStore + u"/../profile/"_s,
+         "This folder belongs to the guide on this device: choose another one."},
+        {u"https://tv.example/guide"_s, "The address of a database begins with postgresql://."}};
+    for (const auto& each : cases) {
+        EXPECT_EQ(choose(each.address), QString::fromUtf8(each.why)) << each.address.toStdString();
+    }
+    for (const char* relative : {"relative", "~anna/sync", "./sync", "file:sync"}) {
+        EXPECT_EQ(choose(QString::fromLatin1(relative)), u"The path of a folder begins with “/” or “~/”."_s)
+            << relative;
     }
     EXPECT_TRUE(QDir(folders.documents).isEmpty()) << "what was tried leaves nothing";
     EXPECT_FALSE(choose(u"postgresql://anna@tv.example/guide?sslmode=disable"_s).isEmpty());
@@ -106,6 +118,37 @@ TEST_F(SharedStoresChoiceTest, APlaceThatCannotBeUsedChangesNothing) {
     EXPECT_EQ(value(u"Favorites"_s), u"ours"_s);
     EXPECT_FALSE(defaults.stringForKey(u"sharedPlace"_s));
     EXPECT_TRUE(announced.isEmpty());
+}
+
+TEST_F(SharedStoresChoiceTest, AFolderIsCreatedInTheHome) {
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", QFile::encodeName(root.path()));
+    QString why = u"no answer"_s;
+    choice->createFolder(u"~/new"_s, MainBlock<QString>([&why](const QString& answer) { why = answer; }));
+    queues.runAll();
+    EXPECT_EQ(why, QString());
+    EXPECT_EQ(choose(u" ~/new/ "_s), QString());
+    EXPECT_EQ(choose(u"~/new"_s), QString()) << "used already";
+    EXPECT_EQ(choice->place().address, root.filePath(u"new"_s));
+    qputenv("HOME", home);
+}
+
+TEST_F(SharedStoresChoiceTest, ANewNameIsThatOfTheNextChange) {
+    const QString place = made(u"sync"_s);
+    ASSERT_EQ(choose(place), QString());
+    const QString host = choice->place().deviceName;
+    choice->keyValueStore().setValue(u"Favorites"_s, u"a"_s);
+    choice->setDeviceName(u"  Front   desk \n"_s);
+    EXPECT_EQ(choice->place().deviceName, u"Front desk"_s);
+    queues.runAll();
+    choice->keyValueStore().setValue(u"Favorites"_s, u"b"_s);
+    FolderKeyValueStore reader(place, u"phone-1"_s, queues);
+    EXPECT_EQ(reader.sharedState().device, u"Front desk"_s);
+    EXPECT_EQ(choice->place().state.device, QString()) << "what it wrote under the other name is its own";
+    start();
+    EXPECT_EQ(choice->place().deviceName, u"Front desk"_s);
+    choice->setDeviceName({});
+    EXPECT_EQ(choice->place().deviceName, host);
 }
 
 TEST_F(SharedStoresChoiceTest, AFolderThatVanishesSaysSo) {

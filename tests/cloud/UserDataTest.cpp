@@ -120,6 +120,13 @@ TEST_F(UserDataTest, ExportsEverything) {
                               "\r\n\r\nLast set alarm:\r\n15min before the show\r\n");
     device.shows.setFavorites({{QString(u"a\0b"_s), {}, Moment(), {}}});
     EXPECT_TRUE(data.exportedText().endsWith("Favorites:\r\n\t\"a")) << "up to the zero character";
+    for (int time = 0; time < 2; ++time) {
+        data.exportData({[&path](const std::optional<QString>& answer) { path = answer; }});
+        queues.runAll();
+    }
+    EXPECT_EQ(QDir(folder.path()).entryList({u"*.txt"_s}),
+              QStringList({u"tv-app-data-1.txt"_s, u"tv-app-data.txt"_s}))
+        << "the earlier one is kept, an equal one is not";
 
     ASSERT_TRUE(QFile::remove(*path) && QDir().mkpath(*path + u"/in the way"_s));
     data.exportData({[&path](const std::optional<QString>& answer) { path = answer; }});

@@ -4,6 +4,7 @@
 #include "alarms/SilentHours.h"
 #include "screens/options/CalendarsViewController.h"
 #include "screens/options/OptionsViewController.h"
+#include "screens/options/SharedPlaceViewController.h"
 #include "screens/options/SilentHoursViewController.h"
 
 namespace guide::test {
@@ -94,7 +95,9 @@ TEST_F(OptionsTest, TheUsersDataIsExportedAfterAQuestion) {
     world.send<ButtonRow>(*options, u"Export…"_s, Tapped{});
     answer(1);
     ASSERT_EQ(world.app.alerts.size(), 1U);
-    EXPECT_EQ(std::exchange(world.app.alerts, {})[0].message, userData.exported);
+    EXPECT_EQ(world.app.alerts[0].message, userData.exported);
+    answer(1);
+    EXPECT_EQ(world.app.done, QStringList(u"folder /home"_s));
     userData.exported.reset();
     world.send<ButtonRow>(*options, u"Export…"_s, Tapped{});
     answer(1);
@@ -133,6 +136,71 @@ TEST_F(OptionsTest, AnotherPlaceIsChosenAfterAQuestion) {
     EXPECT_EQ(screen.table().sections().front().footer, sharedPlace.now.state.reason);
     world.send<ButtonRow>(screen, u"Only on this device"_s, Tapped{});
     EXPECT_EQ(sharedPlace.now.kind, SharedPlace::Kind::ThisDevice);
+}
+
+TEST_F(OptionsTest, AFolderIsChosenOrCreated) {
+    const auto screen = open<SharedPlaceViewController>();
+    const QString field = u"Folder or address of a database"_s;
+    world.send<ButtonRow>(*screen, u"Choose a folder…"_s, Tapped{});
+    EXPECT_EQ(world.app.fileChooser.kind, FileChooser::Kind::Folder);
+    const QString path = sharedPlace.missing;
+    world.app.fileChooser.chosen(path);
+    answer(1);
+    EXPECT_EQ(contentTitled<InputRow>(screen->table(), field)->error, u"There is no such folder yet."_s);
+    answer(1);
+    EXPECT_EQ(sharedPlace.now.address, path) << "created";
+    EXPECT_EQ(contentTitled<InputRow>(screen->table(), field)->text, QString());
+    EXPECT_EQ(world.app.notices.back().text, u"This device shares there from now on."_s);
+    world.send<InputRow>(*screen, field, TextEdited{path, true, true});
+    world.queues.runAll();
+    EXPECT_EQ(world.app.notices.back().text, u"This device shares there already."_s) << "without a question";
+}
+
+TEST_F(OptionsTest, APasswordIsApartFromTheAddress) {
+    const auto screen = open<SharedPlaceViewController>();
+    const QString title = u"Folder or address of a database"_s;
+    const auto field = [&](const QString& of) { return *contentTitled<InputRow>(screen->table(), of); };
+    const QString hidden = u"Password of the database"_s;
+    EXPECT_FALSE(contentTitled<InputRow>(screen->table(), hidden));
+    // Pasted, then typed.
+    world.send<InputRow>(*screen, title, TextEdited{u"postgresql://anna:s%40@tv/guide"_s});
+    EXPECT_EQ(field(title).text, u"postgresql://anna@tv/guide"_s);
+    EXPECT_EQ(field(hidden).text, u"s@"_s);
+    EXPECT_EQ(field(hidden).kind, InputRow::Kind::Password);
+    const int revision = field(title).revision;
+    world.send<InputRow>(*screen, title, TextEdited{u"postgresql://anna:@tv/guide"_s});
+    world.send<InputRow>(*screen, title, TextEdited{u"postgresql://anna:x@tv/guide"_s});
+    EXPECT_EQ(field(title).revision, revision) << "not while it is typed";
+    world.send<InputRow>(*screen, title, TextEdited{u"postgresql://anna:x@tv/guide"_s, true});
+    EXPECT_EQ(field(hidden).text, u"x"_s);
+    world.send<InputRow>(*screen, hidden, TextEdited{u"a/b"_s, true, true});
+    answer(1);
+    EXPECT_EQ(sharedPlace.chosen, QStringList(u"postgresql://anna:a%2Fb@tv/guide"_s));
+    EXPECT_FALSE(contentTitled<InputRow>(screen->table(), hidden)) << "forgotten";
+
+    world.send<ButtonRow>(*screen, u"Enter another password…"_s, Tapped{});
+    sharedPlace.why = u"The database does not accept the user or the password."_s;
+    world.send<InputRow>(*screen, hidden, TextEdited{u"y"_s, true, true});
+    world.queues.runAll();
+    EXPECT_EQ(sharedPlace.chosen.back(), u"postgresql://anna:y@tv/guide"_s) << "without a question";
+    EXPECT_EQ(field(hidden).error, sharedPlace.why) << "below the password";
+    EXPECT_EQ(field(title).error, QString());
+    sharedPlace.why.clear();
+    world.send<ButtonRow>(*screen, u"Use this password"_s, Tapped{});
+    world.queues.runAll();
+    EXPECT_EQ(world.app.notices.back().text, u"The password works and is kept."_s);
+    EXPECT_FALSE(contentTitled<InputRow>(screen->table(), hidden));
+}
+
+TEST_F(OptionsTest, TheDeviceHasAName) {
+    sharedPlace.now.state = {.lastSeen = world.begin, .device = u"Notebook"_s};
+    const auto screen = open<SharedPlaceViewController>();
+    EXPECT_TRUE(
+        screen->table().sections().front().footer.contains(u"another device with the name Notebook"_s));
+    world.send<InputRow>(*screen, u"Name of this device"_s, TextEdited{u"Desk"_s});
+    EXPECT_EQ(sharedPlace.now.deviceName, u"Notebook"_s) << "not while it is typed";
+    world.send<InputRow>(*screen, u"Name of this device"_s, TextEdited{u"Desk"_s, true});
+    EXPECT_EQ(sharedPlace.now.deviceName, u"Desk"_s);
 }
 
 TEST_F(OptionsTest, ErasingSaysBeforeAndAfterWhatItRemoves) {

@@ -88,6 +88,7 @@ struct WorldApp final : ScreenSettings,
     }
     void presentAlert(Alert alert) override { alerts.push_back(std::move(alert)); }
     void presentNotice(Notice notice) override { notices.push_back(std::move(notice)); }
+    void openFolder(const QString& path) override { done << u"folder "_s + path; }
     void presentFileChooser(FileChooser chooser) override { fileChooser = std::move(chooser); }
     void selectTab(Symbol tab) override { done << u"tab %1"_s.arg(static_cast<int>(tab)); }
     void setAlarmForTitle(const QString& title, const ObjectId&, Moment, Moment, int minutes, bool,

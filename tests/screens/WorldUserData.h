@@ -3,6 +3,9 @@
 #include "ScreenWorld.h"
 #include "cloud/SharedPlaceActions.h"
 #include "cloud/UserDataActions.h"
+#include "screens/options/AddressTexts.h"
+
+#include <gtest/gtest.h>
 
 namespace guide::test {
 
@@ -42,21 +45,36 @@ struct WorldSharedPlace final : SharedPlaceActions {
         : mainQueue(ownMainQueue) {}
     SharedPlace place() const override { return now; }
     void choose(const QString& address, MainBlock<QString> mainBlock) override {
-        const bool isBad = address.contains(u"bad"_s);
-        if (!isBad) {
+        chosen << address;
+        const bool isBad = address.contains(u"bad"_s) || !why.isEmpty();
+        if (!isBad && (missing.isEmpty() || address != missing)) {
             now = {.kind = address.isEmpty()          ? SharedPlace::Kind::ThisDevice
                            : address.startsWith(u'/') ? SharedPlace::Kind::Folder
                                                       : SharedPlace::Kind::Database,
-                   .address = address};
+                   .address = withoutPassword(address).address,
+                   .deviceName = now.deviceName};
         }
-        mainBlock.post(mainQueue, isBad ? u"The database cannot be reached."_s : QString());
+        mainBlock.post(mainQueue, !why.isEmpty()       ? QString(why)
+                                  : isBad              ? u"The database cannot be reached."_s
+                                  : address == missing ? QString::fromLatin1(kFolderIsMissing)
+                                                       : QString());
     }
+    void createFolder(const QString& path, MainBlock<QString> mainBlock) override {
+        EXPECT_EQ(path, missing);
+        missing.clear();
+        mainBlock.post(mainQueue, QString());
+    }
+    void setDeviceName(const QString& name) override { now.deviceName = name; }
     void retryNow() override {}
     void setObserver(std::weak_ptr<const void> /*owner*/, std::function<void()> changed) override {
         observer = std::move(changed);
     }
     DispatchQueue& mainQueue;
-    SharedPlace now;
+    SharedPlace now{.deviceName = u"Notebook"_s};
+    QStringList chosen;
+    QString why;
+    /// A folder that could be created.
+    QString missing = u"/home/anna/none"_s;
     std::function<void()> observer;
 };
 

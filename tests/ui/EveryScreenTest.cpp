@@ -157,13 +157,26 @@ constexpr Screen kScreens[] = {
          setSilentHoursFrom(test.world.keyValueStore, test.world.clock.now());
          test.sharedPlace.now = {.kind = SharedPlace::Kind::Folder,
                                  .address = u"/home/anna/Dokumenty/Synchronizace/Televize"_s,
-                                 .state = {.lastSeen = test.world.begin, .device = u"Telefon v předsíni"_s}};
+                                 .state = {.lastSeen = test.world.begin, .device = u"Telefon v předsíni"_s},
+                                 .deviceName = u"Notebook v obývacím pokoji"_s};
          test.pressBarButton(u"Options"_s);
          return true;
      }},
     {"the user's devices",
      [](EveryScreenTest& test) {
          test.tapRow(u"Your devices"_s);
+         return true;
+     }},
+    {"the user's devices in a database",
+     [](EveryScreenTest& test) {
+         test.sharedPlace.now.kind = SharedPlace::Kind::Database;
+         test.sharedPlace.now.address =
+             u"postgresql://anna@tv.example.org:5433/guide?sslrootcert=/etc/home/ca.crt"_s;
+         test.sharedPlace.now.state.reason =
+             u"This device does not have the password of the database: enter it under “Your devices”."_s;
+         test.sharedPlace.observer();
+         test.sharedPlace.why = u"The database does not accept the user or the password."_s;
+         test.send(RowKind::Input, TextEdited{u"secret"_s, true, true});
          return true;
      }},
     {"erasing",

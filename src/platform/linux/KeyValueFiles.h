@@ -39,8 +39,10 @@ class KeyValueFiles {
         /// Differs between two contents; null for what was written here and not read yet.
         QUuid content = {};
 
+        /// The name of the device may have been another one.
         bool isFromAnotherThan(const QString& device) const {
-            return !stamp.device.isEmpty() && stamp.device != device;
+            const auto digits = [](QStringView of) { return of.sliced(of.lastIndexOf(u'-') + 1); };
+            return !stamp.device.isEmpty() && digits(stamp.device) != digits(device);
         }
         /// The name, for people, of the device that stored it.
         QString writer() const { return stamp.device.left(stamp.device.lastIndexOf(u'-')); }
@@ -59,6 +61,7 @@ class KeyValueFiles {
 
     const QString& folder() const { return m_folder; }
     const QString& device() const { return m_device; }
+    void setDevice(const QString& device) { m_device = device; }
 
     /// Reads the files that have changed, and resolves conflict copies. False when the folder is missing or
     /// cannot be read; what was read before then remains. An empty folder that cannot be written counts as
@@ -85,7 +88,7 @@ class KeyValueFiles {
     File readFile(const QString& name);
 
     const QString m_folder;
-    const QString m_device;
+    QString m_device;
     /// The largest of all stamps seen.
     std::int64_t m_counter = 0;
     QHash<QString, File> m_files;

@@ -118,6 +118,8 @@ class SharedFolderKeyValueStore::Exchange final : public std::enable_shared_from
         tellState();
     }
 
+    void setDevice(const QString& device) { m_files.setDevice(device); }
+
     /// Without it the folder is not watched any more.
     void end() {
         m_hasEnded = true;
@@ -348,6 +350,10 @@ void SharedFolderKeyValueStore::setStateObserver(std::function<void()> changed) 
     m_observers->state = std::move(changed);
 }
 
+void SharedFolderKeyValueStore::setDevice(const QString& device) {
+    m_queue->async([exchange = m_exchange, device] { exchange->setDevice(device); });
+}
+
 void SharedFolderKeyValueStore::retryNow() {
     m_exchange->retryNow();
 }
@@ -359,7 +365,7 @@ bool SharedFolderKeyValueStore::finishWriting(std::chrono::milliseconds atMost) 
 }
 
 void SharedFolderKeyValueStore::forget() {
-    m_values->forget();
+    m_values->forget(SharedValues::Keeps::Nothing);
 }
 
 } // namespace guide

@@ -46,6 +46,8 @@ class SharedFolderKeyValueStore final : public KeyValueStore, public SharedStore
     SharedStoreState sharedState() const override;
     void setStateObserver(std::function<void()> changed) override;
 
+    /// Another name for people, with the digits of the former, from the next change on. Any thread.
+    void setDevice(const QString& device);
     /// Looks at the folder now instead of after a pause. Any thread.
     void retryNow();
     /// Waits until what this device changed has been written; false when that takes longer or failed.

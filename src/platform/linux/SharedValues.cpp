@@ -108,11 +108,14 @@ bool SharedValues::save() {
     return true;
 }
 
-void SharedValues::forget() {
+void SharedValues::forget(Keeps keeps) {
     clear();
     const std::lock_guard fileLock(m_fileGuard);
     m_isForgotten = true;
-    QFile::remove(m_path);
+    if (keeps == Keeps::Nothing ||
+        !replaceFile(m_path, archivedData(QCborMap{{kAddress, m_address}, {kDevice, QCborValue(m_device)}}))) {
+        QFile::remove(m_path);
+    }
 }
 
 void SharedValues::saveSoon() {

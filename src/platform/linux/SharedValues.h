@@ -90,8 +90,9 @@ class SharedValues : public std::enable_shared_from_this<SharedValues> {
 
     /// Blocks until the file has everything; false when it cannot be written.
     bool save();
-    /// Gives up everything, also the file, which is not written again.
-    void forget();
+    enum class Keeps { Nothing, Device };
+    /// Gives up everything, also the file, or all in it but the name of this device. It is not written again.
+    void forget(Keeps keeps);
     /// Saves soon, on the queue, if something changed since the last time.
     void saveSoon();
 

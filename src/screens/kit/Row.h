@@ -112,7 +112,7 @@ struct TimeRow {
     friend bool operator==(const TimeRow&, const TimeRow&) = default;
 };
 
-/// A text field. While it has the focus, an update does not replace its text.
+/// A text field. While it has the focus, an update replaces its text only with another `revision`.
 struct InputRow {
     enum class Kind { Text, URL, Password, Number };
 
@@ -125,6 +125,7 @@ struct InputRow {
     bool enabled = true;
     /// Takes the keyboard when the user opens the screen with a keyboard or a pointer.
     bool focusOnOpening = false;
+    int revision = 0;
 
     friend bool operator==(const InputRow&, const InputRow&) = default;
 };

@@ -7,6 +7,8 @@
 #include "screens/options/ReplacedListsViewController.h"
 #include "screens/options/SharedPlaceViewController.h"
 
+#include <QFileInfo>
+
 #include <utility>
 
 namespace guide {
@@ -35,10 +37,10 @@ Section UserDataSection::section() const {
     Section section{.id = kSection, .header = Localized::tr("Your data")};
     if (m_environment->sharedPlace) {
         const SharedPlace place = m_environment->sharedPlace->place();
-        section.footer = sharedStateText(place.state, m_environment->device);
+        section.footer = sharedStateText(place, m_environment->device);
         section.rows.push_back({.id = {kSection, QString(kDevices)},
                                 .content = TextRow{.title = Localized::tr("Your devices"),
-                                                   .subtitle = place.address,
+                                                   .subtitle = pathForPeople(place.address),
                                                    .accessory = Accessory::Disclosure},
                                 .selectable = true});
     }
@@ -86,12 +88,20 @@ void UserDataSection::askToExport() {
 void UserDataSection::exportData() {
     m_environment->userData->exportData(
         m_exported.expect(m_screen.weak_from_this(), [this](const std::optional<QString>& path) {
-            const Alert alert =
-                path ? Alert{Localized::tr("Your data was exported"), *path, {{Localized::tr("OK")}}}
-                     : Alert{Localized::tr("Error"),
-                             Localized::tr("The file could not be written."),
-                             {{Localized::tr("OK")}}};
-            m_environment->navigation.presentAlert(alert);
+            if (!path) {
+                m_environment->navigation.presentAlert({Localized::tr("Error"),
+                                                        Localized::tr("The file could not be written."),
+                                                        {{Localized::tr("OK")}}});
+                return;
+            }
+            const auto openFolder = [environment = m_environment, folder = QFileInfo(*path).path()] {
+                environment->navigation.openFolder(folder);
+            };
+            m_environment->navigation.presentAlert(
+                {Localized::tr("Your data was exported"),
+                 pathForPeople(*path),
+                 {{Localized::tr("OK"), AlertAction::Style::Cancel},
+                  {Localized::tr("Open the folder"), AlertAction::Style::Default, openFolder}}});
         }));
 }
 

@@ -209,6 +209,17 @@ void options(QPainterPath& path) {
     }
 }
 
+void eye(QPainterPath& path) {
+    curve(path, {{2.5, 12}, {6.5, 3.5}, {17.5, 3.5}, {21.5, 12}});
+    curve(path, {{2.5, 12}, {6.5, 20.5}, {17.5, 20.5}, {21.5, 12}});
+    circle(path, 12, 12, 3);
+}
+
+void eyeCrossed(QPainterPath& path) {
+    eye(path);
+    line(path, {{4, 20}, {20, 4}});
+}
+
 constexpr SymbolShape kShapes[]{
     {Glyph::AllShows, allShows},
     {Glyph::Currently, currently},
@@ -238,6 +249,8 @@ constexpr SymbolShape kShapes[]{
     {Glyph::Moved, moved},
     {Glyph::Removed, removed},
     {Glyph::Options, options},
+    {Glyph::Eye, eye},
+    {Glyph::EyeCrossed, eyeCrossed},
     {Glyph::Sound, sound},
     {Glyph::NoSound, noSound},
     {Glyph::FullScreen, fullScreen},

@@ -75,6 +75,8 @@ class Glyph : public QQuickPaintedItem {
         Previous,
         Next,
         Options,
+        Eye,
+        EyeCrossed,
     };
     Q_ENUM(Symbol)
 

@@ -180,6 +180,7 @@ struct InputRowValue : RowValue, InputRow {
     Q_PROPERTY(QString error MEMBER error CONSTANT FINAL)
     Q_PROPERTY(bool enabled MEMBER enabled CONSTANT FINAL)
     Q_PROPERTY(bool focusOnOpening MEMBER focusOnOpening CONSTANT FINAL)
+    Q_PROPERTY(int revision MEMBER revision CONSTANT FINAL)
 
   public:
     int inputKind() const { return static_cast<int>(kind); }

@@ -126,6 +126,11 @@ QString Shell::noticeAction() const {
     return notice ? notice->actionTitle : QString();
 }
 
+bool Shell::fileChooserForFolders() const {
+    const FileChooser* chooser = m_tabBarController.presentedFileChooser();
+    return chooser && chooser->kind == FileChooser::Kind::Folder;
+}
+
 QString Shell::fileChooserTitle() const {
     const FileChooser* chooser = m_tabBarController.presentedFileChooser();
     return chooser ? chooser->title : QString();
@@ -136,10 +141,13 @@ void Shell::closeFileChooser(const QUrl& file) {
 }
 
 void Shell::cannotChooseFiles() {
+    const QString text =
+        fileChooserForFolders()
+            ? Localized::tr(
+                  "Folders cannot be chosen: the package %1 is missing. Type the path of the folder.")
+            : Localized::tr("Files cannot be chosen: the package %1 is missing. Type the path of the file.");
     m_tabBarController.closeFileChooser();
-    m_tabBarController.presentNotice(
-        {Localized::tr("Files cannot be chosen: the package %1 is missing. Type the path of the file.")
-             .arg("qml6-module-qtquick-dialogs"_L1)});
+    m_tabBarController.presentNotice({text.arg("qml6-module-qtquick-dialogs"_L1)});
 }
 
 void Shell::drop(const QList<QUrl>& urls, const QString& text) {

@@ -5,6 +5,7 @@
 #include "ui/model/PageStack.h"
 
 #include <QAbstractListModel>
+#include <QDir>
 #include <QFont>
 #include <QQmlEngine>
 #include <QUrl>
@@ -47,8 +48,10 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     /// Empty for no button.
     Q_PROPERTY(QString noticeAction READ noticeAction NOTIFY noticeUpdated)
 
-    /// Whether the user is to choose a file.
+    /// Whether the user is to choose a file, or a folder.
     Q_PROPERTY(bool fileChooserShown READ fileChooserShown NOTIFY fileChooserUpdated)
+    Q_PROPERTY(bool fileChooserForFolders READ fileChooserForFolders NOTIFY fileChooserUpdated)
+    Q_PROPERTY(QUrl homeFolder READ homeFolder CONSTANT)
     Q_PROPERTY(QString fileChooserTitle READ fileChooserTitle NOTIFY fileChooserUpdated)
 
     /// The screen over the whole window; null when there is none.
@@ -78,6 +81,8 @@ class Shell : public QAbstractListModel, private TabBarObserver {
     QString noticeText() const;
     QString noticeAction() const;
     bool fileChooserShown() const { return m_tabBarController.presentedFileChooser() != nullptr; }
+    bool fileChooserForFolders() const;
+    static QUrl homeFolder() { return QUrl::fromLocalFile(QDir::homePath()); }
     QString fileChooserTitle() const;
     Page* cover() const { return m_cover; }
     bool fullScreen() const { return m_cover && m_cover->player() && m_cover->player()->fullScreen(); }

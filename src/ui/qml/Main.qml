@@ -190,7 +190,8 @@ FocusScope {
 
         onShownChanged: {
             if (shown)
-                setSource("panels/SystemFileChooser.qml", { "shell": main.shell })
+                setSource(main.shell.fileChooserForFolders ? "panels/SystemFolderChooser.qml"
+                                                           : "panels/SystemFileChooser.qml", { "shell": main.shell })
             else
                 source = ""
         }

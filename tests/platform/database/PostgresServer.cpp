@@ -184,9 +184,9 @@ QString PostgresServer::addUser(const QString& name, std::uint16_t port) const {
     QString why;
     bool needsPassword = false;
     auto setup = DatabaseSetup::connect(*databaseAddress(address(), why), needsPassword, why);
-    const std::optional<QString> made = setup ? setup->setUser(name, why) : std::nullopt;
+    const auto made = setup ? setup->setUser(name, why) : std::nullopt;
     EXPECT_TRUE(made) << why.toStdString();
-    QUrl url(made.value_or(QString()));
+    QUrl url(made.value_or(DatabaseSetup::User{}).address);
     url.setHost(u"localhost"_s);
     url.setPort(port != 0 ? port : m_port);
     url.setQuery(QString());

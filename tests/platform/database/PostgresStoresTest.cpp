@@ -42,6 +42,51 @@ TEST_F(PostgresStoresTest, ChangesReachTheOtherDevice) {
     phone.values().removeKey(u"lastAlarmMinutes"_s);
     EXPECT_TRUE(tablet.waitForValue("lastAlarmMinutes", std::nullopt));
     EXPECT_EQ(phone.announced, QStringList(u"b"_s)) << "own changes are not announced";
+    phone.stores.setDeviceName(u"Desk"_s);
+    phone.set("b", u"y"_s);
+    EXPECT_TRUE(tablet.waitFor([&] { return tablet.state().device == u"Desk"; }));
+}
+
+TEST_F(PostgresStoresTest, SaysWhyItCannotConnect) {
+    server.query(u"create role bob login password 'x'"_s);
+    const QString unknown = u"There is no server with the name in the address."_s;
+    const struct {
+        QString address;
+        QString reason;
+    } cases[] = {
+        {u"postgresql://anna@tv.invalid/guide"_s, unknown},
+        {addressWith(address, 1), u"The server does not run a database at the address."_s},
+        {u"postgresql://anna@/guide?host=/nowhere"_s,
+         u"The server does not run a database at the address."_s},
+        {QString(address).replace(u"/guide"_s, u"/guides"_s),
+         u"The server has no database with the name in the address."_s},
+        {QString(address).replace(u"/guide"_s, u"/postgres"_s),
+         u"The database is not set up for the guide."_s},
+        {u"postgresql://anna@localhost:%1/guide"_s.arg(server.port()),
+         u"This device does not have the password of the database: enter it under “Your devices”."_s},
+        {u"postgresql://bob:x@localhost:%1/guide"_s.arg(server.port()),
+         u"The user in the address may not use the database."_s},
+    };
+    for (const auto& each : cases) {
+        TestGuide guide(loop, each.address, u"Phone"_s);
+        EXPECT_TRUE(TestGuide::waitFor([&] { return !guide.state().reason.isEmpty(); }));
+        const bool isOffline = each.reason == unknown && guide.state().reason.contains(u"no network"_s);
+        EXPECT_TRUE(guide.state().reason == each.reason || isOffline)
+            << each.address.toStdString() << ": " << guide.state().reason.toStdString();
+        guide.stores.discard();
+        guide.end();
+        EXPECT_TRUE(QDir(guide.profile.path()).isEmpty()) << "nothing was used";
+    }
+    TestGuide guide(loop, address, u"Phone"_s);
+    guide.restart();
+    guide.stores.discard();
+    guide.end();
+    EXPECT_FALSE(QDir(guide.profile.path()).isEmpty()) << "of an earlier use";
+    QString why;
+    EXPECT_TRUE(acceptsDatabasePassword(*databaseAddress(address, why), WakeUp(), why));
+    EXPECT_FALSE(acceptsDatabasePassword(
+        *databaseAddress(QString(address).replace(u"anna:"_s, u"anna:x"_s), why), WakeUp(), why));
+    EXPECT_EQ(why, u"The database does not accept the user or the password."_s);
 }
 
 TEST_F(PostgresStoresTest, CatchesUpAfterTheServerWasAway) {
@@ -57,7 +102,7 @@ TEST_F(PostgresStoresTest, CatchesUpAfterTheServerWasAway) {
     ASSERT_TRUE(tablet.waitForConnection(SharedStoreConnection::Offline));
     // A server that stops in the middle of a greeting looks like one that cannot prove who it is.
     EXPECT_TRUE(
-        TestGuide::waitFor([&] { return phone.state().reason == u"The database cannot be reached."_s; }));
+        TestGuide::waitFor([&] { return phone.state().connection == SharedStoreConnection::Offline; }));
     phone.set("a", 2);
     ASSERT_TRUE(phone.values().flush());
     const QString file = QDir(phone.profile.path()).entryInfoList({u"*.values"_s}).front().filePath();
@@ -181,19 +226,39 @@ TEST_F(PostgresStoresTest, UpgradesByWholeFiles) {
     const QString next = folder.filePath(u"900-next.sql"_s);
     ASSERT_TRUE(writeFile(next, "create table guide.next (a integer); select 1 / 0;"));
     EXPECT_FALSE(setup->upgrade(folder.path(), why));
-    EXPECT_EQ(why, u"900-next.sql: division by zero"_s);
+    EXPECT_TRUE(why.endsWith(u"\nDetails: division by zero"_s)) << why.toStdString();
     EXPECT_EQ(server.query(u"select to_regclass('guide.next')"_s), QString());
     ASSERT_TRUE(writeFile(next, "create table guide.next (a integer);"));
     EXPECT_EQ(setup->upgrade(folder.path(), why), QStringList(u"900-next.sql"_s));
     EXPECT_FALSE(setup->upgrade(schema, why));
-    EXPECT_EQ(why, u"The database is newer than this program."_s);
+    EXPECT_EQ(why, u"The database is newer than this program: install a newer guide."_s);
 
     const QString before = address;
     EXPECT_NE(server.addUser(u"anna"_s), before) << "another password";
     TestGuide phone(loop, before, u"Phone"_s);
     EXPECT_TRUE(phone.waitForConnection(SharedStoreConnection::Refused));
-    for (const char16_t* name : {u"postgres", u"guide_owner", u"guide_member", u"Anna", u"a\"b", u""}) {
+    phone.stores.setPassword(databaseAddress(server.addUser(u"anna"_s), why)->password.value());
+    phone.stores.retryNow();
+    EXPECT_TRUE(phone.waitForConnection());
+    EXPECT_TRUE(setup->setUser(u"carl"_s, why)->isNew);
+    EXPECT_FALSE(setup->setUser(u"carl"_s, why)->isNew);
+    for (const char16_t* name :
+         {u"postgres", u"guide_owner", u"guide_member", u"Anna", u"a\"b", u"", u"a\n"}) {
         EXPECT_FALSE(setup->setUser(QString::fromUtf16(name), why)) << QString::fromUtf16(name).toStdString();
+        EXPECT_FALSE(why.contains(u"Details"_s)) << why.toStdString();
+    }
+
+    server.query(u"create role plain login"_s);
+    server.query(u"create role maker login createrole"_s);
+    server.query(u"grant connect on database guide to plain, maker"_s);
+    const std::pair<QString, QString> refused[] = {
+        {u"plain@"_s, u"plain may not create roles. Set the database up as a superuser, such as postgres."_s},
+        {u"maker@"_s, u"maker does not own the database guide. Set it up as its owner or as a superuser."_s}};
+    for (const auto& [who, expected] : refused) {
+        const QString as = server.address().replace(u"postgres@"_s, who);
+        auto other = DatabaseSetup::connect(*databaseAddress(as, why), needsPassword, why);
+        EXPECT_FALSE(other && other->upgrade(schema, why));
+        EXPECT_EQ(why, expected);
     }
 }
 

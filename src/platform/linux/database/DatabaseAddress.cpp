@@ -45,7 +45,8 @@ QString DatabaseAddress::text() const {
 }
 
 bool isDatabaseAddress(const QString& text) {
-    return text.startsWith("postgresql://"_L1) || text.startsWith("postgres://"_L1);
+    return text.startsWith("postgresql://"_L1, Qt::CaseInsensitive) ||
+           text.startsWith("postgres://"_L1, Qt::CaseInsensitive);
 }
 
 std::optional<DatabaseAddress> databaseAddress(const QString& text, QString& why) {

@@ -6,9 +6,18 @@
 
 namespace guide {
 
-/// What the administrator of a database does. Blocks; errors are sentences without passwords.
+/// What the administrator of a database does. Blocks; errors are sentences without passwords, and what the
+/// server says only where there is no sentence for it, after "Details:".
 class DatabaseSetup {
   public:
+    struct User {
+        /// With the password, which is not kept anywhere. Through a socket, the name of the server is
+        /// "server".
+        QString address;
+        /// Otherwise it got another password.
+        bool isNew = false;
+    };
+
     /// The address is that of the administrator, a role that may create roles. `needsPassword` is set when
     /// the server asks for one that neither the address nor libpq's own places have. Empty when there is no
     /// connection.
@@ -19,9 +28,10 @@ class DatabaseSetup {
     /// wholly or not at all. Returns their names; nothing when one failed.
     std::optional<QStringList> upgrade(const QString& folder, QString& why);
 
-    /// Makes a user, or gives one another password. Returns the address of the user, with the password, which
-    /// is not kept anywhere. Through a socket, the name in it is "server".
-    std::optional<QString> setUser(const QString& name, QString& why);
+    /// Whether a user can have the name; otherwise `why` has a sentence.
+    static bool acceptsName(const QString& name, QString& why);
+    /// Makes a user, or gives one another password.
+    std::optional<User> setUser(const QString& name, QString& why);
 
     /// What the administrator should know about what was done since the last call.
     QStringList takeWarnings() { return m_connection->takeWarnings(); }
@@ -32,6 +42,9 @@ class DatabaseSetup {
         : m_address(std::move(address))
         , m_stop(std::move(stop))
         , m_connection(std::move(connection)) {}
+
+    /// Whether server and administrator are fit for it; otherwise `why` has a sentence.
+    bool canSetUp(QString& why);
 
     DatabaseAddress m_address;
     std::unique_ptr<WakeUp> m_stop;

@@ -51,8 +51,17 @@ void IncrementQueue::load() {
     m_batchSize = m_batchId.isNull() ? 0 : std::min(size, m_increments.size());
 }
 
+void IncrementQueue::forget() {
+    const std::lock_guard fileLock(m_fileGuard);
+    m_isForgotten = true;
+    QFile::remove(m_path);
+}
+
 void IncrementQueue::save() {
     const std::lock_guard fileLock(m_fileGuard);
+    if (m_isForgotten) {
+        return;
+    }
     QCborMap map{{kAddress, m_address}};
     {
         const std::lock_guard lock(m_guard);

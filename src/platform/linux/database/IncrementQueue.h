@@ -53,6 +53,8 @@ class IncrementQueue {
     void saveIfInFile();
     /// Keeps in the file what is still to be sent, or removes the file.
     void save();
+    /// Removes the file for good.
+    void forget();
 
   private:
     void load();
@@ -73,6 +75,7 @@ class IncrementQueue {
     bool m_isInFile = false;
     bool m_needsSaving = false;
     std::mutex m_fileGuard;
+    bool m_isForgotten = false; // guarded by the one above
 };
 
 } // namespace guide

@@ -1,5 +1,7 @@
 #include "platform/linux/database/PostgresConnection.h"
 
+#include "platform/linux/database/ServerReach.h"
+
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -51,10 +53,16 @@ DatabaseFault faultOf(QByteArrayView state) {
     // Classes: 08 connection, 28 authorization, 53 resources, 54 limits, 57 intervention of an operator, 40
     // rollback.
     const QByteArrayView group = state.first(std::min<qsizetype>(2, state.size()));
-    if (group == "28" || state == "42501") {
+    if (group == "28") {
         return DatabaseFault::Login;
     }
-    if (state == "3D000" || state == "3F000" || state == "42883" || state == "42P01" || state == "42703") {
+    if (state == "42501") {
+        return DatabaseFault::Rights;
+    }
+    if (state == "3D000") {
+        return DatabaseFault::NoDatabase;
+    }
+    if (state == "3F000" || state == "42883" || state == "42P01" || state == "42703") {
         return DatabaseFault::Schema;
     }
     if (state == "53400") {
@@ -69,16 +77,20 @@ DatabaseFault faultOf(QByteArrayView state) {
 }
 
 /// Why the attempt to connect failed; `phase` is the last one that it reached.
-DatabaseError connectionError(PGconn* connection, ConnStatusType phase) {
+DatabaseError connectionError(PGconn* connection, ConnStatusType phase, const DatabaseAddress& address,
+                              const QList<QByteArray>& numbers) {
     // Five letters and digits; the severity before them has no digits.
     static const QRegularExpression kState(u": +(?=[A-Z]*[0-9])([0-9A-Z]{5}): "_s);
     DatabaseError error{.message = QString::fromUtf8(PQerrorMessage(connection)).section(u'\n', 0, 0)};
     if (const auto match = kState.match(error.message); match.hasMatch()) {
-        error.fault = faultOf(match.captured(1).toLatin1());
+        error.state = match.captured(1).toLatin1();
+        error.fault = faultOf(error.state);
     } else if (PQconnectionNeedsPassword(connection) != 0) {
-        error.fault = DatabaseFault::Login;
+        error.fault = DatabaseFault::NoPassword;
     } else if (phase == CONNECTION_SSL_STARTUP) {
         error.fault = DatabaseFault::Identity;
+    } else if (phase == CONNECTION_STARTED || phase == CONNECTION_BAD) {
+        error.fault = whyNotReached(address, numbers);
     }
     return error;
 }
@@ -168,12 +180,12 @@ std::unique_ptr<PostgresConnection> PostgresConnection::open(const DatabaseAddre
     PostgresPollingStatusType next = phase == CONNECTION_BAD ? PGRES_POLLING_FAILED : PGRES_POLLING_WRITING;
     while (next != PGRES_POLLING_OK) {
         if (next == PGRES_POLLING_FAILED) {
-            error = connectionError(connection, phase);
+            error = connectionError(connection, phase, address, numbers);
             return nullptr;
         }
         const short events = next == PGRES_POLLING_READING ? POLLIN : POLLOUT;
         if (!waitFor(PQsocket(connection), events, stop, until)) {
-            error = {.fault = DatabaseFault::Lost, .message = u"the server does not answer"_s};
+            error = {.fault = DatabaseFault::NoAnswer, .message = u"the server does not answer"_s};
             return nullptr;
         }
         phase = PQstatus(connection);
@@ -239,7 +251,8 @@ DatabaseReply PostgresConnection::execute(const QByteArray& statement,
             const char* state = PQresultErrorField(result, PG_DIAG_SQLSTATE);
             reply.emplace(DatabaseError{
                 .fault = state ? faultOf(state) : DatabaseFault::Lost,
-                .message = QString::fromUtf8(PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY)).trimmed()});
+                .message = QString::fromUtf8(PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY)).trimmed(),
+                .state = QByteArray(state)});
         }
     }
     if (!reply || (reply->error() && reply->error()->fault == DatabaseFault::Lost)) {

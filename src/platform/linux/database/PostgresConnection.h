@@ -29,12 +29,26 @@ class WakeUp {
 };
 
 enum class DatabaseFault {
-    /// The connection was lost, or the server cannot be reached, is starting or is full.
+    /// The connection was lost, or the server is starting or full.
     Lost,
+    /// There is no host of that name.
+    UnknownHost,
+    /// This device has no network, or none with a way to the host.
+    NoNetwork,
+    /// Nothing listens on the port or the socket.
+    NoServer,
+    /// Nothing answered in time.
+    NoAnswer,
     /// The server does not accept the user or the password.
     Login,
+    /// The server asks for a password, and there is none.
+    NoPassword,
+    /// The user may not do that.
+    Rights,
     /// The server did not prove its identity, or offers no encryption.
     Identity,
+    /// The server does not have the database.
+    NoDatabase,
     /// What the guide needs is not in the database.
     Schema,
     /// Too much in too short a time.
@@ -47,6 +61,8 @@ struct DatabaseError {
     DatabaseFault fault = DatabaseFault::Lost;
     /// Of the server or library, without passwords.
     QString message;
+    /// The server's code, if the error is one of the server.
+    QByteArray state = {};
 };
 
 /// A value for a statement; null without one.

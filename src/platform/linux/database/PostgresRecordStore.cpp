@@ -117,6 +117,10 @@ PostgresRecordStore::~PostgresRecordStore() {
     m_sender->queue.save();
 }
 
+std::function<void()> PostgresRecordStore::forgetting() const {
+    return [sender = m_sender] { sender->queue.forget(); };
+}
+
 bool PostgresRecordStore::incrementCounter(const QString& title, std::int64_t amount,
                                            const CounterRule& rule) {
     // PostgreSQL has no texts with this character.

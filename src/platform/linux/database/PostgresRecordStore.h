@@ -3,6 +3,7 @@
 #include "platform/RecordStore.h"
 #include "platform/linux/database/PostgresSession.h"
 
+#include <functional>
 #include <memory>
 
 namespace guide {
@@ -26,6 +27,9 @@ class PostgresRecordStore final : public RecordStore {
     /// Removes nothing, as the database removes by the limits of its administrator.
     bool removeCounters(const std::vector<QString>& titles) override;
     std::optional<std::vector<CounterRecord>> countersByModification(std::size_t limit) override;
+
+    /// What removes the file of increments for good. Any thread, also after the end of the store.
+    std::function<void()> forgetting() const;
 
   private:
     class Sender;

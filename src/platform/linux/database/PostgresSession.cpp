@@ -1,10 +1,11 @@
 #include "platform/linux/database/PostgresSession.h"
 
+#include "platform/linux/database/ServerReach.h"
+
 #include <QDebug>
 #include <QRandomGenerator>
 
 #include <algorithm>
-#include <netdb.h>
 #include <poll.h>
 #include <pthread.h>
 
@@ -19,48 +20,19 @@ constexpr auto kLongestCall = 40s;
 // Finds dead connections, and changes where the server cannot announce them.
 constexpr auto kLookInterval = 5min;
 constexpr int kLooksPerGreeting = 12;
-constexpr qsizetype kMostNumbers = 8;
-
-QString reasonFor(DatabaseFault fault) {
-    switch (fault) {
-    case DatabaseFault::Login:
-        return u"The database does not accept the user or the password."_s;
-    case DatabaseFault::Identity:
-        return u"The server of the database cannot prove its identity, so nothing is sent to it."_s;
-    case DatabaseFault::Schema:
-        return u"The database is not set up for the guide."_s;
-    case DatabaseFault::Lost:
-    case DatabaseFault::Later:
-    case DatabaseFault::Statement:
-        break;
-    }
-    return u"The database cannot be reached."_s;
-}
 
 bool isRefusal(DatabaseFault fault) {
-    return fault == DatabaseFault::Login || fault == DatabaseFault::Identity ||
-           fault == DatabaseFault::Schema;
-}
-
-/// The addresses of the host; may take long.
-QList<QByteArray> numbersOf(const DatabaseAddress& address) {
-    addrinfo hints{};
-    hints.ai_socktype = SOCK_STREAM;
-    addrinfo* found = nullptr;
-    if (getaddrinfo(address.host.toUtf8().constData(), nullptr, &hints, &found) != 0) {
-        return {};
+    switch (fault) {
+    case DatabaseFault::Login:
+    case DatabaseFault::NoPassword:
+    case DatabaseFault::Rights:
+    case DatabaseFault::Identity:
+    case DatabaseFault::NoDatabase:
+    case DatabaseFault::Schema:
+        return true;
+    default:
+        return false;
     }
-    QList<QByteArray> numbers;
-    for (const addrinfo* each = found; each != nullptr && numbers.size() < kMostNumbers;
-         each = each->ai_next) {
-        char number[NI_MAXHOST] = {};
-        if (getnameinfo(each->ai_addr, each->ai_addrlen, number, sizeof number, nullptr, 0, NI_NUMERICHOST) ==
-            0) {
-            numbers.append(number);
-        }
-    }
-    freeaddrinfo(found);
-    return numbers;
 }
 
 } // namespace
@@ -75,6 +47,7 @@ struct PostgresSession::Preparation {
     bool isReady = false;      // guarded
     QString password;          // guarded
     QList<QByteArray> numbers; // guarded
+    DatabaseError error;       // guarded
     WakeUp ready;
 };
 
@@ -104,6 +77,20 @@ void PostgresSession::retryNow() {
     {
         const std::lock_guard lock(m_guard);
         m_retriesNow = true;
+    }
+    m_wake.wake();
+}
+
+void PostgresSession::setPassword(const QString& password) {
+    const std::lock_guard lock(m_guard);
+    m_password = password;
+}
+
+void PostgresSession::setDeviceName(const QString& name) {
+    {
+        const std::lock_guard lock(m_guard);
+        m_deviceName = name;
+        m_isRenamed = true;
     }
     m_wake.wake();
 }
@@ -199,7 +186,7 @@ void PostgresSession::run() {
         }
         if (setPhase(Phase::NotConnected,
                      isRefusal(error.fault) ? SharedStoreConnection::Refused : SharedStoreConnection::Offline,
-                     reasonFor(error.fault))) {
+                     sentenceFor(error.fault))) {
             qInfo().noquote() << "The database:" << error.message;
         }
         // A refused password is not tried again and again.
@@ -235,14 +222,20 @@ bool PostgresSession::waitToRetry(std::chrono::milliseconds delay) {
 
 std::unique_ptr<PostgresConnection> PostgresSession::connect(DatabaseError& error) {
     const auto preparation = std::make_shared<Preparation>();
-    m_preparations->async([preparation, address = m_options.address, &secrets = m_secrets] {
-        const QString password = address.password
-                                     ? *address.password
-                                     : secrets.secret(databaseSecretKey(address)).value_or(QString());
-        const QList<QByteArray> numbers = address.isSocket() ? QList<QByteArray>() : numbersOf(address);
+    std::optional<QString> known;
+    {
+        const std::lock_guard lock(m_guard);
+        known = m_password;
+    }
+    m_preparations->async([preparation, known, address = m_options.address, &secrets = m_secrets] {
+        const QString password =
+            known ? *known : secrets.secret(databaseSecretKey(address)).value_or(QString());
+        DatabaseError failure;
+        const QList<QByteArray> numbers = numbersOf(address, failure);
         const std::lock_guard lock(preparation->guard);
         preparation->password = password;
         preparation->numbers = numbers;
+        preparation->error = failure;
         preparation->isReady = true;
         preparation->ready.wake();
     });
@@ -254,18 +247,28 @@ std::unique_ptr<PostgresConnection> PostgresSession::connect(DatabaseError& erro
     }
     const std::lock_guard lock(preparation->guard);
     if (preparation->numbers.isEmpty() && !m_options.address.isSocket()) {
-        error = {.fault = DatabaseFault::Lost, .message = u"the server's name is not known"_s};
+        error = preparation->error;
         return nullptr;
     }
     return PostgresConnection::open(m_options.address, preparation->password, preparation->numbers, m_stop,
                                     error);
 }
 
+bool PostgresSession::isRenamed() const {
+    const std::lock_guard lock(m_guard);
+    return m_isRenamed;
+}
+
 bool PostgresSession::greet(PostgresConnection& connection, DatabaseError& error) {
+    QByteArray name;
+    {
+        const std::lock_guard lock(m_guard);
+        name = m_deviceName.toUtf8().replace('\0', ' ');
+        m_isRenamed = false;
+    }
     const DatabaseReply hello =
         connection.execute("select session, channel, value_bytes, key_bytes from guide.hello($1, $2)",
-                           {DatabaseParameter(m_options.device),
-                            DatabaseParameter(m_options.deviceName.toUtf8().replace('\0', ' '))});
+                           {DatabaseParameter(m_options.device), DatabaseParameter(name)});
     if (hello.error() || hello.rows() != 1) {
         error = hello.error().value_or(DatabaseError{.fault = DatabaseFault::Schema, .message = {}});
         return false;
@@ -290,6 +293,9 @@ void PostgresSession::serve(PostgresConnection& connection, DatabaseError& error
     bool mayHaveChanged = true;
     int looks = 0;
     while (!isStopping() && !connection.isLost()) {
+        if (isRenamed() && !greet(connection, error)) {
+            return;
+        }
         runJobs(connection);
         for (const auto& client : m_clients) {
             if (!connection.isLost()) {

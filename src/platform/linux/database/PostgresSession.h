@@ -66,6 +66,10 @@ class PostgresSession {
     /// Ends the delay before the next attempt, such as when a network appears.
     void retryNow();
     bool isConnected() const;
+    /// From the next connection on, instead of the one of the address or of the secrets.
+    void setPassword(const QString& password);
+    /// What other devices call this one, from its next change on.
+    void setDeviceName(const QString& name);
 
     /// Runs the function on the session's thread and waits for it, or returns at once when there is no
     /// connection; waits for the first attempt to connect. When the function takes too long it may run later
@@ -93,6 +97,7 @@ class PostgresSession {
     /// Until the connection is lost.
     void serve(PostgresConnection& connection, DatabaseError& error);
     bool greet(PostgresConnection& connection, DatabaseError& error);
+    bool isRenamed() const;
     void runJobs(PostgresConnection& connection);
     /// False when the session ends.
     bool waitToRetry(std::chrono::milliseconds delay);
@@ -120,6 +125,9 @@ class PostgresSession {
     QString m_reason;
     QString m_valueProblem;
     bool m_retriesNow = false;
+    std::optional<QString> m_password = m_options.address.password;
+    QString m_deviceName = m_options.deviceName;
+    bool m_isRenamed = false;
 
     std::thread m_thread;
 };

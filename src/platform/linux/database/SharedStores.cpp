@@ -2,8 +2,10 @@
 
 #include "platform/linux/database/PostgresKeyValueStore.h"
 #include "platform/linux/database/PostgresRecordStore.h"
+#include "platform/linux/database/ServerReach.h"
 
 #include <QCryptographicHash>
+#include <QFile>
 
 namespace guide {
 
@@ -21,9 +23,10 @@ SharedStores sharedStoresFor(const QString& address, const SharedStoresOptions& 
         options.folder + u"/database-"_s +
         QString::fromLatin1(
             QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toHex().left(kDigits));
+    const QString valuesPath = name + ".values"_L1;
+    const bool isNew = !QFile::exists(valuesPath);
     const auto values = std::make_shared<SharedValues>(
-        name + ".values"_L1, text,
-        queues.makeQueue("sharedValues", QueueKind::Serial, QueuePriority::Background));
+        valuesPath, text, queues.makeQueue("sharedValues", QueueKind::Serial, QueuePriority::Background));
     if (options.joins) {
         values->clear();
     }
@@ -38,11 +41,27 @@ SharedStores sharedStoresFor(const QString& address, const SharedStoresOptions& 
     SharedStores stores;
     stores.state = keyValueStore.get();
     stores.keyValueStore = std::move(keyValueStore);
-    stores.recordStore =
+    auto recordStore =
         std::make_unique<PostgresRecordStore>(session, name + ".increments"_L1, text, queues);
+    stores.forget = [values, increments = recordStore->forgetting(), isNew](bool wasUsed) {
+        increments();
+        // The database may know this device by the id in the file.
+        values->forget(isNew && !wasUsed ? SharedValues::Keeps::Nothing : SharedValues::Keeps::Device);
+    };
+    stores.recordStore = std::move(recordStore);
     stores.retryNow = [weak = std::weak_ptr(session)] {
         if (const auto alive = weak.lock()) {
             alive->retryNow();
+        }
+    };
+    stores.setPassword = [weak = std::weak_ptr(session)](const QString& password) {
+        if (const auto alive = weak.lock()) {
+            alive->setPassword(password);
+        }
+    };
+    stores.setDeviceName = [weak = std::weak_ptr(session)](const QString& deviceName) {
+        if (const auto alive = weak.lock()) {
+            alive->setDeviceName(deviceName);
         }
     };
     session->start();
@@ -59,6 +78,18 @@ std::optional<QString> keepDatabasePassword(const QString& address, SecretStore&
         return std::nullopt;
     }
     return read->text();
+}
+
+bool acceptsDatabasePassword(const DatabaseAddress& address, const WakeUp& stop, QString& why) {
+    DatabaseError error;
+    const QList<QByteArray> numbers = numbersOf(address, error);
+    if (!numbers.isEmpty() || address.isSocket()) {
+        if (PostgresConnection::open(address, address.password.value_or(QString()), numbers, stop, error)) {
+            return true;
+        }
+    }
+    why = sentenceFor(error.fault);
+    return false;
 }
 
 } // namespace guide

@@ -14,6 +14,8 @@
 
 namespace guide {
 
+class WakeUp;
+
 /// Stores that the devices of a user share.
 struct SharedStores {
     std::unique_ptr<KeyValueStore> keyValueStore;
@@ -22,6 +24,13 @@ struct SharedStores {
     SharedStore* state = nullptr;
     /// Connects again now instead of after a delay, such as when a network appears. Any thread.
     std::function<void()> retryNow;
+    /// Another password, from the next connection on. Any thread.
+    std::function<void(const QString& password)> setPassword;
+    /// What other devices call this one from now on. Any thread.
+    std::function<void(const QString& name)> setDeviceName;
+    /// Leaves nothing of the values and counters in the folder, and no file that was made for stores that
+    /// were not used after all. Any thread.
+    std::function<void(bool wasUsed)> forget;
 };
 
 struct SharedStoresOptions {
@@ -47,5 +56,9 @@ SharedStores sharedStoresFor(const QString& address, const SharedStoresOptions& 
 /// settings and shown. Empty when the address cannot be used or the password cannot be kept; `why` then has a
 /// sentence. May block; not on the main thread.
 std::optional<QString> keepDatabasePassword(const QString& address, SecretStore& secrets, QString& why);
+
+/// Whether the database lets the user in with the password of the address; otherwise `why` has a sentence.
+/// Blocks until then, or until `stop` is woken.
+bool acceptsDatabasePassword(const DatabaseAddress& address, const WakeUp& stop, QString& why);
 
 } // namespace guide

@@ -7,6 +7,9 @@ TableRow {
     id: cell
 
     readonly property bool wrong: row.error !== ""
+    readonly property bool secret: row.kind === Kit.InputKind.Password
+    // Of the text that the field has.
+    property int revision: 0
 
     // Until the user goes elsewhere.
     readonly property bool focusWanted: row.focusOnOpening && list !== null && list.fieldWanted && list.currentIndex < 0
@@ -25,9 +28,12 @@ TableRow {
     onFocusWantedChanged: if (focusWanted)
         Qt.callLater(field.forceActiveFocus)
 
-    // An update does not replace what the user is typing.
-    onRowChanged: if (!field.activeFocus)
-        field.text = row.text
+    // An update does not replace what the user is typing, unless the screen has changed it.
+    onRowChanged: {
+        if (!field.activeFocus || revision !== row.revision)
+            field.show(row.text)
+        revision = row.revision
+    }
 
     Item {
         x: cell.sideMargin
@@ -57,7 +63,7 @@ TableRow {
             height: Math.max(44, implicitHeight)
             implicitHeight: contentHeight + 20
             leftPadding: 12
-            rightPadding: 12
+            rightPadding: cell.secret ? 44 : 12
             enabled: cell.row.enabled
             text: ""
             color: Theme.label
@@ -67,14 +73,24 @@ TableRow {
             placeholderTextColor: Theme.secondaryLabel
             verticalAlignment: TextInput.AlignVCenter
             selectByMouse: true
-            echoMode: cell.row.kind === Kit.InputKind.Password ? TextInput.Password : TextInput.Normal
+            echoMode: cell.secret && !eye.checked ? TextInput.Password : TextInput.Normal
             inputMethodHints: cell.row.kind === Kit.InputKind.URL ? Qt.ImhUrlCharactersOnly | Qt.ImhNoAutoUppercase
                               : cell.row.kind === Kit.InputKind.Number ? Qt.ImhDigitsOnly
-                              : cell.row.kind === Kit.InputKind.Password ? Qt.ImhHiddenText | Qt.ImhSensitiveData
+                              : cell.secret ? Qt.ImhHiddenText | Qt.ImhSensitiveData | Qt.ImhNoAutoUppercase
                               : Qt.ImhNone
             validator: cell.row.kind === Kit.InputKind.Number ? digits : null
 
-            Component.onCompleted: text = cell.row.text
+            // Of a long text, its beginning.
+            function show(shown) {
+                text = shown
+                if (!activeFocus)
+                    ensureVisible(0)
+            }
+
+            Component.onCompleted: {
+                show(cell.row.text)
+                cell.revision = cell.row.revision
+            }
             onTextEdited: cell.rows.edit(cell.index, text, false)
             onAccepted: cell.rows.enter(cell.index, text)
             onActiveFocusChanged: {
@@ -90,7 +106,7 @@ TableRow {
 
             Accessible.role: Accessible.EditableText
             Accessible.name: cell.row.accessibleName
-            Accessible.passwordEdit: cell.row.kind === Kit.InputKind.Password
+            Accessible.passwordEdit: cell.secret && !eye.checked
 
             RegularExpressionValidator {
                 id: digits
@@ -111,6 +127,21 @@ TableRow {
                 minimumPixelSize: 13
                 verticalAlignment: Text.AlignVCenter
                 elide: Text.ElideRight
+            }
+
+            IconButton {
+                id: eye
+
+                anchors {
+                    right: parent.right
+                    verticalCenter: parent.verticalCenter
+                }
+                visible: cell.secret
+                checkable: true
+                symbol: checked ? Glyph.EyeCrossed : Glyph.Eye
+                color: Theme.secondaryLabel
+                text: checked ? qsTranslate("Guide", "Hide the password") : qsTranslate("Guide", "Show the password")
+                Accessible.role: Accessible.Button
             }
 
             background: Rectangle {
