@@ -142,6 +142,7 @@ TEST_F(SharedStoresChoiceTest, ANewNameIsThatOfTheNextChange) {
     EXPECT_EQ(choice->place().deviceName, u"Front desk"_s);
     queues.runAll();
     choice->keyValueStore().setValue(u"Favorites"_s, u"b"_s);
+    queues.runAll();
     FolderKeyValueStore reader(place, u"phone-1"_s, queues);
     EXPECT_EQ(reader.sharedState().device, u"Front desk"_s);
     EXPECT_EQ(choice->place().state.device, QString()) << "what it wrote under the other name is its own";
@@ -169,7 +170,7 @@ TEST_F(SharedStoresChoiceTest, AFolderThatDoesNotAnswerIsGivenUp) {
     EXPECT_TRUE(why.isEmpty());
     clock.advance(std::chrono::seconds(30));
     queues.run("main");
-    EXPECT_EQ(why, u"There is no such folder, or it cannot be written."_s);
+    EXPECT_EQ(why, u"The place does not answer."_s);
     EXPECT_EQ(choice->place().kind, SharedPlace::Kind::ThisDevice);
 }
 

@@ -73,15 +73,17 @@ TEST_F(PostgresStoresTest, SaysWhyItCannotConnect) {
         const bool isOffline = each.reason == unknown && guide.state().reason.contains(u"no network"_s);
         EXPECT_TRUE(guide.state().reason == each.reason || isOffline)
             << each.address.toStdString() << ": " << guide.state().reason.toStdString();
-        guide.stores.discard();
+        guide.stores.forget(false);
         guide.end();
         EXPECT_TRUE(QDir(guide.profile.path()).isEmpty()) << "nothing was used";
     }
     TestGuide guide(loop, address, u"Phone"_s);
-    guide.restart();
-    guide.stores.discard();
+    guide.set("a", u"Film"_s);
+    guide.stores.forget(true);
     guide.end();
-    EXPECT_FALSE(QDir(guide.profile.path()).isEmpty()) << "of an earlier use";
+    const QStringList left = QDir(guide.profile.path()).entryList(QDir::Files);
+    ASSERT_EQ(left.size(), 1) << "the name of the device";
+    EXPECT_FALSE(contentOf(guide.profile.filePath(left.front())).contains("Film"));
     QString why;
     EXPECT_TRUE(acceptsDatabasePassword(*databaseAddress(address, why), WakeUp(), why));
     EXPECT_FALSE(acceptsDatabasePassword(
