@@ -42,7 +42,7 @@ QJsonObject result(const std::optional<QString>& text) {
 QJsonObject bracketTaken(QString subtitle) {
     std::optional<QString> matched;
     if (const auto range = bracketRange(subtitle)) {
-        matched = applySubtitleBracket(subtitle, range->start, range->size);
+        matched = applySubtitleBracket(subtitle, range->start, range->length);
     }
     return {{u"result"_s, jsonText(subtitle)}, {u"matched"_s, jsonText(matched)}};
 }

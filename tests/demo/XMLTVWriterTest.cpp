@@ -51,7 +51,7 @@ const struct Style {
     {"Windows-1251", {.form = Form::Attributes, .cyrillicBytes = true}, u""_s},
 };
 
-QByteArray document(const FeedChannel& channel, const FeedStyle& style) {
+QByteArray document(const WrittenChannel& channel, const FeedStyle& style) {
     const QByteArray bytes = xmltvDocument({channel}, style);
     return style.cyrillicBytes ? utf8FromCharacterSet(bytes, u"windows-1251"_s).value_or("") : bytes;
 }

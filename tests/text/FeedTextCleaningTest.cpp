@@ -86,7 +86,7 @@ TEST(SubtitleCleaningTest, RemovesBrackets) {
     for (const auto& [original, left, matched] : rows) {
         QString subtitle = original;
         const auto range = bracketRange(subtitle);
-        EXPECT_EQ(range ? applySubtitleBracket(subtitle, range->start, range->size) : QString(), matched)
+        EXPECT_EQ(range ? applySubtitleBracket(subtitle, range->start, range->length) : QString(), matched)
             << original.toStdString();
         EXPECT_EQ(subtitle, left) << original.toStdString();
     }
@@ -193,7 +193,7 @@ TEST(TextPatternsTest, AgreeWithRegularExpressions) {
         ASSERT_EQ(range.has_value(), match.hasMatch()) << shown;
         if (range) {
             ASSERT_EQ(range->start, match.capturedStart()) << shown;
-            ASSERT_EQ(range->size, match.capturedLength()) << shown;
+            ASSERT_EQ(range->length, match.capturedLength()) << shown;
         }
     }
 }

@@ -155,8 +155,8 @@ void OwnSourceLoad::readFeed(const FetchedSource& fetched) {
     }
     SourceStatus& status = m_record.status;
     const Moment now = m_environment.clock.now();
-    const FeedCounts counts{feed.channelsWithShows, feed.shows};
-    if (result == SourceResult::Read && m_isFetching && isFarPoorer(counts, status, now)) {
+    const FeedExtent extent{feed.channelsWithShows, feed.shows};
+    if (result == SourceResult::Read && m_isFetching && isFarPoorer(extent, status, now)) {
         result = SourceResult::Poor;
     } else if (result == SourceResult::Read && feed.newest && *feed.newest < now) {
         result = SourceResult::Over;

@@ -60,15 +60,15 @@ bool isSourceDue(const SourceStatus& status, Moment now) {
            *status.nextTry > now + kLongestInterval + kMostDelay || (status.lastTry && *status.lastTry > now);
 }
 
-bool isFarPoorer(const FeedCounts& counts, const SourceStatus& before, Moment now) {
-    if (counts.channelsWithShows == 0) {
+bool isFarPoorer(const FeedExtent& extent, const SourceStatus& before, Moment now) {
+    if (extent.channelsWithShows == 0) {
         return before.channelsWithShows > 0;
     }
     if (!before.lastSuccess || *before.lastSuccess + kBelieved < now) {
         return false;
     }
-    return counts.channelsWithShows * kFarPoorer < before.channelsWithShows ||
-           counts.shows * static_cast<std::int64_t>(kFarPoorer) < before.shows;
+    return extent.channelsWithShows * kFarPoorer < before.channelsWithShows ||
+           extent.shows * static_cast<std::int64_t>(kFarPoorer) < before.shows;
 }
 
 } // namespace guide

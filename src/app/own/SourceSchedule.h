@@ -25,14 +25,14 @@ Moment nextTryAfter(const SourceAttempt& attempt, std::chrono::hours interval, c
 /// Whether the source is due. A time that is further away than any attempt sets shows that a clock was wrong.
 bool isSourceDue(const SourceStatus& status, Moment now);
 
-/// Counts of a feed, whole or not.
-struct FeedCounts {
+/// How much a feed has, whole or not.
+struct FeedExtent {
     int channelsWithShows = 0;
     int shows = 0;
 };
 
 /// Whether a feed has so much less than the last one that was read in full that it says nothing about the
 /// schedule. After a week anything is believed that has channels at all.
-bool isFarPoorer(const FeedCounts& counts, const SourceStatus& before, Moment now);
+bool isFarPoorer(const FeedExtent& extent, const SourceStatus& before, Moment now);
 
 } // namespace guide

@@ -84,7 +84,7 @@ void placeDayFiles(const QString& source, const DemoChannel& channel, const Sche
 } // namespace
 
 QByteArray DemoFeed::document() const {
-    std::vector<FeedChannel> channels;
+    std::vector<WrittenChannel> channels;
     for (const DemoChannel* channel : m_content.channels) {
         const QDate first = broadcastDay(m_now, channel->zone).addDays(-1);
         std::vector<Programme> programmes = m_generator.schedule(*channel, first, kDemoDays);

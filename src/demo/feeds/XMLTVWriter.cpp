@@ -102,10 +102,10 @@ class Document {
         : m_style(style)
         , m_quote(style.singleQuotes ? u'\'' : u'"') {}
 
-    QByteArray bytes(const std::vector<FeedChannel>& channels);
+    QByteArray bytes(const std::vector<WrittenChannel>& channels);
 
   private:
-    void programme(const Programme& programme, const FeedChannel& channel);
+    void programme(const Programme& programme, const WrittenChannel& channel);
     void credits(const Programme& programme);
     /// What typed facts are read from, where the title does not carry it.
     void ratings(const Programme& programme);
@@ -129,17 +129,17 @@ class Document {
     QString m_text;
 };
 
-QByteArray Document::bytes(const std::vector<FeedChannel>& channels) {
+QByteArray Document::bytes(const std::vector<WrittenChannel>& channels) {
     m_text = m_style.cyrillicBytes ? u"<?xml version=\"1.0\" encoding=\"windows-1251\"?>\n"_s
                                    : u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"_s;
     m_text += u"<!DOCTYPE tv SYSTEM \"xmltv.dtd\">\n<tv"_s + attribute("generator-info-name"_L1, u"demo"_s) +
               u">\n"_s;
-    for (const FeedChannel& channel : channels) {
+    for (const WrittenChannel& channel : channels) {
         m_text += u"  <channel"_s + attribute("id"_L1, channel.id) + u">\n"_s;
         element("display-name"_L1, {}, escaped(channel.displayName));
         m_text += u"  </channel>\n"_s;
     }
-    for (const FeedChannel& channel : channels) {
+    for (const WrittenChannel& channel : channels) {
         m_zone = m_style.utc ? QTimeZone::utc() : QTimeZone(channel.zone);
         for (const Programme& each : channel.programmes) {
             programme(each, channel);
@@ -149,7 +149,7 @@ QByteArray Document::bytes(const std::vector<FeedChannel>& channels) {
     return m_style.cyrillicBytes ? cyrillicBytes(m_text) : m_text.toUtf8();
 }
 
-void Document::programme(const Programme& programme, const FeedChannel& channel) {
+void Document::programme(const Programme& programme, const WrittenChannel& channel) {
     m_text += u"  <programme"_s + attribute("start"_L1, time(programme.start)) +
               attribute("stop"_L1, time(programme.stop)) + attribute("channel"_L1, channel.id) + u">\n"_s;
     const QString language = attribute("lang"_L1, programme.language);
@@ -261,7 +261,7 @@ QString Document::time(Moment moment) const {
 
 } // namespace
 
-QByteArray xmltvDocument(const std::vector<FeedChannel>& channels, const FeedStyle& style) {
+QByteArray xmltvDocument(const std::vector<WrittenChannel>& channels, const FeedStyle& style) {
     return Document(style).bytes(channels);
 }
 

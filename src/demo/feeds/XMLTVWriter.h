@@ -32,7 +32,7 @@ struct FeedStyle {
     QString pictureServer = {};
 };
 
-struct FeedChannel {
+struct WrittenChannel {
     QString id;
     QString displayName;
     QByteArray zone;
@@ -40,6 +40,6 @@ struct FeedChannel {
 };
 
 /// An XMLTV document with the programmes grouped by channel.
-QByteArray xmltvDocument(const std::vector<FeedChannel>& channels, const FeedStyle& style);
+QByteArray xmltvDocument(const std::vector<WrittenChannel>& channels, const FeedStyle& style);
 
 } // namespace guide

@@ -60,7 +60,7 @@ TVListingsCategory bracketCategories(QString& subtitle, TVListingsCategory known
         if (!range) {
             break;
         }
-        const QString bracket = applySubtitleBracket(subtitle, range->start, range->size);
+        const QString bracket = applySubtitleBracket(subtitle, range->start, range->length);
         const TVListingsCategory before =
             std::exchange(categories, categories | mapBracketCategories(bracket));
         if (categories == before) {

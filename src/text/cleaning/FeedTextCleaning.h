@@ -1,5 +1,7 @@
 #pragma once
 
+#include "text/TextRange.h"
+
 #include <QLocale>
 #include <QString>
 #include <QStringView>
@@ -24,12 +26,6 @@ bool hasProductionNote(const QString& text);
 
 /// Whether the title has a repeat mark.
 bool isRepeatMarked(const QString& text);
-
-/// A range of a text, in UTF-16 units.
-struct TextRange {
-    qsizetype start = 0;
-    qsizetype size = 0;
-};
 
 /// From the first "[" to the last "]" after it on the same line; empty if there is none.
 std::optional<TextRange> bracketRange(QStringView text);
