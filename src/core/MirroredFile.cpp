@@ -65,6 +65,10 @@ struct MirroredFile::State {
 
     // On the writer queue. False when the key-value store refused the copy.
     bool share(const QCborValue& copy, const std::optional<QCborValue>& taken) {
+        if (taken && taken->isUndefined()) {
+            keyValueStore.setMissingValue(place.key, copy);
+            return true;
+        }
         if (taken) {
             if (copy != *taken && keyValueStore.valueForKey(place.key).value_or(QCborValue()) == *taken) {
                 keyValueStore.setValue(place.key, copy);
@@ -202,6 +206,13 @@ bool MirroredFile::finishWriting() {
 void MirroredFile::removeDamaged() {
     if (m_state->place.writable) {
         m_state->writer->asyncBarrier([state = m_state] {
+            const bool isDamaged = [&state] {
+                const std::lock_guard lock(state->guard);
+                return std::exchange(state->damaged, false);
+            }();
+            if (isDamaged) {
+                QFile::remove(state->place.path);
+            }
             for (int number = 1; number <= kMostDamagedFiles; ++number) {
                 std::remove(damagedFile(state->place.path, number).constData());
             }

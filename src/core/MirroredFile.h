@@ -63,7 +63,7 @@ class MirroredFile {
     void retryWriting();
     /// Blocks until the pending write is done, retrying one that failed. False when it failed again.
     bool finishWriting();
-    /// Removes, in the background, the damaged files that were kept.
+    /// Removes, in the background, the damaged files that were kept, and a damaged one that was not replaced.
     void removeDamaged();
 
   private:

@@ -25,6 +25,11 @@ class KeyValueStore {
     /// old one is then kept.
     virtual bool setValue(const QString& key, const QCborValue& value) = 0;
     virtual void removeKey(const QString& key) = 0;
+    /// Sets a value of a key that has none. If it turns out later that it had one, which had not been read
+    /// yet, that one takes its place again.
+    virtual bool setMissingValue(const QString& key, const QCborValue& value) {
+        return valueForKey(key) || setValue(key, value);
+    }
 
     /// Blocks until what was set outlives this process, however it ends. False when that is impossible now.
     /// Not on the main thread.

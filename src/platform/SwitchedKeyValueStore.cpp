@@ -25,6 +25,11 @@ void SwitchedKeyValueStore::removeKey(const QString& key) {
     m_store->removeKey(key);
 }
 
+bool SwitchedKeyValueStore::setMissingValue(const QString& key, const QCborValue& value) {
+    const std::shared_lock lock(m_guard);
+    return m_store->setMissingValue(key, value);
+}
+
 bool SwitchedKeyValueStore::flush() {
     std::shared_ptr<KeyValueStore> store;
     {

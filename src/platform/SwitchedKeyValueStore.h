@@ -21,6 +21,7 @@ class SwitchedKeyValueStore final : public KeyValueStore {
     std::optional<QCborValue> valueForKey(const QString& key) const override;
     bool setValue(const QString& key, const QCborValue& value) override;
     void removeKey(const QString& key) override;
+    bool setMissingValue(const QString& key, const QCborValue& value) override;
     bool flush() override;
     void setObserver(KeyValueStoreObserver* observer) override;
 

@@ -6,8 +6,10 @@
 #include "platform/linux/FolderKeyValueStore.h"
 #include "platform/linux/KeyValueFiles.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 #include <optional>
@@ -18,7 +20,7 @@ using namespace std::chrono_literals;
 namespace guide::test {
 namespace {
 
-/// The folder is not watched: there is no event loop.
+/// The folder is not watched unless events are processed.
 class SharedFolderKeyValueStoreTest : public testing::Test, public KeyValueStoreObserver {
   protected:
     SharedFolderKeyValueStoreTest() {
@@ -182,7 +184,54 @@ TEST_F(SharedFolderKeyValueStoreTest, FailedWritesAreTriedAgainWithGrowingPauses
     wait(1s);
     EXPECT_FALSE(isOffline());
     EXPECT_EQ(other.valueForKey(u"a"_s), QCborValue(1));
-    EXPECT_FALSE(queues->hasTimers("sharedFolder"));
+}
+
+TEST_F(SharedFolderKeyValueStoreTest, AFailedWriteIsNoReasonToTryAgain) {
+    int argc = 0;
+    const QCoreApplication application(argc, nullptr);
+    ASSERT_TRUE(QDir().mkpath(pathOf(u"a"_s) + u"/in the way"_s));
+    other.setValue(u"b"_s, 1);
+    store->setValue(u"a"_s, 1);
+    const auto letEventsArrive = [this] {
+        for (int i = 0; i < 40; ++i) {
+            QThread::msleep(20);
+            QCoreApplication::processEvents();
+            queues->runAll();
+        }
+        return fileStamp(folder.path());
+    };
+    const auto before = letEventsArrive();
+    EXPECT_EQ(letEventsArrive(), before) << "a temporary file was made";
+    other.setValue(u"b"_s, 2);
+    letEventsArrive();
+    EXPECT_EQ(store->valueForKey(u"b"_s), QCborValue(2));
+}
+
+TEST_F(SharedFolderKeyValueStoreTest, AnEmptyFolderOnWhichADiskIsMountedOtherwiseIsMissing) {
+    const QTemporaryDir disk(u"/dev/shm/guide-XXXXXX"_s);
+    ASSERT_NE(fileStamp(disk.path())->device, fileStamp(root.path())->device);
+    other.setValue(u"a"_s, 1);
+    ASSERT_TRUE(QFile::rename(pathOf(u"a"_s), away) && QFile::copy(away, disk.filePath(u"a.json"_s)));
+    ASSERT_TRUE(QDir().rmdir(folder.path()) && QFile::link(disk.path(), folder.path()));
+    look();
+    EXPECT_EQ(store->valueForKey(u"a"_s), QCborValue(1));
+    ASSERT_TRUE(QFile::remove(folder.path()) && QDir().mkpath(folder.path()));
+    store->setValue(u"b"_s, 1);
+    look();
+    EXPECT_TRUE(isOffline());
+    EXPECT_EQ(store->valueForKey(u"a"_s), QCborValue(1));
+    EXPECT_TRUE(folder.isEmpty()) << "what was set waits for the disk";
+}
+
+TEST_F(SharedFolderKeyValueStoreTest, AMissingValueGivesWayToOneThatIsReadLater) {
+    other.setValue(u"a"_s, 2);
+    EXPECT_TRUE(store->setMissingValue(u"a"_s, 1) && store->setMissingValue(u"b"_s, 1));
+    EXPECT_EQ(store->valueForKey(u"a"_s), QCborValue(1)) << "not read yet";
+    queues->runAll();
+    EXPECT_EQ(store->valueForKey(u"a"_s), QCborValue(2));
+    EXPECT_EQ(other.valueForKey(u"a"_s), QCborValue(2));
+    EXPECT_EQ(other.valueForKey(u"b"_s), QCborValue(1));
+    EXPECT_EQ(announced, QStringList(u"a"_s));
 }
 
 } // namespace

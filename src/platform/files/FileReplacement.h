@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QLatin1StringView>
 #include <QString>
 
 #include <cstddef>
@@ -12,6 +13,9 @@
 #include <vector>
 
 namespace guide {
+
+/// How the names of the temporary files of replacements begin.
+inline constexpr QLatin1StringView kTemporaryPrefix{".replacing-"};
 
 /// Replaces a file atomically: a reader sees the old file or the new one, never a mix, even if the process
 /// dies, the disk is full or the power fails. The modification date becomes `modified`, or the current time

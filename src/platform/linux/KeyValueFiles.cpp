@@ -5,6 +5,7 @@
 
 #include <QCryptographicHash>
 #include <QDebug>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -27,6 +28,8 @@ constexpr auto kSuffix = ".json"_L1;
 // Leaves room for the suffix, and for what sync tools add to the names of their copies.
 constexpr qsizetype kLongestName = 180;
 constexpr qsizetype kDigestDigits = 32;
+// No write takes that long.
+constexpr std::chrono::hours kOldLeftover{24};
 // The name space of the digests of contents.
 constexpr QUuid kContents(0x6d1f7c52, 0x94f0, 0x4c0e, 0xa3, 0x5b, 0x27, 0x61, 0x0e, 0xd8, 0x4f, 0x19);
 
@@ -87,10 +90,24 @@ std::optional<QStringList> KeyValueFiles::names() const {
     return error ? std::nullopt : std::optional(names);
 }
 
+void KeyValueFiles::removeLeftovers(std::chrono::seconds age) const {
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    const QStringList left = QDir(m_folder).entryList({kTemporaryPrefix + u'*'}, QDir::Files | QDir::Hidden);
+    for (const QString& name : left) {
+        const std::optional<FileStamp> state = fileStamp(path(name));
+        if (state && std::chrono::seconds(state->seconds) + age <= now) {
+            QFile::remove(path(name));
+        }
+    }
+}
+
 bool KeyValueFiles::list() {
     const std::optional<QStringList> found = names();
     if (!found || (found->isEmpty() && !isWritable())) {
         return false;
+    }
+    if (!std::exchange(m_isTidy, true)) {
+        removeLeftovers(kOldLeftover);
     }
     m_files.removeIf([present = QSet<QString>(found->begin(), found->end())](const auto& file) {
         return !present.contains(file.key());
@@ -169,6 +186,7 @@ bool KeyValueFiles::write(const QString& key, const QCborValue& value) {
 }
 
 bool KeyValueFiles::remove(const QString& key) {
+    removeLeftovers(std::chrono::seconds(0));
     const QString own = fileName(key);
     const std::optional<QStringList> found = names();
     bool isGone = found.has_value();

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QUuid>
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 
@@ -69,7 +70,6 @@ class KeyValueFiles {
     bool list();
     /// By name; those that have never held a value too.
     const QHash<QString, File>& files() const { return m_files; }
-    bool isMissing() const;
     bool isWritable() const;
 
     /// Reads the file of the key again if it has changed.
@@ -78,17 +78,23 @@ class KeyValueFiles {
     std::int64_t nextCounter() const;
     /// Writes nothing when the file holds an equal value. False when that failed.
     bool write(const QString& key, const QCborValue& value);
-    /// With the conflict copies of the key. False when something remains.
+    /// With the conflict copies of the key, and with what interrupted writes left in the folder. False when
+    /// something remains.
     bool remove(const QString& key);
 
   private:
     QString path(const QString& name) const { return m_folder + u'/' + name; }
     std::optional<QStringList> names() const;
+    /// Removes what replacements left that ended halfway, here or on another device, if it is that old.
+    void removeLeftovers(std::chrono::seconds age) const;
+    bool isMissing() const;
     void resolve(const QString& copyName);
     File readFile(const QString& name);
 
     const QString m_folder;
     QString m_device;
+    /// Whether old leftovers have been removed.
+    bool m_isTidy = false;
     /// The largest of all stamps seen.
     std::int64_t m_counter = 0;
     QHash<QString, File> m_files;

@@ -17,9 +17,11 @@
 namespace guide {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
+constexpr auto kLookInterval = 5min;
 // Leaves room for the stamp.
 constexpr qsizetype kMostBytes = KeyValueFiles::kLargestFile - 1024;
 
@@ -90,31 +92,44 @@ class SharedFolderKeyValueStore::Exchange final : public std::enable_shared_from
         const std::lock_guard lock(m_guard);
         return m_state;
     }
-    /// Exchanges soon. Any thread.
-    void wake() {
+    /// Exchanges soon. A write that has failed is not tried again by that: it is a change of the folder
+    /// itself. Any thread.
+    void look() {
         if (!m_isAwake.exchange(true)) {
             m_queue->async([self = shared_from_this()] { self->exchange(); });
         }
     }
+    /// Exchanges soon. Any thread.
+    void send() {
+        m_mayWrite = true;
+        look();
+    }
     /// The same, and retries after the shortest pause again. Any thread.
     void retryNow() {
-        m_queue->async([self = shared_from_this()] { self->m_pause = self->m_firstRetry; });
-        wake();
+        m_queue->async([self = shared_from_this()] { self->restartPauses(); });
+        send();
+    }
+    /// Exchanges, also what could not be written before.
+    void finish() {
+        m_mayWrite = true;
+        exchange();
     }
 
     void exchange() {
         m_isAwake = false;
+        const bool mayWrite = m_mayWrite.exchange(false) || m_fault != Fault::Failing;
         watch();
-        const Fault fault = exchangeFiles();
+        const Fault fault = exchangeFiles(mayWrite);
         m_values->saveSoon();
         if (fault != std::exchange(m_fault, fault) && fault != Fault::None) {
             qWarning().noquote() << "SharedFolderKeyValueStore:" << text(fault);
         }
         if (fault == Fault::None) {
-            m_pause = m_firstRetry;
+            restartPauses();
         } else {
             retryLater();
         }
+        lookLater();
         tellState();
     }
 
@@ -136,39 +151,57 @@ class SharedFolderKeyValueStore::Exchange final : public std::enable_shared_from
                                                         [weak = weak_from_this(), context = m_context] {
                                                             QMetaObject::invokeMethod(context.get(), [weak] {
                                                                 if (const auto self = weak.lock()) {
-                                                                    self->wake();
+                                                                    self->look();
                                                                 }
                                                             });
                                                         });
         }
     }
 
-    Fault exchangeFiles() {
-        if (!m_files.list()) {
+    Fault exchangeFiles(bool mayWrite) {
+        if (!m_files.list() || isUnmounted()) {
             return Fault::Missing;
         }
         const bool isWritable = m_files.isWritable();
-        const bool isSent = isWritable && send();
+        const bool writes = isWritable && mayWrite;
+        bool isSent = !writes || write();
         read();
+        // Reading shows which values give way.
+        isSent = isSent && (writes ? write() : m_values->changesToSend().empty());
         return isSent ? Fault::None : isWritable ? Fault::Failing : Fault::Unwritable;
+    }
+
+    /// Whether the folder is the empty one on which the disk with the values is mounted.
+    bool isUnmounted() {
+        const std::uint64_t volume = fileStamp(m_files.folder()).value_or(FileStamp{}).device;
+        const std::uint64_t before = m_values->volume();
+        if (m_files.files().isEmpty() && before != 0 && before != volume) {
+            return true;
+        }
+        if (!m_files.files().isEmpty()) {
+            m_values->setVolume(volume);
+        }
+        return false;
     }
 
     /// Changes of this device first: they were made without knowing of any that arrived meanwhile. False when
     /// one could not be written.
-    bool send() {
+    bool write() {
         const std::vector<SharedValues::Change> changes = m_values->changesToSend();
+        bool isWritten = true;
         for (const SharedValues::Change& change : changes) {
-            if (!wasWritten(change) && !write(change)) {
+            if (wasWritten(change) || write(change)) {
+                m_values->sent(change, QUuid());
+            } else {
                 m_values->attempt(change, 0);
-                return false;
+                isWritten = false;
             }
-            m_values->sent(change, QUuid());
         }
         if (!changes.empty()) {
             m_values->save();
             m_files.list();
         }
-        return true;
+        return isWritten;
     }
 
     /// Whether a process that ended before it could note that made the change in the folder. Another device
@@ -231,20 +264,42 @@ class SharedFolderKeyValueStore::Exchange final : public std::enable_shared_from
         const Moment stored =
             std::min<Moment>(Moment(std::chrono::seconds(file.state.seconds)), m_clock.now());
         const SharedValues::Others before = m_values->others();
-        if (file.isFromAnotherThan(m_files.device()) && (!before.lastSeen || *before.lastSeen <= stored)) {
+        const bool isLater = !before.lastSeen || std::min(*before.lastSeen, m_clock.now()) <= stored;
+        if (file.isFromAnotherThan(m_files.device()) && isLater) {
             m_values->setOthers({stored, file.writer()});
         }
+    }
+
+    void restartPauses() {
+        m_pause = m_firstRetry;
+        // The pause that goes on is not the one.
+        ++m_pauseNumber;
+        m_isRetrying = false;
     }
 
     void retryLater() {
         if (m_hasEnded || std::exchange(m_isRetrying, true)) {
             return;
         }
-        m_queue->asyncAfter(m_pause, [weakly = weak_from_this()] {
-            if (const auto self = weakly.lock()) {
+        m_queue->asyncAfter(m_pause, [weakly = weak_from_this(), number = m_pauseNumber] {
+            const auto self = weakly.lock();
+            if (self && self->m_pauseNumber == number) {
                 self->m_isRetrying = false;
                 self->m_pause = std::min(2 * self->m_pause, self->m_longestRetry);
-                self->exchange();
+                self->finish();
+            }
+        });
+    }
+
+    /// Folders of networks do not report what other machines change in them, nor is a mount reported.
+    void lookLater() {
+        if (m_hasEnded || std::exchange(m_isLooking, true)) {
+            return;
+        }
+        m_queue->asyncAfter(kLookInterval, [weakly = weak_from_this()] {
+            if (const auto self = weakly.lock()) {
+                self->m_isLooking = false;
+                self->look();
             }
         });
     }
@@ -282,11 +337,14 @@ class SharedFolderKeyValueStore::Exchange final : public std::enable_shared_from
     /// Of the main thread.
     const std::shared_ptr<QObject> m_context = makeContext();
     std::atomic<bool> m_isAwake = false;
+    std::atomic<bool> m_mayWrite = true;
 
     KeyValueFiles m_files;
     Fault m_fault = Fault::None;
     std::chrono::milliseconds m_pause = m_firstRetry;
+    int m_pauseNumber = 0;
     bool m_isRetrying = false;
+    bool m_isLooking = false;
     bool m_hasEnded = false;
     bool m_isRead = false;
     /// Device and inode of the watched folder; zeros while it is missing.
@@ -310,7 +368,7 @@ SharedFolderKeyValueStore::SharedFolderKeyValueStore(const SharedFolderOptions& 
     }
     m_exchange =
         std::make_shared<Exchange>(options, m_values, m_observers, clock, queues.mainQueue(), m_queue);
-    m_exchange->wake();
+    m_exchange->send();
 }
 
 SharedFolderKeyValueStore::~SharedFolderKeyValueStore() {
@@ -323,19 +381,29 @@ std::optional<QCborValue> SharedFolderKeyValueStore::valueForKey(const QString& 
     return m_values->value(key);
 }
 
-bool SharedFolderKeyValueStore::setValue(const QString& key, const QCborValue& value) {
-    const SharedValues::SetOutcome outcome = m_values->set(key, value, kMostBytes);
+bool SharedFolderKeyValueStore::set(const QString& key, const QCborValue& value,
+                                    SharedValues::Yields yields) {
+    const SharedValues::SetOutcome outcome = m_values->set(key, value, kMostBytes, yields);
     if (outcome == SharedValues::SetOutcome::Changed) {
         m_values->saveSoon();
-        m_exchange->wake();
+        m_exchange->send();
     }
     return outcome != SharedValues::SetOutcome::Refused;
+}
+
+bool SharedFolderKeyValueStore::setValue(const QString& key, const QCborValue& value) {
+    return set(key, value, SharedValues::Yields::No);
+}
+
+bool SharedFolderKeyValueStore::setMissingValue(const QString& key, const QCborValue& value) {
+    return valueForKey(key) ||
+           set(key, value, sharedState().isRead ? SharedValues::Yields::No : SharedValues::Yields::Yes);
 }
 
 void SharedFolderKeyValueStore::removeKey(const QString& key) {
     m_values->removeAnyway(key);
     m_values->saveSoon();
-    m_exchange->wake();
+    m_exchange->send();
 }
 
 void SharedFolderKeyValueStore::setObserver(KeyValueStoreObserver* observer) {
@@ -360,7 +428,7 @@ void SharedFolderKeyValueStore::retryNow() {
 
 bool SharedFolderKeyValueStore::finishWriting(std::chrono::milliseconds atMost) {
     DispatchGroup group;
-    group.async(*m_queue, [exchange = m_exchange] { exchange->exchange(); });
+    group.async(*m_queue, [exchange = m_exchange] { exchange->finish(); });
     return group.wait(atMost) && m_values->changesToSend().empty();
 }
 

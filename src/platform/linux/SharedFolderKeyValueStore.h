@@ -39,6 +39,7 @@ class SharedFolderKeyValueStore final : public KeyValueStore, public SharedStore
     /// False for a value that cannot be expressed or is too large.
     bool setValue(const QString& key, const QCborValue& value) override;
     void removeKey(const QString& key) override;
+    bool setMissingValue(const QString& key, const QCborValue& value) override;
     bool flush() override { return m_values->save(); }
     void setObserver(KeyValueStoreObserver* observer) override;
 
@@ -56,6 +57,8 @@ class SharedFolderKeyValueStore final : public KeyValueStore, public SharedStore
     void forget();
 
   private:
+    bool set(const QString& key, const QCborValue& value, SharedValues::Yields yields);
+
     class Exchange;
     struct Observers;
 

@@ -24,6 +24,7 @@ constexpr auto kAddress = "address"_L1;
 constexpr auto kDevice = "device"_L1;
 constexpr auto kLastSeen = "lastSeen"_L1;
 constexpr auto kLastWriter = "lastWriter"_L1;
+constexpr auto kVolume = "volume"_L1;
 constexpr auto kValues = "values"_L1;
 
 QCborValue cborOf(const QUuid& id) {
@@ -54,6 +55,7 @@ void SharedValues::load() {
         m_others.lastSeen = Moment(std::chrono::milliseconds(seen.toInteger()));
     }
     m_others.lastWriter = map.value(kLastWriter).toString();
+    m_volume = static_cast<std::uint64_t>(map.value(kVolume).toInteger());
     const QCborArray rows = map.value(kValues).toArray();
     for (const auto& each : rows) {
         const QCborArray row = each.toArray();
@@ -63,6 +65,7 @@ void SharedValues::load() {
                     .known = row.at(2).toUuid(),
                     .pending = row.at(3).toUuid(),
                     .attempt = row.at(4).toInteger(),
+                    .yields = row.at(5).toBool(),
                     .heldUntil = {}};
         if (row.at(1).isByteArray()) {
             entry.bytes = row.at(1).toByteArray();
@@ -92,10 +95,12 @@ bool SharedValues::save() {
             map.insert(kLastSeen, qint64{m_others.lastSeen->time_since_epoch().count()});
         }
         map.insert(kLastWriter, m_others.lastWriter);
+        map.insert(kVolume, static_cast<qint64>(m_volume));
         QCborArray values;
         for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
             values.append(QCborArray{entry.key(), entry->bytes ? QCborValue(*entry->bytes) : QCborValue(),
-                                     cborOf(entry->known), cborOf(entry->pending), qint64{entry->attempt}});
+                                     cborOf(entry->known), cborOf(entry->pending), qint64{entry->attempt},
+                                     entry->yields});
         }
         map.insert(kValues, values);
     }
@@ -113,7 +118,8 @@ void SharedValues::forget(Keeps keeps) {
     const std::lock_guard fileLock(m_fileGuard);
     m_isForgotten = true;
     if (keeps == Keeps::Nothing ||
-        !replaceFile(m_path, archivedData(QCborMap{{kAddress, m_address}, {kDevice, QCborValue(m_device)}}))) {
+        !replaceFile(m_path,
+                     archivedData(QCborMap{{kAddress, m_address}, {kDevice, QCborValue(m_device)}}))) {
         QFile::remove(m_path);
     }
 }
@@ -148,7 +154,19 @@ std::optional<QCborValue> SharedValues::value(const QString& key) const {
     return entry != m_entries.cend() ? entry->value : std::nullopt;
 }
 
-SharedValues::SetOutcome SharedValues::set(const QString& key, const QCborValue& value, qsizetype mostBytes) {
+std::uint64_t SharedValues::volume() const {
+    const std::lock_guard lock(m_guard);
+    return m_volume;
+}
+
+void SharedValues::setVolume(std::uint64_t volume) {
+    const std::lock_guard lock(m_guard);
+    m_needsSaving = m_needsSaving || m_volume != volume;
+    m_volume = volume;
+}
+
+SharedValues::SetOutcome SharedValues::set(const QString& key, const QCborValue& value, qsizetype mostBytes,
+                                           Yields yields) {
     const std::optional<QByteArray> bytes = keyValueJson({key, value});
     if (!bytes || bytes->size() > mostBytes) {
         return SetOutcome::Refused;
@@ -161,6 +179,7 @@ SharedValues::SetOutcome SharedValues::set(const QString& key, const QCborValue&
     entry.bytes = bytes;
     entry.value = value;
     change(entry);
+    entry.yields = yields == Yields::Yes;
     m_needsSaving = true;
     return SetOutcome::Changed;
 }
@@ -168,6 +187,7 @@ SharedValues::SetOutcome SharedValues::set(const QString& key, const QCborValue&
 void SharedValues::change(Entry& entry) {
     entry.pending = QUuid::createUuid();
     entry.attempt = 0;
+    entry.yields = false;
     entry.heldUntil = {};
 }
 
@@ -208,7 +228,7 @@ std::vector<SharedValues::Change> SharedValues::changesToSend() const {
     const auto now = std::chrono::steady_clock::now();
     std::vector<Change> changes;
     for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
-        if (!entry->pending.isNull() && entry->heldUntil <= now) {
+        if (!entry->pending.isNull() && !entry->yields && entry->heldUntil <= now) {
             changes.push_back({entry.key(), entry->bytes, entry->pending, entry->attempt});
         }
     }
@@ -275,11 +295,18 @@ QStringList SharedValues::compare(const std::vector<StoredKey>& stored, QStringL
     QSet<QString> present;
     for (const StoredKey& each : stored) {
         present.insert(each.key);
-        const auto entry = m_entries.constFind(each.key);
-        if (entry == m_entries.cend() ||
+        const auto entry = m_entries.find(each.key);
+        if (entry != m_entries.end() && entry->yields) {
+            entry->pending = {};
+        }
+        if (entry == m_entries.end() ||
             (entry->pending.isNull() && !each.write.isNull() && entry->known != each.write)) {
             toRead.append(each.key);
         }
+    }
+    for (Entry& entry : m_entries) {
+        m_needsSaving = m_needsSaving || entry.yields;
+        entry.yields = false;
     }
     QStringList removed;
     m_entries.removeIf([&](const auto& entry) {

@@ -59,8 +59,15 @@ class SharedValues : public std::enable_shared_from_this<SharedValues> {
     void setOthers(const Others& others);
 
     std::optional<QCborValue> value(const QString& key) const;
+    /// The file system of the place when it was last read; 0 when that is not known.
+    std::uint64_t volume() const;
+    void setVolume(std::uint64_t volume);
+
+    /// Whether the value gives way to the one that the place has, if it turns out to have one.
+    enum class Yields { No, Yes };
     /// Refuses what cannot be expressed or is larger than `mostBytes`.
-    SetOutcome set(const QString& key, const QCborValue& value, qsizetype mostBytes);
+    SetOutcome set(const QString& key, const QCborValue& value, qsizetype mostBytes,
+                   Yields yields = Yields::No);
     /// False when there is none.
     bool remove(const QString& key);
     /// The same, also when nothing is known of the key: there may be something that cannot be read.
@@ -70,7 +77,8 @@ class SharedValues : public std::enable_shared_from_this<SharedValues> {
 
     /// Gives up all values, and with them the changes that have not been sent.
     void clear();
-    /// In no particular order, without those that are held back.
+    /// In no particular order, without those that are held back and those that yield until compare() has
+    /// shown that the place has no value of the key.
     std::vector<Change> changesToSend() const;
     /// The change is about to be sent with this number, which comes back with it if it is sent again; 0 when
     /// that has failed.
@@ -106,6 +114,7 @@ class SharedValues : public std::enable_shared_from_this<SharedValues> {
         /// The change that is to be sent.
         QUuid pending;
         std::int64_t attempt = 0;
+        bool yields = false;
         std::chrono::steady_clock::time_point heldUntil;
     };
 
@@ -122,6 +131,7 @@ class SharedValues : public std::enable_shared_from_this<SharedValues> {
     // guarded
     QHash<QString, Entry> m_entries;
     Others m_others;
+    std::uint64_t m_volume = 0;
     /// Without a file, because of the name of this device.
     bool m_needsSaving = true;
     std::mutex m_fileGuard;

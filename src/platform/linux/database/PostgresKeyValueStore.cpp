@@ -55,6 +55,10 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
         if (mayHaveChanged && !connection.isLost()) {
             readOthers(connection);
             read(connection);
+            // Reading shows which values give way.
+            if (!connection.isLost() && !m_values->changesToSend().empty()) {
+                send(connection);
+            }
             if (!connection.isLost() && !m_isRead.exchange(true)) {
                 tellState();
             }
@@ -211,10 +215,19 @@ std::optional<QCborValue> PostgresKeyValueStore::valueForKey(const QString& key)
 }
 
 bool PostgresKeyValueStore::setValue(const QString& key, const QCborValue& value) {
+    return set(key, value, SharedValues::Yields::No);
+}
+
+bool PostgresKeyValueStore::setMissingValue(const QString& key, const QCborValue& value) {
+    return valueForKey(key) ||
+           set(key, value, m_exchange->isRead() ? SharedValues::Yields::No : SharedValues::Yields::Yes);
+}
+
+bool PostgresKeyValueStore::set(const QString& key, const QCborValue& value, SharedValues::Yields yields) {
     if (!m_exchange->accepts(key)) {
         return false;
     }
-    switch (m_values->set(key, value, m_exchange->valueBytes())) {
+    switch (m_values->set(key, value, m_exchange->valueBytes(), yields)) {
     case SharedValues::SetOutcome::Refused:
         return false;
     case SharedValues::SetOutcome::Same:

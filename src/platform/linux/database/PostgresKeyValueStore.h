@@ -24,6 +24,7 @@ class PostgresKeyValueStore final : public KeyValueStore, public SharedStore {
     /// False for a value that cannot be expressed or that the database is known to refuse.
     bool setValue(const QString& key, const QCborValue& value) override;
     void removeKey(const QString& key) override;
+    bool setMissingValue(const QString& key, const QCborValue& value) override;
     bool flush() override { return m_values->save(); }
     void setObserver(KeyValueStoreObserver* observer) override;
 
@@ -31,6 +32,8 @@ class PostgresKeyValueStore final : public KeyValueStore, public SharedStore {
     void setStateObserver(std::function<void()> changed) override;
 
   private:
+    bool set(const QString& key, const QCborValue& value, SharedValues::Yields yields);
+
     class Exchange;
     struct Observers;
 

@@ -41,8 +41,7 @@ SharedStores sharedStoresFor(const QString& address, const SharedStoresOptions& 
     SharedStores stores;
     stores.state = keyValueStore.get();
     stores.keyValueStore = std::move(keyValueStore);
-    auto recordStore =
-        std::make_unique<PostgresRecordStore>(session, name + ".increments"_L1, text, queues);
+    auto recordStore = std::make_unique<PostgresRecordStore>(session, name + ".increments"_L1, text, queues);
     stores.forget = [values, increments = recordStore->forgetting(), isNew](bool wasUsed) {
         increments();
         // The database may know this device by the id in the file.
