@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <unordered_set>
 
 namespace guide {
 
@@ -452,7 +453,7 @@ void QuellinGuideAppDelegate::setup() {
 void QuellinGuideAppDelegate::cleanUpSelection() {
     const CatalogueSnapshot supplied(m_suppliedChannels);
     const std::vector<ObjectId> selected = m_channels->selected();
-    std::optional<std::vector<ObjectId>> before;
+    std::optional<std::unordered_set<ObjectId>> before;
     const auto hasLeft = [&](const ObjectId& channel) {
         if (channel.isOwn()) {
             return m_ownSources->isRemoved(channel);
@@ -462,9 +463,10 @@ void QuellinGuideAppDelegate::cleanUpSelection() {
             return false;
         }
         if (!before) {
-            before = knownChannels(m_environment.folders).value_or(selected);
+            const std::vector<ObjectId> known = knownChannels(m_environment.folders).value_or(selected);
+            before.emplace(known.begin(), known.end());
         }
-        return std::ranges::find(*before, channel) != before->end();
+        return before->contains(channel);
     };
     removeSelected(planSelectionCleanup(selected, std::not_fn(hasLeft)));
     m_environment.queues.globalQueue(QueuePriority::Background).async([this] {

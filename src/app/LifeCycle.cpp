@@ -17,6 +17,9 @@ void QuellinGuideAppDelegate::applicationDidBecomeActive() {
     readSettings();
     m_environment.promotion.prepareInterstitialWhenDue();
     const bool wereAlarmsRunning = m_alarms.isRunning();
+    if (m_environment.sharedPlace) {
+        m_environment.sharedPlace->retryNow();
+    }
     m_cloudSync->cloudDidChangeExternally({});
     const bool didCloudRunAlarms = !wereAlarmsRunning && m_alarms.isRunning();
     m_screens->applicationDidBecomeActive();

@@ -47,7 +47,11 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
+#include <chrono>
 #include <cstdio>
+#include <cstdlib>
+#include <thread>
+#include <unistd.h>
 
 namespace guide {
 
@@ -265,6 +269,16 @@ std::optional<int> updateOnce(Program& program) {
     return isDone ? 0 : 1;
 }
 
+/// Ends the process even if something goes on waiting for a folder whose server does not answer. To be called
+/// when everything has been written.
+void endWithin(std::chrono::seconds atMost, int status) {
+    std::thread([atMost, status] {
+        std::this_thread::sleep_for(atMost);
+        qWarning("A folder does not answer; the end does not wait for it");
+        ::_exit(status);
+    }).detach();
+}
+
 int run(LaunchOptions options, bool drawsWebPages) {
     if (options.screenshots && !preparePictureFolder(*options.screenshots)) {
         return refuse(u"no pictures can be saved in %1"_s.arg(*options.screenshots));
@@ -447,6 +461,7 @@ int run(LaunchOptions options, bool drawsWebPages) {
     const std::optional<int> status = options.update ? updateOnce(program) : showGuide(program);
     const bool ended = delegate.shutDown(kTimeToEnd);
     stores.finish(kTimeToShare);
+    endWithin(kTimeToEnd, status.value_or(EXIT_FAILURE));
     queues.shutDown();
     if (!status) {
         return refuse(delegate.catalogueProblem());

@@ -48,11 +48,12 @@ FolderTreeWatch::~FolderTreeWatch() {
 }
 
 bool FolderTreeWatch::watchAll() {
-    const auto add = [this](const QString& path, std::uint32_t events) {
+    const auto watchOf = [this](const QString& path, std::uint32_t events) {
         // Does nothing for what is watched already.
-        return ::inotify_add_watch(m_events.get(), QFile::encodeName(path).constData(), events) >= 0 ||
-               errno == ENOENT || errno == ENOTDIR;
+        return ::inotify_add_watch(m_events.get(), QFile::encodeName(path).constData(), events);
     };
+    const auto isAdded = [](int watch) { return watch >= 0 || errno == ENOENT || errno == ENOTDIR; };
+    const auto add = [&](const QString& path) { return isAdded(watchOf(path, kFolderEvents)); };
     const auto nearestAbove = [this] {
         QString above = QFileInfo(m_folder).path();
         while (!QFileInfo(above).isDir() && above != QLatin1StringView("/")) {
@@ -65,22 +66,41 @@ bool FolderTreeWatch::watchAll() {
     // The next one may appear before the one above it is watched.
     for (QString next = nearestAbove(); next != above; next = nearestAbove()) {
         above = next;
-        isComplete = add(above, IN_CREATE | IN_MOVE | IN_DELETE_SELF | IN_ONLYDIR);
+        const int watch = watchOf(above, IN_CREATE | IN_MOVE | IN_DELETE_SELF | IN_ONLYDIR);
+        isComplete = isAdded(watch);
+        const QString below = QDir(above).relativeFilePath(m_folder);
+        m_entriesAbove.insert_or_assign(watch, QFile::encodeName(below.section(u'/', 0, 0)));
     }
-    isComplete = add(m_folder, kFolderEvents) && isComplete;
+    isComplete = add(m_folder) && isComplete;
     if (m_depth == Depth::Folder) {
         return isComplete;
     }
     const QStringList names = QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString& name : names) {
-        isComplete = add(m_folder + u'/' + name, kFolderEvents) && isComplete;
+        isComplete = add(m_folder + u'/' + name) && isComplete;
     }
     return isComplete;
 }
 
+// What happens beside the folder does not matter: its parent may be the busy home folder.
+bool FolderTreeWatch::readEvents() {
+    alignas(inotify_event) std::array<char, 16'384> buffer;
+    bool isConcerned = false;
+    for (ssize_t size = 0; (size = ::read(m_events.get(), buffer.data(), buffer.size())) > 0;) {
+        for (ssize_t at = 0; at < size;) {
+            const auto* event = reinterpret_cast<const inotify_event*>(buffer.data() + at);
+            at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+            const auto above = m_entriesAbove.find(event->wd);
+            isConcerned = isConcerned || above == m_entriesAbove.end() || event->len == 0 ||
+                          above->second == event->name;
+        }
+    }
+    return isConcerned;
+}
+
 void FolderTreeWatch::run(bool isComplete) {
     if (!isComplete) {
-        qInfo("calendar folders cannot be watched; they are looked through every 30 seconds");
+        qInfo("A folder cannot be watched; it is looked through every 30 seconds");
     }
     // Of the changes that have not been reported.
     bool isPending = false;
@@ -97,13 +117,11 @@ void FolderTreeWatch::run(bool isComplete) {
             return;
         }
         if (ready > 0) {
-            std::array<char, 16'384> events{};
-            while (::read(m_events.get(), events.data(), events.size()) > 0) {
-            }
-            if (!std::exchange(isPending, true)) {
+            const bool isConcerned = readEvents();
+            if (isConcerned && !std::exchange(isPending, true)) {
                 first = SteadyClock::now();
             }
-            if (SteadyClock::now() < first + kLongest) {
+            if (!isPending || SteadyClock::now() < first + kLongest) {
                 continue;
             }
         } else if (ready < 0) {

@@ -27,12 +27,16 @@ class FolderTreeWatch {
     void run(bool isComplete);
     /// False when something cannot be watched.
     bool watchAll();
+    /// Reads the events that are there. Whether one concerns the folder.
+    bool readEvents();
 
     const QString m_folder;
     const Depth m_depth;
     const std::function<void()> m_changed;
     FileDescriptor m_events;
     FileDescriptor m_stop;
+    /// Of the folders above that are or were watched, by watch: the entry that leads to the folder.
+    std::unordered_map<int, QByteArray> m_entriesAbove;
     std::thread m_thread;
 };
 
