@@ -54,10 +54,10 @@ void cleanTexts(QByteArrayView bytes) {
     }
     QString subtitle = given[0];
     if (const auto range = bracketRange(subtitle)) {
-        require(range->start >= 0 && range->start + range->size <= subtitle.size(),
+        require(range->start >= 0 && range->start + range->length <= subtitle.size(),
                 "a bracket is inside the text");
-        const QString bracket = applySubtitleBracket(subtitle, range->start, range->size);
-        require(bracket.size() == range->size, "a bracket is removed as a whole");
+        const QString bracket = applySubtitleBracket(subtitle, range->start, range->length);
+        require(bracket.size() == range->length, "a bracket is removed as a whole");
     }
     finishSubtitle(subtitle, given[1].size() % 2 == 1);
     const CleanedDescription cleaned =
