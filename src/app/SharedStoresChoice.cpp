@@ -1,6 +1,7 @@
 #include "app/SharedStoresChoice.h"
 
 #include "app/SharedFolder.h"
+#include "platform/SharedPlaceAddress.h"
 #include "platform/linux/FolderKeyValueStore.h"
 #include "platform/linux/SharedFolderKeyValueStore.h"
 #include "platform/linux/database/PostgresSession.h"

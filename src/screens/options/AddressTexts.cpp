@@ -1,5 +1,7 @@
 #include "screens/options/AddressTexts.h"
 
+#include "platform/SharedPlaceAddress.h"
+
 #include <QDir>
 #include <QUrl>
 
@@ -19,7 +21,7 @@ struct UserPlace {
 };
 
 std::optional<UserPlace> userPlace(const QString& address) {
-    if (!looksLikeDatabase(address)) {
+    if (!isDatabaseAddress(address)) {
         return std::nullopt;
     }
     constexpr auto kSlashes = "://"_L1;
@@ -31,11 +33,6 @@ std::optional<UserPlace> userPlace(const QString& address) {
 }
 
 } // namespace
-
-bool looksLikeDatabase(const QString& address) {
-    return address.startsWith("postgresql://"_L1, Qt::CaseInsensitive) ||
-           address.startsWith("postgres://"_L1, Qt::CaseInsensitive);
-}
 
 PlaceInput withoutPassword(const QString& typed) {
     const QString address = typed.trimmed();

@@ -12,7 +12,6 @@ struct PlaceInput {
     friend bool operator==(const PlaceInput&, const PlaceInput&) = default;
 };
 
-bool looksLikeDatabase(const QString& address);
 /// Takes the password out of the address of a database. Anything else is the address as it is.
 PlaceInput withoutPassword(const QString& typed);
 /// Puts the password back into the address. An address without a user remains as it is.

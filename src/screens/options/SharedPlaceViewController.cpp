@@ -1,5 +1,6 @@
 #include "screens/options/SharedPlaceViewController.h"
 
+#include "platform/SharedPlaceAddress.h"
 #include "screens/Localized.h"
 #include "screens/ShowRows.h"
 
@@ -192,7 +193,7 @@ Section SharedPlaceViewController::choiceSection(const SharedPlace& place) const
                         "A folder that a sync tool copies between your devices, or a PostgreSQL "
                         "database. Channels, favourites, your own sources, silent hours and the name "
                         "of the calendar lie there; files in a folder can be read by whoever has it.")};
-    const bool isDatabase = looksLikeDatabase(m_input.address);
+    const bool isDatabase = isDatabaseAddress(m_input.address);
     section.rows.push_back(
         {.id = {section.id, QString(kField)},
          .content =

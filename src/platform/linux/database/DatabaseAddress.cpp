@@ -1,5 +1,7 @@
 #include "platform/linux/database/DatabaseAddress.h"
 
+#include "platform/SharedPlaceAddress.h"
+
 #include <QUrl>
 #include <QUrlQuery>
 
@@ -42,11 +44,6 @@ QString DatabaseAddress::text() const {
     }
     url.setQuery(query);
     return url.toString(QUrl::FullyEncoded);
-}
-
-bool isDatabaseAddress(const QString& text) {
-    return text.startsWith("postgresql://"_L1, Qt::CaseInsensitive) ||
-           text.startsWith("postgres://"_L1, Qt::CaseInsensitive);
 }
 
 std::optional<DatabaseAddress> databaseAddress(const QString& text, QString& why) {

@@ -27,8 +27,6 @@ struct DatabaseAddress {
     QString text() const;
 };
 
-bool isDatabaseAddress(const QString& text);
-
 /// Empty when it cannot be used; `why` then has a sentence without the password.
 std::optional<DatabaseAddress> databaseAddress(const QString& text, QString& why);
 
