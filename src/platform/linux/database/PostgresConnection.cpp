@@ -31,24 +31,6 @@ QByteArray systemCertificates() {
     return found != std::end(kSystemCertificates) ? *found : kSystemCertificates[0];
 }
 
-/// Waits until the descriptor is ready; false when the time is up or `stop` was woken.
-bool waitFor(int descriptor, short events, const WakeUp& stop, SteadyClock::time_point until) {
-    for (;;) {
-        const auto left = std::chrono::ceil<std::chrono::milliseconds>(until - SteadyClock::now());
-        if (left.count() <= 0) {
-            return false;
-        }
-        pollfd polled[] = {{descriptor, events, 0}, {stop.descriptor(), POLLIN, 0}};
-        const int ready = ::poll(polled, std::size(polled), static_cast<int>(left.count()));
-        if (ready > 0) {
-            return polled[1].revents == 0;
-        }
-        if (ready < 0 && errno != EINTR) {
-            return false;
-        }
-    }
-}
-
 DatabaseFault faultOf(QByteArrayView state) {
     // Classes: 08 connection, 28 authorization, 53 resources, 54 limits, 57 intervention of an operator, 40
     // rollback.
@@ -78,7 +60,7 @@ DatabaseFault faultOf(QByteArrayView state) {
 
 /// Why the attempt to connect failed; `phase` is the last one that it reached.
 DatabaseError connectionError(PGconn* connection, ConnStatusType phase, const DatabaseAddress& address,
-                              const QList<QByteArray>& numbers) {
+                              const QList<QByteArray>& numbers, const WakeUp& stop) {
     // Five letters and digits; the severity before them has no digits.
     static const QRegularExpression kState(u": +(?=[A-Z]*[0-9])([0-9A-Z]{5}): "_s);
     DatabaseError error{.message = QString::fromUtf8(PQerrorMessage(connection)).section(u'\n', 0, 0)};
@@ -90,7 +72,7 @@ DatabaseError connectionError(PGconn* connection, ConnStatusType phase, const Da
     } else if (phase == CONNECTION_SSL_STARTUP) {
         error.fault = DatabaseFault::Identity;
     } else if (phase == CONNECTION_STARTED || phase == CONNECTION_BAD) {
-        error.fault = whyNotReached(address, numbers);
+        error.fault = whyNotReached(address, numbers, stop);
     }
     return error;
 }
@@ -108,6 +90,23 @@ void WakeUp::wake() const {
 void WakeUp::clear() const {
     std::uint64_t count = 0;
     [[maybe_unused]] const ssize_t size = ::read(m_event.get(), &count, sizeof count);
+}
+
+bool waitFor(int descriptor, short events, const WakeUp& stop, SteadyClock::time_point until) {
+    for (;;) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(until - SteadyClock::now());
+        if (left.count() <= 0) {
+            return false;
+        }
+        pollfd polled[] = {{descriptor, events, 0}, {stop.descriptor(), POLLIN, 0}};
+        const int ready = ::poll(polled, std::size(polled), static_cast<int>(left.count()));
+        if (ready > 0) {
+            return polled[1].revents == 0;
+        }
+        if (ready < 0 && errno != EINTR) {
+            return false;
+        }
+    }
 }
 
 DatabaseParameter DatabaseParameter::array(const QList<QByteArray>& texts) {
@@ -180,7 +179,7 @@ std::unique_ptr<PostgresConnection> PostgresConnection::open(const DatabaseAddre
     PostgresPollingStatusType next = phase == CONNECTION_BAD ? PGRES_POLLING_FAILED : PGRES_POLLING_WRITING;
     while (next != PGRES_POLLING_OK) {
         if (next == PGRES_POLLING_FAILED) {
-            error = connectionError(connection, phase, address, numbers);
+            error = connectionError(connection, phase, address, numbers, stop);
             return nullptr;
         }
         const short events = next == PGRES_POLLING_READING ? POLLIN : POLLOUT;

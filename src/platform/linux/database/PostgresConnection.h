@@ -28,12 +28,15 @@ class WakeUp {
     const FileDescriptor m_event;
 };
 
+/// Waits until the descriptor is ready; false when the time is up or `stop` was woken.
+bool waitFor(int descriptor, short events, const WakeUp& stop, std::chrono::steady_clock::time_point until);
+
 enum class DatabaseFault {
     /// The connection was lost, or the server is starting or full.
     Lost,
     /// There is no host of that name.
     UnknownHost,
-    /// This device has no network, or none with a way to the host.
+    /// This device has no network, none with a way to the host, or does not let the guide use it.
     NoNetwork,
     /// Nothing listens on the port or the socket.
     NoServer,

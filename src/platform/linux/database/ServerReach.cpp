@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype kMostNumbers = 8;
-constexpr int kLongestInAll = 2000;
+constexpr std::chrono::milliseconds kLongestInAll{2000};
 
 using AddressList = std::unique_ptr<addrinfo, decltype(&freeaddrinfo)>;
 
@@ -35,7 +35,8 @@ AddressList addressList(const char* host, const char* port, int flags, int& fail
 }
 
 /// The error of an attempt to connect, 0 if there is none.
-int connectionFailure(const sockaddr* to, socklen_t size, int longest) {
+int connectionFailure(const sockaddr* to, socklen_t size, std::chrono::milliseconds longest,
+                      const WakeUp& stop) {
     const FileDescriptor socket(::socket(to->sa_family, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
     if (socket.get() < 0 || ::connect(socket.get(), to, size) == 0) {
         return socket.get() < 0 ? errno : 0;
@@ -43,8 +44,7 @@ int connectionFailure(const sockaddr* to, socklen_t size, int longest) {
     if (errno != EINPROGRESS) {
         return errno;
     }
-    pollfd polled{socket.get(), POLLOUT, 0};
-    if (::poll(&polled, 1, longest) <= 0) {
+    if (!waitFor(socket.get(), POLLOUT, stop, std::chrono::steady_clock::now() + longest)) {
         return ETIMEDOUT;
     }
     int failure = 0;
@@ -64,10 +64,10 @@ DatabaseFault faultOf(int failure) {
     case ENETUNREACH:
     case ENETDOWN:
     case EADDRNOTAVAIL:
-        return DatabaseFault::NoNetwork;
+    // The rights of the socket, or a firewall of this device.
     case EACCES:
     case EPERM:
-        return DatabaseFault::Rights;
+        return DatabaseFault::NoNetwork;
     default:
         return DatabaseFault::NoAnswer;
     }
@@ -99,7 +99,8 @@ QList<QByteArray> numbersOf(const DatabaseAddress& address, DatabaseError& error
     return numbers;
 }
 
-DatabaseFault whyNotReached(const DatabaseAddress& address, const QList<QByteArray>& numbers) {
+DatabaseFault whyNotReached(const DatabaseAddress& address, const QList<QByteArray>& numbers,
+                            const WakeUp& stop) {
     if (address.isSocket()) {
         sockaddr_un socket{};
         socket.sun_family = AF_UNIX;
@@ -109,12 +110,12 @@ DatabaseFault whyNotReached(const DatabaseAddress& address, const QList<QByteArr
             return DatabaseFault::NoServer;
         }
         std::ranges::copy(path, socket.sun_path);
-        return faultOf(
-            connectionFailure(reinterpret_cast<const sockaddr*>(&socket), sizeof socket, kLongestInAll));
+        return faultOf(connectionFailure(reinterpret_cast<const sockaddr*>(&socket), sizeof socket,
+                                         kLongestInAll, stop));
     }
     // Of several numbers, the one that comes closest to a server counts.
     constexpr std::array kClosestFirst{DatabaseFault::Lost, DatabaseFault::NoServer, DatabaseFault::NoAnswer,
-                                       DatabaseFault::Rights, DatabaseFault::NoNetwork};
+                                       DatabaseFault::NoNetwork};
     const auto rank = [&](DatabaseFault fault) { return std::ranges::find(kClosestFirst, fault); };
     std::optional<DatabaseFault> closest;
     for (const QByteArray& number : numbers) {
@@ -123,8 +124,8 @@ DatabaseFault whyNotReached(const DatabaseAddress& address, const QList<QByteArr
             addressList(number.constData(), QByteArray::number(address.port).constData(),
                         AI_NUMERICHOST | AI_NUMERICSERV, failure);
         if (found) {
-            const DatabaseFault fault = faultOf(connectionFailure(
-                found->ai_addr, found->ai_addrlen, kLongestInAll / static_cast<int>(numbers.size())));
+            const DatabaseFault fault = faultOf(
+                connectionFailure(found->ai_addr, found->ai_addrlen, kLongestInAll / numbers.size(), stop));
             closest = closest && rank(*closest) < rank(fault) ? closest : fault;
         }
     }

@@ -9,8 +9,9 @@ namespace guide {
 QList<QByteArray> numbersOf(const DatabaseAddress& address, DatabaseError& error);
 
 /// Why no connection to any of the numbers, or to the socket, was made. libpq says it in words only, so this
-/// tries again, for at most two seconds.
-DatabaseFault whyNotReached(const DatabaseAddress& address, const QList<QByteArray>& numbers);
+/// tries again, for at most two seconds and not after `stop` has been woken.
+DatabaseFault whyNotReached(const DatabaseAddress& address, const QList<QByteArray>& numbers,
+                            const WakeUp& stop);
 
 /// One sentence for people, without names, addresses and passwords.
 QString sentenceFor(DatabaseFault fault);
