@@ -1,6 +1,8 @@
 // How a drawn table behaves while its rows change, and which events it reports.
 #include "TableWindow.h"
 
+#include <QAccessible>
+
 #include <atomic>
 
 namespace guide::test {
@@ -109,6 +111,46 @@ TEST_F(TableWindowTest, WhatIsBeingTypedSurvivesUpdates) {
     screen->setText(2, InputRow{.title = u"Name"_s, .text = u"accepted"_s});
     settle();
     EXPECT_EQ(field->property("text"), u"accepted"_s);
+}
+
+TEST_F(TableWindowTest, APasswordIsShownByEveryMeansAndHiddenInTheNextRow) {
+    std::vector<Section> sections = lines(60);
+    const InputRow password{.kind = InputRow::Kind::Password, .title = u"Password"_s, .text = u"moon"_s};
+    sections[0].rows[0].content = password;
+    sections[0].rows[59].content = password;
+    open(sections);
+    const auto isShown = [this] { return itemsWith("echoMode").value(0)->property("echoMode").toInt() == 0; };
+    const auto eye = [&] {
+        return buttons({isShown() ? u"Hide the password"_s : u"Show the password"_s}).value(0);
+    };
+    ASSERT_TRUE(eye());
+    bool expected = false;
+    const auto toggles = [&](const char* by) {
+        expected = !expected;
+        settle();
+        EXPECT_EQ(isShown(), expected) << by;
+        EXPECT_TRUE(eye()) << by;
+    };
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        eye()->forceActiveFocus(Qt::TabFocusReason);
+        press(key);
+        toggles(QTest::toString(key));
+    }
+    click(eye());
+    toggles("pointer");
+    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(eye());
+    ASSERT_TRUE(accessible && accessible->actionInterface());
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    toggles("screen reader");
+
+    focus();
+    for (const bool toEnd : {true, false}) {
+        ASSERT_TRUE(isShown());
+        scrollTo(toEnd ? rows()->property("contentHeight").toDouble() - rows()->height() : 0);
+        ASSERT_TRUE(eye());
+        EXPECT_FALSE(isShown());
+        click(eye());
+    }
 }
 
 TEST_F(TableWindowTest, TheScrollPositionStaysWhenRowsAboveChange) {

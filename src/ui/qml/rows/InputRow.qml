@@ -8,6 +8,8 @@ TableRow {
 
     readonly property bool wrong: row.error !== ""
     readonly property bool secret: row.kind === Kit.InputKind.Password
+    // Whether a password can be read; not that of another row.
+    property bool revealed: false
     // Of the text that the field has.
     property int revision: 0
 
@@ -32,8 +34,12 @@ TableRow {
     onRowChanged: {
         if (!field.activeFocus || revision !== row.revision)
             field.show(row.text)
+        if (revision !== row.revision)
+            revealed = false
         revision = row.revision
     }
+    onSecretChanged: revealed = false
+    ListView.onPooled: revealed = false
 
     Item {
         x: cell.sideMargin
@@ -73,7 +79,7 @@ TableRow {
             placeholderTextColor: Theme.secondaryLabel
             verticalAlignment: TextInput.AlignVCenter
             selectByMouse: true
-            echoMode: cell.secret && !eye.checked ? TextInput.Password : TextInput.Normal
+            echoMode: cell.secret && !cell.revealed ? TextInput.Password : TextInput.Normal
             inputMethodHints: cell.row.kind === Kit.InputKind.URL ? Qt.ImhUrlCharactersOnly | Qt.ImhNoAutoUppercase
                               : cell.row.kind === Kit.InputKind.Number ? Qt.ImhDigitsOnly
                               : cell.secret ? Qt.ImhHiddenText | Qt.ImhSensitiveData | Qt.ImhNoAutoUppercase
@@ -106,7 +112,7 @@ TableRow {
 
             Accessible.role: Accessible.EditableText
             Accessible.name: cell.row.accessibleName
-            Accessible.passwordEdit: cell.secret && !eye.checked
+            Accessible.passwordEdit: cell.secret && !cell.revealed
 
             RegularExpressionValidator {
                 id: digits
@@ -130,18 +136,15 @@ TableRow {
             }
 
             IconButton {
-                id: eye
-
                 anchors {
                     right: parent.right
                     verticalCenter: parent.verticalCenter
                 }
                 visible: cell.secret
-                checkable: true
-                symbol: checked ? Glyph.EyeCrossed : Glyph.Eye
+                symbol: cell.revealed ? Glyph.EyeCrossed : Glyph.Eye
                 color: Theme.secondaryLabel
-                text: checked ? qsTranslate("Guide", "Hide the password") : qsTranslate("Guide", "Show the password")
-                Accessible.role: Accessible.Button
+                text: cell.revealed ? qsTranslate("Guide", "Hide the password") : qsTranslate("Guide", "Show the password")
+                onClicked: cell.revealed = !cell.revealed
             }
 
             background: Rectangle {
