@@ -216,35 +216,46 @@ void SharedStoresChoice::choose(const QString& address, MainBlock<QString> mainB
     }
 }
 
-void SharedStoresChoice::chooseFolder(const QString& path, MainBlock<QString> mainBlock) {
+void SharedStoresChoice::askDisk(std::function<QString()> question,
+                                 std::function<void(QString)> answered) const {
     DispatchQueue& mainQueue = m_environment.queues.mainQueue();
-    const auto answer = std::make_shared<std::optional<MainBlock<QString>>>(std::move(mainBlock));
-    const auto answered = [this, path, answer, alive = std::weak_ptr(m_alive)](QString why) {
-        if (!alive.expired() && *answer) {
-            MainBlock<QString> block = *std::exchange(*answer, std::nullopt);
-            const bool isUsable = why.isEmpty() && !m_choice;
-            tryStores(isUsable ? folderStores(path, true) : Stores{}, std::move(why), std::move(block));
-        }
-    };
-    // Not on the queue of the choices: the disk may never answer.
+    // The first answer counts.
+    MainBlock<QString> answer(std::weak_ptr<const void>(m_alive), std::move(answered));
+    // Not on the queue of the choices, which would have to wait.
     m_environment.queues.globalQueue(QueuePriority::UserInitiated)
-        .async([path, answered, own = m_environment.folders.keyValueStore, &mainQueue] {
+        .async([question = std::move(question), answer, &mainQueue]() mutable {
+            answer.post(mainQueue, question());
+        });
+    mainQueue.asyncAfter(kLongestWait, [answer = std::move(answer), &mainQueue]() mutable {
+        answer.post(mainQueue, kNoAnswer);
+    });
+}
+
+void SharedStoresChoice::chooseFolder(const QString& path, MainBlock<QString> mainBlock) {
+    askDisk(
+        [path, own = m_environment.folders.keyValueStore] {
             QString why = path.isEmpty() ? QString() : problemOfSharedFolder(path);
             if (!path.isEmpty() && why.isEmpty() &&
                 QFileInfo(path).canonicalFilePath() == QFileInfo(own).canonicalFilePath()) {
                 why = u"This folder belongs to the guide on this device: choose another one."_s;
             }
-            mainQueue.async([answered, why] { answered(why); });
+            return why;
+        },
+        [this, path, answer = std::move(mainBlock)](QString why) {
+            const bool isUsable = why.isEmpty() && !m_choice;
+            tryStores(isUsable ? folderStores(path, true) : Stores{}, std::move(why), answer);
         });
-    mainQueue.asyncAfter(kLongestWait, [answered] { answered(kNoAnswer); });
 }
 
 void SharedStoresChoice::createFolder(const QString& path, MainBlock<QString> mainBlock) {
-    m_queue->async([path = folderPath(path), &mainQueue = m_environment.queues.mainQueue(),
-                    answer = std::move(mainBlock)]() mutable {
-        const bool isMade = !path.isEmpty() && (QDir().mkdir(path) || QFileInfo(path).isDir());
-        answer.post(mainQueue, isMade ? QString() : u"The folder cannot be created."_s);
-    });
+    askDisk(
+        [path = folderPath(path)] {
+            const bool isMade = !path.isEmpty() && (QDir().mkdir(path) || QFileInfo(path).isDir());
+            return isMade ? QString() : u"The folder cannot be created."_s;
+        },
+        [answer = std::move(mainBlock), &mainQueue = m_environment.queues.mainQueue()](QString why) mutable {
+            answer.post(mainQueue, std::move(why));
+        });
 }
 
 // With another password, perhaps.

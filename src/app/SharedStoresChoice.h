@@ -85,6 +85,8 @@ class SharedStoresChoice final : public SharedPlaceActions {
     QString deviceName() const;
     /// Where the stores still have another one.
     void useDeviceName();
+    /// Asks where a disk may never answer: after half a minute, that is the answer.
+    void askDisk(std::function<QString()> question, std::function<void(QString)> answered) const;
     void chooseFolder(const QString& path, MainBlock<QString> mainBlock);
     void stay(const std::optional<DatabaseAddress>& database, const QString& entered,
               MainBlock<QString> answer);
