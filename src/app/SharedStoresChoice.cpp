@@ -102,7 +102,6 @@ SharedStoresChoice::SharedStoresChoice(Environment environment)
 }
 
 SharedStoresChoice::~SharedStoresChoice() {
-    m_stop->wake();
     m_current.shared->setStateObserver(nullptr);
     if (m_choice) {
         m_choice->stores.shared->setStateObserver(nullptr);
@@ -154,6 +153,7 @@ void SharedStoresChoice::retryNow() {
 }
 
 void SharedStoresChoice::finish(std::chrono::milliseconds atMost) const {
+    m_stop->wake();
     if (m_current.finish) {
         m_current.finish(atMost);
     }
@@ -395,10 +395,8 @@ void SharedStoresChoice::end(const QString& why) {
     }
     choice->answer.post(m_environment.queues.mainQueue(), QString(why));
     tellChanged();
-    if (why.isEmpty()) {
-        // It may have got another name meanwhile.
-        useDeviceName();
-    }
+    // It may have got another name meanwhile.
+    useDeviceName();
 }
 
 } // namespace guide

@@ -46,7 +46,8 @@ class SharedStoresChoice final : public SharedPlaceActions {
     void createFolder(const QString& path, MainBlock<QString> mainBlock) override;
     void setDeviceName(const QString& name) override;
     void retryNow() override;
-    /// Waits until a folder has what this device changed. Before the queues end.
+    /// Waits until a folder has what this device changed, and ends what waits for a server. Before the queues
+    /// end.
     void finish(std::chrono::milliseconds atMost) const;
     void setObserver(std::weak_ptr<const void> owner, std::function<void()> changed) override {
         m_observer = std::move(owner);
