@@ -1,7 +1,10 @@
 #include "app/SharedFolder.h"
 
 #include "cloud/SharedPlaceActions.h"
+#include "platform/archive/Archive.h"
+#include "platform/files/FileContent.h"
 
+#include <QCborMap>
 #include <QDir>
 #include <QFileInfo>
 #include <QUrl>
@@ -39,6 +42,20 @@ QString problemOfSharedFolder(const QString& path) {
     return parent.isWritable() && parent.isExecutable()
                ? QString::fromLatin1(kFolderIsMissing)
                : u"There is no such folder, and none can be created there."_s;
+}
+
+void removeValuesOfOtherFolders(const QString& folder, const QString& current) {
+    constexpr qint64 kLargestFile = 64 << 20;
+    const QFileInfoList files = QDir(folder).entryInfoList({u"folder-*.values"_s}, QDir::Files);
+    for (const QFileInfo& file : files) {
+        // A file that does not say whose it is stays: it may be that of the current folder.
+        const std::optional<QByteArray> content = fileContent(file.filePath(), kLargestFile);
+        const std::optional<QCborValue> root = content ? unarchivedRoot(*content) : std::nullopt;
+        const QString address = root ? root->toMap().value("address"_L1).toString() : QString();
+        if (!address.isEmpty() && address != current) {
+            QFile::remove(file.filePath());
+        }
+    }
 }
 
 } // namespace guide

@@ -12,4 +12,8 @@ QString folderPath(const QString& typed);
 /// when they can. Reads the disk.
 QString problemOfSharedFolder(const QString& path);
 
+/// Removes from the folder what SharedFolderKeyValueStore keeps there of folders other than the current one,
+/// which may be empty: a process that ended while it left them could not. Waits for the disk.
+void removeValuesOfOtherFolders(const QString& folder, const QString& current);
+
 } // namespace guide

@@ -99,6 +99,11 @@ SharedStoresChoice::SharedStoresChoice(Environment environment)
     }
     m_keyValueStore = std::make_shared<SwitchedKeyValueStore>(stores.keyValueStore);
     adopt(std::move(stores));
+    if (m_environment.folders.writable) {
+        m_queue->async([folder = m_environment.folders.documents, current = m_current.address] {
+            removeValuesOfOtherFolders(folder, current);
+        });
+    }
 }
 
 SharedStoresChoice::~SharedStoresChoice() {
@@ -301,7 +306,7 @@ void SharedStoresChoice::tryStores(Stores stores, QString why, MainBlock<QString
     });
     m_environment.queues.mainQueue().asyncAfter(
         kLongestWait, [this, choice = std::weak_ptr(m_choice), alive = std::weak_ptr(m_alive)] {
-            if (!alive.expired() && !choice.expired() && !m_choice->isMoving) {
+            if (!alive.expired() && !choice.expired() && !m_choice->isDecided) {
                 end(kNoAnswer);
             }
         });
@@ -309,7 +314,7 @@ void SharedStoresChoice::tryStores(Stores stores, QString why, MainBlock<QString
 }
 
 void SharedStoresChoice::look() {
-    if (!m_choice || m_choice->isMoving) {
+    if (!m_choice || m_choice->isDecided) {
         return;
     }
     const SharedStoreState state = m_choice->stores.shared->sharedState();
@@ -321,13 +326,13 @@ void SharedStoresChoice::look() {
 }
 
 void SharedStoresChoice::move() {
-    m_choice->isMoving = true;
+    m_choice->isDecided = true;
     // Whoever leaves a place keeps what is there.
     const auto keeps = m_choice->stores.address.isEmpty() ? SwitchedKeyValueStore::Keeps::Ours
                                                           : SwitchedKeyValueStore::Keeps::Theirs;
     m_keyValueStore->observeNext(*m_choice->stores.keyValueStore);
     m_queue->async([this, values = m_keyValueStore, store = m_choice->stores.keyValueStore, keeps,
-                    entered = m_choice->stores.entered, left = m_current,
+                    entered = m_choice->stores.entered, address = m_choice->stores.address, left = m_current,
                     alive = std::weak_ptr(m_alive)]() mutable {
         QString why;
         std::optional<QStringList> differing;
@@ -340,10 +345,12 @@ void SharedStoresChoice::move() {
         if (differing && left.finish) {
             left.finish(kTimeToLeave);
         }
-        if (differing && left.address.isEmpty() && values->flush()) {
-            // What lies in the profile would be found, and outlive an erasure.
-            for (const QString& key : kSharedKeys) {
-                left.keyValueStore->removeKey(key);
+        if (differing) {
+            // A process that is killed here must not find itself where nothing is left.
+            const bool isSaved = values->flush();
+            m_environment.userDefaults.setString(kAddressKey, address);
+            if (isSaved && m_environment.folders.writable && m_environment.userDefaults.synchronize()) {
+                forget(left);
             }
         }
         m_environment.queues.mainQueue().async(
@@ -363,14 +370,26 @@ void SharedStoresChoice::moved(const std::optional<QStringList>& differing, cons
     }
     const std::shared_ptr<Choice> choice = m_choice;
     m_current.shared->setStateObserver(nullptr);
-    if (m_current.forget) {
-        m_current.forget(true);
-    }
     m_keyValueStore->endReplaced();
     adopt(choice->stores);
-    m_environment.userDefaults.setString(kAddressKey, m_current.address);
     end({});
     m_keyValueStore->announce(*differing);
+}
+
+void SharedStoresChoice::forget(const Stores& left) const {
+    if (left.address.isEmpty()) {
+        // What lies in the profile would be found, and outlive an erasure.
+        for (const QString& key : kSharedKeys) {
+            left.keyValueStore->removeKey(key);
+        }
+        return;
+    }
+    left.forget(true);
+    QString why;
+    if (const auto database =
+            isDatabaseAddress(left.address) ? databaseAddress(left.address, why) : std::nullopt) {
+        m_environment.secrets.removeSecret(databaseSecretKey(*database));
+    }
 }
 
 void SharedStoresChoice::adopt(Stores stores) {
@@ -386,13 +405,28 @@ void SharedStoresChoice::tellChanged() const {
 }
 
 void SharedStoresChoice::end(const QString& why) {
-    const std::shared_ptr<Choice> choice = std::exchange(m_choice, nullptr);
+    m_choice->isDecided = true;
     if (!why.isEmpty()) {
-        choice->stores.shared->setStateObserver(nullptr);
-        if (choice->stores.forget) {
-            choice->stores.forget(false);
-        }
+        m_choice->stores.shared->setStateObserver(nullptr);
     }
+    if (why.isEmpty() || !m_choice->stores.forget) {
+        answerChoice(why);
+        return;
+    }
+    // Before it can be tried again, with a file of the same name.
+    m_queue->async([this, choice = m_choice, why, &mainQueue = m_environment.queues.mainQueue(),
+                    alive = std::weak_ptr(m_alive)]() mutable {
+        choice->stores.forget(false);
+        mainQueue.async([this, choice = std::move(choice), why, alive = std::move(alive)] {
+            if (!alive.expired()) {
+                answerChoice(why);
+            }
+        });
+    });
+}
+
+void SharedStoresChoice::answerChoice(const QString& why) {
+    const std::shared_ptr<Choice> choice = std::exchange(m_choice, nullptr);
     choice->answer.post(m_environment.queues.mainQueue(), QString(why));
     tellChanged();
     // It may have got another name meanwhile.

@@ -71,14 +71,15 @@ class SharedStoresChoice final : public SharedPlaceActions {
         std::function<void(const QString&)> setDeviceName = {};
         /// Waits, not longer, until the place has what this device changed; empty for those that know later.
         std::function<void(std::chrono::milliseconds)> finish = {};
-        /// Leaves nothing of the values of the place in the profile.
+        /// Leaves nothing of the values of the place in the profile. Writes; not on the main thread.
         std::function<void(bool wasUsed)> forget = {};
     };
     /// A choice that is being made.
     struct Choice {
         Stores stores;
         MainBlock<QString> answer;
-        bool isMoving = false;
+        /// The stores are being used, or given up.
+        bool isDecided = false;
     };
 
     Stores folderStores(const QString& address, bool joins) const;
@@ -96,7 +97,10 @@ class SharedStoresChoice final : public SharedPlaceActions {
     void look();
     void move();
     void moved(const std::optional<QStringList>& differing, const QString& why);
+    /// Leaves nothing of a place in the profile that is no longer used. Not on the main thread.
+    void forget(const Stores& left) const;
     void end(const QString& why);
+    void answerChoice(const QString& why);
     void adopt(Stores stores);
     void tellChanged() const;
 

@@ -4,6 +4,7 @@
 #include "alarms/TVShows.h"
 #include "fakes/ManualQueues.h"
 #include "platform/linux/FolderKeyValueStore.h"
+#include "platform/linux/SettingsUserDefaults.h"
 #include "platform/memory/MemorySecretStore.h"
 #include "platform/memory/MemoryUserDefaults.h"
 
@@ -118,6 +119,44 @@ TEST_F(SharedStoresChoiceTest, APlaceThatCannotBeUsedChangesNothing) {
     EXPECT_EQ(value(u"Favorites"_s), u"ours"_s);
     EXPECT_FALSE(defaults.stringForKey(u"sharedPlace"_s));
     EXPECT_TRUE(announced.isEmpty());
+}
+
+TEST_F(SharedStoresChoiceTest, APlaceIsLeftOnlyWhenTheNextOneIsStored) {
+    const QString place = made(u"sync"_s);
+    const QString settings = root.filePath(u"settings.ini"_s);
+    const auto own = [this] {
+        return FolderKeyValueStore(folders.keyValueStore, u"x-1"_s, queues).valueForKey(u"Favorites"_s);
+    };
+    const auto kept = [this] { return QDir(folders.documents).entryList({u"folder-*.values"_s}); };
+    std::optional<SettingsUserDefaults> stored;
+    // As after a kill: what was not synchronized is lost.
+    const auto startWith = [&](const QString& path) {
+        choice.reset();
+        stored.emplace(path);
+        choice.emplace(SharedStoresChoice::Environment{folders, *stored, clock, secrets, queues});
+        queues.runAll();
+    };
+    const QString unwritable = root.filePath(u"settings.ini/settings.ini"_s);
+    startWith(settings);
+    choice->keyValueStore().setValue(u"Favorites"_s, u"ours"_s);
+    ASSERT_TRUE(stored->synchronize());
+
+    startWith(unwritable);
+    EXPECT_EQ(choose(place), QString());
+    EXPECT_TRUE(own()) << "the next start would find nothing";
+    startWith(settings);
+    EXPECT_EQ(choice->place().kind, SharedPlace::Kind::ThisDevice);
+    EXPECT_TRUE(kept().isEmpty()) << "of a folder that is not the current one";
+
+    EXPECT_EQ(choose(place), QString());
+    EXPECT_FALSE(own());
+    EXPECT_EQ(SettingsUserDefaults(settings).stringForKey(u"sharedPlace"_s), place);
+    startWith(settings);
+    EXPECT_EQ(kept().size(), 1) << "that of the current folder";
+    EXPECT_EQ(choose({}), QString());
+    EXPECT_TRUE(own());
+    EXPECT_TRUE(kept().isEmpty());
+    EXPECT_EQ(SettingsUserDefaults(settings).stringForKey(u"sharedPlace"_s), QString());
 }
 
 TEST_F(SharedStoresChoiceTest, AFolderIsCreatedInTheHome) {
