@@ -2116,8 +2116,8 @@ Počkejte, až se program načte.</translation>
         <translation>Vybrané kanály</translation>
     </message>
     <message>
-        <source>Ten lists of each kind that another device has replaced, by the time of that. Older ones are kept less often.</source>
-        <translation>Deset seznamů každého druhu, které nahradilo jiné zařízení, podle doby nahrazení. Ze starších se jich uchovává méně.</translation>
+        <source>Lists that another device has replaced, by the time of that. At most ten of each kind are kept.</source>
+        <translation>Seznamy, které nahradilo jiné zařízení, podle doby nahrazení. Od každého druhu se jich uchovává nejvýše deset.</translation>
     </message>
     <message>
         <source>Nothing that you do not have now</source>
@@ -2272,6 +2272,22 @@ Počkejte, až se program načte.</translation>
         <translation>V databázi</translation>
     </message>
     <message>
+        <source>Changes are kept and sent later.</source>
+        <translation>Změny se uchovají a odešlou později.</translation>
+    </message>
+    <message>
+        <source>The picture holds the path of the folder.</source>
+        <translation>Obrázek obsahuje cestu ke složce.</translation>
+    </message>
+    <message>
+        <source>Stop sharing</source>
+        <translation>Přestat sdílet</translation>
+    </message>
+    <message>
+        <source>This device shares nothing any more.</source>
+        <translation>Toto zařízení už nic nesdílí.</translation>
+    </message>
+    <message>
         <source>Only on this device</source>
         <translation>Jen v tomto zařízení</translation>
     </message>
@@ -2305,7 +2321,7 @@ Počkejte, až se program načte.</translation>
     </message>
     <message>
         <source>A folder that a sync tool copies between your devices, or a PostgreSQL database. Channels, favourites, your own sources, silent hours and the name of the calendar lie there; files in a folder can be read by whoever has it.</source>
-        <translation>Složka, kterou mezi vašimi zařízeními kopíruje synchronizační program, nebo databáze PostgreSQL. Jsou v ní kanály, oblíbené, vlastní zdroje, doba klidu a název kalendáře; soubory ve složce může číst každý, kdo ji má.</translation>
+        <translation>Složka, kterou mezi vašimi zařízeními kopíruje synchronizační program, nebo databáze PostgreSQL. Jsou v ní kanály, oblíbené, vlastní zdroje, tiché hodiny a název kalendáře; soubory ve složce může číst každý, kdo ji má.</translation>
     </message>
     <message>
         <source>Folder or address of a database</source>
@@ -2452,8 +2468,8 @@ Počkejte, až se program načte.</translation>
         <translation>Toto místo neodpovídá.</translation>
     </message>
     <message>
-        <source>This device does not have the password of the database: enter it under “Your devices”.</source>
-        <translation>Toto zařízení nemá heslo databáze: zadejte ho v části „Vaše zařízení“.</translation>
+        <source>This device does not have the password of the database.</source>
+        <translation>Toto zařízení nemá heslo databáze.</translation>
     </message>
     <message>
         <source>Last change by another device with the name %1</source>
@@ -2472,8 +2488,8 @@ Počkejte, až se program načte.</translation>
         <translation>Vybrat složku…</translation>
     </message>
     <message>
-        <source>Other devices show it with what this one has changed.</source>
-        <translation>Ostatní zařízení jej ukazují u toho, co toto zařízení změnilo.</translation>
+        <source>Your other devices show this name with changes made here.</source>
+        <translation>Ostatní zařízení ukazují toto jméno u změn provedených zde.</translation>
     </message>
     <message>
         <source>Name of this device</source>

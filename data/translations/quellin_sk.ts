@@ -2116,8 +2116,8 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Vybrané kanály</translation>
     </message>
     <message>
-        <source>Ten lists of each kind that another device has replaced, by the time of that. Older ones are kept less often.</source>
-        <translation>Desať zoznamov každého druhu, ktoré nahradilo iné zariadenie, podľa času nahradenia. Zo starších sa ich uchováva menej.</translation>
+        <source>Lists that another device has replaced, by the time of that. At most ten of each kind are kept.</source>
+        <translation>Zoznamy, ktoré nahradilo iné zariadenie, podľa času nahradenia. Z každého druhu sa ich uchováva najviac desať.</translation>
     </message>
     <message>
         <source>Nothing that you do not have now</source>
@@ -2270,6 +2270,22 @@ Počkajte, kým sa program načíta.</translation>
     <message>
         <source>In a database</source>
         <translation>V databáze</translation>
+    </message>
+    <message>
+        <source>Changes are kept and sent later.</source>
+        <translation>Zmeny sa uchovajú a odošlú neskôr.</translation>
+    </message>
+    <message>
+        <source>The picture holds the path of the folder.</source>
+        <translation>Obrázok obsahuje cestu k priečinku.</translation>
+    </message>
+    <message>
+        <source>Stop sharing</source>
+        <translation>Prestať zdieľať</translation>
+    </message>
+    <message>
+        <source>This device shares nothing any more.</source>
+        <translation>Toto zariadenie už nič nezdieľa.</translation>
     </message>
     <message>
         <source>Only on this device</source>
@@ -2452,8 +2468,8 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Toto miesto neodpovedá.</translation>
     </message>
     <message>
-        <source>This device does not have the password of the database: enter it under “Your devices”.</source>
-        <translation>Toto zariadenie nemá heslo databázy: zadajte ho v časti „Vaše zariadenia“.</translation>
+        <source>This device does not have the password of the database.</source>
+        <translation>Toto zariadenie nemá heslo databázy.</translation>
     </message>
     <message>
         <source>Last change by another device with the name %1</source>
@@ -2472,8 +2488,8 @@ Počkajte, kým sa program načíta.</translation>
         <translation>Vybrať priečinok…</translation>
     </message>
     <message>
-        <source>Other devices show it with what this one has changed.</source>
-        <translation>Ostatné zariadenia ho ukazujú pri tom, čo toto zariadenie zmenilo.</translation>
+        <source>Your other devices show this name with changes made here.</source>
+        <translation>Ostatné zariadenia ukazujú toto meno pri zmenách urobených tu.</translation>
     </message>
     <message>
         <source>Name of this device</source>

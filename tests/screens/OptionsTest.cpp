@@ -133,8 +133,9 @@ TEST_F(OptionsTest, AnotherPlaceIsChosenAfterAQuestion) {
     EXPECT_TRUE(hasCode);
     sharedPlace.now.state.reason = u"The folder is not there, or it cannot be written."_s;
     sharedPlace.observer();
-    EXPECT_EQ(screen.table().sections().front().footer, sharedPlace.now.state.reason);
-    world.send<ButtonRow>(screen, u"Only on this device"_s, Tapped{});
+    EXPECT_EQ(screen.table().sections().front().footer,
+              sharedPlace.now.state.reason + u" Changes are kept and sent later."_s);
+    world.send<ButtonRow>(screen, u"Stop sharing"_s, Tapped{});
     EXPECT_EQ(sharedPlace.now.kind, SharedPlace::Kind::ThisDevice);
 }
 

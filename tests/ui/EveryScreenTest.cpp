@@ -172,8 +172,7 @@ constexpr Screen kScreens[] = {
          test.sharedPlace.now.kind = SharedPlace::Kind::Database;
          test.sharedPlace.now.address =
              u"postgresql://anna@tv.example.org:5433/guide?sslrootcert=/etc/home/ca.crt"_s;
-         test.sharedPlace.now.state.reason =
-             u"This device does not have the password of the database: enter it under “Your devices”."_s;
+         test.sharedPlace.now.state.reason = u"This device does not have the password of the database."_s;
          test.sharedPlace.observer();
          test.sharedPlace.why = u"The database does not accept the user or the password."_s;
          test.send(RowKind::Input, TextEdited{u"secret"_s, true, true});

@@ -75,9 +75,8 @@ void ReplacedListsViewController::reloadTable() {
         }
     }
     if (!sections.empty()) {
-        sections.back().footer = Localized::tr("Ten lists of each kind that another device has replaced, by "
-                                               "the time of that. Older ones are kept "
-                                               "less often.");
+        sections.back().footer = Localized::tr("Lists that another device has replaced, by the time of that. "
+                                               "At most ten of each kind are kept.");
     }
     table().setEmptyNote(
         EmptyNote{.title = Localized::tr("No lists"),

@@ -59,8 +59,7 @@ constexpr std::array kReasons{
 /// Those about a password.
 constexpr std::array kPasswordReasons{
     QT_TRANSLATE_NOOP("Guide", "The database does not accept the user or the password."),
-    QT_TRANSLATE_NOOP(
-        "Guide", "This device does not have the password of the database: enter it under “Your devices”."),
+    QT_TRANSLATE_NOOP("Guide", "This device does not have the password of the database."),
     QT_TRANSLATE_NOOP("Guide", "The password of the database cannot be kept.")};
 
 template <class Reasons>
@@ -96,6 +95,9 @@ QString kindText(SharedPlace::Kind kind) {
 
 QString sharedStateText(const SharedPlace& place, const Device& device) {
     const SharedStoreState& state = place.state;
+    if (state.connection == SharedStoreConnection::Offline && !state.reason.isEmpty()) {
+        return translated(state.reason) + u' ' + Localized::tr("Changes are kept and sent later.");
+    }
     if (!state.reason.isEmpty()) {
         return translated(state.reason);
     }
@@ -129,7 +131,9 @@ void SharedPlaceViewController::reloadTable() {
     if (place.kind != SharedPlace::Kind::ThisDevice) {
         Section code{.id = kCode,
                      .header = Localized::tr("For another device"),
-                     .footer = Localized::tr("The picture holds this address, without the password.")};
+                     .footer = place.kind == SharedPlace::Kind::Database
+                                   ? Localized::tr("The picture holds this address, without the password.")
+                                   : Localized::tr("The picture holds the path of the folder.")};
         code.rows.push_back(
             {.id = {code.id, QString(kCode)},
              .content = PictureRow{.picture = {PictureKey::Kind::QRCode, place.address},
@@ -167,7 +171,7 @@ Section SharedPlaceViewController::placeSection(const SharedPlace& place) const 
     if (place.kind != SharedPlace::Kind::ThisDevice) {
         section.rows.push_back(
             {.id = {section.id, QString(kLeave)},
-             .content = ButtonRow{.title = Localized::tr("Only on this device"), .enabled = !m_isTrying},
+             .content = ButtonRow{.title = Localized::tr("Stop sharing"), .enabled = !m_isTrying},
              .selectable = true});
     }
     return section;
@@ -225,7 +229,7 @@ Section SharedPlaceViewController::choiceSection(const SharedPlace& place) const
 
 Section SharedPlaceViewController::nameSection(const SharedPlace& place) const {
     Section section{.id = kDevice,
-                    .footer = Localized::tr("Other devices show it with what this one has changed.")};
+                    .footer = Localized::tr("Your other devices show this name with changes made here.")};
     section.rows.push_back({.id = {section.id, QString(kDevice)},
                             .content = InputRow{.title = Localized::tr("Name of this device"),
                                                 .text = m_name.value_or(place.deviceName),
@@ -364,7 +368,10 @@ void SharedPlaceViewController::choose(const QString& address) {
             end(why);
             if (why == QLatin1StringView(kFolderIsMissing)) {
                 offerToCreate(address);
-            } else if (why.isEmpty() && !address.isEmpty()) {
+            } else if (why.isEmpty() && address.isEmpty()) {
+                m_environment->navigation.presentNotice(
+                    {.text = Localized::tr("This device shares nothing any more.")});
+            } else if (why.isEmpty()) {
                 const bool isSame = m_environment->sharedPlace->place().address == before;
                 const bool hasPassword = withoutPassword(address).address != address;
                 m_environment->navigation.presentNotice(
@@ -415,6 +422,8 @@ void SharedPlaceViewController::end(const QString& why) {
     m_problem = translated(why);
     m_isPasswordProblem = isAboutPassword(why);
     reloadTable();
+    // The field may be out of sight.
+    m_environment->navigation.presentNotice({.text = m_problem});
 }
 
 } // namespace guide

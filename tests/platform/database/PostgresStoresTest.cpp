@@ -63,7 +63,7 @@ TEST_F(PostgresStoresTest, SaysWhyItCannotConnect) {
         {QString(address).replace(u"/guide"_s, u"/postgres"_s),
          u"The database is not set up for the guide."_s},
         {u"postgresql://anna@localhost:%1/guide"_s.arg(server.port()),
-         u"This device does not have the password of the database: enter it under “Your devices”."_s},
+         u"This device does not have the password of the database."_s},
         {u"postgresql://bob:x@localhost:%1/guide"_s.arg(server.port()),
          u"The user in the address may not use the database."_s},
     };

@@ -145,7 +145,7 @@ QString sentenceFor(DatabaseFault fault) {
     case DatabaseFault::Login:
         return u"The database does not accept the user or the password."_s;
     case DatabaseFault::NoPassword:
-        return u"This device does not have the password of the database: enter it under “Your devices”."_s;
+        return u"This device does not have the password of the database."_s;
     case DatabaseFault::Rights:
         return u"The user in the address may not use the database."_s;
     case DatabaseFault::Identity:
