@@ -6,6 +6,7 @@
 #include "app/InstanceRequest.h"
 #include "app/LaunchFiles.h"
 #include "app/PictureTour.h"
+#include "app/ProcessEnd.h"
 #include "app/QuellinGuideAppDelegate.h"
 #include "app/SharedStoresChoice.h"
 #include "app/WindowState.h"
@@ -47,11 +48,8 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <thread>
-#include <unistd.h>
 
 namespace guide {
 
@@ -267,16 +265,6 @@ std::optional<int> updateOnce(Program& program) {
     QGuiApplication::exec();
     leave(program);
     return isDone ? 0 : 1;
-}
-
-/// Ends the process even if something goes on waiting for a folder whose server does not answer. To be called
-/// when everything has been written.
-void endWithin(std::chrono::seconds atMost, int status) {
-    std::thread([atMost, status] {
-        std::this_thread::sleep_for(atMost);
-        qWarning("A folder does not answer; the end does not wait for it");
-        ::_exit(status);
-    }).detach();
 }
 
 int run(LaunchOptions options, bool drawsWebPages) {
