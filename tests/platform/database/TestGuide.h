@@ -6,6 +6,7 @@
 #include "platform/memory/MemorySecretStore.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -28,7 +29,11 @@ class TestLoop {
     LinuxClock clock;
     MemorySecretStore secrets;
 
-    ~TestLoop() { queues.shutDown(); }
+    ~TestLoop() {
+        queues.shutDown();
+        // What ended on another thread.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 };
 
 /// The stores of one device, and what they announce.
