@@ -158,7 +158,7 @@ void CloudSync::restoreFavorites(std::vector<Favorite> rules) {
     m_environment.favoritesUpdated();
 }
 
-void CloudSync::restoreSelection(std::vector<ObjectId> selected) {
+void CloudSync::restoreSelection(const std::vector<ObjectId>& selected) {
     const std::vector<ObjectId> before = m_environment.channels.selected();
     if (selected == before) {
         return;

@@ -50,7 +50,7 @@ class CloudSync {
     // Put a list that was replaced in the place of the current one, which is kept.
 
     void restoreFavorites(std::vector<Favorite> rules);
-    void restoreSelection(std::vector<ObjectId> selected);
+    void restoreSelection(const std::vector<ObjectId>& selected);
 
   private:
     /// Each returns whether the alarms have to be run.

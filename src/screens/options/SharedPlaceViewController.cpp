@@ -105,7 +105,7 @@ QString sharedStateText(const SharedPlace& place, const Device& device) {
         return {};
     }
     const QString seen = device.locale().toString(localTime(device, *state.lastSeen), QLocale::ShortFormat);
-    const QString text = Localized::tr("Another device was last seen: %1").arg(seen);
+    QString text = Localized::tr("Another device was last seen: %1").arg(seen);
     if (state.device.isEmpty()) {
         return text;
     }

@@ -114,6 +114,7 @@ class PostgresKeyValueStore::Exchange final : public PostgresSession::Client,
             return;
         }
         std::vector<SharedValues::StoredKey> stored;
+        stored.reserve(static_cast<std::size_t>(keys.rows()));
         for (int row = 0; row < keys.rows(); ++row) {
             stored.push_back({QString::fromUtf8(keys.text(row, 0)), keys.id(row, 1)});
         }
