@@ -1,11 +1,10 @@
 #include "app/SharedFolder.h"
 
 #include "cloud/SharedPlaceActions.h"
-#include "platform/archive/Archive.h"
-#include "platform/files/FileContent.h"
+#include "platform/linux/SharedValues.h"
 
-#include <QCborMap>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QUrl>
 
@@ -45,13 +44,10 @@ QString problemOfSharedFolder(const QString& path) {
 }
 
 void removeValuesOfOtherFolders(const QString& folder, const QString& current) {
-    constexpr qint64 kLargestFile = 64 << 20;
     const QFileInfoList files = QDir(folder).entryInfoList({u"folder-*.values"_s}, QDir::Files);
     for (const QFileInfo& file : files) {
         // A file that does not say whose it is stays: it may be that of the current folder.
-        const std::optional<QByteArray> content = fileContent(file.filePath(), kLargestFile);
-        const std::optional<QCborValue> root = content ? unarchivedRoot(*content) : std::nullopt;
-        const QString address = root ? root->toMap().value("address"_L1).toString() : QString();
+        const QString address = SharedValues::addressIn(file.filePath());
         if (!address.isEmpty() && address != current) {
             QFile::remove(file.filePath());
         }

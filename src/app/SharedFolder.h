@@ -4,8 +4,8 @@
 
 namespace guide {
 
-/// The absolute path of a folder that a person typed or pasted, with "~" for the home folder; empty when it
-/// is none.
+/// The absolute path of a folder that a person typed or pasted, with "~" for the home folder; empty when the
+/// text is not a path.
 QString folderPath(const QString& typed);
 
 /// Why devices cannot share the folder: one English sentence, kFolderIsMissing if it could be created. Empty

@@ -327,7 +327,7 @@ void SharedStoresChoice::look() {
 
 void SharedStoresChoice::move() {
     m_choice->isDecided = true;
-    // Whoever leaves a place keeps what is there.
+    // A device that leaves a place takes the values with it.
     const auto keeps = m_choice->stores.address.isEmpty() ? SwitchedKeyValueStore::Keeps::Ours
                                                           : SwitchedKeyValueStore::Keeps::Theirs;
     m_keyValueStore->observeNext(*m_choice->stores.keyValueStore);

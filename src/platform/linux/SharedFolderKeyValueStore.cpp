@@ -48,7 +48,7 @@ QString localFile(const SharedFolderOptions& options) {
     return options.keepsIn + u"/folder-"_s + QString::fromLatin1(digest.left(kDigits)) + u".values"_s;
 }
 
-/// Brings calls to the thread that makes it. Whoever keeps it last may be on another one.
+/// Delivers calls on the thread that made it. Its last owner may be on another one.
 std::shared_ptr<QObject> makeContext() {
     return {new QObject, [](QObject* context) {
                 if (context->thread() == QThread::currentThread()) {

@@ -31,6 +31,13 @@ QCborValue cborOf(const QUuid& id) {
     return id.isNull() ? QCborValue() : QCborValue(id);
 }
 
+/// Empty when the file cannot be read.
+QCborMap mapIn(const QString& path) {
+    const std::optional<QByteArray> content = fileContent(path, kLargestFile);
+    const std::optional<QCborValue> root = content ? unarchivedRoot(*content) : std::nullopt;
+    return root ? root->toMap() : QCborMap();
+}
+
 } // namespace
 
 SharedValues::SharedValues(QString path, QString address, std::shared_ptr<DispatchQueue> saver)
@@ -40,10 +47,12 @@ SharedValues::SharedValues(QString path, QString address, std::shared_ptr<Dispat
     load();
 }
 
+QString SharedValues::addressIn(const QString& path) {
+    return mapIn(path).value(kAddress).toString();
+}
+
 void SharedValues::load() {
-    const std::optional<QByteArray> content = fileContent(m_path, kLargestFile);
-    const std::optional<QCborValue> root = content ? unarchivedRoot(*content) : std::nullopt;
-    const QCborMap map = root ? root->toMap() : QCborMap();
+    const QCborMap map = mapIn(m_path);
     if (map.value(kAddress).toString() != m_address) {
         return;
     }

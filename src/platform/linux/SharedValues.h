@@ -53,6 +53,9 @@ class SharedValues : public std::enable_shared_from_this<SharedValues> {
     /// and saves.
     SharedValues(QString path, QString address, std::shared_ptr<DispatchQueue> saver);
 
+    /// The address for which a file was written; empty when it cannot be read. Waits for the disk.
+    static QString addressIn(const QString& path);
+
     /// Names this device.
     const QUuid& device() const { return m_device; }
     Others others() const;
